@@ -1,0 +1,78 @@
+#include "Runtime/Class.h"
+
+#include "Runtime/Fatal.h"
+#include <algorithm>
+
+// The bounds of the section that LUMORA_PUBLISH_CLASS fills, as the linker names them. Weak: a program without a class
+// has no such section.
+extern "C" {
+[[gnu::weak, gnu::visibility("hidden")]] extern const Runtime::Class* const __start_lumora_classes[];
+[[gnu::weak, gnu::visibility("hidden")]] extern const Runtime::Class* const __stop_lumora_classes[];
+}
+
+namespace Runtime {
+
+namespace {
+
+std::vector<std::string> namesOf(std::span<const Message> messages) {
+    std::vector<std::string> names;
+    names.reserve(messages.size());
+    for (const Message& message : messages)
+        names.emplace_back(message.selector);
+    return names;
+}
+
+const Message* findIn(std::span<const Message> messages, std::string_view selector) noexcept {
+    const auto found =
+        std::ranges::find(messages, selector, [](const Message& m) { return std::string_view(m.selector); });
+    return found == messages.end() ? nullptr : &*found;
+}
+
+[[noreturn]] void refuse(std::string_view subject, std::string_view selector, std::string_view complaint) {
+    std::string report(subject);
+    report.append(" ").append(complaint).append(" \"").append(selector).append("\"");
+    fatalError(report, "Runtime/Class", 0);
+}
+
+} // namespace
+
+std::vector<std::string> Class::classProperties() const {
+    return namesOf(properties_);
+}
+
+std::vector<std::string> Class::classMethods() const {
+    return namesOf(methods_);
+}
+
+const Message* Class::find(std::string_view selector) const noexcept {
+    const Message* method = findIn(methods_, selector);
+    return method != nullptr ? method : findIn(properties_, selector);
+}
+
+const Class* classNamed(std::string_view name) noexcept {
+    for (const Class* const* cls = __start_lumora_classes; cls != __stop_lumora_classes; ++cls)
+        if ((*cls)->name() == name)
+            return *cls;
+    return nullptr;
+}
+
+namespace detail {
+
+const Message& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
+                       TypeTag result) noexcept {
+    if (cls == nullptr)
+        refuse("An unknown class", selector, "was sent");
+    const Message* message = cls->find(selector);
+    if (message == nullptr)
+        refuse(cls->name(), selector, "does not answer");
+    if (!std::ranges::equal(message->arguments, arguments,
+                            [](TypeTag published, const Argument& given) { return *published == *given.type; }))
+        refuse(cls->name(), selector, "was sent arguments of other types with");
+    if (*message->result != *result)
+        refuse(cls->name(), selector, "was asked for a result of another type with");
+    return *message;
+}
+
+} // namespace detail
+
+} // namespace Runtime

@@ -1,0 +1,127 @@
+// Runtime/Class.h
+// Message dispatch by name, for callers that know a class and its messages only as texts. A class publishes constant
+// tables; nothing is registered before the first look-up.
+// Threads: any. Ownership: classes live as long as the library; results belong to the caller.
+#pragma once
+
+#include "Runtime/Export.h"
+#include <concepts>
+#include <cstddef> // std::byte
+#include <cstdint>
+#include <memory> // std::destroy_at
+#include <new>    // placement, std::launder
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <typeinfo>
+#include <utility>
+#include <vector>
+
+namespace Runtime {
+
+// The type of an argument or result. Compared by what it points to: each library has a type_info of its own.
+using TypeTag = const std::type_info*;
+
+// What an argument or a result travels as: every whole number as std::int64_t, every floating one as double, every
+// text as std::string, anything else as itself.
+template <class T>
+using Carried = std::conditional_t<
+    std::same_as<std::remove_cvref_t<T>, bool>, bool,
+    std::conditional_t<std::integral<std::remove_cvref_t<T>>, std::int64_t,
+                       std::conditional_t<std::floating_point<std::remove_cvref_t<T>>, double,
+                                          std::conditional_t<std::convertible_to<T, std::string_view>, std::string,
+                                                             std::remove_cvref_t<T>>>>>;
+
+// A message's argument as the receiver sees it.
+struct Argument {
+    TypeTag type;
+    const void* value;
+};
+
+// One thing that a class answers. `invoke` constructs its answer at `result`, raw memory for the result's type.
+struct Message {
+    const char* selector;
+    TypeTag result;
+    std::span<const TypeTag> arguments;
+    void (*invoke)(const Argument* arguments, void* result);
+};
+
+// A class as messages see it. `name` is qualified by its module: "Lumora.Localization".
+class LUMORA_EXPORT Class {
+public:
+    constexpr Class(const char* name, std::span<const Message> properties, std::span<const Message> methods) noexcept
+        : name_(name), properties_(properties), methods_(methods) {}
+
+    std::string_view name() const noexcept { return name_; }
+    // The names of what the class publishes, in published order.
+    std::vector<std::string> classProperties() const;
+    std::vector<std::string> classMethods() const;
+
+    // The message of that selector, or null.
+    const Message* find(std::string_view selector) const noexcept;
+
+private:
+    const char* name_;
+    std::span<const Message> properties_;
+    std::span<const Message> methods_;
+};
+
+// The class of that name, or null.
+[[nodiscard]] LUMORA_EXPORT const Class* classNamed(std::string_view name) noexcept;
+
+namespace detail {
+
+// Stops the process unless `cls` answers `selector` with exactly these types; returns what it answers with.
+LUMORA_EXPORT const Message& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
+                                     TypeTag result) noexcept;
+
+template <class Function, Function* function> struct Bridge;
+template <class Result, class... Arguments, Result (*function)(Arguments...)>
+struct Bridge<Result(Arguments...), function> {
+    static constexpr TypeTag arguments[sizeof...(Arguments) + 1] = {&typeid(Carried<Arguments>)..., nullptr};
+
+    static void invoke(const Argument* given, void* result) {
+        call(given, result, std::index_sequence_for<Arguments...>());
+    }
+    template <std::size_t... I>
+    static void call([[maybe_unused]] const Argument* given, void* result, std::index_sequence<I...>) {
+        ::new (result) Carried<Result>(function(*static_cast<const Carried<Arguments>*>(given[I].value)...));
+    }
+};
+
+} // namespace detail
+
+// Publishes the static function `function` under `selector`.
+template <auto* function> constexpr Message message(const char* selector) noexcept {
+    using Function = std::remove_pointer_t<decltype(function)>;
+    using Bridge = detail::Bridge<Function, function>;
+    return []<class Result, class... Arguments>(const char* name, Result (*)(Arguments...)) {
+        return Message{name, &typeid(Carried<Result>), std::span(Bridge::arguments, sizeof...(Arguments)),
+                       &Bridge::invoke};
+    }(selector, function);
+}
+
+// Puts a class where classNamed() finds it: a pointer in a section of its own, no code at start-up.
+#define LUMORA_PUBLISH_CLASS(cls)                                                                                      \
+    [[gnu::used, gnu::retain, gnu::section("lumora_classes")]] static const ::Runtime::Class* const cls##Published =   \
+        &(cls)
+
+// Sends a message and returns its answer. A null class, a selector that the class does not answer, and arguments or a
+// result of other types stop the process with a report that names class and selector.
+template <class Result, class... Arguments>
+Carried<Result> send(const Class* cls, std::string_view selector, const Arguments&... arguments) {
+    return [&](const Carried<Arguments>&... carried) {
+        const Argument given[] = {{&typeid(Carried<Arguments>), &carried}..., {nullptr, nullptr}};
+        const Message& found =
+            detail::resolve(cls, selector, std::span(given, sizeof...(Arguments)), &typeid(Carried<Result>));
+        alignas(Carried<Result>) std::byte place[sizeof(Carried<Result>)];
+        found.invoke(given, place);
+        auto* answer = std::launder(reinterpret_cast<Carried<Result>*>(place));
+        Carried<Result> taken = std::move(*answer);
+        std::destroy_at(answer);
+        return taken;
+    }(static_cast<Carried<Arguments>>(arguments)...);
+}
+
+} // namespace Runtime

@@ -1,0 +1,49 @@
+#include "Runtime/CodeLocation.h"
+
+#include <array>
+#include <climits>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <link.h>
+#include <memory>
+
+namespace Runtime {
+
+namespace {
+
+// The path by which an object was loaded, made absolute with the directory that was current at that time.
+std::string pathOf(link_map* object) {
+    const std::string name = object->l_name;
+    if (name.starts_with('/'))
+        return name;
+    std::array<char, 2 * PATH_MAX> origin{};
+    if (::dlinfo(object, RTLD_DI_ORIGIN, origin.data()) != 0)
+        return name;
+    return std::string(origin.data()) + "/" + name.substr(name.rfind('/') + 1);
+}
+
+CodeLocation locationOf(const std::string& path, bool isMainProgram) {
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
+    if (real == nullptr)
+        return {};
+    const std::string file = real.get();
+    const std::size_t slash = file.rfind('/');
+    return {.directory = file.substr(0, slash), .name = file.substr(slash + 1), .isMainProgram = isMainProgram};
+}
+
+} // namespace
+
+CodeLocation codeLocation(const void* code) {
+    Dl_info symbol{};
+    link_map* object = nullptr;
+    if (::dladdr1(code, &symbol, reinterpret_cast<void**>(&object), RTLD_DL_LINKMAP) == 0 || object == nullptr)
+        return {};
+    // The dynamic linker knows the program itself by an empty name.
+    return object->l_name[0] == '\0' ? mainProgramLocation() : locationOf(pathOf(object), false);
+}
+
+CodeLocation mainProgramLocation() {
+    return locationOf("/proc/self/exe", true);
+}
+
+} // namespace Runtime

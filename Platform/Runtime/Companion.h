@@ -1,0 +1,14 @@
+// Runtime/Companion.h
+// Parts of the library that most processes never need, and whose own libraries cost more to load than everything else
+// does together, lie in companion libraries. One is opened when its service is first asked for.
+#pragma once
+
+namespace Runtime {
+
+// Opens the companion `file` ("lumora-intl.so") from the folder lumora/ beside the shared object that holds this code
+// and returns the address of its exported function `symbol`; null when the companion is absent or has no such function.
+// Nothing is searched elsewhere, whatever the process's directory or environment. Stays open until the process ends.
+// Any thread; callers keep the answer in a once-slot.
+[[nodiscard]] void* companionSymbol(const char* file, const char* symbol);
+
+} // namespace Runtime

@@ -1,0 +1,94 @@
+#include "Runtime/File.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace Runtime {
+
+namespace {
+
+class Descriptor {
+public:
+    explicit Descriptor(int number) noexcept : number_(number) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() {
+        if (number_ >= 0)
+            ::close(number_);
+    }
+    int number() const noexcept { return number_; }
+    // Closes now, for writers who want to hear of it. False on failure.
+    bool close() noexcept { return ::close(std::exchange(number_, -1)) == 0; }
+
+private:
+    int number_;
+};
+
+Error systemError(const std::string& path, const char* doing) {
+    return {.message = std::string(doing) + ": " + std::strerror(errno), .file = path};
+}
+
+bool writeAll(int file, std::string_view bytes) noexcept {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR)
+            return false;
+        if (written > 0)
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+} // namespace
+
+Result<std::string> readFile(const std::string& path, std::size_t limit) {
+    // Without O_NONBLOCK the opening of a pipe would wait for its writer.
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status {};
+    if (file.number() < 0 || ::fstat(file.number(), &status) != 0)
+        return systemError(path, "cannot be read");
+    if (!S_ISREG(status.st_mode))
+        return Error{.message = "is not a regular file", .file = path};
+    if (static_cast<std::uintmax_t>(status.st_size) > limit)
+        return Error{.message = "is larger than " + std::to_string(limit) + " bytes", .file = path};
+
+    // What is read counts, not what was promised: the file may shrink or grow meanwhile.
+    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+    std::size_t filled = 0;
+    while (filled < bytes.size()) {
+        const ssize_t count = ::read(file.number(), bytes.data() + filled, bytes.size() - filled);
+        if (count < 0 && errno != EINTR)
+            return systemError(path, "cannot be read");
+        if (count == 0)
+            break;
+        if (count > 0)
+            filled += static_cast<std::size_t>(count);
+    }
+    bytes.resize(filled);
+    return bytes;
+}
+
+Result<void> writeFile(const std::string& path, std::string_view bytes) {
+    std::string temporary = path + ".XXXXXX";
+    Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+    if (file.number() < 0)
+        return systemError(path, "cannot be written");
+    // mkostemp keeps others out; what is written here is for everybody whom the umask lets in.
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    const bool written = ::fchmod(file.number(), 0666 & ~mask) == 0 && writeAll(file.number(), bytes) &&
+                         ::fsync(file.number()) == 0 && file.close() && ::rename(temporary.c_str(), path.c_str()) == 0;
+    if (written)
+        return {};
+    Error error = systemError(path, "cannot be written");
+    ::unlink(temporary.c_str());
+    return error;
+}
+
+} // namespace Runtime

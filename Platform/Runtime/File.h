@@ -1,0 +1,22 @@
+// Runtime/File.h
+// Files read whole and written whole.
+// Text: paths as the file system has them. Threads: any. Errors carry the path and the system's reason.
+#pragma once
+
+#include "Runtime/Export.h"
+#include "Runtime/Result.h"
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace Runtime {
+
+// The bytes of the regular file at `path`, at most `limit` of them; a longer file, a directory or a device is an error.
+// Never waits for a writer.
+[[nodiscard]] LUMORA_EXPORT Result<std::string> readFile(const std::string& path, std::size_t limit);
+
+// Makes `path` hold exactly `bytes`: written to a temporary beside it and renamed, so that a reader sees the old file
+// or the new one and an interrupted write leaves the old.
+[[nodiscard]] LUMORA_EXPORT Result<void> writeFile(const std::string& path, std::string_view bytes);
+
+} // namespace Runtime
