@@ -1,0 +1,20 @@
+// Foundation/Host.h
+// What a host tells the platform of its user: preferred languages and current locale.
+// Text: UTF-8. Threads: all functions from any thread, at any time; a reader sees the state before a change or after it.
+#pragma once
+
+#include "Runtime/Export.h"
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Foundation::Host {
+
+// The languages that the user reads, the best liked first: "ru", "pt-PT", "zh_CN". Replaces the environment's.
+LUMORA_EXPORT void setPreferredLanguages(std::vector<std::string> languages);
+// The identifier of the user's locale: "de_AT". Replaces the environment's.
+LUMORA_EXPORT void setCurrentLocale(std::string_view identifier);
+// Back to the environment: LANGUAGE, LC_ALL, LC_MESSAGES and LANG, read at this call and at the first use.
+LUMORA_EXPORT void reset();
+
+} // namespace Foundation::Host

@@ -1,0 +1,75 @@
+#include "Foundation/LanguageChoice.h"
+
+#include "Intl/Intl.h"
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string_view>
+
+namespace Foundation::detail {
+
+namespace {
+
+std::string_view languageOf(std::string_view tag) {
+    return tag.substr(0, tag.find('-'));
+}
+
+// "de-AT": a language and a region and nothing more.
+bool namesRegionOnly(std::string_view tag) {
+    const std::string_view region = tag.substr(std::min(languageOf(tag).size() + 1, tag.size()));
+    return region.size() == 2 ||
+           (region.size() == 3 && region.find_first_not_of("0123456789") == std::string_view::npos);
+}
+
+// Languages whose regions differ in script, so that the region decides which variant a user can read.
+bool writesInSeveralScripts(std::string_view language) {
+    static constexpr std::array<std::string_view, 18> languages = {
+        "az", "bs", "ha", "iu", "kk", "ks", "ku", "ky", "mn", "ms", "pa", "sd", "sr", "tg", "ug", "uz", "yue", "zh"};
+    return std::ranges::find(languages, language) != languages.end();
+}
+
+// The cases that need no knowledge of the world's languages, which are nearly all: the very tag, or the only variant of
+// the language. Spares most processes the loading of that knowledge.
+std::optional<std::size_t> chooseByTag(std::string_view wanted, std::span<const std::string> supported) {
+    if (const auto same = std::ranges::find(supported, wanted); same != supported.end())
+        return same - supported.begin();
+    const std::string_view language = languageOf(wanted);
+    const auto isVariant = [&](const std::string& tag) { return languageOf(tag) == language; };
+    const auto only = std::ranges::find(supported, language);
+    if (only == supported.end() || std::ranges::count_if(supported, isVariant) != 1 || !namesRegionOnly(wanted) ||
+        writesInSeveralScripts(language))
+        return std::nullopt;
+    return only - supported.begin();
+}
+
+// Without that knowledge: the longest beginning of the tag that is supported.
+std::optional<std::size_t> chooseByTruncation(std::string_view wanted, std::span<const std::string> supported) {
+    for (;;) {
+        if (const auto found = std::ranges::find(supported, wanted); found != supported.end())
+            return found - supported.begin();
+        const std::size_t end = wanted.rfind('-');
+        if (end == std::string_view::npos)
+            return std::nullopt;
+        wanted = wanted.substr(0, end);
+    }
+}
+
+std::optional<std::size_t> choose(std::string_view wanted, std::span<const std::string> supported) {
+    if (const auto index = chooseByTag(wanted, supported))
+        return index;
+    const Intl::Services* services = Intl::services();
+    return services != nullptr ? services->matchLanguage(wanted, supported) : chooseByTruncation(wanted, supported);
+}
+
+} // namespace
+
+std::vector<std::string> chooseLanguages(std::span<const std::string> wanted, std::span<const std::string> supported) {
+    std::vector<std::string> chosen;
+    for (const std::string& language : wanted)
+        if (const auto index = choose(language, supported);
+            index && std::ranges::find(chosen, supported[*index]) == chosen.end())
+            chosen.push_back(supported[*index]);
+    return chosen;
+}
+
+} // namespace Foundation::detail

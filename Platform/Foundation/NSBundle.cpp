@@ -1,0 +1,199 @@
+#include "Foundation/NSBundle.h"
+
+#include "Foundation/HostState.h"
+#include "Foundation/LanguageChoice.h"
+#include "Foundation/Localization.h"
+#include "Runtime/CodeLocation.h"
+#include "Runtime/File.h"
+#include "StringTables/Table.h"
+#include <algorithm>
+#include <atomic>
+#include <filesystem>
+#include <list>
+#include <mutex>
+#include <sys/stat.h>
+#include <utility>
+
+namespace Foundation {
+
+namespace {
+
+constexpr std::string_view baseName = "Base";
+
+// What a bundle answers to one state of the host.
+struct Answers {
+    const detail::HostState* host;
+    std::vector<std::string> preferred;
+    std::vector<detail::Localization*> chain; // where texts are looked for, in order
+    Answers* next;
+};
+
+std::vector<std::string> languageFolders(const std::string& path) {
+    std::vector<std::string> names;
+    std::error_code failed;
+    // A directory that cannot be read has no languages.
+    for (std::filesystem::directory_iterator entry(path, failed), end; !failed && entry != end; entry.increment(failed))
+        if (entry->path().extension() == ".lproj")
+            names.push_back(entry->path().stem().string());
+    std::ranges::sort(names);
+    return names;
+}
+
+std::string developmentRegion(const std::string& path) {
+    if (auto bytes = Runtime::readFile(path + "/Info.plist", StringTables::Table::maxBytes))
+        if (const auto info = StringTables::Table::read(*std::move(bytes)))
+            if (const auto region = info->find("CFBundleDevelopmentRegion"))
+                return std::string(*region);
+    return "en";
+}
+
+bool leadsOut(std::string_view component) {
+    return component.find('/') != std::string_view::npos || component == "..";
+}
+
+} // namespace
+
+struct NSBundle::Contents {
+    explicit Contents(const std::string& bundlePath)
+        : bundle(*this), path(bundlePath), developmentLocalization(developmentRegion(path)) {
+        for (const std::string& name : languageFolders(path))
+            folders.emplace_back(name, path + "/" + name + ".lproj");
+        for (const Folder& folder : folders)
+            localizations.push_back(folder.name == baseName ? developmentLocalization : folder.name);
+        std::ranges::sort(localizations);
+        localizations.erase(std::ranges::unique(localizations).begin(), localizations.end());
+    }
+
+    detail::Localization* localization(std::string_view name) {
+        const auto found = std::ranges::find(folders, name, &Folder::name);
+        return found == folders.end() ? nullptr : &found->localization;
+    }
+
+    const Answers* answered(const detail::HostState& host) const noexcept {
+        const Answers* answers = all.load(std::memory_order_acquire);
+        while (answers != nullptr && answers->host != &host)
+            answers = answers->next;
+        return answers;
+    }
+
+    const Answers& answers() {
+        const detail::HostState& host = detail::hostState();
+        const Answers* recent = latest.load(std::memory_order_acquire);
+        if (recent != nullptr && recent->host == &host) [[likely]]
+            return *recent;
+        const Answers* found = answered(host);
+        if (found == nullptr)
+            found = &answer(host);
+        latest.store(found, std::memory_order_release);
+        return *found;
+    }
+
+    const Answers& answer(const detail::HostState& host) {
+        const std::lock_guard lock(answering);
+        if (const Answers* found = answered(host))
+            return *found;
+        auto* answers = new Answers{&host, detail::chooseLanguages(host.languages, localizations), {}, all.load()};
+        if (answers->preferred.empty() && !localizations.empty())
+            answers->preferred.push_back(developmentLocalization);
+        const std::string_view chosen = answers->preferred.empty() ? std::string_view() : answers->preferred.front();
+        for (const std::string_view name : {chosen, baseName, std::string_view(developmentLocalization)})
+            if (detail::Localization* one = localization(name);
+                one != nullptr && std::ranges::find(answers->chain, one) == answers->chain.end())
+                answers->chain.push_back(one);
+        all.store(answers, std::memory_order_release);
+        return *answers;
+    }
+
+    struct Folder {
+        Folder(std::string folderName, std::string directory)
+            : name(std::move(folderName)), localization(std::move(directory)) {}
+        std::string name;
+        detail::Localization localization;
+    };
+
+    NSBundle bundle;
+    const Contents* next = nullptr; // among the bundles that were opened
+    std::string path;
+    std::string developmentLocalization;
+    std::list<Folder> folders;
+    std::vector<std::string> localizations;
+
+    std::atomic<const Answers*> latest{nullptr}; // of `all`, the one that was asked for last
+    std::atomic<Answers*> all{nullptr};          // a list that only grows at its head
+    std::mutex answering;
+};
+
+const NSBundle& NSBundle::bundleWithPath(const std::string& path) {
+    static constinit std::mutex opening;
+    static constinit const Contents* opened = nullptr;
+    const std::lock_guard lock(opening);
+    for (const Contents* one = opened; one != nullptr; one = one->next)
+        if (one->path == path)
+            return one->bundle;
+    auto* contents = new Contents(path);
+    contents->next = std::exchange(opened, contents);
+    return contents->bundle;
+}
+
+const NSBundle& NSBundle::bundleForCode(const void* code, std::string_view name) {
+    const Runtime::CodeLocation location = Runtime::codeLocation(code);
+    if (location.isMainProgram)
+        return mainBundle();
+    return bundleWithPath(location.directory + "/" + std::string(name) + ".bundle");
+}
+
+const NSBundle& NSBundle::mainBundle() {
+    const Runtime::CodeLocation program = Runtime::mainProgramLocation();
+    return bundleWithPath(program.directory + "/" + program.name + ".bundle");
+}
+
+const std::string& NSBundle::bundlePath() const noexcept {
+    return contents_.path;
+}
+
+const std::string& NSBundle::developmentLocalization() const noexcept {
+    return contents_.developmentLocalization;
+}
+
+const std::vector<std::string>& NSBundle::localizations() const noexcept {
+    return contents_.localizations;
+}
+
+const std::vector<std::string>& NSBundle::preferredLocalizations() const {
+    return contents_.answers().preferred;
+}
+
+std::string_view NSBundle::localizedText(std::string_view key, std::string_view table) const {
+    const std::string_view name = table.empty() ? std::string_view("Localizable") : table;
+    for (detail::Localization* localization : contents_.answers().chain)
+        if (const auto text = localization->text(key, name))
+            return *text;
+    return key;
+}
+
+std::string NSBundle::localizedStringForKey(std::string_view key, const std::string* value,
+                                            std::string_view table) const {
+    const std::string_view text = localizedText(key, table);
+    // A miss is told by identity: a text that reads like its key is a text.
+    const bool isMissing = text.data() == key.data();
+    return std::string(isMissing && value != nullptr && !value->empty() ? std::string_view(*value) : text);
+}
+
+std::optional<std::string> NSBundle::pathForResource(std::string_view name, std::string_view type,
+                                                     std::string_view directory, std::string_view localization) const {
+    if (leadsOut(name) || leadsOut(type) || leadsOut(directory) || leadsOut(localization))
+        return std::nullopt;
+    std::string path = contents_.path;
+    path.append("/").append(localization).append(".lproj/");
+    if (!directory.empty())
+        path.append(directory).append("/");
+    path.append(name);
+    if (!type.empty())
+        path.append(".").append(type);
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0)
+        return std::nullopt;
+    return path;
+}
+
+} // namespace Foundation
