@@ -1,0 +1,31 @@
+// Compiler/StagedFolder.h
+// A folder that is filled aside and put in its place in one step.
+#pragma once
+
+#include "Runtime/Result.h"
+#include <filesystem>
+
+namespace Compiler {
+
+class StagedFolder {
+public:
+    // An empty folder beside `target`. An error if `target` is there and is no bundle, or if its folder cannot be written.
+    [[nodiscard]] static Runtime::Result<StagedFolder> create(const std::filesystem::path& target);
+
+    StagedFolder(StagedFolder&& other) noexcept;
+    StagedFolder& operator=(StagedFolder&&) = delete;
+    // Takes away what is aside: an unfinished folder, or the old one after its replacement.
+    ~StagedFolder();
+
+    [[nodiscard]] const std::filesystem::path& path() const noexcept { return staged_; }
+    // Makes the target be this folder; an older target is exchanged for it in one step.
+    [[nodiscard]] Runtime::Result<void> putInPlace();
+
+private:
+    StagedFolder(std::filesystem::path target, std::filesystem::path staged);
+
+    std::filesystem::path target_;
+    std::filesystem::path staged_; // empty once nothing is aside
+};
+
+} // namespace Compiler

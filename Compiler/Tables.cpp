@@ -1,0 +1,89 @@
+#include "Compiler/Tables.h"
+
+#include "Runtime/File.h"
+#include "StringTables/Table.h"
+#include "StringTables/Writer.h"
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace Compiler {
+
+namespace fs = std::filesystem;
+using SourceBundle::Severity;
+using StringTables::Table;
+
+namespace {
+
+// The tables below the language folders of `source`, as paths relative to it, sorted.
+std::vector<fs::path> tablesOf(const fs::path& source) {
+    std::vector<fs::path> tables;
+    std::error_code failed;
+    for (fs::directory_iterator folder(source, failed), end; !failed && folder != end; folder.increment(failed)) {
+        if (folder->path().extension() != ".lproj")
+            continue;
+        std::error_code unreadable;
+        for (fs::directory_iterator file(folder->path(), unreadable); !unreadable && file != end; file.increment(unreadable))
+            if (file->path().extension() == ".strings")
+                tables.push_back(folder->path().filename() / file->path().filename());
+    }
+    std::ranges::sort(tables);
+    return tables;
+}
+
+// The bytes of `file` in binary form, or an error that names the place.
+Runtime::Result<std::string> compiled(const fs::path& file, SourceBundle::Diagnostics& diagnostics) {
+    auto bytes = Runtime::readFile(file, Table::maxBytes);
+    if (!bytes)
+        return std::move(bytes.error());
+    auto table = Table::read(*std::move(bytes));
+    if (!table) {
+        table.error().file = file;
+        return std::move(table.error());
+    }
+    for (Runtime::Error note : table->notes()) {
+        note.file = file;
+        diagnostics.add(Severity::warning, std::move(note));
+    }
+    return StringTables::write(table->entries(), StringTables::Form::binary);
+}
+
+// The source's own Info.plist as it stands, or one that says what is taken for granted without it.
+Runtime::Result<std::string> information(const fs::path& source) {
+    const fs::path file = source / "Info.plist";
+    if (std::error_code failed; fs::exists(file, failed))
+        return Runtime::readFile(file, Table::maxBytes);
+    const std::array<StringTables::Entry, 1> entries = {{{"CFBundleDevelopmentRegion", "en"}}};
+    return StringTables::write(entries, StringTables::Form::xml);
+}
+
+Runtime::Result<void> place(const fs::path& file, Runtime::Result<std::string> bytes) {
+    if (!bytes)
+        return std::move(bytes.error());
+    std::error_code failed;
+    fs::create_directories(file.parent_path(), failed);
+    return Runtime::writeFile(file, *bytes);
+}
+
+} // namespace
+
+Runtime::Result<void> compileTables(const fs::path& source, const fs::path& out, SourceBundle::Diagnostics& diagnostics,
+                                    const Progress& progress) {
+    if (auto written = place(out / "Info.plist", information(source)); !written)
+        return written;
+    const std::vector<fs::path> tables = tablesOf(source);
+    std::size_t done = 0;
+    for (const fs::path& table : tables) {
+        progress(table.string(), done++, tables.size());
+        auto bytes = compiled(source / table, diagnostics);
+        if (!bytes) {
+            diagnostics.add(Severity::error, std::move(bytes.error()));
+            continue;
+        }
+        if (auto written = place(out / table, std::move(bytes)); !written)
+            return written;
+    }
+    return {};
+}
+
+} // namespace Compiler

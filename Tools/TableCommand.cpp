@@ -1,0 +1,84 @@
+// lumora table: a string table read in any form and written in another.
+#include "Tools/Command.h"
+
+#include "Runtime/File.h"
+#include "StringTables/Table.h"
+#include "StringTables/Writer.h"
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+namespace Tools {
+
+namespace {
+
+using StringTables::Form;
+using StringTables::Table;
+
+enum class Output { json, strings, xml, binary };
+
+const std::map<std::string, Output> outputs = {
+    {"json", Output::json}, {"strings", Output::strings}, {"xml", Output::xml}, {"binary", Output::binary}};
+
+struct TableOptions {
+    std::string file;
+    std::string output;
+    Output form = Output::json;
+};
+
+std::string json(const Table& table) {
+    nlohmann::ordered_json texts = nlohmann::ordered_json::object();
+    // Keys are there once each; looking for them again would take quadratic time in an ordered object.
+    auto& members = texts.get_ref<nlohmann::ordered_json::object_t&>();
+    for (const StringTables::Entry& entry : table.entries())
+        members.emplace_back(std::string(entry.key), std::string(entry.text));
+    return texts.dump(2) + "\n";
+}
+
+std::string written(const Table& table, Output form) {
+    switch (form) {
+    case Output::strings:
+        return StringTables::write(table.entries(), Form::text);
+    case Output::xml:
+        return StringTables::write(table.entries(), Form::xml);
+    case Output::binary:
+        return StringTables::write(table.entries(), Form::binary);
+    case Output::json:
+        break;
+    }
+    return json(table);
+}
+
+Exit runTable(const TableOptions& options) {
+    auto bytes = Runtime::readFile(options.file, Table::maxBytes);
+    if (!bytes)
+        return fail(bytes.error());
+    auto table = Table::read(*std::move(bytes));
+    if (!table) {
+        table.error().file = options.file;
+        return fail(table.error());
+    }
+    for (Runtime::Error skipped : table->notes()) {
+        skipped.file = options.file;
+        note(skipped.text());
+    }
+    const std::string out = written(*table, options.form);
+    if (options.output.empty())
+        return print(out);
+    const auto done = Runtime::writeFile(options.output, out);
+    return done ? Exit::done : fail(done.error());
+}
+
+} // namespace
+
+void addTableCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<TableOptions>();
+    CLI::App* command = program.add_subcommand("table", "Read a string table of any form and write it in another.");
+    command->add_option("FILE", options->file, "The table: quoted text, XML or binary, told by its content")->required();
+    command->add_option("--to", options->form, "json, strings, xml or binary (default: json)")
+        ->transform(CLI::CheckedTransformer(outputs));
+    command->add_option("-o,--output", options->output, "Where to write (default: standard output)");
+    command->callback([options, &exit] { exit = runTable(*options); });
+}
+
+} // namespace Tools

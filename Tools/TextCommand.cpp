@@ -1,0 +1,75 @@
+// lumora text: the finished text of a key.
+#include "Tools/Command.h"
+
+#include "Foundation/Host.h"
+#include "Foundation/Locale.h"
+#include "Foundation/NSBundle.h"
+#include "Foundation/String.h"
+#include "Lumora/LumoraResources.h"
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <filesystem>
+#include <memory>
+
+namespace Tools {
+
+namespace {
+
+struct TextOptions {
+    std::string bundle;
+    std::string language;
+    std::string locale;
+    std::string table = "Localizable";
+    std::string key;
+    std::vector<std::string> arguments;
+};
+
+// A whole number where the text is exactly how one is written; "007" and "+1" are texts.
+Foundation::FormatArgument argument(const std::string& text) {
+    std::int64_t number = 0;
+    const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (end.ec == std::errc() && std::to_string(number) == text)
+        return number;
+    return std::string_view(text);
+}
+
+Exit runText(const TextOptions& options) {
+    if (!options.bundle.empty() && !std::filesystem::is_directory(options.bundle))
+        return fail({.message = "is no bundle", .file = options.bundle});
+    if (!options.language.empty()) {
+        Foundation::Host::setPreferredLanguages({options.language});
+        Foundation::Host::setCurrentLocale(options.language);
+    }
+    if (!options.locale.empty())
+        Foundation::Host::setCurrentLocale(options.locale);
+
+    const Foundation::NSBundle& bundle =
+        options.bundle.empty() ? Lumora::LumoraResources::bundle() : Foundation::NSBundle::bundleWithPath(options.bundle);
+    const std::string_view text = bundle.localizedText(options.key, options.table);
+    if (text.data() == options.key.data())
+        note("no table \"" + options.table + "\" of the bundle has this key");
+    const std::vector<Foundation::FormatArgument> arguments = [&] {
+        std::vector<Foundation::FormatArgument> made;
+        for (const std::string& one : options.arguments)
+            made.push_back(argument(one));
+        return made;
+    }();
+    return print(Foundation::String::format(text, Foundation::Locale::current(), arguments) + "\n");
+}
+
+} // namespace
+
+void addTextCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<TextOptions>();
+    CLI::App* command = program.add_subcommand("text", "Print the finished text of a key.");
+    command->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
+    command->add_option("--language", options->language, "The user's language, such as ru or es-MX");
+    command->add_option("--locale", options->locale, "The user's locale, such as de_AT (default: the language)");
+    command->add_option("--table", options->table, "The table")->capture_default_str();
+    command->add_option("KEY", options->key, "The key, exactly as the table has it")->required();
+    command->add_option("ARG", options->arguments, "What the text's placeholders are filled with");
+    command->positionals_at_end();
+    command->callback([options, &exit] { exit = runText(*options); });
+}
+
+} // namespace Tools

@@ -1,0 +1,26 @@
+// The program `lumora`: a thin face of the libraries.
+#include "Tools/Command.h"
+
+#include <CLI/CLI.hpp>
+#include <exception>
+
+int main(int argc, char** argv) {
+    CLI::App program("Localized texts and assets: reads, makes and compiles what a module ships.", "lumora");
+    program.set_version_flag("--version", LUMORA_VERSION);
+    program.require_subcommand(1);
+    Tools::Exit exit = Tools::Exit::done;
+    Tools::addTextCommand(program, exit);
+    Tools::addTableCommand(program, exit);
+    Tools::addGenerateCommand(program, exit);
+    Tools::addCompileCommand(program, exit);
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::Success& asked) { // --help, --version
+        return program.exit(asked);
+    } catch (const CLI::Error& wrong) {
+        exit = Tools::fail({.message = std::string(wrong.what()) + " (see lumora --help)"});
+    } catch (const std::exception& failed) {
+        exit = Tools::fail({.message = failed.what()});
+    }
+    return static_cast<int>(exit);
+}
