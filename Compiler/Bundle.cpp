@@ -1,5 +1,6 @@
 #include "Compiler/Bundle.h"
 
+#include "Compiler/Assets.h"
 #include "Compiler/StagedFolder.h"
 #include "Compiler/Tables.h"
 
@@ -15,6 +16,8 @@ Runtime::Result<void> compileBundle(const fs::path& source, const fs::path& bund
     if (!staged)
         return std::move(staged.error());
     if (auto written = compileTables(source, staged->path(), diagnostics, progress); !written)
+        return written;
+    if (auto written = compileAssets(source, staged->path(), diagnostics, progress); !written)
         return written;
     if (diagnostics.hasErrors())
         return {};

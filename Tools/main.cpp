@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
     Tools::addTableCommand(program, exit);
     Tools::addGenerateCommand(program, exit);
     Tools::addCompileCommand(program, exit);
+    Tools::addAssetCommands(program, exit);
     try {
         program.parse(argc, argv);
     } catch (const CLI::Success& asked) { // --help, --version

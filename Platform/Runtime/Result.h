@@ -14,8 +14,8 @@ namespace Runtime {
 // What went wrong and where. `file` may be empty (the input has no name); `line` and `column` count from 1, 0 means
 // that the place is unknown or that the input has no lines.
 struct Error {
-    std::string message;
-    std::string file;
+    std::string message{};
+    std::string file{};
     std::size_t line = 0;
     std::size_t column = 0;
 

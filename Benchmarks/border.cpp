@@ -1,0 +1,6 @@
+#include "border.h"
+
+const std::string& functionLocalStatic() {
+    static const std::string text = "All new dishes of the day";
+    return text;
+}

@@ -1,0 +1,7 @@
+// Benchmarks/border.h
+// A function-local static behind a library border.
+#pragma once
+
+#include <string>
+
+const std::string& functionLocalStatic();

@@ -1,0 +1,104 @@
+#include "Compiler/Assets.h"
+
+#include "AssetCatalog/Builder.h"
+#include "AssetCatalog/Catalog.h"
+#include "Compiler/Vector.h"
+#include "Pictures/Pictures.h"
+#include "Runtime/File.h"
+#include "SourceBundle/Catalogs.h"
+
+namespace Compiler {
+
+namespace fs = std::filesystem;
+using AssetCatalog::Asset;
+using AssetCatalog::Picture;
+using SourceBundle::Severity;
+using SourceBundle::SourceAsset;
+using SourceBundle::SourceFile;
+
+namespace {
+
+constexpr std::size_t maxFileBytes = std::size_t{256} << 20;
+
+std::vector<std::uint8_t> bytesOf(const std::string& text) {
+    return {text.begin(), text.end()};
+}
+
+Runtime::Result<std::vector<Picture>> raster(const SourceFile& file, const std::string& bytes) {
+    auto data = bytesOf(bytes);
+    const auto size = Pictures::measure(data);
+    if (!size)
+        return size.error();
+    return std::vector<Picture>{{.fit = file.fit, .encoding = size->encoding, .width = size->width, .height = size->height,
+                                 .bytes = std::move(data)}};
+}
+
+// One picture for each scale that a reader may have. A drawing made for one scale is drawn in that scale's pixels already.
+Runtime::Result<std::vector<Picture>> vectors(const SourceFile& file, const std::string& bytes, VectorForm form) {
+    const bool isForOneScale = file.fit.scale != 0;
+    std::vector<Picture> pictures;
+    for (const std::uint8_t scale : isForOneScale ? std::vector{file.fit.scale} : std::vector<std::uint8_t>{1, 2, 3}) {
+        auto rendered = render(bytes, form, isForOneScale ? 1 : scale);
+        if (!rendered)
+            return std::move(rendered.error());
+        rendered->fit = file.fit;
+        rendered->fit.scale = scale;
+        pictures.push_back(*std::move(rendered));
+    }
+    return pictures;
+}
+
+Runtime::Result<std::vector<Picture>> picturesOf(const SourceFile& file) {
+    auto bytes = Runtime::readFile(file.path, maxFileBytes);
+    if (!bytes)
+        return std::move(bytes.error());
+    const std::optional<VectorForm> form = vectorFormOf(*bytes);
+    auto pictures = form ? vectors(file, *bytes, *form) : raster(file, *bytes);
+    if (!pictures)
+        pictures.error().file = file.path;
+    return pictures;
+}
+
+// The asset with the bytes of its files. What cannot be read is left out, with a warning.
+Asset compiled(const SourceAsset& source, SourceBundle::Diagnostics& diagnostics) {
+    Asset asset{.kind = source.kind, .catalog = source.catalog, .name = source.name, .isTemplate = source.isTemplate,
+                .pictures = {}, .colors = source.colors, .data = {}};
+    for (const SourceFile& file : source.files) {
+        if (source.kind == AssetCatalog::Kind::image) {
+            auto pictures = picturesOf(file);
+            if (!pictures)
+                diagnostics.add(Severity::warning, std::move(pictures.error()));
+            else
+                std::ranges::move(*pictures, std::back_inserter(asset.pictures));
+        } else {
+            auto bytes = Runtime::readFile(file.path, maxFileBytes);
+            if (!bytes)
+                diagnostics.add(Severity::warning, std::move(bytes.error()));
+            else
+                asset.data.push_back({.fit = file.fit, .typeIdentifier = file.typeIdentifier, .bytes = bytesOf(*bytes)});
+        }
+    }
+    return asset;
+}
+
+} // namespace
+
+Runtime::Result<void> compileAssets(const fs::path& source, const fs::path& out, SourceBundle::Diagnostics& diagnostics,
+                                    const Progress& progress) {
+    const std::vector<SourceAsset> sources = SourceBundle::sourceAssets(source, diagnostics);
+    std::vector<Asset> assets;
+    for (std::size_t done = 0; done < sources.size(); ++done) {
+        progress(sources[done].name, done, sources.size());
+        Asset asset = compiled(sources[done], diagnostics);
+        if (!asset.pictures.empty() || !asset.colors.empty() || !asset.data.empty())
+            assets.push_back(std::move(asset));
+    }
+    if (assets.empty() || diagnostics.hasErrors())
+        return {};
+    auto catalog = AssetCatalog::build(std::move(assets));
+    if (!catalog)
+        return std::move(catalog.error());
+    return Runtime::writeFile(out / AssetCatalog::fileName, *catalog);
+}
+
+} // namespace Compiler

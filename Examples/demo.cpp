@@ -1,0 +1,84 @@
+// A screenful of the application's texts in all its languages, and a page of its localization services.
+#include <Lumora/Lumora.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace Lumora;
+using Corvane::LocalizationCode;
+using Foundation::Host::setCurrentLocale;
+using Foundation::Host::setPreferredLanguages;
+
+// How many columns of a terminal a text takes: East Asian letters two, combining marks none.
+int columns(const std::string& text) {
+    int count = 0;
+    for (std::size_t i = 0; i < text.size();) {
+        const auto lead = static_cast<unsigned char>(text[i]);
+        const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        char32_t code = lead & (length == 1 ? 0x7F : 0x7F >> length);
+        for (std::size_t k = 1; k < length && i + k < text.size(); ++k)
+            code = code << 6 | (static_cast<unsigned char>(text[i + k]) & 0x3F);
+        const bool isMark = (code >= 0x300 && code < 0x370) || (code >= 0x610 && code < 0x61B) ||
+                            (code >= 0x64B && code < 0x660) || code == 0xE31 || (code >= 0xE34 && code < 0xE3B) ||
+                            (code >= 0xE47 && code < 0xE4F) || (code >= 0x200B && code < 0x2010);
+        const bool isWide = (code >= 0x1100 && code < 0x1160) || (code >= 0x2E80 && code < 0xD7A4) ||
+                            (code >= 0xFF00 && code < 0xFF61);
+        count += isMark ? 0 : isWide ? 2 : 1;
+        i += length;
+    }
+    return count;
+}
+
+void cell(const std::string& text, int width) {
+    std::printf("%s%*s", text.c_str(), std::max(1, width - columns(text)), "");
+}
+
+void textsPage() {
+    namespace Texts = LumoraStrings::Localizable;
+    cell(Localization::currentLanguageCode().rawValue(), 9);
+    cell(Texts::continue_(), 20);
+    cell(Texts::beginWorkout(), 30);
+    cell(Texts::newComment("Ann", 5), 0);
+    std::printf("\n");
+}
+
+void servicesPage() {
+    cell(Localization::currentLanguageCode().rawValue(), 9);
+    cell(Localization::currentLocale().identifier(), 9);
+    cell(Localization::legacyTrAge(25), 14);
+    cell(LumoraStrings::Localizable::locDays(3), 14);
+    cell(Localization::legacyTrNumber(1234.5, true), 12);
+    cell(Localization::legacyTrPercent(0.25, true), 0);
+    std::printf("\n");
+}
+
+// One line of a page for each language. A plain text keeps the language of its first read, as it does in the application, so
+// each line is printed by a process of its own.
+void page(const char* title, void (*line)(), const char* locale) {
+    std::printf("\n%s\n", title);
+    for (const LocalizationCode code : LocalizationCode::allCases()) {
+        std::fflush(stdout);
+        const pid_t child = ::fork();
+        if (child == 0) {
+            setPreferredLanguages({code.rawValue()});
+            setCurrentLocale(locale != nullptr ? locale : code.rawValue());
+            line();
+            std::fflush(stdout);
+            ::_exit(0);
+        }
+        ::waitpid(child, nullptr, 0);
+    }
+}
+
+} // namespace
+
+int main() {
+    page("Texts", textsPage, nullptr);
+    page("Services, for a user whose region is Switzerland", servicesPage, "de_CH");
+    return 0;
+}

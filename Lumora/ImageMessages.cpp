@@ -1,0 +1,33 @@
+// What the module publishes on the platform's image and colour types to callers who know it by message names only.
+#include "Lumora/AssetConveniences.h"
+#include "Lumora/LegacyImages.h"
+#include "Lumora/ProgressColors.h"
+#include "Runtime/Class.h"
+
+namespace Lumora {
+
+namespace {
+
+std::optional<UIKit::UIImage> assetNamed(const std::string& name) {
+    return UIImage::assetNamed(name);
+}
+
+// In published order.
+#define LEGACY_IMAGE(name, olderName, asset) Runtime::message<&UIImage::olderName>(#olderName),
+#define LEGACY_NAME(name, olderName, asset) Runtime::message<&UIImage::olderName>(#olderName),
+constexpr Runtime::Message imageProperties[] = {
+#include "Lumora/LegacyImages.inc"
+};
+#undef LEGACY_IMAGE
+#undef LEGACY_NAME
+constexpr Runtime::Message imageMethods[] = {Runtime::message<&assetNamed>("assetNamed:")};
+constexpr Runtime::Class image("UIImage", imageProperties, imageMethods);
+LUMORA_PUBLISH_CLASS(image);
+
+constexpr Runtime::Message colorMethods[] = {Runtime::message<&UIColor::colorForProgress>("colorForProgress:")};
+constexpr Runtime::Class color("UIColor", {}, colorMethods);
+LUMORA_PUBLISH_CLASS(color);
+
+} // namespace
+
+} // namespace Lumora

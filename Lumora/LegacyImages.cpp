@@ -1,0 +1,27 @@
+#include "Lumora/LegacyImages.h"
+
+#include "Lumora/LumoraAsset/Internal/Catalog.h"
+#include "Runtime/OnceSlot.h"
+
+namespace Lumora::UIImage {
+
+#define LEGACY_IMAGE(name, olderName, asset)                                                                           \
+    const UIKit::UIImage& name() {                                                                                     \
+        static constinit Runtime::OnceSlot<UIKit::UIImage> slot;                                                       \
+        return slot.get([] { return LumoraAssetModule::Catalog::image(asset).image(); });                              \
+    }                                                                                                                  \
+    const UIKit::UIImage& olderName() {                                                                                \
+        return name();                                                                                                 \
+    }
+#define LEGACY_NAME(name, olderName, asset)                                                                            \
+    std::string name() {                                                                                               \
+        return asset;                                                                                                  \
+    }                                                                                                                  \
+    std::string olderName() {                                                                                          \
+        return name();                                                                                                 \
+    }
+#include "Lumora/LegacyImages.inc"
+#undef LEGACY_IMAGE
+#undef LEGACY_NAME
+
+} // namespace Lumora::UIImage

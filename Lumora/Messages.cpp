@@ -1,0 +1,41 @@
+// What the module publishes of its localization services to callers who know them by message names only.
+#include "Lumora/Localization.h"
+#include "Runtime/Class.h"
+
+namespace Lumora {
+
+namespace {
+
+// Messages carry owned texts and lists.
+std::vector<std::string> allSupportedLocalizations() {
+    return Localization::allSupportedLocalizations();
+}
+std::vector<std::string> allSupportedHandbookLocalizations() {
+    return Localization::allSupportedHandbookLocalizations();
+}
+std::string legacyTr(const std::string& key) {
+    return Localization::legacyTr(key);
+}
+
+// In published order.
+constexpr Runtime::Message properties[] = {
+    Runtime::message<&Localization::currentLocale>("currentLocale"),
+    Runtime::message<&Localization::isAsianLocale>("isAsianLocale"),
+    Runtime::message<&Localization::currentLanguage>("currentLanguage"),
+    Runtime::message<&Localization::isCurrentLocalizationRu>("isCurrentLocalizationRu"),
+    Runtime::message<&allSupportedLocalizations>("allSupportedLocalizations"),
+    Runtime::message<&allSupportedHandbookLocalizations>("allSupportedHandbookLocalizations"),
+};
+constexpr Runtime::Message methods[] = {
+    Runtime::message<&legacyTr>("legacyTr:"),
+    Runtime::message<&Localization::legacyTrNumber>("legacyTrNumber:needSign:"),
+    Runtime::message<&Localization::legacyTrPercent>("legacyTrPercent:showPlus:"),
+    Runtime::message<&Localization::legacyTrYear>("legacyTrYearWithValue:"),
+    Runtime::message<&Localization::legacyTrAge>("legacyTrAge:"),
+};
+constexpr Runtime::Class localization("Lumora.Localization", properties, methods);
+LUMORA_PUBLISH_CLASS(localization);
+
+} // namespace
+
+} // namespace Lumora

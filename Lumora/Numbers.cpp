@@ -1,0 +1,68 @@
+// Signed numbers and percentages.
+#include "Lumora/Localization.h"
+
+#include "Foundation/NSNumberFormatter.h"
+#include "Lumora/LumoraStrings+Members.h"
+#include "Runtime/Fatal.h"
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace Lumora {
+
+using Corvane::LocalizationCode;
+using Foundation::NSNumber;
+using Foundation::NSNumberFormatter;
+
+namespace {
+
+// Whose percentages are left to the platform: their sign stands elsewhere.
+constexpr std::array<LocalizationCode, 2> localePercentCodes = {LocalizationCode::ar, LocalizationCode::tr};
+
+std::string localePercent(double value) {
+    NSNumberFormatter formatter;
+    formatter.setNumberStyle(NSNumberFormatter::Style::percent);
+    return formatter.stringFromNumber(NSNumber(value)).value_or("");
+}
+
+std::string plainPercent(double value) {
+    static_assert(std::numeric_limits<float>::is_iec559, "an overflow to single precision must be an infinity");
+    // Single precision is meant: it decides how values near a half are rounded. Adding zero takes the sign off a zero.
+    const float percent = std::round(static_cast<float>(value) * 100.0F) + 0.0F;
+    if (std::isnan(percent))
+        return "NaN%";
+    if (std::isinf(percent))
+        return percent > 0 ? "∞%" : "-∞%";
+    std::array<char, std::numeric_limits<float>::max_exponent10 + 4> digits; // sign, all digits of the largest, and "%"
+    char* end = std::to_chars(digits.data(), digits.data() + digits.size() - 1, percent, std::chars_format::fixed, 0).ptr;
+    *end++ = '%';
+    return {digits.data(), end};
+}
+
+} // namespace
+
+std::string Localization::legacyTrNumber(const NSNumber& number, bool needSign) {
+    NSNumberFormatter formatter;
+    formatter.setNumberStyle(NSNumberFormatter::Style::decimal);
+    if (needSign)
+        formatter.setPositivePrefix(formatter.plusSign());
+    std::optional<std::string> text = formatter.stringFromNumber(number);
+    // A signed number without a text is a broken invariant, an unsigned one is not: older screens rely on both.
+    if (!text && needSign)
+        Runtime::fatalError("Unable to format a signed number", "Localization+Lumora", __LINE__);
+    return std::move(text).value_or("");
+}
+
+std::string Localization::legacyTrPercent(double value, bool showPlus) {
+    const bool isLocal = std::ranges::find(localePercentCodes, currentLanguageCode()) != localePercentCodes.end();
+    std::string text = isLocal ? localePercent(value) : plainPercent(value);
+    return showPlus && value > 0.0 ? "+" + text : text;
+}
+
+std::string LumoraStrings::Localizable::locNumber(std::int64_t number, bool needSign) {
+    return Localization::legacyTrNumber(NSNumber(number), needSign);
+}
+
+} // namespace Lumora

@@ -1,0 +1,89 @@
+// Plural forms, quantity phrases and ages.
+#include "Lumora/LumoraStrings+Members.h"
+
+#include "Foundation/DateComponents.h"
+#include "Lumora/Localization.h"
+#include "Lumora/LumoraStrings.h"
+#include <algorithm>
+#include <array>
+
+namespace Lumora {
+
+using Corvane::LocalizationCode;
+
+namespace LumoraStrings::Localizable {
+
+namespace {
+
+// Remainders keep the sign of the count, so that a negative one always takes `many`.
+const std::string& chosen(std::int64_t count, const std::string& one, const std::string& two, const std::string& many) {
+    if (const std::int64_t tail = count % 100; tail >= 11 && tail <= 19)
+        return many;
+    switch (count % 10) {
+    case 1:
+        return one;
+    case 2:
+    case 3:
+    case 4:
+        return two;
+    default:
+        return many;
+    }
+}
+
+std::string phrase(std::int64_t count, const std::string& one, const std::string& two, const std::string& many) {
+    return std::to_string(count) + " " + chosen(count, one, two, many);
+}
+
+} // namespace
+
+std::string getSuffix(std::int64_t count, const PluralForms& forms) {
+    return chosen(count, forms.one, forms.two, forms.many);
+}
+
+std::string locYears(std::int64_t count) {
+    return phrase(count, year1(), year2(), year5());
+}
+
+std::string locDays(std::int64_t count) {
+    return phrase(count, day1(), day2(), day5());
+}
+
+std::string locHours(std::int64_t count) {
+    return phrase(count, hour1(), hour2(), hour5());
+}
+
+std::string locWeeks(std::int64_t count) {
+    return phrase(count, week1(), week2(), week5());
+}
+
+} // namespace LumoraStrings::Localizable
+
+namespace {
+
+// Whose ages are phrases of the table. That Russian is not among them, though the rule is its own, is meant.
+constexpr std::array<LocalizationCode, 7> keyedAgeCodes = {LocalizationCode::en, LocalizationCode::de, LocalizationCode::tr,
+                                                           LocalizationCode::ko, LocalizationCode::vi, LocalizationCode::ja,
+                                                           LocalizationCode::zhHans};
+
+} // namespace
+
+std::string Localization::legacyTrYear(std::int64_t value) {
+    Foundation::NSCalendar calendar = Foundation::NSCalendar::current();
+    calendar.setLocale(currentLocale());
+    Foundation::NSDateComponentsFormatter formatter;
+    formatter.setAllowedUnits(Foundation::NSCalendarUnit::year);
+    formatter.setUnitsStyle(Foundation::NSDateComponentsFormatter::UnitsStyle::full);
+    formatter.setMaximumUnitCount(1);
+    formatter.setCalendar(calendar);
+    Foundation::NSDateComponents components;
+    components.year = value;
+    return formatter.stringFromDateComponents(components).value_or("");
+}
+
+std::string Localization::legacyTrAge(std::int64_t age) {
+    const bool isKeyed = std::ranges::find(keyedAgeCodes, currentLanguageCode()) != keyedAgeCodes.end();
+    return isKeyed ? LumoraStrings::Localizable::locYears(age) : legacyTrYear(age);
+}
+
+} // namespace Lumora

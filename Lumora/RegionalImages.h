@@ -1,0 +1,40 @@
+// Lumora/RegionalImages.h
+// Pictures that come in variants for a market region and for the user's sex.
+// A region is "arab", "asia", "europe", "latina" or "usa", compared with the end of a picture's name, letter for letter: an empty
+// region takes the first variant, an unknown one the default. The training targets know the regions "ru" and "ar" and the
+// genders "male" and "female", compared whole.
+// Text: UTF-8. Threads: any. A picture that is chosen and missing stops the process.
+#pragma once
+
+#include "Runtime/Export.h"
+#include "UIKit/UIImage.h"
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace Lumora::UIImage {
+
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetSubscriptionWoman(std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetSubscriptionMan(std::string_view region);
+
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetSex(bool isMale, std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetGym(bool isMale, std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetHome(bool isMale, std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetDefaultCourse(bool isMale, std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetEquipment(bool isMale, std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetNoEquipment(bool isMale, std::string_view region);
+
+// No value for a step other than 1 to 4.
+[[nodiscard]] LUMORA_EXPORT std::optional<UIKit::UIImage> assetOnboarding(std::int64_t step, std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetOnboardingStep1(std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetOnboardingStep2(std::string_view region);
+// Optional by their declaration, as callers know them; there always is a picture.
+[[nodiscard]] LUMORA_EXPORT std::optional<UIKit::UIImage> assetOnboardingStep3(std::string_view region);
+[[nodiscard]] LUMORA_EXPORT std::optional<UIKit::UIImage> assetOnboardingStep4(std::string_view region);
+
+// Pictures of Russian users and of Arab men; everybody else gets that of an Arab woman.
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage trainingTagetLossImage(std::string_view gender, std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage trainingTagetGainImage(std::string_view gender, std::string_view region);
+[[nodiscard]] LUMORA_EXPORT UIKit::UIImage trainingTagetMaintainImage(std::string_view gender, std::string_view region);
+
+} // namespace Lumora::UIImage

@@ -1,0 +1,28 @@
+// Texts of the main table by their key.
+#include "Lumora/Localization.h"
+
+#include "Lumora/LumoraResources.h"
+#include "Runtime/File.h"
+#include "StringTables/Table.h"
+
+namespace Lumora {
+
+std::string Localization::localizationFileTranslation(std::string_view code, std::string_view key) {
+    if (key.empty())
+        return {};
+    const std::string_view localization = code == "en" ? "Base" : code;
+    const auto path = LumoraResources::bundle().pathForResource("Localizable", "strings", "", localization);
+    if (!path)
+        return {};
+    auto bytes = Runtime::readFile(*path, StringTables::Table::maxBytes);
+    if (!bytes)
+        return {};
+    const auto table = StringTables::Table::read(*std::move(bytes));
+    return table ? std::string(table->find(key).value_or("")) : std::string();
+}
+
+std::string Localization::legacyTr(std::string_view key) {
+    return LumoraResources::bundle().localizedStringForKey(key, nullptr, "Localizable");
+}
+
+} // namespace Lumora

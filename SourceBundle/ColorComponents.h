@@ -1,0 +1,19 @@
+// SourceBundle/ColorComponents.h
+// The components of a colour as catalogs write them; internal.
+#pragma once
+
+#include "AssetCatalog/Model.h"
+#include "Runtime/Result.h"
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace SourceBundle {
+
+// A colour of the space "srgb", "extended-srgb", "display-p3", "gray-gamma-22" or "extended-gray". `component` gives the text of
+// "red", "green", "blue", "white" or "alpha" (1 without one): a decimal ("0.5"), a whole number of 255 ("128") or of 0xFF ("0x80").
+[[nodiscard]] Runtime::Result<AssetCatalog::ColorValue>
+colorFrom(std::string_view space, const std::function<std::optional<std::string>(const char*)>& component);
+
+} // namespace SourceBundle

@@ -1,0 +1,186 @@
+#include "SourceBundle/SetContents.h"
+
+#include "Runtime/File.h"
+#include "SourceBundle/ColorComponents.h"
+#include <array>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string_view>
+
+namespace SourceBundle {
+
+namespace fs = std::filesystem;
+using AssetCatalog::Fit;
+using AssetCatalog::Kind;
+using Json = nlohmann::json;
+
+namespace {
+
+constexpr std::size_t maxContentsBytes = std::size_t{16} << 20;
+
+// The place of a byte as line and column, counted from 1.
+Runtime::Error errorAt(const fs::path& file, std::string_view text, std::size_t byte, std::string message) {
+    const std::string_view before = text.substr(0, std::min(byte, text.size()));
+    const auto lines = static_cast<std::size_t>(std::ranges::count(before, '\n'));
+    const std::size_t lineBegin = before.rfind('\n') + 1; // npos + 1 is the text's own begin
+    return {.message = std::move(message), .file = file, .line = lines + 1, .column = before.size() - lineBegin + 1};
+}
+
+// The object that a Contents.json holds. No value after a diagnostic, or when the file is not there and need not be.
+std::optional<Json> contents(const fs::path& folder, bool isNeeded, Diagnostics& diagnostics) {
+    const fs::path file = folder / "Contents.json";
+    if (std::error_code failed; !isNeeded && !fs::exists(file, failed))
+        return std::nullopt;
+    auto text = Runtime::readFile(file, maxContentsBytes);
+    if (!text) {
+        diagnostics.add(Severity::error, std::move(text.error()));
+        return std::nullopt;
+    }
+    try {
+        Json json = Json::parse(*text);
+        if (json.is_object())
+            return json;
+        diagnostics.add(Severity::error, errorAt(file, *text, 0, "is no JSON object"));
+    } catch (const Json::parse_error& wrong) {
+        const std::size_t at = wrong.byte == 0 ? 0 : wrong.byte - 1;
+        diagnostics.add(Severity::error, errorAt(file, *text, at, "is no JSON: something else was expected here"));
+    }
+    return std::nullopt;
+}
+
+// Members of objects that may be missing or of another type.
+std::string text(const Json& object, const char* name) {
+    const auto found = object.find(name);
+    return found != object.end() && found->is_string() ? found->get<std::string>() : std::string();
+}
+const Json& member(const Json& object, const char* name) {
+    static const Json none;
+    const auto found = object.is_object() ? object.find(name) : object.end();
+    return object.is_object() && found != object.end() ? *found : none;
+}
+
+// What an entry of a set is for, if a catalog knows such a variant.
+std::optional<Fit> fitOf(const Json& entry) {
+    Fit fit;
+    for (const Json& appearance : member(entry, "appearances")) {
+        const std::string kind = appearance.is_object() ? text(appearance, "appearance") : std::string();
+        const std::string value = appearance.is_object() ? text(appearance, "value") : std::string();
+        if (kind == "luminosity" && value == "dark")
+            fit.appearance = AssetCatalog::Appearance::dark;
+        else if (kind == "luminosity" && value == "light")
+            fit.appearance = AssetCatalog::Appearance::light;
+        else if (kind == "contrast" && value == "high")
+            fit.contrast = AssetCatalog::Contrast::high;
+        else
+            return std::nullopt;
+    }
+    const std::string direction = text(entry, "language-direction");
+    if (direction == "left-to-right")
+        fit.direction = AssetCatalog::Direction::leftToRight;
+    else if (direction == "right-to-left")
+        fit.direction = AssetCatalog::Direction::rightToLeft;
+    const std::string scale = text(entry, "scale");
+    if (scale.size() == 2 && scale[0] >= '1' && scale[0] <= '9' && scale[1] == 'x')
+        fit.scale = static_cast<std::uint8_t>(scale[0] - '0');
+    return fit;
+}
+
+// Whether an entry is for a device, screen or memory of its own, which no reader here asks for.
+bool isSpecial(const Json& entry) {
+    static constexpr std::array names = {"subtype",      "screen-width", "width-class",          "height-class",
+                                         "memory",       "locale",       "graphics-feature-set", "display-gamut"};
+    return std::ranges::any_of(names, [&](const char* name) {
+        const std::string value = text(entry, name);
+        return !value.empty() && value != "sRGB" && value != "any";
+    });
+}
+
+// The kinds of device in the order in which their pictures are taken: those of a phone before those of other devices.
+std::size_t rankOf(const Json& entry) {
+    static constexpr std::array<std::string_view, 4> idioms = {"universal", "iphone", "ipad", "mac"};
+    const std::string idiom = text(entry, "idiom");
+    return static_cast<std::size_t>(std::ranges::find(idioms, idiom.empty() ? "universal" : idiom) - idioms.begin());
+}
+
+class SetReader {
+public:
+    SetReader(SourceAsset& asset, Diagnostics& diagnostics) : asset_(asset), diagnostics_(diagnostics) {}
+
+    void read(const Json& json) {
+        asset_.isTemplate = text(member(json, "properties"), "template-rendering-intent") == "template";
+        const char* list = asset_.kind == Kind::image ? "images" : asset_.kind == Kind::color ? "colors" : "data";
+        std::vector<const Json*> entries;
+        for (const Json& entry : member(json, list))
+            if (entry.is_object() && (entry.contains("filename") || entry.contains("color"))) // else an empty place
+                entries.push_back(&entry);
+        const auto byRank = [](const Json* a, const Json* b) { return rankOf(*a) < rankOf(*b); };
+        const auto first = std::ranges::min_element(entries, byRank);
+        if (first == entries.end())
+            return;
+        for (const Json* entry : entries) {
+            const std::optional<Fit> fit = fitOf(*entry);
+            if (!fit || isSpecial(*entry) || rankOf(*entry) != rankOf(**first))
+                diagnostics_.add(Severity::note, {.message = "has a variant for special devices, which is left out",
+                                                  .file = asset_.path / "Contents.json"});
+            else if (asset_.kind == Kind::color)
+                addColor(*fit, member(*entry, "color"));
+            else
+                addFile(*fit, *entry);
+        }
+    }
+
+private:
+    void addFile(Fit fit, const Json& entry) {
+        const std::string name = text(entry, "filename");
+        const fs::path file = asset_.path / name;
+        std::error_code failed;
+        // A name is one component, and what it names lies in the set: nothing else of the machine gets into a catalog.
+        if (name.empty() || name == "." || name == ".." || name.find('/') != std::string::npos)
+            diagnostics_.add(Severity::error, {.message = "names a file outside of its set: \"" + name + "\"",
+                                               .file = asset_.path / "Contents.json"});
+        else if (fs::is_symlink(fs::symlink_status(file, failed)))
+            diagnostics_.add(Severity::error, {.message = "is a link; a set holds its files itself", .file = file});
+        else if (!fs::is_regular_file(file, failed))
+            warn("is missing", file);
+        else
+            asset_.files.push_back({.fit = fit, .path = file, .typeIdentifier = text(entry, "universal-type-identifier")});
+    }
+
+    void addColor(Fit fit, const Json& color) {
+        if (!text(color, "reference").empty())
+            return warn("refers to a colour of the system, which is not supported: " + text(color, "reference"));
+        const Json& components = member(color, "components");
+        auto value = colorFrom(text(color, "color-space"), [&](const char* name) -> std::optional<std::string> {
+            const Json& component = member(components, name);
+            if (component.is_string())
+                return component.get<std::string>();
+            return component.is_number() ? std::optional(component.dump()) : std::nullopt;
+        });
+        if (!value)
+            return warn(value.error().message);
+        value->fit = fit;
+        asset_.colors.push_back(*value);
+    }
+
+    void warn(std::string message) { warn(std::move(message), asset_.path / "Contents.json"); }
+    void warn(std::string message, const fs::path& file) {
+        diagnostics_.add(Severity::warning, {.message = std::move(message), .file = file});
+    }
+
+    SourceAsset& asset_;
+    Diagnostics& diagnostics_;
+};
+
+} // namespace
+
+void readSet(SourceAsset& asset, Diagnostics& diagnostics) {
+    if (const std::optional<Json> json = contents(asset.path, true, diagnostics))
+        SetReader(asset, diagnostics).read(*json);
+}
+
+bool providesNamespace(const fs::path& folder, Diagnostics& diagnostics) {
+    const std::optional<Json> json = contents(folder, false, diagnostics);
+    return json && member(member(*json, "properties"), "provides-namespace") == Json(true);
+}
+
+} // namespace SourceBundle

@@ -1,0 +1,19 @@
+// Opens the library at run time by the relative path it is given, goes elsewhere, then asks it for a text and a number.
+#include <cstdio>
+#include <dlfcn.h>
+#include <unistd.h>
+
+struct NSString;
+
+int main(int, char** argv) {
+    void* library = dlopen(argv[1], RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr || chdir("/") != 0) {
+        std::printf("%s\n", dlerror());
+        return 1;
+    }
+    const auto create = reinterpret_cast<NSString* (*)(const char*)>(dlsym(library, "NSStringCreate"));
+    const auto utf8 = reinterpret_cast<const char* (*)(const NSString*)>(dlsym(library, "NSStringUTF8"));
+    const auto loc = reinterpret_cast<NSString* (*)(const NSString*)>(dlsym(library, "Loc"));
+    const auto age = reinterpret_cast<NSString* (*)(long)>(dlsym(library, "LocAge"));
+    std::printf("%s\n%s\n", utf8(loc(create("Continue"))), utf8(age(25)));
+}

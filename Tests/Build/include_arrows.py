@@ -1,0 +1,57 @@
+"""Fails on an include line that points against the arrows between the folders."""
+import pathlib
+import re
+import sys
+
+# What the files of a folder may include, besides their own folder and what an included folder may include.
+ARROWS = {
+    "Platform/Runtime": [],
+    "Platform/StringTables": ["Platform/Runtime"],
+    "Platform/Intl": ["Platform/Runtime"],
+    "Platform/Foundation": ["Platform/Intl", "Platform/StringTables"],
+    "Platform/Corvane": ["Platform/Runtime"],
+    "Platform/AssetCatalog": ["Platform/Runtime"],
+    "Platform/Pictures": ["Platform/Runtime"],
+    "Platform/UIKit": ["Platform/Foundation", "Platform/AssetCatalog", "Platform/Pictures"],
+    "Platform/SwiftUI": ["Platform/UIKit"],
+    "SourceBundle": ["Platform/StringTables", "Platform/AssetCatalog"],
+    "Generator": ["SourceBundle"],
+    "Compiler": ["SourceBundle", "Platform/AssetCatalog", "Platform/Pictures"],
+    "Lumora": ["Platform/SwiftUI", "Platform/Corvane"],
+    "Tools": ["Generator", "Compiler", "Lumora"],
+}
+INCLUDE = re.compile(r'\s*#\s*include\s+["<]([^">]+)[">]')
+
+
+def allowed(folder):
+    """`folder` and everything below it."""
+    reached, waiting = set(), [folder]
+    while waiting:
+        one = waiting.pop()
+        if one not in reached:
+            reached.add(one)
+            waiting += ARROWS[one]
+    return reached
+
+
+def main(root):
+    by_name = {folder.split("/")[-1]: folder for folder in ARROWS}
+    faults, seen = [], 0
+    for folder in ARROWS:
+        may = allowed(folder)
+        for file in sorted((root / folder).rglob("*")):
+            if file.suffix not in (".h", ".cpp", ".c"):
+                continue
+            for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
+                match = INCLUDE.match(line)
+                target = by_name.get(match.group(1).split("/")[0]) if match and "/" in match.group(1) else None
+                if target:
+                    seen += 1
+                    if target not in may:
+                        faults.append(f"{file.relative_to(root)}:{number}: {folder} may not include {target}")
+    print("\n".join(faults) or f"{seen} includes follow the arrows")
+    return 1 if faults or seen == 0 else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(pathlib.Path(sys.argv[1])))

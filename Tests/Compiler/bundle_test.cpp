@@ -1,0 +1,94 @@
+#include "Compiler/Bundle.h"
+#include "StringTables/Table.h"
+
+#include "../Support/TemporaryFolder.h"
+#include <gtest/gtest.h>
+#include <set>
+
+namespace {
+
+namespace fs = std::filesystem;
+using StringTables::Form;
+using StringTables::Table;
+
+struct Outcome {
+    std::string failure; // the file system's
+    std::vector<std::string> diagnostics;
+};
+
+Outcome compile(const fs::path& source, const fs::path& bundle) {
+    SourceBundle::Diagnostics diagnostics;
+    const auto done = Compiler::compileBundle(source, bundle, diagnostics, [](auto, auto, auto) {});
+    Outcome outcome{.failure = done ? "" : done.error().text(), .diagnostics = {}};
+    for (const auto& one : diagnostics.all())
+        outcome.diagnostics.push_back(one.what.text());
+    return outcome;
+}
+
+std::set<std::string> filesBelow(const fs::path& folder) {
+    std::set<std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+        if (!entry.is_directory())
+            files.insert(entry.path().lexically_relative(folder));
+    return files;
+}
+
+TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
+    const Support::TemporaryFolder folder;
+    folder.write("source/Base.lproj/A.strings", "\"k\" = \"ünï\";");
+    folder.write("source/ru.lproj/A.strings", "<plist><dict><key>k</key><string>т</string></dict></plist>");
+    folder.write("source/ru.lproj/notes.txt", "not a table");
+    ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
+
+    EXPECT_EQ(filesBelow(folder / "out.bundle"),
+              (std::set<std::string>{"Info.plist", "Base.lproj/A.strings", "ru.lproj/A.strings"}));
+    const auto table = Table::read(Support::contents(folder / "out.bundle/ru.lproj/A.strings"));
+    ASSERT_TRUE(table);
+    EXPECT_EQ(table->form(), Form::binary);
+    EXPECT_EQ(table->find("k"), "т");
+    const auto information = Table::read(Support::contents(folder / "out.bundle/Info.plist"));
+    ASSERT_TRUE(information);
+    EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "en");
+}
+
+TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
+    const Support::TemporaryFolder folder;
+    folder.write("source/Base.lproj/A.strings", "a = good;");
+    ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
+    const fs::path damaged = folder.write("source/de.lproj/A.strings", "a = good;\n\"b\" = ;\n");
+
+    const Outcome outcome = compile(folder / "source", folder / "out.bundle");
+    ASSERT_EQ(outcome.diagnostics.size(), 1U);
+    EXPECT_TRUE(outcome.diagnostics[0].starts_with(damaged.string() + ":2:7: ")) << outcome.diagnostics[0];
+    EXPECT_EQ(filesBelow(folder / "out.bundle"), (std::set<std::string>{"Info.plist", "Base.lproj/A.strings"}));
+    // Nothing stays aside.
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
+
+    fs::remove(damaged);
+    folder.write("source/Base.lproj/A.strings", "a = better;");
+    EXPECT_EQ(compile(folder / "source", (folder / "out.bundle").string() + "/").failure, "");
+    EXPECT_EQ(Table::read(Support::contents(folder / "out.bundle/Base.lproj/A.strings"))->find("a"), "better");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
+}
+
+TEST(CompileBundle, ReplacesNothingButABundle) {
+    const Support::TemporaryFolder folder;
+    folder.write("source/Base.lproj/A.strings", "a = b;");
+    folder.write("photos/one", "dear");
+    const std::string photos = folder / "photos";
+    EXPECT_EQ(compile(folder / "source", photos).failure, photos + ": is there and is no bundle; it is left alone");
+    EXPECT_EQ(Support::contents(folder / "photos/one"), "dear");
+    EXPECT_EQ(compile(folder / "none", folder / "out").failure, (folder / "none").string() + ": is no folder of resources");
+    EXPECT_NE(compile(folder / "source", folder / "none/out.bundle").failure, "");
+}
+
+TEST(CompileBundle, GivesTheSameBytesForTheSameSources) {
+    const Support::TemporaryFolder folder;
+    folder.write("source/Base.lproj/A.strings", "b = 1; a = 2; c = ünï;");
+    ASSERT_EQ(compile(folder / "source", folder / "1.bundle").failure, "");
+    ASSERT_EQ(compile(folder / "source", folder / "2.bundle").failure, "");
+    for (const std::string& file : filesBelow(folder / "1.bundle"))
+        EXPECT_EQ(Support::contents(folder / "1.bundle" / file), Support::contents(folder / "2.bundle" / file)) << file;
+}
+
+} // namespace

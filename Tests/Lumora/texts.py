@@ -1,0 +1,56 @@
+"""Checks the texts of the source bundle: each table against the development texts, key by key."""
+import collections
+import json
+import pathlib
+import re
+import subprocess
+import sys
+
+PLACEHOLDER = re.compile(r"%(?:(\d+)\$)?(@|ld)")
+LANGUAGES = ("Base ar de es es-419 fr id it ja ko nl pl pt-BR pt-PT ru th tr vi zh-Hans").split()
+COUNTS = {"Localizable": 1362, "Community": 18, "UserProfile": 17, "ClientProfileCell": 2, "TrainingCourse": 2,
+          "DietMealHeaderView": 0}
+PLURALS = [f"{unit}_{form}" for unit in ("day", "hour", "week", "year") for form in (1, 2, 5)]
+
+
+def kinds(text):
+    """The kinds of a text's placeholders by position, or a complaint."""
+    found = PLACEHOLDER.findall(text.replace("%%", ""))
+    if "%" in PLACEHOLDER.sub("", text.replace("%%", "")):
+        return "a percent sign that begins no placeholder"
+    numbered = [bool(position) for position, _ in found]
+    if any(numbered) and not all(numbered):
+        return "numbered and plain placeholders together"
+    return collections.Counter((int(position or index), kind) for index, (position, kind) in enumerate(found, 1))
+
+
+def read(program, file):
+    return json.loads(subprocess.run([program, "table", file], check=True, capture_output=True).stdout)
+
+
+def main(resources, program):
+    tables = {language: {file.stem: read(program, file) for file in sorted((resources / f"{language}.lproj").glob("*.strings"))}
+              for language in LANGUAGES}
+    base, faults, checked = tables["Base"], [], 0
+    faults += [f"Base/{name}: {len(base.get(name, {}))} texts, not {count}" for name, count in COUNTS.items()
+               if len(base.get(name, {})) != count]
+    needed = PLURALS + [key for key, text in base["Localizable"].items() if kinds(text)]
+    for language, own in tables.items():
+        complete = language in ("Base", "ru")
+        faults += [f"{language}/{name}: no text for {key!r}" for name in base
+                   for key in (base[name] if complete else needed if name == "Localizable" else [])
+                   if key not in own.get(name, {})]
+        if not complete and len(own["Localizable"]) < len(needed) + 120:
+            faults.append(f"{language}: only {len(own['Localizable'])} texts")
+        for name, texts in own.items():
+            for key, text in texts.items():
+                checked += 1
+                expected = kinds(base.get(name, {}).get(key, "")) if key in base.get(name, {}) else "no such key"
+                if kinds(text) != expected or not text.strip():
+                    faults.append(f"{language}/{name}: {key!r}: {kinds(text)}, expected {expected}")
+    print("\n".join(faults) or f"{checked} texts fit their keys")
+    return 1 if faults or checked < 6000 else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(pathlib.Path(sys.argv[1]), sys.argv[2]))

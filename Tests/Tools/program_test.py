@@ -1,0 +1,100 @@
+"""The program lumora from outside: what it prints, what it writes, how it ends."""
+import json
+import os
+import pathlib
+import plistlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM = sys.argv.pop(1)
+
+
+def run(*arguments, **environment):
+    done = subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, timeout=60,
+                          env=os.environ | {"LC_ALL": "C", "LANGUAGE": ""} | environment)
+    return done.returncode, done.stdout, done.stderr.decode()
+
+
+class Program(unittest.TestCase):
+    def setUp(self):
+        self.held = tempfile.TemporaryDirectory()
+        self.folder = pathlib.Path(self.held.name)
+
+    def tearDown(self):
+        self.held.cleanup()
+
+    def write(self, name, text):
+        file = self.folder / name
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_bytes(text if isinstance(text, bytes) else text.encode())
+        return file
+
+    def test_text(self):
+        self.assertEqual(run("text", "Continue"), (0, b"Continue\n", ""))
+        self.assertEqual(run("text", "--language", "de", "new_comment", "Ann", "5")[1].decode(), "Ann hat kommentiert: 5\n")
+        self.assertEqual(run("text", "Continue", LC_ALL="fr_FR.UTF-8")[1], b"Continuer\n")
+        key = "ExerciseStraight.% of max weight"
+        self.assertEqual(run("text", "--locale", "de_DE", key, "1500")[1], b"1.500% of max weight\n")
+        self.assertEqual(run("text", "--locale", "de_DE", key, "007")[1], b"007% of max weight\n")
+        status, out, err = run("text", "no such key")
+        self.assertEqual((status, out), (0, b"no such key\n"))
+        self.assertIn("note:", err)
+        self.assertEqual(run("text", "--bundle", self.folder / "none", "a")[0], 2)
+
+    def test_text_of_another_bundle(self):
+        self.write("x.bundle/ru.lproj/T.strings", '"a" = "%2$@ и %1$@";')
+        self.assertEqual(run("text", "--bundle", self.folder / "x.bundle", "--language", "ru", "--table", "T", "a", "1", "2")[1]
+                         .decode(), "2 и 1\n")
+
+    def test_table_in_every_form(self):
+        file = self.write("a.strings", '/* c */ "k\\n" = "v \\U0416"; plain = word; list = (1, 2);')
+        status, out, err = run("table", file)
+        self.assertEqual((status, json.loads(out)), (0, {"k\n": "v Ж", "plain": "word"}))
+        self.assertIn("a.strings:1:", err)
+        for form in ("strings", "xml", "binary"):
+            made = self.folder / f"made.{form}"
+            self.assertEqual(run("table", file, "--to", form, "-o", made)[0], 0)
+            self.assertEqual(json.loads(run("table", made)[1]), {"k\n": "v Ж", "plain": "word"})
+            if form != "strings":
+                self.assertEqual(plistlib.loads(made.read_bytes()), {"k\n": "v Ж", "plain": "word"})
+        self.assertEqual(run("table", self.write("empty", ""))[:2], (0, b"{}\n"))
+
+    def test_faults_are_one_line_with_their_place(self):
+        for name, text, place in (("unended", '"a" = "b', ":1:7:"), ("escape", '"a" =\n "\\U12";', ":2:"),
+                                  ("lone", '"a" = "\\UD800";', ":1:"), ("nul", b'"a" = "\0";', ":1:"),
+                                  ("xml", "<plist><dict><key>a</key></plist>", ":1:"), ("cut", b"bplist00\x01", "cut: ")):
+            with self.subTest(name):
+                file = self.write(name, text)
+                status, out, err = run("table", file)
+                self.assertEqual((status, out, err.count("\n")), (2, b"", 1), err)
+                self.assertIn(f"{file}{place}" if place[0] == ":" else place, err)
+        for arguments in (["table", self.folder / "none"], ["table", self.folder], ["table"], ["nonsense"], [],
+                          ["table", file, "--to", "yaml"], ["compile", self.folder / "none", "-o", self.folder / "x.bundle"]):
+            status, out, err = run(*arguments)
+            self.assertEqual((status, out, err.count("\n")), (2, b"", 1), (arguments, err))
+        self.assertEqual(run("table", self.write("ok", "a=b;"), "-o", self.folder / "no" / "where")[0], 2)
+
+    def test_help_at_every_level(self):
+        for arguments in ([], ["text"], ["table"], ["generate"], ["compile"]):
+            status, out, err = run(*arguments, "--help")
+            self.assertEqual((status, err), (0, ""))
+            self.assertIn(b"lumora", out)
+
+    def test_generate_and_compile(self):
+        self.write("src/Base.lproj/Words.strings", '"hello_name" = "Hello, %@";\n"Bye" = "Bye";\n')
+        status, _, err = run("generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree")
+        self.assertEqual((status, err), (0, ""))
+        self.assertIn("helloName(", (self.folder / "tree/ShopStrings/Words.h").read_text())
+        self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle")[0], 0)
+        self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
+                         b"Hello, Bo\n")
+        self.write("src/Base.lproj/Words.strings", '"a_b" = "1";\n"a b" = "2";\n')
+        status, _, err = run("generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree")
+        self.assertEqual(status, 2)
+        self.assertIn("Words.strings:2:", err)
+
+
+if __name__ == "__main__":
+    unittest.main()

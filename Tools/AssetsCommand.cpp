@@ -1,0 +1,110 @@
+// lumora assets, lumora asset: what a compiled catalog holds.
+#include "Tools/Command.h"
+
+#include "AssetCatalog/Catalog.h"
+#include "Lumora/LumoraResources.h"
+#include "Runtime/File.h"
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+namespace Tools {
+
+namespace {
+
+using AssetCatalog::Catalog;
+using AssetCatalog::Entry;
+using AssetCatalog::Fit;
+using AssetCatalog::Kind;
+
+struct AssetOptions {
+    std::string bundle;
+    std::string name;
+    std::string output;
+    bool isDark = false;
+    unsigned scale = 1;
+};
+
+Runtime::Result<Catalog> openCatalog(const std::string& bundle) {
+    const std::string folder = bundle.empty() ? Lumora::LumoraResources::bundle().bundlePath() : bundle;
+    return Catalog::open(folder + "/" + std::string(AssetCatalog::fileName));
+}
+
+Exit listAssets(const AssetOptions& options) {
+    static constexpr std::array kinds = {"image", "color", "data"};
+    const auto catalog = openCatalog(options.bundle);
+    if (!catalog)
+        return fail(catalog.error());
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < catalog->size(); ++i) {
+        const Entry entry = (*catalog)[i];
+        std::string line = kinds[static_cast<std::size_t>(entry.kind())];
+        line.append("\t").append(entry.catalog()).append("\t").append(entry.name()).append("\n");
+        lines.push_back(std::move(line));
+    }
+    std::ranges::sort(lines);
+    std::string all;
+    for (const std::string& line : lines)
+        all += line;
+    return print(all);
+}
+
+std::string colorText(const AssetCatalog::ColorValue& color) {
+    static constexpr std::array spaces = {"srgb", "extended-srgb", "display-p3", "gray-gamma-22"};
+    const nlohmann::ordered_json json = {{"color-space", spaces[static_cast<std::size_t>(color.space)]},
+                                         {"components", color.components}};
+    return json.dump() + "\n";
+}
+
+// The bytes of the variant that fits, as they stand in the catalog; a colour as its space and components.
+std::string variantText(const Entry& entry, std::size_t variant) {
+    const auto text = [](std::span<const std::uint8_t> bytes) { return std::string(bytes.begin(), bytes.end()); };
+    switch (entry.kind()) {
+    case Kind::image:
+        return text(entry.picture(variant).bytes);
+    case Kind::data:
+        return text(entry.data(variant).bytes);
+    case Kind::color:
+        break;
+    }
+    return colorText(entry.color(variant));
+}
+
+Exit extractAsset(const AssetOptions& options) {
+    const auto catalog = openCatalog(options.bundle);
+    if (!catalog)
+        return fail(catalog.error());
+    Fit wanted;
+    wanted.appearance = options.isDark ? AssetCatalog::Appearance::dark : AssetCatalog::Appearance::light;
+    wanted.direction = AssetCatalog::Direction::leftToRight;
+    wanted.scale = static_cast<std::uint8_t>(options.scale);
+    for (const Kind kind : {Kind::image, Kind::color, Kind::data})
+        if (const auto index = catalog->find(kind, options.name)) {
+            const Entry entry = (*catalog)[*index];
+            const auto done = Runtime::writeFile(options.output, variantText(entry, entry.best(wanted)));
+            return done ? Exit::done : fail(done.error());
+        }
+    return fail({.message = "no asset of the bundle has this name", .file = options.name});
+}
+
+} // namespace
+
+void addAssetCommands(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<AssetOptions>();
+    CLI::App* list = program.add_subcommand("assets", "List every asset: kind, catalog, name.");
+    list->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
+    list->callback([options, &exit] { exit = listAssets(*options); });
+
+    CLI::App* one = program.add_subcommand("asset", "Write one asset out as it stands in the catalog.");
+    one->add_option("NAME", options->name, "The asset's name, folder/name where folders provide a namespace")->required();
+    one->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
+    one->add_flag("--dark", options->isDark, "The variant for a dark screen");
+    one->add_option("--scale", options->scale, "Pixels in a point")->check(CLI::Range(1U, 9U))->capture_default_str();
+    one->add_option("-o,--output", options->output, "Where to write")->required();
+    one->callback([options, &exit] { exit = extractAsset(*options); });
+}
+
+} // namespace Tools
