@@ -6,6 +6,8 @@
 #include "Pictures/Pictures.h"
 #include "Runtime/File.h"
 #include "SourceBundle/Catalogs.h"
+#include <algorithm>
+#include <iterator>
 
 namespace Compiler {
 
@@ -29,8 +31,10 @@ Runtime::Result<std::vector<Picture>> raster(const SourceFile& file, const std::
     const auto size = Pictures::measure(data);
     if (!size)
         return size.error();
-    return std::vector<Picture>{{.fit = file.fit, .encoding = size->encoding, .width = size->width, .height = size->height,
-                                 .bytes = std::move(data)}};
+    Picture picture{.fit = file.fit, .width = size->width, .height = size->height, .bytes = {}};
+    picture.encoding = size->encoding == Pictures::Encoding::png ? AssetCatalog::Encoding::png : AssetCatalog::Encoding::jpeg;
+    picture.bytes = std::move(data);
+    return std::vector<Picture>(1, std::move(picture));
 }
 
 // One picture for each scale that a reader may have. A drawing made for one scale is drawn in that scale's pixels already.

@@ -2,7 +2,6 @@
 #include "Tools/Command.h"
 
 #include "Generator/Generator.h"
-#include "SourceBundle/Tables.h"
 #include <CLI/CLI.hpp>
 #include <filesystem>
 #include <memory>
@@ -21,12 +20,9 @@ Exit runGenerate(const GenerateOptions& options) {
     if (!std::filesystem::is_directory(options.source))
         return fail({.message = "is no folder of resources", .file = options.source});
     SourceBundle::Diagnostics diagnostics;
-    const auto tables = SourceBundle::developmentTables(options.source, diagnostics);
-    const auto files = Generator::generateStrings(tables, options.generator, diagnostics);
-    if (const Exit reported = report(diagnostics); reported != Exit::done)
-        return reported;
-    const auto written = Generator::writeFiles(options.output, files);
-    return written ? Exit::done : fail(written.error());
+    const auto done = Generator::generateModule(options.source, options.generator, options.output, diagnostics);
+    const Exit reported = report(diagnostics);
+    return done ? reported : fail(done.error());
 }
 
 } // namespace

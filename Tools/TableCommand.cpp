@@ -35,7 +35,7 @@ std::string json(const Table& table) {
     return texts.dump(2) + "\n";
 }
 
-std::string written(const Table& table, Output form) {
+Runtime::Result<std::string> written(const Table& table, Output form) {
     switch (form) {
     case Output::strings:
         return StringTables::write(table.entries(), Form::text);
@@ -62,10 +62,14 @@ Exit runTable(const TableOptions& options) {
         skipped.file = options.file;
         note(skipped.text());
     }
-    const std::string out = written(*table, options.form);
+    auto out = written(*table, options.form);
+    if (!out) {
+        out.error().file = options.file;
+        return fail(out.error());
+    }
     if (options.output.empty())
-        return print(out);
-    const auto done = Runtime::writeFile(options.output, out);
+        return print(*out);
+    const auto done = Runtime::writeFile(options.output, *out);
     return done ? Exit::done : fail(done.error());
 }
 

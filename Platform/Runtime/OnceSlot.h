@@ -52,7 +52,7 @@ private:
     }
 
     std::atomic<std::uint32_t> state_{empty};
-    alignas(T) std::byte storage_[sizeof(T)];
+    alignas(T) std::byte storage_[sizeof(T)]{};
 };
 
 } // namespace Runtime

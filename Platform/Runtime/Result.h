@@ -22,12 +22,10 @@ struct Error {
     // "file:line:column: message", with the parts that are known.
     std::string text() const {
         std::string out = file;
-        if (line != 0) {
-            out += (out.empty() ? "" : ":") + std::to_string(line);
-            if (column != 0)
-                out += ":" + std::to_string(column);
-        }
-        return out.empty() ? message : out + ": " + message;
+        for (const std::size_t number : {line, line != 0 ? column : 0})
+            if (number != 0)
+                out.append(out.empty() ? "" : ":").append(std::to_string(number));
+        return out.empty() ? message : out.append(": ").append(message);
     }
 };
 

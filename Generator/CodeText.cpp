@@ -1,0 +1,74 @@
+#include "Generator/CodeText.h"
+
+#include "Generator/Unicode.h"
+#include <algorithm>
+#include <cstdio>
+
+namespace Generator {
+
+namespace {
+
+template <class... Values> std::string printed(const char* format, Values... values) {
+    char buffer[16];
+    std::snprintf(buffer, sizeof buffer, format, values...);
+    return buffer;
+}
+
+// The bytes of the character that `text` begins with; one byte where it begins with none.
+std::string_view firstCharacter(std::string_view text) {
+    std::size_t size = 1;
+    while (size < std::min<std::size_t>(text.size(), 4) && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
+        ++size;
+    return Unicode::decoded(text.substr(0, size)).size() == 1 ? text.substr(0, size) : text.substr(0, 1);
+}
+
+std::string visibleCharacter(std::string_view bytes) {
+    const char32_t c = Unicode::decoded(bytes)[0];
+    if (Unicode::isVisible(c) && Unicode::encoded({&c, 1}) == bytes)
+        return std::string(bytes);
+    if (Unicode::encoded({&c, 1}) != bytes)
+        return printed("\\x%02X", static_cast<unsigned char>(bytes[0]));
+    switch (c) {
+    case '\n':
+        return "\\n";
+    case '\r':
+        return "\\r";
+    case '\t':
+        return "\\t";
+    default:
+        return printed(c > 0xFFFF ? "\\U%08X" : "\\u%04X", static_cast<unsigned>(c));
+    }
+}
+
+} // namespace
+
+std::string visibleText(std::string_view text, std::size_t limit) {
+    std::string visible;
+    for (std::size_t count = 0; !text.empty(); ++count) {
+        if (count == limit)
+            return visible + "…";
+        const std::string_view character = firstCharacter(text);
+        visible += visibleCharacter(character);
+        text.remove_prefix(character.size());
+    }
+    return visible;
+}
+
+std::string literal(std::string_view bytes) {
+    std::string code = "\"";
+    while (!bytes.empty()) {
+        const std::string_view character = firstCharacter(bytes);
+        const bool beginsTrigraph = character == "?" && code.ends_with('?');
+        if (character == "\"" || character == "\\" || beginsTrigraph)
+            code.append("\\").append(character);
+        else if (visibleCharacter(character) == character)
+            code += character;
+        else // three octal digits end where they end; a hexadecimal escape would take in what follows
+            for (const char byte : character)
+                code += printed("\\%03o", static_cast<unsigned>(static_cast<unsigned char>(byte)));
+        bytes.remove_prefix(character.size());
+    }
+    return code + '"';
+}
+
+} // namespace Generator

@@ -1,0 +1,170 @@
+#include "Generator/Namer.h"
+
+#include "Generator/Unicode.h"
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace Generator::Namer {
+
+namespace {
+
+using namespace Unicode;
+using Words = std::vector<std::u32string>;
+
+// The keywords and alternative tokens of C++20, and what standard headers and compilers define as macros. Names of
+// capitals only are below, in isReserved().
+constexpr auto reservedWords = std::to_array<std::string_view>(
+    {"I",         "alignas",       "alignof",     "alloca",       "and",     "and_eq",     "asm",
+     "assert",    "auto",          "bitand",      "bitor",        "bool",    "break",      "case",
+     "catch",     "char",          "char16_t",    "char32_t",     "char8_t", "class",      "co_await",
+     "co_return", "co_yield",      "compl",       "concept",      "const",   "const_cast", "consteval",
+     "constexpr", "constinit",     "continue",    "decltype",     "default", "delete",     "do",
+     "double",    "dynamic_cast",  "else",        "enum",         "errno",   "explicit",   "export",
+     "extern",    "false",         "float",       "for",          "friend",  "goto",       "i386",
+     "if",        "inline",        "int",         "linux",        "long",    "mutable",    "namespace",
+     "new",       "noexcept",      "not",         "not_eq",       "nullptr", "offsetof",   "operator",
+     "or",        "or_eq",         "private",     "protected",    "public",  "register",   "reinterpret_cast",
+     "requires",  "return",        "setjmp",      "short",        "signed",  "sigsetjmp",  "sizeof",
+     "static",    "static_assert", "static_cast", "stderr",       "stdin",   "stdout",     "struct",
+     "switch",    "template",      "this",        "thread_local", "throw",   "true",       "try",
+     "typedef",   "typeid",        "typename",    "union",        "unix",    "unsigned",   "using",
+     "virtual",   "void",          "volatile",    "wchar_t",      "while",   "xor",        "xor_eq"});
+static_assert(std::ranges::is_sorted(reservedWords));
+
+// Tables stand beside what the generated code is made of.
+constexpr std::string_view takenFromTables[] = {"detail", "std", "tr"};
+
+bool isReserved(std::string_view word) {
+    if (std::ranges::binary_search(reservedWords, word))
+        return true;
+    const bool capitals =
+        std::ranges::all_of(word, [](char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); });
+    // Error numbers, signals and the like: the standard keeps whole families of such names for its macros.
+    constexpr std::string_view macros[] = {"BUFSIZ", "INFINITY", "NAN", "NULL", "WEOF"};
+    return capitals && word.size() > 2 &&
+           (word.starts_with('E') || word.starts_with("SIG") || std::ranges::find(macros, word) != std::end(macros));
+}
+
+// Of a program's own: the implementation keeps names with two underscores running, and many that begin with one.
+bool isIdentifier(std::string_view name) {
+    const std::u32string text = decoded(name);
+    return !text.empty() && text[0] != '_' && beginsIdentifier(text[0]) &&
+           std::ranges::all_of(text, continuesIdentifier) && text.find(U"__") == std::u32string::npos;
+}
+
+// A character outside C++ identifiers that stands for some inside them, as "№" does for "No".
+bool isLetterLike(char32_t c) {
+    const std::u32string plain = compatible({&c, 1});
+    return !plain.empty() && std::ranges::all_of(plain, continuesIdentifier);
+}
+
+Words split(std::u32string_view text, auto isSeparator) {
+    Words words(1);
+    for (const char32_t c : text) {
+        if (!isSeparator(c))
+            words.back() += c;
+        else if (!words.back().empty())
+            words.emplace_back();
+    }
+    if (words.back().empty())
+        words.pop_back();
+    return words;
+}
+
+std::u32string joined(const Words& words, std::u32string_view separator) {
+    std::u32string text;
+    for (const std::u32string& word : words)
+        text.append(text.empty() ? U"" : separator).append(word);
+    return text;
+}
+
+// "tl1" gives "Tl1", "4k" gives "4K".
+void capitalise(std::u32string& word) {
+    bool upperNext = true;
+    for (char32_t& c : word) {
+        c = upperNext ? upper(c) : lower(c);
+        upperNext = isDigit(c);
+    }
+}
+
+std::u32string name(std::string_view component) {
+    Words chunks = split(decoded(component), [](char32_t c) { return !continuesIdentifier(c) && !isLetterLike(c); });
+    for (std::u32string& chunk : chunks)
+        chunk[0] = upper(chunk[0]);
+
+    const std::u32string text = joined(chunks, U"_");
+    Words words = split(text, [](char32_t c) { return c == '_'; });
+    const bool hasLower = std::ranges::any_of(text, isLower);
+    for (std::u32string& word : words) {
+        if (hasLower)
+            word[0] = upper(word[0]);
+        else
+            capitalise(word);
+    }
+    const std::u32string whole = joined(words, U"");
+    return !whole.empty() && isDigit(whole[0]) ? U'_' + whole : whole;
+}
+
+// "SportFeed" gives "sportFeed", "NA" gives "na", "URLPath" gives "urlPath".
+void lowerFirstWord(std::u32string& name) {
+    const auto runEnd = std::ranges::find_if_not(name, isCapital);
+    const bool nextWordBegins = runEnd - name.begin() > 1 && runEnd != name.end() && isLower(*runEnd);
+    std::transform(name.begin(), runEnd - (nextWordBegins ? 1 : 0), name.begin(), lower);
+}
+
+} // namespace
+
+std::vector<std::string_view> components(std::string_view key) {
+    std::vector<std::string_view> parts;
+    for (std::size_t begin = 0; begin < key.size();) {
+        const std::size_t end = std::min(key.find('.', begin), key.size());
+        if (end != begin)
+            parts.push_back(key.substr(begin, end - begin));
+        begin = end + 1;
+    }
+    return parts;
+}
+
+std::string groupName(std::string_view component) {
+    return encoded(name(component));
+}
+
+std::string entryName(std::string_view component) {
+    std::u32string entry = name(component);
+    lowerFirstWord(entry);
+    return encoded(entry);
+}
+
+std::string assetName(std::string_view asset) {
+    Words words = split(decoded(asset), [](char32_t c) { return c == '_' || (!continuesIdentifier(c) && !isLetterLike(c)); });
+    for (std::size_t i = 1; i < words.size(); ++i)
+        words[i][0] = upper(words[i][0]);
+    return encoded(joined(words, U""));
+}
+
+std::string spelling(std::string_view name) {
+    std::u32string spelled;
+    for (const char32_t c : decoded(name)) {
+        if (continuesIdentifier(c))
+            spelled += c;
+        else if (isLetterLike(c))
+            spelled += compatible({&c, 1});
+    }
+    spelled = composed(spelled);
+    if (!spelled.empty() && !beginsIdentifier(spelled[0]))
+        spelled.insert(0, 1, U'_');
+    const std::string word = encoded(spelled);
+    return isReserved(word) ? word + '_' : word;
+}
+
+std::string tableSpelling(std::string_view table) {
+    const std::string spelled = isIdentifier(table) ? spelling(table) : spelling(groupName(table));
+    return std::ranges::find(takenFromTables, spelled) == std::end(takenFromTables) ? spelled : spelled + '_';
+}
+
+bool isSpelled(std::string_view name) {
+    return isIdentifier(name) && spelling(name) == name;
+}
+
+} // namespace Generator::Namer
