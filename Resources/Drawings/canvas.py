@@ -1,0 +1,128 @@
+"""A drawing: a size and a list of painted outlines, with a small text notation.
+
+The notation is one operation per line (or between ";"):
+
+    CODE[:colour][/opacity][~width] numbers or path
+
+    c C  circle            cx cy r             (small letter: stroked, capital: filled)
+    e E  ellipse           cx cy rx ry
+    r R  rectangle         x y w h [radius]
+    l L  polyline/polygon  x1 y1 x2 y2 ...     g: closed and stroked
+    p P  path              path text
+    s S  star              cx cy outer inner [points [turn]]
+    u    another glyph     name [x y [scale [turn]]]
+
+A colour is #RRGGBB, a key of the palette, or absent: the drawing's ink.
+"""
+
+import re
+from contextlib import contextmanager
+from dataclasses import dataclass
+
+import paths
+from palette import COLOURS
+
+_HEAD = re.compile(r"^([A-Za-z])(?::([^/~]+))?(?:/([\d.]+))?(?:~([\d.]+))?$")
+GLYPHS = {}
+
+
+@dataclass
+class Gradient:
+    """Two colours along a line in drawing coordinates."""
+    first: str
+    last: str
+    line: tuple
+
+
+@dataclass
+class Item:
+    outline: list
+    fill: object = None
+    stroke: str = None
+    width: float = 0
+    opacity: float = 1
+    butt: bool = False
+
+
+class Drawing:
+    def __init__(self, width, height=None, ink="ink"):
+        self.width, self.height = width, height or width
+        self.items = []
+        self.matrix = paths.IDENTITY
+        self.ink = ink
+        self.pen = 2            # width of strokes that name none
+        self.body = None        # when set, fills the closed stroked shapes of the notation
+        self.template = False
+
+    @contextmanager
+    def placed(self, x=0, y=0, scale=1, turn=0, flip=False):
+        before = self.matrix
+        self.matrix = paths.multiply(before, paths.placing(x, y, scale, turn, flip))
+        try:
+            yield self
+        finally:
+            self.matrix = before
+
+    def colour(self, name):
+        name = name or self.ink
+        return name if name.startswith("#") else COLOURS[name]
+
+    def add(self, outline, fill=None, stroke=None, width=2, opacity=1, butt=False):
+        if isinstance(outline, str):
+            outline = paths.parse(outline)
+        if isinstance(fill, Gradient):
+            x0, y0, x1, y1 = fill.line
+            fill = Gradient(self.colour(fill.first), self.colour(fill.last),
+                            (*paths.apply(self.matrix, x0, y0), *paths.apply(self.matrix, x1, y1)))
+        elif fill:
+            fill = self.colour(fill)
+        self.items.append(Item(paths.mapped(outline, self.matrix), fill,
+                               self.colour(stroke) if stroke else None,
+                               width * paths.factor(self.matrix), opacity, butt))
+
+    def fade(self, first, last, outline=None, line=None):
+        """Fills with a gradient, by default the whole drawing from top to bottom."""
+        outline = outline or paths.rect(0, 0, self.width, self.height)
+        self.add(outline, Gradient(first, last, line or (0, 0, 0, self.height)))
+
+    def draw(self, text, **names):
+        """Draws operations in the notation above; names replace {key} in the text."""
+        if names:
+            text = text.format(**names)
+        for line in re.split(r"[;\n]", text):
+            line = line.strip()
+            if line:
+                self._operation(line)
+
+    def _operation(self, line):
+        head, _, rest = line.partition(" ")
+        match = _HEAD.match(head)
+        if not match:
+            raise ValueError(f"bad operation {line!r}")
+        code, colour, opacity, width = match.groups()
+        if code == "u":
+            name, *n = rest.split()
+            n = [float(v) for v in n]
+            place = dict(zip(("x", "y", "scale", "turn"), n))
+            ink = self.ink
+            self.ink = colour or ink
+            with self.placed(**place):
+                self.draw(GLYPHS[name])
+            self.ink = ink
+            return
+        low = code.lower()
+        if low == "p":
+            outline = paths.parse(rest)
+        else:
+            n = [float(v) for v in rest.split()]
+            if low == "s":
+                n[4:] = [int(v) for v in n[4:]]
+            outline = {"c": paths.ellipse, "e": paths.ellipse, "r": paths.rect,
+                       "s": paths.star}[low](*n) if low in "cers" else \
+                paths.polyline(n, code != "l")
+        name = colour or self.ink
+        if code.islower():
+            body = self.body if outline[-1] == ("Z",) else None
+            self.add(outline, body, name, float(width or self.pen), float(opacity or 1))
+        else:
+            self.add(outline, name, name if width else None, float(width or 0), float(opacity or 1))

@@ -1,0 +1,40 @@
+#!/usr/bin/env python3
+"""Draws every picture of the application and writes the source asset catalogs.
+
+    python3 Resources/Drawings/draw.py [folder]
+
+The folder is Resources itself unless another is given. Files that no asset has any more are removed
+from the catalogs. Nothing but the standard library is needed.
+"""
+
+import sys
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+
+import catalogs  # noqa: E402
+import names  # noqa: E402
+
+
+def main():
+    root = Path(sys.argv[1] if len(sys.argv) > 1 else Path(__file__).resolve().parent.parent)
+    made = catalogs.files()
+    changed = 0
+    for path, data in made.items():
+        target = root / path
+        if target.is_file() and target.read_bytes() == data:
+            continue
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_bytes(data)
+        changed += 1
+    for catalog in names.CATALOGS:
+        for old in sorted((root / f"{catalog}.xcassets").rglob("*"), reverse=True):
+            if old.is_file() and old.relative_to(root).as_posix() not in made:
+                old.unlink()
+            elif old.is_dir() and not any(old.iterdir()):
+                old.rmdir()
+    print(f"{len(made)} files, {changed} written, {sum(map(len, made.values())) // 1024} KiB")
+
+
+if __name__ == "__main__":
+    main()
