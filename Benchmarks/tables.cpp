@@ -28,7 +28,7 @@ void readTable(benchmark::State& state, const std::string& bytes) {
         state.ResumeTiming();
         benchmark::DoNotOptimize(Table::read(std::move(copy)));
     }
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes.size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 
 void tableFromText(benchmark::State& state) {
@@ -38,7 +38,7 @@ BENCHMARK(tableFromText);
 
 void tableFromBinary(benchmark::State& state) {
     const auto table = Table::read(textForm());
-    readTable(state, StringTables::write(table->entries(), Form::binary));
+    readTable(state, *StringTables::write(table->entries(), Form::binary));
 }
 BENCHMARK(tableFromBinary);
 
@@ -47,7 +47,7 @@ void memchrOverText(benchmark::State& state) {
     const std::string bytes = textForm();
     for (auto _ : state)
         benchmark::DoNotOptimize(std::memchr(bytes.data(), 0, bytes.size()));
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes.size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
 }
 BENCHMARK(memchrOverText);
 

@@ -19,7 +19,9 @@ std::string_view firstCharacter(std::string_view text) {
     std::size_t size = 1;
     while (size < std::min<std::size_t>(text.size(), 4) && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
         ++size;
-    return Unicode::decoded(text.substr(0, size)).size() == 1 ? text.substr(0, size) : text.substr(0, 1);
+    const std::u32string decoded = Unicode::decoded(text.substr(0, size));
+    const bool isOne = decoded.size() == 1 && Unicode::encoded(decoded) == text.substr(0, size);
+    return text.substr(0, isOne ? size : 1);
 }
 
 std::string visibleCharacter(std::string_view bytes) {

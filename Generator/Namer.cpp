@@ -137,7 +137,8 @@ std::string entryName(std::string_view component) {
 }
 
 std::string assetName(std::string_view asset) {
-    Words words = split(decoded(asset), [](char32_t c) { return c == '_' || (!continuesIdentifier(c) && !isLetterLike(c)); });
+    Words words =
+        split(decoded(asset), [](char32_t c) { return c == '_' || (!continuesIdentifier(c) && !isLetterLike(c)); });
     for (std::size_t i = 1; i < words.size(); ++i)
         words[i][0] = upper(words[i][0]);
     return encoded(joined(words, U""));

@@ -18,8 +18,8 @@ namespace Generator::Namer {
 [[nodiscard]] std::string groupName(std::string_view component);
 [[nodiscard]] std::string entryName(std::string_view component);
 
-// The catalog's name for an asset: the words between '_', '-', '.' and whatever cannot stand in a name, the first as it is, the
-// others with a capital. Empty when there are none.
+// The catalog's name for an asset: the words between '_', '-', '.' and whatever cannot stand in a name, the first as it
+// is, the others with a capital. Empty when there are none.
 [[nodiscard]] std::string assetName(std::string_view asset);
 
 // A name as C++ spells it: an identifier in NFC, no reserved word, without two underscores running. Empty for an empty

@@ -1,8 +1,9 @@
 # The typed trees of a source bundle, made during the build.
 
 # lumora_generate(target SOURCE dir MODULE name [INCLUDE header...] [SHARDS n])
-# Makes the trees of texts and assets of the source bundle `dir` and adds them to `target`, the texts in n sources (1 if not given). The tree's headers
-# are reached as <name/nameStrings.h>, by whoever links the target too. INCLUDE names headers of hand-made members.
+# Makes the trees of texts and assets of the source bundle `dir` and adds them to `target`, the texts in n sources (1 if
+# not given). The trees' headers are reached as <name/nameStrings.h>, by whoever links the target too. INCLUDE names headers
+# of hand-made members.
 function(lumora_generate target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "SOURCE;MODULE;SHARDS" "INCLUDE")
     if(NOT arg_SHARDS)
@@ -31,11 +32,15 @@ function(lumora_generate target)
     endif()
     file(GLOB tables CONFIGURE_DEPENDS ${texts}/*.strings ${arg_SOURCE}/Info.plist)
 
+    # Which headers there are, only the tables decide. A build learns of those that an earlier one made; a new one is
+    # included by one of them, which changes with it.
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${folder}/*.h)
+
     # The stamp is what is always new: files that have their content already keep their time, so that nothing that
     # includes them is compiled again.
     add_custom_command(
         OUTPUT ${stamp}
-        BYPRODUCTS ${sources}
+        BYPRODUCTS ${sources} ${headers}
         COMMAND lumora-generate ${arg_SOURCE} --module ${arg_MODULE} -o ${folder} --shards ${arg_SHARDS} ${includes}
         COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
         DEPENDS lumora-generate ${tables} ${contents}

@@ -61,7 +61,7 @@ struct NSBundle::Contents {
         for (const Folder& folder : folders)
             localizations.push_back(folder.name == baseName ? developmentLocalization : folder.name);
         std::ranges::sort(localizations);
-        localizations.erase(std::ranges::unique(localizations).begin(), localizations.end());
+        localizations.erase(std::unique(localizations.begin(), localizations.end()), localizations.end());
     }
 
     detail::Localization* localization(std::string_view name) {

@@ -7,7 +7,8 @@
 #include <atomic>
 #include <cstddef> // std::byte
 #include <cstdint>
-#include <new> // placement, std::launder
+#include <new>         // placement, std::launder
+#include <type_traits>
 
 namespace Runtime {
 
@@ -22,14 +23,15 @@ public:
     // next reader to try again.
     template <class Make> const T& get(Make&& make) {
         if (state_.load(std::memory_order_acquire) != made) [[unlikely]]
-            fill(make);
+            fill<std::remove_cvref_t<Make>>(make);
         return *std::launder(reinterpret_cast<const T*>(storage_));
     }
 
 private:
     enum State : std::uint32_t { empty, running, made };
 
-    template <class Make> [[gnu::noinline, gnu::cold]] void fill(Make& make) {
+    // Takes `make` by value, so that a caller whose value is ready prepares nothing for it in memory.
+    template <class Make> [[gnu::noinline, gnu::cold]] void fill(Make make) {
         for (;;) {
             std::uint32_t seen = empty;
             if (state_.compare_exchange_strong(seen, running, std::memory_order_acquire)) {

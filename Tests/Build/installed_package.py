@@ -3,6 +3,7 @@ import argparse
 import os
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 import tempfile
@@ -48,10 +49,11 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     expect("find_package", run(folder / "app/app").splitlines(),
            [russian("Continue"), number, str(library.parent.resolve() / "Lumora.bundle")])
 
-    flags = run("pkg-config", "--cflags", "--libs", "lumora",
-                env=environment | {"PKG_CONFIG_PATH": str(library.parent / "pkgconfig")})
+    flags = subprocess.run(["pkg-config", "--cflags", "--libs", "lumora"], check=True, capture_output=True,
+                           env=environment | {"PKG_CONFIG_PATH": str(library.parent / "pkgconfig")}).stdout
     program = folder / "by pkg-config"
-    arguments = [part.replace("\\", "") for part in re.split(r"(?<!\\)\s+", flags.strip())]
+    # It escapes byte by byte.
+    arguments = [os.fsdecode(part.encode("latin-1")) for part in shlex.split(flags.decode("latin-1"))]
     run("c++", "-std=c++20", source / "Tests/Build/consumer/app.cpp", "-o", program, *arguments)
     expect("pkg-config", run(program, env=environment).splitlines()[:2], [russian("Continue"), number])
 

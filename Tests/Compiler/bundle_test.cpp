@@ -84,7 +84,7 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
 
 TEST(CompileBundle, GivesTheSameBytesForTheSameSources) {
     const Support::TemporaryFolder folder;
-    folder.write("source/Base.lproj/A.strings", "b = 1; a = 2; c = ünï;");
+    folder.write("source/Base.lproj/A.strings", "b = 1; a = 2; c = \"ünï\";");
     ASSERT_EQ(compile(folder / "source", folder / "1.bundle").failure, "");
     ASSERT_EQ(compile(folder / "source", folder / "2.bundle").failure, "");
     for (const std::string& file : filesBelow(folder / "1.bundle"))

@@ -1,0 +1,38 @@
+// Formats with a text, a locale and arguments made of the input. Its lines are: the locale, the format, the arguments;
+// a line of eight bytes after '#' is a whole number.
+#include "Foundation/String.h"
+
+#include <cstring>
+#include <vector>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::string_view rest(reinterpret_cast<const char*>(data), size);
+    const auto nextLine = [&rest] {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
+        return line;
+    };
+    const Foundation::Locale locale{std::string(nextLine())};
+    const std::string_view format = nextLine();
+    std::vector<Foundation::FormatArgument> arguments;
+    std::size_t longest = 32 + 3 * Foundation::String::largestSize; // a precision's digits, grouped
+    while (!rest.empty()) {
+        const std::string_view line = nextLine();
+        std::int64_t number = 0;
+        if (line.size() == 1 + sizeof number && line.front() == '#') {
+            std::memcpy(&number, line.data() + 1, sizeof number);
+            arguments.emplace_back(number);
+        } else {
+            arguments.emplace_back(line);
+            longest += line.size();
+        }
+    }
+    const std::string text = Foundation::String::format(format, locale, arguments);
+    // No digit, separator or padding of any locale has more bytes.
+    constexpr std::size_t longestSymbol = 16;
+    if (text.size() > format.size() * longest * longestSymbol)
+        __builtin_trap();
+    if (format.find('%') == std::string_view::npos && text != format)
+        __builtin_trap();
+    return 0;
+}

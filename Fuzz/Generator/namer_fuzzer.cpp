@@ -1,0 +1,51 @@
+// The naming rule on any bytes: what it gives is nothing, or one valid identifier, again and again the same.
+// Validity is asked of ICU here, not of the code under test.
+#include "Generator/Namer.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <unicode/normalizer2.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
+
+namespace {
+
+namespace Namer = Generator::Namer;
+
+void require(bool condition) {
+    if (!condition)
+        std::abort();
+}
+
+void requireIdentifier(const std::string& spelled) {
+    const auto text = icu::UnicodeString::fromUTF8(spelled);
+    UErrorCode failed = U_ZERO_ERROR;
+    require(icu::Normalizer2::getNFCInstance(failed)->isNormalized(text, failed) != 0);
+    require(text[0] == u'_' || u_hasBinaryProperty(text.char32At(0), UCHAR_XID_START) != 0);
+    for (std::int32_t at = 0; at < text.length(); at = text.moveIndex32(at, 1))
+        require(u_hasBinaryProperty(text.char32At(at), UCHAR_XID_CONTINUE) != 0);
+    require(text.indexOf(u"__") < 0);
+    require(spelled.size() < 2 || spelled[0] != '_' || spelled[1] < 'A' || spelled[1] > 'Z');
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string key(reinterpret_cast<const char*>(data), size);
+    for (const std::string_view component : Namer::components(key)) {
+        const std::string group = Namer::groupName(component);
+        const std::string entry = Namer::entryName(component);
+        require(group.empty() == entry.empty());
+        for (const std::string& name : {group, entry, Namer::assetName(component)}) {
+            const std::string spelled = Namer::spelling(name);
+            require(spelled.empty() == name.empty());
+            require(Namer::spelling(spelled) == spelled);
+            if (!spelled.empty())
+                requireIdentifier(spelled);
+        }
+        require(Namer::groupName(component) == group && Namer::entryName(component) == entry);
+    }
+    if (const std::string table = Namer::tableSpelling(key); !table.empty())
+        requireIdentifier(table);
+    return 0;
+}

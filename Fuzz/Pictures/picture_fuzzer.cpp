@@ -1,0 +1,21 @@
+// Any bytes as a picture: refused, or a bitmap of the size that was measured.
+#include "Pictures/Decoders.h"
+#include "Pictures/Pictures.h"
+#include <cstdlib>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    constexpr std::uint64_t maxPixels = 1 << 16;
+    const std::span bytes(data, size);
+    const auto measured = Pictures::measure(bytes);
+    if (!measured)
+        return 0;
+    const bool isPng = measured->encoding == Pictures::Encoding::png;
+    const auto bitmap = isPng ? Pictures::decodePng(bytes, maxPixels) : Pictures::decodeJpeg(bytes, maxPixels);
+    if (!bitmap)
+        return 0;
+    const std::uint64_t pixels = std::uint64_t{bitmap->width} * bitmap->height;
+    if (bitmap->width != measured->width || bitmap->height != measured->height || pixels > maxPixels ||
+        bitmap->pixels.size() != pixels * 4)
+        std::abort();
+    return 0;
+}

@@ -1,0 +1,32 @@
+// Walks through the placeholders of any text: each lies within it, behind the one before, and between a '%' and its
+// conversion.
+#include "StringTables/Placeholder.h"
+#include <cctype>
+#include <cstdlib>
+
+namespace {
+
+void require(bool holds) {
+    if (!holds)
+        std::abort();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using Kind = StringTables::Placeholder::Kind;
+    const std::string_view format(reinterpret_cast<const char*>(data), size);
+    std::size_t at = 0;
+    while (const auto found = StringTables::nextPlaceholder(format, at)) {
+        require(found->begin >= at && found->end >= found->begin + 2 && found->end <= format.size());
+        require(format[found->begin] == '%');
+        const char last = format[found->end - 1];
+        require(found->kind == Kind::integer ? std::tolower(last) == std::tolower(found->conversion)
+                                             : last == found->conversion);
+        require(found->position <= 9999 && found->width.value <= 999999 && found->precision.value <= 999999);
+        // What stands between two placeholders begins none.
+        require(!StringTables::nextPlaceholder(format.substr(0, found->begin), at));
+        at = found->end;
+    }
+    return 0;
+}

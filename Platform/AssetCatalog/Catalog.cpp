@@ -1,0 +1,129 @@
+#include "AssetCatalog/Catalog.h"
+
+#include "AssetCatalog/Check.h"
+#include "AssetCatalog/Fit.h"
+#include <algorithm>
+
+namespace AssetCatalog {
+
+namespace {
+
+using Place = flatbuffers::uoffset_t;
+
+Fit fitOf(const Format::Fit& fit) noexcept {
+    return {static_cast<Appearance>(fit.appearance()), static_cast<Contrast>(fit.contrast()),
+            static_cast<Direction>(fit.direction()), fit.scale()};
+}
+
+std::string_view textOf(const flatbuffers::String* text) noexcept {
+    return text == nullptr ? std::string_view() : text->string_view();
+}
+
+std::span<const std::uint8_t> blob(const std::uint8_t* blobs, std::uint64_t offset, std::uint64_t size) noexcept {
+    return {blobs + offset, static_cast<std::size_t>(size)};
+}
+
+} // namespace
+
+Kind Entry::kind() const noexcept {
+    return static_cast<Kind>(asset_->kind());
+}
+std::string_view Entry::catalog() const noexcept {
+    return textOf(asset_->catalog());
+}
+std::string_view Entry::name() const noexcept {
+    return textOf(asset_->name());
+}
+bool Entry::isTemplate() const noexcept {
+    return asset_->is_template();
+}
+
+std::size_t Entry::variants() const noexcept {
+    switch (kind()) {
+    case Kind::image:
+        return asset_->pictures()->size();
+    case Kind::color:
+        return asset_->colors()->size();
+    case Kind::data:
+        break;
+    }
+    return asset_->data()->size();
+}
+
+Fit Entry::fit(std::size_t variant) const noexcept {
+    const auto place = static_cast<Place>(variant);
+    switch (kind()) {
+    case Kind::image:
+        return fitOf(asset_->pictures()->Get(place)->fit());
+    case Kind::color:
+        return fitOf(asset_->colors()->Get(place)->fit());
+    case Kind::data:
+        break;
+    }
+    return fitOf(*asset_->data()->Get(place)->fit());
+}
+
+std::size_t Entry::best(Fit wanted) const noexcept {
+    std::size_t best = 0;
+    for (std::size_t i = 1; i < variants(); ++i)
+        if (distance(fit(i), wanted) < distance(fit(best), wanted))
+            best = i;
+    return best;
+}
+
+PictureView Entry::picture(std::size_t variant) const noexcept {
+    const Format::Picture& found = *asset_->pictures()->Get(static_cast<Place>(variant));
+    return {fitOf(found.fit()), static_cast<Encoding>(found.encoding()), found.width(), found.height(),
+            blob(blobs_, found.offset(), found.size())};
+}
+
+ColorValue Entry::color(std::size_t variant) const noexcept {
+    const Format::Color& found = *asset_->colors()->Get(static_cast<Place>(variant));
+    return {fitOf(found.fit()),
+            static_cast<ColorSpace>(found.space()),
+            {found.first(), found.second(), found.third(), found.alpha()}};
+}
+
+DataView Entry::data(std::size_t variant) const noexcept {
+    const Format::Data& found = *asset_->data()->Get(static_cast<Place>(variant));
+    return {fitOf(*found.fit()), textOf(found.type()), blob(blobs_, found.offset(), found.size())};
+}
+
+Runtime::Result<Catalog> Catalog::open(const std::string& path) {
+    auto mapping = Mapping::open(path, maxBytes);
+    if (!mapping)
+        return std::move(mapping.error());
+    auto catalog = read(mapping->bytes());
+    if (catalog)
+        catalog->mapping_ = std::move(*mapping);
+    else
+        catalog.error().file = path;
+    return catalog;
+}
+
+Runtime::Result<Catalog> Catalog::read(std::span<const std::uint8_t> bytes) {
+    auto checked = check(bytes);
+    if (!checked)
+        return std::move(checked.error());
+    return Catalog(checked->index, checked->blobs);
+}
+
+std::optional<std::size_t> Catalog::find(Kind kind, std::string_view name) const noexcept {
+    const auto& hashes = *index_->hashes();
+    const std::uint64_t hash = Format::hashOf(kind, name);
+    const auto found = static_cast<std::size_t>(std::lower_bound(hashes.begin(), hashes.end(), hash) - hashes.begin());
+    if (found == size())
+        return std::nullopt;
+    const Entry entry = (*this)[found];
+    return entry.kind() == kind && entry.name() == name ? std::optional(found) : std::nullopt;
+}
+
+std::size_t Catalog::size() const noexcept {
+    return index_->assets()->size();
+}
+
+Entry Catalog::operator[](std::size_t index) const noexcept {
+    return {index_->assets()->Get(static_cast<Place>(index)), blobs_};
+}
+
+} // namespace AssetCatalog

@@ -1,0 +1,49 @@
+#include "Foundation/NSNumber.h"
+
+#include <cmath>
+#include <limits>
+
+namespace Foundation {
+
+namespace {
+
+// The whole number nearest to `value`, of those that T holds.
+template <class T> T clamped(double value) noexcept {
+    // As doubles: 2^63 or 2^64, just above the largest, and the smallest itself.
+    static constexpr double above = static_cast<double>(std::numeric_limits<T>::max() / 2 + 1) * 2;
+    if (std::isnan(value))
+        return 0;
+    if (value >= above)
+        return std::numeric_limits<T>::max();
+    if (value <= static_cast<double>(std::numeric_limits<T>::min()))
+        return std::numeric_limits<T>::min();
+    return static_cast<T>(value);
+}
+
+} // namespace
+
+bool NSNumber::isNegative() const noexcept {
+    return isFloating() ? std::signbit(floating_) && !std::isnan(floating_) : isBelowZero();
+}
+
+std::int64_t NSNumber::int64Value() const noexcept {
+    static constexpr std::uint64_t largest = std::numeric_limits<std::int64_t>::max();
+    if (isFloating())
+        return clamped<std::int64_t>(floating_);
+    const bool isTooLarge = kind_ == Kind::unsignedInteger && integer_ > largest;
+    return static_cast<std::int64_t>(isTooLarge ? largest : integer_);
+}
+
+std::uint64_t NSNumber::uint64Value() const noexcept {
+    if (isFloating())
+        return clamped<std::uint64_t>(floating_);
+    return isBelowZero() ? 0 : integer_;
+}
+
+double NSNumber::doubleValue() const noexcept {
+    if (isFloating())
+        return floating_;
+    return isBelowZero() ? static_cast<double>(static_cast<std::int64_t>(integer_)) : static_cast<double>(integer_);
+}
+
+} // namespace Foundation

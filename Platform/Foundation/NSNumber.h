@@ -1,0 +1,56 @@
+// Foundation/NSNumber.h
+// A number of any arithmetic type, as one value.
+// Threads: a plain value.
+#pragma once
+
+#include "Runtime/Export.h"
+#include <concepts>
+#include <cstdint>
+#include <type_traits>
+
+namespace Foundation {
+
+class LUMORA_EXPORT NSNumber {
+public:
+    // Keeps whole numbers exactly, floating ones as double; a bool is 0 or 1.
+    template <class T>
+    requires std::is_arithmetic_v<T>
+    constexpr NSNumber(T value) noexcept {
+        if constexpr (std::floating_point<T>) {
+            kind_ = Kind::floating;
+            floating_ = static_cast<double>(value);
+        } else {
+            // A negative one is kept by its two's complement, in 64 bits.
+            kind_ = std::is_signed_v<T> ? Kind::signedInteger : Kind::unsignedInteger;
+            integer_ = static_cast<std::uint64_t>(value);
+        }
+    }
+
+    [[nodiscard]] constexpr bool isFloating() const noexcept { return kind_ == Kind::floating; }
+    // Minus zero is negative; not-a-number is not, whatever its sign bit.
+    [[nodiscard]] bool isNegative() const noexcept;
+
+    // The value in another type: a fraction is cut off, a value out of range becomes the nearest in range, not-a-number
+    // 0.
+    [[nodiscard]] std::int64_t int64Value() const noexcept;
+    [[nodiscard]] std::uint64_t uint64Value() const noexcept;
+    // The nearest double.
+    [[nodiscard]] double doubleValue() const noexcept;
+    // Whether the value is other than 0.
+    [[nodiscard]] bool boolValue() const noexcept { return isFloating() ? floating_ != 0 : integer_ != 0; }
+
+private:
+    enum class Kind : std::uint8_t { signedInteger, unsignedInteger, floating };
+
+    bool isBelowZero() const noexcept {
+        return kind_ == Kind::signedInteger && static_cast<std::int64_t>(integer_) < 0;
+    }
+
+    union {
+        std::uint64_t integer_;
+        double floating_;
+    };
+    Kind kind_;
+};
+
+} // namespace Foundation

@@ -1,0 +1,204 @@
+// The services of the companion library, by ICU. What ICU refuses has the plain form; nothing but std::bad_alloc is
+// thrown.
+#include "Intl/Intl.h"
+
+#include "Intl/IcuText.h"
+#include "Intl/LanguageMatch.h"
+#include "Runtime/Export.h"
+#include <algorithm>
+#include <cstdlib> // std::abs
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unicode/decimfmt.h>
+#include <unicode/measunit.h>
+#include <unicode/numberformatter.h>
+#include <unicode/plurrule.h>
+#include <unicode/ures.h>
+
+namespace Intl {
+
+namespace {
+
+// The locale of an identifier if there are data for its language. ICU would read others as the process's default
+// locale, which is another program's affair; they are the root locale, with the digits that they ask for.
+icu::Locale knownLocale(std::string_view identifier) {
+    const icu::Locale locale = icuLocale(identifier);
+    if (locale.isBogus())
+        return icu::Locale::getRoot();
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::LocalUResourceBundlePointer data(ures_open(nullptr, locale.getBaseName(), &status));
+    if (status != U_USING_DEFAULT_WARNING && U_SUCCESS(status))
+        return locale;
+    status = U_ZERO_ERROR;
+    const auto digits = locale.getKeywordValue<std::string>("numbers", status);
+    const icu::Locale root = icuLocale(U_SUCCESS(status) && !digits.empty() ? "root@numbers=" + digits : "root");
+    return root.isBogus() ? icu::Locale::getRoot() : root;
+}
+
+// Null for a numbering system without digits of its own (Roman numerals) and for one that is unknown.
+std::unique_ptr<icu::DecimalFormat> decimalFormat(const icu::Locale& locale, NumberStyle style) {
+    UErrorCode status = U_ZERO_ERROR;
+    const auto icuStyle = style == NumberStyle::percent ? UNUM_PERCENT : UNUM_DECIMAL;
+    std::unique_ptr<icu::NumberFormat> format(icu::NumberFormat::createInstance(locale, icuStyle, status));
+    auto* decimal = U_SUCCESS(status) ? dynamic_cast<icu::DecimalFormat*>(format.get()) : nullptr;
+    if (decimal == nullptr)
+        return nullptr;
+    static_cast<void>(format.release());
+    decimal->setMinimumGroupingDigits(UNUM_MINIMUM_GROUPING_DIGITS_AUTO); // the locale's own, as in "1234" but "12.345"
+    return std::unique_ptr<icu::DecimalFormat>(decimal);
+}
+
+// How many digits must stand before the first separator.
+unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
+    const icu::UnicodeString separator =
+        format.getDecimalFormatSymbols()->getConstSymbol(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol);
+    std::int64_t value = 1;
+    for (unsigned digits = 0; digits < primary; ++digits)
+        value *= 10;
+    unsigned before = 1;
+    for (icu::UnicodeString text; before < 4 && format.format(value, text).indexOf(separator) < 0; value *= 10) {
+        ++before;
+        text.remove();
+    }
+    return before;
+}
+
+// Strips the format of everything but digits and separators, which affixes may hold too.
+void readGrouping(NumberPattern& pattern, icu::DecimalFormat& format) {
+    format.setMultiplier(1);
+    format.setPositivePrefix(icu::UnicodeString());
+    format.setPositiveSuffix(icu::UnicodeString());
+    // More than any language groups would be more than the value below holds.
+    const int primary = format.isGroupingUsed() ? std::clamp(format.getGroupingSize(), 0, 9) : 0;
+    const int secondary = format.getSecondaryGroupingSize();
+    pattern.primaryGrouping = static_cast<unsigned>(primary);
+    pattern.secondaryGrouping = static_cast<unsigned>(secondary > 0 ? secondary : primary);
+    if (primary > 0)
+        pattern.minimumGrouping = minimumGrouping(format, pattern.primaryGrouping);
+}
+
+void readSymbols(NumberPattern& pattern, const icu::DecimalFormatSymbols& symbols) {
+    using Symbols = icu::DecimalFormatSymbols;
+    const auto symbol = [&](Symbols::ENumberFormatSymbol which) { return utf8(symbols.getConstSymbol(which)); };
+    pattern.digits[0] = symbol(Symbols::kZeroDigitSymbol);
+    for (int digit = 1; digit < 10; ++digit)
+        pattern.digits[static_cast<std::size_t>(digit)] =
+            symbol(static_cast<Symbols::ENumberFormatSymbol>(Symbols::kOneDigitSymbol + digit - 1));
+    pattern.plusSign = symbol(Symbols::kPlusSignSymbol);
+    pattern.minusSign = symbol(Symbols::kMinusSignSymbol);
+    pattern.decimalSeparator = symbol(Symbols::kDecimalSeparatorSymbol);
+    pattern.groupingSeparator = symbol(Symbols::kGroupingSeparatorSymbol);
+    pattern.infinity = symbol(Symbols::kInfinitySymbol);
+    pattern.notANumber = symbol(Symbols::kNaNSymbol);
+}
+
+void readAffixes(NumberPattern& pattern, const icu::DecimalFormat& format) {
+    icu::UnicodeString text;
+    pattern.positivePrefix = utf8(format.getPositivePrefix(text));
+    pattern.positiveSuffix = utf8(format.getPositiveSuffix(text));
+    pattern.negativePrefix = utf8(format.getNegativePrefix(text));
+    pattern.negativeSuffix = utf8(format.getNegativeSuffix(text));
+}
+
+class IcuYearPhrases final : public YearPhrases {
+public:
+    explicit IcuYearPhrases(const icu::Locale& locale) {
+        UErrorCode status = U_ZERO_ERROR;
+        rules_.reset(icu::PluralRules::forLocale(locale, status));
+        if (U_FAILURE(status))
+            rules_.reset();
+        const auto formatter = icu::number::NumberFormatter::withLocale(locale)
+                                   .unit(icu::MeasureUnit::getYear())
+                                   .unitWidth(UNUM_UNIT_WIDTH_FULL_NAME);
+        const auto fill = [&](std::int64_t count, std::size_t category) {
+            if (std::string& form = forms_[category]; form.empty())
+                form = pattern(formatter, count);
+        };
+        // Every category of whole numbers has one among the small or the round ones.
+        for (std::size_t count = 0; count < small_.size(); ++count) {
+            small_[count] = static_cast<std::uint8_t>(select(static_cast<std::int32_t>(count)));
+            fill(static_cast<std::int64_t>(count), small_[count]);
+        }
+        for (std::int64_t count = 1'000; count <= 1'000'000'000; count *= 10)
+            fill(count, category(count));
+    }
+
+    std::string_view phrase(std::int64_t count) const override { return forms_[category(count)]; }
+
+private:
+    static constexpr std::array<std::u16string_view, 6> categories = {u"zero", u"one",  u"two",
+                                                                      u"few",  u"many", u"other"};
+
+    std::size_t category(std::int64_t count) const {
+        // A rule looks at no more than the last six digits of a large number, and ICU takes 32 bits exactly.
+        static constexpr std::int64_t large = 1'000'000'000;
+        const std::int64_t looked = std::abs(count % large) + (count >= large || count <= -large ? large : 0);
+        const auto index = static_cast<std::size_t>(looked);
+        return index < small_.size() ? small_[index] : select(static_cast<std::int32_t>(looked));
+    }
+    std::size_t select(std::int32_t count) const {
+        std::size_t index = 0; // without rules there is one form
+        if (rules_) {
+            const icu::UnicodeString keyword = rules_->select(count);
+            const std::u16string_view name(keyword.getBuffer(), static_cast<std::size_t>(keyword.length()));
+            while (index + 1 < categories.size() && categories[index] != name)
+                ++index;
+        }
+        return index;
+    }
+
+    // ICU's text for so many years with "{0}" in the place of the number.
+    static std::string pattern(const icu::number::LocalizedNumberFormatter& formatter, std::int64_t count) {
+        UErrorCode status = U_ZERO_ERROR;
+        const icu::number::FormattedNumber formatted = formatter.formatInt(count, status);
+        icu::UnicodeString text = formatted.toString(status);
+        icu::ConstrainedFieldPosition number;
+        number.constrainField(UFIELD_CATEGORY_NUMBER, UNUM_INTEGER_FIELD);
+        if (formatted.nextPosition(number, status))
+            text.replaceBetween(number.getStart(), number.getLimit(), u"{0}");
+        return U_SUCCESS(status) ? utf8(text) : std::string("{0}");
+    }
+
+    std::unique_ptr<icu::PluralRules> rules_;
+    std::array<std::string, categories.size()> forms_;
+    std::array<std::uint8_t, 201> small_{}; // the categories of the counts that ages have
+};
+
+class IcuServices final : public Services {
+public:
+    std::optional<std::size_t> matchLanguage(std::string_view desired,
+                                             std::span<const std::string> supported) const override {
+        return bestLanguage(desired, supported);
+    }
+
+    NumberPattern numberPattern(std::string_view identifier, NumberStyle style) const override {
+        NumberPattern pattern = plainNumberPattern(style);
+        const icu::Locale locale = knownLocale(identifier);
+        std::unique_ptr<icu::DecimalFormat> format = decimalFormat(locale, style);
+        if (!format)
+            format = decimalFormat(icu::Locale(locale.getBaseName()), style);
+        if (!format)
+            return pattern;
+        readSymbols(pattern, *format->getDecimalFormatSymbols());
+        readAffixes(pattern, *format);
+        pattern.maximumFraction = static_cast<unsigned>(std::max(format->getMaximumFractionDigits(), 0));
+        pattern.minimumFraction = static_cast<unsigned>(std::max(format->getMinimumFractionDigits(), 0));
+        readGrouping(pattern, *format);
+        return pattern;
+    }
+
+    std::unique_ptr<const YearPhrases> yearPhrases(std::string_view locale) const override {
+        return std::make_unique<const IcuYearPhrases>(knownLocale(locale));
+    }
+};
+
+constinit const IcuServices icuServices;
+
+} // namespace
+
+} // namespace Intl
+
+extern "C" LUMORA_EXPORT const Intl::Services* lumoraIntlServices() {
+    return &Intl::icuServices;
+}

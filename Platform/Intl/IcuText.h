@@ -1,0 +1,32 @@
+// Intl/IcuText.h
+// Between ICU's texts and identifiers and ours; part of the companion library.
+// Text: UTF-8 on our side. Threads: any; no state.
+#pragma once
+
+#include <cstring> // std::strlen
+#include <string>
+#include <string_view>
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
+
+namespace Intl {
+
+[[nodiscard]] inline std::string utf8(const icu::UnicodeString& text) {
+    std::string out;
+    return text.toUTF8String(out);
+}
+
+// The locale of an identifier of any custom ("de_AT", "zh-Hans", "pt_PT.UTF-8@euro", "ar_EG@numbers=latn"), without its
+// character set. Bogus when ICU makes nothing of it, and when it is longer than any in use.
+[[nodiscard]] inline icu::Locale icuLocale(std::string_view identifier) {
+    std::string name(identifier);
+    if (const std::size_t dot = name.find('.'); dot != std::string::npos)
+        name.erase(dot, name.find('@', dot) - dot);
+    icu::Locale locale = icu::Locale::createFromName(name.c_str());
+    // ICU copies names into places of this size, not always with care.
+    if (std::strlen(locale.getName()) >= ULOC_FULLNAME_CAPACITY)
+        locale.setToBogus();
+    return locale;
+}
+
+} // namespace Intl

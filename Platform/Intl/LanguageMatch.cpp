@@ -1,0 +1,52 @@
+#include "Intl/LanguageMatch.h"
+
+#include "Intl/IcuText.h"
+#include <unicode/localematcher.h>
+#include <vector>
+
+namespace Intl {
+
+namespace {
+
+// In today's form of its language: "iw" is "he".
+icu::Locale canonical(std::string_view identifier) {
+    // Modifiers and keywords say nothing of the language.
+    icu::Locale locale = icuLocale(identifier.substr(0, identifier.find('@')));
+    UErrorCode status = U_ZERO_ERROR;
+    locale.canonicalize(status);
+    return U_SUCCESS(status) ? locale : icu::Locale::getRoot();
+}
+
+// Norwegian without more is Bokmål; to the canonical form they are two.
+std::string_view languageOf(const icu::Locale& locale) {
+    const std::string_view language = locale.getLanguage();
+    return language == "no" ? "nb" : language;
+}
+
+} // namespace
+
+std::optional<std::size_t> bestLanguage(std::string_view desired, std::span<const std::string> supported) {
+    const icu::Locale reader = canonical(desired);
+    if (languageOf(reader).empty())
+        return std::nullopt;
+    // The matcher knows which languages many of a language's readers understand too. Who did not name them gets none of
+    // them, so it sees the variants of the one language only.
+    UErrorCode status = U_ZERO_ERROR;
+    icu::LocaleMatcher::Builder builder;
+    builder.setNoDefaultLocale();
+    std::vector<std::size_t> candidates;
+    for (std::size_t i = 0; i < supported.size(); ++i)
+        if (const icu::Locale locale = canonical(supported[i]); languageOf(locale) == languageOf(reader)) {
+            builder.addSupportedLocale(locale);
+            candidates.push_back(i);
+        }
+    if (candidates.empty())
+        return std::nullopt;
+    const icu::LocaleMatcher matcher = builder.build(status);
+    const icu::LocaleMatcher::Result result = matcher.getBestMatchResult(reader, status);
+    if (U_FAILURE(status) || result.getSupportedIndex() < 0)
+        return std::nullopt;
+    return candidates[static_cast<std::size_t>(result.getSupportedIndex())];
+}
+
+} // namespace Intl

@@ -1,0 +1,97 @@
+#include "Pictures/Pictures.h"
+
+#include "Pictures/Decoders.h"
+#include "Runtime/Companion.h"
+#include "Runtime/OnceSlot.h"
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace Pictures {
+
+namespace {
+
+using Bytes = std::span<const std::uint8_t>;
+
+Runtime::Error error(std::string message) {
+    return {.message = std::move(message), .file = {}};
+}
+
+std::uint32_t bigEndian(Bytes bytes) {
+    std::uint32_t value = 0;
+    for (const std::uint8_t byte : bytes)
+        value = value << 8 | byte;
+    return value;
+}
+
+constexpr std::array<std::uint8_t, 16> pngHead = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n',
+                                                  0,    0,   0,   13,  'I',  'H',  'D',  'R'};
+
+bool startsWith(Bytes bytes, Bytes head) {
+    return bytes.size() >= head.size() && std::ranges::equal(bytes.first(head.size()), head);
+}
+
+std::optional<Size> pngSize(Bytes bytes) {
+    if (bytes.size() < pngHead.size() + 8)
+        return std::nullopt;
+    return Size{Encoding::png, bigEndian(bytes.subspan(16, 4)), bigEndian(bytes.subspan(20, 4))};
+}
+
+// Goes from segment to segment up to the one that begins a frame.
+std::optional<Size> jpegSize(Bytes bytes) {
+    std::size_t at = 2;
+    while (at + 4 <= bytes.size()) {
+        const std::uint8_t marker = bytes[at + 1];
+        if (bytes[at] != 0xFF || marker == 0xFF) { // bytes between segments, or filling before a marker
+            ++at;
+            continue;
+        }
+        at += 2;
+        if (marker == 0x00 || marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8))
+            continue; // stands alone
+        if (marker == 0xD9 || marker == 0xDA)
+            return std::nullopt; // pixels or the end before any frame
+        // C4, C8 and CC lie among the frames' markers and are none.
+        if (marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC) {
+            if (at + 7 > bytes.size())
+                return std::nullopt;
+            return Size{Encoding::jpeg, bigEndian(bytes.subspan(at + 5, 2)), bigEndian(bytes.subspan(at + 3, 2))};
+        }
+        at += bigEndian(bytes.subspan(at, 2));
+    }
+    return std::nullopt;
+}
+
+const Decoders* decoders() {
+    static Runtime::OnceSlot<const Decoders*> slot;
+    return slot.get([]() -> const Decoders* {
+        const auto open = reinterpret_cast<decltype(&lumoraPictures)>(
+            Runtime::companionSymbol("lumora-pictures.so", "lumoraPictures"));
+        return open == nullptr ? nullptr : open();
+    });
+}
+
+} // namespace
+
+Runtime::Result<Size> measure(std::span<const std::uint8_t> bytes) {
+    constexpr std::array<std::uint8_t, 3> jpegHead = {0xFF, 0xD8, 0xFF};
+    const bool isPng = startsWith(bytes, pngHead);
+    if (!isPng && !startsWith(bytes, jpegHead))
+        return error("is neither a PNG nor a JPEG");
+    const auto size = isPng ? pngSize(bytes) : jpegSize(bytes);
+    if (!size || size->width == 0 || size->height == 0)
+        return error(isPng ? "is a damaged PNG: no size" : "is a damaged JPEG: no size");
+    return *size;
+}
+
+Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) {
+    const auto size = measure(bytes);
+    if (!size)
+        return size.error();
+    const Decoders* found = decoders();
+    if (found == nullptr)
+        return error("cannot be decoded: lumora-pictures.so is missing");
+    return size->encoding == Encoding::png ? found->png(bytes, maxPixels) : found->jpeg(bytes, maxPixels);
+}
+
+} // namespace Pictures

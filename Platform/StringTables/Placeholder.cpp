@@ -1,0 +1,146 @@
+#include "StringTables/Placeholder.h"
+
+namespace StringTables {
+
+namespace {
+
+// Reads the parts of a placeholder in their order; false means that there is none.
+class Reader {
+public:
+    Reader(std::string_view format, std::size_t percent) noexcept : format_(format), at_(percent + 1) {
+        out_.begin = percent;
+    }
+
+    bool read() noexcept {
+        if (take('%')) {
+            out_.end = at_;
+            return true;
+        }
+        if (!position())
+            return false;
+        flags();
+        if (!size(out_.width) || (take('.') && !precision()))
+            return false;
+        length();
+        return conversion();
+    }
+    const Placeholder& placeholder() const noexcept { return out_; }
+
+private:
+    char next() const noexcept { return at_ < format_.size() ? format_[at_] : '\0'; }
+    bool take(char c) noexcept {
+        const bool is = next() == c && at_ < format_.size();
+        at_ += is;
+        return is;
+    }
+
+    // Digits at the front; false when there are more than `most`. None is the number 0.
+    bool digits(int most, int& value) noexcept {
+        value = 0;
+        for (int count = 0; next() >= '0' && next() <= '9'; ++count, ++at_) {
+            if (count == most)
+                return false;
+            value = value * 10 + (next() - '0');
+        }
+        return true;
+    }
+
+    // "12$". Digits without the sign are flags and width, to be read again.
+    bool position() noexcept {
+        const std::size_t begin = at_;
+        int number = 0;
+        const bool few = digits(4, number);
+        while (next() >= '0' && next() <= '9')
+            ++at_;
+        if (!take('$')) {
+            at_ = begin;
+            return true;
+        }
+        out_.position = static_cast<std::uint16_t>(number);
+        return few && number > 0;
+    }
+
+    void flags() noexcept {
+        for (;; ++at_)
+            switch (next()) {
+            case '-':
+                out_.leftAligned = true;
+                break;
+            case '+':
+                out_.plusSign = true;
+                break;
+            case ' ':
+                out_.spaceSign = true;
+                break;
+            case '#':
+                out_.alternative = true;
+                break;
+            case '0':
+                out_.zeroPadded = true;
+                break;
+            case '\'': // groups digits elsewhere; has no effect here
+                break;
+            default:
+                return;
+            }
+    }
+
+    bool size(Placeholder::Size& out) noexcept {
+        using From = Placeholder::Size::From;
+        const std::size_t begin = at_;
+        if (take('*'))
+            out.from = From::argument;
+        else if (!digits(6, out.value))
+            return false;
+        else if (at_ != begin)
+            out.from = From::number;
+        return true;
+    }
+
+    // Behind its point. A point alone is a precision of zero.
+    bool precision() noexcept {
+        if (!size(out_.precision))
+            return false;
+        if (out_.precision.from == Placeholder::Size::From::none)
+            out_.precision.from = Placeholder::Size::From::number;
+        return true;
+    }
+
+    void length() noexcept {
+        if (take('h')) {
+            out_.bits = take('h') ? 8 : 16;
+        } else if (take('l')) {
+            take('l');
+        } else {
+            constexpr std::string_view others = "qztjL"; // every whole number travels in 64 bits
+            if (next() != '\0' && others.find(next()) != others.npos)
+                ++at_;
+        }
+    }
+
+    bool conversion() noexcept {
+        constexpr std::string_view known = "@diuxXocDUOC", read = "@diuxXocduoc";
+        const std::size_t found = next() == '\0' ? known.npos : known.find(next());
+        if (found == known.npos)
+            return false;
+        out_.conversion = read[found];
+        out_.kind = found == 0 ? Placeholder::Kind::text : Placeholder::Kind::integer;
+        out_.end = ++at_;
+        return true;
+    }
+
+    std::string_view format_;
+    std::size_t at_;
+    Placeholder out_;
+};
+
+} // namespace
+
+std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t from) noexcept {
+    for (std::size_t at = format.find('%', from); at != format.npos; at = format.find('%', at + 1))
+        if (Reader reader(format, at); reader.read())
+            return reader.placeholder();
+    return std::nullopt;
+}
+
+} // namespace StringTables

@@ -1,0 +1,165 @@
+#include "StringTables/Table.h"
+
+#include "StringTables/internal/Contents.h"
+#include "StringTables/internal/Unicode.h"
+
+namespace StringTables {
+
+namespace internal {
+
+std::string quoted(std::string_view text) {
+    constexpr std::size_t longest = 60;
+    std::size_t size = std::min(text.size(), longest);
+    while (size < text.size() && size > 0 && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
+        --size; // not within a character
+    std::string out = "\"";
+    for (const char c : text.substr(0, size))
+        out += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
+    return out + (size < text.size() ? "…\"" : "\"");
+}
+
+Location Locator::locate(std::size_t offset) noexcept {
+    if (!counts_)
+        return {};
+    for (; at_ < offset; ++at_) {
+        const char c = source_[at_];
+        if (c == '\n' || (c == '\r' && (at_ + 1 == source_.size() || source_[at_ + 1] != '\n'))) {
+            ++location_.line;
+            location_.column = 1;
+        } else if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) {
+            ++location_.column;
+        }
+    }
+    return location_;
+}
+
+Runtime::Error Locator::error(std::size_t offset, std::string message) {
+    if (!counts_)
+        return {"byte " + std::to_string(offset) + ": " + message, {}};
+    const Location at = locate(offset);
+    return {std::move(message), {}, at.line, at.column};
+}
+
+Runtime::Error Contents::errorAt(std::size_t offset, std::string message) const {
+    return Locator(*this).error(offset, std::move(message));
+}
+
+void Contents::note(std::string_view before, std::string_view key, std::string_view after, std::size_t offset) {
+    if (found.size() == Table::maxNotes)
+        ++more;
+    else
+        found.push_back({static_cast<std::uint32_t>(offset), std::string(before).append(quoted(key)).append(after)});
+}
+
+void Contents::skipped(std::string_view key, std::string_view what, std::size_t offset) {
+    note("the value of ", key, std::string(" is ").append(what).append(", not a text; passed over"), offset);
+}
+
+void Contents::finish() {
+    index.build(entries, [this](const Entry& again) {
+        note("the key ", again.key, " appears again; this text holds", again.offset);
+    });
+    std::ranges::stable_sort(found, {}, &Note::offset);
+    Locator locator(*this);
+    for (Note& kept : found)
+        notes.push_back(locator.error(kept.offset, std::move(kept.message)));
+    if (more != 0)
+        notes.push_back({std::to_string(more) + " more of such notes", {}});
+    found = {};
+}
+
+namespace {
+
+constexpr std::string_view markLittle = "\xFF\xFE", markBig = "\xFE\xFF";
+
+// UTF-16 is told by its byte-order mark or, since a table begins with an ASCII character, by a zero beside that.
+std::optional<ByteOrder> utf16Order(std::string_view bytes) {
+    if (bytes.starts_with(markLittle))
+        return ByteOrder::little;
+    if (bytes.starts_with(markBig))
+        return ByteOrder::big;
+    if (bytes.size() < 2 || (bytes[0] == '\0') == (bytes[1] == '\0'))
+        return std::nullopt;
+    return bytes[0] == '\0' ? ByteOrder::big : ByteOrder::little;
+}
+
+Runtime::Result<void> toUtf8(Contents& contents, ByteOrder order) {
+    const std::string bytes = std::move(contents.source);
+    std::string_view units = bytes;
+    if (units.starts_with(order == ByteOrder::big ? markBig : markLittle))
+        units.remove_prefix(2);
+    contents.isUtf8 = true;
+    contents.source.assign(units.size() / 2 * 3, '\0');
+    const Decoded decoded = decodeUtf16(units, order, contents.source.data());
+    contents.source.resize(static_cast<std::size_t>(decoded.end - contents.source.data()));
+    if (decoded.read == units.size())
+        return {};
+    return contents.errorAt(contents.source.size(),
+                            units.size() - decoded.read == 1 ? "half a UTF-16 unit" : "a lone surrogate in UTF-16");
+}
+
+Runtime::Result<void> fill(Contents& contents) {
+    if (contents.source.starts_with("bplist0")) {
+        contents.form = Form::binary;
+        return readBinary(contents);
+    }
+    if (const auto order = utf16Order(contents.source))
+        if (auto decoded = toUtf8(contents, *order); !decoded)
+            return decoded;
+    if (contents.source.starts_with("\xEF\xBB\xBF")) {
+        contents.begin = 3;
+        contents.isUtf8 = true;
+    }
+    // No table of the text form begins with '<'.
+    const std::size_t first = contents.source.find_first_not_of(" \t\r\n", contents.begin);
+    if (first == std::string::npos || contents.source[first] != '<')
+        return readText(contents);
+    contents.form = Form::xml;
+    return readXml(contents);
+}
+
+} // namespace
+
+} // namespace internal
+
+Runtime::Result<Table> Table::read(std::string bytes) {
+    if (bytes.size() > maxBytes)
+        return Runtime::Error{"the table is larger than " + std::to_string(maxBytes) + " bytes", {}};
+    auto contents = std::make_unique<internal::Contents>(std::move(bytes));
+    if (auto filled = internal::fill(*contents); !filled)
+        return std::move(filled.error());
+    contents->finish();
+    Table table;
+    table.contents_ = std::move(contents);
+    return table;
+}
+
+Table::Table() = default;
+Table::Table(Table&&) noexcept = default;
+Table& Table::operator=(Table&&) noexcept = default;
+Table::~Table() = default;
+
+std::optional<std::string_view> Table::find(std::string_view key) const noexcept {
+    if (!contents_)
+        return std::nullopt;
+    const std::size_t found = contents_->index.find(key, contents_->entries);
+    return found == internal::Index::none ? std::nullopt : std::optional(contents_->entries[found].text);
+}
+
+std::span<const Entry> Table::entries() const noexcept {
+    return contents_ ? std::span<const Entry>(contents_->entries) : std::span<const Entry>();
+}
+
+std::span<const Runtime::Error> Table::notes() const noexcept {
+    return contents_ ? std::span<const Runtime::Error>(contents_->notes) : std::span<const Runtime::Error>();
+}
+
+Location Table::locate(const Entry& entry) const noexcept {
+    return contents_ ? internal::Locator(*contents_).locate(entry.offset) : Location{};
+}
+
+Form Table::form() const noexcept {
+    return contents_ ? contents_->form : Form::text;
+}
+
+} // namespace StringTables

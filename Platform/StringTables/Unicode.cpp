@@ -1,0 +1,101 @@
+#include "StringTables/internal/Unicode.h"
+
+#include "StringTables/internal/Scan.h"
+
+namespace StringTables::internal {
+
+namespace {
+
+constexpr bool isTail(unsigned char byte) noexcept {
+    return (byte & 0xC0) == 0x80;
+}
+
+// The length of the well-formed character of more than one byte at `at`, or 0. The bounds of the second byte keep out
+// surrogates, over-long forms and what lies above U+10FFFF.
+std::size_t characterLength(const unsigned char* at, std::size_t left) noexcept {
+    const unsigned char lead = at[0];
+    if (lead < 0xC2 || lead > 0xF4 || left < 2)
+        return 0;
+    if (lead < 0xE0)
+        return isTail(at[1]) ? 2 : 0;
+    const unsigned char low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+    const unsigned char high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+    if (at[1] < low || at[1] > high || left < 3 || !isTail(at[2]))
+        return 0;
+    if (lead < 0xF0)
+        return 3;
+    return left >= 4 && isTail(at[3]) ? 4 : 0;
+}
+
+} // namespace
+
+std::size_t firstInvalidUtf8(std::string_view bytes) noexcept {
+    const char* at = bytes.data();
+    const char* const end = at + bytes.size();
+    while ((at = skipAscii(at, end)) != end)
+        do {
+            const auto left = static_cast<std::size_t>(end - at);
+            const std::size_t length = characterLength(reinterpret_cast<const unsigned char*>(at), left);
+            if (length == 0)
+                return bytes.size() - left;
+            at += length;
+        } while (at != end && static_cast<unsigned char>(*at) >= 0x80);
+    return std::string_view::npos;
+}
+
+char* putUtf8(char* out, char32_t code) noexcept {
+    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
+    if (code < 0x80) {
+        put(code);
+        return out;
+    }
+    if (code < 0x800) {
+        put(0xC0 | code >> 6);
+    } else {
+        if (code < 0x10000) {
+            put(0xE0 | code >> 12);
+        } else {
+            put(0xF0 | code >> 18);
+            put(0x80 | (code >> 12 & 0x3F));
+        }
+        put(0x80 | (code >> 6 & 0x3F));
+    }
+    put(0x80 | (code & 0x3F));
+    return out;
+}
+
+Decoded decodeUtf16(std::string_view bytes, ByteOrder order, char* out) noexcept {
+    const std::size_t first = order == ByteOrder::big ? 0 : 1; // of a unit's bytes, the more significant
+    const auto unitAt = [&](std::size_t at) {
+        return static_cast<char32_t>(static_cast<unsigned char>(bytes[at + first]) << 8 |
+                                     static_cast<unsigned char>(bytes[at + 1 - first]));
+    };
+    std::size_t at = 0;
+    while (bytes.size() - at >= 2) {
+        char32_t code = unitAt(at);
+        std::size_t length = 2;
+        if (isHighSurrogate(code) && bytes.size() - at >= 4 && isLowSurrogate(unitAt(at + 2))) {
+            code = joinSurrogates(code, unitAt(at + 2));
+            length = 4;
+        } else if (isHighSurrogate(code) || isLowSurrogate(code)) {
+            break;
+        }
+        out = putUtf8(out, code);
+        at += length;
+    }
+    return {out, at};
+}
+
+char32_t takeCharacter(std::string_view& utf8) noexcept {
+    const auto at = [&utf8](std::size_t i) { return static_cast<char32_t>(static_cast<unsigned char>(utf8[i])); };
+    char32_t code = at(0);
+    const std::size_t length = code < 0x80 ? 1 : code < 0xE0 ? 2 : code < 0xF0 ? 3 : 4;
+    if (length > 1)
+        code &= 0x7Fu >> length;
+    for (std::size_t i = 1; i < length; ++i)
+        code = code << 6 | (at(i) & 0x3F);
+    utf8.remove_prefix(length);
+    return code;
+}
+
+} // namespace StringTables::internal

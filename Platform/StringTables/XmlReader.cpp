@@ -1,0 +1,180 @@
+#include "StringTables/internal/Contents.h"
+#include <expat.h>
+
+namespace StringTables::internal {
+
+namespace {
+
+enum class Kind : std::uint8_t { plist, dict, array, key, string, leaf };
+
+struct Element {
+    const char* name;
+    Kind kind;
+    const char* what = nullptr; // in a note about a value that is no text
+};
+
+constexpr Element elements[] = {{"string", Kind::string},
+                                {"key", Kind::key},
+                                {"dict", Kind::dict, "a dictionary"},
+                                {"array", Kind::array, "an array"},
+                                {"integer", Kind::leaf, "a number"},
+                                {"real", Kind::leaf, "a number"},
+                                {"true", Kind::leaf, "a truth value"},
+                                {"false", Kind::leaf, "a truth value"},
+                                {"date", Kind::leaf, "a date"},
+                                {"data", Kind::leaf, "data"},
+                                {"plist", Kind::plist}};
+
+class XmlReader {
+public:
+    explicit XmlReader(Contents& contents) : contents_(contents), begin_(contents.source.find('<', contents.begin)) {}
+
+    Runtime::Result<void> read();
+
+private:
+    struct Level {
+        Kind kind;
+        bool hasKey = false; // dict: a key waits for its value
+        bool filled = false; // plist: its one value was there
+    };
+
+    void open(const char* name);
+    void close();
+    void characters(std::string_view piece);
+    std::string place(const Element& element);
+    void stop(std::string message);
+    std::size_t offset() const { // the parser's is -1 where nothing was read yet
+        return begin_ + static_cast<std::size_t>(std::max<XML_Index>(XML_GetCurrentByteIndex(parser_.get()), 0));
+    }
+    bool inTable() const noexcept { return levels_.size() == tableDepth; }
+
+    // How many elements are open between the table's keys and texts: <plist><dict>.
+    static constexpr std::size_t tableDepth = 2;
+
+    struct Free {
+        void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
+    };
+    std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser_;
+    Contents& contents_;
+    std::size_t begin_;
+    std::vector<Level> levels_;
+    std::string text_; // of the key or string that is open
+    std::string_view key_;
+    std::size_t keyOffset_ = 0;
+    std::optional<Runtime::Error> error_;
+};
+
+Runtime::Result<void> XmlReader::read() {
+    parser_.reset(XML_ParserCreate(contents_.isUtf8 ? "UTF-8" : nullptr));
+    if (!parser_)
+        return Runtime::Error{"no memory for the XML parser", {}};
+    XML_SetUserData(parser_.get(), this);
+    XML_SetElementHandler(
+        parser_.get(), [](void* self, const char* name, const char**) { static_cast<XmlReader*>(self)->open(name); },
+        [](void* self, const char*) { static_cast<XmlReader*>(self)->close(); });
+    XML_SetCharacterDataHandler(parser_.get(), [](void* self, const char* text, int size) {
+        static_cast<XmlReader*>(self)->characters({text, static_cast<std::size_t>(size)});
+    });
+    // Property lists declare no entities; without declarations none can grow or reach outside.
+    XML_SetEntityDeclHandler(parser_.get(),
+                             [](void* self, const char*, int, const char*, int, const char*, const char*, const char*,
+                                const char*) { static_cast<XmlReader*>(self)->stop("an entity declaration"); });
+    XML_SetSkippedEntityHandler(parser_.get(), [](void* self, const char* name, int) {
+        static_cast<XmlReader*>(self)->stop("the unknown entity " + quoted(name));
+    });
+    const std::string_view document = std::string_view(contents_.source).substr(begin_);
+    const XML_Status status = XML_Parse(parser_.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
+    if (error_)
+        return *std::move(error_);
+    if (status != XML_STATUS_OK)
+        return contents_.errorAt(offset(), XML_ErrorString(XML_GetErrorCode(parser_.get())));
+    return {};
+}
+
+// The first reason stands; the handlers may be called a last time after it.
+void XmlReader::stop(std::string message) {
+    if (!error_)
+        error_ = contents_.errorAt(offset(), std::move(message));
+    XML_StopParser(parser_.get(), XML_FALSE);
+}
+
+// Takes note of `element` in what is open around it. Returns what is wrong with its place, or nothing.
+std::string XmlReader::place(const Element& element) {
+    const auto tag = [&element] { return std::string("<").append(element.name).append(">"); };
+    if (levels_.empty())
+        return element.kind == Kind::plist ? "" : "expected <plist>, not " + tag();
+    if (levels_.size() == Table::maxDepth)
+        return nestedTooDeeply;
+    Level& around = levels_.back();
+    switch (element.kind == Kind::plist ? Kind::leaf : around.kind) {
+    case Kind::plist:
+        if (around.filled || element.kind != Kind::dict)
+            return around.filled ? "a second value in <plist>" : "expected <dict>, not " + tag();
+        around.filled = true;
+        return {};
+    case Kind::dict:
+        if (around.hasKey == (element.kind == Kind::key))
+            return (around.hasKey ? "expected a value, not " : "expected <key>, not ") + tag();
+        around.hasKey = !around.hasKey;
+        return {};
+    case Kind::array:
+        return element.kind == Kind::key ? "<key> outside of a dictionary" : "";
+    default:
+        return tag() + " does not belong here";
+    }
+}
+
+void XmlReader::open(const char* name) {
+    if (error_)
+        return;
+    const auto* const element =
+        std::ranges::find_if(elements, [name](const Element& known) { return std::string_view(known.name) == name; });
+    if (element == std::end(elements))
+        return stop("the unknown element <" + std::string(name) + ">");
+    const bool inTable = this->inTable();
+    if (std::string wrong = place(*element); !wrong.empty())
+        return stop(std::move(wrong));
+    if (inTable && element->kind == Kind::key)
+        keyOffset_ = offset();
+    else if (inTable && element->kind != Kind::string)
+        contents_.skipped(key_, element->what, keyOffset_);
+    levels_.push_back({element->kind});
+    text_.clear();
+}
+
+void XmlReader::close() {
+    if (error_)
+        return;
+    const Level closed = levels_.back();
+    levels_.pop_back();
+    if (closed.hasKey)
+        return stop("the key " + quoted(text_) + " has no value");
+    if (closed.kind == Kind::plist && !closed.filled)
+        return stop("<plist> is empty");
+    if (!inTable() || (closed.kind != Kind::key && closed.kind != Kind::string))
+        return;
+    const std::string_view kept =
+        contents_.arena.keep(std::ranges::copy(text_, contents_.arena.room(text_.size())).out);
+    if (closed.kind == Kind::key)
+        key_ = kept;
+    else if (!contents_.add(key_, kept, keyOffset_))
+        stop(tooManyEntries);
+}
+
+void XmlReader::characters(std::string_view piece) {
+    if (error_ || levels_.empty())
+        return;
+    const Kind kind = levels_.back().kind;
+    if (kind == Kind::key || kind == Kind::string)
+        text_ += piece;
+    else if (kind != Kind::leaf && piece.find_first_not_of(" \t\r\n") != piece.npos)
+        stop("text outside of a key or value");
+}
+
+} // namespace
+
+Runtime::Result<void> readXml(Contents& contents) {
+    return XmlReader(contents).read();
+}
+
+} // namespace StringTables::internal

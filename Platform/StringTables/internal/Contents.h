@@ -1,0 +1,101 @@
+// StringTables/internal/Contents.h
+// What a table holds, while a reader fills it and after.
+// Ownership: never moved once its bytes are in place; every view points into `source` or `arena`.
+#pragma once
+
+#include "StringTables/Table.h"
+#include "StringTables/internal/Index.h"
+#include <algorithm>
+
+namespace StringTables::internal {
+
+// Memory for texts that are not in the source as they read: never moves, freed as a whole.
+class Arena {
+public:
+    // Room for `size` bytes; keep() makes the part up to `end` permanent.
+    char* room(std::size_t size) {
+        if (static_cast<std::size_t>(end_ - next_) < size) {
+            const std::size_t chunk = std::max(size, chunks_.empty() ? smallest : largest);
+            next_ = chunks_.emplace_back(new char[chunk]).get();
+            end_ = next_ + chunk;
+        }
+        return next_;
+    }
+    std::string_view keep(const char* end) noexcept {
+        const std::string_view kept(next_, static_cast<std::size_t>(end - next_));
+        next_ += kept.size();
+        return kept;
+    }
+
+private:
+    static constexpr std::size_t smallest = 4096, largest = 65536;
+    std::vector<std::unique_ptr<char[]>> chunks_;
+    char* next_ = nullptr;
+    char* end_ = nullptr;
+};
+
+struct Contents {
+    explicit Contents(std::string bytes) : source(std::move(bytes)) {}
+    Contents(const Contents&) = delete;
+    Contents& operator=(const Contents&) = delete;
+
+    std::string source;    // UTF-16 text as UTF-8
+    std::size_t begin = 0; // of what follows the byte-order mark
+    bool isUtf8 = false;   // known from the first bytes, whatever an XML declaration says
+    Form form = Form::text;
+    Arena arena;
+    std::vector<Entry> entries;
+    std::vector<Runtime::Error> notes;
+    Index index;
+
+    struct Note {
+        std::uint32_t offset;
+        std::string message;
+    };
+    std::vector<Note> found; // notes in the making, at most Table::maxNotes
+    std::size_t more = 0;    // notes that were not kept
+
+    // For the readers. False when the table is full.
+    [[nodiscard]] bool add(std::string_view key, std::string_view text, std::size_t offset) {
+        if (entries.size() == Table::maxEntries)
+            return false;
+        entries.push_back({key, text, static_cast<std::uint32_t>(offset)});
+        return true;
+    }
+    // That the value of `key` is `what` ("an array") and was passed over.
+    void skipped(std::string_view key, std::string_view what, std::size_t offset);
+    void note(std::string_view before, std::string_view key, std::string_view after, std::size_t offset);
+    [[nodiscard]] Runtime::Error errorAt(std::size_t offset, std::string message) const;
+    // Makes the table ready for look-ups when its entries are complete.
+    void finish();
+};
+
+// Counts lines and columns of a text from its beginning on. Lines end at LF, CR or CR LF.
+class Locator {
+public:
+    explicit Locator(const Contents& contents) noexcept
+        : source_(contents.source), at_(contents.begin), counts_(contents.form != Form::binary) {}
+    // Of `offset`, which is not before the last one asked for.
+    [[nodiscard]] Location locate(std::size_t offset) noexcept;
+    // With line and column, or with the byte in a binary table.
+    [[nodiscard]] Runtime::Error error(std::size_t offset, std::string message);
+
+private:
+    std::string_view source_;
+    std::size_t at_;
+    bool counts_;
+    Location location_{1, 1};
+};
+
+// `text` in quotation marks, for messages: one line, cut when it is long.
+[[nodiscard]] std::string quoted(std::string_view text);
+
+// Each fills the entries from the source, from `contents.begin` on, and leaves the rest to finish().
+[[nodiscard]] Runtime::Result<void> readText(Contents& contents);
+[[nodiscard]] Runtime::Result<void> readXml(Contents& contents);
+[[nodiscard]] Runtime::Result<void> readBinary(Contents& contents);
+
+inline constexpr const char* tooManyEntries = "the table has more entries than are accepted";
+inline constexpr const char* nestedTooDeeply = "nested too deeply";
+
+} // namespace StringTables::internal

@@ -1,0 +1,102 @@
+// StringTables/internal/Index.h
+// Finds the entry of a key: open addressing, and a part of each key's hash beside its entry's number, so that nearly
+// every look-up compares one key. Threads: immutable once built. Ownership: holds numbers only; the entries stay with
+// their owner.
+#pragma once
+
+#include "StringTables/Table.h"
+#include <bit>
+#include <cstring>
+
+namespace StringTables::internal {
+
+class Index {
+public:
+    // Enters the entries in their order. An entry whose key is there already replaces the earlier one in its place and
+    // is handed to `again`; what is left moves up.
+    template <class Again> void build(std::vector<Entry>& entries, Again&& again);
+
+    // The number of the key's entry, or `none`.
+    static constexpr std::size_t none = ~std::size_t{0};
+    [[nodiscard]] std::size_t find(std::string_view key, std::span<const Entry> entries) const noexcept;
+
+private:
+    // A slot: the upper half of the key's hash above the entry's number plus one; 0 is free.
+    static constexpr std::uint64_t tagBits = 0xFFFFFFFF00000000;
+    static std::size_t entryOf(std::uint64_t slot) noexcept { return (slot & ~tagBits) - 1; } // none if free
+
+    template <class Word> static std::uint64_t load(const char* from) noexcept {
+        Word word;
+        std::memcpy(&word, from, sizeof word);
+        return word;
+    }
+    std::uint64_t hash(std::string_view key) const noexcept;
+    std::uint64_t& slotOf(std::uint64_t hash, std::string_view key, std::span<const Entry> entries) const noexcept;
+
+    std::unique_ptr<std::uint64_t[]> slots_;
+    std::uint64_t mask_ = 0;
+    std::uint64_t seed_ = 0;
+};
+
+inline std::uint64_t Index::hash(std::string_view key) const noexcept {
+    __extension__ using Wide = unsigned __int128;
+    const auto mix = [](std::uint64_t a, std::uint64_t b) {
+        const Wide product = static_cast<Wide>(a) * b;
+        return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
+    };
+    constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
+    // Both factors of every product are masked with what only this process knows: no key can force a zero.
+    const std::uint64_t second = seed_ * spread ^ spread;
+    std::uint64_t first = seed_;
+    const char* at = key.data();
+    std::size_t left = key.size();
+    for (; left > 16; at += 16, left -= 16)
+        first = mix(load<std::uint64_t>(at) ^ first, load<std::uint64_t>(at + 8) ^ second);
+    std::uint64_t a = 0, b = 0;
+    if (left >= 8) {
+        a = load<std::uint64_t>(at);
+        b = load<std::uint64_t>(at + left - 8);
+    } else if (left >= 4) {
+        a = load<std::uint32_t>(at);
+        b = load<std::uint32_t>(at + left - 4);
+    } else if (left > 0) {
+        a = load<std::uint8_t>(at) << 16 | load<std::uint8_t>(at + left / 2) << 8 | load<std::uint8_t>(at + left - 1);
+    }
+    return mix(mix(a ^ first, b ^ second) ^ key.size(), spread);
+}
+
+inline std::uint64_t& Index::slotOf(std::uint64_t hash, std::string_view key,
+                                    std::span<const Entry> entries) const noexcept {
+    for (std::uint64_t at = hash & mask_;; at = (at + 1) & mask_) {
+        std::uint64_t& slot = slots_[at];
+        if (slot == 0 || (((slot ^ hash) & tagBits) == 0 && entries[entryOf(slot)].key == key))
+            return slot;
+    }
+}
+
+inline std::size_t Index::find(std::string_view key, std::span<const Entry> entries) const noexcept {
+    return entries.empty() ? none : entryOf(slotOf(hash(key), key, entries));
+}
+
+template <class Again> void Index::build(std::vector<Entry>& entries, Again&& again) {
+    const std::size_t size = std::bit_ceil(entries.size() + entries.size() / 2 + 1); // at most two thirds are taken
+    slots_ = std::make_unique<std::uint64_t[]>(size);
+    mask_ = size - 1;
+    // The address differs from run to run: nobody can prepare keys whose hashes are equal.
+    seed_ = reinterpret_cast<std::uintptr_t>(slots_.get());
+    std::size_t kept = 0;
+    for (const Entry entry : entries) {
+        const std::uint64_t hashed = hash(entry.key);
+        std::uint64_t& slot = slotOf(hashed, entry.key, entries);
+        if (slot != 0) {
+            again(entry);
+            entries[entryOf(slot)] = entry;
+        } else {
+            entries[kept++] = entry;
+            slot = (hashed & tagBits) | kept;
+        }
+    }
+    entries.resize(kept);
+}
+
+} // namespace StringTables::internal

@@ -1,0 +1,38 @@
+// StringTables/internal/Unicode.h
+// UTF-8 checked and made. Threads: any; no state.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace StringTables::internal {
+
+// The offset of the first byte of `bytes` that belongs to no well-formed character, or npos.
+[[nodiscard]] std::size_t firstInvalidUtf8(std::string_view bytes) noexcept;
+
+// Writes `code`, a scalar value, at `out` (at most 4 bytes) and returns the end.
+[[nodiscard]] char* putUtf8(char* out, char32_t code) noexcept;
+
+constexpr bool isHighSurrogate(char32_t unit) noexcept {
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+constexpr bool isLowSurrogate(char32_t unit) noexcept {
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+constexpr char32_t joinSurrogates(char32_t high, char32_t low) noexcept {
+    return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
+}
+
+enum class ByteOrder { little, big };
+
+struct Decoded {
+    char* end;        // of what was written
+    std::size_t read; // bytes of UTF-16 used: all of them, or those before a lone surrogate or half a unit
+};
+// UTF-16 to UTF-8. `out` has room for three bytes per unit.
+[[nodiscard]] Decoded decodeUtf16(std::string_view bytes, ByteOrder order, char* out) noexcept;
+
+// The character at the front of `utf8`, which is well-formed and not empty; takes it off.
+[[nodiscard]] char32_t takeCharacter(std::string_view& utf8) noexcept;
+
+} // namespace StringTables::internal

@@ -1,0 +1,23 @@
+// SwiftUI/Text.h
+// A text as a view.
+// Text: UTF-8. Threads: plain values.
+#pragma once
+
+#include <string>
+#include <utility>
+
+namespace SwiftUI {
+
+class Text {
+public:
+    // Shown as it is, without being looked up.
+    explicit Text(std::string verbatim) : text_(std::move(verbatim)) {}
+
+    const std::string& string() const noexcept { return text_; }
+    friend bool operator==(const Text&, const Text&) = default;
+
+private:
+    std::string text_;
+};
+
+} // namespace SwiftUI

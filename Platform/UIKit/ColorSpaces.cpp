@@ -1,0 +1,60 @@
+#include "UIKit/ColorSpaces.h"
+
+#include <array>
+#include <cmath>
+
+namespace UIKit::detail {
+
+namespace {
+
+using Components = std::array<double, 3>;
+
+// `curve` of the component's size, with the component's sign.
+template <class Curve> double mirrored(double component, Curve curve) noexcept {
+    return std::copysign(curve(std::abs(component)), component);
+}
+
+double linear(double component) noexcept {
+    return mirrored(component, [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); });
+}
+double curved(double component) noexcept {
+    return mirrored(component,
+                    [](double c) { return c <= 0.04045 / 12.92 ? c * 12.92 : 1.055 * std::pow(c, 1 / 2.4) - 0.055; });
+}
+
+// From the chromaticities of both spaces' primaries and their common white (0.3127, 0.3290), worked out in fractions
+// and rounded once.
+constexpr std::array<Components, 3> displayP3ToSrgb = {{
+    {1.2249401762805598, -0.22494017628055996, 0},
+    {-0.042056954709688163, 1.0420569547096881, 0},
+    {-0.019637554590334432, -0.078636045550631889, 1.0982736001409663},
+}};
+
+RGBA fromDisplayP3(const std::array<double, 4>& color) noexcept {
+    const Components from = {linear(color[0]), linear(color[1]), linear(color[2])};
+    Components to{};
+    for (std::size_t i = 0; i < 3; ++i)
+        to[i] =
+            curved(displayP3ToSrgb[i][0] * from[0] + displayP3ToSrgb[i][1] * from[1] + displayP3ToSrgb[i][2] * from[2]);
+    return {to[0], to[1], to[2], color[3]};
+}
+
+} // namespace
+
+RGBA toExtendedSrgb(const AssetCatalog::ColorValue& color) noexcept {
+    const auto& c = color.components;
+    switch (color.space) {
+    case AssetCatalog::ColorSpace::displayP3:
+        return fromDisplayP3(c);
+    case AssetCatalog::ColorSpace::gray: {
+        const double gray = curved(mirrored(c[0], [](double white) { return std::pow(white, 2.2); }));
+        return {gray, gray, gray, c[3]};
+    }
+    case AssetCatalog::ColorSpace::srgb:
+    case AssetCatalog::ColorSpace::extendedSrgb:
+        break;
+    }
+    return {c[0], c[1], c[2], c[3]};
+}
+
+} // namespace UIKit::detail

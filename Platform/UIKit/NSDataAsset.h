@@ -1,0 +1,38 @@
+// UIKit/NSDataAsset.h
+// A file of a bundle's asset catalog.
+// Text: UTF-8. Threads: any. Ownership: a plain value; what it shows lives until the process ends.
+#pragma once
+
+#include "Foundation/NSBundle.h"
+#include "Runtime/Export.h"
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace UIKit {
+
+// A class that is derived from it and has a look-up of its own under the name assetWithName is asked itself by whoever
+// takes the class as a template argument.
+class LUMORA_EXPORT NSDataAsset {
+public:
+    // The data of that name (exact) in the asset catalog of `bundle`, in the variant that serves the traits in force
+    // now, or no value.
+    [[nodiscard]] static std::optional<NSDataAsset> assetWithName(std::string_view name,
+                                                                  const Foundation::NSBundle& bundle);
+
+    [[nodiscard]] std::string_view name() const noexcept { return name_; }
+    // "public.json"; empty when the catalog tells none.
+    [[nodiscard]] std::string_view typeIdentifier() const noexcept { return typeIdentifier_; }
+    [[nodiscard]] std::span<const std::uint8_t> data() const noexcept { return data_; }
+
+private:
+    NSDataAsset(std::string_view name, std::string_view typeIdentifier, std::span<const std::uint8_t> data) noexcept
+        : name_(name), typeIdentifier_(typeIdentifier), data_(data) {}
+
+    std::string_view name_;
+    std::string_view typeIdentifier_;
+    std::span<const std::uint8_t> data_;
+};
+
+} // namespace UIKit

@@ -1,0 +1,30 @@
+#include "UIKit/UIColor.h"
+
+#include "UIKit/BundleCatalog.h"
+#include "UIKit/ColorSpaces.h"
+
+namespace UIKit {
+
+std::optional<UIColor> UIColor::colorNamed(std::string_view name, const Foundation::NSBundle& bundle,
+                                           const UITraitCollection* traits) {
+    const auto found = detail::findAsset(AssetCatalog::Kind::color, name, bundle);
+    if (!found)
+        return std::nullopt;
+    return UIColor(State(Asset{found->catalog, found->index, traits == nullptr ? UITraitCollection{} : *traits}));
+}
+
+std::optional<RGBA> UIColor::rgba() const noexcept {
+    const UIColor now = resolved(UITraitCollection::current());
+    const RGBA* components = std::get_if<RGBA>(&now.state_);
+    return components == nullptr ? std::nullopt : std::optional(*components);
+}
+
+UIColor UIColor::resolved(const UITraitCollection& traits) const noexcept {
+    const Asset* asset = std::get_if<Asset>(&state_);
+    if (asset == nullptr)
+        return *this;
+    const AssetCatalog::Entry entry = (*asset->catalog)[asset->index];
+    return UIColor(State(detail::toExtendedSrgb(entry.color(entry.best(detail::wanted(asset->traits.over(traits)))))));
+}
+
+} // namespace UIKit

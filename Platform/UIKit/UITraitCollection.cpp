@@ -1,0 +1,46 @@
+#include "UIKit/UITraitCollection.h"
+
+#include <atomic>
+#include <bit>
+
+namespace UIKit {
+
+namespace {
+
+// All traits in one word, so that a change is never seen by halves.
+struct Packed {
+    float displayScale = 0;
+    UserInterfaceStyle style{};
+    AccessibilityContrast contrast{};
+    LayoutDirection direction{};
+    std::uint8_t unused = 0; // instead of padding, which has no value
+};
+
+constinit std::atomic<std::uint64_t> inForce{std::bit_cast<std::uint64_t>(Packed{})};
+
+template <class Trait> Trait either(Trait own, Trait other) noexcept {
+    return own == Trait{} ? other : own;
+}
+
+} // namespace
+
+UITraitCollection UITraitCollection::current() noexcept {
+    const auto packed = std::bit_cast<Packed>(inForce.load(std::memory_order_relaxed));
+    return {packed.style, packed.contrast, packed.displayScale, packed.direction};
+}
+
+void UITraitCollection::setCurrent(const UITraitCollection& traits) noexcept {
+    constexpr double largest = 1000; // beyond any screen, far from overflow
+    const bool isScale = traits.displayScale > 0 && traits.displayScale <= largest;
+    const Packed packed{isScale ? static_cast<float>(traits.displayScale) : 0.0F, traits.userInterfaceStyle,
+                        traits.accessibilityContrast, traits.layoutDirection};
+    inForce.store(std::bit_cast<std::uint64_t>(packed), std::memory_order_relaxed);
+}
+
+UITraitCollection UITraitCollection::over(const UITraitCollection& under) const noexcept {
+    return {either(userInterfaceStyle, under.userInterfaceStyle),
+            either(accessibilityContrast, under.accessibilityContrast), either(displayScale, under.displayScale),
+            either(layoutDirection, under.layoutDirection)};
+}
+
+} // namespace UIKit

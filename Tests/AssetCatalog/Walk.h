@@ -1,0 +1,57 @@
+// Tests/AssetCatalog/Walk.h
+// What tests and fuzzers do with the bytes of a catalog.
+#pragma once
+
+#include "AssetCatalog/Catalog.h"
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <span>
+#include <string_view>
+
+namespace Walk {
+
+// Bytes at the very end of their allocation, so that a read behind them is seen; aligned as a mapping is.
+class Exact {
+public:
+    explicit Exact(std::string_view bytes)
+        : size_(bytes.size()), bytes_(static_cast<std::uint8_t*>(::operator new (bytes.size(), std::align_val_t{16}))) {
+        std::copy(bytes.begin(), bytes.end(), bytes_.get());
+    }
+    std::span<const std::uint8_t> span() const { return {bytes_.get(), size_}; }
+
+private:
+    struct Free {
+        void operator()(std::uint8_t* bytes) const { ::operator delete (bytes, std::align_val_t{16}); }
+    };
+    std::size_t size_;
+    std::unique_ptr<std::uint8_t, Free> bytes_;
+};
+
+// Reads everything that a catalog gives out; the sum keeps the reads from being left out. Stops the process when the
+// catalog contradicts itself.
+inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
+    unsigned long long sum = 0;
+    const auto read = [&](std::span<const std::uint8_t> bytes) {
+        for (const std::uint8_t byte : bytes)
+            sum += byte;
+    };
+    for (std::size_t i = 0; i < catalog.size(); ++i) {
+        const AssetCatalog::Entry entry = catalog[i];
+        if (catalog.find(entry.kind(), entry.name()) != i || entry.best({}) >= entry.variants())
+            std::abort();
+        sum += entry.catalog().size() + (entry.isTemplate() ? 1U : 0U);
+        for (std::size_t variant = 0; variant < entry.variants(); ++variant) {
+            if (entry.kind() == AssetCatalog::Kind::image)
+                read(entry.picture(variant).bytes);
+            else if (entry.kind() == AssetCatalog::Kind::color)
+                sum += static_cast<unsigned long long>(entry.color(variant).components[3] * 2);
+            else
+                read(entry.data(variant).bytes);
+        }
+    }
+    return sum;
+}
+
+} // namespace Walk

@@ -1,0 +1,133 @@
+#include "AssetCatalog/Catalog.h"
+
+#include "../Support/TemporaryFolder.h"
+#include "Sample.h"
+#include "Walk.h"
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <limits>
+#include <set>
+#include <sys/stat.h>
+
+namespace {
+
+using namespace AssetCatalog;
+
+template <class Bytes> std::vector<int> numbers(const Bytes& bytes) {
+    return {bytes.begin(), bytes.end()};
+}
+
+TEST(Catalog, GivesBackWhatWasBuilt) {
+    const Support::TemporaryFolder folder;
+    const std::string path = folder.write(fileName, *build(Sample::assets()));
+    auto opened = Catalog::open(path);
+    ASSERT_TRUE(opened) << opened.error().text();
+    const Catalog catalog = std::move(*opened); // entries survive a move
+
+    ASSERT_EQ(catalog.size(), 4U);
+    const Entry image = catalog[*catalog.find(Kind::image, "send")];
+    EXPECT_EQ(image.catalog(), "Images");
+    EXPECT_EQ(image.name(), "send");
+    EXPECT_TRUE(image.isTemplate());
+    ASSERT_EQ(image.variants(), 2U);
+    const PictureView dark = image.picture(image.best(Sample::darkTwice));
+    EXPECT_EQ(dark.fit, Sample::darkTwice);
+    EXPECT_EQ(dark.encoding, Encoding::jpeg);
+    EXPECT_EQ(dark.width, 6U);
+    EXPECT_EQ(dark.height, 4U);
+    EXPECT_EQ(numbers(dark.bytes), (std::vector{1, 2, 3}));
+    EXPECT_EQ(numbers(image.picture(image.best({})).bytes), (std::vector{9}));
+
+    const Entry color = catalog[*catalog.find(Kind::color, "send")];
+    const ColorValue wide = color.color(color.best({}));
+    EXPECT_EQ(wide.space, ColorSpace::displayP3);
+    EXPECT_EQ(wide.components, (std::array{0.25, -0.5, 1.5, 1.0}));
+    EXPECT_EQ(color.color(color.best(Sample::darkTwice)).space, ColorSpace::gray);
+
+    const Entry data = catalog[*catalog.find(Kind::data, "send")];
+    EXPECT_EQ(data.data(0).typeIdentifier, "public.json");
+    EXPECT_EQ(numbers(data.data(0).bytes), (std::vector<int>{'{', '}'}));
+
+    EXPECT_TRUE(catalog.find(Kind::image, "folder/star_"));
+    for (const char* absent : {"", "Send", "sen", "send ", "folder/star", "star_"})
+        EXPECT_FALSE(catalog.find(Kind::image, absent)) << absent;
+    EXPECT_FALSE(catalog.find(Kind::color, "folder/star_"));
+}
+
+TEST(Catalog, FindsEveryOneOfMany) {
+    std::vector<Asset> assets;
+    for (int i = 0; i < 5000; ++i)
+        assets.push_back({Kind::color, "C", std::to_string(i * 7919), false, {}, {{}}, {}});
+    const Walk::Exact bytes(*build(assets));
+    auto catalog = Catalog::read(bytes.span());
+    ASSERT_TRUE(catalog);
+    std::set<std::size_t> found;
+    for (const Asset& asset : assets)
+        found.insert(catalog->find(Kind::color, asset.name).value());
+    EXPECT_EQ(found.size(), assets.size());
+}
+
+TEST(Catalog, SameAssetsGiveTheSameBytes) {
+    std::vector<Asset> assets = Sample::assets();
+    const std::string bytes = *build(assets);
+    std::ranges::reverse(assets);
+    for (Asset& asset : assets)
+        std::ranges::reverse(asset.colors);
+    EXPECT_EQ(*build(assets), bytes);
+
+    // Of two variants with one fit the first counts.
+    assets = Sample::assets();
+    assets[0].pictures.push_back({{}, Encoding::jpeg, 9, 9, {7}});
+    EXPECT_EQ(*build(assets), bytes);
+
+    EXPECT_EQ(Catalog::read(Walk::Exact(*build({})).span())->size(), 0U);
+}
+
+TEST(Catalog, BuilderRefusesWhatNobodyWouldRead) {
+    struct Case {
+        int line;
+        void (*edit)(std::vector<Asset>&);
+        const char* message;
+    };
+    const Case cases[] = {
+        {__LINE__, [](auto& assets) { assets[1].name = "send"; }, "two assets of one kind are named \"send\""},
+        {__LINE__, [](auto& assets) { assets[1].name = ""; }, "\"\" has a name that is empty or too long"},
+        {__LINE__, [](auto& assets) { assets[1].pictures.clear(); }, "\"folder/star_\" has no variant or too many"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = 0; }, "has a picture of nothing"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].bytes.clear(); }, "has a picture of nothing"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = (1U << 26) + 1; }, "too many pixels"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].encoding = Encoding{2}; }, "unknown sort"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].fit.direction = Direction{3}; }, "unknown sort"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].components[3] = 1.5; }, "impossible components"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].components[1] = std::numeric_limits<double>::quiet_NaN(); },
+         "impossible components"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.line);
+        std::vector<Asset> assets = Sample::assets();
+        c.edit(assets);
+        auto built = build(assets);
+        ASSERT_FALSE(built);
+        EXPECT_NE(built.error().message.find(c.message), std::string::npos) << built.error().message;
+    }
+}
+
+TEST(Catalog, OpensRegularFilesOnly) {
+    const Support::TemporaryFolder folder;
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    folder.write("empty", "");
+    folder.write("other", "something else altogether");
+    const std::pair<const char*, const char*> cases[] = {
+        {"none", "cannot be read: No such file or directory"},
+        {"", "is not a regular file"},
+        {"pipe", "is not a regular file"},
+        {"empty", "is not a compiled catalog"},
+        {"other", "is not a compiled catalog"},
+    };
+    for (const auto& [name, message] : cases) {
+        const std::string path = folder / name;
+        EXPECT_EQ(Catalog::open(path).error().text(), path + ": " + message);
+    }
+}
+
+} // namespace

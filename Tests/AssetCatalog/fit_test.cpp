@@ -1,0 +1,62 @@
+#include "AssetCatalog/Fit.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+namespace {
+
+using namespace AssetCatalog;
+
+// Two or three letters: direction (l, r), appearance (l, d), contrast (h), scale; '-' is any.
+Fit fit(const char* text) {
+    Fit fit;
+    fit.direction = text[0] == 'l' ? Direction::leftToRight : text[0] == 'r' ? Direction::rightToLeft : Direction::any;
+    fit.appearance = text[1] == 'l' ? Appearance::light : text[1] == 'd' ? Appearance::dark : Appearance::any;
+    fit.contrast = text[2] == 'h' ? Contrast::high : Contrast::any;
+    fit.scale = text[3] == '-' ? std::uint8_t{0} : static_cast<std::uint8_t>(text[3] - '0');
+    return fit;
+}
+
+struct Case {
+    int line;
+    const char* wanted;
+    std::vector<const char*> offered;
+    const char* best;
+};
+
+TEST(Fit, BestVariant) {
+    const Case cases[] = {
+        // Scale: the one wanted, any, the next larger, the largest smaller.
+        {__LINE__, "---2", {"---1", "---2", "---3", "----"}, "---2"},
+        {__LINE__, "---2", {"---1", "---3", "----"}, "----"},
+        {__LINE__, "---1", {"---3", "---2"}, "---2"},
+        {__LINE__, "---2", {"---1", "---3"}, "---3"},
+        {__LINE__, "---4", {"---1", "---3", "---2"}, "---3"},
+        // Appearance and direction: the one wanted, any, another; without a wish the more usual one.
+        {__LINE__, "-d--", {"----", "-l--", "-d--"}, "-d--"},
+        {__LINE__, "-d--", {"-l--", "----"}, "----"},
+        {__LINE__, "-l--", {"-d--", "----"}, "----"},
+        {__LINE__, "----", {"-d--", "-l--"}, "-l--"},
+        {__LINE__, "r---", {"l---", "----", "r---"}, "r---"},
+        {__LINE__, "r---", {"l---", "----"}, "----"},
+        {__LINE__, "----", {"r---", "l---"}, "l---"},
+        {__LINE__, "--h-", {"----", "--h-"}, "--h-"},
+        {__LINE__, "----", {"--h-", "----"}, "----"},
+        // Direction before appearance before contrast before scale.
+        {__LINE__, "rdh3", {"-dh3", "r--1"}, "r--1"},
+        {__LINE__, "-dh3", {"--h3", "-d-1"}, "-d-1"},
+        {__LINE__, "--h3", {"---3", "--h1"}, "--h1"},
+        // What does not fit at all is better than nothing; the first of equals counts.
+        {__LINE__, "rdh9", {"ll-1"}, "ll-1"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.line);
+        std::vector<Fit> offered;
+        for (const char* text : c.offered)
+            offered.push_back(fit(text));
+        EXPECT_STREQ(c.offered[bestFit(offered, fit(c.wanted))], c.best);
+    }
+    EXPECT_EQ(bestFit(std::vector{fit("---2"), fit("---2")}, fit("---2")), 0U);
+}
+
+} // namespace

@@ -1,0 +1,144 @@
+#include "Foundation/Host.h"
+#include "Foundation/NSBundle.h"
+
+#include "../Support/TemporaryFolder.h"
+#include <gtest/gtest.h>
+#include <latch>
+#include <thread>
+
+namespace {
+
+using Foundation::NSBundle;
+namespace Host = Foundation::Host;
+
+// A bundle of its own for each test: what a bundle has read it keeps.
+class Bundle : public ::testing::Test {
+protected:
+    ~Bundle() override { Host::reset(); }
+
+    void write(std::string_view file, std::string_view bytes) { folder_.write(file, bytes); }
+    const NSBundle& bundle() { return NSBundle::bundleWithPath(folder_.path()); }
+    std::string text(std::string_view key, std::string_view table = "Localizable") {
+        return bundle().localizedStringForKey(key, nullptr, table);
+    }
+    std::vector<std::string> preferred(std::vector<std::string> languages) {
+        Host::setPreferredLanguages(std::move(languages));
+        return bundle().preferredLocalizations();
+    }
+
+    Support::TemporaryFolder folder_;
+};
+
+using Languages = std::vector<std::string>;
+
+TEST_F(Bundle, ChoosesTheLanguagesThatTheUserReads) {
+    for (const char* language : {"Base", "ar", "de", "es", "es-419", "pt-BR", "pt-PT", "ru", "zh-Hans", "nb"})
+        write(std::string(language) + ".lproj/Localizable.strings", "");
+    const struct {
+        int line;
+        Languages user;
+        Languages expected;
+    } cases[] = {
+        {__LINE__, {"ru"}, {"ru"}},
+        {__LINE__, {"de_AT"}, {"de"}},
+        {__LINE__, {"de-CH-1996"}, {"de"}},
+        {__LINE__, {"es_MX"}, {"es-419"}},
+        {__LINE__, {"es_ES"}, {"es"}},
+        {__LINE__, {"es"}, {"es"}},
+        {__LINE__, {"pt_AO"}, {"pt-PT"}},
+        {__LINE__, {"pt_BR"}, {"pt-BR"}},
+        {__LINE__, {"zh_CN"}, {"zh-Hans"}},
+        {__LINE__, {"en_GB"}, {"en"}},
+        {__LINE__, {"no"}, {"nb"}},
+        {__LINE__, {"fr", "de", "ru_RU.UTF-8", "de_DE"}, {"de", "ru"}},
+        // What the user did not name is never chosen, however near it is; the development language remains.
+        {__LINE__, {"uk"}, {"en"}},
+        {__LINE__, {"ca"}, {"en"}},
+        {__LINE__, {"xx", "", "!!"}, {"en"}},
+        {__LINE__, {}, {"en"}},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(preferred(one.user), one.expected) << "line " << one.line;
+}
+
+TEST_F(Bundle, LooksInTheChosenLanguageThenInTheDevelopmentTexts) {
+    write("Base.lproj/Localizable.strings", "both = Base; base = \"only Base\";");
+    write("ru.lproj/Localizable.strings", "both = ru; \"key\" = \"key\";");
+    write("ru.lproj/Other.strings", "both = other;");
+    Host::setPreferredLanguages({"ru"});
+    EXPECT_EQ(text("both"), "ru");
+    EXPECT_EQ(text("base"), "only Base");
+    EXPECT_EQ(text("both", "Other"), "other");
+    EXPECT_EQ(text("both", ""), "ru");
+    EXPECT_EQ(text("Both"), "Both");
+    EXPECT_EQ(text("both", "None"), "both");
+    EXPECT_EQ(text("both", "../ru.lproj/Other"), "both");
+    const std::string value = "instead";
+    EXPECT_EQ(bundle().localizedStringForKey("none", &value, "Localizable"), "instead");
+    EXPECT_EQ(bundle().localizedStringForKey("key", &value, "Localizable"), "key");
+
+    // A change of the host's languages is seen by the next call.
+    Host::setPreferredLanguages({"en"});
+    EXPECT_EQ(text("both"), "Base");
+}
+
+TEST_F(Bundle, ReadsATableOnce) {
+    write("Base.lproj/Localizable.strings", "a = first;");
+    EXPECT_EQ(text("a"), "first");
+    write("Base.lproj/Localizable.strings", "a = second;");
+    EXPECT_EQ(text("a"), "first");
+}
+
+TEST_F(Bundle, WithADamagedTableHasTheKeysOnly) {
+    write("Base.lproj/Localizable.strings", "a = first; b = ");
+    EXPECT_EQ(text("a"), "a");
+}
+
+TEST_F(Bundle, TakesItsDevelopmentRegionFromInfoPlist) {
+    write("Info.plist", "<plist><dict><key>CFBundleDevelopmentRegion</key><string>fr</string></dict></plist>");
+    write("fr.lproj/Localizable.strings", "a = un;");
+    write("de.lproj/Localizable.strings", "b = zwei;");
+    EXPECT_EQ(preferred({"it"}), Languages{"fr"});
+    EXPECT_EQ(preferred({"de"}), Languages{"de"});
+    EXPECT_EQ(text("a"), "un");
+}
+
+TEST_F(Bundle, FindsTheFilesOfOneLocalization) {
+    write("Base.lproj/Localizable.strings", "");
+    write("ru.lproj/help/page.html", "");
+    const auto path = [&](auto name, auto type, auto directory, auto localization) {
+        return bundle().pathForResource(name, type, directory, localization).value_or("none");
+    };
+    EXPECT_EQ(path("Localizable", "strings", "", "Base"), folder_ / "Base.lproj/Localizable.strings");
+    EXPECT_EQ(path("page", "html", "help", "ru"), folder_ / "ru.lproj/help/page.html");
+    EXPECT_EQ(path("Localizable", "strings", "", "en"), "none");
+    EXPECT_EQ(path("../Base.lproj/Localizable", "strings", "", "ru"), "none");
+    EXPECT_EQ(path("Localizable", "strings", "", "ru.lproj/../Base"), "none");
+}
+
+TEST(BundleThreads, SeeOneStateOrTheOther) {
+    const Support::TemporaryFolder folder;
+    folder.write("Base.lproj/Localizable.strings", "language = en;");
+    folder.write("ru.lproj/Localizable.strings", "language = ru;");
+    folder.write("de.lproj/Localizable.strings", "language = de;");
+    const NSBundle& bundle = NSBundle::bundleWithPath(folder.path());
+    Host::setPreferredLanguages({"ru"});
+    std::latch ready(5);
+    std::vector<std::jthread> threads;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back([&] {
+            ready.arrive_and_wait();
+            for (int n = 0; n < 3000; ++n) {
+                const std::string_view text = bundle.localizedText("language", "Localizable");
+                ASSERT_TRUE(text == "ru" || text == "de") << text;
+                ASSERT_EQ(&NSBundle::bundleWithPath(folder.path()), &bundle);
+            }
+        });
+    ready.arrive_and_wait();
+    for (int n = 0; n < 500; ++n)
+        Host::setPreferredLanguages({n % 2 == 0 ? "de" : "ru"});
+    threads.clear();
+    Host::reset();
+}
+
+} // namespace

@@ -1,0 +1,31 @@
+// Made from the resources of the module Odd; do not edit.
+#include "OddResources.h"
+
+#include "Runtime/Class.h"
+#include "Runtime/OnceSlot.h"
+
+namespace Odd {
+
+namespace {
+
+// Lies in the library whose bundle is asked for.
+struct BundleFinder {
+    static constexpr char code = 0;
+};
+
+constinit ::Runtime::OnceSlot<const ::Foundation::NSBundle*> found;
+
+const ::Foundation::NSBundle* publishedBundle() {
+    return &OddResources::bundle();
+}
+constexpr ::Runtime::Message bundleMessage[] = {::Runtime::message<&publishedBundle>("bundle")};
+constexpr ::Runtime::Class resources("Odd.OddResources", bundleMessage, bundleMessage);
+LUMORA_PUBLISH_CLASS(resources);
+
+} // namespace
+
+const ::Foundation::NSBundle& OddResources::bundle() {
+    return *found.get([] { return &::Foundation::NSBundle::bundleForCode(&BundleFinder::code, "Odd"); });
+}
+
+} // namespace Odd

@@ -1,0 +1,16 @@
+// Made from the resources of the module Odd; do not edit.
+#pragma once
+
+#include "Foundation/NSBundle.h"
+#include "Runtime/Export.h"
+
+namespace Odd {
+
+// The module's own resources. Published to messages under this name.
+class OddResources {
+public:
+    // The bundle beside the library that holds this code: the same object at every call, from any thread.
+    [[nodiscard]] LUMORA_EXPORT static const ::Foundation::NSBundle& bundle();
+};
+
+} // namespace Odd

@@ -1,0 +1,81 @@
+// Made from the resources of the module Odd; do not edit.
+#include "OddStrings/Localizable.h"
+#include "OddStrings/OddNames.h"
+#include "OddStrings/Internal/Catalog.h"
+#include "Runtime/OnceSlot.h"
+
+namespace Odd::OddStrings::detail {
+
+namespace {
+
+constexpr char characters[] =
+    "Localizable\000"
+    "Odd names\000"
+    "errno"
+    "ends in a backslash"
+    "closes */ a comment"
+    "asks ?\?/ twice ?\?="
+    "hides \342\200\256"
+    "key \"quoted\" \\ é 1"
+    "long"
+    "percent"
+    "text"
+    "two"
+    "swapped"
+    "same"
+    "width"
+    "six words";
+constexpr Place places[] = {
+    {0, 22}, {0, 27}, {0, 46}, {0, 65}, {0, 83}, {0, 92}, {0, 111}, {0, 115}, {12, 122}, {0, 126}, {0, 129}, {0, 136},
+    {0, 140}, {0, 145}, {0, 154}};
+
+constinit ::Runtime::OnceSlot<std::string> slots[9];
+
+inline const std::string& text(std::size_t entry) {
+    return slots[entry].get([entry] { return textAt(characters, places + entry, {}); });
+}
+
+std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) {
+    return textAt(characters, places + entry, arguments);
+}
+
+} // namespace
+
+} // namespace Odd::OddStrings::detail
+
+namespace Odd::OddStrings::Localizable {
+
+const std::string& errno_() { return detail::text(0); }
+const std::string& endsInABackslash() { return detail::text(1); }
+const std::string& closesAComment() { return detail::text(2); }
+const std::string& asksTwice() { return detail::text(3); }
+const std::string& hides() { return detail::text(4); }
+const std::string& keyQuotedÉ1() { return detail::text(5); }
+const std::string& long_() { return detail::text(6); }
+const std::string& percent() { return detail::text(7); }
+std::string two(const ::Foundation::Described& first, const ::Foundation::Described& second) {
+    return detail::formatted(9, {first.text(), second.text()});
+}
+std::string swapped(std::int64_t first, const ::Foundation::Described& second) {
+    return detail::formatted(10, {first, second.text()});
+}
+std::string same(const ::Foundation::Described& value) {
+    return detail::formatted(11, {value.text()});
+}
+std::string width(std::int64_t first, std::int64_t second) {
+    return detail::formatted(12, {first, second});
+}
+std::string sixWords(const ::Foundation::Described& first, const ::Foundation::Described& second,
+                     const ::Foundation::Described& third, const ::Foundation::Described& fourth,
+                     const ::Foundation::Described& fifth, const ::Foundation::Described& argument6) {
+    return detail::formatted(13, {first.text(), second.text(), third.text(), fourth.text(), fifth.text(),
+                                  argument6.text()});
+}
+
+} // namespace Odd::OddStrings::Localizable
+
+namespace Odd::OddStrings::OddNames {
+
+const std::string& text() { return detail::text(8); }
+
+} // namespace Odd::OddStrings::OddNames

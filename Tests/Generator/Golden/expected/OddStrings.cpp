@@ -1,0 +1,17 @@
+// Made from the resources of the module Odd; do not edit.
+#include "OddStrings/Internal/Catalog.h"
+
+#include "Foundation/Locale.h"
+#include "Foundation/NSBundle.h"
+#include "Foundation/String.h"
+#include "OddResources.h"
+
+namespace Odd::OddStrings {
+
+// A text without arguments is formatted as well: its doubled percent signs become single ones.
+std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments) {
+    const std::string_view format = ::Odd::OddResources::bundle().localizedText(key, table);
+    return ::Foundation::String::format(format, ::Foundation::Locale::current(), arguments);
+}
+
+} // namespace Odd::OddStrings

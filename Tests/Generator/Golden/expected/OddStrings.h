@@ -1,0 +1,7 @@
+// Made from the resources of the module Odd; do not edit.
+#pragma once
+
+#include "OddStrings/Empty.h"
+#include "OddStrings/Localizable.h"
+#include "OddStrings/OddNames.h"
+#include "Runtime/Class.h"

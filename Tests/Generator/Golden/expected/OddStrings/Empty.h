@@ -1,0 +1,12 @@
+// Made from the resources of the module Odd; do not edit.
+#pragma once
+
+#include "Foundation/Described.h"
+#include "Runtime/Export.h"
+#include <cstdint>
+#include <string>
+
+namespace Odd::OddStrings::Empty {
+
+
+} // namespace Odd::OddStrings::Empty

@@ -1,0 +1,118 @@
+// Made from the resources of the module Odd; do not edit.
+#pragma once
+
+#include "Foundation/Described.h"
+#include "Runtime/Export.h"
+#include <cstdint>
+#include <string>
+
+namespace Odd::OddStrings::Localizable {
+
+// "continue" = "Continue"
+LUMORA_EXPORT const std::string& continue_();
+
+// "N/A" = "Not available"
+LUMORA_EXPORT const std::string& na();
+
+// "MSG" = "Message"
+LUMORA_EXPORT const std::string& msg();
+
+// "Compressing..." = "Compressing"
+LUMORA_EXPORT const std::string& compressing();
+
+// "You can't set a price that exceeds %@" = "The price can't exceed %@"
+LUMORA_EXPORT std::string youCanTSetAPriceThatExceeds(const ::Foundation::Described& value);
+
+// "Invoice №" = "Invoice No."
+LUMORA_EXPORT const std::string& invoiceNo();
+
+// "日本" = "Japan"
+LUMORA_EXPORT const std::string& 日本();
+
+// "plain" = "Named as nothing in the code around it may be"
+LUMORA_EXPORT const std::string& plain();
+
+// "detail" = "This neither"
+LUMORA_EXPORT const std::string& detail();
+
+} // namespace Odd::OddStrings::Localizable
+
+namespace Odd::OddStrings::Localizable::Сhatlist {
+
+// "Сhatlist.Photo" = "Photo"
+LUMORA_EXPORT const std::string& photo();
+
+} // namespace Odd::OddStrings::Localizable::Сhatlist
+
+namespace Odd::OddStrings::Localizable::_10ExerciseStraight {
+
+// "10ExerciseStraight.Delete" = "Delete"
+LUMORA_EXPORT const std::string& delete_();
+
+} // namespace Odd::OddStrings::Localizable::_10ExerciseStraight
+
+namespace Odd::OddStrings::Localizable::Foundation {
+
+// "Foundation.Described" = "A group that is called as the platform is"
+LUMORA_EXPORT const std::string& described();
+
+} // namespace Odd::OddStrings::Localizable::Foundation
+
+namespace Odd::OddStrings::Localizable::Runtime {
+
+// "Runtime.std" = "And another"
+LUMORA_EXPORT const std::string& std();
+
+} // namespace Odd::OddStrings::Localizable::Runtime
+
+namespace Odd::OddStrings::Localizable::Widget::Fitness::Inactive {
+
+// "widget.fitness.inactive.after_days" = "Inactive for %d days"
+LUMORA_EXPORT std::string afterDays(std::int64_t value);
+
+} // namespace Odd::OddStrings::Localizable::Widget::Fitness::Inactive
+
+namespace Odd::OddStrings::Localizable {
+
+// "errno" = "Error number"
+LUMORA_EXPORT const std::string& errno_();
+
+// "ends in a backslash" = "C:\"
+LUMORA_EXPORT const std::string& endsInABackslash();
+
+// "closes */ a comment" = "/* "quoted" */"
+LUMORA_EXPORT const std::string& closesAComment();
+
+// "asks ??/ twice ??=" = "What??/"
+LUMORA_EXPORT const std::string& asksTwice();
+
+// "hides \u202E" = "a\u200Bb\u202Ec\td"
+LUMORA_EXPORT const std::string& hides();
+
+// "key "quoted" \ é 1" = "on\ntwo lines"
+LUMORA_EXPORT const std::string& keyQuotedÉ1();
+
+// "long" = "A text of more than a hundred characters is cut in the comment, where it is there to be recognised, …"
+LUMORA_EXPORT const std::string& long_();
+
+// "percent" = "100%%"
+LUMORA_EXPORT const std::string& percent();
+
+// "two" = "%@ of %@"
+LUMORA_EXPORT std::string two(const ::Foundation::Described& first, const ::Foundation::Described& second);
+
+// "swapped" = "%2$@ in %1$lld"
+LUMORA_EXPORT std::string swapped(std::int64_t first, const ::Foundation::Described& second);
+
+// "same" = "%1$@, %1$@"
+LUMORA_EXPORT std::string same(const ::Foundation::Described& value);
+
+// "width" = "%*d"
+LUMORA_EXPORT std::string width(std::int64_t first, std::int64_t second);
+
+// "six words" = "%@ %@ %@ %@ %@ %@"
+LUMORA_EXPORT std::string sixWords(const ::Foundation::Described& first, const ::Foundation::Described& second,
+                                   const ::Foundation::Described& third, const ::Foundation::Described& fourth,
+                                   const ::Foundation::Described& fifth, const ::Foundation::Described& argument6);
+
+} // namespace Odd::OddStrings::Localizable

@@ -1,0 +1,36 @@
+"""Fails if generated objects run code when they are loaded, relocate per entry, or show other symbols than their accessors."""
+import re
+import subprocess
+import sys
+
+ACCESSORS = 28  # of Golden/input.bundle
+BUNDLE = "_ZN3Odd12OddResources6bundleEv"
+SECTIONS = re.compile(r" (\.(?:init_array|ctors)\S*)")
+TREE_SECTIONS = re.compile(r" (\.(?:init_array|ctors|data\.rel\.ro)\S*)")
+SHOWN = re.compile(r"\s*\d+: .* GLOBAL +DEFAULT +\d+ (\S+)")
+
+
+def output(*command):
+    # readelf may cut a name in the middle of a letter.
+    return subprocess.run(command, check=True, stdout=subprocess.PIPE, text=True, errors="replace").stdout
+
+
+def main(objects):
+    faults = []
+    shown = []
+    for file in objects:
+        sections = TREE_SECTIONS if "OddStrings" in file else SECTIONS
+        faults += [f"{file}: has {name}" for name in sections.findall(output("readelf", "-SW", file))]
+        shown += [found.group(1) for found in map(SHOWN.match, output("readelf", "-sW", file).splitlines()) if found]
+    accessors = [name for name in shown if name.startswith("_ZN3Odd10OddStrings")]
+    faults += [f"shows {name}" for name in shown if name not in accessors and name != BUNDLE]
+    if BUNDLE not in shown:
+        faults.append(f"hides {BUNDLE}")
+    if len(accessors) != ACCESSORS:
+        faults.append(f"shows {len(accessors)} accessors, not {ACCESSORS}")
+    print("\n".join(faults) or f"{len(shown)} symbols, no code at load")
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))

@@ -1,0 +1,119 @@
+#include "Pictures/Pictures.h"
+
+#include <cstdio> // jpeglib.h needs it
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <jpeglib.h>
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+constexpr std::uint32_t width = 21;
+constexpr std::uint32_t height = 10;
+
+struct Sort {
+    J_COLOR_SPACE from;
+    std::array<std::uint8_t, 4> pixel; // the one colour of the picture, as the file shall hold it
+    bool progressive = false;
+    bool adobe = false;
+};
+
+Bytes write(const Sort& sort) {
+    jpeg_compress_struct jpeg{};
+    jpeg_error_mgr errors{};
+    jpeg.err = jpeg_std_error(&errors);
+    jpeg_create_compress(&jpeg);
+    unsigned char* bytes = nullptr;
+    unsigned long size = 0;
+    jpeg_mem_dest(&jpeg, &bytes, &size);
+    const int channels = sort.from == JCS_GRAYSCALE ? 1 : sort.from == JCS_RGB ? 3 : 4;
+    jpeg.image_width = width;
+    jpeg.image_height = height;
+    jpeg.input_components = channels;
+    jpeg.in_color_space = sort.from;
+    jpeg_set_defaults(&jpeg);
+    jpeg_set_quality(&jpeg, 100, TRUE);
+    if (sort.progressive)
+        jpeg_simple_progression(&jpeg);
+    jpeg.write_Adobe_marker = sort.adobe ? TRUE : FALSE;
+    jpeg_start_compress(&jpeg, TRUE);
+    Bytes row;
+    for (std::uint32_t x = 0; x < width; ++x)
+        row.insert(row.end(), sort.pixel.begin(), sort.pixel.begin() + channels);
+    JSAMPROW rows[] = {row.data()};
+    while (jpeg.next_scanline < height)
+        jpeg_write_scanlines(&jpeg, rows, 1);
+    jpeg_finish_compress(&jpeg);
+    jpeg_destroy_compress(&jpeg);
+    const Bytes file(bytes, bytes + size);
+    std::free(bytes);
+    return file;
+}
+
+const Sort colored{JCS_RGB, {200, 100, 50}};
+
+TEST(Jpeg, EveryColorSpace) {
+    struct Case {
+        int line;
+        Sort sort;
+        std::array<int, 3> expected;
+    };
+    const Case cases[] = {
+        {__LINE__, {JCS_GRAYSCALE, {77}}, {77, 77, 77}},
+        {__LINE__, colored, {200, 100, 50}},
+        {__LINE__, {JCS_RGB, {0, 255, 10}, true}, {0, 255, 10}},
+        // Ink 0 is paper: 255 - ink, darkened by what black leaves.
+        {__LINE__, {JCS_CMYK, {255, 0, 51, 0}}, {0, 255, 204}},
+        {__LINE__, {JCS_CMYK, {0, 51, 255, 51}}, {204, 163, 0}},
+        // Files with the mark hold the inks inverted.
+        {__LINE__, {JCS_CMYK, {255, 204, 0, 204}, true, true}, {204, 163, 0}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.line);
+        auto decoded = Pictures::decode(write(c.sort));
+        ASSERT_TRUE(decoded) << decoded.error().message;
+        ASSERT_EQ(decoded->width, width);
+        ASSERT_EQ(decoded->height, height);
+        ASSERT_EQ(decoded->pixels.size(), std::size_t{width} * height * 4);
+        for (std::size_t i = 0; i < decoded->pixels.size(); ++i) {
+            const int expected = i % 4 == 3 ? 255 : c.expected[i % 4];
+            ASSERT_NEAR(decoded->pixels[i], expected, 2) << i;
+        }
+    }
+}
+
+TEST(Jpeg, MeasureFindsTheFrame) {
+    Bytes file = write(colored);
+    // A segment before the frame, with what looks like a frame inside, and filling before a marker.
+    const Bytes segment = {0xFF, 0xE1, 0, 11, 0xFF, 0xC0, 0, 7, 8, 1, 1, 1, 1, 0xFF};
+    file.insert(file.begin() + 2, segment.begin(), segment.end());
+    const auto size = Pictures::measure(file);
+    ASSERT_TRUE(size) << size.error().message;
+    EXPECT_EQ(size->encoding, Pictures::Encoding::jpeg);
+    EXPECT_EQ(size->width, width);
+    EXPECT_EQ(size->height, height);
+    EXPECT_TRUE(Pictures::decode(file));
+    EXPECT_EQ(Pictures::decode(file, 209).error().message, "has more than 209 pixels");
+}
+
+TEST(Jpeg, DamageIsAnErrorAndNeverACrash) {
+    for (const bool progressive : {false, true}) {
+        Sort sort = colored;
+        sort.progressive = progressive;
+        const Bytes file = write(sort);
+        for (std::size_t length = 0; length < file.size(); ++length)
+            EXPECT_FALSE(Pictures::decode(std::span(file).first(length))) << length;
+        for (std::size_t place = 0; place < file.size(); ++place)
+            for (const int change : {0x01, 0x20, 0x80, 0xFF}) {
+                Bytes altered = file;
+                altered[place] = static_cast<std::uint8_t>(altered[place] ^ change);
+                const auto decoded = Pictures::decode(altered, 4096);
+                if (decoded) {
+                    EXPECT_EQ(decoded->pixels.size(), std::size_t{decoded->width} * decoded->height * 4);
+                }
+            }
+    }
+}
+
+} // namespace

@@ -1,0 +1,82 @@
+#include "StringTables/Writer.h"
+#include "Tables.h"
+
+namespace {
+
+using namespace std::string_literals;
+using StringTables::Entry;
+using StringTables::Form;
+
+const std::vector<Entry> sample = {
+    {"Finish \"it\"", "Fertig\\\n\t\r"}, {"", "é & <日> 💪"}, {"same", "same"}, {"again", "same"}};
+
+TEST(Writer, WritesText) {
+    EXPECT_EQ(*StringTables::write(sample, Form::text), "\"Finish \\\"it\\\"\" = \"Fertig\\\\\\n\\t\\r\";\n"
+                                                        "\"\" = \"é & <日> 💪\";\n"
+                                                        "\"same\" = \"same\";\n"
+                                                        "\"again\" = \"same\";\n");
+    const std::vector<Entry> controls = {{"'\x1B", std::string_view("\0\x7F", 2)}};
+    EXPECT_EQ(*StringTables::write(controls, Form::text), "\"'\\U001B\" = \"\\U0000\\U007F\";\n");
+    EXPECT_EQ(*StringTables::write({}, Form::text), "");
+}
+
+TEST(Writer, WritesXml) {
+    EXPECT_EQ(*StringTables::write(sample, Form::xml),
+              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+              "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+              "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+              "<plist version=\"1.0\">\n<dict>\n"
+              "\t<key>Finish \"it\"</key>\n\t<string>Fertig\\\n\t&#13;</string>\n"
+              "\t<key></key>\n\t<string>é &amp; &lt;日&gt; 💪</string>\n"
+              "\t<key>same</key>\n\t<string>same</string>\n"
+              "\t<key>again</key>\n\t<string>same</string>\n"
+              "</dict>\n</plist>\n");
+}
+
+TEST(Writer, WritesBinary) {
+    const std::vector<Entry> two = {{"OK", "é"}, {"Ja", "OK"}};
+    EXPECT_EQ(*StringTables::write(two, Form::binary),
+              "bplist00"
+              "\xD2\1\2\3\1"
+              "\x52OK\x52Ja\x61\0\xE9"
+              "\x8\xD\x10\x13"
+              "\0\0\0\0\0\0\1\1\0\0\0\0\0\0\0\4\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x16"s);
+}
+
+TEST(Writer, RefusesWhatAFormCannotHold) {
+    for (const std::string& text : {"\0"s, "\x1F"s, "\uFFFE"s, "a\uFFFF"s}) {
+        const std::vector<Entry> entries = {{"k", text}};
+        EXPECT_EQ(StringTables::write(entries, Form::xml).error().message,
+                  "the entry \"k\" holds a character that XML cannot");
+        EXPECT_TRUE(StringTables::write(entries, Form::text));
+    }
+    for (const Form form : {Form::text, Form::xml, Form::binary}) {
+        const std::vector<Entry> entries = {{"k", "\xED\xA0\x80"}};
+        EXPECT_EQ(StringTables::write(entries, form).error().message, "the entry \"k\" is not UTF-8");
+    }
+}
+
+// Every form through every other, from few and short strings to sizes that need longer references, offsets and counts.
+TEST(Writer, RoundTrips) {
+    for (const std::size_t count : {0u, 1u, 14u, 15u, 127u, 300u, 70000u}) {
+        std::vector<std::string> keys;
+        for (std::size_t i = 0; i < count; ++i)
+            keys.push_back("key." + std::to_string(i) + (i % 3 ? "" : "\n\"é💪"));
+        Tables::Pairs expected;
+        std::vector<Entry> entries;
+        for (std::size_t i = 0; i < count; ++i) {
+            const std::string& text = keys[i * i % count];
+            expected.emplace_back(keys[i], text);
+            entries.push_back({keys[i], text});
+        }
+        auto bytes = StringTables::write(entries, Form::text);
+        for (const Form form : {Form::xml, Form::binary, Form::text, Form::binary, Form::xml, Form::text}) {
+            const auto table = StringTables::Table::read(*bytes);
+            ASSERT_TRUE(table) << table.error().text();
+            ASSERT_EQ(Tables::pairs(*table), expected) << count;
+            bytes = StringTables::write(table->entries(), form);
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,110 @@
+#include "SwiftUI/AssetRecord.h"
+
+#include "SampleBundle.h"
+#include <gtest/gtest.h>
+#include <thread>
+#include <type_traits>
+
+namespace {
+
+struct Module {
+    // How often the bundle was asked for: each look-up asks once.
+    static inline std::atomic<int> asked = 0;
+    static const Foundation::NSBundle& bundle() {
+        ++asked;
+        return Sample::bundle();
+    }
+    static constexpr std::string_view sourceName = "TuistAssets+Lumora";
+    class Catalog;
+};
+using Images = SwiftUI::ImageRecord<Module>;
+using Colors = SwiftUI::ColorRecord<Module>;
+using DataSets = SwiftUI::DataRecord<Module>;
+
+class Module::Catalog {
+public:
+    static constexpr Images image(const char* name) { return Images(name); }
+    static constexpr Colors color(const char* name) { return Colors(name); }
+    static constexpr DataSets data(const char* name) { return DataSets(name); }
+    static void assign(const Colors& record, const UIKit::UIColor& color) { record.setColor(color); }
+};
+
+// Constants without work at start-up or at the end.
+constinit const Images send = Module::Catalog::image("send");
+constinit const Colors ink = Module::Catalog::color("ink");
+constinit const Colors contested = Module::Catalog::color("ink");
+constinit const Colors assigned = Module::Catalog::color("ink");
+constinit const DataSets regions = Module::Catalog::data("regions");
+static_assert(std::is_trivially_destructible_v<Images> && std::is_trivially_destructible_v<Colors> &&
+              std::is_trivially_destructible_v<DataSets>);
+
+// Users copy images and data and share colours; they make none of them.
+template <class Record>
+constexpr bool isMadeByTheModuleOnly =
+    !std::is_default_constructible_v<Record> && !std::is_constructible_v<Record, const char*> &&
+    !std::is_constructible_v<Record, std::string>;
+static_assert(isMadeByTheModuleOnly<Images> && isMadeByTheModuleOnly<Colors> && isMadeByTheModuleOnly<DataSets>);
+static_assert(std::is_trivially_copyable_v<Images> && std::is_trivially_copyable_v<DataSets>);
+static_assert(!std::is_copy_constructible_v<Colors> && !std::is_move_constructible_v<Colors> &&
+              !std::is_copy_assignable_v<Colors>);
+
+int askedBy(auto&& read) {
+    const int before = Module::asked;
+    read();
+    return Module::asked - before;
+}
+
+TEST(AssetRecord, ImagesAndDataAreAskedForEachTime) {
+    EXPECT_EQ(send.name(), "send");
+    EXPECT_EQ(send.image(), UIKit::UIImage::imageNamed("send", Sample::bundle()));
+    EXPECT_EQ(send.swiftUIImage(), SwiftUI::Image("send", Sample::bundle()));
+    EXPECT_EQ(regions.data().typeIdentifier(), "public.json");
+    EXPECT_EQ(askedBy([] { static_cast<void>(send.image()), static_cast<void>(send.image()); }), 2);
+    EXPECT_EQ(askedBy([] { static_cast<void>(regions.data()), static_cast<void>(regions.data()); }), 2);
+}
+
+TEST(AssetRecord, ColorIsAskedForOnceAndFollowsTheTraits) {
+    EXPECT_EQ(askedBy([] {
+                  const UIKit::UIColor& color = ink.color();
+                  EXPECT_EQ(&color, &ink.color());
+                  EXPECT_EQ(&ink.swiftUIColor(), &ink.swiftUIColor());
+                  EXPECT_EQ(color.rgba()->red, 0.125);
+                  const Sample::Traits scope(Sample::dark);
+                  EXPECT_EQ(color.rgba()->red, 0.875);
+              }),
+              2); // once for each of the two
+    EXPECT_EQ(ink.swiftUIColor(), SwiftUI::Color("ink", Sample::bundle()));
+
+    Module::Catalog::assign(assigned, {3, 2, 1, 0});
+    EXPECT_EQ(assigned.color(), UIKit::UIColor(3, 2, 1, 0));
+}
+
+TEST(AssetRecord, ColorReadByManyThreadsFirst) {
+    std::array<const UIKit::UIColor*, 8> seen{};
+    {
+        std::vector<std::jthread> threads;
+        for (const UIKit::UIColor*& each : seen)
+            threads.emplace_back([&each] { each = &contested.color(); });
+    }
+    for (const UIKit::UIColor* each : seen)
+        EXPECT_EQ(each, &contested.color());
+}
+
+TEST(AssetRecordDeathTest, MissingAssetStopsTheProcess) {
+    static constexpr Images image = Module::Catalog::image("star-big_.");
+    static constexpr DataSets data = Module::Catalog::data("send");
+    static constinit const Colors color = Module::Catalog::color("");
+    const auto report = [](const std::string& message, const char* line) {
+        return "^Fatal error: " + message + ": file TuistAssets\\+Lumora, line " + line + "\n$";
+    };
+    const testing::KilledBySignal aborted(SIGABRT);
+    EXPECT_EXIT(static_cast<void>(image.image()), aborted,
+                report("Unable to load image asset named star-big_\\.\\.", "685"));
+    EXPECT_EXIT(static_cast<void>(data.data()), aborted, report("Unable to load data asset named send\\.", "645"));
+    EXPECT_EXIT(static_cast<void>(color.color()), aborted, report("Unable to load color asset named \\.", "587"));
+    // Views never complain.
+    EXPECT_EQ(image.swiftUIImage().asset().name, "star-big_.");
+    EXPECT_EQ(color.swiftUIColor().asset()->name, "");
+}
+
+} // namespace
