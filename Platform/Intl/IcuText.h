@@ -3,7 +3,8 @@
 // Text: UTF-8 on our side. Threads: any; no state.
 #pragma once
 
-#include <cstring> // std::strlen
+#include <algorithm> // std::max
+#include <cstring>   // std::strlen
 #include <string>
 #include <string_view>
 #include <unicode/locid.h>
@@ -23,8 +24,9 @@ namespace Intl {
     if (const std::size_t dot = name.find('.'); dot != std::string::npos)
         name.erase(dot, name.find('@', dot) - dot);
     icu::Locale locale = icu::Locale::createFromName(name.c_str());
-    // ICU copies names into places of this size, not always with care.
-    if (std::strlen(locale.getName()) >= ULOC_FULLNAME_CAPACITY)
+    // ICU copies names into places of this size, not always with care. Either may be the longer one.
+    if (!locale.isBogus() &&
+        std::max(std::strlen(locale.getName()), std::strlen(locale.getBaseName())) >= ULOC_FULLNAME_CAPACITY)
         locale.setToBogus();
     return locale;
 }
