@@ -1,4 +1,6 @@
-// A screenful of the application's texts in all its languages, and a page of its localization services.
+// A screenful of the application's texts in all its languages, a page of its localization services, and one of its assets.
+#include "demo_assets.h"
+
 #include <Lumora/Lumora.h>
 
 #include <algorithm>
@@ -77,8 +79,13 @@ void page(const char* title, void (*line)(), const char* locale) {
 
 } // namespace
 
-int main() {
+int main(int argc, char** argv) {
     page("Texts", textsPage, nullptr);
     page("Services, for a user whose region is Switzerland", servicesPage, "de_CH");
+    const char* sheet = argc > 1 ? argv[1] : "contact-sheet.png";
+    if (!showAssets(sheet)) {
+        std::fprintf(stderr, "%s: cannot be written\n", sheet);
+        return 1;
+    }
     return 0;
 }

@@ -1,6 +1,6 @@
 #include "Foundation/DateComponents.h"
 
-#include "Foundation/NumberText.h"
+#include "Foundation/internal/NumberText.h"
 #include <memory>
 #include <string_view>
 

@@ -1,6 +1,6 @@
 #include "Foundation/Host.h"
 
-#include "Foundation/HostState.h"
+#include "Foundation/internal/HostState.h"
 #include "Foundation/Locale.h"
 #include <algorithm>
 #include <atomic>

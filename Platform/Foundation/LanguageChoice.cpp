@@ -1,4 +1,4 @@
-#include "Foundation/LanguageChoice.h"
+#include "Foundation/internal/LanguageChoice.h"
 
 #include "Intl/Intl.h"
 #include <algorithm>

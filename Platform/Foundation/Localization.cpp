@@ -1,4 +1,4 @@
-#include "Foundation/Localization.h"
+#include "Foundation/internal/Localization.h"
 
 #include "Runtime/File.h"
 #include "StringTables/Table.h"

@@ -1,8 +1,8 @@
 #include "Foundation/NSBundle.h"
 
-#include "Foundation/HostState.h"
-#include "Foundation/LanguageChoice.h"
-#include "Foundation/Localization.h"
+#include "Foundation/internal/HostState.h"
+#include "Foundation/internal/LanguageChoice.h"
+#include "Foundation/internal/Localization.h"
 #include "Runtime/CodeLocation.h"
 #include "Runtime/File.h"
 #include "StringTables/Table.h"

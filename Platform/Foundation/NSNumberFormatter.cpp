@@ -1,6 +1,6 @@
 #include "Foundation/NSNumberFormatter.h"
 
-#include "Foundation/NumberText.h"
+#include "Foundation/internal/NumberText.h"
 
 namespace Foundation {
 

@@ -1,4 +1,4 @@
-#include "Foundation/NumberText.h"
+#include "Foundation/internal/NumberText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "Foundation/String.h"
 
-#include "Foundation/NumberText.h"
+#include "Foundation/internal/NumberText.h"
 #include "StringTables/Placeholder.h"
 #include <algorithm>
 #include <array>

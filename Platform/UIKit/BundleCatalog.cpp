@@ -1,4 +1,4 @@
-#include "UIKit/BundleCatalog.h"
+#include "UIKit/internal/BundleCatalog.h"
 
 #include <algorithm>
 #include <atomic>

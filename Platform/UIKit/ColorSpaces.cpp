@@ -1,4 +1,4 @@
-#include "UIKit/ColorSpaces.h"
+#include "UIKit/internal/ColorSpaces.h"
 
 #include <array>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "UIKit/NSDataAsset.h"
 
-#include "UIKit/BundleCatalog.h"
+#include "UIKit/internal/BundleCatalog.h"
 
 namespace UIKit {
 

@@ -1,7 +1,7 @@
 #include "UIKit/UIColor.h"
 
-#include "UIKit/BundleCatalog.h"
-#include "UIKit/ColorSpaces.h"
+#include "UIKit/internal/BundleCatalog.h"
+#include "UIKit/internal/ColorSpaces.h"
 
 namespace UIKit {
 

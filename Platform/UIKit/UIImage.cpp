@@ -2,8 +2,8 @@
 
 #include "Pictures/Pictures.h"
 #include "Runtime/OnceSlot.h"
-#include "UIKit/BundleCatalog.h"
-#include "UIKit/PixelCache.h"
+#include "UIKit/internal/BundleCatalog.h"
+#include "UIKit/internal/PixelCache.h"
 
 namespace UIKit {
 

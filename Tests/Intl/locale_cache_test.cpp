@@ -1,4 +1,4 @@
-#include "Foundation/LocaleCache.h"
+#include "Foundation/internal/LocaleCache.h"
 
 #include <gtest/gtest.h>
 #include <latch>

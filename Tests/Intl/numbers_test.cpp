@@ -1,5 +1,5 @@
 // Number texts against ICU's own, in every locale that ICU has.
-#include "Foundation/NumberText.h"
+#include "Foundation/internal/NumberText.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "UIKit/UIKit.h"
 
 #include "SampleBundle.h"
-#include "UIKit/ColorSpaces.h"
+#include "UIKit/internal/ColorSpaces.h"
 #include <cmath>
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "UIKit/PixelCache.h"
+#include "UIKit/internal/PixelCache.h"
 
 #include <gtest/gtest.h>
 #include <vector>

@@ -1,4 +1,4 @@
-// Foundation/HostState.h
+// Foundation/internal/HostState.h
 // The host's inputs as the platform reads them; internal.
 #pragma once
 

@@ -1,4 +1,4 @@
-// Foundation/Localization.h
+// Foundation/internal/Localization.h
 // One language folder of a bundle and its tables; internal.
 // Threads: any. A table is read at its first look-up and kept; later look-ups take no lock.
 #pragma once

@@ -1,10 +1,10 @@
-// Foundation/NumberText.h
+// Foundation/internal/NumberText.h
 // Numbers as a locale writes them; internal.
 // Text: UTF-8. Threads: any; reading a pattern that is known takes no lock. Without the language data every locale
 // writes plain ASCII.
 #pragma once
 
-#include "Foundation/LocaleCache.h"
+#include "Foundation/internal/LocaleCache.h"
 #include "Foundation/NSNumber.h"
 #include "Intl/Intl.h"
 #include <string>

@@ -1,4 +1,4 @@
-// Foundation/LanguageChoice.h
+// Foundation/internal/LanguageChoice.h
 // Which of a bundle's languages serve a user; internal.
 // Text: BCP 47 tags. Threads: any; no state.
 #pragma once

@@ -1,4 +1,4 @@
-// UIKit/BundleCatalog.h
+// UIKit/internal/BundleCatalog.h
 // The compiled catalogs of bundles, and what traits want of them; internal.
 // Threads: any. Ownership: catalogs live until the process ends.
 #pragma once

@@ -1,4 +1,4 @@
-// Foundation/LocaleCache.h
+// Foundation/internal/LocaleCache.h
 // What is derived from a locale's identifier at some cost, kept for the identifiers that a process uses; internal.
 // Threads: any; a read of what is kept takes no lock.
 // Ownership: kept values live until the process ends. Their number is bounded: when a process has used very many

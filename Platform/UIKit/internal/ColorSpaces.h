@@ -1,4 +1,4 @@
-// UIKit/ColorSpaces.h
+// UIKit/internal/ColorSpaces.h
 // Colours of other spaces as extended sRGB; internal.
 // Threads: pure functions.
 #pragma once

@@ -1,4 +1,4 @@
-// UIKit/PixelCache.h
+// UIKit/internal/PixelCache.h
 // Decoded pixels, shared by everyone who looks at the same picture; internal.
 // Threads: any; the lock is held for a look at the table, never while a picture is decoded.
 #pragma once
