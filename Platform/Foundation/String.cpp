@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstring> // std::memchr
 #include <optional>
 
 namespace Foundation::String {
@@ -199,8 +198,6 @@ private:
 } // namespace
 
 std::string format(std::string_view format, const Locale& locale, std::span<const FormatArgument> arguments) {
-    if (format.empty() || std::memchr(format.data(), '%', format.size()) == nullptr)
-        return std::string(format);
     return Formatter(format, locale, arguments).run();
 }
 

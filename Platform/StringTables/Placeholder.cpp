@@ -16,6 +16,8 @@ public:
             out_.end = at_;
             return true;
         }
+        if (next() == '@') // nearly all of them
+            return conversion();
         if (!position())
             return false;
         flags();
