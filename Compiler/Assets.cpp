@@ -31,6 +31,10 @@ Runtime::Result<std::vector<Picture>> raster(const SourceFile& file, const std::
     const auto size = Pictures::measure(data);
     if (!size)
         return size.error();
+    if (std::uint64_t{size->width} * size->height > AssetCatalog::maxPixels)
+        return Runtime::Error{.message = "is a picture larger than a catalog may hold"};
+    if (bytes.rfind(size->encoding == Pictures::Encoding::png ? "IEND" : "\xFF\xD9") == std::string::npos)
+        return Runtime::Error{.message = "is a picture that is cut off"};
     Picture picture{.fit = file.fit, .width = size->width, .height = size->height, .bytes = {}};
     picture.encoding = size->encoding == Pictures::Encoding::png ? AssetCatalog::Encoding::png : AssetCatalog::Encoding::jpeg;
     picture.bytes = std::move(data);

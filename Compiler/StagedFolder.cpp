@@ -1,5 +1,6 @@
 #include "Compiler/StagedFolder.h"
 
+#include "Runtime/File.h"
 #include <cerrno>
 #include <cstdio> // renameat2
 #include <cstdlib>
@@ -14,17 +15,20 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Says that a folder was made here, so that it may be replaced.
+constexpr const char* markName = ".lumora-bundle";
+
 Runtime::Error systemError(const fs::path& path, const char* doing) {
     return {.message = std::string(doing) + ": " + std::strerror(errno), .file = path};
 }
 
-// What a compile may replace: nothing, an empty folder, or a bundle.
+// What a compile may replace: nothing, an empty folder, or what a compile made.
 bool mayReplace(const fs::path& target) {
     std::error_code failed;
     if (!fs::exists(fs::symlink_status(target, failed)))
         return true;
     return fs::is_directory(fs::symlink_status(target, failed)) &&
-           (fs::is_empty(target, failed) || fs::is_regular_file(target / "Info.plist", failed));
+           (fs::is_empty(target, failed) || fs::is_regular_file(target / markName, failed));
 }
 
 } // namespace
@@ -34,7 +38,7 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
     if (!target.has_filename())
         target = target.parent_path();
     if (!mayReplace(target))
-        return Runtime::Error{.message = "is there and is no bundle; it is left alone", .file = target};
+        return Runtime::Error{.message = "is there and was not made by a compile; it is left alone", .file = target};
     std::string staged = target.string() + ".XXXXXX";
     if (::mkdtemp(staged.data()) == nullptr)
         return systemError(target, "cannot be made");
@@ -42,6 +46,8 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
     // mkdtemp lets nobody else in; a bundle is for everybody.
     if (::chmod(staged.c_str(), 0755) != 0)
         return systemError(target, "cannot be made");
+    if (auto marked = Runtime::writeFile(folder.path() / markName, "Made by lumora compile.\n"); !marked)
+        return std::move(marked.error());
     return folder;
 }
 

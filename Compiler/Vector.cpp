@@ -64,6 +64,37 @@ Runtime::Result<Picture> pictureOn(const Canvas& canvas) {
     return picture;
 }
 
+constexpr double pixelsPerInch = 96; // as CSS has it
+
+// In points; 0 where the drawing leaves it to its reader.
+double pointsOf(gboolean isGiven, RsvgLength length) {
+    static constexpr double perUnit[] = {0, 1, 16, 8, pixelsPerInch, pixelsPerInch / 2.54, pixelsPerInch / 25.4, 96.0 / 72, 16};
+    const auto unit = static_cast<std::size_t>(length.unit); // percent, px, em, ex, in, cm, mm, pt, pc
+    return isGiven != FALSE && unit < std::size(perUnit) ? length.length * perUnit[unit] : 0;
+}
+
+// What a drawing leaves open of its size follows from its view box.
+RsvgRectangle sizeOf(RsvgHandle* drawing) {
+    gboolean hasWidth = FALSE;
+    gboolean hasHeight = FALSE;
+    gboolean hasBox = FALSE;
+    RsvgLength givenWidth{};
+    RsvgLength givenHeight{};
+    RsvgRectangle box{};
+    rsvg_handle_get_intrinsic_dimensions(drawing, &hasWidth, &givenWidth, &hasHeight, &givenHeight, &hasBox, &box);
+    double width = pointsOf(hasWidth, givenWidth);
+    double height = pointsOf(hasHeight, givenHeight);
+    if (hasBox != FALSE && box.width > 0 && box.height > 0) {
+        if (width <= 0 && height <= 0)
+            width = box.width;
+        if (width <= 0)
+            width = height * box.width / box.height;
+        if (height <= 0)
+            height = width * box.height / box.width;
+    }
+    return {.x = 0, .y = 0, .width = width, .height = height};
+}
+
 Runtime::Result<Picture> renderSvg(std::string_view bytes, std::uint8_t scale) {
     GError* error = nullptr;
     // Without a base there is nothing that the drawing could refer to.
@@ -71,22 +102,12 @@ Runtime::Result<Picture> renderSvg(std::string_view bytes, std::uint8_t scale) {
         rsvg_handle_new_from_data(reinterpret_cast<const guint8*>(bytes.data()), bytes.size(), &error));
     if (drawing == nullptr)
         return damaged(error);
-    double width = 0;
-    double height = 0;
-    if (rsvg_handle_get_intrinsic_size_in_pixels(drawing.get(), &width, &height) == FALSE) {
-        // A drawing whose size is left to its reader takes that of its view box.
-        gboolean hasBox = FALSE;
-        RsvgRectangle box{};
-        rsvg_handle_get_intrinsic_dimensions(drawing.get(), nullptr, nullptr, nullptr, nullptr, &hasBox, &box);
-        if (hasBox != FALSE) {
-            width = box.width;
-            height = box.height;
-        }
-    }
-    const auto canvas = canvasFor(width, height, scale);
+    rsvg_handle_set_dpi(drawing.get(), pixelsPerInch);
+    const RsvgRectangle size = sizeOf(drawing.get());
+    const auto canvas = canvasFor(size.width, size.height, scale);
     if (!canvas)
         return canvas.error();
-    const RsvgRectangle whole{.x = 0, .y = 0, .width = width * scale, .height = height * scale};
+    const RsvgRectangle whole{.x = 0, .y = 0, .width = size.width * scale, .height = size.height * scale};
     if (rsvg_handle_render_document(drawing.get(), canvas->context.get(), &whole, &error) == FALSE)
         return damaged(error);
     return pictureOn(*canvas);
@@ -115,11 +136,13 @@ Runtime::Result<Picture> renderPdf(std::string_view bytes, std::uint8_t scale) {
 } // namespace
 
 std::optional<VectorForm> vectorFormOf(std::string_view bytes) {
+    if (bytes.starts_with("\x89PNG") || bytes.starts_with("\xFF\xD8"))
+        return std::nullopt;
     if (bytes.substr(0, 1024).find("%PDF-") != std::string_view::npos)
         return VectorForm::pdf;
-    if (bytes.substr(0, 4096).find("<svg") != std::string_view::npos)
-        return VectorForm::svg;
-    return std::nullopt;
+    // Whatever else begins as XML does, in any of its encodings, is meant as an SVG.
+    const std::size_t begin = bytes.find_first_not_of(std::string_view("\xEF\xBB\xBF\xFE\xFF\0 \t\r\n", 10));
+    return begin != std::string_view::npos && bytes[begin] == '<' ? std::optional(VectorForm::svg) : std::nullopt;
 }
 
 Runtime::Result<Picture> render(std::string_view bytes, VectorForm form, std::uint8_t scale) {

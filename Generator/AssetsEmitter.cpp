@@ -32,13 +32,13 @@ std::string headerOf(const AssetConstant& constant) {
 void declare(CodeWriter& code, const AssetConstant& constant, const Options& options) {
     code.enter(nameSpaceOf(constant, options));
     code.add("// \"{{asset}}\"", {{"asset", visibleText(constant.asset->name)}});
-    code.add("extern LUMORA_EXPORT const {{module}}{{record}} {{name}};",
+    code.add("extern LUMORA_EXPORT const ::{{module}}::{{module}}{{record}} {{name}};",
              {{"record", wordsOf(constant).record}, {"name", constant.name}});
 }
 
 void define(CodeWriter& code, const AssetConstant& constant, const Options& options) {
     code.enter(nameSpaceOf(constant, options));
-    code.add("constinit const {{module}}{{record}} {{name}} = {{module}}AssetModule::Catalog::{{maker}}({{asset}});",
+    code.add("constinit const ::{{module}}::{{module}}{{record}} {{name}} =\n    ::{{module}}::{{module}}AssetModule::Catalog::{{maker}}({{asset}});",
              {{"record", wordsOf(constant).record},
               {"name", constant.name},
               {"maker", wordsOf(constant).maker},
@@ -56,7 +56,7 @@ std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, con
     for (const AssetConstant& constant : constants) {
         const auto [header, isNew] = headers.try_emplace(headerOf(constant), options.module);
         if (isNew) {
-            header->second.add("#pragma once\n\n#include \"Records.h\"\n#include \"Runtime/Export.h\"");
+            header->second.add("#pragma once\n\n#include \"../{{module}}AssetRecords.h\"\n#include \"Runtime/Export.h\"");
             header->second.addBlankLine();
         }
         declare(header->second, constant, options);
@@ -64,7 +64,7 @@ std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, con
     }
 
     CodeWriter umbrella(options.module);
-    umbrella.add("// Every asset of the module by name.\n#pragma once\n\n#include \"{{module}}Asset/Records.h\"");
+    umbrella.add("// Every asset of the module by name.\n#pragma once\n\n#include \"{{module}}AssetRecords.h\"");
     std::vector<OutputFile> files;
     for (auto& [catalog, header] : headers) {
         umbrella.add("#include \"{{module}}Asset/{{catalog}}.h\"", {{"catalog", catalog}});
@@ -76,7 +76,7 @@ std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, con
     maker.add(makerHeader);
     files.push_back({tree + ".h", umbrella.take()});
     files.push_back({tree + ".cpp", source.take()});
-    files.push_back({tree + "/Records.h", records.take()});
+    files.push_back({tree + "Records.h", records.take()});
     files.push_back({tree + "/Internal/Catalog.h", maker.take()});
     return files;
 }

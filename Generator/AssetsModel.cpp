@@ -3,6 +3,7 @@
 #include "Generator/CodeText.h"
 #include "Generator/Namer.h"
 #include <map>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -23,6 +24,18 @@ std::string groupsOf(const SourceAsset& asset) {
         name.remove_prefix(end + 1);
     }
     return groups;
+}
+
+// A constant and a folder that provides a namespace may not have one name in C++.
+void refuseNamesOfGroups(const std::vector<AssetConstant>& constants, Diagnostics& diagnostics) {
+    std::set<std::string> groups;
+    for (const AssetConstant& constant : constants)
+        for (std::string group = constant.groups; group.find("::") != std::string::npos; group.resize(group.rfind("::")))
+            groups.insert(group);
+    for (const AssetConstant& constant : constants)
+        if (groups.contains(constant.groups + "::" + constant.name))
+            diagnostics.add(Severity::error, {.message = "gives the name " + constant.name + ", which a folder beside it gives as well",
+                                              .file = constant.asset->path});
 }
 
 } // namespace
@@ -46,6 +59,7 @@ std::vector<AssetConstant> constantsOf(std::span<const SourceAsset> assets, Diag
                                         " gives as well",
                              .file = asset.path});
     }
+    refuseNamesOfGroups(constants, diagnostics);
     return constants;
 }
 

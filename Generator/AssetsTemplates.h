@@ -9,7 +9,7 @@ namespace Generator {
 
 inline constexpr std::string_view recordsHeader = R"(#pragma once
 
-#include "../{{module}}Resources.h"
+#include "{{module}}Resources.h"
 #include "SwiftUI/AssetRecord.h"
 #include <string_view>
 
@@ -31,7 +31,7 @@ using {{module}}Data = ::SwiftUI::DataRecord<{{module}}AssetModule>;
 inline constexpr std::string_view makerHeader = R"(// How records are made; internal.
 #pragma once
 
-#include "../Records.h"
+#include "../../{{module}}AssetRecords.h"
 
 namespace {{module}} {
 

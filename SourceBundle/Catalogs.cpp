@@ -30,6 +30,21 @@ bool isFolder(const fs::path& path) {
     return fs::is_directory(fs::symlink_status(path, failed)); // a link would lead out
 }
 
+bool isLinkedFolder(const fs::path& path) {
+    std::error_code failed;
+    return fs::is_symlink(fs::symlink_status(path, failed)) && fs::is_directory(path, failed);
+}
+
+// Sets of kinds that a catalog does not hold. Any other folder is there for order, whatever its name.
+bool isOtherSet(const fs::path& folder) {
+    static constexpr std::array<std::string_view, 21> extensions = {
+        ".appiconset",     ".arreferenceimage", ".arreferenceobject", ".arresourcegroup", ".brandassets", ".complicationset",
+        ".cubetextureset", ".gcdashboardimage", ".gcleaderboard",     ".gcleaderboardset", ".iconset",    ".imagestack",
+        ".imagestacklayer", ".launchimage",     ".mipmapset",         ".solidimagestack",  ".spriteatlas", ".stickerpack",
+        ".stickersiconset", ".symbolset",       ".textureset"};
+    return std::ranges::find(extensions, folder.extension().string()) != extensions.end();
+}
+
 std::optional<Kind> kindOf(const fs::path& set) {
     static constexpr std::array<std::pair<std::string_view, Kind>, 3> kinds = {
         {{".imageset", Kind::image}, {".colorset", Kind::color}, {".dataset", Kind::data}}};
@@ -53,11 +68,13 @@ private:
         if (depth > maxFolderDepth)
             return diagnostics_.add(Severity::error, {.message = "has too many folders in one another", .file = folder});
         for (const fs::path& entry : sortedEntries(folder, diagnostics_)) {
+            if (isLinkedFolder(entry))
+                diagnostics_.add(Severity::note, {.message = "is a link, which is left out", .file = entry});
             if (!isFolder(entry) || entry.filename().string().starts_with('.'))
                 continue;
             if (const std::optional<Kind> kind = kindOf(entry))
                 readAsset(entry, *kind, prefix + entry.stem().string());
-            else if (entry.has_extension() && fs::exists(entry / "Contents.json"))
+            else if (isOtherSet(entry))
                 diagnostics_.add(Severity::note, {.message = "is a set of another kind, which is left out", .file = entry});
             else
                 readFolder(entry, providesNamespace(entry, diagnostics_) ? prefix + entry.filename().string() + "/" : prefix,
@@ -90,8 +107,12 @@ std::vector<SourceAsset> sourceAssets(const fs::path& source, Diagnostics& diagn
     std::vector<SourceAsset> assets;
     CatalogReader reader(assets, diagnostics);
     for (const fs::path& entry : sortedEntries(source, diagnostics))
-        if (isFolder(entry) && entry.extension() == ".xcassets")
-            reader.read(entry);
+        if (entry.extension() == ".xcassets") {
+            if (isLinkedFolder(entry))
+                diagnostics.add(Severity::note, {.message = "is a link, which is left out", .file = entry});
+            else if (isFolder(entry))
+                reader.read(entry);
+        }
     return assets;
 }
 

@@ -54,7 +54,7 @@ Runtime::Result<ColorValue> colorFrom(std::string_view space,
         const bool isAlpha = i == 3;
         const std::optional<std::string> text = component(names[i]);
         const std::optional<double> value = !text && isAlpha ? 1.0 : text ? valueOf(*text, isAlpha) : std::nullopt;
-        if (!value)
+        if (!value || (isAlpha && !(*value >= 0 && *value <= 1)))
             return Runtime::Error{.message = std::string("has no readable colour component \"") + names[i] + "\""};
         color.components[i] = *value;
     }

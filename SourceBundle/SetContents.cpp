@@ -33,7 +33,9 @@ std::optional<Json> contents(const fs::path& folder, bool isNeeded, Diagnostics&
         return std::nullopt;
     auto text = Runtime::readFile(file, maxContentsBytes);
     if (!text) {
-        diagnostics.add(Severity::error, std::move(text.error()));
+        // A set without it is an accident of one asset; one that is there and cannot be read is nobody's intention.
+        std::error_code failed;
+        diagnostics.add(fs::exists(file, failed) ? Severity::error : Severity::warning, std::move(text.error()));
         return std::nullopt;
     }
     try {
@@ -41,6 +43,8 @@ std::optional<Json> contents(const fs::path& folder, bool isNeeded, Diagnostics&
         if (json.is_object())
             return json;
         diagnostics.add(Severity::error, errorAt(file, *text, 0, "is no JSON object"));
+    } catch (const Json::out_of_range&) {
+        diagnostics.add(Severity::error, errorAt(file, *text, 0, "holds a number that is too large"));
     } catch (const Json::parse_error& wrong) {
         const std::size_t at = wrong.byte == 0 ? 0 : wrong.byte - 1;
         diagnostics.add(Severity::error, errorAt(file, *text, at, "is no JSON: something else was expected here"));
@@ -111,26 +115,24 @@ public:
         const char* list = asset_.kind == Kind::image ? "images" : asset_.kind == Kind::color ? "colors" : "data";
         std::vector<const Json*> entries;
         for (const Json& entry : member(json, list))
-            if (entry.is_object() && (entry.contains("filename") || entry.contains("color"))) // else an empty place
+            if (entry.is_object() && (!text(entry, "filename").empty() || entry.contains("color"))) // else an empty place
                 entries.push_back(&entry);
-        const auto byRank = [](const Json* a, const Json* b) { return rankOf(*a) < rankOf(*b); };
-        const auto first = std::ranges::min_element(entries, byRank);
-        if (first == entries.end())
-            return;
+        // The kinds of device in their order, until one gives a variant that can be used.
+        std::ranges::stable_sort(entries, {}, [](const Json* entry) { return rankOf(*entry); });
         for (const Json* entry : entries) {
             const std::optional<Fit> fit = fitOf(*entry);
-            if (!fit || isSpecial(*entry) || rankOf(*entry) != rankOf(**first))
+            const bool isDecided = rank_ && *rank_ != rankOf(*entry);
+            if (!fit || isSpecial(*entry) || isDecided)
                 diagnostics_.add(Severity::note, {.message = "has a variant for special devices, which is left out",
                                                   .file = asset_.path / "Contents.json"});
-            else if (asset_.kind == Kind::color)
-                addColor(*fit, member(*entry, "color"));
-            else
-                addFile(*fit, *entry);
+            else if (asset_.kind == Kind::color ? addColor(*fit, member(*entry, "color")) : addFile(*fit, *entry))
+                rank_ = rankOf(*entry);
         }
     }
 
 private:
-    void addFile(Fit fit, const Json& entry) {
+    // Whether there is a variant more.
+    bool addFile(Fit fit, const Json& entry) {
         const std::string name = text(entry, "filename");
         const fs::path file = asset_.path / name;
         std::error_code failed;
@@ -143,12 +145,15 @@ private:
         else if (!fs::is_regular_file(file, failed))
             warn("is missing", file);
         else
-            asset_.files.push_back({.fit = fit, .path = file, .typeIdentifier = text(entry, "universal-type-identifier")});
+            return asset_.files.push_back(
+                       {.fit = fit, .path = file, .typeIdentifier = text(entry, "universal-type-identifier")}),
+                   true;
+        return false;
     }
 
-    void addColor(Fit fit, const Json& color) {
-        if (!text(color, "reference").empty())
-            return warn("refers to a colour of the system, which is not supported: " + text(color, "reference"));
+    bool addColor(Fit fit, const Json& color) {
+        if (color.is_object() && !text(color, "reference").empty())
+            return warn("refers to a colour of the system, which is not supported: " + text(color, "reference")), false;
         const Json& components = member(color, "components");
         auto value = colorFrom(text(color, "color-space"), [&](const char* name) -> std::optional<std::string> {
             const Json& component = member(components, name);
@@ -157,9 +162,10 @@ private:
             return component.is_number() ? std::optional(component.dump()) : std::nullopt;
         });
         if (!value)
-            return warn(value.error().message);
+            return warn(value.error().message), false;
         value->fit = fit;
         asset_.colors.push_back(*value);
+        return true;
     }
 
     void warn(std::string message) { warn(std::move(message), asset_.path / "Contents.json"); }
@@ -169,6 +175,7 @@ private:
 
     SourceAsset& asset_;
     Diagnostics& diagnostics_;
+    std::optional<std::size_t> rank_; // of the kind of device whose variants are taken
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "Tools/Command.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -17,18 +18,22 @@ bool isTerminal() {
     return answer;
 }
 
+// One line is one line, whatever a file's name or a text holds.
+std::string withoutControls(std::string_view text) {
+    std::string line(text);
+    std::ranges::replace_if(line, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, '?');
+    return line;
+}
+
 void say(Severity severity, std::string_view what) {
     static constexpr const char* words[] = {"note: ", "warning: ", ""};
     static constexpr const char* colors[] = {"\033[36m", "\033[33m", "\033[31m"};
     const auto index = static_cast<std::size_t>(severity);
     std::string line = isTerminal() ? std::string("\r\033[K") + colors[index] + "lumora:\033[0m " : "lumora: ";
-    line.append(words[index]).append(what);
-    // One line is one line, whatever a file's name or a text holds.
-    for (char& c : line)
-        if (c == '\n')
-            c = ' ';
+    line.append(words[index]);
+    line += withoutControls(what);
     line += '\n';
-    std::fputs(line.c_str(), stderr);
+    std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
 } // namespace

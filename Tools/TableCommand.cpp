@@ -23,7 +23,7 @@ const std::map<std::string, Output> outputs = {
 struct TableOptions {
     std::string file;
     std::string output;
-    Output form = Output::json;
+    std::string form = "json";
 };
 
 std::string json(const Table& table) {
@@ -62,7 +62,7 @@ Exit runTable(const TableOptions& options) {
         skipped.file = options.file;
         note(skipped.text());
     }
-    auto out = written(*table, options.form);
+    auto out = written(*table, outputs.at(options.form));
     if (!out) {
         out.error().file = options.file;
         return fail(out.error());
@@ -79,8 +79,9 @@ void addTableCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<TableOptions>();
     CLI::App* command = program.add_subcommand("table", "Read a string table of any form and write it in another.");
     command->add_option("FILE", options->file, "The table: quoted text, XML or binary, told by its content")->required();
-    command->add_option("--to", options->form, "json, strings, xml or binary (default: json)")
-        ->transform(CLI::CheckedTransformer(outputs));
+    command->add_option("--to", options->form, "The form to write")
+        ->check(CLI::IsMember({"json", "strings", "xml", "binary"}))
+        ->capture_default_str();
     command->add_option("-o,--output", options->output, "Where to write (default: standard output)");
     command->callback([options, &exit] { exit = runTable(*options); });
 }

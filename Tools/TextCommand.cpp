@@ -69,7 +69,12 @@ void addTextCommand(CLI::App& program, Exit& exit) {
     command->add_option("KEY", options->key, "The key, exactly as the table has it")->required();
     command->add_option("ARG", options->arguments, "What the text's placeholders are filled with");
     command->positionals_at_end();
-    command->callback([options, &exit] { exit = runText(*options); });
+    command->callback([options, &exit] {
+        // The parser hands on the mark that ends the options.
+        if (!options->arguments.empty() && options->arguments.front() == "--")
+            options->arguments.erase(options->arguments.begin());
+        exit = runText(*options);
+    });
 }
 
 } // namespace Tools

@@ -7,7 +7,6 @@
 int main(int argc, char** argv) {
     CLI::App program("Localized texts and assets: reads, makes and compiles what a module ships.", "lumora");
     program.set_version_flag("--version", LUMORA_VERSION);
-    program.require_subcommand(1);
     Tools::Exit exit = Tools::Exit::done;
     Tools::addTextCommand(program, exit);
     Tools::addTableCommand(program, exit);
@@ -16,6 +15,9 @@ int main(int argc, char** argv) {
     Tools::addAssetCommands(program, exit);
     try {
         program.parse(argc, argv);
+        // Asked here, after a wrong word has been named.
+        if (program.get_subcommands().empty())
+            throw CLI::RequiredError("A command");
     } catch (const CLI::Success& asked) { // --help, --version
         return program.exit(asked);
     } catch (const CLI::Error& wrong) {

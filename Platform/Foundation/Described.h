@@ -75,9 +75,9 @@ public:
             borrow(std::string_view(buffer_, 1)), buffer_[0] = static_cast<char>(value);
         else if constexpr (detail::WideCharacter<T>)
             borrow(detail::characterText(static_cast<std::uint32_t>(value), buffer_));
-        else if constexpr (std::signed_integral<T>)
+        else if constexpr (std::signed_integral<T> && sizeof(T) <= sizeof(std::int64_t))
             text_ = detail::integerText(value, buffer_);
-        else if constexpr (std::unsigned_integral<T>)
+        else if constexpr (std::unsigned_integral<T> && sizeof(T) <= sizeof(std::uint64_t))
             text_ = detail::unsignedText(value, buffer_);
         else if constexpr (std::floating_point<T>)
             text_ = detail::floatingText(value, buffer_);

@@ -2,9 +2,11 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <cstdlib>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -45,6 +47,43 @@ bool writeAll(int file, std::string_view bytes) noexcept {
     return true;
 }
 
+// The file that a write to `path` means: what a link leads to.
+std::string target(const std::string& path) {
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
+    return real == nullptr ? path : std::string(real.get());
+}
+
+Result<void> writeThrough(const std::string& path, std::string_view bytes) {
+    Descriptor file(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
+    if (file.number() < 0 || !writeAll(file.number(), bytes) || !file.close())
+        return systemError(path, "cannot be written");
+    return {};
+}
+
+// The mode of the file that is there; of a new one, what the umask lets others have.
+mode_t modeOf(const std::string& path) noexcept {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) == 0)
+        return status.st_mode & 07777;
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+Result<void> replace(const std::string& path, std::string_view bytes) {
+    std::string temporary = path + ".XXXXXX";
+    Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+    if (file.number() < 0)
+        return systemError(path, "cannot be written");
+    const bool written = ::fchmod(file.number(), modeOf(path)) == 0 && writeAll(file.number(), bytes) &&
+                         ::fsync(file.number()) == 0 && file.close() && ::rename(temporary.c_str(), path.c_str()) == 0;
+    if (written)
+        return {};
+    Error error = systemError(path, "cannot be written");
+    ::unlink(temporary.c_str());
+    return error;
+}
+
 } // namespace
 
 Result<std::string> readFile(const std::string& path, std::size_t limit) {
@@ -75,20 +114,9 @@ Result<std::string> readFile(const std::string& path, std::size_t limit) {
 }
 
 Result<void> writeFile(const std::string& path, std::string_view bytes) {
-    std::string temporary = path + ".XXXXXX";
-    Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
-    if (file.number() < 0)
-        return systemError(path, "cannot be written");
-    // mkostemp keeps others out; what is written here is for everybody whom the umask lets in.
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    const bool written = ::fchmod(file.number(), 0666 & ~mask) == 0 && writeAll(file.number(), bytes) &&
-                         ::fsync(file.number()) == 0 && file.close() && ::rename(temporary.c_str(), path.c_str()) == 0;
-    if (written)
-        return {};
-    Error error = systemError(path, "cannot be written");
-    ::unlink(temporary.c_str());
-    return error;
+    struct stat status {};
+    const bool isThere = ::stat(path.c_str(), &status) == 0;
+    return isThere && !S_ISREG(status.st_mode) ? writeThrough(path, bytes) : replace(target(path), bytes);
 }
 
 } // namespace Runtime

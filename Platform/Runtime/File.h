@@ -16,7 +16,8 @@ namespace Runtime {
 [[nodiscard]] LUMORA_EXPORT Result<std::string> readFile(const std::string& path, std::size_t limit);
 
 // Makes `path` hold exactly `bytes`: written to a temporary beside it and renamed, so that a reader sees the old file
-// or the new one and an interrupted write leaves the old.
+// or the new one and an interrupted write leaves the old. A link stays, and what it leads to is replaced; a pipe or a
+// device is written to.
 [[nodiscard]] LUMORA_EXPORT Result<void> writeFile(const std::string& path, std::string_view bytes);
 
 } // namespace Runtime

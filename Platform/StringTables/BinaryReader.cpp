@@ -70,7 +70,10 @@ private:
     std::size_t tableAt_ = 0; // of the offsets; the objects end there
     // A string that several entries name is read once. Objects share no bytes, so all strings together are no longer
     // than the file: one whose strings overlap uses up `unread_` instead of memory and time without bound.
-    std::vector<std::uint32_t> readAs_; // for each object, 2i + 1 if it was read as entry i's key, 2i + 2 as its text
+    // For each object, 2i + 1 if it was read as entry i's key, 2i + 2 as its text, leftOut + i as leftOutKeys_[i].
+    std::vector<std::uint32_t> readAs_;
+    static constexpr std::uint32_t leftOut = 0x80000000;
+    std::vector<std::string_view> leftOutKeys_; // of entries whose value is no text
     std::size_t unread_;
     Runtime::Error error_;
 };
@@ -136,6 +139,10 @@ bool BinaryReader::entry(std::size_t keyAt, std::size_t textAt) {
         if (!what)
             return fail(text.at, "an object of an unknown type");
         contents_.skipped(keyString, what, key.at);
+        if (std::uint32_t& readAs = readAs_[static_cast<std::size_t>(keyNumber)]; readAs == 0) {
+            readAs = leftOut + static_cast<std::uint32_t>(leftOutKeys_.size());
+            leftOutKeys_.push_back(keyString);
+        }
         return true;
     }
     if (textNumber == keyNumber)
@@ -183,6 +190,10 @@ bool BinaryReader::count(Object& object) {
 // What object `number`, a string, says.
 bool BinaryReader::string(std::uint64_t number, Object& object, std::string_view& out) {
     const std::uint32_t readAs = readAs_[static_cast<std::size_t>(number)];
+    if (readAs >= leftOut) {
+        out = leftOutKeys_[readAs - leftOut];
+        return true;
+    }
     if (readAs != 0) {
         const Entry& entry = contents_.entries[(readAs - 1) / 2];
         out = readAs % 2 != 0 ? entry.key : entry.text;

@@ -41,7 +41,7 @@ TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
     ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
 
     EXPECT_EQ(filesBelow(folder / "out.bundle"),
-              (std::set<std::string>{"Info.plist", "Base.lproj/A.strings", "ru.lproj/A.strings"}));
+              (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings", "ru.lproj/A.strings"}));
     const auto table = Table::read(Support::contents(folder / "out.bundle/ru.lproj/A.strings"));
     ASSERT_TRUE(table);
     EXPECT_EQ(table->form(), Form::binary);
@@ -60,7 +60,7 @@ TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     const Outcome outcome = compile(folder / "source", folder / "out.bundle");
     ASSERT_EQ(outcome.diagnostics.size(), 1U);
     EXPECT_TRUE(outcome.diagnostics[0].starts_with(damaged.string() + ":2:7: ")) << outcome.diagnostics[0];
-    EXPECT_EQ(filesBelow(folder / "out.bundle"), (std::set<std::string>{"Info.plist", "Base.lproj/A.strings"}));
+    EXPECT_EQ(filesBelow(folder / "out.bundle"), (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings"}));
     // Nothing stays aside.
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
 
@@ -76,8 +76,12 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
     folder.write("source/Base.lproj/A.strings", "a = b;");
     folder.write("photos/one", "dear");
     const std::string photos = folder / "photos";
-    EXPECT_EQ(compile(folder / "source", photos).failure, photos + ": is there and is no bundle; it is left alone");
+    EXPECT_EQ(compile(folder / "source", photos).failure, photos + ": is there and was not made by a compile; it is left alone");
     EXPECT_EQ(Support::contents(folder / "photos/one"), "dear");
+    // Nor what people edit, though it looks much like one.
+    folder.write("source/Info.plist", "<plist><dict/></plist>");
+    EXPECT_NE(compile(folder / "source", folder / "source").failure, "");
+    EXPECT_EQ(Support::contents(folder / "source/Base.lproj/A.strings"), "a = b;");
     EXPECT_EQ(compile(folder / "none", folder / "out").failure, (folder / "none").string() + ": is no folder of resources");
     EXPECT_NE(compile(folder / "source", folder / "none/out.bundle").failure, "");
 }

@@ -24,12 +24,20 @@ TEST(File, WritesWholeOrNotAtAll) {
     ASSERT_TRUE(Runtime::writeFile(file, "new text"));
     EXPECT_EQ(Support::contents(file), "new text");
 
+    // A link stays one, and what it leads to is written.
+    std::filesystem::create_symlink("a", folder / "link");
+    ASSERT_TRUE(Runtime::writeFile(folder / "link", "by the link"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
+    EXPECT_EQ(Support::contents(file), "by the link");
+    ASSERT_TRUE(Runtime::writeFile("/dev/null", "x"));
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+
     const std::string nowhere = folder / "none" / "a";
     EXPECT_EQ(Runtime::writeFile(nowhere, "x").error().text(), nowhere + ": cannot be written: No such file or directory");
     std::filesystem::create_directory(folder / "in the way");
     EXPECT_FALSE(Runtime::writeFile(folder / "in the way", "x"));
     // No temporary stays behind.
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 2);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 3);
 }
 
 } // namespace

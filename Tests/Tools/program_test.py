@@ -38,6 +38,7 @@ class Program(unittest.TestCase):
         key = "ExerciseStraight.% of max weight"
         self.assertEqual(run("text", "--locale", "de_DE", key, "1500")[1], b"1.500% of max weight\n")
         self.assertEqual(run("text", "--locale", "de_DE", key, "007")[1], b"007% of max weight\n")
+        self.assertEqual(run("text", "--locale", "de_DE", key, "--", "-5")[1], b"-5% of max weight\n")
         status, out, err = run("text", "no such key")
         self.assertEqual((status, out), (0, b"no such key\n"))
         self.assertIn("note:", err)
@@ -70,11 +71,24 @@ class Program(unittest.TestCase):
                 status, out, err = run("table", file)
                 self.assertEqual((status, out, err.count("\n")), (2, b"", 1), err)
                 self.assertIn(f"{file}{place}" if place[0] == ":" else place, err)
+        self.assertIn("nonsense", run("nonsense")[2])
         for arguments in (["table", self.folder / "none"], ["table", self.folder], ["table"], ["nonsense"], [],
                           ["table", file, "--to", "yaml"], ["compile", self.folder / "none", "-o", self.folder / "x.bundle"]):
             status, out, err = run(*arguments)
             self.assertEqual((status, out, err.count("\n")), (2, b"", 1), (arguments, err))
         self.assertEqual(run("table", self.write("ok", "a=b;"), "-o", self.folder / "no" / "where")[0], 2)
+
+    def test_writes_where_it_is_told(self):
+        file = self.write("a.strings", "a = b;")
+        real = self.write("real", "old")
+        real.chmod(0o600)
+        link = self.folder / "link"
+        link.symlink_to("real")
+        self.assertEqual(run("table", file, "--to", "strings", "-o", link)[0], 0)
+        self.assertTrue(link.is_symlink())
+        self.assertEqual(real.read_text(), '"a" = "b";\n')
+        self.assertEqual(real.stat().st_mode & 0o777, 0o600)
+        self.assertEqual(run("table", file, "-o", "/dev/stdout")[1], b'{\n  "a": "b"\n}\n')
 
     def test_help_at_every_level(self):
         for arguments in ([], ["text"], ["table"], ["generate"], ["compile"]):
