@@ -36,12 +36,14 @@ Runtime::Result<std::vector<Picture>> raster(const SourceFile& file, const std::
     if (bytes.rfind(size->encoding == Pictures::Encoding::png ? "IEND" : "\xFF\xD9") == std::string::npos)
         return Runtime::Error{.message = "is a picture that is cut off"};
     Picture picture{.fit = file.fit, .width = size->width, .height = size->height, .bytes = {}};
-    picture.encoding = size->encoding == Pictures::Encoding::png ? AssetCatalog::Encoding::png : AssetCatalog::Encoding::jpeg;
+    picture.encoding =
+        size->encoding == Pictures::Encoding::png ? AssetCatalog::Encoding::png : AssetCatalog::Encoding::jpeg;
     picture.bytes = std::move(data);
     return std::vector<Picture>(1, std::move(picture));
 }
 
-// One picture for each scale that a reader may have. A drawing made for one scale is drawn in that scale's pixels already.
+// One picture for each scale that a reader may have. A drawing made for one scale is drawn in that scale's pixels
+// already.
 Runtime::Result<std::vector<Picture>> vectors(const SourceFile& file, const std::string& bytes, VectorForm form) {
     const bool isForOneScale = file.fit.scale != 0;
     std::vector<Picture> pictures;
@@ -69,8 +71,13 @@ Runtime::Result<std::vector<Picture>> picturesOf(const SourceFile& file) {
 
 // The asset with the bytes of its files. What cannot be read is left out, with a warning.
 Asset compiled(const SourceAsset& source, SourceBundle::Diagnostics& diagnostics) {
-    Asset asset{.kind = source.kind, .catalog = source.catalog, .name = source.name, .isTemplate = source.isTemplate,
-                .pictures = {}, .colors = source.colors, .data = {}};
+    Asset asset{.kind = source.kind,
+                .catalog = source.catalog,
+                .name = source.name,
+                .isTemplate = source.isTemplate,
+                .pictures = {},
+                .colors = source.colors,
+                .data = {}};
     for (const SourceFile& file : source.files) {
         if (source.kind == AssetCatalog::Kind::image) {
             auto pictures = picturesOf(file);
@@ -83,7 +90,8 @@ Asset compiled(const SourceAsset& source, SourceBundle::Diagnostics& diagnostics
             if (!bytes)
                 diagnostics.add(Severity::warning, std::move(bytes.error()));
             else
-                asset.data.push_back({.fit = file.fit, .typeIdentifier = file.typeIdentifier, .bytes = bytesOf(*bytes)});
+                asset.data.push_back(
+                    {.fit = file.fit, .typeIdentifier = file.typeIdentifier, .bytes = bytesOf(*bytes)});
         }
     }
     return asset;

@@ -8,8 +8,8 @@ namespace Compiler {
 
 namespace fs = std::filesystem;
 
-Runtime::Result<void> compileBundle(const fs::path& source, const fs::path& bundle, SourceBundle::Diagnostics& diagnostics,
-                                    const Progress& progress) {
+Runtime::Result<void> compileBundle(const fs::path& source, const fs::path& bundle,
+                                    SourceBundle::Diagnostics& diagnostics, const Progress& progress) {
     if (std::error_code failed; !fs::is_directory(source, failed))
         return Runtime::Error{.message = "is no folder of resources", .file = source};
     auto staged = StagedFolder::create(bundle);

@@ -9,7 +9,8 @@ namespace Compiler {
 
 class StagedFolder {
 public:
-    // An empty folder beside `target`. An error if `target` is there and was not made by a compile, or if its folder cannot be written.
+    // An empty folder beside `target`. An error if `target` is there and was not made by a compile, or if its folder
+    // cannot be written.
     [[nodiscard]] static Runtime::Result<StagedFolder> create(const std::filesystem::path& target);
 
     StagedFolder(StagedFolder&& other) noexcept;

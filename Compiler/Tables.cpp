@@ -23,7 +23,8 @@ std::vector<fs::path> tablesOf(const fs::path& source) {
         if (folder->path().extension() != ".lproj")
             continue;
         std::error_code unreadable;
-        for (fs::directory_iterator file(folder->path(), unreadable); !unreadable && file != end; file.increment(unreadable))
+        for (fs::directory_iterator file(folder->path(), unreadable); !unreadable && file != end;
+             file.increment(unreadable))
             if (file->path().extension() == ".strings")
                 tables.push_back(folder->path().filename() / file->path().filename());
     }

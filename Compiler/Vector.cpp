@@ -54,8 +54,8 @@ Runtime::Result<Picture> pictureOn(const Canvas& canvas) {
     picture.width = static_cast<std::uint32_t>(cairo_image_surface_get_width(canvas.surface.get()));
     picture.height = static_cast<std::uint32_t>(cairo_image_surface_get_height(canvas.surface.get()));
     const auto append = [](void* bytes, const unsigned char* data, unsigned length) {
-        static_cast<std::vector<std::uint8_t>*>(bytes)->insert(static_cast<std::vector<std::uint8_t>*>(bytes)->end(), data,
-                                                               data + length);
+        static_cast<std::vector<std::uint8_t>*>(bytes)->insert(static_cast<std::vector<std::uint8_t>*>(bytes)->end(),
+                                                               data, data + length);
         return CAIRO_STATUS_SUCCESS;
     };
     const cairo_status_t status = cairo_surface_write_to_png_stream(canvas.surface.get(), append, &picture.bytes);
@@ -68,7 +68,8 @@ constexpr double pixelsPerInch = 96; // as CSS has it
 
 // In points; 0 where the drawing leaves it to its reader.
 double pointsOf(gboolean isGiven, RsvgLength length) {
-    static constexpr double perUnit[] = {0, 1, 16, 8, pixelsPerInch, pixelsPerInch / 2.54, pixelsPerInch / 25.4, 96.0 / 72, 16};
+    static constexpr double perUnit[] = {0,         1, 16, 8, pixelsPerInch, pixelsPerInch / 2.54, pixelsPerInch / 25.4,
+                                         96.0 / 72, 16};
     const auto unit = static_cast<std::size_t>(length.unit); // percent, px, em, ex, in, cm, mm, pt, pc
     return isGiven != FALSE && unit < std::size(perUnit) ? length.length * perUnit[unit] : 0;
 }

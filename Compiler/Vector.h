@@ -19,6 +19,7 @@ enum class VectorForm { svg, pdf };
 
 // The drawing (a PDF's first page) as a PNG of `scale` pixels a point. Errors: damaged, no size, more pixels than a
 // catalog may hold. Nothing outside of `bytes` is read.
-[[nodiscard]] Runtime::Result<AssetCatalog::Picture> render(std::string_view bytes, VectorForm form, std::uint8_t scale);
+[[nodiscard]] Runtime::Result<AssetCatalog::Picture> render(std::string_view bytes, VectorForm form,
+                                                            std::uint8_t scale);
 
 } // namespace Compiler

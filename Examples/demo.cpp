@@ -1,4 +1,5 @@
-// A screenful of the application's texts in all its languages, a page of its localization services, and one of its assets.
+// A screenful of the application's texts in all its languages, a page of its localization services, and one of its
+// assets.
 #include "demo_assets.h"
 
 #include <Lumora/Lumora.h>
@@ -28,8 +29,8 @@ int columns(const std::string& text) {
         const bool isMark = (code >= 0x300 && code < 0x370) || (code >= 0x610 && code < 0x61B) ||
                             (code >= 0x64B && code < 0x660) || code == 0xE31 || (code >= 0xE34 && code < 0xE3B) ||
                             (code >= 0xE47 && code < 0xE4F) || (code >= 0x200B && code < 0x2010);
-        const bool isWide = (code >= 0x1100 && code < 0x1160) || (code >= 0x2E80 && code < 0xD7A4) ||
-                            (code >= 0xFF00 && code < 0xFF61);
+        const bool isWide =
+            (code >= 0x1100 && code < 0x1160) || (code >= 0x2E80 && code < 0xD7A4) || (code >= 0xFF00 && code < 0xFF61);
         count += isMark ? 0 : isWide ? 2 : 1;
         i += length;
     }
@@ -59,8 +60,8 @@ void servicesPage() {
     std::printf("\n");
 }
 
-// One line of a page for each language. A plain text keeps the language of its first read, as it does in the application, so
-// each line is printed by a process of its own.
+// One line of a page for each language. A plain text keeps the language of its first read, as it does in the
+// application, so each line is printed by a process of its own.
 void page(const char* title, void (*line)(), const char* locale) {
     std::printf("\n%s\n", title);
     for (const LocalizationCode code : LocalizationCode::allCases()) {

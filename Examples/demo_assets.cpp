@@ -20,7 +20,8 @@ class Sheet {
 public:
     static constexpr unsigned cell = 240; // the width and height that a picture may take
 
-    Sheet(unsigned columns, unsigned rows) : width_(columns * cell), height_(rows * cell), pixels_(4U * width_ * height_, 0xFF) {}
+    Sheet(unsigned columns, unsigned rows)
+        : width_(columns * cell), height_(rows * cell), pixels_(4U * width_ * height_, 0xFF) {}
 
     // Draws the picture into a cell, made smaller where it does not fit.
     void draw(const Pictures::Bitmap& picture, unsigned column, unsigned row) {
@@ -29,8 +30,10 @@ public:
         const auto height = static_cast<unsigned>(picture.height / shrink);
         for (unsigned y = 0; y < height; ++y)
             for (unsigned x = 0; x < width; ++x) {
-                const auto from = 4U * (static_cast<unsigned>(y * shrink) * picture.width + static_cast<unsigned>(x * shrink));
-                blend(&picture.pixels[from], column * cell + (cell - width) / 2 + x, row * cell + (cell - height) / 2 + y);
+                const auto from =
+                    4U * (static_cast<unsigned>(y * shrink) * picture.width + static_cast<unsigned>(x * shrink));
+                blend(&picture.pixels[from], column * cell + (cell - width) / 2 + x,
+                      row * cell + (cell - height) / 2 + y);
             }
     }
 
@@ -84,8 +87,8 @@ bool showAssets(const char* file) {
     unsigned column = 0;
     for (const char* region : regions) {
         const UIKit::UIImage pictures[] = {
-            UIImage::assetOnboardingStep1(region),   UIImage::assetSubscriptionWoman(region),
-            UIImage::assetSubscriptionMan(region),   UIImage::assetGym(true, region),
+            UIImage::assetOnboardingStep1(region),      UIImage::assetSubscriptionWoman(region),
+            UIImage::assetSubscriptionMan(region),      UIImage::assetGym(true, region),
             UIImage::assetDefaultCourse(false, region), UIImage::trainingTagetLossImage("male", region),
         };
         std::printf("%-8s", region);

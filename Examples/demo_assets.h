@@ -1,6 +1,6 @@
 // The demo's page of colours and pictures.
 #pragma once
 
-// Shows the progress colours and the pictures chosen for each region, and writes the pictures into one PNG at `file`. False when the
-// file cannot be written.
+// Shows the progress colours and the pictures chosen for each region, and writes the pictures into one PNG at `file`.
+// False when the file cannot be written.
 bool showAssets(const char* file);

@@ -38,7 +38,8 @@ void declare(CodeWriter& code, const AssetConstant& constant, const Options& opt
 
 void define(CodeWriter& code, const AssetConstant& constant, const Options& options) {
     code.enter(nameSpaceOf(constant, options));
-    code.add("constinit const ::{{module}}::{{module}}{{record}} {{name}} =\n    ::{{module}}::{{module}}AssetModule::Catalog::{{maker}}({{asset}});",
+    code.add("constinit const ::{{module}}::{{module}}{{record}} {{name}} =\n    "
+             "::{{module}}::{{module}}AssetModule::Catalog::{{maker}}({{asset}});",
              {{"record", wordsOf(constant).record},
               {"name", constant.name},
               {"maker", wordsOf(constant).maker},
@@ -56,7 +57,8 @@ std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, con
     for (const AssetConstant& constant : constants) {
         const auto [header, isNew] = headers.try_emplace(headerOf(constant), options.module);
         if (isNew) {
-            header->second.add("#pragma once\n\n#include \"../{{module}}AssetRecords.h\"\n#include \"Runtime/Export.h\"");
+            header->second.add(
+                "#pragma once\n\n#include \"../{{module}}AssetRecords.h\"\n#include \"Runtime/Export.h\"");
             header->second.addBlankLine();
         }
         declare(header->second, constant, options);

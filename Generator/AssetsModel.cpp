@@ -30,12 +30,14 @@ std::string groupsOf(const SourceAsset& asset) {
 void refuseNamesOfGroups(const std::vector<AssetConstant>& constants, Diagnostics& diagnostics) {
     std::set<std::string> groups;
     for (const AssetConstant& constant : constants)
-        for (std::string group = constant.groups; group.find("::") != std::string::npos; group.resize(group.rfind("::")))
+        for (std::string group = constant.groups; group.find("::") != std::string::npos;
+             group.resize(group.rfind("::")))
             groups.insert(group);
     for (const AssetConstant& constant : constants)
         if (groups.contains(constant.groups + "::" + constant.name))
-            diagnostics.add(Severity::error, {.message = "gives the name " + constant.name + ", which a folder beside it gives as well",
-                                              .file = constant.asset->path});
+            diagnostics.add(Severity::error,
+                            {.message = "gives the name " + constant.name + ", which a folder beside it gives as well",
+                             .file = constant.asset->path});
 }
 
 } // namespace
@@ -45,19 +47,20 @@ std::vector<AssetConstant> constantsOf(std::span<const SourceAsset> assets, Diag
     std::map<std::pair<std::string, std::string>, const SourceAsset*> taken; // by namespace and name
     for (const SourceAsset& asset : assets) {
         AssetConstant constant{.groups = groupsOf(asset), .name = {}, .asset = &asset};
-        constant.name = Namer::spelling(Namer::assetName(std::string_view(asset.name).substr(asset.name.rfind('/') + 1)));
+        constant.name =
+            Namer::spelling(Namer::assetName(std::string_view(asset.name).substr(asset.name.rfind('/') + 1)));
         if (constant.name.empty()) {
-            diagnostics.add(Severity::error, {.message = "gives no name: \"" + visibleText(asset.name) + '"', .file = asset.path});
+            diagnostics.add(Severity::error,
+                            {.message = "gives no name: \"" + visibleText(asset.name) + '"', .file = asset.path});
             continue;
         }
         const auto [before, isNew] = taken.try_emplace({constant.groups, constant.name}, &asset);
         if (isNew)
             constants.push_back(std::move(constant));
         else
-            diagnostics.add(Severity::error,
-                            {.message = "gives the name " + before->first.second + ", which " + before->second->path.string() +
-                                        " gives as well",
-                             .file = asset.path});
+            diagnostics.add(Severity::error, {.message = "gives the name " + before->first.second + ", which " +
+                                                         before->second->path.string() + " gives as well",
+                                              .file = asset.path});
     }
     refuseNamesOfGroups(constants, diagnostics);
     return constants;

@@ -25,13 +25,13 @@ struct Options {
 [[nodiscard]] std::vector<OutputFile> generateStrings(const std::vector<SourceBundle::SourceTable>& tables,
                                                       const Options& options, SourceBundle::Diagnostics& diagnostics);
 
-// The files of the tree of assets: NAMEAsset.h and what it includes, and NAMEAsset.cpp, which needs NAMEResources.h beside it. Every
-// fault is reported; no files when one is an error, whoever reported it, or when there are no assets.
+// The files of the tree of assets: NAMEAsset.h and what it includes, and NAMEAsset.cpp, which needs NAMEResources.h
+// beside it. Every fault is reported; no files when one is an error, whoever reported it, or when there are no assets.
 [[nodiscard]] std::vector<OutputFile> generateAssets(const std::vector<SourceBundle::SourceAsset>& assets,
                                                      const Options& options, SourceBundle::Diagnostics& diagnostics);
 
-// Both trees of the source bundle at `source`, written into `folder`. What is wrong in the sources goes to `diagnostics`; after an
-// error among them nothing is written. The result tells of the file system's failures.
+// Both trees of the source bundle at `source`, written into `folder`. What is wrong in the sources goes to
+// `diagnostics`; after an error among them nothing is written. The result tells of the file system's failures.
 [[nodiscard]] Runtime::Result<void> generateModule(const std::filesystem::path& source, const Options& options,
                                                    const std::filesystem::path& folder,
                                                    SourceBundle::Diagnostics& diagnostics);

@@ -15,7 +15,8 @@ namespace Lumora {
 
 namespace UIColor {
 
-// The record's colour, or no value when the catalog has none of its name. A class derived from the platform's is asked itself.
+// The record's colour, or no value when the catalog has none of its name. A class derived from the platform's is asked
+// itself.
 template <class Class = UIKit::UIColor> [[nodiscard]] auto withAsset(const LumoraColors& record) {
     return Class::colorNamed(record.name(), LumoraResources::bundle(), nullptr);
 }
@@ -24,7 +25,8 @@ template <class Class = UIKit::UIColor> [[nodiscard]] auto withAsset(const Lumor
 
 namespace NSDataAsset {
 
-// The record's data, or no value when the catalog has none of its name. A class derived from the platform's is asked itself.
+// The record's data, or no value when the catalog has none of its name. A class derived from the platform's is asked
+// itself.
 template <class Class = UIKit::NSDataAsset> [[nodiscard]] auto withAsset(const LumoraData& record) {
     return Class::assetWithName(record.name(), LumoraResources::bundle());
 }

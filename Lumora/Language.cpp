@@ -28,7 +28,8 @@ LocalizationCode detail::pickLocalizationCode(std::span<const std::string> prefe
 }
 
 LocalizationCode Localization::currentLanguageCode() {
-    return detail::pickLocalizationCode(LumoraResources::bundle().preferredLocalizations(), LocalizationCode::allCases());
+    return detail::pickLocalizationCode(LumoraResources::bundle().preferredLocalizations(),
+                                        LocalizationCode::allCases());
 }
 
 std::string Localization::currentLanguage() {

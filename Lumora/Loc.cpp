@@ -12,8 +12,8 @@ struct NSString {
 
 namespace {
 
-// C callers hold texts and numbers by bare pointers and release both by one function, so each lies behind a note of how it is
-// destroyed.
+// C callers hold texts and numbers by bare pointers and release both by one function, so each lies behind a note of how
+// it is destroyed.
 struct Header {
     void (*destroy)(void* object);
 };

@@ -25,27 +25,27 @@ typedef double CGFloat;
 #define LUMORA_C_EXPORT __attribute__((visibility("default")))
 
 /* A text object with a copy of `utf8`; null makes the empty text. */
-LUMORA_C_EXPORT NSString *NSStringCreate(const char *utf8);
+LUMORA_C_EXPORT NSString* NSStringCreate(const char* utf8);
 /* The text, ended by a NUL, as long as `string` lives; "" for null. */
-LUMORA_C_EXPORT const char *NSStringUTF8(const NSString *string);
-LUMORA_C_EXPORT NSNumber *NSNumberCreateInteger(int64_t value);
-LUMORA_C_EXPORT NSNumber *NSNumberCreateDouble(double value);
+LUMORA_C_EXPORT const char* NSStringUTF8(const NSString* string);
+LUMORA_C_EXPORT NSNumber* NSNumberCreateInteger(int64_t value);
+LUMORA_C_EXPORT NSNumber* NSNumberCreateDouble(double value);
 /* Gives back what one of these functions returned, once. */
-LUMORA_C_EXPORT void NSRelease(const void *object);
+LUMORA_C_EXPORT void NSRelease(const void* object);
 
-/* The text of `key` in the language in force, its placeholders as they stand; the key itself when it has none; the empty
- * text for null. */
-LUMORA_C_EXPORT NSString *Loc(const NSString *key);
+/* The text of `key` in the language in force, its placeholders as they stand; the key itself when it has none; the
+ * empty text for null. */
+LUMORA_C_EXPORT NSString* Loc(const NSString* key);
 /* The number in the user's locale, without a plus sign; the empty text for null. */
-LUMORA_C_EXPORT NSString *LocNumber(const NSNumber *number);
+LUMORA_C_EXPORT NSString* LocNumber(const NSNumber* number);
 /* The same, with a plus sign before what is not negative if `needSign` says so. */
-LUMORA_C_EXPORT NSString *LocNumberWithPositivePrefix(const NSNumber *number, bool needSign);
+LUMORA_C_EXPORT NSString* LocNumberWithPositivePrefix(const NSNumber* number, bool needSign);
 /* An age in years, in words. */
-LUMORA_C_EXPORT NSString *LocAge(NSInteger age);
+LUMORA_C_EXPORT NSString* LocAge(NSInteger age);
 /* A fraction as a percentage: 0.25 is "25%". */
-LUMORA_C_EXPORT NSString *LocPercent(CGFloat value);
+LUMORA_C_EXPORT NSString* LocPercent(CGFloat value);
 /* The same, with a plus sign before what is above zero if `showPlus` says so. */
-LUMORA_C_EXPORT NSString *LocPercentSigned(CGFloat value, bool showPlus);
+LUMORA_C_EXPORT NSString* LocPercentSigned(CGFloat value, bool showPlus);
 
 #ifdef __cplusplus
 }

@@ -16,8 +16,8 @@ struct PluralForms {
     std::string many;
 };
 
-// The form that goes with `count`: by its last digit, the last form for counts that end in 11 to 19, and for every negative
-// one. The rule is the same in all languages; the words are the language's.
+// The form that goes with `count`: by its last digit, the last form for counts that end in 11 to 19, and for every
+// negative one. The rule is the same in all languages; the words are the language's.
 [[nodiscard]] LUMORA_EXPORT std::string getSuffix(std::int64_t count, const PluralForms& forms);
 
 // The count in plain decimal, a space and the noun: "3 days".

@@ -36,7 +36,8 @@ std::string plainPercent(double value) {
     if (std::isinf(percent))
         return percent > 0 ? "∞%" : "-∞%";
     std::array<char, std::numeric_limits<float>::max_exponent10 + 4> digits; // sign, all digits of the largest, and "%"
-    char* end = std::to_chars(digits.data(), digits.data() + digits.size() - 1, percent, std::chars_format::fixed, 0).ptr;
+    char* end =
+        std::to_chars(digits.data(), digits.data() + digits.size() - 1, percent, std::chars_format::fixed, 0).ptr;
     *end++ = '%';
     return {digits.data(), end};
 }

@@ -62,9 +62,9 @@ std::string locWeeks(std::int64_t count) {
 namespace {
 
 // Whose ages are phrases of the table. That Russian is not among them, though the rule is its own, is meant.
-constexpr std::array<LocalizationCode, 7> keyedAgeCodes = {LocalizationCode::en, LocalizationCode::de, LocalizationCode::tr,
-                                                           LocalizationCode::ko, LocalizationCode::vi, LocalizationCode::ja,
-                                                           LocalizationCode::zhHans};
+constexpr std::array<LocalizationCode, 7> keyedAgeCodes = {
+    LocalizationCode::en, LocalizationCode::de, LocalizationCode::tr,    LocalizationCode::ko,
+    LocalizationCode::vi, LocalizationCode::ja, LocalizationCode::zhHans};
 
 } // namespace
 

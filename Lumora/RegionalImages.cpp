@@ -40,12 +40,14 @@ UIKit::UIImage target(const Target& names, std::string_view gender, std::string_
 } // namespace
 
 UIKit::UIImage assetSubscriptionWoman(std::string_view region) {
-    return regional({"subscription_woman.arab", "subscription_woman.asia", "subscription_woman.latina", "subscription_woman.usa"},
-                    "subscription_woman", region);
+    return regional(
+        {"subscription_woman.arab", "subscription_woman.asia", "subscription_woman.latina", "subscription_woman.usa"},
+        "subscription_woman", region);
 }
 
 UIKit::UIImage assetSubscriptionMan(std::string_view region) {
-    return regional({"subscription_man.arab", "subscription_man.asia", "subscription_man.usa"}, "subscription_man", region);
+    return regional({"subscription_man.arab", "subscription_man.asia", "subscription_man.usa"}, "subscription_man",
+                    region);
 }
 
 UIKit::UIImage assetSex(bool isMale, std::string_view region) {
@@ -61,7 +63,8 @@ UIKit::UIImage assetHome(bool isMale, std::string_view region) {
 }
 
 UIKit::UIImage assetDefaultCourse(bool isMale, std::string_view region) {
-    return bySex(isMale, {"defaultCourseBoy", "defaultCourseBoy.arab"}, {"defaultCourseGirl", "defaultCourseGirl.arab"}, region);
+    return bySex(isMale, {"defaultCourseBoy", "defaultCourseBoy.arab"}, {"defaultCourseGirl", "defaultCourseGirl.arab"},
+                 region);
 }
 
 UIKit::UIImage assetEquipment(bool isMale, std::string_view region) {
@@ -69,7 +72,8 @@ UIKit::UIImage assetEquipment(bool isMale, std::string_view region) {
 }
 
 UIKit::UIImage assetNoEquipment(bool isMale, std::string_view region) {
-    return bySex(isMale, {"boy_no_equipment", "boy_no_equipment.arab"}, {"girl_no_equipment", "girl_no_equipment.arab"}, region);
+    return bySex(isMale, {"boy_no_equipment", "boy_no_equipment.arab"}, {"girl_no_equipment", "girl_no_equipment.arab"},
+                 region);
 }
 
 std::optional<UIKit::UIImage> assetOnboarding(std::int64_t step, std::string_view region) {

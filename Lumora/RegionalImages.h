@@ -1,9 +1,9 @@
 // Lumora/RegionalImages.h
 // Pictures that come in variants for a market region and for the user's sex.
-// A region is "arab", "asia", "europe", "latina" or "usa", compared with the end of a picture's name, letter for letter: an empty
-// region takes the first variant, an unknown one the default. The training targets know the regions "ru" and "ar" and the
-// genders "male" and "female", compared whole.
-// Text: UTF-8. Threads: any. A picture that is chosen and missing stops the process.
+// A region is "arab", "asia", "europe", "latina" or "usa", compared with the end of a picture's name, letter for
+// letter: an empty region takes the first variant, an unknown one the default. The training targets know the regions
+// "ru" and "ar" and the genders "male" and "female", compared whole. Text: UTF-8. Threads: any. A picture that is
+// chosen and missing stops the process.
 #pragma once
 
 #include "Runtime/Export.h"

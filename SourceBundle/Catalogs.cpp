@@ -38,10 +38,11 @@ bool isLinkedFolder(const fs::path& path) {
 // Sets of kinds that a catalog does not hold. Any other folder is there for order, whatever its name.
 bool isOtherSet(const fs::path& folder) {
     static constexpr std::array<std::string_view, 21> extensions = {
-        ".appiconset",     ".arreferenceimage", ".arreferenceobject", ".arresourcegroup", ".brandassets", ".complicationset",
-        ".cubetextureset", ".gcdashboardimage", ".gcleaderboard",     ".gcleaderboardset", ".iconset",    ".imagestack",
-        ".imagestacklayer", ".launchimage",     ".mipmapset",         ".solidimagestack",  ".spriteatlas", ".stickerpack",
-        ".stickersiconset", ".symbolset",       ".textureset"};
+        ".appiconset",      ".arreferenceimage", ".arreferenceobject", ".arresourcegroup", ".brandassets",
+        ".complicationset", ".cubetextureset",   ".gcdashboardimage",  ".gcleaderboard",   ".gcleaderboardset",
+        ".iconset",         ".imagestack",       ".imagestacklayer",   ".launchimage",     ".mipmapset",
+        ".solidimagestack", ".spriteatlas",      ".stickerpack",       ".stickersiconset", ".symbolset",
+        ".textureset"};
     return std::ranges::find(extensions, folder.extension().string()) != extensions.end();
 }
 
@@ -56,7 +57,8 @@ std::optional<Kind> kindOf(const fs::path& set) {
 
 class CatalogReader {
 public:
-    CatalogReader(std::vector<SourceAsset>& assets, Diagnostics& diagnostics) : assets_(assets), diagnostics_(diagnostics) {}
+    CatalogReader(std::vector<SourceAsset>& assets, Diagnostics& diagnostics)
+        : assets_(assets), diagnostics_(diagnostics) {}
 
     void read(const fs::path& catalog) {
         catalog_ = catalog.stem();
@@ -66,7 +68,8 @@ public:
 private:
     void readFolder(const fs::path& folder, const std::string& prefix, int depth) {
         if (depth > maxFolderDepth)
-            return diagnostics_.add(Severity::error, {.message = "has too many folders in one another", .file = folder});
+            return diagnostics_.add(Severity::error,
+                                    {.message = "has too many folders in one another", .file = folder});
         for (const fs::path& entry : sortedEntries(folder, diagnostics_)) {
             if (isLinkedFolder(entry))
                 diagnostics_.add(Severity::note, {.message = "is a link, which is left out", .file = entry});
@@ -75,9 +78,11 @@ private:
             if (const std::optional<Kind> kind = kindOf(entry))
                 readAsset(entry, *kind, prefix + entry.stem().string());
             else if (isOtherSet(entry))
-                diagnostics_.add(Severity::note, {.message = "is a set of another kind, which is left out", .file = entry});
+                diagnostics_.add(Severity::note,
+                                 {.message = "is a set of another kind, which is left out", .file = entry});
             else
-                readFolder(entry, providesNamespace(entry, diagnostics_) ? prefix + entry.filename().string() + "/" : prefix,
+                readFolder(entry,
+                           providesNamespace(entry, diagnostics_) ? prefix + entry.filename().string() + "/" : prefix,
                            depth + 1);
         }
     }
@@ -89,9 +94,9 @@ private:
             return diagnostics_.add(Severity::warning, {.message = "holds no variant and is left out", .file = set});
         const auto [before, isNew] = paths_.try_emplace({kind, asset.name}, set);
         if (!isNew)
-            return diagnostics_.add(Severity::warning, {.message = "has the name of " + before->second.string() +
-                                                                   " and is left out",
-                                                        .file = set});
+            return diagnostics_.add(
+                Severity::warning,
+                {.message = "has the name of " + before->second.string() + " and is left out", .file = set});
         assets_.push_back(std::move(asset));
     }
 

@@ -13,12 +13,13 @@ using AssetCatalog::ColorValue;
 namespace {
 
 std::optional<ColorSpace> spaceNamed(std::string_view name) {
-    static constexpr std::array<std::pair<std::string_view, ColorSpace>, 6> spaces = {{{"srgb", ColorSpace::srgb},
-                                                                                       {"", ColorSpace::srgb},
-                                                                                       {"extended-srgb", ColorSpace::extendedSrgb},
-                                                                                       {"display-p3", ColorSpace::displayP3},
-                                                                                       {"gray-gamma-22", ColorSpace::gray},
-                                                                                       {"extended-gray", ColorSpace::gray}}};
+    static constexpr std::array<std::pair<std::string_view, ColorSpace>, 6> spaces = {
+        {{"srgb", ColorSpace::srgb},
+         {"", ColorSpace::srgb},
+         {"extended-srgb", ColorSpace::extendedSrgb},
+         {"display-p3", ColorSpace::displayP3},
+         {"gray-gamma-22", ColorSpace::gray},
+         {"extended-gray", ColorSpace::gray}}};
     for (const auto& [known, space] : spaces)
         if (known == name)
             return space;

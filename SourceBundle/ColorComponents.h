@@ -11,8 +11,9 @@
 
 namespace SourceBundle {
 
-// A colour of the space "srgb", "extended-srgb", "display-p3", "gray-gamma-22" or "extended-gray". `component` gives the text of
-// "red", "green", "blue", "white" or "alpha" (1 without one): a decimal ("0.5"), a whole number of 255 ("128") or of 0xFF ("0x80").
+// A colour of the space "srgb", "extended-srgb", "display-p3", "gray-gamma-22" or "extended-gray". `component` gives
+// the text of "red", "green", "blue", "white" or "alpha" (1 without one): a decimal ("0.5"), a whole number of 255
+// ("128") or of 0xFF ("0x80").
 [[nodiscard]] Runtime::Result<AssetCatalog::ColorValue>
 colorFrom(std::string_view space, const std::function<std::optional<std::string>(const char*)>& component);
 

@@ -91,8 +91,8 @@ std::optional<Fit> fitOf(const Json& entry) {
 
 // Whether an entry is for a device, screen or memory of its own, which no reader here asks for.
 bool isSpecial(const Json& entry) {
-    static constexpr std::array names = {"subtype",      "screen-width", "width-class",          "height-class",
-                                         "memory",       "locale",       "graphics-feature-set", "display-gamut"};
+    static constexpr std::array names = {"subtype", "screen-width", "width-class",          "height-class",
+                                         "memory",  "locale",       "graphics-feature-set", "display-gamut"};
     return std::ranges::any_of(names, [&](const char* name) {
         const std::string value = text(entry, name);
         return !value.empty() && value != "sRGB" && value != "any";
@@ -115,7 +115,8 @@ public:
         const char* list = asset_.kind == Kind::image ? "images" : asset_.kind == Kind::color ? "colors" : "data";
         std::vector<const Json*> entries;
         for (const Json& entry : member(json, list))
-            if (entry.is_object() && (!text(entry, "filename").empty() || entry.contains("color"))) // else an empty place
+            if (entry.is_object() &&
+                (!text(entry, "filename").empty() || entry.contains("color"))) // else an empty place
                 entries.push_back(&entry);
         // The kinds of device in their order, until one gives a variant that can be used.
         std::ranges::stable_sort(entries, {}, [](const Json* entry) { return rankOf(*entry); });
@@ -137,40 +138,44 @@ private:
         const fs::path file = asset_.path / name;
         std::error_code failed;
         // A name is one component, and what it names lies in the set: nothing else of the machine gets into a catalog.
-        if (name.empty() || name == "." || name == ".." || name.find('/') != std::string::npos)
-            diagnostics_.add(Severity::error, {.message = "names a file outside of its set: \"" + name + "\"",
-                                               .file = asset_.path / "Contents.json"});
-        else if (fs::is_symlink(fs::symlink_status(file, failed)))
-            diagnostics_.add(Severity::error, {.message = "is a link; a set holds its files itself", .file = file});
-        else if (!fs::is_regular_file(file, failed))
-            warn("is missing", file);
-        else
-            return asset_.files.push_back(
-                       {.fit = fit, .path = file, .typeIdentifier = text(entry, "universal-type-identifier")}),
-                   true;
-        return false;
+        if (name == "." || name == ".." || name.find('/') != std::string::npos)
+            return refuse("names a file outside of its set: \"" + name + "\"", asset_.path / "Contents.json");
+        if (fs::is_symlink(fs::symlink_status(file, failed)))
+            return refuse("is a link; a set holds its files itself", file);
+        if (!fs::is_regular_file(file, failed))
+            return leaveOut("is missing", file);
+        asset_.files.push_back({.fit = fit, .path = file, .typeIdentifier = text(entry, "universal-type-identifier")});
+        return true;
     }
 
     bool addColor(Fit fit, const Json& color) {
+        const fs::path file = asset_.path / "Contents.json";
         if (color.is_object() && !text(color, "reference").empty())
-            return warn("refers to a colour of the system, which is not supported: " + text(color, "reference")), false;
+            return leaveOut("refers to a colour of the system, which is not supported: " + text(color, "reference"),
+                            file);
         const Json& components = member(color, "components");
-        auto value = colorFrom(text(color, "color-space"), [&](const char* name) -> std::optional<std::string> {
+        const std::string space = color.is_object() ? text(color, "color-space") : std::string();
+        auto value = colorFrom(space, [&](const char* name) -> std::optional<std::string> {
             const Json& component = member(components, name);
             if (component.is_string())
                 return component.get<std::string>();
             return component.is_number() ? std::optional(component.dump()) : std::nullopt;
         });
         if (!value)
-            return warn(value.error().message), false;
+            return leaveOut(value.error().message, file);
         value->fit = fit;
         asset_.colors.push_back(*value);
         return true;
     }
 
-    void warn(std::string message) { warn(std::move(message), asset_.path / "Contents.json"); }
-    void warn(std::string message, const fs::path& file) {
-        diagnostics_.add(Severity::warning, {.message = std::move(message), .file = file});
+    // Both say what is wrong with a variant, which there is none of then.
+    bool refuse(std::string message, const fs::path& file) { return say(Severity::error, std::move(message), file); }
+    bool leaveOut(std::string message, const fs::path& file) {
+        return say(Severity::warning, std::move(message), file);
+    }
+    bool say(Severity severity, std::string message, const fs::path& file) {
+        diagnostics_.add(severity, {.message = std::move(message), .file = file});
+        return false;
     }
 
     SourceAsset& asset_;

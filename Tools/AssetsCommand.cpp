@@ -99,7 +99,8 @@ void addAssetCommands(CLI::App& program, Exit& exit) {
     list->callback([options, &exit] { exit = listAssets(*options); });
 
     CLI::App* one = program.add_subcommand("asset", "Write one asset out as it stands in the catalog.");
-    one->add_option("NAME", options->name, "The asset's name, folder/name where folders provide a namespace")->required();
+    one->add_option("NAME", options->name, "The asset's name, folder/name where folders provide a namespace")
+        ->required();
     one->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
     one->add_flag("--dark", options->isDark, "The variant for a dark screen");
     one->add_option("--scale", options->scale, "Pixels in a point")->check(CLI::Range(1U, 9U))->capture_default_str();

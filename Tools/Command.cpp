@@ -21,7 +21,8 @@ bool isTerminal() {
 // One line is one line, whatever a file's name or a text holds.
 std::string withoutControls(std::string_view text) {
     std::string line(text);
-    std::ranges::replace_if(line, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, '?');
+    std::ranges::replace_if(
+        line, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, '?');
     return line;
 }
 

@@ -26,7 +26,8 @@ Exit runCompile(const CompileOptions& options) {
 
 void addCompileCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<CompileOptions>();
-    CLI::App* command = program.add_subcommand("compile", "Make the bundle that ships: binary tables, compiled assets.");
+    CLI::App* command =
+        program.add_subcommand("compile", "Make the bundle that ships: binary tables, compiled assets.");
     command->add_option("SOURCE", options->source, "The source bundle: a folder of *.lproj and *.xcassets")->required();
     command->add_option("-o,--output", options->output, "The bundle to make, NAME.bundle")->required();
     command->callback([options, &exit] { exit = runCompile(*options); });

@@ -33,7 +33,8 @@ void addGenerateCommand(CLI::App& program, Exit& exit) {
     command->add_option("SOURCE", options->source, "The source bundle: a folder of *.lproj and *.xcassets")->required();
     command->add_option("--module", options->generator.module, "The module's name, a C++ identifier")->required();
     command->add_option("-o,--output", options->output, "The folder to write into")->required();
-    command->add_option("--include", options->generator.includes, "A header of hand-made members, included by the tree's");
+    command->add_option("--include", options->generator.includes,
+                        "A header of hand-made members, included by the tree's");
     command->add_option("--shards", options->generator.shards, "Into how many sources the accessors are split")
         ->check(CLI::PositiveNumber);
     command->callback([options, &exit] { exit = runGenerate(*options); });

@@ -78,7 +78,8 @@ Exit runTable(const TableOptions& options) {
 void addTableCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<TableOptions>();
     CLI::App* command = program.add_subcommand("table", "Read a string table of any form and write it in another.");
-    command->add_option("FILE", options->file, "The table: quoted text, XML or binary, told by its content")->required();
+    command->add_option("FILE", options->file, "The table: quoted text, XML or binary, told by its content")
+        ->required();
     command->add_option("--to", options->form, "The form to write")
         ->check(CLI::IsMember({"json", "strings", "xml", "binary"}))
         ->capture_default_str();

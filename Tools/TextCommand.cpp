@@ -43,8 +43,8 @@ Exit runText(const TextOptions& options) {
     if (!options.locale.empty())
         Foundation::Host::setCurrentLocale(options.locale);
 
-    const Foundation::NSBundle& bundle =
-        options.bundle.empty() ? Lumora::LumoraResources::bundle() : Foundation::NSBundle::bundleWithPath(options.bundle);
+    const Foundation::NSBundle& bundle = options.bundle.empty() ? Lumora::LumoraResources::bundle()
+                                                                : Foundation::NSBundle::bundleWithPath(options.bundle);
     const std::string_view text = bundle.localizedText(options.key, options.table);
     if (text.data() == options.key.data())
         note("no table \"" + options.table + "\" of the bundle has this key");

@@ -1,7 +1,7 @@
 #include "Foundation/Host.h"
 
-#include "Foundation/internal/HostState.h"
 #include "Foundation/Locale.h"
+#include "Foundation/internal/HostState.h"
 #include <algorithm>
 #include <atomic>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // Foundation/NSBundle.h
 // A directory of resources: string tables per language in NAME.lproj folders, compiled assets, Info.plist.
-// Text: UTF-8; paths as the file system has them. Threads: all members from any thread; after a first read no look-up takes
-// a lock. Ownership: bundles, and every view and reference they give, live until the process ends.
+// Text: UTF-8; paths as the file system has them. Threads: all members from any thread; after a first read no look-up
+// takes a lock. Ownership: bundles, and every view and reference they give, live until the process ends.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -14,8 +14,8 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSBundle {
 public:
-    // The bundle NAME.bundle in the directory of the shared object that holds `code` (the address of a function or static
-    // object); the main bundle when that is the program itself. One place, whether a bundle is there or not.
+    // The bundle NAME.bundle in the directory of the shared object that holds `code` (the address of a function or
+    // static object); the main bundle when that is the program itself. One place, whether a bundle is there or not.
     [[nodiscard]] static const NSBundle& bundleForCode(const void* code, std::string_view name);
     // PROGRAM.bundle in the directory of the program.
     [[nodiscard]] static const NSBundle& mainBundle();
@@ -30,22 +30,23 @@ public:
     [[nodiscard]] const std::string& bundlePath() const noexcept;
     // The language of the development texts: Info.plist's CFBundleDevelopmentRegion, "en" without one.
     [[nodiscard]] const std::string& developmentLocalization() const noexcept;
-    // The languages of the bundle, sorted: one for each *.lproj folder, Base.lproj standing for the development language.
+    // The languages of the bundle, sorted: one for each *.lproj folder, Base.lproj standing for the development
+    // language.
     [[nodiscard]] const std::vector<std::string>& localizations() const noexcept;
     // Those of `localizations` that the user reads, the best liked first, by the host's preferred languages now; the
     // development language alone when the user reads none. Empty when the bundle has no languages.
     [[nodiscard]] const std::vector<std::string>& preferredLocalizations() const;
 
-    // The text of `key` (exact) in the table `table` of the first preferred localization, then of the development texts,
-    // as a view that lives until the process ends; `key` itself when no table has it. A damaged or missing table is a table
-    // without keys. Each table is read once.
+    // The text of `key` (exact) in the table `table` of the first preferred localization, then of the development
+    // texts, as a view that lives until the process ends; `key` itself when no table has it. A damaged or missing table
+    // is a table without keys. Each table is read once.
     [[nodiscard]] std::string_view localizedText(std::string_view key, std::string_view table) const;
     // The same with a text of the caller's for a key that no table has; `value` null: the key. An empty `table` is
     // "Localizable".
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, const std::string* value,
                                                     std::string_view table) const;
-    // The path of the file NAME.TYPE of one localization ("Base" is one), in `directory` below the localization's folder if
-    // that is not empty; no value when there is no such file or a name would lead out of the bundle.
+    // The path of the file NAME.TYPE of one localization ("Base" is one), in `directory` below the localization's
+    // folder if that is not empty; no value when there is no such file or a name would lead out of the bundle.
     [[nodiscard]] std::optional<std::string> pathForResource(std::string_view name, std::string_view type,
                                                              std::string_view directory,
                                                              std::string_view localization) const;

@@ -14,8 +14,8 @@ class LUMORA_EXPORT NSNumber {
 public:
     // Keeps whole numbers exactly, floating ones as double; a bool is 0 or 1.
     template <class T>
-    requires(std::is_arithmetic_v<T> && (std::floating_point<T> || sizeof(T) <= sizeof(std::uint64_t)))
-    constexpr NSNumber(T value) noexcept {
+    requires(std::is_arithmetic_v<T> &&
+             (std::floating_point<T> || sizeof(T) <= sizeof(std::uint64_t))) constexpr NSNumber(T value) noexcept {
         if constexpr (std::floating_point<T>) {
             kind_ = Kind::floating;
             floating_ = static_cast<double>(value);

@@ -7,7 +7,7 @@
 #include <atomic>
 #include <cstddef> // std::byte
 #include <cstdint>
-#include <new>         // placement, std::launder
+#include <new> // placement, std::launder
 #include <type_traits>
 
 namespace Runtime {

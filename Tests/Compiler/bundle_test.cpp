@@ -1,3 +1,4 @@
+#include "AssetCatalog/Catalog.h"
 #include "Compiler/Bundle.h"
 #include "StringTables/Table.h"
 
@@ -51,6 +52,39 @@ TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "en");
 }
 
+TEST(CompileBundle, RendersDrawingsInTheSizeTheyHave) {
+    const struct {
+        int line;
+        const char* attributes;
+        std::uint32_t width, height; // in points
+    } cases[] = {
+        {__LINE__, R"(width="24" height="12")", 24, 12},
+        {__LINE__, R"(width="6.35mm" height=".25in")", 24, 24},
+        {__LINE__, R"(width="18pt" height="2pc")", 24, 32},
+        {__LINE__, R"(viewBox="0 0 24 12")", 24, 12},
+        {__LINE__, R"(width="48" viewBox="0 0 24 12")", 48, 24},
+        {__LINE__, R"(height="48" viewBox="0 0 24 12")", 96, 48},
+        {__LINE__, R"(width="100%" height="100%" viewBox="0 0 10 20")", 10, 20},
+    };
+    const Support::TemporaryFolder folder;
+    folder.write("source/A.xcassets/p.imageset/Contents.json", R"({"images": [{"filename": "p.svg"}]})");
+    for (const auto& one : cases) {
+        folder.write("source/A.xcassets/p.imageset/p.svg", "<!-- a drawing -->" + std::string(5000, ' ') +
+                                                               "<svg xmlns=\"http://www.w3.org/2000/svg\" " +
+                                                               one.attributes + "><path d=\"M0 0H9V9Z\"/></svg>");
+        ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "") << "line " << one.line;
+        const auto catalog = AssetCatalog::Catalog::open(folder / "out.bundle/Assets.catalog");
+        ASSERT_TRUE(catalog) << "line " << one.line;
+        const AssetCatalog::Entry entry = (*catalog)[0];
+        ASSERT_EQ(entry.variants(), 3U);
+        for (std::size_t variant = 0; variant < 3; ++variant) {
+            const AssetCatalog::PictureView picture = entry.picture(variant);
+            EXPECT_EQ(picture.width, picture.fit.scale * one.width) << "line " << one.line;
+            EXPECT_EQ(picture.height, picture.fit.scale * one.height) << "line " << one.line;
+        }
+    }
+}
+
 TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     const Support::TemporaryFolder folder;
     folder.write("source/Base.lproj/A.strings", "a = good;");
@@ -60,7 +94,8 @@ TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     const Outcome outcome = compile(folder / "source", folder / "out.bundle");
     ASSERT_EQ(outcome.diagnostics.size(), 1U);
     EXPECT_TRUE(outcome.diagnostics[0].starts_with(damaged.string() + ":2:7: ")) << outcome.diagnostics[0];
-    EXPECT_EQ(filesBelow(folder / "out.bundle"), (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings"}));
+    EXPECT_EQ(filesBelow(folder / "out.bundle"),
+              (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings"}));
     // Nothing stays aside.
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
 
@@ -76,13 +111,15 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
     folder.write("source/Base.lproj/A.strings", "a = b;");
     folder.write("photos/one", "dear");
     const std::string photos = folder / "photos";
-    EXPECT_EQ(compile(folder / "source", photos).failure, photos + ": is there and was not made by a compile; it is left alone");
+    EXPECT_EQ(compile(folder / "source", photos).failure,
+              photos + ": is there and was not made by a compile; it is left alone");
     EXPECT_EQ(Support::contents(folder / "photos/one"), "dear");
     // Nor what people edit, though it looks much like one.
     folder.write("source/Info.plist", "<plist><dict/></plist>");
     EXPECT_NE(compile(folder / "source", folder / "source").failure, "");
     EXPECT_EQ(Support::contents(folder / "source/Base.lproj/A.strings"), "a = b;");
-    EXPECT_EQ(compile(folder / "none", folder / "out").failure, (folder / "none").string() + ": is no folder of resources");
+    EXPECT_EQ(compile(folder / "none", folder / "out").failure,
+              (folder / "none").string() + ": is no folder of resources");
     EXPECT_NE(compile(folder / "source", folder / "none/out.bundle").failure, "");
 }
 

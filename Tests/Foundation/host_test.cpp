@@ -19,7 +19,9 @@ struct Environment {
 };
 
 void apply(const Environment& environment) {
-    const auto set = [](const char* name, const char* value) { value != nullptr ? ::setenv(name, value, 1) : ::unsetenv(name); };
+    const auto set = [](const char* name, const char* value) {
+        value != nullptr ? ::setenv(name, value, 1) : ::unsetenv(name);
+    };
     set("LANGUAGE", environment.language);
     set("LC_ALL", environment.all);
     set("LC_MESSAGES", environment.messages);

@@ -13,7 +13,10 @@ using UIKit::UITraitCollection;
 
 // Users cannot make records.
 template <class Record>
-concept Constructible = requires { Record("send"); } || std::is_default_constructible_v<Record>;
+concept Constructible = requires {
+    Record("send");
+}
+|| std::is_default_constructible_v<Record>;
 static_assert(!Constructible<LumoraImages> && !Constructible<LumoraColors> && !Constructible<LumoraData>);
 static_assert(!std::is_copy_constructible_v<LumoraColors>);
 
@@ -55,12 +58,14 @@ TEST(Assets, FollowTheTraitsInForce) {
 
 // What a subclass looks up itself is asked of the subclass.
 struct PaintedColor : UIKit::UIColor {
-    static std::optional<UIKit::UIColor> colorNamed(std::string_view, const Foundation::NSBundle&, const UITraitCollection*) {
+    static std::optional<UIKit::UIColor> colorNamed(std::string_view, const Foundation::NSBundle&,
+                                                    const UITraitCollection*) {
         return UIKit::UIColor(1, 2, 3, 1);
     }
 };
 struct PaintedImage : UIKit::UIImage {
-    static std::string imageNamedWithConfiguration(std::string_view name, const Foundation::NSBundle&, const UITraitCollection*) {
+    static std::string imageNamedWithConfiguration(std::string_view name, const Foundation::NSBundle&,
+                                                   const UITraitCollection*) {
         return "painted " + std::string(name);
     }
 };
@@ -80,9 +85,10 @@ TEST(ProgressColors, RunFromRedThroughYellowToTheBase) {
         double progress;
         RGBA expected;
     } cases[] = {
-        {__LINE__, 0, {2, 0, 0, 1}},        {__LINE__, 0.25, {1.5, 0.5, 0.1, 1}}, {__LINE__, 0.5, {1, 0.75, 0.2, 1}},
-        {__LINE__, 0.75, {0.5, 0.75, 0.30000000000000004, 1}},                    {__LINE__, 1, {0.2, 0.75, 0.4, 1}},
-        {__LINE__, -3, {2, 0, 0, 1}},       {__LINE__, 7, {0.2, 0.75, 0.4, 1}},   {__LINE__, infinity, {0.2, 0.75, 0.4, 1}},
+        {__LINE__, 0, {2, 0, 0, 1}},         {__LINE__, 0.25, {1.5, 0.5, 0.1, 1}},
+        {__LINE__, 0.5, {1, 0.75, 0.2, 1}},  {__LINE__, 0.75, {0.5, 0.75, 0.30000000000000004, 1}},
+        {__LINE__, 1, {0.2, 0.75, 0.4, 1}},  {__LINE__, -3, {2, 0, 0, 1}},
+        {__LINE__, 7, {0.2, 0.75, 0.4, 1}},  {__LINE__, infinity, {0.2, 0.75, 0.4, 1}},
         {__LINE__, -infinity, {2, 0, 0, 1}},
     };
     for (const auto& one : cases) {

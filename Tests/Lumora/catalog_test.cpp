@@ -12,7 +12,9 @@ namespace Host = Foundation::Host;
 
 // What a wrong call would be does not compile.
 template <class... Arguments>
-concept CallsNewComment = requires(const Arguments&... arguments) { Texts::newComment(arguments...); };
+concept CallsNewComment = requires(const Arguments&... arguments) {
+    Texts::newComment(arguments...);
+};
 static_assert(CallsNewComment<int, const char*> && CallsNewComment<std::optional<double>, std::vector<std::string>>);
 static_assert(!CallsNewComment<int> && !CallsNewComment<int, int, int>);
 static_assert(std::is_same_v<decltype(Texts::ExerciseStraight::ofMaxWeight(std::int64_t{1})), std::string>);
@@ -59,9 +61,29 @@ TEST_F(Catalog, HasItsPluralFormsByTheLastDigits) {
     const struct {
         std::int64_t count;
         const char* form;
-    } cases[] = {{0, "5"},  {1, "1"},  {2, "2"},   {4, "2"},   {5, "5"},   {11, "5"},  {12, "5"},  {14, "5"},
-                 {19, "5"}, {20, "5"}, {21, "1"},  {22, "2"},  {25, "5"},  {101, "1"}, {104, "2"}, {111, "5"},
-                 {-1, "5"}, {-2, "5"}, {-21, "5"}, {-11, "5"}, {INT64_MIN, "5"}, {INT64_MAX, "5"}, {1'000'000'000'001, "1"}};
+    } cases[] = {{0, "5"},
+                 {1, "1"},
+                 {2, "2"},
+                 {4, "2"},
+                 {5, "5"},
+                 {11, "5"},
+                 {12, "5"},
+                 {14, "5"},
+                 {19, "5"},
+                 {20, "5"},
+                 {21, "1"},
+                 {22, "2"},
+                 {25, "5"},
+                 {101, "1"},
+                 {104, "2"},
+                 {111, "5"},
+                 {-1, "5"},
+                 {-2, "5"},
+                 {-21, "5"},
+                 {-11, "5"},
+                 {INT64_MIN, "5"},
+                 {INT64_MAX, "5"},
+                 {1'000'000'000'001, "1"}};
     for (const auto& one : cases)
         EXPECT_EQ(Texts::getSuffix(one.count, forms), one.form) << one.count;
     Host::setPreferredLanguages({"en"});
@@ -82,7 +104,8 @@ TEST_F(Catalog, IsReadByManyThreadsWhileTheHostChanges) {
             for (int n = 0; n < 300; ++n) {
                 ASSERT_EQ(&Texts::Handbook::filter(), kept);
                 const std::string days = Texts::Subscription::Option5::Specification::leftDays(1234);
-                ASSERT_TRUE(days.find("1\u00a0234") != std::string::npos || days.find("1.234") != std::string::npos) << days;
+                ASSERT_TRUE(days.find("1\u00a0234") != std::string::npos || days.find("1.234") != std::string::npos)
+                    << days;
                 const std::string language = Lumora::Localization::currentLanguage();
                 ASSERT_TRUE(language == "ru" || language == "de") << language;
                 ASSERT_FALSE(Lumora::Localization::legacyTrAge(n).empty());

@@ -11,7 +11,7 @@ using Corvane::LocalizationCode;
 using Lumora::Localization;
 namespace Host = Foundation::Host;
 
-const std::vector<std::string> rawValues = {"ar", "de", "en", "es",    "es-419", "fr", "id", "it", "ja", "ko",
+const std::vector<std::string> rawValues = {"ar", "de", "en",    "es",    "es-419", "fr", "id", "it", "ja",     "ko",
                                             "nl", "pl", "pt-BR", "pt-PT", "ru",     "th", "tr", "vi", "zh-Hans"};
 
 class Services : public ::testing::Test {
@@ -59,11 +59,11 @@ TEST_F(Services, FollowTheUsersLanguageAndLocale) {
         const char *language, *locale, *code, *current;
         bool isAsian;
     } cases[] = {
-        {__LINE__, "ru", "ru_KZ", "ru", "ru_KZ", false},   {__LINE__, "de", "de_AT", "de", "de_AT", false},
-        {__LINE__, "de", "en_US", "de", "de", false},      {__LINE__, "es_MX", "es_MX", "es-419", "es_MX", false},
+        {__LINE__, "ru", "ru_KZ", "ru", "ru_KZ", false},       {__LINE__, "de", "de_AT", "de", "de_AT", false},
+        {__LINE__, "de", "en_US", "de", "de", false},          {__LINE__, "es_MX", "es_MX", "es-419", "es_MX", false},
         {__LINE__, "pt_BR", "pt_PT", "pt-BR", "pt_PT", false}, {__LINE__, "zh_CN", "zh_CN", "zh-Hans", "zh_CN", true},
-        {__LINE__, "ja", "ja_JP", "ja", "ja_JP", true},    {__LINE__, "ko", "en_US", "ko", "ko", true},
-        {__LINE__, "uk", "uk_UA", "en", "en", false},      {__LINE__, "en_GB", "en_GB", "en", "en_GB", false},
+        {__LINE__, "ja", "ja_JP", "ja", "ja_JP", true},        {__LINE__, "ko", "en_US", "ko", "ko", true},
+        {__LINE__, "uk", "uk_UA", "en", "en", false},          {__LINE__, "en_GB", "en_GB", "en", "en_GB", false},
     };
     for (const auto& one : cases) {
         user(one.language, one.locale);
@@ -99,14 +99,27 @@ TEST_F(Services, CountYearsAsTheLanguageDoes) {
         const char* phrase;
     } cases[] = {
         // Phrases of the platform.
-        {__LINE__, "ru", 1, "1 год"},         {__LINE__, "ru", 3, "3 года"},      {__LINE__, "ru", 25, "25 лет"},
-        {__LINE__, "pl", 22, "22 lata"},      {__LINE__, "pl", 25, "25 lat"},     {__LINE__, "fr", 0, "0\u00a0an"},
-        {__LINE__, "fr", 25, "25 ans"},       {__LINE__, "es", 1, "1 año"},       {__LINE__, "it", 25, "25 anni"},
-        {__LINE__, "nl", 25, "25 jaar"},      {__LINE__, "id", 25, "25 tahun"},   {__LINE__, "pt_PT", 2, "2 anos"},
-        {__LINE__, "ar", 1, "سنة"},           {__LINE__, "ar", 2, "سنتان"},       {__LINE__, "th", 25, "25 ปี"},
+        {__LINE__, "ru", 1, "1 год"},
+        {__LINE__, "ru", 3, "3 года"},
+        {__LINE__, "ru", 25, "25 лет"},
+        {__LINE__, "pl", 22, "22 lata"},
+        {__LINE__, "pl", 25, "25 lat"},
+        {__LINE__, "fr", 0, "0\u00a0an"},
+        {__LINE__, "fr", 25, "25 ans"},
+        {__LINE__, "es", 1, "1 año"},
+        {__LINE__, "it", 25, "25 anni"},
+        {__LINE__, "nl", 25, "25 jaar"},
+        {__LINE__, "id", 25, "25 tahun"},
+        {__LINE__, "pt_PT", 2, "2 anos"},
+        {__LINE__, "ar", 1, "سنة"},
+        {__LINE__, "ar", 2, "سنتان"},
+        {__LINE__, "th", 25, "25 ปี"},
         // Phrases of the tables.
-        {__LINE__, "en", 25, "25 years"},     {__LINE__, "de", 1, "1 Jahr"},      {__LINE__, "ko", 25, "25 년"},
-        {__LINE__, "en", 11, "11 years"},     {__LINE__, "en", -1, "-1 years"},
+        {__LINE__, "en", 25, "25 years"},
+        {__LINE__, "de", 1, "1 Jahr"},
+        {__LINE__, "ko", 25, "25 년"},
+        {__LINE__, "en", 11, "11 years"},
+        {__LINE__, "en", -1, "-1 years"},
     };
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     for (const auto& one : cases) {
@@ -137,11 +150,16 @@ TEST_F(Services, WriteSignedNumbersInTheUsersLocale) {
         bool needSign;
         const char* text;
     } cases[] = {
-        {__LINE__, "en_US", 1500, true, "+1,500"},     {__LINE__, "en_US", -3, true, "-3"},
-        {__LINE__, "en_US", 0, true, "+0"},            {__LINE__, "en_US", 0, false, "0"},
-        {__LINE__, "de_DE", 1234.5678, false, "1.234,568"}, {__LINE__, "sv_SE", -3, false, "\u22123"},
-        {__LINE__, "hi_IN", 1234567, false, "12,34,567"},   {__LINE__, "en_US", 2.5, true, "+2.5"},
-        {__LINE__, "es_ES", 1234, false, "1234"},      {__LINE__, "ar_EG", 12, false, "١٢"},
+        {__LINE__, "en_US", 1500, true, "+1,500"},
+        {__LINE__, "en_US", -3, true, "-3"},
+        {__LINE__, "en_US", 0, true, "+0"},
+        {__LINE__, "en_US", 0, false, "0"},
+        {__LINE__, "de_DE", 1234.5678, false, "1.234,568"},
+        {__LINE__, "sv_SE", -3, false, "\u22123"},
+        {__LINE__, "hi_IN", 1234567, false, "12,34,567"},
+        {__LINE__, "en_US", 2.5, true, "+2.5"},
+        {__LINE__, "es_ES", 1234, false, "1234"},
+        {__LINE__, "ar_EG", 12, false, "١٢"},
         {__LINE__, "en_US", INT64_MIN, true, "-9,223,372,036,854,775,808"},
         {__LINE__, "en_US", UINT64_MAX, true, "+18,446,744,073,709,551,615"},
         {__LINE__, "en_US", std::numeric_limits<double>::infinity(), true, "+∞"},
@@ -162,15 +180,24 @@ TEST_F(Services, RoundPercentagesInSinglePrecision) {
         bool showPlus;
         const char* text;
     } cases[] = {
-        {__LINE__, "en", 0.25, false, "25%"},   {__LINE__, "en", 0.25, true, "+25%"},  {__LINE__, "en", -0.1, true, "-10%"},
-        {__LINE__, "en", 0.004, true, "+0%"},   {__LINE__, "en", 0.0, true, "0%"},     {__LINE__, "en", -0.001, true, "0%"},
-        {__LINE__, "en", 0.125, false, "13%"},  {__LINE__, "en", -0.125, false, "-13%"},
+        {__LINE__, "en", 0.25, false, "25%"},
+        {__LINE__, "en", 0.25, true, "+25%"},
+        {__LINE__, "en", -0.1, true, "-10%"},
+        {__LINE__, "en", 0.004, true, "+0%"},
+        {__LINE__, "en", 0.0, true, "0%"},
+        {__LINE__, "en", -0.001, true, "0%"},
+        {__LINE__, "en", 0.125, false, "13%"},
+        {__LINE__, "en", -0.125, false, "-13%"},
         // 0.145 is above the half in single precision though it is below it in double.
-        {__LINE__, "en", 0.145, false, "15%"},  {__LINE__, "ru", 12.34, true, "+1234%"},
+        {__LINE__, "en", 0.145, false, "15%"},
+        {__LINE__, "ru", 12.34, true, "+1234%"},
         {__LINE__, "en", 1e20, false, "9999999778196308361216%"},
-        {__LINE__, "en", infinity, true, "+∞%"}, {__LINE__, "en", -infinity, true, "-∞%"},
-        {__LINE__, "en", 1e300, false, "∞%"},   {__LINE__, "en", std::nan(""), true, "NaN%"},
-        {__LINE__, "tr", 0.25, true, "+%25"},   {__LINE__, "tr", 0.125, false, "%12"},
+        {__LINE__, "en", infinity, true, "+∞%"},
+        {__LINE__, "en", -infinity, true, "-∞%"},
+        {__LINE__, "en", 1e300, false, "∞%"},
+        {__LINE__, "en", std::nan(""), true, "NaN%"},
+        {__LINE__, "tr", 0.25, true, "+%25"},
+        {__LINE__, "tr", 0.125, false, "%12"},
     };
     for (const auto& one : cases) {
         user(one.language, one.language);

@@ -37,7 +37,8 @@ TEST_F(Messages, AnswerAsTheMembersDo) {
     EXPECT_TRUE(Runtime::send<bool>(cls, "isCurrentLocalizationRu"));
     EXPECT_EQ(Runtime::send<std::vector<std::string>>(cls, "allSupportedLocalizations"),
               Localization::allSupportedLocalizations());
-    EXPECT_DEATH(Runtime::send<std::string>(cls, "localizationFileTranslation:key:", "ru", "Continue"), "does not answer");
+    EXPECT_DEATH(Runtime::send<std::string>(cls, "localizationFileTranslation:key:", "ru", "Continue"),
+                 "does not answer");
 }
 
 std::string taken(NSString* text) {

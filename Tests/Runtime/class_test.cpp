@@ -43,9 +43,11 @@ TEST(Class, CarriesArgumentsOfEveryWidth) {
 TEST(ClassDeathTest, StopsWithAReportThatNamesClassAndSelector) {
     EXPECT_DEATH(Runtime::send<bool>(&door, "isShut"), "Fatal error: Test.Door does not answer \"isShut\"");
     EXPECT_DEATH(Runtime::send<bool>(nullptr, "isOpen"), "An unknown class was sent \"isOpen\"");
-    EXPECT_DEATH(Runtime::send<bool>(&door, "isOpen", 1), "Test.Door was sent arguments of other types with \"isOpen\"");
+    EXPECT_DEATH(Runtime::send<bool>(&door, "isOpen", 1),
+                 "Test.Door was sent arguments of other types with \"isOpen\"");
     EXPECT_DEATH(Runtime::send<std::string>(&door, "isOpen"), "asked for a result of another type with \"isOpen\"");
-    EXPECT_DEATH(Runtime::send<std::string>(&door, "greet:times:factor:loud:", "Ann", 3, 1, true), "arguments of other types");
+    EXPECT_DEATH(Runtime::send<std::string>(&door, "greet:times:factor:loud:", "Ann", 3, 1, true),
+                 "arguments of other types");
 }
 
 } // namespace

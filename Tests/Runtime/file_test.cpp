@@ -33,7 +33,8 @@ TEST(File, WritesWholeOrNotAtAll) {
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
 
     const std::string nowhere = folder / "none" / "a";
-    EXPECT_EQ(Runtime::writeFile(nowhere, "x").error().text(), nowhere + ": cannot be written: No such file or directory");
+    EXPECT_EQ(Runtime::writeFile(nowhere, "x").error().text(),
+              nowhere + ": cannot be written: No such file or directory");
     std::filesystem::create_directory(folder / "in the way");
     EXPECT_FALSE(Runtime::writeFile(folder / "in the way", "x"));
     // No temporary stays behind.

@@ -35,8 +35,9 @@ TEST_F(Catalogs, ReadSetsInFoldersWithAndWithoutANamespace) {
     set("A.xcassets/Plain/x.dataset", one);
     set("A.xcassets/Named", R"({"properties": {"provides-namespace": true}})");
     set("A.xcassets/Named/Deep/y.dataset", one);
-    set("B.xcassets/z.dataset", one);
-    for (const char* set : {"A.xcassets/Plain/x", "A.xcassets/Named/Deep/y", "B.xcassets/z"})
+    set("B.xcassets/v2.0", "{}"); // a dot in the name makes no set of a folder
+    set("B.xcassets/v2.0/z.dataset", one);
+    for (const char* set : {"A.xcassets/Plain/x", "A.xcassets/Named/Deep/y", "B.xcassets/v2.0/z"})
         folder.write(std::string(set) + ".dataset/f", "data");
 
     const auto assets = read();
@@ -72,6 +73,18 @@ TEST_F(Catalogs, TellWhatEachPictureIsFor) {
     EXPECT_EQ(said().size(), 2U); // the iPad's and the small phone's
 }
 
+TEST_F(Catalogs, TakeAnotherDevicesPicturesWhereTheFirstHasNone) {
+    set("A.xcassets/p.imageset", R"({"images": [
+        {"idiom": "universal", "filename": "missing.png"}, {"idiom": "universal", "filename": ""},
+        {"idiom": "ipad", "filename": "2.png"}, {"idiom": "iphone", "filename": "1.png"}]})");
+    folder.write("A.xcassets/p.imageset/1.png", "");
+    folder.write("A.xcassets/p.imageset/2.png", "");
+    const auto assets = read();
+    ASSERT_EQ(assets.size(), 1U);
+    ASSERT_EQ(assets[0].files.size(), 1U);
+    EXPECT_EQ(assets[0].files[0].path.filename(), "1.png");
+}
+
 TEST_F(Catalogs, ReadColorsInEveryNotation) {
     const struct {
         int line;
@@ -79,17 +92,26 @@ TEST_F(Catalogs, ReadColorsInEveryNotation) {
         ColorSpace space;
         std::array<double, 4> components;
     } cases[] = {
-        {__LINE__, R"("color-space": "srgb", "components": {"red": "0.500", "green": "1.000", "blue": "-0.25", "alpha": "0.750"})",
-         ColorSpace::srgb, {0.5, 1, -0.25, 0.75}},
-        {__LINE__, R"("color-space": "display-p3", "components": {"red": "255", "green": "51", "blue": "1", "alpha": "1"})",
-         ColorSpace::displayP3, {1, 0.2, 1 / 255.0, 1}},
-        {__LINE__, R"("color-space": "extended-srgb", "components": {"red": "0xFF", "green": "0x33", "blue": "0x0"})",
-         ColorSpace::extendedSrgb, {1, 0.2, 0, 1}},
-        {__LINE__, R"("color-space": "gray-gamma-22", "components": {"white": "0.3", "alpha": 0.5})", ColorSpace::gray,
+        {__LINE__,
+         R"("color-space": "srgb", "components": {"red": "0.500", "green": "1.000", "blue": "-0.25", "alpha": "0.750"})",
+         ColorSpace::srgb,
+         {0.5, 1, -0.25, 0.75}},
+        {__LINE__,
+         R"("color-space": "display-p3", "components": {"red": "255", "green": "51", "blue": "1", "alpha": "1"})",
+         ColorSpace::displayP3,
+         {1, 0.2, 1 / 255.0, 1}},
+        {__LINE__,
+         R"("color-space": "extended-srgb", "components": {"red": "0xFF", "green": "0x33", "blue": "0x0"})",
+         ColorSpace::extendedSrgb,
+         {1, 0.2, 0, 1}},
+        {__LINE__,
+         R"("color-space": "gray-gamma-22", "components": {"white": "0.3", "alpha": 0.5})",
+         ColorSpace::gray,
          {0.3, 0.3, 0.3, 0.5}},
     };
     for (const auto& one : cases) {
-        set("A.xcassets/c.colorset", std::string(R"({"colors": [{"idiom": "universal", "color": {)") + one.color + "}}]}");
+        set("A.xcassets/c.colorset",
+            std::string(R"({"colors": [{"idiom": "universal", "color": {)") + one.color + "}}]}");
         const auto assets = read();
         ASSERT_EQ(assets.size(), 1U) << "line " << one.line;
         EXPECT_EQ(assets[0].colors[0].space, one.space) << "line " << one.line;
@@ -106,7 +128,8 @@ TEST_F(Catalogs, ReportWhatIsWrongWithItsPath) {
         {__LINE__, "a.imageset", "{\n  \"images\" : [ ?",
          "error A.xcassets/a.imageset/Contents.json:2:16: is no JSON: something else was expected here"},
         {__LINE__, "a.imageset", "[]", "error A.xcassets/a.imageset/Contents.json:1:1: is no JSON object"},
-        {__LINE__, "a.imageset", R"({"images": [{"filename": "no.png"}]})", "warning A.xcassets/a.imageset/no.png: is missing"},
+        {__LINE__, "a.imageset", R"({"images": [{"filename": "no.png"}]})",
+         "warning A.xcassets/a.imageset/no.png: is missing"},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "../../secret"}]})",
          "error A.xcassets/a.imageset/Contents.json: names a file outside of its set: \"../../secret\""},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "/etc/passwd"}]})",
@@ -114,7 +137,8 @@ TEST_F(Catalogs, ReportWhatIsWrongWithItsPath) {
         {__LINE__, "a.imageset", R"({"images": [{"filename": "link"}]})",
          "error A.xcassets/a.imageset/link: is a link; a set holds its files itself"},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"platform": "ios", "reference": "systemRedColor"}}]})",
-         "warning A.xcassets/a.colorset/Contents.json: refers to a colour of the system, which is not supported: systemRedColor"},
+         "warning A.xcassets/a.colorset/Contents.json: refers to a colour of the system, which is not supported: "
+         "systemRedColor"},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"color-space": "srgb", "components": {"red": "much"}}}]})",
          "warning A.xcassets/a.colorset/Contents.json: has no readable colour component \"red\""},
         {__LINE__, "a.appiconset", "{}", "note A.xcassets/a.appiconset: is a set of another kind, which is left out"},
@@ -136,8 +160,8 @@ TEST_F(Catalogs, ReportWhatIsWrongWithItsPath) {
     folder.write("A.xcassets/2/a.dataset/f", "");
     diagnostics = {};
     EXPECT_EQ(read().size(), 1U);
-    EXPECT_EQ(said()[0], "warning A.xcassets/2/a.dataset: has the name of " + (folder / "A.xcassets/1/a.dataset").string() +
-                             " and is left out");
+    EXPECT_EQ(said()[0], "warning A.xcassets/2/a.dataset: has the name of " +
+                             (folder / "A.xcassets/1/a.dataset").string() + " and is left out");
 }
 
 } // namespace

@@ -7,9 +7,9 @@
 
 namespace Foundation::detail {
 
-// Languages and locale of one moment. Immutable and kept until the process ends, so that a reader needs neither lock nor
-// count and whatever is derived from a state can be kept beside its address. A state that was in force before is used
-// again: their number is that of the different settings a process has seen.
+// Languages and locale of one moment. Immutable and kept until the process ends, so that a reader needs neither lock
+// nor count and whatever is derived from a state can be kept beside its address. A state that was in force before is
+// used again: their number is that of the different settings a process has seen.
 struct HostState {
     std::vector<std::string> languages; // BCP 47, the best liked first
     std::string locale;

@@ -4,8 +4,8 @@
 // writes plain ASCII.
 #pragma once
 
-#include "Foundation/internal/LocaleCache.h"
 #include "Foundation/NSNumber.h"
+#include "Foundation/internal/LocaleCache.h"
 #include "Intl/Intl.h"
 #include <string>
 #include <string_view>
