@@ -54,8 +54,8 @@ bool leadsOut(std::string_view component) {
 } // namespace
 
 struct NSBundle::Contents {
-    explicit Contents(const std::string& bundlePath)
-        : bundle(*this), path(bundlePath), developmentLocalization(developmentRegion(path)) {
+    explicit Contents(std::string bundlePath)
+        : bundle(*this), path(std::move(bundlePath)), developmentLocalization(developmentRegion(path)) {
         for (const std::string& name : languageFolders(path))
             folders.emplace_back(name, path + "/" + name + ".lproj");
         for (const Folder& folder : folders)
