@@ -1,6 +1,7 @@
 #include "Compiler/Tables.h"
 
 #include "Runtime/File.h"
+#include "SourceBundle/Tables.h"
 #include "StringTables/Table.h"
 #include "StringTables/Writer.h"
 #include <algorithm>
@@ -10,7 +11,6 @@
 namespace Compiler {
 
 namespace fs = std::filesystem;
-using SourceBundle::Severity;
 using StringTables::Table;
 
 namespace {
@@ -30,23 +30,6 @@ std::vector<fs::path> tablesOf(const fs::path& source) {
     }
     std::ranges::sort(tables);
     return tables;
-}
-
-// The bytes of `file` in binary form, or an error that names the place.
-Runtime::Result<std::string> compiled(const fs::path& file, SourceBundle::Diagnostics& diagnostics) {
-    auto bytes = Runtime::readFile(file, Table::maxBytes);
-    if (!bytes)
-        return std::move(bytes.error());
-    auto table = Table::read(*std::move(bytes));
-    if (!table) {
-        table.error().file = file;
-        return std::move(table.error());
-    }
-    for (Runtime::Error note : table->notes()) {
-        note.file = file;
-        diagnostics.add(Severity::warning, std::move(note));
-    }
-    return StringTables::write(table->entries(), StringTables::Form::binary);
 }
 
 // The source's own Info.plist as it stands, or one that says what is taken for granted without it.
@@ -76,12 +59,11 @@ Runtime::Result<void> compileTables(const fs::path& source, const fs::path& out,
     std::size_t done = 0;
     for (const fs::path& table : tables) {
         progress(table.string(), done++, tables.size());
-        auto bytes = compiled(source / table, diagnostics);
-        if (!bytes) {
-            diagnostics.add(Severity::error, std::move(bytes.error()));
+        const auto read = SourceBundle::readTable(source / table, diagnostics);
+        if (!read)
             continue;
-        }
-        if (auto written = place(out / table, std::move(bytes)); !written)
+        auto binary = StringTables::write(read->entries(), StringTables::Form::binary);
+        if (auto written = place(out / table, std::move(binary)); !written)
             return written;
     }
     return {};

@@ -2,7 +2,6 @@
 #include "Lumora/Localization.h"
 
 #include "Lumora/LumoraResources.h"
-#include "Runtime/File.h"
 #include "StringTables/Table.h"
 
 namespace Lumora {
@@ -14,10 +13,7 @@ std::string Localization::localizationFileTranslation(std::string_view code, std
     const auto path = LumoraResources::bundle().pathForResource("Localizable", "strings", "", localization);
     if (!path)
         return {};
-    auto bytes = Runtime::readFile(*path, StringTables::Table::maxBytes);
-    if (!bytes)
-        return {};
-    const auto table = StringTables::Table::read(*std::move(bytes));
+    const auto table = StringTables::Table::readFile(*path);
     return table ? std::string(table->find(key).value_or("")) : std::string();
 }
 

@@ -17,25 +17,6 @@ void addSystemError(Diagnostics& diagnostics, const fs::path& path, const std::e
     diagnostics.add(Severity::error, {.message = "cannot be read: " + reason.message(), .file = path});
 }
 
-std::optional<Table> readTable(const fs::path& path, Diagnostics& diagnostics) {
-    auto bytes = Runtime::readFile(path, Table::maxBytes);
-    if (!bytes) {
-        diagnostics.add(Severity::error, std::move(bytes.error()));
-        return std::nullopt;
-    }
-    auto table = Table::read(*std::move(bytes));
-    if (!table) {
-        table.error().file = path;
-        diagnostics.add(Severity::error, std::move(table.error()));
-        return std::nullopt;
-    }
-    for (Runtime::Error note : table->notes()) {
-        note.file = path;
-        diagnostics.add(Severity::warning, std::move(note));
-    }
-    return *std::move(table);
-}
-
 std::string developmentRegion(const fs::path& source, Diagnostics& diagnostics) {
     const fs::path path = source / "Info.plist";
     if (std::error_code failed; fs::exists(path, failed))
@@ -80,6 +61,17 @@ std::vector<fs::path> tablesIn(const fs::path& folder, Diagnostics& diagnostics)
 }
 
 } // namespace
+
+std::optional<Table> readTable(const fs::path& path, Diagnostics& diagnostics) {
+    auto table = Table::readFile(path);
+    if (!table) {
+        diagnostics.add(Severity::error, std::move(table.error()));
+        return std::nullopt;
+    }
+    for (const Runtime::Error& note : table->notes())
+        diagnostics.add(Severity::warning, note);
+    return *std::move(table);
+}
 
 std::vector<SourceTable> developmentTables(const fs::path& source, Diagnostics& diagnostics) {
     std::vector<SourceTable> tables;

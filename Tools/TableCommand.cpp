@@ -50,18 +50,11 @@ Runtime::Result<std::string> written(const Table& table, Output form) {
 }
 
 Exit runTable(const TableOptions& options) {
-    auto bytes = Runtime::readFile(options.file, Table::maxBytes);
-    if (!bytes)
-        return fail(bytes.error());
-    auto table = Table::read(*std::move(bytes));
-    if (!table) {
-        table.error().file = options.file;
+    const auto table = Table::readFile(options.file);
+    if (!table)
         return fail(table.error());
-    }
-    for (Runtime::Error skipped : table->notes()) {
-        skipped.file = options.file;
+    for (const Runtime::Error& skipped : table->notes())
         note(skipped.text());
-    }
     auto out = written(*table, outputs.at(options.form));
     if (!out) {
         out.error().file = options.file;

@@ -1,6 +1,5 @@
 #include "Foundation/internal/Localization.h"
 
-#include "Runtime/File.h"
 #include "StringTables/Table.h"
 
 namespace Foundation::detail {
@@ -30,10 +29,8 @@ const Localization::LoadedTable& Localization::load(std::string_view name) {
     StringTables::Table table;
     // A name is one component; a longer path would lead out of the folder.
     if (name.find('/') == std::string_view::npos)
-        if (auto bytes =
-                Runtime::readFile(directory_ + "/" + std::string(name) + ".strings", StringTables::Table::maxBytes))
-            if (auto read = StringTables::Table::read(*std::move(bytes)))
-                table = *std::move(read);
+        if (auto read = StringTables::Table::readFile(directory_ + "/" + std::string(name) + ".strings"))
+            table = *std::move(read);
     auto* entry = new LoadedTable{std::string(name), std::move(table), tables_.load(std::memory_order_relaxed)};
     tables_.store(entry, std::memory_order_release);
     return *entry;

@@ -4,7 +4,6 @@
 #include "Foundation/internal/LanguageChoice.h"
 #include "Foundation/internal/Localization.h"
 #include "Runtime/CodeLocation.h"
-#include "Runtime/File.h"
 #include "StringTables/Table.h"
 #include <algorithm>
 #include <atomic>
@@ -40,10 +39,9 @@ std::vector<std::string> languageFolders(const std::string& path) {
 }
 
 std::string developmentRegion(const std::string& path) {
-    if (auto bytes = Runtime::readFile(path + "/Info.plist", StringTables::Table::maxBytes))
-        if (const auto info = StringTables::Table::read(*std::move(bytes)))
-            if (const auto region = info->find("CFBundleDevelopmentRegion"))
-                return std::string(*region);
+    if (const auto info = StringTables::Table::readFile(path + "/Info.plist"))
+        if (const auto region = info->find("CFBundleDevelopmentRegion"))
+            return std::string(*region);
     return "en";
 }
 

@@ -1,5 +1,6 @@
 #include "StringTables/Table.h"
 
+#include "Runtime/File.h"
 #include "StringTables/internal/Contents.h"
 #include "StringTables/internal/Unicode.h"
 
@@ -123,12 +124,27 @@ Runtime::Result<void> fill(Contents& contents) {
 } // namespace internal
 
 Runtime::Result<Table> Table::read(std::string bytes) {
+    return read(std::move(bytes), {});
+}
+
+Runtime::Result<Table> Table::readFile(const std::string& path) {
+    auto bytes = Runtime::readFile(path, maxBytes);
+    if (!bytes)
+        return std::move(bytes.error());
+    return read(*std::move(bytes), path);
+}
+
+Runtime::Result<Table> Table::read(std::string bytes, const std::string& file) {
     if (bytes.size() > maxBytes)
-        return Runtime::Error{"the table is larger than " + std::to_string(maxBytes) + " bytes", {}};
+        return Runtime::Error{"the table is larger than " + std::to_string(maxBytes) + " bytes", file};
     auto contents = std::make_unique<internal::Contents>(std::move(bytes));
-    if (auto filled = internal::fill(*contents); !filled)
+    if (auto filled = internal::fill(*contents); !filled) {
+        filled.error().file = file;
         return std::move(filled.error());
+    }
     contents->finish();
+    for (Runtime::Error& note : contents->notes)
+        note.file = file;
     Table table;
     table.contents_ = std::move(contents);
     return table;

@@ -42,6 +42,8 @@ public:
     // of a byte-order mark or of comments only is an empty table.
     // Limits, checked before memory is taken: maxBytes of source, maxEntries of text, maxDepth of nesting.
     [[nodiscard]] static Runtime::Result<Table> read(std::string bytes);
+    // The same from the regular file at `path`, which errors and notes name.
+    [[nodiscard]] static Runtime::Result<Table> readFile(const std::string& path);
     static constexpr std::size_t maxBytes = std::size_t{256} << 20;
     static constexpr std::size_t maxEntries = std::size_t{1} << 22;
     static constexpr std::size_t maxDepth = 128;
@@ -64,6 +66,8 @@ public:
     [[nodiscard]] Form form() const noexcept;
 
 private:
+    static Runtime::Result<Table> read(std::string bytes, const std::string& file);
+
     std::unique_ptr<const internal::Contents> contents_; // null in a table that was not read
 };
 
