@@ -1,6 +1,5 @@
 #include "Foundation/Host.h"
 
-#include "Foundation/Locale.h"
 #include "Foundation/internal/HostState.h"
 #include <algorithm>
 #include <atomic>
@@ -43,24 +42,21 @@ HostState environmentState() {
     for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
         if (name = environment(variable); !name.empty())
             break;
-    HostState state;
     // As everywhere in Unix, a user of the plain locale gets the plain language whatever LANGUAGE says.
-    if (isPlain(name)) {
-        state.languages = {"en"};
-        state.locale = plainLocale;
-        return state;
-    }
+    if (isPlain(name))
+        return {.languages = {"en"}, .locale = Locale(std::string(plainLocale))};
+    std::vector<std::string> languages;
     std::string_view wanted = environment("LANGUAGE");
     while (!wanted.empty()) {
         const std::string_view one = withoutSuffix(wanted, ':');
         wanted.remove_prefix(std::min(one.size() + 1, wanted.size()));
         if (!one.empty())
-            state.languages.push_back(languageTag(one));
+            languages.push_back(languageTag(one));
     }
-    if (const std::string own = languageTag(name); std::ranges::find(state.languages, own) == state.languages.end())
-        state.languages.push_back(own);
-    state.locale = withoutSuffix(withoutSuffix(name, '@'), '.');
-    return state;
+    if (const std::string own = languageTag(name); std::ranges::find(languages, own) == languages.end())
+        languages.push_back(own);
+    return {.languages = std::move(languages),
+            .locale = Locale(std::string(withoutSuffix(withoutSuffix(name, '@'), '.')))};
 }
 
 // Call with `changing` held.
@@ -101,8 +97,8 @@ std::string languageTag(std::string_view hostName) {
 
 } // namespace detail
 
-Locale Locale::current() {
-    return Locale(detail::hostState().locale);
+const Locale& Locale::current() {
+    return detail::hostState().locale;
 }
 
 namespace Host {
@@ -116,7 +112,7 @@ void setPreferredLanguages(std::vector<std::string> languages) {
 
 void setCurrentLocale(std::string_view identifier) {
     const std::lock_guard lock(detail::changing);
-    detail::enforce({.languages = detail::inForceOrFirst().languages, .locale = std::string(identifier)});
+    detail::enforce({.languages = detail::inForceOrFirst().languages, .locale = Locale(std::string(identifier))});
 }
 
 void reset() {

@@ -33,25 +33,35 @@ std::int64_t signedTruncated(std::int64_t value, unsigned bits) noexcept {
     return bits == 8 ? static_cast<std::int8_t>(value) : bits == 16 ? static_cast<std::int16_t>(value) : value;
 }
 
+// Appends to a text of the caller's.
 class Formatter {
 public:
-    Formatter(std::string_view format, const Locale& locale, std::span<const FormatArgument> arguments)
-        : format_(format), locale_(locale), arguments_(arguments) {
-        std::size_t size = format.size();
-        for (const FormatArgument& argument : arguments)
+    Formatter(std::string& out, std::string_view format, const Locale& locale,
+              std::span<const FormatArgument> arguments)
+        : out_(out), format_(format), locale_(locale), arguments_(arguments) {}
+
+    void run() {
+        std::size_t size = format_.size();
+        for (const FormatArgument& argument : arguments_)
             size += argument.kind() == FormatArgument::Kind::text ? argument.text().size() : numberSize;
         out_.reserve(size);
-    }
-
-    std::string run() && {
         std::size_t done = 0;
-        while (const auto placeholder = StringTables::nextPlaceholder(format_, done)) {
+        for (std::size_t at = 0; (at = format_.find('%', at)) != format_.npos; at = done) {
+            if (format_.substr(at + 1).starts_with('@')) { // nearly all of them: nothing to read
+                out_ += format_.substr(done, at - done);
+                done = at + 2;
+                if (const FormatArgument* given = argument(++taken_))
+                    appendText(*given);
+                continue;
+            }
+            const auto placeholder = StringTables::nextPlaceholder(format_, at);
+            if (!placeholder)
+                break;
             out_ += format_.substr(done, placeholder->begin - done);
             done = placeholder->end;
             append(*placeholder);
         }
         out_ += format_.substr(done);
-        return std::move(out_);
     }
 
 private:
@@ -95,17 +105,26 @@ private:
             pad(bounded(width), placeholder.leftAligned || width < 0);
     }
 
+    // At most `limit` characters of it.
+    void appendText(const FormatArgument& given, std::optional<std::size_t> limit = std::nullopt) {
+        std::array<char, detail::scalarTextSize> buffer;
+        const std::string_view text = given.kind() == FormatArgument::Kind::text
+                                          ? given.text()
+                                          : detail::integerText(given.integer(), buffer.data());
+        out_ += limit ? firstCharacters(text, *limit) : text;
+    }
+
     void appendArgument(const Placeholder& placeholder, const FormatArgument& given) {
-        const bool wantsText = placeholder.kind == Placeholder::Kind::text;
+        if (placeholder.kind == Placeholder::Kind::text) {
+            appendText(given, precision_);
+            return;
+        }
         if (given.kind() == FormatArgument::Kind::text) {
-            out_ += wantsText && precision_ ? firstCharacters(given.text(), *precision_) : given.text();
+            out_ += given.text();
             return;
         }
         std::array<char, detail::scalarTextSize> buffer;
-        if (wantsText) {
-            const std::string_view digits = detail::integerText(given.integer(), buffer.data());
-            out_ += precision_ ? firstCharacters(digits, *precision_) : digits;
-        } else if (placeholder.conversion == 'c') {
+        if (placeholder.conversion == 'c') {
             const auto codePoint = static_cast<std::uint64_t>(given.integer());
             out_ += detail::characterText(static_cast<std::uint32_t>(std::min(codePoint, std::uint64_t{UINT32_MAX})),
                                           buffer.data());
@@ -181,11 +200,11 @@ private:
         out_.insert(zerosAt_, padding);
     }
 
+    std::string& out_;
     std::string_view format_;
     const Locale& locale_;
     std::span<const FormatArgument> arguments_;
-    std::size_t taken_ = 0; // arguments that placeholders without a position have used
-    std::string out_;
+    std::size_t taken_ = 0;                     // arguments that placeholders without a position have used
     detail::Kept<Intl::NumberPattern> pattern_; // once a number has asked for it
 
     // Of the placeholder at hand.
@@ -198,7 +217,9 @@ private:
 } // namespace
 
 std::string format(std::string_view format, const Locale& locale, std::span<const FormatArgument> arguments) {
-    return Formatter(format, locale, arguments).run();
+    std::string out;
+    Formatter(out, format, locale, arguments).run();
+    return out;
 }
 
 } // namespace Foundation::String

@@ -2,7 +2,9 @@
 // The host's inputs as the platform reads them; internal.
 #pragma once
 
+#include "Foundation/Locale.h"
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Foundation::detail {
@@ -12,7 +14,7 @@ namespace Foundation::detail {
 // used again: their number is that of the different settings a process has seen.
 struct HostState {
     std::vector<std::string> languages; // BCP 47, the best liked first
-    std::string locale;
+    Locale locale;
     friend bool operator==(const HostState&, const HostState&) = default;
 };
 
