@@ -38,7 +38,7 @@ Runtime::Result<std::string> information(const fs::path& source) {
     if (std::error_code failed; fs::exists(file, failed))
         return Runtime::readFile(file, Table::maxBytes);
     const std::array<StringTables::Entry, 1> entries = {{{"CFBundleDevelopmentRegion", "en"}}};
-    return StringTables::write(entries, StringTables::Form::xml);
+    return StringTables::write(entries, StringTables::Form::binary);
 }
 
 Runtime::Result<void> place(const fs::path& file, Runtime::Result<std::string> bytes) {

@@ -7,8 +7,9 @@
 #include "StringTables/Table.h"
 #include <algorithm>
 #include <atomic>
-#include <filesystem>
+#include <dirent.h>
 #include <list>
+#include <memory>
 #include <mutex>
 #include <sys/stat.h>
 #include <utility>
@@ -28,12 +29,13 @@ struct Answers {
 };
 
 std::vector<std::string> languageFolders(const std::string& path) {
+    static constexpr std::string_view suffix = ".lproj";
     std::vector<std::string> names;
-    std::error_code failed;
     // A directory that cannot be read has no languages.
-    for (std::filesystem::directory_iterator entry(path, failed), end; !failed && entry != end; entry.increment(failed))
-        if (entry->path().extension() == ".lproj")
-            names.push_back(entry->path().stem().string());
+    const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(path.c_str()), &::closedir);
+    while (const dirent* entry = directory == nullptr ? nullptr : ::readdir(directory.get()))
+        if (const std::string_view name = entry->d_name; name.ends_with(suffix) && name.size() > suffix.size())
+            names.emplace_back(name.substr(0, name.size() - suffix.size()));
     std::ranges::sort(names);
     return names;
 }

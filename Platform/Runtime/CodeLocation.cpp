@@ -34,10 +34,11 @@ CodeLocation locationOf(const std::string& path, bool isMainProgram) {
 } // namespace
 
 CodeLocation codeLocation(const void* code) {
-    Dl_info symbol{};
-    link_map* object = nullptr;
-    if (::dladdr1(code, &symbol, reinterpret_cast<void**>(&object), RTLD_DL_LINKMAP) == 0 || object == nullptr)
+    // Unlike dladdr, this looks for no symbol: that would read through all names of the library.
+    dl_find_object found{};
+    if (::_dl_find_object(const_cast<void*>(code), &found) != 0)
         return {};
+    link_map* const object = found.dlfo_link_map;
     // The dynamic linker knows the program itself by an empty name.
     return object->l_name[0] == '\0' ? mainProgramLocation() : locationOf(pathOf(object), false);
 }

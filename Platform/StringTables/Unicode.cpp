@@ -1,6 +1,9 @@
 #include "StringTables/internal/Unicode.h"
 
 #include "StringTables/internal/Scan.h"
+#include <bit>
+#include <cstdint>
+#include <cstring>
 
 namespace StringTables::internal {
 
@@ -64,6 +67,30 @@ char* putUtf8(char* out, char32_t code) noexcept {
     return out;
 }
 
+namespace {
+
+constexpr std::uint64_t everyUnit = 0x0001000100010001;
+
+// Four units, the first in the lowest bits.
+std::uint64_t fourUnits(const char* from, ByteOrder order) noexcept {
+    std::uint64_t units;
+    std::memcpy(&units, from, sizeof units);
+    if constexpr (std::endian::native == std::endian::big)
+        units = __builtin_bswap64(units);
+    return order == ByteOrder::little ? units : (units >> 8 & 0xFF * everyUnit) | (units & 0xFF * everyUnit) << 8;
+}
+
+// A code below 0x800, without a branch: letters and spaces come in an order that nothing can foretell. Writes two
+// bytes.
+char* putOneOrTwo(char* out, char32_t code) noexcept {
+    const bool isTwo = code >= 0x80;
+    out[0] = static_cast<char>(isTwo ? 0xC0 | code >> 6 : code);
+    out[1] = static_cast<char>(0x80 | (code & 0x3F));
+    return out + 1 + isTwo;
+}
+
+} // namespace
+
 Decoded decodeUtf16(std::string_view bytes, ByteOrder order, char* out) noexcept {
     const std::size_t first = order == ByteOrder::big ? 0 : 1; // of a unit's bytes, the more significant
     const auto unitAt = [&](std::size_t at) {
@@ -72,6 +99,15 @@ Decoded decodeUtf16(std::string_view bytes, ByteOrder order, char* out) noexcept
     };
     std::size_t at = 0;
     while (bytes.size() - at >= 2) {
+        for (; bytes.size() - at >= 8; at += 8) {
+            const std::uint64_t units = fourUnits(bytes.data() + at, order);
+            if ((units & 0xF800 * everyUnit) != 0)
+                break;
+            for (int shift = 0; shift < 64; shift += 16)
+                out = putOneOrTwo(out, static_cast<char32_t>(units >> shift & 0xFFFF));
+        }
+        if (bytes.size() - at < 2)
+            break;
         char32_t code = unitAt(at);
         std::size_t length = 2;
         if (isHighSurrogate(code) && bytes.size() - at >= 4 && isLowSurrogate(unitAt(at + 2))) {
