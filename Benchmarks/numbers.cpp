@@ -76,6 +76,13 @@ void yearsIcuKept(benchmark::State& state) {
 }
 BENCHMARK(yearsIcuKept);
 
+void yearsIcuAfresh(benchmark::State& state) {
+    std::int64_t years = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(icuYears(madeForYears(), years++ & 127));
+}
+BENCHMARK(yearsIcuAfresh);
+
 void yearsText(benchmark::State& state) {
     useGerman();
     if (Localization::legacyTrYear(25) != icuYears(madeForYears(), 25)) {

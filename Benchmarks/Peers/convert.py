@@ -1,0 +1,52 @@
+"""Writes a table (JSON on standard input, from `lumora table --to json`) as the peers' inputs: FOLDER/LANGUAGE.{po,boost.po,ts,txt}."""
+import html
+import json
+import re
+import sys
+
+folder, language = sys.argv[1:]
+texts = json.load(sys.stdin)
+
+
+def placed(text, placeholder, literal=lambda part: part):
+    """The text with each of its placeholders written as placeholder(position, letter)."""
+    out, end, following = "", 0, 0
+    for found in re.finditer(r"%(?:(\d+)\$)?(?:ll|l)?([@diusf%])", text):
+        out += literal(text[end:found.start()])
+        end = found.end()
+        if found[2] == "%":
+            out += literal("%")
+            continue
+        following += 1
+        out += placeholder(int(found[1] or following), found[2])
+    return out + literal(text[end:])
+
+
+def po(convert):
+    head = 'msgid ""\nmsgstr "Content-Type: text/plain; charset=UTF-8\\n"\n'
+    quoted = lambda text: json.dumps(text, ensure_ascii=False)
+    return head + "".join(f"msgid {quoted(k)}\nmsgstr {quoted(convert(v))}\n" for k, v in texts.items() if k)
+
+
+def icu(text):
+    return placed(text, lambda n, _: f"{{{n - 1}}}", lambda part: re.sub(r"([{}]+)", r"'\1'", part.replace("'", "''")))
+
+
+def icu_key(key):
+    """Resource bundles take few characters in a key; the others are written as their code points."""
+    return re.sub(r"[^A-Za-z0-9 ._%&'()*+,/:;<=>?-]", lambda found: f"_{ord(found[0]):x}", key)
+
+
+written = {
+    "po": po(lambda text: re.sub(r"%(\d+\$)?@", r"%\1s", text)),
+    "boost.po": po(lambda text: placed(text, lambda n, _: f"{{{n}}}")),
+    "ts": f'<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS><TS version="2.1" language="{language}"><context><name></name>'
+          + "".join(f"<message><source>{html.escape(k)}</source><translation>"
+                    f"{html.escape(placed(v, lambda n, _: f'%{n}'))}</translation></message>\n" for k, v in texts.items())
+          + "</context></TS>\n",
+    "txt": f"{language} {{\n" + "".join(f"{json.dumps(icu_key(k))} {{ {json.dumps(icu(v), ensure_ascii=False)} }}\n"
+                                        for k, v in texts.items()) + "}\n",
+}
+for suffix, content in written.items():
+    with open(f"{folder}/{language}.{suffix}", "w", encoding="utf-8") as file:
+        file.write(content)

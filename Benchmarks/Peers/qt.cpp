@@ -1,0 +1,61 @@
+// The same texts from a Qt catalog, with QString::arg for the argument.
+#include <QLocale>
+#include <QTranslator>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+constexpr auto catalog = LUMORA_PEERS "/en.qm";
+
+std::string formatted(const QTranslator& translator, int day) {
+    return translator.translate("", "DeleteAccount.ActiveSubscriptionServer").arg(day).toStdString();
+}
+
+void plainQt(benchmark::State& state) {
+    QTranslator translator;
+    if (!translator.load(catalog) || translator.translate("", "Continue") != "Continue")
+        return state.SkipWithError("the result is wrong");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(translator.translate("", "Continue").toStdString());
+}
+BENCHMARK(plainQt);
+
+void formattedQt(benchmark::State& state) {
+    QTranslator translator;
+    if (!translator.load(catalog) || formatted(translator, 7).find("until 7.") == std::string::npos)
+        return state.SkipWithError("the result is wrong");
+    int day = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(formatted(translator, day++ & 31));
+}
+BENCHMARK(formattedQt);
+
+void tableLoadQt(benchmark::State& state) {
+    if (QTranslator translator; !translator.load(catalog))
+        return state.SkipWithError("the result is wrong");
+    for (auto _ : state) {
+        QTranslator translator;
+        benchmark::DoNotOptimize(translator.load(catalog));
+    }
+}
+BENCHMARK(tableLoadQt);
+
+void numberQtKept(benchmark::State& state) {
+    const QLocale german("de_DE");
+    double value = 1234.5;
+    if (german.toString(value, 'f', 1) != "1.234,5")
+        return state.SkipWithError("the result is wrong");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(german.toString(value += 1, 'f', 1).toStdString());
+}
+BENCHMARK(numberQtKept);
+
+void numberQtAfresh(benchmark::State& state) {
+    double value = 1234.5;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(QLocale("de_DE").toString(value += 1, 'f', 1).toStdString());
+}
+BENCHMARK(numberQtAfresh);
+
+} // namespace
