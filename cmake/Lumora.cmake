@@ -28,6 +28,10 @@ endif()
 add_library(LumoraBuildRules INTERFACE)
 target_compile_options(LumoraBuildRules INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
                        $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
+if(LUMORA_FUZZERS) # libraries too: what is not instrumented guides no fuzzer
+    target_compile_options(LumoraBuildRules INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(LumoraBuildRules INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 if(LUMORA_SANITIZE)
     target_compile_options(LumoraBuildRules INTERFACE -fsanitize=${LUMORA_SANITIZE} -fno-omit-frame-pointer
                            -fno-sanitize-recover=all)

@@ -1,32 +1,70 @@
-// Reads the input as the identifier of a locale and as a language that a user wants.
+// Reads the input as the identifier of a locale, and as the languages that a host names and a bundle has.
 #include "Foundation/DateComponents.h"
 #include "Foundation/NSNumberFormatter.h"
+#include "Foundation/internal/HostState.h"
+#include "Foundation/internal/LanguageChoice.h"
 #include "Intl/Intl.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <cstdlib>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string identifier(reinterpret_cast<const char*>(data), size);
+namespace {
+
+void require(bool holds) {
+    if (!holds)
+        std::abort();
+}
+
+void writeNumbers(const Foundation::Locale& locale) {
+    using Style = Foundation::NSNumberFormatter::Style;
     Foundation::NSNumberFormatter formatter;
-    formatter.setLocale(Foundation::Locale(identifier));
-    for (const auto style :
-         {Foundation::NSNumberFormatter::Style::decimal, Foundation::NSNumberFormatter::Style::percent}) {
+    formatter.setLocale(locale);
+    for (const Style style : {Style::decimal, Style::percent}) {
         formatter.setNumberStyle(style);
-        if (formatter.stringFromNumber(-1234567.891).value_or("").empty())
-            __builtin_trap();
+        for (const double number : {-1234567.891, 0.5, double{INFINITY}, double{NAN}})
+            require(!formatter.stringFromNumber(number).value_or("").empty());
     }
+    formatter.setPositivePrefix(formatter.plusSign());
+    require(formatter.stringFromNumber(1).value_or("").starts_with(formatter.plusSign()));
+}
+
+void writeYears(const Foundation::Locale& locale) {
     Foundation::NSCalendar calendar = Foundation::NSCalendar::current();
-    calendar.setLocale(formatter.locale());
+    calendar.setLocale(locale);
     Foundation::NSDateComponentsFormatter years;
     years.setAllowedUnits(Foundation::NSCalendarUnit::year);
     years.setCalendar(calendar);
-    const Intl::Services* services = Intl::services();
-    if (services == nullptr)
-        return 0;
-    if (years.stringFromDateComponents({.year = 5}).value_or("").empty())
-        __builtin_trap();
-    const std::array<std::string, 4> supported = {"en", "zh-Hans", "sr", identifier};
-    if (const auto index = services->matchLanguage(identifier, supported); index && *index >= supported.size())
-        __builtin_trap();
+    for (const std::int64_t count : {0, 1, 2, 5, 11, 1000000, -3})
+        require(!years.stringFromDateComponents({.year = count}).value_or("").empty());
+}
+
+// `host` is a list as LANGUAGE has it.
+void chooseLanguages(std::string_view host) {
+    std::vector<std::string> wanted;
+    for (std::size_t at = 0; at <= host.size(); at = std::min(host.find(':', at), host.size()) + 1)
+        wanted.push_back(Foundation::detail::languageTag(host.substr(at, host.find(':', at) - at)));
+    for (const std::string& supportedToo : {wanted.front(), wanted.back(), std::string(host)}) {
+        const std::array<std::string, 6> supported = {"en", "zh-Hans", "sr", "pt-PT", "es-419", supportedToo};
+        auto chosen = Foundation::detail::chooseLanguages(wanted, supported);
+        for (const std::string& language : chosen)
+            require(std::ranges::find(supported, language) != supported.end());
+        if (supportedToo == wanted.front()) // what is there to the letter is taken
+            require(chosen.front() == wanted.front());
+        std::ranges::sort(chosen);
+        require(std::ranges::adjacent_find(chosen) == chosen.end());
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string identifier(reinterpret_cast<const char*>(data), size);
+    const Foundation::Locale locale(identifier);
+    writeNumbers(locale);
+    require(Intl::services() != nullptr); // without its companion this would be a fuzzer of nothing
+    writeYears(locale);
+    chooseLanguages(identifier);
     return 0;
 }

@@ -43,12 +43,16 @@ inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
             std::abort();
         sum += entry.catalog().size() + (entry.isTemplate() ? 1U : 0U);
         for (std::size_t variant = 0; variant < entry.variants(); ++variant) {
+            if (entry.best(entry.fit(variant)) > variant) // the first of those that are just what is asked for
+                std::abort();
             if (entry.kind() == AssetCatalog::Kind::image)
                 read(entry.picture(variant).bytes);
             else if (entry.kind() == AssetCatalog::Kind::color)
                 sum += static_cast<unsigned long long>(entry.color(variant).components[3] * 2);
-            else
+            else {
                 read(entry.data(variant).bytes);
+                sum += entry.data(variant).typeIdentifier.size();
+            }
         }
     }
     return sum;

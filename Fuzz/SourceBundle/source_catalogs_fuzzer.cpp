@@ -1,0 +1,73 @@
+// Any bytes as the Contents.json of an image, a colour and a data set and of a folder: refused with the file's name, or
+// an asset whose files lie in its set.
+#include "SourceBundle/Catalogs.h"
+
+#include "../../Tests/Support/TemporaryFolder.h"
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void require(bool holds) {
+    if (!holds)
+        std::abort();
+}
+
+// A source bundle whose every Contents.json is one file under several names. It is made once a process, so that an
+// input costs the writing of one file.
+class Source {
+public:
+    Source() : contents_(folder_.write("contents", "")) {
+        folder_.write("secret", "");
+        for (const char* set :
+             {"A.xcassets/Folder/i.imageset", "A.xcassets/Folder/c.colorset", "A.xcassets/d.dataset"}) {
+            folder_.write(std::string(set) + "/1.png", "");
+            fs::create_directory(folder_ / set / "folder");
+            fs::create_symlink(folder_ / "secret", folder_ / set / "link");
+            fs::create_hard_link(contents_, folder_ / set / "Contents.json");
+        }
+        fs::create_hard_link(contents_, folder_ / "A.xcassets/Folder/Contents.json");
+    }
+
+    const fs::path& path() const { return folder_.path(); }
+    void setContents(const std::uint8_t* data, std::size_t size) const {
+        std::ofstream(contents_, std::ios::binary)
+            .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
+    }
+
+private:
+    Support::TemporaryFolder folder_;
+    fs::path contents_;
+};
+
+void requireSound(const SourceBundle::SourceAsset& asset) {
+    require(asset.catalog == "A" && asset.files.empty() != asset.colors.empty());
+    const std::string name = asset.path.stem();
+    require(asset.name == name || asset.name == "Folder/" + name);
+    for (const SourceBundle::SourceFile& file : asset.files) {
+        require(file.path == asset.path / "1.png" || file.path == asset.path / "Contents.json");
+        require(file.fit.scale <= 9);
+    }
+    for (const AssetCatalog::ColorValue& color : asset.colors) {
+        require(std::ranges::all_of(color.components, [](double component) { return std::isfinite(component); }));
+        require(color.components[3] >= 0 && color.components[3] <= 1);
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const Source source;
+    source.setContents(data, size);
+    SourceBundle::Diagnostics diagnostics;
+    for (const SourceBundle::SourceAsset& asset : SourceBundle::sourceAssets(source.path(), diagnostics))
+        requireSound(asset);
+    for (const SourceBundle::Diagnostic& one : diagnostics.all())
+        require(!one.what.message.empty() && one.what.file.starts_with((source.path() / "A.xcassets/").native()));
+    return 0;
+}

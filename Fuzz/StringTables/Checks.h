@@ -1,0 +1,102 @@
+// Fuzz/StringTables/Checks.h
+// What must hold of every table that was read.
+#pragma once
+
+#include "StringTables/Table.h"
+#include "StringTables/Writer.h"
+#include <algorithm>
+#include <cstdlib>
+#include <iconv.h>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace Checks {
+
+using StringTables::Entry;
+using StringTables::Form;
+using StringTables::Table;
+
+inline void require(bool holds) {
+    if (!holds)
+        std::abort();
+}
+
+// Whether a reader of `form` is who gets these bytes. Each form has a fuzzer of its own, which leaves the others alone:
+// one for all would spend its time on the form that is the easiest to come by.
+inline bool isFor(Form form, std::string_view bytes) {
+    if (bytes.starts_with("bplist0"))
+        return form == Form::binary;
+    const std::size_t first = bytes.find_first_not_of(std::string_view(" \t\r\n\xEF\xBB\xBF\xFF\xFE\0", 10));
+    return form == (first != std::string_view::npos && bytes[first] == '<' ? Form::xml : Form::text);
+}
+
+inline bool haveSameEntries(const Table& one, const Table& other) {
+    return std::ranges::equal(one.entries(), other.entries(),
+                              [](const Entry& a, const Entry& b) { return a.key == b.key && a.text == b.text; });
+}
+
+// Entries are found by their keys, and are the same after a way through every form.
+inline void requireWhole(const Table& table) {
+    for (const Entry& entry : table.entries()) {
+        require(table.find(entry.key) == entry.text);
+        require((table.locate(entry).line == 0) == (table.form() == Form::binary));
+    }
+    for (const Form form : {Form::text, Form::xml, Form::binary}) {
+        const auto bytes = StringTables::write(table.entries(), form);
+        require(bytes || form == Form::xml); // the only form that cannot hold every text
+        if (!bytes)
+            continue;
+        const auto again = Table::read(*bytes);
+        require(again && again->form() == form && again->notes().empty() && haveSameEntries(table, *again));
+    }
+}
+
+// Reads the bytes as a table of that form; no value when they are refused or of another form.
+inline std::optional<Table> read(std::string_view bytes, Form form) {
+    if (!isFor(form, bytes))
+        return std::nullopt;
+    auto table = Table::read(std::string(bytes));
+    if (!table) {
+        require(!table.error().message.empty());
+        return std::nullopt;
+    }
+    require(table->form() == form);
+    requireWhole(*table);
+    return *std::move(table);
+}
+
+// `utf8` in another encoding; no value when it is no UTF-8.
+inline std::optional<std::string> encoded(std::string_view utf8, const char* encoding) {
+    const iconv_t converter = iconv_open(encoding, "UTF-8");
+    std::string in(utf8), out(4 * utf8.size(), '\0');
+    char *from = in.data(), *to = out.data();
+    std::size_t left = in.size(), room = out.size();
+    const bool isValid = iconv(converter, &from, &left, &to, &room) == 0;
+    iconv_close(converter);
+    out.resize(out.size() - room);
+    return isValid ? std::optional(std::move(out)) : std::nullopt;
+}
+
+// The same characters give the same table, the same notes and the same fault at the same place in UTF-8 and in UTF-16.
+inline void requireSameInUtf16(std::string_view characters) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    while (characters.starts_with(mark))
+        characters.remove_prefix(mark.size());
+    const auto narrow = Table::read(std::string(mark).append(characters));
+    for (const auto& [encoding, wideMark] : {std::pair{"UTF-16LE", "\xFF\xFE"}, std::pair{"UTF-16BE", "\xFE\xFF"}}) {
+        const auto units = encoded(characters, encoding);
+        if (!units)
+            return;
+        const auto wide = Table::read(wideMark + *units);
+        require(static_cast<bool>(narrow) == static_cast<bool>(wide));
+        if (!narrow) {
+            require(narrow.error().text() == wide.error().text());
+            continue;
+        }
+        require(haveSameEntries(*narrow, *wide));
+        require(std::ranges::equal(narrow->notes(), wide->notes(), {}, &Runtime::Error::text, &Runtime::Error::text));
+    }
+}
+
+} // namespace Checks

@@ -1,0 +1,87 @@
+// Changes a binary table. Chance keeps the file's end true only while nothing in front of it moves, so half of the time
+// the objects alone are changed, and their offsets and the trailer are made anew for what they have become.
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
+
+namespace {
+
+constexpr std::size_t headerSize = 8, trailerSize = 32;
+
+std::uint64_t number(const std::uint8_t* at, std::size_t size) {
+    std::uint64_t value = 0;
+    for (std::size_t i = 0; i < size; ++i)
+        value = value << 8 | at[i];
+    return value;
+}
+
+// How many bytes the object at `at` takes, if its marker is to be believed.
+std::uint64_t sizeOf(const std::uint8_t* at, std::size_t left, std::size_t refSize) {
+    const std::size_t type = *at >> 4;
+    std::uint64_t count = *at & 0xF, head = 1;
+    if (type >= 4 && type != 8 && count == 0xF && left > 1 && at[1] <= 0x13) {
+        const std::size_t countSize = std::size_t{1} << (at[1] & 3);
+        head = 2 + countSize;
+        count = head <= left ? number(at + 2, countSize) & 0xFFFFFFFF : 0;
+    }
+    switch (type) {
+    case 0x1:
+    case 0x2:
+        return head + (std::uint64_t{1} << (count & 3));
+    case 0x3:
+        return head + 8;
+    case 0x4:
+    case 0x5:
+        return head + count;
+    case 0x6:
+        return head + count * 2;
+    case 0x8:
+        return head + count + 1;
+    case 0xA:
+        return head + count * refSize;
+    case 0xD:
+        return head + count * refSize * 2;
+    default:
+        return head;
+    }
+}
+
+} // namespace
+
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
+                                               unsigned seed) {
+    if (seed % 2 == 0 || size < headerSize + trailerSize || maxSize < size || std::memcmp(data, "bplist00", 8) != 0)
+        return LLVMFuzzerMutate(data, size, maxSize);
+    const std::uint8_t* const trailer = data + size - trailerSize;
+    const std::uint64_t tableAt = number(trailer + 24, 8);
+    const std::size_t refSize = trailer[7];
+    if (tableAt <= headerSize || tableAt > size - trailerSize || refSize < 1 || refSize > 8)
+        return LLVMFuzzerMutate(data, size, maxSize);
+
+    std::vector<std::uint8_t> out(data, data + tableAt);
+    out.resize(maxSize);
+    out.resize(headerSize + LLVMFuzzerMutate(out.data() + headerSize, tableAt - headerSize, maxSize - headerSize));
+    const std::size_t end = out.size();
+    std::vector<std::size_t> offsets;
+    for (std::uint64_t at = headerSize; at < end; at += sizeOf(out.data() + at, end - at, refSize))
+        offsets.push_back(at);
+    const auto put = [&out](std::uint64_t value, std::size_t bytes) {
+        while (bytes-- > 0)
+            out.push_back(static_cast<std::uint8_t>(value >> 8 * bytes));
+    };
+    for (const std::size_t offset : offsets)
+        put(offset, 2);
+    put(0, 6);
+    put(2, 1);
+    put(refSize, 1);
+    put(offsets.size(), 8);
+    put(0, 8); // the first object is the dictionary
+    put(end, 8);
+    if (out.size() > maxSize || end > 0xFFFF)
+        return LLVMFuzzerMutate(data, size, maxSize);
+    std::memcpy(data, out.data(), out.size());
+    return out.size();
+}

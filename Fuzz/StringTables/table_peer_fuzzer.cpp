@@ -1,0 +1,76 @@
+// Another reader beside ours: a table that both accept holds the same texts for both, and what we write it reads.
+// Left aside is where the other one is known to differ:
+//  - it hands out C strings, which end at a zero;
+//  - of equal keys it keeps every one;
+//  - it takes XML as UTF-8 whatever is declared, and leaves the ends of its lines as they are.
+#include "Checks.h"
+#include <map>
+#include <memory>
+#include <plist/plist.h>
+
+namespace {
+
+using Checks::Form;
+using Checks::require;
+using Texts = std::map<std::string, std::string>;
+using Node = std::unique_ptr<std::remove_pointer_t<plist_t>, decltype(&plist_free)>;
+using Chars = std::unique_ptr<char, decltype(&std::free)>;
+
+// The texts of a dictionary whose keys are all different.
+std::optional<Texts> texts(plist_t dict) {
+    plist_dict_iter found = nullptr;
+    plist_dict_new_iter(dict, &found);
+    const std::unique_ptr<void, decltype(&std::free)> iterator(found, std::free);
+    Texts out;
+    std::map<std::string, bool> keys;
+    for (;;) {
+        char *key = nullptr, *text = nullptr;
+        plist_t value = nullptr;
+        plist_dict_next_item(dict, found, &key, &value);
+        const Chars keptKey(key, std::free);
+        if (!value)
+            return out;
+        if (!keys.emplace(key, true).second)
+            return std::nullopt;
+        if (plist_get_node_type(value) != PLIST_STRING)
+            continue;
+        plist_get_string_val(value, &text);
+        const Chars keptText(text, std::free);
+        out.emplace(key, text);
+    }
+}
+
+std::optional<Texts> theirs(std::string_view bytes) {
+    plist_t read = nullptr;
+    plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &read);
+    const Node root(read, plist_free);
+    return root && plist_get_node_type(read) == PLIST_DICT ? texts(read) : std::nullopt;
+}
+
+bool readsDifferently(std::string_view bytes, Form form) {
+    return form == Form::xml && (bytes.find('\r') != bytes.npos || bytes.find("encoding") != bytes.npos);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    if (Checks::isFor(Form::text, bytes))
+        return 0;
+    const auto table = Checks::Table::read(std::string(bytes));
+    if (!table)
+        return 0;
+    Texts ours;
+    for (const Checks::Entry& entry : table->entries()) {
+        if (entry.key.find('\0') != entry.key.npos || entry.text.find('\0') != entry.text.npos)
+            return 0;
+        ours.emplace(entry.key, entry.text);
+    }
+    if (!readsDifferently(bytes, table->form()))
+        if (const auto others = theirs(bytes))
+            require(ours == *others);
+    for (const Form form : {Form::xml, Form::binary})
+        if (const auto written = StringTables::write(table->entries(), form))
+            require(theirs(*written) == ours);
+    return 0;
+}

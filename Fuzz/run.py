@@ -1,0 +1,75 @@
+"""Runs fuzzers, two at a time, each for so many seconds of processor time: run.py FOLDER SECONDS [NAME...].
+
+FOLDER holds the programs. What a fuzzer adds to its corpus stays in FOLDER/fuzzing/NAME, as do its log and its finding,
+which ends the run.
+"""
+import os
+import pathlib
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import time
+
+together = 2
+folder = pathlib.Path(__file__).parent
+corpora = {corpus.name.removesuffix("-corpus"): corpus for corpus in sorted(folder.glob("*/*-corpus"))}
+ticks = os.sysconf("SC_CLK_TCK")
+
+
+class Fuzzer:
+    def __init__(self, name):
+        self.name = name
+        self.scratch = programs / "fuzzing" / name
+        shutil.rmtree(self.scratch, ignore_errors=True)
+        (self.scratch / "corpus").mkdir(parents=True)
+        self.log = self.scratch / "log"
+        self.seconds = 0.0
+        command = [programs / f"fuzz-{name}", self.scratch / "corpus", corpora[name], "-timeout=25", "-rss_limit_mb=1024",
+                   "-print_final_stats=1", f"-artifact_prefix={self.scratch}/finding-"]
+        if (dictionary := corpora[name].with_name(name + ".dict")).exists():
+            command.append(f"-dict={dictionary}")
+        with open(self.log, "wb") as log:
+            self.child = subprocess.Popen(command, stdout=log, stderr=log, env=os.environ | {"TMPDIR": str(self.scratch)})
+
+    # Whether it still runs. It is asked to end when its time is over.
+    def runs(self):
+        if self.child.poll() is not None:
+            return False
+        times = pathlib.Path(f"/proc/{self.child.pid}/stat").read_text().rpartition(")")[2].split()
+        self.seconds = (int(times[11]) + int(times[12])) / ticks
+        if self.seconds >= limit:
+            self.child.send_signal(signal.SIGUSR1)
+        return True
+
+    def tell(self):
+        said = self.log.read_text(errors="replace")
+        if self.child.returncode != 0:
+            findings = [str(path) for path in self.scratch.glob("finding-*")]
+            print(said[-4000:])
+            return f"{self.name} found something: {' '.join(findings) or self.log}"
+        executions = re.findall(r"number_of_executed_units: *(\d+)", said)
+        coverage = re.findall(r"cov: (\d+) ft: (\d+)", said)
+        print(f"{self.name:16} {self.seconds:6.0f} s  {executions[-1]:>10} executions  "
+              f"{coverage[-1][0]:>5} edges  {coverage[-1][1]:>6} features", flush=True)
+        return None
+
+
+if len(sys.argv) < 3 or not sys.argv[2].isdigit():
+    sys.exit("how many seconds of processor time for each fuzzer?")
+programs, limit = pathlib.Path(sys.argv[1]).resolve(), int(sys.argv[2])
+waiting = sys.argv[3:] or [name for name in corpora if (programs / f"fuzz-{name}").exists()]
+if unknown := [name for name in waiting if name not in corpora]:
+    sys.exit(f"no fuzzer {' '.join(unknown)}; there are {' '.join(corpora)}")
+running, failure = [], None
+while (waiting or running) and not failure:
+    while waiting and len(running) < together:
+        running.append(Fuzzer(waiting.pop(0)))
+    time.sleep(0.5)
+    for ended in [one for one in running if not one.runs()]:
+        running.remove(ended)
+        failure = ended.tell() or failure
+for one in running:
+    one.child.kill()
+sys.exit(failure)
