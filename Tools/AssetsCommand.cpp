@@ -60,13 +60,18 @@ std::string colorText(const AssetCatalog::ColorValue& color) {
 }
 
 // The bytes of the variant that fits, as they stand in the catalog; a colour as its space and components.
-std::string variantText(const Entry& entry, std::size_t variant) {
-    const auto text = [](std::span<const std::uint8_t> bytes) { return std::string(bytes.begin(), bytes.end()); };
+Runtime::Result<std::string> variantText(const Entry& entry, std::size_t variant) {
+    const auto text = [](const AssetCatalog::Blob& blob) -> Runtime::Result<std::string> {
+        const auto bytes = blob.read();
+        if (!bytes)
+            return bytes.error();
+        return std::string(bytes->begin(), bytes->end());
+    };
     switch (entry.kind()) {
     case Kind::image:
-        return text(entry.picture(variant).bytes);
+        return text(entry.picture(variant).blob);
     case Kind::data:
-        return text(entry.data(variant).bytes);
+        return text(entry.data(variant).blob);
     case Kind::color:
         break;
     }
@@ -84,7 +89,10 @@ Exit extractAsset(const AssetOptions& options) {
     for (const Kind kind : {Kind::image, Kind::color, Kind::data})
         if (const auto index = catalog->find(kind, options.name)) {
             const Entry entry = (*catalog)[*index];
-            const auto done = Runtime::writeFile(options.output, variantText(entry, entry.best(wanted)));
+            const auto text = variantText(entry, entry.best(wanted));
+            if (!text)
+                return fail(text.error());
+            const auto done = Runtime::writeFile(options.output, *text);
             return done ? Exit::done : fail(done.error());
         }
     return fail({.message = "no asset of the bundle has this name", .file = options.name});

@@ -1,6 +1,7 @@
 #include "AssetCatalog/Builder.h"
 
-#include "AssetCatalog/Check.h"
+#include "AssetCatalog/Catalog.h"
+#include "AssetCatalog/Layout.h"
 #include <algorithm>
 #include <map>
 #include <string_view>
@@ -122,7 +123,7 @@ Runtime::Result<std::string> build(std::vector<Asset> assets) {
         writer.add(asset);
     std::string bytes = writer.finish();
     // What readers would not believe is not written.
-    if (auto sound = check({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}); !sound)
+    if (auto sound = Catalog::read({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}); !sound)
         return std::move(sound.error());
     return bytes;
 }

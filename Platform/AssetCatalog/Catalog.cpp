@@ -3,6 +3,7 @@
 #include "AssetCatalog/Check.h"
 #include "AssetCatalog/Fit.h"
 #include <algorithm>
+#include <array>
 
 namespace AssetCatalog {
 
@@ -17,10 +18,6 @@ Fit fitOf(const Format::Fit& fit) noexcept {
 
 std::string_view textOf(const flatbuffers::String* text) noexcept {
     return text == nullptr ? std::string_view() : text->string_view();
-}
-
-std::span<const std::uint8_t> blob(const std::uint8_t* blobs, std::uint64_t offset, std::uint64_t size) noexcept {
-    return {blobs + offset, static_cast<std::size_t>(size)};
 }
 
 } // namespace
@@ -73,8 +70,11 @@ std::size_t Entry::best(Fit wanted) const noexcept {
 
 PictureView Entry::picture(std::size_t variant) const noexcept {
     const Format::Picture& found = *asset_->pictures()->Get(static_cast<Place>(variant));
-    return {fitOf(found.fit()), static_cast<Encoding>(found.encoding()), found.width(), found.height(),
-            blob(blobs_, found.offset(), found.size())};
+    return {fitOf(found.fit()),
+            static_cast<Encoding>(found.encoding()),
+            found.width(),
+            found.height(),
+            {blobs_, found.offset(), found.size()}};
 }
 
 ColorValue Entry::color(std::size_t variant) const noexcept {
@@ -86,26 +86,43 @@ ColorValue Entry::color(std::size_t variant) const noexcept {
 
 DataView Entry::data(std::size_t variant) const noexcept {
     const Format::Data& found = *asset_->data()->Get(static_cast<Place>(variant));
-    return {fitOf(*found.fit()), textOf(found.type()), blob(blobs_, found.offset(), found.size())};
+    return {fitOf(*found.fit()), textOf(found.type()), {blobs_, found.offset(), found.size()}};
 }
 
 Runtime::Result<Catalog> Catalog::open(const std::string& path) {
-    auto mapping = Mapping::open(path, maxBytes);
-    if (!mapping)
-        return std::move(mapping.error());
-    auto catalog = read(mapping->bytes());
-    if (catalog)
-        catalog->mapping_ = std::move(*mapping);
-    else
-        catalog.error().file = path;
-    return catalog;
+    auto file = Runtime::OpenFile::open(path, maxBytes);
+    if (!file)
+        return std::move(file.error());
+    const auto failure = [&](Runtime::Error& error) { return file->error(std::move(error.message)); };
+    std::array<std::uint8_t, headBytes> head{};
+    const auto headRead = file->read(head.data(), head.size(), 0);
+    if (!headRead)
+        return headRead.error();
+    auto size = indexBytes(std::span(head).first(*headRead), file->size());
+    if (!size)
+        return failure(size.error());
+    auto bytes = std::make_unique<std::uint8_t[]>(*size);
+    const auto filled = file->read(bytes.get(), *size, 0);
+    if (!filled)
+        return filled.error();
+    // A file that changes meanwhile is as damaged as any; the size must be the one that was made room for.
+    auto sameSize = indexBytes({bytes.get(), *filled}, *filled);
+    if (!sameSize || *sameSize != *size)
+        return file->error("has been changed while it was read");
+    auto index = check({bytes.get(), *size}, file->size());
+    if (!index)
+        return failure(index.error());
+    return Catalog(std::move(bytes), *index, std::make_unique<Blobs>(std::move(*file), *size));
 }
 
 Runtime::Result<Catalog> Catalog::read(std::span<const std::uint8_t> bytes) {
-    auto checked = check(bytes);
-    if (!checked)
-        return std::move(checked.error());
-    return Catalog(checked->index, checked->blobs);
+    auto size = indexBytes(bytes, bytes.size());
+    if (!size)
+        return std::move(size.error());
+    auto index = check(bytes.first(*size), bytes.size());
+    if (!index)
+        return std::move(index.error());
+    return Catalog(nullptr, *index, std::make_unique<Blobs>(bytes.subspan(*size)));
 }
 
 std::optional<std::size_t> Catalog::find(Kind kind, std::string_view name) const noexcept {
@@ -123,7 +140,7 @@ std::size_t Catalog::size() const noexcept {
 }
 
 Entry Catalog::operator[](std::size_t index) const noexcept {
-    return {index_->assets()->Get(static_cast<Place>(index)), blobs_};
+    return {index_->assets()->Get(static_cast<Place>(index)), blobs_.get()};
 }
 
 } // namespace AssetCatalog

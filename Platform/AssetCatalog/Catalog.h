@@ -1,14 +1,15 @@
 // AssetCatalog/Catalog.h
 // A compiled catalog: the file Assets.catalog of a bundle, with every image, colour and data asset of the bundle's
-// source catalogs. Text: UTF-8. Threads: any, immutable after opening. Ownership: a catalog owns its mapping; entries,
-// views and spans live as long as it does, moved or not.
+// source catalogs. Text: UTF-8. Threads: any, immutable after opening. Ownership: a catalog owns its index and its open
+// file; entries, views and blobs live as long as it does, moved or not.
 #pragma once
 
-#include "AssetCatalog/Mapping.h"
+#include "AssetCatalog/Blobs.h"
 #include "AssetCatalog/Model.h"
 #include "Runtime/Result.h"
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -36,12 +37,12 @@ struct PictureView {
     Fit fit;
     Encoding encoding;
     std::uint32_t width, height; // in pixels, at least 1
-    std::span<const std::uint8_t> bytes;
+    Blob blob;
 };
 struct DataView {
     Fit fit;
     std::string_view typeIdentifier;
-    std::span<const std::uint8_t> bytes;
+    Blob blob;
 };
 
 // One asset of an open catalog.
@@ -64,17 +65,18 @@ public:
 
 private:
     friend class Catalog;
-    Entry(const Format::Asset* asset, const std::uint8_t* blobs) noexcept : asset_(asset), blobs_(blobs) {}
+    Entry(const Format::Asset* asset, const Blobs* blobs) noexcept : asset_(asset), blobs_(blobs) {}
 
     const Format::Asset* asset_;
-    const std::uint8_t* blobs_;
+    const Blobs* blobs_;
 };
 
 class Catalog {
 public:
-    // Opens the catalog at `path`. The whole index is checked before anything in it is believed, and no page of a
-    // picture is read. Errors: no such regular file, not a catalog, another version, cut off, damaged (with what does
-    // not hold). What lies inside of pictures and data is not looked at.
+    // Opens the catalog at `path`. The whole index is checked before anything in it is believed, and nothing of a
+    // picture is read: the file stays open for that. Replacing it by renaming changes nothing for an open catalog.
+    // Errors: no such regular file, not a catalog, another version, cut off, damaged (with what does not hold). What
+    // lies inside of pictures and data is not looked at.
     [[nodiscard]] static Runtime::Result<Catalog> open(const std::string& path);
     // The same from memory that outlives the catalog and starts at a multiple of 16.
     [[nodiscard]] static Runtime::Result<Catalog> read(std::span<const std::uint8_t> bytes);
@@ -88,11 +90,13 @@ public:
     Entry operator[](std::size_t index) const noexcept; // below size()
 
 private:
-    Catalog(const Format::Catalog* index, const std::uint8_t* blobs) noexcept : index_(index), blobs_(blobs) {}
+    using Bytes = std::unique_ptr<const std::uint8_t[]>;
+    Catalog(Bytes bytes, const Format::Catalog* index, std::unique_ptr<const Blobs> blobs) noexcept
+        : bytes_(std::move(bytes)), index_(index), blobs_(std::move(blobs)) {}
 
-    Mapping mapping_;
+    Bytes bytes_; // of the index, unless they are somebody else's
     const Format::Catalog* index_;
-    const std::uint8_t* blobs_;
+    std::unique_ptr<const Blobs> blobs_;
 };
 
 } // namespace AssetCatalog

@@ -113,29 +113,31 @@ Runtime::Result<void> checkAssets(const Format::Catalog& index) {
 
 } // namespace
 
-Runtime::Result<Checked> check(std::span<const std::uint8_t> bytes) {
-    constexpr std::size_t head = 3 * sizeof(flatbuffers::uoffset_t); // size, root, identifier
-    if (bytes.size() < head || !Format::SizePrefixedCatalogBufferHasIdentifier(bytes.data()))
+Runtime::Result<std::size_t> indexBytes(std::span<const std::uint8_t> head, std::uint64_t total) {
+    if (head.size() < headBytes || !Format::SizePrefixedCatalogBufferHasIdentifier(head.data()))
         return fault("is not a compiled catalog");
-    const std::size_t indexBytes = flatbuffers::GetPrefixedSize(bytes.data()) + sizeof(flatbuffers::uoffset_t);
-    if (indexBytes > maxIndexBytes || Format::aligned(indexBytes) > bytes.size())
+    const std::size_t size =
+        Format::aligned(flatbuffers::GetPrefixedSize(head.data()) + sizeof(flatbuffers::uoffset_t));
+    if (size > maxIndexBytes || size > total)
         return damaged("its index is cut off or too large");
+    return size;
+}
 
+Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> bytes, std::uint64_t total) {
     const flatbuffers::Verifier::Options limits{.max_depth = 3, .max_tables = maxAssets * 2};
-    flatbuffers::Verifier verifier(bytes.data(), indexBytes, limits);
+    flatbuffers::Verifier verifier(bytes.data(),
+                                   flatbuffers::GetPrefixedSize(bytes.data()) + sizeof(flatbuffers::uoffset_t), limits);
     if (!Format::VerifySizePrefixedCatalogBuffer(verifier))
         return damaged("its index is damaged");
     const Format::Catalog& index = *Format::GetSizePrefixedCatalog(bytes.data());
     if (index.version() != Format::version)
         return fault("is a catalog of version " + std::to_string(index.version()) + "; this program reads version " +
                      std::to_string(Format::version));
-
-    const auto blobs = bytes.subspan(Format::aligned(indexBytes));
-    if (index.blob_bytes() != blobs.size())
+    if (index.blob_bytes() != total - bytes.size())
         return damaged("it is cut off");
     if (auto sound = checkAssets(index); !sound)
         return std::move(sound.error());
-    return Checked{&index, blobs.data()};
+    return &index;
 }
 
 } // namespace AssetCatalog

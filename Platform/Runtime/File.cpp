@@ -1,7 +1,7 @@
 #include "Runtime/File.h"
 
+#include "Runtime/OpenFile.h"
 #include <cerrno>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -87,29 +87,15 @@ Result<void> replace(const std::string& path, std::string_view bytes) {
 } // namespace
 
 Result<std::string> readFile(const std::string& path, std::size_t limit) {
-    // Without O_NONBLOCK the opening of a pipe would wait for its writer.
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status {};
-    if (file.number() < 0 || ::fstat(file.number(), &status) != 0)
-        return systemError(path, "cannot be read");
-    if (!S_ISREG(status.st_mode))
-        return Error{.message = "is not a regular file", .file = path};
-    if (static_cast<std::uintmax_t>(status.st_size) > limit)
-        return Error{.message = "is larger than " + std::to_string(limit) + " bytes", .file = path};
-
+    const auto file = OpenFile::open(path, limit);
+    if (!file)
+        return file.error();
     // What is read counts, not what was promised: the file may shrink or grow meanwhile.
-    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-    std::size_t filled = 0;
-    while (filled < bytes.size()) {
-        const ssize_t count = ::read(file.number(), bytes.data() + filled, bytes.size() - filled);
-        if (count < 0 && errno != EINTR)
-            return systemError(path, "cannot be read");
-        if (count == 0)
-            break;
-        if (count > 0)
-            filled += static_cast<std::size_t>(count);
-    }
-    bytes.resize(filled);
+    std::string bytes(file->size(), '\0');
+    const auto filled = file->read(bytes.data(), bytes.size(), 0);
+    if (!filled)
+        return filled.error();
+    bytes.resize(*filled);
     return bytes;
 }
 

@@ -2,13 +2,13 @@
 
 namespace UIKit::detail {
 
-Pixels PixelCache::find(const void* key) {
+Pixels PixelCache::find(const Key& key) {
     const std::lock_guard guard(lock_);
     const auto found = slots_.find(key);
     return found == slots_.end() ? nullptr : use(found->second, key);
 }
 
-Pixels PixelCache::add(const void* key, Pixels pixels) {
+Pixels PixelCache::add(const Key& key, Pixels pixels) {
     const std::lock_guard guard(lock_);
     if (slots_.size() >= nextSweep_) {
         std::erase_if(slots_, [](const auto& each) { return each.second.pixels.expired(); });
@@ -22,7 +22,7 @@ Pixels PixelCache::add(const void* key, Pixels pixels) {
 }
 
 // The slot's pixels, if they are alive, as the last used.
-Pixels PixelCache::use(Slot& slot, const void* key) {
+Pixels PixelCache::use(Slot& slot, const Key& key) {
     Pixels pixels = slot.pixels.lock();
     if (pixels == nullptr)
         return nullptr;

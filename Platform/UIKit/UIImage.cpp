@@ -62,13 +62,15 @@ std::uint32_t UIImage::pixelHeight() const noexcept {
 
 std::shared_ptr<const Pictures::Bitmap> UIImage::rgba() const {
     const auto picture = pictureFor((*catalog_)[index_], traits_);
-    const void* key = picture.bytes.data();
-    auto pixels = cache().find(key);
+    auto pixels = cache().find(picture.blob);
     if (pixels == nullptr) {
-        auto decoded = Pictures::decode(picture.bytes, AssetCatalog::maxPixels);
+        const auto encoded = picture.blob.read();
+        if (!encoded)
+            return nullptr;
+        auto decoded = Pictures::decode(*encoded, AssetCatalog::maxPixels);
         if (!decoded)
             return nullptr;
-        pixels = cache().add(key, std::make_shared<const Pictures::Bitmap>(std::move(*decoded)));
+        pixels = cache().add(picture.blob, std::make_shared<const Pictures::Bitmap>(std::move(*decoded)));
     }
     // A catalog that is wrong about a picture's size is damaged too.
     return pixels->width == picture.width && pixels->height == picture.height ? pixels : nullptr;

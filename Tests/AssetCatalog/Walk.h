@@ -12,7 +12,7 @@
 
 namespace Walk {
 
-// Bytes at the very end of their allocation, so that a read behind them is seen; aligned as a mapping is.
+// Bytes at the very end of their allocation, so that a read behind them is seen; aligned as catalogs are.
 class Exact {
 public:
     explicit Exact(std::string_view bytes)
@@ -33,8 +33,11 @@ private:
 // catalog contradicts itself.
 inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
     unsigned long long sum = 0;
-    const auto read = [&](std::span<const std::uint8_t> bytes) {
-        for (const std::uint8_t byte : bytes)
+    const auto read = [&](const AssetCatalog::Blob& blob) {
+        const auto bytes = blob.read();
+        if (!bytes)
+            std::abort();
+        for (const std::uint8_t byte : *bytes)
             sum += byte;
     };
     for (std::size_t i = 0; i < catalog.size(); ++i) {
@@ -46,11 +49,11 @@ inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
             if (entry.best(entry.fit(variant)) > variant) // the first of those that are just what is asked for
                 std::abort();
             if (entry.kind() == AssetCatalog::Kind::image)
-                read(entry.picture(variant).bytes);
+                read(entry.picture(variant).blob);
             else if (entry.kind() == AssetCatalog::Kind::color)
                 sum += static_cast<unsigned long long>(entry.color(variant).components[3] * 2);
             else {
-                read(entry.data(variant).bytes);
+                read(entry.data(variant).blob);
                 sum += entry.data(variant).typeIdentifier.size();
             }
         }

@@ -4,6 +4,7 @@
 #include "Sample.h"
 #include "Walk.h"
 #include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <limits>
 #include <set>
@@ -35,8 +36,8 @@ TEST(Catalog, GivesBackWhatWasBuilt) {
     EXPECT_EQ(dark.encoding, Encoding::jpeg);
     EXPECT_EQ(dark.width, 6U);
     EXPECT_EQ(dark.height, 4U);
-    EXPECT_EQ(numbers(dark.bytes), (std::vector{1, 2, 3}));
-    EXPECT_EQ(numbers(image.picture(image.best({})).bytes), (std::vector{9}));
+    EXPECT_EQ(numbers(*dark.blob.read()), (std::vector{1, 2, 3}));
+    EXPECT_EQ(numbers(*image.picture(image.best({})).blob.read()), (std::vector{9}));
 
     const Entry color = catalog[*catalog.find(Kind::color, "send")];
     const ColorValue wide = color.color(color.best({}));
@@ -46,12 +47,29 @@ TEST(Catalog, GivesBackWhatWasBuilt) {
 
     const Entry data = catalog[*catalog.find(Kind::data, "send")];
     EXPECT_EQ(data.data(0).typeIdentifier, "public.json");
-    EXPECT_EQ(numbers(data.data(0).bytes), (std::vector<int>{'{', '}'}));
+    EXPECT_EQ(numbers(*data.data(0).blob.read()), (std::vector<int>{'{', '}'}));
 
     EXPECT_TRUE(catalog.find(Kind::image, "folder/star_"));
     for (const char* absent : {"", "Send", "sen", "send ", "folder/star", "star_"})
         EXPECT_FALSE(catalog.find(Kind::image, absent)) << absent;
     EXPECT_FALSE(catalog.find(Kind::color, "folder/star_"));
+}
+
+// The file is replaced and cut short while its catalog is open.
+TEST(Catalog, OutlivesItsFile) {
+    const Support::TemporaryFolder folder;
+    const std::string path = folder.write(fileName, *build(Sample::assets()));
+    const auto catalog = Catalog::open(path);
+    ASSERT_TRUE(catalog);
+    const Blob blob = (*catalog)[*catalog->find(Kind::data, "send")].data(0).blob;
+
+    std::filesystem::rename(path, path + ".old");
+    folder.write(fileName, "another one");
+    EXPECT_EQ(numbers(*blob.read()), (std::vector<int>{'{', '}'}));
+
+    std::filesystem::resize_file(path + ".old", 5);
+    EXPECT_EQ(blob.read().error().text(), path + ": has been cut short");
+    EXPECT_EQ((*catalog)[*catalog->find(Kind::image, "send")].name(), "send");
 }
 
 TEST(Catalog, FindsEveryOneOfMany) {

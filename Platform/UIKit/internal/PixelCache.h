@@ -3,14 +3,15 @@
 // Threads: any; the lock is held for a look at the table, never while a picture is decoded.
 #pragma once
 
+#include "AssetCatalog/Blobs.h"
 #include "Pictures/Bitmap.h"
 #include <cstddef>
 #include <cstdint>
 #include <list>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <span>
-#include <unordered_map>
 
 namespace UIKit::detail {
 
@@ -18,18 +19,20 @@ using Pixels = std::shared_ptr<const Pictures::Bitmap>;
 
 class PixelCache {
 public:
+    using Key = AssetCatalog::Blob; // of the encoded picture
+
     // Keeps the pictures looked at last, up to `maxBytes` of pixels together, alive; others only as long as somebody
     // else does.
     explicit PixelCache(std::size_t maxBytes) noexcept : maxBytes_(maxBytes) {}
 
-    // The pixels of the picture whose encoded bytes start at `key`, or null.
-    Pixels find(const void* key);
+    // The pixels of the picture that lies encoded at `key`, or null.
+    Pixels find(const Key& key);
     // Adds them, or gives those that another thread has added meanwhile.
-    Pixels add(const void* key, Pixels pixels);
+    Pixels add(const Key& key, Pixels pixels);
 
 private:
     struct Kept {
-        const void* key;
+        Key key;
         Pixels pixels;
     };
     struct Slot {
@@ -37,14 +40,14 @@ private:
         std::list<Kept>::iterator kept;               // or the list's end
     };
 
-    Pixels use(Slot& slot, const void* key);
+    Pixels use(Slot& slot, const Key& key);
     void letGo();
 
     const std::size_t maxBytes_;
     std::mutex lock_;
     std::list<Kept> kept_; // the last used first
     std::size_t keptBytes_ = 0;
-    std::unordered_map<const void*, Slot> slots_;
+    std::map<Key, Slot> slots_;
     std::size_t nextSweep_ = 64; // slots at which those without pixels are looked for
 };
 

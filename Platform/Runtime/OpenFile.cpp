@@ -1,0 +1,53 @@
+#include "Runtime/OpenFile.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Runtime {
+
+namespace {
+
+std::string cannotBeRead() {
+    return std::string("cannot be read: ") + std::strerror(errno);
+}
+
+} // namespace
+
+Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit) {
+    // Without O_NONBLOCK the opening of a pipe would wait for its writer.
+    OpenFile file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK), path);
+    struct stat status {};
+    if (file.descriptor_ < 0 || ::fstat(file.descriptor_, &status) != 0)
+        return file.error(cannotBeRead());
+    if (!S_ISREG(status.st_mode))
+        return file.error("is not a regular file");
+    if (static_cast<std::uintmax_t>(status.st_size) > limit)
+        return file.error("is larger than " + std::to_string(limit) + " bytes");
+    file.size_ = static_cast<std::size_t>(status.st_size);
+    return file;
+}
+
+OpenFile::~OpenFile() {
+    if (descriptor_ >= 0)
+        ::close(descriptor_);
+}
+
+Result<std::size_t> OpenFile::read(void* out, std::size_t size, std::uint64_t offset) const {
+    std::size_t filled = 0;
+    while (filled < size) {
+        const ssize_t count =
+            ::pread(descriptor_, static_cast<char*>(out) + filled, size - filled, static_cast<off_t>(offset + filled));
+        if (count < 0 && errno != EINTR)
+            return error(cannotBeRead());
+        if (count == 0)
+            break;
+        if (count > 0)
+            filled += static_cast<std::size_t>(count);
+    }
+    return filled;
+}
+
+} // namespace Runtime

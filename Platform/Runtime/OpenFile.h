@@ -1,0 +1,40 @@
+// Runtime/OpenFile.h
+// A regular file that is read from, in parts or whole.
+// Threads: any; parts may be read at the same time. Ownership: owns the descriptor, which no child program inherits.
+#pragma once
+
+#include "Runtime/Result.h"
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace Runtime {
+
+class OpenFile {
+public:
+    // Opens the regular file at `path`. Errors name it: the system's reason, a directory or a device, more than `limit`
+    // bytes. Never waits for a writer.
+    [[nodiscard]] static Result<OpenFile> open(const std::string& path, std::size_t limit);
+
+    OpenFile(OpenFile&& other) noexcept
+        : descriptor_(std::exchange(other.descriptor_, -1)), size_(other.size_), path_(std::move(other.path_)) {}
+    OpenFile& operator=(OpenFile&&) = delete;
+    ~OpenFile();
+
+    std::size_t size() const noexcept { return size_; } // when it was opened
+    // Puts what stands at `offset` at `out`. How much that was: less than `size` where the file ends.
+    [[nodiscard]] Result<std::size_t> read(void* out, std::size_t size, std::uint64_t offset) const;
+    // An error of this file.
+    [[nodiscard]] Error error(std::string message) const { return {.message = std::move(message), .file = path_}; }
+
+private:
+    OpenFile(int descriptor, std::string path) noexcept : descriptor_(descriptor), path_(std::move(path)) {}
+
+    int descriptor_;
+    std::size_t size_ = 0;
+    std::string path_;
+};
+
+} // namespace Runtime
