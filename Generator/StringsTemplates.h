@@ -15,19 +15,30 @@ inline constexpr std::string_view declarationsBegin = R"(#pragma once
 #include <string>)";
 
 inline constexpr std::string_view definitionsBegin = R"(#include "{{module}}Strings/Internal/Catalog.h"
+#include "Runtime/Attempt.h"
 #include "Runtime/OnceSlot.h")";
 
 // {{count}}: of plain entries.
 inline constexpr std::string_view plainDefinition = R"(
 constinit ::Runtime::OnceSlot<std::string> slots[{{count}}];
 
-inline const std::string& text(std::size_t entry) {
-    return slots[entry].get([entry] { return textAt(characters, places + entry, {}); });
+// Without memory or descriptors this read gives no text, and a later one tries again.
+[[gnu::noinline, gnu::cold]] const std::string& made(std::size_t entry) noexcept {
+    try {
+        return slots[entry].get([entry] { return textAt(characters, places + entry, {}); });
+    } catch (...) {
+        return noText();
+    }
+}
+
+inline const std::string& text(std::size_t entry) noexcept {
+    const std::string* known = slots[entry].find();
+    return known != nullptr ? *known : made(entry);
 })";
 
 inline constexpr std::string_view formattedDefinition = R"(
-std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) {
-    return textAt(characters, places + entry, arguments);
+std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
+    return ::Runtime::attempt([&] { return textAt(characters, places + entry, arguments); });
 })";
 
 inline constexpr std::string_view catalogHeader = R"(// What the sources of the tree share; internal.
@@ -44,10 +55,13 @@ inline constexpr std::string_view catalogHeader = R"(// What the sources of the 
 namespace {{module}}::{{module}}Strings {
 
 // The text of `key` in the table `table`, in the user's language, its placeholders replaced by `arguments`. The only way from
-// the tree to the bundle.
+// the tree to the bundle. Throws what the system's lack of memory or descriptors throws.
 std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments);
 
 namespace detail {
+
+// Of a text that could not be made.
+const std::string& noText() noexcept;
 
 // Where an entry's table name and key begin among the characters of its source. There are no pointers here, so nothing has to
 // be relocated when the library is loaded.
@@ -71,6 +85,7 @@ inline constexpr std::string_view lookupSource = R"(#include "{{module}}Strings/
 #include "Foundation/Locale.h"
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
+#include "Runtime/OnceSlot.h"
 #include "{{module}}Resources.h"
 
 namespace {{module}}::{{module}}Strings {
@@ -79,6 +94,11 @@ namespace {{module}}::{{module}}Strings {
 std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments) {
     const std::string_view format = ::{{module}}::{{module}}Resources::bundle().localizedText(key, table);
     return ::Foundation::String::format(format, ::Foundation::Locale::current(), arguments);
+}
+
+const std::string& detail::noText() noexcept {
+    static constinit ::Runtime::OnceSlot<std::string> empty;
+    return empty.get([] { return std::string(); });
 }
 
 } // namespace {{module}}::{{module}}Strings)";

@@ -2,6 +2,7 @@
 #include "Lumora/Localization.h"
 
 #include "Lumora/LumoraResources.h"
+#include "Runtime/Attempt.h"
 #include "Runtime/OnceSlot.h"
 #include <algorithm>
 #include <array>
@@ -16,6 +17,14 @@ namespace {
 constexpr std::array<LocalizationCode, 3> asianLocalizationCodes = {LocalizationCode::ko, LocalizationCode::ja,
                                                                     LocalizationCode::zhHans};
 
+// A list that is made at its first reading; empty while there is no memory for it.
+template <class Make>
+const std::vector<std::string>& listed(Runtime::OnceSlot<std::vector<std::string>>& slot, Make make) noexcept {
+    static constinit Runtime::OnceSlot<std::vector<std::string>> none;
+    const std::vector<std::string>* list = Runtime::attempt([&] { return &slot.get(make); });
+    return list != nullptr ? *list : none.get([] { return std::vector<std::string>(); });
+}
+
 } // namespace
 
 LocalizationCode detail::pickLocalizationCode(std::span<const std::string> preferred,
@@ -27,9 +36,18 @@ LocalizationCode detail::pickLocalizationCode(std::span<const std::string> prefe
     return isSupported ? *code : LocalizationCode::en;
 }
 
+LocalizationCode detail::languageInForce() {
+    return pickLocalizationCode(LumoraResources::bundle().preferredLocalizations(), LocalizationCode::allCases());
+}
+
+Foundation::Locale detail::localeInForce() {
+    const std::string language = languageInForce().shortId();
+    const Foundation::Locale& current = Foundation::Locale::current();
+    return current.identifier().starts_with(language) ? current : Foundation::Locale(language);
+}
+
 LocalizationCode Localization::currentLanguageCode() {
-    return detail::pickLocalizationCode(LumoraResources::bundle().preferredLocalizations(),
-                                        LocalizationCode::allCases());
+    return Runtime::attempt(detail::languageInForce, LocalizationCode(LocalizationCode::en));
 }
 
 std::string Localization::currentLanguage() {
@@ -37,9 +55,7 @@ std::string Localization::currentLanguage() {
 }
 
 Foundation::Locale Localization::currentLocale() {
-    const std::string language = currentLanguage();
-    Foundation::Locale current = Foundation::Locale::current();
-    return current.identifier().starts_with(language) ? current : Foundation::Locale(language);
+    return Runtime::attempt(detail::localeInForce, Foundation::Locale("en"));
 }
 
 bool Localization::isAsianLocale() {
@@ -56,7 +72,7 @@ bool Localization::isLegacyCurrentLocalizationRu() {
 
 const std::vector<std::string>& Localization::allSupportedLocalizations() {
     static constinit Runtime::OnceSlot<std::vector<std::string>> list;
-    return list.get([] {
+    return listed(list, [] {
         std::vector<std::string> ids;
         for (const LocalizationCode code : LocalizationCode::allCases())
             ids.push_back(code.id());
@@ -66,7 +82,7 @@ const std::vector<std::string>& Localization::allSupportedLocalizations() {
 
 const std::vector<std::string>& Localization::allSupportedHandbookLocalizations() {
     static constinit Runtime::OnceSlot<std::vector<std::string>> list;
-    return list.get([] {
+    return listed(list, [] {
         std::unordered_set<std::string> languages;
         for (const LocalizationCode code : LocalizationCode::allCases())
             languages.insert(code.shortId());

@@ -67,6 +67,9 @@ namespace detail {
 [[nodiscard]] LUMORA_EXPORT Corvane::LocalizationCode
 pickLocalizationCode(std::span<const std::string> preferred,
                      std::span<const Corvane::LocalizationCode> supported) noexcept;
+// The language in force and its locale; throw where memory or descriptors lack.
+[[nodiscard]] Corvane::LocalizationCode languageInForce();
+[[nodiscard]] Foundation::Locale localeInForce();
 
 } // namespace detail
 

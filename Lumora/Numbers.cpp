@@ -3,6 +3,7 @@
 
 #include "Foundation/NSNumberFormatter.h"
 #include "Lumora/LumoraStrings+Members.h"
+#include "Runtime/Attempt.h"
 #include "Runtime/Fatal.h"
 #include <algorithm>
 #include <array>
@@ -45,21 +46,26 @@ std::string plainPercent(double value) {
 } // namespace
 
 std::string Localization::legacyTrNumber(const NSNumber& number, bool needSign) {
-    NSNumberFormatter formatter;
-    formatter.setNumberStyle(NSNumberFormatter::Style::decimal);
-    if (needSign)
-        formatter.setPositivePrefix(formatter.plusSign());
-    std::optional<std::string> text = formatter.stringFromNumber(number);
-    // A signed number without a text is a broken invariant, an unsigned one is not: older screens rely on both.
-    if (!text && needSign)
-        Runtime::fatalError("Unable to format a signed number", "Localization+Lumora", __LINE__);
-    return std::move(text).value_or("");
+    return Runtime::attempt([&]() -> std::string {
+        NSNumberFormatter formatter;
+        formatter.setNumberStyle(NSNumberFormatter::Style::decimal);
+        if (needSign)
+            formatter.setPositivePrefix(formatter.plusSign());
+        std::optional<std::string> text = formatter.stringFromNumber(number);
+        // A signed number without a text is a broken invariant, an unsigned one is not: older screens rely on both.
+        if (!text && needSign)
+            Runtime::fatalError("Unable to format a signed number", "Localization+Lumora", __LINE__);
+        return std::move(text).value_or("");
+    });
 }
 
 std::string Localization::legacyTrPercent(double value, bool showPlus) {
-    const bool isLocal = std::ranges::find(localePercentCodes, currentLanguageCode()) != localePercentCodes.end();
-    std::string text = isLocal ? localePercent(value) : plainPercent(value);
-    return showPlus && value > 0.0 ? "+" + text : text;
+    return Runtime::attempt([&]() -> std::string {
+        const bool isLocal =
+            std::ranges::find(localePercentCodes, detail::languageInForce()) != localePercentCodes.end();
+        std::string text = isLocal ? localePercent(value) : plainPercent(value);
+        return showPlus && value > 0.0 ? "+" + text : text;
+    });
 }
 
 std::string LumoraStrings::Localizable::locNumber(std::int64_t number, bool needSign) {

@@ -4,6 +4,7 @@
 #include "Foundation/DateComponents.h"
 #include "Lumora/Localization.h"
 #include "Lumora/LumoraStrings.h"
+#include "Runtime/Attempt.h"
 #include <algorithm>
 #include <array>
 
@@ -32,13 +33,14 @@ const std::string& chosen(std::int64_t count, const std::string& one, const std:
 }
 
 std::string phrase(std::int64_t count, const std::string& one, const std::string& two, const std::string& many) {
-    return std::to_string(count) + " " + chosen(count, one, two, many);
+    return Runtime::attempt(
+        [&]() -> std::string { return std::to_string(count) + " " + chosen(count, one, two, many); });
 }
 
 } // namespace
 
 std::string getSuffix(std::int64_t count, const PluralForms& forms) {
-    return chosen(count, forms.one, forms.two, forms.many);
+    return Runtime::attempt([&]() -> std::string { return chosen(count, forms.one, forms.two, forms.many); });
 }
 
 std::string locYears(std::int64_t count) {
@@ -69,21 +71,25 @@ constexpr std::array<LocalizationCode, 7> keyedAgeCodes = {
 } // namespace
 
 std::string Localization::legacyTrYear(std::int64_t value) {
-    Foundation::NSCalendar calendar = Foundation::NSCalendar::current();
-    calendar.setLocale(currentLocale());
-    Foundation::NSDateComponentsFormatter formatter;
-    formatter.setAllowedUnits(Foundation::NSCalendarUnit::year);
-    formatter.setUnitsStyle(Foundation::NSDateComponentsFormatter::UnitsStyle::full);
-    formatter.setMaximumUnitCount(1);
-    formatter.setCalendar(calendar);
-    Foundation::NSDateComponents components;
-    components.year = value;
-    return formatter.stringFromDateComponents(components).value_or("");
+    return Runtime::attempt([&]() -> std::string {
+        Foundation::NSCalendar calendar = Foundation::NSCalendar::current();
+        calendar.setLocale(detail::localeInForce());
+        Foundation::NSDateComponentsFormatter formatter;
+        formatter.setAllowedUnits(Foundation::NSCalendarUnit::year);
+        formatter.setUnitsStyle(Foundation::NSDateComponentsFormatter::UnitsStyle::full);
+        formatter.setMaximumUnitCount(1);
+        formatter.setCalendar(calendar);
+        Foundation::NSDateComponents components;
+        components.year = value;
+        return formatter.stringFromDateComponents(components).value_or("");
+    });
 }
 
 std::string Localization::legacyTrAge(std::int64_t age) {
-    const bool isKeyed = std::ranges::find(keyedAgeCodes, currentLanguageCode()) != keyedAgeCodes.end();
-    return isKeyed ? LumoraStrings::Localizable::locYears(age) : legacyTrYear(age);
+    return Runtime::attempt([&] {
+        const bool isKeyed = std::ranges::find(keyedAgeCodes, detail::languageInForce()) != keyedAgeCodes.end();
+        return isKeyed ? LumoraStrings::Localizable::locYears(age) : legacyTrYear(age);
+    });
 }
 
 } // namespace Lumora

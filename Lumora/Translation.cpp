@@ -2,23 +2,27 @@
 #include "Lumora/Localization.h"
 
 #include "Lumora/LumoraResources.h"
+#include "Runtime/Attempt.h"
 #include "StringTables/Table.h"
 
 namespace Lumora {
 
 std::string Localization::localizationFileTranslation(std::string_view code, std::string_view key) {
-    if (key.empty())
-        return {};
-    const std::string_view localization = code == "en" ? "Base" : code;
-    const auto path = LumoraResources::bundle().pathForResource("Localizable", "strings", "", localization);
-    if (!path)
-        return {};
-    const auto table = StringTables::Table::readFile(*path);
-    return table ? std::string(table->find(key).value_or("")) : std::string();
+    return Runtime::attempt([&]() -> std::string {
+        if (key.empty())
+            return {};
+        const std::string_view localization = code == "en" ? "Base" : code;
+        const auto path = LumoraResources::bundle().pathForResource("Localizable", "strings", "", localization);
+        if (!path)
+            return {};
+        const auto table = StringTables::Table::readFile(*path);
+        return table ? std::string(table->find(key).value_or("")) : std::string();
+    });
 }
 
 std::string Localization::legacyTr(std::string_view key) {
-    return LumoraResources::bundle().localizedStringForKey(key, nullptr, "Localizable");
+    return Runtime::attempt(
+        [&]() -> std::string { return LumoraResources::bundle().localizedStringForKey(key, nullptr, "Localizable"); });
 }
 
 } // namespace Lumora

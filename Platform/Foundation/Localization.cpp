@@ -1,5 +1,6 @@
 #include "Foundation/internal/Localization.h"
 
+#include "Foundation/internal/Passing.h"
 #include "StringTables/Table.h"
 
 namespace Foundation::detail {
@@ -28,9 +29,12 @@ const Localization::LoadedTable& Localization::load(std::string_view name) {
         return *table;
     StringTables::Table table;
     // A name is one component; a longer path would lead out of the folder.
-    if (name.find('/') == std::string_view::npos)
+    if (name.find('/') == std::string_view::npos) {
         if (auto read = StringTables::Table::readFile(directory_ + "/" + std::string(name) + ".strings"))
             table = *std::move(read);
+        else
+            throwIfPassing(read.error());
+    }
     auto* entry = new LoadedTable{std::string(name), std::move(table), tables_.load(std::memory_order_relaxed)};
     tables_.store(entry, std::memory_order_release);
     return *entry;

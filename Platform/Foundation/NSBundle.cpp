@@ -3,6 +3,7 @@
 #include "Foundation/internal/HostState.h"
 #include "Foundation/internal/LanguageChoice.h"
 #include "Foundation/internal/Localization.h"
+#include "Foundation/internal/Passing.h"
 #include "Runtime/CodeLocation.h"
 #include "StringTables/Table.h"
 #include <algorithm>
@@ -33,6 +34,8 @@ std::vector<std::string> languageFolders(const std::string& path) {
     std::vector<std::string> names;
     // A directory that cannot be read has no languages.
     const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(path.c_str()), &::closedir);
+    if (directory == nullptr)
+        detail::throwIfPassing({.cause = errno});
     while (const dirent* entry = directory == nullptr ? nullptr : ::readdir(directory.get()))
         if (const std::string_view name = entry->d_name; name.ends_with(suffix) && name.size() > suffix.size())
             names.emplace_back(name.substr(0, name.size() - suffix.size()));
@@ -41,9 +44,11 @@ std::vector<std::string> languageFolders(const std::string& path) {
 }
 
 std::string developmentRegion(const std::string& path) {
-    if (const auto info = StringTables::Table::readFile(path + "/Info.plist"))
-        if (const auto region = info->find("CFBundleDevelopmentRegion"))
-            return std::string(*region);
+    const auto info = StringTables::Table::readFile(path + "/Info.plist");
+    if (!info)
+        detail::throwIfPassing(info.error());
+    else if (const auto region = info->find("CFBundleDevelopmentRegion"))
+        return std::string(*region);
     return "en";
 }
 

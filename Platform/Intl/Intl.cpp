@@ -5,7 +5,7 @@
 
 namespace Intl {
 
-const Services* services() noexcept {
+const Services* services() {
     static constinit Runtime::OnceSlot<const Services*> slot;
     return slot.get([]() -> const Services* {
         void* entry = Runtime::companionSymbol("lumora-intl.so", "lumoraIntlServices");

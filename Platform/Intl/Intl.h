@@ -74,6 +74,6 @@ protected:
 
 // The services; null when the companion is absent, in which case callers fall back to plain forms. Loaded at the first
 // call.
-[[nodiscard]] const Services* services() noexcept;
+[[nodiscard]] const Services* services();
 
 } // namespace Intl

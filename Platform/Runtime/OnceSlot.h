@@ -19,6 +19,11 @@ public:
     OnceSlot(const OnceSlot&) = delete;
     OnceSlot& operator=(const OnceSlot&) = delete;
 
+    // The value, or null as long as nobody has made it.
+    const T* find() const noexcept {
+        return state_.load(std::memory_order_acquire) == made ? std::launder(reinterpret_cast<const T*>(storage_))
+                                                              : nullptr;
+    }
     // The value, made by `make()` if nobody has made it yet. An exception of `make` leaves the slot as it was, for the
     // next reader to try again.
     template <class Make> const T& get(Make&& make) {

@@ -10,18 +10,22 @@ namespace Runtime {
 
 namespace {
 
-std::string cannotBeRead() {
-    return std::string("cannot be read: ") + std::strerror(errno);
+Error cannotBeRead(const OpenFile& file) {
+    const int cause = errno;
+    Error error = file.error(std::string("cannot be read: ") + std::strerror(cause));
+    error.cause = cause;
+    return error;
 }
 
 } // namespace
 
 Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit) {
+    OpenFile file(path);
     // Without O_NONBLOCK the opening of a pipe would wait for its writer.
-    OpenFile file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK), path);
+    file.descriptor_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     struct stat status {};
     if (file.descriptor_ < 0 || ::fstat(file.descriptor_, &status) != 0)
-        return file.error(cannotBeRead());
+        return cannotBeRead(file);
     if (!S_ISREG(status.st_mode))
         return file.error("is not a regular file");
     if (static_cast<std::uintmax_t>(status.st_size) > limit)
@@ -41,7 +45,7 @@ Result<std::size_t> OpenFile::read(void* out, std::size_t size, std::uint64_t of
         const ssize_t count =
             ::pread(descriptor_, static_cast<char*>(out) + filled, size - filled, static_cast<off_t>(offset + filled));
         if (count < 0 && errno != EINTR)
-            return error(cannotBeRead());
+            return cannotBeRead(*this);
         if (count == 0)
             break;
         if (count > 0)

@@ -30,9 +30,9 @@ public:
     [[nodiscard]] Error error(std::string message) const { return {.message = std::move(message), .file = path_}; }
 
 private:
-    OpenFile(int descriptor, std::string path) noexcept : descriptor_(descriptor), path_(std::move(path)) {}
+    explicit OpenFile(std::string path) noexcept : path_(std::move(path)) {}
 
-    int descriptor_;
+    int descriptor_ = -1;
     std::size_t size_ = 0;
     std::string path_;
 };

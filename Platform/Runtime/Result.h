@@ -3,6 +3,7 @@
 // Threads: plain values. Ownership: a Result owns what it holds.
 #pragma once
 
+#include <cerrno>
 #include <cstddef> // std::size_t
 #include <optional>
 #include <string>
@@ -18,7 +19,12 @@ struct Error {
     std::string file{};
     std::size_t line = 0;
     std::size_t column = 0;
+    int cause = 0; // the system's errno, where it was the system that refused
 
+    // Whether the same may succeed later: the process is out of memory or descriptors, or the device failed.
+    bool isPassing() const noexcept {
+        return cause == ENOMEM || cause == EMFILE || cause == ENFILE || cause == EINTR || cause == EIO;
+    }
     // "file:line:column: message", with the parts that are known.
     std::string text() const {
         std::string out = file;

@@ -1,6 +1,7 @@
 // Made from the resources of the module Odd; do not edit.
 #include "OddStrings/Localizable.h"
 #include "OddStrings/Internal/Catalog.h"
+#include "Runtime/Attempt.h"
 #include "Runtime/OnceSlot.h"
 
 namespace Odd::OddStrings::detail {
@@ -29,12 +30,22 @@ constexpr Place places[] = {
 
 constinit ::Runtime::OnceSlot<std::string> slots[12];
 
-inline const std::string& text(std::size_t entry) {
-    return slots[entry].get([entry] { return textAt(characters, places + entry, {}); });
+// Without memory or descriptors this read gives no text, and a later one tries again.
+[[gnu::noinline, gnu::cold]] const std::string& made(std::size_t entry) noexcept {
+    try {
+        return slots[entry].get([entry] { return textAt(characters, places + entry, {}); });
+    } catch (...) {
+        return noText();
+    }
 }
 
-std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) {
-    return textAt(characters, places + entry, arguments);
+inline const std::string& text(std::size_t entry) noexcept {
+    const std::string* known = slots[entry].find();
+    return known != nullptr ? *known : made(entry);
+}
+
+std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
+    return ::Runtime::attempt([&] { return textAt(characters, places + entry, arguments); });
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "Foundation/Locale.h"
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
+#include "Runtime/OnceSlot.h"
 #include "OddResources.h"
 
 namespace Odd::OddStrings {
@@ -12,6 +13,11 @@ namespace Odd::OddStrings {
 std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments) {
     const std::string_view format = ::Odd::OddResources::bundle().localizedText(key, table);
     return ::Foundation::String::format(format, ::Foundation::Locale::current(), arguments);
+}
+
+const std::string& detail::noText() noexcept {
+    static constinit ::Runtime::OnceSlot<std::string> empty;
+    return empty.get([] { return std::string(); });
 }
 
 } // namespace Odd::OddStrings

@@ -1,0 +1,125 @@
+// A bundle's files that cannot be read, are replaced, are cut short or are not there.
+#include <Lumora/Lumora.h>
+
+#include "../Support/TemporaryFolder.h"
+#include "Child.h"
+#include <atomic>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <thread>
+
+namespace {
+
+namespace fs = std::filesystem;
+namespace Texts = Lumora::LumoraStrings::Localizable;
+using Foundation::NSBundle;
+
+std::string text(const fs::path& bundle, std::string_view key = "a", std::string_view table = "T") {
+    return NSBundle::bundleWithPath(bundle.string()).localizedStringForKey(key, nullptr, table);
+}
+
+rlim_t setDescriptors(rlim_t most) {
+    rlimit limit{};
+    ::getrlimit(RLIMIT_NOFILE, &limit);
+    const rlim_t old = std::exchange(limit.rlim_cur, most);
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+    return old;
+}
+
+TEST(Files, NoDescriptorsGiveNoTextAndKeepNothing) {
+    EXPECT_EQ(Child::exitOf([] {
+                  Foundation::Host::setPreferredLanguages({"ru"});
+                  const rlim_t old = setDescriptors(0);
+                  const bool none = Texts::continue_().empty() && Lumora::Localization::legacyTr("Continue").empty() &&
+                                    Lumora::Localization::currentLanguageCode().rawValue() == "en";
+                  setDescriptors(old);
+                  const bool all = Texts::continue_() == "Продолжить" &&
+                                   Lumora::Localization::legacyTr("Continue") == "Продолжить" &&
+                                   Lumora::LumoraAsset::Images::send.image().rgba() != nullptr;
+                  return none && all ? 0 : 1;
+              }),
+              0);
+}
+
+// root may read everything, so another user does the reading.
+TEST(Files, WhatMayNotBeReadIsMissing) {
+    const Support::TemporaryFolder folder;
+    folder.write("open.bundle/Base.lproj/T.strings", "a = text;");
+    folder.write("closed.bundle/Base.lproj/T.strings", "a = text;");
+    fs::permissions(folder.path(), fs::perms::all);
+    fs::permissions(folder / "closed.bundle", fs::perms::none);
+    fs::permissions(folder / "open.bundle/Base.lproj/T.strings", fs::perms::none);
+    EXPECT_EQ(Child::exitOf([&] {
+                  if (::geteuid() == 0 && ::setuid(65534) != 0)
+                      return 2;
+                  return text(folder / "open.bundle") == "a" && text(folder / "closed.bundle") == "a" ? 0 : 1;
+              }),
+              0);
+    fs::permissions(folder / "closed.bundle", fs::perms::owner_all);
+}
+
+TEST(Files, NoBundleGivesKeysAndNoAssets) {
+    const NSBundle& none = NSBundle::bundleWithPath("/nowhere/None.bundle");
+    EXPECT_EQ(none.localizedStringForKey("a", nullptr, "T"), "a");
+    EXPECT_TRUE(none.localizations().empty());
+    EXPECT_FALSE(UIKit::UIImage::imageNamed("send", none));
+    EXPECT_FALSE(UIKit::NSDataAsset::assetWithName("send", none));
+}
+
+TEST(Files, HalfATableIsMissing) {
+    const Support::TemporaryFolder folder;
+    folder.write("B.bundle/Base.lproj/T.strings", "a = text; b = \"ha");
+    folder.write("B.bundle/Base.lproj/U.strings", "a = text;");
+    EXPECT_EQ(text(folder / "B.bundle"), "a");
+    EXPECT_EQ(text(folder / "B.bundle", "a", "U"), "text");
+}
+
+// While one thread replaces the bundle by renaming, others open it: each sees the old one or the new one, whole.
+TEST(Files, AnUpgradeByRenamingIsSafe) {
+    const Support::TemporaryFolder folder;
+    const auto write = [&](const std::string& name, const std::string& version) {
+        for (const char* table : {"T", "U"})
+            folder.write(name + "/Base.lproj/" + table + ".strings", "a = \"" + std::string(5000, version[0]) + "\";");
+    };
+    write("B0.bundle", "0");
+    std::atomic<int> round{0};
+    std::atomic<bool> wrong{false};
+    constexpr int rounds = 100;
+    std::thread reader([&] {
+        for (int seen = 0; seen < rounds; seen = round.load()) {
+            // What a bundle has read it keeps, so each look is at another spelling of its path.
+            const std::string path = folder / ("B.bundle" + std::string(static_cast<std::size_t>(seen), '/'));
+            const std::string found = text(path);
+            wrong =
+                wrong || !(found == "a" || (found.size() == 5000 && found.find_first_not_of(found[0]) == found.npos));
+        }
+    });
+    for (int i = 1; i <= rounds; ++i) {
+        write("New.bundle", i % 2 == 0 ? "0" : "1");
+        if (fs::exists(folder / "B.bundle"))
+            fs::rename(folder / "B.bundle", folder / ("Old.bundle" + std::to_string(i)));
+        fs::rename(folder / "New.bundle", folder / "B.bundle");
+        round = i;
+    }
+    reader.join();
+    EXPECT_FALSE(wrong);
+}
+
+// A picture whose catalog is emptied in place is a damaged picture; what was read before stays.
+TEST(Files, ACatalogCutShortInPlaceIsDamaged) {
+    const Support::TemporaryFolder folder;
+    const fs::path bundle = folder / "B.bundle";
+    fs::create_directory(bundle);
+    fs::copy_file(Lumora::LumoraResources::bundle().bundlePath() + "/Assets.catalog", bundle / "Assets.catalog");
+    const NSBundle& cut = NSBundle::bundleWithPath(bundle.string());
+    const auto seen = UIKit::UIImage::imageNamed("send", cut), unseen = UIKit::UIImage::imageNamed("icon_month", cut);
+    ASSERT_TRUE(seen && unseen);
+    ASSERT_TRUE(seen->rgba());
+    fs::resize_file(bundle / "Assets.catalog", 0);
+    EXPECT_TRUE(seen->rgba());
+    EXPECT_GT(unseen->pixelWidth(), 0U);
+    EXPECT_FALSE(unseen->rgba());
+}
+
+} // namespace
