@@ -3,9 +3,11 @@ import json
 import os
 import pathlib
 import plistlib
+import resource
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 PROGRAM = sys.argv.pop(1)
@@ -108,6 +110,42 @@ class Program(unittest.TestCase):
         status, _, err = run("generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree")
         self.assertEqual(status, 2)
         self.assertIn("Words.strings:2:", err)
+
+    def versions(self):
+        """Two source bundles, "1" and "2", of some size; and what the compiled one says in all its tables."""
+        for version in "12":
+            for table in range(20):
+                self.write(f"{version}/Base.lproj/T{table}.strings",
+                           "".join(f"key{number} = \"{version * 100}{number}\";" for number in range(100)))
+        tables = sorted((self.folder / "App.bundle").glob("*.lproj/*"))
+        return {text[0] for table in tables for text in plistlib.loads(table.read_bytes()).values()}, len(tables)
+
+    def test_compile_without_room_keeps_the_old_bundle(self):
+        self.versions()
+        self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
+        # Python ignores the signal of a file that grows too large; so does the program then, and its write fails.
+        done = subprocess.run([PROGRAM, "compile", self.folder / "2", "-o", self.folder / "App.bundle"], capture_output=True,
+                              timeout=60, text=True, restore_signals=False,
+                              preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (5000, 5000)))
+        self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1), done.stderr)
+        self.assertIn("cannot be written", done.stderr)
+        self.assertEqual(self.versions(), ({"1"}, 20))
+        self.assertEqual({path.name for path in self.folder.iterdir()}, {"1", "2", "App.bundle"})
+
+    def test_a_killed_compile_leaves_a_whole_bundle(self):
+        self.versions()
+        self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
+        seen = set()
+        for attempt in range(60):
+            compile = subprocess.Popen([PROGRAM, "compile", self.folder / str(attempt % 2 + 1), "-o", self.folder / "App.bundle"],
+                                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            time.sleep(attempt * 0.0005)
+            compile.kill()
+            compile.wait()
+            versions, count = self.versions()
+            self.assertEqual((len(versions), count), (1, 20))
+            seen |= versions
+        self.assertTrue(seen)
 
 
 if __name__ == "__main__":
