@@ -1,8 +1,10 @@
 // Reading texts: a plain one beside a function-local static, a formatted one beside a map and fmt.
+#include "StringTables/Table.h"
 #include "border.h"
 #include <Lumora/Lumora.h>
 
 #include <benchmark/benchmark.h>
+#include <cstdio>
 #include <fmt/format.h>
 #include <unordered_map>
 
@@ -16,6 +18,44 @@ bool agrees(benchmark::State& state, bool holds) {
         state.SkipWithError("the result is wrong");
     return holds;
 }
+
+// The application's own texts, the placeholder of the one that is formatted as fmt has it.
+std::unordered_map<std::string, std::string> developmentTexts() {
+    std::unordered_map<std::string, std::string> texts;
+    const auto table = StringTables::Table::readFile(LUMORA_RESOURCES "/Base.lproj/Localizable.strings");
+    for (const auto& [key, text, offset] : table->entries())
+        texts.emplace(key, text);
+    std::string& text = texts["DeleteAccount.ActiveSubscriptionServer"];
+    text.replace(text.find("%@"), 2, "{}");
+    return texts;
+}
+
+void plainMap(benchmark::State& state) {
+    static const auto texts = developmentTexts();
+    const auto make = [] { return std::string(texts.find("Diet.AllDish")->second); };
+    if (!agrees(state, !make().empty()))
+        return;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(make());
+}
+BENCHMARK(plainMap);
+
+void formattedSnprintf(benchmark::State& state) {
+    const auto make = [](int day) {
+        char out[256];
+        const int size = std::snprintf(out, sizeof out,
+                                       "You have an active subscription until %d. Please cancel it before "
+                                       "deleting your account.",
+                                       day);
+        return std::string(out, static_cast<std::size_t>(size));
+    };
+    if (!agrees(state, make(7).find("until 7.") != std::string::npos))
+        return;
+    int day = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(make(day++ & 31));
+}
+BENCHMARK(formattedSnprintf);
 
 void plainFunctionLocalStatic(benchmark::State& state) {
     if (!agrees(state, functionLocalStatic() == "All new dishes of the day"))
@@ -35,14 +75,7 @@ void plainText(benchmark::State& state) {
 BENCHMARK(plainText)->ThreadRange(1, 2)->UseRealTime();
 
 void formattedMapAndFmt(benchmark::State& state) {
-    static const std::unordered_map<std::string, std::string> texts = [] {
-        std::unordered_map<std::string, std::string> all;
-        for (int i = 0; i < 1361; ++i)
-            all["Key." + std::to_string(i)] = "Text " + std::to_string(i);
-        all["DeleteAccount.ActiveSubscriptionServer"] =
-            "You have an active subscription until {}. Please cancel it before deleting your account.";
-        return all;
-    }();
+    static const auto texts = developmentTexts();
     const auto make = [](int day) {
         return fmt::format(fmt::runtime(texts.find("DeleteAccount.ActiveSubscriptionServer")->second), day);
     };

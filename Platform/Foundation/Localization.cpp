@@ -11,16 +11,16 @@ struct Localization::LoadedTable {
     LoadedTable* next;
 };
 
-std::optional<std::string_view> Localization::text(std::string_view key, std::string_view table) {
-    const LoadedTable* found = loaded(table);
-    return (found != nullptr ? *found : load(table)).table.find(key);
-}
-
-const Localization::LoadedTable* Localization::loaded(std::string_view name) const noexcept {
+inline const Localization::LoadedTable* Localization::loaded(std::string_view name) const noexcept {
     const LoadedTable* table = tables_.load(std::memory_order_acquire);
     while (table != nullptr && table->name != name)
         table = table->next;
     return table;
+}
+
+std::optional<std::string_view> Localization::text(std::string_view key, std::string_view table) {
+    const LoadedTable* found = loaded(table);
+    return (found != nullptr ? *found : load(table)).table.find(key);
 }
 
 const Localization::LoadedTable& Localization::load(std::string_view name) {

@@ -1,0 +1,9 @@
+#include <boost/locale.hpp>
+#include <iostream>
+
+int main() {
+    boost::locale::generator generator;
+    generator.add_messages_path(LUMORA_PEERS);
+    generator.add_messages_domain("boost");
+    std::cout << boost::locale::translate("Continue").str(generator("ru_RU.UTF-8")) << '\n';
+}

@@ -1,0 +1,9 @@
+#include <clocale>
+#include <iostream>
+#include <libintl.h>
+
+int main() {
+    std::setlocale(LC_ALL, "");
+    bindtextdomain("texts", LUMORA_PEERS);
+    std::cout << std::string(dgettext("texts", "Continue")) << '\n';
+}

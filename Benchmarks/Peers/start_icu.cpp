@@ -1,0 +1,9 @@
+#include <iostream>
+#include <unicode/resbund.h>
+
+int main() {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::ResourceBundle bundle(LUMORA_PEERS, "ru", status);
+    std::string text;
+    std::cout << bundle.getStringEx("Continue", status).toUTF8String(text) << '\n';
+}

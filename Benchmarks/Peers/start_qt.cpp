@@ -1,0 +1,9 @@
+#include <QTranslator>
+
+#include <iostream>
+
+int main() {
+    QTranslator translator;
+    if (translator.load(LUMORA_PEERS "/ru.qm"))
+        std::cout << translator.translate("", "Continue").toStdString() << '\n';
+}

@@ -1,0 +1,25 @@
+"""Writes a source with one function, readAllTexts(), that reads every accessor declared in HEADERS once: OUT HEADERS..."""
+import pathlib
+import re
+import sys
+
+out, headers = sys.argv[1], sys.argv[2:]
+calls = []
+for header in sorted(headers):
+    space = ""
+    for found in re.finditer(r"^namespace (\S+) \{|^LUMORA_EXPORT (?:const std::string&|std::string) (\w+)\(([^)]*)\)",
+                             pathlib.Path(header).read_text(encoding="utf-8"), re.M):
+        if found[1]:
+            space = found[1]
+        else:
+            arguments = ", ".join("7" for each in found[3].split(",") if each.strip())
+            calls.append(f"    size += {space}::{found[2]}({arguments}).size();\n")
+pathlib.Path(out).write_text(f"""#include "all_texts.h"
+#include <Lumora/LumoraStrings.h>
+
+std::size_t readAllTexts(int& count) {{
+    std::size_t size = 0;
+{''.join(calls)}    count = {len(calls)};
+    return size;
+}}
+""", encoding="utf-8")

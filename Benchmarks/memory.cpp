@@ -1,0 +1,29 @@
+// How much the memory of a process grows when it reads all texts: all that is resident, and what is its own and not a
+// page of a file that processes share.
+#include "all_texts.h"
+#include <Foundation/Host.h>
+
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+namespace {
+
+// A line of what the kernel knows of this process's memory, in KiB.
+long kilobytes(const std::string& line) {
+    std::ifstream file("/proc/self/smaps_rollup");
+    for (std::string word; file >> word;)
+        if (long size = 0; word == line && file >> size)
+            return size;
+    return 0;
+}
+
+} // namespace
+
+int main() {
+    Foundation::Host::setPreferredLanguages({"ru"});
+    const long resident = kilobytes("Rss:"), own = kilobytes("Anonymous:");
+    int count = 0;
+    const std::size_t size = readAllTexts(count);
+    std::printf("%d %zu %ld %ld\n", count, size, kilobytes("Rss:") - resident, kilobytes("Anonymous:") - own);
+}
