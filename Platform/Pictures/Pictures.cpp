@@ -2,9 +2,9 @@
 
 #include "Pictures/Decoders.h"
 #include "Runtime/Companion.h"
-#include "Runtime/OnceSlot.h"
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <optional>
 
 namespace Pictures {
@@ -62,13 +62,17 @@ std::optional<Size> jpegSize(Bytes bytes) {
     return std::nullopt;
 }
 
+// Null when the companion cannot be loaded, which is tried again: descriptors may lack for the moment only.
 const Decoders* decoders() {
-    static Runtime::OnceSlot<const Decoders*> slot;
-    return slot.get([]() -> const Decoders* {
-        const auto open = reinterpret_cast<decltype(&lumoraPictures)>(
-            Runtime::companionSymbol("lumora-pictures.so", "lumoraPictures"));
-        return open == nullptr ? nullptr : open();
-    });
+    static constinit std::atomic<const Decoders*> loaded{nullptr};
+    if (const Decoders* known = loaded.load(std::memory_order_acquire))
+        return known;
+    const auto open =
+        reinterpret_cast<decltype(&lumoraPictures)>(Runtime::companionSymbol("lumora-pictures.so", "lumoraPictures"));
+    if (open == nullptr)
+        return nullptr;
+    loaded.store(open(), std::memory_order_release); // the same object for every thread
+    return loaded.load(std::memory_order_relaxed);
 }
 
 } // namespace
@@ -90,7 +94,7 @@ Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes, std::uint64_
         return size.error();
     const Decoders* found = decoders();
     if (found == nullptr)
-        return error("cannot be decoded: lumora-pictures.so is missing");
+        return error("cannot be decoded: lumora-pictures.so cannot be loaded");
     return size->encoding == Encoding::png ? found->png(bytes, maxPixels) : found->jpeg(bytes, maxPixels);
 }
 

@@ -123,6 +123,26 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
     EXPECT_NE(compile(folder / "source", folder / "none/out.bundle").failure, "");
 }
 
+TEST(CompileBundle, TakesNothingByLinksThatLeadOut) {
+    const Support::TemporaryFolder folder;
+    const fs::path secret = folder.write("elsewhere/T.strings", "a = secret;");
+    folder.write("source/Base.lproj/T.strings", "a = b;");
+    const fs::path links[] = {"source/Info.plist", "source/Base.lproj/U.strings", "source/de.lproj"};
+    for (const fs::path& link : links) {
+        const fs::path place = folder.path() / link;
+        fs::create_symlink(link.extension() == ".lproj" ? secret.parent_path() : secret, place);
+        const Outcome outcome = compile(folder / "source", folder / "out.bundle");
+        const std::string said = outcome.failure + (outcome.diagnostics.empty() ? "" : outcome.diagnostics[0]);
+        EXPECT_TRUE(said.ends_with(": is a link that leads out of the source bundle")) << link << said;
+        EXPECT_FALSE(fs::exists(folder / "out.bundle"));
+        fs::remove(place);
+    }
+    // One language that is another's is the bundle's own affair.
+    fs::create_symlink("Base.lproj", folder / "source/en.lproj");
+    EXPECT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
+    EXPECT_EQ(Table::read(Support::contents(folder / "out.bundle/en.lproj/T.strings"))->find("a"), "b");
+}
+
 TEST(CompileBundle, GivesTheSameBytesForTheSameSources) {
     const Support::TemporaryFolder folder;
     folder.write("source/Base.lproj/A.strings", "b = 1; a = 2; c = \"ünï\";");

@@ -42,6 +42,18 @@ TEST(Files, NoDescriptorsGiveNoTextAndKeepNothing) {
               0);
 }
 
+// The catalog is open already, so what lacks is the descriptor for the decoders.
+TEST(Files, NoDescriptorsGiveNoPixelsForTheMoment) {
+    EXPECT_EQ(Child::exitOf([] {
+                  const UIKit::UIImage image = Lumora::LumoraAsset::Images::send.image();
+                  const rlim_t old = setDescriptors(0);
+                  const bool none = image.rgba() == nullptr && image.pixelWidth() > 0;
+                  setDescriptors(old);
+                  return none && image.rgba() != nullptr ? 0 : 1;
+              }),
+              0);
+}
+
 // root may read everything, so another user does the reading.
 TEST(Files, WhatMayNotBeReadIsMissing) {
     const Support::TemporaryFolder folder;

@@ -1,9 +1,7 @@
-// Many threads at the first use, a library loaded again and again, a process that forks.
+// Many threads at the first use, a process that forks.
 #include <Lumora/Lumora.h>
 
 #include "Child.h"
-#include <dlfcn.h>
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <latch>
 #include <thread>
@@ -56,24 +54,6 @@ TEST(Process, AChildReadsWhatItsParentHasReadAndWhatNot) {
                   return Child::exitOf([] { return readsAll() && !Texts::Diet::allDish().empty() ? 0 : 2; });
               }),
               0);
-}
-
-// The library stays loaded after the first time, so neither memory nor descriptors grow.
-TEST(Process, LoadedAndUnloadedAgainAndAgain) {
-    const auto descriptors = [] {
-        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
-                             std::filesystem::directory_iterator());
-    };
-    ASSERT_FALSE(Texts::continue_().empty());
-    const std::string* text = &Texts::continue_();
-    const auto open = descriptors();
-    for (int i = 0; i < 1000; ++i) {
-        void* library = ::dlopen(LUMORA_LIBRARY, RTLD_NOW);
-        ASSERT_NE(library, nullptr) << ::dlerror();
-        ::dlclose(library);
-    }
-    EXPECT_EQ(&Texts::continue_(), text);
-    EXPECT_EQ(descriptors(), open);
 }
 
 } // namespace

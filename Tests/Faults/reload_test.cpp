@@ -1,0 +1,56 @@
+// A program that is not linked with the library, loads it and lets it go again and again.
+#include <cstring>
+#include <dlfcn.h>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace {
+
+struct NSString;
+
+struct Usage {
+    std::ptrdiff_t descriptors = 0;
+    long residentPages = 0;
+};
+Usage usage() {
+    Usage now;
+    now.descriptors = std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    long all = 0;
+    std::ifstream("/proc/self/statm") >> all >> now.residentPages;
+    return now;
+}
+
+// Loads the library, reads one text and lets the library go. The text, which stays where it is.
+const char* readOnce() {
+    void* library = ::dlopen(LUMORA_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr)
+        return ::dlerror();
+    const auto create = reinterpret_cast<NSString* (*)(const char*)>(::dlsym(library, "NSStringCreate"));
+    const auto utf8 = reinterpret_cast<const char* (*)(const NSString*)>(::dlsym(library, "NSStringUTF8"));
+    const auto loc = reinterpret_cast<NSString* (*)(const NSString*)>(::dlsym(library, "Loc"));
+    const auto release = reinterpret_cast<void (*)(const void*)>(::dlsym(library, "NSRelease"));
+    NSString* key = create("Continue");
+    NSString* text = loc(key);
+    const bool isRight = std::strcmp(utf8(text), "Continue") == 0;
+    release(text);
+    release(key);
+    ::dlclose(library);
+    return isRight ? nullptr : "another text";
+}
+
+TEST(Reload, GrowsNeitherMemoryNorDescriptors) {
+    for (int i = 0; i < 100; ++i)
+        ASSERT_EQ(readOnce(), nullptr);
+    const Usage before = usage();
+    for (int i = 0; i < 2000; ++i)
+        ASSERT_EQ(readOnce(), nullptr);
+    const Usage after = usage();
+    EXPECT_EQ(after.descriptors, before.descriptors);
+    // Two thousand copies of anything would be seen; what a sanitizer keeps aside of freed memory is not meant.
+    EXPECT_LT((after.residentPages - before.residentPages) * ::sysconf(_SC_PAGESIZE), 8 << 20);
+    EXPECT_NE(::dlopen(LUMORA_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr) << "it was unloaded";
+}
+
+} // namespace
