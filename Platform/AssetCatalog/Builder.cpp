@@ -72,6 +72,7 @@ private:
     List<const Format::Picture*> add(std::vector<Picture>& pictures) {
         order(pictures);
         std::vector<Format::Picture> out;
+        out.reserve(pictures.size());
         for (const Picture& picture : pictures)
             out.emplace_back(add(picture.bytes), picture.bytes.size(), picture.width, picture.height,
                              fitOf(picture.fit), static_cast<std::uint8_t>(picture.encoding));
@@ -80,6 +81,7 @@ private:
     List<const Format::Color*> add(std::vector<ColorValue>& colors) {
         order(colors);
         std::vector<Format::Color> out;
+        out.reserve(colors.size());
         for (const auto& [fit, space, components] : colors)
             out.emplace_back(components[0], components[1], components[2], components[3], fitOf(fit),
                              static_cast<std::uint8_t>(space));
