@@ -5,10 +5,12 @@
 
 // The bounds of the section that LUMORA_PUBLISH_CLASS fills, as the linker names them. Weak: a program without a class
 // has no such section.
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the linker chooses the names
 extern "C" {
 [[gnu::weak, gnu::visibility("hidden")]] extern const Runtime::Class* const __start_lumora_classes[];
 [[gnu::weak, gnu::visibility("hidden")]] extern const Runtime::Class* const __stop_lumora_classes[];
 }
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 
 namespace Runtime {
 

@@ -13,10 +13,10 @@ namespace {
 
 // The path by which an object was loaded, made absolute with the directory that was current at that time.
 std::string pathOf(link_map* object) {
-    const std::string name = object->l_name;
+    std::string name = object->l_name;
     if (name.starts_with('/'))
         return name;
-    std::array<char, 2 * PATH_MAX> origin{};
+    std::array<char, std::size_t{2} * PATH_MAX> origin{};
     if (::dlinfo(object, RTLD_DI_ORIGIN, origin.data()) != 0)
         return name;
     return std::string(origin.data()) + "/" + name.substr(name.rfind('/') + 1);

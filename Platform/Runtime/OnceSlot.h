@@ -59,7 +59,7 @@ private:
     }
 
     std::atomic<std::uint32_t> state_{empty};
-    alignas(T) std::byte storage_[sizeof(T)]{};
+    alignas(T) std::byte storage_[sizeof(T)]{}; // NOLINT(bugprone-sizeof-expression): T may be a pointer
 };
 
 } // namespace Runtime
