@@ -10,7 +10,7 @@ namespace {
 // The whole number nearest to `value`, of those that T holds.
 template <class T> T clamped(double value) noexcept {
     // As doubles: 2^63 or 2^64, just above the largest, and the smallest itself.
-    static constexpr double above = static_cast<double>(std::numeric_limits<T>::max() / 2 + 1) * 2;
+    static constexpr double above = static_cast<double>(T{1} << (std::numeric_limits<T>::digits - 1)) * 2;
     if (std::isnan(value))
         return 0;
     if (value >= above)

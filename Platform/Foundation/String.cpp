@@ -123,8 +123,8 @@ private:
             out_ += given.text();
             return;
         }
-        std::array<char, detail::scalarTextSize> buffer;
         if (placeholder.conversion == 'c') {
+            std::array<char, detail::scalarTextSize> buffer;
             const auto codePoint = static_cast<std::uint64_t>(given.integer());
             out_ += detail::characterText(static_cast<std::uint32_t>(std::min(codePoint, std::uint64_t{UINT32_MAX})),
                                           buffer.data());
