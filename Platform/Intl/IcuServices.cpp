@@ -23,7 +23,7 @@ namespace {
 // The locale of an identifier if there are data for its language. ICU would read others as the process's default
 // locale, which is another program's affair; they are the root locale, with the digits that they ask for.
 icu::Locale knownLocale(std::string_view identifier) {
-    const icu::Locale locale = icuLocale(identifier);
+    icu::Locale locale = icuLocale(identifier);
     if (locale.isBogus())
         return icu::Locale::getRoot();
     UErrorCode status = U_ZERO_ERROR;
