@@ -12,12 +12,12 @@ class Attempts {
 public:
     // False when the step failed.
     template <class Step> bool attempt(Step step) {
-        if (setjmp(stepStart_) != 0)
+        if (setjmp(stepStart_) != 0) // NOLINT(cert-err52-cpp): nothing may be thrown through frames of C
             return false;
         step();
         return true;
     }
-    [[noreturn]] void fail() { std::longjmp(stepStart_, 1); }
+    [[noreturn]] void fail() { std::longjmp(stepStart_, 1); } // NOLINT(cert-err52-cpp): as above
 
 private:
     std::jmp_buf stepStart_{};
