@@ -129,7 +129,7 @@ private:
 
     // The fewest of 1, 2, 4, 8 bytes that hold `number`.
     static std::size_t bytesFor(std::size_t number) noexcept {
-        const std::size_t bits = static_cast<std::size_t>(std::bit_width(number));
+        const auto bits = static_cast<std::size_t>(std::bit_width(number));
         return std::bit_ceil(std::max<std::size_t>((bits + 7) / 8, 1));
     }
 
