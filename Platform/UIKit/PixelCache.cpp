@@ -8,7 +8,7 @@ Pixels PixelCache::find(const Key& key) {
     return found == slots_.end() ? nullptr : use(found->second, key);
 }
 
-Pixels PixelCache::add(const Key& key, Pixels pixels) {
+Pixels PixelCache::add(const Key& key, const Pixels& pixels) {
     const std::lock_guard guard(lock_);
     if (slots_.size() >= nextSweep_) {
         std::erase_if(slots_, [](const auto& each) { return each.second.pixels.expired(); });

@@ -28,7 +28,7 @@ public:
     // The pixels of the picture that lies encoded at `key`, or null.
     Pixels find(const Key& key);
     // Adds them, or gives those that another thread has added meanwhile.
-    Pixels add(const Key& key, Pixels pixels);
+    Pixels add(const Key& key, const Pixels& pixels);
 
 private:
     struct Kept {
