@@ -39,7 +39,9 @@ Runtime::Result<std::vector<Picture>> raster(const SourceFile& file, const std::
     picture.encoding =
         size->encoding == Pictures::Encoding::png ? AssetCatalog::Encoding::png : AssetCatalog::Encoding::jpeg;
     picture.bytes = std::move(data);
-    return std::vector<Picture>(1, std::move(picture));
+    std::vector<Picture> pictures;
+    pictures.push_back(std::move(picture));
+    return pictures;
 }
 
 // One picture for each scale that a reader may have. A drawing made for one scale is drawn in that scale's pixels
