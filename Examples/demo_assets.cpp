@@ -21,7 +21,7 @@ public:
     static constexpr unsigned cell = 240; // the width and height that a picture may take
 
     Sheet(unsigned columns, unsigned rows)
-        : width_(columns * cell), height_(rows * cell), pixels_(4U * width_ * height_, 0xFF) {}
+        : width_(columns * cell), height_(rows * cell), pixels_(std::size_t{4} * width_ * height_, 0xFF) {}
 
     // Draws the picture into a cell, made smaller where it does not fit.
     void draw(const Pictures::Bitmap& picture, unsigned column, unsigned row) {
@@ -30,8 +30,8 @@ public:
         const auto height = static_cast<unsigned>(picture.height / shrink);
         for (unsigned y = 0; y < height; ++y)
             for (unsigned x = 0; x < width; ++x) {
-                const auto from =
-                    4U * (static_cast<unsigned>(y * shrink) * picture.width + static_cast<unsigned>(x * shrink));
+                const std::size_t from =
+                    4 * (static_cast<std::size_t>(y * shrink) * picture.width + static_cast<std::size_t>(x * shrink));
                 blend(&picture.pixels[from], column * cell + (cell - width) / 2 + x,
                       row * cell + (cell - height) / 2 + y);
             }
@@ -48,7 +48,7 @@ public:
 
 private:
     void blend(const std::uint8_t* source, unsigned x, unsigned y) {
-        std::uint8_t* target = &pixels_[4U * (y * width_ + x)];
+        std::uint8_t* target = &pixels_[4 * (std::size_t{y} * width_ + x)];
         for (int i = 0; i < 3; ++i)
             target[i] = static_cast<std::uint8_t>((source[i] * source[3] + target[i] * (255 - source[3])) / 255);
     }
