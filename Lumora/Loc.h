@@ -6,6 +6,7 @@
 #ifndef LUMORA_LOC_H
 #define LUMORA_LOC_H
 
+// NOLINTBEGIN(modernize-deprecated-headers,modernize-use-using): C reads this too
 #include <stdbool.h>
 #include <stdint.h>
 
@@ -21,6 +22,7 @@ typedef struct NSNumber NSNumber;
 typedef struct NSString NSString;
 typedef int64_t NSInteger;
 typedef double CGFloat;
+// NOLINTEND(modernize-deprecated-headers,modernize-use-using)
 
 #define LUMORA_C_EXPORT __attribute__((visibility("default")))
 
