@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <exception>
 
+// NOLINTNEXTLINE(bugprone-exception-escape): what may be thrown outside of the block is that memory is out
 int main(int argc, char** argv) {
     CLI::App program("Localized texts and assets: reads, makes and compiles what a module ships.", "lumora");
     program.set_version_flag("--version", LUMORA_VERSION);
