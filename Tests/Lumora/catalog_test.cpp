@@ -53,7 +53,7 @@ TEST_F(Catalog, SpellsTheNamesThatCppCannotHold) {
     EXPECT_NE(Texts::MyTrainingsScreen::invoiceNo(), "MyTrainingsScreen.Invoice №");
     EXPECT_NE(Texts::Сhatlist::photo(), "Сhatlist.Photo");
     EXPECT_NE(Lumora::LumoraStrings::Community::_9cfRD8Ck::normalTitle(), "9cf-RD-8Ck.normalTitle");
-    EXPECT_EQ(Texts::Helpdesk::YourRequestIsSent::weWillContactYouSoon(17).find("%"), std::string::npos);
+    EXPECT_EQ(Texts::Helpdesk::YourRequestIsSent::weWillContactYouSoon(17).find('%'), std::string::npos);
 }
 
 TEST_F(Catalog, HasItsPluralFormsByTheLastDigits) {

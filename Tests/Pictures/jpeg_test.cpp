@@ -46,7 +46,7 @@ Bytes write(const Sort& sort) {
         jpeg_write_scanlines(&jpeg, rows, 1);
     jpeg_finish_compress(&jpeg);
     jpeg_destroy_compress(&jpeg);
-    const Bytes file(bytes, bytes + size);
+    Bytes file(bytes, bytes + size);
     std::free(bytes);
     return file;
 }

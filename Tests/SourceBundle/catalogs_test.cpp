@@ -7,7 +7,6 @@ namespace {
 
 using namespace AssetCatalog;
 using SourceBundle::Diagnostics;
-using SourceBundle::Severity;
 using SourceBundle::SourceAsset;
 
 class Catalogs : public ::testing::Test {

@@ -59,17 +59,7 @@ TEST(BinaryTable, ReadsEveryLayout) {
 
 TEST(BinaryTable, NotesWhatItPassesOver) {
     // Itself, a truth value, a date that is cut off, a reference, an array without its members.
-    const std::string bytes = file({"\xD6\1\2\3\4\5\1\0\6\7\x8\x9\6"s,
-                                    "\x51"
-                                    "a",
-                                    "\x51"
-                                    "b",
-                                    "\x51"
-                                    "c",
-                                    "\x51"
-                                    "d",
-                                    "\x51"
-                                    "e",
+    const std::string bytes = file({"\xD6\1\2\3\4\5\1\0\6\7\x8\x9\6"s, "\121a", "\121b", "\121c", "\121d", "\121e",
                                     "\x09", "\x33", "\x80", "\xAF"});
     EXPECT_EQ(read(bytes), Pairs());
     EXPECT_EQ(Tables::notes(bytes),

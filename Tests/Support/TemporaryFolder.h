@@ -32,7 +32,7 @@ public:
 
     // Makes the file `name` and the folders above it; returns its path.
     std::filesystem::path write(std::string_view name, std::string_view bytes) const {
-        const std::filesystem::path file = path_ / name;
+        std::filesystem::path file = path_ / name;
         std::filesystem::create_directories(file.parent_path());
         std::ofstream(file, std::ios::binary) << bytes;
         return file;

@@ -91,6 +91,7 @@ TEST(AssetRecord, ColorReadByManyThreadsFirst) {
 }
 
 TEST(AssetRecordDeathTest, MissingAssetStopsTheProcess) {
+    Sample::bundle(); // made here: a process that is stopped leaves its folders behind
     static constexpr Images image = Module::Catalog::image("star-big_.");
     static constexpr DataSets data = Module::Catalog::data("send");
     static constinit const Colors color = Module::Catalog::color("");
