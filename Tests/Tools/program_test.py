@@ -135,17 +135,16 @@ class Program(unittest.TestCase):
     def test_a_killed_compile_leaves_a_whole_bundle(self):
         self.versions()
         self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
-        seen = set()
+        killed = 0
         for attempt in range(60):
             compile = subprocess.Popen([PROGRAM, "compile", self.folder / str(attempt % 2 + 1), "-o", self.folder / "App.bundle"],
                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
             time.sleep(attempt * 0.0005)
             compile.kill()
-            compile.wait()
+            killed += compile.wait() != 0
             versions, count = self.versions()
             self.assertEqual((len(versions), count), (1, 20))
-            seen |= versions
-        self.assertTrue(seen)
+        self.assertGreater(killed, 0)
 
 
 if __name__ == "__main__":
