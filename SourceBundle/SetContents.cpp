@@ -140,6 +140,8 @@ private:
         // A name is one component, and what it names lies in the set: nothing else of the machine gets into a catalog.
         if (name == "." || name == ".." || name.find('/') != std::string::npos)
             return refuse("names a file outside of its set: \"" + name + "\"", asset_.path / "Contents.json");
+        if (name.find('\0') != std::string::npos) // to the system it would end there, and name another file
+            return refuse("names a file with a zero in its name", asset_.path / "Contents.json");
         if (fs::is_symlink(fs::symlink_status(file, failed)))
             return refuse("is a link; a set holds its files itself", file);
         if (!fs::is_regular_file(file, failed))

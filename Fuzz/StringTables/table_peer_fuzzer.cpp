@@ -1,6 +1,6 @@
 // Another reader beside ours: a table that both accept holds the same texts for both, and what we write it reads.
 // Left aside is where the other one is known to differ:
-//  - it hands out C strings, which end at a zero;
+//  - it hands out C strings, which end at a zero, and stops the process over a key that holds one;
 //  - of equal keys it keeps every one;
 //  - it takes XML as UTF-8 whatever is declared, and leaves the ends of its lines as they are.
 #include "Checks.h"
@@ -60,6 +60,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto table = Checks::Table::read(std::string(bytes));
     if (!table)
         return 0;
+    if (table->form() == Form::binary && !table->notes().empty())
+        return 0; // keys that were passed over may hold zeros unseen
     Texts ours;
     for (const Checks::Entry& entry : table->entries()) {
         if (entry.key.find('\0') != entry.key.npos || entry.text.find('\0') != entry.text.npos)

@@ -133,6 +133,8 @@ TEST_F(Catalogs, ReportWhatIsWrongWithItsPath) {
          "error A.xcassets/a.imageset/Contents.json: names a file outside of its set: \"../../secret\""},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "/etc/passwd"}]})",
          "error A.xcassets/a.imageset/Contents.json: names a file outside of its set: \"/etc/passwd\""},
+        {__LINE__, "a.imageset", R"({"images": [{"filename": "Contents.json\u0000.png"}]})",
+         "error A.xcassets/a.imageset/Contents.json: names a file with a zero in its name"},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "link"}]})",
          "error A.xcassets/a.imageset/link: is a link; a set holds its files itself"},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"platform": "ios", "reference": "systemRedColor"}}]})",
