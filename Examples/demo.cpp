@@ -23,7 +23,7 @@ int columns(const std::string& text) {
     for (std::size_t i = 0; i < text.size();) {
         const auto lead = static_cast<unsigned char>(text[i]);
         const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-        char32_t code = lead & (length == 1 ? 0x7F : 0x7F >> length);
+        char32_t code = lead & (length == 1 ? 0x7FU : 0x7FU >> length);
         for (std::size_t k = 1; k < length && i + k < text.size(); ++k)
             code = code << 6 | (static_cast<unsigned char>(text[i + k]) & 0x3F);
         const bool isMark = (code >= 0x300 && code < 0x370) || (code >= 0x610 && code < 0x61B) ||
