@@ -13,18 +13,20 @@ struct NSString {
 namespace {
 
 // C callers hold texts and numbers by bare pointers and release both by one function, so each lies behind a note of how
-// it is destroyed.
+// it is deleted.
 struct Header {
-    void (*destroy)(void* object);
+    void (*release)(Header* dying);
 };
 constexpr std::size_t headerSize = alignof(std::max_align_t);
 static_assert(sizeof(Header) <= headerSize);
 
+template <class T> struct Object : Header {
+    alignas(headerSize) T value; // at headerSize
+};
+
 template <class T, class... Parts> T* create(Parts&&... parts) {
-    auto* memory = static_cast<std::byte*>(::operator new(headerSize + sizeof(T)));
-    T* object = ::new (memory + headerSize) T{std::forward<Parts>(parts)...};
-    ::new (memory) Header{[](void* dying) { static_cast<T*>(dying)->~T(); }};
-    return object;
+    constexpr auto release = [](Header* dying) { delete static_cast<Object<T>*>(dying); };
+    return &(new Object<T>{{release}, T{std::forward<Parts>(parts)...}})->value;
 }
 
 // Runs `make` and hands its object to a C caller, through whom nothing may be thrown.
@@ -65,10 +67,9 @@ NSNumber* NSNumberCreateDouble(double value) {
 void NSRelease(const void* object) {
     if (object == nullptr)
         return;
-    auto* bytes = static_cast<std::byte*>(const_cast<void*>(object));
-    std::byte* memory = bytes - headerSize;
-    std::launder(reinterpret_cast<Header*>(memory))->destroy(bytes);
-    ::operator delete(memory);
+    std::byte* header = static_cast<std::byte*>(const_cast<void*>(object)) - headerSize;
+    Header* dying = std::launder(reinterpret_cast<Header*>(header));
+    dying->release(dying);
 }
 
 NSString* Loc(const NSString* key) {

@@ -24,6 +24,8 @@ NSDateComponentsFormatter::stringFromDateComponents(const NSDateComponents& comp
         return std::nullopt;
     const std::string& locale = calendar_.locale().identifier();
     const auto phrases = yearPhrases(*services, locale);
+    if (*phrases == nullptr)
+        return std::nullopt;
     const std::string_view phrase = (*phrases)->phrase(*components.year);
     static constexpr std::string_view numberPlace = "{0}";
     const std::size_t at = phrase.find(numberPlace);

@@ -9,6 +9,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
+#include <new> // std::bad_alloc
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -65,10 +67,30 @@ concept Sequence = requires(const T& value) {
 // "1e+16";
 // - a type with `std::string describe(const T&)` in its namespace: what that returns;
 // - an optional: "nil", or "Optional(5)"; a sequence: "[1, 2]". Texts inside these are quoted: ["a"].
-// Borrows texts, which must outlive it; nothing but descriptions, optionals and sequences needs memory.
+// Borrows texts, which must outlive it; nothing but descriptions, optionals and sequences needs memory. When that is
+// out the description is empty; any other exception of a describe() goes to whoever asked for the description.
 class Described {
 public:
     template <class T> Described(const T& value) {
+        try {
+            describeValue(value);
+        } catch (const std::bad_alloc&) {
+            text_ = {};
+        }
+    }
+    template <class T>
+    Described(std::initializer_list<T> values) : Described(std::span(values.begin(), values.end())) {}
+
+    Described(const Described&) = delete;
+    Described& operator=(const Described&) = delete;
+
+    // Lives as long as this and the described text do.
+    std::string_view text() const noexcept { return text_; }
+
+private:
+    Described() noexcept {}
+
+    template <class T> void describeValue(const T& value) {
         if constexpr (std::same_as<T, bool>)
             text_ = value ? "true" : "false";
         else if constexpr (detail::NarrowCharacter<T>)
@@ -96,18 +118,6 @@ public:
             static_assert(!sizeof(T*), "a value of this type has no description: declare "
                                        "`std::string describe(const T&)` in the namespace of the type");
     }
-    template <class T> Described(std::initializer_list<T> values) {
-        appendParts(values);
-        text_ = owned_;
-    }
-
-    Described(const Described&) = delete;
-    Described& operator=(const Described&) = delete;
-
-    // Lives as long as this and the described text do.
-    std::string_view text() const noexcept { return text_; }
-
-private:
     void borrow(std::string_view text) noexcept {
         text_ = text;
         isText_ = true;
@@ -133,7 +143,8 @@ private:
         }
     }
     template <class T> void appendInner(const T& value) {
-        const Described inner(value);
+        Described inner;
+        inner.describeValue(value);
         if (inner.isText_)
             detail::appendQuoted(owned_, inner.text_);
         else

@@ -1,7 +1,7 @@
 // Foundation/Host.h
 // What a host tells the platform of its user: preferred languages and current locale.
 // Text: UTF-8. Threads: all functions from any thread, at any time; a reader sees the state before a change or after
-// it.
+// it. Errors: all may throw std::bad_alloc, and then the state in force stays.
 #pragma once
 
 #include "Runtime/Export.h"

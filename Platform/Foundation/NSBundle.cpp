@@ -97,7 +97,8 @@ struct NSBundle::Contents {
         const std::lock_guard lock(answering);
         if (const Answers* found = answered(host))
             return *found;
-        auto* answers = new Answers{&host, detail::chooseLanguages(host.languages, localizations), {}, all.load()};
+        auto answers = std::make_unique<Answers>(
+            Answers{&host, detail::chooseLanguages(host.languages, localizations), {}, all.load()});
         if (answers->preferred.empty() && !localizations.empty())
             answers->preferred.push_back(developmentLocalization);
         const std::string_view chosen = answers->preferred.empty() ? std::string_view() : answers->preferred.front();
@@ -105,8 +106,8 @@ struct NSBundle::Contents {
             if (detail::Localization* one = localization(name);
                 one != nullptr && std::ranges::find(answers->chain, one) == answers->chain.end())
                 answers->chain.push_back(one);
-        all.store(answers, std::memory_order_release);
-        return *answers;
+        all.store(answers.get(), std::memory_order_release);
+        return *answers.release();
     }
 
     struct Folder {

@@ -5,9 +5,11 @@
 #include "Intl/IcuText.h"
 #include "Intl/LanguageMatch.h"
 #include "Runtime/Export.h"
+#include "Runtime/Memory.h"
 #include <algorithm>
 #include <cstdlib> // std::abs
 #include <memory>
+#include <new> // std::bad_alloc
 #include <string>
 #include <string_view>
 #include <unicode/decimfmt.h>
@@ -28,11 +30,11 @@ icu::Locale knownLocale(std::string_view identifier) {
         return icu::Locale::getRoot();
     UErrorCode status = U_ZERO_ERROR;
     const icu::LocalUResourceBundlePointer data(ures_open(nullptr, locale.getBaseName(), &status));
-    if (status != U_USING_DEFAULT_WARNING && U_SUCCESS(status))
+    if (succeeded(status) && status != U_USING_DEFAULT_WARNING)
         return locale;
     status = U_ZERO_ERROR;
     const auto digits = locale.getKeywordValue<std::string>("numbers", status);
-    const icu::Locale root = icuLocale(U_SUCCESS(status) && !digits.empty() ? "root@numbers=" + digits : "root");
+    const icu::Locale root = icuLocale(succeeded(status) && !digits.empty() ? "root@numbers=" + digits : "root");
     return root.isBogus() ? icu::Locale::getRoot() : root;
 }
 
@@ -41,7 +43,7 @@ std::unique_ptr<icu::DecimalFormat> decimalFormat(const icu::Locale& locale, Num
     UErrorCode status = U_ZERO_ERROR;
     const auto icuStyle = style == NumberStyle::percent ? UNUM_PERCENT : UNUM_DECIMAL;
     std::unique_ptr<icu::NumberFormat> format(icu::NumberFormat::createInstance(locale, icuStyle, status));
-    auto* decimal = U_SUCCESS(status) ? dynamic_cast<icu::DecimalFormat*>(format.get()) : nullptr;
+    auto* decimal = succeeded(status) ? dynamic_cast<icu::DecimalFormat*>(format.get()) : nullptr;
     if (decimal == nullptr)
         return nullptr;
     static_cast<void>(format.release());
@@ -57,9 +59,12 @@ unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     for (unsigned digits = 0; digits < primary; ++digits)
         value *= 10;
     unsigned before = 1;
-    for (icu::UnicodeString text; before < 4 && format.format(value, text).indexOf(separator) < 0; value *= 10) {
-        ++before;
-        text.remove();
+    for (; before < 4; ++before, value *= 10) {
+        UErrorCode status = U_ZERO_ERROR;
+        icu::UnicodeString text;
+        format.format(value, text, nullptr, status);
+        if (!succeeded(status) || text.indexOf(separator) >= 0)
+            break;
     }
     return before;
 }
@@ -106,7 +111,7 @@ public:
     explicit IcuYearPhrases(const icu::Locale& locale) {
         UErrorCode status = U_ZERO_ERROR;
         rules_.reset(icu::PluralRules::forLocale(locale, status));
-        if (U_FAILURE(status))
+        if (!succeeded(status))
             rules_.reset();
         const auto formatter = icu::number::NumberFormatter::withLocale(locale)
                                    .unit(icu::MeasureUnit::getYear())
@@ -157,7 +162,7 @@ private:
         number.constrainField(UFIELD_CATEGORY_NUMBER, UNUM_INTEGER_FIELD);
         if (formatted.nextPosition(number, status))
             text.replaceBetween(number.getStart(), number.getLimit(), u"{0}");
-        return U_SUCCESS(status) ? utf8(text) : std::string("{0}");
+        return succeeded(status) ? utf8(text) : std::string("{0}");
     }
 
     std::unique_ptr<icu::PluralRules> rules_;
@@ -165,31 +170,56 @@ private:
     std::array<std::uint8_t, 201> small_{}; // the categories of the counts that ages have
 };
 
+// Asks ICU only where there is memory: one of its first steps that finds none waits for itself for ever, and others
+// remember for good that there was none. When it still lacks memory at a second try it has remembered, and `otherwise`,
+// what there is without it, is the answer.
+template <class Make, class Value> Value answered(Make make, Value otherwise) {
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        Runtime::demandMemory();
+        try {
+            return make();
+        } catch (const std::bad_alloc&) {
+        }
+    }
+    return otherwise;
+}
+
+NumberPattern icuNumberPattern(std::string_view identifier, NumberStyle style) {
+    NumberPattern pattern = plainNumberPattern(style);
+    const icu::Locale locale = knownLocale(identifier);
+    std::unique_ptr<icu::DecimalFormat> format = decimalFormat(locale, style);
+    if (!format)
+        format = decimalFormat(icu::Locale(locale.getBaseName()), style);
+    if (!format)
+        return pattern;
+    readSymbols(pattern, *format->getDecimalFormatSymbols());
+    readAffixes(pattern, *format);
+    pattern.maximumFraction = static_cast<unsigned>(std::max(format->getMaximumFractionDigits(), 0));
+    pattern.minimumFraction = static_cast<unsigned>(std::max(format->getMinimumFractionDigits(), 0));
+    readGrouping(pattern, *format);
+    // A format that finds no memory while it is changed is bogus from then on, and its other answers are defaults.
+    icu::UnicodeString prefix;
+    static_cast<void>(utf8(format->getPositivePrefix(prefix)));
+    return pattern;
+}
+
 class IcuServices final : public Services {
 public:
     std::optional<std::size_t> matchLanguage(std::string_view desired,
                                              std::span<const std::string> supported) const override {
-        return bestLanguage(desired, supported);
+        return answered([&] { return bestLanguage(desired, supported); }, std::optional<std::size_t>());
     }
 
     NumberPattern numberPattern(std::string_view identifier, NumberStyle style) const override {
-        NumberPattern pattern = plainNumberPattern(style);
-        const icu::Locale locale = knownLocale(identifier);
-        std::unique_ptr<icu::DecimalFormat> format = decimalFormat(locale, style);
-        if (!format)
-            format = decimalFormat(icu::Locale(locale.getBaseName()), style);
-        if (!format)
-            return pattern;
-        readSymbols(pattern, *format->getDecimalFormatSymbols());
-        readAffixes(pattern, *format);
-        pattern.maximumFraction = static_cast<unsigned>(std::max(format->getMaximumFractionDigits(), 0));
-        pattern.minimumFraction = static_cast<unsigned>(std::max(format->getMinimumFractionDigits(), 0));
-        readGrouping(pattern, *format);
-        return pattern;
+        return answered([&] { return icuNumberPattern(identifier, style); }, plainNumberPattern(style));
     }
 
     std::unique_ptr<const YearPhrases> yearPhrases(std::string_view locale) const override {
-        return std::make_unique<const IcuYearPhrases>(knownLocale(locale));
+        return answered(
+            [&]() -> std::unique_ptr<const YearPhrases> {
+                return std::make_unique<const IcuYearPhrases>(knownLocale(locale));
+            },
+            std::unique_ptr<const YearPhrases>());
     }
 };
 

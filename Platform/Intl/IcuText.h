@@ -5,6 +5,7 @@
 
 #include <algorithm> // std::max
 #include <cstring>   // std::strlen
+#include <new>       // std::bad_alloc
 #include <string>
 #include <string_view>
 #include <unicode/locid.h>
@@ -12,7 +13,17 @@
 
 namespace Intl {
 
+// Whether ICU did what it was asked. What it lacked the memory for is thrown, so that nobody keeps it as an answer.
+[[nodiscard]] inline bool succeeded(UErrorCode status) {
+    if (status == U_MEMORY_ALLOCATION_ERROR)
+        throw std::bad_alloc();
+    return U_SUCCESS(status);
+}
+
+// ICU makes a text bogus where it lacks the memory for it.
 [[nodiscard]] inline std::string utf8(const icu::UnicodeString& text) {
+    if (text.isBogus())
+        throw std::bad_alloc();
     std::string out;
     return text.toUTF8String(out);
 }

@@ -65,7 +65,7 @@ public:
                                                      std::span<const std::string> supported) const = 0;
     // Any identifier works; what is unknown is read as the root locale. "@numbers=" and other keywords are kept.
     virtual NumberPattern numberPattern(std::string_view locale, NumberStyle style) const = 0;
-    // The same of the identifier.
+    // The same of the identifier. Null when there are no words.
     virtual std::unique_ptr<const YearPhrases> yearPhrases(std::string_view locale) const = 0;
 
 protected:

@@ -14,7 +14,7 @@ icu::Locale canonical(std::string_view identifier) {
     icu::Locale locale = icuLocale(identifier.substr(0, identifier.find('@')));
     UErrorCode status = U_ZERO_ERROR;
     locale.canonicalize(status);
-    return U_SUCCESS(status) ? locale : icu::Locale::getRoot();
+    return succeeded(status) ? locale : icu::Locale::getRoot();
 }
 
 // Norwegian without more is Bokmål; to the canonical form they are two.
@@ -44,7 +44,7 @@ std::optional<std::size_t> bestLanguage(std::string_view desired, std::span<cons
         return std::nullopt;
     const icu::LocaleMatcher matcher = builder.build(status);
     const icu::LocaleMatcher::Result result = matcher.getBestMatchResult(reader, status);
-    if (U_FAILURE(status) || result.getSupportedIndex() < 0)
+    if (!succeeded(status) || result.getSupportedIndex() < 0)
         return std::nullopt;
     return candidates[static_cast<std::size_t>(result.getSupportedIndex())];
 }

@@ -31,9 +31,7 @@ const Message* findIn(std::span<const Message> messages, std::string_view select
 }
 
 [[noreturn]] void refuse(std::string_view subject, std::string_view selector, std::string_view complaint) {
-    std::string report(subject);
-    report.append(" ").append(complaint).append(" \"").append(selector).append("\"");
-    fatalError(report, "Runtime/Class", 0);
+    fatalError({subject, " ", complaint, " \"", selector, "\""}, "Runtime/Class", 0);
 }
 
 } // namespace

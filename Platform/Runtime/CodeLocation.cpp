@@ -1,11 +1,13 @@
 #include "Runtime/CodeLocation.h"
 
 #include <array>
+#include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <dlfcn.h>
 #include <link.h>
 #include <memory>
+#include <new> // std::bad_alloc
 
 namespace Runtime {
 
@@ -24,6 +26,8 @@ std::string pathOf(link_map* object) {
 
 CodeLocation locationOf(const std::string& path, bool isMainProgram) {
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
+    if (real == nullptr && errno == ENOMEM)
+        throw std::bad_alloc();
     if (real == nullptr)
         return {};
     const std::string file = real.get();

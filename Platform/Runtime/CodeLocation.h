@@ -16,6 +16,7 @@ struct CodeLocation {
 
 // Of the shared object or program that holds `code`, the address of a function or object of static storage. The answer
 // does not depend on the process's current directory. Empty texts when the address belongs to no loaded file.
+// Throws nothing but std::bad_alloc.
 [[nodiscard]] LUMORA_EXPORT CodeLocation codeLocation(const void* code);
 // Of the running program itself.
 [[nodiscard]] LUMORA_EXPORT CodeLocation mainProgramLocation();

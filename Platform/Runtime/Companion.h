@@ -8,7 +8,7 @@ namespace Runtime {
 // Opens the companion `file` ("lumora-intl.so") from the folder lumora/ beside the shared object that holds this code
 // and returns the address of its exported function `symbol`; null when the companion is absent or has no such function.
 // Nothing is searched elsewhere, whatever the process's directory or environment. Stays open until the process ends.
-// Any thread; callers keep the answer in a once-slot.
+// Any thread; callers keep the answer. Want of memory is no answer to keep: std::bad_alloc is thrown.
 [[nodiscard]] void* companionSymbol(const char* file, const char* symbol);
 
 } // namespace Runtime

@@ -1,9 +1,9 @@
 #include "Runtime/Fatal.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstdlib>
-#include <string>
 #include <sys/uio.h>
 #include <unistd.h>
 
@@ -18,17 +18,20 @@ iovec piece(std::string_view text) {
 } // namespace
 
 void fatalError(std::string_view message, std::string_view file, std::uint32_t line) noexcept {
+    fatalError(std::initializer_list<std::string_view>{message}, file, line);
+}
+
+void fatalError(std::initializer_list<std::string_view> message, std::string_view file, std::uint32_t line) noexcept {
     char digits[10];
     const auto end = std::to_chars(digits, digits + sizeof digits, line).ptr;
     // One call without allocation: the report stays whole beside other threads' output and works when memory is gone.
-    const iovec report[] = {piece("Fatal error: "),
-                            piece(message),
-                            piece(": file "),
-                            piece(file),
-                            piece(", line "),
-                            piece({digits, static_cast<std::size_t>(end - digits)}),
-                            piece("\n")};
-    while (::writev(STDERR_FILENO, report, std::size(report)) < 0 && errno == EINTR) {
+    iovec report[maxPieces + 6] = {piece("Fatal error: ")};
+    iovec* next =
+        std::transform(message.begin(), message.begin() + std::min(message.size(), maxPieces), report + 1, piece);
+    for (const std::string_view text : {std::string_view(": file "), file, std::string_view(", line "),
+                                        std::string_view(digits, end), std::string_view("\n")})
+        *next++ = piece(text);
+    while (::writev(STDERR_FILENO, report, static_cast<int>(next - report)) < 0 && errno == EINTR) {
     }
     std::abort();
 }

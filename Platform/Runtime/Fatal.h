@@ -3,14 +3,20 @@
 #pragma once
 
 #include "Runtime/Export.h"
+#include <cstddef> // std::size_t
 #include <cstdint>
+#include <initializer_list>
 #include <string_view>
 
 namespace Runtime {
 
 // Writes the line "Fatal error: MESSAGE: file FILE, line LINE" to standard error and ends the process by SIGABRT.
-// `message` and `file` are UTF-8. Any thread.
+// `message` and `file` are UTF-8. Any thread. Needs no memory.
 [[noreturn]] LUMORA_EXPORT void fatalError(std::string_view message, std::string_view file,
+                                           std::uint32_t line) noexcept;
+// The same with a message in pieces, at most maxPieces of them: putting them together would need memory.
+inline constexpr std::size_t maxPieces = 8;
+[[noreturn]] LUMORA_EXPORT void fatalError(std::initializer_list<std::string_view> message, std::string_view file,
                                            std::uint32_t line) noexcept;
 
 } // namespace Runtime

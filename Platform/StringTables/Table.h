@@ -41,6 +41,7 @@ public:
     // Reads a table. Errors name line, column and reason (text, XML) or the byte offset (binary). A source of no bytes,
     // of a byte-order mark or of comments only is an empty table.
     // Limits, checked before memory is taken: maxBytes of source, maxEntries of text, maxDepth of nesting.
+    // Want of memory is no Error: std::bad_alloc is thrown, by both.
     [[nodiscard]] static Runtime::Result<Table> read(std::string bytes);
     // The same from the regular file at `path`, which errors and notes name.
     [[nodiscard]] static Runtime::Result<Table> readFile(const std::string& path);

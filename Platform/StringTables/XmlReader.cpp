@@ -1,5 +1,7 @@
 #include "StringTables/internal/Contents.h"
+#include <exception>
 #include <expat.h>
+#include <new> // std::bad_alloc
 
 namespace StringTables::internal {
 
@@ -38,6 +40,18 @@ private:
         bool filled = false; // plist: its one value was there
     };
 
+    // What the parser's handlers do. It is written in C, so nothing is thrown through it: what was thrown waits.
+    template <class Step> static void handle(void* self, Step step) noexcept {
+        auto& reader = *static_cast<XmlReader*>(self);
+        try {
+            if (!reader.error_ && !reader.thrown_) // handlers may be called a last time after a stop
+                step(reader);
+        } catch (...) {
+            reader.thrown_ = std::current_exception();
+            XML_StopParser(reader.parser_.get(), XML_FALSE);
+        }
+    }
+
     void open(const char* name);
     void close();
     void characters(std::string_view piece);
@@ -62,39 +76,44 @@ private:
     std::string_view key_;
     std::size_t keyOffset_ = 0;
     std::optional<Runtime::Error> error_;
+    std::exception_ptr thrown_;
 };
 
 Runtime::Result<void> XmlReader::read() {
     parser_.reset(XML_ParserCreate(contents_.isUtf8 ? "UTF-8" : nullptr));
     if (!parser_)
-        return Runtime::Error{"no memory for the XML parser", {}};
+        throw std::bad_alloc();
     XML_SetUserData(parser_.get(), this);
     XML_SetElementHandler(
-        parser_.get(), [](void* self, const char* name, const char**) { static_cast<XmlReader*>(self)->open(name); },
-        [](void* self, const char*) { static_cast<XmlReader*>(self)->close(); });
+        parser_.get(),
+        [](void* self, const char* name, const char**) { handle(self, [=](XmlReader& reader) { reader.open(name); }); },
+        [](void* self, const char*) { handle(self, [](XmlReader& reader) { reader.close(); }); });
     XML_SetCharacterDataHandler(parser_.get(), [](void* self, const char* text, int size) {
-        static_cast<XmlReader*>(self)->characters({text, static_cast<std::size_t>(size)});
+        handle(self, [=](XmlReader& reader) { reader.characters({text, static_cast<std::size_t>(size)}); });
     });
     // Property lists declare no entities; without declarations none can grow or reach outside.
-    XML_SetEntityDeclHandler(parser_.get(),
-                             [](void* self, const char*, int, const char*, int, const char*, const char*, const char*,
-                                const char*) { static_cast<XmlReader*>(self)->stop("an entity declaration"); });
+    XML_SetEntityDeclHandler(parser_.get(), [](void* self, const char*, int, const char*, int, const char*, const char*,
+                                               const char*, const char*) {
+        handle(self, [](XmlReader& reader) { reader.stop("an entity declaration"); });
+    });
     XML_SetSkippedEntityHandler(parser_.get(), [](void* self, const char* name, int) {
-        static_cast<XmlReader*>(self)->stop("the unknown entity " + quoted(name));
+        handle(self, [=](XmlReader& reader) { reader.stop("the unknown entity " + quoted(name)); });
     });
     const std::string_view document = std::string_view(contents_.source).substr(begin_);
     const XML_Status status = XML_Parse(parser_.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
+    if (thrown_)
+        std::rethrow_exception(thrown_);
     if (error_)
         return *std::move(error_);
+    if (status != XML_STATUS_OK && XML_GetErrorCode(parser_.get()) == XML_ERROR_NO_MEMORY)
+        throw std::bad_alloc();
     if (status != XML_STATUS_OK)
         return contents_.errorAt(offset(), XML_ErrorString(XML_GetErrorCode(parser_.get())));
     return {};
 }
 
-// The first reason stands; the handlers may be called a last time after it.
 void XmlReader::stop(std::string message) {
-    if (!error_)
-        error_ = contents_.errorAt(offset(), std::move(message));
+    error_ = contents_.errorAt(offset(), std::move(message));
     XML_StopParser(parser_.get(), XML_FALSE);
 }
 
@@ -125,8 +144,6 @@ std::string XmlReader::place(const Element& element) {
 }
 
 void XmlReader::open(const char* name) {
-    if (error_)
-        return;
     const auto* const element =
         std::ranges::find_if(elements, [name](const Element& known) { return std::string_view(known.name) == name; });
     if (element == std::end(elements))
@@ -143,8 +160,6 @@ void XmlReader::open(const char* name) {
 }
 
 void XmlReader::close() {
-    if (error_)
-        return;
     const Level closed = levels_.back();
     levels_.pop_back();
     if (closed.hasKey)
@@ -162,7 +177,7 @@ void XmlReader::close() {
 }
 
 void XmlReader::characters(std::string_view piece) {
-    if (error_ || levels_.empty())
+    if (levels_.empty())
         return;
     const Kind kind = levels_.back().kind;
     if (kind == Kind::key || kind == Kind::string)

@@ -5,9 +5,7 @@
 namespace SwiftUI::detail {
 
 void missingAsset(std::string_view kind, std::string_view name, std::string_view source, std::uint32_t line) noexcept {
-    std::string message = "Unable to load ";
-    message.append(kind).append(" asset named ").append(name).append(".");
-    Runtime::fatalError(message, source, line);
+    Runtime::fatalError({"Unable to load ", kind, " asset named ", name, "."}, source, line);
 }
 
 } // namespace SwiftUI::detail
