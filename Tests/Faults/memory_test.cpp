@@ -58,6 +58,9 @@ void* operator new(std::size_t size) {
         throw std::bad_alloc();
     return memory;
 }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return fails() ? nullptr : std::malloc(size == 0 ? 1 : size);
+}
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }
