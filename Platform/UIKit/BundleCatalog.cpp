@@ -1,55 +1,41 @@
 #include "UIKit/internal/BundleCatalog.h"
 
+#include "Runtime/KeptList.h"
 #include <algorithm>
-#include <atomic>
 #include <cmath>
-#include <memory>
 #include <utility>
 
 namespace UIKit::detail {
 
 namespace {
 
-// Bundles are as immortal as these nodes, and few: a list suffices, and is read without a lock.
-struct Node {
+struct Opened {
     const Foundation::NSBundle* bundle;
     std::optional<AssetCatalog::Catalog> catalog;
-    const Node* next = nullptr;
 };
-constinit std::atomic<const Node*> nodes{nullptr};
-
-const Node* search(const Node* first, const Foundation::NSBundle& bundle) noexcept {
-    while (first != nullptr && first->bundle != &bundle)
-        first = first->next;
-    return first;
-}
+constinit Runtime::KeptList<Opened> all; // bundles are as immortal, and few
 
 // Null when the catalog cannot be opened for the moment.
-const Node* openFor(const Foundation::NSBundle& bundle) {
-    auto made = std::make_unique<Node>();
-    made->bundle = &bundle;
-    if (auto opened = AssetCatalog::Catalog::open(bundle.bundlePath() + "/" + std::string(AssetCatalog::fileName)))
-        made->catalog.emplace(std::move(*opened));
-    else if (opened.error().isPassing())
+const Opened* openedFor(const Foundation::NSBundle& bundle) {
+    const auto isIts = [&bundle](const Opened& one) { return one.bundle == &bundle; };
+    if (const Opened* known = all.find(isIts))
+        return known;
+    Opened made{&bundle, std::nullopt};
+    if (auto catalog = AssetCatalog::Catalog::open(bundle.bundlePath() + "/" + std::string(AssetCatalog::fileName)))
+        made.catalog.emplace(std::move(*catalog));
+    else if (catalog.error().isPassing())
         return nullptr;
-    made->next = nodes.load(std::memory_order_acquire);
-    do {
-        // Another thread may have been first meanwhile: then its catalog is everybody's.
-        if (const Node* others = search(made->next, bundle))
-            return others;
-    } while (!nodes.compare_exchange_weak(made->next, made.get(), std::memory_order_acq_rel));
-    return made.release();
+    return &all.add(std::move(made), isIts);
 }
 
 } // namespace
 
 std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle) {
-    const Node* known = search(nodes.load(std::memory_order_acquire), bundle);
-    const Node* node = known != nullptr ? known : openFor(bundle);
-    if (node == nullptr || !node->catalog)
+    const Opened* opened = openedFor(bundle);
+    if (opened == nullptr || !opened->catalog)
         return std::nullopt;
-    const auto index = node->catalog->find(kind, name);
-    return index ? std::optional(Found{&*node->catalog, *index}) : std::nullopt;
+    const auto index = opened->catalog->find(kind, name);
+    return index ? std::optional(Found{&*opened->catalog, *index}) : std::nullopt;
 }
 
 AssetCatalog::Fit wanted(const UITraitCollection& traits) noexcept {
