@@ -1,5 +1,6 @@
 #include "Runtime/File.h"
 
+#include "Runtime/Descriptor.h"
 #include "Runtime/OpenFile.h"
 #include <cerrno>
 #include <cstdio>
@@ -14,23 +15,6 @@
 namespace Runtime {
 
 namespace {
-
-class Descriptor {
-public:
-    explicit Descriptor(int number) noexcept : number_(number) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (number_ >= 0)
-            ::close(number_);
-    }
-    int number() const noexcept { return number_; }
-    // Closes now, for writers who want to hear of it. False on failure.
-    bool close() noexcept { return ::close(std::exchange(number_, -1)) == 0; }
-
-private:
-    int number_;
-};
 
 Error systemError(const std::string& path, const char* doing) {
     return {.message = std::string(doing) + ": " + std::strerror(errno), .file = path};

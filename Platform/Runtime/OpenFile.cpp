@@ -22,9 +22,13 @@ Error cannotBeRead(const OpenFile& file) {
 Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit) {
     OpenFile file(path);
     // Without O_NONBLOCK the opening of a pipe would wait for its writer.
-    file.descriptor_ = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    static constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
+    file.descriptor_ = Descriptor(::open(path.c_str(), flags));
+    // A folder on the way may have been exchanged for another and its files removed while the path was followed.
+    if (file.descriptor_.number() < 0 && errno == ENOENT)
+        file.descriptor_ = Descriptor(::open(path.c_str(), flags));
     struct stat status {};
-    if (file.descriptor_ < 0 || ::fstat(file.descriptor_, &status) != 0)
+    if (file.descriptor_.number() < 0 || ::fstat(file.descriptor_.number(), &status) != 0)
         return cannotBeRead(file);
     if (!S_ISREG(status.st_mode))
         return file.error("is not a regular file");
@@ -34,16 +38,11 @@ Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit) {
     return file;
 }
 
-OpenFile::~OpenFile() {
-    if (descriptor_ >= 0)
-        ::close(descriptor_);
-}
-
 Result<std::size_t> OpenFile::read(void* out, std::size_t size, std::uint64_t offset) const {
     std::size_t filled = 0;
     while (filled < size) {
-        const ssize_t count =
-            ::pread(descriptor_, static_cast<char*>(out) + filled, size - filled, static_cast<off_t>(offset + filled));
+        const ssize_t count = ::pread(descriptor_.number(), static_cast<char*>(out) + filled, size - filled,
+                                      static_cast<off_t>(offset + filled));
         if (count < 0 && errno != EINTR)
             return cannotBeRead(*this);
         if (count == 0)

@@ -1,12 +1,12 @@
 // Runtime/OpenFile.h
 // A regular file that is read from, in parts or whole.
-// Threads: any; parts may be read at the same time. Ownership: owns the descriptor, which no child program inherits.
+// Threads: any; parts may be read at the same time. No child program inherits it.
 #pragma once
 
+#include "Runtime/Descriptor.h"
 #include "Runtime/Result.h"
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -18,11 +18,6 @@ public:
     // bytes. Never waits for a writer.
     [[nodiscard]] static Result<OpenFile> open(const std::string& path, std::size_t limit);
 
-    OpenFile(OpenFile&& other) noexcept
-        : descriptor_(std::exchange(other.descriptor_, -1)), size_(other.size_), path_(std::move(other.path_)) {}
-    OpenFile& operator=(OpenFile&&) = delete;
-    ~OpenFile();
-
     std::size_t size() const noexcept { return size_; } // when it was opened
     // Puts what stands at `offset` at `out`. How much that was: less than `size` where the file ends.
     [[nodiscard]] Result<std::size_t> read(void* out, std::size_t size, std::uint64_t offset) const;
@@ -32,7 +27,7 @@ public:
 private:
     explicit OpenFile(std::string path) noexcept : path_(std::move(path)) {}
 
-    int descriptor_ = -1;
+    Descriptor descriptor_{-1};
     std::size_t size_ = 0;
     std::string path_;
 };
