@@ -31,8 +31,8 @@ Pixels PixelCache::use(Slot& slot, const Key& key) {
         return pixels;
     }
     if (pixels->pixels.size() <= maxBytes_) { // a larger one would only drive the others out
-        keptBytes_ += pixels->pixels.size();
         kept_.push_front({key, pixels});
+        keptBytes_ += pixels->pixels.size();
         slot.kept = kept_.begin();
         letGo();
     }
