@@ -8,11 +8,14 @@
 #include "StringTables/Table.h"
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <dirent.h>
 #include <list>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <sys/stat.h>
+#include <system_error>
 #include <utility>
 
 namespace Foundation {
@@ -29,18 +32,42 @@ struct Answers {
     Answers* next;
 };
 
-std::vector<std::string> languageFolders(const std::string& path) {
+// Whether the open directory is the one that the path leads to.
+bool isAt(DIR* directory, const std::string& path) noexcept {
+    struct stat opened {
+    }, there{};
+    return ::fstat(::dirfd(directory), &opened) == 0 && ::stat(path.c_str(), &there) == 0 &&
+           opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
+}
+
+// The languages that have a folder below `path`, in no order; a directory that cannot be read has none. No value when
+// another bundle took its place meanwhile: the folders of this one may have been removed while they were listed.
+std::optional<std::vector<std::string>> listedLanguages(const std::string& path) {
     static constexpr std::string_view suffix = ".lproj";
     std::vector<std::string> names;
-    // A directory that cannot be read has no languages.
     const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(path.c_str()), &::closedir);
-    if (directory == nullptr)
+    if (directory == nullptr) {
         detail::throwIfPassing({.cause = errno});
-    while (const dirent* entry = directory == nullptr ? nullptr : ::readdir(directory.get()))
+        return names;
+    }
+    // Its end and a failure look the same but for errno.
+    errno = 0;
+    while (const dirent* entry = ::readdir(directory.get())) {
         if (const std::string_view name = entry->d_name; name.ends_with(suffix) && name.size() > suffix.size())
             names.emplace_back(name.substr(0, name.size() - suffix.size()));
-    std::ranges::sort(names);
-    return names;
+        errno = 0;
+    }
+    detail::throwIfPassing({.cause = errno});
+    return isAt(directory.get(), path) ? std::optional(std::move(names)) : std::nullopt;
+}
+
+std::vector<std::string> languageFolders(const std::string& path) {
+    for (int upgrades = 0; upgrades < 16; ++upgrades)
+        if (auto names = listedLanguages(path)) {
+            std::ranges::sort(*names);
+            return *std::move(names);
+        }
+    throw std::system_error(EAGAIN, std::generic_category()); // for the moment; the next read tries again
 }
 
 std::string developmentRegion(const std::string& path) {
