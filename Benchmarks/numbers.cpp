@@ -29,30 +29,41 @@ icu::number::LocalizedNumberFormatter madeForNumbers() {
     return icu::number::NumberFormatter::withLocale("de_DE").precision(icu::number::Precision::maxFraction(3));
 }
 
+// Times what makes a text of a number, after a look at the text of the first.
+template <class Number, class Make>
+void timed(benchmark::State& state, Number first, Number last, const char* expected, Make make) {
+    if (make(first) != expected) {
+        state.SkipWithError("the result is wrong");
+        return;
+    }
+    Number value = first;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(make(value));
+        value = value < last ? value + 1 : first;
+    }
+}
+
+template <class Make> void timedNumbers(benchmark::State& state, Make make) {
+    timed(state, 1234.5, 1e9, "1.234,5", make);
+}
+template <class Make> void timedYears(benchmark::State& state, Make make) {
+    timed(state, std::int64_t{25}, std::int64_t{125}, "25 Jahre", make);
+}
+
 void numberIcuKept(benchmark::State& state) {
     const auto formatter = madeForNumbers();
-    double value = 1234.5;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(icuNumber(formatter, value += 1));
+    timedNumbers(state, [&](double value) { return icuNumber(formatter, value); });
 }
 BENCHMARK(numberIcuKept);
 
 void numberIcuAfresh(benchmark::State& state) {
-    double value = 1234.5;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(icuNumber(madeForNumbers(), value += 1));
+    timedNumbers(state, [](double value) { return icuNumber(madeForNumbers(), value); });
 }
 BENCHMARK(numberIcuAfresh);
 
 void numberText(benchmark::State& state) {
     useGerman();
-    if (Localization::legacyTrNumber(1234.5, false) != icuNumber(madeForNumbers(), 1234.5)) {
-        state.SkipWithError("the result is wrong");
-        return;
-    }
-    double value = 1234.5;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(Localization::legacyTrNumber(value += 1, false));
+    timedNumbers(state, [](double value) { return Localization::legacyTrNumber(value, false); });
 }
 BENCHMARK(numberText);
 
@@ -70,28 +81,18 @@ std::string icuYears(const icu::number::LocalizedNumberFormatter& formatter, std
 
 void yearsIcuKept(benchmark::State& state) {
     const auto formatter = madeForYears();
-    std::int64_t years = 0;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(icuYears(formatter, years++ & 127));
+    timedYears(state, [&](std::int64_t years) { return icuYears(formatter, years); });
 }
 BENCHMARK(yearsIcuKept);
 
 void yearsIcuAfresh(benchmark::State& state) {
-    std::int64_t years = 0;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(icuYears(madeForYears(), years++ & 127));
+    timedYears(state, [](std::int64_t years) { return icuYears(madeForYears(), years); });
 }
 BENCHMARK(yearsIcuAfresh);
 
 void yearsText(benchmark::State& state) {
     useGerman();
-    if (Localization::legacyTrYear(25) != icuYears(madeForYears(), 25)) {
-        state.SkipWithError("the result is wrong");
-        return;
-    }
-    std::int64_t years = 0;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(Localization::legacyTrYear(years++ & 127));
+    timedYears(state, [](std::int64_t years) { return Localization::legacyTrYear(years); });
 }
 BENCHMARK(yearsText);
 

@@ -68,7 +68,7 @@ inline std::optional<Table> read(std::string_view bytes, Form form) {
 
 // `utf8` in another encoding; no value when it is no UTF-8.
 inline std::optional<std::string> encoded(std::string_view utf8, const char* encoding) {
-    const iconv_t converter = iconv_open(encoding, "UTF-8");
+    iconv_t converter = iconv_open(encoding, "UTF-8");
     std::string in(utf8), out(4 * utf8.size(), '\0');
     char *from = in.data(), *to = out.data();
     std::size_t left = in.size(), room = out.size();
@@ -97,6 +97,14 @@ inline void requireSameInUtf16(std::string_view characters) {
         require(haveSameEntries(*narrow, *wide));
         require(std::ranges::equal(narrow->notes(), wide->notes(), {}, &Runtime::Error::text, &Runtime::Error::text));
     }
+}
+
+// All of the above, for a form that is made of characters.
+inline void readCharacters(const std::uint8_t* data, std::size_t size, Form form) {
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    read(bytes, form);
+    if (isFor(form, bytes))
+        requireSameInUtf16(bytes);
 }
 
 } // namespace Checks

@@ -7,6 +7,7 @@
 #include "Runtime/Result.h"
 #include <compare>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -22,6 +23,7 @@ struct Blob {
     // Error: the file has been cut short since the catalog was opened, or cannot be read any more.
     [[nodiscard]] Runtime::Result<std::vector<std::uint8_t>> read() const;
     // Equal places hold equal bytes.
+    // NOLINTNEXTLINE(modernize-use-nullptr): what the check sees is inside the comparison
     friend auto operator<=>(const Blob&, const Blob&) = default;
 };
 
