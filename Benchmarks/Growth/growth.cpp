@@ -1,0 +1,115 @@
+// growth COMPILED SOURCE EXPECTED LANGUAGE...
+// What a bundle's tables cost a program: loaded from the binary form, checked from the text form, read. Every text of
+// every language is compared with EXPECTED/LANGUAGE (keys and texts in turn, each ended by a NUL) first. Prints "what
+// nanoseconds" per line; ends with 1 when a text is wrong.
+#include "Foundation/Host.h"
+#include "Foundation/NSBundle.h"
+#include "Runtime/File.h"
+#include "StringTables/Table.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <limits>
+#include <random>
+
+namespace {
+
+using StringTables::Table;
+using Texts = std::vector<std::pair<std::string_view, std::string_view>>;
+
+Texts textsOf(std::string_view bytes) {
+    Texts texts;
+    const auto next = [&bytes] {
+        const std::string_view one = bytes.substr(0, bytes.find('\0'));
+        bytes.remove_prefix(one.size() + 1);
+        return one;
+    };
+    while (!bytes.empty()) {
+        const std::string_view key = next();
+        texts.emplace_back(key, next());
+    }
+    return texts;
+}
+
+bool holds(const Runtime::Result<Table>& table, const Texts& expected) {
+    return table && table->entries().size() == expected.size() &&
+           std::ranges::all_of(expected, [&](const auto& one) { return table->find(one.first) == one.second; });
+}
+
+// Processor time, the least of several runs: others may be at work on the machine.
+double nanoseconds(const auto& work) {
+    const auto now = [] {
+        timespec time{};
+        ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+    };
+    double least = std::numeric_limits<double>::max();
+    for (int run = 0; run != 7; ++run) {
+        const double begin = now();
+        work();
+        least = std::min(least, now() - begin);
+    }
+    return least;
+}
+
+struct Language {
+    std::string name;
+    std::string bytes; // what `expected` points into
+    Texts expected;
+};
+
+int measure(const std::string& compiled, const std::string& source, const std::vector<Language>& languages) {
+    const auto table = [](const std::string& bundle, const Language& language) {
+        return bundle + "/" + language.name + ".lproj/Localizable.strings";
+    };
+    for (const Language& language : languages)
+        for (const std::string& bundle : {compiled, source})
+            if (!holds(Table::readFile(table(bundle, language)), language.expected)) {
+                std::fprintf(stderr, "wrong: %s\n", table(bundle, language).c_str());
+                return 1;
+            }
+    std::printf("load %.0f\n", nanoseconds([&] {
+                    for (const Language& language : languages)
+                        (void)Table::readFile(table(compiled, language));
+                }));
+    std::printf("check %.0f\n", nanoseconds([&] {
+                    for (const Language& language : languages)
+                        (void)holds(Table::readFile(table(source, language)), language.expected);
+                }));
+
+    const Language& last = languages.back();
+    Foundation::Host::setPreferredLanguages({last.name == "Base" ? "en" : last.name});
+    const Foundation::NSBundle& bundle = Foundation::NSBundle::bundleWithPath(compiled);
+    Texts shuffled = last.expected;
+    std::ranges::shuffle(shuffled, std::mt19937(1));
+    const auto readAll = [&] {
+        return std::ranges::count_if(shuffled, [&](const auto& one) {
+            return bundle.localizedText(one.first, "Localizable").size() == one.second.size();
+        });
+    };
+    for (const auto& [key, text] : shuffled)
+        if (bundle.localizedText(key, "Localizable") != text) {
+            std::fprintf(stderr, "wrong: the text of %.*s\n", static_cast<int>(key.size()), key.data());
+            return 1;
+        }
+    std::printf("read %.1f\n", nanoseconds(readAll) / static_cast<double>(shuffled.size()));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 5)
+        return 2;
+    std::vector<Language> languages;
+    for (int i = 4; i != argc; ++i) {
+        auto bytes = Runtime::readFile(std::string(argv[3]) + "/" + argv[i], Table::maxBytes);
+        if (!bytes)
+            return 2;
+        languages.push_back({argv[i], *std::move(bytes), {}});
+    }
+    for (Language& language : languages)
+        language.expected = textsOf(language.bytes);
+    return measure(argv[1], argv[2], languages);
+}
