@@ -82,7 +82,8 @@ private:
 // Reads one table; knows whom each name of it belongs to.
 class TableReader {
 public:
-    TableReader(const SourceTable& table, Diagnostics& diagnostics) : table_(table), diagnostics_(diagnostics) {}
+    TableReader(const SourceTable& table, Diagnostics& diagnostics)
+        : table_(table), places_(table.table.locations()), diagnostics_(diagnostics) {}
 
     std::vector<CatalogEntry> entries() {
         std::vector<CatalogEntry> entries;
@@ -102,13 +103,17 @@ private:
         bool isGroup;
     };
 
+    const StringTables::Location& placeOf(const Entry& entry) const {
+        return places_[static_cast<std::size_t>(&entry - table_.table.entries().data())];
+    }
+
     void report(Severity severity, const Entry& entry, std::string message) {
-        const StringTables::Location place = table_.table.locate(entry);
+        const StringTables::Location& place = placeOf(entry);
         diagnostics_.add(severity, {std::move(message), table_.path, place.line, place.column});
     }
 
     std::string keyAndLine(const Entry& entry) const {
-        const std::size_t line = table_.table.locate(entry).line;
+        const std::size_t line = placeOf(entry).line;
         return "key " + quoted(entry.key) + (line == 0 ? "" : " (line " + std::to_string(line) + ")");
     }
 
@@ -162,6 +167,7 @@ private:
     }
 
     const SourceTable& table_;
+    std::vector<StringTables::Location> places_;
     Diagnostics& diagnostics_;
     std::map<std::string, Owner, std::less<>> owners_;
 };

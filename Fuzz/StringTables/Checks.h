@@ -38,10 +38,12 @@ inline bool haveSameEntries(const Table& one, const Table& other) {
 
 // Entries are found by their keys, and are the same after a way through every form.
 inline void requireWhole(const Table& table) {
-    for (const Entry& entry : table.entries()) {
+    for (const Entry& entry : table.entries())
         require(table.find(entry.key) == entry.text);
-        require((table.locate(entry).line == 0) == (table.form() == Form::binary));
-    }
+    const auto places = table.locations();
+    require(places.size() == table.entries().size());
+    for (const StringTables::Location& place : places)
+        require((place.line == 0) == (table.form() == Form::binary));
     for (const Form form : {Form::text, Form::xml, Form::binary}) {
         const auto bytes = StringTables::write(table.entries(), form);
         require(bytes || form == Form::xml); // the only form that cannot hold every text

@@ -3,6 +3,7 @@
 #include "Runtime/File.h"
 #include "StringTables/internal/Contents.h"
 #include "StringTables/internal/Unicode.h"
+#include <numeric>
 
 namespace StringTables {
 
@@ -170,8 +171,16 @@ std::span<const Runtime::Error> Table::notes() const noexcept {
     return contents_ ? std::span<const Runtime::Error>(contents_->notes) : std::span<const Runtime::Error>();
 }
 
-Location Table::locate(const Entry& entry) const noexcept {
-    return contents_ ? internal::Locator(*contents_).locate(entry.offset) : Location{};
+std::vector<Location> Table::locations() const {
+    const std::span<const Entry> all = entries();
+    std::vector<Location> places(all.size());
+    std::vector<std::size_t> order(all.size()); // of the source: a key that appears again stands further down
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::sort(order, {}, [&](std::size_t number) { return all[number].offset; });
+    if (contents_)
+        for (internal::Locator locator(*contents_); const std::size_t number : order)
+            places[number] = locator.locate(all[number].offset);
+    return places;
 }
 
 Form Table::form() const noexcept {

@@ -63,7 +63,8 @@ public:
     // order of the source; after maxNotes of them one that tells how many more there were.
     static constexpr std::size_t maxNotes = 1000;
     [[nodiscard]] std::span<const Runtime::Error> notes() const noexcept;
-    [[nodiscard]] Location locate(const Entry& entry) const noexcept;
+    // Where the key of every entry stands, in the order of the entries; found in one pass.
+    [[nodiscard]] std::vector<Location> locations() const;
     [[nodiscard]] Form form() const noexcept;
 
 private:

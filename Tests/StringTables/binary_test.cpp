@@ -54,7 +54,7 @@ TEST(BinaryTable, ReadsEveryLayout) {
         EXPECT_EQ(read(file({"\xD1\1\2", "\x5F" + count + "OK", "\x51v"})), (Pairs{{"OK", "v"}}));
     const auto table = StringTables::Table::read(file(plain));
     EXPECT_EQ(table->form(), StringTables::Form::binary);
-    EXPECT_EQ(table->locate(table->entries()[0]).line, 0u);
+    EXPECT_EQ(table->locations()[0].line, 0u);
 }
 
 TEST(BinaryTable, NotesWhatItPassesOver) {

@@ -134,6 +134,15 @@ TEST(TextTable, NotesWhatItPassesOver) {
     EXPECT_EQ(notes.back(), "500 more of such notes");
 }
 
+TEST(TextTable, LocatesTheTextThatHolds) {
+    const auto table = StringTables::Table::read("a = 1;\n b = 2;\na = 3;");
+    ASSERT_TRUE(table);
+    const auto places = table->locations();
+    ASSERT_EQ(places.size(), 2u);
+    EXPECT_EQ(std::pair(places[0].line, places[0].column), std::pair(std::size_t{3}, std::size_t{1})); // a
+    EXPECT_EQ(std::pair(places[1].line, places[1].column), std::pair(std::size_t{2}, std::size_t{2})); // b
+}
+
 TEST(TextTable, FindsAndLocatesAfterMoves) {
     // Short enough for a string to keep it in itself.
     auto read = StringTables::Table::read("\nä=b;\n 'C'=\"\";"s.replace(1, 2, "ab"));
@@ -143,8 +152,8 @@ TEST(TextTable, FindsAndLocatesAfterMoves) {
     EXPECT_EQ(table.find("ab"), "b");
     EXPECT_EQ(table.find("C"), "");
     EXPECT_EQ(table.find("c"), std::nullopt);
-    EXPECT_EQ(table.locate(table.entries()[1]).line, 3u);
-    EXPECT_EQ(table.locate(table.entries()[1]).column, 2u);
+    EXPECT_EQ(table.locations()[1].line, 3u);
+    EXPECT_EQ(table.locations()[1].column, 2u);
     EXPECT_EQ(first.find("ab"), std::nullopt); // NOLINT: a moved-from table is an empty one
     EXPECT_TRUE(StringTables::Table().entries().empty());
 }

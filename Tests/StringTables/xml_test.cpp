@@ -46,7 +46,7 @@ TEST(XmlTable, NotesWhatItPassesOver) {
                                         "7:2: the key \"a\" appears again; this text holds",
                                         "7:32: the value of \"t\" is a truth value, not a text; passed over"}));
     const auto table = StringTables::Table::read(source);
-    EXPECT_EQ(table->locate(table->entries()[0]).line, 7u);
+    EXPECT_EQ(table->locations()[0].line, 7u);
 }
 
 TEST(XmlTable, RefusesWithPlaceAndReason) {
