@@ -9,8 +9,8 @@ namespace Compiler {
 
 class StagedFolder {
 public:
-    // An empty folder beside `target`. An error if `target` is there and was not made by a compile, or if its folder
-    // cannot be written.
+    // An empty folder beside `target`, NAME.staged-XXXXXX; such folders that killed compiles left are removed. An error
+    // if `target` is there and was not made by a compile, or if its folder cannot be written.
     [[nodiscard]] static Runtime::Result<StagedFolder> create(const std::filesystem::path& target);
 
     StagedFolder(StagedFolder&& other) noexcept;
@@ -23,10 +23,11 @@ public:
     [[nodiscard]] Runtime::Result<void> putInPlace();
 
 private:
-    StagedFolder(std::filesystem::path target, std::filesystem::path staged);
+    StagedFolder(std::filesystem::path target, std::filesystem::path staged, int lock);
 
     std::filesystem::path target_;
     std::filesystem::path staged_; // empty once nothing is aside
+    int lock_;                     // descriptor of the folder, locked; -1 where the file system has no locks
 };
 
 } // namespace Compiler

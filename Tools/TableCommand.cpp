@@ -5,6 +5,11 @@
 #include "StringTables/Table.h"
 #include "StringTables/Writer.h"
 #include <CLI/CLI.hpp>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
 #include <memory>
 #include <nlohmann/json.hpp>
 
@@ -49,15 +54,49 @@ Runtime::Result<std::string> written(const Table& table, Output form) {
     return json(table);
 }
 
+// What a pipe or a device gives until it ends.
+Runtime::Result<std::string> readToEnd(std::FILE* stream) {
+    std::string bytes;
+    std::array<char, 65536> part;
+    while (const std::size_t count = std::fread(part.data(), 1, part.size(), stream)) {
+        bytes.append(part.data(), count);
+        if (bytes.size() > Table::maxBytes)
+            return Runtime::Error{.message = "is larger than " + std::to_string(Table::maxBytes) + " bytes",
+                                  .file = {}};
+    }
+    if (std::ferror(stream) != 0)
+        return Runtime::Error{.message = std::string("cannot be read: ") + std::strerror(errno), .file = {}};
+    return bytes;
+}
+
+Runtime::Result<Table> readTable(const std::string& file) {
+    std::error_code failed;
+    const auto type = std::filesystem::status(file, failed).type();
+    const bool isInput = file == "-";
+    if (!isInput && type != std::filesystem::file_type::fifo && type != std::filesystem::file_type::character)
+        return Table::readFile(file);
+    const std::unique_ptr<std::FILE, decltype(&std::fclose)> stream(isInput ? stdin : std::fopen(file.c_str(), "rb"),
+                                                                    &std::fclose);
+    if (stream == nullptr)
+        return Runtime::Error{.message = std::string("cannot be read: ") + std::strerror(errno), .file = {}};
+    auto bytes = readToEnd(stream.get());
+    return bytes ? Table::read(*std::move(bytes)) : std::move(bytes.error());
+}
+
 Exit runTable(const TableOptions& options) {
-    const auto table = Table::readFile(options.file);
-    if (!table)
+    const std::string name = options.file == "-" ? "standard input" : options.file;
+    auto table = readTable(options.file);
+    if (!table) {
+        table.error().file = name;
         return fail(table.error());
-    for (const Runtime::Error& skipped : table->notes())
+    }
+    for (Runtime::Error skipped : table->notes()) {
+        skipped.file = name;
         note(skipped.text());
+    }
     auto out = written(*table, outputs.at(options.form));
     if (!out) {
-        out.error().file = options.file;
+        out.error().file = name;
         return fail(out.error());
     }
     if (options.output.empty())
@@ -71,7 +110,9 @@ Exit runTable(const TableOptions& options) {
 void addTableCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<TableOptions>();
     CLI::App* command = program.add_subcommand("table", "Read a string table of any form and write it in another.");
-    command->add_option("FILE", options->file, "The table: quoted text, XML or binary, told by its content")
+    command
+        ->add_option("FILE", options->file,
+                     "The table: quoted text, XML or binary, told by its content; - is standard input")
         ->required();
     command->add_option("--to", options->form, "The form to write")
         ->check(CLI::IsMember({"json", "strings", "xml", "binary"}))

@@ -3,6 +3,7 @@
 #include "StringTables/Table.h"
 
 #include "../Support/TemporaryFolder.h"
+#include <csignal>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -17,9 +18,10 @@ struct Outcome {
     std::vector<std::string> diagnostics;
 };
 
-Outcome compile(const fs::path& source, const fs::path& bundle) {
+Outcome compile(
+    const fs::path& source, const fs::path& bundle, const Compiler::Progress& progress = [](auto, auto, auto) {}) {
     SourceBundle::Diagnostics diagnostics;
-    const auto done = Compiler::compileBundle(source, bundle, diagnostics, [](auto, auto, auto) {});
+    const auto done = Compiler::compileBundle(source, bundle, diagnostics, progress);
     Outcome outcome{.failure = done ? "" : done.error().text(), .diagnostics = {}};
     for (const auto& one : diagnostics.all())
         outcome.diagnostics.push_back(one.what.text());
@@ -141,6 +143,43 @@ TEST(CompileBundle, TakesNothingByLinksThatLeadOut) {
     fs::create_symlink("Base.lproj", folder / "source/en.lproj");
     EXPECT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
     EXPECT_EQ(Table::read(Support::contents(folder / "out.bundle/en.lproj/T.strings"))->find("a"), "b");
+}
+
+std::set<std::string> staged(const fs::path& folder) {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder))
+        if (entry.path().filename().native().find(".staged-") != std::string::npos)
+            names.insert(entry.path().filename());
+    return names;
+}
+
+TEST(CompileBundle, RemovesWhatAKilledCompileLeftAndNothingElse) {
+    const Support::TemporaryFolder folder;
+    const fs::path source = folder / "source", bundle = folder / "out.bundle";
+    folder.write("source/Base.lproj/A.strings", "a = b;");
+    EXPECT_EXIT(compile(source, bundle, [](auto, auto, auto) { ::raise(SIGKILL); }), testing::KilledBySignal(SIGKILL),
+                "");
+    ASSERT_EQ(staged(folder.path()).size(), 1U);
+
+    // A copy, the staged folder of another bundle, one without the mark, and a link to what is dear.
+    const std::set<std::string> others = {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef",
+                                          "out.bundle.staged-abcdef", "out.bundle.staged-ABCDEF"};
+    for (const std::string name : {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef", "dear"})
+        folder.write(name + "/.lumora-bundle", "");
+    folder.write("out.bundle.staged-abcdef/A", "");
+    fs::create_directory_symlink("dear", folder / "out.bundle.staged-ABCDEF");
+
+    // Nor that of a compile that is under way.
+    std::size_t living = 0;
+    const Outcome outer = compile(source, bundle, [&](auto, auto, auto) {
+        EXPECT_EQ(compile(source, bundle).failure, "");
+        living = staged(folder.path()).size() - others.size();
+    });
+    EXPECT_EQ(outer.failure, "");
+    EXPECT_EQ(living, 1U);
+    EXPECT_EQ(staged(folder.path()), others);
+    EXPECT_TRUE(fs::exists(folder / "dear/.lumora-bundle"));
+    EXPECT_EQ(filesBelow(bundle).size(), 3U);
 }
 
 TEST(CompileBundle, GivesTheSameBytesForTheSameSources) {
