@@ -88,7 +88,7 @@ public:
     std::string_view text() const noexcept { return text_; }
 
 private:
-    Described() noexcept {}
+    Described() = default;
 
     template <class T> void describeValue(const T& value) {
         if constexpr (std::same_as<T, bool>)

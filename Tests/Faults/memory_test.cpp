@@ -70,9 +70,11 @@ void operator delete(void* memory, std::size_t) noexcept {
 #else
 // All memory, that of the XML parser and of the dynamic linker too.
 extern "C" {
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): glibc's own names
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
 void* __libc_realloc(void* memory, std::size_t size);
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 
 void* malloc(std::size_t size) {
     return fails(__builtin_return_address(0)) ? refused() : __libc_malloc(size);
