@@ -2,7 +2,8 @@
 // Left aside is where the other one is known to differ:
 //  - it hands out C strings, which end at a zero, and stops the process over a key that holds one;
 //  - of equal keys it keeps every one;
-//  - it takes XML as UTF-8 whatever is declared, and leaves the ends of its lines as they are.
+//  - it takes XML as UTF-8 whatever is declared, and leaves the ends of its lines as they are;
+//  - it takes quotation marks in a processing instruction for a text's, in which the instruction does not end.
 #include "Checks.h"
 #include <map>
 #include <memory>
@@ -48,7 +49,9 @@ std::optional<Texts> theirs(std::string_view bytes) {
 }
 
 bool readsDifferently(std::string_view bytes, Form form) {
-    return form == Form::xml && (bytes.find('\r') != bytes.npos || bytes.find("encoding") != bytes.npos);
+    const std::size_t declaration = bytes.starts_with("<?xml ") ? 2 : 0;
+    return form == Form::xml && (bytes.find('\r') != bytes.npos || bytes.find("encoding") != bytes.npos ||
+                                 bytes.find("<?", declaration) != bytes.npos);
 }
 
 } // namespace
