@@ -47,13 +47,20 @@ Runtime::Error linkError(const fs::path& file) {
     return {.message = "is a link that leads out of the source bundle", .file = file};
 }
 
-// The source's own Info.plist as it stands, or one that says what is taken for granted without it.
+// The source's own Info.plist, or one that says what is taken for granted without it. In the form that is read fastest,
+// as a program reads it before its first text; one that holds more than texts is left as it stands.
 Runtime::Result<std::string> information(const fs::path& source) {
     const fs::path file = source / "Info.plist";
     if (leadsOut(source, file))
         return linkError(file);
-    if (std::error_code failed; fs::exists(file, failed))
-        return Runtime::readFile(file, Table::maxBytes);
+    if (std::error_code failed; fs::exists(file, failed)) {
+        auto bytes = Runtime::readFile(file, Table::maxBytes);
+        if (!bytes)
+            return bytes;
+        const auto table = Table::read(*bytes);
+        return table && table->notes().empty() ? StringTables::write(table->entries(), StringTables::Form::binary)
+                                               : bytes;
+    }
     const std::array<StringTables::Entry, 1> entries = {{{"CFBundleDevelopmentRegion", "en"}}};
     return StringTables::write(entries, StringTables::Form::binary);
 }

@@ -54,6 +54,24 @@ TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "en");
 }
 
+TEST(CompileBundle, KeepsWhatTheBundleSaysOfItself) {
+    const Support::TemporaryFolder folder;
+    folder.write("source/Info.plist", "CFBundleDevelopmentRegion = de; Other = text;");
+    ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
+    const auto information = Table::read(Support::contents(folder / "out.bundle/Info.plist"));
+    ASSERT_TRUE(information);
+    EXPECT_EQ(information->form(), Form::binary);
+    EXPECT_EQ(information->entries().size(), 2U);
+    EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "de");
+    EXPECT_EQ(information->find("Other"), "text");
+
+    for (const char* more : {"<plist><dict><key>a</key><array/></dict></plist>", "no table at all"}) {
+        folder.write("source/Info.plist", more);
+        ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
+        EXPECT_EQ(Support::contents(folder / "out.bundle/Info.plist"), more);
+    }
+}
+
 TEST(CompileBundle, RendersDrawingsInTheSizeTheyHave) {
     const struct {
         int line;
