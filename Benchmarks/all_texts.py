@@ -1,14 +1,14 @@
-"""Writes a source with one function, readAllTexts(), that reads every accessor declared in HEADERS once: OUT HEADERS..."""
+"""Writes a source with one function, readAllTexts(), that reads every accessor declared in the headers below FOLDER once: OUT FOLDER."""
 import pathlib
 import re
 import sys
 
-out, headers = sys.argv[1], sys.argv[2:]
+out, headers = sys.argv[1], pathlib.Path(sys.argv[2]).rglob("*.h")
 calls = []
 for header in sorted(headers):
     space = ""
     for found in re.finditer(r"^namespace (\S+) \{|^LUMORA_EXPORT (?:const std::string&|std::string) (\w+)\(([^)]*)\)",
-                             pathlib.Path(header).read_text(encoding="utf-8"), re.M):
+                             header.read_text(encoding="utf-8"), re.M):
         if found[1]:
             space = found[1]
         else:
