@@ -28,6 +28,8 @@ endif()
 add_library(LumoraBuildRules INTERFACE)
 target_compile_options(LumoraBuildRules INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
                        $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
+# Not -O3: a seventh less code, all of it as fast or faster, and fewer pages to load at a process's start.
+target_compile_options(LumoraBuildRules INTERFACE $<$<CONFIG:Release>:-O2>)
 if(LUMORA_FUZZERS) # libraries too: what is not instrumented guides no fuzzer
     target_compile_options(LumoraBuildRules INTERFACE -fsanitize=fuzzer-no-link)
     target_link_options(LumoraBuildRules INTERFACE -fsanitize=fuzzer-no-link)

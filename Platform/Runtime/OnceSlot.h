@@ -19,17 +19,16 @@ public:
     OnceSlot(const OnceSlot&) = delete;
     OnceSlot& operator=(const OnceSlot&) = delete;
 
-    // The value, or null as long as nobody has made it.
-    const T* find() const noexcept {
-        return state_.load(std::memory_order_acquire) == made ? std::launder(reinterpret_cast<const T*>(storage_))
-                                                              : nullptr;
-    }
+    // Whether somebody has made it.
+    bool isMade() const noexcept { return state_.load(std::memory_order_acquire) == made; }
+    // The value; only once isMade().
+    const T& value() const noexcept { return *std::launder(reinterpret_cast<const T*>(storage_)); }
     // The value, made by `make()` if nobody has made it yet. An exception of `make` leaves the slot as it was, for the
     // next reader to try again.
     template <class Make> const T& get(Make&& make) {
-        if (state_.load(std::memory_order_acquire) != made) [[unlikely]]
+        if (!isMade()) [[unlikely]]
             fill<std::remove_cvref_t<Make>>(make);
-        return *std::launder(reinterpret_cast<const T*>(storage_));
+        return value();
     }
 
 private:

@@ -42,11 +42,10 @@ constinit ::Runtime::OnceSlot<std::string> slots[9];
 }
 
 inline const std::string& text(std::size_t entry) noexcept {
-    const std::string* known = slots[entry].find();
-    return known != nullptr ? *known : made(entry);
+    return slots[entry].isMade() ? slots[entry].value() : made(entry);
 }
 
-std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
+[[gnu::noinline]] std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
     return ::Runtime::attempt([&] { return textAt(characters, places + entry, arguments); });
 }
 
