@@ -140,10 +140,7 @@ void appendMagnitude(std::string& out, const NumberPattern& pattern, std::uint64
 
 Kept<NumberPattern> numberPattern(std::string_view locale, NumberStyle style) {
     static constinit std::array<LocaleCache<NumberPattern>, 2> caches;
-    return caches[static_cast<std::size_t>(style)].get(locale, [&] {
-        const Intl::Services* services = Intl::services();
-        return services != nullptr ? services->numberPattern(locale, style) : Intl::plainNumberPattern(style);
-    });
+    return caches[static_cast<std::size_t>(style)].get(locale, [&] { return Intl::numberPattern(locale, style); });
 }
 
 void appendWhole(std::string& out, const NumberPattern& pattern, std::string_view digits) {

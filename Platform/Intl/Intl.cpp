@@ -1,7 +1,9 @@
 #include "Intl/Intl.h"
 
+#include "Intl/KnownNumbers.h"
 #include "Runtime/Companion.h"
 #include "Runtime/OnceSlot.h"
+#include <utility>
 
 namespace Intl {
 
@@ -11,6 +13,13 @@ const Services* services() {
         void* entry = Runtime::companionSymbol("lumora-intl.so", "lumoraIntlServices");
         return entry == nullptr ? nullptr : reinterpret_cast<const Services* (*)()>(entry)();
     });
+}
+
+NumberPattern numberPattern(std::string_view locale, NumberStyle style) {
+    if (auto known = knownNumberPattern(locale, style))
+        return *std::move(known);
+    const Services* const all = services();
+    return all != nullptr ? all->numberPattern(locale, style) : plainNumberPattern(style);
 }
 
 } // namespace Intl

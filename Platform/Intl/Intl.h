@@ -5,7 +5,7 @@
 // what is returned by reference lives until the process ends.
 #pragma once
 
-#include <array>
+#include "Intl/NumberPattern.h"
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -15,37 +15,6 @@
 #include <string_view>
 
 namespace Intl {
-
-enum class NumberStyle { decimal, percent };
-
-// How one locale writes numbers of one style. Affixes hold the sign where the locale puts it. As made here: the plain
-// decimal form, ASCII without grouping.
-struct NumberPattern {
-    std::array<std::string, 10> digits = {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"};
-    std::string positivePrefix, positiveSuffix;
-    std::string negativePrefix = "-", negativeSuffix;
-    std::string plusSign = "+", minusSign = "-";
-    std::string decimalSeparator = ".", groupingSeparator;
-    std::string infinity = "∞", notANumber = "NaN";
-    unsigned primaryGrouping = 0;   // digits of the last group; 0: no grouping
-    unsigned secondaryGrouping = 0; // digits of the groups before it
-    unsigned minimumGrouping = 1;   // digits that must stand before the first separator
-    unsigned maximumFraction = 3;
-    unsigned minimumFraction = 0;
-    unsigned powerOfTen = 0; // how far the point moves before a number is written: 2 for percent
-};
-
-// The plain form of a style: what there is without knowledge of the locale.
-[[nodiscard]] inline NumberPattern plainNumberPattern(NumberStyle style) {
-    NumberPattern pattern;
-    if (style == NumberStyle::percent) {
-        pattern.positiveSuffix += '%';
-        pattern.negativeSuffix += '%';
-        pattern.maximumFraction = 0;
-        pattern.powerOfTen = 2;
-    }
-    return pattern;
-}
 
 // How one locale counts years.
 class YearPhrases {
@@ -75,5 +44,8 @@ protected:
 // The services; null when the companion is absent, in which case callers fall back to plain forms. Loaded at the first
 // call.
 [[nodiscard]] const Services* services();
+
+// How the locale writes numbers: from what the build wrote down of it, else from the services, else plainly.
+[[nodiscard]] NumberPattern numberPattern(std::string_view locale, NumberStyle style);
 
 } // namespace Intl
