@@ -3,8 +3,8 @@
 #include "Foundation/internal/HostState.h"
 #include "Foundation/internal/LanguageChoice.h"
 #include "Foundation/internal/Localization.h"
-#include "Foundation/internal/Passing.h"
 #include "Runtime/CodeLocation.h"
+#include "Runtime/Passing.h"
 #include "StringTables/Table.h"
 #include <algorithm>
 #include <atomic>
@@ -47,7 +47,7 @@ std::optional<std::vector<std::string>> listedLanguages(const std::string& path)
     std::vector<std::string> names;
     const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(path.c_str()), &::closedir);
     if (directory == nullptr) {
-        detail::throwIfPassing({.cause = errno});
+        Runtime::throwIfPassing({.cause = errno});
         return names;
     }
     // Its end and a failure look the same but for errno.
@@ -57,7 +57,7 @@ std::optional<std::vector<std::string>> listedLanguages(const std::string& path)
             names.emplace_back(name.substr(0, name.size() - suffix.size()));
         errno = 0;
     }
-    detail::throwIfPassing({.cause = errno});
+    Runtime::throwIfPassing({.cause = errno});
     return isAt(directory.get(), path) ? std::optional(std::move(names)) : std::nullopt;
 }
 
@@ -73,7 +73,7 @@ std::vector<std::string> languageFolders(const std::string& path) {
 std::string developmentRegion(const std::string& path) {
     const auto info = StringTables::Table::readFile(path + "/Info.plist");
     if (!info)
-        detail::throwIfPassing(info.error());
+        Runtime::throwIfPassing(info.error());
     else if (const auto region = info->find("CFBundleDevelopmentRegion"))
         return std::string(*region);
     return "en";

@@ -3,6 +3,7 @@
 #include "Intl/KnownNumbers.h"
 #include "Runtime/Companion.h"
 #include "Runtime/OnceSlot.h"
+#include "Runtime/Passing.h"
 #include <utility>
 
 namespace Intl {
@@ -10,8 +11,11 @@ namespace Intl {
 const Services* services() {
     static constinit Runtime::OnceSlot<const Services*> slot;
     return slot.get([]() -> const Services* {
-        void* entry = Runtime::companionSymbol("lumora-intl.so", "lumoraIntlServices");
-        return entry == nullptr ? nullptr : reinterpret_cast<const Services* (*)()>(entry)();
+        const auto entry = Runtime::companionSymbol("lumora-intl.so", "lumoraIntlServices");
+        if (entry)
+            return reinterpret_cast<const Services* (*)()>(*entry)();
+        Runtime::throwIfPassing(entry.error());
+        return nullptr;
     });
 }
 

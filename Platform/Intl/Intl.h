@@ -42,10 +42,12 @@ protected:
 };
 
 // The services; null when the companion is absent, in which case callers fall back to plain forms. Loaded at the first
-// call.
+// call. Where that fails for the moment only, std::bad_alloc or std::system_error is thrown, so that nobody keeps a
+// plain form as the answer, and the next call tries again.
 [[nodiscard]] const Services* services();
 
 // How the locale writes numbers: from what the build wrote down of it, else from the services, else plainly.
+// Throws as they do.
 [[nodiscard]] NumberPattern numberPattern(std::string_view locale, NumberStyle style);
 
 } // namespace Intl

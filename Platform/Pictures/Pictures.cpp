@@ -62,17 +62,17 @@ std::optional<Size> jpegSize(Bytes bytes) {
     return std::nullopt;
 }
 
-// Null when the companion cannot be loaded, which is tried again: descriptors may lack for the moment only.
-const Decoders* decoders() {
+// An error is not kept: descriptors may lack for the moment only.
+Runtime::Result<const Decoders*> decoders() {
     static constinit std::atomic<const Decoders*> loaded{nullptr};
     if (const Decoders* known = loaded.load(std::memory_order_acquire))
         return known;
-    const auto open =
-        reinterpret_cast<decltype(&lumoraPictures)>(Runtime::companionSymbol("lumora-pictures.so", "lumoraPictures"));
-    if (open == nullptr)
-        return nullptr;
-    loaded.store(open(), std::memory_order_release); // the same object for every thread
-    return loaded.load(std::memory_order_relaxed);
+    const auto entry = Runtime::companionSymbol("lumora-pictures.so", "lumoraPictures");
+    if (!entry)
+        return entry.error();
+    const Decoders* const opened = reinterpret_cast<decltype(&lumoraPictures)>(*entry)();
+    loaded.store(opened, std::memory_order_release); // the same object for every thread
+    return opened;
 }
 
 } // namespace
@@ -92,10 +92,10 @@ Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes, std::uint64_
     const auto size = measure(bytes);
     if (!size)
         return size.error();
-    const Decoders* found = decoders();
-    if (found == nullptr)
-        return error("cannot be decoded: lumora-pictures.so cannot be loaded");
-    return size->encoding == Encoding::png ? found->png(bytes, maxPixels) : found->jpeg(bytes, maxPixels);
+    const auto found = decoders();
+    if (!found)
+        return found.error();
+    return size->encoding == Encoding::png ? (*found)->png(bytes, maxPixels) : (*found)->jpeg(bytes, maxPixels);
 }
 
 } // namespace Pictures

@@ -27,7 +27,7 @@ struct Size {
 [[nodiscard]] Runtime::Result<Size> measure(std::span<const std::uint8_t> bytes);
 
 // Decodes a whole picture. Errors: those of measure(), more pixels than `maxPixels` (told before memory is taken),
-// damaged (with the decoder's reason), no companion.
+// damaged (with the decoder's reason), no companion (which names its file, and may be passing).
 [[nodiscard]] Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes,
                                              std::uint64_t maxPixels = std::uint64_t{64} << 20);
 

@@ -2,19 +2,31 @@
 
 #include "Runtime/CodeLocation.h"
 #include "Runtime/Memory.h"
+#include "Runtime/OpenFile.h"
+#include <cstddef>
 #include <dlfcn.h>
+#include <limits>
 
 namespace Runtime {
 
-void* companionSymbol(const char* file, const char* symbol) {
+Result<void*> companionSymbol(const char* file, const char* symbol) {
     static constexpr char here = 0;
     const std::string path = codeLocation(&here).directory + "/lumora/" + file;
-    void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (library == nullptr) { // the dynamic linker gives its reasons in words only, and not always the right ones
+    void* found = nullptr;
+    // Other threads take and give back descriptors meanwhile, so one look after a failure does not tell its reason.
+    for (int tries = 0; tries < 3 && found == nullptr; ++tries) {
+        if (void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL)) {
+            found = ::dlsym(library, symbol);
+            continue;
+        }
+        // The dynamic linker gives its reasons in words only, and not always the right ones.
         demandMemory();
-        library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+        if (const auto opened = OpenFile::open(path, std::numeric_limits<std::size_t>::max()); !opened)
+            return opened.error();
     }
-    return library == nullptr ? nullptr : ::dlsym(library, symbol);
+    if (found == nullptr)
+        return Error{.message = "cannot be loaded", .file = path};
+    return found;
 }
 
 } // namespace Runtime

@@ -3,12 +3,15 @@
 // does together, lie in companion libraries. One is opened when its service is first asked for.
 #pragma once
 
+#include "Runtime/Result.h"
+
 namespace Runtime {
 
 // Opens the companion `file` ("lumora-intl.so") from the folder lumora/ beside the shared object that holds this code
-// and returns the address of its exported function `symbol`; null when the companion is absent or has no such function.
-// Nothing is searched elsewhere, whatever the process's directory or environment. Stays open until the process ends.
-// Any thread; callers keep the answer. Want of memory is no answer to keep: std::bad_alloc is thrown.
-[[nodiscard]] void* companionSymbol(const char* file, const char* symbol);
+// and returns the address of its exported function `symbol`. Nothing is searched elsewhere, whatever the process's
+// directory or environment. Stays open until the process ends. Errors: the companion is absent, cannot be loaded, or
+// has no such function. Any thread; callers keep the answer, but no error that is passing. For want of memory
+// std::bad_alloc is thrown.
+[[nodiscard]] Result<void*> companionSymbol(const char* file, const char* symbol);
 
 } // namespace Runtime

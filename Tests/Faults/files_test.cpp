@@ -56,6 +56,38 @@ TEST(Files, NoDescriptorsGiveNoPixelsForTheMoment) {
               0);
 }
 
+// The bundle and its tables are read already, so what lacks is the descriptor for the language data.
+TEST(Files, NoDescriptorsGiveNoPoorerFormsForGood) {
+    const struct {
+        int line;
+        const char* language;
+        const char* locale;
+        std::string (*read)();
+        const char* otherwise;
+        const char* right;
+    } cases[] = {
+        {__LINE__, "es-MX", "es_MX", [] { return Lumora::Localization::currentLanguageCode().rawValue(); }, "en",
+         "es-419"},
+        {__LINE__, "es-MX", "es_MX", [] { return Lumora::Localization::legacyTr("Continue"); }, "", "Continuar"},
+        {__LINE__, "ru", "ru_RU", [] { return Lumora::Localization::legacyTrAge(25); }, "", "25 лет"},
+        {__LINE__, "de", "de_DE@numbers=arab", [] { return Lumora::Localization::legacyTrNumber(-1234.5, false); }, "",
+         "\u061C-\u0661\u066C\u0662\u0663\u0664\u066B\u0665"},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(Child::exitOf([&] {
+                      static_cast<void>(Lumora::LumoraResources::bundle());
+                      Foundation::Host::setPreferredLanguages({one.language});
+                      Foundation::Host::setCurrentLocale(one.locale);
+                      const rlim_t old = setDescriptors(0);
+                      const std::string first = one.read();
+                      setDescriptors(old);
+                      const std::string then = one.read();
+                      return first != one.otherwise ? 1 : then != one.right ? 2 : 0;
+                  }),
+                  0)
+            << "line " << one.line;
+}
+
 // root may read everything, so another user does the reading.
 TEST(Files, WhatMayNotBeReadIsMissing) {
     const Support::TemporaryFolder folder;

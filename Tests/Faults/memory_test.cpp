@@ -123,13 +123,24 @@ const Case cases[] = {
          return Texts::DeleteAccount::activeSubscriptionServer(std::vector<int>{1, 2});
      }},
     {"phrase", [] { return Texts::locYears(25); }, "25 "}, // without its noun
-    {"number", [] { return Localization::legacyTrNumber(-1234567.5, true); }, "", "-1,234,567.5"},
+    {"number",
+     [] {
+         Foundation::Host::setCurrentLocale("en_RU@numbers=arab"); // which the build has written nothing down of
+         return Localization::legacyTrNumber(25, true);
+     },
+     "", "\u061C+\u0662\u0665"},
     {"percent", [] { return Localization::legacyTrPercent(0.25, true); }},
     {"year", [] { return Localization::legacyTrYear(25); }},
     {"age", [] { return Localization::legacyTrAge(25); }},
     {"one language", [] { return Localization::localizationFileTranslation("ja", "Continue"); }},
     {"by key", [] { return Localization::legacyTr("Continue"); }},
     {"language", [] { return Localization::currentLanguageCode().rawValue(); }, "en"},
+    {"matched language",
+     [] {
+         Foundation::Host::setPreferredLanguages({"es-MX"});
+         return Localization::currentLanguageCode().rawValue();
+     },
+     "en", "es-419"},
     {"languages", [] { return joined(Localization::allSupportedLocalizations()); }},
     {"C", [] { return taken(LocPercent(0.5)); }},
     {"C text", [] { return taken(NSStringCreate(longText.c_str())); }},
