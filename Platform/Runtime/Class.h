@@ -24,7 +24,7 @@ namespace Runtime {
 using TypeTag = const std::type_info*;
 
 // What an argument or a result travels as: every whole number as std::int64_t, every floating one as double, every
-// text as std::string, anything else as itself.
+// text as std::string (a null C text as the empty one), anything else as itself.
 template <class T>
 using Carried = std::conditional_t<
     std::same_as<std::remove_cvref_t<T>, bool>, bool,
@@ -76,6 +76,13 @@ namespace detail {
 LUMORA_EXPORT const Message& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
                                      TypeTag result) noexcept;
 
+template <class T> Carried<T> carried(const T& value) {
+    if constexpr (std::is_pointer_v<T> || std::is_null_pointer_v<T>)
+        if (value == nullptr)
+            return {};
+    return static_cast<Carried<T>>(value);
+}
+
 template <class Function, Function* function> struct Bridge;
 template <class Result, class... Arguments, Result (*function)(Arguments...)>
 struct Bridge<Result(Arguments...), function> {
@@ -121,7 +128,7 @@ Carried<Result> send(const Class* cls, std::string_view selector, const Argument
         Carried<Result> taken = std::move(*answer);
         std::destroy_at(answer);
         return taken;
-    }(static_cast<Carried<Arguments>>(arguments)...);
+    }(detail::carried(arguments)...);
 }
 
 } // namespace Runtime

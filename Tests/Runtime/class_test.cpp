@@ -36,6 +36,9 @@ TEST(Class, CarriesArgumentsOfEveryWidth) {
     EXPECT_EQ(Runtime::send<std::string>(&door, selector, "Ann", 3, 0.5F, true), "Ann 3 0.500000!");
     EXPECT_EQ(Runtime::send<std::string>(&door, selector, std::string_view("Bo"), std::uint8_t{200}, 2.0, false),
               "Bo 200 2.000000.");
+    EXPECT_EQ(Runtime::send<std::string>(&door, selector, static_cast<const char*>(nullptr), 1, 1.0, true),
+              " 1 1.000000!");
+    EXPECT_EQ(Runtime::send<std::string>(&door, selector, nullptr, 1, 1.0, true), " 1 1.000000!");
     EXPECT_EQ(Runtime::send<std::vector<std::string>>(&door, "names"), (std::vector<std::string>{"a", "b"}));
     EXPECT_TRUE(Runtime::send<bool>(&door, "isOpen"));
 }
