@@ -38,25 +38,24 @@ bool isPlain(std::string_view name) {
 }
 
 HostState environmentState() {
-    std::string_view name;
-    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
-        if (name = environment(variable); !name.empty())
-            break;
-    // As everywhere in Unix, a user of the plain locale gets the plain language whatever LANGUAGE says.
-    if (isPlain(name))
-        return {.languages = {"en"}, .locale = Locale(std::string(plainLocale))};
+    const std::string_view all = environment("LC_ALL"), messages = environment("LC_MESSAGES"),
+                           rest = environment("LANG");
+    const std::string_view language = !all.empty() ? all : !messages.empty() ? messages : rest;
+    const std::string_view locale = !all.empty() ? all : !isPlain(rest) ? rest : messages;
     std::vector<std::string> languages;
-    std::string_view wanted = environment("LANGUAGE");
+    // As everywhere in Unix, a user who asks for the plain locale gets the plain language whatever LANGUAGE says.
+    std::string_view wanted = language.empty() || !isPlain(language) ? environment("LANGUAGE") : std::string_view();
     while (!wanted.empty()) {
         const std::string_view one = withoutSuffix(wanted, ':');
         wanted.remove_prefix(std::min(one.size() + 1, wanted.size()));
         if (!one.empty())
             languages.push_back(languageTag(one));
     }
-    if (const std::string own = languageTag(name); std::ranges::find(languages, own) == languages.end())
+    if (const std::string own = isPlain(language) ? "en" : languageTag(language);
+        std::ranges::find(languages, own) == languages.end())
         languages.push_back(own);
-    return {.languages = std::move(languages),
-            .locale = Locale(std::string(withoutSuffix(withoutSuffix(name, '@'), '.')))};
+    const auto identifier = isPlain(locale) ? plainLocale : withoutSuffix(withoutSuffix(locale, '@'), '.');
+    return {.languages = std::move(languages), .locale = Locale(std::string(identifier))};
 }
 
 // Call with `changing` held.

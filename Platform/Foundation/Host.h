@@ -15,7 +15,9 @@ namespace Foundation::Host {
 LUMORA_EXPORT void setPreferredLanguages(std::vector<std::string> languages);
 // The identifier of the user's locale: "de_AT". Replaces the environment's.
 LUMORA_EXPORT void setCurrentLocale(std::string_view identifier);
-// Back to the environment: LANGUAGE, LC_ALL, LC_MESSAGES and LANG, read at this call and at the first use.
+// Back to the environment, read at this call and at the first use. Languages: those of LANGUAGE, then that of the first
+// of LC_ALL, LC_MESSAGES and LANG that is not empty; English alone where that one says "C". Locale: that of LC_ALL,
+// else of LANG, or where LANG says nothing or "C", of LC_MESSAGES. What nobody says is English and "en_US".
 LUMORA_EXPORT void reset();
 
 } // namespace Foundation::Host
