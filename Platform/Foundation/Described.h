@@ -9,7 +9,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
-#include <new> // std::bad_alloc
+#include <new>      // std::bad_alloc
+#include <optional> // std::nullopt_t
 #include <span>
 #include <string>
 #include <string_view>
@@ -66,7 +67,7 @@ concept Sequence = requires(const T& value) {
 // - a floating number: the fewest digits that give the same value back, with a point or an exponent: "2.0", "0.1",
 // "1e+16";
 // - a type with `std::string describe(const T&)` in its namespace: what that returns;
-// - an optional: "nil", or "Optional(5)"; a sequence: "[1, 2]". Texts inside these are quoted: ["a"].
+// - std::nullopt: "nil"; an optional: "nil" or "Optional(5)"; a sequence: "[1, 2]". Texts inside are quoted: ["a"].
 // Borrows texts, which must outlive it; nothing but descriptions, optionals and sequences needs memory. When that is
 // out the description is empty; any other exception of a describe() goes to whoever asked for the description.
 class Described {
@@ -105,7 +106,7 @@ private:
             text_ = detail::floatingText(value, buffer_);
         else if constexpr (std::is_pointer_v<T> && std::convertible_to<T, const char*>)
             value == nullptr ? void(text_ = "nil") : borrow(value);
-        else if constexpr (std::is_null_pointer_v<T>)
+        else if constexpr (std::is_null_pointer_v<T> || std::same_as<T, std::nullopt_t>)
             text_ = "nil";
         else if constexpr (detail::DescribesItself<T>)
             text_ = owned_ = describe(value);

@@ -99,6 +99,7 @@ TEST(Described, FloatingNumbersAreTheFewestDigitsThatGiveThemBack) {
 
 TEST(Described, OptionalsAndSequencesDescribeWhatTheyHold) {
     EXPECT_EQ(text(std::optional<int>()), "nil");
+    EXPECT_EQ(text(std::nullopt), "nil");
     EXPECT_EQ(text(std::optional(5)), "Optional(5)");
     EXPECT_EQ(text(std::optional<std::string>("a")), "Optional(\"a\")");
     EXPECT_EQ(text(std::optional<std::optional<int>>(std::in_place)), "Optional(nil)");
