@@ -27,7 +27,8 @@ public:
 
     // The asset it names, or null.
     [[nodiscard]] const NamedAsset* asset() const noexcept { return std::get_if<NamedAsset>(&state_); }
-    // What a renderer draws for these traits; no value when there is no asset of the name.
+    // What a renderer draws for these traits, with those in force now where they are unspecified; no value when there
+    // is no asset of the name.
     [[nodiscard]] std::optional<UIKit::UIColor> resolve(const UIKit::UITraitCollection& traits) const;
 
     friend bool operator==(const Color&, const Color&) = default;

@@ -31,7 +31,8 @@ public:
     [[nodiscard]] const NamedAsset& asset() const noexcept { return asset_; }
     [[nodiscard]] const std::optional<Text>& label() const noexcept { return label_; }
     [[nodiscard]] bool isDecorative() const noexcept { return isDecorative_; }
-    // What a renderer draws for these traits; no value when there is no asset of the name.
+    // What a renderer draws for these traits, with those in force where they are unspecified; no value when there is no
+    // asset of the name.
     [[nodiscard]] std::optional<UIKit::UIImage> resolve(const UIKit::UITraitCollection& traits) const;
 
     friend bool operator==(const Image&, const Image&) = default;

@@ -1,7 +1,6 @@
 #include "UIKit/internal/BundleCatalog.h"
 
 #include "Runtime/KeptList.h"
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -38,9 +37,10 @@ std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name, c
     return index ? std::optional(Found{&*opened->catalog, *index}) : std::nullopt;
 }
 
-AssetCatalog::Fit wanted(const UITraitCollection& traits) noexcept {
+AssetCatalog::Fit wanted(const UITraitCollection& given) noexcept {
     using namespace AssetCatalog;
-    const double scale = traits.displayScale > 0 ? std::min(std::ceil(traits.displayScale), 255.0) : 1;
+    const UITraitCollection traits = given.over(UITraitCollection::current());
+    const double scale = traits.displayScale == 0 ? 1 : std::ceil(traits.displayScale);
     return {static_cast<Appearance>(traits.userInterfaceStyle),
             traits.accessibilityContrast == AccessibilityContrast::high ? Contrast::high : Contrast::any,
             static_cast<Direction>(traits.layoutDirection), static_cast<std::uint8_t>(scale)};

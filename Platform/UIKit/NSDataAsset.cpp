@@ -31,7 +31,7 @@ std::optional<NSDataAsset> NSDataAsset::assetWithName(std::string_view name, con
     if (!found)
         return std::nullopt;
     const AssetCatalog::Entry entry = (*found->catalog)[found->index];
-    const auto data = entry.data(entry.best(detail::wanted(UITraitCollection::current())));
+    const auto data = entry.data(entry.best(detail::wanted({})));
     const Read* read = readFrom(data.blob);
     return read == nullptr ? std::nullopt : std::optional(NSDataAsset(entry.name(), data.typeIdentifier, read->bytes));
 }

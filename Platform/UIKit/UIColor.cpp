@@ -10,11 +10,12 @@ std::optional<UIColor> UIColor::colorNamed(std::string_view name, const Foundati
     const auto found = detail::findAsset(AssetCatalog::Kind::color, name, bundle);
     if (!found)
         return std::nullopt;
-    return UIColor(State(Asset{found->catalog, found->index, traits == nullptr ? UITraitCollection{} : *traits}));
+    return UIColor(
+        State(Asset{found->catalog, found->index, traits == nullptr ? UITraitCollection{} : traits->over({})}));
 }
 
 std::optional<RGBA> UIColor::rgba() const noexcept {
-    const UIColor now = resolved(UITraitCollection::current());
+    const UIColor now = resolved({});
     const RGBA* components = std::get_if<RGBA>(&now.state_);
     return components == nullptr ? std::nullopt : std::optional(*components);
 }

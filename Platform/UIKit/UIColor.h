@@ -39,7 +39,8 @@ public:
 
     // The components for the traits in force; no value when the colour is not one of red, green and blue.
     [[nodiscard]] std::optional<RGBA> rgba() const noexcept;
-    // The colour that this one is for these traits; it follows no change.
+    // The colour that this one is for these traits, with those in force now where they are unspecified; it follows no
+    // change.
     [[nodiscard]] UIColor resolved(const UITraitCollection& traits) const noexcept;
     // The picture of a pattern, or null.
     [[nodiscard]] const UIImage* patternImage() const noexcept { return std::get_if<UIImage>(&state_); }

@@ -17,7 +17,7 @@ detail::PixelCache& cache() {
 }
 
 AssetCatalog::PictureView pictureFor(const AssetCatalog::Entry& entry, const UITraitCollection& traits) noexcept {
-    return entry.picture(entry.best(detail::wanted(traits.over(UITraitCollection::current()))));
+    return entry.picture(entry.best(detail::wanted(traits)));
 }
 
 double scaleOf(const AssetCatalog::PictureView& picture) noexcept {
@@ -31,7 +31,7 @@ std::optional<UIImage> UIImage::imageNamed(std::string_view name, const Foundati
     const auto found = detail::findAsset(AssetCatalog::Kind::image, name, bundle);
     if (!found)
         return std::nullopt;
-    return UIImage(found->catalog, found->index, traits == nullptr ? UITraitCollection{} : *traits);
+    return UIImage(found->catalog, found->index, traits == nullptr ? UITraitCollection{} : traits->over({}));
 }
 
 std::optional<UIImage> UIImage::imageNamedWithConfiguration(std::string_view name, const Foundation::NSBundle& bundle,

@@ -1,5 +1,6 @@
 #include "UIKit/UITraitCollection.h"
 
+#include <algorithm>
 #include <atomic>
 #include <bit>
 
@@ -22,6 +23,12 @@ template <class Trait> Trait either(Trait own, Trait other) noexcept {
     return own == Trait{} ? other : own;
 }
 
+// 0 when it is unspecified.
+double bounded(double scale) noexcept {
+    constexpr double largest = 255; // beyond any screen, and what a catalog can tell
+    return scale > 0 ? std::clamp(scale, 1 / largest, largest) : 0;
+}
+
 } // namespace
 
 UITraitCollection UITraitCollection::current() noexcept {
@@ -30,17 +37,15 @@ UITraitCollection UITraitCollection::current() noexcept {
 }
 
 void UITraitCollection::setCurrent(const UITraitCollection& traits) noexcept {
-    constexpr double largest = 1000; // beyond any screen, far from overflow
-    const bool isScale = traits.displayScale > 0 && traits.displayScale <= largest;
-    const Packed packed{isScale ? static_cast<float>(traits.displayScale) : 0.0F, traits.userInterfaceStyle,
+    const Packed packed{static_cast<float>(bounded(traits.displayScale)), traits.userInterfaceStyle,
                         traits.accessibilityContrast, traits.layoutDirection};
     inForce.store(std::bit_cast<std::uint64_t>(packed), std::memory_order_relaxed);
 }
 
 UITraitCollection UITraitCollection::over(const UITraitCollection& under) const noexcept {
     return {either(userInterfaceStyle, under.userInterfaceStyle),
-            either(accessibilityContrast, under.accessibilityContrast), either(displayScale, under.displayScale),
-            either(layoutDirection, under.layoutDirection)};
+            either(accessibilityContrast, under.accessibilityContrast),
+            either(bounded(displayScale), bounded(under.displayScale)), either(layoutDirection, under.layoutDirection)};
 }
 
 } // namespace UIKit

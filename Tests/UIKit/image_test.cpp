@@ -123,4 +123,16 @@ TEST(SwiftUI, ViewsNameAnAssetAndResolveLater) {
     EXPECT_NE(ink, Color(red));
 }
 
+TEST(SwiftUI, UnspecifiedTraitsAreThoseInForce) {
+    const Sample::Traits scope({.userInterfaceStyle = UserInterfaceStyle::dark, .displayScale = 1});
+    const UITraitCollection contrast{.accessibilityContrast = AccessibilityContrast::high};
+    const UIColor ink = UIColor::colorNamed("ink", bundle()).value();
+    const RGBA dark{0.875, 0.75, 0.5, 1}, white{1, 1, 1, 1};
+    EXPECT_EQ(SwiftUI::Image("send", bundle()).resolve(contrast)->pixelWidth(), 20U);
+    EXPECT_EQ(SwiftUI::Color("ink", bundle()).resolve(contrast)->rgba(), white);
+    EXPECT_EQ(SwiftUI::Color(ink).resolve({})->rgba(), dark);
+    EXPECT_EQ(ink.resolved(contrast).rgba(), white);
+    EXPECT_EQ(ink.resolved({.userInterfaceStyle = UserInterfaceStyle::light}).rgba(), (RGBA{0.125, 0.25, 0.5, 1}));
+}
+
 } // namespace

@@ -1,6 +1,7 @@
 #include "UIKit/UITraitCollection.h"
 
 #include "SampleBundle.h"
+#include "UIKit/UIImage.h"
 #include <atomic>
 #include <gtest/gtest.h>
 #include <limits>
@@ -18,9 +19,37 @@ TEST(Traits, SetAsAWhole) {
                                 .layoutDirection = LayoutDirection::rightToLeft};
     const Sample::Traits scope(all);
     EXPECT_EQ(UITraitCollection::current(), all);
-    for (const double none : {0.0, -2.0, 1e300, std::numeric_limits<double>::quiet_NaN()}) {
-        UITraitCollection::setCurrent({.displayScale = none});
-        EXPECT_EQ(UITraitCollection::current(), UITraitCollection{});
+}
+
+// A scale is judged by one rule, whether it is in force or given with a look-up.
+TEST(Traits, NoScaleIsUnspecifiedAndAnyOtherIsBounded) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    const struct {
+        int line;
+        double given, taken; // where 3 is what lies below
+        unsigned pixels;     // the side of the variant
+    } cases[] = {
+        {__LINE__, 0, 3, 30},
+        {__LINE__, -2, 3, 30},
+        {__LINE__, -infinity, 3, 30},
+        {__LINE__, std::numeric_limits<double>::quiet_NaN(), 3, 30},
+        {__LINE__, 1, 1, 10},
+        {__LINE__, 1000, 255, 30},
+        {__LINE__, 1e9, 255, 30},
+        {__LINE__, infinity, 255, 30},
+        {__LINE__, 1e-300, 1 / 255.0, 10},
+    };
+    for (const auto& one : cases) {
+        SCOPED_TRACE(one.line);
+        const UITraitCollection given{.displayScale = one.given};
+        EXPECT_EQ(given.over({.displayScale = 3}).displayScale, one.taken);
+        EXPECT_EQ(UITraitCollection{}.over(given).displayScale, one.taken == 3 ? 0 : one.taken);
+        const Sample::Traits scope(given);
+        EXPECT_EQ(UITraitCollection::current().displayScale, one.taken == 3 ? 0 : static_cast<float>(one.taken));
+        UITraitCollection::setCurrent({.displayScale = 3});
+        const UIImage image = UIImage::imageNamed("send", Sample::bundle(), &given).value();
+        EXPECT_EQ(image.pixelWidth(), one.pixels);
+        EXPECT_EQ(image, image); // also of no number
     }
 }
 

@@ -22,7 +22,8 @@ struct Found {
 [[nodiscard]] std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name,
                                              const Foundation::NSBundle& bundle);
 
-// What a reader with these traits wants: of the screen's scale the next whole one.
+// What a reader with these traits wants, with those in force where they are unspecified: of the screen's scale the next
+// whole one.
 [[nodiscard]] AssetCatalog::Fit wanted(const UITraitCollection& traits) noexcept;
 
 } // namespace UIKit::detail
