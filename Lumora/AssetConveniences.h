@@ -1,6 +1,14 @@
 // Lumora/AssetConveniences.h
 // What the module adds to the platform's image, colour and data types: making them from its records, and pictures by
 // their bare name. A name of the platform's is a namespace here: Lumora::UIColor adds to UIKit::UIColor.
+//
+// Those that take a Class make one of a class of the user's that is derived from the platform's. It is asked itself if
+// it has a look-up of its own, a static function that takes what the platform's of that name takes:
+// - colours: colorNamed(name, bundle, traits);
+// - data: assetWithName(name, bundle);
+// - pictures: imageNamedWithConfiguration(name, bundle, traits), or else imageNamed(name, bundle, traits).
+// The result is then what that returns. A class without one is made from what the platform finds, as Class{found}, and
+// the result is an optional Class; one that cannot be made so gives what the platform finds.
 // Text: UTF-8. Threads: any. Ownership: values; see the types themselves.
 #pragma once
 
@@ -10,34 +18,75 @@
 #include "UIKit/UIKit.h"
 #include <optional>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 
 namespace Lumora {
 
+namespace detail {
+
+template <auto> struct Function;
+// Whether both are one function: whether a class has what it is asked for from the platform's.
+template <auto one, auto other>
+concept Same = std::is_same_v<Function<one>, Function<other>>;
+
+// What the platform has found, as one of the user's class where that can be made from it.
+template <class Class, class Base> auto madeFrom(std::optional<Base> found) {
+    if constexpr (requires { Class{*std::move(found)}; })
+        return found ? std::optional<Class>(Class{*std::move(found)}) : std::nullopt;
+    else
+        return found;
+}
+
+} // namespace detail
+
 namespace UIColor {
 
-// The record's colour, or no value when the catalog has none of its name. A class derived from the platform's is asked
-// itself.
+// The record's colour, or no value when the catalog has none of its name.
 template <class Class = UIKit::UIColor> [[nodiscard]] auto withAsset(const LumoraColors& record) {
-    return Class::colorNamed(record.name(), LumoraResources::bundle(), nullptr);
+    auto found = Class::colorNamed(record.name(), LumoraResources::bundle(), nullptr);
+    if constexpr (requires { requires detail::Same<&Class::colorNamed, &UIKit::UIColor::colorNamed>; })
+        return detail::madeFrom<Class>(std::move(found));
+    else
+        return found;
 }
 
 } // namespace UIColor
 
 namespace NSDataAsset {
 
-// The record's data, or no value when the catalog has none of its name. A class derived from the platform's is asked
-// itself.
+// The record's data, or no value when the catalog has none of its name.
 template <class Class = UIKit::NSDataAsset> [[nodiscard]] auto withAsset(const LumoraData& record) {
-    return Class::assetWithName(record.name(), LumoraResources::bundle());
+    auto found = Class::assetWithName(record.name(), LumoraResources::bundle());
+    if constexpr (requires { requires detail::Same<&Class::assetWithName, &UIKit::NSDataAsset::assetWithName>; })
+        return detail::madeFrom<Class>(std::move(found));
+    else
+        return found;
 }
 
 } // namespace NSDataAsset
 
 namespace UIImage {
 
-// The picture of that name, or no value. A class derived from the platform's is asked itself.
+// The picture of that name, or no value.
 template <class Class = UIKit::UIImage> [[nodiscard]] auto withAssetName(std::string_view name) {
-    return Class::imageNamedWithConfiguration(name, LumoraResources::bundle(), nullptr);
+    const Foundation::NSBundle& bundle = LumoraResources::bundle();
+    using Platform = UIKit::UIImage;
+    constexpr bool isPlatforms = requires {
+        requires detail::Same<&Class::imageNamedWithConfiguration, &Platform::imageNamedWithConfiguration>;
+    };
+    constexpr bool isOlderPlatforms = requires {
+        requires detail::Same<&Class::imageNamed, &Platform::imageNamed>;
+    };
+    constexpr bool hasOlder = requires {
+        Class::imageNamed(name, bundle, nullptr);
+    };
+    if constexpr (!isPlatforms)
+        return Class::imageNamedWithConfiguration(name, bundle, nullptr);
+    else if constexpr (hasOlder && !isOlderPlatforms)
+        return Class::imageNamed(name, bundle, nullptr);
+    else
+        return detail::madeFrom<Class>(Platform::imageNamedWithConfiguration(name, bundle, nullptr));
 }
 [[nodiscard]] inline std::optional<UIKit::UIImage> assetNamed(std::string_view name) {
     return withAssetName(name);

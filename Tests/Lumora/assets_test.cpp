@@ -69,7 +69,29 @@ struct PaintedImage : UIKit::UIImage {
         return "painted " + std::string(name);
     }
 };
+struct OlderImage : UIKit::UIImage {
+    static int imageNamed(std::string_view, const Foundation::NSBundle&, const UITraitCollection*) { return 5; }
+};
+// What looks nothing up itself is made from what the platform finds, if it can be.
+template <class Base> struct Made : Base {
+    explicit Made(const Base& base) : Base(base) {}
+};
+template <class Base> struct Unmade : Base {
+    Unmade(const Base& base, int) : Base(base) {}
+};
 TEST(Assets, AskTheClassThatIsMade) {
+    EXPECT_EQ(UIImage::withAssetName<OlderImage>("x"), 5);
+    const std::optional<Made<UIKit::UIImage>> image = UIImage::withAssetName<Made<UIKit::UIImage>>("send");
+    const std::optional<Made<UIKit::UIColor>> color =
+        UIColor::withAsset<Made<UIKit::UIColor>>(LumoraAsset::Colors::progressGreen);
+    const std::optional<Made<UIKit::NSDataAsset>> data =
+        NSDataAsset::withAsset<Made<UIKit::NSDataAsset>>(LumoraAsset::Onboarding::countryRegions);
+    EXPECT_EQ(image.value(), UIImage::assetNamed("send"));
+    EXPECT_EQ(color.value(), LumoraAsset::Colors::progressGreen.color());
+    EXPECT_EQ(data.value().name(), LumoraAsset::Onboarding::countryRegions.name());
+    EXPECT_FALSE(UIImage::withAssetName<Made<UIKit::UIImage>>("no such picture"));
+    const std::optional<UIKit::UIImage> unmade = UIImage::withAssetName<Unmade<UIKit::UIImage>>("send");
+    EXPECT_EQ(unmade, UIImage::assetNamed("send"));
     EXPECT_EQ(*UIColor::withAsset<PaintedColor>(LumoraAsset::Colors::progressGreen), UIKit::UIColor(1, 2, 3, 1));
     EXPECT_EQ(UIImage::withAssetName<PaintedImage>("x"), "painted x");
     EXPECT_FALSE(UIImage::assetNamed("no such picture"));
