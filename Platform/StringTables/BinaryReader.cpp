@@ -1,6 +1,7 @@
 #include "StringTables/internal/Contents.h"
 #include "StringTables/internal/Scan.h"
 #include "StringTables/internal/Unicode.h"
+#include <utility>
 
 namespace StringTables::internal {
 
@@ -43,6 +44,15 @@ private:
     bool object(std::uint64_t number, std::size_t namedAt, Object& out);
     bool count(Object& object);
     bool string(std::uint64_t number, Object& object, std::string_view& out);
+    bool decode(const Object& object, std::string_view& out);
+    bool isOrdered() const noexcept;
+    std::uint64_t offset(std::uint64_t number) const noexcept {
+        return this->number(tableAt_ + static_cast<std::size_t>(number) * offsetSize_, offsetSize_);
+    }
+    // Where the object behind it begins, in a file whose objects are in order.
+    std::uint64_t next(std::uint64_t number) const noexcept {
+        return number + 1 < objects_ ? offset(number + 1) : tableAt_;
+    }
 
     bool fail(std::size_t at, std::string message) {
         error_ = contents_.errorAt(at, std::move(message));
@@ -75,6 +85,7 @@ private:
     static constexpr std::uint32_t leftOut = 0x80000000;
     std::vector<std::string_view> leftOutKeys_; // of entries whose value is no text
     std::size_t unread_;
+    bool isOrdered_ = false; // the objects stand in the order of their numbers, as every writer known puts them
     Runtime::Error error_;
 };
 
@@ -115,6 +126,7 @@ bool BinaryReader::table() {
     if (top.count > Table::maxEntries)
         return fail(top.at, tooManyEntries);
     const auto size = static_cast<std::size_t>(top.count);
+    isOrdered_ = isOrdered() && top.begin + 2 * size * refSize_ <= next(top_);
     contents_.entries.reserve(size);
     readAs_.resize(static_cast<std::size_t>(objects_));
     for (std::size_t i = 0; i < size; ++i)
@@ -159,10 +171,10 @@ bool BinaryReader::entry(std::size_t keyAt, std::size_t textAt) {
 bool BinaryReader::object(std::uint64_t number, std::size_t namedAt, Object& out) {
     if (number >= objects_)
         return fail(namedAt, "there is no object " + std::to_string(number));
-    const std::size_t offsetAt = tableAt_ + static_cast<std::size_t>(number) * offsetSize_;
-    const std::uint64_t at = this->number(offsetAt, offsetSize_);
+    const std::uint64_t at = offset(number);
     if (at < headerSize || at >= tableAt_)
-        return fail(offsetAt, "an object lies outside of the objects' part of the file");
+        return fail(tableAt_ + static_cast<std::size_t>(number) * offsetSize_,
+                    "an object lies outside of the objects' part of the file");
     out.at = static_cast<std::size_t>(at);
     out.type = byte(out.at) >> 4;
     out.count = byte(out.at) & 0xF;
@@ -208,16 +220,40 @@ bool BinaryReader::string(std::uint64_t number, Object& object, std::string_view
     if (out.size() > unread_)
         return fail(object.at, "the strings together are longer than the file");
     unread_ -= out.size();
+    if (isOrdered_ && object.begin + out.size() > next(number))
+        return fail(object.at, "a string reaches into the next object");
     if (object.type == ascii) {
         const char* const end = out.data() + out.size();
         if (const char* const stop = skipAscii(out.data(), end); stop != end)
             return fail(static_cast<std::size_t>(stop - bytes_.data()), "a byte above 0x7F in an ASCII string");
-    } else {
-        const Decoded decoded = decodeUtf16(out, ByteOrder::big, contents_.arena.room(out.size() / 2 * 3));
-        if (decoded.read != out.size())
-            return fail(object.begin + decoded.read, "a lone surrogate in UTF-16");
-        out = contents_.arena.keep(decoded.end);
+        return true;
     }
+    return decode(object, out);
+}
+
+// UTF-16 to UTF-8. Where no other object can lie, it takes the place of the UTF-16 if it is not longer: the first touch
+// of fresh memory costs more than a copy.
+bool BinaryReader::decode(const Object& object, std::string_view& out) {
+    char* const room = contents_.arena.room(out.size() / 2 * 3);
+    const Decoded decoded = decodeUtf16(out, ByteOrder::big, room);
+    if (decoded.read != out.size())
+        return fail(object.begin + decoded.read, "a lone surrogate in UTF-16");
+    const auto size = static_cast<std::size_t>(decoded.end - room);
+    if (!isOrdered_ || size > out.size()) {
+        out = contents_.arena.keep(decoded.end);
+        return true;
+    }
+    std::memcpy(contents_.source.data() + object.begin, room, size);
+    out = bytes_.substr(object.begin, size);
+    return true;
+}
+
+// Whether every object begins behind the one with the number before.
+bool BinaryReader::isOrdered() const noexcept {
+    std::uint64_t before = 0;
+    for (std::uint64_t i = 0; i < objects_; ++i)
+        if (const std::uint64_t at = offset(i); std::exchange(before, at) >= at)
+            return false;
     return true;
 }
 

@@ -33,6 +33,16 @@ const Pairs plainPairs = {{"OK", "Ja"}, {"é", "In Ordnung, weiter"}};
 // Where its parts lie: objects at 8, 13, 16, 19, 22, offsets from 43, trailer from 48.
 constexpr std::size_t trailerAt = 48;
 
+// The same with the offsets of objects 1 and 2 exchanged: `objects` has them exchanged, too.
+std::string disordered(std::vector<std::string> objects, std::size_t offsetSize = 1, std::size_t refSize = 1) {
+    std::swap(objects[1], objects[2]);
+    std::string out = file(objects, offsetSize, refSize);
+    const auto offsets = out.end() - static_cast<std::ptrdiff_t>(32 + objects.size() * offsetSize);
+    const auto size = static_cast<std::ptrdiff_t>(offsetSize);
+    std::swap_ranges(offsets + size, offsets + 2 * size, offsets + 2 * size);
+    return out;
+}
+
 TEST(BinaryTable, ReadsEveryLayout) {
     // The dictionary's references grow with their size; all else stays.
     const auto sized = [](std::size_t refSize) {
@@ -42,6 +52,7 @@ TEST(BinaryTable, ReadsEveryLayout) {
             objects[0] += bigEndian(ref, refSize);
         return objects;
     };
+    EXPECT_EQ(read(disordered(plain)), plainPairs);
     for (std::size_t size = 1; size <= 8; ++size) {
         EXPECT_EQ(read(file(plain, size)), plainPairs) << size;
         EXPECT_EQ(read(file(sized(size), 1, size)), plainPairs) << size;
@@ -52,6 +63,12 @@ TEST(BinaryTable, ReadsEveryLayout) {
     EXPECT_EQ(read(file({"\xD2\1\1\1\2", "\x51k", "\x51v"})), (Pairs{{"k", "v"}}));
     for (const std::string& count : {"\x10\2"s, "\x11\0\2"s, "\x12\0\0\0\2"s, "\x13\0\0\0\0\0\0\0\2"s})
         EXPECT_EQ(read(file({"\xD1\1\2", "\x5F" + count + "OK", "\x51v"})), (Pairs{{"OK", "v"}}));
+    // UTF-16 that is longer, as long and shorter than its UTF-8.
+    const std::vector<std::string> texts = {"\xD3\1\2\3\2\3\4", "\x62\0k\0K"s, "\x63\x04\x14\x04\x30\0!"s,
+                                            "\x62\x65\xE5\x67\x2C", "\x61\x04\x14"};
+    const Pairs pairs = {{"kK", "Да!"}, {"Да!", "日本"}, {"日本", "Д"}};
+    EXPECT_EQ(read(file(texts)), pairs);
+    EXPECT_EQ(read(disordered(texts)), pairs);
     const auto table = StringTables::Table::read(file(plain));
     EXPECT_EQ(table->form(), StringTables::Form::binary);
     EXPECT_EQ(table->locations()[0].line, 0u);
@@ -149,7 +166,9 @@ TEST(BinaryTable, TakesLinearTime) {
         objects[i] = head('\x5F', ((count - i) * 10 + 4) & 0x7F7F7F7F) + "    ";
     objects[0] = head('\xDF', count) + own + own;
     objects.pop_back();
-    EXPECT_NE(refusal(file(objects, 4, 4)).find("the strings together are longer than the file"), std::string::npos);
+    EXPECT_NE(refusal(file(objects, 4, 4)).find("a string reaches into the next object"), std::string::npos);
+    EXPECT_NE(refusal(disordered(objects, 4, 4)).find("the strings together are longer than the file"),
+              std::string::npos);
 }
 
 } // namespace
