@@ -238,13 +238,13 @@ bool BinaryReader::decode(const Object& object, std::string_view& out) {
     const Decoded decoded = decodeUtf16(out, ByteOrder::big, room);
     if (decoded.read != out.size())
         return fail(object.begin + decoded.read, "a lone surrogate in UTF-16");
-    const auto size = static_cast<std::size_t>(decoded.end - room);
-    if (!isOrdered_ || size > out.size()) {
+    const std::string_view text(room, static_cast<std::size_t>(decoded.end - room));
+    if (!isOrdered_ || text.size() > out.size()) {
         out = contents_.arena.keep(decoded.end);
         return true;
     }
-    std::memcpy(contents_.source.data() + object.begin, room, size);
-    out = bytes_.substr(object.begin, size);
+    text.copy(contents_.source.data() + object.begin, text.size());
+    out = bytes_.substr(object.begin, text.size());
     return true;
 }
 

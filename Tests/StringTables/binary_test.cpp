@@ -60,6 +60,7 @@ TEST(BinaryTable, ReadsEveryLayout) {
     EXPECT_EQ(read(file({"\xD0"})), Pairs());
     EXPECT_EQ(read(file({"\xD1\1\1", "\x50"})), (Pairs{{"", ""}}));
     EXPECT_EQ(read(file({"\xD1\1\2", "\x51k", "\x63\xD8\x3D\xDC\xAA\0\0"s})), (Pairs{{"k", "💪\0"s}}));
+    EXPECT_EQ(read(file({"\xD1\1\2", "\x51k", "\x60"})), (Pairs{{"k", ""}}));
     EXPECT_EQ(read(file({"\xD2\1\1\1\2", "\x51k", "\x51v"})), (Pairs{{"k", "v"}}));
     for (const std::string& count : {"\x10\2"s, "\x11\0\2"s, "\x12\0\0\0\2"s, "\x13\0\0\0\0\0\0\0\2"s})
         EXPECT_EQ(read(file({"\xD1\1\2", "\x5F" + count + "OK", "\x51v"})), (Pairs{{"OK", "v"}}));
