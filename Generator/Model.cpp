@@ -79,15 +79,30 @@ private:
     bool hasLonePercent_ = false;
 };
 
-// Reads one table; knows whom each name of it belongs to.
+// An entry and where it stands.
+struct PlacedEntry : Entry {
+    const SourceTable* table;
+    StringTables::Location place;
+};
+
+// Reads one table, which may be that of several folders; knows whom each name of it belongs to.
 class TableReader {
 public:
-    TableReader(const SourceTable& table, Diagnostics& diagnostics)
-        : table_(table), places_(table.table.locations()), diagnostics_(diagnostics) {}
+    // Of a key in several of `tables` the first one's text counts.
+    TableReader(std::span<const SourceTable> tables, Diagnostics& diagnostics) : diagnostics_(diagnostics) {
+        for (const SourceTable& table : tables) {
+            const std::vector<StringTables::Location> places = table.table.locations();
+            const std::span<const SourceTable> before(tables.data(), &table);
+            for (std::size_t i = 0; i < places.size(); ++i)
+                if (const Entry& entry = table.table.entries()[i]; std::ranges::none_of(
+                        before, [&](const SourceTable& other) { return other.table.find(entry.key).has_value(); }))
+                    entries_.push_back({entry, &table, places[i]});
+        }
+    }
 
     std::vector<CatalogEntry> entries() {
         std::vector<CatalogEntry> entries;
-        for (const Entry& source : table_.table.entries()) {
+        for (const PlacedEntry& source : entries_) {
             CatalogEntry entry{.groups = {}, .name = {}, .key = source.key, .text = source.text, .parameters = {}};
             // Both are read whatever the other finds, so that one run shows every fault.
             const bool isNamed = findName(source, entry);
@@ -99,22 +114,20 @@ public:
 
 private:
     struct Owner {
-        const Entry* entry;
+        const PlacedEntry* entry;
         bool isGroup;
     };
 
-    const StringTables::Location& placeOf(const Entry& entry) const {
-        return places_[static_cast<std::size_t>(&entry - table_.table.entries().data())];
+    void report(Severity severity, const PlacedEntry& entry, std::string message) {
+        diagnostics_.add(severity, {std::move(message), entry.table->path, entry.place.line, entry.place.column});
     }
 
-    void report(Severity severity, const Entry& entry, std::string message) {
-        const StringTables::Location& place = placeOf(entry);
-        diagnostics_.add(severity, {std::move(message), table_.path, place.line, place.column});
-    }
-
-    std::string keyAndLine(const Entry& entry) const {
-        const std::size_t line = placeOf(entry).line;
-        return "key " + quoted(entry.key) + (line == 0 ? "" : " (line " + std::to_string(line) + ")");
+    // The key, and where it stands for a reader of a message about `at`.
+    static std::string keyAndLine(const PlacedEntry& entry, const PlacedEntry& at) {
+        std::string where = entry.table == at.table ? "" : entry.table->path.string();
+        if (entry.place.line != 0)
+            where.append(where.empty() ? "line " : ", line ").append(std::to_string(entry.place.line));
+        return "key " + quoted(entry.key) + (where.empty() ? "" : " (" + where + ")");
     }
 
     // False if the name is somebody else's already.
@@ -124,12 +137,12 @@ private:
             return true;
         const auto as = [](const Owner& each) { return each.isGroup ? "a group of " : "the entry of "; };
         report(Severity::error, *owner.entry,
-               as(owner) + keyAndLine(*owner.entry) + " and " + as(found->second) + keyAndLine(*found->second.entry) +
-                   " have one name: " + qualified);
+               as(owner) + keyAndLine(*owner.entry, *owner.entry) + " and " + as(found->second) +
+                   keyAndLine(*found->second.entry, *owner.entry) + " have one name: " + qualified);
         return false;
     }
 
-    bool findName(const Entry& source, CatalogEntry& entry) {
+    bool findName(const PlacedEntry& source, CatalogEntry& entry) {
         const std::vector<std::string_view> components = Namer::components(source.key);
         std::string qualified;
         for (const std::string_view& component : components) {
@@ -152,7 +165,7 @@ private:
         return !components.empty();
     }
 
-    bool findParameters(const Entry& source, CatalogEntry& entry) {
+    bool findParameters(const PlacedEntry& source, CatalogEntry& entry) {
         const ParameterReader reader(source.text);
         if (reader.hasLonePercent())
             report(Severity::warning, source,
@@ -166,8 +179,7 @@ private:
         return !fault;
     }
 
-    const SourceTable& table_;
-    std::vector<StringTables::Location> places_;
+    std::vector<PlacedEntry> entries_;
     Diagnostics& diagnostics_;
     std::map<std::string, Owner, std::less<>> owners_;
 };
@@ -177,7 +189,10 @@ private:
 std::vector<CatalogTable> catalogOf(std::span<const SourceTable> tables, Diagnostics& diagnostics) {
     std::vector<CatalogTable> catalog;
     std::map<std::string, const SourceTable*> named;
-    for (const SourceTable& table : tables) {
+    for (std::size_t begin = 0, end = 0; begin < tables.size(); begin = end) {
+        const SourceTable& table = tables[begin];
+        while (end < tables.size() && tables[end].name == table.name)
+            ++end;
         std::string spelling = Namer::tableSpelling(table.name);
         if (spelling.empty()) {
             diagnostics.add(Severity::error,
@@ -190,7 +205,8 @@ std::vector<CatalogTable> catalogOf(std::span<const SourceTable> tables, Diagnos
                 {.message = "has one name with " + found->second->path.string() + ": " + spelling, .file = table.path});
             continue;
         }
-        catalog.push_back({table.name, std::move(spelling), TableReader(table, diagnostics).entries()});
+        catalog.push_back(
+            {table.name, std::move(spelling), TableReader(tables.subspan(begin, end - begin), diagnostics).entries()});
     }
     return catalog;
 }

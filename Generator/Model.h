@@ -29,7 +29,8 @@ struct CatalogTable {
     std::vector<CatalogEntry> entries; // in the table's order
 };
 
-// Tables and entries with a fault among `diagnostics` are left out.
+// Neighbours of one name are one table: of a key in both the first one's text counts. Tables and entries with a fault
+// among `diagnostics` are left out.
 [[nodiscard]] std::vector<CatalogTable> catalogOf(std::span<const SourceBundle::SourceTable> tables,
                                                   SourceBundle::Diagnostics& diagnostics);
 

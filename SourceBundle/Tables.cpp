@@ -19,26 +19,28 @@ void addSystemError(Diagnostics& diagnostics, const fs::path& path, const std::e
 
 std::string developmentRegion(const fs::path& source, Diagnostics& diagnostics) {
     const fs::path path = source / "Info.plist";
-    if (std::error_code failed; fs::exists(path, failed))
-        if (const auto info = readTable(path, diagnostics))
-            if (const auto region = info->find("CFBundleDevelopmentRegion"))
-                return std::string(*region);
-    return "en";
+    if (std::error_code failed; !fs::exists(path, failed))
+        return "en";
+    const auto info = Table::readFile(path); // of its notes none matters: it holds more than texts
+    if (!info)
+        diagnostics.add(Severity::error, info.error());
+    const auto region = info ? info->find("CFBundleDevelopmentRegion") : std::nullopt;
+    return std::string(region.value_or("en"));
 }
 
-// The folder of the development texts, if there is one.
-std::optional<fs::path> developmentFolder(const fs::path& source, Diagnostics& diagnostics) {
+// The folders of the development texts that are there, in the order in which they answer.
+std::vector<fs::path> developmentFolders(const fs::path& source, Diagnostics& diagnostics) {
     std::error_code failed;
-    const fs::path base = source / "Base.lproj";
-    if (fs::is_directory(base, failed))
-        return base;
     const std::string region = developmentRegion(source, diagnostics) + ".lproj";
-    if (fs::is_directory(source / region, failed))
-        return source / region;
-    diagnostics.add(
-        Severity::warning,
-        {.message = "has no development texts: neither Base.lproj nor " + region + " is there", .file = source});
-    return std::nullopt;
+    std::vector<fs::path> folders;
+    for (const fs::path& folder : {source / region, source / "Base.lproj"})
+        if (fs::is_directory(folder, failed) && (folders.empty() || !fs::equivalent(folder, folders[0], failed)))
+            folders.push_back(folder);
+    if (folders.empty())
+        diagnostics.add(
+            Severity::warning,
+            {.message = "has no development texts: neither Base.lproj nor " + region + " is there", .file = source});
+    return folders;
 }
 
 std::vector<fs::path> tablesIn(const fs::path& folder, Diagnostics& diagnostics) {
@@ -75,12 +77,11 @@ std::optional<Table> readTable(const fs::path& path, Diagnostics& diagnostics) {
 
 std::vector<SourceTable> developmentTables(const fs::path& source, Diagnostics& diagnostics) {
     std::vector<SourceTable> tables;
-    const std::optional<fs::path> folder = developmentFolder(source, diagnostics);
-    if (!folder)
-        return tables;
-    for (const fs::path& path : tablesIn(*folder, diagnostics))
-        if (auto table = readTable(path, diagnostics))
-            tables.push_back({path.stem().string(), path, *std::move(table)});
+    for (const fs::path& folder : developmentFolders(source, diagnostics))
+        for (const fs::path& path : tablesIn(folder, diagnostics))
+            if (auto table = readTable(path, diagnostics))
+                tables.push_back({path.stem().string(), path, *std::move(table)});
+    std::ranges::stable_sort(tables, {}, &SourceTable::name);
     return tables;
 }
 

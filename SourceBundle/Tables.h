@@ -21,8 +21,9 @@ struct SourceTable {
 // The table at `path`, its notes as warnings; no value after an error, with file and place, among the diagnostics.
 [[nodiscard]] std::optional<StringTables::Table> readTable(const std::filesystem::path& path, Diagnostics& diagnostics);
 
-// The tables of Base.lproj, or where there is none of the development region's folder (Info.plist's
-// CFBundleDevelopmentRegion, "en" without one), sorted by name. A table that cannot be read is an error among the
+// The tables of the development region's folder (Info.plist's CFBundleDevelopmentRegion, "en" without one) and of
+// Base.lproj, sorted by name. Where both have a table, the region's comes directly before that of Base, and the two are
+// one: a key of both has the region's text, as at run time. A table that cannot be read is an error among the
 // diagnostics, with its file and place, and is left out.
 [[nodiscard]] std::vector<SourceTable> developmentTables(const std::filesystem::path& source, Diagnostics& diagnostics);
 

@@ -26,11 +26,8 @@ function(lumora_generate target)
     foreach(header IN LISTS arg_INCLUDE)
         list(APPEND includes --include ${header})
     endforeach()
-    set(texts ${arg_SOURCE}/Base.lproj)
-    if(NOT IS_DIRECTORY ${texts})
-        set(texts ${arg_SOURCE}/*.lproj) # which one is the development language's, only Info.plist knows
-    endif()
-    file(GLOB tables CONFIGURE_DEPENDS ${texts}/*.strings ${arg_SOURCE}/Info.plist)
+    # Of every language: which is the development language beside Base.lproj, only Info.plist knows.
+    file(GLOB tables CONFIGURE_DEPENDS ${arg_SOURCE}/*.lproj/*.strings ${arg_SOURCE}/Info.plist)
 
     # Which headers there are, only the tables decide. A build learns of those that an earlier one made; a new one is
     # included by one of them, which changes with it.
