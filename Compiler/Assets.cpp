@@ -8,6 +8,8 @@
 #include "SourceBundle/Catalogs.h"
 #include <algorithm>
 #include <iterator>
+#include <map>
+#include <utility>
 
 namespace Compiler {
 
@@ -99,11 +101,25 @@ Asset compiled(const SourceAsset& source, SourceBundle::Diagnostics& diagnostics
     return asset;
 }
 
+// A catalog has one asset of each kind and name: the first.
+void leaveOutTwins(std::vector<SourceAsset>& assets, SourceBundle::Diagnostics& diagnostics) {
+    std::map<std::pair<AssetCatalog::Kind, std::string>, fs::path> taken;
+    std::erase_if(assets, [&](const SourceAsset& asset) {
+        const auto [before, isNew] = taken.try_emplace({asset.kind, asset.name}, asset.path);
+        if (!isNew)
+            diagnostics.add(
+                Severity::warning,
+                {.message = "has the name of " + before->second.string() + " and is left out", .file = asset.path});
+        return !isNew;
+    });
+}
+
 } // namespace
 
 Runtime::Result<void> compileAssets(const fs::path& source, const fs::path& out, SourceBundle::Diagnostics& diagnostics,
                                     const Progress& progress) {
-    const std::vector<SourceAsset> sources = SourceBundle::sourceAssets(source, diagnostics);
+    std::vector<SourceAsset> sources = SourceBundle::sourceAssets(source, diagnostics);
+    leaveOutTwins(sources, diagnostics);
     std::vector<Asset> assets;
     for (std::size_t done = 0; done < sources.size(); ++done) {
         progress(sources[done].name, done, sources.size());

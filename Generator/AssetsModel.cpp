@@ -57,6 +57,10 @@ std::vector<AssetConstant> constantsOf(std::span<const SourceAsset> assets, Diag
         const auto [before, isNew] = taken.try_emplace({constant.groups, constant.name}, &asset);
         if (isNew)
             constants.push_back(std::move(constant));
+        else if (before->second->kind == asset.kind && before->second->name == asset.name)
+            diagnostics.add(Severity::warning,
+                            {.message = "has the name of " + before->second->path.string() + " and is left out",
+                             .file = asset.path});
         else
             diagnostics.add(Severity::error, {.message = "gives the name " + before->first.second + ", which " +
                                                          before->second->path.string() + " gives as well",

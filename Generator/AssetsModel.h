@@ -17,7 +17,8 @@ struct AssetConstant {
     const SourceBundle::SourceAsset* asset;
 };
 
-// A constant for every asset, in the assets' order. Assets with a fault among `diagnostics` are left out.
+// A constant for every asset, in the assets' order; one for those of one namespace, kind and name. Assets with a fault
+// among `diagnostics` are left out.
 [[nodiscard]] std::vector<AssetConstant> constantsOf(std::span<const SourceBundle::SourceAsset> assets,
                                                      SourceBundle::Diagnostics& diagnostics);
 

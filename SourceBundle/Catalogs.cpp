@@ -2,7 +2,6 @@
 
 #include "SourceBundle/SetContents.h"
 #include <array>
-#include <map>
 #include <utility>
 
 namespace SourceBundle {
@@ -70,7 +69,9 @@ private:
         if (depth > maxFolderDepth)
             return diagnostics_.add(Severity::error,
                                     {.message = "has too many folders in one another", .file = folder});
-        for (const fs::path& entry : sortedEntries(folder, diagnostics_)) {
+        std::vector<fs::path> entries = sortedEntries(folder, diagnostics_);
+        std::ranges::stable_partition(entries, [](const fs::path& entry) { return kindOf(entry).has_value(); });
+        for (const fs::path& entry : entries) {
             if (isLinkedFolder(entry))
                 diagnostics_.add(Severity::note, {.message = "is a link, which is left out", .file = entry});
             if (!isFolder(entry) || entry.filename().string().starts_with('.'))
@@ -92,18 +93,12 @@ private:
         readSet(asset, diagnostics_);
         if (asset.files.empty() && asset.colors.empty())
             return diagnostics_.add(Severity::warning, {.message = "holds no variant and is left out", .file = set});
-        const auto [before, isNew] = paths_.try_emplace({kind, asset.name}, set);
-        if (!isNew)
-            return diagnostics_.add(
-                Severity::warning,
-                {.message = "has the name of " + before->second.string() + " and is left out", .file = set});
         assets_.push_back(std::move(asset));
     }
 
     std::vector<SourceAsset>& assets_;
     Diagnostics& diagnostics_;
     std::string catalog_;
-    std::map<std::pair<Kind, std::string>, fs::path> paths_; // of the assets so far
 };
 
 } // namespace

@@ -105,6 +105,22 @@ TEST(CompileBundle, RendersDrawingsInTheSizeTheyHave) {
     }
 }
 
+TEST(CompileBundle, ChoosesTheFirstOfAssetsOfOneName) {
+    const Support::TemporaryFolder folder;
+    for (const std::string set : {"A.xcassets/F/x.dataset", "A.xcassets/x.dataset", "B.xcassets/x.dataset"}) {
+        folder.write("source/" + set + "/Contents.json", R"({"data": [{"filename": "f"}]})");
+        folder.write("source/" + set + "/f", set);
+    }
+    const Outcome outcome = compile(folder / "source", folder / "out.bundle");
+    EXPECT_EQ(outcome.failure, "");
+    const std::string twin =
+        ": has the name of " + (folder / "source/A.xcassets/x.dataset").string() + " and is left out";
+    EXPECT_EQ(outcome.diagnostics,
+              (std::vector<std::string>{(folder / "source/A.xcassets/F/x.dataset").string() + twin,
+                                        (folder / "source/B.xcassets/x.dataset").string() + twin}));
+    EXPECT_NE(Support::contents(folder / "out.bundle/Assets.catalog").find("A.xcassets/x.dataset"), std::string::npos);
+}
+
 TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     const Support::TemporaryFolder folder;
     folder.write("source/Base.lproj/A.strings", "a = good;");

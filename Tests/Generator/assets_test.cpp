@@ -61,10 +61,25 @@ TEST(AssetConstants, ThatCannotBeAreReportedWithBothPaths) {
     };
     for (const auto& one : cases) {
         SourceBundle::Diagnostics diagnostics;
-        EXPECT_TRUE(Generator::generateAssets(assets(one.names), {.module = "App", .includes = {}}, diagnostics).empty());
+        EXPECT_TRUE(
+            Generator::generateAssets(assets(one.names), {.module = "App", .includes = {}}, diagnostics).empty());
         ASSERT_EQ(diagnostics.all().size(), 1U) << "line " << one.line;
         EXPECT_EQ(diagnostics.all()[0].what.text(), one.report) << "line " << one.line;
     }
+}
+
+TEST(AssetConstants, OfOneNameAreThereInEveryNamespace) {
+    auto source = assets({"x", "x", "x"});
+    source[1].path = "Media.xcassets/F/x.imageset";
+    source[2].catalog = "More";
+    SourceBundle::Diagnostics diagnostics;
+    const auto constants = Generator::constantsOf(source, diagnostics);
+    ASSERT_EQ(constants.size(), 2U);
+    EXPECT_EQ(constants[0].groups + constants[1].groups, "MediaMore");
+    ASSERT_EQ(diagnostics.all().size(), 1U);
+    EXPECT_EQ(diagnostics.all()[0].severity, SourceBundle::Severity::warning);
+    EXPECT_EQ(diagnostics.all()[0].what.text(),
+              "Media.xcassets/F/x.imageset: has the name of Media.xcassets/x.imageset and is left out");
 }
 
 } // namespace

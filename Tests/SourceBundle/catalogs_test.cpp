@@ -154,15 +154,21 @@ TEST_F(Catalogs, ReportWhatIsWrongWithItsPath) {
         EXPECT_EQ(said()[0], one.report) << "line " << one.line;
         std::filesystem::remove_all(folder / "A.xcassets");
     }
+}
 
-    set("A.xcassets/1/a.dataset", R"({"data": [{"filename": "f"}]})");
-    set("A.xcassets/2/a.dataset", R"({"data": [{"filename": "f"}]})");
-    folder.write("A.xcassets/1/a.dataset/f", "");
-    folder.write("A.xcassets/2/a.dataset/f", "");
-    diagnostics = {};
-    EXPECT_EQ(read().size(), 1U);
-    EXPECT_EQ(said()[0], "warning A.xcassets/2/a.dataset: has the name of " +
-                             (folder / "A.xcassets/1/a.dataset").string() + " and is left out");
+TEST_F(Catalogs, KeepAssetsOfOneNameTheOuterFirst) {
+    const std::string paths[] = {"A.xcassets/x.dataset", "A.xcassets/F/x.dataset", "B.xcassets/F/x.dataset"};
+    for (const std::string& path : paths) {
+        set(path, R"({"data": [{"filename": "f"}]})");
+        folder.write(path + "/f", "");
+    }
+    const auto assets = read();
+    ASSERT_EQ(assets.size(), 3U);
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(assets[i].path, folder / paths[i]);
+        EXPECT_EQ(assets[i].name, "x");
+    }
+    EXPECT_EQ(said(), std::vector<std::string>());
 }
 
 } // namespace
