@@ -3,6 +3,7 @@
 #include "AssetCatalog/Builder.h"
 #include "AssetCatalog/Catalog.h"
 #include "Compiler/Vector.h"
+#include "Pictures/Decoders.h"
 #include "Pictures/Pictures.h"
 #include "Runtime/File.h"
 #include "SourceBundle/Catalogs.h"
@@ -35,11 +36,12 @@ Runtime::Result<std::vector<Picture>> raster(const SourceFile& file, const std::
         return size.error();
     if (std::uint64_t{size->width} * size->height > AssetCatalog::maxPixels)
         return Runtime::Error{.message = "is a picture larger than a catalog may hold"};
-    if (bytes.rfind(size->encoding == Pictures::Encoding::png ? "IEND" : "\xFF\xD9") == std::string::npos)
-        return Runtime::Error{.message = "is a picture that is cut off"};
+    const bool isPng = size->encoding == Pictures::Encoding::png;
+    const auto decode = isPng ? Pictures::decodePng : Pictures::decodeJpeg;
+    if (const auto decoded = decode(data, AssetCatalog::maxPixels); !decoded)
+        return decoded.error();
     Picture picture{.fit = file.fit, .width = size->width, .height = size->height, .bytes = {}};
-    picture.encoding =
-        size->encoding == Pictures::Encoding::png ? AssetCatalog::Encoding::png : AssetCatalog::Encoding::jpeg;
+    picture.encoding = isPng ? AssetCatalog::Encoding::png : AssetCatalog::Encoding::jpeg;
     picture.bytes = std::move(data);
     std::vector<Picture> pictures;
     pictures.push_back(std::move(picture));
@@ -73,7 +75,7 @@ Runtime::Result<std::vector<Picture>> picturesOf(const SourceFile& file) {
     return pictures;
 }
 
-// The asset with the bytes of its files. What cannot be read is left out, with a warning.
+// The asset with the bytes of its files. What cannot be read is an error.
 Asset compiled(const SourceAsset& source, SourceBundle::Diagnostics& diagnostics) {
     Asset asset{.kind = source.kind,
                 .catalog = source.catalog,
@@ -86,13 +88,13 @@ Asset compiled(const SourceAsset& source, SourceBundle::Diagnostics& diagnostics
         if (source.kind == AssetCatalog::Kind::image) {
             auto pictures = picturesOf(file);
             if (!pictures)
-                diagnostics.add(Severity::warning, std::move(pictures.error()));
+                diagnostics.add(Severity::error, std::move(pictures.error()));
             else
                 std::ranges::move(*pictures, std::back_inserter(asset.pictures));
         } else {
             auto bytes = Runtime::readFile(file.path, maxFileBytes);
             if (!bytes)
-                diagnostics.add(Severity::warning, std::move(bytes.error()));
+                diagnostics.add(Severity::error, std::move(bytes.error()));
             else
                 asset.data.push_back(
                     {.fit = file.fit, .typeIdentifier = file.typeIdentifier, .bytes = bytesOf(*bytes)});
@@ -123,9 +125,7 @@ Runtime::Result<void> compileAssets(const fs::path& source, const fs::path& out,
     std::vector<Asset> assets;
     for (std::size_t done = 0; done < sources.size(); ++done) {
         progress(sources[done].name, done, sources.size());
-        Asset asset = compiled(sources[done], diagnostics);
-        if (!asset.pictures.empty() || !asset.colors.empty() || !asset.data.empty())
-            assets.push_back(std::move(asset));
+        assets.push_back(compiled(sources[done], diagnostics));
     }
     if (assets.empty() || diagnostics.hasErrors())
         return {};

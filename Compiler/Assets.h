@@ -7,7 +7,7 @@
 namespace Compiler {
 
 // Writes Assets.catalog below `out` if `source` has asset catalogs. Vectors are rendered at one, two and three pixels a
-// point.
+// point. A file that cannot be read, or is no picture, is an error among `diagnostics`; nothing is written then.
 [[nodiscard]] Runtime::Result<void> compileAssets(const std::filesystem::path& source, const std::filesystem::path& out,
                                                   SourceBundle::Diagnostics& diagnostics, const Progress& progress);
 

@@ -27,6 +27,7 @@ Runtime::Error damaged(GError* error) {
     std::string message = "is a damaged drawing";
     if (error != nullptr)
         message.append(": ").append(error->message);
+    message.erase(message.find_last_not_of('\n') + 1); // some end their line
     return {.message = message};
 }
 

@@ -90,9 +90,13 @@ private:
 
     void readAsset(const fs::path& set, Kind kind, std::string name) {
         SourceAsset asset{.kind = kind, .catalog = catalog_, .name = std::move(name), .path = set};
+        const std::size_t before = diagnostics_.all().size();
         readSet(asset, diagnostics_);
-        if (asset.files.empty() && asset.colors.empty())
-            return diagnostics_.add(Severity::warning, {.message = "holds no variant and is left out", .file = set});
+        if (asset.files.empty() && asset.colors.empty()) {
+            if (diagnostics_.all().size() == before || diagnostics_.all().back().severity != Severity::error)
+                diagnostics_.add(Severity::warning, {.message = "holds no variant and is left out", .file = set});
+            return;
+        }
         assets_.push_back(std::move(asset));
     }
 

@@ -31,8 +31,9 @@ struct SourceAsset {
 
 // The assets of every catalog directly in `source`, by catalog and then in the order of their paths, those of a folder
 // before those of the folders in it. Several may have one kind and name; whoever has to choose takes the first.
-// Diagnostics name the file: broken JSON and a file that would lie outside of its set are errors; a file that is
-// missing and what is not supported are warnings, and it is left out; sets of other kinds are notes.
+// Diagnostics name the file: broken JSON, a file that would lie outside of its set and a colour without meaning are
+// errors; a file that is missing and what is not supported are warnings, and it is left out; sets of other kinds are
+// notes.
 [[nodiscard]] std::vector<SourceAsset> sourceAssets(const std::filesystem::path& source, Diagnostics& diagnostics);
 
 } // namespace SourceBundle

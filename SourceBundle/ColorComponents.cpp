@@ -12,20 +12,6 @@ using AssetCatalog::ColorValue;
 
 namespace {
 
-std::optional<ColorSpace> spaceNamed(std::string_view name) {
-    static constexpr std::array<std::pair<std::string_view, ColorSpace>, 6> spaces = {
-        {{"srgb", ColorSpace::srgb},
-         {"", ColorSpace::srgb},
-         {"extended-srgb", ColorSpace::extendedSrgb},
-         {"display-p3", ColorSpace::displayP3},
-         {"gray-gamma-22", ColorSpace::gray},
-         {"extended-gray", ColorSpace::gray}}};
-    for (const auto& [known, space] : spaces)
-        if (known == name)
-            return space;
-    return std::nullopt;
-}
-
 // What a component's text says; alpha is a fraction even where it is written "1".
 std::optional<double> valueOf(std::string_view text, bool isAlpha) {
     const bool isHex = text.starts_with("0x") || text.starts_with("0X");
@@ -42,21 +28,33 @@ std::optional<double> valueOf(std::string_view text, bool isAlpha) {
 
 } // namespace
 
-Runtime::Result<ColorValue> colorFrom(std::string_view space,
+std::optional<ColorSpace> colorSpaceNamed(std::string_view name) {
+    static constexpr std::array<std::pair<std::string_view, ColorSpace>, 6> spaces = {
+        {{"srgb", ColorSpace::srgb},
+         {"", ColorSpace::srgb},
+         {"extended-srgb", ColorSpace::extendedSrgb},
+         {"display-p3", ColorSpace::displayP3},
+         {"gray-gamma-22", ColorSpace::gray},
+         {"extended-gray", ColorSpace::gray}}};
+    for (const auto& [known, space] : spaces)
+        if (known == name)
+            return space;
+    return std::nullopt;
+}
+
+Runtime::Result<ColorValue> colorFrom(ColorSpace space,
                                       const std::function<std::optional<std::string>(const char*)>& component) {
-    const std::optional<ColorSpace> known = spaceNamed(space);
-    if (!known)
-        return Runtime::Error{.message = "has a colour space that is not supported: " + std::string(space)};
     static constexpr std::array<const char*, 4> rgb = {"red", "green", "blue", "alpha"};
     static constexpr std::array<const char*, 4> gray = {"white", "white", "white", "alpha"};
-    const auto& names = *known == ColorSpace::gray ? gray : rgb;
-    ColorValue color{.fit = {}, .space = *known, .components = {}};
+    const auto& names = space == ColorSpace::gray ? gray : rgb;
+    ColorValue color{.fit = {}, .space = space, .components = {}};
     for (std::size_t i = 0; i < names.size(); ++i) {
         const bool isAlpha = i == 3;
         const std::optional<std::string> text = component(names[i]);
         const std::optional<double> value = !text && isAlpha ? 1.0 : text ? valueOf(*text, isAlpha) : std::nullopt;
         if (!value || (isAlpha && !(*value >= 0 && *value <= 1)))
-            return Runtime::Error{.message = std::string("has no readable colour component \"") + names[i] + "\""};
+            return Runtime::Error{.message = std::string("has no readable colour component \"") + names[i] + '"' +
+                                             (text ? ": \"" + *text + '"' : "")};
         color.components[i] = *value;
     }
     return color;

@@ -11,10 +11,12 @@
 
 namespace SourceBundle {
 
-// A colour of the space "srgb", "extended-srgb", "display-p3", "gray-gamma-22" or "extended-gray". `component` gives
-// the text of "red", "green", "blue", "white" or "alpha" (1 without one): a decimal ("0.5"), a whole number of 255
-// ("128") or of 0xFF ("0x80").
+// The space that a catalog calls "srgb", "extended-srgb", "display-p3", "gray-gamma-22" or "extended-gray".
+[[nodiscard]] std::optional<AssetCatalog::ColorSpace> colorSpaceNamed(std::string_view name);
+
+// A colour of that space. `component` gives the text of "red", "green", "blue", "white" or "alpha" (1 without one): a
+// decimal ("0.5"), a whole number of 255 ("128") or of 0xFF ("0x80"). The error tells which component is none.
 [[nodiscard]] Runtime::Result<AssetCatalog::ColorValue>
-colorFrom(std::string_view space, const std::function<std::optional<std::string>(const char*)>& component);
+colorFrom(AssetCatalog::ColorSpace space, const std::function<std::optional<std::string>(const char*)>& component);
 
 } // namespace SourceBundle

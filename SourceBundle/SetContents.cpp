@@ -156,15 +156,18 @@ private:
             return leaveOut("refers to a colour of the system, which is not supported: " + text(color, "reference"),
                             file);
         const Json& components = member(color, "components");
-        const std::string space = color.is_object() ? text(color, "color-space") : std::string();
-        auto value = colorFrom(space, [&](const char* name) -> std::optional<std::string> {
+        const std::string spaceName = color.is_object() ? text(color, "color-space") : std::string();
+        const std::optional<AssetCatalog::ColorSpace> space = colorSpaceNamed(spaceName);
+        if (!space)
+            return leaveOut("has a colour space that is not supported: " + spaceName, file);
+        auto value = colorFrom(*space, [&](const char* name) -> std::optional<std::string> {
             const Json& component = member(components, name);
             if (component.is_string())
                 return component.get<std::string>();
             return component.is_number() ? std::optional(component.dump()) : std::nullopt;
         });
         if (!value)
-            return leaveOut(value.error().message, file);
+            return refuse(value.error().message, file);
         value->fit = fit;
         asset_.colors.push_back(*value);
         return true;

@@ -1,5 +1,6 @@
 // Pictures/Decoders.h
-// The face of the companion library; internal. Both sides are built together.
+// The face of the companion library; internal. Both sides are built together. Programs of the build, which no companion
+// lies beside, link the decoders themselves.
 #pragma once
 
 #include "Pictures/Bitmap.h"

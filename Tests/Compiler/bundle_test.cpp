@@ -142,6 +142,47 @@ TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
 }
 
+TEST(CompileBundle, StopsOverPicturesThatCannotBeRead) {
+    const Support::TemporaryFolder folder;
+    const fs::path images = LUMORA_RESOURCES "/Images.xcassets";
+    const std::string png = Support::contents(images / "Food/banana.imageset/banana.png");
+    const std::string jpeg = Support::contents(images / "Questionnaire/defaultCourseBoy.imageset/defaultCourseBoy.jpg");
+    std::string spoiled = png; // in the middle of its pixels
+    spoiled[png.find("IDAT") + 20] ^= 0x55;
+    const struct {
+        int line;
+        std::string file, said;
+    } cases[] = {
+        {__LINE__, "no picture", "is neither"},
+        {__LINE__, "", "is neither"},
+        {__LINE__, png.substr(0, png.size() - 12), "is a damaged PNG"},
+        {__LINE__, png.substr(0, png.size() / 2), "is a damaged PNG"},
+        {__LINE__, spoiled, "is a damaged PNG"},
+        {__LINE__, jpeg.substr(0, jpeg.size() / 2), "is a damaged JPEG"},
+        {__LINE__, jpeg.substr(0, 10), "is a damaged JPEG"},
+        {__LINE__, "<svg xmlns=\"http://www.w3.org/2000/svg\"><path", "is a damaged drawing"},
+        {__LINE__, "%PDF-1.7 and no more", "is a damaged drawing"},
+    };
+    folder.write("source/A.xcassets/p.imageset/Contents.json",
+                 R"({"images": [{"filename": "p"}, {"filename": "missing", "scale": "2x"}]})");
+    for (const auto& one : cases) {
+        const fs::path file = folder.write("source/A.xcassets/p.imageset/p", one.file);
+        const Outcome outcome = compile(folder / "source", folder / "out.bundle");
+        ASSERT_EQ(outcome.diagnostics.size(), 2U) << "line " << one.line;
+        EXPECT_EQ(outcome.diagnostics[0], (file.parent_path() / "missing").string() + ": is missing");
+        EXPECT_TRUE(outcome.diagnostics[1].starts_with(file.string() + ": " + one.said))
+            << "line " << one.line << ": " << outcome.diagnostics[1];
+        EXPECT_EQ(outcome.diagnostics[1].find('\n'), std::string::npos) << "line " << one.line;
+        EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1) << "line " << one.line;
+    }
+    for (const std::string& picture : {png, jpeg}) { // and what is missing is only said
+        folder.write("source/A.xcassets/p.imageset/p", picture);
+        const Outcome outcome = compile(folder / "source", folder / "out.bundle");
+        EXPECT_EQ(outcome.diagnostics.size(), 1U);
+        EXPECT_TRUE(fs::exists(folder / "out.bundle/Assets.catalog"));
+    }
+}
+
 TEST(CompileBundle, ReplacesNothingButABundle) {
     const Support::TemporaryFolder folder;
     folder.write("source/Base.lproj/A.strings", "a = b;");

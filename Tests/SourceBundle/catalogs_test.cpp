@@ -141,7 +141,11 @@ TEST_F(Catalogs, ReportWhatIsWrongWithItsPath) {
          "warning A.xcassets/a.colorset/Contents.json: refers to a colour of the system, which is not supported: "
          "systemRedColor"},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"color-space": "srgb", "components": {"red": "much"}}}]})",
-         "warning A.xcassets/a.colorset/Contents.json: has no readable colour component \"red\""},
+         "error A.xcassets/a.colorset/Contents.json: has no readable colour component \"red\": \"much\""},
+        {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "1", "green": "1"}}}]})",
+         "error A.xcassets/a.colorset/Contents.json: has no readable colour component \"blue\""},
+        {__LINE__, "a.colorset", R"({"colors": [{"color": {"color-space": "cmyk", "components": {}}}]})",
+         "warning A.xcassets/a.colorset/Contents.json: has a colour space that is not supported: cmyk"},
         {__LINE__, "a.appiconset", "{}", "note A.xcassets/a.appiconset: is a set of another kind, which is left out"},
     };
     for (const auto& one : cases) {
@@ -152,6 +156,7 @@ TEST_F(Catalogs, ReportWhatIsWrongWithItsPath) {
         EXPECT_EQ(read().size(), 0U) << "line " << one.line;
         ASSERT_FALSE(said().empty()) << "line " << one.line;
         EXPECT_EQ(said()[0], one.report) << "line " << one.line;
+        EXPECT_TRUE(said().size() == 1 || said()[0].starts_with("warning ")) << "line " << one.line;
         std::filesystem::remove_all(folder / "A.xcassets");
     }
 }
