@@ -164,7 +164,10 @@ private:
             const Json& component = member(components, name);
             if (component.is_string())
                 return component.get<std::string>();
-            return component.is_number() ? std::optional(component.dump()) : std::nullopt;
+            if (!component.is_number())
+                return std::nullopt;
+            const auto number = component.get<double>(); // written with a point: 1 is the whole, not one of 255
+            return (number >= 0 && number <= 1 ? Json(number) : component).dump();
         });
         if (!value)
             return refuse(value.error().message, file);

@@ -107,6 +107,10 @@ TEST_F(Catalogs, ReadColorsInEveryNotation) {
          R"("color-space": "gray-gamma-22", "components": {"white": "0.3", "alpha": 0.5})",
          ColorSpace::gray,
          {0.3, 0.3, 0.3, 0.5}},
+        {__LINE__,
+         R"("color-space": "srgb", "components": {"red": 1, "green": 0, "blue": 51, "alpha": 1})",
+         ColorSpace::srgb,
+         {1, 0, 0.2, 1}},
     };
     for (const auto& one : cases) {
         set("A.xcassets/c.colorset",
