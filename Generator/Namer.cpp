@@ -1,8 +1,8 @@
 #include "Generator/Namer.h"
 
+#include "Generator/ReservedNames.h"
 #include "Generator/Unicode.h"
 #include <algorithm>
-#include <array>
 #include <iterator>
 
 namespace Generator::Namer {
@@ -12,31 +12,19 @@ namespace {
 using namespace Unicode;
 using Words = std::vector<std::u32string>;
 
-// The keywords and alternative tokens of C++20, and what standard headers and compilers define as macros. Names of
-// capitals only are below, in isReserved().
-constexpr auto reservedWords = std::to_array<std::string_view>(
-    {"I",         "alignas",       "alignof",     "alloca",       "and",     "and_eq",     "asm",
-     "assert",    "auto",          "bitand",      "bitor",        "bool",    "break",      "case",
-     "catch",     "char",          "char16_t",    "char32_t",     "char8_t", "class",      "co_await",
-     "co_return", "co_yield",      "compl",       "concept",      "const",   "const_cast", "consteval",
-     "constexpr", "constinit",     "continue",    "decltype",     "default", "delete",     "do",
-     "double",    "dynamic_cast",  "else",        "enum",         "errno",   "explicit",   "export",
-     "extern",    "false",         "float",       "for",          "friend",  "goto",       "i386",
-     "if",        "inline",        "int",         "linux",        "long",    "mutable",    "namespace",
-     "new",       "noexcept",      "not",         "not_eq",       "nullptr", "offsetof",   "operator",
-     "or",        "or_eq",         "private",     "protected",    "public",  "register",   "reinterpret_cast",
-     "requires",  "return",        "setjmp",      "short",        "signed",  "sigsetjmp",  "sizeof",
-     "static",    "static_assert", "static_cast", "stderr",       "stdin",   "stdout",     "struct",
-     "switch",    "template",      "this",        "thread_local", "throw",   "true",       "try",
-     "typedef",   "typeid",        "typename",    "union",        "unix",    "unsigned",   "using",
-     "virtual",   "void",          "volatile",    "wchar_t",      "while",   "xor",        "xor_eq"});
-static_assert(std::ranges::is_sorted(reservedWords));
-
 // Tables stand beside what the generated code is made of.
 constexpr std::string_view takenFromTables[] = {"detail", "std", "tr"};
 
+// A macro of <cinttypes>: "PRId64".
+bool isNumberFormat(std::string_view word) {
+    constexpr std::string_view sizes[] = {"16", "32", "64", "8", "FAST", "LEAST", "MAX", "PTR"};
+    return word.size() > 4 && (word.starts_with("PRI") || word.starts_with("SCN")) &&
+           std::string_view("diouxX").find(word[3]) != std::string_view::npos &&
+           std::ranges::any_of(sizes, [&](std::string_view size) { return word.substr(4).starts_with(size); });
+}
+
 bool isReserved(std::string_view word) {
-    if (std::ranges::binary_search(reservedWords, word))
+    if (std::ranges::binary_search(reservedNames, word) || isNumberFormat(word))
         return true;
     const bool capitals =
         std::ranges::all_of(word, [](char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); });
