@@ -3,7 +3,6 @@
 
 #include "AssetCatalog/Catalog.h"
 #include "Lumora/LumoraResources.h"
-#include "Runtime/File.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
@@ -90,10 +89,7 @@ Exit extractAsset(const AssetOptions& options) {
         if (const auto index = catalog->find(kind, options.name)) {
             const Entry entry = (*catalog)[*index];
             const auto text = variantText(entry, entry.best(wanted));
-            if (!text)
-                return fail(text.error());
-            const auto done = Runtime::writeFile(options.output, *text);
-            return done ? Exit::done : fail(done.error());
+            return text ? write(options.output, *text) : fail(text.error());
         }
     return fail({.message = "no asset of the bundle has this name", .file = options.name});
 }
@@ -112,7 +108,7 @@ void addAssetCommands(CLI::App& program, Exit& exit) {
     one->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
     one->add_flag("--dark", options->isDark, "The variant for a dark screen");
     one->add_option("--scale", options->scale, "Pixels in a point")->check(CLI::Range(1U, 9U))->capture_default_str();
-    one->add_option("-o,--output", options->output, "Where to write")->required();
+    one->add_option("-o,--output", options->output, "Where to write; - is standard output")->required();
     one->callback([options, &exit] { exit = extractAsset(*options); });
 }
 

@@ -1,5 +1,6 @@
 #include "Tools/Command.h"
 
+#include "Runtime/File.h"
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -67,6 +68,13 @@ Exit print(std::string_view bytes) {
     if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0)
         return Exit::done;
     return fail({.message = std::string("cannot be written: ") + std::strerror(errno), .file = "standard output"});
+}
+
+Exit write(const std::string& output, std::string_view bytes) {
+    if (output == "-")
+        return print(bytes);
+    const auto done = Runtime::writeFile(output, bytes);
+    return done ? Exit::done : fail(done.error());
 }
 
 } // namespace Tools

@@ -5,6 +5,7 @@
 #include "Runtime/Result.h"
 #include "SourceBundle/Diagnostics.h"
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace CLI {
@@ -32,5 +33,7 @@ Exit report(const SourceBundle::Diagnostics& diagnostics);
 void showProgress(std::string_view what, std::size_t done, std::size_t all);
 // To standard output, whole; an error when it cannot be written.
 Exit print(std::string_view bytes);
+// To the file that the option -o names, or to standard output for "-".
+Exit write(const std::string& output, std::string_view bytes);
 
 } // namespace Tools

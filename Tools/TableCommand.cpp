@@ -1,7 +1,6 @@
 // lumora table: a string table read in any form and written in another.
 #include "Tools/Command.h"
 
-#include "Runtime/File.h"
 #include "StringTables/Table.h"
 #include "StringTables/Writer.h"
 #include <CLI/CLI.hpp>
@@ -27,7 +26,7 @@ const std::map<std::string, Output> outputs = {
 
 struct TableOptions {
     std::string file;
-    std::string output;
+    std::string output = "-";
     std::string form = "json";
 };
 
@@ -99,10 +98,7 @@ Exit runTable(const TableOptions& options) {
         out.error().file = name;
         return fail(out.error());
     }
-    if (options.output.empty())
-        return print(*out);
-    const auto done = Runtime::writeFile(options.output, *out);
-    return done ? Exit::done : fail(done.error());
+    return write(options.output, *out);
 }
 
 } // namespace
@@ -117,7 +113,7 @@ void addTableCommand(CLI::App& program, Exit& exit) {
     command->add_option("--to", options->form, "The form to write")
         ->check(CLI::IsMember({"json", "strings", "xml", "binary"}))
         ->capture_default_str();
-    command->add_option("-o,--output", options->output, "Where to write (default: standard output)");
+    command->add_option("-o,--output", options->output, "Where to write; - is standard output")->capture_default_str();
     command->callback([options, &exit] { exit = runTable(*options); });
 }
 

@@ -10,7 +10,7 @@ import tempfile
 import time
 import unittest
 
-PROGRAM = sys.argv.pop(1)
+PROGRAM = os.path.abspath(sys.argv.pop(1))
 
 
 def run(*arguments, input=None, **environment):
@@ -23,8 +23,10 @@ class Program(unittest.TestCase):
     def setUp(self):
         self.held = tempfile.TemporaryDirectory()
         self.folder = pathlib.Path(self.held.name)
+        os.chdir(self.folder)  # for what is made by mistake
 
     def tearDown(self):
+        os.chdir("/")
         self.held.cleanup()
 
     def write(self, name, text):
@@ -102,6 +104,8 @@ class Program(unittest.TestCase):
         self.assertTrue(link.is_symlink())
         self.assertEqual(real.read_text(), '"a" = "b";\n')
         self.assertEqual(real.stat().st_mode & 0o777, 0o600)
+        self.assertEqual(run("table", file, "--to", "strings", "-o", "-"), (0, b'"a" = "b";\n', ""))
+        self.assertEqual(run("asset", "send", "-o", "-")[1][:4], b"\x89PNG")
         # By a link of our own: the machine's /dev/stdout is not for trying out.
         own = self.folder / "stdout"
         own.symlink_to("/proc/self/fd/1")
