@@ -6,10 +6,14 @@
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
 #include "Lumora/LumoraResources.h"
+#include "StringTables/Table.h"
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 namespace Tools {
 
@@ -33,6 +37,23 @@ Foundation::FormatArgument argument(const std::string& text) {
     return std::string_view(text);
 }
 
+// Why no table had the key, where a file of the table is there and cannot be read: the library takes it for an empty
+// one.
+std::optional<Runtime::Error> damage(const Foundation::NSBundle& bundle, const std::string& table) {
+    std::vector<std::string> languages = bundle.preferredLocalizations();
+    languages.resize(std::min<std::size_t>(languages.size(), 1));
+    languages.insert(languages.end(), {"Base", bundle.developmentLocalization()});
+    for (const std::string& language : languages) {
+        if (table.find('/') != table.npos)
+            break; // such a name is no table's
+        auto read =
+            StringTables::Table::readFile(bundle.bundlePath() + "/" + language + ".lproj/" + table + ".strings");
+        if (!read && read.error().cause != ENOENT)
+            return std::move(read.error());
+    }
+    return std::nullopt;
+}
+
 Exit runText(const TextOptions& options) {
     if (!options.bundle.empty() && !std::filesystem::is_directory(options.bundle))
         return fail({.message = "is no bundle", .file = options.bundle});
@@ -46,7 +67,10 @@ Exit runText(const TextOptions& options) {
     const Foundation::NSBundle& bundle = options.bundle.empty() ? Lumora::LumoraResources::bundle()
                                                                 : Foundation::NSBundle::bundleWithPath(options.bundle);
     const std::string_view text = bundle.localizedText(options.key, options.table);
-    if (text.data() == options.key.data())
+    const bool isMissing = text.data() == options.key.data();
+    if (const auto damaged = isMissing ? damage(bundle, options.table) : std::nullopt)
+        return fail(*damaged);
+    if (isMissing)
         note("no table \"" + options.table + "\" of the bundle has this key");
     const std::vector<Foundation::FormatArgument> arguments = [&] {
         std::vector<Foundation::FormatArgument> made;

@@ -52,6 +52,16 @@ class Program(unittest.TestCase):
         self.write("x.bundle/ru.lproj/T.strings", '"a" = "%2$@ и %1$@";')
         self.assertEqual(run("text", "--bundle", self.folder / "x.bundle", "--language", "ru", "--table", "T", "a", "1", "2")[1]
                          .decode(), "2 и 1\n")
+        # A damaged table is silent in the library. Here it is told, where it may be the one that has the key.
+        self.write("x.bundle/Base.lproj/T.strings", '"base" = "Base";')
+        damaged = self.write("x.bundle/ru.lproj/T.strings", '"a" = "b";\n"c" = ;')
+        text = ("text", "--bundle", self.folder / "x.bundle", "--language", "ru", "--table", "T")
+        status, out, err = run(*text, "a")
+        self.assertEqual((status, out, err.count("\n")), (2, b"", 1))
+        self.assertIn(f"{damaged}:2:7: ", err)
+        self.assertEqual(run(*text, "base"), (0, b"Base\n", ""))
+        damaged.unlink()
+        self.assertEqual(run(*text, "a")[:2], (0, b"a\n"))
 
     def test_table_in_every_form(self):
         file = self.write("a.strings", '/* c */ "k\\n" = "v \\U0416"; plain = word; list = (1, 2);')
