@@ -6,6 +6,7 @@
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
 #include "Lumora/LumoraResources.h"
+#include "StringTables/Placeholder.h"
 #include "StringTables/Table.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -35,6 +36,26 @@ Foundation::FormatArgument argument(const std::string& text) {
     if (end.ec == std::errc() && std::to_string(number) == text)
         return number;
     return std::string_view(text);
+}
+
+// How many of `given` arguments no placeholder of the text takes.
+std::ptrdiff_t unused(std::string_view text, std::size_t given) {
+    std::vector<bool> isUsed(given, false);
+    const auto use = [&](std::size_t position) {
+        if (position <= given)
+            isUsed[position - 1] = true;
+    };
+    std::size_t taken = 0, from = 0;
+    while (const auto placeholder = StringTables::nextPlaceholder(text, from)) {
+        from = placeholder->end;
+        if (placeholder->kind == StringTables::Placeholder::Kind::percent)
+            continue;
+        for (const auto& size : {placeholder->width, placeholder->precision})
+            if (size.from == StringTables::Placeholder::Size::From::argument)
+                use(++taken);
+        use(placeholder->position != 0 ? placeholder->position : ++taken);
+    }
+    return std::ranges::count(isUsed, false);
 }
 
 // Why no table had the key, where a file of the table is there and cannot be read: the library takes it for an empty
@@ -72,6 +93,10 @@ Exit runText(const TextOptions& options) {
         return fail(*damaged);
     if (isMissing)
         note("no table \"" + options.table + "\" of the bundle has this key");
+    // Options behind the key are arguments, too: this tells who did not mean them so.
+    if (const auto left = unused(text, options.arguments.size()); left != 0)
+        note(std::to_string(left) + " of " + std::to_string(options.arguments.size()) +
+             " arguments are not used by the text");
     const std::vector<Foundation::FormatArgument> arguments = [&] {
         std::vector<Foundation::FormatArgument> made;
         for (const std::string& one : options.arguments)
