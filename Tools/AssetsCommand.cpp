@@ -6,9 +6,12 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <filesystem>
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <optional>
+#include <system_error>
 
 namespace Tools {
 
@@ -27,18 +30,28 @@ struct AssetOptions {
     unsigned scale = 1;
 };
 
-Runtime::Result<Catalog> openCatalog(const std::string& bundle) {
+// No catalog: the bundle has no assets, and a compile made none for it.
+Runtime::Result<std::optional<Catalog>> openCatalog(const std::string& bundle) {
     const std::string folder = bundle.empty() ? Lumora::LumoraResources::bundle().bundlePath() : bundle;
-    return Catalog::open(folder + "/" + std::string(AssetCatalog::fileName));
+    std::error_code failed;
+    if (!std::filesystem::is_directory(folder, failed))
+        return Runtime::Error{.message = "is no bundle", .file = folder};
+    auto catalog = Catalog::open(folder + "/" + std::string(AssetCatalog::fileName));
+    if (catalog)
+        return std::optional(*std::move(catalog));
+    if (catalog.error().cause == ENOENT)
+        return std::optional<Catalog>();
+    return std::move(catalog.error());
 }
 
 Exit listAssets(const AssetOptions& options) {
     static constexpr std::array kinds = {"image", "color", "data"};
-    const auto catalog = openCatalog(options.bundle);
-    if (!catalog)
-        return fail(catalog.error());
+    const auto opened = openCatalog(options.bundle);
+    if (!opened)
+        return fail(opened.error());
+    const std::optional<Catalog>& catalog = *opened;
     std::vector<std::string> lines;
-    for (std::size_t i = 0; i < catalog->size(); ++i) {
+    for (std::size_t i = 0; catalog && i < catalog->size(); ++i) {
         const Entry entry = (*catalog)[i];
         std::string line = kinds[static_cast<std::size_t>(entry.kind())];
         line.append("\t").append(entry.catalog()).append("\t").append(entry.name()).append("\n");
@@ -78,15 +91,16 @@ Runtime::Result<std::string> variantText(const Entry& entry, std::size_t variant
 }
 
 Exit extractAsset(const AssetOptions& options) {
-    const auto catalog = openCatalog(options.bundle);
-    if (!catalog)
-        return fail(catalog.error());
+    const auto opened = openCatalog(options.bundle);
+    if (!opened)
+        return fail(opened.error());
+    const std::optional<Catalog>& catalog = *opened;
     Fit wanted;
     wanted.appearance = options.isDark ? AssetCatalog::Appearance::dark : AssetCatalog::Appearance::light;
     wanted.direction = AssetCatalog::Direction::leftToRight;
     wanted.scale = static_cast<std::uint8_t>(options.scale);
     for (const Kind kind : {Kind::image, Kind::color, Kind::data})
-        if (const auto index = catalog->find(kind, options.name)) {
+        if (const auto index = catalog ? catalog->find(kind, options.name) : std::nullopt) {
             const Entry entry = (*catalog)[*index];
             const auto text = variantText(entry, entry.best(wanted));
             return text ? write(options.output, *text) : fail(text.error());

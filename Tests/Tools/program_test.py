@@ -146,6 +146,13 @@ class Program(unittest.TestCase):
         self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle")[0], 0)
         self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
                          b"Hello, Bo\n")
+        # It has no assets, and so no catalog. Without the bundle nobody can know.
+        bundle = self.folder / "Shop.bundle"
+        self.assertEqual(run("assets", "--bundle", bundle), (0, b"", ""))
+        self.assertEqual(run("asset", "send", "--bundle", bundle, "-o", "-"),
+                         (2, b"", "lumora: send: no asset of the bundle has this name\n"))
+        for command in (["assets"], ["asset", "send", "-o", "-"]):
+            self.assertEqual(run(*command, "--bundle", self.folder / "none")[2], f"lumora: {self.folder / 'none'}: is no bundle\n")
         self.write("src/Base.lproj/Words.strings", '"a_b" = "1";\n"a b" = "2";\n')
         status, _, err = run("generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree")
         self.assertEqual(status, 2)
