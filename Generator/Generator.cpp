@@ -25,8 +25,10 @@ void check(const Options& options, Diagnostics& diagnostics) {
         if (header.find_first_of("\"\\\n\r") != std::string::npos)
             diagnostics.add(Severity::error,
                             {.message = "cannot be included: \"" + visibleText(header) + '"', .file = {}});
-    if (options.shards == 0)
-        diagnostics.add(Severity::error, {.message = "the accessors need one source at least", .file = {}});
+    if (options.shards == 0 || options.shards > maxShards)
+        diagnostics.add(
+            Severity::error,
+            {.message = "the accessors are split into 1 to " + std::to_string(maxShards) + " sources", .file = {}});
 }
 
 } // namespace

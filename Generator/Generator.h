@@ -13,10 +13,12 @@
 
 namespace Generator {
 
+inline constexpr std::size_t maxShards = 1000;
+
 struct Options {
     std::string module; // a C++ identifier: the namespace of the tree, and what its files' names begin with
     std::vector<std::string> includes; // headers of hand-made members, included by the tree's own header
-    std::size_t shards = 1;            // how many sources the accessors are split into; at least 1
+    std::size_t shards = 1;            // how many sources the accessors are split into; 1 to maxShards
 };
 
 // The files of the tree of texts: NAMEStrings.h and what it includes, the sources NAMEStrings.cpp and NAMEStrings-1.cpp

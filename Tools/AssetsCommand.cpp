@@ -122,7 +122,7 @@ void addAssetCommands(CLI::App& program, Exit& exit) {
     one->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
     one->add_flag("--dark", options->isDark, "The variant for a dark screen");
     one->add_option("--scale", options->scale, "Pixels in a point")->check(CLI::Range(1U, 9U))->capture_default_str();
-    one->add_option("-o,--output", options->output, "Where to write; - is standard output")->required();
+    one->add_option("-o,--output", options->output, "Where to write; - is standard output")->required()->check(named());
     one->callback([options, &exit] { exit = extractAsset(*options); });
 }
 

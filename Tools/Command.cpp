@@ -1,6 +1,7 @@
 #include "Tools/Command.h"
 
 #include "Runtime/File.h"
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
@@ -39,6 +40,10 @@ void say(Severity severity, std::string_view what) {
 }
 
 } // namespace
+
+CLI::Validator named() {
+    return {[](const std::string& path) { return path.empty() ? "the name is empty" : ""; }, ""};
+}
 
 Exit fail(const Runtime::Error& error) {
     say(Severity::error, error.text());

@@ -10,9 +10,13 @@
 
 namespace CLI {
 class App;
-}
+class Validator;
+} // namespace CLI
 
 namespace Tools {
+
+// Of a path on the command line: refuses the empty one, which no message could name.
+CLI::Validator named();
 
 // How the program ends.
 enum class Exit : int { done = 0, faultsFound = 1, wrongUse = 2 };

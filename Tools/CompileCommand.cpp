@@ -28,8 +28,10 @@ void addCompileCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<CompileOptions>();
     CLI::App* command =
         program.add_subcommand("compile", "Make the bundle that ships: binary tables, compiled assets.");
-    command->add_option("SOURCE", options->source, "The source bundle: a folder of *.lproj and *.xcassets")->required();
-    command->add_option("-o,--output", options->output, "The bundle to make, NAME.bundle")->required();
+    command->add_option("SOURCE", options->source, "The source bundle: a folder of *.lproj and *.xcassets")
+        ->required()
+        ->check(named());
+    command->add_option("-o,--output", options->output, "The bundle to make, NAME.bundle")->required()->check(named());
     command->callback([options, &exit] { exit = runCompile(*options); });
 }
 

@@ -109,11 +109,14 @@ void addTableCommand(CLI::App& program, Exit& exit) {
     command
         ->add_option("FILE", options->file,
                      "The table: quoted text, XML or binary, told by its content; - is standard input")
-        ->required();
+        ->required()
+        ->check(named());
     command->add_option("--to", options->form, "The form to write")
         ->check(CLI::IsMember({"json", "strings", "xml", "binary"}))
         ->capture_default_str();
-    command->add_option("-o,--output", options->output, "Where to write; - is standard output")->capture_default_str();
+    command->add_option("-o,--output", options->output, "Where to write; - is standard output")
+        ->check(named())
+        ->capture_default_str();
     command->callback([options, &exit] { exit = runTable(*options); });
 }
 

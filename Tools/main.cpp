@@ -3,6 +3,15 @@
 
 #include <CLI/CLI.hpp>
 #include <exception>
+#include <sstream>
+
+namespace {
+
+Tools::Exit failWith(const CLI::Error& wrong) {
+    return Tools::fail({.message = std::string(wrong.what()) + " (see lumora --help)"});
+}
+
+} // namespace
 
 // NOLINTNEXTLINE(bugprone-exception-escape): what may be thrown outside of the block is that memory is out
 int main(int argc, char** argv) {
@@ -20,9 +29,13 @@ int main(int argc, char** argv) {
         if (program.get_subcommands().empty())
             throw CLI::RequiredError("A command");
     } catch (const CLI::Success& asked) { // --help, --version
-        return program.exit(asked);
+        // The parser comes to them before it complains of a command that it does not know.
+        const std::vector<std::string> unknown = program.remaining();
+        std::ostringstream text;
+        program.exit(asked, text, text);
+        exit = unknown.empty() ? Tools::print(text.str()) : failWith(CLI::ExtrasError(unknown));
     } catch (const CLI::Error& wrong) {
-        exit = Tools::fail({.message = std::string(wrong.what()) + " (see lumora --help)"});
+        exit = failWith(wrong);
     } catch (const std::exception& failed) {
         exit = Tools::fail({.message = failed.what()});
     }

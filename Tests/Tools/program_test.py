@@ -132,6 +132,33 @@ class Program(unittest.TestCase):
                 subprocess.run([PROGRAM, "table", file, "--to", "strings", "-o", own], stdout=out, check=True, timeout=60)
         self.assertEqual((log.read_text(), own.is_symlink()), ('earlier\n"a" = "b";\n"a" = "b";\n', True))
 
+    def test_wrong_use_is_one_line(self):
+        self.write("src/Base.lproj/T.strings", "a = b;")
+        file, source = self.write("a.strings", "a = b;"), self.folder / "src"
+        for said, *arguments in (
+                ("bogus", "bogus", "--help"), ("check", "check", "--help"), ("check", "check", "--version"),
+                ("--output: the name is empty", "table", file, "-o", ""), ("FILE: the name is empty", "table", ""),
+                ("--output: the name is empty", "asset", "send", "-o", ""), ("SOURCE: the name is empty", "compile", "", "-o", "x"),
+                ("--output: the name is empty", "compile", source, "-o", ""),
+                ("SOURCE: the name is empty", "generate", "", "--module", "M", "-o", "x"),
+                ("--output: the name is empty", "generate", source, "--module", "M", "-o", ""),
+                ("1 to 1000", "generate", source, "--module", "M", "-o", self.folder / "x", "--shards", "0"),
+                ("1 to 1000", "generate", source, "--module", "M", "-o", self.folder / "x", "--shards", "1001")):
+            with self.subTest(arguments):
+                status, out, err = run(*arguments)
+                self.assertEqual((status, out, err.count("\n")), (2, b"", 1), err)
+                self.assertIn(said, err)
+                self.assertLess(len(err), 200)
+
+    def test_output_that_cannot_be_written_is_an_error(self):
+        for arguments in (["--help"], ["--version"], ["table", "--help"], ["text", "Continue"], ["assets"]):
+            for redirected in (">/dev/full", ">&-"):
+                with self.subTest((arguments, redirected)):
+                    done = subprocess.run(["sh", "-c", f'exec "$0" "$@" {redirected}', PROGRAM, *arguments],
+                                          capture_output=True, text=True, timeout=60)
+                    self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1), done.stderr)
+                    self.assertTrue(done.stderr.startswith("lumora: standard output: cannot be written: "), done.stderr)
+
     def test_help_at_every_level(self):
         for arguments in ([], ["text"], ["table"], ["generate"], ["compile"]):
             status, out, err = run(*arguments, "--help")
