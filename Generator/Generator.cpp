@@ -17,10 +17,11 @@ using SourceBundle::Severity;
 namespace {
 
 void check(const Options& options, Diagnostics& diagnostics) {
-    if (!Namer::isSpelled(options.module))
-        diagnostics.add(
-            Severity::error,
-            {.message = "the module's name is no C++ identifier: \"" + visibleText(options.module) + '"', .file = {}});
+    if (!Namer::isModuleName(options.module))
+        diagnostics.add(Severity::error,
+                        {.message = "the module's name is no C++ identifier, or one that C++ keeps for itself: \"" +
+                                    visibleText(options.module) + '"',
+                         .file = {}});
     for (const std::string& header : options.includes)
         if (header.find_first_of("\"\\\n\r") != std::string::npos)
             diagnostics.add(Severity::error,

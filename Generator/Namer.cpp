@@ -156,4 +156,9 @@ bool isSpelled(std::string_view name) {
     return isIdentifier(name) && spelling(name) == name;
 }
 
+bool isModuleName(std::string_view name) {
+    const bool isStandards = name.starts_with("std") && name.find_first_not_of("0123456789", 3) == name.npos;
+    return isSpelled(name) && !isStandards && name != "posix" && name != "main";
+}
+
 } // namespace Generator::Namer

@@ -32,4 +32,7 @@ namespace Generator::Namer {
 // That `name` can stand in C++ as it is.
 [[nodiscard]] bool isSpelled(std::string_view name);
 
+// That a namespace of the program's own can have this name.
+[[nodiscard]] bool isModuleName(std::string_view name);
+
 } // namespace Generator::Namer

@@ -98,7 +98,7 @@ TEST(Model, ReportsFaultsOfTablesAndOptions) {
     const Generator::Options options{.module = "class", .includes = {"a\"b"}, .shards = 0};
     EXPECT_TRUE(Generator::generateStrings(tables, options, diagnostics).empty());
     EXPECT_EQ(Support::texts(diagnostics),
-              (Strings{"error: the module's name is no C++ identifier: \"class\"",
+              (Strings{"error: the module's name is no C++ identifier, or one that C++ keeps for itself: \"class\"",
                        "error: cannot be included: \"a\"b\"", "error: the accessors are split into 1 to 1000 sources",
                        "error: OddNames.strings: has one name with Odd names.strings: OddNames",
                        "error: ....strings: the file's name gives no name to its table"}));

@@ -172,4 +172,12 @@ TEST(Namer, KeepsTheNamesOfTables) {
         EXPECT_EQ(Namer::tableSpelling(pair.from), pair.to) << "line " << pair.line;
 }
 
+TEST(Namer, LeavesNamespacesToThoseTheyBelongTo) {
+    for (const char* own : {"Shop", "standard", "std_", "posixShop", "M2", "Магазин"})
+        EXPECT_TRUE(Namer::isModuleName(own)) << own;
+    for (const char* others :
+         {"std", "std2", "posix", "main", "class", "errno", "EIO", "_Shop", "_shop", "my__shop", "2nd", ""})
+        EXPECT_FALSE(Namer::isModuleName(others)) << others;
+}
+
 } // namespace
