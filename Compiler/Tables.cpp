@@ -32,27 +32,12 @@ std::vector<fs::path> tablesOf(const fs::path& source) {
     return tables;
 }
 
-// Whether `file` is, or lies behind, a link to a place outside of `source`: such a thing is not the bundle's, and
-// whoever made the link need not be whoever may read what it leads to.
-bool leadsOut(const fs::path& source, const fs::path& file) {
-    std::error_code failed;
-    const fs::path real = fs::canonical(file, failed);
-    if (failed)
-        return false; // nothing is there, as whoever reads it will say
-    const fs::path inside = real.lexically_relative(fs::canonical(source, failed));
-    return inside.empty() || *inside.begin() == "..";
-}
-
-Runtime::Error linkError(const fs::path& file) {
-    return {.message = "is a link that leads out of the source bundle", .file = file};
-}
-
 // The source's own Info.plist, or one that says what is taken for granted without it. In the form that is read fastest,
 // as a program reads it before its first text; one that holds more than texts is left as it stands.
 Runtime::Result<std::string> information(const fs::path& source) {
     const fs::path file = source / "Info.plist";
-    if (leadsOut(source, file))
-        return linkError(file);
+    if (auto inside = SourceBundle::checkInside(source, file); !inside)
+        return std::move(inside.error());
     if (std::error_code failed; fs::exists(file, failed)) {
         auto bytes = Runtime::readFile(file, Table::maxBytes);
         if (!bytes)
@@ -83,11 +68,7 @@ Runtime::Result<void> compileTables(const fs::path& source, const fs::path& out,
     std::size_t done = 0;
     for (const fs::path& table : tables) {
         progress(table.string(), done++, tables.size());
-        if (leadsOut(source, source / table)) {
-            diagnostics.add(SourceBundle::Severity::error, linkError(source / table));
-            continue;
-        }
-        const auto read = SourceBundle::readTable(source / table, diagnostics);
+        const auto read = SourceBundle::readTable(source, source / table, diagnostics);
         if (!read)
             continue;
         auto binary = StringTables::write(read->entries(), StringTables::Form::binary);

@@ -21,6 +21,10 @@ std::string developmentRegion(const fs::path& source, Diagnostics& diagnostics) 
     const fs::path path = source / "Info.plist";
     if (std::error_code failed; !fs::exists(path, failed))
         return "en";
+    if (auto inside = checkInside(source, path); !inside) {
+        diagnostics.add(Severity::error, std::move(inside.error()));
+        return "en";
+    }
     const auto info = Table::readFile(path); // of its notes none matters: it holds more than texts
     if (!info)
         diagnostics.add(Severity::error, info.error());
@@ -43,8 +47,12 @@ std::vector<fs::path> developmentFolders(const fs::path& source, Diagnostics& di
     return folders;
 }
 
-std::vector<fs::path> tablesIn(const fs::path& folder, Diagnostics& diagnostics) {
+std::vector<fs::path> tablesIn(const fs::path& source, const fs::path& folder, Diagnostics& diagnostics) {
     std::vector<fs::path> tables;
+    if (auto inside = checkInside(source, folder); !inside) {
+        diagnostics.add(Severity::error, std::move(inside.error()));
+        return tables;
+    }
     std::error_code failed;
     for (fs::directory_iterator file(folder, failed), end; !failed && file != end; file.increment(failed)) {
         const fs::path& path = file->path();
@@ -64,7 +72,22 @@ std::vector<fs::path> tablesIn(const fs::path& folder, Diagnostics& diagnostics)
 
 } // namespace
 
-std::optional<Table> readTable(const fs::path& path, Diagnostics& diagnostics) {
+Runtime::Result<void> checkInside(const fs::path& source, const fs::path& path) {
+    std::error_code failed;
+    const fs::path real = fs::canonical(path, failed);
+    if (failed)
+        return {}; // nothing is there, as whoever reads it will say
+    const fs::path inside = real.lexically_relative(fs::canonical(source, failed));
+    if (inside.empty() || *inside.begin() == "..")
+        return Runtime::Error{.message = "is a link that leads out of the source bundle", .file = path};
+    return {};
+}
+
+std::optional<Table> readTable(const fs::path& source, const fs::path& path, Diagnostics& diagnostics) {
+    if (auto inside = checkInside(source, path); !inside) {
+        diagnostics.add(Severity::error, std::move(inside.error()));
+        return std::nullopt;
+    }
     auto table = Table::readFile(path);
     if (!table) {
         diagnostics.add(Severity::error, std::move(table.error()));
@@ -78,8 +101,8 @@ std::optional<Table> readTable(const fs::path& path, Diagnostics& diagnostics) {
 std::vector<SourceTable> developmentTables(const fs::path& source, Diagnostics& diagnostics) {
     std::vector<SourceTable> tables;
     for (const fs::path& folder : developmentFolders(source, diagnostics))
-        for (const fs::path& path : tablesIn(folder, diagnostics))
-            if (auto table = readTable(path, diagnostics))
+        for (const fs::path& path : tablesIn(source, folder, diagnostics))
+            if (auto table = readTable(source, path, diagnostics))
                 tables.push_back({path.stem().string(), path, *std::move(table)});
     std::ranges::stable_sort(tables, {}, &SourceTable::name);
     return tables;

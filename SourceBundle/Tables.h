@@ -18,8 +18,14 @@ struct SourceTable {
     StringTables::Table table;
 };
 
-// The table at `path`, its notes as warnings; no value after an error, with file and place, among the diagnostics.
-[[nodiscard]] std::optional<StringTables::Table> readTable(const std::filesystem::path& path, Diagnostics& diagnostics);
+// An error where `path` is, or lies behind, a link to a place outside of `source`: such a thing is not the bundle's,
+// and whoever made the link need not be whoever may read what it leads to.
+[[nodiscard]] Runtime::Result<void> checkInside(const std::filesystem::path& source, const std::filesystem::path& path);
+
+// The table at `path` in `source`, its notes as warnings; no value after an error, with file and place, among the
+// diagnostics. A path that leads out is one.
+[[nodiscard]] std::optional<StringTables::Table> readTable(const std::filesystem::path& source,
+                                                           const std::filesystem::path& path, Diagnostics& diagnostics);
 
 // The tables of the development region's folder (Info.plist's CFBundleDevelopmentRegion, "en" without one) and of
 // Base.lproj, sorted by name. Where both have a table, the region's comes directly before that of Base, and the two are

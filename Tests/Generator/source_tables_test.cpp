@@ -89,4 +89,19 @@ TEST(SourceTables, ReportWhatTheyCannotTake) {
     EXPECT_TRUE(found[3].starts_with("warning: " + base + "Twice.strings:2:1: ")) << found[3];
 }
 
+TEST(SourceTables, AreNotReadByLinksThatLeadOut) {
+    const Support::TemporaryFolder folder;
+    const auto secret = folder.write("elsewhere/T.strings", "secret, and no table");
+    folder.write("source/en.lproj/A.strings", "a = b;");
+    const std::string source = folder / "source";
+    for (const std::string name : {"/en.lproj/T.strings", "/Info.plist", "/Base.lproj"}) {
+        std::filesystem::create_symlink(name == "/Base.lproj" ? secret.parent_path() : secret, source + name);
+        SourceBundle::Diagnostics diagnostics;
+        (void)SourceBundle::developmentTables(source, diagnostics);
+        EXPECT_EQ(Support::texts(diagnostics),
+                  Strings{"error: " + source + name + ": is a link that leads out of the source bundle"});
+        std::filesystem::remove(source + name);
+    }
+}
+
 } // namespace
