@@ -53,7 +53,11 @@ Runtime::Result<void> generateModule(const std::filesystem::path& source, const 
     std::vector<OutputFile> files = generateStrings(tables, options, diagnostics);
     const auto assets = SourceBundle::sourceAssets(source, diagnostics);
     std::ranges::move(generateAssets(assets, options, diagnostics), std::back_inserter(files));
-    return diagnostics.hasErrors() ? Runtime::Result<void>() : writeFiles(folder, files);
+    if (diagnostics.hasErrors())
+        return {};
+    // With the last table or catalog of a source, nothing new is made in these.
+    const std::filesystem::path texts = options.module + "Strings", constants = options.module + "Asset";
+    return writeFiles(folder, files, {texts, texts / "Internal", constants, constants / "Internal"});
 }
 
 } // namespace Generator

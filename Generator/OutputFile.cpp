@@ -47,7 +47,8 @@ Runtime::Result<void> removeStale(const fs::path& folder, const std::set<fs::pat
 
 } // namespace
 
-Runtime::Result<void> writeFiles(const fs::path& folder, const std::vector<OutputFile>& files) {
+Runtime::Result<void> writeFiles(const fs::path& folder, const std::vector<OutputFile>& files,
+                                 const std::vector<fs::path>& own) {
     std::set<fs::path> made, folders;
     std::set<std::string> marks;
     for (const OutputFile& file : files) {
@@ -58,6 +59,9 @@ Runtime::Result<void> writeFiles(const fs::path& folder, const std::vector<Outpu
         folders.insert(path.parent_path());
         marks.insert(file.content.substr(0, file.content.find('\n')));
     }
+    for (const fs::path& each : own)
+        if (std::error_code failed; fs::is_directory(folder / each, failed))
+            folders.insert(folder / each);
     for (const fs::path& each : folders)
         if (auto removed = removeStale(each, made, marks); !removed)
             return removed;

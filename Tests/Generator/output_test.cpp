@@ -2,7 +2,9 @@
 
 #include "../Support/TemporaryFolder.h"
 #include "Generator/CodeText.h"
+#include "Generator/Generator.h"
 #include <gtest/gtest.h>
+#include <set>
 
 namespace {
 
@@ -25,6 +27,37 @@ TEST(OutputFile, ReplacesWhatChangedAndRemovesWhatIsStale) {
 
     folder.write("file", "");
     EXPECT_EQ(Generator::writeFiles(folder / "file", {{"a.h", ""}}).error().file, folder / "file");
+}
+
+std::set<std::string> filesBelow(const fs::path& folder) {
+    std::set<std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+        if (!entry.is_directory())
+            files.insert(entry.path().lexically_relative(folder));
+    return files;
+}
+
+TEST(GenerateModule, LeavesNothingOfASourceThatHadMore) {
+    const Support::TemporaryFolder folder;
+    const auto generate = [&](const char* out) {
+        SourceBundle::Diagnostics diagnostics;
+        EXPECT_TRUE(
+            Generator::generateModule(folder / "source", {.module = "M", .includes = {}}, folder / out, diagnostics));
+        EXPECT_FALSE(diagnostics.hasErrors());
+        return filesBelow(folder / out);
+    };
+    const fs::path table = folder.write("source/Base.lproj/T.strings", "a = b;");
+    folder.write("source/C.xcassets/red.colorset/Contents.json",
+                 R"({"colors": [{"color": {"components": {"red": "1", "green": "0", "blue": "0"}}}]})");
+    const auto all = generate("out");
+    EXPECT_TRUE(all.contains("MAsset/C.h") && all.contains("MStrings/T.h"));
+
+    fs::remove_all(folder / "source/C.xcassets");
+    fs::remove(table);
+    folder.write("out/MAsset/ours.h", "// by hand\n");
+    auto rest = generate("out");
+    EXPECT_EQ(rest.erase("MAsset/ours.h"), 1U);
+    EXPECT_EQ(rest, generate("fresh"));
 }
 
 TEST(CodeText, ShowsWhatCannotBeSeen) {
