@@ -15,20 +15,17 @@ using StringTables::Table;
 
 namespace {
 
-// The tables below the language folders of `source`, as paths relative to it, sorted.
-std::vector<fs::path> tablesOf(const fs::path& source) {
-    std::vector<fs::path> tables;
+// The tables below the language folders of `source`, as paths relative to it, in a fixed order.
+std::vector<fs::path> tablesOf(const fs::path& source, SourceBundle::Diagnostics& diagnostics) {
+    std::vector<fs::path> folders, tables;
     std::error_code failed;
-    for (fs::directory_iterator folder(source, failed), end; !failed && folder != end; folder.increment(failed)) {
-        if (folder->path().extension() != ".lproj")
-            continue;
-        std::error_code unreadable;
-        for (fs::directory_iterator file(folder->path(), unreadable); !unreadable && file != end;
-             file.increment(unreadable))
-            if (file->path().extension() == ".strings")
-                tables.push_back(folder->path().filename() / file->path().filename());
-    }
-    std::ranges::sort(tables);
+    for (fs::directory_iterator folder(source, failed), end; !failed && folder != end; folder.increment(failed))
+        if (std::error_code unknown; folder->path().extension() == ".lproj" && folder->is_directory(unknown))
+            folders.push_back(folder->path());
+    std::ranges::sort(folders);
+    for (const fs::path& folder : folders)
+        for (const fs::path& table : SourceBundle::tablesIn(source, folder, diagnostics))
+            tables.push_back(folder.filename() / table.filename());
     return tables;
 }
 
@@ -64,7 +61,7 @@ Runtime::Result<void> compileTables(const fs::path& source, const fs::path& out,
                                     const Progress& progress) {
     if (auto written = place(out / "Info.plist", information(source)); !written)
         return written;
-    const std::vector<fs::path> tables = tablesOf(source);
+    const std::vector<fs::path> tables = tablesOf(source, diagnostics);
     std::size_t done = 0;
     for (const fs::path& table : tables) {
         progress(table.string(), done++, tables.size());

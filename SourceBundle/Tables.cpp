@@ -47,29 +47,6 @@ std::vector<fs::path> developmentFolders(const fs::path& source, Diagnostics& di
     return folders;
 }
 
-std::vector<fs::path> tablesIn(const fs::path& source, const fs::path& folder, Diagnostics& diagnostics) {
-    std::vector<fs::path> tables;
-    if (auto inside = checkInside(source, folder); !inside) {
-        diagnostics.add(Severity::error, std::move(inside.error()));
-        return tables;
-    }
-    std::error_code failed;
-    for (fs::directory_iterator file(folder, failed), end; !failed && file != end; file.increment(failed)) {
-        const fs::path& path = file->path();
-        if (path.filename().native().starts_with('.'))
-            continue;
-        if (path.extension() == ".strings")
-            tables.push_back(path);
-        else if (path.extension() == ".stringsdict")
-            diagnostics.add(Severity::note,
-                            {.message = "is skipped: plural rules are no table of texts", .file = path});
-    }
-    if (failed)
-        addSystemError(diagnostics, folder, failed);
-    std::ranges::sort(tables, {}, [](const fs::path& path) { return path.stem(); });
-    return tables;
-}
-
 } // namespace
 
 Runtime::Result<void> checkInside(const fs::path& source, const fs::path& path) {
@@ -96,6 +73,28 @@ std::optional<Table> readTable(const fs::path& source, const fs::path& path, Dia
     for (const Runtime::Error& note : table->notes())
         diagnostics.add(Severity::warning, note);
     return *std::move(table);
+}
+
+std::vector<fs::path> tablesIn(const fs::path& source, const fs::path& folder, Diagnostics& diagnostics) {
+    std::vector<fs::path> tables, others;
+    if (auto inside = checkInside(source, folder); !inside) {
+        diagnostics.add(Severity::error, std::move(inside.error()));
+        return tables;
+    }
+    std::error_code failed;
+    for (fs::directory_iterator file(folder, failed), end; !failed && file != end; file.increment(failed))
+        if (const fs::path& path = file->path(); !path.filename().native().starts_with('.'))
+            (path.extension() == ".strings" ? tables : others).push_back(path);
+    if (failed)
+        addSystemError(diagnostics, folder, failed);
+    std::ranges::sort(others);
+    for (const fs::path& path : others)
+        diagnostics.add(Severity::warning, {.message = path.extension() == ".stringsdict"
+                                                           ? "is skipped: plural rules are no table of texts"
+                                                           : "is skipped: it is no table of texts (*.strings)",
+                                            .file = path});
+    std::ranges::sort(tables, {}, [](const fs::path& path) { return path.stem(); });
+    return tables;
 }
 
 std::vector<SourceTable> developmentTables(const fs::path& source, Diagnostics& diagnostics) {

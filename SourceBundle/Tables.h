@@ -27,6 +27,11 @@ struct SourceTable {
 [[nodiscard]] std::optional<StringTables::Table> readTable(const std::filesystem::path& source,
                                                            const std::filesystem::path& path, Diagnostics& diagnostics);
 
+// The paths of the tables, *.strings, directly in the language folder `folder` of `source`, sorted by name. What else
+// is there is a warning each, but for hidden files; a folder that cannot be read or leads out is an error.
+[[nodiscard]] std::vector<std::filesystem::path>
+tablesIn(const std::filesystem::path& source, const std::filesystem::path& folder, Diagnostics& diagnostics);
+
 // The tables of the development region's folder (Info.plist's CFBundleDevelopmentRegion, "en" without one) and of
 // Base.lproj, sorted by name. Where both have a table, the region's comes directly before that of Base, and the two are
 // one: a key of both has the region's text, as at run time. A table that cannot be read is an error among the

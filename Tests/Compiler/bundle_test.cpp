@@ -40,8 +40,17 @@ TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
     const Support::TemporaryFolder folder;
     folder.write("source/Base.lproj/A.strings", "\"k\" = \"ünï\";");
     folder.write("source/ru.lproj/A.strings", "<plist><dict><key>k</key><string>т</string></dict></plist>");
-    folder.write("source/ru.lproj/notes.txt", "not a table");
-    ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
+    folder.write("source/ru.lproj/.hidden.strings", "not a table");
+    folder.write("source/notes.lproj", "no folder of tables");
+    // What is left out is said, as it may hold texts.
+    std::vector<std::string> skipped;
+    for (const char* name : {"Base.lproj/A.stringsdict", "ru.lproj/A.xcstrings", "ru.lproj/notes.txt"})
+        skipped.push_back(folder.write("source/" + std::string(name), "not a table").string() + ": is skipped: ");
+    const Outcome outcome = compile(folder / "source", folder / "out.bundle");
+    ASSERT_EQ(outcome.failure, "");
+    ASSERT_EQ(outcome.diagnostics.size(), skipped.size());
+    for (std::size_t i = 0; i < skipped.size(); ++i)
+        EXPECT_TRUE(outcome.diagnostics[i].starts_with(skipped[i])) << outcome.diagnostics[i];
 
     EXPECT_EQ(filesBelow(folder / "out.bundle"),
               (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings", "ru.lproj/A.strings"}));

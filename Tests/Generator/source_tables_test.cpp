@@ -82,11 +82,12 @@ TEST(SourceTables, ReportWhatTheyCannotTake) {
     SourceBundle::Diagnostics diagnostics;
     EXPECT_EQ(names(SourceBundle::developmentTables(folder.path(), diagnostics)), Strings{"Twice"});
     const Strings found = Support::texts(diagnostics);
-    ASSERT_EQ(found.size(), 4u);
-    EXPECT_EQ(found[0], "note: " + base + "Plurals.stringsdict: is skipped: plural rules are no table of texts");
-    EXPECT_TRUE(found[1].starts_with("error: " + base + "Broken.strings:2:")) << found[1];
-    EXPECT_EQ(found[2], "error: " + base + "Folder.strings: is not a regular file");
-    EXPECT_TRUE(found[3].starts_with("warning: " + base + "Twice.strings:2:1: ")) << found[3];
+    ASSERT_EQ(found.size(), 5u);
+    EXPECT_EQ(found[0], "warning: " + base + "Layout.xib: is skipped: it is no table of texts (*.strings)");
+    EXPECT_EQ(found[1], "warning: " + base + "Plurals.stringsdict: is skipped: plural rules are no table of texts");
+    EXPECT_TRUE(found[2].starts_with("error: " + base + "Broken.strings:2:")) << found[2];
+    EXPECT_EQ(found[3], "error: " + base + "Folder.strings: is not a regular file");
+    EXPECT_TRUE(found[4].starts_with("warning: " + base + "Twice.strings:2:1: ")) << found[4];
 }
 
 TEST(SourceTables, AreNotReadByLinksThatLeadOut) {

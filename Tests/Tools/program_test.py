@@ -170,7 +170,9 @@ class Program(unittest.TestCase):
         status, _, err = run("generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree")
         self.assertEqual((status, err), (0, ""))
         self.assertIn("helloName(", (self.folder / "tree/ShopStrings/Words.h").read_text())
-        self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle")[0], 0)
+        plurals = self.write("src/Base.lproj/Words.stringsdict", "")
+        self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle"),
+                         (0, b"", f"lumora: warning: {plurals}: is skipped: plural rules are no table of texts\n"))
         self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
                          b"Hello, Bo\n")
         # It has no assets, and so no catalog. Without the bundle nobody can know.
