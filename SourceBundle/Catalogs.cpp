@@ -70,7 +70,8 @@ private:
             return diagnostics_.add(Severity::error,
                                     {.message = "has too many folders in one another", .file = folder});
         std::vector<fs::path> entries = sortedEntries(folder, diagnostics_);
-        std::ranges::stable_partition(entries, [](const fs::path& entry) { return kindOf(entry).has_value(); });
+        std::stable_partition(entries.begin(), entries.end(),
+                              [](const fs::path& entry) { return kindOf(entry).has_value(); });
         for (const fs::path& entry : entries) {
             if (isLinkedFolder(entry))
                 diagnostics_.add(Severity::note, {.message = "is a link, which is left out", .file = entry});
