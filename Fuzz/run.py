@@ -1,7 +1,7 @@
 """Runs fuzzers, two at a time, each for so many seconds of processor time: run.py FOLDER SECONDS [NAME...].
 
 FOLDER holds the programs. What a fuzzer adds to its corpus stays in FOLDER/fuzzing/NAME, as do its log and its finding,
-which ends the run.
+which ends that fuzzer and fails the run.
 """
 import os
 import pathlib
@@ -62,14 +62,12 @@ programs, limit = pathlib.Path(sys.argv[1]).resolve(), int(sys.argv[2])
 waiting = sys.argv[3:] or [name for name in corpora if (programs / f"fuzz-{name}").exists()]
 if unknown := [name for name in waiting if name not in corpora]:
     sys.exit(f"no fuzzer {' '.join(unknown)}; there are {' '.join(corpora)}")
-running, failure = [], None
-while (waiting or running) and not failure:
+running, failures = [], []
+while waiting or running:
     while waiting and len(running) < together:
         running.append(Fuzzer(waiting.pop(0)))
     time.sleep(0.5)
     for ended in [one for one in running if not one.runs()]:
         running.remove(ended)
-        failure = ended.tell() or failure
-for one in running:
-    one.child.kill()
-sys.exit(failure)
+        failures += filter(None, [ended.tell()])
+sys.exit("\n".join(failures) or None)

@@ -15,12 +15,19 @@ using Words = std::vector<std::u32string>;
 // Tables stand beside what the generated code is made of.
 constexpr std::string_view takenFromTables[] = {"detail", "std", "tr"};
 
-// A macro of <cinttypes>: "PRId64".
+// A macro of <cinttypes>: "PRId64", "SCNxFAST8".
 bool isNumberFormat(std::string_view word) {
-    constexpr std::string_view sizes[] = {"16", "32", "64", "8", "FAST", "LEAST", "MAX", "PTR"};
-    return word.size() > 4 && (word.starts_with("PRI") || word.starts_with("SCN")) &&
-           std::string_view("diouxX").find(word[3]) != std::string_view::npos &&
-           std::ranges::any_of(sizes, [&](std::string_view size) { return word.substr(4).starts_with(size); });
+    if (word.size() < 5 || !(word.starts_with("PRI") || word.starts_with("SCN")) ||
+        std::string_view("diouxX").find(word[3]) == std::string_view::npos)
+        return false;
+    word.remove_prefix(4);
+    if (word == "MAX" || word == "PTR")
+        return true;
+    for (const std::string_view kind : {"FAST", "LEAST"})
+        if (word.starts_with(kind))
+            word.remove_prefix(kind.size());
+    constexpr std::string_view sizes[] = {"8", "16", "32", "64"};
+    return std::ranges::find(sizes, word) != std::end(sizes);
 }
 
 bool isReserved(std::string_view word) {

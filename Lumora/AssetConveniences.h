@@ -31,9 +31,9 @@ template <auto one, auto other>
 concept Same = std::is_same_v<Function<one>, Function<other>>;
 
 // What the platform has found, as one of the user's class where that can be made from it.
-template <class Class, class Base> auto madeFrom(std::optional<Base> found) {
-    if constexpr (requires { Class{*std::move(found)}; })
-        return found ? std::optional<Class>(Class{*std::move(found)}) : std::nullopt;
+template <class Class, class Base> auto madeFrom(const std::optional<Base>& found) {
+    if constexpr (requires { Class{*found}; })
+        return found ? std::optional<Class>(Class{*found}) : std::nullopt;
     else
         return found;
 }
@@ -46,7 +46,7 @@ namespace UIColor {
 template <class Class = UIKit::UIColor> [[nodiscard]] auto withAsset(const LumoraColors& record) {
     auto found = Class::colorNamed(record.name(), LumoraResources::bundle(), nullptr);
     if constexpr (requires { requires detail::Same<&Class::colorNamed, &UIKit::UIColor::colorNamed>; })
-        return detail::madeFrom<Class>(std::move(found));
+        return detail::madeFrom<Class>(found);
     else
         return found;
 }
@@ -59,7 +59,7 @@ namespace NSDataAsset {
 template <class Class = UIKit::NSDataAsset> [[nodiscard]] auto withAsset(const LumoraData& record) {
     auto found = Class::assetWithName(record.name(), LumoraResources::bundle());
     if constexpr (requires { requires detail::Same<&Class::assetWithName, &UIKit::NSDataAsset::assetWithName>; })
-        return detail::madeFrom<Class>(std::move(found));
+        return detail::madeFrom<Class>(found);
     else
         return found;
 }

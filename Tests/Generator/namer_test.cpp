@@ -138,6 +138,7 @@ TEST(Namer, SpellsNamesInCpp) {
         {__LINE__, "SCNxLEAST8", "SCNxLEAST8_"},
         {__LINE__, "PRIx", "PRIx"},
         {__LINE__, "PRIde", "PRIde"},
+        {__LINE__, "SCNi8_x", "SCNi8_x"},
         {__LINE__, "I", "I_"},
         {__LINE__, "NULL", "NULL_"},
         {__LINE__, "EIO", "EIO_"},
