@@ -44,11 +44,17 @@ namespace UIColor {
 
 // The record's colour, or no value when the catalog has none of its name.
 template <class Class = UIKit::UIColor> [[nodiscard]] auto withAsset(const LumoraColors& record) {
-    auto found = Class::colorNamed(record.name(), LumoraResources::bundle(), nullptr);
-    if constexpr (requires { requires detail::Same<&Class::colorNamed, &UIKit::UIColor::colorNamed>; })
-        return detail::madeFrom<Class>(found);
+    using Platform = UIKit::UIColor;
+    constexpr bool answers = requires {
+        Class::colorNamed(record.name(), LumoraResources::bundle(), nullptr);
+    };
+    constexpr bool isPlatforms = requires {
+        requires detail::Same<&Class::colorNamed, &Platform::colorNamed>;
+    };
+    if constexpr (answers && !isPlatforms)
+        return Class::colorNamed(record.name(), LumoraResources::bundle(), nullptr);
     else
-        return found;
+        return detail::madeFrom<Class>(Platform::colorNamed(record.name(), LumoraResources::bundle(), nullptr));
 }
 
 } // namespace UIColor
@@ -57,11 +63,17 @@ namespace NSDataAsset {
 
 // The record's data, or no value when the catalog has none of its name.
 template <class Class = UIKit::NSDataAsset> [[nodiscard]] auto withAsset(const LumoraData& record) {
-    auto found = Class::assetWithName(record.name(), LumoraResources::bundle());
-    if constexpr (requires { requires detail::Same<&Class::assetWithName, &UIKit::NSDataAsset::assetWithName>; })
-        return detail::madeFrom<Class>(found);
+    using Platform = UIKit::NSDataAsset;
+    constexpr bool answers = requires {
+        Class::assetWithName(record.name(), LumoraResources::bundle());
+    };
+    constexpr bool isPlatforms = requires {
+        requires detail::Same<&Class::assetWithName, &Platform::assetWithName>;
+    };
+    if constexpr (answers && !isPlatforms)
+        return Class::assetWithName(record.name(), LumoraResources::bundle());
     else
-        return found;
+        return detail::madeFrom<Class>(Platform::assetWithName(record.name(), LumoraResources::bundle()));
 }
 
 } // namespace NSDataAsset
@@ -70,20 +82,23 @@ namespace UIImage {
 
 // The picture of that name, or no value.
 template <class Class = UIKit::UIImage> [[nodiscard]] auto withAssetName(std::string_view name) {
-    const Foundation::NSBundle& bundle = LumoraResources::bundle();
     using Platform = UIKit::UIImage;
+    const Foundation::NSBundle& bundle = LumoraResources::bundle();
+    constexpr bool answers = requires {
+        Class::imageNamedWithConfiguration(name, bundle, nullptr);
+    };
+    constexpr bool answersOlder = requires {
+        Class::imageNamed(name, bundle, nullptr);
+    };
     constexpr bool isPlatforms = requires {
         requires detail::Same<&Class::imageNamedWithConfiguration, &Platform::imageNamedWithConfiguration>;
     };
-    constexpr bool isOlderPlatforms = requires {
+    constexpr bool isPlatformsOlder = requires {
         requires detail::Same<&Class::imageNamed, &Platform::imageNamed>;
     };
-    constexpr bool hasOlder = requires {
-        Class::imageNamed(name, bundle, nullptr);
-    };
-    if constexpr (!isPlatforms)
+    if constexpr (answers && !isPlatforms)
         return Class::imageNamedWithConfiguration(name, bundle, nullptr);
-    else if constexpr (hasOlder && !isOlderPlatforms)
+    else if constexpr (answersOlder && !isPlatformsOlder)
         return Class::imageNamed(name, bundle, nullptr);
     else
         return detail::madeFrom<Class>(Platform::imageNamedWithConfiguration(name, bundle, nullptr));
