@@ -93,7 +93,7 @@ struct Bridge<Result(Arguments...), function> {
     }
     template <std::size_t... I>
     static void call([[maybe_unused]] const Argument* given, void* result, std::index_sequence<I...>) {
-        ::new (result) Carried<Result>(function(*static_cast<const Carried<Arguments>*>(given[I].value)...));
+        ::new (result) Carried<Result>(carried(function(*static_cast<const Carried<Arguments>*>(given[I].value)...)));
     }
 };
 

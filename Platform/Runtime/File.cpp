@@ -85,10 +85,11 @@ Result<void> writeThrough(const std::string& path, std::string_view bytes) {
 }
 
 // To what a process has open: nothing there has a name that could be replaced. Into an own descriptor, so that its
-// offset holds, and that it appends.
+// offset holds, and that it appends; behind what is there where another process has it.
 Result<void> writeOpened(const std::string& path, std::string_view bytes) {
     const int own = ownDescriptor(path);
-    return own < 0 ? writeThrough(path, bytes) : writeInto(::fcntl(own, F_DUPFD_CLOEXEC, 0), path, bytes);
+    const int file = own < 0 ? ::open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC) : ::fcntl(own, F_DUPFD_CLOEXEC, 0);
+    return writeInto(file, path, bytes);
 }
 
 // The mode of the file that is there; of a new one, what the umask lets others have.
@@ -132,7 +133,7 @@ Result<std::string> readFile(const std::string& path, std::size_t limit) {
 
 Result<void> writeFile(const std::string& path, std::string_view bytes) {
     std::string place = path;
-    for (int links = 0; links < maxLinks; ++links) {
+    for (int links = 0; links <= maxLinks; ++links) {
         const std::optional<std::string> link = linkAt(place);
         if (!link) {
             struct stat status {};

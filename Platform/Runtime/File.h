@@ -18,7 +18,7 @@ namespace Runtime {
 // Makes `path` hold exactly `bytes`: written to a temporary beside it and renamed, so that a reader sees the old file
 // or the new one and an interrupted write leaves the old. A link stays, and what it leads to is replaced, or made; a
 // pipe or a device is written to. A path that stands for an open descriptor, as /dev/stdout does, is written through
-// it: behind what it has written, whatever file that is.
+// it, behind what it has written, and one for a descriptor of another process to the end of the file.
 [[nodiscard]] LUMORA_EXPORT Result<void> writeFile(const std::string& path, std::string_view bytes);
 
 } // namespace Runtime
