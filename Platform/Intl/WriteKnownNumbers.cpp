@@ -10,6 +10,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <unicode/localpointer.h>
 #include <unicode/uenum.h>
 #include <unicode/uloc.h>
@@ -26,7 +27,7 @@ std::set<std::string> localeNames() {
     const icu::LocalUEnumerationPointer all(uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status));
     while (const char* name = uenum_next(all.getAlias(), nullptr, &status))
         names.insert(name);
-    return names;
+    return U_SUCCESS(status) ? names : std::set<std::string>();
 }
 
 std::string written(const Intl::NumberPattern& pattern) {
@@ -67,9 +68,14 @@ void printCharacters(const char* name, std::string_view characters) {
 } // namespace
 
 int main() {
+    const std::set<std::string> locales = localeNames();
+    if (locales.empty()) {
+        std::fprintf(stderr, "ICU does not list its locales\n");
+        return 1;
+    }
     Pool names, patterns;
     std::string known;
-    for (const std::string& name : localeNames()) {
+    for (const std::string& name : locales) {
         const auto offset = [&](Intl::NumberStyle style) {
             return std::to_string(patterns.offsetOf(written(lumoraIntlServices()->numberPattern(name, style))));
         };
@@ -77,7 +83,7 @@ int main() {
                  ", " + offset(Intl::NumberStyle::percent) + "}},\n";
     }
     constexpr std::size_t largest = std::numeric_limits<std::uint16_t>::max();
-    if (known.empty() || names.all().size() > largest || patterns.all().size() > largest) {
+    if (names.all().size() > largest || patterns.all().size() > largest) {
         std::fprintf(stderr, "%zu bytes of names and %zu of patterns do not fit\n", names.all().size(),
                      patterns.all().size());
         return 1;
