@@ -19,9 +19,19 @@ namespace {
 std::vector<fs::path> tablesOf(const fs::path& source, SourceBundle::Diagnostics& diagnostics) {
     std::vector<fs::path> folders, tables;
     std::error_code failed;
-    for (fs::directory_iterator folder(source, failed), end; !failed && folder != end; folder.increment(failed))
-        if (std::error_code unknown; folder->path().extension() == ".lproj" && folder->is_directory(unknown))
-            folders.push_back(folder->path());
+    for (fs::directory_iterator folder(source, failed), end; !failed && folder != end; folder.increment(failed)) {
+        const fs::path& path = folder->path();
+        if (path.extension() != ".lproj")
+            continue;
+        if (std::error_code unknown; folder->is_regular_file(unknown))
+            diagnostics.add(SourceBundle::Severity::warning,
+                            {.message = "is skipped: it is no folder of tables", .file = path});
+        else
+            folders.push_back(path);
+    }
+    if (failed)
+        diagnostics.add(SourceBundle::Severity::error,
+                        {.message = "cannot be read: " + failed.message(), .file = source});
     std::ranges::sort(folders);
     for (const fs::path& folder : folders)
         for (const fs::path& table : SourceBundle::tablesIn(source, folder, diagnostics))

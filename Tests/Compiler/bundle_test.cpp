@@ -3,6 +3,7 @@
 #include "StringTables/Table.h"
 
 #include "../Support/TemporaryFolder.h"
+#include <algorithm>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <set>
@@ -41,10 +42,9 @@ TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
     folder.write("source/Base.lproj/A.strings", "\"k\" = \"ünï\";");
     folder.write("source/ru.lproj/A.strings", "<plist><dict><key>k</key><string>т</string></dict></plist>");
     folder.write("source/ru.lproj/.hidden.strings", "not a table");
-    folder.write("source/notes.lproj", "no folder of tables");
     // What is left out is said, as it may hold texts.
     std::vector<std::string> skipped;
-    for (const char* name : {"Base.lproj/A.stringsdict", "ru.lproj/A.xcstrings", "ru.lproj/notes.txt"})
+    for (const char* name : {"notes.lproj", "Base.lproj/A.stringsdict", "ru.lproj/A.xcstrings", "ru.lproj/notes.txt"})
         skipped.push_back(folder.write("source/" + std::string(name), "not a table").string() + ": is skipped: ");
     const Outcome outcome = compile(folder / "source", folder / "out.bundle");
     ASSERT_EQ(outcome.failure, "");
@@ -54,6 +54,10 @@ TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
 
     EXPECT_EQ(filesBelow(folder / "out.bundle"),
               (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings", "ru.lproj/A.strings"}));
+    fs::create_symlink("nowhere", folder / "source/fr.lproj");
+    const auto broken = compile(folder / "source", folder / "out.bundle").diagnostics;
+    EXPECT_TRUE(std::ranges::any_of(
+        broken, [](const std::string& one) { return one.find("fr.lproj: cannot be read") != one.npos; }));
     const auto table = Table::read(Support::contents(folder / "out.bundle/ru.lproj/A.strings"));
     ASSERT_TRUE(table);
     EXPECT_EQ(table->form(), Form::binary);
