@@ -18,7 +18,7 @@ struct OutputFile {
 
 // Writes the files below `folder`, which is made if need be. Each replaces its predecessor at once; a file that has its
 // content already is not touched. Files of an earlier run that are no longer made are removed: those beside the new
-// ones and in `own`, the folders below `folder` that only such files are in, that begin with the same first line.
+// ones and in `own`, more folders below `folder`, that begin with the same first line.
 [[nodiscard]] Runtime::Result<void> writeFiles(const std::filesystem::path& folder,
                                                const std::vector<OutputFile>& files,
                                                const std::vector<std::filesystem::path>& own = {});

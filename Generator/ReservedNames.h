@@ -1,8 +1,10 @@
 // Generator/ReservedNames.h
-// The names that generated code may not have, sorted; internal to Namer. They are the keywords and alternative tokens
-// of C++20 and the macros that compilers and the headers of C, C++, POSIX and the C library define, but for those that
-// begin with an underscore, those of capitals only and those of families (Namer.cpp knows them), and those with an
-// underscore beyond C and C++: only a table's file name could be one. The macros are what these print for each header:
+// The names that generated code may not have, sorted; internal to Namer: the keywords and alternative tokens of C++20,
+// and the macros that compilers and the headers of C, C++, POSIX and the C library define. Left out are macros
+// - that begin with an underscore, as no name of the tree does;
+// - of capitals only, and of whole families, which Namer.cpp knows;
+// - with an underscore, beyond C and C++: only a table's file name could be one.
+// The macros are what this prints for each header:
 //     echo '#include <csignal>' | g++ -std=gnu++20 -dM -E -x c++ -
 #pragma once
 

@@ -34,7 +34,7 @@ tablesIn(const std::filesystem::path& source, const std::filesystem::path& folde
 
 // The tables of the development region's folder (Info.plist's CFBundleDevelopmentRegion, "en" without one) and of
 // Base.lproj, sorted by name. Where both have a table, the region's comes directly before that of Base, and the two are
-// one: a key of both has the region's text, as at run time. A table that cannot be read is an error among the
+// one: a key of both has the region's text, as for that language's users at run time. A table that cannot be read is an error among the
 // diagnostics, with its file and place, and is left out.
 [[nodiscard]] std::vector<SourceTable> developmentTables(const std::filesystem::path& source, Diagnostics& diagnostics);
 

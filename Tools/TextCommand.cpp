@@ -61,12 +61,11 @@ std::ptrdiff_t unused(std::string_view text, std::size_t given) {
 // Why no table had the key, where a file of the table is there and cannot be read: the library takes it for an empty
 // one.
 std::optional<Runtime::Error> damage(const Foundation::NSBundle& bundle, const std::string& table) {
-    std::vector<std::string> languages = bundle.preferredLocalizations();
-    languages.resize(std::min<std::size_t>(languages.size(), 1));
-    languages.insert(languages.end(), {"Base", bundle.developmentLocalization()});
-    for (const std::string& language : languages) {
-        if (table.find('/') != table.npos)
-            break; // such a name is no table's
+    if (table.find('/') != table.npos)
+        return std::nullopt; // such a name is no table's
+    const std::vector<std::string>& preferred = bundle.preferredLocalizations();
+    const std::string chosen = preferred.empty() ? "Base" : preferred.front();
+    for (const std::string& language : {chosen, std::string("Base"), bundle.developmentLocalization()}) {
         auto read =
             StringTables::Table::readFile(bundle.bundlePath() + "/" + language + ".lproj/" + table + ".strings");
         if (!read && read.error().cause != ENOENT)
@@ -95,8 +94,8 @@ Exit runText(const TextOptions& options) {
         note("no table \"" + options.table + "\" of the bundle has this key");
     // Options behind the key are arguments, too: this tells who did not mean them so.
     if (const auto left = unused(text, options.arguments.size()); left != 0)
-        note(std::to_string(left) + " of " + std::to_string(options.arguments.size()) +
-             " arguments are not used by the text");
+        note("of the arguments (" + std::to_string(options.arguments.size()) + ") the text does not use " +
+             std::to_string(left));
     const std::vector<Foundation::FormatArgument> arguments = [&] {
         std::vector<Foundation::FormatArgument> made;
         for (const std::string& one : options.arguments)

@@ -26,7 +26,7 @@ function(lumora_generate target)
     foreach(header IN LISTS arg_INCLUDE)
         list(APPEND includes --include ${header})
     endforeach()
-    # Of every language: which is the development language beside Base.lproj, only Info.plist knows.
+    # The tables of every language: only Info.plist says which is the development language.
     file(GLOB tables CONFIGURE_DEPENDS ${arg_SOURCE}/*.lproj/*.strings ${arg_SOURCE}/Info.plist)
 
     # Which headers there are, only the tables decide. A build learns of those that an earlier one made; a new one is

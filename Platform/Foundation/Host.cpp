@@ -43,7 +43,7 @@ HostState environmentState() {
     const std::string_view language = !all.empty() ? all : !messages.empty() ? messages : rest;
     const std::string_view locale = !all.empty() ? all : !isPlain(rest) ? rest : messages;
     std::vector<std::string> languages;
-    // As everywhere in Unix, a user who asks for the plain locale gets the plain language whatever LANGUAGE says.
+    // A user who asks for the plain locale gets the plain language whatever LANGUAGE says.
     std::string_view wanted = language.empty() || !isPlain(language) ? environment("LANGUAGE") : std::string_view();
     while (!wanted.empty()) {
         const std::string_view one = withoutSuffix(wanted, ':');
