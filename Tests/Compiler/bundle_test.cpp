@@ -29,14 +29,6 @@ Outcome compile(
     return outcome;
 }
 
-std::set<std::string> filesBelow(const fs::path& folder) {
-    std::set<std::string> files;
-    for (const auto& entry : fs::recursive_directory_iterator(folder))
-        if (!entry.is_directory())
-            files.insert(entry.path().lexically_relative(folder));
-    return files;
-}
-
 TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
     const Support::TemporaryFolder folder;
     folder.write("source/Base.lproj/A.strings", "\"k\" = \"ünï\";");
@@ -52,7 +44,7 @@ TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
     for (std::size_t i = 0; i < skipped.size(); ++i)
         EXPECT_TRUE(outcome.diagnostics[i].starts_with(skipped[i])) << outcome.diagnostics[i];
 
-    EXPECT_EQ(filesBelow(folder / "out.bundle"),
+    EXPECT_EQ(Support::filesBelow(folder / "out.bundle"),
               (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings", "ru.lproj/A.strings"}));
     fs::create_symlink("nowhere", folder / "source/fr.lproj");
     const auto broken = compile(folder / "source", folder / "out.bundle").diagnostics;
@@ -143,7 +135,7 @@ TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     const Outcome outcome = compile(folder / "source", folder / "out.bundle");
     ASSERT_EQ(outcome.diagnostics.size(), 1U);
     EXPECT_TRUE(outcome.diagnostics[0].starts_with(damaged.string() + ":2:7: ")) << outcome.diagnostics[0];
-    EXPECT_EQ(filesBelow(folder / "out.bundle"),
+    EXPECT_EQ(Support::filesBelow(folder / "out.bundle"),
               (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings"}));
     // Nothing stays aside.
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
@@ -267,7 +259,7 @@ TEST(CompileBundle, RemovesWhatAKilledCompileLeftAndNothingElse) {
     EXPECT_EQ(living, 1U);
     EXPECT_EQ(staged(folder.path()), others);
     EXPECT_TRUE(fs::exists(folder / "dear/.lumora-bundle"));
-    EXPECT_EQ(filesBelow(bundle).size(), 3U);
+    EXPECT_EQ(Support::filesBelow(bundle).size(), 3U);
 }
 
 TEST(CompileBundle, GivesTheSameBytesForTheSameSources) {
@@ -275,7 +267,7 @@ TEST(CompileBundle, GivesTheSameBytesForTheSameSources) {
     folder.write("source/Base.lproj/A.strings", "b = 1; a = 2; c = \"ünï\";");
     ASSERT_EQ(compile(folder / "source", folder / "1.bundle").failure, "");
     ASSERT_EQ(compile(folder / "source", folder / "2.bundle").failure, "");
-    for (const std::string& file : filesBelow(folder / "1.bundle"))
+    for (const std::string& file : Support::filesBelow(folder / "1.bundle"))
         EXPECT_EQ(Support::contents(folder / "1.bundle" / file), Support::contents(folder / "2.bundle" / file)) << file;
 }
 

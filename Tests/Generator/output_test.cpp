@@ -29,14 +29,6 @@ TEST(OutputFile, ReplacesWhatChangedAndRemovesWhatIsStale) {
     EXPECT_EQ(Generator::writeFiles(folder / "file", {{"a.h", ""}}).error().file, folder / "file");
 }
 
-std::set<std::string> filesBelow(const fs::path& folder) {
-    std::set<std::string> files;
-    for (const auto& entry : fs::recursive_directory_iterator(folder))
-        if (!entry.is_directory())
-            files.insert(entry.path().lexically_relative(folder));
-    return files;
-}
-
 TEST(GenerateModule, LeavesNothingOfASourceThatHadMore) {
     const Support::TemporaryFolder folder;
     const auto generate = [&](const char* out) {
@@ -44,7 +36,7 @@ TEST(GenerateModule, LeavesNothingOfASourceThatHadMore) {
         EXPECT_TRUE(
             Generator::generateModule(folder / "source", {.module = "M", .includes = {}}, folder / out, diagnostics));
         EXPECT_FALSE(diagnostics.hasErrors());
-        return filesBelow(folder / out);
+        return Support::filesBelow(folder / out);
     };
     const fs::path table = folder.write("source/Base.lproj/T.strings", "a = b;");
     folder.write("source/C.xcassets/red.colorset/Contents.json",

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <set>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -46,6 +47,15 @@ inline std::string contents(const std::filesystem::path& file) {
     std::ostringstream bytes;
     bytes << std::ifstream(file, std::ios::binary).rdbuf();
     return bytes.str();
+}
+
+// The paths of all files below, relative to it.
+inline std::set<std::string> filesBelow(const std::filesystem::path& folder) {
+    std::set<std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+        if (!entry.is_directory())
+            files.insert(entry.path().lexically_relative(folder));
+    return files;
 }
 
 } // namespace Support
