@@ -1,5 +1,5 @@
 // Assets: opening the compiled catalog, looking a name up, reading a colour record, decoding a picture.
-#include "AssetCatalog/Catalog.h"
+#include "AssetCatalog/internal/Catalog.h"
 #include <Lumora/Lumora.h>
 
 #include <benchmark/benchmark.h>

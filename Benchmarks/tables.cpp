@@ -1,7 +1,7 @@
 // Reading tables: the development texts of the application from text and from binary form.
-#include "Runtime/File.h"
-#include "StringTables/Table.h"
-#include "StringTables/Writer.h"
+#include "Runtime/internal/File.h"
+#include "StringTables/internal/Table.h"
+#include "StringTables/internal/Writer.h"
 #include <Lumora/Lumora.h>
 
 #include <benchmark/benchmark.h>

@@ -1,5 +1,5 @@
 // Reading texts: a plain one beside a function-local static, a formatted one beside a map and fmt.
-#include "StringTables/Table.h"
+#include "StringTables/internal/Table.h"
 #include "border.h"
 #include <Lumora/Lumora.h>
 

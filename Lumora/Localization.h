@@ -4,7 +4,7 @@
 // Ownership: results belong to the caller. Nothing here fails, but for the one number text that says so.
 #pragma once
 
-#include "Corvane/LocalizationCode.h"
+#include "Lumora/LocalizationCode.h"
 #include "Foundation/Locale.h"
 #include "Foundation/NSNumber.h"
 #include "Runtime/Export.h"

@@ -1,9 +1,9 @@
 // Texts of the main table by their key.
 #include "Lumora/Localization.h"
 
+#include "Foundation/NSDictionary.h"
 #include "Lumora/LumoraResources.h"
 #include "Runtime/Attempt.h"
-#include "StringTables/Table.h"
 
 namespace Lumora {
 
@@ -15,8 +15,8 @@ std::string Localization::localizationFileTranslation(std::string_view code, std
         const auto path = LumoraResources::bundle().pathForResource("Localizable", "strings", "", localization);
         if (!path)
             return {};
-        const auto table = StringTables::Table::readFile(*path);
-        return table ? std::string(table->find(key).value_or("")) : std::string();
+        const auto table = Foundation::NSDictionary::dictionaryWithContentsOfFile(*path);
+        return table ? std::string(table->stringForKey(key).value_or("")) : std::string();
     });
 }
 

@@ -15,7 +15,7 @@ if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Debug, Release, RelWithDebInfo" FORCE)
 endif()
 
-# The library, its companions and its bundle lie together in the build tree as they do when installed.
+# The library, its plug-ins and its bundle lie together in the build tree as they do when installed.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
@@ -25,44 +25,84 @@ if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
-add_library(LumoraBuildRules INTERFACE)
-target_compile_options(LumoraBuildRules INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
+include(CheckLinkerFlag)
+check_linker_flag(CXX -Wl,-z,pack-relative-relocs LUMORA_HAS_PACKED_RELOCATIONS)
+
+add_library(lumora-build-rules INTERFACE)
+target_compile_options(lumora-build-rules INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
                        $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
 # Not -O3: a seventh less code, all of it as fast or faster, and fewer pages to load at a process's start.
-target_compile_options(LumoraBuildRules INTERFACE $<$<CONFIG:Release>:-O2>)
+target_compile_options(lumora-build-rules INTERFACE $<$<CONFIG:Release>:-O2>)
 if(LUMORA_FUZZERS) # libraries too: what is not instrumented guides no fuzzer
-    target_compile_options(LumoraBuildRules INTERFACE -fsanitize=fuzzer-no-link)
-    target_link_options(LumoraBuildRules INTERFACE -fsanitize=fuzzer-no-link)
+    target_compile_options(lumora-build-rules INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(lumora-build-rules INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 if(LUMORA_SANITIZE)
-    target_compile_options(LumoraBuildRules INTERFACE -fsanitize=${LUMORA_SANITIZE} -fno-omit-frame-pointer
+    target_compile_options(lumora-build-rules INTERFACE -fsanitize=${LUMORA_SANITIZE} -fno-omit-frame-pointer
                            -fno-sanitize-recover=all)
-    target_link_options(LumoraBuildRules INTERFACE -fsanitize=${LUMORA_SANITIZE})
+    target_link_options(lumora-build-rules INTERFACE -fsanitize=${LUMORA_SANITIZE})
 endif()
 
-# lumora_library(Name SOURCES a.cpp b.cpp LINK Other ...)
-# One folder, one static library of position-independent code, reachable as Lumora::Name. Its headers are included as
-# "Name/Header.h". LINK names what its folder may include.
-function(lumora_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;PRIVATE_LINK")
-    add_library(${name} STATIC ${arg_SOURCES})
-    add_library(Lumora::${name} ALIAS ${name})
-    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR PARENT_PATH above)
-    target_include_directories(${name} PUBLIC ${above})
-    target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE ${arg_PRIVATE_LINK} LumoraBuildRules)
+# lumora_real_targets(out items...)
+# Sets `out` to the items with every alias replaced by its target, so that the linker meets each library once.
+function(lumora_real_targets out)
+    set(real "")
+    foreach(item IN LISTS ARGN)
+        if(TARGET ${item})
+            get_target_property(aliased ${item} ALIASED_TARGET)
+            if(aliased)
+                set(item ${aliased})
+            endif()
+        endif()
+        list(APPEND real ${item})
+    endforeach()
+    set(${out} ${real} PARENT_SCOPE)
 endfunction()
 
-# lumora_companion(Target FILE lumora-name SOURCES ... LINK ...)
-# A library that liblumora.so opens itself when its service is first asked for; lies in the folder lumora/ beside it.
-function(lumora_companion name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "FILE" "SOURCES;LINK")
+# lumora_library(Name SOURCES a.cpp b.cpp LINK Lumora::Other ... [PRIVATE_LINK ...])
+# One folder, one static library of position-independent code: the target lumora-Name, linked as Lumora::Name. Its headers
+# are included as "Name/Header.h". LINK names what its folder may include.
+function(lumora_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;PRIVATE_LINK")
+    add_library(lumora-${name} STATIC ${arg_SOURCES})
+    add_library(Lumora::${name} ALIAS lumora-${name})
+    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR PARENT_PATH above)
+    target_include_directories(lumora-${name} PUBLIC ${above})
+    lumora_real_targets(arg_LINK ${arg_LINK})
+    target_link_libraries(lumora-${name} PUBLIC ${arg_LINK} PRIVATE ${arg_PRIVATE_LINK} lumora-build-rules)
+endfunction()
+
+# lumora_plugin(name SOURCES ... LINK ...)
+# A library that the platform opens itself when its service is first needed: lumora/NAME.so beside it. It exports what
+# the linker script NAME.map names.
+function(lumora_plugin name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+    set(map ${CMAKE_CURRENT_SOURCE_DIR}/${name}.map)
     add_library(${name} MODULE ${arg_SOURCES})
     cmake_path(GET CMAKE_CURRENT_SOURCE_DIR PARENT_PATH above)
     target_include_directories(${name} PRIVATE ${above})
-    target_link_libraries(${name} PRIVATE ${arg_LINK} LumoraBuildRules)
-    set_target_properties(${name} PROPERTIES PREFIX "" OUTPUT_NAME ${arg_FILE}
-                          LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/lumora)
-    install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/lumora)
+    target_link_libraries(${name} PRIVATE ${arg_LINK} lumora-build-rules)
+    # Hidden visibility leaves the templates of the standard library visible; the script hides them, too.
+    target_link_options(${name} PRIVATE -Wl,--version-script=${map})
+    set_target_properties(${name} PROPERTIES PREFIX "" LINK_DEPENDS ${map}
+                          LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/lumora)
+    install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/lumora COMPONENT runtime)
+endfunction()
+
+# lumora_shared_library(target map)
+# What both shared libraries have in common: a soname, and only the names in the linker script `map` visible.
+function(lumora_shared_library target map)
+    set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+                          INSTALL_RPATH "$ORIGIN" LINK_DEPENDS ${map})
+    target_compile_features(${target} PUBLIC cxx_std_20)
+    # Never unmapped: views and texts that were read once stay valid. Its functions call each other directly.
+    target_link_options(${target} PRIVATE -Wl,-z,nodelete -Wl,-Bsymbolic -Wl,--as-needed -Wl,--version-script=${map})
+    if(LUMORA_HAS_PACKED_RELOCATIONS)
+        target_link_options(${target} PRIVATE -Wl,-z,pack-relative-relocs)
+    endif()
+    if(NOT LUMORA_SANITIZE)
+        target_link_options(${target} PRIVATE -Wl,-z,defs)
+    endif()
 endfunction()
 
 # lumora_test(name SOURCES ... LINK ... [LABELS ...])
@@ -70,7 +110,7 @@ endfunction()
 function(lumora_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;LABELS")
     add_executable(${name} ${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest_main LumoraBuildRules)
+    target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest_main lumora-build-rules)
     target_compile_definitions(${name} PRIVATE LUMORA_TEST_DATA="${PROJECT_SOURCE_DIR}/Tests/Data")
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300)

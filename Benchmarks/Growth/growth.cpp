@@ -4,8 +4,8 @@
 // nanoseconds" per line; ends with 1 when a text is wrong.
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
-#include "Runtime/File.h"
-#include "StringTables/Table.h"
+#include "Runtime/internal/File.h"
+#include "StringTables/internal/Table.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -3,7 +3,7 @@
 #include "Foundation/NSNumberFormatter.h"
 #include "Foundation/internal/HostState.h"
 #include "Foundation/internal/LanguageChoice.h"
-#include "Intl/Intl.h"
+#include "Intl/internal/Intl.h"
 
 #include <algorithm>
 #include <array>
@@ -63,7 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string identifier(reinterpret_cast<const char*>(data), size);
     const Foundation::Locale locale(identifier);
     writeNumbers(locale);
-    require(Intl::services() != nullptr); // without its companion this would be a fuzzer of nothing
+    require(Intl::services() != nullptr); // without its plug-in this would be a fuzzer of nothing
     writeYears(locale);
     chooseLanguages(identifier);
     return 0;

@@ -1,6 +1,6 @@
 // Any bytes as a picture: refused, or a bitmap of the size that was measured.
-#include "Pictures/Decoders.h"
-#include "Pictures/Pictures.h"
+#include "Pictures/internal/Decoders.h"
+#include "Pictures/internal/Pictures.h"
 #include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

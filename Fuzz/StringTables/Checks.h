@@ -2,8 +2,8 @@
 // What must hold of every table that was read.
 #pragma once
 
-#include "StringTables/Table.h"
-#include "StringTables/Writer.h"
+#include "StringTables/internal/Table.h"
+#include "StringTables/internal/Writer.h"
 #include <algorithm>
 #include <cstdlib>
 #include <iconv.h>

@@ -1,6 +1,6 @@
 // Walks through the placeholders of any text: each lies within it, behind the one before, and between a '%' and its
 // conversion.
-#include "StringTables/Placeholder.h"
+#include "StringTables/internal/Placeholder.h"
 #include <cctype>
 #include <cstdlib>
 

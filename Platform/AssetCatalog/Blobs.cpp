@@ -1,4 +1,4 @@
-#include "AssetCatalog/Blobs.h"
+#include "AssetCatalog/internal/Blobs.h"
 
 namespace AssetCatalog {
 

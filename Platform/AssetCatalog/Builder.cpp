@@ -1,7 +1,7 @@
-#include "AssetCatalog/Builder.h"
+#include "AssetCatalog/internal/Builder.h"
 
-#include "AssetCatalog/Catalog.h"
-#include "AssetCatalog/Layout.h"
+#include "AssetCatalog/internal/Catalog.h"
+#include "AssetCatalog/internal/Layout.h"
 #include <algorithm>
 #include <map>
 #include <string_view>

@@ -1,7 +1,7 @@
-#include "AssetCatalog/Catalog.h"
+#include "AssetCatalog/internal/Catalog.h"
 
-#include "AssetCatalog/Check.h"
-#include "AssetCatalog/Fit.h"
+#include "AssetCatalog/internal/Check.h"
+#include "AssetCatalog/internal/Fit.h"
 #include <algorithm>
 #include <array>
 

@@ -1,6 +1,6 @@
-#include "AssetCatalog/Check.h"
+#include "AssetCatalog/internal/Check.h"
 
-#include "AssetCatalog/Catalog.h" // limits
+#include "AssetCatalog/internal/Catalog.h" // limits
 #include <algorithm>
 #include <cmath>
 #include <string>

@@ -1,6 +1,6 @@
 #include "Foundation/internal/LanguageChoice.h"
 
-#include "Intl/Intl.h"
+#include "Intl/internal/Intl.h"
 #include <algorithm>
 #include <array>
 #include <optional>

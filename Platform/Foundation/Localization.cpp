@@ -1,7 +1,7 @@
 #include "Foundation/internal/Localization.h"
 
-#include "Runtime/Passing.h"
-#include "StringTables/Table.h"
+#include "Runtime/internal/TransientError.h"
+#include "StringTables/internal/Table.h"
 
 namespace Foundation::detail {
 
@@ -33,7 +33,7 @@ const Localization::LoadedTable& Localization::load(std::string_view name) {
         if (auto read = StringTables::Table::readFile(directory_ + "/" + std::string(name) + ".strings"))
             table = *std::move(read);
         else
-            Runtime::throwIfPassing(read.error());
+            Runtime::throwIfTransient(read.error());
     }
     auto* entry = new LoadedTable{std::string(name), std::move(table), tables_.load(std::memory_order_relaxed)};
     tables_.store(entry, std::memory_order_release);

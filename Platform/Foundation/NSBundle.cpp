@@ -3,9 +3,9 @@
 #include "Foundation/internal/HostState.h"
 #include "Foundation/internal/LanguageChoice.h"
 #include "Foundation/internal/Localization.h"
-#include "Runtime/CodeLocation.h"
-#include "Runtime/Passing.h"
-#include "StringTables/Table.h"
+#include "Runtime/internal/CodeLocation.h"
+#include "Runtime/internal/TransientError.h"
+#include "StringTables/internal/Table.h"
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
@@ -47,7 +47,7 @@ std::optional<std::vector<std::string>> listedLanguages(const std::string& path)
     std::vector<std::string> names;
     const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(path.c_str()), &::closedir);
     if (directory == nullptr) {
-        Runtime::throwIfPassing({.cause = errno});
+        Runtime::throwIfTransient({.cause = errno});
         return names;
     }
     // Its end and a failure look the same but for errno.
@@ -57,7 +57,7 @@ std::optional<std::vector<std::string>> listedLanguages(const std::string& path)
             names.emplace_back(name.substr(0, name.size() - suffix.size()));
         errno = 0;
     }
-    Runtime::throwIfPassing({.cause = errno});
+    Runtime::throwIfTransient({.cause = errno});
     return isAt(directory.get(), path) ? std::optional(std::move(names)) : std::nullopt;
 }
 
@@ -73,7 +73,7 @@ std::vector<std::string> languageFolders(const std::string& path) {
 std::string developmentRegion(const std::string& path) {
     const auto info = StringTables::Table::readFile(path + "/Info.plist");
     if (!info)
-        Runtime::throwIfPassing(info.error());
+        Runtime::throwIfTransient(info.error());
     else if (const auto region = info->find("CFBundleDevelopmentRegion"))
         return std::string(*region);
     return "en";

@@ -1,7 +1,7 @@
 #include "Foundation/String.h"
 
 #include "Foundation/internal/NumberText.h"
-#include "StringTables/Placeholder.h"
+#include "StringTables/internal/Placeholder.h"
 #include <algorithm>
 #include <array>
 #include <charconv>

@@ -3,7 +3,7 @@
 // Text: UTF-8; invalid bytes pass through as they are. Threads: any; no state.
 #pragma once
 
-#include "Foundation/Described.h"
+#include "Foundation/Describable.h"
 #include "Foundation/FormatArgument.h"
 #include "Foundation/Locale.h"
 #include "Runtime/Export.h"
@@ -25,8 +25,8 @@ namespace Foundation::String {
                                                std::span<const FormatArgument> arguments);
 inline constexpr std::size_t largestSize = 4096;
 
-// The description of any value, by the rules of Described.
-[[nodiscard]] inline std::string describing(const Described& value) {
+// The description of any value, by the rules of Describable.
+[[nodiscard]] inline std::string describing(const Describable& value) {
     return std::string(value.text());
 }
 

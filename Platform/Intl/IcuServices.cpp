@@ -1,11 +1,11 @@
-// The services of the companion library, by ICU. What ICU refuses has the plain form; nothing but std::bad_alloc is
+// The services of the plug-in, by ICU. What ICU refuses has the plain form; nothing but std::bad_alloc is
 // thrown.
-#include "Intl/Intl.h"
+#include "Intl/internal/Intl.h"
 
-#include "Intl/IcuText.h"
-#include "Intl/LanguageMatch.h"
+#include "Intl/internal/IcuText.h"
+#include "Intl/internal/LanguageMatch.h"
 #include "Runtime/Export.h"
-#include "Runtime/Memory.h"
+#include "Runtime/internal/Memory.h"
 #include <algorithm>
 #include <cstdlib> // std::abs
 #include <memory>

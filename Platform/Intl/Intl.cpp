@@ -1,9 +1,9 @@
-#include "Intl/Intl.h"
+#include "Intl/internal/Intl.h"
 
-#include "Intl/KnownNumbers.h"
-#include "Runtime/Companion.h"
+#include "Intl/internal/PrecomputedPatterns.h"
+#include "Runtime/internal/Plugin.h"
 #include "Runtime/OnceSlot.h"
-#include "Runtime/Passing.h"
+#include "Runtime/internal/TransientError.h"
 #include <utility>
 
 namespace Intl {
@@ -11,10 +11,10 @@ namespace Intl {
 const Services* services() {
     static constinit Runtime::OnceSlot<const Services*> slot;
     return slot.get([]() -> const Services* {
-        const auto entry = Runtime::companionSymbol("lumora-intl.so", "lumoraIntlServices");
+        const auto entry = Runtime::pluginSymbol("lumora-intl.so", "lumoraIntlServices");
         if (entry)
             return reinterpret_cast<const Services* (*)()>(*entry)();
-        Runtime::throwIfPassing(entry.error());
+        Runtime::throwIfTransient(entry.error());
         return nullptr;
     });
 }

@@ -1,6 +1,6 @@
-#include "Intl/LanguageMatch.h"
+#include "Intl/internal/LanguageMatch.h"
 
-#include "Intl/IcuText.h"
+#include "Intl/internal/IcuText.h"
 #include <unicode/localematcher.h>
 #include <vector>
 

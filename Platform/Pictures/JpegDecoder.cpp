@@ -1,5 +1,5 @@
-#include "Pictures/Attempts.h"
-#include "Pictures/Decoders.h"
+#include "Pictures/internal/LongjmpScope.h"
+#include "Pictures/internal/Decoders.h"
 
 #include <cstdio> // jpeglib.h needs it
 #include <jerror.h>
@@ -10,7 +10,7 @@ namespace Pictures {
 
 namespace {
 
-class JpegReader : Attempts {
+class JpegReader : LongjmpScope {
 public:
     JpegReader() {
         jpeg_.err = jpeg_std_error(&errors_);

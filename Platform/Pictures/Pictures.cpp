@@ -1,7 +1,7 @@
-#include "Pictures/Pictures.h"
+#include "Pictures/internal/Pictures.h"
 
-#include "Pictures/Decoders.h"
-#include "Runtime/Companion.h"
+#include "Pictures/internal/Decoders.h"
+#include "Runtime/internal/Plugin.h"
 #include <algorithm>
 #include <array>
 #include <atomic>
@@ -67,7 +67,7 @@ Runtime::Result<const Decoders*> decoders() {
     static constinit std::atomic<const Decoders*> loaded{nullptr};
     if (const Decoders* known = loaded.load(std::memory_order_acquire))
         return known;
-    const auto entry = Runtime::companionSymbol("lumora-pictures.so", "lumoraPictures");
+    const auto entry = Runtime::pluginSymbol("lumora-pictures.so", "lumoraPictures");
     if (!entry)
         return entry.error();
     const Decoders* const opened = reinterpret_cast<decltype(&lumoraPictures)>(*entry)();

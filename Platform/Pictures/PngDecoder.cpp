@@ -1,5 +1,5 @@
-#include "Pictures/Attempts.h"
-#include "Pictures/Decoders.h"
+#include "Pictures/internal/LongjmpScope.h"
+#include "Pictures/internal/Decoders.h"
 
 #include <cstdio>
 #include <cstring>
@@ -10,7 +10,7 @@ namespace Pictures {
 
 namespace {
 
-class PngReader : Attempts {
+class PngReader : LongjmpScope {
 public:
     explicit PngReader(std::span<const std::uint8_t> bytes) : rest_(bytes) {
         const auto failed = [](png_structp png, png_const_charp reason) {

@@ -1,16 +1,8 @@
 #include "Runtime/Class.h"
 
 #include "Runtime/Fatal.h"
+#include "Runtime/internal/PublishedClasses.h"
 #include <algorithm>
-
-// The bounds of the section that LUMORA_PUBLISH_CLASS fills, as the linker names them. Weak: a program without a class
-// has no such section.
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the linker chooses the names
-extern "C" {
-[[gnu::weak, gnu::visibility("hidden")]] extern const Runtime::Class* const __start_lumora_classes[];
-[[gnu::weak, gnu::visibility("hidden")]] extern const Runtime::Class* const __stop_lumora_classes[];
-}
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp)
 
 namespace Runtime {
 
@@ -50,10 +42,7 @@ const Message* Class::find(std::string_view selector) const noexcept {
 }
 
 const Class* classNamed(std::string_view name) noexcept {
-    for (const Class* const* cls = __start_lumora_classes; cls != __stop_lumora_classes; ++cls)
-        if ((*cls)->name() == name)
-            return *cls;
-    return nullptr;
+    return findPublished([name](const Class& published) { return published.name() == name; });
 }
 
 namespace detail {

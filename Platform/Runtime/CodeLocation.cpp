@@ -1,4 +1,4 @@
-#include "Runtime/CodeLocation.h"
+#include "Runtime/internal/CodeLocation.h"
 
 #include <array>
 #include <cerrno>

@@ -1,7 +1,7 @@
-#include "Runtime/File.h"
+#include "Runtime/internal/File.h"
 
-#include "Runtime/Descriptor.h"
-#include "Runtime/OpenFile.h"
+#include "Runtime/internal/Descriptor.h"
+#include "Runtime/internal/OpenFile.h"
 #include <array>
 #include <cerrno>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "Runtime/OpenFile.h"
+#include "Runtime/internal/OpenFile.h"
 
 #include <cerrno>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "StringTables/Placeholder.h"
+#include "StringTables/internal/Placeholder.h"
 
 namespace StringTables {
 

@@ -1,6 +1,6 @@
-#include "StringTables/Table.h"
+#include "StringTables/internal/Table.h"
 
-#include "Runtime/File.h"
+#include "Runtime/internal/File.h"
 #include "StringTables/internal/Contents.h"
 #include "StringTables/internal/Unicode.h"
 #include <numeric>

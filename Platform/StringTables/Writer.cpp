@@ -1,4 +1,4 @@
-#include "StringTables/Writer.h"
+#include "StringTables/internal/Writer.h"
 
 #include "StringTables/internal/Contents.h"
 #include "StringTables/internal/Scan.h"

@@ -1,6 +1,6 @@
 #include "UIKit/internal/BundleCatalog.h"
 
-#include "Runtime/KeptList.h"
+#include "Runtime/internal/AppendOnlyList.h"
 #include <cmath>
 #include <utility>
 
@@ -12,7 +12,7 @@ struct Opened {
     const Foundation::NSBundle* bundle;
     std::optional<AssetCatalog::Catalog> catalog;
 };
-constinit Runtime::KeptList<Opened> all; // bundles are as immortal, and few
+constinit Runtime::AppendOnlyList<Opened> all; // bundles are as immortal, and few
 
 // Null when the catalog cannot be opened for the moment.
 const Opened* openedFor(const Foundation::NSBundle& bundle) {
@@ -22,7 +22,7 @@ const Opened* openedFor(const Foundation::NSBundle& bundle) {
     Opened made{&bundle, std::nullopt};
     if (auto catalog = AssetCatalog::Catalog::open(bundle.bundlePath() + "/" + std::string(AssetCatalog::fileName)))
         made.catalog.emplace(std::move(*catalog));
-    else if (catalog.error().isPassing())
+    else if (catalog.error().isTransient())
         return nullptr;
     return &all.add(std::move(made), isIts);
 }

@@ -1,6 +1,6 @@
 #include "UIKit/NSDataAsset.h"
 
-#include "Runtime/KeptList.h"
+#include "Runtime/internal/AppendOnlyList.h"
 #include "UIKit/internal/BundleCatalog.h"
 #include <vector>
 
@@ -13,7 +13,7 @@ struct Read {
     std::vector<std::uint8_t> bytes;
 };
 // Kept as the catalogs are: the span that an asset gives out outlives the asset. Data assets are few.
-constinit Runtime::KeptList<Read> all;
+constinit Runtime::AppendOnlyList<Read> all;
 
 // Null when the bytes cannot be read.
 const Read* readFrom(const AssetCatalog::Blob& blob) {

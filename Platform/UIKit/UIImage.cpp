@@ -1,6 +1,6 @@
 #include "UIKit/UIImage.h"
 
-#include "Pictures/Pictures.h"
+#include "Pictures/internal/Pictures.h"
 #include "Runtime/OnceSlot.h"
 #include "UIKit/internal/BundleCatalog.h"
 #include "UIKit/internal/PixelCache.h"

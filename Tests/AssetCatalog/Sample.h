@@ -2,8 +2,8 @@
 // A small catalog with one asset of each kind under one name, and one more.
 #pragma once
 
-#include "AssetCatalog/Builder.h"
-#include "AssetCatalog/Model.h"
+#include "AssetCatalog/internal/Builder.h"
+#include "AssetCatalog/internal/Model.h"
 #include <string>
 #include <vector>
 

@@ -2,7 +2,7 @@
 // What tests and fuzzers do with the bytes of a catalog.
 #pragma once
 
-#include "AssetCatalog/Catalog.h"
+#include "AssetCatalog/internal/Catalog.h"
 #include <algorithm>
 #include <cstdlib>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "AssetCatalog/Catalog.h"
+#include "AssetCatalog/internal/Catalog.h"
 
 #include "../Support/TemporaryFolder.h"
 #include "Sample.h"

@@ -1,6 +1,6 @@
 // Catalogs that were cut, altered or made with bad intent: an error or, where the change makes another sound catalog,
 // that one; never a read outside of the bytes.
-#include "AssetCatalog/Catalog.h"
+#include "AssetCatalog/internal/Catalog.h"
 
 #include "Sample.h"
 #include "Walk.h"

@@ -1,4 +1,4 @@
-#include "AssetCatalog/Fit.h"
+#include "AssetCatalog/internal/Fit.h"
 
 #include <gtest/gtest.h>
 #include <vector>

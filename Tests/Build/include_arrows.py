@@ -9,16 +9,15 @@ ARROWS = {
     "Platform/StringTables": ["Platform/Runtime"],
     "Platform/Intl": ["Platform/Runtime"],
     "Platform/Foundation": ["Platform/Intl", "Platform/StringTables"],
-    "Platform/Corvane": ["Platform/Runtime"],
     "Platform/AssetCatalog": ["Platform/Runtime"],
     "Platform/Pictures": ["Platform/Runtime"],
     "Platform/UIKit": ["Platform/Foundation", "Platform/AssetCatalog", "Platform/Pictures"],
     "Platform/SwiftUI": ["Platform/UIKit"],
-    "SourceBundle": ["Platform/StringTables", "Platform/AssetCatalog"],
-    "Generator": ["SourceBundle"],
-    "Compiler": ["SourceBundle", "Platform/AssetCatalog", "Platform/Pictures"],
-    "Lumora": ["Platform/SwiftUI", "Platform/Corvane"],
-    "Tools": ["Generator", "Compiler", "Lumora"],
+    "Lumora": ["Platform/SwiftUI"],
+    "Tools/SourceBundle": ["Platform/StringTables", "Platform/AssetCatalog"],
+    "Tools/Generator": ["Tools/SourceBundle"],
+    "Tools/Compiler": ["Tools/SourceBundle", "Platform/AssetCatalog", "Platform/Pictures"],
+    "Tools/Program": ["Tools/Generator", "Tools/Compiler", "Lumora"],
 }
 INCLUDE = re.compile(r'\s*#\s*include\s+["<]([^">]+)[">]')
 

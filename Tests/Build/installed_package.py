@@ -57,14 +57,15 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     run("c++", "-std=c++20", source / "Tests/Build/consumer/app.cpp", "-o", program, *arguments)
     expect("pkg-config", run(program, env=environment).splitlines()[:2], [russian("Continue"), number])
 
-    # Reached through a link to the tree, and through a link to the library alone.
+    # Reached through a link to the tree, and through links to the libraries alone.
     (folder / "link").symlink_to(prefix)
     linked = folder / "link" / library.relative_to(prefix)
     expect("linked tree", run(program, env=environment | {"LD_LIBRARY_PATH": str(linked.parent)}).splitlines()[:2],
            [russian("Continue"), number])
     (folder / "alone").mkdir()
-    (folder / "alone" / "liblumora.so.1").symlink_to(library.resolve())
-    expect("linked library", run(program, env=environment | {"LD_LIBRARY_PATH": str(folder / "alone")}).splitlines()[:2],
+    for name in ("liblumora.so.1", "liblumora-platform.so.1"):
+        (folder / "alone" / name).symlink_to((library.parent / name).resolve())
+    expect("linked libraries", run(program, env=environment | {"LD_LIBRARY_PATH": str(folder / "alone")}).splitlines()[:2],
            [russian("Continue"), number])
 
     expect("plug-in host", run(folder / "app/host", os.path.relpath(library, folder), cwd=folder, env=environment).splitlines(),

@@ -1,6 +1,6 @@
-#include "AssetCatalog/Catalog.h"
+#include "AssetCatalog/internal/Catalog.h"
 #include "Compiler/Bundle.h"
-#include "StringTables/Table.h"
+#include "StringTables/internal/Table.h"
 
 #include "../Support/TemporaryFolder.h"
 #include <algorithm>

@@ -216,7 +216,7 @@ TEST(NoMemory, ADescriptionIsEmpty) {
                   failsOn = true;
                   for (const long n : {0, 1, 2, 3}) {
                       before = n;
-                      if (!Foundation::Described(lists).text().empty())
+                      if (!Foundation::Describable(lists).text().empty())
                           return 1;
                   }
                   return 0;

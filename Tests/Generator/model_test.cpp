@@ -26,7 +26,7 @@ Strings faultsOf(const std::string& text) {
 }
 
 TEST(Model, MakesParametersOfPlaceholders) {
-    const std::string described = "const ::Foundation::Described& ";
+    const std::string described = "const ::Foundation::Describable& ";
     const struct {
         int line;
         std::string text;

@@ -1,4 +1,4 @@
-#include "Intl/Intl.h"
+#include "Intl/internal/Intl.h"
 
 #include <gtest/gtest.h>
 

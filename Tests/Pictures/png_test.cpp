@@ -1,4 +1,4 @@
-#include "Pictures/Pictures.h"
+#include "Pictures/internal/Pictures.h"
 
 #include "PngFile.h"
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
-#include "Runtime/File.h"
+#include "Runtime/internal/File.h"
 
 #include "../Support/TemporaryFolder.h"
-#include "Runtime/Descriptor.h"
+#include "Runtime/internal/Descriptor.h"
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>

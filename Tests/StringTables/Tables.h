@@ -1,7 +1,7 @@
 // What the tests of all three forms share.
 #pragma once
 
-#include "StringTables/Table.h"
+#include "StringTables/internal/Table.h"
 #include <gtest/gtest.h>
 #include <string>
 #include <utility>

@@ -1,5 +1,5 @@
 // The XML and binary forms beside another reader and writer of them.
-#include "StringTables/Writer.h"
+#include "StringTables/internal/Writer.h"
 #include "Tables.h"
 #include <algorithm>
 #include <cstdlib> // std::free

@@ -1,4 +1,4 @@
-#include "StringTables/Placeholder.h"
+#include "StringTables/internal/Placeholder.h"
 
 #include <gtest/gtest.h>
 #include <string>

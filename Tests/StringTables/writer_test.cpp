@@ -1,4 +1,4 @@
-#include "StringTables/Writer.h"
+#include "StringTables/internal/Writer.h"
 #include "Tables.h"
 
 namespace {

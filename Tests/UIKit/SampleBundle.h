@@ -4,8 +4,8 @@
 
 #include "../Pictures/PngFile.h"
 #include "../Support/TemporaryFolder.h"
-#include "AssetCatalog/Builder.h"
-#include "AssetCatalog/Catalog.h"
+#include "AssetCatalog/internal/Builder.h"
+#include "AssetCatalog/internal/Catalog.h"
 #include "Foundation/NSBundle.h"
 #include "UIKit/UITraitCollection.h"
 

@@ -6,7 +6,7 @@
 
 #include "Foundation/NSNumber.h"
 #include "Foundation/internal/LocaleCache.h"
-#include "Intl/Intl.h"
+#include "Intl/internal/Intl.h"
 #include <string>
 #include <string_view>
 

@@ -3,7 +3,7 @@
 // Ownership: never moved once its bytes are in place; every view points into `source` or `arena`.
 #pragma once
 
-#include "StringTables/Table.h"
+#include "StringTables/internal/Table.h"
 #include "StringTables/internal/Index.h"
 #include <algorithm>
 

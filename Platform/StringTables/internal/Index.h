@@ -4,7 +4,7 @@
 // their owner.
 #pragma once
 
-#include "StringTables/Table.h"
+#include "StringTables/internal/Table.h"
 #include <bit>
 #include <cstring>
 

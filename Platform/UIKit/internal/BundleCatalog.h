@@ -3,7 +3,7 @@
 // Threads: any. Ownership: catalogs live until the process ends.
 #pragma once
 
-#include "AssetCatalog/Catalog.h"
+#include "AssetCatalog/internal/Catalog.h"
 #include "Foundation/NSBundle.h"
 #include "UIKit/UITraitCollection.h"
 #include <optional>

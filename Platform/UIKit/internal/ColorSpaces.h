@@ -3,7 +3,7 @@
 // Threads: pure functions.
 #pragma once
 
-#include "AssetCatalog/Model.h"
+#include "AssetCatalog/internal/Model.h"
 #include "UIKit/UIColor.h"
 
 namespace UIKit::detail {

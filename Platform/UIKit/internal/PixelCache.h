@@ -3,7 +3,7 @@
 // Threads: any; the lock is held for a look at the table, never while a picture is decoded.
 #pragma once
 
-#include "AssetCatalog/Blobs.h"
+#include "AssetCatalog/internal/Blobs.h"
 #include "Pictures/Bitmap.h"
 #include <cstddef>
 #include <cstdint>

@@ -20,13 +20,13 @@ constexpr char characters[] =
     "detail"
     "Сhatlist.Photo"
     "10ExerciseStraight.Delete"
-    "Foundation.Described"
+    "Foundation.Describable"
     "Runtime.std"
     "You can't set a price that exceeds %@"
     "widget.fitness.inactive.after_days";
 constexpr Place places[] = {
-    {0, 12}, {0, 20}, {0, 23}, {0, 26}, {0, 40}, {0, 51}, {0, 57}, {0, 62}, {0, 68}, {0, 83}, {0, 108}, {0, 128},
-    {0, 139}, {0, 176}, {0, 210}};
+    {0, 12}, {0, 20}, {0, 23}, {0, 26}, {0, 40}, {0, 51}, {0, 57}, {0, 62}, {0, 68}, {0, 83}, {0, 108}, {0, 130},
+    {0, 141}, {0, 178}, {0, 212}};
 
 constinit ::Runtime::OnceSlot<std::string> slots[12];
 
@@ -57,7 +57,7 @@ const std::string& continue_() { return detail::text(0); }
 const std::string& na() { return detail::text(1); }
 const std::string& msg() { return detail::text(2); }
 const std::string& compressing() { return detail::text(3); }
-std::string youCanTSetAPriceThatExceeds(const ::Foundation::Described& value) {
+std::string youCanTSetAPriceThatExceeds(const ::Foundation::Describable& value) {
     return detail::formatted(12, {value.text()});
 }
 const std::string& invoiceNo() { return detail::text(4); }
@@ -81,7 +81,7 @@ const std::string& delete_() { return detail::text(9); }
 
 namespace Odd::OddStrings::Localizable::Foundation {
 
-const std::string& described() { return detail::text(10); }
+const std::string& describable() { return detail::text(10); }
 
 } // namespace Odd::OddStrings::Localizable::Foundation
 

@@ -63,21 +63,21 @@ const std::string& hides() { return detail::text(4); }
 const std::string& keyQuotedÉ1() { return detail::text(5); }
 const std::string& long_() { return detail::text(6); }
 const std::string& percent() { return detail::text(7); }
-std::string two(const ::Foundation::Described& first, const ::Foundation::Described& second) {
+std::string two(const ::Foundation::Describable& first, const ::Foundation::Describable& second) {
     return detail::formatted(9, {first.text(), second.text()});
 }
-std::string swapped(std::int64_t first, const ::Foundation::Described& second) {
+std::string swapped(std::int64_t first, const ::Foundation::Describable& second) {
     return detail::formatted(10, {first, second.text()});
 }
-std::string same(const ::Foundation::Described& value) {
+std::string same(const ::Foundation::Describable& value) {
     return detail::formatted(11, {value.text()});
 }
 std::string width(std::int64_t first, std::int64_t second) {
     return detail::formatted(12, {first, second});
 }
-std::string sixWords(const ::Foundation::Described& first, const ::Foundation::Described& second,
-                     const ::Foundation::Described& third, const ::Foundation::Described& fourth,
-                     const ::Foundation::Described& fifth, const ::Foundation::Described& argument6) {
+std::string sixWords(const ::Foundation::Describable& first, const ::Foundation::Describable& second,
+                     const ::Foundation::Describable& third, const ::Foundation::Describable& fourth,
+                     const ::Foundation::Describable& fifth, const ::Foundation::Describable& argument6) {
     return detail::formatted(13, {first.text(), second.text(), third.text(), fourth.text(), fifth.text(),
                                   argument6.text()});
 }

@@ -1,7 +1,7 @@
 // Made from the resources of the module Odd; do not edit.
 #pragma once
 
-#include "Foundation/Described.h"
+#include "Foundation/Describable.h"
 #include "Runtime/Export.h"
 #include <cstdint>
 #include <string>
@@ -21,7 +21,7 @@ LUMORA_EXPORT const std::string& msg();
 LUMORA_EXPORT const std::string& compressing();
 
 // "You can't set a price that exceeds %@" = "The price can't exceed %@"
-LUMORA_EXPORT std::string youCanTSetAPriceThatExceeds(const ::Foundation::Described& value);
+LUMORA_EXPORT std::string youCanTSetAPriceThatExceeds(const ::Foundation::Describable& value);
 
 // "Invoice №" = "Invoice No."
 LUMORA_EXPORT const std::string& invoiceNo();
@@ -53,8 +53,8 @@ LUMORA_EXPORT const std::string& delete_();
 
 namespace Odd::OddStrings::Localizable::Foundation {
 
-// "Foundation.Described" = "A group that is called as the platform is"
-LUMORA_EXPORT const std::string& described();
+// "Foundation.Describable" = "A group that is called as the platform is"
+LUMORA_EXPORT const std::string& describable();
 
 } // namespace Odd::OddStrings::Localizable::Foundation
 
@@ -99,20 +99,20 @@ LUMORA_EXPORT const std::string& long_();
 LUMORA_EXPORT const std::string& percent();
 
 // "two" = "%@ of %@"
-LUMORA_EXPORT std::string two(const ::Foundation::Described& first, const ::Foundation::Described& second);
+LUMORA_EXPORT std::string two(const ::Foundation::Describable& first, const ::Foundation::Describable& second);
 
 // "swapped" = "%2$@ in %1$lld"
-LUMORA_EXPORT std::string swapped(std::int64_t first, const ::Foundation::Described& second);
+LUMORA_EXPORT std::string swapped(std::int64_t first, const ::Foundation::Describable& second);
 
 // "same" = "%1$@, %1$@"
-LUMORA_EXPORT std::string same(const ::Foundation::Described& value);
+LUMORA_EXPORT std::string same(const ::Foundation::Describable& value);
 
 // "width" = "%*d"
 LUMORA_EXPORT std::string width(std::int64_t first, std::int64_t second);
 
 // "six words" = "%@ %@ %@ %@ %@ %@"
-LUMORA_EXPORT std::string sixWords(const ::Foundation::Described& first, const ::Foundation::Described& second,
-                                   const ::Foundation::Described& third, const ::Foundation::Described& fourth,
-                                   const ::Foundation::Described& fifth, const ::Foundation::Described& argument6);
+LUMORA_EXPORT std::string sixWords(const ::Foundation::Describable& first, const ::Foundation::Describable& second,
+                                   const ::Foundation::Describable& third, const ::Foundation::Describable& fourth,
+                                   const ::Foundation::Describable& fifth, const ::Foundation::Describable& argument6);
 
 } // namespace Odd::OddStrings::Localizable

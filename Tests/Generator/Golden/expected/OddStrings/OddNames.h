@@ -1,7 +1,7 @@
 // Made from the resources of the module Odd; do not edit.
 #pragma once
 
-#include "Foundation/Described.h"
+#include "Foundation/Describable.h"
 #include "Runtime/Export.h"
 #include <cstdint>
 #include <string>

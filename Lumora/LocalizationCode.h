@@ -1,0 +1,39 @@
+// Lumora/LocalizationCode.h
+// The languages that the application speaks.
+// Text: ASCII. Threads: values and constants.
+#pragma once
+
+#include "Runtime/Export.h"
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Corvane {
+
+class LUMORA_EXPORT LocalizationCode {
+public:
+    enum Case : std::uint8_t { ar, de, en, es, es419, fr, id_, it, ja, ko, nl, pl, ptBR, ptPT, ru, th, tr, vi, zhHans };
+
+    constexpr LocalizationCode(Case code) noexcept : case_(code) {}
+
+    // Every case, in declaration order.
+    [[nodiscard]] static std::span<const LocalizationCode> allCases() noexcept;
+    // The case of exactly that raw value, case-sensitive, or none.
+    [[nodiscard]] static std::optional<LocalizationCode> fromRawValue(std::string_view text) noexcept;
+
+    // "es-419"
+    [[nodiscard]] std::string rawValue() const;
+    // Names the localization: the raw value.
+    [[nodiscard]] std::string id() const { return rawValue(); }
+    // Names the language alone: "es" for both "es" and "es-419".
+    [[nodiscard]] std::string shortId() const;
+
+    friend constexpr bool operator==(LocalizationCode, LocalizationCode) noexcept = default;
+
+private:
+    Case case_;
+};
+
+} // namespace Corvane

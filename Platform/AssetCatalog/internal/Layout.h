@@ -1,0 +1,36 @@
+// AssetCatalog/internal/Layout.h
+// What reader and builder of a compiled catalog must agree on beside its schema; internal.
+#pragma once
+
+#include "AssetCatalog/internal/Model.h"
+#include "Catalog_generated.h" // made from Catalog.fbs
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace AssetCatalog::Format {
+
+inline constexpr std::uint32_t version = 1;
+inline constexpr std::size_t alignment = 16; // of the blobs in the file
+
+constexpr std::size_t aligned(std::size_t size) noexcept {
+    return (size + alignment - 1) / alignment * alignment;
+}
+
+// The order of assets in a catalog. Eight bytes a step, the last ones filled up with zeros; each step can be undone, so
+// that names of one length of at most eight bytes never meet.
+inline std::uint64_t hashOf(Kind kind, std::string_view name) noexcept {
+    constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
+    std::uint64_t hash = (static_cast<std::uint64_t>(kind) << 32 | name.size()) * spread;
+    while (!name.empty()) {
+        const std::size_t step = name.size() < 8 ? name.size() : 8;
+        std::uint64_t word = 0;
+        std::memcpy(&word, name.data(), step);
+        hash = (hash ^ hash >> 32 ^ flatbuffers::EndianScalar(word)) * spread;
+        name.remove_prefix(step);
+    }
+    return hash;
+}
+
+} // namespace AssetCatalog::Format

@@ -1,0 +1,84 @@
+#include "Foundation/Describable.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace Foundation::detail {
+
+namespace {
+
+template <class T> std::string_view shortestText(T value, char* buffer) noexcept {
+    if (std::isnan(value))
+        return "nan";
+    if (std::isinf(value))
+        return value < 0 ? "-inf" : "inf";
+    // Above these, not every whole number is a value of the type, and digits in full would pretend that it is.
+    static constexpr T largestInFull = static_cast<T>(std::uint64_t{1} << (std::numeric_limits<T>::digits - 1)) * 2;
+    static constexpr T smallestInFull = static_cast<T>(1e-4L);
+    const T magnitude = std::fabs(value);
+    const bool inFull = magnitude == 0 || (magnitude >= smallestInFull && magnitude <= largestInFull);
+    const auto form = inFull ? std::chars_format::fixed : std::chars_format::scientific;
+    char* end = std::to_chars(buffer, buffer + scalarTextSize, value, form).ptr;
+    const std::string_view written(buffer, static_cast<std::size_t>(end - buffer));
+    if (inFull && written.find('.') == std::string_view::npos) {
+        *end++ = '.';
+        *end++ = '0';
+    }
+    return {buffer, end};
+}
+
+template <class T> std::string_view decimalText(T value, char* buffer) noexcept {
+    return {buffer, std::to_chars(buffer, buffer + scalarTextSize, value).ptr};
+}
+
+} // namespace
+
+std::string_view integerText(std::int64_t value, char* buffer) noexcept {
+    return decimalText(value, buffer);
+}
+std::string_view unsignedText(std::uint64_t value, char* buffer) noexcept {
+    return decimalText(value, buffer);
+}
+std::string_view floatingText(float value, char* buffer) noexcept {
+    return shortestText(value, buffer);
+}
+std::string_view floatingText(double value, char* buffer) noexcept {
+    return shortestText(value, buffer);
+}
+std::string_view floatingText(long double value, char* buffer) noexcept {
+    return shortestText(value, buffer);
+}
+
+std::string_view characterText(std::uint32_t codePoint, char* buffer) noexcept {
+    const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    const std::uint32_t value = codePoint > 0x10FFFF || isSurrogate ? 0xFFFD : codePoint;
+    if (value < 0x80) {
+        buffer[0] = static_cast<char>(value);
+        return {buffer, 1};
+    }
+    const std::size_t length = value < 0x800 ? 2 : value < 0x10000 ? 3 : 4;
+    for (std::size_t i = 0; i < length; ++i)
+        buffer[i] = static_cast<char>(0x80 | (value >> 6 * (length - 1 - i) & 0x3F));
+    buffer[0] = static_cast<char>(0xF00 >> length | value >> 6 * (length - 1));
+    return {buffer, length};
+}
+
+void appendQuoted(std::string& out, std::string_view text) {
+    static constexpr std::string_view hexDigits = "0123456789ABCDEF";
+    static constexpr std::string_view escaped("\"\\\n\r\t\0", 6);
+    static constexpr std::string_view escapes = "\"\\nrt0";
+    out += '"';
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (const std::size_t known = escaped.find(c); known != std::string_view::npos)
+            (out += '\\') += escapes[known];
+        else if (byte < 0x20 || byte == 0x7F)
+            ((out += "\\u{") += hexDigits[byte >> 4]) += hexDigits[byte & 15], out += '}';
+        else
+            out += c;
+    }
+    out += '"';
+}
+
+} // namespace Foundation::detail

@@ -1,0 +1,161 @@
+// Foundation/Describable.h
+// The platform's default description of a value, as a parameter type: a function that takes `const Describable&` takes
+// any value that can be described. Text: UTF-8; the bytes of texts pass through as they are. Threads: any; values.
+// Included by every header of typed texts, so it includes little.
+#pragma once
+
+#include "Runtime/Export.h"
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <new>      // std::bad_alloc
+#include <optional> // std::nullopt_t
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility> // std::declval
+
+namespace Foundation {
+
+namespace detail {
+
+inline constexpr std::size_t scalarTextSize = 32; // of the longest number
+
+// Each writes into `buffer`, of scalarTextSize bytes, and returns what it wrote.
+LUMORA_EXPORT std::string_view integerText(std::int64_t value, char* buffer) noexcept;
+LUMORA_EXPORT std::string_view unsignedText(std::uint64_t value, char* buffer) noexcept;
+LUMORA_EXPORT std::string_view floatingText(float value, char* buffer) noexcept;
+LUMORA_EXPORT std::string_view floatingText(double value, char* buffer) noexcept;
+LUMORA_EXPORT std::string_view floatingText(long double value, char* buffer) noexcept;
+// UTF-8; U+FFFD for what is no character.
+LUMORA_EXPORT std::string_view characterText(std::uint32_t codePoint, char* buffer) noexcept;
+// In quotation marks, with quotation marks, backslashes and control characters escaped.
+LUMORA_EXPORT void appendQuoted(std::string& out, std::string_view text);
+
+template <class T>
+concept NarrowCharacter = std::same_as<T, char> || std::same_as<T, char8_t>;
+template <class T>
+concept WideCharacter = std::same_as<T, char16_t> || std::same_as<T, char32_t> || std::same_as<T, wchar_t>;
+
+template <class T>
+concept DescribesItself = requires(const T& value) {
+    { describe(value) } -> std::convertible_to<std::string>; // found by argument-dependent look-up only
+};
+
+template <class T>
+concept OptionalLike = requires(const T& value) {
+    typename T::value_type;
+    { value.has_value() } -> std::same_as<bool>;
+    *value;
+};
+
+template <class T> using ElementOf = std::remove_cvref_t<decltype(*std::begin(std::declval<const T&>()))>;
+// A text of wide characters is none: it would read as a list of letters. Nor is what holds parts of its own type.
+template <class T>
+concept Sequence = requires(const T& value) {
+    std::begin(value) != std::end(value);
+}
+&&!std::same_as<ElementOf<T>, T> && !WideCharacter<ElementOf<T>> && !std::same_as<ElementOf<T>, char8_t>;
+
+} // namespace detail
+
+// The description of a value, made from
+// - a text (std::string, std::string_view, const char*; a null pointer is "nil") or a character: itself;
+// - a bool: "true" or "false"; a whole number: its decimal digits;
+// - a floating number: the fewest digits that give the same value back, with a point or an exponent: "2.0", "0.1",
+// "1e+16";
+// - a type with `std::string describe(const T&)` in its namespace: what that returns;
+// - std::nullopt: "nil"; an optional: "nil" or "Optional(5)"; a sequence: "[1, 2]". Texts inside are quoted: ["a"].
+// Borrows texts, which must outlive it; nothing but descriptions, optionals and sequences needs memory. When that is
+// out the description is empty; any other exception of a describe() goes to whoever asked for the description.
+class Describable {
+public:
+    template <class T> Describable(const T& value) {
+        try {
+            describeValue(value);
+        } catch (const std::bad_alloc&) {
+            text_ = {};
+        }
+    }
+    template <class T>
+    Describable(std::initializer_list<T> values) : Describable(std::span(values.begin(), values.end())) {}
+
+    Describable(const Describable&) = delete;
+    Describable& operator=(const Describable&) = delete;
+
+    // Lives as long as this and the described text do.
+    std::string_view text() const noexcept { return text_; }
+
+private:
+    Describable() = default;
+
+    template <class T> void describeValue(const T& value) {
+        if constexpr (std::same_as<T, bool>)
+            text_ = value ? "true" : "false";
+        else if constexpr (detail::NarrowCharacter<T>)
+            borrow(std::string_view(buffer_, 1)), buffer_[0] = static_cast<char>(value);
+        else if constexpr (detail::WideCharacter<T>)
+            borrow(detail::characterText(static_cast<std::uint32_t>(value), buffer_));
+        else if constexpr (std::signed_integral<T> && sizeof(T) <= sizeof(std::int64_t))
+            text_ = detail::integerText(value, buffer_);
+        else if constexpr (std::unsigned_integral<T> && sizeof(T) <= sizeof(std::uint64_t))
+            text_ = detail::unsignedText(value, buffer_);
+        else if constexpr (std::floating_point<T>)
+            text_ = detail::floatingText(value, buffer_);
+        else if constexpr (std::is_pointer_v<T> && std::convertible_to<T, const char*>)
+            value == nullptr ? void(text_ = "nil") : borrow(value);
+        else if constexpr (std::is_null_pointer_v<T> || std::same_as<T, std::nullopt_t>)
+            text_ = "nil";
+        else if constexpr (detail::DescribesItself<T>)
+            text_ = owned_ = describe(value);
+        else if constexpr (std::convertible_to<const T&, std::string_view>)
+            borrow(value);
+        else if constexpr (detail::OptionalLike<T> || detail::Sequence<T>) {
+            appendParts(value);
+            text_ = owned_;
+        } else
+            static_assert(!sizeof(T*), "a value of this type has no description: declare "
+                                       "`std::string describe(const T&)` in the namespace of the type");
+    }
+    void borrow(std::string_view text) noexcept {
+        text_ = text;
+        isText_ = true;
+    }
+
+    template <class T> void appendParts(const T& value) {
+        if constexpr (detail::OptionalLike<T>) {
+            if (!value.has_value()) {
+                owned_ += "nil";
+                return;
+            }
+            owned_ += "Optional(";
+            appendInner(*value);
+            owned_ += ')';
+        } else {
+            const char* separator = "[";
+            for (const auto& element : value) {
+                owned_ += separator;
+                separator = ", ";
+                appendInner<detail::ElementOf<T>>(element);
+            }
+            owned_ += *separator == '[' ? "[]" : "]";
+        }
+    }
+    template <class T> void appendInner(const T& value) {
+        Describable inner;
+        inner.describeValue(value);
+        if (inner.isText_)
+            detail::appendQuoted(owned_, inner.text_);
+        else
+            owned_ += inner.text_;
+    }
+
+    std::string_view text_;
+    bool isText_ = false;
+    char buffer_[detail::scalarTextSize];
+    std::string owned_;
+};
+
+} // namespace Foundation

@@ -1,0 +1,42 @@
+// Intl/internal/NumberPattern.h
+// How a locale writes numbers.
+// Text: UTF-8. Threads: plain values.
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace Intl {
+
+enum class NumberStyle { decimal, percent };
+
+// How one locale writes numbers of one style. Affixes hold the sign where the locale puts it. As made here: the plain
+// decimal form, ASCII without grouping.
+struct NumberPattern {
+    std::array<std::string, 10> digits = {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"};
+    std::string positivePrefix, positiveSuffix;
+    std::string negativePrefix = "-", negativeSuffix;
+    std::string plusSign = "+", minusSign = "-";
+    std::string decimalSeparator = ".", groupingSeparator;
+    std::string infinity = "∞", notANumber = "NaN";
+    unsigned primaryGrouping = 0;   // digits of the last group; 0: no grouping
+    unsigned secondaryGrouping = 0; // digits of the groups before it
+    unsigned minimumGrouping = 1;   // digits that must stand before the first separator
+    unsigned maximumFraction = 3;
+    unsigned minimumFraction = 0;
+    unsigned powerOfTen = 0; // how far the point moves before a number is written: 2 for percent
+};
+
+// The plain form of a style: what there is without knowledge of the locale.
+[[nodiscard]] inline NumberPattern plainNumberPattern(NumberStyle style) {
+    NumberPattern pattern;
+    if (style == NumberStyle::percent) {
+        pattern.positiveSuffix += '%';
+        pattern.negativeSuffix += '%';
+        pattern.maximumFraction = 0;
+        pattern.powerOfTen = 2;
+    }
+    return pattern;
+}
+
+} // namespace Intl

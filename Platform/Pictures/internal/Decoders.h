@@ -1,0 +1,38 @@
+// Pictures/internal/Decoders.h
+// The face of the plug-in; internal. Both sides are built together. Programs of the build, which no plug-in
+// lies beside, link the decoders themselves.
+#pragma once
+
+#include "Pictures/Bitmap.h"
+#include "Runtime/Export.h"
+#include "Runtime/internal/Result.h"
+#include <cstdint>
+#include <span>
+
+namespace Pictures {
+
+class Decoders {
+public:
+    virtual Runtime::Result<Bitmap> png(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) const = 0;
+    virtual Runtime::Result<Bitmap> jpeg(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) const = 0;
+
+protected:
+    ~Decoders() = default;
+};
+
+// What the decoders are made of; each checks the limit on the numbers that it decodes by.
+Runtime::Result<Bitmap> decodePng(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
+Runtime::Result<Bitmap> decodeJpeg(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
+
+// A bitmap of that size with its memory, or the error that it is too large.
+inline Runtime::Result<Bitmap> blank(std::uint32_t width, std::uint32_t height, std::uint64_t maxPixels) {
+    const std::uint64_t pixels = std::uint64_t{width} * height;
+    if (pixels > maxPixels)
+        return Runtime::Error{.message = "has more than " + std::to_string(maxPixels) + " pixels", .file = {}};
+    return Bitmap{width, height, std::vector<std::uint8_t>(static_cast<std::size_t>(pixels) * 4)};
+}
+
+} // namespace Pictures
+
+// The one function that the plug-in exports.
+extern "C" LUMORA_EXPORT const Pictures::Decoders* lumoraPictures() noexcept;

@@ -1,0 +1,24 @@
+// Runtime/internal/CodeLocation.h
+// Where loaded code lies in the file system.
+// Text: paths as the file system has them, any bytes. Threads: any.
+#pragma once
+
+#include "Runtime/Export.h"
+#include <string>
+
+namespace Runtime {
+
+struct CodeLocation {
+    std::string directory; // of the real file, links followed; absolute; without a slash at its end
+    std::string name;      // the file's own name: "liblumora.so.1.0.0", "app"
+    bool isMainProgram = false;
+};
+
+// Of the shared object or program that holds `code`, the address of a function or object of static storage. The answer
+// does not depend on the process's current directory. Empty texts when the address belongs to no loaded file.
+// Throws nothing but std::bad_alloc.
+[[nodiscard]] LUMORA_EXPORT CodeLocation codeLocation(const void* code);
+// Of the running program itself.
+[[nodiscard]] LUMORA_EXPORT CodeLocation mainProgramLocation();
+
+} // namespace Runtime

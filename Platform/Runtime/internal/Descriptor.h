@@ -1,0 +1,32 @@
+// Runtime/internal/Descriptor.h
+// An open file of the system.
+// Ownership: closes it. Threads: as the system's number.
+#pragma once
+
+#include <unistd.h>
+#include <utility>
+
+namespace Runtime {
+
+class Descriptor {
+public:
+    // Negative: none.
+    explicit Descriptor(int number) noexcept : number_(number) {}
+    Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        std::swap(number_, other.number_);
+        return *this;
+    }
+    ~Descriptor() {
+        if (number_ >= 0)
+            ::close(number_);
+    }
+    int number() const noexcept { return number_; }
+    // Closes now, for writers who want to hear of it. False on failure.
+    bool close() noexcept { return ::close(std::exchange(number_, -1)) == 0; }
+
+private:
+    int number_;
+};
+
+} // namespace Runtime

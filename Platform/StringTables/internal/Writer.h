@@ -1,0 +1,16 @@
+// StringTables/internal/Writer.h
+// Writes a table in one of its forms. The same entries give the same bytes.
+// Text: UTF-8 in, UTF-8 out (binary: as the form wants it). Threads: any; no state.
+#pragma once
+
+#include "StringTables/internal/Table.h"
+#include <span>
+#include <string>
+
+namespace StringTables {
+
+// The bytes of a table with these entries, in this order. `form` text gives `"key" = "text";` lines.
+// An error when an entry is not UTF-8, or holds a control character that XML has no way to write (form xml).
+[[nodiscard]] Runtime::Result<std::string> write(std::span<const Entry> entries, Form form);
+
+} // namespace StringTables

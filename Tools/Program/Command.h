@@ -1,0 +1,43 @@
+// Program/Command.h
+// What the commands of the program share: how they end, and how they speak to their user.
+#pragma once
+
+#include "Runtime/internal/Result.h"
+#include "SourceBundle/Diagnostics.h"
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace CLI {
+class App;
+class Validator;
+} // namespace CLI
+
+namespace Tools {
+
+// Of a path on the command line: refuses the empty one, which no message could name.
+CLI::Validator named();
+
+// How the program ends.
+enum class Exit : int { done = 0, faultsFound = 1, wrongUse = 2 };
+
+// Each adds its command to the program. When the command line names it, it runs and sets `exit`.
+void addTextCommand(CLI::App& program, Exit& exit);
+void addTableCommand(CLI::App& program, Exit& exit);
+void addGenerateCommand(CLI::App& program, Exit& exit);
+void addCompileCommand(CLI::App& program, Exit& exit);
+void addAssetCommands(CLI::App& program, Exit& exit);
+
+// One line on standard error, "lumora: WHAT", in colour on a terminal.
+Exit fail(const Runtime::Error& error);
+void note(std::string_view what);
+// Every diagnostic on a line of its own; Exit::wrongUse if an error is among them.
+Exit report(const SourceBundle::Diagnostics& diagnostics);
+// A line that is written over by the next, on a terminal only; `done` of `all` equal takes it away.
+void showProgress(std::string_view what, std::size_t done, std::size_t all);
+// To standard output, whole; an error when it cannot be written.
+Exit print(std::string_view bytes);
+// To the file that the option -o names, or to standard output for "-".
+Exit write(const std::string& output, std::string_view bytes);
+
+} // namespace Tools

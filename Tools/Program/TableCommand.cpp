@@ -1,0 +1,123 @@
+// lumora table: a string table read in any form and written in another.
+#include "Program/Command.h"
+
+#include "StringTables/internal/Table.h"
+#include "StringTables/internal/Writer.h"
+#include <CLI/CLI.hpp>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+namespace Tools {
+
+namespace {
+
+using StringTables::Form;
+using StringTables::Table;
+
+enum class Output { json, strings, xml, binary };
+
+const std::map<std::string, Output> outputs = {
+    {"json", Output::json}, {"strings", Output::strings}, {"xml", Output::xml}, {"binary", Output::binary}};
+
+struct TableOptions {
+    std::string file;
+    std::string output = "-";
+    std::string form = "json";
+};
+
+std::string json(const Table& table) {
+    nlohmann::ordered_json texts = nlohmann::ordered_json::object();
+    // Keys are there once each; looking for them again would take quadratic time in an ordered object.
+    auto& members = texts.get_ref<nlohmann::ordered_json::object_t&>();
+    for (const StringTables::Entry& entry : table.entries())
+        members.emplace_back(std::string(entry.key), std::string(entry.text));
+    return texts.dump(2) + "\n";
+}
+
+Runtime::Result<std::string> written(const Table& table, Output form) {
+    switch (form) {
+    case Output::strings:
+        return StringTables::write(table.entries(), Form::text);
+    case Output::xml:
+        return StringTables::write(table.entries(), Form::xml);
+    case Output::binary:
+        return StringTables::write(table.entries(), Form::binary);
+    case Output::json:
+        break;
+    }
+    return json(table);
+}
+
+// What a pipe or a device gives until it ends.
+Runtime::Result<std::string> readToEnd(std::FILE* stream) {
+    std::string bytes;
+    std::array<char, 65536> part;
+    while (const std::size_t count = std::fread(part.data(), 1, part.size(), stream)) {
+        bytes.append(part.data(), count);
+        if (bytes.size() > Table::maxBytes)
+            return Runtime::Error{.message = "is larger than " + std::to_string(Table::maxBytes) + " bytes",
+                                  .file = {}};
+    }
+    if (std::ferror(stream) != 0)
+        return Runtime::Error{.message = std::string("cannot be read: ") + std::strerror(errno), .file = {}};
+    return bytes;
+}
+
+Runtime::Result<Table> readTable(const std::string& file) {
+    std::error_code failed;
+    const auto type = std::filesystem::status(file, failed).type();
+    const bool isInput = file == "-";
+    if (!isInput && type != std::filesystem::file_type::fifo && type != std::filesystem::file_type::character)
+        return Table::readFile(file);
+    const std::unique_ptr<std::FILE, decltype(&std::fclose)> stream(isInput ? stdin : std::fopen(file.c_str(), "rb"),
+                                                                    &std::fclose);
+    if (stream == nullptr)
+        return Runtime::Error{.message = std::string("cannot be read: ") + std::strerror(errno), .file = {}};
+    auto bytes = readToEnd(stream.get());
+    return bytes ? Table::read(*std::move(bytes)) : std::move(bytes.error());
+}
+
+Exit runTable(const TableOptions& options) {
+    const std::string name = options.file == "-" ? "standard input" : options.file;
+    auto table = readTable(options.file);
+    if (!table) {
+        table.error().file = name;
+        return fail(table.error());
+    }
+    for (Runtime::Error skipped : table->notes()) {
+        skipped.file = name;
+        note(skipped.text());
+    }
+    auto out = written(*table, outputs.at(options.form));
+    if (!out) {
+        out.error().file = name;
+        return fail(out.error());
+    }
+    return write(options.output, *out);
+}
+
+} // namespace
+
+void addTableCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<TableOptions>();
+    CLI::App* command = program.add_subcommand("table", "Read a string table of any form and write it in another.");
+    command
+        ->add_option("FILE", options->file,
+                     "The table: quoted text, XML or binary, told by its content; - is standard input")
+        ->required()
+        ->check(named());
+    command->add_option("--to", options->form, "The form to write")
+        ->check(CLI::IsMember({"json", "strings", "xml", "binary"}))
+        ->capture_default_str();
+    command->add_option("-o,--output", options->output, "Where to write; - is standard output")
+        ->check(named())
+        ->capture_default_str();
+    command->callback([options, &exit] { exit = runTable(*options); });
+}
+
+} // namespace Tools

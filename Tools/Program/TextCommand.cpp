@@ -1,0 +1,128 @@
+// lumora text: the finished text of a key.
+#include "Program/Command.h"
+
+#include "Foundation/Host.h"
+#include "Foundation/Locale.h"
+#include "Foundation/NSBundle.h"
+#include "Foundation/String.h"
+#include "Lumora/LumoraResources.h"
+#include "StringTables/internal/Placeholder.h"
+#include "StringTables/internal/Table.h"
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+namespace Tools {
+
+namespace {
+
+struct TextOptions {
+    std::string bundle;
+    std::string language;
+    std::string locale;
+    std::string table = "Localizable";
+    std::string key;
+    std::vector<std::string> arguments;
+};
+
+// A whole number where the text is exactly how one is written; "007" and "+1" are texts.
+Foundation::FormatArgument argument(const std::string& text) {
+    std::int64_t number = 0;
+    const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (end.ec == std::errc() && std::to_string(number) == text)
+        return number;
+    return std::string_view(text);
+}
+
+// How many of `given` arguments no placeholder of the text takes.
+std::ptrdiff_t unused(std::string_view text, std::size_t given) {
+    std::vector<bool> isUsed(given, false);
+    const auto use = [&](std::size_t position) {
+        if (position <= given)
+            isUsed[position - 1] = true;
+    };
+    std::size_t taken = 0, from = 0;
+    while (const auto placeholder = StringTables::nextPlaceholder(text, from)) {
+        from = placeholder->end;
+        if (placeholder->kind == StringTables::Placeholder::Kind::percent)
+            continue;
+        for (const auto& size : {placeholder->width, placeholder->precision})
+            if (size.from == StringTables::Placeholder::Size::From::argument)
+                use(++taken);
+        use(placeholder->position != 0 ? placeholder->position : ++taken);
+    }
+    return std::ranges::count(isUsed, false);
+}
+
+// Why no table had the key, where a file of the table is there and cannot be read: the library takes it for an empty
+// one.
+std::optional<Runtime::Error> damage(const Foundation::NSBundle& bundle, const std::string& table) {
+    if (table.find('/') != table.npos)
+        return std::nullopt; // such a name is no table's
+    const std::vector<std::string>& preferred = bundle.preferredLocalizations();
+    const std::string chosen = preferred.empty() ? "Base" : preferred.front();
+    for (const std::string& language : {chosen, std::string("Base"), bundle.developmentLocalization()}) {
+        auto read =
+            StringTables::Table::readFile(bundle.bundlePath() + "/" + language + ".lproj/" + table + ".strings");
+        if (!read && read.error().cause != ENOENT)
+            return std::move(read.error());
+    }
+    return std::nullopt;
+}
+
+Exit runText(const TextOptions& options) {
+    if (!options.bundle.empty() && !std::filesystem::is_directory(options.bundle))
+        return fail({.message = "is no bundle", .file = options.bundle});
+    if (!options.language.empty()) {
+        Foundation::Host::setPreferredLanguages({options.language});
+        Foundation::Host::setCurrentLocale(options.language);
+    }
+    if (!options.locale.empty())
+        Foundation::Host::setCurrentLocale(options.locale);
+
+    const Foundation::NSBundle& bundle = options.bundle.empty() ? Lumora::LumoraResources::bundle()
+                                                                : Foundation::NSBundle::bundleWithPath(options.bundle);
+    const std::string_view text = bundle.localizedText(options.key, options.table);
+    const bool isMissing = text.data() == options.key.data();
+    if (const auto damaged = isMissing ? damage(bundle, options.table) : std::nullopt)
+        return fail(*damaged);
+    if (isMissing)
+        note("no table \"" + options.table + "\" of the bundle has this key");
+    // Options behind the key are arguments, too: this tells who did not mean them so.
+    if (const auto left = unused(text, options.arguments.size()); left != 0)
+        note("of the arguments (" + std::to_string(options.arguments.size()) + ") the text does not use " +
+             std::to_string(left));
+    const std::vector<Foundation::FormatArgument> arguments = [&] {
+        std::vector<Foundation::FormatArgument> made;
+        for (const std::string& one : options.arguments)
+            made.push_back(argument(one));
+        return made;
+    }();
+    return print(Foundation::String::format(text, Foundation::Locale::current(), arguments) + "\n");
+}
+
+} // namespace
+
+void addTextCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<TextOptions>();
+    CLI::App* command = program.add_subcommand("text", "Print the finished text of a key.");
+    command->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
+    command->add_option("--language", options->language, "The user's language, such as ru or es-MX");
+    command->add_option("--locale", options->locale, "The user's locale, such as de_AT (default: the language)");
+    command->add_option("--table", options->table, "The table")->capture_default_str();
+    command->add_option("KEY", options->key, "The key, exactly as the table has it")->required();
+    command->add_option("ARG", options->arguments, "What the text's placeholders are filled with");
+    command->positionals_at_end();
+    command->callback([options, &exit] {
+        // The parser hands on the mark that ends the options.
+        if (!options->arguments.empty() && options->arguments.front() == "--")
+            options->arguments.erase(options->arguments.begin());
+        exit = runText(*options);
+    });
+}
+
+} // namespace Tools

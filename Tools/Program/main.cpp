@@ -1,0 +1,43 @@
+// The program `lumora`: a thin face of the libraries.
+#include "Program/Command.h"
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <sstream>
+
+namespace {
+
+Tools::Exit failWith(const CLI::Error& wrong) {
+    return Tools::fail({.message = std::string(wrong.what()) + " (see lumora --help)"});
+}
+
+} // namespace
+
+// NOLINTNEXTLINE(bugprone-exception-escape): what may be thrown outside of the block is that memory is out
+int main(int argc, char** argv) {
+    CLI::App program("Localized texts and assets: reads, makes and compiles what a module ships.", "lumora");
+    program.set_version_flag("--version", LUMORA_VERSION);
+    Tools::Exit exit = Tools::Exit::done;
+    Tools::addTextCommand(program, exit);
+    Tools::addTableCommand(program, exit);
+    Tools::addGenerateCommand(program, exit);
+    Tools::addCompileCommand(program, exit);
+    Tools::addAssetCommands(program, exit);
+    try {
+        program.parse(argc, argv);
+        // Asked here, after a wrong word has been named.
+        if (program.get_subcommands().empty())
+            throw CLI::RequiredError("A command");
+    } catch (const CLI::Success& asked) { // --help, --version
+        // The parser comes to them before it complains of a command that it does not know.
+        const std::vector<std::string> unknown = program.remaining();
+        std::ostringstream text;
+        program.exit(asked, text, text);
+        exit = unknown.empty() ? Tools::print(text.str()) : failWith(CLI::ExtrasError(unknown));
+    } catch (const CLI::Error& wrong) {
+        exit = failWith(wrong);
+    } catch (const std::exception& failed) {
+        exit = Tools::fail({.message = failed.what()});
+    }
+    return static_cast<int>(exit);
+}
