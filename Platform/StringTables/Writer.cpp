@@ -1,10 +1,8 @@
 #include "StringTables/internal/Writer.h"
 
+#include "StringTables/internal/BinaryWriter.h"
 #include "StringTables/internal/Contents.h"
-#include "StringTables/internal/Scan.h"
 #include "StringTables/internal/Unicode.h"
-#include <bit>
-#include <unordered_map>
 
 namespace StringTables {
 
@@ -90,95 +88,15 @@ Runtime::Result<std::string> writeXml(Entries entries) {
 }
 
 // The objects are the dictionary, then each different string once, as keys and texts first name it.
-class BinaryWriter {
-public:
-    explicit BinaryWriter(Entries entries) : entries_(entries) {
-        for (const Entry& entry : entries_)
-            keep(entry.key);
-        for (const Entry& entry : entries_)
-            keep(entry.text);
-    }
-
-    std::string write() {
-        const std::size_t refSize = bytesFor(strings_.size());
-        out_ = "bplist00";
-        begin(0xD, entries_.size());
-        for (const Entry& entry : entries_)
-            put(numbers_[entry.key], refSize);
-        for (const Entry& entry : entries_)
-            put(numbers_[entry.text], refSize);
-        for (const std::string_view text : strings_)
-            string(text);
-        const std::size_t tableAt = out_.size(), offsetSize = bytesFor(tableAt);
-        for (const std::size_t offset : offsets_)
-            put(offset, offsetSize);
-        put(0, 6);
-        put(offsetSize, 1);
-        put(refSize, 1);
-        put(offsets_.size(), 8);
-        put(0, 8); // the dictionary's number
-        put(tableAt, 8);
-        return std::move(out_);
-    }
-
-private:
-    void keep(std::string_view text) {
-        if (numbers_.try_emplace(text, strings_.size() + 1).second)
-            strings_.push_back(text);
-    }
-
-    // The fewest of 1, 2, 4, 8 bytes that hold `number`.
-    static std::size_t bytesFor(std::size_t number) noexcept {
-        const auto bits = static_cast<std::size_t>(std::bit_width(number));
-        return std::bit_ceil(std::max<std::size_t>((bits + 7) / 8, 1));
-    }
-
-    void put(std::uint64_t number, std::size_t size) {
-        while (size-- > 0)
-            out_ += static_cast<char>(number >> 8 * size & 0xFF);
-    }
-
-    // An object's marker and size.
-    void begin(unsigned type, std::size_t count) {
-        offsets_.push_back(out_.size());
-        if (count < 0xF) {
-            put(type << 4 | count, 1);
-            return;
-        }
-        const std::size_t size = bytesFor(count);
-        put(type << 4 | 0xF, 1);
-        put(0x10u | static_cast<unsigned>(std::countr_zero(size)), 1);
-        put(count, size);
-    }
-
-    void string(std::string_view text) {
-        const char* const end = text.data() + text.size();
-        if (internal::skipAscii(text.data(), end) == end) {
-            begin(0x5, text.size());
-            out_ += text;
-            return;
-        }
-        std::u16string units;
-        while (!text.empty()) {
-            const char32_t code = internal::takeCharacter(text);
-            if (code >= 0x10000) {
-                units += static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10));
-                units += static_cast<char16_t>(0xDC00 + ((code - 0x10000) & 0x3FF));
-            } else {
-                units += static_cast<char16_t>(code);
-            }
-        }
-        begin(0x6, units.size());
-        for (const char16_t unit : units)
-            put(unit, 2);
-    }
-
-    Entries entries_;
-    std::unordered_map<std::string_view, std::size_t> numbers_;
-    std::vector<std::string_view> strings_;
-    std::vector<std::size_t> offsets_;
-    std::string out_;
-};
+std::string writeBinary(Entries entries) {
+    internal::BinaryWriter writer;
+    const auto table = writer.dictionary();
+    for (const Entry& entry : entries)
+        writer.string(entry.key);
+    for (const Entry& entry : entries)
+        writer.add(table, writer.string(entry.key), writer.string(entry.text));
+    return writer.write();
+}
 
 } // namespace
 
@@ -195,7 +113,7 @@ Runtime::Result<std::string> write(std::span<const Entry> entries, Form form) {
     case Form::binary:
         break;
     }
-    return BinaryWriter(entries).write();
+    return writeBinary(entries);
 }
 
 } // namespace StringTables

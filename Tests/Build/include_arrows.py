@@ -6,9 +6,9 @@ import sys
 # What the files of a folder may include, besides their own folder and what an included folder may include.
 ARROWS = {
     "Platform/Runtime": [],
-    "Platform/StringTables": ["Platform/Runtime"],
+    "Platform/StringTables": ["Platform/Intl"],
     "Platform/Intl": ["Platform/Runtime"],
-    "Platform/Foundation": ["Platform/Intl", "Platform/StringTables"],
+    "Platform/Foundation": ["Platform/StringTables"],
     "Platform/AssetCatalog": ["Platform/Runtime"],
     "Platform/Pictures": ["Platform/Runtime"],
     "Platform/UIKit": ["Platform/Foundation", "Platform/AssetCatalog", "Platform/Pictures"],

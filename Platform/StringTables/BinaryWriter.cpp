@@ -1,0 +1,108 @@
+#include "StringTables/internal/BinaryWriter.h"
+
+#include "StringTables/internal/Scan.h"
+#include "StringTables/internal/Unicode.h"
+#include <algorithm>
+#include <bit>
+
+namespace StringTables::internal {
+
+namespace {
+
+// The fewest of 1, 2, 4, 8 bytes that hold `number`.
+std::size_t bytesFor(std::size_t number) noexcept {
+    const auto bits = static_cast<std::size_t>(std::bit_width(number));
+    return std::bit_ceil(std::max<std::size_t>((bits + 7) / 8, 1));
+}
+
+std::u16string utf16(std::string_view text) {
+    std::u16string units;
+    while (!text.empty()) {
+        const char32_t code = takeCharacter(text);
+        if (code >= 0x10000) {
+            units += static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10));
+            units += static_cast<char16_t>(0xDC00 + ((code - 0x10000) & 0x3FF));
+        } else {
+            units += static_cast<char16_t>(code);
+        }
+    }
+    return units;
+}
+
+} // namespace
+
+BinaryWriter::Number BinaryWriter::dictionary() {
+    objects_.push_back({.isDictionary = true, .text = {}, .entries = {}});
+    return objects_.size() - 1;
+}
+
+BinaryWriter::Number BinaryWriter::string(std::string_view text) {
+    const auto [at, isNew] = strings_.try_emplace(text, objects_.size());
+    if (isNew)
+        objects_.push_back({.isDictionary = false, .text = text, .entries = {}});
+    return at->second;
+}
+
+// The header, the objects, the table of their offsets, and the trailer.
+std::string BinaryWriter::write() {
+    const std::size_t referenceSize = bytesFor(objects_.size() - 1);
+    out_ = "bplist00";
+    std::vector<std::size_t> offsets;
+    for (const Object& object : objects_) {
+        offsets.push_back(out_.size());
+        if (object.isDictionary)
+            putDictionary(object, referenceSize);
+        else
+            putString(object.text);
+    }
+    const std::size_t tableAt = out_.size(), offsetSize = bytesFor(tableAt);
+    for (const std::size_t offset : offsets)
+        put(offset, offsetSize);
+    put(0, 6);
+    put(offsetSize, 1);
+    put(referenceSize, 1);
+    put(objects_.size(), 8);
+    put(0, 8); // the top object
+    put(tableAt, 8);
+    return std::move(out_);
+}
+
+void BinaryWriter::put(std::uint64_t number, std::size_t size) {
+    while (size-- > 0)
+        out_ += static_cast<char>(number >> 8 * size & 0xFF);
+}
+
+// An object's type and size.
+void BinaryWriter::putMarker(unsigned type, std::size_t count) {
+    if (count < 0xF) {
+        put(type << 4 | count, 1);
+        return;
+    }
+    const std::size_t size = bytesFor(count);
+    put(type << 4 | 0xF, 1);
+    put(0x10u | static_cast<unsigned>(std::countr_zero(size)), 1);
+    put(count, size);
+}
+
+void BinaryWriter::putDictionary(const Object& object, std::size_t referenceSize) {
+    putMarker(0xD, object.entries.size());
+    for (const auto& [key, value] : object.entries)
+        put(key, referenceSize);
+    for (const auto& [key, value] : object.entries)
+        put(value, referenceSize);
+}
+
+void BinaryWriter::putString(std::string_view text) {
+    const char* const end = text.data() + text.size();
+    if (skipAscii(text.data(), end) == end) {
+        putMarker(0x5, text.size());
+        out_ += text;
+        return;
+    }
+    const std::u16string units = utf16(text);
+    putMarker(0x6, units.size());
+    for (const char16_t unit : units)
+        put(unit, 2);
+}
+
+} // namespace StringTables::internal

@@ -1,0 +1,48 @@
+// StringTables/internal/BinaryWriter.h
+// Makes a binary property list of dictionaries and strings.
+// Text: UTF-8 in, ASCII or UTF-16 in the file. Threads: values. Ownership: borrows its strings.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace StringTables::internal {
+
+class BinaryWriter {
+public:
+    // Objects are numbered in the order in which they are first named; object 0 is the list's top.
+    using Number = std::size_t;
+
+    // A new, empty dictionary.
+    Number dictionary();
+    // The string `text`, which is UTF-8; one object for equal strings.
+    Number string(std::string_view text);
+    // Adds an entry to a dictionary. Each key once.
+    void add(Number dictionary, Number key, Number value) { objects_[dictionary].entries.emplace_back(key, value); }
+
+    // The bytes of the list.
+    [[nodiscard]] std::string write();
+
+private:
+    struct Object {
+        bool isDictionary = false;
+        std::string_view text;
+        std::vector<std::pair<Number, Number>> entries;
+    };
+
+    void put(std::uint64_t number, std::size_t size);
+    void putMarker(unsigned type, std::size_t count);
+    void putDictionary(const Object& object, std::size_t referenceSize);
+    void putString(std::string_view text);
+
+    std::vector<Object> objects_;
+    std::unordered_map<std::string_view, Number> strings_;
+    std::string out_;
+};
+
+} // namespace StringTables::internal
