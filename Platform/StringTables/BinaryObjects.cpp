@@ -1,0 +1,137 @@
+#include "StringTables/internal/BinaryObjects.h"
+
+#include "StringTables/internal/Scan.h"
+#include "StringTables/internal/Unicode.h"
+
+namespace StringTables::internal {
+
+const char* BinaryObjects::describe(std::uint8_t type) noexcept {
+    constexpr const char* names[16] = {"a truth value", "a number", "a number", "a date",      "data",
+                                       nullptr,         nullptr,    nullptr,    "a reference", nullptr,
+                                       "an array",      "a set",    "a set",    "a dictionary"};
+    return names[type];
+}
+
+bool BinaryObjects::open() {
+    if (!bytes_.starts_with("bplist00"))
+        return fail(headerSize - 2, "a binary property list of an unknown version");
+    if (bytes_.size() < headerSize + trailerSize)
+        return fail(bytes_.size(), "the file ends before its trailer");
+    const std::size_t at = bytes_.size() - trailerSize;
+    offsetSize_ = byte(at + 6);
+    referenceSize_ = byte(at + 7);
+    objects_ = number(at + 8, 8);
+    top_ = number(at + 16, 8);
+    const std::uint64_t tableAt = number(at + 24, 8);
+    if (offsetSize_ < 1 || offsetSize_ > 8)
+        return fail(at + 6, "offsets of " + std::to_string(offsetSize_) + " bytes");
+    if (referenceSize_ < 1 || referenceSize_ > 8)
+        return fail(at + 7, "references of " + std::to_string(referenceSize_) + " bytes");
+    if (tableAt < headerSize || tableAt > at)
+        return fail(at + 24, "the offset table lies outside of the file");
+    tableAt_ = static_cast<std::size_t>(tableAt);
+    // Each object takes a byte at least, and an offset in the table.
+    if (objects_ > tableAt_ - headerSize || objects_ > (at - tableAt_) / offsetSize_)
+        return fail(at + 8, std::to_string(objects_) + " objects do not fit into the file");
+    return top_ < objects_ || fail(at + 16, "there is no object " + std::to_string(top_));
+}
+
+bool BinaryObjects::top(Object& out) {
+    if (!object(top_, bytes_.size() - trailerSize + 16, out))
+        return false;
+    if (out.type != dictionary)
+        return fail(out.at, "the table is no dictionary");
+    if (!members(out))
+        return false;
+    isOrdered_ = isOrdered() && keyAt(out, 2 * static_cast<std::size_t>(out.count)) <= next(top_);
+    return true;
+}
+
+// Object `number`, which is named at `namedAt`.
+bool BinaryObjects::object(std::uint64_t number, std::size_t namedAt, Object& out) {
+    if (number >= objects_)
+        return fail(namedAt, "there is no object " + std::to_string(number));
+    const std::uint64_t at = offset(number);
+    if (at < headerSize || at >= tableAt_)
+        return fail(tableAt_ + static_cast<std::size_t>(number) * offsetSize_,
+                    "an object lies outside of the objects' part of the file");
+    out.at = static_cast<std::size_t>(at);
+    out.type = byte(out.at) >> 4;
+    out.count = byte(out.at) & 0xF;
+    out.begin = out.at + 1;
+    return true;
+}
+
+bool BinaryObjects::members(Object& object) {
+    if (!count(object))
+        return false;
+    if (object.count > (tableAt_ - object.begin) / referenceSize_ / 2)
+        return fail(object.at, std::to_string(object.count) + " entries do not fit into the file");
+    return object.count <= Table::maxEntries || fail(object.at, tooManyEntries);
+}
+
+// Counts from fifteen on stand in a number object behind the marker.
+bool BinaryObjects::count(Object& object) {
+    if (object.count < 0xF)
+        return true;
+    if (object.begin == tableAt_)
+        return fail(object.at, "an object without its size");
+    const std::uint8_t marker = byte(object.begin++);
+    if (marker < 0x10 || marker > 0x13)
+        return fail(object.begin - 1, "expected the size of an object");
+    const std::size_t size = std::size_t{1} << (marker & 0xF);
+    if (size > tableAt_ - object.begin)
+        return fail(object.at, "an object without its size");
+    object.count = number(object.begin, size);
+    object.begin += size;
+    return true;
+}
+
+bool BinaryObjects::string(std::uint64_t number, Object& object, std::string_view& out) {
+    if (!count(object))
+        return false;
+    const std::size_t unit = object.type == utf16 ? 2 : 1;
+    if (object.count > (tableAt_ - object.begin) / unit)
+        return fail(object.at, "a string reaches beyond the objects");
+    out = bytes_.substr(object.begin, static_cast<std::size_t>(object.count) * unit);
+    if (out.size() > unread_)
+        return fail(object.at, "the strings together are longer than the file");
+    unread_ -= out.size();
+    if (isOrdered_ && object.begin + out.size() > next(number))
+        return fail(object.at, "a string reaches into the next object");
+    if (object.type == ascii) {
+        const char* const end = out.data() + out.size();
+        if (const char* const stop = skipAscii(out.data(), end); stop != end)
+            return fail(static_cast<std::size_t>(stop - bytes_.data()), "a byte above 0x7F in an ASCII string");
+        return true;
+    }
+    return decode(object, out);
+}
+
+// UTF-16 to UTF-8. Where no other object can lie, it takes the place of the UTF-16 if it is not longer: the first touch
+// of fresh memory costs more than a copy.
+bool BinaryObjects::decode(const Object& object, std::string_view& out) {
+    char* const room = contents_.arena.room(out.size() / 2 * 3);
+    const Decoded decoded = decodeUtf16(out, ByteOrder::big, room);
+    if (decoded.read != out.size())
+        return fail(object.begin + decoded.read, "a lone surrogate in UTF-16");
+    const std::string_view text(room, static_cast<std::size_t>(decoded.end - room));
+    if (!isOrdered_ || text.size() > out.size()) {
+        out = contents_.arena.keep(decoded.end);
+        return true;
+    }
+    text.copy(contents_.source.data() + object.begin, text.size());
+    out = bytes_.substr(object.begin, text.size());
+    return true;
+}
+
+// Whether every object begins behind the one with the number before.
+bool BinaryObjects::isOrdered() const noexcept {
+    std::uint64_t before = 0;
+    for (std::uint64_t i = 0; i < objects_; ++i)
+        if (const std::uint64_t at = offset(i); std::exchange(before, at) >= at)
+            return false;
+    return true;
+}
+
+} // namespace StringTables::internal

@@ -1,0 +1,99 @@
+// StringTables/internal/BinaryObjects.h
+// The objects of a binary property list, each checked when it is looked at.
+// The layout: "bplist00", the objects, a table of their offsets, and at the end the trailer that describes them. All
+// numbers are big-endian.
+#pragma once
+
+#include "StringTables/internal/Contents.h"
+#include <bit>
+#include <cstring>
+#include <string>
+#include <utility>
+
+namespace StringTables::internal {
+
+class BinaryObjects {
+public:
+    enum Type : std::uint8_t { ascii = 0x5, utf16 = 0x6, dictionary = 0xD };
+
+    struct Object {
+        std::size_t at = 0;
+        std::uint8_t type = 0;   // the upper half of the marker byte
+        std::uint64_t count = 0; // of the characters or members, which begin at `begin`
+        std::size_t begin = 0;
+
+        bool isString() const noexcept { return type == ascii || type == utf16; }
+    };
+
+    explicit BinaryObjects(Contents& contents)
+        : contents_(contents), bytes_(contents.source), unread_(contents.source.size()) {}
+
+    // Reads the trailer. To be called first; this and what follows return false after an error, which error() tells.
+    bool open();
+    Runtime::Error& error() noexcept { return error_; }
+
+    std::uint64_t size() const noexcept { return objects_; }
+    // The dictionary that is the list, with its size.
+    bool top(Object& out);
+    // Object `number`, which is named at `namedAt`; of strings and dictionaries the size is read by what follows.
+    bool object(std::uint64_t number, std::size_t namedAt, Object& out);
+    // Reads the size of a dictionary and checks that its members are in the file.
+    bool members(Object& object);
+    // Where the number of the key or value of entry `i` stands, and what it is.
+    std::size_t keyAt(const Object& dictionary, std::size_t i) const noexcept {
+        return dictionary.begin + i * referenceSize_;
+    }
+    std::size_t valueAt(const Object& dictionary, std::size_t i) const noexcept {
+        return keyAt(dictionary, static_cast<std::size_t>(dictionary.count) + i);
+    }
+    std::uint64_t reference(std::size_t at) const noexcept { return number(at, referenceSize_); }
+    // What object `number`, a string, says, as UTF-8 that lives as long as the contents. All strings together are no
+    // longer than the file: callers read each object once.
+    bool string(std::uint64_t number, Object& object, std::string_view& out);
+
+    bool fail(std::size_t at, std::string message) {
+        error_ = contents_.errorAt(at, std::move(message));
+        return false;
+    }
+    // What a value of another type is, for a note; null for an unknown type.
+    static const char* describe(std::uint8_t type) noexcept;
+
+private:
+    bool count(Object& object);
+    bool decode(const Object& object, std::string_view& out);
+    bool isOrdered() const noexcept;
+    std::uint64_t offset(std::uint64_t number) const noexcept {
+        return this->number(tableAt_ + static_cast<std::size_t>(number) * offsetSize_, offsetSize_);
+    }
+    // Where the object behind it begins, in a file whose objects are in order.
+    std::uint64_t next(std::uint64_t number) const noexcept {
+        return number + 1 < objects_ ? offset(number + 1) : tableAt_;
+    }
+    std::uint8_t byte(std::size_t at) const noexcept { return static_cast<std::uint8_t>(bytes_[at]); }
+    // `size` is 1 to 8. No number stands closer than eight bytes to the file's end: the trailer's last is as long.
+    std::uint64_t number(std::size_t at, std::size_t size) const noexcept {
+        std::uint64_t value;
+        std::memcpy(&value, bytes_.data() + at, sizeof value);
+        if constexpr (std::endian::native == std::endian::little)
+            value = __builtin_bswap64(value);
+        return value >> (64 - 8 * size);
+    }
+
+    static constexpr std::size_t headerSize = 8;
+    static constexpr std::size_t trailerSize = 32;
+
+    Contents& contents_;
+    std::string_view bytes_;
+    std::size_t offsetSize_ = 0;    // bytes of an offset
+    std::size_t referenceSize_ = 0; // bytes of an object's number where another names it
+    std::uint64_t objects_ = 0;
+    std::uint64_t top_ = 0;
+    std::size_t tableAt_ = 0; // of the offsets; the objects end there
+    // Objects share no bytes, so all strings together are no longer than the file: one whose strings overlap uses up
+    // `unread_` instead of memory and time without bound.
+    std::size_t unread_;
+    bool isOrdered_ = false; // the objects stand in the order of their numbers, as every writer known puts them
+    Runtime::Error error_;
+};
+
+} // namespace StringTables::internal
