@@ -101,9 +101,25 @@ Runtime::Result<void> toUtf8(Contents& contents, ByteOrder order) {
 }
 
 Runtime::Result<void> fill(Contents& contents) {
+    if (auto recognized = recognize(contents); !recognized)
+        return recognized;
+    switch (contents.form) {
+    case Form::binary:
+        return readBinary(contents);
+    case Form::xml:
+        return readXml(contents);
+    case Form::text:
+        break;
+    }
+    return readText(contents);
+}
+
+} // namespace
+
+Runtime::Result<void> recognize(Contents& contents) {
     if (contents.source.starts_with("bplist0")) {
         contents.form = Form::binary;
-        return readBinary(contents);
+        return {};
     }
     if (const auto order = utf16Order(contents.source))
         if (auto decoded = toUtf8(contents, *order); !decoded)
@@ -114,13 +130,10 @@ Runtime::Result<void> fill(Contents& contents) {
     }
     // No table of the text form begins with '<'.
     const std::size_t first = contents.source.find_first_not_of(" \t\r\n", contents.begin);
-    if (first == std::string::npos || contents.source[first] != '<')
-        return readText(contents);
-    contents.form = Form::xml;
-    return readXml(contents);
+    if (first != std::string::npos && contents.source[first] == '<')
+        contents.form = Form::xml;
+    return {};
 }
-
-} // namespace
 
 } // namespace internal
 

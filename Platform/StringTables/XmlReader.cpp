@@ -1,4 +1,4 @@
-#include "StringTables/internal/Contents.h"
+#include "StringTables/internal/PropertyListSink.h"
 #include <exception>
 #include <expat.h>
 #include <new> // std::bad_alloc
@@ -29,15 +29,18 @@ constexpr Element elements[] = {{"string", Kind::string},
 
 class XmlReader {
 public:
-    explicit XmlReader(Contents& contents) : contents_(contents), begin_(contents.source.find('<', contents.begin)) {}
+    XmlReader(Contents& contents, PropertyListSink& sink)
+        : contents_(contents), sink_(sink), begin_(contents.source.find('<', contents.begin)) {}
 
     Runtime::Result<void> read();
 
 private:
     struct Level {
         Kind kind;
-        bool hasKey = false; // dict: a key waits for its value
-        bool filled = false; // plist: its one value was there
+        bool hasKey = false;    // dict: a key waits for its value
+        bool filled = false;    // plist: its one value was there
+        bool isWanted = false;  // dict: the sink wants its entries; key or value: of such a dict
+        std::size_t offset = 0; // key: where it begins
     };
 
     // What the parser's handlers do. It is written in C, so nothing is thrown through it: what was thrown waits.
@@ -53,6 +56,7 @@ private:
     }
 
     void open(const char* name);
+    bool isWanted(Kind kind) const noexcept;
     void close();
     void characters(std::string_view piece);
     std::string place(const Element& element);
@@ -60,21 +64,15 @@ private:
     std::size_t offset() const { // the parser's is -1 where nothing was read yet
         return begin_ + static_cast<std::size_t>(std::max<XML_Index>(XML_GetCurrentByteIndex(parser_.get()), 0));
     }
-    bool inTable() const noexcept { return levels_.size() == tableDepth; }
-
-    // How many elements are open between the table's keys and texts: <plist><dict>.
-    static constexpr std::size_t tableDepth = 2;
-
     struct Free {
         void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
     };
     std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser_;
     Contents& contents_;
+    PropertyListSink& sink_;
     std::size_t begin_;
     std::vector<Level> levels_;
     std::string text_; // of the key or string that is open
-    std::string_view key_;
-    std::size_t keyOffset_ = 0;
     std::optional<Runtime::Error> error_;
     std::exception_ptr thrown_;
 };
@@ -148,15 +146,22 @@ void XmlReader::open(const char* name) {
         std::ranges::find_if(elements, [name](const Element& known) { return std::string_view(known.name) == name; });
     if (element == std::end(elements))
         return stop("the unknown element <" + std::string(name) + ">");
-    const bool inTable = this->inTable();
     if (std::string wrong = place(*element); !wrong.empty())
         return stop(std::move(wrong));
-    if (inTable && element->kind == Kind::key)
-        keyOffset_ = offset();
-    else if (inTable && element->kind != Kind::string)
-        contents_.skipped(key_, element->what, keyOffset_);
-    levels_.push_back({element->kind});
+    Level level{.kind = element->kind, .isWanted = isWanted(element->kind), .offset = offset()};
+    if (level.isWanted && level.kind == Kind::dict)
+        level.isWanted = sink_.beginDictionary();
+    else if (level.isWanted && element->what != nullptr)
+        sink_.other(element->what);
+    levels_.push_back(level);
     text_.clear();
+}
+
+// Whether the sink wants an element of the innermost open one.
+bool XmlReader::isWanted(Kind kind) const noexcept {
+    if (kind == Kind::plist)
+        return false;
+    return levels_.back().kind == Kind::plist || (levels_.back().kind == Kind::dict && levels_.back().isWanted);
 }
 
 void XmlReader::close() {
@@ -166,14 +171,17 @@ void XmlReader::close() {
         return stop("the key " + quoted(text_) + " has no value");
     if (closed.kind == Kind::plist && !closed.filled)
         return stop("<plist> is empty");
-    if (!inTable() || (closed.kind != Kind::key && closed.kind != Kind::string))
+    if (!closed.isWanted)
         return;
-    const std::string_view kept =
-        contents_.arena.keep(std::ranges::copy(text_, contents_.arena.room(text_.size())).out);
+    if (closed.kind == Kind::dict)
+        return sink_.endDictionary();
+    const char* why = nullptr;
     if (closed.kind == Kind::key)
-        key_ = kept;
-    else if (!contents_.add(key_, kept, keyOffset_))
-        stop(tooManyEntries);
+        why = sink_.key(text_, closed.offset);
+    else if (closed.kind == Kind::string)
+        why = sink_.string(text_);
+    if (why != nullptr)
+        stop(why);
 }
 
 void XmlReader::characters(std::string_view piece) {
@@ -188,8 +196,8 @@ void XmlReader::characters(std::string_view piece) {
 
 } // namespace
 
-Runtime::Result<void> readXml(Contents& contents) {
-    return XmlReader(contents).read();
+Runtime::Result<void> readXml(Contents& contents, PropertyListSink& sink) {
+    return XmlReader(contents, sink).read();
 }
 
 } // namespace StringTables::internal

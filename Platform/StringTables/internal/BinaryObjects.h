@@ -40,11 +40,9 @@ public:
     // Reads the size of a dictionary and checks that its members are in the file.
     bool members(Object& object);
     // Where the number of the key or value of entry `i` stands, and what it is.
-    std::size_t keyAt(const Object& dictionary, std::size_t i) const noexcept {
-        return dictionary.begin + i * referenceSize_;
-    }
-    std::size_t valueAt(const Object& dictionary, std::size_t i) const noexcept {
-        return keyAt(dictionary, static_cast<std::size_t>(dictionary.count) + i);
+    std::size_t keyAt(const Object& list, std::size_t i) const noexcept { return list.begin + i * referenceSize_; }
+    std::size_t valueAt(const Object& list, std::size_t i) const noexcept {
+        return keyAt(list, static_cast<std::size_t>(list.count) + i);
     }
     std::uint64_t reference(std::size_t at) const noexcept { return number(at, referenceSize_); }
     // What object `number`, a string, says, as UTF-8 that lives as long as the contents. All strings together are no

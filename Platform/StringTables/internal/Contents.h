@@ -3,8 +3,8 @@
 // Ownership: never moved once its bytes are in place; every view points into `source` or `arena`.
 #pragma once
 
-#include "StringTables/internal/Table.h"
 #include "StringTables/internal/Index.h"
+#include "StringTables/internal/Table.h"
 #include <algorithm>
 
 namespace StringTables::internal {
@@ -90,6 +90,8 @@ private:
 // `text` in quotation marks, for messages: one line, cut when it is long.
 [[nodiscard]] std::string quoted(std::string_view text);
 
+// Finds out the form of the source, where its content begins, and makes UTF-16 text UTF-8.
+[[nodiscard]] Runtime::Result<void> recognize(Contents& contents);
 // Each fills the entries from the source, from `contents.begin` on, and leaves the rest to finish().
 [[nodiscard]] Runtime::Result<void> readText(Contents& contents);
 [[nodiscard]] Runtime::Result<void> readXml(Contents& contents);

@@ -37,9 +37,32 @@ struct PluralFormat {
 struct PluralEntry {
     std::string key;
     PluralFormat plural;
-    std::size_t offset = 0; // of the key in the source
+    Location location; // of the key in the source
+};
 
-    friend bool operator==(const PluralEntry&, const PluralEntry&) = default;
+class PluralTable {
+public:
+    // Reads a table in the form of a property list, XML or binary. Errors as those of Table; a source of no bytes is an
+    // empty table. Limits: those of Table, maxTextBytes in all texts together, which entries may share in the file.
+    // Throws std::bad_alloc when memory runs out.
+    [[nodiscard]] static Runtime::Result<PluralTable> read(std::string bytes);
+    // The same from the regular file at `path`, which errors and notes name.
+    [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path);
+    static constexpr std::size_t maxTextBytes = std::size_t{64} << 20;
+
+    // The format of `key` (exact), or null. Never fails.
+    [[nodiscard]] const PluralFormat* find(std::string_view key) const noexcept;
+    // Every key once, in the order of the source; the last of equal keys wins.
+    [[nodiscard]] std::span<const PluralEntry> entries() const noexcept { return entries_; }
+    // What was skipped and why, with its place, in the order of the source.
+    [[nodiscard]] std::span<const Runtime::Error> notes() const noexcept { return notes_; }
+
+private:
+    static Runtime::Result<PluralTable> read(std::string bytes, const std::string& file);
+
+    std::vector<PluralEntry> entries_;
+    std::vector<std::size_t> byKey_; // the numbers of the entries, sorted by key
+    std::vector<Runtime::Error> notes_;
 };
 
 // The bytes of a binary property list with these entries, in this order. The same entries give the same bytes.

@@ -1,0 +1,87 @@
+#include "StringTables/internal/BinaryObjects.h"
+#include "StringTables/internal/PropertyListSink.h"
+#include <unordered_map>
+
+namespace StringTables::internal {
+
+namespace {
+
+// Reports the entries of a binary property list. Several may share an object; the sink bounds how deep they nest.
+class BinaryWalk {
+public:
+    BinaryWalk(Contents& contents, PropertyListSink& sink) : objects_(contents), sink_(sink) {}
+
+    Runtime::Result<void> run() {
+        BinaryObjects::Object top;
+        if (!objects_.open() || !objects_.top(top) || !entries(top))
+            return std::move(objects_.error());
+        return {};
+    }
+
+private:
+    using Object = BinaryObjects::Object;
+
+    // Of a dictionary whose size was read.
+    bool entries(const Object& dictionary) {
+        if (!sink_.beginDictionary())
+            return true;
+        for (std::size_t i = 0; i < dictionary.count; ++i)
+            if (!key(objects_.keyAt(dictionary, i)) || !value(objects_.valueAt(dictionary, i)))
+                return false;
+        sink_.endDictionary();
+        return true;
+    }
+
+    bool key(std::size_t namedAt) {
+        Object object;
+        std::string_view text;
+        const std::uint64_t number = objects_.reference(namedAt);
+        if (!objects_.object(number, namedAt, object))
+            return false;
+        if (!object.isString())
+            return objects_.fail(object.at, "a key is no string");
+        return string(number, object, text) && goesOn(sink_.key(text, object.at), object);
+    }
+
+    bool value(std::size_t namedAt) {
+        Object object;
+        std::string_view text;
+        const std::uint64_t number = objects_.reference(namedAt);
+        if (!objects_.object(number, namedAt, object))
+            return false;
+        if (object.isString())
+            return string(number, object, text) && goesOn(sink_.string(text), object);
+        if (object.type == BinaryObjects::dictionary)
+            return objects_.members(object) && entries(object);
+        const char* const what = BinaryObjects::describe(object.type);
+        if (what == nullptr)
+            return objects_.fail(object.at, "an object of an unknown type");
+        sink_.other(what);
+        return true;
+    }
+
+    bool string(std::uint64_t number, Object& object, std::string_view& out) {
+        if (const auto known = strings_.find(number); known != strings_.end()) {
+            out = known->second;
+            return true;
+        }
+        if (!objects_.string(number, object, out))
+            return false;
+        strings_.emplace(number, out);
+        return true;
+    }
+
+    bool goesOn(const char* stop, const Object& object) { return stop == nullptr || objects_.fail(object.at, stop); }
+
+    BinaryObjects objects_;
+    PropertyListSink& sink_;
+    std::unordered_map<std::uint64_t, std::string_view> strings_;
+};
+
+} // namespace
+
+Runtime::Result<void> readBinary(Contents& contents, PropertyListSink& sink) {
+    return BinaryWalk(contents, sink).run();
+}
+
+} // namespace StringTables::internal

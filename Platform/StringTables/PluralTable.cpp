@@ -1,0 +1,217 @@
+#include "StringTables/internal/PluralTable.h"
+
+#include "Runtime/internal/File.h"
+#include "StringTables/internal/PluralKeys.h"
+#include "StringTables/internal/PropertyListSink.h"
+#include <algorithm>
+#include <numeric>
+#include <unordered_map>
+
+namespace StringTables {
+
+namespace {
+
+using internal::Contents;
+
+// Builds the entries from what the list contains: entries, their variables, and the variables' forms, one level each.
+class PluralSink final : public internal::PropertyListSink {
+public:
+    explicit PluralSink(Contents& contents) : contents_(contents) {}
+
+    bool beginDictionary() override {
+        if (depth_ == levels) {
+            skip(" is a dictionary; it is skipped");
+            return false;
+        }
+        ++depth_;
+        if (depth_ == entryLevel + 1)
+            beginEntry();
+        else if (depth_ == variableLevel + 1)
+            beginVariable();
+        return true;
+    }
+
+    void endDictionary() override {
+        if (depth_ == variableLevel + 1)
+            endVariable();
+        else if (depth_ == entryLevel + 1)
+            endEntry();
+        --depth_;
+    }
+
+    const char* key(std::string_view text, std::size_t offset) override {
+        if (++values_ > Table::maxEntries)
+            return internal::tooManyEntries;
+        keys_[depth_ - 1].assign(text);
+        offsets_[depth_ - 1] = offset;
+        return count(text);
+    }
+
+    const char* string(std::string_view text) override {
+        if (depth_ == entryLevel)
+            skip(" is a text, not a plural format; it is skipped");
+        else if (depth_ == variableLevel)
+            takeFormat(text);
+        else
+            takeForm(text);
+        return count(text);
+    }
+
+    void other(const char* what) override { skip(std::string(" is ").append(what).append("; it is skipped")); }
+
+    std::vector<PluralEntry> takeEntries() { return std::move(entries_); }
+    // Where the keys of the entries are.
+    const std::vector<std::size_t>& places() const noexcept { return places_; }
+
+private:
+    // The depth at which the keys of each kind are.
+    static constexpr std::size_t entryLevel = 1, variableLevel = 2, levels = 3;
+
+    const char* count(std::string_view text) noexcept {
+        bytes_ += text.size();
+        return bytes_ > PluralTable::maxTextBytes ? "the texts of the table are longer than is accepted" : nullptr;
+    }
+
+    const std::string& key() const noexcept { return keys_[depth_ - 1]; }
+    // A note on the value of the key at hand.
+    void skip(std::string_view what) { contents_.note("the value of ", key(), what, offsets_[depth_ - 1]); }
+    // A note on the entry.
+    void skipEntry(std::string_view why) { contents_.note("the entry ", keys_[0], why, offsets_[0]); }
+
+    void beginEntry() {
+        plural_ = {};
+        hasFormat_ = false;
+    }
+    void takeFormat(std::string_view text) {
+        if (key() != pluralKeys::format)
+            return skip(" is a text, not a variable; it is skipped");
+        plural_.format.assign(text);
+        hasFormat_ = true;
+    }
+    void endEntry() {
+        if (!hasFormat_)
+            return skipEntry(std::string(" has no ").append(pluralKeys::format).append("; it is skipped"));
+        const auto [known, isNew] = numbers_.try_emplace(keys_[0], entries_.size());
+        if (isNew) {
+            entries_.emplace_back().key = keys_[0];
+            places_.emplace_back();
+        } else {
+            contents_.note("the key ", keys_[0], " appears again; this entry holds", offsets_[0]);
+        }
+        entries_[known->second].plural = std::move(plural_);
+        places_[known->second] = offsets_[0];
+    }
+
+    void beginVariable() {
+        variable_ = {};
+        variable_.name = keys_[variableLevel - 1];
+        isPlural_ = true;
+    }
+    void takeForm(std::string_view text) {
+        if (key() == pluralKeys::ruleType)
+            isPlural_ = text == pluralKeys::pluralRule;
+        else if (key() == pluralKeys::valueType)
+            variable_.valueType.assign(text);
+        else if (const auto category = Intl::pluralCategoryNamed(key()))
+            variable_.forms[Intl::indexOf(*category)].emplace(text);
+        else
+            skip(" is for no plural category; it is skipped");
+    }
+    void endVariable() {
+        const auto isSame = [this](const PluralVariable& one) { return one.name == variable_.name; };
+        if (!isPlural_)
+            return contents_.note("the variable ", variable_.name, " has no plural rule; it is skipped",
+                                  offsets_[variableLevel - 1]);
+        if (variable_.valueType.empty())
+            variable_.valueType = "d";
+        std::erase_if(plural_.variables, isSame);
+        plural_.variables.push_back(std::move(variable_));
+    }
+
+    Contents& contents_;
+    std::size_t depth_ = 0;
+    std::array<std::string, levels> keys_; // at hand, by level
+    std::array<std::size_t, levels> offsets_{};
+    std::size_t values_ = 0;
+    std::size_t bytes_ = 0;
+
+    PluralFormat plural_;
+    bool hasFormat_ = false;
+    PluralVariable variable_;
+    bool isPlural_ = false;
+
+    std::vector<PluralEntry> entries_;
+    std::vector<std::size_t> places_;
+    std::unordered_map<std::string, std::size_t> numbers_; // of the entries, by key
+};
+
+Runtime::Result<void> fill(Contents& contents, internal::PropertyListSink& sink) {
+    if (auto recognized = internal::recognize(contents); !recognized)
+        return recognized;
+    switch (contents.form) {
+    case Form::binary:
+        return readBinary(contents, sink);
+    case Form::xml:
+        return readXml(contents, sink);
+    case Form::text:
+        break;
+    }
+    const std::size_t first = contents.source.find_first_not_of(" \t\r\n", contents.begin);
+    if (first == std::string::npos)
+        return {};
+    return contents.errorAt(first, "a plural table is a property list, XML or binary");
+}
+
+// Sets the entries' places, given where their keys are.
+void locate(const Contents& contents, std::span<const std::size_t> places, std::span<PluralEntry> entries) {
+    std::vector<std::size_t> order(entries.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::sort(order, {}, [&](std::size_t number) { return places[number]; });
+    internal::Locator locator(contents);
+    for (const std::size_t number : order)
+        entries[number].location = locator.locate(places[number]);
+}
+
+} // namespace
+
+Runtime::Result<PluralTable> PluralTable::read(std::string bytes) {
+    return read(std::move(bytes), {});
+}
+
+Runtime::Result<PluralTable> PluralTable::readFile(const std::string& path) {
+    auto bytes = Runtime::readFile(path, Table::maxBytes);
+    if (!bytes)
+        return std::move(bytes.error());
+    return read(*std::move(bytes), path);
+}
+
+Runtime::Result<PluralTable> PluralTable::read(std::string bytes, const std::string& file) {
+    if (bytes.size() > Table::maxBytes)
+        return Runtime::Error{"the table is larger than " + std::to_string(Table::maxBytes) + " bytes", file};
+    Contents contents(std::move(bytes));
+    PluralSink sink(contents);
+    if (auto filled = fill(contents, sink); !filled) {
+        filled.error().file = file;
+        return std::move(filled.error());
+    }
+    contents.finish();
+    PluralTable table;
+    table.entries_ = sink.takeEntries();
+    table.notes_ = std::move(contents.notes);
+    for (Runtime::Error& note : table.notes_)
+        note.file = file;
+    locate(contents, sink.places(), table.entries_);
+    table.byKey_.resize(table.entries_.size());
+    std::iota(table.byKey_.begin(), table.byKey_.end(), std::size_t{0});
+    std::ranges::sort(table.byKey_, {},
+                      [&](std::size_t number) { return std::string_view(table.entries_[number].key); });
+    return table;
+}
+
+const PluralFormat* PluralTable::find(std::string_view key) const noexcept {
+    const auto keyOf = [this](std::size_t number) { return std::string_view(entries_[number].key); };
+    const auto found = std::ranges::lower_bound(byKey_, key, {}, keyOf);
+    return found != byKey_.end() && keyOf(*found) == key ? &entries_[*found].plural : nullptr;
+}
+
+} // namespace StringTables

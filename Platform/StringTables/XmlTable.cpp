@@ -1,0 +1,48 @@
+#include "StringTables/internal/PropertyListSink.h"
+#include <algorithm>
+
+namespace StringTables::internal {
+
+namespace {
+
+// Keeps the texts of the list itself; what is not a text is skipped with a note.
+class TableSink final : public PropertyListSink {
+public:
+    explicit TableSink(Contents& contents) : contents_(contents) {}
+
+    bool beginDictionary() override {
+        if (!inTable_)
+            return inTable_ = true;
+        other("a dictionary");
+        return false;
+    }
+    void endDictionary() override {}
+    const char* key(std::string_view text, std::size_t offset) override {
+        key_ = kept(text);
+        offset_ = offset;
+        return nullptr;
+    }
+    const char* string(std::string_view text) override {
+        return contents_.add(key_, kept(text), offset_) ? nullptr : tooManyEntries;
+    }
+    void other(const char* what) override { contents_.skipped(key_, what, offset_); }
+
+private:
+    std::string_view kept(std::string_view text) {
+        return contents_.arena.keep(std::ranges::copy(text, contents_.arena.room(text.size())).out);
+    }
+
+    Contents& contents_;
+    bool inTable_ = false;
+    std::string_view key_;
+    std::size_t offset_ = 0;
+};
+
+} // namespace
+
+Runtime::Result<void> readXml(Contents& contents) {
+    TableSink sink(contents);
+    return readXml(contents, sink);
+}
+
+} // namespace StringTables::internal

@@ -1,0 +1,141 @@
+// Plural tables in both forms: what they hold, what is skipped and where, damaged ones, and the writer's way back.
+#include "StringTables/internal/PluralTable.h"
+#include <gtest/gtest.h>
+
+namespace {
+
+using Intl::PluralCategory;
+using StringTables::PluralTable;
+
+std::string list(const std::string& entries) {
+    return "<plist><dict>\n" + entries + "\n</dict></plist>";
+}
+std::string text(const std::string& key, const std::string& value) {
+    return "<key>" + key + "</key><string>" + value + "</string>";
+}
+std::string dict(const std::string& key, const std::string& entries) {
+    return "<key>" + key + "</key><dict>" + entries + "</dict>";
+}
+const std::string rule = text("NSStringFormatSpecTypeKey", "NSStringPluralRuleType");
+const std::string days =
+    dict("days", rule + text("NSStringFormatValueTypeKey", "ld") + text("one", "%ld día") + text("other", "%ld días"));
+
+std::string notesOf(const PluralTable& table) {
+    std::string all;
+    for (const Runtime::Error& note : table.notes())
+        all += note.text() + "\n";
+    return all;
+}
+
+TEST(PluralTable, HoldsFormatsVariablesAndForms) {
+    const auto table =
+        PluralTable::read(list(dict("left", text("NSStringLocalizedFormatKey", "%#@days@ left") + days)));
+    ASSERT_TRUE(table) << table.error().text();
+    EXPECT_EQ(notesOf(*table), "");
+    const auto* const plural = table->find("left");
+    ASSERT_NE(plural, nullptr);
+    EXPECT_EQ(plural->format, "%#@days@ left");
+    ASSERT_EQ(plural->variables.size(), 1U);
+    EXPECT_EQ(plural->variables[0].name, "days");
+    EXPECT_EQ(plural->variables[0].valueType, "ld");
+    EXPECT_EQ(plural->variables[0].forms[indexOf(PluralCategory::one)], "%ld día");
+    EXPECT_EQ(plural->variables[0].forms[indexOf(PluralCategory::few)], std::nullopt);
+    EXPECT_EQ(table->find("lef"), nullptr);
+    EXPECT_EQ(table->entries()[0].location.line, 2U);
+}
+
+TEST(PluralTable, WrittenTablesReadTheSame) {
+    const auto table = PluralTable::read(list(dict("b", text("NSStringLocalizedFormatKey", "%#@days@") + days) +
+                                              dict("a", text("NSStringLocalizedFormatKey", "%1$#@days@") + days)));
+    ASSERT_TRUE(table);
+    const auto written = write(table->entries());
+    ASSERT_TRUE(written);
+    const auto again = PluralTable::read(*written);
+    ASSERT_TRUE(again) << again.error().text();
+    ASSERT_EQ(again->entries().size(), 2U);
+    for (std::size_t i = 0; i < 2; ++i) {
+        EXPECT_EQ(again->entries()[i].key, table->entries()[i].key);
+        EXPECT_EQ(again->entries()[i].plural, table->entries()[i].plural);
+    }
+    const StringTables::PluralEntry notUtf8[] = {
+        {.key = "k", .plural = {.format = "\xFF", .variables = {}}, .location = {}}};
+    EXPECT_EQ(write(notUtf8).error().message, "the entry \"k\" is not UTF-8");
+}
+
+TEST(PluralTable, SaysWhatIsSkipped) {
+    const std::string format = text("NSStringLocalizedFormatKey", "%#@v@");
+    const struct {
+        int line;
+        std::string entries, notes;
+    } cases[] = {
+        {__LINE__, text("k", "text"), "2:1: the value of \"k\" is a text, not a plural format; it is skipped\n"},
+        {__LINE__, "<key>k</key><array><dict/></array>", "2:1: the value of \"k\" is an array; it is skipped\n"},
+        {__LINE__, dict("k", days), "2:1: the entry \"k\" has no NSStringLocalizedFormatKey; it is skipped\n"},
+        {__LINE__, dict("k", format + text("v", "x")),
+         "2:78: the value of \"v\" is a text, not a variable; it is skipped\n"},
+        {__LINE__, dict("k", format + dict("v", text("one", "x"))), ""},
+        {__LINE__, dict("k", format + dict("v", rule + text("several", "x"))),
+         "2:171: the value of \"several\" is for no plural category; it is skipped\n"},
+        {__LINE__, dict("k", format + dict("v", text("NSStringFormatSpecTypeKey", "other") + text("one", "x"))),
+         "2:78: the variable \"v\" has no plural rule; it is skipped\n"},
+        {__LINE__, dict("k", format + dict("v", rule + dict("one", ""))),
+         "2:171: the value of \"one\" is a dictionary; it is skipped\n"},
+        {__LINE__, dict("k", format) + "\n" + dict("k", format),
+         "3:1: the key \"k\" appears again; this entry holds\n"},
+    };
+    for (const auto& [line, entries, notes] : cases) {
+        const auto table = PluralTable::read(list(entries));
+        ASSERT_TRUE(table) << "line " << line << ": " << table.error().text();
+        EXPECT_EQ(notesOf(*table), notes) << "line " << line;
+    }
+}
+
+TEST(PluralTable, ErrorsNameTheirPlace) {
+    const struct {
+        int line;
+        std::string source, error;
+    } cases[] = {
+        {__LINE__, "\"key\" = \"text\";", "1:1: a plural table is a property list, XML or binary"},
+        {__LINE__, "<plist><dict><key>k</key></dict></plist>", "1:26: the key \"k\" has no value"},
+        {__LINE__, "<plist><array/></plist>", "1:8: expected <dict>, not <array>"},
+        {__LINE__, "bplist00", "byte 8: the file ends before its trailer"},
+    };
+    for (const auto& [line, source, error] : cases) {
+        const auto table = PluralTable::read(source);
+        ASSERT_FALSE(table) << "line " << line;
+        EXPECT_EQ(table.error().text(), error) << "line " << line;
+    }
+    EXPECT_EQ(PluralTable::read("")->entries().size(), 0U);
+}
+
+// One dictionary for all entries: a small file that would be a large table.
+TEST(PluralTable, SharedTextsAreBounded) {
+    std::vector<StringTables::PluralEntry> entries;
+    StringTables::PluralFormat plural{.format = "%#@v@", .variables = {{.name = "v", .valueType = "d", .forms = {}}}};
+    plural.variables[0].forms[indexOf(PluralCategory::other)] = std::string(std::size_t{1} << 20, 'x');
+    for (int i = 0; i < 65; ++i)
+        entries.push_back({.key = std::to_string(i), .plural = plural, .location = {}});
+    const auto bytes = write(entries);
+    ASSERT_TRUE(bytes);
+    ASSERT_LT(bytes->size(), std::size_t{2} << 20);
+    const auto table = PluralTable::read(*bytes);
+    ASSERT_FALSE(table);
+    EXPECT_NE(table.error().text().find("the texts of the table are longer than is accepted"), std::string::npos);
+}
+
+// Every byte changed or cut off: never a crash, whatever comes out.
+TEST(PluralTable, SurvivesDamage) {
+    const auto good =
+        write(PluralTable::read(list(dict("k", text("NSStringLocalizedFormatKey", "%#@days@") + days)))->entries());
+    ASSERT_TRUE(good);
+    for (std::size_t at = 0; at < good->size(); ++at) {
+        for (const int change : {1, 0x10, 0x80}) {
+            std::string bytes = *good;
+            bytes[at] = static_cast<char>(bytes[at] ^ change);
+            static_cast<void>(PluralTable::read(bytes));
+        }
+        static_cast<void>(PluralTable::read(good->substr(0, at)));
+    }
+}
+
+} // namespace
