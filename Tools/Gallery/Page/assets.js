@@ -1,0 +1,38 @@
+// What pictures, colours and data have in common: the traits of a variant, and the name with the accessor.
+
+// In the order in which they are read out.
+const traitTexts = {
+    scale: (value) => `${value}×`,
+    appearance: String,
+    contrast: (value) => `${value} contrast`,
+    idiom: String,
+    language: String,
+    direction: String,
+};
+
+function traitText(traits = {}) {
+    return Object.entries(traitTexts).filter(([name]) => name in traits).map(([name, text]) => text(traits[name])).join(", ");
+}
+
+function assetName(asset) {
+    const last = asset.accessor?.split("::").pop();
+    const name = make("div", { class: "name" });
+    if (asset.accessor)
+        name.append(copyButton(asset.accessor, last));
+    if (asset.name !== last)
+        name.append(make("code", { class: "key", dir: "auto" }, asset.name));
+    return name;
+}
+
+// A row of a list whose element shows `asset` with `children` after its name.
+function assetRow(asset, className, ...children) {
+    return {
+        asset,
+        element: make("div", { class: className, role: "listitem", "data-asset": asset.name }, ...children),
+        strings: () => [asset.name, asset.accessor ?? ""],
+        accepts: (status) => status === "all",
+    };
+}
+
+const assetsOf = (kind) => resources.assets.filter((asset) => asset.kind === kind);
+const assetLists = (rows, className) => listsByGroup(rows, (row) => row.asset.catalog, className);

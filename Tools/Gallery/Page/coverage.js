@@ -1,0 +1,25 @@
+// How much of each language is there.
+function coverageOf(language) {
+    const counts = { translated: 0, same: 0, missing: 0 };
+    for (const text of resources.texts)
+        counts[statusOf(text, language)] += 1;
+    return counts;
+}
+
+function coverageRow(language, index, showMissing) {
+    const counts = coverageOf(index);
+    const all = Math.max(resources.texts.length, 1);
+    const bar = make("div", { class: "meter", "aria-hidden": "true" });
+    for (const status of ["translated", "same"]) {
+        const part = make("span", { class: status });
+        part.style.width = `${(counts[status] / all) * 100}%`;
+        bar.append(part);
+    }
+    const percent = Math.floor(((counts.translated + counts.same) / all) * 100);
+    const notes = [counts.same && `${numbers.format(counts.same)} not translated`, counts.missing && `${numbers.format(counts.missing)} missing`];
+    const name = make("button", { type: "button", class: "language", title: "Show as second language" },
+        make("bdi", { lang: language.tag, dir: language.direction }, language.name), " ", make("code", {}, language.code));
+    name.addEventListener("click", () => showMissing(index, counts));
+    return make("li", {}, name, make("span", { class: "percent" }, `${percent} %`), bar,
+        make("span", { class: "notes" }, notes.filter(Boolean).join(", ") || "complete"));
+}

@@ -1,0 +1,22 @@
+// Builds elements. Children that are strings become text nodes, so no resource is ever read as markup.
+function make(tag, attributes, ...children) {
+    const element = document.createElement(tag);
+    for (const [name, value] of Object.entries(attributes ?? {}))
+        element.setAttribute(name, value);
+    element.append(...children);
+    return element;
+}
+
+const byId = (id) => document.getElementById(id);
+
+const numbers = new Intl.NumberFormat("en");
+const counted = (count, one, many) => `${numbers.format(count)} ${count === 1 ? one : many}`;
+
+function fileSize(bytes) {
+    return bytes < 1000 ? `${bytes} B` : bytes < 1e6 ? `${(bytes / 1e3).toFixed(1)} kB` : `${(bytes / 1e6).toFixed(1)} MB`;
+}
+
+// A code element whose text copies itself; `full` is what is copied, `shown` what is read.
+function copyButton(full, shown) {
+    return make("button", { type: "button", class: "accessor", "data-copy": full, title: `Copy ${full}` }, shown);
+}

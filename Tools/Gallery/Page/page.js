@@ -1,0 +1,170 @@
+// Puts the page together and connects its controls.
+
+// Each section with its lists and what the navigation calls it. A section without resources is not shown.
+const sections = [
+    { id: "texts", name: "Texts", lists: textLists },
+    { id: "pictures", name: "Pictures", lists: pictureLists },
+    { id: "colours", name: "Colours", lists: colourLists },
+    { id: "data", name: "Data", lists: dataLists },
+];
+const shownCount = (lists) => lists.reduce((sum, list) => sum + list.shown.length, 0);
+const rowCount = (lists) => lists.reduce((sum, list) => sum + list.rows.length, 0);
+
+function describe() {
+    const kinds = [
+        [textLists, "text", "texts"], [pictureLists, "picture", "pictures"], [colourLists, "colour", "colours"],
+        [dataLists, "data asset", "data assets"],
+    ];
+    const parts = kinds.map(([lists, one, many]) => counted(rowCount(lists), one, many));
+    parts.splice(1, 0, counted(languages.length, "language", "languages"));
+    document.title = `${resources.module} – gallery`;
+    byId("title").textContent = resources.module;
+    byId("summary").textContent = parts.join(" · ");
+}
+
+function fillLanguageChoices() {
+    const second = languages.length > 1 ? 1 : 0;
+    for (const [side, first] of [["a", development], ["b", second]]) {
+        const select = byId(`language-${side}`);
+        select.append(...languages.map((language, i) =>
+            make("option", { value: language.code, lang: language.tag }, `${language.name} (${language.code})`)));
+        select.selectedIndex = first;
+        chooseLanguage(side, first);
+        select.addEventListener("change", () => {
+            chooseLanguage(side, select.selectedIndex);
+            search();
+        });
+    }
+}
+
+function showMissing(language, counts) {
+    byId("language-b").selectedIndex = language;
+    byId("status").value = counts.missing ? "missing" : counts.same ? "same" : "all";
+    chooseLanguage("b", language);
+    search();
+    byId("texts").scrollIntoView();
+}
+
+function fillSections() {
+    byId("languages").append(...languages.map((language, i) => coverageRow(language, i, showMissing)));
+    for (const { id, lists } of sections)
+        byId(id).append(...lists.map((list) => list.section));
+    const table = regionTable();
+    byId("regions").append(...(table ? [make("div", { class: "scroller", tabindex: "0", role: "region", "aria-label": "Table" }, table)] : []));
+    byId("regions").hidden = !table;
+    const strips = progressStrips();
+    byId("colours").append(...(strips ? [strips] : []));
+}
+
+const links = new Map();
+
+function fillNavigation() {
+    const named = [["coverage", "Coverage"], ["texts", "Texts"], ["pictures", "Pictures"], ["regions", "Regions"],
+        ["colours", "Colours"], ["data", "Data"]];
+    for (const [id, name] of named) {
+        const count = make("span", { class: "number" });
+        links.set(id, { link: make("a", { href: `#${id}` }, name, " ", count), count });
+        byId("sections").append(links.get(id).link);
+    }
+}
+
+function search() {
+    const words = folded(byId("search").value).split(/\s+/).filter(Boolean);
+    const status = byId("status").value;
+    for (const list of sections.flatMap((section) => section.lists))
+        list.narrow(words, status);
+    showFound(words.length > 0 || status !== "all");
+}
+
+// Says how much is found, and hides the sections without any of it. What is not searched is shown without a search only.
+function showFound(isNarrowed) {
+    for (const { id, lists } of sections) {
+        byId(id).hidden = shownCount(lists) === 0;
+        links.get(id).count.textContent = numbers.format(shownCount(lists));
+    }
+    byId("coverage").hidden = isNarrowed || resources.texts.length === 0;
+    byId("regions").hidden = isNarrowed || !byId("regions").querySelector("table");
+    for (const progress of document.querySelectorAll(".progress"))
+        progress.hidden = isNarrowed;
+    for (const [id, { link }] of links)
+        link.hidden = byId(id).hidden;
+    const texts = shownCount(textLists);
+    const assets = shownCount([...pictureLists, ...colourLists, ...dataLists]);
+    byId("nothing").hidden = texts + assets > 0;
+    byId("count").textContent = `${counted(texts, "text", "texts")}, ${counted(assets, "asset", "assets")}`;
+}
+
+// Copying
+
+let announcementEnd = 0;
+
+function announce(message) {
+    const announcement = byId("announcement");
+    announcement.textContent = message;
+    announcement.classList.add("shown");
+    clearTimeout(announcementEnd);
+    announcementEnd = setTimeout(() => announcement.classList.remove("shown"), 2500);
+}
+
+async function copy(button) {
+    try {
+        await navigator.clipboard.writeText(button.dataset.copy);
+        announce(`Copied ${button.dataset.copy}`);
+    } catch { // not allowed here
+        announce(`Cannot copy. The accessor is ${button.dataset.copy}`);
+    }
+}
+
+// Keys: / goes to the search, Escape empties it, the arrows go from accessor to accessor.
+function goToNeighbour(button, step) {
+    const buttons = Array.from(document.querySelectorAll("main .accessor"));
+    const next = buttons[buttons.indexOf(button) + step];
+    next?.focus();
+    next?.scrollIntoView({ block: "nearest" });
+    return next;
+}
+
+function onKey(event) {
+    const isTyping = event.target.matches("input[type=search], select");
+    const isPlain = !event.ctrlKey && !event.metaKey && !event.altKey;
+    if (event.key === "/" && isPlain && !isTyping) {
+        byId("search").focus();
+        event.preventDefault();
+    } else if (event.key === "Escape" && byId("search").value !== "") {
+        byId("search").value = "";
+        search();
+    } else if (isPlain && event.target.matches(".accessor")) {
+        const step = { ArrowDown: 1, ArrowUp: -1 }[event.key];
+        if (step && goToNeighbour(event.target, step))
+            event.preventDefault();
+    }
+}
+
+// Choices that change how things look: the page's theme, the pictures' ground and size.
+function connectChoice(id, apply) {
+    byId(id).addEventListener("change", (event) => apply(event.target.value));
+}
+
+function connect() {
+    byId("search").addEventListener("input", search);
+    byId("status").addEventListener("change", search);
+    byId("controls").addEventListener("submit", (event) => event.preventDefault());
+    document.addEventListener("keydown", onKey);
+    document.addEventListener("click", (event) => {
+        const button = event.target.closest(".accessor");
+        if (button)
+            copy(button);
+    });
+    connectChoice("theme", (theme) => (document.documentElement.dataset.theme = theme));
+    connectChoice("ground", (ground) => (byId("pictures").dataset.ground = ground));
+    connectChoice("size", (size) => (byId("pictures").dataset.size = size));
+}
+
+describe();
+fillLanguageChoices();
+fillNavigation();
+fillSections();
+search();
+connect();
+// The first letter typed is then as quick as the others.
+setTimeout(() => sections.flatMap((section) => section.lists).forEach((list) => list.rows.forEach((row) => list.haystack(row))), 200);

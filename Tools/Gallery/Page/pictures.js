@@ -1,0 +1,47 @@
+// The pictures with all their variants, and what data assets there are.
+
+const documentLoaded = new Promise((resolve) => document.addEventListener("DOMContentLoaded", resolve));
+let pictureList = null;
+
+// Has no pixels before loadPictures().
+function picture(variant, text) {
+    const scale = variant.traits?.scale ?? 1;
+    const image = make("img", { alt: text, width: Math.ceil(variant.width / scale), height: Math.ceil(variant.height / scale) });
+    image.dataset.picture = variant.picture;
+    return image;
+}
+
+async function loadPictures(element) {
+    await documentLoaded;
+    pictureList ??= JSON.parse(byId("picture-list").textContent);
+    for (const image of element.querySelectorAll("img:not([src])"))
+        image.src = pictureList[image.dataset.picture];
+}
+
+function pictureVariant(variant, name) {
+    const traits = traitText(variant.traits) || "any";
+    return make("figure", {},
+        make("div", { class: "stage" }, picture(variant, `${name}, ${traits}`)),
+        make("figcaption", {}, make("strong", {}, traits), ` ${variant.width}\u202f×\u202f${variant.height}`,
+            make("span", { class: "bytes" }, fileSize(variant.bytes))));
+}
+
+function pictureRow(asset) {
+    const variants = asset.variants.map((variant) => pictureVariant(variant, asset.name));
+    const name = assetName(asset);
+    if (asset.template)
+        name.append(make("span", { class: "tag" }, "Template"));
+    const row = assetRow(asset, "picture", make("div", { class: "variants" }, ...variants), name);
+    row.show = () => loadPictures(row.element);
+    return row;
+}
+
+const pictureLists = assetLists(assetsOf("image").map(pictureRow), "cards");
+
+function dataRow(asset) {
+    const variants = asset.variants.map((variant) =>
+        make("li", {}, [traitText(variant.traits), variant.type, fileSize(variant.bytes)].filter(Boolean).join(" · ")));
+    return assetRow(asset, "file", assetName(asset), make("ul", {}, ...variants));
+}
+
+const dataLists = assetLists(assetsOf("data").map(dataRow), "files");

@@ -1,0 +1,55 @@
+// The pictures that a region or a sex chooses among, found by their names: "sexGirl.arab" is the picture "sex" of women
+// in the region "arab", "male_training_target_maintain_ru" that of men in "ru". Behind an underscore, two letters are a
+// region only where the name has a sex too: "arrow_up" is none.
+const sexes = [
+    ["men", /(?<![A-Za-z])(male|man|boy)(?![a-z])|(?<=[a-z])(Male|Man|Boy)(?![a-z])/],
+    ["women", /(?<![A-Za-z])(female|woman|girl)(?![a-z])|(?<=[a-z])(Female|Woman|Girl)(?![a-z])/],
+];
+
+function regionalParts(name) {
+    const [sex = "", pattern] = sexes.find(([, words]) => words.test(name)) ?? [];
+    const ending = (sex ? /[._]([a-z]{2})$|\.([a-z]+)$/ : /\.([a-z]+)$/).exec(name);
+    const stem = ending ? name.slice(0, ending.index) : name;
+    return { subject: sex ? stem.replace(pattern, "…") : stem, sex, region: ending?.[1] ?? ending?.[2] ?? "" };
+}
+
+// Maps subjects to maps from sexes to maps from regions to pictures; only subjects with something to choose.
+function regionalPictures(assets) {
+    const subjects = new Map();
+    for (const asset of assets) {
+        const { subject, sex, region } = regionalParts(asset.name);
+        const bySex = subjects.get(subject) ?? new Map();
+        const byRegion = bySex.get(sex) ?? new Map();
+        subjects.set(subject, bySex.set(sex, byRegion.set(region, asset)));
+    }
+    for (const [subject, bySex] of subjects) {
+        const choices = Math.max(bySex.size, ...Array.from(bySex.values(), (byRegion) => byRegion.size));
+        if (choices < 2)
+            subjects.delete(subject);
+    }
+    return subjects;
+}
+
+function regionTable() {
+    const subjects = regionalPictures(assetsOf("image"));
+    if (subjects.size === 0)
+        return null;
+    const regions = [...new Set([...subjects.values()].flatMap((bySex) => [...bySex.values()].flatMap((byRegion) => [...byRegion.keys()])))].sort();
+    const head = make("tr", {}, make("th", { scope: "col" }, "Picture"), make("th", { scope: "col" }, "Sex"),
+        ...regions.map((region) => make("th", { scope: "col" }, region || "no region")));
+    const body = [...subjects].flatMap(([subject, bySex]) => [...bySex].map(([sex, byRegion], i) => make("tr", {},
+        ...(i === 0 ? [make("th", { scope: "rowgroup", rowspan: bySex.size }, subject)] : []),
+        make("td", {}, sex || "any"),
+        ...regions.map((region) => regionCell(byRegion.get(region))))));
+    const table = make("table", {}, make("caption", { class: "quiet" }, "Pictures by region and sex"),
+        make("thead", {}, head), make("tbody", {}, ...body));
+    whenNear(table, () => loadPictures(table));
+    return table;
+}
+
+function regionCell(asset) {
+    if (!asset)
+        return make("td", { class: "none" }, "–");
+    const largest = asset.variants.reduce((best, variant) => (variant.width > best.width ? variant : best));
+    return make("td", {}, make("div", { class: "stage" }, picture(largest, "")), make("code", {}, asset.name));
+}

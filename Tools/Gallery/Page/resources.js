@@ -1,0 +1,48 @@
+// The resources that the page shows, see Docs/gallery.md, and what follows from them: names and directions of
+// languages, and how far each text is translated.
+const resources = JSON.parse(byId("resource-list").textContent);
+
+const rightToLeft = new Set(["Adlm", "Arab", "Hebr", "Mand", "Nkoo", "Rohg", "Samr", "Syrc", "Thaa"]);
+
+function languageOf(code) {
+    const tag = code.replaceAll("_", "-");
+    try {
+        const script = new Intl.Locale(tag).maximize().script;
+        const name = new Intl.DisplayNames([tag], { type: "language" }).of(tag);
+        const direction = rightToLeft.has(script) ? "rtl" : "ltr";
+        return { code, tag, name: name.charAt(0).toLocaleUpperCase(tag) + name.slice(1), direction };
+    } catch { // no language tag
+        return { code, tag: "und", name: code, direction: "auto" };
+    }
+}
+
+const languages = resources.languages.map(languageOf);
+const development = 0; // the first language is the one the texts are written in
+
+// A text is a string, or an object of plural forms: { format, variables: { NAME: { CATEGORY: text } } }.
+const isPlural = (value) => value !== null && typeof value === "object";
+
+function stringsOf(value) {
+    if (value === null)
+        return [];
+    return isPlural(value) ? [value.format ?? "", ...Object.values(value.variables).flatMap(Object.values)] : [value];
+}
+
+// A placeholder as the platform's formatting has it, or a variable of a plural rule.
+const placeholder = /%(?:\d+\$)?(?:#@[^@]+@|[-+ 0#']*(?:\d+|\*)?(?:\.(?:\d+|\*))?(?:hh|h|ll|l|q|L|z|t|j)?[@a-zA-Z])|%%/g;
+
+function hasWords(value) {
+    return stringsOf(value).some((text) => /\p{Letter}/u.test(text.replace(placeholder, "")));
+}
+
+// "missing", "same" as the development language's text, or "translated".
+function statusOf(text, language) {
+    const value = text.values[language];
+    if (value === null)
+        return "missing";
+    const original = text.values[development];
+    if (language === development || original === null)
+        return "translated";
+    const isSame = value === original || (isPlural(value) && JSON.stringify(value) === JSON.stringify(original));
+    return isSame && hasWords(value) ? "same" : "translated";
+}

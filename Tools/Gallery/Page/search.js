@@ -1,0 +1,80 @@
+// Lists that the search narrows down. A list's rows are made once; a search replaces what the document holds of them.
+
+// Upper and lower case, accents and the forms of a character do not matter.
+function folded(text) {
+    return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase();
+}
+
+// Rows are kept in chunks, which a browser neither styles nor lays out while they are far from the window.
+const chunkRows = 24; // full lines of one, two, three and four columns
+
+// Runs the action of a chunk once it comes near the window.
+const chunkActions = new WeakMap();
+const nearWindow = new IntersectionObserver((entries) => {
+    for (const { isIntersecting, target } of entries) {
+        if (!isIntersecting)
+            continue;
+        nearWindow.unobserve(target);
+        chunkActions.get(target)();
+    }
+}, { rootMargin: "800px" });
+
+function whenNear(element, action) {
+    chunkActions.set(element, action);
+    nearWindow.observe(element);
+}
+
+class SearchableList {
+    // `rows`: { element, strings: () => [string], accepts: (status) => boolean, show?: () => void, explain?: (words) =>
+    // void }. `show` runs when the row comes near the window, `explain` when a search found it.
+    constructor(heading, rows, className) {
+        this.rows = rows;
+        this.className = className;
+        this.count = make("span", { class: "number" });
+        this.list = make("div", { class: "list", role: "list" });
+        this.section = make("section", {}, make("h3", { dir: "auto" }, heading, " ", this.count), this.list);
+        this.put(rows);
+    }
+
+    narrow(words, status) {
+        const found = this.rows.filter((row) => row.accepts(status) && words.every((word) => this.haystack(row).includes(word)));
+        if (found.length !== this.shown.length || found.some((row, i) => row !== this.shown[i]))
+            this.put(found);
+        for (const row of found)
+            row.explain?.(words);
+    }
+
+    haystack(row) {
+        return (row.haystack ??= folded(row.strings().join("\n")));
+    }
+
+    put(rows) {
+        this.shown = rows;
+        const chunks = [];
+        for (let first = 0; first < rows.length; first += chunkRows)
+            chunks.push(this.chunk(rows.slice(first, first + chunkRows)));
+        this.list.replaceChildren(...chunks);
+        this.count.textContent = numbers.format(rows.length);
+        this.section.hidden = rows.length === 0;
+    }
+
+    chunk(rows) {
+        const chunk = make("div", { class: `chunk ${this.className}` }, ...rows.map((row) => row.element));
+        chunk.style.setProperty("--rows", rows.length);
+        if (rows[0].show)
+            whenNear(chunk, () => rows.forEach((row) => row.show()));
+        return chunk;
+    }
+}
+
+// One list for each group of the rows, in the order in which the groups come first.
+function listsByGroup(rows, groupOf, className) {
+    const groups = new Map();
+    for (const row of rows) {
+        const name = groupOf(row);
+        if (!groups.has(name))
+            groups.set(name, []);
+        groups.get(name).push(row);
+    }
+    return Array.from(groups, ([name, members]) => new SearchableList(name, members, className));
+}

@@ -1,0 +1,100 @@
+// The texts, two languages side by side.
+const chosen = { a: development, b: development };
+
+// The text with its placeholders set apart.
+function marked(text) {
+    if (!text.includes("%"))
+        return [text];
+    const parts = [];
+    let end = 0;
+    for (const match of text.matchAll(placeholder)) {
+        parts.push(text.slice(end, match.index), make("bdi", { class: "placeholder" }, match[0]));
+        end = match.index + match[0].length;
+    }
+    parts.push(text.slice(end));
+    return parts;
+}
+
+function pluralForms(value) {
+    const parts = value.format ? [make("p", {}, ...marked(value.format))] : [];
+    for (const [variable, forms] of Object.entries(value.variables)) {
+        const list = make("dl", { class: "forms" });
+        for (const [category, text] of Object.entries(forms))
+            list.append(make("dt", { lang: "en", dir: "ltr" }, category), make("dd", {}, ...marked(text)));
+        if (Object.keys(value.variables).length > 1)
+            parts.push(make("p", { class: "variable" }, variable));
+        parts.push(list);
+    }
+    return parts;
+}
+
+const statusNames = { missing: "Missing", same: "Not translated" };
+
+function fillCell(cell, text, index) {
+    const language = languages[index];
+    const value = text.values[index];
+    const status = statusOf(text, index);
+    cell.lang = language.tag;
+    cell.dir = language.direction;
+    cell.dataset.status = status;
+    const parts = [make("span", { class: "code", lang: "en", dir: "ltr" }, language.code)];
+    if (value !== null)
+        parts.push(...(isPlural(value) ? pluralForms(value) : marked(value)));
+    if (status !== "translated")
+        parts.push(make("span", { class: `tag ${status}`, lang: "en", dir: "ltr" }, statusNames[status]));
+    cell.replaceChildren(...parts);
+}
+
+// The module and the tree that every accessor of texts begins with are not shown again in each row.
+const sharedPrefix = (accessors) => /^(?:[^:]+::){2}/.exec(accessors.find(Boolean) ?? "")?.[0] ?? "";
+const withoutPrefix = (accessor, prefix) => (accessor.startsWith(prefix) ? accessor.slice(prefix.length) : accessor);
+
+const textPrefix = sharedPrefix(resources.texts.map((text) => text.accessor));
+
+function textRow(text) {
+    const name = make("div", { class: "name" });
+    if (text.accessor)
+        name.append(copyButton(text.accessor, withoutPrefix(text.accessor, textPrefix)));
+    name.append(make("code", { class: "key", dir: "auto" }, text.key));
+    if (!text.accessor)
+        name.append(make("span", { class: "tag missing" }, "No accessor"));
+    if (text.comment)
+        name.append(make("p", { class: "comment", dir: "auto" }, text.comment));
+    const cells = { a: make("div", { class: "cell" }), b: make("div", { class: "cell" }) };
+    const row = {
+        text,
+        cells,
+        element: make("div", { class: "text columns", role: "listitem", "data-key": text.key }, name, cells.a, cells.b),
+        strings: () => [text.key, text.accessor ?? "", ...text.values.flatMap(stringsOf)],
+        accepts: (status) => status === "all" || status === statusOf(text, chosen.b) ||
+            (status === "plural" && text.values.some(isPlural)) || (status === "comment" && Boolean(text.comment)),
+    };
+    row.explain = (words) => explain(row, words);
+    return row;
+}
+
+// Shows the text of a third language when only that has the words.
+function explain(row, words) {
+    row.elsewhere?.remove();
+    row.elsewhere = null;
+    row.readable ??= folded([row.text.key, row.text.accessor ?? ""].join("\n"));
+    row.folded ??= row.text.values.map((value) => folded(stringsOf(value).join("\n")));
+    const places = [row.readable, row.folded[chosen.a], row.folded[chosen.b]];
+    const unseen = words.find((word) => !places.some((place) => place.includes(word)));
+    if (unseen === undefined)
+        return;
+    const index = row.folded.findIndex((place) => place.includes(unseen));
+    const language = languages[index];
+    row.elsewhere = make("p", { class: "elsewhere" }, make("span", { lang: language.tag }, language.name), ": ",
+        make("bdi", { lang: language.tag, dir: language.direction }, ...marked(stringsOf(row.text.values[index]).join(" / "))));
+    row.element.append(row.elsewhere);
+}
+
+const textRows = resources.texts.map(textRow);
+const textLists = listsByGroup(textRows, (row) => row.text.table, "texts");
+
+function chooseLanguage(side, index) {
+    chosen[side] = index;
+    for (const row of textRows)
+        fillCell(row.cells[side], row.text, index);
+}
