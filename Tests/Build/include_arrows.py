@@ -17,7 +17,8 @@ ARROWS = {
     "Tools/SourceBundle": ["Platform/StringTables", "Platform/AssetCatalog"],
     "Tools/Generator": ["Tools/SourceBundle"],
     "Tools/Compiler": ["Tools/SourceBundle", "Platform/AssetCatalog", "Platform/Pictures"],
-    "Tools/Program": ["Tools/Generator", "Tools/Compiler", "Lumora"],
+    "Tools/Gallery": ["Tools/Generator", "Platform/UIKit"],
+    "Tools/Program": ["Tools/Generator", "Tools/Compiler", "Tools/Gallery", "Lumora"],
 }
 INCLUDE = re.compile(r'\s*#\s*include\s+["<]([^">]+)[">]')
 

@@ -27,6 +27,7 @@ void addTableCommand(CLI::App& program, Exit& exit);
 void addGenerateCommand(CLI::App& program, Exit& exit);
 void addCompileCommand(CLI::App& program, Exit& exit);
 void addAssetCommands(CLI::App& program, Exit& exit);
+void addGalleryCommand(CLI::App& program, Exit& exit);
 
 // One line on standard error, "lumora: WHAT", in colour on a terminal.
 Exit fail(const Runtime::Error& error);

@@ -23,6 +23,7 @@ int main(int argc, char** argv) {
     Tools::addGenerateCommand(program, exit);
     Tools::addCompileCommand(program, exit);
     Tools::addAssetCommands(program, exit);
+    Tools::addGalleryCommand(program, exit);
     try {
         program.parse(argc, argv);
         // Asked here, after a wrong word has been named.

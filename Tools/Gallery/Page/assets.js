@@ -10,15 +10,18 @@ const traitTexts = {
     direction: String,
 };
 
-function traitText(traits = {}) {
-    return Object.entries(traitTexts).filter(([name]) => name in traits).map(([name, text]) => text(traits[name])).join(", ");
+// Beside a dark variant, one for any appearance is the light one.
+function traitText(variant, asset) {
+    const hasDark = asset.variants.some(({ traits }) => traits.appearance === "dark");
+    const traits = hasDark ? { appearance: "light", ...variant.traits } : variant.traits;
+    return Object.entries(traitTexts).filter(([name]) => name in traits).map(([name, text]) => text(traits[name])).join(", ") || "any";
 }
 
 function assetName(asset) {
     const last = asset.accessor?.split("::").pop();
     const name = make("div", { class: "name" });
     if (asset.accessor)
-        name.append(copyButton(asset.accessor, last));
+        name.append(copyButton(resources.trees.assets + asset.accessor, last));
     if (asset.name !== last)
         name.append(make("code", { class: "key", dir: "auto" }, asset.name));
     return name;
@@ -29,7 +32,7 @@ function assetRow(asset, className, ...children) {
     return {
         asset,
         element: make("div", { class: className, role: "listitem", "data-asset": asset.name }, ...children),
-        strings: () => [asset.name, asset.accessor ?? ""],
+        strings: () => [asset.name, resources.trees.assets + (asset.accessor ?? "")],
         accepts: (status) => status === "all",
     };
 }

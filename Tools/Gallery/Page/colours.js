@@ -36,17 +36,17 @@ function contrastLine(colour, ground, groundName) {
     return make("li", { "data-grade": grade(ratio) }, `${ratio.toFixed(2)} on ${groundName} `, make("b", {}, grade(ratio)));
 }
 
-function colourValue(variant) {
+function colourValue(variant, asset) {
     const swatch = make("div", { class: "swatch" }, make("span", {}));
     swatch.firstChild.style.background = cssColour(variant.srgb);
     const space = variant.space === "srgb" ? "" : ` ${variant.space}`;
     return make("figure", {}, swatch,
-        make("figcaption", {}, make("strong", {}, traitText(variant.traits) || "any"), " ", make("code", {}, hexOf(variant.srgb)), space),
+        make("figcaption", {}, make("strong", {}, traitText(variant, asset)), " ", make("code", {}, hexOf(variant.srgb)), space),
         make("ul", { class: "ratios" }, contrastLine(variant.srgb, white, "white"), contrastLine(variant.srgb, black, "black")));
 }
 
 function colourRow(asset) {
-    return assetRow(asset, "colour", assetName(asset), make("div", { class: "values" }, ...asset.variants.map(colourValue)));
+    return assetRow(asset, "colour", assetName(asset), make("div", { class: "values" }, ...asset.variants.map((variant) => colourValue(variant, asset))));
 }
 
 const colourLists = assetLists(assetsOf("color").map(colourRow), "colours");
@@ -56,16 +56,16 @@ function progressColour([red, green, blue], progress) {
     return [Math.max(red, 2 * (1 - progress)), Math.min(green, 2 * progress), progress * blue, 1];
 }
 
-function progressStrip(variant) {
+function progressStrip(variant, asset) {
     const stops = Array.from({ length: 51 }, (_, i) => cssColour(progressColour(variant.srgb, i / 50)));
     const strip = make("div", { class: "strip-colours", role: "img", "aria-label": "From red over yellow to the colour itself" });
     strip.style.background = `linear-gradient(to right, ${stops.join(", ")})`;
     const percents = [0, 25, 50, 75, 100].map((percent) => make("span", {}, `${percent} %`));
-    return make("figure", {}, make("figcaption", {}, make("strong", {}, traitText(variant.traits) || "any")), strip,
+    return make("figure", {}, make("figcaption", {}, make("strong", {}, traitText(variant, asset))), strip,
         make("div", { class: "percents" }, ...percents));
 }
 
 function progressStrips() {
     const asset = assetsOf("color").find((colour) => colour.name.split("/").pop() === "progressGreen");
-    return asset ? make("section", { class: "progress" }, make("h3", {}, "Progress"), ...asset.variants.map(progressStrip)) : null;
+    return asset ? make("section", { class: "progress" }, make("h3", {}, "Progress"), ...asset.variants.map((variant) => progressStrip(variant, asset))) : null;
 }

@@ -17,8 +17,8 @@ function describe() {
     ];
     const parts = kinds.map(([lists, one, many]) => counted(rowCount(lists), one, many));
     parts.splice(1, 0, counted(languages.length, "language", "languages"));
-    document.title = `${resources.module} – gallery`;
-    byId("title").textContent = resources.module;
+    document.title = `${resources.title} – gallery`;
+    byId("title").textContent = resources.title;
     byId("summary").textContent = parts.join(" · ");
 }
 

@@ -5,7 +5,7 @@ let pictureList = null;
 
 // Has no pixels before loadPictures().
 function picture(variant, text) {
-    const scale = variant.traits?.scale ?? 1;
+    const scale = variant.traits.scale ?? 1;
     const image = make("img", { alt: text, width: Math.ceil(variant.width / scale), height: Math.ceil(variant.height / scale) });
     image.dataset.picture = variant.picture;
     return image;
@@ -18,16 +18,16 @@ async function loadPictures(element) {
         image.src = pictureList[image.dataset.picture];
 }
 
-function pictureVariant(variant, name) {
-    const traits = traitText(variant.traits) || "any";
+function pictureVariant(variant, asset) {
+    const traits = traitText(variant, asset);
     return make("figure", {},
-        make("div", { class: "stage" }, picture(variant, `${name}, ${traits}`)),
+        make("div", { class: "stage" }, picture(variant, `${asset.name}, ${traits}`)),
         make("figcaption", {}, make("strong", {}, traits), ` ${variant.width}\u202f×\u202f${variant.height}`,
             make("span", { class: "bytes" }, fileSize(variant.bytes))));
 }
 
 function pictureRow(asset) {
-    const variants = asset.variants.map((variant) => pictureVariant(variant, asset.name));
+    const variants = asset.variants.map((variant) => pictureVariant(variant, asset));
     const name = assetName(asset);
     if (asset.template)
         name.append(make("span", { class: "tag" }, "Template"));
@@ -40,7 +40,7 @@ const pictureLists = assetLists(assetsOf("image").map(pictureRow), "cards");
 
 function dataRow(asset) {
     const variants = asset.variants.map((variant) =>
-        make("li", {}, [traitText(variant.traits), variant.type, fileSize(variant.bytes)].filter(Boolean).join(" · ")));
+        make("li", {}, [asset.variants.length > 1 && traitText(variant, asset), variant.type, fileSize(variant.bytes)].filter(Boolean).join(" · ")));
     return assetRow(asset, "file", assetName(asset), make("ul", {}, ...variants));
 }
 

@@ -45,16 +45,12 @@ function fillCell(cell, text, index) {
     cell.replaceChildren(...parts);
 }
 
-// The module and the tree that every accessor of texts begins with are not shown again in each row.
-const sharedPrefix = (accessors) => /^(?:[^:]+::){2}/.exec(accessors.find(Boolean) ?? "")?.[0] ?? "";
-const withoutPrefix = (accessor, prefix) => (accessor.startsWith(prefix) ? accessor.slice(prefix.length) : accessor);
-
-const textPrefix = sharedPrefix(resources.texts.map((text) => text.accessor));
+const fullAccessor = (text) => (text.accessor ? resources.trees.texts + text.accessor : "");
 
 function textRow(text) {
     const name = make("div", { class: "name" });
     if (text.accessor)
-        name.append(copyButton(text.accessor, withoutPrefix(text.accessor, textPrefix)));
+        name.append(copyButton(fullAccessor(text), text.accessor));
     name.append(make("code", { class: "key", dir: "auto" }, text.key));
     if (!text.accessor)
         name.append(make("span", { class: "tag missing" }, "No accessor"));
@@ -65,7 +61,7 @@ function textRow(text) {
         text,
         cells,
         element: make("div", { class: "text columns", role: "listitem", "data-key": text.key }, name, cells.a, cells.b),
-        strings: () => [text.key, text.accessor ?? "", ...text.values.flatMap(stringsOf)],
+        strings: () => [text.key, fullAccessor(text), ...text.values.flatMap(stringsOf)],
         accepts: (status) => status === "all" || status === statusOf(text, chosen.b) ||
             (status === "plural" && text.values.some(isPlural)) || (status === "comment" && Boolean(text.comment)),
     };
@@ -77,7 +73,7 @@ function textRow(text) {
 function explain(row, words) {
     row.elsewhere?.remove();
     row.elsewhere = null;
-    row.readable ??= folded([row.text.key, row.text.accessor ?? ""].join("\n"));
+    row.readable ??= folded([row.text.key, fullAccessor(row.text)].join("\n"));
     row.folded ??= row.text.values.map((value) => folded(stringsOf(value).join("\n")));
     const places = [row.readable, row.folded[chosen.a], row.folded[chosen.b]];
     const unseen = words.find((word) => !places.some((place) => place.includes(word)));

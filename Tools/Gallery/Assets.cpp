@@ -1,0 +1,172 @@
+#include "Gallery/Assets.h"
+
+#include "AssetCatalog/internal/Catalog.h"
+#include "Gallery/Base64.h"
+#include "Generator/AssetsModel.h"
+#include "UIKit/UIColor.h"
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <map>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace Gallery {
+
+namespace fs = std::filesystem;
+using AssetCatalog::Catalog;
+using AssetCatalog::Entry;
+using AssetCatalog::Fit;
+using AssetCatalog::Kind;
+using nlohmann::ordered_json;
+
+namespace {
+
+template <class Enumeration, std::size_t size>
+std::string_view named(Enumeration value, const std::array<std::string_view, size>& names) {
+    return names[static_cast<std::size_t>(value)];
+}
+
+// Without those that a variant leaves open.
+ordered_json traitsOf(const Fit& fit) {
+    ordered_json traits = ordered_json::object();
+    if (fit.scale != 0)
+        traits["scale"] = fit.scale;
+    if (fit.appearance != AssetCatalog::Appearance::any)
+        traits["appearance"] = named(fit.appearance, std::array<std::string_view, 3>{"", "light", "dark"});
+    if (fit.contrast != AssetCatalog::Contrast::any)
+        traits["contrast"] = "high";
+    if (fit.direction != AssetCatalog::Direction::any)
+        traits["direction"] =
+            named(fit.direction, std::array<std::string_view, 3>{"", "left to right", "right to left"});
+    return traits;
+}
+
+// The traits of a reader for whom that variant is made.
+UIKit::UITraitCollection readerOf(const Fit& fit) {
+    const bool isDark = fit.appearance == AssetCatalog::Appearance::dark;
+    const bool isHigh = fit.contrast == AssetCatalog::Contrast::high;
+    const bool isRightToLeft = fit.direction == AssetCatalog::Direction::rightToLeft;
+    return {.userInterfaceStyle = isDark ? UIKit::UserInterfaceStyle::dark : UIKit::UserInterfaceStyle::light,
+            .accessibilityContrast = isHigh ? UIKit::AccessibilityContrast::high : UIKit::AccessibilityContrast::normal,
+            .layoutDirection =
+                isRightToLeft ? UIKit::LayoutDirection::rightToLeft : UIKit::LayoutDirection::leftToRight};
+}
+
+// Reads the variants of a catalog's entries.
+class VariantReader {
+public:
+    VariantReader(const fs::path& bundle, Assets& assets)
+        : bundle_(Foundation::NSBundle::bundleWithPath(bundle.string())), assets_(assets) {}
+
+    Runtime::Result<ordered_json> read(const Entry& entry, std::size_t variant) {
+        ordered_json json = {{"traits", traitsOf(entry.fit(variant))}};
+        switch (entry.kind()) {
+        case Kind::image:
+            if (auto done = addPicture(entry.picture(variant), json); !done)
+                return std::move(done.error());
+            break;
+        case Kind::color:
+            addColor(entry, variant, json);
+            break;
+        case Kind::data:
+            json["type"] = entry.data(variant).typeIdentifier;
+            json["bytes"] = entry.data(variant).blob.size;
+            break;
+        }
+        return json;
+    }
+
+private:
+    Runtime::Result<void> addPicture(const AssetCatalog::PictureView& picture, ordered_json& json) {
+        const auto bytes = picture.blob.read();
+        if (!bytes)
+            return bytes.error();
+        json["width"] = picture.width;
+        json["height"] = picture.height;
+        json["bytes"] = bytes->size();
+        json["picture"] = assets_.pictures.size();
+        const bool isPng = picture.encoding == AssetCatalog::Encoding::png;
+        assets_.pictures.push_back(std::string(isPng ? "data:image/png" : "data:image/jpeg") + ";base64," +
+                                   base64(*bytes));
+        return {};
+    }
+
+    void addColor(const Entry& entry, std::size_t variant, ordered_json& json) {
+        static constexpr std::array<std::string_view, 4> spaces = {"srgb", "extended-srgb", "display-p3",
+                                                                   "gray-gamma-22"};
+        json["space"] = named(entry.color(variant).space, spaces);
+        const auto color = UIKit::UIColor::colorNamed(entry.name(), bundle_);
+        const auto rgba = color ? color->resolved(readerOf(entry.fit(variant))).rgba() : std::nullopt;
+        const UIKit::RGBA value = rgba.value_or(UIKit::RGBA{});
+        json["srgb"] = {value.red, value.green, value.blue, value.alpha};
+    }
+
+    const Foundation::NSBundle& bundle_;
+    Assets& assets_;
+};
+
+using AssetKey = std::pair<Kind, std::string>;
+
+// The accessors of the assets, below the tree.
+std::map<AssetKey, std::string> accessorsOf(const std::vector<Entry>& entries) {
+    std::vector<SourceBundle::SourceAsset> assets;
+    for (const Entry& entry : entries)
+        assets.push_back({.kind = entry.kind(),
+                          .catalog = std::string(entry.catalog()),
+                          .name = std::string(entry.name()),
+                          .path = {}});
+    SourceBundle::Diagnostics unnamed; // told by the generator
+    std::map<AssetKey, std::string> accessors;
+    for (const Generator::AssetConstant& constant : Generator::constantsOf(assets, unnamed))
+        accessors.emplace(AssetKey(constant.asset->kind, constant.asset->name), constant.groups + "::" + constant.name);
+    return accessors;
+}
+
+std::vector<Entry> entriesOf(const Catalog& catalog) {
+    std::vector<Entry> entries;
+    for (std::size_t i = 0; i < catalog.size(); ++i)
+        entries.push_back(catalog[i]);
+    std::ranges::sort(entries, {},
+                      [](const Entry& entry) { return std::tuple(entry.catalog(), entry.name(), entry.kind()); });
+    return entries;
+}
+
+} // namespace
+
+Runtime::Result<Assets> assetsOf(const fs::path& bundle) {
+    auto catalog = Catalog::open(bundle / AssetCatalog::fileName);
+    if (!catalog && catalog.error().cause == ENOENT)
+        return Assets{};
+    if (!catalog)
+        return std::move(catalog.error());
+    static constexpr std::array<std::string_view, 3> kinds = {"image", "color", "data"};
+    Assets assets;
+    VariantReader reader(bundle, assets);
+    const std::vector<Entry> entries = entriesOf(*catalog);
+    const std::map<AssetKey, std::string> accessors = accessorsOf(entries);
+    for (const Entry& entry : entries) {
+        const auto accessor = accessors.find(AssetKey(entry.kind(), entry.name()));
+        ordered_json asset = {{"kind", named(entry.kind(), kinds)},
+                              {"catalog", entry.catalog()},
+                              {"name", entry.name()},
+                              {"accessor", nullptr},
+                              {"template", entry.isTemplate()},
+                              {"variants", ordered_json::array()}};
+        if (accessor != accessors.end())
+            asset["accessor"] = accessor->second;
+        for (std::size_t variant = 0; variant < entry.variants(); ++variant) {
+            auto read = reader.read(entry, variant);
+            if (!read)
+                return std::move(read.error());
+            asset["variants"].push_back(*std::move(read));
+        }
+        assets.list.push_back(std::move(asset));
+    }
+    return assets;
+}
+
+} // namespace Gallery

@@ -1,0 +1,55 @@
+#include "Gallery/Gallery.h"
+
+#include "Gallery/Assets.h"
+#include "Gallery/PageTemplate.h"
+#include "Gallery/Texts.h"
+#include <string_view>
+#include <utility>
+
+namespace Gallery {
+
+namespace {
+
+// The JSON as it may stand in a script element: nothing in it can end the element. Bytes that are no text are replaced.
+std::string embedded(const nlohmann::ordered_json& json) {
+    const std::string text = json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+    std::string safe;
+    safe.reserve(text.size() + text.size() / 64);
+    for (const char c : text) {
+        if (c == '<')
+            safe += "\\u003c";
+        else
+            safe += c;
+    }
+    return safe;
+}
+
+std::string filled(const std::string& resources, const std::string& pictures) {
+    static constexpr std::string_view resourcesMark = "@RESOURCES@", picturesMark = "@PICTURES@";
+    const std::size_t first = pageTemplate.find(resourcesMark);
+    const std::size_t second = pageTemplate.find(picturesMark, first);
+    const std::size_t between = first + resourcesMark.size();
+    std::string page(pageTemplate.substr(0, first));
+    page.append(resources).append(pageTemplate.substr(between, second - between));
+    return page.append(pictures).append(pageTemplate.substr(second + picturesMark.size()));
+}
+
+} // namespace
+
+Runtime::Result<std::string> pageOf(const std::filesystem::path& bundle, const Options& options,
+                                    SourceBundle::Diagnostics& diagnostics) {
+    if (std::error_code failed; !std::filesystem::is_directory(bundle, failed))
+        return Runtime::Error{.message = "is no bundle", .file = bundle};
+    auto assets = assetsOf(bundle);
+    if (!assets)
+        return std::move(assets.error());
+    nlohmann::ordered_json resources = {{"title", options.title}};
+    const std::string tree = options.module.empty() ? "" : options.module + "::" + options.module;
+    resources["trees"] = {{"texts", tree.empty() ? "" : tree + "Strings::"},
+                          {"assets", tree.empty() ? "" : tree + "Asset::"}};
+    resources.update(textsOf(bundle, diagnostics));
+    resources["assets"] = std::move(assets->list);
+    return filled(embedded(resources), embedded(assets->pictures));
+}
+
+} // namespace Gallery

@@ -1,0 +1,108 @@
+// lumora gallery: one page that shows all resources to people.
+#include "Program/Command.h"
+
+#include "Compiler/Bundle.h"
+#include "Gallery/Gallery.h"
+#include "Lumora/LumoraResources.h"
+#include <CLI/CLI.hpp>
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <system_error>
+
+namespace Tools {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct GalleryOptions {
+    std::string source;
+    std::string bundle;
+    std::string module;
+    std::string output;
+};
+
+// A folder that is gone with this object.
+class TemporaryFolder {
+public:
+    static Runtime::Result<TemporaryFolder> create() {
+        std::error_code failed;
+        std::string path = fs::temp_directory_path(failed) / "lumora-gallery-XXXXXX";
+        if (failed || ::mkdtemp(path.data()) == nullptr)
+            return Runtime::Error{.message = "no temporary folder can be made", .file = path};
+        return TemporaryFolder(std::move(path));
+    }
+    TemporaryFolder(TemporaryFolder&& other) noexcept : path_(std::exchange(other.path_, {})) {}
+    TemporaryFolder& operator=(TemporaryFolder&&) = delete;
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        if (!path_.empty())
+            fs::remove_all(path_, ignored);
+    }
+
+    const fs::path& path() const noexcept { return path_; }
+
+private:
+    explicit TemporaryFolder(fs::path path) : path_(std::move(path)) {}
+
+    fs::path path_;
+};
+
+Exit writePage(const GalleryOptions& options, const fs::path& bundle, const Gallery::Options& page) {
+    SourceBundle::Diagnostics diagnostics;
+    const auto made = Gallery::pageOf(bundle, page, diagnostics);
+    const Exit reported = report(diagnostics);
+    if (!made)
+        return fail(made.error());
+    const Exit written = write(options.output, *made);
+    return written == Exit::done ? reported : written;
+}
+
+// Shows what a compile makes of the source.
+Exit showSource(const GalleryOptions& options) {
+    const auto folder = TemporaryFolder::create();
+    if (!folder)
+        return fail(folder.error());
+    const fs::path bundle = folder->path() / "Gallery.bundle";
+    SourceBundle::Diagnostics diagnostics;
+    const auto compiled = Compiler::compileBundle(options.source, bundle, diagnostics, showProgress);
+    showProgress("", 0, 0);
+    const Exit reported = report(diagnostics);
+    if (!compiled)
+        return fail(compiled.error());
+    if (reported != Exit::done)
+        return reported;
+    const std::string title =
+        options.module.empty() ? fs::absolute(options.source).filename().string() : options.module;
+    return writePage(options, bundle, {.title = title, .module = options.module});
+}
+
+Exit showBundle(const GalleryOptions& options) {
+    const fs::path bundle =
+        options.bundle.empty() ? fs::path(Lumora::LumoraResources::bundle().bundlePath()) : fs::path(options.bundle);
+    const std::string name = options.module.empty() ? bundle.stem().string() : options.module;
+    return writePage(options, bundle, {.title = name, .module = name});
+}
+
+} // namespace
+
+void addGalleryCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<GalleryOptions>();
+    CLI::App* command = program.add_subcommand("gallery", "Write a web page that shows every text and asset.");
+    CLI::Option* source =
+        command->add_option("SOURCE", options->source, "A source bundle: a folder of *.lproj and *.xcassets")
+            ->check(named());
+    command->add_option("--bundle", options->bundle, "A compiled bundle (default: the module's own)")->excludes(source);
+    command->add_option("--module", options->module,
+                        "The module's name, with which accessors begin (default: that of the bundle)");
+    command->add_option("-o,--output", options->output, "The page to write, FILE.html; - is standard output")
+        ->required()
+        ->check(named());
+    command->callback(
+        [options, &exit] { exit = options->source.empty() ? showBundle(*options) : showSource(*options); });
+}
+
+} // namespace Tools
