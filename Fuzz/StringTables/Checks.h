@@ -44,13 +44,17 @@ inline void requireWhole(const Table& table) {
     require(places.size() == table.entries().size());
     for (const StringTables::Location& place : places)
         require((place.line == 0) == (table.form() == Form::binary));
+    const auto comments = table.comments();
+    require(comments.size() == table.entries().size());
     for (const Form form : {Form::text, Form::xml, Form::binary}) {
-        const auto bytes = StringTables::write(table.entries(), form);
+        const auto bytes = StringTables::write(table.entries(), form, comments);
         require(bytes || form == Form::xml); // the only form that cannot hold every text
         if (!bytes)
             continue;
         const auto again = Table::read(*bytes);
         require(again && again->form() == form && again->notes().empty() && haveSameEntries(table, *again));
+        require(form == Form::binary ||
+                std::ranges::equal(again->comments(), comments, {}, &std::string::empty, &std::string::empty));
     }
 }
 

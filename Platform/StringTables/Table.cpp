@@ -1,6 +1,7 @@
 #include "StringTables/internal/Table.h"
 
 #include "Runtime/internal/File.h"
+#include "StringTables/internal/Comments.h"
 #include "StringTables/internal/Contents.h"
 #include "StringTables/internal/Unicode.h"
 #include <numeric>
@@ -137,6 +138,18 @@ Runtime::Result<void> recognize(Contents& contents) {
 
 } // namespace internal
 
+namespace {
+
+// The numbers of the entries by their place in the source: a key that appears again is further down than its entry.
+std::vector<std::size_t> inSourceOrder(std::span<const Entry> entries) {
+    std::vector<std::size_t> order(entries.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::sort(order, {}, [&](std::size_t number) { return entries[number].offset; });
+    return order;
+}
+
+} // namespace
+
 Runtime::Result<Table> Table::read(std::string bytes) {
     return read(std::move(bytes), {});
 }
@@ -187,13 +200,26 @@ std::span<const Runtime::Error> Table::notes() const noexcept {
 std::vector<Location> Table::locations() const {
     const std::span<const Entry> all = entries();
     std::vector<Location> places(all.size());
-    std::vector<std::size_t> order(all.size()); // of the source: a key that appears again stands further down
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::sort(order, {}, [&](std::size_t number) { return all[number].offset; });
     if (contents_)
-        for (internal::Locator locator(*contents_); const std::size_t number : order)
+        for (internal::Locator locator(*contents_); const std::size_t number : inSourceOrder(all))
             places[number] = locator.locate(all[number].offset);
     return places;
+}
+
+std::vector<std::string> Table::comments() const {
+    const std::span<const Entry> all = entries();
+    std::vector<std::string> ordered(all.size());
+    if (!contents_ || contents_->form == Form::binary)
+        return ordered;
+    const std::vector<std::size_t> order = inSourceOrder(all);
+    std::vector<std::size_t> offsets;
+    offsets.reserve(order.size());
+    for (const std::size_t number : order)
+        offsets.push_back(all[number].offset);
+    std::vector<std::string> found = internal::commentsOf(offsets, *contents_);
+    for (std::size_t i = 0; i < order.size(); ++i)
+        ordered[order[i]] = std::move(found[i]);
+    return ordered;
 }
 
 Form Table::form() const noexcept {

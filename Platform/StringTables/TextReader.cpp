@@ -1,5 +1,6 @@
 #include "StringTables/internal/Contents.h"
-#include "StringTables/internal/Scan.h"
+#include "StringTables/internal/TextEscapes.h"
+#include "StringTables/internal/TextSyntax.h"
 #include "StringTables/internal/Unicode.h"
 #include <array>
 
@@ -20,25 +21,6 @@ constexpr auto classes = [] {
 }();
 constexpr bool is(CharacterClass wanted, char c) noexcept {
     return classes[static_cast<unsigned char>(c)] == wanted;
-}
-
-// Octal escapes are bytes of the NEXTSTEP character set, which is ASCII below 0x80; 0xFE and 0xFF are no characters.
-constexpr char16_t nextstep[0x7E] = {
-    0x00A0, 0x00C0, 0x00C1, 0x00C2, 0x00C3, 0x00C4, 0x00C5, 0x00C7, 0x00C8, 0x00C9, 0x00CA, 0x00CB, 0x00CC, 0x00CD,
-    0x00CE, 0x00CF, 0x00D0, 0x00D1, 0x00D2, 0x00D3, 0x00D4, 0x00D5, 0x00D6, 0x00D9, 0x00DA, 0x00DB, 0x00DC, 0x00DD,
-    0x00DE, 0x00B5, 0x00D7, 0x00F7, 0x00A9, 0x00A1, 0x00A2, 0x00A3, 0x2044, 0x00A5, 0x0192, 0x00A7, 0x00A4, 0x2019,
-    0x201C, 0x00AB, 0x2039, 0x203A, 0xFB01, 0xFB02, 0x00AE, 0x2013, 0x2020, 0x2021, 0x00B7, 0x00A6, 0x00B6, 0x2022,
-    0x201A, 0x201E, 0x201D, 0x00BB, 0x2026, 0x2030, 0x00AC, 0x00BF, 0x00B9, 0x02CB, 0x00B4, 0x02C6, 0x02DC, 0x00AF,
-    0x02D8, 0x02D9, 0x00A8, 0x00B2, 0x02DA, 0x00B8, 0x00B3, 0x02DD, 0x02DB, 0x02C7, 0x2014, 0x00B1, 0x00BC, 0x00BD,
-    0x00BE, 0x00E0, 0x00E1, 0x00E2, 0x00E3, 0x00E4, 0x00E5, 0x00E7, 0x00E8, 0x00E9, 0x00EA, 0x00EB, 0x00EC, 0x00C6,
-    0x00ED, 0x00AA, 0x00EE, 0x00EF, 0x00F0, 0x00F1, 0x0141, 0x00D8, 0x0152, 0x00BA, 0x00F2, 0x00F3, 0x00F4, 0x00F5,
-    0x00F6, 0x00E6, 0x00F9, 0x00FA, 0x00FB, 0x0131, 0x00FC, 0x00FD, 0x0142, 0x00F8, 0x0153, 0x00DF, 0x00FE, 0x00FF};
-
-constexpr int hexDigit(char c) noexcept {
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    const char lower = static_cast<char>(c | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
 // table := entries | '{' entries '}'       entry := string ['=' value] ';'; the last ';' may be missing
@@ -68,10 +50,6 @@ private:
     bool data();
     bool string(std::string_view& out, const char* wanted);
     bool quotedString(std::string_view& out);
-    bool unescape(std::string_view raw, std::string_view& out);
-    bool escape(const char*& in, char*& out);
-    bool unicodeEscape(const char*& in, char*& out);
-    bool octalEscape(const char*& in, char*& out);
     bool blanks();
 
     bool fail(const char* at, std::string message) {
@@ -210,8 +188,8 @@ bool TextReader::string(std::string_view& out, const char* wanted) {
     if (*at_ == '"' || *at_ == '\'')
         return quotedString(out);
     const char* const begin = at_;
-    // A comment may begin right behind what is not quoted.
-    while (is(bare, *at_) && !(*at_ == '/' && (at_[1] == '/' || at_[1] == '*')))
+    // A comment may follow a bare string without a space.
+    while (is(bare, *at_) && !beginsComment(at_))
         ++at_;
     out = between(begin, at_);
     if (out.empty())
@@ -221,108 +199,30 @@ bool TextReader::string(std::string_view& out, const char* wanted) {
 }
 
 bool TextReader::quotedString(std::string_view& out) {
-    const char quote = *at_;
-    const char* const begin = at_ + 1;
-    const char* stop = findEither(begin, end_, quote, '\\');
-    const bool plain = *stop == quote;
-    while (*stop == '\\') // what it protects is no end
-        stop = findEither(std::min(stop + 2, end_), end_, quote, '\\');
-    if (stop == end_)
+    const auto [first, close] = quotedEnd(at_, end_);
+    if (close == end_)
         return fail(at_, "the string is never closed");
-    at_ = stop + 1;
-    out = between(begin, stop);
-    return plain || unescape(out, out);
-}
-
-bool TextReader::unescape(std::string_view raw, std::string_view& out) {
-    const char* in = raw.data();
-    const char* const end = in + raw.size();
-    char* to = contents_.arena.room(raw.size()); // no escape is shorter than its character
-    while (in != end) {
-        const auto* found = static_cast<const char*>(std::memchr(in, '\\', static_cast<std::size_t>(end - in)));
-        const char* const stop = found ? found : end;
-        to = std::copy(in, stop, to);
-        in = stop;
-        if (in != end && !escape(in, to))
-            return false;
-    }
-    out = contents_.arena.keep(to);
+    out = between(at_ + 1, close);
+    at_ = close + 1;
+    if (first == close)
+        return true;
+    const Unescaped unescaped = unescape(out, contents_.arena.room(out.size()));
+    if (unescaped.message)
+        return fail(unescaped.at, unescaped.message);
+    out = contents_.arena.keep(unescaped.end);
     return true;
 }
 
-// `in` is at the backslash, which something follows.
-bool TextReader::escape(const char*& in, char*& out) {
-    constexpr std::string_view letters = "abfnrtv", characters = "\a\b\f\n\r\t\v";
-    const char c = in[1];
-    if (c == 'U')
-        return unicodeEscape(in, out);
-    if (c >= '0' && c <= '7')
-        return octalEscape(in, out);
-    const std::size_t letter = letters.find(c);
-    *out++ = letter != letters.npos ? characters[letter] : c; // of a longer character the rest is copied later
-    in += 2;
-    return true;
-}
-
-// The unit written as \U and four digits at `at`, or -1. Reading stops at the first character that is no digit, at the
-// latest at the string's closing mark.
-std::int32_t escapedUnit(const char* at) noexcept {
-    if (at[0] != '\\' || at[1] != 'U')
-        return -1;
-    std::int32_t unit = 0;
-    for (int i = 2; i < 6; ++i) {
-        const int digit = hexDigit(at[i]);
-        if (digit < 0)
-            return -1;
-        unit = unit * 16 + digit;
-    }
-    return unit;
-}
-
-bool TextReader::unicodeEscape(const char*& in, char*& out) {
-    const std::int32_t unit = escapedUnit(in);
-    if (unit < 0)
-        return fail(in, "bad escape: \\U takes four hexadecimal digits");
-    auto code = static_cast<char32_t>(unit);
-    std::size_t length = 6;
-    if (isHighSurrogate(code)) {
-        const auto low = static_cast<char32_t>(escapedUnit(in + length));
-        if (isLowSurrogate(low)) {
-            code = joinSurrogates(code, low);
-            length *= 2;
-        }
-    }
-    if (isHighSurrogate(code) || isLowSurrogate(code))
-        return fail(in, "bad escape: a surrogate without its other half");
-    out = putUtf8(out, code);
-    in += length;
-    return true;
-}
-
-bool TextReader::octalEscape(const char*& in, char*& out) {
-    const char* digit = in + 1;
-    unsigned byte = 0;
-    for (; digit != in + 4 && *digit >= '0' && *digit <= '7'; ++digit)
-        byte = byte * 8 + static_cast<unsigned>(*digit - '0');
-    if (byte >= 0x80 + std::size(nextstep))
-        return fail(in, "bad escape: no character has this octal number");
-    out = putUtf8(out, byte < 0x80 ? byte : nextstep[byte - 0x80]);
-    in = digit;
-    return true;
-}
-
-// Takes off white space and comments.
+// Skips white space and comments.
 bool TextReader::blanks() {
     for (;;) {
         while (is(space, *at_))
             ++at_;
-        if (*at_ == '/' && at_[1] == '/') {
-            at_ = findEither(at_ + 2, end_, '\n', '\r');
-        } else if (*at_ == '/' && at_[1] == '*') {
-            const std::size_t close = between(at_ + 2, end_).find("*/");
-            if (close == std::string_view::npos)
+        if (beginsComment(at_)) {
+            const char* const end = commentEnd(at_, end_);
+            if (!end)
                 return fail(at_, "the comment is never closed");
-            at_ += close + 4;
+            at_ = end;
         } else if (const std::string_view next = between(at_, end_);
                    *at_ == '\xE2' && (next.starts_with("\u2028") || next.starts_with("\u2029"))) {
             at_ += 3;

@@ -9,6 +9,23 @@ namespace StringTables {
 namespace {
 
 using Entries = std::span<const Entry>;
+using Comments = std::span<const std::string>;
+
+// What a comment that does not exist reads as.
+std::string_view commentOf(Comments comments, std::size_t entry) noexcept {
+    return entry < comments.size() ? std::string_view(comments[entry]) : std::string_view();
+}
+
+// `text` with a space in every `mark` of two characters.
+std::string withoutMark(std::string_view text, std::string_view mark) {
+    std::string out;
+    for (const char c : text) {
+        if (out.ends_with(mark[0]) && c == mark[1])
+            out += ' ';
+        out += c;
+    }
+    return out;
+}
 
 void appendQuoted(std::string& out, std::string_view text) {
     constexpr std::string_view characters = "\"\\\n\t\r", letters = "\"\\ntr";
@@ -30,12 +47,14 @@ void appendQuoted(std::string& out, std::string_view text) {
     out += '"';
 }
 
-std::string writeText(Entries entries) {
+Runtime::Result<std::string> writeText(Entries entries, Comments comments) {
     std::string out;
-    for (const Entry& entry : entries) {
-        appendQuoted(out, entry.key);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (const std::string_view comment = commentOf(comments, i); !comment.empty())
+            out.append("/* ").append(withoutMark(comment, "*/")).append(" */\n");
+        appendQuoted(out, entries[i].key);
         out += " = ";
-        appendQuoted(out, entry.text);
+        appendQuoted(out, entries[i].text);
         out += ";\n";
     }
     return out;
@@ -72,17 +91,20 @@ void appendElement(std::string& out, std::string_view name, std::string_view tex
     (out += name) += ">\n";
 }
 
-Runtime::Result<std::string> writeXml(Entries entries) {
+Runtime::Result<std::string> writeXml(Entries entries, Comments comments) {
     std::string out = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                       "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
                       "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
                       "<plist version=\"1.0\">\n<dict>\n";
-    for (const Entry& entry : entries) {
-        if (!xmlHolds(entry.key) || !xmlHolds(entry.text))
-            return Runtime::Error{"the entry " + internal::quoted(entry.key) + " holds a character that XML cannot",
-                                  {}};
-        appendElement(out, "key", entry.key);
-        appendElement(out, "string", entry.text);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const auto& [key, text, offset] = entries[i];
+        const std::string_view comment = commentOf(comments, i);
+        if (!xmlHolds(key) || !xmlHolds(text) || !xmlHolds(comment))
+            return Runtime::Error{"the entry " + internal::quoted(key) + " holds a character that XML cannot", {}};
+        if (!comment.empty())
+            out.append("\t<!-- ").append(withoutMark(comment, "--")).append(" -->\n");
+        appendElement(out, "key", key);
+        appendElement(out, "string", text);
     }
     return out + "</dict>\n</plist>\n";
 }
@@ -100,16 +122,18 @@ std::string writeBinary(Entries entries) {
 
 } // namespace
 
-Runtime::Result<std::string> write(std::span<const Entry> entries, Form form) {
-    for (const Entry& entry : entries)
-        if (internal::firstInvalidUtf8(entry.key) != std::string_view::npos ||
-            internal::firstInvalidUtf8(entry.text) != std::string_view::npos)
-            return Runtime::Error{"the entry " + internal::quoted(entry.key) + " is not UTF-8", {}};
+Runtime::Result<std::string> write(Entries entries, Form form, Comments comments) {
+    const auto isUtf8 = [](std::string_view text) { return internal::firstInvalidUtf8(text) == text.npos; };
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        if (!isUtf8(entries[i].key) || !isUtf8(entries[i].text) || !isUtf8(commentOf(comments, i)))
+            return Runtime::Error{"the entry " + internal::quoted(entries[i].key) + " is not UTF-8", {}};
+        else if (commentOf(comments, i).find('\0') != std::string_view::npos)
+            return Runtime::Error{"the comment of " + internal::quoted(entries[i].key) + " holds a NUL character", {}};
     switch (form) {
     case Form::text:
-        return writeText(entries);
+        return writeText(entries, comments);
     case Form::xml:
-        return writeXml(entries);
+        return writeXml(entries, comments);
     case Form::binary:
         break;
     }

@@ -1,7 +1,5 @@
 #include "StringTables/internal/PropertyListSink.h"
-#include <exception>
-#include <expat.h>
-#include <new> // std::bad_alloc
+#include "StringTables/internal/XmlParser.h"
 
 namespace StringTables::internal {
 
@@ -30,7 +28,7 @@ constexpr Element elements[] = {{"string", Kind::string},
 class XmlReader {
 public:
     XmlReader(Contents& contents, PropertyListSink& sink)
-        : contents_(contents), sink_(sink), begin_(contents.source.find('<', contents.begin)) {}
+        : contents_(contents), sink_(sink), parser_(contents, this) {}
 
     Runtime::Result<void> read();
 
@@ -43,16 +41,9 @@ private:
         std::size_t offset = 0; // key: where it begins
     };
 
-    // What the parser's handlers do. It is written in C, so nothing is thrown through it: what was thrown waits.
     template <class Step> static void handle(void* self, Step step) noexcept {
         auto& reader = *static_cast<XmlReader*>(self);
-        try {
-            if (!reader.error_ && !reader.thrown_) // handlers may be called a last time after a stop
-                step(reader);
-        } catch (...) {
-            reader.thrown_ = std::current_exception();
-            XML_StopParser(reader.parser_.get(), XML_FALSE);
-        }
+        reader.parser_.handle([&] { step(reader); });
     }
 
     void open(const char* name);
@@ -61,27 +52,15 @@ private:
     void characters(std::string_view piece);
     std::string place(const Element& element);
     void stop(std::string message);
-    std::size_t offset() const { // the parser's is -1 where nothing was read yet
-        return begin_ + static_cast<std::size_t>(std::max<XML_Index>(XML_GetCurrentByteIndex(parser_.get()), 0));
-    }
-    struct Free {
-        void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
-    };
-    std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser_;
     Contents& contents_;
     PropertyListSink& sink_;
-    std::size_t begin_;
+    XmlParser parser_;
     std::vector<Level> levels_;
     std::string text_; // of the key or string that is open
     std::optional<Runtime::Error> error_;
-    std::exception_ptr thrown_;
 };
 
 Runtime::Result<void> XmlReader::read() {
-    parser_.reset(XML_ParserCreate(contents_.isUtf8 ? "UTF-8" : nullptr));
-    if (!parser_)
-        throw std::bad_alloc();
-    XML_SetUserData(parser_.get(), this);
     XML_SetElementHandler(
         parser_.get(),
         [](void* self, const char* name, const char**) { handle(self, [=](XmlReader& reader) { reader.open(name); }); },
@@ -97,25 +76,20 @@ Runtime::Result<void> XmlReader::read() {
     XML_SetSkippedEntityHandler(parser_.get(), [](void* self, const char* name, int) {
         handle(self, [=](XmlReader& reader) { reader.stop("the unknown entity " + quoted(name)); });
     });
-    const std::string_view document = std::string_view(contents_.source).substr(begin_);
-    const XML_Status status = XML_Parse(parser_.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
-    if (thrown_)
-        std::rethrow_exception(thrown_);
+    const bool isWellFormed = parser_.parse();
     if (error_)
         return *std::move(error_);
-    if (status != XML_STATUS_OK && XML_GetErrorCode(parser_.get()) == XML_ERROR_NO_MEMORY)
-        throw std::bad_alloc();
-    if (status != XML_STATUS_OK)
-        return contents_.errorAt(offset(), XML_ErrorString(XML_GetErrorCode(parser_.get())));
+    if (!isWellFormed)
+        return contents_.errorAt(parser_.offset(), XML_ErrorString(XML_GetErrorCode(parser_.get())));
     return {};
 }
 
 void XmlReader::stop(std::string message) {
-    error_ = contents_.errorAt(offset(), std::move(message));
-    XML_StopParser(parser_.get(), XML_FALSE);
+    error_ = contents_.errorAt(parser_.offset(), std::move(message));
+    parser_.stop();
 }
 
-// Takes note of `element` in what is open around it. Returns what is wrong with its place, or nothing.
+// Validates `element` against its parent. Returns what is wrong with its place, or nothing.
 std::string XmlReader::place(const Element& element) {
     const auto tag = [&element] { return std::string("<").append(element.name).append(">"); };
     if (levels_.empty())
@@ -148,7 +122,7 @@ void XmlReader::open(const char* name) {
         return stop("the unknown element <" + std::string(name) + ">");
     if (std::string wrong = place(*element); !wrong.empty())
         return stop(std::move(wrong));
-    Level level{.kind = element->kind, .isWanted = isWanted(element->kind), .offset = offset()};
+    Level level{.kind = element->kind, .isWanted = isWanted(element->kind), .offset = parser_.offset()};
     if (level.isWanted && level.kind == Kind::dict)
         level.isWanted = sink_.beginDictionary();
     else if (level.isWanted && element->what != nullptr)

@@ -143,6 +143,29 @@ TEST(TextTable, LocatesTheTextThatHolds) {
     EXPECT_EQ(std::pair(places[1].line, places[1].column), std::pair(std::size_t{2}, std::size_t{2})); // b
 }
 
+TEST(TextTable, KeepsTheCommentsDirectlyBeforeAnEntry) {
+    const struct {
+        int line;
+        std::string source;
+        std::vector<std::string> expected;
+    } cases[] = {
+        {__LINE__, "a = 1;", {""}},
+        {__LINE__, "/* Title */\n\n/* Button: saves. */\na = 1;\nb = 2;", {"Button: saves.", ""}},
+        {__LINE__, "/* 1 */\r\n// 2 \r\n/*\n  3\n  4 */\r\n a;", {"1\n2\n3\n4"}},
+        {__LINE__, "/* no */\r\r/* yes */ a; /* b's */ b; // not c's\nc;", {"yes", "b's", ""}},
+        {__LINE__, "/**/ /* x */ // y\na;\n/* z */\n\nb;", {"x\ny", ""}},
+        {__LINE__, "a /* no */ = /* no */ 1 /* no */; // no\n'/* b */'; \"// c\"; d;", {"", "", "", ""}},
+        {__LINE__, "/* old */\na = 1;\n/* new */\na = 2;", {"new"}},
+        {__LINE__, "\xEF\xBB\xBF// ä\n{ // no\n/* b */\nb = { /* no */ c = d; }; /* e */ e; }", {"e"}},
+        {__LINE__, Tables::wide("// wide\na;", false, true), {"wide"}},
+    };
+    for (const auto& [line, source, expected] : cases) {
+        const auto table = StringTables::Table::read(source);
+        ASSERT_TRUE(table) << "line " << line << ": " << table.error().text();
+        EXPECT_EQ(table->comments(), expected) << "line " << line;
+    }
+}
+
 TEST(TextTable, FindsAndLocatesAfterMoves) {
     // Short enough for a string to keep it in itself.
     auto read = StringTables::Table::read("\nä=b;\n 'C'=\"\";"s.replace(1, 2, "ab"));
@@ -176,6 +199,8 @@ TEST(TextTable, TakesLinearTime) {
         while (hostile.size() < large / 4)
             hostile += piece;
         (void)refusal(hostile);
+        if (const auto table = StringTables::Table::read(hostile))
+            (void)table->comments();
         (void)refusal("a=" + hostile);
     }
 }

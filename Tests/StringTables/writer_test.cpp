@@ -43,6 +43,20 @@ TEST(Writer, WritesBinary) {
               "\0\0\0\0\0\0\1\1\0\0\0\0\0\0\0\4\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\x16"s);
 }
 
+TEST(Writer, WritesComments) {
+    const std::vector<Entry> entries = {{"a", "1"}, {"b", "2"}, {"c", "3"}};
+    const std::vector<std::string> comments = {"Ä: two\nlines", "", "*/ --- -"};
+    const std::vector<std::string> fromText = {"Ä: two\nlines", "", "* / --- -"},
+                                   fromXml = {"Ä: two\nlines", "", "*/ - - - -"};
+    EXPECT_EQ(*StringTables::write(entries, Form::text, comments),
+              "/* Ä: two\nlines */\n\"a\" = \"1\";\n\"b\" = \"2\";\n/* * / --- - */\n\"c\" = \"3\";\n");
+    EXPECT_EQ(StringTables::Table::read(*StringTables::write(entries, Form::text, comments))->comments(), fromText);
+    EXPECT_EQ(StringTables::Table::read(*StringTables::write(entries, Form::xml, comments))->comments(), fromXml);
+    const std::vector<std::string> bad = {"", "\0"s};
+    EXPECT_FALSE(StringTables::write(entries, Form::text, bad));
+    EXPECT_FALSE(StringTables::write(entries, Form::xml, bad));
+}
+
 TEST(Writer, RefusesWhatAFormCannotHold) {
     for (const std::string& text : {"\0"s, "\x1F"s, "\uFFFE"s, "a\uFFFF"s}) {
         const std::vector<Entry> entries = {{"k", text}};

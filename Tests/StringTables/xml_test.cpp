@@ -34,6 +34,16 @@ TEST(XmlTable, ReadsWhatRealFilesHold) {
                       ok);
 }
 
+TEST(XmlTable, KeepsTheCommentsDirectlyBeforeAnEntry) {
+    const std::string source = plist("<!-- no -->\n\n<!-- a -->\n<key>a</key><string><![CDATA[<!-- no -->]]></string>\n"
+                                     "<key>b</key><!-- no --><string/>\n\t<!--\n c &amp;\n -->\n<key>c</key><string/>");
+    EXPECT_EQ(StringTables::Table::read(source)->comments(), (std::vector<std::string>{"a", "", "c &amp;"}));
+    EXPECT_EQ(StringTables::Table::read("<?xml version='1.0' encoding='ISO-8859-1'?>" +
+                                        plist("\n<!-- \xE9 --><key>k</key><string/>"))
+                  ->comments(),
+              std::vector<std::string>{"é"});
+}
+
 TEST(XmlTable, NotesWhatItPassesOver) {
     const std::string source = head + "<plist><dict>\n<key>n</key><dict><key>one</key><string>%d day</string>\n"
                                       "<key>x</key><array><string>a</string><dict/></array></dict>\n"

@@ -42,9 +42,9 @@ std::string json(const Table& table) {
 Runtime::Result<std::string> written(const Table& table, Output form) {
     switch (form) {
     case Output::strings:
-        return StringTables::write(table.entries(), Form::text);
+        return StringTables::write(table.entries(), Form::text, table.comments());
     case Output::xml:
-        return StringTables::write(table.entries(), Form::xml);
+        return StringTables::write(table.entries(), Form::xml, table.comments());
     case Output::binary:
         return StringTables::write(table.entries(), Form::binary);
     case Output::json:

@@ -65,6 +65,9 @@ public:
     [[nodiscard]] std::span<const Runtime::Error> notes() const noexcept;
     // Where the key of every entry stands, in the order of the entries; found in one pass.
     [[nodiscard]] std::vector<Location> locations() const;
+    // The comment of every entry, in the order of the entries, found in one pass: the comments directly before its key,
+    // without a blank line between, joined by line feeds; empty without one, and in a binary table.
+    [[nodiscard]] std::vector<std::string> comments() const;
     [[nodiscard]] Form form() const noexcept;
 
 private:

@@ -9,8 +9,12 @@
 
 namespace StringTables {
 
-// The bytes of a table with these entries, in this order. `form` text gives `"key" = "text";` lines.
-// An error when an entry is not UTF-8, or holds a control character that XML has no way to write (form xml).
-[[nodiscard]] Runtime::Result<std::string> write(std::span<const Entry> entries, Form form);
+// The bytes of a table with these entries, in this order. `form` text gives `"key" = "text";` lines. `comments`, one
+// for each entry or none at all, are written before their entries in the forms text and xml; "--" becomes "- -" in XML
+// and
+// "*/" becomes "* /" in text, where they would end the comment. The form binary has no comments.
+// Errors: an entry or a comment is not UTF-8, or holds a control character that XML has no way to write (form xml).
+[[nodiscard]] Runtime::Result<std::string> write(std::span<const Entry> entries, Form form,
+                                                 std::span<const std::string> comments = {});
 
 } // namespace StringTables

@@ -1,0 +1,147 @@
+#include "StringTables/internal/Comments.h"
+
+#include "StringTables/internal/TextSyntax.h"
+#include "StringTables/internal/XmlParser.h"
+
+namespace StringTables::internal {
+
+namespace {
+
+constexpr std::string_view blanks = " \t\v\f\r\n";
+
+constexpr bool isLineEnd(char c) noexcept {
+    return c == '\n' || c == '\r';
+}
+
+std::string_view trimmed(std::string_view text) noexcept {
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == text.npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+// Each line without outer white space, the lines joined by LF.
+std::string cleaned(std::string_view text) {
+    std::string out;
+    text = trimmed(text);
+    while (!text.empty()) {
+        const std::size_t size = std::min(text.find_first_of("\r\n"), text.size());
+        out += trimmed(text.substr(0, size));
+        text.remove_prefix(size);
+        if (text.empty())
+            break;
+        out += '\n';
+        text.remove_prefix(text.starts_with("\r\n") ? 2 : 1);
+    }
+    return out;
+}
+
+std::vector<Comment> textComments(const Contents& contents) {
+    std::vector<Comment> comments;
+    const char* const begin = contents.source.data();
+    const char* const end = begin + contents.source.size();
+    for (const char* at = begin + contents.begin; at != end;)
+        if (beginsComment(at)) {
+            const char* const stop = commentEnd(at, end);
+            const std::size_t marks = at[1] == '/' ? 2 : 4;
+            const std::string_view inside(at + 2, static_cast<std::size_t>(stop - at) - marks);
+            comments.push_back(
+                {static_cast<std::size_t>(at - begin), static_cast<std::size_t>(stop - begin), cleaned(inside)});
+            at = stop;
+        } else if (*at == '"' || *at == '\'') {
+            at = quotedEnd(at, end).close + 1;
+        } else {
+            ++at;
+        }
+    return comments;
+}
+
+struct XmlComments {
+    explicit XmlComments(const Contents& contents) : parser(contents, this) {
+        XML_SetCommentHandler(parser.get(), [](void* self, const char* text) {
+            auto& found = *static_cast<XmlComments*>(self);
+            found.parser.handle([&] {
+                const std::size_t at = found.parser.offset();
+                const auto size = static_cast<std::size_t>(XML_GetCurrentByteCount(found.parser.get()));
+                found.comments.push_back({at, at + size, cleaned(text)});
+            });
+        });
+    }
+    XmlParser parser;
+    std::vector<Comment> comments;
+};
+
+// Joins the comments of one entry.
+class Attachment {
+public:
+    Attachment(const Contents& contents, std::span<const Comment> comments)
+        : source_(contents.source), begin_(contents.begin), comments_(comments) {}
+
+    // Of the entry at `offset`; `comments` are those between it and the entry before.
+    std::string text(std::size_t offset) const {
+        std::size_t first = comments_.size();
+        for (std::size_t next = offset; first > 0 && leadsTo(comments_[first - 1], next, first - 1); --first)
+            next = comments_[first - 1].begin;
+        std::string out;
+        for (const Comment& comment : comments_.subspan(first))
+            if (!comment.text.empty())
+                out.append(out.empty() ? "" : "\n").append(comment.text);
+        return out;
+    }
+
+private:
+    // Whether the comment belongs to what begins at `next`.
+    bool leadsTo(const Comment& comment, std::size_t next, std::size_t number) const {
+        const std::string_view between = source_.substr(comment.end, next - comment.end);
+        if (between.find_first_not_of(blanks) != between.npos)
+            return false;
+        const std::size_t end = between.find_first_of("\r\n");
+        if (end == between.npos)
+            return true;
+        const std::string_view rest = between.substr(end + (between.substr(end).starts_with("\r\n") ? 2 : 1));
+        return rest.find_first_of("\r\n") == rest.npos && beginsLine(number);
+    }
+
+    // Whether nothing but comments stands before comment `number` in its line.
+    bool beginsLine(std::size_t number) const {
+        for (;; --number) {
+            std::size_t at = comments_[number].begin;
+            while (at > begin_ && !isLineEnd(source_[at - 1]) && blanks.find(source_[at - 1]) != blanks.npos)
+                --at;
+            if (at == begin_ || isLineEnd(source_[at - 1]))
+                return true;
+            if (number == 0 || comments_[number - 1].end != at)
+                return false;
+        }
+    }
+
+    std::string_view source_;
+    std::size_t begin_;
+    std::span<const Comment> comments_;
+};
+
+} // namespace
+
+std::vector<Comment> findComments(const Contents& contents) {
+    if (contents.form == Form::binary)
+        return {};
+    if (contents.form == Form::text)
+        return textComments(contents);
+    XmlComments found(contents);
+    return found.parser.parse() ? std::move(found.comments) : std::vector<Comment>();
+}
+
+std::vector<std::string> commentsOf(std::span<const std::size_t> entryOffsets, const Contents& contents) {
+    const std::vector<Comment> comments = findComments(contents);
+    std::vector<std::string> texts;
+    texts.reserve(entryOffsets.size());
+    std::size_t first = 0, end = 0;
+    for (const std::size_t offset : entryOffsets) {
+        for (first = end; end != comments.size() && comments[end].begin < offset; ++end)
+            continue;
+        texts.push_back(Attachment(contents, std::span(comments).subspan(first, end - first)).text(offset));
+    }
+    return texts;
+}
+
+} // namespace StringTables::internal

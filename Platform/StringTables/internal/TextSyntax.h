@@ -1,0 +1,39 @@
+// StringTables/internal/TextSyntax.h
+// The tokens of the text form whose end has to be searched for.
+// Text: [at, end) is followed by a NUL, as in a std::string, so that one character may be read at `end`.
+#pragma once
+
+#include "StringTables/internal/Scan.h"
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
+namespace StringTables::internal {
+
+inline bool beginsComment(const char* at) noexcept {
+    return *at == '/' && (at[1] == '/' || at[1] == '*');
+}
+
+// One past the comment that begins at `at`; a line comment ends before its line break. Null if it is never closed.
+inline const char* commentEnd(const char* at, const char* end) noexcept {
+    if (at[1] == '/')
+        return findEither(at + 2, end, '\n', '\r');
+    const std::size_t close = std::string_view(at + 2, static_cast<std::size_t>(end - at - 2)).find("*/");
+    return close == std::string_view::npos ? nullptr : at + close + 4;
+}
+
+// The quotation mark that closes the string whose opening mark is at `at`, or `end`. `first`: the first mark or
+// backslash of the string.
+struct QuotedEnd {
+    const char* first;
+    const char* close;
+};
+inline QuotedEnd quotedEnd(const char* at, const char* end) noexcept {
+    const char* const first = findEither(at + 1, end, *at, '\\');
+    const char* close = first;
+    while (*close == '\\') // the character behind a backslash closes nothing
+        close = findEither(std::min(close + 2, end), end, *at, '\\');
+    return {first, close};
+}
+
+} // namespace StringTables::internal
