@@ -19,15 +19,16 @@ private:
 
     bool table();
     bool entry(std::size_t keyAt, std::size_t textAt);
+    bool keep(const Entry& entry, std::uint64_t keyNumber, std::uint64_t textNumber);
+    void removeReplaced();
     bool string(std::uint64_t number, Object& object, std::string_view& out);
 
     Contents& contents_;
     BinaryObjects objects_;
-    // A string that several entries name is read once.
-    // For each object, 2i + 1 if it was read as entry i's key, 2i + 2 as its text, leftOut + i as leftOutKeys_[i].
+    // A string that several entries name is read once: for each object, 2i + 1 if it is entry i's key, 2i + 2 if it is
+    // only known as entry i's text.
     std::vector<std::uint32_t> readAs_;
-    static constexpr std::uint32_t leftOut = 0x80000000;
-    std::vector<std::string_view> leftOutKeys_; // of entries whose value is no text
+    std::vector<std::size_t> replaced_; // entries whose key object a later entry names again
 };
 
 bool BinaryReader::table() {
@@ -40,6 +41,7 @@ bool BinaryReader::table() {
     for (std::size_t i = 0; i < size; ++i)
         if (!entry(objects_.keyAt(top, i), objects_.valueAt(top, i)))
             return false;
+    removeReplaced();
     return true;
 }
 
@@ -58,30 +60,46 @@ bool BinaryReader::entry(std::size_t keyAt, std::size_t textAt) {
         const char* const what = BinaryObjects::describe(text.type);
         if (!what)
             return objects_.fail(text.at, "an object of an unknown type");
-        contents_.skipped(keyString, what, key.at);
-        if (std::uint32_t& readAs = readAs_[static_cast<std::size_t>(keyNumber)]; readAs == 0) {
-            readAs = leftOut + static_cast<std::uint32_t>(leftOutKeys_.size());
-            leftOutKeys_.push_back(keyString);
-        }
-        return true;
-    }
-    if (textNumber == keyNumber)
+        contents_.noteSkipped(keyString, what, key.at);
+        contents_.hasSkipped = true;
+        textString = noText;
+    } else if (textNumber == keyNumber) {
         textString = keyString;
-    else if (!string(textNumber, text, textString))
+    } else if (!string(textNumber, text, textString)) {
         return false;
-    const auto role = static_cast<std::uint32_t>(2 * contents_.entries.size());
-    readAs_[static_cast<std::size_t>(keyNumber)] = role + 1;
-    readAs_[static_cast<std::size_t>(textNumber)] = role + 2;
-    return contents_.add(keyString, textString, key.at) || objects_.fail(key.at, tooManyEntries);
+    }
+    return keep({keyString, textString, static_cast<std::uint32_t>(key.at)}, keyNumber, textNumber) ||
+           objects_.fail(key.at, tooManyEntries);
+}
+
+// False when the table is full.
+bool BinaryReader::keep(const Entry& entry, std::uint64_t keyNumber, std::uint64_t textNumber) {
+    std::uint32_t& key = readAs_[static_cast<std::size_t>(keyNumber)];
+    std::uint32_t& text = readAs_[static_cast<std::size_t>(textNumber)];
+    const auto number = static_cast<std::uint32_t>(contents_.entries.size());
+    if (key % 2 != 0) {
+        replaced_.push_back((key - 1) / 2);
+        contents_.noteReplaced(contents_.entries[replaced_.back()], entry);
+    }
+    key = 2 * number + 1;
+    if (text == 0 && hasText(entry))
+        text = 2 * number + 2;
+    return contents_.add(entry.key, entry.text, entry.offset);
+}
+
+void BinaryReader::removeReplaced() {
+    if (replaced_.empty())
+        return;
+    std::vector<bool> isReplaced(contents_.entries.size());
+    for (const std::size_t number : replaced_)
+        isReplaced[number] = true;
+    std::size_t number = 0;
+    std::erase_if(contents_.entries, [&](const Entry&) { return isReplaced[number++]; });
 }
 
 // What object `number`, a string, says.
 bool BinaryReader::string(std::uint64_t number, Object& object, std::string_view& out) {
     const std::uint32_t readAs = readAs_[static_cast<std::size_t>(number)];
-    if (readAs >= leftOut) {
-        out = leftOutKeys_[readAs - leftOut];
-        return true;
-    }
     if (readAs != 0) {
         const Entry& entry = contents_.entries[(readAs - 1) / 2];
         out = readAs % 2 != 0 ? entry.key : entry.text;

@@ -54,14 +54,31 @@ void Contents::note(std::string_view before, std::string_view key, std::string_v
         found.push_back({static_cast<std::uint32_t>(offset), std::string(before).append(quoted(key)).append(after)});
 }
 
-void Contents::skipped(std::string_view key, std::string_view what, std::size_t offset) {
+void Contents::noteSkipped(std::string_view key, std::string_view what, std::size_t offset) {
     note("the value of ", key, std::string(" is ").append(what).append(", not a text; passed over"), offset);
 }
 
+void Contents::addSkipped(std::string_view key, std::string_view what, std::size_t offset) {
+    noteSkipped(key, what, offset);
+    hasSkipped = true;
+    if (!add(key, noText, offset))
+        skippedAtEnd = static_cast<std::uint32_t>(offset);
+}
+
+void Contents::noteReplaced(const Entry& entry, const Entry& later) {
+    if (hasText(later))
+        note("the key ", later.key, " appears again; this text holds", later.offset);
+    else if (hasText(entry))
+        note("the key ", later.key, " appears again without a text; the earlier text is dropped", later.offset);
+}
+
 void Contents::finish() {
-    index.build(entries, [this](const Entry& again) {
-        note("the key ", again.key, " appears again; this text holds", again.offset);
+    index.build(entries, [this](Entry& entry, const Entry& later) {
+        noteReplaced(entry, later);
+        entry = later;
     });
+    if (hasSkipped && std::erase_if(entries, [](const Entry& entry) { return !hasText(entry); }) != 0)
+        index.build(entries, [](Entry&, const Entry&) {});
     std::ranges::stable_sort(found, {}, &Note::offset);
     Locator locator(*this);
     for (Note& kept : found)
@@ -101,9 +118,7 @@ Runtime::Result<void> toUtf8(Contents& contents, ByteOrder order) {
                             units.size() - decoded.read == 1 ? "half a UTF-16 unit" : "a lone surrogate in UTF-16");
 }
 
-Runtime::Result<void> fill(Contents& contents) {
-    if (auto recognized = recognize(contents); !recognized)
-        return recognized;
+Runtime::Result<void> readForm(Contents& contents) {
     switch (contents.form) {
     case Form::binary:
         return readBinary(contents);
@@ -113,6 +128,15 @@ Runtime::Result<void> fill(Contents& contents) {
         break;
     }
     return readText(contents);
+}
+
+Runtime::Result<void> fill(Contents& contents) {
+    auto done = recognize(contents);
+    if (done)
+        done = readForm(contents);
+    if (done && contents.skippedAtEnd)
+        return contents.errorAt(*contents.skippedAtEnd, tooManyEntries);
+    return done;
 }
 
 } // namespace

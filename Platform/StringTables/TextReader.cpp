@@ -128,7 +128,7 @@ bool TextReader::entry(std::size_t depth, bool braces) {
     if (depth > 0)
         return true;
     if (skipped)
-        contents_.skipped(key, skipped, offset(begin));
+        contents_.addSkipped(key, skipped, offset(begin));
     else if (!contents_.add(key, text, offset(begin)))
         return fail(begin, tooManyEntries);
     return true;

@@ -25,7 +25,7 @@ public:
     const char* string(std::string_view text) override {
         return contents_.add(key_, kept(text), offset_) ? nullptr : tooManyEntries;
     }
-    void other(const char* what) override { contents_.skipped(key_, what, offset_); }
+    void other(const char* what) override { contents_.addSkipped(key_, what, offset_); }
 
 private:
     std::string_view kept(std::string_view text) {

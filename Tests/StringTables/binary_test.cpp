@@ -91,6 +91,29 @@ TEST(BinaryTable, NotesWhatItPassesOver) {
               (std::vector<std::string>{"byte 13: the key \"k\" appears again; this text holds"}));
 }
 
+// The last value wins, whether the keys are one object or two with the same characters.
+TEST(BinaryTable, LetsTheLastValueWin) {
+    const std::vector<std::string> tail = {"\121k", "\121k", "\121b", "\121v", "\121w", "\xA0"};
+    const struct {
+        int line;
+        std::string dictionary;
+        Pairs expected;
+    } cases[] = {
+        {__LINE__, "\xD2\1\1\4\5", {{"k", "w"}}},
+        {__LINE__, "\xD2\1\1\4\6", {}},
+        {__LINE__, "\xD2\1\1\6\4", {{"k", "v"}}},
+        {__LINE__, "\xD3\1\2\1\4\5\4", {{"k", "v"}}},
+        {__LINE__, "\xD3\1\2\1\4\5\6", {}},
+        {__LINE__, "\xD4\1\3\1\3\4\1\3\3", {{"k", "b"}, {"b", "b"}}},
+        {__LINE__, "\xD3\3\1\1\1\4\3", {{"b", "k"}, {"k", "b"}}},
+    };
+    for (const auto& [line, dictionary, expected] : cases) {
+        std::vector<std::string> objects = tail;
+        objects.insert(objects.begin(), dictionary);
+        EXPECT_EQ(read(file(objects)), expected) << "line " << line;
+    }
+}
+
 TEST(BinaryTable, RefusesWithPlaceAndReason) {
     const std::string good = file(plain);
     const auto edited = [&good](std::size_t at, std::string_view bytes) {
@@ -162,6 +185,12 @@ TEST(BinaryTable, TakesLinearTime) {
     ASSERT_GE(table->entries().size(), count / 4);
     EXPECT_EQ(table->entries().front().text.size(), 2 * large); // U+0101 takes two bytes
     EXPECT_EQ(table->entries().back().text.data(), table->entries().front().text.data());
+
+    std::string longKey;
+    for (std::size_t i = 1; i <= count; ++i)
+        longKey += bigEndian(count + 1, 4);
+    objects[0] = head('\xDF', count) + longKey + own;
+    EXPECT_EQ(read(file(objects, 4, 4)).size(), 1u);
 
     for (std::size_t i = 1; i <= count; ++i) // lengths without a byte above 0x7F
         objects[i] = head('\x5F', ((count - i) * 10 + 4) & 0x7F7F7F7F) + "    ";

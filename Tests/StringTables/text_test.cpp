@@ -36,6 +36,7 @@ TEST(TextTable, ReadsWhatRealFilesHold) {
         {__LINE__, "\"a\"\u2028=\u2029\"1\";", {{"a", "1"}}},
         {__LINE__, "\"Привет\" = \"Тренировка 💪 日本語\";", {{"Привет", "Тренировка 💪 日本語"}}},
         {__LINE__, "\"a\"=\"1\";\"b\"=\"2\";\"a\"=\"3\";", {{"a", "3"}, {"b", "2"}}},
+        {__LINE__, "a=1; b=2; a=(1); c=(2); c=3; d=4; d=(); d=(); d=5;", {{"b", "2"}, {"c", "3"}, {"d", "5"}}},
         {__LINE__, "a = {b = (1, 2, {c = d}, <0a FF>, ); e = \"f;\"}; g = h; i = <>; j = ();", {{"g", "h"}}},
     };
     for (const auto& [line, source, expected] : cases)
@@ -121,10 +122,12 @@ TEST(TextTable, RefusesWithPlaceAndReason) {
 }
 
 TEST(TextTable, NotesWhatItPassesOver) {
-    EXPECT_EQ(Tables::notes("a = b;\nb = {c = d;};\n a = (1);\na = b;\nc = <00>;"),
+    EXPECT_EQ(Tables::notes("a = b;\nb = {c = d;};\n a = (1);\na = (2); a = b;\nc = <00>;"),
               (std::vector<std::string>{"2:1: the value of \"b\" is a dictionary, not a text; passed over",
                                         "3:2: the value of \"a\" is an array, not a text; passed over",
-                                        "4:1: the key \"a\" appears again; this text holds",
+                                        "3:2: the key \"a\" appears again without a text; the earlier text is dropped",
+                                        "4:1: the value of \"a\" is an array, not a text; passed over",
+                                        "4:10: the key \"a\" appears again; this text holds",
                                         "5:1: the value of \"c\" is data, not a text; passed over"}));
     std::string many;
     for (int i = 0; i < 1500; ++i)

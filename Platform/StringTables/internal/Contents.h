@@ -34,6 +34,13 @@ private:
     char* end_ = nullptr;
 };
 
+// Marks a value that is not a text, by its address, until finish() removes the entry.
+inline constexpr char noTextMark[] = "";
+inline constexpr std::string_view noText(noTextMark, 0);
+inline bool hasText(const Entry& entry) noexcept {
+    return entry.text.data() != noTextMark;
+}
+
 struct Contents {
     explicit Contents(std::string bytes) : source(std::move(bytes)) {}
     Contents(const Contents&) = delete;
@@ -45,6 +52,8 @@ struct Contents {
     Form form = Form::text;
     Arena arena;
     std::vector<Entry> entries;
+    bool hasSkipped = false;                   // there may be entries without a text
+    std::optional<std::uint32_t> skippedAtEnd; // where a value was skipped although the table was full
     std::vector<Runtime::Error> notes;
     Index index;
 
@@ -55,15 +64,18 @@ struct Contents {
     std::vector<Note> found; // notes in the making, at most Table::maxNotes
     std::size_t more = 0;    // notes that were not kept
 
-    // For the readers. False when the table is full.
+    // For the readers, in the order of the source. False when the table is full.
     [[nodiscard]] bool add(std::string_view key, std::string_view text, std::size_t offset) {
         if (entries.size() == Table::maxEntries)
             return false;
         entries.push_back({key, text, static_cast<std::uint32_t>(offset)});
         return true;
     }
-    // That the value of `key` is `what` ("an array") and was passed over.
-    void skipped(std::string_view key, std::string_view what, std::size_t offset);
+    // The value of `key` is `what` ("an array") and not a text: noted, and remembered because the last value wins.
+    void addSkipped(std::string_view key, std::string_view what, std::size_t offset);
+    void noteSkipped(std::string_view key, std::string_view what, std::size_t offset);
+    // Notes that `later` has the key of `entry` and replaces it: the last value wins.
+    void noteReplaced(const Entry& entry, const Entry& later);
     void note(std::string_view before, std::string_view key, std::string_view after, std::size_t offset);
     [[nodiscard]] Runtime::Error errorAt(std::size_t offset, std::string message) const;
     // Makes the table ready for look-ups when its entries are complete.

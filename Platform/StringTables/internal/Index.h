@@ -12,9 +12,9 @@ namespace StringTables::internal {
 
 class Index {
 public:
-    // Enters the entries in their order. An entry whose key is there already replaces the earlier one in its place and
-    // is handed to `again`; what is left moves up.
-    template <class Again> void build(std::vector<Entry>& entries, Again&& again);
+    // Adds the entries in their order. Where the key is there already, `replace(entry, later)` merges the later entry
+    // into the earlier one, and the entries behind it move up.
+    template <class Replace> void build(std::vector<Entry>& entries, Replace&& replace);
 
     // The number of the key's entry, or `none`.
     static constexpr std::size_t none = ~std::size_t{0};
@@ -78,7 +78,7 @@ inline std::size_t Index::find(std::string_view key, std::span<const Entry> entr
     return entries.empty() ? none : entryOf(slotOf(hash(key), key, entries));
 }
 
-template <class Again> void Index::build(std::vector<Entry>& entries, Again&& again) {
+template <class Replace> void Index::build(std::vector<Entry>& entries, Replace&& replace) {
     const std::size_t size = std::bit_ceil(entries.size() + entries.size() / 2 + 1); // at most two thirds are taken
     slots_ = std::make_unique<std::uint64_t[]>(size);
     mask_ = size - 1;
@@ -89,8 +89,7 @@ template <class Again> void Index::build(std::vector<Entry>& entries, Again&& ag
         const std::uint64_t hashed = hash(entry.key);
         std::uint64_t& slot = slotOf(hashed, entry.key, entries);
         if (slot != 0) {
-            again(entry);
-            entries[entryOf(slot)] = entry;
+            replace(entries[entryOf(slot)], entry);
         } else {
             entries[kept++] = entry;
             slot = (hashed & tagBits) | kept;

@@ -41,7 +41,7 @@ public:
     // Reads a table. Errors name line, column and reason (text, XML) or the byte offset (binary). A source of no bytes,
     // of a byte-order mark or of comments only is an empty table.
     // Limits, checked before memory is taken: maxBytes of source, maxEntries of text, maxDepth of nesting.
-    // Want of memory is no Error: std::bad_alloc is thrown, by both.
+    // Both overloads throw std::bad_alloc when memory runs out.
     [[nodiscard]] static Runtime::Result<Table> read(std::string bytes);
     // The same from the regular file at `path`, which errors and notes name.
     [[nodiscard]] static Runtime::Result<Table> readFile(const std::string& path);
@@ -57,10 +57,11 @@ public:
     // The text of `key` (exact, case-sensitive), or no value. Never fails, allocates nothing.
     [[nodiscard]] std::optional<std::string_view> find(std::string_view key) const noexcept;
 
-    // Every key once, in the order of its first appearance, with the text that holds (the last of equal keys wins).
+    // Every key once, in the order of the source, with the text that holds: the last value of equal keys wins, and a
+    // key whose last value is not a text has none.
     [[nodiscard]] std::span<const Entry> entries() const noexcept;
-    // What was passed over: values that are no text, keys that appear again. One sentence each, with its place, in the
-    // order of the source; after maxNotes of them one that tells how many more there were.
+    // What was passed over: values that are not texts, keys that appear again. One sentence each, with its place, in
+    // the order of the source; after maxNotes of them one that tells how many more there were.
     static constexpr std::size_t maxNotes = 1000;
     [[nodiscard]] std::span<const Runtime::Error> notes() const noexcept;
     // Where the key of every entry stands, in the order of the entries; found in one pass.
