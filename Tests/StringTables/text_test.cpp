@@ -199,7 +199,7 @@ TEST(TextTable, TakesLinearTime) {
     EXPECT_EQ(read(escapes + "\";")[0].second, std::string(large, '\n'));
     for (const char* const piece : {"(", "{a=", "{", "/*", "\"", "\"\\\"", "a=b;//", "*/", "a={};"}) {
         std::string hostile;
-        while (hostile.size() < large / 4)
+        while (hostile.size() < large / 16)
             hostile += piece;
         (void)refusal(hostile);
         if (const auto table = StringTables::Table::read(hostile))
