@@ -1,8 +1,8 @@
 #include "Foundation/internal/LanguageChoice.h"
 
 #include "Intl/internal/Intl.h"
+#include "Intl/internal/ScriptVariants.h"
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <string_view>
 
@@ -21,13 +21,6 @@ bool namesRegionOnly(std::string_view tag) {
            (region.size() == 3 && region.find_first_not_of("0123456789") == std::string_view::npos);
 }
 
-// Languages whose regions differ in script, so that the region decides which variant a user can read.
-bool writesInSeveralScripts(std::string_view language) {
-    static constexpr std::array<std::string_view, 18> languages = {
-        "az", "bs", "ha", "iu", "kk", "ks", "ku", "ky", "mn", "ms", "pa", "sd", "sr", "tg", "ug", "uz", "yue", "zh"};
-    return std::ranges::find(languages, language) != languages.end();
-}
-
 // The cases that need no knowledge of the world's languages, which are nearly all: the very tag, or the only variant of
 // the language. Spares most processes the loading of that knowledge.
 std::optional<std::size_t> chooseByTag(std::string_view wanted, std::span<const std::string> supported) {
@@ -37,7 +30,7 @@ std::optional<std::size_t> chooseByTag(std::string_view wanted, std::span<const 
     const auto isVariant = [&](const std::string& tag) { return languageOf(tag) == language; };
     const auto only = std::ranges::find(supported, language);
     if (only == supported.end() || std::ranges::count_if(supported, isVariant) != 1 || !namesRegionOnly(wanted) ||
-        writesInSeveralScripts(language))
+        Intl::isWrittenInSeveralScripts(language))
         return std::nullopt;
     return only - supported.begin();
 }

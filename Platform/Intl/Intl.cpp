@@ -1,8 +1,8 @@
 #include "Intl/internal/Intl.h"
 
 #include "Intl/internal/PrecomputedPatterns.h"
-#include "Runtime/internal/Plugin.h"
 #include "Runtime/OnceSlot.h"
+#include "Runtime/internal/Plugin.h"
 #include "Runtime/internal/TransientError.h"
 #include <utility>
 

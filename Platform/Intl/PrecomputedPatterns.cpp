@@ -15,7 +15,7 @@ struct Known {
     std::array<std::uint16_t, 2> patterns; // by style, among `patterns`
 };
 
-#include "PrecomputedPatterns.inc" // `names`, `patterns`, and `known` in the order of the names
+#include "NumberPatterns.inc" // `names`, `patterns`, and `known` in the order of the names
 
 } // namespace
 

@@ -1,0 +1,91 @@
+#include "Intl/internal/PluralRules.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace Intl {
+
+namespace {
+
+// Offsets instead of pointers: nothing has to be relocated when the library is loaded.
+struct Language {
+    std::uint16_t name; // among `names`, ends at a NUL; "pt_PT"
+    std::uint8_t ruleSet;
+};
+using Categories = PluralCategories;
+
+constexpr bool isBetween(std::uint64_t value, std::uint64_t first, std::uint64_t last) noexcept {
+    return first <= value && value <= last;
+}
+
+#include "PluralRules.inc" // `select`, `categories` by rule set, `names`, and `languages` in the order of the names
+
+constexpr std::size_t longestName = 16;
+constexpr unsigned unknownLanguage = ~0U;
+
+const Language* findLanguage(std::string_view name) noexcept {
+    const auto nameOf = [](const Language& one) { return std::string_view(names + one.name); };
+    const auto* const found = std::ranges::lower_bound(languages, name, {}, nameOf);
+    return found != std::end(languages) && nameOf(*found) == name ? found : nullptr;
+}
+
+// Of the longest beginning of the tag that has rules.
+unsigned ruleSetOf(std::string_view tag) noexcept {
+    std::array<char, longestName> buffer;
+    tag = tag.substr(0, longestName);
+    std::ranges::replace_copy(tag, buffer.begin(), '-', '_');
+    for (std::string_view name(buffer.data(), tag.size());;) {
+        if (const Language* const found = findLanguage(name))
+            return found->ruleSet;
+        const std::size_t end = name.rfind('_');
+        if (end == name.npos)
+            return unknownLanguage;
+        name = name.substr(0, end);
+    }
+}
+
+constexpr std::uint64_t longest = 1'000'000'000'000'000'000; // numbers below it keep all their digits
+
+// Keeps the last digits, and of a longer number that it is not zero.
+std::uint64_t withDigit(std::uint64_t number, char digit) noexcept {
+    const bool isLong = number >= longest / 10;
+    const std::uint64_t last = number % (longest / 10) * 10 + static_cast<std::uint64_t>(digit - '0');
+    return isLong ? last + longest : last;
+}
+
+bool isDigit(char c) noexcept {
+    return '0' <= c && c <= '9';
+}
+
+} // namespace
+
+PluralOperands pluralOperands(std::string_view decimal) noexcept {
+    PluralOperands number;
+    std::size_t at = 0;
+    for (; at < decimal.size() && isDigit(decimal[at]); ++at)
+        number.i = withDigit(number.i, decimal[at]);
+    if (at == decimal.size() || decimal[at] != '.')
+        return number;
+    for (++at; at < decimal.size() && isDigit(decimal[at]); ++at) {
+        number.f = withDigit(number.f, decimal[at]);
+        ++number.v;
+        if (decimal[at] != '0') {
+            number.t = number.f;
+            number.w = number.v;
+        }
+    }
+    return number;
+}
+
+PluralCategory pluralCategory(std::string_view language, const PluralOperands& number) noexcept {
+    return select(ruleSetOf(language), number);
+}
+
+PluralCategories pluralCategories(std::string_view language) noexcept {
+    static constexpr std::uint8_t other = 1U << indexOf(PluralCategory::other);
+    const unsigned ruleSet = ruleSetOf(language);
+    return ruleSet == unknownLanguage ? PluralCategories{other, other} : categories[ruleSet];
+}
+
+} // namespace Intl
