@@ -225,6 +225,19 @@ class Program(unittest.TestCase):
         self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
         self.assertEqual({path.name for path in self.folder.iterdir() if next(path.iterdir(), None)}, {"1", "2", "App.bundle"})
 
+    def test_gallery(self):
+        bundle, page = self.folder / "none.bundle", self.folder / "page.html"
+        self.assertEqual(run("gallery", "--bundle", bundle, "-o", page), (2, b"", f"lumora: {bundle}: is no bundle\n"))
+        source = self.folder / "Sales"
+        broken = self.write("Sales/Base.lproj/T.strings", '"a" = "b";\n"c" = ;')
+        self.assertTrue(run("gallery", source, "-o", page)[2].startswith(f"lumora: {broken}:2:"))
+        self.assertFalse(page.exists())
+        broken.write_text('"a" = "b";')
+        self.assertEqual(run("gallery", source, "-o", page)[::2], (0, ""))
+        self.assertIn('"title":"Sales"', page.read_text())
+        self.assertIn('"accessor":"T::a"', page.read_text())
+        self.assertEqual(run("gallery", source, "--bundle", bundle, "-o", page)[0], 2)
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -71,6 +71,7 @@ function fillNavigation() {
 function search() {
     const words = folded(byId("search").value).split(/\s+/).filter(Boolean);
     const status = byId("status").value;
+    foundWords?.clear();
     for (const list of sections.flatMap((section) => section.lists))
         list.narrow(words, status);
     showFound(words.length > 0 || status !== "all");
@@ -82,6 +83,7 @@ function showFound(isNarrowed) {
         byId(id).hidden = shownCount(lists) === 0;
         links.get(id).count.textContent = numbers.format(shownCount(lists));
     }
+    byId("results").classList.toggle("narrowed", isNarrowed);
     byId("coverage").hidden = isNarrowed || resources.texts.length === 0;
     byId("regions").hidden = isNarrowed || !byId("regions").querySelector("table");
     for (const progress of document.querySelectorAll(".progress"))
@@ -167,4 +169,4 @@ fillSections();
 search();
 connect();
 // The first letter typed is then as quick as the others.
-setTimeout(() => sections.flatMap((section) => section.lists).forEach((list) => list.rows.forEach((row) => list.haystack(row))), 200);
+setTimeout(() => sections.flatMap((section) => section.lists).forEach((list) => list.rows.forEach(prepared)), 200);

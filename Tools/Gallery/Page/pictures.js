@@ -31,7 +31,7 @@ function pictureRow(asset) {
     const name = assetName(asset);
     if (asset.template)
         name.append(make("span", { class: "tag" }, "Template"));
-    const row = assetRow(asset, "picture", make("div", { class: "variants" }, ...variants), name);
+    const row = assetRow(asset, asset.template ? "picture template" : "picture", make("div", { class: "variants" }, ...variants), name);
     row.show = () => loadPictures(row.element);
     return row;
 }

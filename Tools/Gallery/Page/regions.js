@@ -13,7 +13,8 @@ function regionalParts(name) {
     return { subject: sex ? stem.replace(pattern, "…") : stem, sex, region: ending?.[1] ?? ending?.[2] ?? "" };
 }
 
-// Maps subjects to maps from sexes to maps from regions to pictures; only subjects with something to choose.
+// Maps subjects to maps from sexes to maps from regions to pictures; only subjects with something to
+// choose, those with regions first.
 function regionalPictures(assets) {
     const subjects = new Map();
     for (const asset of assets) {
@@ -27,7 +28,9 @@ function regionalPictures(assets) {
         if (choices < 2)
             subjects.delete(subject);
     }
-    return subjects;
+    const hasRegion = ([, bySex]) => [...bySex.values()].some((byRegion) => [...byRegion.keys()].some(Boolean));
+    const all = [...subjects];
+    return new Map([...all.filter(hasRegion), ...all.filter((subject) => !hasRegion(subject))]);
 }
 
 function regionTable() {

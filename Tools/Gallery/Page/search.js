@@ -5,6 +5,13 @@ function folded(text) {
     return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase();
 }
 
+// The row with its strings folded, alone and together.
+function prepared(row) {
+    row.haystack ??= folded(row.strings().join("\n\0"));
+    row.folded ??= row.haystack.split("\n\0");
+    return row;
+}
+
 // Rows are kept in chunks, which a browser neither styles nor lays out while they are far from the window.
 const chunkRows = 24; // full lines of one, two, three and four columns
 
@@ -30,6 +37,7 @@ class SearchableList {
     constructor(heading, rows, className) {
         this.rows = rows;
         this.className = className;
+        this.words = [];
         this.count = make("span", { class: "number" });
         this.list = make("div", { class: "list", role: "list" });
         this.section = make("section", {}, make("h3", { dir: "auto" }, heading, " ", this.count), this.list);
@@ -37,19 +45,19 @@ class SearchableList {
     }
 
     narrow(words, status) {
-        const found = this.rows.filter((row) => row.accepts(status) && words.every((word) => this.haystack(row).includes(word)));
-        if (found.length !== this.shown.length || found.some((row, i) => row !== this.shown[i]))
-            this.put(found);
+        this.words = words;
+        const found = this.rows.filter((row) => row.accepts(status) && words.every((word) => prepared(row).haystack.includes(word)));
         for (const row of found)
             row.explain?.(words);
-    }
-
-    haystack(row) {
-        return (row.haystack ??= folded(row.strings().join("\n")));
+        if (found.length !== this.shown.length || found.some((row, i) => row !== this.shown[i]))
+            this.put(found);
+        else
+            this.seen.forEach((row) => highlight(row.element, words));
     }
 
     put(rows) {
         this.shown = rows;
+        this.seen = []; // rows that came near the window
         const chunks = [];
         for (let first = 0; first < rows.length; first += chunkRows)
             chunks.push(this.chunk(rows.slice(first, first + chunkRows)));
@@ -61,9 +69,16 @@ class SearchableList {
     chunk(rows) {
         const chunk = make("div", { class: `chunk ${this.className}` }, ...rows.map((row) => row.element));
         chunk.style.setProperty("--rows", rows.length);
-        if (rows[0].show)
-            whenNear(chunk, () => rows.forEach((row) => row.show()));
+        whenNear(chunk, () => this.show(rows));
         return chunk;
+    }
+
+    show(rows) {
+        this.seen.push(...rows);
+        for (const row of rows) {
+            row.show?.();
+            highlight(row.element, this.words);
+        }
     }
 }
 

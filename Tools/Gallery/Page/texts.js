@@ -61,7 +61,7 @@ function textRow(text) {
         text,
         cells,
         element: make("div", { class: "text columns", role: "listitem", "data-key": text.key }, name, cells.a, cells.b),
-        strings: () => [text.key, fullAccessor(text), ...text.values.flatMap(stringsOf)],
+        strings: () => [`${text.key}\n${fullAccessor(text)}`, ...text.values.map((value) => stringsOf(value).join("\n"))],
         accepts: (status) => status === "all" || status === statusOf(text, chosen.b) ||
             (status === "plural" && text.values.some(isPlural)) || (status === "comment" && Boolean(text.comment)),
     };
@@ -69,17 +69,16 @@ function textRow(text) {
     return row;
 }
 
-// Shows the text of a third language when only that has the words.
+// Shows the text of a third language when only that has one of the words.
 function explain(row, words) {
     row.elsewhere?.remove();
     row.elsewhere = null;
-    row.readable ??= folded([row.text.key, fullAccessor(row.text)].join("\n"));
-    row.folded ??= row.text.values.map((value) => folded(stringsOf(value).join("\n")));
-    const places = [row.readable, row.folded[chosen.a], row.folded[chosen.b]];
-    const unseen = words.find((word) => !places.some((place) => place.includes(word)));
+    const places = prepared(row).folded; // the names, then the text of each language
+    const shown = [places[0], places[1 + chosen.a], places[1 + chosen.b]];
+    const unseen = words.find((word) => !shown.some((place) => place.includes(word)));
     if (unseen === undefined)
         return;
-    const index = row.folded.findIndex((place) => place.includes(unseen));
+    const index = places.findIndex((place) => place.includes(unseen)) - 1;
     const language = languages[index];
     row.elsewhere = make("p", { class: "elsewhere" }, make("span", { lang: language.tag }, language.name), ": ",
         make("bdi", { lang: language.tag, dir: language.direction }, ...marked(stringsOf(row.text.values[index]).join(" / "))));

@@ -1,0 +1,28 @@
+// Marks the searched words where they are shown. Browsers that cannot show them unmarked.
+const foundWords = "Highlight" in window ? new Highlight() : null;
+if (foundWords)
+    CSS.highlights.set("found", foundWords);
+
+function wordRanges(node, words) {
+    const text = node.data.toLowerCase();
+    if (text.length !== node.data.length) // places would differ
+        return [];
+    const ranges = [];
+    for (const word of words)
+        for (let begin = text.indexOf(word); begin >= 0; begin = text.indexOf(word, begin + word.length)) {
+            const range = new Range();
+            range.setStart(node, begin);
+            range.setEnd(node, begin + word.length);
+            ranges.push(range);
+        }
+    return ranges;
+}
+
+function highlight(element, words) {
+    if (!foundWords || words.length === 0)
+        return;
+    const nodes = document.createTreeWalker(element, NodeFilter.SHOW_TEXT);
+    while (nodes.nextNode())
+        for (const range of wordRanges(nodes.currentNode, words))
+            foundWords.add(range);
+}
