@@ -233,7 +233,7 @@ class Program(unittest.TestCase):
         self.assertTrue(run("gallery", source, "-o", page)[2].startswith(f"lumora: {broken}:2:"))
         self.assertFalse(page.exists())
         broken.write_text('"a" = "b";')
-        self.assertEqual(run("gallery", source, "-o", page)[::2], (0, ""))
+        self.assertEqual(run("gallery", str(source) + "/", "-o", page)[::2], (0, ""))
         self.assertIn('"title":"Sales"', page.read_text())
         self.assertIn('"accessor":"T::a"', page.read_text())
         self.assertEqual(run("gallery", source, "--bundle", bundle, "-o", page)[0], 2)

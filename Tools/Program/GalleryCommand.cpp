@@ -51,6 +51,12 @@ private:
     fs::path path_;
 };
 
+// The name of a folder, whether its path ends in a slash or in none.
+fs::path nameOf(const fs::path& folder) {
+    const fs::path whole = fs::absolute(folder).lexically_normal();
+    return whole.has_filename() ? whole.filename() : whole.parent_path().filename();
+}
+
 Exit writePage(const GalleryOptions& options, const fs::path& bundle, const Gallery::Options& page) {
     SourceBundle::Diagnostics diagnostics;
     const auto made = Gallery::pageOf(bundle, page, diagnostics);
@@ -75,15 +81,14 @@ Exit showSource(const GalleryOptions& options) {
         return fail(compiled.error());
     if (reported != Exit::done)
         return reported;
-    const std::string title =
-        options.module.empty() ? fs::absolute(options.source).filename().string() : options.module;
+    const std::string title = options.module.empty() ? nameOf(options.source).string() : options.module;
     return writePage(options, bundle, {.title = title, .module = options.module});
 }
 
 Exit showBundle(const GalleryOptions& options) {
     const fs::path bundle =
         options.bundle.empty() ? fs::path(Lumora::LumoraResources::bundle().bundlePath()) : fs::path(options.bundle);
-    const std::string name = options.module.empty() ? bundle.stem().string() : options.module;
+    const std::string name = options.module.empty() ? nameOf(bundle).stem().string() : options.module;
     return writePage(options, bundle, {.title = name, .module = name});
 }
 
