@@ -74,6 +74,10 @@ onPage("the search finds keys, accessors and words of every language", async (ta
     }
     assert.equal(await row(tab, "Diet.AllDish").locator(".elsewhere bdi").innerText(), textOf("ru", "Diet.AllDish"));
     assert.ok(await tab.evaluate(() => CSS.highlights.get("found").size > 0));
+    await tab.fill("#search", "");
+    await tab.evaluate(() => window.scrollTo(0, 1e6));
+    await tab.fill("#search", "a");
+    assert.ok(await tab.locator("#texts-heading").evaluate((heading) => heading.getBoundingClientRect().top >= 0));
     await tab.fill("#search", "progressgreen");
     assert.equal(await tab.locator("[data-asset=progressGreen]").count(), 1);
     await tab.fill("#search", "no such thing anywhere");

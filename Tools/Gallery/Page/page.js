@@ -77,6 +77,13 @@ function search() {
     showFound(words.length > 0 || status !== "all");
 }
 
+// What is found begins at the top, however far down the page is scrolled.
+function searchFromTop() {
+    search();
+    if (byId("results").getBoundingClientRect().top < 0)
+        byId("results").scrollIntoView();
+}
+
 // Says how much is found, and hides the sections without any of it. What is not searched is shown without a search only.
 function showFound(isNarrowed) {
     for (const { id, lists } of sections) {
@@ -148,8 +155,8 @@ function connectChoice(id, apply) {
 }
 
 function connect() {
-    byId("search").addEventListener("input", search);
-    byId("status").addEventListener("change", search);
+    byId("search").addEventListener("input", searchFromTop);
+    byId("status").addEventListener("change", searchFromTop);
     byId("controls").addEventListener("submit", (event) => event.preventDefault());
     document.addEventListener("keydown", onKey);
     document.addEventListener("click", (event) => {
