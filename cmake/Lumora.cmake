@@ -11,19 +11,25 @@ set(CMAKE_C_VISIBILITY_PRESET hidden)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
-    set(CMAKE_BUILD_TYPE Release CACHE STRING "Debug, Release, RelWithDebInfo" FORCE)
+if(PROJECT_IS_TOP_LEVEL)
+    if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+        set(CMAKE_BUILD_TYPE Release CACHE STRING "Debug, Release, RelWithDebInfo" FORCE)
+    endif()
+    find_program(CCACHE ccache)
+    if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+        set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    endif()
 endif()
 
-# The library, its plug-ins and its bundle lie together in the build tree as they do when installed.
+# The libraries, their plug-ins and bundles are together in the build tree as they are when installed. Run paths relative to
+# the files make two builds in different folders equal.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
-
-find_program(CCACHE ccache)
-if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
-endif()
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+# Two versions of the platform can be installed together.
+set(LUMORA_PLUGIN_FOLDER lumora-platform-${PROJECT_VERSION_MAJOR})
+set(LUMORA_ICU_VERSION 72) # the least that the build accepts
 
 include(CheckLinkerFlag)
 check_linker_flag(CXX -Wl,-z,pack-relative-relocs LUMORA_HAS_PACKED_RELOCATIONS)
@@ -33,6 +39,8 @@ target_compile_options(lumora-build-rules INTERFACE -Wall -Wextra -Wpedantic -Wc
                        $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
 # Not -O3: a seventh less code, all of it as fast or faster, and fewer pages to load at a process's start.
 target_compile_options(lumora-build-rules INTERFACE $<$<CONFIG:Release>:-O2>)
+# Paths of the machine that builds do not get into what it builds.
+target_compile_options(lumora-build-rules INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
 if(LUMORA_FUZZERS) # libraries too: what is not instrumented guides no fuzzer
     target_compile_options(lumora-build-rules INTERFACE -fsanitize=fuzzer-no-link)
     target_link_options(lumora-build-rules INTERFACE -fsanitize=fuzzer-no-link)
@@ -73,7 +81,7 @@ function(lumora_library name)
 endfunction()
 
 # lumora_plugin(name SOURCES ... LINK ...)
-# A library that the platform opens itself when its service is first needed: lumora/NAME.so beside it. It exports what
+# A library that the platform opens itself when its service is first needed: NAME.so in LUMORA_PLUGIN_FOLDER beside it. It exports what
 # the linker script NAME.map names.
 function(lumora_plugin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
@@ -85,8 +93,7 @@ function(lumora_plugin name)
     # Hidden visibility leaves the templates of the standard library visible; the script hides them, too.
     target_link_options(${name} PRIVATE -Wl,--version-script=${map})
     set_target_properties(${name} PROPERTIES PREFIX "" LINK_DEPENDS ${map}
-                          LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/lumora)
-    install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/lumora COMPONENT runtime)
+                          LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${LUMORA_PLUGIN_FOLDER})
 endfunction()
 
 # lumora_shared_library(target map)

@@ -6,6 +6,7 @@
 #include "Runtime/internal/CodeLocation.h"
 #include "Runtime/internal/TransientError.h"
 #include "StringTables/internal/Table.h"
+#include <filesystem>
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
@@ -81,6 +82,17 @@ std::string developmentRegion(const std::string& path) {
 
 bool leadsOut(std::string_view component) {
     return component.find('/') != std::string_view::npos || component == "..";
+}
+
+// "lumora-1" for the library liblumora.so.1.0.0: its folder beside it when several versions are installed together.
+std::string versionedFolder(std::string_view library) {
+    static constexpr std::string_view prefix = "lib", suffix = ".so.";
+    const std::size_t end = library.find(suffix);
+    if (!library.starts_with(prefix) || end == library.npos)
+        return {};
+    const std::string_view version = library.substr(end + suffix.size());
+    return std::string(library.substr(prefix.size(), end - prefix.size())) + "-" +
+           std::string(version.substr(0, version.find('.')));
 }
 
 } // namespace
@@ -172,7 +184,10 @@ const NSBundle& NSBundle::bundleForCode(const void* code, std::string_view name)
     const Runtime::CodeLocation location = Runtime::codeLocation(code);
     if (location.isMainProgram)
         return mainBundle();
-    return bundleWithPath(location.directory + "/" + std::string(name) + ".bundle");
+    const std::string bundle = "/" + std::string(name) + ".bundle";
+    const std::string versioned = location.directory + "/" + versionedFolder(location.name) + bundle;
+    std::error_code failed;
+    return bundleWithPath(std::filesystem::is_directory(versioned, failed) ? versioned : location.directory + bundle);
 }
 
 const NSBundle& NSBundle::mainBundle() {

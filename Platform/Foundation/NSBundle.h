@@ -14,8 +14,9 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSBundle {
 public:
-    // The bundle NAME.bundle in the directory of the shared object that holds `code` (the address of a function or
-    // static object); the main bundle when that is the program itself. One place, whether a bundle is there or not.
+    // The bundle NAME.bundle of the shared object that holds `code` (the address of a function or static object): in the
+    // folder LIBRARY-VERSION beside it ("lumora-1" for liblumora.so.1.0.0) if there is one, else beside it; the main bundle
+    // when the code is the program's own.
     [[nodiscard]] static const NSBundle& bundleForCode(const void* code, std::string_view name);
     // PROGRAM.bundle in the directory of the program.
     [[nodiscard]] static const NSBundle& mainBundle();

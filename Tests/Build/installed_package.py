@@ -1,37 +1,10 @@
 """Installs the package, moves it, and uses it as outside programs do."""
-import argparse
 import os
 import pathlib
-import re
-import shlex
 import subprocess
-import sys
 import tempfile
 
-parser = argparse.ArgumentParser()
-for name in ("source", "build", "cmake", "generator"):
-    parser.add_argument(f"--{name}", required=True)
-options = parser.parse_args()
-source = pathlib.Path(options.source)
-
-
-def run(*command, **more):
-    done = subprocess.run([str(part) for part in command], capture_output=True, text=True, **more)
-    if done.returncode != 0:
-        sys.exit(f"{command} failed with {done.returncode}\n{done.stdout}\n{done.stderr}")
-    return done.stdout
-
-
-def expect(what, actual, expected):
-    if actual != expected:
-        sys.exit(f"{what}: {actual!r}, expected {expected!r}")
-
-
-def russian(key):
-    """The Russian text of a key as a reader of its own finds it."""
-    table = (source / "Resources/ru.lproj/Localizable.strings").read_text(encoding="utf-8")
-    return re.search(rf'^"{re.escape(key)}" = "(.*)";$', table, re.M).group(1)
-
+from packaging import NUMBER, compile_by_pkg_config, expect, options, run, russian, source
 
 with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     folder = pathlib.Path(folder)
@@ -39,36 +12,44 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     prefix = folder / "moved tree"
     (folder / "first").rename(prefix)
     [library] = prefix.rglob("liblumora.so")
+    bundle = library.parent.resolve() / "lumora-1/Lumora.bundle"
     environment = os.environ | {"LD_LIBRARY_PATH": str(library.parent), "LANG": "ru_RU.UTF-8", "LANGUAGE": "", "LC_ALL": ""}
 
     run(options.cmake, "-S", source / "Tests/Build/consumer", "-B", folder / "app", "-G", options.generator,
         f"-DCMAKE_PREFIX_PATH={prefix}")
     run(options.cmake, "--build", folder / "app")
-    # U+00A0 groups Russian digits.
-    number = "+1\u00a0234\u00a0567"
-    expect("find_package", run(folder / "app/app").splitlines(),
-           [russian("Continue"), number, str(library.parent.resolve() / "Lumora.bundle")])
+    expect("find_package", run(folder / "app/app").splitlines(), [russian("Continue"), NUMBER, str(bundle)])
 
-    flags = subprocess.run(["pkg-config", "--cflags", "--libs", "lumora"], check=True, capture_output=True,
-                           env=environment | {"PKG_CONFIG_PATH": str(library.parent / "pkgconfig")}).stdout
+    # A public header compiles alone; in C++17, none does, and says so once.
+    headers = sorted(str(path.relative_to(top)) for top in (prefix / "include", prefix / "include/lumora-platform")
+                     for path in top.rglob("*.h") if top == prefix / "include/lumora-platform" or "lumora-platform" not in path.parts)
+    for header in headers:
+        run("c++", "-std=c++20", "-fsyntax-only", "-Wall", "-Wextra", "-Werror", "-I", prefix / "include",
+            "-I", prefix / "include/lumora-platform", "-x", "c++", "-", input=f"#include <{header}>\n")
+
     program = folder / "by pkg-config"
-    # It escapes byte by byte.
-    arguments = [os.fsdecode(part.encode("latin-1")) for part in shlex.split(flags.decode("latin-1"))]
-    run("c++", "-std=c++20", source / "Tests/Build/consumer/app.cpp", "-o", program, *arguments)
-    expect("pkg-config", run(program, env=environment).splitlines()[:2], [russian("Continue"), number])
+    compile_by_pkg_config("lumora", [source / "Tests/Build/consumer/app.cpp"], program, ["c++", "-std=c++20"],
+                          library.parent / "pkgconfig")
+    expect("pkg-config", run(program, env=environment).splitlines()[:2], [russian("Continue"), NUMBER])
 
     # Reached through a link to the tree, and through links to the libraries alone.
     (folder / "link").symlink_to(prefix)
     linked = folder / "link" / library.relative_to(prefix)
     expect("linked tree", run(program, env=environment | {"LD_LIBRARY_PATH": str(linked.parent)}).splitlines()[:2],
-           [russian("Continue"), number])
+           [russian("Continue"), NUMBER])
     (folder / "alone").mkdir()
     for name in ("liblumora.so.1", "liblumora-platform.so.1"):
         (folder / "alone" / name).symlink_to((library.parent / name).resolve())
     expect("linked libraries", run(program, env=environment | {"LD_LIBRARY_PATH": str(folder / "alone")}).splitlines()[:2],
-           [russian("Continue"), number])
+           [russian("Continue"), NUMBER])
 
     expect("plug-in host", run(folder / "app/host", os.path.relpath(library, folder), cwd=folder, env=environment).splitlines(),
            [russian("Continue"), "25 лет"])
     expect("lumora text", run(prefix / "bin/lumora", "text", "--language", "ru", "Continue"), russian("Continue") + "\n")
+
+    # Each component has its files, and a package without the program is found by who does not ask for it.
+    for component, present, absent in (("runtime", "liblumora.so.1", "*.h"), ("development", "Lumora.h", "liblumora.so.1"),
+                                       ("tools", "lumora", "*.h")):
+        run(options.cmake, "--install", options.build, "--prefix", folder / component, "--component", component)
+        expect(component, ([] != [*(folder / component).rglob(present)], [*(folder / component).rglob(absent)]), (True, []))
 print("the installed package works where it was moved")

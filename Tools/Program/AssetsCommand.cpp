@@ -2,7 +2,7 @@
 #include "Program/Command.h"
 
 #include "AssetCatalog/internal/Catalog.h"
-#include "Lumora/LumoraResources.h"
+#include "Program/OwnBundle.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
@@ -32,7 +32,7 @@ struct AssetOptions {
 
 // No catalog: the bundle has no assets, and a compile made none for it.
 Runtime::Result<std::optional<Catalog>> openCatalog(const std::string& bundle) {
-    const std::string folder = bundle.empty() ? Lumora::LumoraResources::bundle().bundlePath() : bundle;
+    const std::string folder = bundle.empty() ? ownBundle() : bundle;
     std::error_code failed;
     if (!std::filesystem::is_directory(folder, failed))
         return Runtime::Error{.message = "is no bundle", .file = folder};

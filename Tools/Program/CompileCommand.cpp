@@ -1,5 +1,6 @@
 // lumora compile: a source bundle made into the one that ships.
 #include "Program/Command.h"
+#include "Program/Depfile.h"
 
 #include "Compiler/Bundle.h"
 #include <CLI/CLI.hpp>
@@ -12,6 +13,7 @@ namespace {
 struct CompileOptions {
     std::string source;
     std::string output;
+    Depfile depfile;
 };
 
 Exit runCompile(const CompileOptions& options) {
@@ -19,7 +21,10 @@ Exit runCompile(const CompileOptions& options) {
     const auto done = Compiler::compileBundle(options.source, options.output, diagnostics, showProgress);
     showProgress("", 0, 0);
     const Exit reported = report(diagnostics);
-    return done ? reported : fail(done.error());
+    if (!done)
+        return fail(done.error());
+    const auto noted = options.depfile.write({options.source});
+    return noted ? reported : fail(noted.error());
 }
 
 } // namespace
@@ -32,6 +37,7 @@ void addCompileCommand(CLI::App& program, Exit& exit) {
         ->required()
         ->check(named());
     command->add_option("-o,--output", options->output, "The bundle to make, NAME.bundle")->required()->check(named());
+    options->depfile.addOptions(*command);
     command->callback([options, &exit] { exit = runCompile(*options); });
 }
 

@@ -3,7 +3,7 @@
 
 #include "Compiler/Bundle.h"
 #include "Gallery/Gallery.h"
-#include "Lumora/LumoraResources.h"
+#include "Program/OwnBundle.h"
 #include <CLI/CLI.hpp>
 #include <cerrno>
 #include <cstdlib>
@@ -86,8 +86,7 @@ Exit showSource(const GalleryOptions& options) {
 }
 
 Exit showBundle(const GalleryOptions& options) {
-    const fs::path bundle =
-        options.bundle.empty() ? fs::path(Lumora::LumoraResources::bundle().bundlePath()) : fs::path(options.bundle);
+    const fs::path bundle = options.bundle.empty() ? ownBundle() : options.bundle;
     const std::string name = options.module.empty() ? nameOf(bundle).stem().string() : options.module;
     return writePage(options, bundle, {.title = name, .module = name});
 }

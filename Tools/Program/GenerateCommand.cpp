@@ -1,5 +1,6 @@
 // lumora generate: the typed tree of a source bundle.
 #include "Program/Command.h"
+#include "Program/Depfile.h"
 
 #include "Generator/Generator.h"
 #include <CLI/CLI.hpp>
@@ -13,6 +14,7 @@ namespace {
 struct GenerateOptions {
     std::string source;
     std::string output;
+    Depfile depfile;
     Generator::Options generator;
 };
 
@@ -22,7 +24,10 @@ Exit runGenerate(const GenerateOptions& options) {
     SourceBundle::Diagnostics diagnostics;
     const auto done = Generator::generateModule(options.source, options.generator, options.output, diagnostics);
     const Exit reported = report(diagnostics);
-    return done ? reported : fail(done.error());
+    if (!done)
+        return fail(done.error());
+    const auto noted = options.depfile.write({options.source});
+    return noted ? reported : fail(noted.error());
 }
 
 } // namespace
@@ -39,6 +44,7 @@ void addGenerateCommand(CLI::App& program, Exit& exit) {
                         "A header of hand-made members, included by the tree's");
     command->add_option("--shards", options->generator.shards, "Into how many sources the accessors are split")
         ->check(CLI::Range(std::size_t{1}, Generator::maxShards));
+    options->depfile.addOptions(*command);
     command->callback([options, &exit] { exit = runGenerate(*options); });
 }
 

@@ -5,7 +5,7 @@
 #include "Foundation/Locale.h"
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
-#include "Lumora/LumoraResources.h"
+#include "Program/OwnBundle.h"
 #include "StringTables/internal/Placeholder.h"
 #include "StringTables/internal/Table.h"
 #include <CLI/CLI.hpp>
@@ -84,8 +84,7 @@ Exit runText(const TextOptions& options) {
     if (!options.locale.empty())
         Foundation::Host::setCurrentLocale(options.locale);
 
-    const Foundation::NSBundle& bundle = options.bundle.empty() ? Lumora::LumoraResources::bundle()
-                                                                : Foundation::NSBundle::bundleWithPath(options.bundle);
+    const Foundation::NSBundle& bundle = Foundation::NSBundle::bundleWithPath(options.bundle.empty() ? ownBundle() : options.bundle);
     const std::string_view text = bundle.localizedText(options.key, options.table);
     const bool isMissing = text.data() == options.key.data();
     if (const auto damaged = isMissing ? damage(bundle, options.table) : std::nullopt)

@@ -7,7 +7,7 @@
 
 namespace Runtime {
 
-// Opens the plug-in `file` ("lumora-intl.so") from the folder lumora/ beside the shared object that holds this code
+// Opens the plug-in `file` ("lumora-intl.so") from the plug-in folder (LUMORA_PLUGIN_FOLDER, with the version in its name) beside the shared object that holds this code
 // and returns the address of its exported function `symbol`. Nothing is searched elsewhere, whatever the process's
 // directory or environment. Stays open until the process ends. Errors: the plug-in is absent, cannot be loaded, or
 // has no such function. Any thread; callers keep the answer, but no error that is passing. For want of memory

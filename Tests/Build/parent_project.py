@@ -1,0 +1,49 @@
+"""Adds the source tree to a project with targets of the same names, builds that project's own target with the program that
+is built already, runs it, and installs the rest as a distribution does: the same files as the build beside it installs."""
+import filecmp
+import pathlib
+import subprocess
+import tempfile
+
+from packaging import NUMBER, compile_by_pkg_config, expect, options, run, russian, source
+
+
+def installed(prefix, library):
+    """The relative names of what two installations must have in common, without the packages' own paths."""
+    return {str(path.relative_to(prefix)).replace(str(library.relative_to(prefix)), "LIB"): path
+            for path in prefix.rglob("*") if path.is_file() and path.suffix not in (".cmake", ".pc")}
+
+
+with tempfile.TemporaryDirectory(prefix="lumora-parent-") as folder:
+    folder = pathlib.Path(folder)
+    cache = (pathlib.Path(options.build) / "CMakeCache.txt").read_text()
+    kept = [f"-D{line}" for line in cache.splitlines() if line.startswith(("CMAKE_CXX_FLAGS", "CMAKE_C_FLAGS", "CMAKE_BUILD_TYPE"))]
+    configure = [options.cmake, "-S", source / "Tests/Build/parent", "-G", options.generator, f"-DLUMORA_SOURCE={source}",
+                 "-DLUMORA_TOOLS=OFF", f"-DLUMORA_PROGRAM={options.build}/bin/lumora"]
+    run(*configure, "-B", folder / "without a build type")
+    run(*configure, "-B", folder / "build", "-DLUMORA_INSTALL=ON", "-DCMAKE_INSTALL_PREFIX=/usr", *kept)
+    run(options.cmake, "--build", folder / "build", "--target", "app")
+    expect("own target only", run(folder / "build/app").splitlines()[:2], [russian("Continue"), NUMBER])
+
+    run(options.cmake, "--build", folder / "build")
+    run(options.cmake, "--install", folder / "build", env={"DESTDIR": str(folder / "stage"), "PATH": "/usr/bin:/bin"})
+    usr = folder / "stage/usr"
+    [library] = usr.rglob("liblumora.so")
+    multiarch = subprocess.run(["cc", "-print-multiarch"], capture_output=True, text=True).stdout.strip()
+    expect("library folder", library.parent, usr / "lib" / multiarch)
+    environment = {"LD_LIBRARY_PATH": str(library.parent), "LANG": "ru_RU.UTF-8"}
+    for name, client, compiler in (("cpp", source / "Tests/Build/consumer/app.cpp", ["c++", "-std=c++20"]),
+                                   ("c", source / "Examples/loc.c", ["cc", "-std=c11"])):
+        compile_by_pkg_config("lumora", [client], folder / name, compiler, library.parent / "pkgconfig")
+        expect(f"{name} client", russian("Continue") in run(folder / name, env=environment) or name == "c", True)
+
+    run(options.cmake, "--install", options.build, "--prefix", folder / "other")
+    [other] = (folder / "other").rglob("liblumora.so")
+    mine, theirs = installed(usr, library.parent), installed(folder / "other", other.parent)
+    for name in sorted(set(mine) & set(theirs)):
+        # Debug information names folders.
+        if "BUILD_TYPE:STRING=Release" in cache and not filecmp.cmp(mine[name], theirs[name], shallow=False):
+            raise SystemExit(f"{name} differs between two builds in different folders")
+    missing = {name for name in set(theirs) - set(mine) if not name.startswith("bin/")}
+    expect("files of one installation only", sorted(missing), [])
+print("a parent project builds its own target, and a distribution's package is complete and reproducible")

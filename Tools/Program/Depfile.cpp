@@ -1,0 +1,54 @@
+#include "Program/Depfile.h"
+
+#include "Program/Command.h"
+#include "Runtime/internal/File.h"
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <string_view>
+
+namespace Tools {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// As makefiles spell a path: what would end a name or begin a comment or a variable is escaped.
+std::string escaped(std::string_view path) {
+    std::string out;
+    for (const char c : path) {
+        if (c == ' ' || c == '#' || c == '\\')
+            out += '\\';
+        else if (c == '$')
+            out += '$';
+        out += c;
+    }
+    return out;
+}
+
+void appendPrerequisite(std::string& rule, const fs::path& path) {
+    rule += " \\\n  ";
+    rule += escaped(fs::absolute(path).string());
+}
+
+} // namespace
+
+void Depfile::addOptions(CLI::App& command) {
+    auto* file = command.add_option("--depfile", path, "Write a makefile of the files that this command reads")->check(named());
+    command.add_option("--depfile-target", target, "The target of the makefile's rule")->needs(file);
+}
+
+Runtime::Result<void> Depfile::write(const std::vector<std::string>& sources) const {
+    if (path.empty())
+        return {};
+    std::string rule = escaped(target) + ":";
+    for (const std::string& source : sources) {
+        appendPrerequisite(rule, source);
+        std::error_code failed;
+        for (fs::recursive_directory_iterator it(source, fs::directory_options::skip_permission_denied, failed), end;
+             !failed && it != end; it.increment(failed))
+            appendPrerequisite(rule, it->path());
+    }
+    return Runtime::writeFile(path, rule + "\n");
+}
+
+} // namespace Tools

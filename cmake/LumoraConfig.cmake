@@ -1,0 +1,15 @@
+# The package Lumora. Components: Platform (Lumora::Platform), Module (Lumora::Lumora), Tools (Lumora::lumora). Without a
+# list of components, whatever is installed of them is there. lumora_add_module() needs Platform and Tools.
+foreach(component Platform Module Tools)
+    if(EXISTS ${CMAKE_CURRENT_LIST_DIR}/Lumora${component}.cmake)
+        include(${CMAKE_CURRENT_LIST_DIR}/Lumora${component}.cmake)
+        set(Lumora_${component}_FOUND TRUE)
+    endif()
+endforeach()
+foreach(component IN LISTS Lumora_FIND_COMPONENTS)
+    if(Lumora_FIND_REQUIRED_${component} AND NOT Lumora_${component}_FOUND)
+        set(Lumora_FOUND FALSE)
+        set(Lumora_NOT_FOUND_MESSAGE "the component ${component} of Lumora is not installed")
+    endif()
+endforeach()
+include(${CMAKE_CURRENT_LIST_DIR}/LumoraModuleFunctions.cmake)

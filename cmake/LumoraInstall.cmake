@@ -1,0 +1,40 @@
+# What is installed, and the packages that other builds find: CMake's, with the components Platform, Module and Tools, and
+# pkg-config's.
+include(CMakePackageConfigHelpers)
+
+set(package ${CMAKE_INSTALL_LIBDIR}/cmake/Lumora)
+install(TARGETS lumora-platform EXPORT LumoraPlatform
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/lumora-platform COMPONENT development)
+install(TARGETS lumora-intl lumora-pictures
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${LUMORA_PLUGIN_FOLDER} COMPONENT runtime)
+lumora_install_module(Lumora EXPORT LumoraModule VERSIONED)
+install(EXPORT LumoraPlatform NAMESPACE Lumora:: DESTINATION ${package} COMPONENT development)
+install(EXPORT LumoraModule NAMESPACE Lumora:: DESTINATION ${package} COMPONENT development)
+if(LUMORA_TOOLS)
+    install(TARGETS lumora-program EXPORT LumoraTools RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    install(EXPORT LumoraTools NAMESPACE Lumora:: DESTINATION ${package} COMPONENT tools)
+endif()
+
+write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/LumoraConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES cmake/LumoraConfig.cmake cmake/LumoraModuleFunctions.cmake ${CMAKE_CURRENT_BINARY_DIR}/LumoraConfigVersion.cmake
+    DESTINATION ${package} COMPONENT development)
+
+# From the folder of the .pc files to the prefix, so that an installed tree can be moved.
+cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_LIBDIR BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} NORMALIZE OUTPUT_VARIABLE libdir)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${libdir}/pkgconfig OUTPUT_VARIABLE LUMORA_PC_PREFIX)
+set(LUMORA_PC_LIBDIR ${CMAKE_INSTALL_LIBDIR})
+set(LUMORA_PC_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR})
+foreach(directory LUMORA_PC_LIBDIR LUMORA_PC_INCLUDEDIR)
+    if(NOT IS_ABSOLUTE ${${directory}})
+        string(PREPEND ${directory} "\${prefix}/")
+    endif()
+endforeach()
+foreach(name lumora lumora-platform)
+    configure_file(cmake/${name}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+endforeach()
+
+foreach(component runtime development tools)
+    install(FILES LICENSE THIRD-PARTY.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT ${component})
+endforeach()

@@ -1,0 +1,118 @@
+# Modules of resources: lumora_add_module makes one from folders of resources, lumora_install_module installs it. Both work in
+# this source tree and, through find_package(Lumora), in any project.
+#
+# The program that generates and compiles is Lumora::lumora; a cross build sets LUMORA_PROGRAM to one of the build machine.
+
+# Sets `out` to what custom commands run.
+function(_lumora_program out)
+    if(LUMORA_PROGRAM)
+        set(${out} ${LUMORA_PROGRAM} PARENT_SCOPE)
+    elseif(TARGET Lumora::lumora)
+        set(${out} Lumora::lumora PARENT_SCOPE)
+    else()
+        message(FATAL_ERROR "lumora_add_module needs the program lumora: install Lumora's tools, or set LUMORA_PROGRAM")
+    endif()
+endfunction()
+
+# _lumora_run(STAMP file COMMENT text ARGUMENTS argument...)
+# Runs the program when a file or folder that it read last time has changed. It leaves files that have their content already
+# untouched, so the stamp is what always gets a new time.
+function(_lumora_run)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "STAMP;COMMENT" "ARGUMENTS;BYPRODUCTS")
+    _lumora_program(program)
+    add_custom_command(
+        OUTPUT ${arg_STAMP}
+        BYPRODUCTS ${arg_BYPRODUCTS}
+        COMMAND ${program} ${arg_ARGUMENTS} --depfile ${arg_STAMP}.d --depfile-target ${arg_STAMP}
+        COMMAND ${CMAKE_COMMAND} -E touch ${arg_STAMP}
+        DEPENDS ${program}
+        DEPFILE ${arg_STAMP}.d
+        COMMENT "${arg_COMMENT}"
+        VERBATIM)
+endfunction()
+
+# lumora_add_module(Name SOURCES folder... [NAMES_FILE file] [DEVELOPMENT_LANGUAGE code] [STRICT]
+#                   [INCLUDE header...] [SHARDS n])
+# Makes the shared library target `Name` with the headers <Name/Name.h>, <Name/NameStrings.h> and <Name/NameAsset.h> in the
+# namespace `Name`, and Name.bundle beside the library file. Building a target that links it builds the bundle, too.
+#   NAMES_FILE             a table of names for keys: "TABLE/KEY" = "Group.name";
+#   DEVELOPMENT_LANGUAGE   where no Info.plist says it;
+#   STRICT                 warnings are errors;
+#   INCLUDE                headers of hand-made members that the tree of texts includes;
+#   SHARDS                 into how many sources the accessors are split, so that they compile in parallel (default: 1).
+function(lumora_add_module name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "STRICT" "NAMES_FILE;DEVELOPMENT_LANGUAGE;SHARDS" "SOURCES;INCLUDE")
+    if(arg_UNPARSED_ARGUMENTS OR NOT arg_SOURCES)
+        message(FATAL_ERROR "usage: lumora_add_module(Name SOURCES folder... [NAMES_FILE file] "
+                            "[DEVELOPMENT_LANGUAGE code] [STRICT] [INCLUDE header...] [SHARDS n])")
+    endif()
+    set(sources "")
+    foreach(source IN LISTS arg_SOURCES)
+        cmake_path(ABSOLUTE_PATH source NORMALIZE)
+        list(APPEND sources ${source})
+    endforeach()
+    set(options "")
+    if(arg_NAMES_FILE)
+        cmake_path(ABSOLUTE_PATH arg_NAMES_FILE NORMALIZE)
+        list(APPEND options --names ${arg_NAMES_FILE})
+    endif()
+    if(arg_DEVELOPMENT_LANGUAGE)
+        list(APPEND options --development-language ${arg_DEVELOPMENT_LANGUAGE})
+    endif()
+    if(arg_STRICT)
+        list(APPEND options --strict)
+    endif()
+    if(NOT arg_SHARDS)
+        set(arg_SHARDS 1)
+    endif()
+
+    set(generated ${CMAKE_CURRENT_BINARY_DIR}/${name}.generated)
+    set(folder ${generated}/${name})
+    set(code ${folder}/${name}Resources.cpp ${folder}/${name}Asset.cpp ${folder}/${name}Strings.cpp)
+    foreach(shard RANGE 1 ${arg_SHARDS})
+        list(APPEND code ${folder}/${name}Strings-${shard}.cpp)
+    endforeach()
+    list(TRANSFORM arg_INCLUDE REPLACE "(.+)" "--include;\\1" OUTPUT_VARIABLE includes)
+    _lumora_run(STAMP ${generated}/generated.stamp BYPRODUCTS ${code} COMMENT "Generating ${name}Strings and ${name}Asset"
+                ARGUMENTS generate ${sources} --module ${name} -o ${folder} --shards ${arg_SHARDS} ${includes} ${options})
+    add_library(${name} SHARED ${code} ${generated}/generated.stamp)
+    target_compile_features(${name} PUBLIC cxx_std_20)
+    target_link_libraries(${name} PUBLIC Lumora::Platform)
+    target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${generated}>)
+    set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+                          LUMORA_GENERATED ${generated})
+
+    _lumora_run(STAMP ${generated}/compiled.stamp COMMENT "Compiling ${name}.bundle"
+                ARGUMENTS compile ${sources} -o $<TARGET_FILE_DIR:${name}>/${name}.bundle ${options})
+    add_custom_target(${name}-bundle DEPENDS ${generated}/compiled.stamp)
+    add_dependencies(${name} ${name}-bundle)
+endfunction()
+
+# lumora_install_module(Name [EXPORT set] [VERSIONED])
+# Installs library, headers and bundle of a module. The bundle is beside the library file; with VERSIONED it is in the folder
+# LIBRARY-SOVERSION there, so that two versions can be installed together. Components: runtime, development.
+function(lumora_install_module name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "VERSIONED" "EXPORT" "")
+    include(GNUInstallDirs)
+    set(export "")
+    if(arg_EXPORT)
+        set(export EXPORT ${arg_EXPORT})
+    endif()
+    set(headers "")
+    get_target_property(sets ${name} INTERFACE_HEADER_SETS)
+    if(sets)
+        set(headers FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+    endif()
+    set(place ${CMAKE_INSTALL_LIBDIR})
+    if(arg_VERSIONED)
+        string(APPEND place "/$<TARGET_FILE_BASE_NAME:${name}>-$<TARGET_PROPERTY:${name},SOVERSION>")
+    endif()
+    get_target_property(generated ${name} LUMORA_GENERATED)
+    install(TARGETS ${name} ${export}
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+        ${headers}
+        INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    install(DIRECTORY $<TARGET_FILE_DIR:${name}>/${name}.bundle DESTINATION ${place} COMPONENT runtime)
+    install(DIRECTORY ${generated}/${name} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+        COMPONENT development FILES_MATCHING PATTERN "*.h" PATTERN "Internal" EXCLUDE)
+endfunction()
