@@ -6,11 +6,11 @@
 #include "Runtime/internal/CodeLocation.h"
 #include "Runtime/internal/TransientError.h"
 #include "StringTables/internal/Table.h"
-#include <filesystem>
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <dirent.h>
+#include <filesystem>
 #include <list>
 #include <memory>
 #include <mutex>

@@ -67,8 +67,8 @@ private:
     std::span<const Message> methods_;
 };
 
-// The class of that name in any loaded library or in the program, or null. Looks through what is loaded at every call, under
-// the dynamic linker's lock: callers keep what it returns.
+// The class of that name in any loaded library or in the program, or null. Looks through what is loaded at every call,
+// under the dynamic linker's lock: callers keep what it returns.
 [[nodiscard]] LUMORA_EXPORT const Class* classNamed(std::string_view name) noexcept;
 
 namespace detail {
@@ -110,16 +110,17 @@ template <auto* function> constexpr Message message(const char* selector) noexce
     }(selector, function);
 }
 
-// Makes classNamed() find a class of static storage as long as the library or program that holds it is loaded: an ELF note
-// says where the class is, so no code runs at start-up and no symbol is exported. Use it at namespace scope.
+// Makes classNamed() find a class of static storage as long as the library or program that holds it is loaded: an ELF
+// note says where the class is, so no code runs at start-up and no symbol is exported. Use it at namespace scope.
 #define LUMORA_PUBLISH_CLASS(cls) LUMORA_PUBLISH_CLASS_AS(cls, LUMORA_PUBLISHED_SYMBOL(__COUNTER__))
 #define LUMORA_PUBLISHED_SYMBOL(number) LUMORA_PUBLISHED_SYMBOL_TEXT(number)
 #define LUMORA_PUBLISHED_SYMBOL_TEXT(number) "lumora_published_class_" #number
-// The note's header: the sizes of owner and content, and the type, 1; its content is the distance to a pointer to the class.
+// The note's header: the sizes of owner and content, and the type, 1; its content is the distance to a pointer to the
+// class.
 #define LUMORA_PUBLISH_CLASS_AS(cls, symbol)                                                                           \
     [[gnu::used]] static const ::Runtime::Class* const cls##Published __asm__(symbol) = &(cls);                        \
-    __asm__(".pushsection .note.lumora.class,\"a\",%note\n.balign 4\n.long 7, 4, 1\n.asciz \"Lumora\"\n.balign 4\n.long " symbol \
-            " - .\n.popsection")
+    __asm__(".pushsection .note.lumora.class,\"a\",%note\n.balign 4\n.long 7, 4, 1\n.asciz \"Lumora\"\n.balign "       \
+            "4\n.long " symbol " - .\n.popsection")
 
 // Sends a message and returns its answer. A null class, a selector that the class does not answer, and arguments or a
 // result of other types stop the process with a report that names class and selector.

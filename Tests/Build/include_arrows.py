@@ -18,7 +18,7 @@ ARROWS = {
     "Tools/Generator": ["Tools/SourceBundle"],
     "Tools/Compiler": ["Tools/SourceBundle", "Platform/AssetCatalog", "Platform/Pictures"],
     "Tools/Gallery": ["Tools/Generator", "Platform/UIKit"],
-    "Tools/Program": ["Tools/Generator", "Tools/Compiler", "Tools/Gallery", "Lumora"],
+    "Tools/Program": ["Tools/Generator", "Tools/Compiler", "Tools/Gallery"],
 }
 INCLUDE = re.compile(r'\s*#\s*include\s+["<]([^">]+)[">]')
 

@@ -14,7 +14,8 @@ std::string ownBundle() {
     const std::string program = Runtime::mainProgramLocation().directory;
     for (const std::string_view place : places) {
         std::error_code failed;
-        if (const std::filesystem::path bundle(program + std::string(place)); std::filesystem::is_directory(bundle, failed))
+        if (const std::filesystem::path bundle(program + std::string(place));
+            std::filesystem::is_directory(bundle, failed))
             return bundle.lexically_normal();
     }
     return program + std::string(places.front());
