@@ -9,12 +9,10 @@ function wordRanges(node, words) {
         return [];
     const ranges = [];
     for (const word of words)
-        for (let begin = text.indexOf(word); begin >= 0; begin = text.indexOf(word, begin + word.length)) {
-            const range = new Range();
-            range.setStart(node, begin);
-            range.setEnd(node, begin + word.length);
-            ranges.push(range);
-        }
+        for (let begin = text.indexOf(word); begin >= 0; begin = text.indexOf(word, begin + word.length))
+            ranges.push(new StaticRange({
+                startContainer: node, startOffset: begin, endContainer: node, endOffset: begin + word.length,
+            }));
     return ranges;
 }
 

@@ -58,10 +58,11 @@ class SearchableList {
     put(rows) {
         this.shown = rows;
         this.seen = []; // rows that came near the window
+        this.list.replaceChildren(); // rows move faster outside of the document
         const chunks = [];
         for (let first = 0; first < rows.length; first += chunkRows)
             chunks.push(this.chunk(rows.slice(first, first + chunkRows)));
-        this.list.replaceChildren(...chunks);
+        this.list.append(...chunks);
         this.count.textContent = numbers.format(rows.length);
         this.section.hidden = rows.length === 0;
     }
