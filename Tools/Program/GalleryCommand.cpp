@@ -87,7 +87,6 @@ Exit showSource(const GalleryOptions& options) {
 
 Exit showBundle(const GalleryOptions& options) {
     const fs::path bundle = options.bundle.empty() ? ownBundle() : options.bundle;
-    const fs::path bundle = options.bundle.empty() ? ownBundle() : options.bundle;
     const std::string name = options.module.empty() ? nameOf(bundle).stem().string() : options.module;
     return writePage(options, bundle, {.title = name, .module = name});
 }
