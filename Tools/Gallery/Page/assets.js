@@ -14,7 +14,8 @@ const traitTexts = {
 function traitText(variant, asset) {
     const hasDark = asset.variants.some(({ traits }) => traits.appearance === "dark");
     const traits = hasDark ? { appearance: "light", ...variant.traits } : variant.traits;
-    return Object.entries(traitTexts).filter(([name]) => name in traits).map(([name, text]) => text(traits[name])).join(", ") || "any";
+    const named = Object.entries(traitTexts).filter(([name]) => name in traits);
+    return named.map(([name, text]) => text(traits[name])).join(", ") || "any";
 }
 
 function assetName(asset) {

@@ -40,13 +40,15 @@ function colourValue(variant, asset) {
     const swatch = make("div", { class: "swatch" }, make("span", {}));
     swatch.firstChild.style.background = cssColour(variant.srgb);
     const space = variant.space === "srgb" ? "" : ` ${variant.space}`;
-    return make("figure", {}, swatch,
-        make("figcaption", {}, make("strong", {}, traitText(variant, asset)), " ", make("code", {}, hexOf(variant.srgb)), space),
-        make("ul", { class: "ratios" }, contrastLine(variant.srgb, white, "white"), contrastLine(variant.srgb, black, "black")));
+    const name = make("strong", {}, traitText(variant, asset));
+    const ratios = [contrastLine(variant.srgb, white, "white"), contrastLine(variant.srgb, black, "black")];
+    return make("figure", {}, swatch, make("figcaption", {}, name, " ", make("code", {}, hexOf(variant.srgb)), space),
+        make("ul", { class: "ratios" }, ...ratios));
 }
 
 function colourRow(asset) {
-    return assetRow(asset, "colour", assetName(asset), make("div", { class: "values" }, ...asset.variants.map((variant) => colourValue(variant, asset))));
+    const values = asset.variants.map((variant) => colourValue(variant, asset));
+    return assetRow(asset, "colour", assetName(asset), make("div", { class: "values" }, ...values));
 }
 
 const colourLists = assetLists(assetsOf("color").map(colourRow), "colours");
@@ -58,7 +60,8 @@ function progressColour([red, green, blue], progress) {
 
 function progressStrip(variant, asset) {
     const stops = Array.from({ length: 51 }, (_, i) => cssColour(progressColour(variant.srgb, i / 50)));
-    const strip = make("div", { class: "strip-colours", role: "img", "aria-label": "From red over yellow to the colour itself" });
+    const label = "From red over yellow to the colour itself";
+    const strip = make("div", { class: "strip-colours", role: "img", "aria-label": label });
     strip.style.background = `linear-gradient(to right, ${stops.join(", ")})`;
     const percents = [0, 25, 50, 75, 100].map((percent) => make("span", {}, `${percent} %`));
     return make("figure", {}, make("figcaption", {}, make("strong", {}, traitText(variant, asset))), strip,
@@ -67,5 +70,8 @@ function progressStrip(variant, asset) {
 
 function progressStrips() {
     const asset = assetsOf("color").find((colour) => colour.name.split("/").pop() === "progressGreen");
-    return asset ? make("section", { class: "progress" }, make("h3", {}, "Progress"), ...asset.variants.map((variant) => progressStrip(variant, asset))) : null;
+    if (!asset)
+        return null;
+    const strips = asset.variants.map((variant) => progressStrip(variant, asset));
+    return make("section", { class: "progress" }, make("h3", {}, "Progress"), ...strips);
 }

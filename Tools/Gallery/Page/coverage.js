@@ -16,10 +16,11 @@ function coverageRow(language, index, showMissing) {
         bar.append(part);
     }
     const percent = Math.floor(((counts.translated + counts.same) / all) * 100);
-    const notes = [counts.same && `${numbers.format(counts.same)} not translated`, counts.missing && `${numbers.format(counts.missing)} missing`];
+    const notes = [[counts.same, "not translated"], [counts.missing, "missing"]]
+        .filter(([count]) => count > 0).map(([count, what]) => `${numbers.format(count)} ${what}`);
     const name = make("button", { type: "button", class: "language", title: "Show as second language" },
         make("bdi", { lang: language.tag, dir: language.direction }, language.name), " ", make("code", {}, language.code));
     name.addEventListener("click", () => showMissing(index, counts));
     return make("li", {}, name, make("span", { class: "percent" }, `${percent} %`), bar,
-        make("span", { class: "notes" }, notes.filter(Boolean).join(", ") || "complete"));
+        make("span", { class: "notes" }, notes.join(", ") || "complete"));
 }

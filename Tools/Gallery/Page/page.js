@@ -50,10 +50,9 @@ function fillSections() {
     for (const { id, lists } of sections)
         byId(id).append(...lists.map((list) => list.section));
     const table = regionTable();
-    byId("regions").append(...(table ? [make("div", { class: "scroller", tabindex: "0", role: "region", "aria-label": "Table" }, table)] : []));
-    byId("regions").hidden = !table;
-    const strips = progressStrips();
-    byId("colours").append(...(strips ? [strips] : []));
+    if (table)
+        byId("regions").append(make("div", { class: "scroller", tabindex: "0", role: "region", "aria-label": "Table" }, table));
+    byId("colours").append(progressStrips() ?? "");
 }
 
 const links = new Map();

@@ -31,7 +31,8 @@ function pictureRow(asset) {
     const name = assetName(asset);
     if (asset.template)
         name.append(make("span", { class: "tag" }, "Template"));
-    const row = assetRow(asset, asset.template ? "picture template" : "picture", make("div", { class: "variants" }, ...variants), name);
+    const className = asset.template ? "picture template" : "picture";
+    const row = assetRow(asset, className, make("div", { class: "variants" }, ...variants), name);
     row.show = () => loadPictures(row.element);
     return row;
 }
@@ -39,8 +40,10 @@ function pictureRow(asset) {
 const pictureLists = assetLists(assetsOf("image").map(pictureRow), "cards");
 
 function dataRow(asset) {
-    const variants = asset.variants.map((variant) =>
-        make("li", {}, [asset.variants.length > 1 && traitText(variant, asset), variant.type, fileSize(variant.bytes)].filter(Boolean).join(" · ")));
+    const variants = asset.variants.map((variant) => {
+        const traits = asset.variants.length > 1 ? traitText(variant, asset) : "";
+        return make("li", {}, [traits, variant.type, fileSize(variant.bytes)].filter(Boolean).join(" · "));
+    });
     return assetRow(asset, "file", assetName(asset), make("ul", {}, ...variants));
 }
 

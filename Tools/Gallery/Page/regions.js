@@ -13,8 +13,8 @@ function regionalParts(name) {
     return { subject: sex ? stem.replace(pattern, "…") : stem, sex, region: ending?.[1] ?? ending?.[2] ?? "" };
 }
 
-// Maps subjects to maps from sexes to maps from regions to pictures; only subjects with something to
-// choose, those with regions first.
+// Maps subjects to maps from sexes to maps from regions to pictures; only subjects with something to choose, those with
+// regions first.
 function regionalPictures(assets) {
     const subjects = new Map();
     for (const asset of assets) {
@@ -37,7 +37,8 @@ function regionTable() {
     const subjects = regionalPictures(assetsOf("image"));
     if (subjects.size === 0)
         return null;
-    const regions = [...new Set([...subjects.values()].flatMap((bySex) => [...bySex.values()].flatMap((byRegion) => [...byRegion.keys()])))].sort();
+    const choices = [...subjects.values()].flatMap((bySex) => [...bySex.values()]);
+    const regions = [...new Set(choices.flatMap((byRegion) => [...byRegion.keys()]))].sort();
     const head = make("tr", {}, make("th", { scope: "col" }, "Picture"), make("th", { scope: "col" }, "Sex"),
         ...regions.map((region) => make("th", { scope: "col" }, region || "no region")));
     const body = [...subjects].flatMap(([subject, bySex]) => [...bySex].map(([sex, byRegion], i) => make("tr", {},

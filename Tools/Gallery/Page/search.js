@@ -7,7 +7,7 @@ function folded(text) {
 
 // The row with its strings folded, alone and together.
 function prepared(row) {
-    row.haystack ??= folded(row.strings().join("\n\0"));
+    row.haystack ??= folded(row.strings().map((text) => text.replaceAll("\0", "")).join("\n\0"));
     row.folded ??= row.haystack.split("\n\0");
     return row;
 }
@@ -46,7 +46,8 @@ class SearchableList {
 
     narrow(words, status) {
         this.words = words;
-        const found = this.rows.filter((row) => row.accepts(status) && words.every((word) => prepared(row).haystack.includes(word)));
+        const hasWords = (row) => words.every((word) => prepared(row).haystack.includes(word));
+        const found = this.rows.filter((row) => row.accepts(status) && hasWords(row));
         for (const row of found)
             row.explain?.(words);
         if (found.length !== this.shown.length || found.some((row, i) => row !== this.shown[i]))
