@@ -35,7 +35,7 @@ TEST_F(Catalog, KeepsAPlainTextAndMakesAFormattedOneAnew) {
     Host::setPreferredLanguages({"de"});
     Host::setCurrentLocale("de_DE");
     EXPECT_EQ(&Texts::Diet::allDish(), &before);
-    EXPECT_EQ(Texts::ExerciseStraight::ofMaxWeight(1500), "1.500% des Maximalgewichts");
+    EXPECT_EQ(Texts::ExerciseStraight::ofMaxWeight(1500), "1.500\u00a0% des Maximalgewichts");
 }
 
 TEST_F(Catalog, DescribesUntypedArguments) {

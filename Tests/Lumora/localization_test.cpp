@@ -116,7 +116,7 @@ TEST_F(Services, CountYearsAsTheLanguageDoes) {
         {__LINE__, "th", 25, "25 ปี"},
         // Phrases of the tables.
         {__LINE__, "en", 25, "25 years"},
-        {__LINE__, "de", 1, "1 Jahr"},
+        {__LINE__, "de", 22, "22 Jahre"},
         {__LINE__, "ko", 25, "25 년"},
         {__LINE__, "en", 11, "11 years"},
         {__LINE__, "en", -1, "-1 years"},
