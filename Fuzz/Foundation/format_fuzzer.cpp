@@ -1,5 +1,5 @@
 // Formats with a text, a locale and arguments made of the input. Its lines are: the locale, the format, the arguments;
-// a line of eight bytes after '#' is a whole number.
+// a line of eight bytes after '#' is a whole number, after '.' a floating one.
 #include "Foundation/String.h"
 
 #include <cstring>
@@ -15,11 +15,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Foundation::Locale locale{std::string(nextLine())};
     const std::string_view format = nextLine();
     std::vector<Foundation::FormatArgument> arguments;
-    std::size_t longest = 32 + 3 * Foundation::String::largestSize; // a precision's digits, grouped
+    std::size_t longest = 512 + 3 * Foundation::String::largestSize; // a precision's digits, grouped
     while (!rest.empty()) {
         const std::string_view line = nextLine();
-        std::int64_t number = 0;
-        if (line.size() == 1 + sizeof number && line.front() == '#') {
+        std::int64_t integer = 0;
+        double number = 0;
+        if (line.size() == 1 + sizeof integer && line.front() == '#') {
+            std::memcpy(&integer, line.data() + 1, sizeof integer);
+            arguments.emplace_back(integer);
+        } else if (line.size() == 1 + sizeof number && line.front() == '.') {
             std::memcpy(&number, line.data() + 1, sizeof number);
             arguments.emplace_back(number);
         } else {
@@ -30,7 +34,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string text = Foundation::String::format(format, locale, arguments);
     // No digit, separator or padding of any locale has more bytes.
     constexpr std::size_t longestSymbol = 16;
-    if (text.size() > format.size() * longest * longestSymbol)
+    if (text.size() > format.size() * longest * longestSymbol ||
+        text.size() > format.size() + Foundation::String::largestGrowth)
         __builtin_trap();
     if (format.find('%') == std::string_view::npos && text != format)
         __builtin_trap();

@@ -21,12 +21,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(found->begin >= at && found->end >= found->begin + 2 && found->end <= format.size());
         require(format[found->begin] == '%');
         const char last = format[found->end - 1];
-        require(found->kind == Kind::integer ? std::tolower(last) == std::tolower(found->conversion)
-                                             : last == found->conversion);
+        require(std::tolower(last) ==
+                (found->kind == Kind::text && last != '@' ? 's' : std::tolower(found->conversion)));
         require(found->position <= 9999 && found->width.value <= 999999 && found->precision.value <= 999999);
         // What stands between two placeholders begins none.
         require(!StringTables::nextPlaceholder(format.substr(0, found->begin), at));
         at = found->end;
     }
+    require(StringTables::signatureOf(format).arguments.size() <= 9999 + format.size());
     return 0;
 }

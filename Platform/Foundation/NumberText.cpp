@@ -97,15 +97,6 @@ private:
     }
 };
 
-void appendDigits(std::string& out, const NumberPattern& pattern, std::string_view digits) {
-    if (pattern.digits[0] == "0") {
-        out += digits;
-        return;
-    }
-    for (const char digit : digits)
-        out += pattern.digits[static_cast<std::size_t>(digit - '0')];
-}
-
 void appendMagnitude(std::string& out, const NumberPattern& pattern, double magnitude) {
     if (!std::isfinite(magnitude)) {
         out += std::isnan(magnitude) ? pattern.notANumber : pattern.infinity;
@@ -141,6 +132,15 @@ void appendMagnitude(std::string& out, const NumberPattern& pattern, std::uint64
 Kept<NumberPattern> numberPattern(std::string_view locale, NumberStyle style) {
     static constinit std::array<LocaleCache<NumberPattern>, 2> caches;
     return caches[static_cast<std::size_t>(style)].get(locale, [&] { return Intl::numberPattern(locale, style); });
+}
+
+void appendDigits(std::string& out, const NumberPattern& pattern, std::string_view digits) {
+    if (pattern.digits[0] == "0") {
+        out += digits;
+        return;
+    }
+    for (const char digit : digits)
+        out += pattern.digits[static_cast<std::size_t>(digit - '0')];
 }
 
 void appendWhole(std::string& out, const NumberPattern& pattern, std::string_view digits) {

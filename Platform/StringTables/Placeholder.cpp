@@ -18,8 +18,10 @@ public:
         }
         if (next() == '@') // nearly all of them
             return conversion();
-        if (!position())
+        int position = 0;
+        if (!this->position(position))
             return false;
+        out_.position = static_cast<std::uint16_t>(position);
         flags();
         if (!size(out_.width) || (take('.') && !precision()))
             return false;
@@ -47,8 +49,9 @@ private:
         return true;
     }
 
-    // "12$". Digits without the sign are flags and width, to be read again.
-    bool position() noexcept {
+    // "12$" at the front gives 12, and digits without the sign are left where they are. False for a position that is
+    // not from 1 to 9999.
+    bool position(int& out) noexcept {
         const std::size_t begin = at_;
         int number = 0;
         const bool few = digits(4, number);
@@ -58,7 +61,7 @@ private:
             at_ = begin;
             return true;
         }
-        out_.position = static_cast<std::uint16_t>(number);
+        out = number;
         return few && number > 0;
     }
 
@@ -90,16 +93,18 @@ private:
     bool size(Placeholder::Size& out) noexcept {
         using From = Placeholder::Size::From;
         const std::size_t begin = at_;
-        if (take('*'))
+        if (take('*')) {
             out.from = From::argument;
-        else if (!digits(6, out.value))
+            return position(out.value);
+        }
+        if (!digits(6, out.value))
             return false;
-        else if (at_ != begin)
+        if (at_ != begin)
             out.from = From::number;
         return true;
     }
 
-    // Behind its point. A point alone is a precision of zero.
+    // Behind its point. A point alone is a precision of 0.
     bool precision() noexcept {
         if (!size(out_.precision))
             return false;
@@ -114,19 +119,21 @@ private:
         } else if (take('l')) {
             take('l');
         } else {
-            constexpr std::string_view others = "qztjL"; // every whole number travels in 64 bits
+            constexpr std::string_view others = "qztjL"; // arguments have 64 bits
             if (next() != '\0' && others.find(next()) != others.npos)
                 ++at_;
         }
     }
 
     bool conversion() noexcept {
-        constexpr std::string_view known = "@diuxXocDUOC", read = "@diuxXocduoc";
+        constexpr std::string_view known = "@sSdiuxXocDUOCfFeEgGaA", read = "@@@diuxXocduocfFeEgGaA";
         const std::size_t found = next() == '\0' ? known.npos : known.find(next());
         if (found == known.npos)
             return false;
         out_.conversion = read[found];
-        out_.kind = found == 0 ? Placeholder::Kind::text : Placeholder::Kind::integer;
+        out_.kind = found < known.find('d')   ? Placeholder::Kind::text
+                    : found < known.find('f') ? Placeholder::Kind::integer
+                                              : Placeholder::Kind::number;
         out_.end = ++at_;
         return true;
     }
@@ -143,6 +150,34 @@ std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t 
         if (Reader reader(format, at); reader.read())
             return reader.placeholder();
     return std::nullopt;
+}
+
+FormatSignature signatureOf(std::string_view format) {
+    FormatSignature signature;
+    const auto note = [&](std::size_t position, FormatSignature::Kind kind, bool isByPosition) {
+        if (position == 0)
+            return;
+        (isByPosition ? signature.hasPositions : signature.hasOrder) = true;
+        if (signature.arguments.size() < position)
+            signature.arguments.resize(position);
+        std::optional<FormatSignature::Kind>& known = signature.arguments[position - 1];
+        if (!known)
+            known = kind;
+        else if (*known != kind && !signature.conflict)
+            signature.conflict = {position, *known, kind};
+    };
+    ArgumentCounter counter;
+    std::size_t at = 0;
+    while (const auto found = nextPlaceholder(format, at)) {
+        signature.hasLonePercent |= format.substr(at, found->begin - at).find('%') != format.npos;
+        at = found->end;
+        const ArgumentCounter::Taken taken = counter.take(*found);
+        note(taken.width, FormatSignature::Kind::integer, found->width.value != 0);
+        note(taken.precision, FormatSignature::Kind::integer, found->precision.value != 0);
+        note(taken.value, found->kind, found->position != 0);
+    }
+    signature.hasLonePercent |= format.substr(at).find('%') != format.npos;
+    return signature;
 }
 
 } // namespace StringTables

@@ -9,7 +9,9 @@ using StringTables::Placeholder;
 
 std::string size(const Placeholder::Size& size) {
     using From = Placeholder::Size::From;
-    return size.from == From::none ? "" : size.from == From::argument ? "*" : std::to_string(size.value);
+    if (size.from == From::argument)
+        return size.value == 0 ? "*" : "*" + std::to_string(size.value) + "$";
+    return size.from == From::none ? "" : std::to_string(size.value);
 }
 
 // Every placeholder of `format` as "<position$ flags width .precision :bits conversion>", the rest as it stands.
@@ -28,9 +30,9 @@ std::string marked(std::string_view format) {
             out.append(".").append(size(found->precision));
         if (found->bits != 64)
             out.append(":").append(std::to_string(found->bits));
-        const char kinds[] = {'%', '@', 'i'};
-        const char kind = kinds[static_cast<std::size_t>(found->kind)];
-        out.append(kind == 'i' ? "i" : "").append(1, found->conversion).append(">");
+        const bool isInteger = found->kind == Placeholder::Kind::integer;
+        const bool isNumber = found->kind == Placeholder::Kind::number;
+        out.append(isInteger ? "i" : isNumber ? "n" : "").append(1, found->conversion).append(">");
         EXPECT_EQ(format[found->begin], '%');
         EXPECT_GT(found->end, found->begin + 1);
         at = found->end;
@@ -53,6 +55,10 @@ TEST(Placeholder, Finds) {
         {__LINE__, "%1$05d %1$-+ #'7.3ld", "<1$05id> <1$-+ #7.3id>"},
         {__LINE__, "%05d %-5d %5.3d %.2d %.d", "<05id> <-5id> <5.3id> <.2id> <.0id>"},
         {__LINE__, "%*d %.*d %-*.*d", "<*id> <.*id> <-*.*id>"},
+        {__LINE__, "%2$*1$d %3$.*2$@ %*1$d", "<2$*1$id> <3$.*2$@> <*1$id>"},
+        {__LINE__, "%f%F%e%E%g%G%a%A", "<nf><nF><ne><nE><ng><nG><na><nA>"},
+        {__LINE__, "%Lf %lf %1$+08.2f", "<nf> <nf> <1$+08.2nf>"},
+        {__LINE__, "%s %S %ls %-5.2s", "<@> <@> <@> <-5.2@>"},
         {__LINE__, "%10@ %999999d", "<10@> <999999id>"},
         {__LINE__, "%'d", "<id>"},
         {__LINE__, "100% of max", "100< io>f max"},
@@ -64,10 +70,10 @@ TEST(Placeholder, Finds) {
 
 TEST(Placeholder, PassesOverWhatIsNone) {
     for (const char* const format :
-         {"100%", "% ", "%s %p %f %Z", "%0$@", "%10000$@", "%99999999999999999999$@", "%$@", "%1$", "%1", "%l", "%.",
-          "%*", "%1000000d", "%.0000001d", "%hhhd", "%llld", "%*1$d", "%é"})
+         {"100%", "% ", "%p %n %Z", "%0$@", "%10000$@", "%99999999999999999999$@", "%$@", "%1$", "%1", "%l", "%.", "%*",
+          "%1000000d", "%.0000001d", "%hhhd", "%llld", "%*0$d", "%*1", "%é"})
         EXPECT_EQ(marked(format), format);
-    EXPECT_EQ(marked("%s%@"), "%s<@>");
+    EXPECT_EQ(marked("%p%@"), "%p<@>");
     EXPECT_EQ(marked("5% %d"), "5% <id>"); // a percent sign that is not doubled takes no conversion of the next
     EXPECT_EQ(marked("%1$%@"), "%1$<@>");
     EXPECT_EQ(marked(std::string("%\0@%5\0d%@", 9)), std::string("%\0@%5\0d<@>", 10));
@@ -76,6 +82,40 @@ TEST(Placeholder, PassesOverWhatIsNone) {
     const std::string percents(10'000'001, '%'), flags = "%" + std::string(10'000'000, '-');
     EXPECT_EQ(StringTables::nextPlaceholder(percents, 10'000'000), std::nullopt);
     EXPECT_EQ(StringTables::nextPlaceholder(flags, 0), std::nullopt);
+}
+
+TEST(Placeholder, TellsWhatAFormatTakes) {
+    // The kinds as "t i n", '-' for none; then 'p' by position, 'o' in order, '%' a lone percent sign, and the
+    // conflict.
+    const auto described = [](std::string_view format) {
+        const StringTables::FormatSignature signature = StringTables::signatureOf(format);
+        std::string out;
+        const char kinds[] = {'%', 't', 'i', 'n'};
+        const auto letter = [&kinds](Placeholder::Kind kind) { return kinds[static_cast<std::size_t>(kind)]; };
+        for (const auto& kind : signature.arguments)
+            out += kind ? letter(*kind) : '-';
+        out.append(signature.hasPositions ? " p" : "").append(signature.hasOrder ? " o" : "");
+        out += signature.hasLonePercent ? " %" : "";
+        if (const auto& conflict = signature.conflict)
+            ((out += " " + std::to_string(conflict->position)) += letter(conflict->first)) += letter(conflict->later);
+        return out;
+    };
+    const struct {
+        int line;
+        std::string_view format;
+        std::string expected;
+    } cases[] = {
+        {__LINE__, "100%%", ""},
+        {__LINE__, "100% k", " %"},
+        {__LINE__, "100% sure", "t o"},
+        {__LINE__, "%@ %d %.2f %s", "tint o"},
+        {__LINE__, "%3$@ %1$d %1$i", "i-t p"},
+        {__LINE__, "%1$@ %2$d %1$d %2$f", "ti p 1ti"},
+        {__LINE__, "%*.*f %", "iin o %"},
+        {__LINE__, "%2$*1$f %@", "in p o 1it"},
+    };
+    for (const auto& [line, format, expected] : cases)
+        EXPECT_EQ(described(format), expected) << "line " << line;
 }
 
 } // namespace

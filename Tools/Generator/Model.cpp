@@ -66,7 +66,8 @@ private:
         for (const Placeholder::Size& size : {placeholder.width, placeholder.precision})
             if (size.from == Placeholder::Size::From::argument)
                 plain_.push_back(Parameter::integer);
-        const auto parameter = placeholder.kind == Placeholder::Kind::text ? Parameter::described : Parameter::integer;
+        const auto parameter =
+            placeholder.kind == Placeholder::Kind::integer ? Parameter::integer : Parameter::described;
         if (placeholder.position == 0)
             plain_.push_back(parameter);
         else if (positional_.emplace(placeholder.position, parameter).first->second != parameter && disagreeing_ == 0)

@@ -29,33 +29,39 @@ struct TextOptions {
     std::vector<std::string> arguments;
 };
 
-// A whole number where the text is exactly how one is written; "007" and "+1" are texts.
-Foundation::FormatArgument argument(const std::string& text) {
-    std::int64_t number = 0;
-    const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (end.ec == std::errc() && std::to_string(number) == text)
+using StringTables::FormatSignature;
+
+// `text` as what placeholders of a kind print. A number only where the text is exactly how one is written: "007" and
+// "+1" are texts.
+Foundation::FormatArgument argument(const std::string& text, FormatSignature::Kind kind) {
+    const char* const end = text.data() + text.size();
+    std::int64_t integer = 0;
+    double number = 0;
+    if (kind == FormatSignature::Kind::integer && std::from_chars(text.data(), end, integer).ptr == end &&
+        std::to_string(integer) == text)
+        return integer;
+    if (kind == FormatSignature::Kind::number && std::from_chars(text.data(), end, number).ptr == end && !text.empty())
         return number;
     return std::string_view(text);
 }
 
-// How many of `given` arguments no placeholder of the text takes.
-std::ptrdiff_t unused(std::string_view text, std::size_t given) {
-    std::vector<bool> isUsed(given, false);
-    const auto use = [&](std::size_t position) {
-        if (position <= given)
-            isUsed[position - 1] = true;
-    };
-    std::size_t taken = 0, from = 0;
-    while (const auto placeholder = StringTables::nextPlaceholder(text, from)) {
-        from = placeholder->end;
-        if (placeholder->kind == StringTables::Placeholder::Kind::percent)
-            continue;
-        for (const auto& size : {placeholder->width, placeholder->precision})
-            if (size.from == StringTables::Placeholder::Size::From::argument)
-                use(++taken);
-        use(placeholder->position != 0 ? placeholder->position : ++taken);
+std::vector<Foundation::FormatArgument> arguments(const std::vector<std::string>& given,
+                                                  const FormatSignature& signature) {
+    std::vector<Foundation::FormatArgument> made;
+    for (std::size_t i = 0; i < given.size(); ++i) {
+        const auto kind = i < signature.arguments.size() ? signature.arguments[i] : std::nullopt;
+        made.push_back(argument(given[i], kind.value_or(FormatSignature::Kind::text)));
     }
-    return std::ranges::count(isUsed, false);
+    return made;
+}
+
+// How many of `given` arguments no placeholder of the text takes.
+std::size_t unused(const FormatSignature& signature, std::size_t given) {
+    const std::size_t known = std::min(given, signature.arguments.size());
+    const auto used = std::ranges::count_if(signature.arguments.begin(),
+                                            signature.arguments.begin() + static_cast<std::ptrdiff_t>(known),
+                                            [](const auto& kind) { return kind.has_value(); });
+    return given - static_cast<std::size_t>(used);
 }
 
 // Why no table had the key, where a file of the table is there and cannot be read: the library takes it for an empty
@@ -91,17 +97,13 @@ Exit runText(const TextOptions& options) {
         return fail(*damaged);
     if (isMissing)
         note("no table \"" + options.table + "\" of the bundle has this key");
-    // Options behind the key are arguments, too: this tells who did not mean them so.
-    if (const auto left = unused(text, options.arguments.size()); left != 0)
-        note("of the arguments (" + std::to_string(options.arguments.size()) + ") the text does not use " +
-             std::to_string(left));
-    const std::vector<Foundation::FormatArgument> arguments = [&] {
-        std::vector<Foundation::FormatArgument> made;
-        for (const std::string& one : options.arguments)
-            made.push_back(argument(one));
-        return made;
-    }();
-    return print(Foundation::String::format(text, Foundation::Locale::current(), arguments) + "\n");
+    // Options behind the key are arguments, too: this tells users who did not mean that.
+    const FormatSignature signature = StringTables::signatureOf(text);
+    if (const std::size_t left = unused(signature, options.arguments.size()); left != 0)
+        note(std::to_string(left) + " of " + std::to_string(options.arguments.size()) + " arguments unused");
+    return print(
+        Foundation::String::format(text, Foundation::Locale::current(), arguments(options.arguments, signature)) +
+        "\n");
 }
 
 } // namespace

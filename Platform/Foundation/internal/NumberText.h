@@ -15,6 +15,9 @@ namespace Foundation::detail {
 // How the locale of that identifier writes numbers.
 [[nodiscard]] Kept<Intl::NumberPattern> numberPattern(std::string_view locale, Intl::NumberStyle style);
 
+// Appends digits, given in ASCII, in the locale's digits.
+void appendDigits(std::string& out, const Intl::NumberPattern& pattern, std::string_view digits);
+
 // Appends a whole number, given by its digits in ASCII, in the locale's digits and grouping.
 void appendWhole(std::string& out, const Intl::NumberPattern& pattern, std::string_view digits);
 

@@ -1,34 +1,38 @@
 // StringTables/internal/Placeholder.h
-// The printf-style placeholders of a text, found in one place for the formatter that fills them and for the generator
-// that makes parameters of them.
-// Text: any bytes, UTF-8 expected. Threads: any; no state. Never fails, allocates nothing.
+// The printf-style placeholders of a text and the arguments they take: one place for the formatter that fills them and
+// for the generator that makes parameters of them.
+// Text: any bytes, UTF-8 expected. Threads: any; no state.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace StringTables {
 
 struct Placeholder {
-    enum class Kind : std::uint8_t { percent, text, integer }; // "%%", "%@", and the integer conversions
+    // What it prints: nothing but "%%", a text (%@ %s %S), a whole number (%d and its kin, %c), a floating number.
+    enum class Kind : std::uint8_t { percent, text, integer, number };
 
-    // A width or precision: none, a number, or the next argument ("*").
+    // A width or precision: none, the number `value`, or an argument ("*"): the one at position `value` ("*2$"), or the
+    // next one if that is 0.
     struct Size {
         enum class From : std::uint8_t { none, number, argument } from = From::none;
         int value = 0;
     };
 
     Kind kind = Kind::percent;
-    char conversion = '%';      // '@', or one of d i u x X o c (D, U, O read as their lower-case forms)
+    char conversion = '%'; // '%'; '@'; one of d i u x X o c; one of f F e E g G a A. "%s %S" read as '@', D U O C as
+                           // their lower-case forms
     std::uint16_t position = 0; // 1 for "%1$@"; 0 when the placeholder takes the next argument
     bool leftAligned = false;   // '-'
     bool plusSign = false;      // '+'
     bool spaceSign = false;     // ' '
     bool alternative = false;   // '#'
     bool zeroPadded = false;    // '0'
-    std::uint8_t bits = 64;     // of the argument that is looked at: 8 for "hh", 16 for "h", else 64
+    std::uint8_t bits = 64;     // of the whole number that is looked at: 8 for "hh", 16 for "h", else 64
     Size width;
     Size precision;
     std::size_t begin = 0; // of the '%'
@@ -36,8 +40,54 @@ struct Placeholder {
 };
 
 // The first placeholder of `format` that begins at or after `from`: "%%", or % [position$] [flags] [width] [.precision]
-// [length] conversion. A '%' that begins none is passed over as ordinary text: an unknown conversion, the end of the
-// text, a position outside of 1 to 9999, a width or precision of more than six digits.
+// [length] conversion. A '%' that begins none is ordinary text: an unknown conversion, the end of the text, a position
+// outside of 1 to 9999, a width or precision of more than six digits. Never fails, allocates nothing.
 [[nodiscard]] std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t from) noexcept;
+
+// Counts the arguments that the placeholders of one format take, in the order of the format.
+class ArgumentCounter {
+public:
+    // Positions of arguments, from 1 on; 0: none.
+    struct Taken {
+        std::size_t width = 0;
+        std::size_t precision = 0;
+        std::size_t value = 0;
+    };
+    Taken take(const Placeholder& placeholder) noexcept {
+        const std::size_t width = take(placeholder.width), precision = take(placeholder.precision);
+        if (placeholder.kind == Placeholder::Kind::percent)
+            return {width, precision, 0};
+        return {width, precision, placeholder.position != 0 ? placeholder.position : next()};
+    }
+    // The next argument, for a placeholder that is known to be a plain "%@".
+    std::size_t next() noexcept { return ++taken_; }
+
+private:
+    std::size_t take(const Placeholder::Size& size) noexcept {
+        if (size.from != Placeholder::Size::From::argument)
+            return 0;
+        return size.value != 0 ? static_cast<std::size_t>(size.value) : next();
+    }
+
+    std::size_t taken_ = 0;
+};
+
+// All arguments that a format takes.
+struct FormatSignature {
+    using Kind = Placeholder::Kind;
+    // Two placeholders take one argument for different kinds.
+    struct Conflict {
+        std::size_t position; // of the argument, from 1 on
+        Kind first, later;
+    };
+
+    // By position; no value for an argument that no placeholder takes. Of different kinds, the first counts.
+    std::vector<std::optional<Kind>> arguments;
+    std::optional<Conflict> conflict; // the first one
+    bool hasPositions = false;        // placeholders take arguments by position
+    bool hasOrder = false;            // placeholders take the next argument
+    bool hasLonePercent = false;      // a '%' begins no placeholder
+};
+[[nodiscard]] FormatSignature signatureOf(std::string_view format);
 
 } // namespace StringTables

@@ -1,0 +1,199 @@
+#include "Foundation/internal/FormattedNumber.h"
+
+#include "Foundation/Describable.h"
+#include "Foundation/String.h"
+#include "Foundation/internal/NumberText.h"
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <new> // std::bad_alloc
+
+namespace Foundation::detail {
+
+namespace {
+
+using Intl::NumberPattern;
+using StringTables::Placeholder;
+
+// What a placeholder looks at of a whole number: "%hhd" at its lowest 8 bits.
+std::uint64_t truncated(std::int64_t value, unsigned bits) noexcept {
+    return bits == 64 ? static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value) & ((1U << bits) - 1);
+}
+std::int64_t signedTruncated(std::int64_t value, unsigned bits) noexcept {
+    return bits == 8 ? static_cast<std::int8_t>(value) : bits == 16 ? static_cast<std::int16_t>(value) : value;
+}
+
+// The sign that the flags give to a number that is not negative.
+std::string_view flaggedSign(const Placeholder& placeholder, std::string_view plusSign) noexcept {
+    return placeholder.plusSign ? plusSign : placeholder.spaceSign ? " " : "";
+}
+
+void appendPrefix(std::string& out, const Placeholder& placeholder, const NumberPattern& pattern, bool isNegative) {
+    if (isNegative)
+        out += pattern.negativePrefix;
+    else
+        (out += flaggedSign(placeholder, pattern.plusSign)) += pattern.positivePrefix;
+}
+
+// Zeros go here, where the flags ask for them.
+Padding zerosAt(const std::string& out, const Placeholder& placeholder, std::string_view zero) noexcept {
+    if (!placeholder.zeroPadded || placeholder.leftAligned)
+        return std::nullopt;
+    return ZeroPadding{out.size(), zero};
+}
+
+// `digits` with zeros before them up to the precision; precision 0 prints the number 0 without a digit.
+std::string precise(std::string_view digits, std::optional<std::size_t> precision) {
+    if (precision == std::size_t{0} && digits == "0")
+        return {};
+    std::string out;
+    if (precision && *precision > digits.size())
+        out.assign(*precision - digits.size(), '0');
+    return out.append(digits);
+}
+
+// The C library's text of a magnitude, without a sign, in any C locale.
+class LibraryText {
+public:
+    LibraryText(const Conversion& conversion, double magnitude) {
+        std::string format = conversion.placeholder.alternative ? "%#.*" : "%.*";
+        format += conversion.placeholder.conversion;
+        const int precision = conversion.precision ? static_cast<int>(*conversion.precision) : -1;
+        const int size = std::snprintf(buffer_.data(), buffer_.size(), format.c_str(), precision, magnitude);
+        if (size < 0)
+            throw std::bad_alloc(); // the only reason that is left
+        text_ = {buffer_.data(), static_cast<std::size_t>(size)};
+    }
+    std::string_view text() const noexcept { return text_; }
+
+private:
+    static constexpr std::size_t marks = 16; // a point of up to four bytes, an exponent, a NUL
+    std::array<char, std::numeric_limits<double>::max_exponent10 + String::largestSize + marks> buffer_;
+    std::string_view text_;
+};
+
+bool isDigit(char c) noexcept {
+    return c >= '0' && c <= '9';
+}
+
+// The parts of a decimal text. The C locale decides how its decimal separator looks: it is what stands between digits
+// and is no exponent.
+struct DecimalParts {
+    explicit DecimalParts(std::string_view text) {
+        const auto take = [&text](auto belongs) {
+            const auto end = std::ranges::find_if_not(text, belongs);
+            const std::string_view part(text.data(), static_cast<std::size_t>(end - text.begin()));
+            text.remove_prefix(part.size());
+            return part;
+        };
+        whole = take(isDigit);
+        hasSeparator = !take([](char c) { return !isDigit(c) && c != 'e' && c != 'E'; }).empty();
+        fraction = take(isDigit);
+        exponent = text;
+    }
+    std::string_view whole, fraction, exponent; // the exponent with its letter and sign: "e+05"
+    bool hasSeparator = false;
+};
+
+void appendLocalized(std::string& out, const NumberPattern& pattern, const DecimalParts& parts) {
+    if (parts.exponent.empty())
+        appendWhole(out, pattern, parts.whole);
+    else
+        appendDigits(out, pattern, parts.whole);
+    if (parts.hasSeparator)
+        out += pattern.decimalSeparator;
+    appendDigits(out, pattern, parts.fraction);
+    if (parts.exponent.empty())
+        return;
+    out += parts.exponent[0];
+    out += parts.exponent[1] == '-' ? pattern.minusSign : pattern.plusSign;
+    appendDigits(out, pattern, parts.exponent.substr(2));
+}
+
+Padding appendHexadecimal(std::string& out, const Conversion& conversion, double value) {
+    const Placeholder& placeholder = conversion.placeholder;
+    out += std::signbit(value) ? std::string_view("-") : flaggedSign(placeholder, "+");
+    const LibraryText printed(conversion, std::fabs(value));
+    static constexpr std::size_t prefix = 2; // "0x"
+    out += printed.text().substr(0, prefix);
+    const Padding padding = zerosAt(out, placeholder, "0");
+    for (const char c : printed.text().substr(prefix)) {
+        const bool isPrinted = isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F') || c == '+' || c == '-' ||
+                               c == 'p' || c == 'P';
+        if (isPrinted)
+            out += c;
+        else if (!out.ends_with('.')) // the C locale's separator, of any number of bytes
+            out += '.';
+    }
+    return padding;
+}
+
+Padding appendNotFinite(std::string& out, const Placeholder& placeholder, double value) {
+    const bool isUpper = placeholder.conversion >= 'A' && placeholder.conversion <= 'Z';
+    out += std::signbit(value) ? std::string_view("-") : flaggedSign(placeholder, "+");
+    out += std::isnan(value) ? (isUpper ? "NAN" : "nan") : (isUpper ? "INF" : "inf");
+    return std::nullopt;
+}
+
+} // namespace
+
+Padding appendDecimal(std::string& out, const Conversion& conversion, const NumberPattern& pattern,
+                      std::int64_t value) {
+    const Placeholder& placeholder = conversion.placeholder;
+    const std::int64_t looked = placeholder.conversion == 'u' ? 0 : signedTruncated(value, placeholder.bits);
+    const bool isNegative = looked < 0;
+    if (placeholder.conversion == 'u')
+        out += pattern.positivePrefix;
+    else
+        appendPrefix(out, placeholder, pattern, isNegative);
+    const Padding padding = conversion.precision ? std::nullopt : zerosAt(out, placeholder, pattern.digits[0]);
+    const std::uint64_t magnitude = isNegative                      ? -static_cast<std::uint64_t>(looked)
+                                    : placeholder.conversion == 'u' ? truncated(value, placeholder.bits)
+                                                                    : static_cast<std::uint64_t>(looked);
+    std::array<char, scalarTextSize> buffer;
+    const std::string_view digits = unsignedText(magnitude, buffer.data());
+    if (conversion.precision)
+        appendWhole(out, pattern, precise(digits, conversion.precision));
+    else
+        appendWhole(out, pattern, digits);
+    out += isNegative ? pattern.negativeSuffix : pattern.positiveSuffix;
+    return padding;
+}
+
+Padding appendPlain(std::string& out, const Conversion& conversion, std::int64_t value) {
+    const Placeholder& placeholder = conversion.placeholder;
+    const std::uint64_t looked = truncated(value, placeholder.bits);
+    const bool isOctal = placeholder.conversion == 'o';
+    std::array<char, scalarTextSize> buffer;
+    char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), looked, isOctal ? 8 : 16).ptr;
+    if (placeholder.conversion == 'X')
+        std::transform(buffer.data(), end, buffer.data(), [](char c) { return c >= 'a' ? c - 'a' + 'A' : c; });
+    std::string digits = precise({buffer.data(), static_cast<std::size_t>(end - buffer.data())}, conversion.precision);
+    if (placeholder.alternative && isOctal && !digits.starts_with('0'))
+        digits.insert(digits.begin(), '0');
+    else if (placeholder.alternative && !isOctal && looked != 0)
+        out += placeholder.conversion == 'X' ? "0X" : "0x";
+    const Padding padding = conversion.precision ? std::nullopt : zerosAt(out, placeholder, "0");
+    out += digits;
+    return padding;
+}
+
+Padding appendFloating(std::string& out, const Conversion& conversion, const NumberPattern& pattern, double value) {
+    const Placeholder& placeholder = conversion.placeholder;
+    if (!std::isfinite(value))
+        return appendNotFinite(out, placeholder, value);
+    if (placeholder.conversion == 'a' || placeholder.conversion == 'A')
+        return appendHexadecimal(out, conversion, value);
+    const bool isNegative = std::signbit(value);
+    appendPrefix(out, placeholder, pattern, isNegative);
+    const Padding padding = zerosAt(out, placeholder, pattern.digits[0]);
+    const LibraryText printed(conversion, std::fabs(value));
+    appendLocalized(out, pattern, DecimalParts(printed.text()));
+    out += isNegative ? pattern.negativeSuffix : pattern.positiveSuffix;
+    return padding;
+}
+
+} // namespace Foundation::detail
