@@ -31,6 +31,8 @@ public:
     [[nodiscard]] std::string shortId() const;
 
     friend constexpr bool operator==(LocalizationCode, LocalizationCode) noexcept = default;
+    // The raw value.
+    friend std::string describe(LocalizationCode code) { return code.rawValue(); }
 
 private:
     Case case_;

@@ -1,5 +1,6 @@
 #include "Foundation/Describable.h"
 
+#include "StringTables/internal/Unicode.h"
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -52,16 +53,8 @@ std::string_view floatingText(long double value, char* buffer) noexcept {
 
 std::string_view characterText(std::uint32_t codePoint, char* buffer) noexcept {
     const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    const std::uint32_t value = codePoint > 0x10FFFF || isSurrogate ? 0xFFFD : codePoint;
-    if (value < 0x80) {
-        buffer[0] = static_cast<char>(value);
-        return {buffer, 1};
-    }
-    const std::size_t length = value < 0x800 ? 2 : value < 0x10000 ? 3 : 4;
-    for (std::size_t i = 0; i < length; ++i)
-        buffer[i] = static_cast<char>(0x80 | (value >> 6 * (length - 1 - i) & 0x3F));
-    buffer[0] = static_cast<char>(0xF00 >> length | value >> 6 * (length - 1));
-    return {buffer, length};
+    const char32_t code = codePoint > 0x10FFFF || isSurrogate ? U'\uFFFD' : static_cast<char32_t>(codePoint);
+    return {buffer, static_cast<std::size_t>(StringTables::internal::putUtf8(buffer, code) - buffer)};
 }
 
 void appendQuoted(std::string& out, std::string_view text) {

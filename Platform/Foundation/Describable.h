@@ -44,6 +44,10 @@ concept DescribesItself = requires(const T& value) {
     { describe(value) } -> std::convertible_to<std::string>; // found by argument-dependent look-up only
 };
 
+// What std::vector<bool> and std::bitset give for an element.
+template <class T>
+concept BoolProxy = std::is_class_v<T> && std::convertible_to<const T&, bool> && requires(T value) { value.flip(); };
+
 template <class T>
 concept OptionalLike = requires(const T& value) {
     typename T::value_type;
@@ -63,7 +67,7 @@ concept Sequence = requires(const T& value) {
 
 // The description of a value, made from
 // - a text (std::string, std::string_view, const char*; a null pointer is "nil") or a character: itself;
-// - a bool: "true" or "false"; a whole number: its decimal digits;
+// - a bool, or an element of a std::vector<bool>: "true" or "false"; a whole number: its decimal digits;
 // - a floating number: the fewest digits that give the same value back, with a point or an exponent: "2.0", "0.1",
 // "1e+16";
 // - a type with `std::string describe(const T&)` in its namespace: what that returns;
@@ -91,9 +95,12 @@ public:
 private:
     Describable() = default;
 
-    template <class T> void describeValue(const T& value) {
+    template <class Given> void describeValue(const Given& value) {
+        using T = std::remove_cv_t<Given>; // `value` may be volatile
         if constexpr (std::same_as<T, bool>)
             text_ = value ? "true" : "false";
+        else if constexpr (detail::BoolProxy<T> && !detail::DescribesItself<T>)
+            describeValue(static_cast<bool>(value));
         else if constexpr (detail::NarrowCharacter<T>)
             borrow(std::string_view(buffer_, 1)), buffer_[0] = static_cast<char>(value);
         else if constexpr (detail::WideCharacter<T>)

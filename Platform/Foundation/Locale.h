@@ -19,6 +19,8 @@ public:
 
     [[nodiscard]] const std::string& identifier() const noexcept { return identifier_; }
     friend bool operator==(const Locale&, const Locale&) = default;
+    // The identifier.
+    friend std::string describe(const Locale& locale) { return locale.identifier_; }
 
 private:
     std::string identifier_;

@@ -1,5 +1,7 @@
 #include "Foundation/NSNumber.h"
 
+#include "Foundation/Describable.h"
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -38,6 +40,14 @@ std::uint64_t NSNumber::uint64Value() const noexcept {
     if (isFloating())
         return clamped<std::uint64_t>(floating_);
     return isBelowZero() ? 0 : integer_;
+}
+
+std::string describe(const NSNumber& number) {
+    std::array<char, detail::scalarTextSize> buffer;
+    if (number.isFloating())
+        return std::string(detail::floatingText(number.floating_, buffer.data()));
+    return std::string(number.isBelowZero() ? detail::integerText(number.int64Value(), buffer.data())
+                                            : detail::unsignedText(number.integer_, buffer.data()));
 }
 
 double NSNumber::doubleValue() const noexcept {

@@ -6,6 +6,7 @@
 #include "Runtime/Export.h"
 #include <concepts>
 #include <cstdint>
+#include <string>
 #include <type_traits>
 
 namespace Foundation {
@@ -38,6 +39,9 @@ public:
     [[nodiscard]] double doubleValue() const noexcept;
     // Whether the value is other than 0.
     [[nodiscard]] bool boolValue() const noexcept { return isFloating() ? floating_ != 0 : integer_ != 0; }
+
+    // The number as Describable writes it: "5", "2.0".
+    LUMORA_EXPORT friend std::string describe(const NSNumber& number);
 
 private:
     enum class Kind : std::uint8_t { signedInteger, unsignedInteger, floating };

@@ -1,6 +1,9 @@
 #include "Foundation/Describable.h"
 
+#include "Foundation/Locale.h"
+#include "Foundation/NSNumber.h"
 #include <array>
+#include <bitset>
 #include <cmath>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -27,6 +30,11 @@ std::string describe(const Label& /*label*/) {
     return "as described";
 }
 
+enum class Size { small, large };
+std::string describe(Size size) {
+    return size == Size::small ? "small" : "large";
+}
+
 } // namespace Shop
 
 namespace {
@@ -48,6 +56,13 @@ TEST(Describable, TextsAndTruthValuesAreThemselves) {
     EXPECT_EQ(text(""), "");
     EXPECT_EQ(text(null), "nil");
     EXPECT_EQ(text(nullptr), "nil");
+    const volatile bool volatileBool = true;
+    volatile char volatileLetter = 'v';
+    const std::vector<bool> bits = {true, false};
+    std::vector<bool> changing = bits;
+    std::bitset<1> set(1);
+    EXPECT_EQ(text(volatileBool) + text(volatileLetter), "truev");
+    EXPECT_EQ(text(bits[0]) + text(changing[1]) + text(set[0]), "truefalsetrue");
     EXPECT_EQ(text(true), "true");
     EXPECT_EQ(text(false), "false");
     EXPECT_EQ(text('x'), "x");
@@ -120,6 +135,10 @@ TEST(Describable, TypesMayDescribeThemselves) {
     EXPECT_EQ(text(Shop::Price{250}), "250 ct");
     EXPECT_EQ(text(std::vector{Shop::Price{1}, Shop::Price{2}}), "[1 ct, 2 ct]");
     EXPECT_EQ(text(Shop::Label()), "as described");
+    EXPECT_EQ(text(Shop::Size::small) + text(std::vector{Shop::Size::large}), "small[large]");
+    EXPECT_EQ(text(Foundation::Locale("de_AT")), "de_AT");
+    EXPECT_EQ(text(std::vector<Foundation::NSNumber>{5, -7, 2.0, 0.1F, UINT64_MAX, true}),
+              "[5, -7, 2.0, 0.10000000149011612, 18446744073709551615, 1]");
 }
 
 // What has parts of its own type has no end, and a list of wide letters is no text.

@@ -28,6 +28,7 @@ TEST_F(Services, KnowTheApplicationsLanguages) {
     for (const LocalizationCode code : LocalizationCode::allCases()) {
         raw.push_back(code.rawValue());
         EXPECT_EQ(LocalizationCode::fromRawValue(code.rawValue()), code);
+        EXPECT_EQ(Foundation::Describable(code).text(), code.rawValue());
     }
     EXPECT_EQ(raw, rawValues);
     for (const char* other : {"Base", "en-GB", "pt", "RU", "", "ru "})
