@@ -62,7 +62,7 @@ TEST(Model, ReportsFaultsOfPlaceholders) {
     EXPECT_EQ(faultsOf("a = \"%1$@ %d\";"),
               Strings{"error: T.strings:1:1: the text of key \"a\" mixes placeholders with and without a position"});
     EXPECT_EQ(
-        faultsOf("x = y; a = \"%d %f\";"),
+        faultsOf("x = y; a = \"%d %k\";"),
         Strings{"warning: T.strings:1:8: the text of key \"a\" has a % that begins no placeholder; it is printed as it "
                 "stands (write %% if that is meant)"});
 }
