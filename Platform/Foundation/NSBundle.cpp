@@ -101,7 +101,7 @@ struct NSBundle::Contents {
     explicit Contents(std::string bundlePath)
         : bundle(*this), path(std::move(bundlePath)), developmentLocalization(developmentRegion(path)) {
         for (const std::string& name : languageFolders(path))
-            folders.emplace_back(name, path + "/" + name + ".lproj");
+            folders.emplace_back(name, path + "/" + name + ".lproj", name == baseName ? developmentLocalization : name);
         for (const Folder& folder : folders)
             localizations.push_back(folder.name == baseName ? developmentLocalization : folder.name);
         std::ranges::sort(localizations);
@@ -150,8 +150,8 @@ struct NSBundle::Contents {
     }
 
     struct Folder {
-        Folder(std::string folderName, std::string directory)
-            : name(std::move(folderName)), localization(std::move(directory)) {}
+        Folder(std::string folderName, std::string directory, std::string_view language)
+            : name(std::move(folderName)), localization(std::move(directory), language) {}
         std::string name;
         detail::Localization localization;
     };
@@ -211,20 +211,27 @@ const std::vector<std::string>& NSBundle::preferredLocalizations() const {
     return contents_.answers().preferred;
 }
 
-std::string_view NSBundle::localizedText(std::string_view key, std::string_view table) const {
+std::optional<LocalizedFormat> NSBundle::findLocalized(std::string_view key, std::string_view table) const {
     const std::string_view name = table.empty() ? std::string_view("Localizable") : table;
     for (detail::Localization* localization : contents_.answers().chain)
-        if (const auto text = localization->text(key, name))
-            return *text;
-    return key;
+        if (const auto found = localization->find(key, name))
+            return found;
+    return std::nullopt;
+}
+
+LocalizedFormat NSBundle::localizedFormat(std::string_view key, std::string_view table) const {
+    return findLocalized(key, table).value_or(LocalizedFormat(key));
+}
+
+std::string_view NSBundle::localizedText(std::string_view key, std::string_view table) const {
+    return localizedFormat(key, table).text();
 }
 
 std::string NSBundle::localizedStringForKey(std::string_view key, const std::string* value,
                                             std::string_view table) const {
-    const std::string_view text = localizedText(key, table);
-    // A miss is told by identity: a text that reads like its key is a text.
-    const bool isMissing = text.data() == key.data();
-    return std::string(isMissing && value != nullptr && !value->empty() ? std::string_view(*value) : text);
+    if (const auto found = findLocalized(key, table))
+        return std::string(found->text());
+    return value != nullptr && !value->empty() ? *value : std::string(key);
 }
 
 std::optional<std::string> NSBundle::pathForResource(std::string_view name, std::string_view type,

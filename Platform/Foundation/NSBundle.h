@@ -4,6 +4,7 @@
 // takes a lock. Ownership: bundles, and every view and reference they give, live until the process ends.
 #pragma once
 
+#include "Foundation/LocalizedFormat.h"
 #include "Runtime/Export.h"
 #include <optional>
 #include <string>
@@ -38,12 +39,15 @@ public:
     // development language alone when the user reads none. Empty when the bundle has no languages.
     [[nodiscard]] const std::vector<std::string>& preferredLocalizations() const;
 
-    // The text of `key` (exact) in the table `table` of the first preferred localization, then of the development
-    // texts, as a view that lives until the process ends; `key` itself when no table has it. A damaged or missing table
-    // is a table without keys. Each table is read once.
+    // What the bundle has for `key` (exact) in the table `table` (empty: "Localizable"): the entry of the first
+    // preferred localization, else of the development texts, or no value. A plural wins over a text of its
+    // localization. A damaged or missing table is a table without keys. Each table is read once.
+    [[nodiscard]] std::optional<LocalizedFormat> findLocalized(std::string_view key, std::string_view table) const;
+    // The same with `key` itself, as a text, where no table has it.
+    [[nodiscard]] LocalizedFormat localizedFormat(std::string_view key, std::string_view table) const;
+    // The text of localizedFormat(), a view that lives until the process ends, or `key`.
     [[nodiscard]] std::string_view localizedText(std::string_view key, std::string_view table) const;
-    // The same with a text of the caller's for a key that no table has; `value` null: the key. An empty `table` is
-    // "Localizable".
+    // The text as a string; where no table has the key, `value` unless that is null or empty, and else the key.
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, const std::string* value,
                                                     std::string_view table) const;
     // The path of the file NAME.TYPE of one localization ("Base" is one), in `directory` below the localization's

@@ -152,29 +152,33 @@ std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t 
     return std::nullopt;
 }
 
+void FormatSignature::add(std::size_t position, Kind kind, bool isByPosition) {
+    if (position == 0)
+        return;
+    (isByPosition ? hasPositions : hasOrder) = true;
+    if (arguments.size() < position)
+        arguments.resize(position);
+    std::optional<Kind>& known = arguments[position - 1];
+    if (!known)
+        known = kind;
+    else if (*known != kind && !conflict)
+        conflict = {position, *known, kind};
+}
+
+void FormatSignature::add(const Placeholder& placeholder, const ArgumentCounter::Taken& taken) {
+    add(taken.width, Kind::integer, placeholder.width.value != 0);
+    add(taken.precision, Kind::integer, placeholder.precision.value != 0);
+    add(taken.value, placeholder.kind, placeholder.position != 0);
+}
+
 FormatSignature signatureOf(std::string_view format) {
     FormatSignature signature;
-    const auto note = [&](std::size_t position, FormatSignature::Kind kind, bool isByPosition) {
-        if (position == 0)
-            return;
-        (isByPosition ? signature.hasPositions : signature.hasOrder) = true;
-        if (signature.arguments.size() < position)
-            signature.arguments.resize(position);
-        std::optional<FormatSignature::Kind>& known = signature.arguments[position - 1];
-        if (!known)
-            known = kind;
-        else if (*known != kind && !signature.conflict)
-            signature.conflict = {position, *known, kind};
-    };
     ArgumentCounter counter;
     std::size_t at = 0;
     while (const auto found = nextPlaceholder(format, at)) {
         signature.hasLonePercent |= format.substr(at, found->begin - at).find('%') != format.npos;
         at = found->end;
-        const ArgumentCounter::Taken taken = counter.take(*found);
-        note(taken.width, FormatSignature::Kind::integer, found->width.value != 0);
-        note(taken.precision, FormatSignature::Kind::integer, found->precision.value != 0);
-        note(taken.value, found->kind, found->position != 0);
+        signature.add(*found, counter.take(*found));
     }
     signature.hasLonePercent |= format.substr(at).find('%') != format.npos;
     return signature;

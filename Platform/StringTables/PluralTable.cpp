@@ -208,10 +208,10 @@ Runtime::Result<PluralTable> PluralTable::read(std::string bytes, const std::str
     return table;
 }
 
-const PluralFormat* PluralTable::find(std::string_view key) const noexcept {
+const PluralEntry* PluralTable::find(std::string_view key) const noexcept {
     const auto keyOf = [this](std::size_t number) { return std::string_view(entries_[number].key); };
     const auto found = std::ranges::lower_bound(byKey_, key, {}, keyOf);
-    return found != byKey_.end() && keyOf(*found) == key ? &entries_[*found].plural : nullptr;
+    return found != byKey_.end() && keyOf(*found) == key ? &entries_[*found] : nullptr;
 }
 
 } // namespace StringTables

@@ -32,8 +32,8 @@ TEST(PluralTable, HoldsFormatsVariablesAndForms) {
         PluralTable::read(list(dict("left", text("NSStringLocalizedFormatKey", "%#@days@ left") + days)));
     ASSERT_TRUE(table) << table.error().text();
     EXPECT_EQ(notesOf(*table), "");
-    const auto* const plural = table->find("left");
-    ASSERT_NE(plural, nullptr);
+    ASSERT_NE(table->find("left"), nullptr);
+    const StringTables::PluralFormat* const plural = &table->find("left")->plural;
     EXPECT_EQ(plural->format, "%#@days@ left");
     ASSERT_EQ(plural->variables.size(), 1U);
     EXPECT_EQ(plural->variables[0].name, "days");

@@ -91,7 +91,7 @@ namespace {{module}}::{{module}}Strings {
 
 // A text without arguments is formatted as well: its doubled percent signs become single ones.
 std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments) {
-    const std::string_view format = ::{{module}}::{{module}}Resources::bundle().localizedText(key, table);
+    const ::Foundation::LocalizedFormat format = ::{{module}}::{{module}}Resources::bundle().localizedFormat(key, table);
     return ::Foundation::String::format(format, ::Foundation::Locale::current(), arguments);
 }
 

@@ -47,6 +47,10 @@ struct Placeholder {
 // Counts the arguments that the placeholders of one format take, in the order of the format.
 class ArgumentCounter {
 public:
+    constexpr ArgumentCounter() noexcept = default;
+    // The first `taken` arguments are taken.
+    constexpr explicit ArgumentCounter(std::size_t taken) noexcept : taken_(taken) {}
+
     // Positions of arguments, from 1 on; 0: none.
     struct Taken {
         std::size_t width = 0;
@@ -61,6 +65,7 @@ public:
     }
     // The next argument, for a placeholder that is known to be a plain "%@".
     std::size_t next() noexcept { return ++taken_; }
+    std::size_t taken() const noexcept { return taken_; }
 
 private:
     std::size_t take(const Placeholder::Size& size) noexcept {
@@ -87,6 +92,11 @@ struct FormatSignature {
     bool hasPositions = false;        // placeholders take arguments by position
     bool hasOrder = false;            // placeholders take the next argument
     bool hasLonePercent = false;      // a '%' begins no placeholder
+
+    // Adds the arguments that a placeholder takes.
+    void add(const Placeholder& placeholder, const ArgumentCounter::Taken& taken);
+    // Adds that the argument at `position` (0: none) is of that kind.
+    void add(std::size_t position, Kind kind, bool isByPosition);
 };
 [[nodiscard]] FormatSignature signatureOf(std::string_view format);
 

@@ -50,8 +50,8 @@ public:
     [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path);
     static constexpr std::size_t maxTextBytes = std::size_t{64} << 20;
 
-    // The format of `key` (exact), or null. Never fails.
-    [[nodiscard]] const PluralFormat* find(std::string_view key) const noexcept;
+    // The entry of `key` (exact), or null. Never fails.
+    [[nodiscard]] const PluralEntry* find(std::string_view key) const noexcept;
     // Every key once, in the order of the source; the last of equal keys wins.
     [[nodiscard]] std::span<const PluralEntry> entries() const noexcept { return entries_; }
     // What was skipped and why, with its place, in the order of the source.

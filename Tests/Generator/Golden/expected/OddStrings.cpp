@@ -11,7 +11,7 @@ namespace Odd::OddStrings {
 
 // A text without arguments is formatted as well: its doubled percent signs become single ones.
 std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments) {
-    const std::string_view format = ::Odd::OddResources::bundle().localizedText(key, table);
+    const ::Foundation::LocalizedFormat format = ::Odd::OddResources::bundle().localizedFormat(key, table);
     return ::Foundation::String::format(format, ::Foundation::Locale::current(), arguments);
 }
 

@@ -1,0 +1,158 @@
+#include "Foundation/internal/PluralText.h"
+
+#include "Foundation/String.h"
+#include "Intl/internal/PluralRules.h"
+#include "StringTables/internal/PluralPieces.h"
+#include <algorithm>
+#include <cstdint>
+#include <optional>
+
+namespace Foundation::detail {
+
+namespace {
+
+using Intl::PluralCategory;
+using StringTables::Placeholder;
+using StringTables::PluralFormat;
+using StringTables::PluralPiece;
+using StringTables::PluralPieces;
+using StringTables::PluralVariable;
+
+const std::optional<std::string>& formOf(const PluralVariable& variable, PluralCategory category) noexcept {
+    return variable.forms[indexOf(category)];
+}
+
+// The form `other`, or else the last one that there is; empty where there is none.
+std::string_view generalForm(const PluralVariable& variable) noexcept {
+    const auto last =
+        std::find_if(variable.forms.rbegin(), variable.forms.rend(), [](const auto& form) { return form.has_value(); });
+    return last == variable.forms.rend() ? std::string_view() : std::string_view(**last);
+}
+
+// How a form prints its own number: the placeholder without its position. The form `other` decides, because every
+// language has it; a form without its number leaves it to the variable's type.
+std::string numberFormat(const PluralFormat& plural, const PluralVariable& variable) {
+    const std::string_view form = generalForm(variable);
+    PluralPieces pieces(plural, form, variable, 1);
+    while (const auto piece = pieces.next()) {
+        const Placeholder& found = piece->placeholder;
+        if (piece->variable != nullptr || piece->arguments.value != 1 || piece->arguments.width != 0 ||
+            piece->arguments.precision != 0)
+            continue;
+        const std::string_view text = form.substr(found.begin, found.end - found.begin);
+        return std::string("%").append(text.substr(found.position == 0 ? 1 : text.find('$') + 1));
+    }
+    return "%" + variable.valueType;
+}
+
+// Whether all digits of a whole number are printed, and no others.
+bool isPlainInteger(const Placeholder& placeholder) noexcept {
+    return (placeholder.conversion == 'd' || placeholder.conversion == 'i' || placeholder.conversion == 'u') &&
+           placeholder.bits == 64 && placeholder.precision.from == Placeholder::Size::From::none;
+}
+
+// The number as it is printed, in ASCII and without its sign.
+Intl::PluralOperands operandsOf(const PluralFormat& plural, const PluralVariable& variable,
+                                const FormatArgument& argument) {
+    const std::string format = numberFormat(plural, variable);
+    const auto placeholder = StringTables::nextPlaceholder(format, 0);
+    if (argument.kind() == FormatArgument::Kind::integer && placeholder && isPlainInteger(*placeholder)) {
+        const auto value = static_cast<std::uint64_t>(argument.integer());
+        return {.i = placeholder->conversion != 'u' && argument.integer() < 0 ? -value : value};
+    }
+    const std::string printed = String::format(format, Locale("en_US_POSIX"), {&argument, 1});
+    const std::size_t digits = printed.find_first_of("0123456789.");
+    return Intl::pluralOperands(std::string_view(printed).substr(std::min(digits, printed.size())));
+}
+
+// The form for a number, of the language of the table.
+std::string_view chosenForm(const PluralFormat& plural, const PluralVariable& variable, std::string_view language,
+                            const FormatArgument& argument) {
+    const Intl::PluralOperands number = operandsOf(plural, variable, argument);
+    const bool isZero = number.i == 0 && number.t == 0;
+    if (const auto& zero = formOf(variable, PluralCategory::zero); isZero && zero)
+        return *zero;
+    const auto& form = formOf(variable, pluralCategory(language, number));
+    return form ? std::string_view(*form) : generalForm(variable);
+}
+
+// Appends to a format whose placeholders all have positions.
+class Flattener {
+public:
+    // `choose(variable, argument)` returns the form to take for the argument at that position.
+    template <class Choose> static std::string flatten(const PluralFormat& plural, Choose choose) {
+        Flattener flattener(plural);
+        flattener.append(plural.format, PluralPieces(plural), choose);
+        return std::move(flattener.out_);
+    }
+
+private:
+    explicit Flattener(const PluralFormat& plural) : plural_(plural) {}
+
+    template <class Choose> void append(std::string_view text, PluralPieces pieces, Choose& choose) {
+        std::size_t done = 0;
+        while (const auto piece = pieces.next()) {
+            appendLiteral(text.substr(done, piece->placeholder.begin - done));
+            done = piece->placeholder.end;
+            if (piece->variable == nullptr)
+                appendPlaceholder(text.substr(piece->placeholder.begin, done - piece->placeholder.begin), *piece);
+            else if (++variables_ <= mostVariables && out_.size() < longestPlural)
+                appendForm(choose(*piece->variable, piece->arguments.value), *piece, choose);
+        }
+        appendLiteral(text.substr(done));
+    }
+
+    template <class Choose> void appendForm(std::string_view form, const PluralPiece& piece, Choose& choose) {
+        append(form, PluralPieces(plural_, form, *piece.variable, piece.arguments.value), choose);
+    }
+
+    // Every '%' of it is one: what is behind it now may read as a placeholder.
+    void appendLiteral(std::string_view text) {
+        for (const char c : text)
+            out_.append(c == '%' ? 2 : 1, c);
+    }
+
+    void appendPosition(std::size_t position) { out_.append(std::to_string(position)) += '$'; }
+
+    // "%.*f" that takes arguments 2 and 3 becomes "%3$.*2$f".
+    void appendPlaceholder(std::string_view text, const PluralPiece& piece) {
+        if (piece.placeholder.kind == Placeholder::Kind::percent) {
+            out_ += text;
+            return;
+        }
+        out_ += '%';
+        appendPosition(piece.arguments.value);
+        std::size_t at = piece.placeholder.position == 0 ? 1 : text.find('$') + 1;
+        const bool hasWidth = piece.placeholder.width.from == Placeholder::Size::From::argument;
+        for (bool isWidth = hasWidth; at < text.size(); ++at) {
+            out_ += text[at];
+            if (text[at] != '*')
+                continue;
+            appendPosition(std::exchange(isWidth, false) ? piece.arguments.width : piece.arguments.precision);
+            const std::size_t digits = text.find_first_not_of("0123456789", at + 1);
+            if (digits > at + 1 && text[digits] == '$') // replaced by the same position
+                at = digits;
+        }
+    }
+
+    const PluralFormat& plural_;
+    std::string out_;
+    std::size_t variables_ = 0; // replaced so far
+};
+
+} // namespace
+
+std::string chosenFormat(const PluralFormat& plural, std::string_view language,
+                         std::span<const FormatArgument> arguments) {
+    return Flattener::flatten(plural, [&](const PluralVariable& variable, std::size_t position) {
+        const bool isGiven = position >= 1 && position <= arguments.size();
+        return isGiven ? chosenForm(plural, variable, language, arguments[position - 1]) : generalForm(variable);
+    });
+}
+
+std::string generalFormat(const PluralFormat& plural) {
+    return Flattener::flatten(plural,
+                              [](const PluralVariable& variable, std::size_t) { return generalForm(variable); });
+}
+
+} // namespace Foundation::detail

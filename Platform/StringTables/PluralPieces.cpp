@@ -1,0 +1,124 @@
+#include "StringTables/internal/PluralPieces.h"
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace StringTables {
+
+namespace {
+
+constexpr std::string_view variableMark = "#@";
+
+// The name behind a placeholder "%#@" that ends in "@", or an empty text.
+std::string_view nameBehind(std::string_view text, const Placeholder& placeholder) noexcept {
+    const std::string_view read = text.substr(placeholder.begin, placeholder.end - placeholder.begin);
+    const std::size_t end = text.find('@', placeholder.end);
+    if (!read.ends_with(variableMark) || end == text.npos)
+        return {};
+    return text.substr(placeholder.end, end - placeholder.end);
+}
+
+// How many arguments the placeholders of `form` before "%#@NAME@" take; 0 where the form does not name it.
+std::size_t argumentsBefore(std::string_view form, std::string_view name) noexcept {
+    ArgumentCounter counter;
+    std::size_t at = 0;
+    while (const auto placeholder = nextPlaceholder(form, at)) {
+        if (nameBehind(form, *placeholder) == name)
+            return counter.taken();
+        counter.take(*placeholder);
+        at = placeholder->end;
+    }
+    return 0;
+}
+
+bool isText(std::string_view valueType) noexcept {
+    return valueType == "@";
+}
+
+} // namespace
+
+std::optional<PluralPiece> PluralPieces::next() noexcept {
+    const auto placeholder = nextPlaceholder(text_, at_);
+    if (!placeholder)
+        return std::nullopt;
+    PluralPiece piece{.placeholder = *placeholder, .variable = variableAt(*placeholder), .arguments = {}};
+    if (piece.variable != nullptr) {
+        piece.placeholder.end += piece.variable->name.size() + 1;
+        if (variable_ != nullptr && placeholder->position == 0)
+            counter_ = ArgumentCounter(argumentOf(*piece.variable) - 1);
+    } else if (skipsOwn(*placeholder)) {
+        counter_.next();
+    }
+    piece.arguments = counter_.take(*placeholder);
+    at_ = piece.placeholder.end;
+    return piece;
+}
+
+const PluralVariable* PluralPieces::variableAt(const Placeholder& placeholder) const noexcept {
+    const std::string_view name = nameBehind(text_, placeholder);
+    const auto found = std::ranges::find(plural_.variables, name, &PluralVariable::name);
+    return found == plural_.variables.end() || name.empty() ? nullptr : &*found;
+}
+
+// Of a variable that is named in a form without a position.
+std::size_t PluralPieces::argumentOf(const PluralVariable& named) const noexcept {
+    std::size_t most = 0;
+    for (const auto& form : variable_->forms)
+        if (form)
+            most = std::max(most, argumentsBefore(*form, named.name));
+    return std::max(own_ + most, counter_.taken() + 1);
+}
+
+bool PluralPieces::skipsOwn(const Placeholder& placeholder) const noexcept {
+    return variable_ != nullptr && counter_.taken() + 1 == own_ && placeholder.position == 0 &&
+           placeholder.kind == Placeholder::Kind::text && !isText(variable_->valueType);
+}
+
+namespace {
+
+Placeholder::Kind kindOf(const PluralVariable& variable) {
+    const auto read = nextPlaceholder("%" + variable.valueType, 0);
+    return read && read->begin == 0 ? read->kind : Placeholder::Kind::integer;
+}
+
+class SignatureReader {
+public:
+    explicit SignatureReader(const PluralFormat& plural) : plural_(plural) { add(PluralPieces(plural)); }
+    FormatSignature signature;
+
+private:
+    void add(PluralPieces pieces) {
+        while (const auto piece = pieces.next())
+            if (piece->variable == nullptr)
+                signature.add(piece->placeholder, piece->arguments);
+            else
+                add(*piece->variable, *piece);
+    }
+
+    // The forms of a variable that an argument chooses; once, however often it is named.
+    void add(const PluralVariable& variable, const PluralPiece& piece) {
+        const std::size_t argument = piece.arguments.value;
+        signature.add(argument, kindOf(variable), piece.placeholder.position != 0);
+        if (argument > mostArguments || !seen_.emplace(&variable, argument).second)
+            return;
+        for (const auto& form : variable.forms)
+            if (form)
+                add(PluralPieces(plural_, *form, variable, argument));
+    }
+
+    // Variables that name each other may count on without end.
+    static constexpr std::size_t mostArguments = 64;
+
+    const PluralFormat& plural_;
+    std::set<std::pair<const PluralVariable*, std::size_t>> seen_;
+};
+
+} // namespace
+
+FormatSignature signatureOf(const PluralFormat& plural) {
+    return SignatureReader(plural).signature;
+}
+
+} // namespace StringTables

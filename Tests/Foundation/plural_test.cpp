@@ -1,0 +1,170 @@
+// Texts that depend on numbers, as a bundle gives them: which form is chosen, by which argument, and how it is printed.
+#include "Foundation/Host.h"
+#include "Foundation/NSBundle.h"
+#include "Foundation/String.h"
+
+#include "../Support/TemporaryFolder.h"
+#include <gtest/gtest.h>
+
+namespace {
+
+using Foundation::FormatArgument;
+using Foundation::NSBundle;
+namespace Host = Foundation::Host;
+
+std::string text(const std::string& key, const std::string& value) {
+    return "<key>" + key + "</key><string>" + value + "</string>";
+}
+std::string dict(const std::string& key, const std::string& entries) {
+    return "<key>" + key + "</key><dict>" + entries + "</dict>";
+}
+std::string variable(const std::string& name, const std::string& type, const std::string& forms) {
+    return dict(name, text("NSStringFormatSpecTypeKey", "NSStringPluralRuleType") +
+                          text("NSStringFormatValueTypeKey", type) + forms);
+}
+std::string plural(const std::string& key, const std::string& format, const std::string& variables) {
+    return dict(key, text("NSStringLocalizedFormatKey", format) + variables);
+}
+std::string forms(const std::string& one, const std::string& other) {
+    return text("one", one) + text("other", other);
+}
+
+class Plurals : public ::testing::Test {
+protected:
+    ~Plurals() override { Host::reset(); }
+
+    void write(const std::string& language, const std::string& entries) {
+        folder_.write(language + ".lproj/Localizable.stringsdict", "<plist><dict>" + entries + "</dict></plist>");
+    }
+    std::string made(std::string_view key, std::initializer_list<FormatArgument> arguments) {
+        const NSBundle& bundle = NSBundle::bundleWithPath(folder_.path());
+        return Foundation::String::format(bundle.localizedFormat(key, "Localizable"), Foundation::Locale::current(),
+                                          {arguments.begin(), arguments.size()});
+    }
+
+    Support::TemporaryFolder folder_;
+};
+
+TEST_F(Plurals, ChooseFormsByTheRightArgument) {
+    const std::string days = variable("days", "ld", forms("%ld day", "%ld days"));
+    const std::string dirs = variable("dirs", "d", forms("one folder", "%d folders"));
+    write("Base", plural("plain", "%#@days@ left", days) + plural("two", "%#@days@ in %#@dirs@", days + dirs) +
+                      plural("positions", "%2$#@dirs@, %1$#@days@", days + dirs) + plural("skips", "%2$#@days@", days) +
+                      plural("mixed", "%@: %#@days@ of %@", days) + plural("without", "%#@dirs@ of %@", dirs) +
+                      plural("nested", "%#@files@",
+                             variable("files", "d",
+                                      text("zero", "No file in %#@dirs@ by %@") +
+                                          forms("One file in %#@dirs@ by %@", "%d files in %#@dirs@ by %@")) +
+                                 dirs) +
+                      plural("owner", "%#@n@",
+                             variable("n", "d", text("zero", "none of %@") + forms("a %d of %@", "%d of %@"))) +
+                      plural("percent", "%#@n@d %%", variable("n", "d", forms("%d%", "%d%%"))) +
+                      plural("width", "%#@n@", variable("n", "d", forms("[%*d]", "[%-*d|%@]"))) +
+                      plural("unknown", "%#@other@ %#@days@", days) +
+                      plural("itself", "%#@n@", variable("n", "d", forms("one", "%#@n@ %#@n@"))) +
+                      plural("missing", "%#@n@", variable("n", "d", text("few", "%d of few"))));
+    Host::setPreferredLanguages({"en"});
+    Host::setCurrentLocale("en_US");
+    const struct {
+        int line;
+        const char* key;
+        std::vector<FormatArgument> arguments;
+        const char* expected;
+    } cases[] = {
+        {__LINE__, "plain", {1}, "1 day left"},
+        {__LINE__, "plain", {12345}, "12,345 days left"},
+        {__LINE__, "plain", {-1}, "-1 day left"},
+        {__LINE__, "plain", {"1"}, "1 day left"},
+        {__LINE__, "plain", {}, " days left"},
+        {__LINE__, "two", {1, 2}, "1 day in 2 folders"},
+        {__LINE__, "two", {2, 1}, "2 days in one folder"},
+        {__LINE__, "positions", {1, 5}, "5 folders, 1 day"},
+        {__LINE__, "skips", {1, 5}, "5 days"},
+        {__LINE__, "skips", {5, 1}, "1 day"},
+        {__LINE__, "mixed", {"a", 1, "b"}, "a: 1 day of b"},
+        {__LINE__, "without", {1, "b"}, "one folder of b"},
+        {__LINE__, "nested", {2, 1, "me"}, "2 files in one folder by me"},
+        {__LINE__, "nested", {1, 2, "me"}, "One file in 2 folders by me"},
+        {__LINE__, "nested", {0, 2, "me"}, "No file in 2 folders by me"},
+        {__LINE__, "owner", {0, "me"}, "none of me"},
+        {__LINE__, "owner", {1, "me"}, "a 1 of me"},
+        {__LINE__, "percent", {1}, "1%d %"},
+        {__LINE__, "percent", {2}, "2%d %"},
+        {__LINE__, "unknown", {"a", 1}, "aother@ 1 day"},
+        {__LINE__, "missing", {1}, "1 of few"},
+    };
+    for (const auto& [line, key, arguments, expected] : cases)
+        EXPECT_EQ(Foundation::String::format(NSBundle::bundleWithPath(folder_.path()).localizedFormat(key, ""),
+                                             Foundation::Locale::current(), arguments),
+                  expected)
+            << "line " << line;
+    // A variable that names itself ends somewhere.
+    EXPECT_LE(made("itself", {5}).size(), std::size_t{1} << 20);
+}
+
+TEST_F(Plurals, FollowTheLanguageOfTheirTable) {
+    const std::string all =
+        text("one", "%ld one") + text("few", "%ld few") + text("many", "%ld many") + text("other", "%ld other");
+    write("Base", plural("n", "%#@n@", variable("n", "ld", all)) + plural("base", "%#@n@", variable("n", "ld", all)) +
+                      plural("zero", "%#@n@", variable("n", "ld", text("zero", "none") + all)));
+    write("ru", plural("n", "%#@n@", variable("n", "ld", all)) +
+                    plural("zero", "%#@n@", variable("n", "ld", text("zero", "none") + all)));
+    write("ar", plural("n", "%#@n@", variable("n", "ld", all)));
+    Host::setPreferredLanguages({"ru"});
+    Host::setCurrentLocale("de_DE"); // decides how numbers look, not which form they take
+    EXPECT_EQ(made("n", {21}), "21 one");
+    EXPECT_EQ(made("n", {3}), "3 few");
+    EXPECT_EQ(made("n", {1011}), "1.011 many");
+    EXPECT_EQ(made("zero", {0}), "none");
+    EXPECT_EQ(made("base", {21}), "21 other"); // found in the English table
+    Host::setPreferredLanguages({"ar"});
+    EXPECT_EQ(made("n", {2}), "2 other"); // the form that is missing
+    EXPECT_EQ(made("n", {11}), "11 many");
+    EXPECT_EQ(made("zero", {0}), "none");
+}
+
+TEST_F(Plurals, LookAtFloatingNumbersAsPrinted) {
+    write("Base", plural("f", "%#@n@", variable("n", "f", forms("%.1f mile", "%.1f miles"))) +
+                      plural("rounded", "%#@n@", variable("n", "f", forms("%.0f mile", "%.0f miles"))) +
+                      plural("free", "%#@n@", variable("n", "g", forms("a mile", "several miles"))) +
+                      plural("lu", "%#@n@", variable("n", "lu", forms("%lu byte", "%lu bytes"))));
+    write("fr", plural("f", "%#@n@", variable("n", "f", forms("%.1f mille", "%.1f milles"))));
+    Host::setPreferredLanguages({"en"});
+    Host::setCurrentLocale("en_US");
+    EXPECT_EQ(made("f", {1.0}), "1.0 miles");
+    EXPECT_EQ(made("rounded", {1.0}), "1 mile");
+    EXPECT_EQ(made("rounded", {0.9}), "1 mile");
+    EXPECT_EQ(made("free", {1.0}), "a mile");
+    EXPECT_EQ(made("free", {1.5}), "several miles");
+    EXPECT_EQ(made("lu", {std::uint64_t{1}}), "1 byte");
+    EXPECT_EQ(made("lu", {~std::uint64_t{0}}), "18,446,744,073,709,551,615 bytes");
+    Host::setPreferredLanguages({"fr"});
+    Host::setCurrentLocale("fr_FR");
+    EXPECT_EQ(made("f", {1.5}), "1,5 mille");
+    EXPECT_EQ(made("f", {2.0}), "2,0 milles");
+}
+
+TEST_F(Plurals, WinOverTextsOfTheirLanguage) {
+    folder_.write("Base.lproj/Localizable.strings", "n = text; only = \"%ld\"; fallback = text;");
+    folder_.write("de.lproj/Localizable.strings", "fallback = deutsch;");
+    write("Base", plural("n", "%#@n@ left", variable("n", "ld", forms("%ld day", "%ld days"))) +
+                      plural("fallback", "%#@n@", variable("n", "ld", forms("a", "b"))));
+    Host::setPreferredLanguages({"de"});
+    const NSBundle& bundle = NSBundle::bundleWithPath(folder_.path());
+    EXPECT_EQ(bundle.localizedText("n", ""), "%1$ld days left");
+    EXPECT_EQ(bundle.localizedStringForKey("n", nullptr, ""), "%1$ld days left");
+    EXPECT_EQ(made("fallback", {1}), "deutsch");
+    EXPECT_EQ(made("only", {1}), "1");
+    // A key that is itself a view of a table's text.
+    const std::string_view key = bundle.localizedText("only", "");
+    const std::string value = "instead";
+    EXPECT_EQ(bundle.localizedStringForKey(key, &value, ""), "instead");
+}
+
+TEST_F(Plurals, DamagedTablesHaveNoKeys) {
+    folder_.write("Base.lproj/Localizable.stringsdict", "<plist><dict><key>n</key>");
+    folder_.write("Base.lproj/Localizable.strings", "n = text;");
+    EXPECT_EQ(made("n", {1}), "text");
+}
+
+} // namespace
