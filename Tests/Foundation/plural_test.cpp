@@ -11,6 +11,7 @@ namespace {
 using Foundation::FormatArgument;
 using Foundation::NSBundle;
 namespace Host = Foundation::Host;
+using namespace std::string_view_literals;
 
 std::string text(const std::string& key, const std::string& value) {
     return "<key>" + key + "</key><string>" + value + "</string>";
@@ -74,23 +75,23 @@ TEST_F(Plurals, ChooseFormsByTheRightArgument) {
         {__LINE__, "plain", {1}, "1 day left"},
         {__LINE__, "plain", {12345}, "12,345 days left"},
         {__LINE__, "plain", {-1}, "-1 day left"},
-        {__LINE__, "plain", {"1"}, "1 day left"},
+        {__LINE__, "plain", {"1"sv}, "1 day left"},
         {__LINE__, "plain", {}, " days left"},
         {__LINE__, "two", {1, 2}, "1 day in 2 folders"},
         {__LINE__, "two", {2, 1}, "2 days in one folder"},
         {__LINE__, "positions", {1, 5}, "5 folders, 1 day"},
         {__LINE__, "skips", {1, 5}, "5 days"},
         {__LINE__, "skips", {5, 1}, "1 day"},
-        {__LINE__, "mixed", {"a", 1, "b"}, "a: 1 day of b"},
-        {__LINE__, "without", {1, "b"}, "one folder of b"},
-        {__LINE__, "nested", {2, 1, "me"}, "2 files in one folder by me"},
-        {__LINE__, "nested", {1, 2, "me"}, "One file in 2 folders by me"},
-        {__LINE__, "nested", {0, 2, "me"}, "No file in 2 folders by me"},
-        {__LINE__, "owner", {0, "me"}, "none of me"},
-        {__LINE__, "owner", {1, "me"}, "a 1 of me"},
+        {__LINE__, "mixed", {"a"sv, 1, "b"sv}, "a: 1 day of b"},
+        {__LINE__, "without", {1, "b"sv}, "one folder of b"},
+        {__LINE__, "nested", {2, 1, "me"sv}, "2 files in one folder by me"},
+        {__LINE__, "nested", {1, 2, "me"sv}, "One file in 2 folders by me"},
+        {__LINE__, "nested", {0, 2, "me"sv}, "No file in 2 folders by me"},
+        {__LINE__, "owner", {0, "me"sv}, "none of me"},
+        {__LINE__, "owner", {1, "me"sv}, "a 1 of me"},
         {__LINE__, "percent", {1}, "1%d %"},
         {__LINE__, "percent", {2}, "2%d %"},
-        {__LINE__, "unknown", {"a", 1}, "aother@ 1 day"},
+        {__LINE__, "unknown", {"a"sv, 1}, "aother@ 1 day"},
         {__LINE__, "missing", {1}, "1 of few"},
     };
     for (const auto& [line, key, arguments, expected] : cases)

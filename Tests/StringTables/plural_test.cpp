@@ -1,4 +1,5 @@
 // Plural tables in both forms: what they hold, what is skipped and where, damaged ones, and the writer's way back.
+#include "StringTables/internal/PluralPieces.h"
 #include "StringTables/internal/PluralTable.h"
 #include <gtest/gtest.h>
 
@@ -106,6 +107,24 @@ TEST(PluralTable, ErrorsNameTheirPlace) {
         EXPECT_EQ(table.error().text(), error) << "line " << line;
     }
     EXPECT_EQ(PluralTable::read("")->entries().size(), 0U);
+}
+
+TEST(PluralTable, KnowsTheArgumentsOfAllForms) {
+    using Kind = StringTables::Placeholder::Kind;
+    const auto variable = [](const std::string& name, const std::string& type, const std::string& one,
+                             const std::string& other) {
+        return dict(name, rule + text("NSStringFormatValueTypeKey", type) + text("one", one) + text("other", other));
+    };
+    const auto table =
+        PluralTable::read(list(dict("k", text("NSStringLocalizedFormatKey", "%@: %#@files@ %@") +
+                                             variable("files", "lu", "one in %#@size@", "%lu in %#@size@ by %4$@") +
+                                             variable("size", "f", "a byte", "%.1f bytes"))));
+    ASSERT_TRUE(table);
+    const auto signature = signatureOf(table->find("k")->plural);
+    const std::vector<std::optional<Kind>> expected = {Kind::text, Kind::integer, Kind::number, Kind::text};
+    EXPECT_EQ(signature.arguments, expected);
+    ASSERT_TRUE(signature.conflict); // the last "%@" takes the size
+    EXPECT_EQ(signature.conflict->position, 3U);
 }
 
 // One dictionary for all entries: a small file that would be a large table.

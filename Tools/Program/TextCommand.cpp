@@ -7,6 +7,7 @@
 #include "Foundation/String.h"
 #include "Program/OwnBundle.h"
 #include "StringTables/internal/Placeholder.h"
+#include "StringTables/internal/PluralPieces.h"
 #include "StringTables/internal/Table.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -55,6 +56,11 @@ std::vector<Foundation::FormatArgument> arguments(const std::vector<std::string>
     return made;
 }
 
+FormatSignature signatureOf(const Foundation::LocalizedFormat& format) {
+    return format.plural() != nullptr ? StringTables::signatureOf(*format.plural())
+                                      : StringTables::signatureOf(format.text());
+}
+
 // How many of `given` arguments no placeholder of the text takes.
 std::size_t unused(const FormatSignature& signature, std::size_t given) {
     const std::size_t known = std::min(given, signature.arguments.size());
@@ -91,18 +97,18 @@ Exit runText(const TextOptions& options) {
         Foundation::Host::setCurrentLocale(options.locale);
 
     const Foundation::NSBundle& bundle = Foundation::NSBundle::bundleWithPath(options.bundle.empty() ? ownBundle() : options.bundle);
-    const std::string_view text = bundle.localizedText(options.key, options.table);
-    const bool isMissing = text.data() == options.key.data();
-    if (const auto damaged = isMissing ? damage(bundle, options.table) : std::nullopt)
+    const auto found = bundle.findLocalized(options.key, options.table);
+    if (const auto damaged = found ? std::nullopt : damage(bundle, options.table))
         return fail(*damaged);
-    if (isMissing)
+    if (!found)
         note("no table \"" + options.table + "\" of the bundle has this key");
+    const Foundation::LocalizedFormat format = found.value_or(Foundation::LocalizedFormat(options.key));
     // Options behind the key are arguments, too: this tells users who did not mean that.
-    const FormatSignature signature = StringTables::signatureOf(text);
+    const FormatSignature signature = signatureOf(format);
     if (const std::size_t left = unused(signature, options.arguments.size()); left != 0)
         note(std::to_string(left) + " of " + std::to_string(options.arguments.size()) + " arguments unused");
     return print(
-        Foundation::String::format(text, Foundation::Locale::current(), arguments(options.arguments, signature)) +
+        Foundation::String::format(format, Foundation::Locale::current(), arguments(options.arguments, signature)) +
         "\n");
 }
 
