@@ -65,7 +65,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const Source source;
     source.setContents(data, size);
     SourceBundle::Diagnostics diagnostics;
-    for (const SourceBundle::SourceAsset& asset : SourceBundle::sourceAssets(source.path(), diagnostics))
+    const fs::path catalogs[] = {source.path() / "A.xcassets"};
+    for (const SourceBundle::SourceAsset& asset : SourceBundle::sourceAssets(catalogs, diagnostics))
         requireSound(asset);
     for (const SourceBundle::Diagnostic& one : diagnostics.all())
         require(!one.what.message.empty() && one.what.file.starts_with((source.path() / "A.xcassets/").native()));

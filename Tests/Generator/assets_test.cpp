@@ -38,14 +38,14 @@ TEST(AssetConstants, AreNamedByTheRule) {
     for (const auto& one : cases) {
         SourceBundle::Diagnostics diagnostics;
         const auto source = assets({one.asset});
-        const auto constants = Generator::constantsOf(source, diagnostics);
+        const auto constants = Generator::assetTreeOf(source, diagnostics).constants;
         ASSERT_EQ(constants.size(), 1U) << "line " << one.line;
         EXPECT_EQ(constants[0].groups, one.groups) << "line " << one.line;
         EXPECT_EQ(constants[0].name, one.name) << "line " << one.line;
     }
 }
 
-TEST(AssetConstants, ThatCannotBeAreReportedWithBothPaths) {
+TEST(AssetConstants, AreLeftOutWithAReason) {
     const struct {
         int line;
         std::vector<const char*> names;
@@ -53,33 +53,39 @@ TEST(AssetConstants, ThatCannotBeAreReportedWithBothPaths) {
     } cases[] = {
         {__LINE__,
          {"a_b", "a-b"},
-         "Media.xcassets/a-b.imageset: gives the name aB, which Media.xcassets/a_b.imageset gives as well"},
+         "Media.xcassets/a-b.imageset: the asset \"a-b\" has no constant: the name Media::aB belongs to "
+         "Media.xcassets/a_b.imageset"},
         {__LINE__,
          {"Home", "Home/x"},
-         "Media.xcassets/Home.imageset: gives the name Home, which a folder beside it gives as well"},
-        {__LINE__, {"--"}, "Media.xcassets/--.imageset: gives no name: \"--\""},
+         "Media.xcassets/Home/x.imageset: the asset \"Home/x\" has no constant: the name Media::Home belongs to "
+         "Media.xcassets/Home.imageset"},
+        {__LINE__,
+         {"ok", "--"},
+         "Media.xcassets/--.imageset: the asset \"--\" has no constant: its name has no letter or digit"},
     };
     for (const auto& one : cases) {
         SourceBundle::Diagnostics diagnostics;
-        EXPECT_TRUE(
-            Generator::generateAssets(assets(one.names), {.module = "App", .includes = {}}, diagnostics).empty());
-        ASSERT_EQ(diagnostics.all().size(), 1U) << "line " << one.line;
+        const auto source = assets(one.names);
+        const auto tree = Generator::assetTreeOf(source, diagnostics);
+        ASSERT_EQ(tree.constants.size(), 1U) << "line " << one.line;
+        EXPECT_EQ(tree.constants[0].asset, &source[0]) << "line " << one.line;
+        ASSERT_EQ(tree.leftOut.size(), 1U) << "line " << one.line;
+        ASSERT_EQ(diagnostics.count(SourceBundle::Severity::warning), 1U) << "line " << one.line;
         EXPECT_EQ(diagnostics.all()[0].what.text(), one.report) << "line " << one.line;
     }
+    // The folder is no part of the path.
+    SourceBundle::Diagnostics diagnostics;
+    const auto source = assets({"--/x"});
+    EXPECT_EQ(Generator::assetTreeOf(source, diagnostics).constants.at(0).groups, "Media");
 }
 
-TEST(AssetConstants, OfOneNameAreThereInEveryNamespace) {
-    auto source = assets({"x", "x", "x"});
-    source[1].path = "Media.xcassets/F/x.imageset";
-    source[2].catalog = "More";
+TEST(AssetConstants, OfOneNameAreThereInEveryCatalog) {
+    auto source = assets({"x", "x"});
+    source[1].catalog = "More";
     SourceBundle::Diagnostics diagnostics;
-    const auto constants = Generator::constantsOf(source, diagnostics);
+    const auto constants = Generator::assetTreeOf(source, diagnostics).constants;
     ASSERT_EQ(constants.size(), 2U);
     EXPECT_EQ(constants[0].groups + constants[1].groups, "MediaMore");
-    ASSERT_EQ(diagnostics.all().size(), 1U);
-    EXPECT_EQ(diagnostics.all()[0].severity, SourceBundle::Severity::warning);
-    EXPECT_EQ(diagnostics.all()[0].what.text(),
-              "Media.xcassets/F/x.imageset: has the name of Media.xcassets/x.imageset and is left out");
 }
 
 } // namespace

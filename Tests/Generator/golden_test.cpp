@@ -1,8 +1,6 @@
 // A small input of odd names and the output it gives, both committed, so that a review shows what a change does.
-#include "../Support/TemporaryFolder.h"
+#include "../Support/SourceFolder.h"
 #include "Generator/Generator.h"
-#include "SourceBundle/Tables.h"
-#include "Tables.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -20,13 +18,16 @@ std::map<std::string, std::string> golden() {
     return files;
 }
 
-std::map<std::string, std::string> generated(const fs::path& source, const Generator::Options& options) {
+std::map<std::string, std::string> generated(const fs::path& folder, const Generator::Options& options) {
     SourceBundle::Diagnostics diagnostics;
-    const auto tables = SourceBundle::developmentTables(source, diagnostics);
+    const fs::path folders[] = {folder};
+    const auto source = SourceBundle::Source::read(folders, {}, diagnostics);
+    const Generator::Model model = Generator::modelOf(source, options, diagnostics);
     std::map<std::string, std::string> files;
-    for (const auto& file : Generator::generateStrings(tables, options, diagnostics))
+    for (const auto& file : Generator::filesOf(model, options))
         files[file.path] = file.content;
-    EXPECT_EQ(Support::texts(diagnostics), std::vector<std::string>());
+    EXPECT_EQ(diagnostics.count(SourceBundle::Severity::warning), 0U);
+    EXPECT_FALSE(diagnostics.hasErrors());
     return files;
 }
 
@@ -40,9 +41,9 @@ TEST(Golden, IsWhatIsGenerated) {
         EXPECT_EQ(actual.size(), expected.size());
     }
     if (HasFailure())
-        std::puts(
-            "If the change is meant, run and review: lumora-generate Tests/Generator/Golden/input.bundle --module Odd "
-            "-o Tests/Generator/Golden/expected --shards 2 --include Runtime/Class.h");
+        std::puts("If the change is meant, run and review: build/dev/bin/lumora generate "
+                  "Tests/Generator/Golden/input.bundle --module Odd "
+                  "-o Tests/Generator/Golden/expected --shards 2 --include Runtime/Class.h");
 }
 
 std::size_t count(const std::string& text, std::string_view part) {

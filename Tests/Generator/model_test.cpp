@@ -1,7 +1,7 @@
 // What the generator makes of tables, and what it has to say about them.
 #include "Generator/Generator.h"
-#include "Tables.h"
 
+#include "../Support/SourceFolder.h"
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -9,21 +9,35 @@
 namespace {
 
 using Strings = std::vector<std::string>;
-using Support::table;
 
 std::string content(const std::vector<Generator::OutputFile>& files, const std::string& path) {
     const auto found = std::ranges::find(files, std::filesystem::path(path), &Generator::OutputFile::path);
     return found == files.end() ? "no file " + path : found->content;
 }
 
-Strings faultsOf(const std::string& text) {
-    SourceBundle::Diagnostics diagnostics;
-    std::vector<SourceBundle::SourceTable> tables;
-    tables.push_back(table("T", text));
-    const auto files = Generator::generateStrings(tables, {.module = "M", .includes = {}}, diagnostics);
-    EXPECT_EQ(files.empty(), diagnostics.hasErrors());
-    return Support::texts(diagnostics);
-}
+// A source with the development table T, and what the generator makes of it.
+class Tree : public Support::SourceFolder {
+public:
+    explicit Tree(std::string_view text) { write("Base.lproj/T.strings", text); }
+
+    std::vector<Generator::OutputFile> files(Generator::Options options = {.module = "M"}) {
+        const auto source = read();
+        return Generator::filesOf(Generator::modelOf(source, options, diagnostics), options);
+    }
+    // "Group::name" of every accessor of the table, then "- REASON" for each key without one.
+    Strings accessors(Generator::Options options = {.module = "M"}) {
+        Strings all;
+        const auto source = read();
+        const auto model = Generator::modelOf(source, options, diagnostics);
+        for (const auto& table : model.tables) {
+            for (const auto& entry : table.entries)
+                all.push_back(entry.groups + (entry.groups.empty() ? "" : "::") + entry.name);
+            for (const auto& [entry, reason] : table.leftOut)
+                all.push_back("- " + reason);
+        }
+        return all;
+    }
+};
 
 TEST(Model, MakesParametersOfPlaceholders) {
     const std::string described = "const ::Foundation::Describable& ";
@@ -39,69 +53,136 @@ TEST(Model, MakesParametersOfPlaceholders) {
         {__LINE__, "%1$@ %1$@", "std::string key(" + described + "value)"},
         {__LINE__, "%*d", "std::string key(std::int64_t first, std::int64_t second)"},
         {__LINE__, "50% of max", "std::string key(std::int64_t value)"},
+        {__LINE__, "%.1f %s %hhd", "std::string key(double first, " + described + "second, std::int64_t third)"},
     };
     for (const auto& each : cases) {
-        SourceBundle::Diagnostics diagnostics;
-        std::vector<SourceBundle::SourceTable> tables;
-        tables.push_back(table("T", "key = \"" + each.text + "\";"));
-        const auto files = Generator::generateStrings(tables, {.module = "M", .includes = {}}, diagnostics);
-        EXPECT_NE(content(files, "MStrings/T.h").find("LUMORA_EXPORT " + each.declaration + ";"), std::string::npos)
+        const std::string header = content(Tree("key = \"" + each.text + "\";").files(), "MStrings/T.h");
+        EXPECT_NE(header.find("LUMORA_EXPORT " + each.declaration + ";"), std::string::npos)
             << "line " << each.line << ":\n"
-            << content(files, "MStrings/T.h");
+            << header;
     }
 }
 
-TEST(Model, ReportsFaultsOfPlaceholders) {
-    EXPECT_EQ(
-        faultsOf("\n\"a b\" = \"%1$@ %3$d\";"),
-        Strings{
-            "error: T.strings:2:1: the text of key \"a b\" has no placeholder for argument 2 but one for argument 3"});
-    EXPECT_EQ(
-        faultsOf("a = \"%1$@ %1$d\";"),
-        Strings{"error: T.strings:1:1: the text of key \"a\" takes argument 1 both as text and as a whole number"});
-    EXPECT_EQ(faultsOf("a = \"%1$@ %d\";"),
-              Strings{"error: T.strings:1:1: the text of key \"a\" mixes placeholders with and without a position"});
-    EXPECT_EQ(
-        faultsOf("x = y; a = \"%d %k\";"),
-        Strings{"warning: T.strings:1:8: the text of key \"a\" has a % that begins no placeholder; it is printed as it "
-                "stands (write %% if that is meant)"});
+TEST(Model, LeavesOutKeysThatGiveNoAccessor) {
+    const std::string longName(Generator::maxPathLength + 1, 'a');
+    std::string deep;
+    for (std::size_t part = 0; part <= Generator::maxPathParts; ++part)
+        deep += "a.";
+    const struct {
+        int line;
+        std::string table;
+        Strings accessors; // "-" before why there is none
+        const char* place; // of the last one left out
+    } cases[] = {
+        // No name.
+        {__LINE__, "ok = a;\n \"\" = \"\";", {"ok", "- it has no letter or digit to make a name of"}, "2:2"},
+        {__LINE__,
+         "\"...\" = a; \"%%\" = b;",
+         {"- it has no letter or digit to make a name of", "- it has no letter or digit to make a name of"},
+         "1:12"},
+        {__LINE__, "\"settings.second.%@\" = a; \"%%.x\" = b; \"a.-.b\" = c;", {"Settings::second", "x", "A::b"}, ""},
+        // Names of others: the first keeps it.
+        {__LINE__,
+         "\"foo bar\" = a;\n  \"FooBar\" = b;",
+         {"fooBar", "- the name fooBar belongs to key \"foo bar\" (line 1)"},
+         "2:3"},
+        {__LINE__,
+         "\"A.1\" = a;\n\"A.1.b\" = b;",
+         {"A::_1", "- the name A::_1 belongs to key \"A.1\" (line 1)"},
+         "2:1"},
+        {__LINE__,
+         "\"1.b\" = b;\n\"1\" = a;",
+         {"_1::b", "- the name _1 belongs to a group of key \"1.b\" (line 1)"},
+         "2:1"},
+        // One that is left out has no name to keep.
+        {__LINE__,
+         "\"A.1\" = \"%2$@\";\n\"A.1.b\" = b;",
+         {"A::_1::b", "- its text has no placeholder for argument 1 of 2"},
+         "1:1"},
+        // One group may have keys of two spellings, and a group an entry's name in another group.
+        {__LINE__,
+         "\"foo bar.x\" = a; \"FooBar.y\" = b; \"Z.FooBar\" = c;",
+         {"FooBar::x", "FooBar::y", "Z::fooBar"},
+         ""},
+        // Placeholders.
+        {__LINE__, "\"a b\" = \"%1$@ %3$d\";", {"- its text has no placeholder for argument 2 of 3"}, "1:1"},
+        {__LINE__, "a = \"%1$@ %1$d\";", {"- its text takes argument 1 both as text and as a whole number"}, "1:1"},
+        {__LINE__, "a = \"%1$@ %d\";", {"- its text mixes placeholders with and without a position"}, "1:1"},
+        // Limits.
+        {__LINE__, longName + " = a;", {"- its name is longer than 1000 characters"}, "1:1"},
+        {__LINE__, "a = \"%65$@\";", {"- its text takes more than 64 arguments"}, "1:1"},
+        {__LINE__, "\"" + deep + "\" = a;", {"- it has more than 64 parts"}, "1:1"},
+    };
+    for (const auto& one : cases) {
+        Tree tree(one.table);
+        EXPECT_EQ(tree.accessors(), one.accessors) << "line " << one.line;
+        const Strings messages = tree.takeMessages();
+        const auto leftOut = std::ranges::count_if(one.accessors, [](const auto& each) { return each[0] == '-'; });
+        ASSERT_EQ(messages.size(), static_cast<std::size_t>(leftOut)) << "line " << one.line;
+        if (leftOut != 0) {
+            const std::string begin = std::string("warning: Base.lproj/T.strings:") + one.place + ": key \"";
+            EXPECT_TRUE(messages.back().starts_with(begin)) << messages.back();
+            EXPECT_TRUE(messages.back().ends_with(" has no accessor: " + one.accessors.back().substr(2)))
+                << messages.back();
+        }
+    }
 }
 
-TEST(Model, ReportsFaultsOfNames) {
-    EXPECT_EQ(
-        faultsOf("\"foo bar\" = a;\nok = a;\n  \"FooBar\" = b;"),
-        Strings{
-            "error: T.strings:3:3: the entry of key \"FooBar\" (line 3) and the entry of key \"foo bar\" (line 1) have "
-            "one name: fooBar"});
-    EXPECT_EQ(
-        faultsOf("\"A.1\" = a;\n\"A.1.b\" = b;"),
-        Strings{
-            "error: T.strings:2:1: a group of key \"A.1.b\" (line 2) and the entry of key \"A.1\" (line 1) have one "
-            "name: A::_1"});
-    EXPECT_EQ(faultsOf("\"1.b\" = b;\n\"1\" = a;"), Strings{"error: T.strings:2:1: the entry of key \"1\" (line 2) and "
-                                                            "a group of key \"1.b\" (line 1) have one name: _1"});
-    // Every fault of a run is told, those of one entry's name and text together.
-    EXPECT_EQ(faultsOf("\"...\" = a;\n\"%%.x\" = \"%2$@\";"),
-              (Strings{"error: T.strings:1:1: key \"...\" gives no name",
-                       "error: T.strings:2:1: key \"%%.x\" gives no name: \"%%\" holds no letter or digit",
-                       "error: T.strings:2:1: the text of key \"%%.x\" has no placeholder for argument 1 but one for "
-                       "argument 2"}));
-    // One group may have keys of two spellings, and a group an entry's name in another group.
-    EXPECT_EQ(faultsOf("\"foo bar.x\" = a; \"FooBar.y\" = b; \"Z.FooBar\" = c;"), Strings{});
+TEST(Model, NamesTheOtherFileOfAClash) {
+    Tree tree("\"OneName\" = a;");
+    tree.write("en.lproj/T.strings", "x = a;\n\"One name\" = a;");
+    EXPECT_EQ(tree.accessors(), (Strings{"x", "oneName",
+                                         "- the name oneName belongs to key \"One name\" (" +
+                                             (tree / "en.lproj/T.strings").string() + ", line 2)"}));
 }
 
-TEST(Model, ReportsFaultsOfTablesAndOptions) {
+TEST(Model, TakesTheNamesOfANamesFile) {
+    Tree tree("\"Ban %@\" = \"%@\";\nbanUser = a;\nok = b;\nodd = c;");
+    const auto names = tree.write("names", "\"T/Ban %@\" = \"Moderation.banUser\";\n"
+                                           "\"T/banUser\" = \"ok\";\n"
+                                           "\"T/odd\" = \"not a name\";\n"
+                                           "\"T/gone\" = \"gone\";\n");
+    const Generator::Options options{.module = "M", .names = names};
+    // A given name goes before one that a rule makes.
+    EXPECT_EQ(tree.accessors(options),
+              (Strings{"Moderation::banUser", "ok", "odd", "- the name ok belongs to key \"banUser\" (line 2)"}));
+    EXPECT_EQ(tree.takeMessages(),
+              (Strings{"warning: names:3:1: \"not a name\" is not a dotted path of C++ names",
+                       "warning: Base.lproj/T.strings:3:1: key \"ok\" has no accessor: the name ok belongs to key "
+                       "\"banUser\" (line 2)",
+                       "warning: names:4:1: names \"T/gone\", which no table has"}));
+    (void)tree.accessors({.module = "M", .names = tree / "none"});
+    EXPECT_TRUE(tree.diagnostics.hasErrors());
+}
+
+TEST(Model, ReportsWhatElseIsOdd) {
+    Tree tree("x = y; a = \"%d %\";");
+    tree.write("de.lproj/T.strings", "x = y;\nold = a; older = b;");
+    tree.write("fr.lproj/T.strings", "old = y;");
+    tree.write("fr.lproj/U.strings", "more = y;");
+    tree.write("Base.lproj/Odd names.strings", "");
+    tree.write("Base.lproj/OddNames.strings", "k = a;");
+    tree.write("Base.lproj/---.strings", "k = a;");
+    (void)tree.accessors();
+    EXPECT_EQ(
+        tree.takeMessages(),
+        (Strings{"warning: Base.lproj/---.strings: the table has no accessors: its name has no letter or digit",
+                 "warning: Base.lproj/OddNames.strings: the table has no accessors: the name OddNames belongs to "
+                 "Base.lproj/Odd names.strings",
+                 "warning: Base.lproj/T.strings:1:8: the text of key \"a\" has a % that begins no placeholder; it "
+                 "is printed as it is (write %% if that is meant)",
+                 "note: de.lproj/T.strings:2:1: 3 keys are only in translations and have no accessor; the first "
+                 "is \"old\""}));
+}
+
+TEST(Model, ChecksItsOptions) {
     SourceBundle::Diagnostics diagnostics;
-    std::vector<SourceBundle::SourceTable> tables;
-    for (const char* name : {"Odd names", "OddNames", "..."})
-        tables.push_back(table(name, ""));
-    const Generator::Options options{.module = "class", .includes = {"a\"b"}, .shards = 0};
-    EXPECT_TRUE(Generator::generateStrings(tables, options, diagnostics).empty());
-    EXPECT_EQ(Support::texts(diagnostics),
-              (Strings{"error: the module's name is no C++ identifier, or one that C++ keeps for itself: \"class\"",
-                       "error: cannot be included: \"a\"b\"", "error: the accessors are split into 1 to 1000 sources",
-                       "error: OddNames.strings: has one name with Odd names.strings: OddNames",
-                       "error: ....strings: the file's name gives no name to its table"}));
+    Generator::check({.module = "class", .includes = {"a\"b"}, .shards = 0}, diagnostics);
+    Strings messages;
+    for (const auto& [severity, what] : diagnostics.all())
+        messages.push_back(what.text());
+    EXPECT_EQ(messages, (Strings{"the module's name is not a C++ identifier, or is reserved: \"class\"",
+                                 "cannot be included: \"a\"b\"", "the accessors are split into 1 to 1000 sources"}));
 }
 
 TEST(Emitter, SplitsLargeTablesBetweenGroups) {
@@ -111,10 +192,7 @@ TEST(Emitter, SplitsLargeTablesBetweenGroups) {
     for (int group = 0; group < 3; ++group)
         for (int i = 0; i < 80; ++i)
             text << "\"Group" << group << ".e" << i << "\" = a;\n";
-    std::vector<SourceBundle::SourceTable> tables;
-    tables.push_back(table("T", text.str()));
-    SourceBundle::Diagnostics diagnostics;
-    const auto files = Generator::generateStrings(tables, {.module = "M", .includes = {}, .shards = 3}, diagnostics);
+    const auto files = Tree(text.str()).files({.module = "M", .shards = 3});
 
     EXPECT_EQ(content(files, "MStrings/T.h"),
               "// Made from the resources of the module M; do not edit.\n#pragma once\n\n"

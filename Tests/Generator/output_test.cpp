@@ -1,6 +1,6 @@
 #include "Generator/OutputFile.h"
 
-#include "../Support/TemporaryFolder.h"
+#include "../Support/SourceFolder.h"
 #include "Generator/CodeText.h"
 #include "Generator/Generator.h"
 #include <gtest/gtest.h>
@@ -30,12 +30,13 @@ TEST(OutputFile, ReplacesWhatChangedAndRemovesWhatIsStale) {
 }
 
 TEST(GenerateModule, LeavesNothingOfASourceThatHadMore) {
-    const Support::TemporaryFolder folder;
+    Support::SourceFolder folder;
     const auto generate = [&](const char* out) {
-        SourceBundle::Diagnostics diagnostics;
-        EXPECT_TRUE(
-            Generator::generateModule(folder / "source", {.module = "M", .includes = {}}, folder / out, diagnostics));
-        EXPECT_FALSE(diagnostics.hasErrors());
+        const Generator::Options options{.module = "M"};
+        const auto source = folder.read();
+        const Generator::Model model = Generator::modelOf(source, options, folder.diagnostics);
+        EXPECT_TRUE(Generator::writeModule(model, options, folder / out));
+        EXPECT_FALSE(folder.diagnostics.hasErrors());
         return Support::filesBelow(folder / out);
     };
     const fs::path table = folder.write("source/Base.lproj/T.strings", "a = b;");
@@ -46,6 +47,7 @@ TEST(GenerateModule, LeavesNothingOfASourceThatHadMore) {
 
     fs::remove_all(folder / "source/C.xcassets");
     fs::remove(table);
+    folder.write("source/Base.lproj/Other.strings", "");
     folder.write("out/MAsset/ours.h", "// by hand\n");
     auto rest = generate("out");
     EXPECT_EQ(rest.erase("MAsset/ours.h"), 1U);
@@ -54,7 +56,7 @@ TEST(GenerateModule, LeavesNothingOfASourceThatHadMore) {
 
 TEST(CodeText, ShowsWhatCannotBeSeen) {
     EXPECT_EQ(Generator::visibleText("a\n\r\t\"\\é№"), "a\\n\\r\\t\"\\é№");
-    EXPECT_EQ(Generator::visibleText("\u200B\u202E\u00A0\U000E0001\x7F"), "\\u200B\\u202E\\u00A0\\U000E0001\\u007F");
+    EXPECT_EQ(Generator::visibleText("\u200B\u202E\u00A0\U000E0001\x7F"), "\\u{200B}\\u{202E}\\u{A0}\\u{E0001}\\u{7F}");
     EXPECT_EQ(Generator::visibleText("\xFF\xC3\xE2\x82 "), "\\xFF\\xC3\\xE2\\x82 ");
     EXPECT_EQ(Generator::visibleText("日本語", 2), "日本…");
     EXPECT_EQ(Generator::visibleText("日本", 2), "日本");

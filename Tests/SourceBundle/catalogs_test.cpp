@@ -1,4 +1,5 @@
 #include "SourceBundle/Catalogs.h"
+#include "SourceBundle/SourceFiles.h"
 
 #include "../Support/TemporaryFolder.h"
 #include <gtest/gtest.h>
@@ -11,7 +12,10 @@ using SourceBundle::SourceAsset;
 
 class Catalogs : public ::testing::Test {
 protected:
-    std::vector<SourceAsset> read() { return SourceBundle::sourceAssets(folder.path(), diagnostics); }
+    std::vector<SourceAsset> read() {
+        const std::filesystem::path folders[] = {folder.path()};
+        return SourceBundle::sourceAssets(SourceBundle::findFiles(folders, diagnostics).catalogs, diagnostics);
+    }
     // "severity path-below-the-folder[:line:column]: message"
     std::vector<std::string> said() {
         static constexpr const char* words[] = {"note ", "warning ", "error "};

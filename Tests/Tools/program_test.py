@@ -90,9 +90,9 @@ class Program(unittest.TestCase):
                 self.assertEqual(json.loads(run("table", name, input=text.encode())[1]), expected)
         self.assertEqual(run("table", "-", input=b""), (0, b"{}\n", ""))
         self.assertEqual(run("table", "-", input=b"a = b;\na =")[2],
-                         "lumora: standard input:2:4: " + run("table", self.write("cut", "a = b;\na ="))[2].split(":2:4: ")[1])
+                         "standard input:2:4: " + run("table", self.write("cut", "a = b;\na ="))[2].split(":2:4: ")[1])
         status, out, err = run("table", "/dev/zero")
-        self.assertEqual((status, out, err), (2, b"", "lumora: /dev/zero: is larger than 268435456 bytes\n"))
+        self.assertEqual((status, out, err), (2, b"", "/dev/zero: error: is larger than 268435456 bytes\n"))
 
     def test_faults_are_one_line_with_their_place(self):
         for name, text, place in (("unended", '"a" = "b', ":1:7:"), ("escape", '"a" =\n "\\U12";', ":2:"),
@@ -157,7 +157,7 @@ class Program(unittest.TestCase):
                     done = subprocess.run(["sh", "-c", f'exec "$0" "$@" {redirected}', PROGRAM, *arguments],
                                           capture_output=True, text=True, timeout=60)
                     self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1), done.stderr)
-                    self.assertTrue(done.stderr.startswith("lumora: standard output: cannot be written: "), done.stderr)
+                    self.assertTrue(done.stderr.startswith("standard output: error: cannot be written: "), done.stderr)
 
     def test_help_at_every_level(self):
         for arguments in ([], ["text"], ["table"], ["generate"], ["compile"]):
@@ -170,22 +170,38 @@ class Program(unittest.TestCase):
         status, _, err = run("generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree")
         self.assertEqual((status, err), (0, ""))
         self.assertIn("helloName(", (self.folder / "tree/ShopStrings/Words.h").read_text())
-        plurals = self.write("src/Base.lproj/Words.stringsdict", "")
-        self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle"),
-                         (0, b"", f"lumora: warning: {plurals}: is skipped: plural rules are no table of texts\n"))
+        self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle"), (0, b"", ""))
         self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
                          b"Hello, Bo\n")
         # It has no assets, and so no catalog. Without the bundle nobody can know.
         bundle = self.folder / "Shop.bundle"
         self.assertEqual(run("assets", "--bundle", bundle), (0, b"", ""))
         self.assertEqual(run("asset", "send", "--bundle", bundle, "-o", "-"),
-                         (2, b"", "lumora: send: no asset of the bundle has this name\n"))
+                         (2, b"", "send: error: no asset of the bundle has this name\n"))
         for command in (["assets"], ["asset", "send", "-o", "-"]):
-            self.assertEqual(run(*command, "--bundle", self.folder / "none")[2], f"lumora: {self.folder / 'none'}: is no bundle\n")
-        self.write("src/Base.lproj/Words.strings", '"a_b" = "1";\n"a b" = "2";\n')
-        status, _, err = run("generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree")
-        self.assertEqual(status, 2)
-        self.assertIn("Words.strings:2:", err)
+            self.assertEqual(run(*command, "--bundle", self.folder / "none")[2], f"{self.folder / 'none'}: error: is not a bundle\n")
+
+    def test_messages_are_labelled_grouped_and_counted(self):
+        words = self.write("src/Base.lproj/Words.strings", '"a_b" = "1";\n"a b" = "2";\n"x\\n\\U202E" = "3 %";\n')
+        notes = [self.write(f"src/Base.lproj/{name}.xib", "") for name in "ABC"]
+        left_out = "holds no table of texts and is left out"
+        clash = f'{words}:2:1: LEVEL: key "a b" has no accessor: the name ab belongs to key "a_b" (line 1)\n'
+        percent = (f'{words}:3:1: LEVEL: the text of key "x\\n\\u{{202E}}" has a % that begins no placeholder; it is printed as '
+                   "it is (write %% if that is meant)\n")
+        expected = f"{notes[0]}: note: {left_out}\n    also {notes[1]}, {notes[2]}\n{percent}{clash}lumora: COUNT\n"
+        generate = ["generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree"]
+        self.assertEqual(run(*generate), (0, b"", expected.replace("LEVEL", "warning").replace("COUNT", "0 errors, 2 warnings")))
+        self.assertTrue((self.folder / "tree/ShopStrings.h").exists())
+        generate[-1] = self.folder / "strict"
+        self.assertEqual(run(*generate, "--strict"),
+                         (2, b"", expected.replace("LEVEL", "error").replace("COUNT", "2 errors, 0 warnings")))
+        self.assertFalse((self.folder / "strict").exists())
+        names = self.write("names.strings", '"Words/a b" = "Pair.second";')
+        self.assertNotIn("accessor", run(*generate, "--names", names)[2])
+        self.assertIn("namespace Shop::ShopStrings::Words::Pair {", (self.folder / "strict/ShopStrings/Words.h").read_text())
+        # A lone message carries its count: one line for one fault.
+        status, out, err = run("generate", self.folder / "none", "--module", "Shop", "-o", self.folder / "tree")
+        self.assertEqual((status, out, err), (2, b"", f"{self.folder / 'none'}: error: is not a folder of resources (1 error, 0 warnings)\n"))
 
     def versions(self):
         """Two source bundles, "1" and "2", of some size; and what the compiled one says in all its tables."""
@@ -204,7 +220,7 @@ class Program(unittest.TestCase):
                               timeout=60, text=True, restore_signals=False,
                               preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (5000, 5000)))
         self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1), done.stderr)
-        self.assertRegex(done.stderr, r"/Base\.lproj/T\d+\.strings: cannot be written: ")
+        self.assertRegex(done.stderr, r"/Base\.lproj/T\d+\.strings: error: cannot be written: ")
         self.assertEqual(self.versions(), ({"1"}, 20))
         self.assertEqual({path.name for path in self.folder.iterdir()}, {"1", "2", "App.bundle"})
 
@@ -227,10 +243,10 @@ class Program(unittest.TestCase):
 
     def test_gallery(self):
         bundle, page = self.folder / "none.bundle", self.folder / "page.html"
-        self.assertEqual(run("gallery", "--bundle", bundle, "-o", page), (2, b"", f"lumora: {bundle}: is no bundle\n"))
+        self.assertEqual(run("gallery", "--bundle", bundle, "-o", page), (2, b"", f"{bundle}: error: is not a bundle\n"))
         source = self.folder / "Sales"
         broken = self.write("Sales/Base.lproj/T.strings", '"a" = "b";\n"c" = ;')
-        self.assertTrue(run("gallery", source, "-o", page)[2].startswith(f"lumora: {broken}:2:"))
+        self.assertTrue(run("gallery", source, "-o", page)[2].startswith(f"{broken}:2:"))
         self.assertFalse(page.exists())
         broken.write_text('"a" = "b";')
         self.assertEqual(run("gallery", str(source) + "/", "-o", page)[::2], (0, ""))

@@ -118,9 +118,9 @@ void leaveOutTwins(std::vector<SourceAsset>& assets, SourceBundle::Diagnostics& 
 
 } // namespace
 
-Runtime::Result<void> compileAssets(const fs::path& source, const fs::path& out, SourceBundle::Diagnostics& diagnostics,
-                                    const Progress& progress) {
-    std::vector<SourceAsset> sources = SourceBundle::sourceAssets(source, diagnostics);
+Runtime::Result<void> compileAssets(const SourceBundle::Source& source, const fs::path& out,
+                                    SourceBundle::Diagnostics& diagnostics, const Progress& progress) {
+    std::vector<SourceAsset> sources = SourceBundle::sourceAssets(source.catalogs, diagnostics);
     leaveOutTwins(sources, diagnostics);
     std::vector<Asset> assets;
     for (std::size_t done = 0; done < sources.size(); ++done) {

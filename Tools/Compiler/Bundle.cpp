@@ -8,14 +8,27 @@ namespace Compiler {
 
 namespace fs = std::filesystem;
 
-Runtime::Result<void> compileBundle(const fs::path& source, const fs::path& bundle,
-                                    SourceBundle::Diagnostics& diagnostics, const Progress& progress) {
-    if (std::error_code failed; !fs::is_directory(source, failed))
-        return Runtime::Error{.message = "is no folder of resources", .file = source};
+namespace {
+
+bool holds(const fs::path& folder, const fs::path& other) {
+    std::error_code failed;
+    const fs::path inside =
+        fs::weakly_canonical(other, failed).lexically_relative(fs::weakly_canonical(folder, failed));
+    return !inside.empty() && *inside.begin() != "..";
+}
+
+} // namespace
+
+Runtime::Result<void> compileBundle(const SourceBundle::Source& source, std::span<const fs::path> folders,
+                                    const fs::path& bundle, SourceBundle::Diagnostics& diagnostics,
+                                    const Progress& progress) {
+    for (const fs::path& folder : folders)
+        if (holds(bundle, folder))
+            return Runtime::Error{.message = "is or contains the source " + folder.string(), .file = bundle};
     auto staged = StagedFolder::create(bundle);
     if (!staged)
         return std::move(staged.error());
-    if (auto written = compileTables(source, staged->path(), diagnostics, progress); !written)
+    if (auto written = compileTables(source, staged->path(), progress); !written)
         return written;
     if (auto written = compileAssets(source, staged->path(), diagnostics, progress); !written)
         return written;

@@ -6,8 +6,8 @@
 
 namespace Compiler {
 
-// Writes Info.plist and every table of `source` below `out`.
-[[nodiscard]] Runtime::Result<void> compileTables(const std::filesystem::path& source, const std::filesystem::path& out,
-                                                  SourceBundle::Diagnostics& diagnostics, const Progress& progress);
+// Writes Info.plist and every table of `source` below `out`, one file for each table and language.
+[[nodiscard]] Runtime::Result<void> compileTables(const SourceBundle::Source& source, const std::filesystem::path& out,
+                                                  const Progress& progress);
 
 } // namespace Compiler

@@ -119,9 +119,10 @@ std::map<AssetKey, std::string> accessorsOf(const std::vector<Entry>& entries) {
                           .catalog = std::string(entry.catalog()),
                           .name = std::string(entry.name()),
                           .path = {}});
-    SourceBundle::Diagnostics unnamed; // told by the generator
+    SourceBundle::Diagnostics unnamed; // reported by the generator
     std::map<AssetKey, std::string> accessors;
-    for (const Generator::AssetConstant& constant : Generator::constantsOf(assets, unnamed))
+    const Generator::AssetTree tree = Generator::assetTreeOf(assets, unnamed);
+    for (const Generator::AssetConstant& constant : tree.constants)
         accessors.emplace(AssetKey(constant.asset->kind, constant.asset->name), constant.groups + "::" + constant.name);
     return accessors;
 }

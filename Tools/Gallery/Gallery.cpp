@@ -36,10 +36,8 @@ std::string filled(const std::string& resources, const std::string& pictures) {
 
 } // namespace
 
-Runtime::Result<std::string> pageOf(const std::filesystem::path& bundle, const Options& options,
-                                    SourceBundle::Diagnostics& diagnostics) {
-    if (std::error_code failed; !std::filesystem::is_directory(bundle, failed))
-        return Runtime::Error{.message = "is no bundle", .file = bundle};
+Runtime::Result<std::string> pageOf(const SourceBundle::Source& source, const std::filesystem::path& bundle,
+                                    const Options& options) {
     auto assets = assetsOf(bundle);
     if (!assets)
         return std::move(assets.error());
@@ -47,7 +45,7 @@ Runtime::Result<std::string> pageOf(const std::filesystem::path& bundle, const O
     const std::string tree = options.module.empty() ? "" : options.module + "::" + options.module;
     resources["trees"] = {{"texts", tree.empty() ? "" : tree + "Strings::"},
                           {"assets", tree.empty() ? "" : tree + "Asset::"}};
-    resources.update(textsOf(bundle, diagnostics));
+    resources.update(textsOf(source));
     resources["assets"] = std::move(assets->list);
     return filled(embedded(resources), embedded(assets->pictures));
 }

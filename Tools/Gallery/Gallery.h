@@ -5,7 +5,7 @@
 #pragma once
 
 #include "Runtime/internal/Result.h"
-#include "SourceBundle/Diagnostics.h"
+#include "SourceBundle/Source.h"
 #include <filesystem>
 #include <string>
 
@@ -16,10 +16,10 @@ struct Options {
     std::string module; // the namespace that accessors begin with, or empty: they begin with their table or catalog
 };
 
-// The page of the compiled bundle at `bundle`, whole and in need of no other file. A text or asset whose name gives no
-// accessor is shown without one. Damaged tables are errors among `diagnostics`, as when sources are read; the page is
-// made nevertheless. The result is an error when there is no such folder, or its catalog is damaged.
-[[nodiscard]] Runtime::Result<std::string> pageOf(const std::filesystem::path& bundle, const Options& options,
-                                                  SourceBundle::Diagnostics& diagnostics);
+// The page of the texts of `source` and the assets of the compiled bundle at `bundle`, whole and in need of no other
+// file. A text or asset whose name gives no accessor is shown without one. The result is an error when
+// the catalog is damaged.
+[[nodiscard]] Runtime::Result<std::string> pageOf(const SourceBundle::Source& source,
+                                                  const std::filesystem::path& bundle, const Options& options);
 
 } // namespace Gallery

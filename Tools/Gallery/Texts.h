@@ -1,16 +1,14 @@
 // Gallery/Texts.h
-// The texts of a bundle in every language, as the page takes them; internal.
+// The texts of a source in every language, as the page takes them; internal.
 #pragma once
 
-#include "SourceBundle/Diagnostics.h"
-#include <filesystem>
+#include "SourceBundle/Source.h"
 #include <nlohmann/json.hpp>
 
 namespace Gallery {
 
 // { "languages": [CODE], "texts": [{ "table", "key", "accessor", "values" }] }, the development language first, and a
 // value, or null, for each language.
-[[nodiscard]] nlohmann::ordered_json textsOf(const std::filesystem::path& bundle,
-                                             SourceBundle::Diagnostics& diagnostics);
+[[nodiscard]] nlohmann::ordered_json textsOf(const SourceBundle::Source& source);
 
 } // namespace Gallery

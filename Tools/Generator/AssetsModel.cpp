@@ -1,9 +1,8 @@
 #include "Generator/AssetsModel.h"
 
 #include "Generator/CodeText.h"
+#include "Generator/NameClaims.h"
 #include "Generator/Namer.h"
-#include <map>
-#include <set>
 #include <string_view>
 #include <utility>
 
@@ -15,59 +14,52 @@ using SourceBundle::SourceAsset;
 
 namespace {
 
-// The namespaces of an asset: its catalog, then the folders of its name.
-std::string groupsOf(const SourceAsset& asset) {
-    std::string groups = Namer::tableSpelling(asset.catalog);
+// The names of an asset's namespaces, its catalog's first, and its own last.
+std::vector<std::string> pathOf(const SourceAsset& asset) {
+    std::vector<std::string> path{Namer::tableSpelling(asset.catalog)};
     std::string_view name = asset.name;
     for (std::size_t end = name.find('/'); end != std::string_view::npos; end = name.find('/')) {
-        groups.append("::").append(Namer::spelling(Namer::groupName(name.substr(0, end))));
+        path.push_back(Namer::spelling(Namer::groupName(name.substr(0, end))));
         name.remove_prefix(end + 1);
     }
-    return groups;
+    path.push_back(Namer::spelling(Namer::assetName(name)));
+    return path;
 }
 
-// A constant and a folder that provides a namespace may not have one name in C++.
-void refuseNamesOfGroups(const std::vector<AssetConstant>& constants, Diagnostics& diagnostics) {
-    std::set<std::string> groups;
-    for (const AssetConstant& constant : constants)
-        for (std::string group = constant.groups; group.find("::") != std::string::npos;
-             group.resize(group.rfind("::")))
-            groups.insert(group);
-    for (const AssetConstant& constant : constants)
-        if (groups.contains(constant.groups + "::" + constant.name))
-            diagnostics.add(Severity::error,
-                            {.message = "gives the name " + constant.name + ", which a folder beside it gives as well",
-                             .file = constant.asset->path});
+// Why the path can be nobody's, or empty.
+std::string faultOf(const std::vector<std::string>& path) {
+    if (path.front().empty())
+        return "its catalog's name has no letter or digit";
+    if (path.back().empty())
+        return "its name has no letter or digit";
+    return "";
 }
 
 } // namespace
 
-std::vector<AssetConstant> constantsOf(std::span<const SourceAsset> assets, Diagnostics& diagnostics) {
-    std::vector<AssetConstant> constants;
-    std::map<std::pair<std::string, std::string>, const SourceAsset*> taken; // by namespace and name
-    for (const SourceAsset& asset : assets) {
-        AssetConstant constant{.groups = groupsOf(asset), .name = {}, .asset = &asset};
-        constant.name =
-            Namer::spelling(Namer::assetName(std::string_view(asset.name).substr(asset.name.rfind('/') + 1)));
-        if (constant.name.empty()) {
-            diagnostics.add(Severity::error,
-                            {.message = "gives no name: \"" + visibleText(asset.name) + '"', .file = asset.path});
+AssetTree assetTreeOf(std::span<const SourceAsset> assets, Diagnostics& diagnostics) {
+    AssetTree tree;
+    NameClaims names;
+    for (std::size_t number = 0; number < assets.size(); ++number) {
+        const SourceAsset& asset = assets[number];
+        std::vector<std::string> path = pathOf(asset);
+        std::string fault = faultOf(path);
+        std::erase(path, std::string()); // a folder without a name is none
+        if (fault.empty())
+            if (const auto conflict = names.claim(path, number))
+                fault = "the name " + conflict->name + " belongs to " + assets[conflict->owner.number].path.string();
+        if (!fault.empty()) {
+            diagnostics.add(
+                Severity::warning,
+                {.message = "the asset " + quote(asset.name) + " has no constant: " + fault, .file = asset.path});
+            tree.leftOut.push_back({&asset, std::move(fault)});
             continue;
         }
-        const auto [before, isNew] = taken.try_emplace({constant.groups, constant.name}, &asset);
-        if (isNew)
-            constants.push_back(std::move(constant));
-        else if (before->second->kind == asset.kind && before->second->name == asset.name)
-            diagnostics.add(Severity::warning,
-                            {.message = "has the name of " + before->second->path.string() + " and is left out",
-                             .file = asset.path});
-        else
-            diagnostics.add(Severity::error, {.message = "gives the name " + before->first.second + ", which " +
-                                                         before->second->path.string() + " gives as well",
-                                              .file = asset.path});
+        std::string name = std::move(path.back());
+        path.pop_back();
+        tree.constants.push_back({qualified(path), std::move(name), &asset});
     }
-    refuseNamesOfGroups(constants, diagnostics);
-    return constants;
+    return tree;
 }
 
 } // namespace Generator

@@ -1,5 +1,5 @@
 // Generator/AssetsModel.h
-// What the asset catalogs say, as the emitter needs it.
+// The tree of assets, as the emitter needs it.
 // Ownership: the constants point to the assets, which must outlive them. Threads: plain values.
 #pragma once
 
@@ -10,16 +10,25 @@
 
 namespace Generator {
 
-// A constant of the tree.
 struct AssetConstant {
     std::string groups; // the namespaces around it, outermost first: "Images::Icons"
     std::string name;   // in C++
     const SourceBundle::SourceAsset* asset;
 };
 
-// A constant for every asset, in the assets' order; one for those of one namespace, kind and name. Assets with a fault
-// among `diagnostics` are left out.
-[[nodiscard]] std::vector<AssetConstant> constantsOf(std::span<const SourceBundle::SourceAsset> assets,
-                                                     SourceBundle::Diagnostics& diagnostics);
+// An asset without a constant.
+struct LeftOutAsset {
+    const SourceBundle::SourceAsset* asset;
+    std::string reason;
+};
+
+struct AssetTree {
+    std::vector<AssetConstant> constants; // in the assets' order
+    std::vector<LeftOutAsset> leftOut;    // likewise
+};
+
+// An asset that can have no constant is a warning; the first asset of a clash keeps the name.
+[[nodiscard]] AssetTree assetTreeOf(std::span<const SourceBundle::SourceAsset> assets,
+                                    SourceBundle::Diagnostics& diagnostics);
 
 } // namespace Generator

@@ -38,7 +38,7 @@ std::string visibleCharacter(std::string_view bytes) {
     case '\t':
         return "\\t";
     default:
-        return printed(c > 0xFFFF ? "\\U%08X" : "\\u%04X", static_cast<unsigned>(c));
+        return printed("\\u{%X}", static_cast<unsigned>(c));
     }
 }
 
@@ -54,6 +54,10 @@ std::string visibleText(std::string_view text, std::size_t limit) {
         text.remove_prefix(character.size());
     }
     return visible;
+}
+
+std::string quote(std::string_view text) {
+    return '"' + visibleText(text) + '"';
 }
 
 std::string literal(std::string_view bytes) {

@@ -1,5 +1,5 @@
 // Generator/CodeText.h
-// Texts of any content as they may stand in C++ code; internal.
+// Texts of any content, made fit for messages and for C++ code.
 // Text: UTF-8, any bytes. Threads: any; no state.
 #pragma once
 
@@ -9,9 +9,12 @@
 
 namespace Generator {
 
-// On one line and with nothing invisible in it, for a reader of comments and messages: "\n", "\t", "\u200B", "\xFF"
-// stand for what cannot be seen. Longer than `limit` characters, it is cut and ends in "…".
+// On one line and with nothing invisible in it, for comments and messages: "\n", "\t", "\u{200B}", "\xFF"
+// replace what cannot be seen. Longer than `limit` characters, it is cut and ends in "…".
 [[nodiscard]] std::string visibleText(std::string_view text, std::size_t limit = 100);
+
+// The same in quotation marks.
+[[nodiscard]] std::string quote(std::string_view text);
 
 // A string literal of exactly these bytes, quotation marks included, on one line.
 [[nodiscard]] std::string literal(std::string_view bytes);

@@ -1,63 +1,79 @@
 #include "Generator/Generator.h"
 
 #include "Generator/AssetsEmitter.h"
-#include "Generator/AssetsModel.h"
 #include "Generator/CodeText.h"
-#include "Generator/Model.h"
 #include "Generator/Namer.h"
 #include "Generator/StringsEmitter.h"
 #include <algorithm>
 #include <iterator>
+#include <set>
 
 namespace Generator {
 
 using SourceBundle::Diagnostics;
+using SourceBundle::LanguageTexts;
 using SourceBundle::Severity;
+using SourceBundle::Source;
+using SourceBundle::SourceEntry;
+using SourceBundle::SourceTable;
 
 namespace {
 
-void check(const Options& options, Diagnostics& diagnostics) {
-    if (!Namer::isModuleName(options.module))
-        diagnostics.add(Severity::error,
-                        {.message = "the module's name is no C++ identifier, or one that C++ keeps for itself: \"" +
-                                    visibleText(options.module) + '"',
-                         .file = {}});
-    for (const std::string& header : options.includes)
-        if (header.find_first_of("\"\\\n\r") != std::string::npos)
-            diagnostics.add(Severity::error,
-                            {.message = "cannot be included: \"" + visibleText(header) + '"', .file = {}});
-    if (options.shards == 0 || options.shards > maxShards)
-        diagnostics.add(
-            Severity::error,
-            {.message = "the accessors are split into 1 to " + std::to_string(maxShards) + " sources", .file = {}});
+void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
+    std::size_t count = 0;
+    const SourceEntry* first = nullptr;
+    for (const SourceTable& table : source.tables) {
+        std::set<std::string_view> keys;
+        const LanguageTexts* own = table.find(source.developmentLanguage);
+        const LanguageTexts* base = table.find(SourceBundle::baseLanguage);
+        for (const LanguageTexts& texts : table.languages)
+            for (const SourceEntry& entry : texts.entries())
+                if ((own == nullptr || own->find(entry.key) == nullptr) &&
+                    (base == nullptr || base->find(entry.key) == nullptr) && keys.insert(entry.key).second)
+                    first = first == nullptr ? &entry : first;
+        count += keys.size();
+    }
+    if (first != nullptr)
+        diagnostics.add(Severity::note, first->error(std::to_string(count) +
+                                                     " keys are only in translations and have no accessor; the first "
+                                                     "is " +
+                                                     quote(first->key)));
 }
 
 } // namespace
 
-std::vector<OutputFile> generateStrings(const std::vector<SourceBundle::SourceTable>& tables, const Options& options,
-                                        Diagnostics& diagnostics) {
-    check(options, diagnostics);
-    const std::vector<CatalogTable> catalog = catalogOf(tables, diagnostics);
-    return diagnostics.hasErrors() ? std::vector<OutputFile>() : emitStrings(catalog, options);
+void check(const Options& options, Diagnostics& diagnostics) {
+    const auto fail = [&](std::string message) { diagnostics.add(Severity::error, {.message = std::move(message)}); };
+    if (!Namer::isModuleName(options.module))
+        fail("the module's name is not a C++ identifier, or is reserved: " + quote(options.module));
+    for (const std::string& header : options.includes)
+        if (header.find_first_of("\"\\\n\r") != std::string::npos)
+            fail("cannot be included: " + quote(header));
+    if (options.shards == 0 || options.shards > maxShards)
+        fail("the accessors are split into 1 to " + std::to_string(maxShards) + " sources");
 }
 
-std::vector<OutputFile> generateAssets(const std::vector<SourceBundle::SourceAsset>& assets, const Options& options,
-                                       Diagnostics& diagnostics) {
-    const std::vector<AssetConstant> constants = constantsOf(assets, diagnostics);
-    return constants.empty() || diagnostics.hasErrors() ? std::vector<OutputFile>() : emitAssets(constants, options);
+Model modelOf(const Source& source, const Options& options, Diagnostics& diagnostics) {
+    Model model;
+    NamesFile names = options.names.empty() ? NamesFile() : NamesFile::read(options.names, diagnostics);
+    model.tables = catalogOf(source, names, diagnostics);
+    reportTranslatedOnly(source, diagnostics);
+    model.assets = SourceBundle::sourceAssets(source.catalogs, diagnostics);
+    model.assetTree = assetTreeOf(model.assets, diagnostics);
+    return model;
 }
 
-Runtime::Result<void> generateModule(const std::filesystem::path& source, const Options& options,
-                                     const std::filesystem::path& folder, Diagnostics& diagnostics) {
-    const auto tables = SourceBundle::developmentTables(source, diagnostics);
-    std::vector<OutputFile> files = generateStrings(tables, options, diagnostics);
-    const auto assets = SourceBundle::sourceAssets(source, diagnostics);
-    std::ranges::move(generateAssets(assets, options, diagnostics), std::back_inserter(files));
-    if (diagnostics.hasErrors())
-        return {};
+std::vector<OutputFile> filesOf(const Model& model, const Options& options) {
+    std::vector<OutputFile> files = emitStrings(model.tables, options);
+    if (!model.assetTree.constants.empty())
+        std::ranges::move(emitAssets(model.assetTree.constants, options), std::back_inserter(files));
+    return files;
+}
+
+Runtime::Result<void> writeModule(const Model& model, const Options& options, const std::filesystem::path& folder) {
     // With the last table or catalog of a source, nothing new is made in these.
     const std::filesystem::path texts = options.module + "Strings", constants = options.module + "Asset";
-    return writeFiles(folder, files, {texts, texts / "Internal", constants, constants / "Internal"});
+    return writeFiles(folder, filesOf(model, options), {texts, texts / "Internal", constants, constants / "Internal"});
 }
 
 } // namespace Generator

@@ -1,13 +1,16 @@
 // Generator/Generator.h
-// The typed trees of a source bundle as C++: an accessor for every text, a constant for every asset.
-// Text: UTF-8. Threads: any; no state. The same tables and options give the same bytes.
+// The typed trees of a source as C++: an accessor for every text, a constant for every asset.
+// Text: UTF-8. Threads: any; no state. The same source and options give the same bytes.
 #pragma once
 
+#include "Generator/AssetsModel.h"
+#include "Generator/Model.h"
 #include "Generator/OutputFile.h"
 #include "SourceBundle/Catalogs.h"
 #include "SourceBundle/Diagnostics.h"
-#include "SourceBundle/Tables.h"
+#include "SourceBundle/Source.h"
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -17,25 +20,32 @@ inline constexpr std::size_t maxShards = 1000;
 
 struct Options {
     std::string module; // a C++ identifier: the namespace of the tree, and what its files' names begin with
-    std::vector<std::string> includes; // headers of hand-made members, included by the tree's own header
-    std::size_t shards = 1;            // how many sources the accessors are split into; 1 to maxShards
+    std::vector<std::string> includes{}; // headers of hand-made members, included by the tree's own header
+    std::size_t shards = 1;              // how many sources the accessors are split into; 1 to maxShards
+    std::filesystem::path names{};       // see NamesFile; empty: none
 };
 
+// What both trees have, and what they leave out. Points into its source.
+struct Model {
+    std::vector<CatalogTable> tables;
+    std::vector<SourceBundle::SourceAsset> assets;
+    AssetTree assetTree; // of these assets
+};
+
+// Everything that is left out is a warning. Keys that only translations have are one note.
+[[nodiscard]] Model modelOf(const SourceBundle::Source& source, const Options& options,
+                            SourceBundle::Diagnostics& diagnostics);
+
 // The files of the tree of texts: NAMEStrings.h and what it includes, the sources NAMEStrings.cpp and NAMEStrings-1.cpp
-// to NAMEStrings-SHARDS.cpp, and NAMEResources.h and .cpp. Every fault of the tables is reported; no files when one is
-// an error, whoever reported it.
-[[nodiscard]] std::vector<OutputFile> generateStrings(const std::vector<SourceBundle::SourceTable>& tables,
-                                                      const Options& options, SourceBundle::Diagnostics& diagnostics);
+// to NAMEStrings-SHARDS.cpp, and NAMEResources.h and .cpp; and those of the tree of assets, if there are assets:
+// NAMEAsset.h and what it includes, and NAMEAsset.cpp.
+[[nodiscard]] std::vector<OutputFile> filesOf(const Model& model, const Options& options);
 
-// The files of the tree of assets: NAMEAsset.h and what it includes, and NAMEAsset.cpp, which needs NAMEResources.h
-// beside it. Every fault is reported; no files when one is an error, whoever reported it, or when there are no assets.
-[[nodiscard]] std::vector<OutputFile> generateAssets(const std::vector<SourceBundle::SourceAsset>& assets,
-                                                     const Options& options, SourceBundle::Diagnostics& diagnostics);
+// Errors where the options are not what their comments say.
+void check(const Options& options, SourceBundle::Diagnostics& diagnostics);
 
-// Both trees of the source bundle at `source`, written into `folder`. What is wrong in the sources goes to
-// `diagnostics`; after an error among them nothing is written. The result tells of the file system's failures.
-[[nodiscard]] Runtime::Result<void> generateModule(const std::filesystem::path& source, const Options& options,
-                                                   const std::filesystem::path& folder,
-                                                   SourceBundle::Diagnostics& diagnostics);
+// Writes the files into `folder` and removes those of an earlier run that are no longer made.
+[[nodiscard]] Runtime::Result<void> writeModule(const Model& model, const Options& options,
+                                                const std::filesystem::path& folder);
 
 } // namespace Generator

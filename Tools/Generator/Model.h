@@ -1,37 +1,45 @@
 // Generator/Model.h
-// What the tables say, as the emitters need it: every entry with its place in the tree, its name in C++ and its
-// parameters. Ownership: keys and texts are views of the tables, which must outlive the model. Threads: plain values.
+// The tree of texts, as the emitters need it: every accessor with its place, its name in C++ and its parameters.
+// Ownership: entries point into the source, which must outlive the model. Threads: plain values.
 #pragma once
 
+#include "Generator/NamesFile.h"
+#include "Generator/Parameters.h"
 #include "SourceBundle/Diagnostics.h"
-#include "SourceBundle/Tables.h"
-#include <span>
+#include "SourceBundle/Source.h"
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace Generator {
 
-enum class Parameter { described, integer };
-
 struct CatalogEntry {
-    std::string
-        groups; // the namespaces around it, outermost first, below the table's: "Settings::Profile"; empty at the root
+    const SourceBundle::SourceEntry* source;
+    std::string groups; // the namespaces around it below the table's, outermost first: "Settings::Profile"
     std::string name;
-    std::string_view key;
-    std::string_view text;             // in the development language
     std::vector<Parameter> parameters; // none: a plain entry
 };
 
-struct CatalogTable {
-    std::string_view name;             // as it is looked up
-    std::string spelling;              // its namespace
-    std::vector<CatalogEntry> entries; // in the table's order
+// A key without an accessor.
+struct LeftOutEntry {
+    const SourceBundle::SourceEntry* source;
+    std::string reason;
 };
 
-// Neighbours of one name are one table: of a key in both the first one's text counts. Tables and entries with a fault
-// among `diagnostics` are left out.
-[[nodiscard]] std::vector<CatalogTable> catalogOf(std::span<const SourceBundle::SourceTable> tables,
+struct CatalogTable {
+    std::string name;                  // as it is looked up
+    std::string spelling;              // its namespace; empty: it has none, and no accessors
+    std::vector<CatalogEntry> entries; // in the order of the development texts
+    std::vector<LeftOutEntry> leftOut; // likewise
+};
+
+// A longer path, or one of more parts, has no accessor.
+inline constexpr std::size_t maxPathLength = 1000;
+inline constexpr std::size_t maxPathParts = 64;
+
+// The tables that have development texts, by name. A key that can have no accessor is a warning; a clash leaves the
+// name to the key that is first, unless `names` gives it to another. A table whose file's name gives no name to a
+// namespace, or that of another table, is left out with a warning.
+[[nodiscard]] std::vector<CatalogTable> catalogOf(const SourceBundle::Source& source, NamesFile& names,
                                                   SourceBundle::Diagnostics& diagnostics);
 
 } // namespace Generator

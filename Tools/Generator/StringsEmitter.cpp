@@ -35,11 +35,22 @@ std::string parameterName(std::size_t index, std::size_t count) {
     return index < ordinals.size() ? ordinals[index] : "argument" + std::to_string(index + 1);
 }
 
+const char* typeOf(Parameter parameter) {
+    switch (parameter) {
+    case Parameter::text:
+        return "const ::Foundation::Describable& ";
+    case Parameter::integer:
+        return "std::int64_t ";
+    case Parameter::number:
+        return "double ";
+    }
+    return "";
+}
+
 std::vector<std::string> parameters(const CatalogEntry& entry) {
     std::vector<std::string> all;
     for (const Parameter parameter : entry.parameters)
-        all.push_back((parameter == Parameter::integer ? "std::int64_t " : "const ::Foundation::Describable& ") +
-                      parameterName(all.size(), entry.parameters.size()));
+        all.push_back(typeOf(parameter) + parameterName(all.size(), entry.parameters.size()));
     return all;
 }
 
@@ -47,13 +58,13 @@ std::vector<std::string> arguments(const CatalogEntry& entry) {
     std::vector<std::string> all;
     for (const Parameter parameter : entry.parameters)
         all.push_back(parameterName(all.size(), entry.parameters.size()) +
-                      (parameter == Parameter::integer ? "" : ".text()"));
+                      (parameter == Parameter::text ? ".text()" : ""));
     return all;
 }
 
 void declare(CodeWriter& code, const CatalogEntry& entry) {
-    const std::string key = "// \"" + visibleText(entry.key) + "\" =";
-    const std::string text = " \"" + visibleText(entry.text) + '"';
+    const std::string key = "// \"" + visibleText(entry.source->key) + "\" =";
+    const std::string text = " \"" + visibleText(entry.source->text) + '"';
     code.add(
         "{{key}}{{break}}{{text}}",
         {{"key", key}, {"break", key.size() + text.size() > CodeWriter::maxWidth ? "\n//    " : ""}, {"text", text}});
@@ -130,7 +141,8 @@ std::string umbrella(std::span<const CatalogTable> catalog, const Options& optio
     CodeWriter code(options.module);
     code.add("#pragma once\n");
     for (const CatalogTable& table : catalog)
-        code.add("#include \"{{module}}Strings/{{table}}.h\"", {{"table", table.spelling}});
+        if (!table.spelling.empty())
+            code.add("#include \"{{module}}Strings/{{table}}.h\"", {{"table", table.spelling}});
     for (const std::string& header : options.includes)
         code.add("#include \"{{header}}\"", {{"header", header}});
     return code.take();
@@ -153,7 +165,7 @@ public:
                 if (placed.entry->parameters.empty() == plain) {
                     const auto table = std::ranges::find(tables_, placed.table, &Table::first);
                     places_.push_back('{' + std::to_string(table->second) + ", " + std::to_string(size_) + '}');
-                    add(placed.entry->key);
+                    add(placed.entry->source->key);
                 }
         places_.push_back("{0, " + std::to_string(size_) + '}');
     }
@@ -233,7 +245,8 @@ std::string filled(std::string_view pattern, const Options& options) {
 std::vector<OutputFile> emitStrings(std::span<const CatalogTable> catalog, const Options& options) {
     std::vector<OutputFile> files;
     for (const CatalogTable& table : catalog)
-        emitHeaders(table, options, files);
+        if (!table.spelling.empty())
+            emitHeaders(table, options, files);
     files.push_back({options.module + "Strings.h", umbrella(catalog, options)});
     files.push_back({options.module + "Strings/Internal/Catalog.h", filled(catalogHeader, options)});
     files.push_back({options.module + "Strings.cpp", filled(lookupSource, options)});

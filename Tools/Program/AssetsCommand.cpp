@@ -2,6 +2,7 @@
 #include "Program/Command.h"
 
 #include "AssetCatalog/internal/Catalog.h"
+#include "Generator/CodeText.h"
 #include "Program/OwnBundle.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -35,7 +36,7 @@ Runtime::Result<std::optional<Catalog>> openCatalog(const std::string& bundle) {
     const std::string folder = bundle.empty() ? ownBundle() : bundle;
     std::error_code failed;
     if (!std::filesystem::is_directory(folder, failed))
-        return Runtime::Error{.message = "is no bundle", .file = folder};
+        return Runtime::Error{.message = "is not a bundle", .file = folder};
     auto catalog = Catalog::open(folder + "/" + std::string(AssetCatalog::fileName));
     if (catalog)
         return std::optional(*std::move(catalog));
@@ -54,7 +55,9 @@ Exit listAssets(const AssetOptions& options) {
     for (std::size_t i = 0; catalog && i < catalog->size(); ++i) {
         const Entry entry = (*catalog)[i];
         std::string line = kinds[static_cast<std::size_t>(entry.kind())];
-        line.append("\t").append(entry.catalog()).append("\t").append(entry.name()).append("\n");
+        for (const std::string_view name : {entry.catalog(), entry.name()})
+            line.append("\t").append(Generator::visibleText(name, std::string::npos));
+        line += '\n';
         lines.push_back(std::move(line));
     }
     std::ranges::sort(lines);

@@ -1,13 +1,15 @@
 #include "Program/Command.h"
 
+#include "Generator/CodeText.h"
 #include "Runtime/internal/File.h"
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <span>
 #include <string>
 #include <unistd.h>
+#include <unordered_map>
 
 namespace Tools {
 
@@ -16,27 +18,87 @@ namespace {
 using SourceBundle::Severity;
 
 bool isTerminal() {
-    static const bool answer = ::isatty(STDERR_FILENO) == 1;
-    return answer;
+    static const bool is = ::isatty(STDERR_FILENO) == 1;
+    return is;
 }
 
-// One line is one line, whatever a file's name or a text holds.
-std::string withoutControls(std::string_view text) {
-    std::string line(text);
-    std::ranges::replace_if(
-        line, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, '?');
-    return line;
+constexpr Severity severities[] = {Severity::note, Severity::warning, Severity::error};
+
+const char* wordFor(Severity severity) {
+    switch (severity) {
+    case Severity::note:
+        return "note";
+    case Severity::warning:
+        return "warning";
+    case Severity::error:
+        return "error";
+    }
+    return "";
 }
 
-void say(Severity severity, std::string_view what) {
-    static constexpr const char* words[] = {"note: ", "warning: ", ""};
-    static constexpr const char* colors[] = {"\033[36m", "\033[33m", "\033[31m"};
-    const auto index = static_cast<std::size_t>(severity);
-    std::string line = isTerminal() ? std::string("\r\033[K") + colors[index] + "lumora:\033[0m " : "lumora: ";
-    line.append(words[index]);
-    line += withoutControls(what);
-    line += '\n';
+const char* colorFor(Severity severity) {
+    switch (severity) {
+    case Severity::note:
+        return "\033[36m";
+    case Severity::warning:
+        return "\033[33m";
+    case Severity::error:
+        return "\033[31m";
+    }
+    return "";
+}
+
+void writeLine(std::string_view text) {
+    std::string line = isTerminal() ? "\r\033[K" : "";
+    line.append(text).append("\n");
     std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+// "FILE:LINE:COLUMN", or the program's name.
+std::string placeOf(const Runtime::Error& what) {
+    std::string place = what.text();
+    place.resize(place.size() - what.message.size());
+    if (place.ends_with(": "))
+        place.resize(place.size() - 2);
+    return place.empty() ? "lumora" : Generator::visibleText(place, std::string::npos);
+}
+
+void say(Severity severity, const Runtime::Error& what, std::string_view behind = {}) {
+    const std::string label = std::string(wordFor(severity)) + ":";
+    std::string line = placeOf(what) + ": ";
+    line += isTerminal() ? colorFor(severity) + label + "\033[0m" : label;
+    line.append(" ").append(Generator::visibleText(what.message, std::string::npos)).append(behind);
+    writeLine(line);
+}
+
+// One message and all places that it is about.
+using Group = std::vector<const Runtime::Error*>;
+
+std::vector<Group> grouped(const SourceBundle::Diagnostics& diagnostics, Severity severity) {
+    std::vector<Group> groups;
+    std::unordered_map<std::string_view, std::size_t> numbers;
+    for (const SourceBundle::Diagnostic& diagnostic : diagnostics.all()) {
+        if (diagnostic.severity != severity)
+            continue;
+        const auto [found, isNew] = numbers.try_emplace(diagnostic.what.message, groups.size());
+        if (isNew)
+            groups.emplace_back();
+        groups[found->second].push_back(&diagnostic.what);
+    }
+    return groups;
+}
+
+void say(Severity severity, const Group& group) {
+    say(severity, *group.front());
+    std::string others;
+    for (const Runtime::Error* what : std::span(group).subspan(1))
+        others.append(others.empty() ? "    also " : ", ").append(placeOf(*what));
+    if (!others.empty())
+        writeLine(others);
+}
+
+std::string counted(std::size_t count, const char* word) {
+    return std::to_string(count) + ' ' + word + (count == 1 ? "" : "s");
 }
 
 } // namespace
@@ -46,17 +108,30 @@ CLI::Validator named() {
 }
 
 Exit fail(const Runtime::Error& error) {
-    say(Severity::error, error.text());
+    say(Severity::error, error);
     return Exit::wrongUse;
 }
 
-void note(std::string_view what) {
+void note(const Runtime::Error& what) {
     say(Severity::note, what);
 }
 
+void note(std::string_view what) {
+    note(Runtime::Error{.message = std::string(what)});
+}
+
 Exit report(const SourceBundle::Diagnostics& diagnostics) {
-    for (const SourceBundle::Diagnostic& diagnostic : diagnostics.all())
-        say(diagnostic.severity, diagnostic.what.text());
+    const auto& all = diagnostics.all();
+    const std::string count = counted(diagnostics.count(Severity::error), "error") + ", " +
+                              counted(diagnostics.count(Severity::warning), "warning");
+    if (all.size() == 1) {
+        say(all.front().severity, all.front().what, " (" + count + ")");
+    } else if (!all.empty()) {
+        for (const Severity severity : severities)
+            for (const Group& group : grouped(diagnostics, severity))
+                say(severity, group);
+        writeLine("lumora: " + count);
+    }
     return diagnostics.hasErrors() ? Exit::wrongUse : Exit::done;
 }
 

@@ -29,10 +29,13 @@ void addCompileCommand(CLI::App& program, Exit& exit);
 void addAssetCommands(CLI::App& program, Exit& exit);
 void addGalleryCommand(CLI::App& program, Exit& exit);
 
-// One line on standard error, "lumora: WHAT", in colour on a terminal.
+// Messages go to standard error, a line each: "FILE:LINE:COLUMN: error: WHAT" with the parts that are known, or
+// "lumora: error: WHAT" where there is no file; in colour on a terminal. What cannot be seen is escaped.
 Exit fail(const Runtime::Error& error);
+void note(const Runtime::Error& what);
 void note(std::string_view what);
-// Every diagnostic on a line of its own; Exit::wrongUse if an error is among them.
+// Every diagnostic, the errors last, equal messages together, and a line that counts them; a lone one carries its count
+// itself. Exit::wrongUse if an error is among them.
 Exit report(const SourceBundle::Diagnostics& diagnostics);
 // A line that is written over by the next, on a terminal only; `done` of `all` equal takes it away.
 void showProgress(std::string_view what, std::size_t done, std::size_t all);

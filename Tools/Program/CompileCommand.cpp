@@ -1,8 +1,9 @@
-// lumora compile: a source bundle made into the one that ships.
+// lumora compile: a source made into the bundle that ships.
 #include "Program/Command.h"
 #include "Program/Depfile.h"
 
 #include "Compiler/Bundle.h"
+#include "Program/SourceArguments.h"
 #include <CLI/CLI.hpp>
 #include <memory>
 
@@ -11,20 +12,24 @@ namespace Tools {
 namespace {
 
 struct CompileOptions {
-    std::string source;
+    SourceArguments source;
     std::string output;
+    bool isStrict = false;
     Depfile depfile;
 };
 
 Exit runCompile(const CompileOptions& options) {
     SourceBundle::Diagnostics diagnostics;
-    const auto done = Compiler::compileBundle(options.source, options.output, diagnostics, showProgress);
+    if (options.isStrict)
+        diagnostics.beStrict();
+    const SourceBundle::Source source = options.source.read(diagnostics);
+    auto done = Compiler::compileBundle(source, options.source.paths(), options.output, diagnostics, showProgress);
     showProgress("", 0, 0);
-    const Exit reported = report(diagnostics);
     if (!done)
-        return fail(done.error());
-    const auto noted = options.depfile.write({options.source});
-    return noted ? reported : fail(noted.error());
+        diagnostics.add(SourceBundle::Severity::error, std::move(done.error()));
+    else if (auto noted = options.depfile.write(options.source.inputs()); !noted)
+        diagnostics.add(SourceBundle::Severity::error, std::move(noted.error()));
+    return report(diagnostics);
 }
 
 } // namespace
@@ -33,10 +38,10 @@ void addCompileCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<CompileOptions>();
     CLI::App* command =
         program.add_subcommand("compile", "Make the bundle that ships: binary tables, compiled assets.");
-    command->add_option("SOURCE", options->source, "The source bundle: a folder of *.lproj and *.xcassets")
-        ->required()
-        ->check(named());
+    options->source.addTo(*command)->required();
     command->add_option("-o,--output", options->output, "The bundle to make, NAME.bundle")->required()->check(named());
+    options->source.addNamesTo(*command); // for callers that give both commands the same: names are not in a bundle
+    command->add_flag("--strict", options->isStrict, "Warnings are errors");
     options->depfile.addOptions(*command);
     command->callback([options, &exit] { exit = runCompile(*options); });
 }

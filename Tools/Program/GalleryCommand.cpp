@@ -4,12 +4,12 @@
 #include "Compiler/Bundle.h"
 #include "Gallery/Gallery.h"
 #include "Program/OwnBundle.h"
+#include "Program/SourceArguments.h"
 #include <CLI/CLI.hpp>
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <system_error>
 
 namespace Tools {
@@ -19,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 struct GalleryOptions {
-    std::string source;
+    SourceArguments source;
     std::string bundle;
     std::string module;
     std::string output;
@@ -57,14 +57,10 @@ fs::path nameOf(const fs::path& folder) {
     return whole.has_filename() ? whole.filename() : whole.parent_path().filename();
 }
 
-Exit writePage(const GalleryOptions& options, const fs::path& bundle, const Gallery::Options& page) {
-    SourceBundle::Diagnostics diagnostics;
-    const auto made = Gallery::pageOf(bundle, page, diagnostics);
-    const Exit reported = report(diagnostics);
-    if (!made)
-        return fail(made.error());
-    const Exit written = write(options.output, *made);
-    return written == Exit::done ? reported : written;
+Exit writePage(const GalleryOptions& options, const SourceBundle::Source& source, const fs::path& bundle,
+               const std::string& title) {
+    const auto page = Gallery::pageOf(source, bundle, {.title = title, .module = options.module});
+    return page ? write(options.output, *page) : fail(page.error());
 }
 
 // Shows what a compile makes of the source.
@@ -74,21 +70,29 @@ Exit showSource(const GalleryOptions& options) {
         return fail(folder.error());
     const fs::path bundle = folder->path() / "Gallery.bundle";
     SourceBundle::Diagnostics diagnostics;
-    const auto compiled = Compiler::compileBundle(options.source, bundle, diagnostics, showProgress);
+    const SourceBundle::Source source = options.source.read(diagnostics);
+    auto compiled = Compiler::compileBundle(source, options.source.paths(), bundle, diagnostics, showProgress);
     showProgress("", 0, 0);
-    const Exit reported = report(diagnostics);
     if (!compiled)
-        return fail(compiled.error());
-    if (reported != Exit::done)
+        diagnostics.add(SourceBundle::Severity::error, std::move(compiled.error()));
+    if (const Exit reported = report(diagnostics); reported != Exit::done)
         return reported;
-    const std::string title = options.module.empty() ? nameOf(options.source).string() : options.module;
-    return writePage(options, bundle, {.title = title, .module = options.module});
+    const std::string title = options.module.empty() ? nameOf(options.source.paths().front()).string() : options.module;
+    return writePage(options, source, bundle, title);
 }
 
-Exit showBundle(const GalleryOptions& options) {
+// Shows also what a damaged table leaves.
+Exit showBundle(GalleryOptions& options) {
     const fs::path bundle = options.bundle.empty() ? ownBundle() : options.bundle;
-    const std::string name = options.module.empty() ? nameOf(bundle).stem().string() : options.module;
-    return writePage(options, bundle, {.title = name, .module = name});
+    if (options.module.empty())
+        options.module = nameOf(bundle).stem();
+    if (std::error_code failed; !fs::is_directory(bundle, failed))
+        return fail({.message = "is not a bundle", .file = bundle});
+    SourceBundle::Diagnostics diagnostics;
+    const SourceBundle::Source source = SourceBundle::Source::readBundle(bundle, diagnostics);
+    const Exit reported = report(diagnostics);
+    const Exit written = writePage(options, source, bundle, options.module);
+    return written == Exit::done ? reported : written;
 }
 
 } // namespace
@@ -96,9 +100,7 @@ Exit showBundle(const GalleryOptions& options) {
 void addGalleryCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<GalleryOptions>();
     CLI::App* command = program.add_subcommand("gallery", "Write a web page that shows every text and asset.");
-    CLI::Option* source =
-        command->add_option("SOURCE", options->source, "A source bundle: a folder of *.lproj and *.xcassets")
-            ->check(named());
+    CLI::Option* source = options->source.addTo(*command);
     command->add_option("--bundle", options->bundle, "A compiled bundle (default: the module's own)")->excludes(source);
     command->add_option("--module", options->module,
                         "The module's name, with which accessors begin (default: that of the bundle)");
@@ -106,7 +108,7 @@ void addGalleryCommand(CLI::App& program, Exit& exit) {
         ->required()
         ->check(named());
     command->callback(
-        [options, &exit] { exit = options->source.empty() ? showBundle(*options) : showSource(*options); });
+        [options, &exit] { exit = options->source.folders.empty() ? showBundle(*options) : showSource(*options); });
 }
 
 } // namespace Tools

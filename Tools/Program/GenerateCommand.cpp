@@ -1,10 +1,10 @@
-// lumora generate: the typed tree of a source bundle.
+// lumora generate: the typed trees of a source.
 #include "Program/Command.h"
 #include "Program/Depfile.h"
 
 #include "Generator/Generator.h"
+#include "Program/SourceArguments.h"
 #include <CLI/CLI.hpp>
-#include <filesystem>
 #include <memory>
 
 namespace Tools {
@@ -12,36 +12,43 @@ namespace Tools {
 namespace {
 
 struct GenerateOptions {
-    std::string source;
+    SourceArguments source;
     std::string output;
+    bool isStrict = false;
     Depfile depfile;
     Generator::Options generator;
 };
 
-Exit runGenerate(const GenerateOptions& options) {
-    if (!std::filesystem::is_directory(options.source))
-        return fail({.message = "is no folder of resources", .file = options.source});
+Exit runGenerate(GenerateOptions& options) {
+    options.generator.names = options.source.names;
     SourceBundle::Diagnostics diagnostics;
-    const auto done = Generator::generateModule(options.source, options.generator, options.output, diagnostics);
-    const Exit reported = report(diagnostics);
-    if (!done)
-        return fail(done.error());
-    const auto noted = options.depfile.write({options.source});
-    return noted ? reported : fail(noted.error());
+    if (options.isStrict)
+        diagnostics.beStrict();
+    Generator::check(options.generator, diagnostics);
+    const SourceBundle::Source source = options.source.read(diagnostics);
+    const Generator::Model model = Generator::modelOf(source, options.generator, diagnostics);
+    if (!diagnostics.hasErrors())
+        if (auto written = Generator::writeModule(model, options.generator, options.output); !written)
+            diagnostics.add(SourceBundle::Severity::error, std::move(written.error()));
+    if (auto noted = options.depfile.write(options.source.inputs()); !noted)
+        diagnostics.add(SourceBundle::Severity::error, std::move(noted.error()));
+    return report(diagnostics);
 }
 
 } // namespace
 
 void addGenerateCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<GenerateOptions>();
-    CLI::App* command = program.add_subcommand("generate", "Write the typed tree of a source bundle as C++.");
-    command->add_option("SOURCE", options->source, "The source bundle: a folder of *.lproj and *.xcassets")
-        ->required()
-        ->check(named());
+    CLI::App* command = program.add_subcommand("generate", "Write the typed trees of a source as C++.");
+    options->source.addTo(*command)->required();
     command->add_option("--module", options->generator.module, "The module's name, a C++ identifier")->required();
     command->add_option("-o,--output", options->output, "The folder to write into")->required()->check(named());
-    command->add_option("--include", options->generator.includes,
-                        "A header of hand-made members, included by the tree's");
+    options->source.addNamesTo(*command);
+    command->add_flag("--strict", options->isStrict, "Warnings are errors");
+    command
+        ->add_option("--include", options->generator.includes,
+                     "A header of hand-made members, included by the tree's (may be repeated)")
+        ->allow_extra_args(false);
     command->add_option("--shards", options->generator.shards, "Into how many sources the accessors are split")
         ->check(CLI::Range(std::size_t{1}, Generator::maxShards));
     options->depfile.addOptions(*command);

@@ -91,7 +91,7 @@ Exit runTable(const TableOptions& options) {
     }
     for (Runtime::Error skipped : table->notes()) {
         skipped.file = name;
-        note(skipped.text());
+        note(skipped);
     }
     auto out = written(*table, outputs.at(options.form));
     if (!out) {

@@ -88,7 +88,7 @@ std::optional<Runtime::Error> damage(const Foundation::NSBundle& bundle, const s
 
 Exit runText(const TextOptions& options) {
     if (!options.bundle.empty() && !std::filesystem::is_directory(options.bundle))
-        return fail({.message = "is no bundle", .file = options.bundle});
+        return fail({.message = "is not a bundle", .file = options.bundle});
     if (!options.language.empty()) {
         Foundation::Host::setPreferredLanguages({options.language});
         Foundation::Host::setCurrentLocale(options.language);

@@ -108,16 +108,11 @@ private:
 
 } // namespace
 
-std::vector<SourceAsset> sourceAssets(const fs::path& source, Diagnostics& diagnostics) {
+std::vector<SourceAsset> sourceAssets(std::span<const fs::path> catalogs, Diagnostics& diagnostics) {
     std::vector<SourceAsset> assets;
     CatalogReader reader(assets, diagnostics);
-    for (const fs::path& entry : sortedEntries(source, diagnostics))
-        if (entry.extension() == ".xcassets") {
-            if (isLinkedFolder(entry))
-                diagnostics.add(Severity::note, {.message = "is a link, which is left out", .file = entry});
-            else if (isFolder(entry))
-                reader.read(entry);
-        }
+    for (const fs::path& catalog : catalogs)
+        reader.read(catalog);
     return assets;
 }
 

@@ -6,6 +6,7 @@
 #include "AssetCatalog/internal/Model.h"
 #include "SourceBundle/Diagnostics.h"
 #include <filesystem>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -29,11 +30,12 @@ struct SourceAsset {
     std::vector<AssetCatalog::ColorValue> colors{};
 };
 
-// The assets of every catalog directly in `source`, by catalog and then in the order of their paths, those of a folder
-// before those of the folders in it. Several may have one kind and name; whoever has to choose takes the first.
+// The assets of the catalogs, which are folders, in their order and then in the order of their paths, those of a folder
+// before those of the folders in it. Catalogs of one name are one. Several may have one kind and name; whoever has to choose takes the first.
 // Diagnostics name the file: broken JSON, a file that would lie outside of its set and a colour without meaning are
 // errors; a file that is missing and what is not supported are warnings, and it is left out; sets of other kinds are
 // notes.
-[[nodiscard]] std::vector<SourceAsset> sourceAssets(const std::filesystem::path& source, Diagnostics& diagnostics);
+[[nodiscard]] std::vector<SourceAsset> sourceAssets(std::span<const std::filesystem::path> catalogs,
+                                                    Diagnostics& diagnostics);
 
 } // namespace SourceBundle

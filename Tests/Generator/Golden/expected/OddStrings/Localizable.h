@@ -86,7 +86,7 @@ LUMORA_EXPORT const std::string& closesAComment();
 // "asks ??/ twice ??=" = "What??/"
 LUMORA_EXPORT const std::string& asksTwice();
 
-// "hides \u202E" = "a\u200Bb\u202Ec\td"
+// "hides \u{202E}" = "a\u{200B}b\u{202E}c\td"
 LUMORA_EXPORT const std::string& hides();
 
 // "key "quoted" \ é 1" = "on\ntwo lines"

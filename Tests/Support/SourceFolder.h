@@ -1,0 +1,42 @@
+// Tests/Support/SourceFolder.h
+// A source as tests write it down: files in a temporary folder, read and modelled, and what is said about them.
+#pragma once
+
+#include "SourceBundle/Source.h"
+#include "TemporaryFolder.h"
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Support {
+
+class SourceFolder : public TemporaryFolder {
+public:
+    SourceBundle::Source read(SourceBundle::SourceOptions options = {}) {
+        const std::filesystem::path folders[] = {path()};
+        return SourceBundle::Source::read(folders, options, diagnostics);
+    }
+
+    // "warning: FILE:LINE:COLUMN: MESSAGE", file names below the folder; forgets them.
+    std::vector<std::string> takeMessages() {
+        std::vector<std::string> all;
+        for (const auto& [severity, what] : diagnostics.all()) {
+            constexpr const char* words[] = {"note: ", "warning: ", "error: "};
+            all.push_back(words[static_cast<int>(severity)] + withoutFolder(what.text()));
+        }
+        diagnostics = {};
+        return all;
+    }
+
+    SourceBundle::Diagnostics diagnostics;
+
+private:
+    std::string withoutFolder(std::string text) const {
+        const std::string folder = path().string();
+        for (std::size_t at; (at = text.find(folder)) != std::string::npos;)
+            text.erase(at, folder.size() + (text[at + folder.size()] == '/' ? 1 : 0));
+        return text;
+    }
+};
+
+} // namespace Support

@@ -1,0 +1,64 @@
+#include "Generator/Parameters.h"
+
+#include "StringTables/internal/Placeholder.h"
+
+namespace Generator {
+
+using StringTables::FormatSignature;
+
+namespace {
+
+Parameter parameterFor(FormatSignature::Kind kind) {
+    switch (kind) {
+    case FormatSignature::Kind::integer:
+        return Parameter::integer;
+    case FormatSignature::Kind::number:
+        return Parameter::number;
+    case FormatSignature::Kind::text:
+    case FormatSignature::Kind::percent: // takes no argument
+        break;
+    }
+    return Parameter::text;
+}
+
+const char* wordFor(Parameter parameter) {
+    switch (parameter) {
+    case Parameter::text:
+        return "text";
+    case Parameter::integer:
+        return "a whole number";
+    case Parameter::number:
+        return "a floating number";
+    }
+    return "";
+}
+
+std::string faultOf(const FormatSignature& signature) {
+    if (signature.hasPositions && signature.hasOrder)
+        return "mixes placeholders with and without a position";
+    if (signature.conflict)
+        return "takes argument " + std::to_string(signature.conflict->position) + " both as " +
+               wordFor(parameterFor(signature.conflict->first)) + " and as " +
+               wordFor(parameterFor(signature.conflict->later));
+    if (signature.arguments.size() > maxParameters)
+        return "takes more than " + std::to_string(maxParameters) + " arguments";
+    for (std::size_t i = 0; i < signature.arguments.size(); ++i)
+        if (!signature.arguments[i])
+            return "has no placeholder for argument " + std::to_string(i + 1) + " of " +
+                   std::to_string(signature.arguments.size());
+    return "";
+}
+
+} // namespace
+
+Parameters parametersOf(const SourceBundle::SourceEntry& entry) {
+    const FormatSignature signature = StringTables::signatureOf(entry.text);
+    Parameters parameters;
+    parameters.fault = faultOf(signature);
+    parameters.hasLonePercent = signature.hasLonePercent;
+    for (const auto& kind : signature.arguments)
+        parameters.all.push_back(parameterFor(kind.value_or(FormatSignature::Kind::text)));
+    return parameters;
+}
+
+} // namespace Generator

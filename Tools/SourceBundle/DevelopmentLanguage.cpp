@@ -1,0 +1,48 @@
+#include "SourceBundle/DevelopmentLanguage.h"
+
+#include "SourceBundle/SourceFiles.h"
+#include "StringTables/internal/Table.h"
+#include <algorithm>
+
+namespace SourceBundle {
+
+using StringTables::Table;
+
+namespace {
+
+constexpr std::string_view regionKey = "CFBundleDevelopmentRegion";
+
+bool isBuildSetting(std::string_view value) {
+    return value.starts_with("$(") || value.starts_with("${");
+}
+
+Runtime::Error unresolved(const std::filesystem::path& file, const Table& table, std::string_view value) {
+    const auto entry = std::ranges::find(table.entries(), regionKey, &StringTables::Entry::key);
+    const StringTables::Location place = table.locations()[static_cast<std::size_t>(entry - table.entries().begin())];
+    return {.message = "the development language is the build setting " + std::string(value) +
+                       ", which has no value here (--development-language gives it one)",
+            .file = file,
+            .line = place.line,
+            .column = place.column};
+}
+
+} // namespace
+
+std::optional<std::string> developmentLanguage(std::span<const std::filesystem::path> infos, Diagnostics& diagnostics) {
+    for (const std::filesystem::path& file : infos) {
+        const auto table = Table::readFile(file); // its notes are about values that are not texts, as most are here
+        if (!table) {
+            diagnostics.add(Severity::error, table.error());
+            continue;
+        }
+        const auto region = table->find(regionKey);
+        if (!region)
+            continue;
+        if (!isBuildSetting(*region))
+            return languageOfFolder(std::string(*region));
+        diagnostics.add(Severity::warning, unresolved(file, *table, *region));
+    }
+    return std::nullopt;
+}
+
+} // namespace SourceBundle

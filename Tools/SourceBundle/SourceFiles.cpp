@@ -1,0 +1,192 @@
+#include "SourceBundle/SourceFiles.h"
+
+#include <array>
+#include <optional>
+#include <set>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace SourceBundle {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// lumora compile leaves it in every bundle that it makes.
+constexpr const char* compiledMark = ".lumora-bundle";
+
+std::optional<TableFile::Kind> kindOf(const fs::path& file) {
+    const fs::path extension = file.extension();
+    if (extension == ".strings")
+        return TableFile::Kind::texts;
+    if (extension == ".stringsdict")
+        return TableFile::Kind::plurals;
+    if (extension == ".xcstrings")
+        return TableFile::Kind::catalog;
+    return std::nullopt;
+}
+
+class Finder {
+public:
+    explicit Finder(Diagnostics& diagnostics) : diagnostics_(diagnostics) {}
+
+    void findSource(const fs::path& folder) {
+        std::error_code failed;
+        if (!fs::is_directory(folder, failed))
+            return add(Severity::error, folder, "is not a folder of resources");
+        if (fs::exists(folder / compiledMark, failed))
+            return add(Severity::error, folder, "is a compiled bundle, not a source");
+        const std::size_t errors = diagnostics_.count(Severity::error);
+        isEmpty_ = true;
+        findIn(folder);
+        if (isEmpty_ && diagnostics_.count(Severity::error) == errors)
+            add(Severity::error, folder, "has no tables (*.lproj, *.xcstrings) and no asset catalogs (*.xcassets)");
+    }
+
+    void findIn(const fs::path& folder) {
+        std::error_code failed;
+        given_ = folder;
+        source_ = fs::canonical(folder, failed);
+        findInfo(folder / "Info.plist");
+        findInFolder(folder, 0);
+    }
+
+    SourceFiles take() {
+        // Catalogs of one name follow each other.
+        std::ranges::stable_sort(found_.catalogs, {}, [](const fs::path& catalog) { return catalog.stem(); });
+        return std::move(found_);
+    }
+
+private:
+    void add(Severity severity, const fs::path& file, std::string message) {
+        diagnostics_.add(severity, {.message = std::move(message), .file = file});
+    }
+
+    std::vector<fs::directory_entry> entriesOf(const fs::path& folder) {
+        std::vector<fs::directory_entry> entries;
+        std::error_code failed;
+        for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
+            if (!entry->path().filename().native().starts_with('.'))
+                entries.push_back(*entry);
+        if (failed)
+            add(Severity::error, folder, "cannot be read: " + failed.message());
+        std::ranges::sort(entries);
+        return entries;
+    }
+
+    // That no link leads out of the source: what is there belongs to others, and its content is not shown to anyone.
+    bool isInside(const fs::path& path) const {
+        std::error_code failed;
+        const fs::path inside = fs::weakly_canonical(path, failed).lexically_relative(source_);
+        return !failed && !inside.empty() && *inside.begin() != "..";
+    }
+    bool mayRead(const fs::directory_entry& entry) {
+        if (!entry.is_symlink() || isInside(entry.path()))
+            return true;
+        add(Severity::error, entry.path(), "is a link that leads out of the source");
+        return false;
+    }
+    // One of the folders may be in another: a file counts once.
+    bool isNew(const fs::path& path) { return known_.insert(source_ / path.lexically_relative(given_)).second; }
+
+    void findInfo(const fs::path& file) {
+        std::error_code failed;
+        if (const fs::directory_entry entry(file, failed); !failed && entry.exists(failed) && mayRead(entry))
+            found_.infos.push_back(file);
+    }
+
+    void findInFolder(const fs::path& folder, int depth) {
+        if (depth > maxFolderDepth)
+            return add(Severity::error, folder, "is nested too deeply");
+        for (const fs::directory_entry& entry : entriesOf(folder)) {
+            const fs::path& path = entry.path();
+            std::error_code failed;
+            if (!entry.is_directory(failed))
+                findFile(entry);
+            else if (path.extension() == ".lproj")
+                findInLanguageFolder(entry, depth);
+            else if (entry.is_symlink())
+                add(Severity::note, path, "is a link to a folder and is left out");
+            else if (path.extension() == ".xcassets")
+                addCatalog(path);
+            else
+                findInFolder(path, depth + 1);
+        }
+    }
+
+    void findFile(const fs::directory_entry& entry) {
+        const fs::path& path = entry.path();
+        const std::optional<TableFile::Kind> kind = kindOf(path);
+        if (path.extension() == ".lproj")
+            add(Severity::warning, path, "is not a folder of tables and is left out");
+        else if (kind == TableFile::Kind::catalog)
+            addTable(entry, *kind, "");
+        else if (kind)
+            add(Severity::warning, path, "is in no language folder (*.lproj) and is left out");
+    }
+
+    void findInLanguageFolder(const fs::directory_entry& folder, int depth) {
+        if (!mayRead(folder))
+            return;
+        const std::string language = languageOfFolder(folder.path().stem());
+        for (const fs::directory_entry& entry : entriesOf(folder.path())) {
+            std::error_code failed;
+            const std::optional<TableFile::Kind> kind = kindOf(entry.path());
+            if (kind)
+                addTable(entry, *kind, kind == TableFile::Kind::catalog ? "" : language);
+            else if (entry.is_directory(failed) && !entry.is_symlink())
+                findInFolder(entry.path(), depth + 1);
+            else
+                add(Severity::note, entry.path(), "holds no table of texts and is left out");
+        }
+    }
+
+    void addTable(const fs::directory_entry& entry, TableFile::Kind kind, std::string language) {
+        isEmpty_ = false;
+        if (mayRead(entry) && isNew(entry.path()))
+            found_.tables.push_back({kind, entry.path().stem(), std::move(language), entry.path()});
+    }
+    void addCatalog(const fs::path& path) {
+        isEmpty_ = false;
+        if (isNew(path))
+            found_.catalogs.push_back(path);
+    }
+
+    Diagnostics& diagnostics_;
+    SourceFiles found_;
+    fs::path given_;
+    fs::path source_; // the same, canonical
+    std::set<fs::path> known_;
+    bool isEmpty_ = true; // nothing was found in the folder
+};
+
+} // namespace
+
+SourceFiles findFiles(std::span<const fs::path> folders, Diagnostics& diagnostics) {
+    Finder finder(diagnostics);
+    for (const fs::path& folder : folders)
+        finder.findSource(folder);
+    return finder.take();
+}
+
+SourceFiles findBundleFiles(const fs::path& bundle, Diagnostics& diagnostics) {
+    Finder finder(diagnostics);
+    finder.findIn(bundle);
+    return finder.take();
+}
+
+std::string languageOfFolder(const std::string& name) {
+    static constexpr auto languages = std::to_array<std::pair<std::string_view, std::string_view>>(
+        {{"Arabic", "ar"},    {"Catalan", "ca"},    {"Chinese", "zh-Hans"}, {"Croatian", "hr"},  {"Czech", "cs"},
+         {"Danish", "da"},    {"Dutch", "nl"},      {"English", "en"},      {"Finnish", "fi"},   {"French", "fr"},
+         {"German", "de"},    {"Greek", "el"},      {"Hebrew", "he"},       {"Hungarian", "hu"}, {"Indonesian", "id"},
+         {"Italian", "it"},   {"Japanese", "ja"},   {"Korean", "ko"},       {"Malay", "ms"},     {"Norwegian", "no"},
+         {"Polish", "pl"},    {"Portuguese", "pt"}, {"Romanian", "ro"},     {"Russian", "ru"},   {"Slovak", "sk"},
+         {"Spanish", "es"},   {"Swedish", "sv"},    {"Thai", "th"},         {"Turkish", "tr"},   {"Ukrainian", "uk"},
+         {"Vietnamese", "vi"}});
+    const auto* const found = std::ranges::find(languages, name, &decltype(languages)::value_type::first);
+    return found == languages.end() ? name : std::string(found->second);
+}
+
+} // namespace SourceBundle
