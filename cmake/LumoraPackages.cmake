@@ -1,0 +1,53 @@
+# Debian packages of the three install components: liblumora1, liblumora-dev and lumora. `./run package` makes them.
+set(CPACK_GENERATOR DEB)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL runtime development tools)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_CONTACT "Lumora maintainers <maintainers@users.noreply.c-seed-46c1529d.example>")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
+    WORLD_READ WORLD_EXECUTE)
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+
+set(runtime liblumora${PROJECT_VERSION_MAJOR})
+set(same_version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime})
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/debian/triggers)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME liblumora-dev)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime} ${same_version}")
+set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME lumora)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime} ${same_version}")
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
+    "Typed access to an application's resources\nThe platform that modules of texts, images, colours and data stand on, and the fitness module with its bundle.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
+    "Development files of Lumora\nHeaders, CMake and pkg-config packages for programs that use the module or make modules of their own.")
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION
+    "Tools for modules of resources\nThe program lumora generates typed trees from an application's resources, compiles, checks, shows and exchanges them.")
+
+# What every package of Debian has.
+find_program(GZIP gzip REQUIRED)
+set(changelog ${PROJECT_BINARY_DIR}/debian)
+file(WRITE ${changelog}/changelog.Debian "lumora (${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
+
+  * See CHANGELOG.md of the sources.
+
+ -- ${CPACK_PACKAGE_CONTACT}  Wed, 25 Nov 2026 12:00:00 +0000
+")
+execute_process(COMMAND ${GZIP} -9nf changelog.Debian WORKING_DIRECTORY ${changelog} COMMAND_ERROR_IS_FATAL ANY)
+foreach(component runtime development tools)
+    string(TOUPPER ${component} upper)
+    install(FILES cmake/debian/copyright ${changelog}/changelog.Debian.gz
+        DESTINATION share/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME} COMPONENT ${component})
+endforeach()
+include(CPack)
