@@ -28,12 +28,16 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime} ${same_version}")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME lumora)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime} ${same_version}")
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
-    "Typed access to an application's resources\nThe platform that modules of texts, images, colours and data stand on, and the fitness module with its bundle.")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
-    "Development files of Lumora\nHeaders, CMake and pkg-config packages for programs that use the module or make modules of their own.")
-set(CPACK_COMPONENT_TOOLS_DESCRIPTION
-    "Tools for modules of resources\nThe program lumora generates typed trees from an application's resources, compiles, checks, shows and exchanges them.")
+# The first line is the synopsis.
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "typed access to localized texts and assets
+The platform that modules of texts, images, colours and data stand on,
+and the fitness module with its bundle.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "typed access to localized texts and assets: headers
+Headers, CMake and pkg-config packages for programs that use the module
+or make modules of their own.")
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION "tools for modules of localized texts and assets
+The program lumora generates typed trees from an application's resources,
+compiles, checks, shows and exchanges them.")
 
 # What every package of Debian has.
 find_program(GZIP gzip REQUIRED)
