@@ -46,7 +46,9 @@ concept DescribesItself = requires(const T& value) {
 
 // What std::vector<bool> and std::bitset give for an element.
 template <class T>
-concept BoolProxy = std::is_class_v<T> && std::convertible_to<const T&, bool> && requires(T value) { value.flip(); };
+concept BoolProxy = std::is_class_v<T> && std::convertible_to<const T&, bool> && requires(T value) {
+    value.flip();
+};
 
 template <class T>
 concept OptionalLike = requires(const T& value) {

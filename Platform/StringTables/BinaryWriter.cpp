@@ -37,9 +37,14 @@ BinaryWriter::Number BinaryWriter::dictionary() {
 }
 
 BinaryWriter::Number BinaryWriter::string(std::string_view text) {
+    const auto given = given_.find(text.data());
+    if (given != given_.end() && given->second.size == text.size())
+        return given->second.number;
+    isUtf8_ = isUtf8_ && firstInvalidUtf8(text) == text.npos;
     const auto [at, isNew] = strings_.try_emplace(text, objects_.size());
     if (isNew)
         objects_.push_back({.isDictionary = false, .text = text, .entries = {}});
+    given_.insert_or_assign(text.data(), Given{text.size(), at->second});
     return at->second;
 }
 

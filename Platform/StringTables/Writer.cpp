@@ -16,6 +16,10 @@ std::string_view commentOf(Comments comments, std::size_t entry) noexcept {
     return entry < comments.size() ? std::string_view(comments[entry]) : std::string_view();
 }
 
+Runtime::Error notUtf8(const Entry& entry) {
+    return {"the entry " + internal::quoted(entry.key) + " is not UTF-8", {}};
+}
+
 // `text` with a space in every `mark` of two characters.
 std::string withoutMark(std::string_view text, std::string_view mark) {
     std::string out;
@@ -47,15 +51,29 @@ void appendQuoted(std::string& out, std::string_view text) {
     out += '"';
 }
 
+// What no form holds: text that is not UTF-8, a comment with a NUL.
+Runtime::Result<void> check(const Entry& entry, std::string_view comment) {
+    const auto isUtf8 = [](std::string_view text) { return internal::firstInvalidUtf8(text) == text.npos; };
+    if (!isUtf8(entry.key) || !isUtf8(entry.text) || !isUtf8(comment))
+        return notUtf8(entry);
+    if (comment.find('\0') != comment.npos)
+        return Runtime::Error{"the comment of " + internal::quoted(entry.key) + " holds a NUL character", {}};
+    return {};
+}
+
 Runtime::Result<std::string> writeText(Entries entries, Comments comments) {
     std::string out;
     for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (auto checked = check(entries[i], commentOf(comments, i)); !checked)
+            return std::move(checked.error());
         if (const std::string_view comment = commentOf(comments, i); !comment.empty())
             out.append("/* ").append(withoutMark(comment, "*/")).append(" */\n");
         appendQuoted(out, entries[i].key);
         out += " = ";
         appendQuoted(out, entries[i].text);
         out += ";\n";
+        if (auto fits = checkWrittenSize(out.size()); !fits)
+            return std::move(fits.error());
     }
     return out;
 }
@@ -99,45 +117,60 @@ Runtime::Result<std::string> writeXml(Entries entries, Comments comments) {
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const auto& [key, text, offset] = entries[i];
         const std::string_view comment = commentOf(comments, i);
+        if (auto checked = check(entries[i], comment); !checked)
+            return std::move(checked.error());
         if (!xmlHolds(key) || !xmlHolds(text) || !xmlHolds(comment))
             return Runtime::Error{"the entry " + internal::quoted(key) + " holds a character that XML cannot", {}};
         if (!comment.empty())
             out.append("\t<!-- ").append(withoutMark(comment, "--")).append(" -->\n");
         appendElement(out, "key", key);
         appendElement(out, "string", text);
+        if (auto fits = checkWrittenSize(out.size()); !fits)
+            return std::move(fits.error());
     }
     return out + "</dict>\n</plist>\n";
 }
 
 // The objects are the dictionary, then each different string once, as keys and texts first name it.
-std::string writeBinary(Entries entries) {
+Runtime::Result<std::string> writeBinary(Entries entries) {
     internal::BinaryWriter writer;
     const auto table = writer.dictionary();
-    for (const Entry& entry : entries)
-        writer.string(entry.key);
-    for (const Entry& entry : entries)
-        writer.add(table, writer.string(entry.key), writer.string(entry.text));
+    std::vector<internal::BinaryWriter::Number> keys;
+    // Keys before texts: as objects they stand beside each other.
+    for (const Entry& entry : entries) {
+        keys.push_back(writer.string(entry.key));
+        if (!writer.isUtf8())
+            return notUtf8(entry);
+    }
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        writer.add(table, keys[i], writer.string(entries[i].text));
+        if (!writer.isUtf8())
+            return notUtf8(entries[i]);
+    }
     return writer.write();
 }
 
 } // namespace
 
 Runtime::Result<std::string> write(Entries entries, Form form, Comments comments) {
-    const auto isUtf8 = [](std::string_view text) { return internal::firstInvalidUtf8(text) == text.npos; };
-    for (std::size_t i = 0; i < entries.size(); ++i)
-        if (!isUtf8(entries[i].key) || !isUtf8(entries[i].text) || !isUtf8(commentOf(comments, i)))
-            return Runtime::Error{"the entry " + internal::quoted(entries[i].key) + " is not UTF-8", {}};
-        else if (commentOf(comments, i).find('\0') != std::string_view::npos)
-            return Runtime::Error{"the comment of " + internal::quoted(entries[i].key) + " holds a NUL character", {}};
-    switch (form) {
-    case Form::text:
-        return writeText(entries, comments);
-    case Form::xml:
-        return writeXml(entries, comments);
-    case Form::binary:
-        break;
-    }
-    return writeBinary(entries);
+    if (form == Form::binary)
+        return writeBinary(entries);
+    if (auto fits = checkWrittenSize(sizeOf(entries)); !fits)
+        return std::move(fits.error());
+    return form == Form::text ? writeText(entries, comments) : writeXml(entries, comments);
+}
+
+Runtime::Result<void> checkWrittenSize(std::size_t size) {
+    if (size <= Table::maxBytes)
+        return {};
+    return Runtime::Error{"the table would be larger than " + std::to_string(Table::maxBytes) + " bytes", {}};
+}
+
+std::size_t sizeOf(Entries entries) noexcept {
+    std::size_t size = 0;
+    for (const Entry& entry : entries)
+        size += entry.key.size() + entry.text.size();
+    return size;
 }
 
 } // namespace StringTables

@@ -65,9 +65,24 @@ TEST(Writer, RefusesWhatAFormCannotHold) {
         EXPECT_TRUE(StringTables::write(entries, Form::text));
     }
     for (const Form form : {Form::text, Form::xml, Form::binary}) {
-        const std::vector<Entry> entries = {{"k", "\xED\xA0\x80"}};
+        const std::vector<Entry> entries = {{"a", "b"}, {"k", "\xED\xA0\x80"}}, bad = {{"a", "b"}, {"k\x80", "b"}};
         EXPECT_EQ(StringTables::write(entries, form).error().message, "the entry \"k\" is not UTF-8");
+        EXPECT_EQ(StringTables::write(bad, form).error().message, "the entry \"k\x80\" is not UTF-8");
     }
+}
+
+// A small table whose entries share a long text is a large one in other forms.
+TEST(Writer, IsBounded) {
+    const std::string text(1 << 20, 'x');
+    std::vector<std::string> keys;
+    for (int i = 0; i < 257; ++i)
+        keys.push_back(std::to_string(i));
+    std::vector<Entry> entries;
+    for (const std::string& key : keys)
+        entries.push_back({key, text});
+    for (const Form form : {Form::text, Form::xml})
+        EXPECT_EQ(StringTables::write(entries, form).error().message, "the table would be larger than 268435456 bytes");
+    EXPECT_LT(StringTables::write(entries, Form::binary)->size(), text.size() + 10'000);
 }
 
 // Every form through every other, from few and short strings to sizes that need longer references, offsets and counts.

@@ -30,13 +30,21 @@ struct TableOptions {
     std::string form = "json";
 };
 
-std::string json(const Table& table) {
-    nlohmann::ordered_json texts = nlohmann::ordered_json::object();
-    // Keys are there once each; looking for them again would take quadratic time in an ordered object.
-    auto& members = texts.get_ref<nlohmann::ordered_json::object_t&>();
-    for (const StringTables::Entry& entry : table.entries())
-        members.emplace_back(std::string(entry.key), std::string(entry.text));
-    return texts.dump(2) + "\n";
+// Written member by member: entries may share a text, and an object would hold a copy for each.
+Runtime::Result<std::string> json(const Table& table) {
+    const auto literal = [](std::string_view text) { return nlohmann::json(text).dump(); };
+    if (auto fits = StringTables::checkWrittenSize(StringTables::sizeOf(table.entries())); !fits)
+        return std::move(fits.error());
+    std::string out = "{";
+    for (const StringTables::Entry& entry : table.entries()) {
+        out.append(out.size() == 1 ? "\n  " : ",\n  ")
+            .append(literal(entry.key))
+            .append(": ")
+            .append(literal(entry.text));
+        if (auto fits = StringTables::checkWrittenSize(out.size()); !fits)
+            return std::move(fits.error());
+    }
+    return out.append(out.size() == 1 ? "}\n" : "\n}\n");
 }
 
 Runtime::Result<std::string> written(const Table& table, Output form) {

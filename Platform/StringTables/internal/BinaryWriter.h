@@ -20,8 +20,11 @@ public:
 
     // A new, empty dictionary.
     Number dictionary();
-    // The string `text`, which is UTF-8; one object for equal strings.
+    // The string `text`; one object for equal strings. A text is read once, however often it is given in the same place
+    // of memory.
     Number string(std::string_view text);
+    // Whether all strings are UTF-8; nothing is to be written if not.
+    bool isUtf8() const noexcept { return isUtf8_; }
     // Adds an entry to a dictionary. Each key once.
     void add(Number dictionary, Number key, Number value) { objects_[dictionary].entries.emplace_back(key, value); }
 
@@ -42,6 +45,12 @@ private:
 
     std::vector<Object> objects_;
     std::unordered_map<std::string_view, Number> strings_;
+    struct Given {
+        std::size_t size;
+        Number number;
+    };
+    std::unordered_map<const char*, Given> given_; // strings by their place in memory
+    bool isUtf8_ = true;
     std::string out_;
 };
 

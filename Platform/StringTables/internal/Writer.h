@@ -13,8 +13,14 @@ namespace StringTables {
 // for each entry or none at all, are written before their entries in the forms text and xml; "--" becomes "- -" in XML
 // and
 // "*/" becomes "* /" in text, where they would end the comment. The form binary has no comments.
-// Errors: an entry or a comment is not UTF-8, or holds a control character that XML has no way to write (form xml).
+// Errors: an entry or a comment is not UTF-8, or holds a control character that XML has no way to write (form xml); the
+// table would be larger than Table::maxBytes, as one of few bytes may be whose entries share a long text.
 [[nodiscard]] Runtime::Result<std::string> write(std::span<const Entry> entries, Form form,
                                                  std::span<const std::string> comments = {});
+
+// The limit of Table::maxBytes on what a writer of entries makes. To be asked before the first entry with the size of
+// all keys and texts, and then with the size of what is written.
+[[nodiscard]] Runtime::Result<void> checkWrittenSize(std::size_t size);
+[[nodiscard]] std::size_t sizeOf(std::span<const Entry> entries) noexcept;
 
 } // namespace StringTables
