@@ -203,7 +203,7 @@ function hostileSource() {
         mkdirSync(join(source, `${language}.lproj`), { recursive: true });
         writeFileSync(join(source, `${language}.lproj`, "Odd.strings"), text);
     };
-    table("Base", '"end" = "</script><script>alert(1)</script><!--"; "quote\\"d" = "%1$@ \\"of\\" %2$ld"; "…" = "No name"; "same" = "Same"; "@PICTURES@" = "a";');
+    table("Base", '"end" = "</script><script>alert(1)</script><!--"; "quote\\"d" = "%1$@ \\"of\\" %2$ld"; "…" = "No name"; /* Of two things */ "same" = "Same"; "@PICTURES@" = "a";');
     table("he", '"end" = "<img src=x onerror=alert(2)>"; "same" = "Same";');
     const page = join(folder, "hostile.html");
     execFileSync(program, ["gallery", source, "--module", "Shop", "-o", page]);
@@ -216,7 +216,10 @@ onPage("texts of any content are only shown", async (tab) => {
     assert.deepEqual(await tab.locator('[data-key^="quote"] .placeholder').allInnerTexts(), ["%1$@", "%2$ld"]);
     assert.match(await row(tab, "…").innerText(), /No accessor/);
     assert.equal(await row(tab, "same").locator(".tag").innerText(), "Not translated");
-    await tab.selectOption("#status", "missing");
-    assert.deepEqual((await keysShown(tab)).length, 3);
+    assert.equal(await row(tab, "same").locator(".comment").innerText(), "Of two things");
+    for (const [status, shown] of [["missing", 3], ["comment", 1], ["same", 1]]) {
+        await tab.selectOption("#status", status);
+        assert.equal((await keysShown(tab)).length, shown, status);
+    }
     assert.deepEqual(await tab.locator("main > section:visible h2").allInnerTexts(), ["Texts"]);
 }, { file: hostileSource });

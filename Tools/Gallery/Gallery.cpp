@@ -45,7 +45,7 @@ Runtime::Result<std::string> pageOf(const SourceBundle::Source& source, const st
     const std::string tree = options.module.empty() ? "" : options.module + "::" + options.module;
     resources["trees"] = {{"texts", tree.empty() ? "" : tree + "Strings::"},
                           {"assets", tree.empty() ? "" : tree + "Asset::"}};
-    resources.update(textsOf(source));
+    resources.update(textsOf(source, options.names));
     resources["assets"] = std::move(assets->list);
     return filled(embedded(resources), embedded(assets->pictures));
 }

@@ -4,6 +4,7 @@
 // Text: UTF-8; paths as the file system has them. Threads: one page at a time.
 #pragma once
 
+#include "Generator/NamesFile.h"
 #include "Runtime/internal/Result.h"
 #include "SourceBundle/Source.h"
 #include <filesystem>
@@ -14,6 +15,7 @@ namespace Gallery {
 struct Options {
     std::string title;  // of the page
     std::string module; // the namespace that accessors begin with, or empty: they begin with their table or catalog
+    Generator::NamesFile names{};
 };
 
 // The page of the texts of `source` and the assets of the compiled bundle at `bundle`, whole and in need of no other

@@ -1,10 +1,12 @@
 #include "Gallery/Texts.h"
 
 #include "Generator/Model.h"
+#include "StringTables/internal/PluralTable.h"
 #include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace Gallery {
@@ -30,44 +32,75 @@ std::vector<std::string> languagesOf(const Source& source) {
     return languages;
 }
 
-using Accessors = std::unordered_map<const SourceEntry*, std::string>;
+// The accessor of each text, or why it has none, as members of the text's object.
+using Accessors = std::unordered_map<const SourceEntry*, ordered_json>;
 
-Accessors accessorsOf(const Source& source) {
+Accessors accessorsOf(const Source& source, Generator::NamesFile names) {
     Accessors accessors;
-    Generator::NamesFile names;
-    SourceBundle::Diagnostics unnamed; // reported by the generator
-    for (const Generator::CatalogTable& table : Generator::catalogOf(source, names, unnamed))
+    SourceBundle::Diagnostics known; // `lumora generate` reports them
+    for (const Generator::CatalogTable& table : Generator::catalogOf(source, names, known)) {
         for (const Generator::CatalogEntry& entry : table.entries) {
             const std::string groups = entry.groups.empty() ? "" : entry.groups + "::";
-            accessors.emplace(entry.source, table.spelling + "::" + groups + entry.name);
+            accessors[entry.source] = {{"accessor", table.spelling + "::" + groups + entry.name}};
         }
+        for (const Generator::LeftOutEntry& entry : table.leftOut)
+            accessors[entry.source] = {{"accessor", nullptr}, {"reason", entry.reason}};
+    }
     return accessors;
 }
 
+ordered_json formsOf(const StringTables::PluralVariable& variable) {
+    ordered_json forms = ordered_json::object();
+    for (std::size_t i = 0; i < variable.forms.size(); ++i)
+        if (variable.forms[i])
+            forms[std::string(Intl::pluralCategoryNames[i])] = *variable.forms[i];
+    return forms;
+}
+
+ordered_json valueOf(const SourceEntry& entry) {
+    if (entry.plural == nullptr)
+        return entry.text;
+    ordered_json variables = ordered_json::object();
+    for (const StringTables::PluralVariable& variable : entry.plural->variables)
+        variables[variable.name] = formsOf(variable);
+    return {{"format", entry.plural->format}, {"variables", std::move(variables)}};
+}
+
+// A text that is not to be translated is the same in every language.
 ordered_json valuesOf(const SourceTable& table, const SourceEntry& entry, const std::vector<std::string>& languages) {
-    ordered_json values = {entry.text};
+    ordered_json values = ordered_json::array({valueOf(entry)});
     for (std::size_t i = 1; i < languages.size(); ++i) {
         const LanguageTexts* texts = table.find(languages[i]);
         const SourceEntry* translation = texts == nullptr ? nullptr : texts->find(entry.key);
-        values.push_back(translation == nullptr ? ordered_json() : ordered_json(translation->text));
+        if (translation == nullptr && !entry.isTranslatable)
+            translation = &entry;
+        values.push_back(translation == nullptr ? ordered_json() : valueOf(*translation));
     }
     return values;
 }
 
+ordered_json textOf(const SourceTable& table, const SourceEntry& entry, const std::vector<std::string>& languages) {
+    ordered_json text = {{"table", table.name}, {"key", entry.key}, {"accessor", nullptr}};
+    if (!entry.comment.empty())
+        text["comment"] = entry.comment;
+    if (!entry.isTranslatable)
+        text["fixed"] = true;
+    text["values"] = valuesOf(table, entry, languages);
+    return text;
+}
+
 } // namespace
 
-ordered_json textsOf(const Source& source) {
+ordered_json textsOf(const Source& source, const Generator::NamesFile& names) {
     const std::vector<std::string> languages = languagesOf(source);
-    const Accessors accessors = accessorsOf(source);
+    const Accessors accessors = accessorsOf(source, names);
     ordered_json texts = ordered_json::array();
     for (const SourceTable& table : source.tables)
         for (const SourceEntry* entry : source.developmentEntries(table)) {
-            const auto accessor = accessors.find(entry);
-            texts.push_back(
-                {{"table", table.name},
-                 {"key", entry->key},
-                 {"accessor", accessor == accessors.end() ? ordered_json() : ordered_json(accessor->second)},
-                 {"values", valuesOf(table, *entry, languages)}});
+            ordered_json text = textOf(table, *entry, languages);
+            if (const auto accessor = accessors.find(entry); accessor != accessors.end())
+                text.update(accessor->second);
+            texts.push_back(std::move(text));
         }
     return {{"languages", languages}, {"texts", std::move(texts)}};
 }

@@ -2,13 +2,14 @@
 // The texts of a source in every language, as the page takes them; internal.
 #pragma once
 
+#include "Generator/NamesFile.h"
 #include "SourceBundle/Source.h"
 #include <nlohmann/json.hpp>
 
 namespace Gallery {
 
-// { "languages": [CODE], "texts": [{ "table", "key", "accessor", "values" }] }, the development language first, and a
-// value, or null, for each language.
-[[nodiscard]] nlohmann::ordered_json textsOf(const SourceBundle::Source& source);
+// { "languages": [CODE], "texts": [{ "table", "key", "accessor", "reason", "comment", "fixed", "values" }] }, the
+// development language first, and a value, or null, for each language.
+[[nodiscard]] nlohmann::ordered_json textsOf(const SourceBundle::Source& source, const Generator::NamesFile& names);
 
 } // namespace Gallery

@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <memory>
 #include <system_error>
+#include <utility>
 
 namespace Tools {
 
@@ -58,8 +59,8 @@ fs::path nameOf(const fs::path& folder) {
 }
 
 Exit writePage(const GalleryOptions& options, const SourceBundle::Source& source, const fs::path& bundle,
-               const std::string& title) {
-    const auto page = Gallery::pageOf(source, bundle, {.title = title, .module = options.module});
+               const Gallery::Options& shown) {
+    const auto page = Gallery::pageOf(source, bundle, shown);
     return page ? write(options.output, *page) : fail(page.error());
 }
 
@@ -71,6 +72,9 @@ Exit showSource(const GalleryOptions& options) {
     const fs::path bundle = folder->path() / "Gallery.bundle";
     SourceBundle::Diagnostics diagnostics;
     const SourceBundle::Source source = options.source.read(diagnostics);
+    Generator::NamesFile names;
+    if (!options.source.names.empty())
+        names = Generator::NamesFile::read(options.source.names, diagnostics);
     auto compiled = Compiler::compileBundle(source, options.source.paths(), bundle, diagnostics, showProgress);
     showProgress("", 0, 0);
     if (!compiled)
@@ -78,20 +82,19 @@ Exit showSource(const GalleryOptions& options) {
     if (const Exit reported = report(diagnostics); reported != Exit::done)
         return reported;
     const std::string title = options.module.empty() ? nameOf(options.source.paths().front()).string() : options.module;
-    return writePage(options, source, bundle, title);
+    return writePage(options, source, bundle, {.title = title, .module = options.module, .names = std::move(names)});
 }
 
 // Shows also what a damaged table leaves.
-Exit showBundle(GalleryOptions& options) {
+Exit showBundle(const GalleryOptions& options) {
     const fs::path bundle = options.bundle.empty() ? ownBundle() : options.bundle;
-    if (options.module.empty())
-        options.module = nameOf(bundle).stem();
+    const std::string name = options.module.empty() ? nameOf(bundle).stem().string() : options.module;
     if (std::error_code failed; !fs::is_directory(bundle, failed))
         return fail({.message = "is not a bundle", .file = bundle});
     SourceBundle::Diagnostics diagnostics;
     const SourceBundle::Source source = SourceBundle::Source::readBundle(bundle, diagnostics);
     const Exit reported = report(diagnostics);
-    const Exit written = writePage(options, source, bundle, options.module);
+    const Exit written = writePage(options, source, bundle, {.title = name, .module = name});
     return written == Exit::done ? reported : written;
 }
 
@@ -101,6 +104,7 @@ void addGalleryCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<GalleryOptions>();
     CLI::App* command = program.add_subcommand("gallery", "Write a web page that shows every text and asset.");
     CLI::Option* source = options->source.addTo(*command);
+    options->source.addNamesTo(*command);
     command->add_option("--bundle", options->bundle, "A compiled bundle (default: the module's own)")->excludes(source);
     command->add_option("--module", options->module,
                         "The module's name, with which accessors begin (default: that of the bundle)");

@@ -25,7 +25,7 @@ const isPlural = (value) => value !== null && typeof value === "object";
 function stringsOf(value) {
     if (value === null)
         return [];
-    return isPlural(value) ? [value.format ?? "", ...Object.values(value.variables).flatMap(Object.values)] : [value];
+    return isPlural(value) ? [value.format, ...Object.values(value.variables).flatMap(Object.values)] : [value];
 }
 
 // A placeholder as the platform's formatting has it, or a variable of a plural rule.
@@ -40,6 +40,8 @@ function statusOf(text, language) {
     const value = text.values[language];
     if (value === null)
         return "missing";
+    if (text.fixed) // the same in every language
+        return "translated";
     const original = text.values[development];
     if (language === development || original === null)
         return "translated";

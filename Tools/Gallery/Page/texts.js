@@ -16,7 +16,8 @@ function marked(text) {
 }
 
 function pluralForms(value) {
-    const parts = value.format ? [make("p", {}, ...marked(value.format))] : [];
+    const isVariableAlone = /^%#@[^@]*@$/.test(value.format);
+    const parts = isVariableAlone ? [] : [make("p", {}, ...marked(value.format))];
     for (const [variable, forms] of Object.entries(value.variables)) {
         const list = make("dl", { class: "forms" });
         for (const [category, text] of Object.entries(forms))
@@ -53,7 +54,7 @@ function textRow(text) {
         name.append(copyButton(fullAccessor(text), text.accessor));
     name.append(make("code", { class: "key", dir: "auto" }, text.key));
     if (!text.accessor)
-        name.append(make("span", { class: "tag missing" }, "No accessor"));
+        name.append(make("p", { class: "reason" }, make("span", { class: "tag missing" }, "No accessor"), " ", text.reason ?? ""));
     if (text.comment)
         name.append(make("p", { class: "comment", dir: "auto" }, text.comment));
     const cells = { a: make("div", { class: "cell" }), b: make("div", { class: "cell" }) };
