@@ -215,7 +215,7 @@ onPage("texts of any content are only shown", async (tab) => {
     assert.match(await row(tab, "end").innerText(), /<\/script><script>alert\(1\)<\/script><!--[\s\S]*<img src=x onerror=alert\(2\)>/);
     assert.deepEqual(await tab.locator('[data-key^="quote"] .placeholder').allInnerTexts(), ["%1$@", "%2$ld"]);
     assert.match(await row(tab, "…").innerText(), /No accessor/);
-    assert.equal(await row(tab, "same").locator(".tag").innerText(), "Not translated");
+    assert.equal(await row(tab, "same").locator(".tag").innerText(), "Untranslated");
     assert.equal(await row(tab, "same").locator(".comment").innerText(), "Of two things");
     for (const [status, shown] of [["missing", 3], ["comment", 1], ["same", 1]]) {
         await tab.selectOption("#status", status);

@@ -114,6 +114,7 @@ using AssetKey = std::pair<Kind, std::string>;
 // The accessors of the assets, below the tree.
 std::map<AssetKey, std::string> accessorsOf(const std::vector<Entry>& entries) {
     std::vector<SourceBundle::SourceAsset> assets;
+    assets.reserve(entries.size());
     for (const Entry& entry : entries)
         assets.push_back({.kind = entry.kind(),
                           .catalog = std::string(entry.catalog()),

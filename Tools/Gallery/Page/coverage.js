@@ -16,7 +16,7 @@ function coverageRow(language, index, showMissing) {
         bar.append(part);
     }
     const percent = Math.floor(((counts.translated + counts.same) / all) * 100);
-    const notes = [[counts.same, "not translated"], [counts.missing, "missing"]]
+    const notes = [[counts.same, "untranslated"], [counts.missing, "missing"]]
         .filter(([count]) => count > 0).map(([count, what]) => `${numbers.format(count)} ${what}`);
     const name = make("button", { type: "button", class: "language", title: "Show as second language" },
         make("bdi", { lang: language.tag, dir: language.direction }, language.name), " ", make("code", {}, language.code));

@@ -29,7 +29,7 @@ function pluralForms(value) {
     return parts;
 }
 
-const statusNames = { missing: "Missing", same: "Not translated" };
+const statusNames = { missing: "Missing", same: "Untranslated" };
 
 function fillCell(cell, text, index) {
     const language = languages[index];
