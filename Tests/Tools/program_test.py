@@ -203,6 +203,36 @@ class Program(unittest.TestCase):
         status, out, err = run("generate", self.folder / "none", "--module", "Shop", "-o", self.folder / "tree")
         self.assertEqual((status, out, err), (2, b"", f"{self.folder / 'none'}: error: is not a folder of resources (1 error, 0 warnings)\n"))
 
+    def test_accessors(self):
+        table = self.write("src/Base.lproj/Words.strings", '/* a "name" */\n"hello.name" = "Hello, %@: %.1f";\n"" = "";\n')
+        catalog = self.write("src/Deep/More.xcstrings", json.dumps({"sourceLanguage": "en", "strings": {"files": {"localizations": {
+            "en": {"variations": {"plural": {form: {"stringUnit": {"value": f"%lld {word}"}} for form, word in
+                                             (("one", "file"), ("other", "files"))}}}}}}}, indent=1))
+        self.write("src/Looks.xcassets/a.imageset/Contents.json", '{"images": [{"filename": "a.svg"}]}')
+        self.write("src/Looks.xcassets/a.imageset/a.svg", '<svg xmlns="http://www.w3.org/2000/svg" width="1" height="1"/>')
+        accessors = ["accessors", self.folder / "src", "--module", "Shop"]
+        status, out, err = run(*accessors, "--format", "json")
+        reason = "it has no letter or digit to make a name of"
+        self.assertEqual((status, err), (0, f'{table}:3:1: warning: key "" has no accessor: {reason} (0 errors, 1 warning)\n'))
+        tree = "Shop::Shop"
+        self.assertEqual(json.loads(out), [
+            {"kind": "text", "accessor": f"{tree}Strings::More::files", "table": "More", "key": "files", "parameters": ["integer"],
+             "text": "%lld files", "comment": "", "file": str(catalog), "line": 4},
+            {"kind": "text", "accessor": f"{tree}Strings::Words::Hello::name", "table": "Words", "key": "hello.name",
+             "parameters": ["text", "number"], "text": "Hello, %@: %.1f", "comment": 'a "name"', "file": str(table), "line": 2},
+            {"kind": "text", "accessor": None, "table": "Words", "key": "", "parameters": [], "text": "", "comment": "",
+             "file": str(table), "line": 3, "reason": reason},
+            {"kind": "image", "accessor": f"{tree}Asset::Looks::a", "catalog": "Looks", "name": "a",
+             "file": str(self.folder / "src/Looks.xcassets/a.imageset")}])
+        self.assertEqual(run(*accessors)[1].decode().splitlines(), [
+            f"text\t{tree}Strings::More::files(integer)\tMore\tfiles",
+            f"text\t{tree}Strings::Words::Hello::name(text, number)\tWords\thello.name",
+            f"text\t-\tWords\t\t{reason}", f"image\t{tree}Asset::Looks::a\tLooks\ta"])
+        # Compiled, the plural text chooses its form.
+        self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle")[0], 0)
+        for count, text in (("1", b"1 file\n"), ("5", b"5 files\n")):
+            self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "More", "files", count)[1], text)
+
     def versions(self):
         """Two source bundles, "1" and "2", of some size; and what the compiled one says in all its tables."""
         for version in "12":

@@ -1,6 +1,7 @@
 #include "Compiler/Tables.h"
 
 #include "Runtime/internal/File.h"
+#include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/Table.h"
 #include "StringTables/internal/Writer.h"
 #include <array>
@@ -55,11 +56,20 @@ Runtime::Result<void> place(const fs::path& file, Runtime::Result<std::string> b
     return Runtime::writeFile(file, *bytes);
 }
 
+// The plain texts as TABLE.strings, those with forms as TABLE.stringsdict beside it.
 Runtime::Result<void> compileTexts(const LanguageTexts& texts, const fs::path& file) {
     std::vector<Entry> entries;
+    std::vector<StringTables::PluralEntry> plurals;
     for (const SourceBundle::SourceEntry& entry : texts.entries())
-        entries.push_back({entry.key, entry.text});
-    return place(file, StringTables::write(entries, Form::binary));
+        if (entry.plural == nullptr)
+            entries.push_back({entry.key, entry.text});
+        else
+            plurals.push_back({std::string(entry.key), *entry.plural, {}});
+    if (!plurals.empty())
+        if (auto written = place(fs::path(file) += "dict", StringTables::write(plurals)); !written)
+            return written;
+    return entries.empty() && !plurals.empty() ? Runtime::Result<void>()
+                                               : place(file, StringTables::write(entries, Form::binary));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "Generator/Parameters.h"
 
 #include "StringTables/internal/Placeholder.h"
+#include "StringTables/internal/PluralPieces.h"
 
 namespace Generator {
 
@@ -52,7 +53,8 @@ std::string faultOf(const FormatSignature& signature) {
 } // namespace
 
 Parameters parametersOf(const SourceBundle::SourceEntry& entry) {
-    const FormatSignature signature = StringTables::signatureOf(entry.text);
+    const FormatSignature signature =
+        entry.plural == nullptr ? StringTables::signatureOf(entry.text) : StringTables::signatureOf(*entry.plural);
     Parameters parameters;
     parameters.fault = faultOf(signature);
     parameters.hasLonePercent = signature.hasLonePercent;

@@ -31,10 +31,10 @@ struct SourceAsset {
 };
 
 // The assets of the catalogs, which are folders, in their order and then in the order of their paths, those of a folder
-// before those of the folders in it. Catalogs of one name are one. Several may have one kind and name; whoever has to choose takes the first.
-// Diagnostics name the file: broken JSON, a file that would lie outside of its set and a colour without meaning are
-// errors; a file that is missing and what is not supported are warnings, and it is left out; sets of other kinds are
-// notes.
+// before those of the folders in it. Catalogs of one name are one. Several may have one kind and name; whoever has to
+// choose takes the first. Diagnostics name the file: broken JSON, a file that would lie outside of its set and a colour
+// without meaning are errors; a file that is missing and what is not supported are warnings, and it is left out; sets
+// of other kinds are notes.
 [[nodiscard]] std::vector<SourceAsset> sourceAssets(std::span<const std::filesystem::path> catalogs,
                                                     Diagnostics& diagnostics);
 

@@ -1,10 +1,15 @@
 #include "SourceBundle/Source.h"
 
 #include "SourceBundle/DevelopmentLanguage.h"
+#include "SourceBundle/PluralText.h"
+#include "SourceBundle/StringCatalog.h"
+#include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/Table.h"
 #include <algorithm>
+#include <cstring>
 #include <deque>
 #include <map>
+#include <memory_resource>
 #include <utility>
 
 namespace SourceBundle {
@@ -16,6 +21,17 @@ struct Source::Storage {
     std::vector<TableFile> files;
     std::deque<Table> tables;
     std::deque<std::vector<std::string>> comments; // of the tables' entries
+    std::deque<StringTables::PluralTable> pluralTables;
+    std::deque<StringTables::PluralFormat> plurals;
+    std::pmr::monotonic_buffer_resource characters;
+
+    std::string_view keep(std::string_view text) {
+        if (text.empty())
+            return {};
+        auto* const memory = static_cast<char*>(characters.allocate(text.size(), 1));
+        std::memcpy(memory, text.data(), text.size());
+        return {memory, text.size()};
+    }
 };
 
 namespace {
@@ -35,10 +51,14 @@ public:
         case TableFile::Kind::texts:
             return readTexts(file);
         case TableFile::Kind::plurals:
+            return readPlurals(file);
         case TableFile::Kind::catalog:
-            diagnostics_.add(Severity::warning, {.message = "cannot be read yet", .file = file.path});
+            return readCatalog(file);
         }
     }
+
+    // The source language of the first string catalog, or an empty text.
+    const std::string& catalogLanguage() const noexcept { return catalogLanguage_; }
 
     std::vector<SourceTable> take() {
         std::vector<SourceTable> all;
@@ -89,7 +109,73 @@ private:
                         .column = static_cast<std::uint32_t>(places[i].column)});
     }
 
+    void readPlurals(const TableFile& file) {
+        LanguageTexts* texts = textsFor(file, file.language);
+        if (texts == nullptr)
+            return;
+        auto read = StringTables::PluralTable::readFile(file.path);
+        if (!read) {
+            texts->isDamaged = true;
+            return diagnostics_.add(Severity::error, std::move(read.error()));
+        }
+        const auto& table = storage_.pluralTables.emplace_back(*std::move(read));
+        for (const Runtime::Error& note : table.notes())
+            diagnostics_.add(Severity::warning, note);
+        for (const StringTables::PluralEntry& entry : table.entries()) {
+            const SourceEntry* text = texts->find(entry.key);
+            texts->replace({.key = entry.key,
+                            .text = storage_.keep(otherText(entry.plural)),
+                            .plural = &entry.plural,
+                            .comment = text == nullptr ? std::string_view() : text->comment,
+                            .file = &file,
+                            .line = static_cast<std::uint32_t>(entry.location.line),
+                            .column = static_cast<std::uint32_t>(entry.location.column)});
+        }
+    }
+
+    void readCatalog(const TableFile& file) {
+        std::unordered_map<std::string, LanguageTexts*> languages;
+        const auto textsIn = [&](std::string_view language) {
+            const auto [known, isNew] = languages.try_emplace(std::string(language), nullptr);
+            if (isNew)
+                known->second = textsFor(file, known->first);
+            return known->second;
+        };
+        const auto add = [&](CatalogText&& text) {
+            if (LanguageTexts* texts = textsIn(text.language))
+                addCatalogText(*texts, std::move(text), file);
+        };
+        auto language = readStringCatalog(file.path, add, diagnostics_);
+        if (!language) {
+            for (const auto& [code, texts] : languages)
+                if (texts != nullptr)
+                    texts->isDamaged = true;
+            return diagnostics_.add(Severity::error, std::move(language.error()));
+        }
+        (void)textsIn(*language); // be it none
+        if (catalogLanguage_.empty())
+            catalogLanguage_ = *std::move(language);
+    }
+
+    void addCatalogText(LanguageTexts& texts, CatalogText&& text, const TableFile& file) {
+        SourceEntry entry{.key = storage_.keep(text.key),
+                          .text = storage_.keep(text.text),
+                          .comment = storage_.keep(text.comment),
+                          .file = &file,
+                          .line = text.line,
+                          .column = text.column,
+                          .state = text.state,
+                          .isStale = text.isStale,
+                          .isTranslatable = text.isTranslatable};
+        if (text.plural)
+            entry.plural = &storage_.plurals.emplace_back(*std::move(text.plural));
+        if (texts.find(entry.key) != nullptr)
+            diagnostics_.add(Severity::warning, entry.error("the key appears again; this text is used"));
+        texts.replace(entry);
+    }
+
     Source::Storage& storage_;
+    std::string catalogLanguage_;
     Diagnostics& diagnostics_;
     std::map<std::string, Languages> byName_;
 };
@@ -172,8 +258,9 @@ Source Source::read(SourceFiles files, const SourceOptions& options, Diagnostics
     for (const TableFile& file : source.storage_->files)
         reader.read(file);
     source.tables = reader.take();
+    const std::string otherwise = reader.catalogLanguage().empty() ? "en" : reader.catalogLanguage();
     source.developmentLanguage = options.developmentLanguage.empty()
-                                     ? SourceBundle::developmentLanguage(source.infos, diagnostics).value_or("en")
+                                     ? SourceBundle::developmentLanguage(source.infos, diagnostics).value_or(otherwise)
                                      : languageOfFolder(options.developmentLanguage);
     return source;
 }

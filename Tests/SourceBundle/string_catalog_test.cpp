@@ -1,0 +1,183 @@
+// String catalogs and plural tables as sources.
+#include "../Support/SourceFolder.h"
+#include "StringTables/internal/PluralTable.h"
+#include <gtest/gtest.h>
+
+namespace {
+
+using Strings = std::vector<std::string>;
+using SourceBundle::SourceEntry;
+
+// "FORMAT {NAME TYPE one=... other=...}"
+std::string shown(const SourceEntry& entry) {
+    if (entry.plural == nullptr)
+        return std::string(entry.text);
+    std::string text = entry.plural->format;
+    for (const auto& variable : entry.plural->variables) {
+        text += " {" + variable.name + ' ' + variable.valueType;
+        for (std::size_t i = 0; i < variable.forms.size(); ++i)
+            if (variable.forms[i])
+                text.append(" ").append(Intl::pluralCategoryNames[i]).append("=").append(*variable.forms[i]);
+        text += '}';
+    }
+    return text;
+}
+
+std::string quotes(std::string json) {
+    std::ranges::replace(json, '\'', '"');
+    return json;
+}
+
+// The entry of the key "k", whose localizations are `localizations`, in English.
+std::string shownOf(const std::string& localizations) {
+    Support::SourceFolder folder;
+    folder.write("T.xcstrings", quotes("{'sourceLanguage': 'en', 'strings': {'k': {'localizations': {'en': " +
+                                       localizations + "}}}}"));
+    const auto source = folder.read();
+    return folder.diagnostics.hasErrors() ? folder.takeMessages().front()
+                                          : shown(*source.tables.at(0).find("en")->find("k"));
+}
+
+TEST(StringCatalog, HasTheTextsOfEveryLanguage) {
+    Support::SourceFolder folder;
+    folder.write("Deep/mul.lproj/T.xcstrings", quotes(R"({
+  'version': '1.0',
+  'strings': {
+    '%@ is here': {},
+    'title': {
+      'comment': 'A \u00e9',
+      'extractionState': 'stale',
+      'localizations': {
+        'de': {'stringUnit': {'state': 'needs_review', 'value': 'Titel'}},
+        'en': {'stringUnit': {'state': 'translated', 'value': 'Title'}},
+        'fr': {'stringUnit': {'state': 'new', 'value': ''}}
+      },
+      'shouldTranslate': false
+    }
+  },
+  'sourceLanguage': 'en'
+})"));
+    const auto source = folder.read();
+    EXPECT_EQ(folder.takeMessages(), Strings());
+    EXPECT_EQ(source.developmentLanguage, "en");
+    ASSERT_EQ(source.tables.size(), 1U);
+    const auto& table = source.tables[0];
+    ASSERT_EQ(table.languages.size(), 2U);
+    const SourceEntry* title = table.find("de")->find("title");
+    ASSERT_NE(title, nullptr);
+    EXPECT_EQ(title->text, "Titel");
+    EXPECT_EQ(title->comment, "A é");
+    EXPECT_EQ(title->state, SourceBundle::State::needsReview);
+    EXPECT_TRUE(title->isStale);
+    EXPECT_FALSE(title->isTranslatable);
+    EXPECT_EQ(title->error("m").text(), title->file->path.string() + ":5:5: m");
+    EXPECT_EQ(table.find("en")->find("title")->text, "Title");
+    EXPECT_EQ(table.find("en")->find("%@ is here")->text, "%@ is here");
+}
+
+TEST(StringCatalog, NamesTheDevelopmentLanguageWhereNothingElseDoes) {
+    Support::SourceFolder folder;
+    folder.write("T.xcstrings", quotes("{'sourceLanguage': 'de', 'strings': {}}"));
+    EXPECT_EQ(folder.read().developmentLanguage, "de");
+    folder.write("Info.plist", "CFBundleDevelopmentRegion = fr;");
+    EXPECT_EQ(folder.read().developmentLanguage, "fr");
+}
+
+TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
+    const auto unit = [](const std::string& text) {
+        return "{'stringUnit': {'state': 'translated', 'value': '" + text + "'}}";
+    };
+    const auto plural = [&](const std::string& one, const std::string& other) {
+        return "{'plural': {'one': " + unit(one) + ", 'other': " + unit(other) + "}}";
+    };
+    const struct {
+        int line;
+        std::string localization, shown;
+    } cases[] = {
+        {__LINE__, "{'variations': " + plural("%lld day", "%lld days") + "}",
+         "%#@value@ {value lld one=%lld day other=%lld days}"},
+        // The first number chooses; with more than one argument all have positions.
+        {__LINE__, "{'variations': " + plural("%@ has one file", "%@ has %lld files") + "}",
+         "%2$#@value@ {value lld one=%1$@ has one file other=%1$@ has %2$lld files}"},
+        {__LINE__, "{'variations': " + plural("%2$@: %1$.1f", "%2$@: %1$.1f s") + "}",
+         "%#@value@ {value .1f one=%2$@: %1$.1f other=%2$@: %1$.1f s}"},
+        {__LINE__, "{'variations': " + plural("One", "Many") + "}", "%#@value@ {value lld one=One other=Many}"},
+        {__LINE__, "{'variations': {'device': {'mac': " + unit("Click") + ", 'other': " + unit("Tap") + "}}}", "Tap"},
+        {__LINE__, "{'variations': {'device': {'iphone': " + unit("Tap") + ", 'ipad': " + unit("Touch") + "}}}", "Tap"},
+        {__LINE__,
+         "{'variations': {'device': {'ipad': " + unit("x") + ", 'other': {'variations': " + plural("%d a", "%d b") +
+             "}}}}",
+         "%#@value@ {value d one=%d a other=%d b}"},
+        {__LINE__,
+         "{'stringUnit': {'state': 'translated', 'value': '%@: %#@files@ in %#@folders@'}, 'substitutions': {"
+         "'files': {'argNum': 2, 'formatSpecifier': 'ld', 'variations': " +
+             plural("%arg file", "%arg files, 100%%arg") +
+             "}, 'folders': {'argNum': 3, 'variations': " + plural("a folder", "%arg folders") + "}}}",
+         "%1$@: %2$#@files@ in %3$#@folders@ {files ld one=%2$ld file other=%2$ld files, 100%%arg} "
+         "{folders lld one=a folder other=%3$lld folders}"},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(shownOf(one.localization), one.shown) << "line " << one.line;
+}
+
+TEST(StringCatalog, IsRefusedWithThePlaceOfItsFault) {
+    const struct {
+        int line;
+        std::string json, message;
+    } cases[] = {
+        {__LINE__, "", "T.xcstrings: invalid JSON"},
+        {__LINE__, "[]", "T.xcstrings:1:1: is not a string catalog"},
+        {__LINE__, "{'strings': {}}", "is not a string catalog"},
+        {__LINE__, "{'sourceLanguage': 'en'}", "is not a string catalog"},
+        {__LINE__, "{'sourceLanguage': 'en', 'strings': {'a': 5}}", "is not a string catalog"},
+        {__LINE__, "{'sourceLanguage': 'en',\n'strings': {'a': {'x': nul}}}", "T.xcstrings:2:"},
+        {__LINE__, "{'sourceLanguage': 'en', 'strings': {'a': {}", "invalid JSON"},
+        {__LINE__, "{'sourceLanguage': 'en', 'strings': {'\xFF': {}}}", "invalid JSON"},
+    };
+    for (const auto& one : cases) {
+        Support::SourceFolder folder;
+        folder.write("T.xcstrings", quotes(one.json));
+        (void)folder.read();
+        const Strings messages = folder.takeMessages();
+        ASSERT_GE(messages.size(), 1U) << "line " << one.line;
+        EXPECT_TRUE(messages[0].starts_with("error: T.xcstrings")) << "line " << one.line << messages[0];
+        EXPECT_NE(messages[0].find(one.message), std::string::npos) << "line " << one.line << messages[0];
+    }
+}
+
+TEST(StringCatalog, ReportsWhatItLeavesOut) {
+    Support::SourceFolder folder;
+    folder.write("T.xcstrings", quotes("{'sourceLanguage': 'en', 'strings': {'a': {},\n'a': {}, 'd': {'localizations': "
+                                       "{'en': {'variations': {'device': {'mac': {'stringUnit': {'value': 'x'}}, "
+                                       "'other': {'stringUnit': {'value': 'y'}}}}}}}}}"));
+    folder.write("en.lproj/T.strings", "a = b;");
+    (void)folder.read();
+    EXPECT_EQ(folder.takeMessages(),
+              (Strings{"warning: T.xcstrings:2:1: the key appears again; this text is used",
+                       "note: T.xcstrings:2:10: texts for single devices are left out",
+                       "error: en.lproj/T.strings: is the table \"T\" in the language en, as is T.xcstrings"}));
+}
+
+TEST(PluralTables, WinOverEqualKeysOfTexts) {
+    Support::SourceFolder folder;
+    folder.write("en.lproj/T.strings", "a = b;\n/* why */\nfiles = x;");
+    folder.write("en.lproj/T.stringsdict", R"(<plist><dict>
+<key>files</key><dict><key>NSStringLocalizedFormatKey</key><string>Found %#@n@ here</string>
+<key>n</key><dict><key>NSStringFormatSpecTypeKey</key><string>NSStringPluralRuleType</string>
+<key>NSStringFormatValueTypeKey</key><string>d</string><key>one</key><string>%d file</string>
+<key>other</key><string>%d files</string></dict></dict></dict></plist>)");
+    const auto source = folder.read();
+    EXPECT_EQ(folder.takeMessages(), Strings());
+    const auto* texts = source.tables.at(0).find("en");
+    ASSERT_EQ(texts->entries().size(), 2U);
+    const SourceEntry& files = texts->entries()[1];
+    EXPECT_EQ(shown(files), "Found %#@n@ here {n d one=%d file other=%d files}");
+    EXPECT_EQ(files.text, "Found %d files here");
+    EXPECT_EQ(files.comment, "why");
+    EXPECT_EQ(files.line, 2U);
+    folder.write("en.lproj/T.stringsdict", "<plist>");
+    EXPECT_TRUE(folder.read().tables.at(0).find("en")->isDamaged);
+    EXPECT_TRUE(folder.diagnostics.hasErrors());
+}
+
+} // namespace

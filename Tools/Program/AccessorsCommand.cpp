@@ -1,0 +1,170 @@
+// lumora accessors: what lumora generate makes of a source, and what it leaves out.
+#include "Program/Command.h"
+
+#include "Generator/CodeText.h"
+#include "Generator/Generator.h"
+#include "Program/SourceArguments.h"
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <nlohmann/json.hpp>
+
+namespace Tools {
+
+namespace {
+
+using AssetCatalog::Kind;
+using Generator::CatalogTable;
+using Generator::Model;
+using Generator::Parameter;
+using nlohmann::ordered_json;
+using SourceBundle::SourceAsset;
+using SourceBundle::SourceEntry;
+
+struct AccessorsOptions {
+    SourceArguments source;
+    Generator::Options generator;
+    std::string format = "text";
+};
+
+const char* nameOf(Parameter parameter) {
+    switch (parameter) {
+    case Parameter::text:
+        return "text";
+    case Parameter::integer:
+        return "integer";
+    case Parameter::number:
+        return "number";
+    }
+    return "";
+}
+
+const char* nameOf(Kind kind) {
+    switch (kind) {
+    case Kind::image:
+        return "image";
+    case Kind::color:
+        return "color";
+    case Kind::data:
+        return "data";
+    }
+    return "";
+}
+
+// One accessor, or one that is left out.
+class Lister {
+public:
+    explicit Lister(const std::string& module) : tree_(module + "::" + module) {}
+
+    ordered_json list(const Model& model) {
+        for (const CatalogTable& table : model.tables) {
+            for (const auto& entry : table.entries)
+                add(table, entry);
+            for (const auto& [source, reason] : table.leftOut)
+                add(table, *source, nullptr, {}, reason);
+        }
+        for (const auto& constant : model.assetTree.constants)
+            add(*constant.asset, tree_ + "Asset::" + constant.groups + "::" + constant.name, {});
+        for (const auto& [asset, reason] : model.assetTree.leftOut)
+            add(*asset, nullptr, reason);
+        return std::move(all_);
+    }
+
+private:
+    void add(const CatalogTable& table, const Generator::CatalogEntry& entry) {
+        const std::string groups = entry.groups.empty() ? "" : entry.groups + "::";
+        add(table, *entry.source, tree_ + "Strings::" + table.spelling + "::" + groups + entry.name, entry.parameters,
+            {});
+    }
+
+    void add(const CatalogTable& table, const SourceEntry& entry, const ordered_json& accessor,
+             const std::vector<Parameter>& parameters, const std::string& reason) {
+        ordered_json json = {{"kind", "text"},
+                             {"accessor", accessor},
+                             {"table", table.name},
+                             {"key", entry.key},
+                             {"parameters", ordered_json::array()},
+                             {"text", entry.text},
+                             {"comment", entry.comment},
+                             {"file", entry.file->path.string()},
+                             {"line", entry.line}};
+        for (const Parameter parameter : parameters)
+            json["parameters"].push_back(nameOf(parameter));
+        push(std::move(json), reason);
+    }
+
+    void add(const SourceAsset& asset, const ordered_json& accessor, const std::string& reason) {
+        push({{"kind", nameOf(asset.kind)},
+              {"accessor", accessor},
+              {"catalog", asset.catalog},
+              {"name", asset.name},
+              {"file", asset.path.string()}},
+             reason);
+    }
+
+    void push(ordered_json json, const std::string& reason) {
+        if (!reason.empty())
+            json["reason"] = reason;
+        all_.push_back(std::move(json));
+    }
+
+    std::string tree_;
+    ordered_json all_ = ordered_json::array();
+};
+
+std::string visible(const ordered_json& text) {
+    return Generator::visibleText(text.get_ref<const std::string&>(), std::string::npos);
+}
+
+// Kind, accessor with its parameters (or "-"), table or catalog, key or name, and why there is no accessor.
+std::string lineOf(const ordered_json& accessor) {
+    std::string parameters;
+    if (accessor.contains("parameters"))
+        for (const ordered_json& parameter : accessor["parameters"])
+            parameters.append(parameters.empty() ? "" : ", ").append(parameter.get_ref<const std::string&>());
+    const bool isText = accessor.contains("key");
+    const bool isLeftOut = accessor["accessor"].is_null();
+    std::string line = visible(accessor["kind"]) + '\t';
+    line += isLeftOut ? "-" : visible(accessor["accessor"]) + (isText ? "(" + parameters + ")" : "");
+    line += '\t' + visible(accessor[isText ? "table" : "catalog"]) + '\t' + visible(accessor[isText ? "key" : "name"]);
+    return line + (isLeftOut ? '\t' + visible(accessor["reason"]) : "") + '\n';
+}
+
+std::string textOf(const ordered_json& accessors) {
+    std::string text;
+    for (const ordered_json& accessor : accessors)
+        text += lineOf(accessor);
+    return text;
+}
+
+Exit runAccessors(AccessorsOptions& options) {
+    options.generator.names = options.source.names;
+    SourceBundle::Diagnostics diagnostics;
+    Generator::check(options.generator, diagnostics);
+    const SourceBundle::Source source = options.source.read(diagnostics);
+    const Model model = Generator::modelOf(source, options.generator, diagnostics);
+    const Exit reported = report(diagnostics);
+    if (reported != Exit::done)
+        return reported;
+    const ordered_json accessors = Lister(options.generator.module).list(model);
+    return print(options.format == "json" ? accessors.dump(2, ' ', false, ordered_json::error_handler_t::replace) + '\n'
+                                          : textOf(accessors));
+}
+
+} // namespace
+
+void addAccessorsCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<AccessorsOptions>();
+    CLI::App* command = program.add_subcommand("accessors", "List the accessors that generate makes of a source.");
+    options->source.addTo(*command)->required();
+    options->source.addNamesTo(*command);
+    command->add_option("--module", options->generator.module, "The module's name, a C++ identifier")->required();
+    command
+        ->add_option(
+            "--format", options->format,
+            "text: kind, accessor or -, table or catalog, key or name, reason, separated by tabs; json: an array")
+        ->check(CLI::IsMember({"text", "json"}))
+        ->capture_default_str();
+    command->callback([options, &exit] { exit = runAccessors(*options); });
+}
+
+} // namespace Tools

@@ -1,0 +1,316 @@
+#include "SourceBundle/StringCatalog.h"
+
+#include "Runtime/internal/File.h"
+#include "SourceBundle/PluralText.h"
+#include <algorithm>
+#include <array>
+#include <simdjson.h>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace SourceBundle {
+
+namespace ondemand = simdjson::ondemand;
+using Intl::pluralCategoryNamed;
+
+namespace {
+
+// Counts lines and columns, of places that follow each other.
+class Lines {
+public:
+    explicit Lines(std::string_view text) : text_(text) {}
+
+    std::pair<std::uint32_t, std::uint32_t> locate(std::size_t offset) {
+        for (; at_ < offset; ++at_) {
+            if (text_[at_] == '\n') {
+                ++line_;
+                column_ = 1;
+            } else if ((static_cast<unsigned char>(text_[at_]) & 0xC0) != 0x80) {
+                ++column_;
+            }
+        }
+        return {line_, column_};
+    }
+
+private:
+    std::string_view text_;
+    std::size_t at_ = 0;
+    std::uint32_t line_ = 1, column_ = 1;
+};
+
+// What a localization says: a text, or forms, or a text with variables.
+struct Localized {
+    std::optional<std::string> text;
+    PluralForms forms;
+    std::vector<Substitution> substitutions;
+    State state = State::translated;
+    bool hasDevices = false; // for which there were other texts
+
+    bool hasForms() const {
+        return std::ranges::any_of(forms, [](const auto& form) { return form.has_value(); });
+    }
+    bool isEmpty() const { return !hasForms() && (!text || (text->empty() && state == State::isNew)); }
+    void note(State other) {
+        if (state == State::translated || other == State::isNew)
+            state = other;
+    }
+};
+
+// Takes a value apart, so that a fault in it is found.
+void skip(ondemand::value value) {
+    switch (value.type()) {
+    case ondemand::json_type::array:
+        for (auto element : value.get_array())
+            skip(element.value());
+        break;
+    case ondemand::json_type::object:
+        for (auto field : value.get_object())
+            skip(field.value());
+        break;
+    case ondemand::json_type::string:
+        (void)value.get_string().value();
+        break;
+    case ondemand::json_type::number:
+        (void)value.get_number().value();
+        break;
+    case ondemand::json_type::boolean:
+        (void)value.get_bool().value();
+        break;
+    case ondemand::json_type::null:
+        if (!value.is_null())
+            throw simdjson::simdjson_error(simdjson::N_ATOM_ERROR);
+        break;
+    }
+}
+
+// Calls `visit(name, value)` for each member; it takes the value apart.
+template <class Visit> void forEach(ondemand::value object, Visit&& visit) {
+    for (auto field : object.get_object()) {
+        const std::string_view name = field.unescaped_key();
+        visit(name, ondemand::value(field.value()));
+    }
+}
+
+State stateNamed(std::string_view name) {
+    return name == "new" ? State::isNew : name == "needs_review" ? State::needsReview : State::translated;
+}
+
+struct Unit {
+    std::optional<std::string> text;
+    State state = State::translated;
+};
+
+Unit readUnit(ondemand::value object) {
+    Unit unit;
+    forEach(object, [&](std::string_view name, ondemand::value value) {
+        if (name == "state")
+            unit.state = stateNamed(value.get_string());
+        else if (name == "value")
+            unit.text = std::string(std::string_view(value.get_string()));
+        else
+            skip(value);
+    });
+    return unit;
+}
+
+void readLocalized(ondemand::value object, Localized& out);
+
+void readPlural(ondemand::value object, Localized& out) {
+    forEach(object, [&](std::string_view name, ondemand::value value) {
+        const auto category = pluralCategoryNamed(name);
+        if (!category)
+            return skip(value);
+        Localized form;
+        readLocalized(value, form);
+        out.forms[indexOf(*category)] = std::move(form.text);
+        out.note(form.state);
+    });
+}
+
+void readDevices(ondemand::value object, Localized& out) {
+    static constexpr std::array<std::string_view, 2> liked = {"other", "iphone"};
+    std::size_t best = liked.size() + 1;
+    forEach(object, [&](std::string_view name, ondemand::value value) {
+        Localized device;
+        readLocalized(value, device);
+        const auto rank = static_cast<std::size_t>(std::ranges::find(liked, name) - liked.begin());
+        const bool isFirst = best > liked.size();
+        if (rank < best) {
+            best = rank;
+            std::swap(out, device);
+        }
+        out.hasDevices |= !isFirst || device.hasDevices;
+    });
+}
+
+void readSubstitutions(ondemand::value object, Localized& out) {
+    forEach(object, [&](std::string_view name, ondemand::value value) {
+        Substitution substitution{{std::string(name), "lld", {}}, 0};
+        Localized forms;
+        forEach(value, [&](std::string_view member, ondemand::value inner) {
+            if (member == "argNum")
+                substitution.argument = std::min<std::uint64_t>(inner.get_uint64(), 9999);
+            else if (member == "formatSpecifier")
+                substitution.variable.valueType = std::string(std::string_view(inner.get_string()));
+            else if (member == "variations")
+                forEach(inner, [&](std::string_view kind, ondemand::value variation) {
+                    kind == "plural"   ? readPlural(variation, forms)
+                    : kind == "device" ? readDevices(variation, forms)
+                                       : skip(variation);
+                });
+            else
+                skip(inner);
+        });
+        substitution.variable.forms = std::move(forms.forms);
+        out.note(forms.state);
+        out.hasDevices |= forms.hasDevices;
+        out.substitutions.push_back(std::move(substitution));
+    });
+}
+
+void readLocalized(ondemand::value object, Localized& out) {
+    forEach(object, [&](std::string_view name, ondemand::value value) {
+        if (name == "stringUnit") {
+            Unit unit = readUnit(value);
+            out.text = std::move(unit.text);
+            out.note(unit.state);
+        } else if (name == "variations") {
+            forEach(value, [&](std::string_view kind, ondemand::value variation) {
+                kind == "plural"   ? readPlural(variation, out)
+                : kind == "device" ? readDevices(variation, out)
+                                   : skip(variation);
+            });
+        } else if (name == "substitutions") {
+            readSubstitutions(value, out);
+        } else {
+            skip(value);
+        }
+    });
+}
+
+class Reader {
+public:
+    Reader(const std::filesystem::path& file, std::string text, const std::function<void(CatalogText&&)>& add,
+           Diagnostics& diagnostics)
+        : file_(file), text_(std::move(text)), lines_(text_), add_(add), diagnostics_(diagnostics) {}
+
+    Runtime::Result<std::string> read() {
+        if (text_.starts_with("\xEF\xBB\xBF"))
+            text_.erase(0, 3);
+        // The parser reads beyond the end, up to its padding.
+        const std::size_t size = text_.size();
+        text_.resize(size + simdjson::SIMDJSON_PADDING);
+        lines_ = Lines(text_);
+        ondemand::parser parser;
+        ondemand::document document;
+        if (const auto wrong = parser.iterate(text_.data(), size, text_.size()).get(document))
+            return error(wrong);
+        try {
+            return readCatalog(document);
+        } catch (const simdjson::simdjson_error& wrong) {
+            return errorAt(document, wrong.error());
+        }
+    }
+
+private:
+    Runtime::Error error(simdjson::error_code code) const {
+        const bool isStructure = code == simdjson::INCORRECT_TYPE || code == simdjson::NO_SUCH_FIELD;
+        return {.message = isStructure ? "is not a string catalog: unexpected type"
+                                       : std::string("invalid JSON: ") + simdjson::error_message(code),
+                .file = file_};
+    }
+
+    Runtime::Error errorAt(ondemand::document& document, simdjson::error_code code) const {
+        Runtime::Error found = error(code);
+        const char* place = nullptr;
+        if (document.current_location().get(place) == simdjson::SUCCESS)
+            std::tie(found.line, found.column) = Lines(text_).locate(static_cast<std::size_t>(place - text_.data()));
+        return found;
+    }
+
+    std::string readCatalog(ondemand::document& document) {
+        ondemand::object catalog = document.get_object();
+        sourceLanguage_ = std::string(std::string_view(catalog.find_field_unordered("sourceLanguage").get_string()));
+        ondemand::object strings = catalog.find_field_unordered("strings").get_object();
+        for (auto field : strings) {
+            const char* const place = field.key().value().raw();
+            const auto [line, column] = lines_.locate(static_cast<std::size_t>(place - 1 - text_.data()));
+            const std::string key(std::string_view(field.unescaped_key()));
+            readKey(key, field.value(), line, column);
+        }
+        return sourceLanguage_;
+    }
+
+    void readKey(std::string_view key, ondemand::value object, std::uint32_t line, std::uint32_t column) {
+        std::string comment;
+        CatalogText about{
+            .language = {}, .key = key, .text = {}, .plural = {}, .comment = {}, .line = line, .column = column};
+        std::vector<std::pair<std::string, Localized>> localizations;
+        forEach(object, [&](std::string_view name, ondemand::value value) {
+            if (name == "comment")
+                comment = std::string(std::string_view(value.get_string()));
+            else if (name == "extractionState")
+                about.isStale = std::string_view(value.get_string()) == "stale";
+            else if (name == "shouldTranslate")
+                about.isTranslatable = value.get_bool();
+            else if (name == "localizations")
+                forEach(value, [&](std::string_view language, ondemand::value localization) {
+                    auto& [code, localized] = localizations.emplace_back(std::string(language), Localized());
+                    readLocalized(localization, localized);
+                });
+            else
+                skip(value);
+        });
+        about.comment = comment;
+        std::erase_if(localizations, [](const auto& each) { return each.second.isEmpty(); });
+        const auto isSource = [&](const auto& each) { return each.first == sourceLanguage_; };
+        if (std::ranges::none_of(localizations, isSource))
+            localizations.emplace(localizations.begin(), sourceLanguage_, Localized())->second.text = std::string(key);
+        for (auto& [language, localized] : localizations)
+            add(about, language, std::move(localized));
+    }
+
+    void add(CatalogText text, std::string_view language, Localized localized) {
+        if (localized.hasDevices)
+            diagnostics_.add(Severity::note, {.message = "texts for single devices are left out",
+                                              .file = file_,
+                                              .line = text.line,
+                                              .column = text.column});
+        text.language = language;
+        text.state = localized.state;
+        if (!localized.substitutions.empty() && localized.text)
+            text.plural = pluralOfSubstitutions(*localized.text, std::move(localized.substitutions));
+        else if (localized.hasForms())
+            text.plural = pluralOfForms(std::move(localized.forms));
+        const std::string shown = text.plural ? otherText(*text.plural) : *std::move(localized.text);
+        text.text = shown;
+        add_(std::move(text));
+    }
+
+    const std::filesystem::path& file_;
+    std::string text_;
+    Lines lines_;
+    const std::function<void(CatalogText&&)>& add_;
+    Diagnostics& diagnostics_;
+    std::string sourceLanguage_;
+};
+
+} // namespace
+
+Runtime::Result<std::string> readStringCatalog(const std::filesystem::path& file,
+                                               const std::function<void(CatalogText&&)>& add,
+                                               Diagnostics& diagnostics) {
+    auto text = Runtime::readFile(file, maxCatalogBytes);
+    if (!text)
+        return std::move(text.error());
+    return parseStringCatalog(*std::move(text), file, add, diagnostics);
+}
+
+Runtime::Result<std::string> parseStringCatalog(std::string bytes, const std::filesystem::path& file,
+                                                const std::function<void(CatalogText&&)>& add,
+                                                Diagnostics& diagnostics) {
+    return Reader(file, std::move(bytes), add, diagnostics).read();
+}
+
+} // namespace SourceBundle

@@ -1,0 +1,42 @@
+// SourceBundle/StringCatalog.h
+// String catalogs (TABLE.xcstrings): one table in any number of languages, in JSON; internal.
+// Text: UTF-8. Threads: pure functions of the file system.
+#pragma once
+
+#include "SourceBundle/Source.h"
+#include "StringTables/internal/PluralTable.h"
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace SourceBundle {
+
+// A key's text in one language, as the reader finds it. Views are valid during the call.
+struct CatalogText {
+    std::string_view language;
+    std::string_view key;
+    std::string_view text;
+    std::optional<StringTables::PluralFormat> plural;
+    std::string_view comment;
+    std::uint32_t line = 0;
+    std::uint32_t column = 0;
+    State state = State::translated;
+    bool isStale = false;
+    bool isTranslatable = true;
+};
+
+// Calls `add` for each text, in the order of the file; a key without a text in the source language has itself as its
+// text there. Returns the source language. Of texts for single devices that for `other` is taken, else that for
+// iPhone; the others are notes. Errors: the file cannot be read, is larger than maxCatalogBytes, or is not a string
+// catalog.
+[[nodiscard]] Runtime::Result<std::string> readStringCatalog(const std::filesystem::path& file,
+                                                             const std::function<void(CatalogText&&)>& add,
+                                                             Diagnostics& diagnostics);
+// The same of the bytes of a file, which messages name.
+[[nodiscard]] Runtime::Result<std::string> parseStringCatalog(std::string bytes, const std::filesystem::path& file,
+                                                              const std::function<void(CatalogText&&)>& add,
+                                                              Diagnostics& diagnostics);
+inline constexpr std::size_t maxCatalogBytes = std::size_t{512} << 20;
+
+} // namespace SourceBundle
