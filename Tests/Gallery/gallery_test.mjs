@@ -199,11 +199,16 @@ for (const colorScheme of ["light", "dark"])
 // A small source, with what a page could stumble over.
 function hostileSource() {
     const source = join(folder, "Shop & <Co>");
-    const table = (language, text) => {
+    const table = (language, text, file = "Odd.strings") => {
         mkdirSync(join(source, `${language}.lproj`), { recursive: true });
-        writeFileSync(join(source, `${language}.lproj`, "Odd.strings"), text);
+        writeFileSync(join(source, `${language}.lproj`, file), text);
     };
     table("Base", '"end" = "</script><script>alert(1)</script><!--"; "quote\\"d" = "%1$@ \\"of\\" %2$ld"; "…" = "No name"; /* Of two things */ "same" = "Same"; "@PICTURES@" = "a";');
+    table("Base", `<plist version="1.0"><dict><key>days</key><dict>
+        <key>NSStringLocalizedFormatKey</key><string>%#@n@ left</string>
+        <key>n</key><dict><key>NSStringFormatSpecTypeKey</key><string>NSStringPluralRuleType</string>
+        <key>NSStringFormatValueTypeKey</key><string>ld</string>
+        <key>one</key><string>%ld day</string><key>other</key><string>%ld days</string></dict></dict></dict></plist>`, "Odd.stringsdict");
     table("he", '"end" = "<img src=x onerror=alert(2)>"; "same" = "Same";');
     const page = join(folder, "hostile.html");
     execFileSync(program, ["gallery", source, "--module", "Shop", "-o", page]);
@@ -217,7 +222,8 @@ onPage("texts of any content are only shown", async (tab) => {
     assert.match(await row(tab, "…").innerText(), /No accessor/);
     assert.equal(await row(tab, "same").locator(".tag").innerText(), "Untranslated");
     assert.equal(await row(tab, "same").locator(".comment").innerText(), "Of two things");
-    for (const [status, shown] of [["missing", 3], ["comment", 1], ["same", 1]]) {
+    assert.match(await row(tab, "days").innerText(), /%#@n@ left\s+one\s+%ld day\s+other\s+%ld days/);
+    for (const [status, shown] of [["missing", 4], ["plural", 1], ["comment", 1], ["same", 1]]) {
         await tab.selectOption("#status", status);
         assert.equal((await keysShown(tab)).length, shown, status);
     }
