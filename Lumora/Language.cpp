@@ -2,6 +2,7 @@
 #include "Lumora/Localization.h"
 
 #include "Lumora/LumoraResources.h"
+#include "Lumora/internal/Language.h"
 #include "Runtime/Attempt.h"
 #include "Runtime/OnceSlot.h"
 #include <algorithm>
@@ -17,7 +18,7 @@ namespace {
 constexpr std::array<LocalizationCode, 3> asianLocalizationCodes = {LocalizationCode::ko, LocalizationCode::ja,
                                                                     LocalizationCode::zhHans};
 
-// A list that is made at its first reading; empty while there is no memory for it.
+// A list that is made at its first read; empty while there is no memory for it.
 template <class Make>
 const std::vector<std::string>& listed(Runtime::OnceSlot<std::vector<std::string>>& slot, Make make) noexcept {
     static constinit Runtime::OnceSlot<std::vector<std::string>> none;
@@ -29,21 +30,20 @@ const std::vector<std::string>& listed(Runtime::OnceSlot<std::vector<std::string
 
 LocalizationCode detail::pickLocalizationCode(std::span<const std::string> preferred,
                                               std::span<const LocalizationCode> supported) noexcept {
-    if (preferred.empty())
-        return LocalizationCode::en;
-    const auto code = LocalizationCode::fromRawValue(preferred.front());
+    const auto code = preferred.empty() ? std::nullopt : LocalizationCode::fromRawValue(preferred.front());
     const bool isSupported = code && std::ranges::find(supported, *code) != supported.end();
     return isSupported ? *code : LocalizationCode::en;
 }
 
 LocalizationCode detail::languageInForce() {
-    return pickLocalizationCode(LumoraResources::bundle().preferredLocalizations(), LocalizationCode::allCases());
+    const std::string* const first = LumoraResources::bundle().preferredLocalization();
+    return pickLocalizationCode({first, first != nullptr ? 1U : 0U}, LocalizationCode::allCases());
 }
 
 Foundation::Locale detail::localeInForce() {
     const std::string language = languageInForce().shortId();
-    const Foundation::Locale& current = Foundation::Locale::current();
-    return current.identifier().starts_with(language) ? current : Foundation::Locale(language);
+    Foundation::Locale current = Foundation::Locale::current();
+    return current.identifier().starts_with(language) ? std::move(current) : Foundation::Locale(language);
 }
 
 LocalizationCode Localization::currentLanguageCode() {

@@ -4,12 +4,11 @@
 // Ownership: results belong to the caller. Nothing here fails, but for the one number text that says so.
 #pragma once
 
-#include "Lumora/LocalizationCode.h"
 #include "Foundation/Locale.h"
 #include "Foundation/NSNumber.h"
+#include "Lumora/LocalizationCode.h"
 #include "Runtime/Export.h"
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,7 +18,8 @@ namespace Lumora {
 // Published to messages as "Lumora.Localization".
 class LUMORA_EXPORT Localization {
 public:
-    Localization() = delete;
+    // Everything is static; an object serves no purpose.
+    Localization() = default;
 
     // The application language in force: the bundle's first preferred localization, English when that is none of the
     // application's languages. Later preferences are never looked at.
@@ -60,17 +60,5 @@ public:
     // The same, or in the languages whose tables hold the words, the table's phrase.
     [[nodiscard]] static std::string legacyTrAge(std::int64_t age);
 };
-
-namespace detail {
-
-// The choice behind currentLanguageCode(): among `supported`, by the first of `preferred` only.
-[[nodiscard]] LUMORA_EXPORT Corvane::LocalizationCode
-pickLocalizationCode(std::span<const std::string> preferred,
-                     std::span<const Corvane::LocalizationCode> supported) noexcept;
-// The language in force and its locale; throw where memory or descriptors lack.
-[[nodiscard]] Corvane::LocalizationCode languageInForce();
-[[nodiscard]] Foundation::Locale localeInForce();
-
-} // namespace detail
 
 } // namespace Lumora

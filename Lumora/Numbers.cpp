@@ -1,5 +1,6 @@
 // Signed numbers and percentages.
 #include "Lumora/Localization.h"
+#include "Lumora/internal/Language.h"
 
 #include "Foundation/NSNumberFormatter.h"
 #include "Lumora/LumoraStrings+Members.h"

@@ -4,6 +4,7 @@
 #include "Foundation/DateComponents.h"
 #include "Lumora/Localization.h"
 #include "Lumora/LumoraStrings.h"
+#include "Lumora/internal/Language.h"
 #include "Runtime/Attempt.h"
 #include <algorithm>
 #include <array>

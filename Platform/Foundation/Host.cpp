@@ -1,10 +1,11 @@
 #include "Foundation/Host.h"
 
+#include "Foundation/Locale.h"
 #include "Foundation/internal/HostState.h"
+#include "Foundation/internal/SharedText.h"
+#include "Runtime/internal/ForkLock.h"
 #include <algorithm>
-#include <atomic>
 #include <cstdlib>
-#include <mutex>
 
 namespace Foundation {
 
@@ -13,15 +14,20 @@ namespace detail {
 namespace {
 
 constexpr std::string_view plainLocale = "en_US"; // of a host that says nothing, or "C"
+constexpr char separator = '\0';                  // between languages, none of which has one
 
-struct Node {
-    HostState state;
-    Node* next;
+constinit SharedText<Host::longestLanguages> languages; // best liked first
+constinit SharedText<Host::longestLocale> locale;
+constinit Runtime::ForkLock changing; // both texts; each is whole at every moment
+
+// Held by a setter. A lock that a forked process left behind is as good as free.
+class Change {
+public:
+    Change() noexcept { static_cast<void>(changing.lock()); }
+    ~Change() { changing.unlock(); }
+    Change(const Change&) = delete;
+    Change& operator=(const Change&) = delete;
 };
-
-constinit std::atomic<const HostState*> inForce{nullptr};
-constinit std::mutex changing; // of the two below, and of `inForce`
-constinit Node* seen = nullptr;
 
 std::string_view environment(const char* name) {
     const char* value = std::getenv(name);
@@ -37,51 +43,81 @@ bool isPlain(std::string_view name) {
     return language.empty() || language == "C" || language == "POSIX";
 }
 
-HostState environmentState() {
-    const std::string_view all = environment("LC_ALL"), messages = environment("LC_MESSAGES"),
-                           rest = environment("LANG");
-    const std::string_view language = !all.empty() ? all : !messages.empty() ? messages : rest;
-    const std::string_view locale = !all.empty() ? all : !isPlain(rest) ? rest : messages;
-    std::vector<std::string> languages;
+// What the environment says.
+struct Settings {
+    std::string languages;
+    std::string locale;
+};
+
+void addLanguage(std::string& list, std::string_view tag) {
+    const std::size_t needed = tag.size() + (list.empty() ? 0 : 1);
+    if (tag.empty() || tag.find(separator) != tag.npos || list.size() + needed > Host::longestLanguages)
+        return;
+    if (!list.empty())
+        list += separator;
+    list += tag;
+}
+
+std::vector<std::string> splitLanguages(std::string_view list) {
+    std::vector<std::string> tags;
+    while (!list.empty()) {
+        tags.emplace_back(withoutSuffix(list, separator));
+        list.remove_prefix(std::min(tags.back().size() + 1, list.size()));
+    }
+    return tags;
+}
+
+std::string environmentLanguages(std::string_view own) {
+    std::string list;
     // A user who asks for the plain locale gets the plain language whatever LANGUAGE says.
-    std::string_view wanted = language.empty() || !isPlain(language) ? environment("LANGUAGE") : std::string_view();
+    std::string_view wanted = own.empty() || !isPlain(own) ? environment("LANGUAGE") : std::string_view();
     while (!wanted.empty()) {
         const std::string_view one = withoutSuffix(wanted, ':');
         wanted.remove_prefix(std::min(one.size() + 1, wanted.size()));
-        if (!one.empty())
-            languages.push_back(languageTag(one));
+        addLanguage(list, languageTag(one));
     }
-    if (const std::string own = isPlain(language) ? "en" : languageTag(language);
-        std::ranges::find(languages, own) == languages.end())
-        languages.push_back(own);
-    const auto identifier = isPlain(locale) ? plainLocale : withoutSuffix(withoutSuffix(locale, '@'), '.');
-    return {.languages = std::move(languages), .locale = Locale(std::string(identifier))};
+    addLanguage(list, isPlain(own) ? "en" : languageTag(own));
+    return list;
 }
 
-// Call with `changing` held.
-const HostState& enforce(HostState state) {
-    Node* node = seen;
-    while (node != nullptr && node->state != state)
-        node = node->next;
-    if (node == nullptr)
-        node = seen = new Node{std::move(state), seen};
-    inForce.store(&node->state, std::memory_order_release);
-    return node->state;
+std::string_view accepted(std::string_view identifier) noexcept {
+    return identifier.size() <= Host::longestLocale ? identifier : std::string_view();
 }
 
-// Call with `changing` held.
-const HostState& inForceOrFirst() {
-    const HostState* state = inForce.load(std::memory_order_acquire);
-    return state != nullptr ? *state : enforce(environmentState());
+Settings environmentSettings() {
+    const std::string_view all = environment("LC_ALL"), messages = environment("LC_MESSAGES"),
+                           rest = environment("LANG");
+    const std::string_view language = !all.empty() ? all : !messages.empty() ? messages : rest;
+    const std::string_view identifier = !all.empty() ? all : !isPlain(rest) ? rest : messages;
+    return {.languages = environmentLanguages(language),
+            .locale = std::string(isPlain(identifier) ? plainLocale
+                                                      : accepted(withoutSuffix(withoutSuffix(identifier, '@'), '.')))};
+}
+
+// Takes from the environment what nobody has set.
+[[gnu::cold]] void initialize() {
+    const Settings settings = environmentSettings();
+    const Change change;
+    if (languages.version() == 0)
+        languages.write(settings.languages);
+    if (locale.version() == 0)
+        locale.write(settings.locale);
 }
 
 } // namespace
 
-const HostState& hostState() {
-    if (const HostState* state = inForce.load(std::memory_order_acquire)) [[likely]]
-        return *state;
-    const std::lock_guard lock(changing);
-    return inForceOrFirst();
+std::uint64_t hostVersion() {
+    const std::uint64_t version = languages.version();
+    if (version != 0) [[likely]]
+        return version;
+    initialize();
+    return languages.version();
+}
+
+HostLanguages hostLanguages() {
+    static_cast<void>(hostVersion());
+    const auto now = languages.read();
+    return {now.version, splitLanguages(now.text)};
 }
 
 std::string languageTag(std::string_view hostName) {
@@ -96,27 +132,32 @@ std::string languageTag(std::string_view hostName) {
 
 } // namespace detail
 
-const Locale& Locale::current() {
-    return detail::hostState().locale;
+Locale Locale::current() {
+    if (detail::locale.version() == 0) [[unlikely]]
+        detail::initialize();
+    return Locale(detail::locale.read().text);
 }
 
 namespace Host {
 
-void setPreferredLanguages(std::vector<std::string> languages) {
-    std::ranges::transform(languages, languages.begin(),
-                           [](const std::string& name) { return detail::languageTag(name); });
-    const std::lock_guard lock(detail::changing);
-    detail::enforce({.languages = std::move(languages), .locale = detail::inForceOrFirst().locale});
+void setPreferredLanguages(const std::vector<std::string>& languages) {
+    std::string list;
+    for (const std::string& name : languages)
+        detail::addLanguage(list, detail::languageTag(name));
+    const detail::Change change;
+    detail::languages.write(list);
 }
 
 void setCurrentLocale(std::string_view identifier) {
-    const std::lock_guard lock(detail::changing);
-    detail::enforce({.languages = detail::inForceOrFirst().languages, .locale = Locale(std::string(identifier))});
+    const detail::Change change;
+    detail::locale.write(detail::accepted(identifier));
 }
 
 void reset() {
-    const std::lock_guard lock(detail::changing);
-    detail::enforce(detail::environmentState());
+    const detail::Settings settings = detail::environmentSettings();
+    const detail::Change change;
+    detail::languages.write(settings.languages);
+    detail::locale.write(settings.locale);
 }
 
 } // namespace Host

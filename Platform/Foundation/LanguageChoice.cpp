@@ -35,34 +35,12 @@ std::optional<std::size_t> chooseByTag(std::string_view wanted, std::span<const 
     return only - supported.begin();
 }
 
-// Without that knowledge: the longest beginning of the tag that is supported.
-std::optional<std::size_t> chooseByTruncation(std::string_view wanted, std::span<const std::string> supported) {
-    for (;;) {
-        if (const auto found = std::ranges::find(supported, wanted); found != supported.end())
-            return found - supported.begin();
-        const std::size_t end = wanted.rfind('-');
-        if (end == std::string_view::npos)
-            return std::nullopt;
-        wanted = wanted.substr(0, end);
-    }
-}
-
-std::optional<std::size_t> choose(std::string_view wanted, std::span<const std::string> supported) {
-    if (const auto index = chooseByTag(wanted, supported))
-        return index;
-    const Intl::Services* services = Intl::services();
-    return services != nullptr ? services->matchLanguage(wanted, supported) : chooseByTruncation(wanted, supported);
-}
-
 } // namespace
 
-std::vector<std::string> chooseLanguages(std::span<const std::string> wanted, std::span<const std::string> supported) {
-    std::vector<std::string> chosen;
-    for (const std::string& language : wanted)
-        if (const auto index = choose(language, supported);
-            index && std::ranges::find(chosen, supported[*index]) == chosen.end())
-            chosen.push_back(supported[*index]);
-    return chosen;
+std::optional<std::size_t> chooseLanguage(std::string_view wanted, std::span<const std::string> supported) {
+    if (const auto index = chooseByTag(wanted, supported))
+        return index;
+    return Intl::matchLanguage(wanted, supported);
 }
 
 } // namespace Foundation::detail

@@ -13,9 +13,8 @@ public:
     // Any text is an identifier; one that means nothing formats as the root locale does.
     explicit Locale(std::string identifier) : identifier_(std::move(identifier)) {}
 
-    // The locale that the host says is the user's, asked anew at every call. What it refers to lives until the process
-    // ends and never changes.
-    [[nodiscard]] static const Locale& current();
+    // The locale that the host says is the user's, read anew at every call.
+    [[nodiscard]] static Locale current();
 
     [[nodiscard]] const std::string& identifier() const noexcept { return identifier_; }
     friend bool operator==(const Locale&, const Locale&) = default;

@@ -2,21 +2,30 @@
 
 #include "Foundation/internal/PluralText.h"
 #include "Runtime/internal/TransientError.h"
+#include "StringTables/internal/BundleLayout.h"
 #include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/Table.h"
+#include <cerrno>
+#include <utility>
 #include <vector>
 
 namespace Foundation::detail {
 
 namespace {
 
-// The table at `path`; without keys when the file is missing or damaged.
-template <class Table> Table readTable(const std::string& path) {
-    if (auto read = Table::readFile(path))
+namespace layout = StringTables::bundleLayout;
+
+bool isMissing(const Runtime::Error& error) noexcept {
+    return error.cause == ENOENT || error.cause == ENOTDIR;
+}
+
+// The table at `path`, without keys when the file is damaged; no value when there is none.
+template <class Table> std::optional<Table> readTable(const std::string& path) {
+    auto read = Table::readFile(path);
+    if (read)
         return *std::move(read);
-    else
-        Runtime::throwIfTransient(read.error());
-    return {};
+    Runtime::throwIfTransient(read.error());
+    return isMissing(read.error()) ? std::nullopt : std::optional(Table());
 }
 
 struct Plurals {
@@ -37,47 +46,57 @@ struct Plurals {
     std::vector<std::string> texts; // of the entries, where there are no numbers
 };
 
+template <class Table> std::optional<std::string> damageOf(const std::string& path) {
+    const auto read = Table::readFile(path);
+    return read || isMissing(read.error()) ? std::nullopt : std::optional(read.error().text());
+}
+
 } // namespace
 
 struct Localization::LoadedTable {
-    std::string name;
     StringTables::Table texts;
     Plurals plurals;
-    LoadedTable* next;
+
+    std::optional<LocalizedFormat> find(std::string_view key, std::string_view language) const {
+        if (const auto plural = plurals.find(key, language))
+            return plural;
+        const auto text = texts.find(key);
+        return text ? std::optional(LocalizedFormat(*text)) : std::nullopt;
+    }
 };
 
-inline const Localization::LoadedTable* Localization::loaded(std::string_view name) const noexcept {
-    const LoadedTable* table = tables_.load(std::memory_order_acquire);
-    while (table != nullptr && table->name != name)
-        table = table->next;
-    return table;
+Localization::Localization(std::string_view name, std::string directory, std::string_view language)
+    : name_(name), directory_(std::move(directory)), language_(language) {}
+
+std::optional<LocalizedFormat> Localization::find(std::string_view key, std::string_view table) {
+    if (const LoadedTable* const known = tables_.find(table))
+        return known->find(key, language_);
+    const LoadedTable* const loaded = load(table);
+    return loaded != nullptr ? loaded->find(key, language_) : std::nullopt;
 }
 
-std::optional<LocalizedFormat> Localization::find(std::string_view key, std::string_view name) {
-    const LoadedTable* const known = loaded(name);
-    const LoadedTable& table = known != nullptr ? *known : load(name);
-    if (const auto plural = table.plurals.find(key, language_))
-        return plural;
-    const auto text = table.texts.find(key);
-    return text ? std::optional(LocalizedFormat(*text)) : std::nullopt;
+// Null when there is no such table, unless that is kept.
+const Localization::LoadedTable* Localization::load(std::string_view name) {
+    if (!layout::isFileName(name))
+        return nullptr;
+    auto texts = readTable<StringTables::Table>(pathOf(name, layout::textsSuffix));
+    auto plurals = readTable<StringTables::PluralTable>(pathOf(name, layout::pluralsSuffix));
+    const std::size_t limit = texts || plurals ? tables_.unlimited : mostMissing;
+    return tables_.add(limit, name,
+                       LoadedTable{std::move(texts).value_or(StringTables::Table()),
+                                   Plurals(std::move(plurals).value_or(StringTables::PluralTable()))});
 }
 
-const Localization::LoadedTable& Localization::load(std::string_view name) {
-    const std::lock_guard lock(loading_);
-    if (const LoadedTable* table = loaded(name))
-        return *table;
-    StringTables::Table texts;
-    StringTables::PluralTable plurals;
-    // A name is one component; a longer path would lead out of the folder.
-    if (name.find('/') == std::string_view::npos) {
-        const std::string path = directory_ + "/" + std::string(name);
-        texts = readTable<StringTables::Table>(path + ".strings");
-        plurals = readTable<StringTables::PluralTable>(path + ".stringsdict");
-    }
-    auto* entry = new LoadedTable{std::string(name), std::move(texts), Plurals(std::move(plurals)),
-                                  tables_.load(std::memory_order_relaxed)};
-    tables_.store(entry, std::memory_order_release);
-    return *entry;
+std::optional<std::string> Localization::damage(std::string_view table) const {
+    if (!layout::isFileName(table))
+        return std::nullopt;
+    if (auto damaged = damageOf<StringTables::Table>(pathOf(table, layout::textsSuffix)))
+        return damaged;
+    return damageOf<StringTables::PluralTable>(pathOf(table, layout::pluralsSuffix));
+}
+
+std::string Localization::pathOf(std::string_view table, std::string_view suffix) const {
+    return std::string(directory_).append("/").append(table).append(suffix);
 }
 
 } // namespace Foundation::detail

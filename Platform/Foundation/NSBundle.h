@@ -15,9 +15,9 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSBundle {
 public:
-    // The bundle NAME.bundle of the shared object that holds `code` (the address of a function or static object): in the
-    // folder LIBRARY-VERSION beside it ("lumora-1" for liblumora.so.1.0.0) if there is one, else beside it; the main bundle
-    // when the code is the program's own.
+    // The bundle NAME.bundle of the shared object that holds `code` (the address of a function or static object): in
+    // the folder LIBRARY-VERSION beside it ("lumora-1" for liblumora.so.1.0.0) if there is one, else beside it; the
+    // main bundle when the code is the program's own.
     [[nodiscard]] static const NSBundle& bundleForCode(const void* code, std::string_view name);
     // PROGRAM.bundle in the directory of the program.
     [[nodiscard]] static const NSBundle& mainBundle();
@@ -37,7 +37,9 @@ public:
     [[nodiscard]] const std::vector<std::string>& localizations() const noexcept;
     // Those of `localizations` that the user reads, the best liked first, by the host's preferred languages now; the
     // development language alone when the user reads none. Empty when the bundle has no languages.
-    [[nodiscard]] const std::vector<std::string>& preferredLocalizations() const;
+    [[nodiscard]] std::vector<std::string> preferredLocalizations() const;
+    // The first of them, or null; faster.
+    [[nodiscard]] const std::string* preferredLocalization() const;
 
     // What the bundle has for `key` (exact) in the table `table` (empty: "Localizable"): the entry of the first
     // preferred localization, else of the development texts, or no value. A plural wins over a text of its
@@ -50,8 +52,12 @@ public:
     // The text as a string; where no table has the key, `value` unless that is null or empty, and else the key.
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, const std::string* value,
                                                     std::string_view table) const;
-    // The path of the file NAME.TYPE of one localization ("Base" is one), in `directory` below the localization's
-    // folder if that is not empty; no value when there is no such file or a name would lead out of the bundle.
+    // Why a file of the table cannot be read, of those in which findLocalized() looks: "FILE:LINE:COLUMN: REASON"; no
+    // value when each can or is not there. Reads them anew.
+    [[nodiscard]] std::optional<std::string> tableDamage(std::string_view table) const;
+    // The path of the file NAME.TYPE (NAME where TYPE is empty) of one localization ("Base" is one), in `directory`
+    // below the localization's folder if that is not empty; no value when there is no such file or a name would lead
+    // out of the bundle.
     [[nodiscard]] std::optional<std::string> pathForResource(std::string_view name, std::string_view type,
                                                              std::string_view directory,
                                                              std::string_view localization) const;

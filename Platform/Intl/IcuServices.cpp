@@ -1,5 +1,4 @@
-// The services of the plug-in, by ICU. What ICU refuses has the plain form; nothing but std::bad_alloc is
-// thrown.
+// The plug-in: the services by ICU. What ICU refuses has the plain form; nothing but std::bad_alloc is thrown.
 #include "Intl/internal/Intl.h"
 
 #include "Intl/internal/IcuText.h"
@@ -7,7 +6,7 @@
 #include "Runtime/Export.h"
 #include "Runtime/internal/Memory.h"
 #include <algorithm>
-#include <cstdlib> // std::abs
+#include <cstdint>
 #include <memory>
 #include <new> // std::bad_alloc
 #include <string>
@@ -106,76 +105,52 @@ void readAffixes(NumberPattern& pattern, const icu::DecimalFormat& format) {
     pattern.negativeSuffix = utf8(format.getNegativeSuffix(text));
 }
 
-class IcuYearPhrases final : public YearPhrases {
-public:
-    explicit IcuYearPhrases(const icu::Locale& locale) {
-        UErrorCode status = U_ZERO_ERROR;
-        rules_.reset(icu::PluralRules::forLocale(locale, status));
-        if (!succeeded(status))
-            rules_.reset();
-        const auto formatter = icu::number::NumberFormatter::withLocale(locale)
-                                   .unit(icu::MeasureUnit::getYear())
-                                   .unitWidth(UNUM_UNIT_WIDTH_FULL_NAME);
-        const auto fill = [&](std::int64_t count, std::size_t category) {
-            if (std::string& form = forms_[category]; form.empty())
-                form = pattern(formatter, count);
-        };
-        // Every category of whole numbers has one among the small or the round ones.
-        for (std::size_t count = 0; count < small_.size(); ++count) {
-            small_[count] = static_cast<std::uint8_t>(select(static_cast<std::int32_t>(count)));
-            fill(static_cast<std::int64_t>(count), small_[count]);
-        }
-        for (std::int64_t count = 1'000; count <= 1'000'000'000; count *= 10)
-            fill(count, category(count));
-    }
+// ICU's text for so many years with "{0}" in the place of the number.
+std::string yearForm(const icu::number::LocalizedNumberFormatter& formatter, std::int64_t count) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::number::FormattedNumber formatted = formatter.formatInt(count, status);
+    icu::UnicodeString text = formatted.toString(status);
+    icu::ConstrainedFieldPosition number;
+    number.constrainField(UFIELD_CATEGORY_NUMBER, UNUM_INTEGER_FIELD);
+    if (formatted.nextPosition(number, status))
+        text.replaceBetween(number.getStart(), number.getLimit(), u"{0}");
+    return succeeded(status) ? utf8(text) : std::string("{0}");
+}
 
-    std::string_view phrase(std::int64_t count) const override { return forms_[category(count)]; }
+PluralCategory categoryOf(const icu::PluralRules& rules, std::int32_t count) {
+    return pluralCategoryNamed(utf8(rules.select(count))).value_or(PluralCategory::other);
+}
 
-private:
-    static constexpr std::array<std::u16string_view, 6> categories = {u"zero", u"one",  u"two",
-                                                                      u"few",  u"many", u"other"};
+YearForms icuYearForms(std::string_view identifier) {
+    const icu::Locale locale = knownLocale(identifier);
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::PluralRules> rules(icu::PluralRules::forLocale(locale, status));
+    const auto formatter = icu::number::NumberFormatter::withLocale(locale)
+                               .unit(icu::MeasureUnit::getYear())
+                               .unitWidth(UNUM_UNIT_WIDTH_FULL_NAME);
+    YearForms years;
+    const auto fill = [&](std::int32_t count) {
+        const PluralCategory category = rules ? categoryOf(*rules, count) : PluralCategory::other;
+        if (std::string& form = years.forms[indexOf(category)]; form.empty())
+            form = yearForm(formatter, count);
+    };
+    if (!succeeded(status))
+        return years;
+    // Every category of whole numbers has one among the small or the round ones.
+    for (std::int32_t count = 0; count <= 200; ++count)
+        fill(count);
+    for (std::int32_t count = 1'000; count < 1'000'000'000; count *= 10)
+        fill(count);
+    return years;
+}
 
-    std::size_t category(std::int64_t count) const {
-        // A rule looks at no more than the last six digits of a large number, and ICU takes 32 bits exactly.
-        static constexpr std::int64_t large = 1'000'000'000;
-        const std::int64_t looked = std::abs(count % large) + (count >= large || count <= -large ? large : 0);
-        const auto index = static_cast<std::size_t>(looked);
-        return index < small_.size() ? small_[index] : select(static_cast<std::int32_t>(looked));
-    }
-    std::size_t select(std::int32_t count) const {
-        std::size_t index = 0; // without rules there is one form
-        if (rules_) {
-            const icu::UnicodeString keyword = rules_->select(count);
-            const std::u16string_view name(keyword.getBuffer(), static_cast<std::size_t>(keyword.length()));
-            while (index + 1 < categories.size() && categories[index] != name)
-                ++index;
-        }
-        return index;
-    }
-
-    // ICU's text for so many years with "{0}" in the place of the number.
-    static std::string pattern(const icu::number::LocalizedNumberFormatter& formatter, std::int64_t count) {
-        UErrorCode status = U_ZERO_ERROR;
-        const icu::number::FormattedNumber formatted = formatter.formatInt(count, status);
-        icu::UnicodeString text = formatted.toString(status);
-        icu::ConstrainedFieldPosition number;
-        number.constrainField(UFIELD_CATEGORY_NUMBER, UNUM_INTEGER_FIELD);
-        if (formatted.nextPosition(number, status))
-            text.replaceBetween(number.getStart(), number.getLimit(), u"{0}");
-        return succeeded(status) ? utf8(text) : std::string("{0}");
-    }
-
-    std::unique_ptr<icu::PluralRules> rules_;
-    std::array<std::string, categories.size()> forms_;
-    std::array<std::uint8_t, 201> small_{}; // the categories of the counts that ages have
-};
-
-// Asks ICU only where there is memory: one of its first steps that finds none waits for itself for ever, and others
-// remember for good that there was none. When it still lacks memory at a second try it has remembered, and `otherwise`,
-// what there is without it, is the answer.
-template <class Make, class Value> Value answered(Make make, Value otherwise) {
+// Calls ICU only while there is memory for its first steps: one of them waits for itself for ever when it finds none,
+// and others remember for good that there was none. When ICU fails twice although there was memory it has remembered,
+// and `otherwise`, what there is without it, is the result.
+constexpr std::size_t plentyForIcu = std::size_t{8} << 20;
+template <class Make, class Value> Value withMemory(Make make, Value otherwise) {
     for (int attempt = 0; attempt < 2; ++attempt) {
-        Runtime::demandMemory();
+        Runtime::demandMemory(plentyForIcu);
         try {
             return make();
         } catch (const std::bad_alloc&) {
@@ -207,19 +182,15 @@ class IcuServices final : public Services {
 public:
     std::optional<std::size_t> matchLanguage(std::string_view desired,
                                              std::span<const std::string> supported) const override {
-        return answered([&] { return bestLanguage(desired, supported); }, std::optional<std::size_t>());
+        return withMemory([&] { return bestLanguage(desired, supported); }, std::optional<std::size_t>());
     }
 
     NumberPattern numberPattern(std::string_view identifier, NumberStyle style) const override {
-        return answered([&] { return icuNumberPattern(identifier, style); }, plainNumberPattern(style));
+        return withMemory([&] { return icuNumberPattern(identifier, style); }, plainNumberPattern(style));
     }
 
-    std::unique_ptr<const YearPhrases> yearPhrases(std::string_view locale) const override {
-        return answered(
-            [&]() -> std::unique_ptr<const YearPhrases> {
-                return std::make_unique<const IcuYearPhrases>(knownLocale(locale));
-            },
-            std::unique_ptr<const YearPhrases>());
+    YearForms yearForms(std::string_view locale) const override {
+        return withMemory([&] { return icuYearForms(locale); }, YearForms());
     }
 };
 

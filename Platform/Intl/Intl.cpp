@@ -1,17 +1,21 @@
 #include "Intl/internal/Intl.h"
 
-#include "Intl/internal/PrecomputedPatterns.h"
+#include "Intl/internal/Precomputed.h"
 #include "Runtime/OnceSlot.h"
+#include "Runtime/internal/ForkGuard.h"
 #include "Runtime/internal/Plugin.h"
 #include "Runtime/internal/TransientError.h"
-#include <utility>
+#include <algorithm>
 
 namespace Intl {
 
-const Services* services() {
+namespace {
+
+// Null when the plug-in is absent.
+const Services* services(const Runtime::ForkGuard& guard) {
     static constinit Runtime::OnceSlot<const Services*> slot;
-    return slot.get([]() -> const Services* {
-        const auto entry = Runtime::pluginSymbol("lumora-intl.so", "lumoraIntlServices");
+    return slot.get([&guard]() -> const Services* {
+        const auto entry = Runtime::pluginSymbol(guard, "lumora-intl.so", "lumoraIntlServices");
         if (entry)
             return reinterpret_cast<const Services* (*)()>(*entry)();
         Runtime::throwIfTransient(entry.error());
@@ -19,11 +23,43 @@ const Services* services() {
     });
 }
 
+// What `ask(services)` returns, or `plain()` without the plug-in.
+template <class Ask, class Plain> auto askServices(Ask ask, Plain plain) {
+    const Runtime::ForkGuard guard; // ICU has locks of its own
+    const Services* const all = services(guard);
+    return all != nullptr ? ask(*all) : plain();
+}
+
+// The longest beginning of the tag that is supported.
+std::optional<std::size_t> matchByTruncation(std::string_view desired, std::span<const std::string> supported) {
+    for (;;) {
+        if (const auto found = std::ranges::find(supported, desired); found != supported.end())
+            return found - supported.begin();
+        const std::size_t end = desired.find_last_of("-_");
+        if (end == std::string_view::npos)
+            return std::nullopt;
+        desired = desired.substr(0, end);
+    }
+}
+
+} // namespace
+
+std::optional<std::size_t> matchLanguage(std::string_view desired, std::span<const std::string> supported) {
+    return askServices([&](const Services& all) { return all.matchLanguage(desired, supported); },
+                       [&] { return matchByTruncation(desired, supported); });
+}
+
 NumberPattern numberPattern(std::string_view locale, NumberStyle style) {
     if (auto known = knownNumberPattern(locale, style))
         return *std::move(known);
-    const Services* const all = services();
-    return all != nullptr ? all->numberPattern(locale, style) : plainNumberPattern(style);
+    return askServices([&](const Services& all) { return all.numberPattern(locale, style); },
+                       [&] { return plainNumberPattern(style); });
+}
+
+YearForms yearForms(std::string_view locale) {
+    if (auto known = knownYearForms(locale))
+        return *std::move(known);
+    return askServices([&](const Services& all) { return all.yearForms(locale); }, [] { return YearForms(); });
 }
 
 } // namespace Intl

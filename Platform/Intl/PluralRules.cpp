@@ -30,18 +30,33 @@ const Language* findLanguage(std::string_view name) noexcept {
     return found != std::end(languages) && nameOf(*found) == name ? found : nullptr;
 }
 
+// "PT-pt" as ICU spells it, "pt_PT". Only languages and regions have rules.
+char* spellTag(std::string_view tag, char* out) noexcept {
+    const auto within = [](char c, char first, char last) { return first <= c && c <= last; };
+    bool isLanguage = true;
+    for (const char c : tag) {
+        isLanguage = isLanguage && c != '-' && c != '_';
+        if (isLanguage && within(c, 'A', 'Z'))
+            *out++ = static_cast<char>(c - 'A' + 'a');
+        else if (!isLanguage && within(c, 'a', 'z'))
+            *out++ = static_cast<char>(c - 'a' + 'A');
+        else
+            *out++ = c == '-' ? '_' : c;
+    }
+    return out;
+}
+
 // Of the longest beginning of the tag that has rules.
 unsigned ruleSetOf(std::string_view tag) noexcept {
     std::array<char, longestName> buffer;
-    tag = tag.substr(0, longestName);
-    std::ranges::replace_copy(tag, buffer.begin(), '-', '_');
-    for (std::string_view name(buffer.data(), tag.size());;) {
+    const char* const end = spellTag(tag.substr(0, longestName), buffer.data());
+    for (std::string_view name(buffer.data(), end);;) {
         if (const Language* const found = findLanguage(name))
             return found->ruleSet;
-        const std::size_t end = name.rfind('_');
-        if (end == name.npos)
+        const std::size_t last = name.rfind('_');
+        if (last == name.npos)
             return unknownLanguage;
-        name = name.substr(0, end);
+        name = name.substr(0, last);
     }
 }
 

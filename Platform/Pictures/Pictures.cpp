@@ -62,12 +62,13 @@ std::optional<Size> jpegSize(Bytes bytes) {
     return std::nullopt;
 }
 
-// An error is not kept: descriptors may lack for the moment only.
+// An error is not kept: descriptors may be lacking at the moment only.
 Runtime::Result<const Decoders*> decoders() {
     static constinit std::atomic<const Decoders*> loaded{nullptr};
     if (const Decoders* known = loaded.load(std::memory_order_acquire))
         return known;
-    const auto entry = Runtime::pluginSymbol("lumora-pictures.so", "lumoraPictures");
+    const Runtime::ForkGuard guard;
+    const auto entry = Runtime::pluginSymbol(guard, "lumora-pictures.so", "lumoraPictures");
     if (!entry)
         return entry.error();
     const Decoders* const opened = reinterpret_cast<decltype(&lumoraPictures)>(*entry)();

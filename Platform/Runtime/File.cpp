@@ -6,13 +6,14 @@
 #include <cerrno>
 #include <charconv>
 #include <climits> // PATH_MAX
-#include <cstdio>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <linux/magic.h>
 #include <memory>
 #include <optional>
+#include <sys/random.h>
 #include <sys/stat.h>
 #include <sys/statfs.h>
 #include <unistd.h>
@@ -22,7 +23,7 @@ namespace Runtime {
 
 namespace {
 
-constexpr int maxLinks = 40; // that lead to a file, as the system has it
+constexpr int maxLinks = 40; // on the way to a file; the system's own limit
 
 Error systemError(const std::string& path, const char* doing) {
     return {.message = std::string(doing) + ": " + std::strerror(errno), .file = path};
@@ -39,13 +40,13 @@ bool writeAll(int file, std::string_view bytes) noexcept {
     return true;
 }
 
-// With a slash behind.
+// With a slash at its end.
 std::string folderOf(const std::string& path) {
     const std::size_t slash = path.rfind('/');
     return slash == path.npos ? "./" : path.substr(0, slash + 1);
 }
 
-// What the link at `path` says, or no value where no link is.
+// The target of the link at `path`, or no value where there is no link.
 std::optional<std::string> linkAt(const std::string& path) {
     std::array<char, PATH_MAX> text;
     const ssize_t size = ::readlink(path.c_str(), text.data(), text.size());
@@ -57,13 +58,13 @@ std::string realPath(const std::string& path) {
     return real == nullptr ? std::string() : std::string(real.get());
 }
 
-// Links below /proc lead to what a process has open. What they say is only how that was once called.
+// Links below /proc lead to what a process has open; their text is only its name at that time.
 bool isOfProcesses(const std::string& folder) noexcept {
     struct statfs system {};
     return ::statfs(folder.c_str(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
 }
 
-// The descriptor of this process that the link at `path` stands for; negative where it stands for something else.
+// The descriptor of this process that the link at `path` leads to; negative where it leads to something else.
 int ownDescriptor(const std::string& path) {
     const std::string folder = realPath(folderOf(path)), process = realPath("/proc/self");
     const char* const name = path.c_str() + path.rfind('/') + 1;
@@ -84,31 +85,41 @@ Result<void> writeThrough(const std::string& path, std::string_view bytes) {
     return writeInto(::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC), path, bytes);
 }
 
-// To what a process has open: nothing there has a name that could be replaced. Into an own descriptor, so that its
-// offset holds, and that it appends; behind what is there where another process has it.
+// To what a process has open, which has no name that could be replaced: at the offset of an own descriptor, at the end
+// of another process's file.
 Result<void> writeOpened(const std::string& path, std::string_view bytes) {
     const int own = ownDescriptor(path);
     const int file = own < 0 ? ::open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC) : ::fcntl(own, F_DUPFD_CLOEXEC, 0);
     return writeInto(file, path, bytes);
 }
 
-// The mode of the file that is there; of a new one, what the umask lets others have.
-mode_t modeOf(const std::string& path) noexcept {
+// An open file beside `path` that nothing else has, with its path. As new files are, with the permissions that the
+// umask leaves; negative on failure.
+std::pair<Descriptor, std::string> createBeside(const std::string& path) {
+    constexpr int mostTries = 100;
+    for (int tries = 0;; ++tries) {
+        std::uint32_t random = 0;
+        if (::getrandom(&random, sizeof random, GRND_NONBLOCK) < 0)
+            random = static_cast<std::uint32_t>(::getpid());
+        std::string name = path + "." + std::to_string(random + static_cast<std::uint32_t>(tries));
+        Descriptor file(::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (file.number() >= 0 || errno != EEXIST || tries == mostTries)
+            return {std::move(file), std::move(name)};
+    }
+}
+
+// Gives an open file the permissions of the one at `path`, if there is one.
+bool copyPermissions(const std::string& path, const Descriptor& file) noexcept {
     struct stat status {};
-    if (::stat(path.c_str(), &status) == 0)
-        return status.st_mode & 07777;
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666 & ~mask;
+    return ::stat(path.c_str(), &status) != 0 || ::fchmod(file.number(), status.st_mode & 07777) == 0;
 }
 
 Result<void> replace(const std::string& path, std::string_view bytes) {
-    std::string temporary = path + ".XXXXXX";
-    Descriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+    auto [file, temporary] = createBeside(path);
     if (file.number() < 0)
         return systemError(path, "cannot be written");
-    const bool written = ::fchmod(file.number(), modeOf(path)) == 0 && writeAll(file.number(), bytes) &&
-                         ::fsync(file.number()) == 0 && file.close() && ::rename(temporary.c_str(), path.c_str()) == 0;
+    const bool written = copyPermissions(path, file) && writeAll(file.number(), bytes) && ::fsync(file.number()) == 0 &&
+                         file.close() && ::rename(temporary.c_str(), path.c_str()) == 0;
     if (written)
         return {};
     Error error = systemError(path, "cannot be written");
@@ -132,6 +143,10 @@ Result<std::string> readFile(const std::string& path, std::size_t limit) {
 }
 
 Result<void> writeFile(const std::string& path, std::string_view bytes) {
+    if (path.find('\0') != path.npos) {
+        errno = EINVAL;
+        return systemError(path, "cannot be written");
+    }
     std::string place = path;
     for (int links = 0; links <= maxLinks; ++links) {
         const std::optional<std::string> link = linkAt(place);

@@ -21,6 +21,10 @@ Error cannotBeRead(const OpenFile& file) {
 
 Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit) {
     OpenFile file(path);
+    if (path.find('\0') != path.npos) { // the system would read the part before it
+        errno = ENOENT;
+        return cannotBeRead(file);
+    }
     // Without O_NONBLOCK the opening of a pipe would wait for its writer.
     static constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
     file.descriptor_ = Descriptor(::open(path.c_str(), flags));

@@ -3,24 +3,44 @@
 #include "Runtime/internal/CodeLocation.h"
 #include "Runtime/internal/Memory.h"
 #include "Runtime/internal/OpenFile.h"
+#include <cerrno>
 #include <cstddef>
 #include <dlfcn.h>
 #include <limits>
+#include <sys/mman.h>
 
 namespace Runtime {
 
-Result<void*> pluginSymbol(const char* file, const char* symbol) {
+namespace {
+
+// More than any plug-in takes with all its libraries.
+constexpr std::size_t plentyOfAddresses = std::size_t{128} << 20;
+
+bool hasAddressSpace() noexcept {
+    void* const place =
+        ::mmap(nullptr, plentyOfAddresses, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    return place != MAP_FAILED && ::munmap(place, plentyOfAddresses) == 0;
+}
+
+Result<void*> symbolOf(void* library, const std::string& path, const char* symbol) {
+    void* const found = ::dlsym(library, symbol);
+    return found != nullptr ? Result<void*>(found)
+                            : Error{.message = std::string("has no function ") + symbol, .file = path};
+}
+
+} // namespace
+
+Result<void*> pluginSymbol(const ForkGuard&, const char* file, const char* symbol) {
     static constexpr char here = 0;
-    const std::string path = codeLocation(&here).directory + "/" LUMORA_PLUGIN_FOLDER "/" + file;
+    const std::string path = codeLocation(&here).directory + "/lumora/" + file;
     // Other threads take and give back descriptors meanwhile, so one look after a failure does not tell its reason.
     for (int tries = 0; tries < 3; ++tries) {
-        if (void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL)) {
-            void* const found = ::dlsym(library, symbol);
-            return found != nullptr ? Result<void*>(found)
-                                    : Error{.message = std::string("has no function ") + symbol, .file = path};
-        }
+        if (void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL))
+            return symbolOf(library, path, symbol);
         // The dynamic linker gives its reasons in words only, and not always the right ones.
         demandMemory();
+        if (!hasAddressSpace())
+            return Error{.message = "cannot be loaded: no address space", .file = path, .cause = ENOMEM};
         if (const auto opened = OpenFile::open(path, std::numeric_limits<std::size_t>::max()); !opened)
             return opened.error();
     }

@@ -1,6 +1,6 @@
 #include "UIKit/internal/BundleCatalog.h"
 
-#include "Runtime/internal/AppendOnlyList.h"
+#include "Runtime/internal/KeyedStore.h"
 #include <cmath>
 #include <utility>
 
@@ -8,33 +8,27 @@ namespace UIKit::detail {
 
 namespace {
 
-struct Opened {
-    const Foundation::NSBundle* bundle;
-    std::optional<AssetCatalog::Catalog> catalog;
-};
-constinit Runtime::AppendOnlyList<Opened> all; // bundles are as immortal, and few
+using Catalog = std::optional<AssetCatalog::Catalog>; // no value where the bundle has none, or a damaged one
 
-// Null when the catalog cannot be opened for the moment.
-const Opened* openedFor(const Foundation::NSBundle& bundle) {
-    const auto isIts = [&bundle](const Opened& one) { return one.bundle == &bundle; };
-    if (const Opened* known = all.find(isIts))
+// Null when the catalog cannot be opened at the moment.
+const Catalog* openedFor(const Foundation::NSBundle& bundle) {
+    static constinit Runtime::KeyedStore<Catalog, 16> all;
+    if (const Catalog* const known = all.find(bundle.bundlePath()))
         return known;
-    Opened made{&bundle, std::nullopt};
-    if (auto catalog = AssetCatalog::Catalog::open(bundle.bundlePath() + "/" + std::string(AssetCatalog::fileName)))
-        made.catalog.emplace(std::move(*catalog));
-    else if (catalog.error().isTransient())
+    auto catalog = AssetCatalog::Catalog::open(bundle.bundlePath() + "/" + std::string(AssetCatalog::fileName));
+    if (!catalog && catalog.error().isTransient())
         return nullptr;
-    return &all.add(std::move(made), isIts);
+    return all.add(all.unlimited, bundle.bundlePath(), catalog ? Catalog(*std::move(catalog)) : std::nullopt);
 }
 
 } // namespace
 
 std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle) {
-    const Opened* opened = openedFor(bundle);
-    if (opened == nullptr || !opened->catalog)
+    const Catalog* const catalog = openedFor(bundle);
+    if (catalog == nullptr || !*catalog)
         return std::nullopt;
-    const auto index = opened->catalog->find(kind, name);
-    return index ? std::optional(Found{&*opened->catalog, *index}) : std::nullopt;
+    const auto index = (*catalog)->find(kind, name);
+    return index ? std::optional(Found{&**catalog, *index}) : std::nullopt;
 }
 
 AssetCatalog::Fit wanted(const UITraitCollection& given) noexcept {

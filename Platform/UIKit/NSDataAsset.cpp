@@ -1,27 +1,30 @@
 #include "UIKit/NSDataAsset.h"
 
-#include "Runtime/internal/AppendOnlyList.h"
+#include "Runtime/internal/KeyedStore.h"
 #include "UIKit/internal/BundleCatalog.h"
+#include <cstdint>
+#include <string>
 #include <vector>
 
 namespace UIKit {
 
 namespace {
 
-struct Read {
-    AssetCatalog::Blob blob;
-    std::vector<std::uint8_t> bytes;
-};
-// Kept as the catalogs are: the span that an asset gives out outlives the asset. Data assets are few.
-constinit Runtime::AppendOnlyList<Read> all;
+using Bytes = std::vector<std::uint8_t>;
 
-// Null when the bytes cannot be read.
-const Read* readFrom(const AssetCatalog::Blob& blob) {
-    const auto isIts = [&blob](const Read& one) { return one.blob == blob; };
-    if (const Read* known = all.find(isIts))
+std::string keyOf(const AssetCatalog::Blob& blob) {
+    return std::to_string(reinterpret_cast<std::uintptr_t>(blob.blobs)) + ":" + std::to_string(blob.offset);
+}
+
+// Null when the bytes cannot be read. Kept as the catalogs are: the span that an asset gives out outlives the asset.
+// Data assets are few.
+const Bytes* readFrom(const AssetCatalog::Blob& blob) {
+    static constinit Runtime::KeyedStore<Bytes> all;
+    const std::string key = keyOf(blob);
+    if (const Bytes* const known = all.find(key))
         return known;
     auto bytes = blob.read();
-    return bytes ? &all.add({blob, *std::move(bytes)}, isIts) : nullptr;
+    return bytes ? all.add(all.unlimited, key, *std::move(bytes)) : nullptr;
 }
 
 } // namespace
@@ -32,8 +35,8 @@ std::optional<NSDataAsset> NSDataAsset::assetWithName(std::string_view name, con
         return std::nullopt;
     const AssetCatalog::Entry entry = (*found->catalog)[found->index];
     const auto data = entry.data(entry.best(detail::wanted({})));
-    const Read* read = readFrom(data.blob);
-    return read == nullptr ? std::nullopt : std::optional(NSDataAsset(entry.name(), data.typeIdentifier, read->bytes));
+    const Bytes* const bytes = readFrom(data.blob);
+    return bytes == nullptr ? std::nullopt : std::optional(NSDataAsset(entry.name(), data.typeIdentifier, *bytes));
 }
 
 } // namespace UIKit

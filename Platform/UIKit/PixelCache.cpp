@@ -1,50 +1,88 @@
 #include "UIKit/internal/PixelCache.h"
 
+#include <utility>
+
 namespace UIKit::detail {
 
+// The table, locked.
+class PixelCache::Access {
+public:
+    explicit Access(PixelCache& cache) : cache_(cache) {
+        // Left in the middle of a change by a thread that this process does not have; not even to be destroyed.
+        if (cache_.lock_.lock())
+            static_cast<void>(cache_.table_.release());
+        try {
+            if (!cache_.table_)
+                cache_.table_ = std::make_unique<Table>();
+        } catch (...) {
+            cache_.lock_.unlock();
+            throw;
+        }
+    }
+    ~Access() { cache_.lock_.unlock(); }
+    Access(const Access&) = delete;
+    Access& operator=(const Access&) = delete;
+
+    Pixels find(const Key& key) {
+        const auto found = table().slots.find(key);
+        return found == table().slots.end() ? nullptr : use(found->second, key);
+    }
+
+    Pixels add(const Key& key, const Pixels& pixels) {
+        if (table().slots.size() >= table().nextSweep)
+            sweep();
+        Slot& slot = table().slots.try_emplace(key, Slot{{}, table().kept.end()}).first->second;
+        if (Pixels others = use(slot, key))
+            return others;
+        slot.pixels = pixels;
+        return use(slot, key);
+    }
+
+private:
+    Table& table() noexcept { return *cache_.table_; }
+
+    void sweep() {
+        std::erase_if(table().slots, [](const auto& each) { return each.second.pixels.expired(); });
+        table().nextSweep = table().slots.size() * 2 + 64;
+    }
+
+    // The slot's pixels, if they are alive, as the last used.
+    Pixels use(Slot& slot, const Key& key) {
+        Pixels pixels = slot.pixels.lock();
+        if (pixels == nullptr)
+            return nullptr;
+        std::list<Kept>& kept = table().kept;
+        if (slot.kept != kept.end()) {
+            kept.splice(kept.begin(), kept, slot.kept);
+            return pixels;
+        }
+        if (pixels->pixels.size() <= cache_.maxBytes_) { // a larger one would only drive the others out
+            kept.push_front({key, pixels});
+            table().keptBytes += pixels->pixels.size();
+            slot.kept = kept.begin();
+            letGo();
+        }
+        return pixels;
+    }
+
+    void letGo() {
+        std::list<Kept>& kept = table().kept;
+        while (table().keptBytes > cache_.maxBytes_) {
+            table().keptBytes -= kept.back().pixels->pixels.size();
+            table().slots.find(kept.back().key)->second.kept = kept.end();
+            kept.pop_back();
+        }
+    }
+
+    PixelCache& cache_;
+};
+
 Pixels PixelCache::find(const Key& key) {
-    const std::lock_guard guard(lock_);
-    const auto found = slots_.find(key);
-    return found == slots_.end() ? nullptr : use(found->second, key);
+    return Access(*this).find(key);
 }
 
 Pixels PixelCache::add(const Key& key, const Pixels& pixels) {
-    const std::lock_guard guard(lock_);
-    if (slots_.size() >= nextSweep_) {
-        std::erase_if(slots_, [](const auto& each) { return each.second.pixels.expired(); });
-        nextSweep_ = slots_.size() * 2 + 64;
-    }
-    Slot& slot = slots_.try_emplace(key, Slot{{}, kept_.end()}).first->second;
-    if (Pixels others = use(slot, key))
-        return others;
-    slot.pixels = pixels;
-    return use(slot, key);
-}
-
-// The slot's pixels, if they are alive, as the last used.
-Pixels PixelCache::use(Slot& slot, const Key& key) {
-    Pixels pixels = slot.pixels.lock();
-    if (pixels == nullptr)
-        return nullptr;
-    if (slot.kept != kept_.end()) {
-        kept_.splice(kept_.begin(), kept_, slot.kept);
-        return pixels;
-    }
-    if (pixels->pixels.size() <= maxBytes_) { // a larger one would only drive the others out
-        kept_.push_front({key, pixels});
-        keptBytes_ += pixels->pixels.size();
-        slot.kept = kept_.begin();
-        letGo();
-    }
-    return pixels;
-}
-
-void PixelCache::letGo() {
-    while (keptBytes_ > maxBytes_) {
-        keptBytes_ -= kept_.back().pixels->pixels.size();
-        slots_.find(kept_.back().key)->second.kept = kept_.end();
-        kept_.pop_back();
-    }
+    return Access(*this).add(key, pixels);
 }
 
 } // namespace UIKit::detail

@@ -7,7 +7,7 @@ namespace {
 using Languages = std::vector<std::string>;
 
 std::string match(std::string_view desired, const Languages& supported) {
-    const auto index = Intl::services()->matchLanguage(desired, supported);
+    const auto index = Intl::matchLanguage(desired, supported);
     return index ? supported.at(*index) : "none";
 }
 

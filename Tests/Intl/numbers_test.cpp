@@ -1,6 +1,6 @@
 // Number texts against ICU's own, in every locale that ICU has.
 #include "Foundation/internal/NumberText.h"
-#include "Intl/internal/PrecomputedPatterns.h"
+#include "Intl/internal/Precomputed.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -54,6 +54,7 @@ TEST(PluralRules, KnowTagsOfAllKinds) {
     EXPECT_EQ(ourCategory("sr-Latn-RS", "25"), "other");
     EXPECT_EQ(ourCategory("pt", "0"), "one");
     EXPECT_EQ(ourCategory("pt-PT", "0"), "other");
+    EXPECT_EQ(ourCategory("PT_pt", "0"), "other");
     EXPECT_EQ(ourCategory("zh-Hans", "1"), "other");
     for (const char* tag : {"", "xx", "-", "en-a-very-long-tag-of-a-language", "_en"})
         EXPECT_EQ(ourCategory(tag, "5"), "other") << tag;

@@ -8,10 +8,8 @@
 #include "Program/OwnBundle.h"
 #include "StringTables/internal/Placeholder.h"
 #include "StringTables/internal/PluralPieces.h"
-#include "StringTables/internal/Table.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <cerrno>
 #include <charconv>
 #include <filesystem>
 #include <memory>
@@ -70,22 +68,6 @@ std::size_t unused(const FormatSignature& signature, std::size_t given) {
     return given - static_cast<std::size_t>(used);
 }
 
-// Why no table had the key, where a file of the table is there and cannot be read: the library takes it for an empty
-// one.
-std::optional<Runtime::Error> damage(const Foundation::NSBundle& bundle, const std::string& table) {
-    if (table.find('/') != table.npos)
-        return std::nullopt; // such a name is no table's
-    const std::vector<std::string>& preferred = bundle.preferredLocalizations();
-    const std::string chosen = preferred.empty() ? "Base" : preferred.front();
-    for (const std::string& language : {chosen, std::string("Base"), bundle.developmentLocalization()}) {
-        auto read =
-            StringTables::Table::readFile(bundle.bundlePath() + "/" + language + ".lproj/" + table + ".strings");
-        if (!read && read.error().cause != ENOENT)
-            return std::move(read.error());
-    }
-    return std::nullopt;
-}
-
 Exit runText(const TextOptions& options) {
     if (!options.bundle.empty() && !std::filesystem::is_directory(options.bundle))
         return fail({.message = "is not a bundle", .file = options.bundle});
@@ -96,10 +78,11 @@ Exit runText(const TextOptions& options) {
     if (!options.locale.empty())
         Foundation::Host::setCurrentLocale(options.locale);
 
-    const Foundation::NSBundle& bundle = Foundation::NSBundle::bundleWithPath(options.bundle.empty() ? ownBundle() : options.bundle);
+    const Foundation::NSBundle& bundle =
+        Foundation::NSBundle::bundleWithPath(options.bundle.empty() ? ownBundle() : options.bundle);
     const auto found = bundle.findLocalized(options.key, options.table);
-    if (const auto damaged = found ? std::nullopt : damage(bundle, options.table))
-        return fail(*damaged);
+    if (const auto damage = found ? std::nullopt : bundle.tableDamage(options.table))
+        return fail({.message = *damage});
     if (!found)
         note("no table \"" + options.table + "\" of the bundle has this key");
     const Foundation::LocalizedFormat format = found.value_or(Foundation::LocalizedFormat(options.key));

@@ -1,27 +1,28 @@
 // Foundation/internal/HostState.h
 // The host's inputs as the platform reads them; internal.
+// Threads: any; reading takes no lock and needs no memory beyond the result's. A reader sees the state before a change
+// or after it.
 #pragma once
 
 #include "Foundation/Locale.h"
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Foundation::detail {
 
-// Languages and locale of one moment. Immutable and kept until the process ends, so that a reader needs neither lock
-// nor count and whatever is derived from a state can be kept beside its address. A state that was in force before is
-// used again: their number is that of the different settings a process has seen.
-struct HostState {
-    std::vector<std::string> languages; // BCP 47, the best liked first
-    Locale locale;
-    friend bool operator==(const HostState&, const HostState&) = default;
-};
+// The number of the preferred languages in force. Setting them makes another one, so what is derived from them can be
+// kept beside their number. Reads the environment if nothing has set them.
+[[nodiscard]] std::uint64_t hostVersion();
 
-// The state in force.
-const HostState& hostState();
+struct HostLanguages {
+    std::uint64_t version;
+    std::vector<std::string> languages; // BCP 47, the best liked first
+};
+[[nodiscard]] HostLanguages hostLanguages();
 
 // The host's tag as BCP 47: "sr_RS.UTF-8@latin" is "sr-Latn-RS".
-std::string languageTag(std::string_view hostName);
+[[nodiscard]] std::string languageTag(std::string_view hostName);
 
 } // namespace Foundation::detail

@@ -3,14 +3,17 @@
 // Text: BCP 47 tags. Threads: any; no state.
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace Foundation::detail {
 
-// The members of `supported` that readers of `wanted` understand, in the order of `wanted`, each once. A language that
-// the user did not name is never among them.
-std::vector<std::string> chooseLanguages(std::span<const std::string> wanted, std::span<const std::string> supported);
+// The index in `supported` of the language that readers of `wanted` understand, or no value. A language that the user
+// did not name is never chosen. Throws as Intl::matchLanguage().
+[[nodiscard]] std::optional<std::size_t> chooseLanguage(std::string_view wanted,
+                                                        std::span<const std::string> supported);
 
 } // namespace Foundation::detail

@@ -10,7 +10,7 @@
 namespace Intl::Precompute {
 
 // Each returns the text of a file, or stops the program with a message.
-std::string numberPatterns();
+std::string locales();
 std::string pluralRules();
 std::string scriptVariants();
 

@@ -39,14 +39,14 @@ int main(int count, char** arguments) {
     using namespace Intl::Precompute;
     const std::string what = count == 2 ? arguments[1] : "";
     std::string text;
-    if (what == "NumberPatterns")
-        text = numberPatterns();
+    if (what == "Precomputed")
+        text = locales();
     else if (what == "PluralRules")
         text = pluralRules();
     else if (what == "ScriptVariants")
         text = scriptVariants();
     else
-        fail("expected NumberPatterns, PluralRules or ScriptVariants");
+        fail("expected Precomputed, PluralRules or ScriptVariants");
     std::printf("// As ICU %s has them; do not edit.\n%s", U_ICU_VERSION, text.c_str());
     return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? 0 : 1;
 }

@@ -32,6 +32,11 @@ namespace Intl {
 // character set. Bogus when ICU makes nothing of it, and when it is longer than any in use.
 [[nodiscard]] inline icu::Locale icuLocale(std::string_view identifier) {
     std::string name(identifier);
+    if (name.find('\0') != name.npos) { // ICU would read the part before it
+        icu::Locale none;
+        none.setToBogus();
+        return none;
+    }
     if (const std::size_t dot = name.find('.'); dot != std::string::npos)
         name.erase(dot, name.find('@', dot) - dot);
     icu::Locale locale = icu::Locale::createFromName(name.c_str());

@@ -1,14 +1,15 @@
 // Intl/internal/Intl.h
-// What the platform must know of the world's languages: which one fits a user, how they write numbers, how they count
-// years. The knowledge is ICU's, and ICU lies behind this page only, in the plug-in lumora-intl.so: loading
-// ICU costs more than a process's first text, and most texts need none of it. Text: UTF-8. Threads: any. Ownership:
-// what is returned by reference lives until the process ends.
+// What the platform knows of the world's languages: which one fits a user, how they write numbers, how they count
+// years. Most of it was taken from ICU when the library was built. The rest is asked of ICU at run time, in the plug-in
+// lumora-intl.so: loading ICU costs more than a process's first text, and most processes never need it.
+// Text: UTF-8. Threads: any. Errors: where the plug-in cannot be loaded or has no memory at the moment, std::bad_alloc
+// or std::system_error is thrown, so that nobody keeps a poorer result, and the next call tries again. Without the
+// plug-in there are plain forms.
 #pragma once
 
 #include "Intl/internal/NumberPattern.h"
+#include "Intl/internal/YearForms.h"
 #include <cstddef>
-#include <cstdint>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -16,38 +17,26 @@
 
 namespace Intl {
 
-// How one locale counts years.
-class YearPhrases {
-public:
-    virtual ~YearPhrases() = default;
+// The index in `supported` of the language that serves a reader of `desired` best, by CLDR's matching, or no value when
+// none is of a language that the reader named. Identifiers of both lists as BCP 47 or with '_'.
+[[nodiscard]] std::optional<std::size_t> matchLanguage(std::string_view desired,
+                                                       std::span<const std::string> supported);
+// How a locale writes numbers. Any identifier works; what is unknown is read as the root locale. "@numbers=" and other
+// keywords are kept.
+[[nodiscard]] NumberPattern numberPattern(std::string_view locale, NumberStyle style);
+// The same of the identifier. Empty forms when there are no words.
+[[nodiscard]] YearForms yearForms(std::string_view locale);
 
-    // "N years" in words, in the form that goes with that count; a negative one counts as its absolute value. "{0}"
-    // stands for the number, which a form such as "a year" need not hold. The view lives as long as this does.
-    virtual std::string_view phrase(std::int64_t count) const = 0;
-};
-
+// The plug-in.
 class Services {
 public:
-    // The index in `supported` of the language that serves a reader of `desired` best, by CLDR's matching, or no value
-    // when none is of a language that the reader named. Identifiers of both lists as BCP 47 or with '_'.
     virtual std::optional<std::size_t> matchLanguage(std::string_view desired,
                                                      std::span<const std::string> supported) const = 0;
-    // Any identifier works; what is unknown is read as the root locale. "@numbers=" and other keywords are kept.
     virtual NumberPattern numberPattern(std::string_view locale, NumberStyle style) const = 0;
-    // The same of the identifier. Null when there are no words.
-    virtual std::unique_ptr<const YearPhrases> yearPhrases(std::string_view locale) const = 0;
+    virtual YearForms yearForms(std::string_view locale) const = 0;
 
 protected:
     ~Services() = default;
 };
-
-// The services; null when the plug-in is absent, in which case callers fall back to plain forms. Loaded at the first
-// call. Where that fails for the moment only, std::bad_alloc or std::system_error is thrown, so that nobody keeps a
-// plain form as the answer, and the next call tries again.
-[[nodiscard]] const Services* services();
-
-// How the locale writes numbers: from what the build wrote down of it, else from the services, else plainly.
-// Throws as they do.
-[[nodiscard]] NumberPattern numberPattern(std::string_view locale, NumberStyle style);
 
 } // namespace Intl

@@ -1,5 +1,5 @@
 // Runtime/internal/Memory.h
-// For what fails without saying whether it was for want of memory.
+// Probes for memory where an API does not report that it ran out.
 // Threads: any; no state.
 #pragma once
 
@@ -8,11 +8,10 @@
 
 namespace Runtime {
 
-// Throws std::bad_alloc while memory is out; otherwise what is called next finds some. What fails again after this did
-// not fail for want of it.
-inline void demandMemory() {
-    constexpr std::size_t plenty = std::size_t{1} << 16;
-    ::operator delete(::operator new(plenty)); // calls, not expressions, which a compiler may leave out
+// Throws std::bad_alloc unless `size` bytes are free at the moment. What fails although they are did not fail for lack
+// of memory.
+inline void demandMemory(std::size_t size = std::size_t{1} << 16) {
+    ::operator delete(::operator new(size)); // calls, not expressions, which a compiler may leave out
 }
 
 } // namespace Runtime

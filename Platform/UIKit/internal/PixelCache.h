@@ -1,16 +1,17 @@
 // UIKit/internal/PixelCache.h
 // Decoded pixels, shared by everyone who looks at the same picture; internal.
-// Threads: any; the lock is held for a look at the table, never while a picture is decoded.
+// Threads: any; the lock is held for a look at the table, never while a picture is decoded. A child process that was
+// forked in the middle of one begins with an empty cache.
 #pragma once
 
 #include "AssetCatalog/internal/Blobs.h"
 #include "Pictures/Bitmap.h"
+#include "Runtime/internal/ForkLock.h"
 #include <cstddef>
 #include <cstdint>
 #include <list>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <span>
 
 namespace UIKit::detail {
@@ -40,15 +41,17 @@ private:
         std::list<Kept>::iterator kept;               // or the list's end
     };
 
-    Pixels use(Slot& slot, const Key& key);
-    void letGo();
+    struct Table {
+        std::list<Kept> kept; // the last used first
+        std::size_t keptBytes = 0;
+        std::map<Key, Slot> slots;
+        std::size_t nextSweep = 64; // slots at which those without pixels are looked for
+    };
+    class Access;
 
     const std::size_t maxBytes_;
-    std::mutex lock_;
-    std::list<Kept> kept_; // the last used first
-    std::size_t keptBytes_ = 0;
-    std::map<Key, Slot> slots_;
-    std::size_t nextSweep_ = 64; // slots at which those without pixels are looked for
+    Runtime::ForkLock lock_;
+    std::unique_ptr<Table> table_; // null before its first use
 };
 
 } // namespace UIKit::detail

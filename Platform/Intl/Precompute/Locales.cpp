@@ -1,8 +1,8 @@
-// The number patterns of all locales that ICU lists.
+// The number patterns and year forms of all locales that ICU lists.
 #include "Precompute/Precompute.h"
 
 #include "Intl/internal/Intl.h"
-#include "Intl/internal/PrecomputedPatterns.h"
+#include "Intl/internal/Precomputed.h"
 #include <set>
 #include <type_traits>
 #include <unicode/localpointer.h>
@@ -27,9 +27,9 @@ std::set<std::string> localeNames() {
     return names;
 }
 
-std::string written(const NumberPattern& pattern) {
+template <class Value> std::string written(const Value& value) {
     std::string out;
-    Intl::detail::forEachPart(pattern, [&out](const auto& part) {
+    Intl::detail::forEachPart(value, [&out](const auto& part) {
         if constexpr (std::is_same_v<decltype(part), const unsigned&>)
             out += static_cast<char>('0' + part);
         else
@@ -40,18 +40,19 @@ std::string written(const NumberPattern& pattern) {
 
 } // namespace
 
-std::string numberPatterns() {
-    Pool names, patterns;
+std::string locales() {
+    const Services& icu = *lumoraIntlServices();
+    Pool names, texts;
     std::string known;
     for (const std::string& name : localeNames()) {
-        const auto offset = [&](NumberStyle style) {
-            return std::to_string(patterns.offsetOf(written(lumoraIntlServices()->numberPattern(name, style))));
-        };
-        known += "    {" + std::to_string(names.offsetOf(name)) + ", {" + offset(NumberStyle::decimal) + ", " +
-                 offset(NumberStyle::percent) + "}},\n";
+        known += "    {" + std::to_string(names.offsetOf(name));
+        for (const std::string& text :
+             {written(icu.numberPattern(name, NumberStyle::decimal)), written(icu.numberPattern(name, NumberStyle::percent)),
+              written(icu.yearForms(name))})
+            known += ", " + std::to_string(texts.offsetOf(text));
+        known += "},\n";
     }
-    return names.definition("names") + patterns.definition("patterns") + "constexpr Known known[] = {\n" + known +
-           "};\n";
+    return names.definition("names") + texts.definition("texts") + "constexpr Known known[] = {\n" + known + "};\n";
 }
 
 } // namespace Intl::Precompute

@@ -1,0 +1,73 @@
+#include "Foundation/internal/BundleFolders.h"
+
+#include "Runtime/internal/TransientError.h"
+#include "StringTables/internal/BundleLayout.h"
+#include "StringTables/internal/Table.h"
+#include <algorithm>
+#include <cerrno>
+#include <dirent.h>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <sys/stat.h>
+#include <system_error>
+#include <utility>
+
+namespace Foundation::detail {
+
+namespace {
+
+namespace layout = StringTables::bundleLayout;
+
+// Whether the open directory is the one that the path leads to.
+bool isAt(DIR* directory, const std::string& path) noexcept {
+    struct stat opened {
+    }, there{};
+    return ::fstat(::dirfd(directory), &opened) == 0 && ::stat(path.c_str(), &there) == 0 &&
+           opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
+}
+
+// In no order. No value when another bundle took the place of this one meanwhile: its folders may have been removed while
+// they were listed.
+std::optional<std::vector<std::string>> listedFolders(const std::string& bundle) {
+    std::vector<std::string> names;
+    const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(bundle.c_str()), &::closedir);
+    if (directory == nullptr) {
+        Runtime::throwIfTransient({.cause = errno});
+        return names;
+    }
+    // The end and a failure look the same but for errno.
+    errno = 0;
+    while (const dirent* entry = ::readdir(directory.get())) {
+        if (const std::string_view language = layout::languageOfFolder(entry->d_name); !language.empty())
+            names.emplace_back(language);
+        errno = 0;
+    }
+    Runtime::throwIfTransient({.cause = errno});
+    return isAt(directory.get(), bundle) ? std::optional(std::move(names)) : std::nullopt;
+}
+
+} // namespace
+
+std::string developmentRegion(const std::string& bundle) {
+    const auto information =
+        StringTables::Table::readFile(std::string(bundle).append("/").append(layout::informationFile));
+    if (!information)
+        Runtime::throwIfTransient(information.error());
+    const auto region = information ? information->find(layout::developmentRegionKey) : std::nullopt;
+    return std::string(region.value_or(layout::defaultRegion));
+}
+
+std::vector<std::string> languageFolders(const std::string& bundle) {
+    constexpr int mostUpgrades = 16; // of the bundle while it is listed
+    if (bundle.find('\0') != bundle.npos)
+        return {};
+    for (int upgrades = 0; upgrades < mostUpgrades; ++upgrades)
+        if (auto names = listedFolders(bundle)) {
+            std::ranges::sort(*names);
+            return *std::move(names);
+        }
+    throw std::system_error(EAGAIN, std::generic_category());
+}
+
+} // namespace Foundation::detail

@@ -1,0 +1,42 @@
+#include "Runtime/internal/ForkGuard.h"
+
+#include "Runtime/OnceSlot.h"
+#include <memory>
+#include <new>
+#include <pthread.h>
+
+namespace Runtime {
+
+namespace {
+
+// Guards hold it shared, fork() exclusively.
+constinit pthread_rwlock_t forking = PTHREAD_RWLOCK_INITIALIZER;
+
+void beforeFork() noexcept {
+    ::pthread_rwlock_wrlock(&forking);
+}
+void afterForkInParent() noexcept {
+    ::pthread_rwlock_unlock(&forking);
+}
+// The child's thread is another one to the lock, so it cannot give it back.
+void afterForkInChild() noexcept {
+    forking = PTHREAD_RWLOCK_INITIALIZER;
+}
+
+} // namespace
+
+ForkGuard::ForkGuard() {
+    static constinit OnceSlot<bool> isRegistered;
+    isRegistered.get([] {
+        if (::pthread_atfork(&beforeFork, &afterForkInParent, &afterForkInChild) != 0)
+            throw std::bad_alloc();
+        return true;
+    });
+    ::pthread_rwlock_rdlock(&forking);
+}
+
+ForkGuard::~ForkGuard() {
+    ::pthread_rwlock_unlock(&forking);
+}
+
+} // namespace Runtime

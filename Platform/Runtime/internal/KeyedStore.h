@@ -1,0 +1,86 @@
+// Runtime/internal/KeyedStore.h
+// Values by name that are kept until the process ends.
+// Threads: any; nothing takes a lock. Ownership: a value stays at its address; the store never destroys one.
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace Runtime {
+
+// Looks through one in `buckets` of the values for a name.
+template <class T, std::size_t buckets = 64> class KeyedStore {
+public:
+    static constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
+
+    // Constant: a static store is zeroed memory.
+    constexpr KeyedStore() noexcept = default;
+    KeyedStore(const KeyedStore&) = delete;
+    KeyedStore& operator=(const KeyedStore&) = delete;
+
+    // The value of `key` (exact), or null.
+    T* find(std::string_view key) const noexcept {
+        const std::uint64_t hash = hashOf(key);
+        return search(bucket(hash).load(std::memory_order_acquire), hash, key);
+    }
+
+    // Makes the value of `key` from `parts`. Another thread's value wins if it was added meanwhile. Null, and nothing is
+    // kept, when the store holds `limit` values.
+    template <class... Parts> T* add(std::size_t limit, std::string_view key, Parts&&... parts) {
+        if (size_.load(std::memory_order_relaxed) >= limit)
+            return nullptr;
+        const std::uint64_t hash = hashOf(key);
+        std::atomic<Node*>& first = bucket(hash);
+        std::unique_ptr<Node> made(new Node{hash, std::string(key), T(std::forward<Parts>(parts)...), nullptr});
+        made->next = first.load(std::memory_order_acquire);
+        do {
+            if (T* const others = search(made->next, hash, key))
+                return others;
+        } while (!first.compare_exchange_weak(made->next, made.get(), std::memory_order_acq_rel));
+        size_.fetch_add(1, std::memory_order_relaxed);
+        return &made.release()->value;
+    }
+
+private:
+    struct Node {
+        std::uint64_t hash;
+        std::string key;
+        T value;
+        Node* next;
+    };
+
+    static T* search(Node* node, std::uint64_t hash, std::string_view key) noexcept {
+        while (node != nullptr && (node->hash != hash || node->key != key))
+            node = node->next;
+        return node == nullptr ? nullptr : &node->value;
+    }
+
+    static std::uint64_t hashOf(std::string_view key) noexcept {
+        constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
+        std::uint64_t hash = key.size();
+        while (!key.empty()) {
+            std::uint64_t word = 0;
+            std::memcpy(&word, key.data(), std::min(key.size(), sizeof word));
+            hash = (hash ^ word) * spread;
+            hash ^= hash >> 32;
+            key.remove_prefix(std::min(key.size(), sizeof word));
+        }
+        return hash;
+    }
+
+    std::atomic<Node*>& bucket(std::uint64_t hash) noexcept { return buckets_[hash % buckets]; }
+    const std::atomic<Node*>& bucket(std::uint64_t hash) const noexcept { return buckets_[hash % buckets]; }
+
+    std::array<std::atomic<Node*>, buckets> buckets_{};
+    std::atomic<std::size_t> size_{0};
+};
+
+} // namespace Runtime
