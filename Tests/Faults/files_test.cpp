@@ -69,7 +69,8 @@ TEST(Files, NoDescriptorsGiveNoPoorerFormsForGood) {
         {__LINE__, "es-MX", "es_MX", [] { return Lumora::Localization::currentLanguageCode().rawValue(); }, "en",
          "es-419"},
         {__LINE__, "es-MX", "es_MX", [] { return Lumora::Localization::legacyTr("Continue"); }, "", "Continuar"},
-        {__LINE__, "ru", "ru_RU", [] { return Lumora::Localization::legacyTrAge(25); }, "", "25 лет"},
+        {__LINE__, "ru", "ru_RU@numbers=arab", [] { return Lumora::Localization::legacyTrAge(25); }, "",
+         "\u0662\u0665 лет"},
         {__LINE__, "de", "de_DE@numbers=arab", [] { return Lumora::Localization::legacyTrNumber(-1234.5, false); }, "",
          "\u061C-\u0661\u066C\u0662\u0663\u0664\u066B\u0665"},
     };

@@ -1,7 +1,12 @@
-// Many threads at the first use, a process that forks.
+// Many threads at the first use, a process that forks, a process that serves many users.
+#include <Foundation/Host.h>
+#include <Foundation/NSNumberFormatter.h>
 #include <Lumora/Lumora.h>
 
+#include "../Support/TemporaryFolder.h"
 #include "Child.h"
+#include <atomic>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <latch>
 #include <thread>
@@ -54,6 +59,102 @@ TEST(Process, AChildReadsWhatItsParentHasReadAndWhatNot) {
                   return Child::exitOf([] { return readsAll() && !Texts::Diet::allDish().empty() ? 0 : 2; });
               }),
               0);
+}
+
+// Runs `work` again and again on another thread until it is destroyed.
+class Busy {
+public:
+    template <class Work>
+    explicit Busy(Work work) : thread_([this, work] {
+        while (!ends_)
+            work();
+    }) {}
+    ~Busy() {
+        ends_ = true;
+        thread_.join();
+    }
+
+private:
+    std::atomic<bool> ends_{false};
+    std::thread thread_;
+};
+
+// Reads and sets everything.
+int useAll() {
+    ::alarm(10); // a child that waits for ever is killed
+    useRussian();
+    return readsAll() && Foundation::Locale::current().identifier() == "ru_RU" ? 0 : 1;
+}
+
+// A child is forked while another thread is in the middle of work, whatever that is: it has none of its locks to wait for.
+TEST(Process, AChildForkedInTheMiddleOfWorkReadsAndSetsAll) {
+    const struct {
+        int line;
+        void (*work)();
+    } cases[] = {
+        {__LINE__, [] { Foundation::Host::setPreferredLanguages({"de", "fr"}); }},
+        {__LINE__, [] { Foundation::Host::setCurrentLocale("de_AT"); }},
+        {__LINE__, [] { Foundation::Host::reset(); }},
+        {__LINE__, [] { static_cast<void>(Lumora::LumoraAsset::Images::send.image().rgba()); }},
+        {__LINE__,
+         [] { // in ICU each time
+             Foundation::NSNumberFormatter formatter;
+             formatter.setLocale(Foundation::Locale(std::string(200, 'x') + "@numbers=arab"));
+             static_cast<void>(formatter.stringFromNumber(5));
+         }},
+    };
+    for (const auto& [line, work] : cases) {
+        const Busy busy(work);
+        for (int i = 0; i < 200; ++i)
+            ASSERT_EQ(Child::exitOf(useAll), 0) << "line " << line << ", repetition " << i;
+    }
+}
+
+TEST(Process, AChildForkedDuringAFirstReadReadsAll) {
+    for (int i = 0; i < 200; ++i)
+        ASSERT_EQ(Child::exitOf([i] {
+                      useRussian();
+                      std::latch start(2);
+                      std::thread reader([&] {
+                          start.arrive_and_wait();
+                          readsAll();
+                      });
+                      start.arrive_and_wait();
+                      ::usleep(static_cast<useconds_t>(i * 20)); // to be forked at another moment each time
+                      const int code = Child::exitOf(useAll);
+                      reader.join();
+                      return code;
+                  }),
+                  0)
+            << "repetition " << i;
+}
+
+long residentKilobytes() {
+    long all = 0, resident = 0;
+    std::ifstream("/proc/self/statm") >> all >> resident;
+    return resident * ::sysconf(_SC_PAGESIZE) / 1024;
+}
+
+// A server that sets each user's languages and locale: bounded memory.
+TEST(Process, AnyNumberOfUsersTakesBoundedMemory) {
+    const Support::TemporaryFolder folder;
+    folder.write("Base.lproj/T.strings", "a = text;");
+    const Foundation::NSBundle& bundle = Foundation::NSBundle::bundleWithPath(folder.path());
+    const auto serve = [&](int first, int last) {
+        for (int user = first; user < last; ++user) {
+            const std::string number = std::to_string(user);
+            Foundation::Host::setPreferredLanguages({"de-x-user" + number, "de"});
+            Foundation::Host::setCurrentLocale("de_DE@user=" + number);
+            ASSERT_EQ(Localization::currentLanguageCode().rawValue(), "de");
+            ASSERT_EQ(bundle.localizedText("a", "T"), "text");
+            ASSERT_EQ(bundle.localizedText("a", "T" + number), "a");
+        }
+    };
+    serve(0, 1000);
+    const long before = residentKilobytes();
+    serve(1000, 20000);
+    EXPECT_LT(residentKilobytes() - before, 1024);
+    Foundation::Host::reset();
 }
 
 } // namespace

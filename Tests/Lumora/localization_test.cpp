@@ -1,4 +1,5 @@
 #include <Lumora/Lumora.h>
+#include <Lumora/internal/Language.h>
 
 #include <cmath>
 #include <gtest/gtest.h>
