@@ -32,7 +32,7 @@ Result<void*> symbolOf(void* library, const std::string& path, const char* symbo
 
 Result<void*> pluginSymbol(const ForkGuard&, const char* file, const char* symbol) {
     static constexpr char here = 0;
-    const std::string path = codeLocation(&here).directory + "/lumora/" + file;
+    const std::string path = codeLocation(&here).directory + "/" LUMORA_PLUGIN_FOLDER "/" + file;
     // Other threads take and give back descriptors meanwhile, so one look after a failure does not tell its reason.
     for (int tries = 0; tries < 3; ++tries) {
         if (void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL))

@@ -8,7 +8,7 @@
 
 namespace Runtime {
 
-// Opens the plug-in `file` ("lumora-intl.so") from the folder lumora/ beside the shared object that holds this code
+// Opens the plug-in `file` ("lumora-intl.so") from the plug-in folder beside the shared object that holds this code
 // and returns the address of its exported function `symbol`. Nothing is searched elsewhere, whatever the process's
 // directory or environment. It stays open until the process ends. The guard: the dynamic linker has locks.
 // Errors: the plug-in is absent, cannot be loaded, or has no such function; transient ones where descriptors, memory or
