@@ -9,8 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto measured = Pictures::measure(bytes);
     if (!measured)
         return 0;
-    const bool isPng = measured->encoding == Pictures::Encoding::png;
-    const auto bitmap = isPng ? Pictures::decodePng(bytes, maxPixels) : Pictures::decodeJpeg(bytes, maxPixels);
+    const auto bitmap = Pictures::decode(bytes, maxPixels, Pictures::linkedDecoders());
     if (!bitmap)
         return 0;
     const std::uint64_t pixels = std::uint64_t{bitmap->width} * bitmap->height;

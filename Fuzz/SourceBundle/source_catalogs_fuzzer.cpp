@@ -25,7 +25,8 @@ public:
     Source() : contents_(folder_.write("contents", "")) {
         folder_.write("secret", "");
         for (const char* set :
-             {"A.xcassets/Folder/i.imageset", "A.xcassets/Folder/c.colorset", "A.xcassets/d.dataset"}) {
+             {"A.xcassets/Folder/i.imageset", "A.xcassets/Folder/c.colorset", "A.xcassets/d.dataset",
+                                "A.xcassets/Folder/s.symbolset"}) {
             folder_.write(std::string(set) + "/1.png", "");
             fs::create_directory(folder_ / set / "folder");
             fs::create_symlink(folder_ / "secret", folder_ / set / "link");
@@ -50,12 +51,14 @@ void requireSound(const SourceBundle::SourceAsset& asset) {
     const std::string name = asset.path.stem();
     require(asset.name == name || asset.name == "Folder/" + name);
     for (const SourceBundle::SourceFile& file : asset.files) {
+        require(std::isfinite(file.capInsets.top) && std::isfinite(file.alignmentInsets.right));
         require(file.path == asset.path / "1.png" || file.path == asset.path / "Contents.json");
         require(file.fit.scale <= 9);
     }
-    for (const AssetCatalog::ColorValue& color : asset.colors) {
-        require(std::ranges::all_of(color.components, [](double component) { return std::isfinite(component); }));
-        require(color.components[3] >= 0 && color.components[3] <= 1);
+    for (const AssetCatalog::Color& color : asset.colors) {
+        const auto& components = color.value.components;
+        require(std::ranges::all_of(components, [](double component) { return std::abs(component) <= 16; }));
+        require(components[3] >= 0 && components[3] <= 1);
     }
 }
 
@@ -66,7 +69,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     source.setContents(data, size);
     SourceBundle::Diagnostics diagnostics;
     const fs::path catalogs[] = {source.path() / "A.xcassets"};
-    for (const SourceBundle::SourceAsset& asset : SourceBundle::sourceAssets(catalogs, diagnostics))
+    const auto everyPicture = [](const SourceBundle::SourceFile&) { return Runtime::Result<void>(); };
+    for (const SourceBundle::SourceAsset& asset : SourceBundle::sourceAssets(catalogs, diagnostics, everyPicture))
         requireSound(asset);
     for (const SourceBundle::Diagnostic& one : diagnostics.all())
         require(!one.what.message.empty() && one.what.file.starts_with((source.path() / "A.xcassets/").native()));

@@ -1,10 +1,9 @@
 #include "AssetCatalog/internal/Builder.h"
 
 #include "AssetCatalog/internal/Catalog.h"
+#include "AssetCatalog/internal/Check.h"
 #include "AssetCatalog/internal/Layout.h"
 #include <algorithm>
-#include <map>
-#include <string_view>
 #include <tuple>
 
 namespace AssetCatalog {
@@ -15,119 +14,176 @@ std::uint64_t hashOf(const Asset& asset) {
     return Format::hashOf(asset.kind, asset.name);
 }
 
-Format::Fit fitOf(const Fit& fit) {
+Format::Fit formatted(const Fit& fit) {
     return {static_cast<std::uint8_t>(fit.appearance), static_cast<std::uint8_t>(fit.contrast),
             static_cast<std::uint8_t>(fit.direction), fit.scale};
 }
+Format::Insets formatted(const Insets& insets) {
+    return {insets.top, insets.left, insets.bottom, insets.right};
+}
 
-// By fit, one of each.
+// Sorts the variants by their readers and keeps the first for the same readers.
 template <class Variant> void order(std::vector<Variant>& variants) {
     const auto key = [](const Variant& variant) {
-        return std::tuple(variant.fit.direction, variant.fit.appearance, variant.fit.contrast, variant.fit.scale);
+        const Fit& fit = variant.fit;
+        return std::tuple(std::string_view(variant.language), fit.direction, fit.appearance, fit.contrast, fit.scale);
     };
-    std::stable_sort(variants.begin(), variants.end(),
-                     [&](const Variant& one, const Variant& other) { return key(one) < key(other); });
-    const auto same = [](const Variant& one, const Variant& other) { return one.fit == other.fit; };
-    variants.erase(std::unique(variants.begin(), variants.end(), same), variants.end());
+    std::ranges::stable_sort(variants, {}, key);
+    const auto twins = std::ranges::unique(variants, {}, key);
+    variants.erase(twins.begin(), twins.end());
 }
+
+// Blobs in the order in which they were added, equal ones once.
+class BlobList {
+public:
+    // The offset among the blobs.
+    std::uint64_t add(const Bytes& bytes) {
+        const auto [known, isNew] = offsets_.try_emplace(*bytes, size_);
+        if (isNew) {
+            blobs_.push_back(bytes);
+            size_ += Format::aligned(bytes->size());
+        }
+        return known->second;
+    }
+
+    std::uint64_t size() const { return size_; }
+    // Hands everything over to the catalog whose index is `built.index`.
+    void moveTo(BuiltCatalog& built) {
+        for (auto& [bytes, offset] : offsets_)
+            offset += built.index.size();
+        built.blobs = std::move(blobs_);
+        built.offsets = std::move(offsets_);
+    }
+
+private:
+    std::vector<Bytes> blobs_;
+    std::unordered_map<std::string_view, std::uint64_t> offsets_;
+    std::uint64_t size_ = 0;
+};
 
 class Writer {
 public:
     void add(Asset& asset) {
         hashes_.push_back(hashOf(asset));
-        // Parts before the table that holds them: the container is written from its end.
+        // FlatBuffers are written from the end: parts before the table that holds them.
         const auto catalog = buffer_.CreateSharedString(asset.catalog);
         const auto name = buffer_.CreateString(asset.name);
-        List<const Format::Picture*> pictures;
-        List<const Format::Color*> colors;
-        List<flatbuffers::Offset<Format::Data>> data;
+        List<Format::Picture> pictures;
+        List<Format::Color> colors;
+        List<Format::Data> data;
         switch (asset.kind) {
         case Kind::image:
-            pictures = add(asset.pictures);
+            pictures = list<Format::Picture>(asset.pictures);
             break;
         case Kind::color:
-            colors = add(asset.colors);
+            colors = list<Format::Color>(asset.colors);
             break;
         case Kind::data:
-            data = add(asset.data);
+            data = list<Format::Data>(asset.data);
             break;
         }
-        assets_.push_back(Format::CreateAsset(buffer_, static_cast<std::uint8_t>(asset.kind), asset.isTemplate, catalog,
-                                              name, pictures, colors, data));
+        assets_.push_back(Format::CreateAsset(buffer_, static_cast<std::uint8_t>(asset.kind),
+                                              static_cast<std::uint8_t>(asset.rendering), catalog, name, pictures,
+                                              colors, data));
     }
 
-    std::string finish() {
+    BuiltCatalog finish() {
         const auto hashes = buffer_.CreateVector(hashes_);
         const auto assets = buffer_.CreateVector(assets_);
         Format::FinishSizePrefixedCatalogBuffer(
             buffer_, Format::CreateCatalog(buffer_, Format::version, blobs_.size(), hashes, assets));
-        std::string bytes(reinterpret_cast<const char*>(buffer_.GetBufferPointer()), buffer_.GetSize());
-        bytes.resize(Format::aligned(bytes.size()));
-        return bytes + blobs_;
+        BuiltCatalog built;
+        built.index.assign(reinterpret_cast<const char*>(buffer_.GetBufferPointer()), buffer_.GetSize());
+        built.index.resize(Format::aligned(built.index.size()));
+        blobs_.moveTo(built);
+        return built;
     }
 
 private:
-    template <class Element> using List = flatbuffers::Offset<flatbuffers::Vector<Element>>;
+    template <class Table> using List = flatbuffers::Offset<flatbuffers::Vector<flatbuffers::Offset<Table>>>;
 
-    List<const Format::Picture*> add(std::vector<Picture>& pictures) {
-        order(pictures);
-        std::vector<Format::Picture> out;
-        out.reserve(pictures.size());
-        for (const Picture& picture : pictures)
-            out.emplace_back(add(picture.bytes), picture.bytes.size(), picture.width, picture.height,
-                             fitOf(picture.fit), static_cast<std::uint8_t>(picture.encoding));
-        return buffer_.CreateVectorOfStructs(out);
-    }
-    List<const Format::Color*> add(std::vector<ColorValue>& colors) {
-        order(colors);
-        std::vector<Format::Color> out;
-        out.reserve(colors.size());
-        for (const auto& [fit, space, components] : colors)
-            out.emplace_back(components[0], components[1], components[2], components[3], fitOf(fit),
-                             static_cast<std::uint8_t>(space));
-        return buffer_.CreateVectorOfStructs(out);
-    }
-    List<flatbuffers::Offset<Format::Data>> add(std::vector<Data>& data) {
-        order(data);
-        std::vector<flatbuffers::Offset<Format::Data>> out;
-        for (const Data& each : data) {
-            const Format::Fit fit = fitOf(each.fit);
-            out.push_back(Format::CreateData(buffer_, add(each.bytes), each.bytes.size(), &fit,
-                                             buffer_.CreateSharedString(each.typeIdentifier)));
-        }
-        return buffer_.CreateVector(out);
+    template <class Table, class Variant> List<Table> list(std::vector<Variant>& variants) {
+        order(variants);
+        std::vector<flatbuffers::Offset<Table>> tables;
+        for (const Variant& variant : variants)
+            tables.push_back(add(variant));
+        return buffer_.CreateVector(tables);
     }
 
-    // Where among the blobs these bytes lie.
-    std::uint64_t add(const std::vector<std::uint8_t>& bytes) {
-        const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-        const auto [place, isNew] = places_.try_emplace(std::string(text), blobs_.size());
-        if (isNew)
-            blobs_.append(text).resize(Format::aligned(blobs_.size()));
-        return place->second;
+    flatbuffers::Offset<Format::Picture> add(const Picture& picture) {
+        const Format::Fit fit = formatted(picture.fit);
+        const Format::Size points(picture.points.width, picture.points.height);
+        const Format::Insets caps = formatted(picture.capInsets);
+        const Format::Insets alignment = formatted(picture.alignmentInsets);
+        return Format::CreatePicture(buffer_, &fit, text(picture.language), blobs_.add(picture.bytes),
+                                     picture.bytes->size(), picture.width, picture.height, &points,
+                                     static_cast<std::uint8_t>(picture.resizing),
+                                     picture.capInsets == Insets{} ? nullptr : &caps,
+                                     picture.alignmentInsets == Insets{} ? nullptr : &alignment);
+    }
+    flatbuffers::Offset<Format::Color> add(const Color& color) {
+        const Format::Fit fit = formatted(color.fit);
+        const auto& [first, second, third, alpha] = color.value.components;
+        const Format::Components components(first, second, third, alpha);
+        return Format::CreateColor(buffer_, &fit, text(color.language), static_cast<std::uint8_t>(color.value.space),
+                                   &components);
+    }
+    flatbuffers::Offset<Format::Data> add(const Data& data) {
+        const Format::Fit fit = formatted(data.fit);
+        return Format::CreateData(buffer_, &fit, text(data.language), blobs_.add(data.bytes), data.bytes->size(),
+                                  text(data.typeIdentifier));
+    }
+
+    // An empty text is left out.
+    flatbuffers::Offset<flatbuffers::String> text(const std::string& text) {
+        return text.empty() ? 0 : buffer_.CreateSharedString(text);
     }
 
     flatbuffers::FlatBufferBuilder buffer_;
     std::vector<std::uint64_t> hashes_;
     std::vector<flatbuffers::Offset<Format::Asset>> assets_;
-    std::string blobs_;
-    std::map<std::string, std::uint64_t> places_;
+    BlobList blobs_;
 };
 
 } // namespace
 
-Runtime::Result<std::string> build(std::vector<Asset> assets) {
+std::vector<std::string_view> BuiltCatalog::pieces() const {
+    static constexpr std::string_view zeros("\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0", Format::alignment - 1);
+    std::vector<std::string_view> pieces = {index};
+    for (const Bytes& blob : blobs) {
+        pieces.push_back(*blob);
+        pieces.push_back(zeros.substr(0, Format::aligned(blob->size()) - blob->size()));
+    }
+    return pieces;
+}
+
+std::string BuiltCatalog::bytes() const {
+    std::string all;
+    for (const std::string_view piece : pieces())
+        all.append(piece);
+    return all;
+}
+
+Runtime::Result<BuiltCatalog> build(std::vector<Asset> assets) {
     std::ranges::sort(assets, {}, hashOf);
     if (const auto twin = std::ranges::adjacent_find(assets, {}, hashOf); twin != assets.end())
         return Runtime::Error{.message = "two assets of one kind are named \"" + twin->name + "\"", .file = {}};
     Writer writer;
     for (Asset& asset : assets)
         writer.add(asset);
-    std::string bytes = writer.finish();
-    // What readers would not believe is not written.
-    if (auto sound = Catalog::read({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()}); !sound)
-        return std::move(sound.error());
-    return bytes;
+    BuiltCatalog built = writer.finish();
+    // The reader's own checks: a catalog that it would refuse is not written.
+    std::uint64_t total = 0;
+    for (const std::string_view piece : built.pieces())
+        total += piece.size();
+    if (total > maxBytes)
+        return Runtime::Error{.message = "has more than " + std::to_string(maxBytes) + " bytes", .file = {}};
+    const std::span index(reinterpret_cast<const std::uint8_t*>(built.index.data()), built.index.size());
+    if (const auto size = indexBytes(index, total); !size)
+        return size.error();
+    if (const auto checked = check(index, total); !checked)
+        return checked.error();
+    return built;
 }
 
 } // namespace AssetCatalog

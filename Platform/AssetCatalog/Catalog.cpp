@@ -4,6 +4,7 @@
 #include "AssetCatalog/internal/Fit.h"
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace AssetCatalog {
 
@@ -11,13 +12,32 @@ namespace {
 
 using Place = flatbuffers::uoffset_t;
 
+// The index has been checked: every number is one of its enumeration.
 Fit fitOf(const Format::Fit& fit) noexcept {
     return {static_cast<Appearance>(fit.appearance()), static_cast<Contrast>(fit.contrast()),
             static_cast<Direction>(fit.direction()), fit.scale()};
 }
 
+Insets insetsOf(const Format::Insets* insets) noexcept {
+    return insets == nullptr ? Insets{} : Insets{insets->top(), insets->left(), insets->bottom(), insets->right()};
+}
+
 std::string_view textOf(const flatbuffers::String* text) noexcept {
     return text == nullptr ? std::string_view() : text->string_view();
+}
+
+// Calls `use` with the variant, whose type depends on the asset's kind.
+template <class Use> auto withVariant(const Format::Asset& asset, Kind kind, std::size_t variant, Use use) noexcept {
+    const auto place = static_cast<Place>(variant);
+    switch (kind) {
+    case Kind::image:
+        return use(*asset.pictures()->Get(place));
+    case Kind::color:
+        return use(*asset.colors()->Get(place));
+    case Kind::data:
+        break;
+    }
+    return use(*asset.data()->Get(place));
 }
 
 } // namespace
@@ -31,8 +51,8 @@ std::string_view Entry::catalog() const noexcept {
 std::string_view Entry::name() const noexcept {
     return textOf(asset_->name());
 }
-bool Entry::isTemplate() const noexcept {
-    return asset_->is_template();
+Rendering Entry::rendering() const noexcept {
+    return static_cast<Rendering>(asset_->rendering());
 }
 
 std::size_t Entry::variants() const noexcept {
@@ -48,40 +68,48 @@ std::size_t Entry::variants() const noexcept {
 }
 
 Fit Entry::fit(std::size_t variant) const noexcept {
-    const auto place = static_cast<Place>(variant);
-    switch (kind()) {
-    case Kind::image:
-        return fitOf(asset_->pictures()->Get(place)->fit());
-    case Kind::color:
-        return fitOf(asset_->colors()->Get(place)->fit());
-    case Kind::data:
-        break;
-    }
-    return fitOf(*asset_->data()->Get(place)->fit());
+    return withVariant(*asset_, kind(), variant, [](const auto& found) { return fitOf(*found.fit()); });
 }
 
-std::size_t Entry::best(Fit wanted) const noexcept {
+std::string_view Entry::language(std::size_t variant) const noexcept {
+    return withVariant(*asset_, kind(), variant, [](const auto& found) { return textOf(found.language()); });
+}
+
+bool Entry::isLocalized() const noexcept {
+    for (std::size_t i = 0; i < variants(); ++i)
+        if (!language(i).empty())
+            return true;
+    return false;
+}
+
+std::size_t Entry::best(Fit wanted, std::span<const std::string> languages) const noexcept {
+    const auto distanceOf = [&](std::size_t variant) {
+        return std::pair(languageDistance(language(variant), languages), distance(fit(variant), wanted));
+    };
     std::size_t best = 0;
     for (std::size_t i = 1; i < variants(); ++i)
-        if (distance(fit(i), wanted) < distance(fit(best), wanted))
+        if (distanceOf(i) < distanceOf(best))
             best = i;
     return best;
 }
 
 PictureView Entry::picture(std::size_t variant) const noexcept {
     const Format::Picture& found = *asset_->pictures()->Get(static_cast<Place>(variant));
-    return {fitOf(found.fit()),
-            static_cast<Encoding>(found.encoding()),
-            found.width(),
-            found.height(),
-            {blobs_, found.offset(), found.size()}};
+    return {.fit = fitOf(*found.fit()),
+            .width = found.width(),
+            .height = found.height(),
+            .points = {found.points()->width(), found.points()->height()},
+            .resizing = static_cast<Resizing>(found.resizing()),
+            .capInsets = insetsOf(found.cap_insets()),
+            .alignmentInsets = insetsOf(found.alignment_insets()),
+            .blob = {blobs_, found.offset(), found.size()}};
 }
 
 ColorValue Entry::color(std::size_t variant) const noexcept {
     const Format::Color& found = *asset_->colors()->Get(static_cast<Place>(variant));
-    return {fitOf(found.fit()),
-            static_cast<ColorSpace>(found.space()),
-            {found.first(), found.second(), found.third(), found.alpha()}};
+    const Format::Components& components = *found.components();
+    return {static_cast<ColorSpace>(found.space()),
+            {components.first(), components.second(), components.third(), components.alpha()}};
 }
 
 DataView Entry::data(std::size_t variant) const noexcept {
@@ -105,7 +133,7 @@ Runtime::Result<Catalog> Catalog::open(const std::string& path) {
     const auto filled = file->read(bytes.get(), *size, 0);
     if (!filled)
         return filled.error();
-    // A file that changes meanwhile is as damaged as any; the size must be the one that was made room for.
+    // The file may have changed meanwhile; the size must still be the one that memory was taken for.
     auto sameSize = indexBytes({bytes.get(), *filled}, *filled);
     if (!sameSize || *sameSize != *size)
         return file->error("has been changed while it was read");

@@ -13,56 +13,61 @@ Runtime::Error fault(std::string message) {
     return {.message = std::move(message), .file = {}};
 }
 Runtime::Error damaged(std::string_view what) {
-    return fault(std::string("is no sound catalog: ").append(what));
+    return fault(std::string("is a damaged catalog: ").append(what));
 }
 Runtime::Error damagedAsset(const Format::Asset& asset, std::string_view what) {
     const std::string_view name = asset.name()->string_view().substr(0, maxNameBytes);
     return damaged(std::string("\"").append(name).append("\" ").append(what));
 }
 
-// The container's verifier leaves open whether the elements of a vector lie where their type may.
-template <class Vector> bool mayBeRead(const Vector& vector, std::size_t alignment) {
-    return reinterpret_cast<std::uintptr_t>(vector.Data()) % alignment == 0;
-}
-
 template <class Enumeration> bool within(std::uint8_t value, Enumeration last) {
     return value <= static_cast<std::uint8_t>(last);
 }
-
 bool isSound(const Format::Fit& fit) {
     return within(fit.appearance(), Appearance::dark) && within(fit.contrast(), Contrast::high) &&
            within(fit.direction(), Direction::rightToLeft);
+}
+bool isShort(const flatbuffers::String* text) {
+    return text == nullptr || text->size() <= maxOtherTextBytes;
+}
+bool isSound(const Format::Insets* insets) {
+    return insets == nullptr || (std::isfinite(insets->top()) && std::isfinite(insets->left()) &&
+                                 std::isfinite(insets->bottom()) && std::isfinite(insets->right()));
 }
 
 class AssetCheck {
 public:
     AssetCheck(const Format::Asset& asset, std::uint64_t blobBytes) : asset_(asset), blobBytes_(blobBytes) {}
 
-    // What does not hold, or null.
+    // What is wrong, or null.
     const char* fault() const {
         if (asset_.name()->size() == 0 || asset_.name()->size() > maxNameBytes)
             return "has a name that is empty or too long";
+        if (!isShort(asset_.catalog()))
+            return "is in a catalog with too long a name";
+        if (!within(asset_.rendering(), Rendering::asTemplate))
+            return "is drawn in an unknown way";
         switch (static_cast<Kind>(asset_.kind())) {
         case Kind::image:
-            return all(asset_.pictures(), 8, [this](const Format::Picture& picture) { return fault(picture); });
+            return all(asset_.pictures());
         case Kind::color:
-            return all(asset_.colors(), 8, [](const Format::Color& color) { return fault(color); });
+            return all(asset_.colors());
         case Kind::data:
-            return all(asset_.data(), 4, [this](const Format::Data& data) { return fault(data); });
+            return all(asset_.data());
         }
         return "is of an unknown kind";
     }
 
 private:
-    template <class Vector, class Fault>
-    static const char* all(const Vector* variants, std::size_t alignment, Fault fault) {
+    template <class Vector> const char* all(const Vector* variants) const {
         if (variants == nullptr || variants->size() == 0 || variants->size() > maxVariants)
             return "has no variant or too many";
-        if (!mayBeRead(*variants, alignment))
-            return "has misplaced variants";
-        for (const auto* variant : *variants)
+        for (const auto* variant : *variants) {
+            if (!isSound(*variant->fit()) || !isShort(variant->language()))
+                return "has a variant for unknown readers";
             if (const char* found = fault(*variant))
                 return found;
+        }
         return nullptr;
     }
 
@@ -70,23 +75,28 @@ private:
         return offset <= blobBytes_ && size <= blobBytes_ - offset && offset % Format::alignment == 0;
     }
     const char* fault(const Format::Picture& picture) const {
-        if (!isSound(picture.fit()) || !within(picture.encoding(), Encoding::jpeg))
-            return "has a picture of an unknown sort";
+        const auto isPositive = [](double points) { return std::isfinite(points) && points > 0; };
         if (picture.size() == 0 || picture.width() == 0 || picture.height() == 0 ||
             std::uint64_t{picture.width()} * picture.height() > maxPixels)
-            return "has a picture of nothing or of too many pixels";
+            return "has a picture without pixels or with too many";
+        if (!isPositive(picture.points()->width()) || !isPositive(picture.points()->height()))
+            return "has a picture without a size";
+        if (!within(picture.resizing(), Resizing::tile) || !isSound(picture.cap_insets()) ||
+            !isSound(picture.alignment_insets()))
+            return "has a picture with impossible insets";
         return holds(picture.offset(), picture.size()) ? nullptr : "has a picture outside of the catalog";
     }
     static const char* fault(const Format::Color& color) {
-        if (!isSound(color.fit()) || !within(color.space(), ColorSpace::gray))
-            return "has a colour of an unknown sort";
-        const bool sound = std::isfinite(color.first()) && std::isfinite(color.second()) &&
-                           std::isfinite(color.third()) && color.alpha() >= 0 && color.alpha() <= 1;
-        return sound ? nullptr : "has a colour with impossible components";
+        if (!within(color.space(), ColorSpace::gray))
+            return "has a colour of an unknown space";
+        const Format::Components& components = *color.components();
+        const bool isSound = std::isfinite(components.first()) && std::isfinite(components.second()) &&
+                             std::isfinite(components.third()) && components.alpha() >= 0 && components.alpha() <= 1;
+        return isSound ? nullptr : "has a colour with impossible components";
     }
     const char* fault(const Format::Data& data) const {
-        if (!isSound(*data.fit()))
-            return "has data of an unknown sort";
+        if (!isShort(data.type()))
+            return "has data with too long a type";
         return holds(data.offset(), data.size()) ? nullptr : "has data outside of the catalog";
     }
 
@@ -94,12 +104,16 @@ private:
     std::uint64_t blobBytes_;
 };
 
-// Names first: ascending hashes that fit their names mean that no asset stands there twice.
-Runtime::Result<void> checkAssets(const Format::Catalog& index) {
+// The names first: ascending hashes that match the names mean that no asset is there twice. `indexBytes` bounds the
+// names together, which could otherwise share the bytes of one.
+Runtime::Result<void> checkAssets(const Format::Catalog& index, std::size_t indexBytes) {
     const auto& hashes = *index.hashes();
     const auto& assets = *index.assets();
-    if (!mayBeRead(hashes, 8) || hashes.size() != assets.size() || assets.size() > maxAssets)
-        return damaged("its order does not fit its assets");
+    // The container's verifier does not check that the elements of a vector are aligned.
+    const bool isAligned = reinterpret_cast<std::uintptr_t>(hashes.Data()) % alignof(std::uint64_t) == 0;
+    if (!isAligned || hashes.size() != assets.size() || assets.size() > maxAssets)
+        return damaged("the order of its assets is lost");
+    std::size_t nameBytes = 0;
     for (flatbuffers::uoffset_t i = 0; i < assets.size(); ++i) {
         const Format::Asset& asset = *assets[i];
         if (const char* fault = AssetCheck(asset, index.blob_bytes()).fault())
@@ -107,6 +121,9 @@ Runtime::Result<void> checkAssets(const Format::Catalog& index) {
         if ((i != 0 && hashes[i - 1] >= hashes[i]) ||
             hashes[i] != Format::hashOf(static_cast<Kind>(asset.kind()), asset.name()->string_view()))
             return damagedAsset(asset, "is not in its place");
+        nameBytes += asset.name()->size();
+        if (nameBytes > indexBytes)
+            return damaged("its names are longer than it is");
     }
     return {};
 }
@@ -124,18 +141,21 @@ Runtime::Result<std::size_t> indexBytes(std::span<const std::uint8_t> head, std:
 }
 
 Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> bytes, std::uint64_t total) {
-    const flatbuffers::Verifier::Options limits{.max_depth = 3, .max_tables = maxAssets * 2};
+    // An asset or variant that is not shared takes at least twelve bytes. A catalog in which many assets share one
+    // list of variants would take quadratic time; ours share none.
+    const flatbuffers::Verifier::Options limits{
+        .max_depth = 3, .max_tables = static_cast<flatbuffers::uoffset_t>(bytes.size() / 12 + 1)};
     flatbuffers::Verifier verifier(bytes.data(),
                                    flatbuffers::GetPrefixedSize(bytes.data()) + sizeof(flatbuffers::uoffset_t), limits);
     if (!Format::VerifySizePrefixedCatalogBuffer(verifier))
-        return damaged("its index is damaged");
+        return damaged("its index is damaged or of another version");
     const Format::Catalog& index = *Format::GetSizePrefixedCatalog(bytes.data());
     if (index.version() != Format::version)
         return fault("is a catalog of version " + std::to_string(index.version()) + "; this program reads version " +
                      std::to_string(Format::version));
     if (index.blob_bytes() != total - bytes.size())
         return damaged("it is cut off");
-    if (auto sound = checkAssets(index); !sound)
+    if (auto sound = checkAssets(index, bytes.size()); !sound)
         return std::move(sound.error());
     return &index;
 }

@@ -6,13 +6,18 @@ namespace AssetCatalog {
 
 namespace {
 
-// Of a quality with three values of which 0 is "any" and 1 the more usual: 0 to 2.
+// For a quality with three values, of which 0 is "any" and 1 the more usual one. From 0 to 2.
 template <class Quality> std::uint32_t threeWay(Quality offered, Quality wanted) noexcept {
     if (offered == wanted)
         return 0;
     if (wanted == Quality::any)
         return static_cast<std::uint32_t>(offered);
     return offered == Quality::any ? 1 : 2;
+}
+
+// "pt" and "pt-BR" of "pt-BR".
+bool isTagOrItsBeginning(std::string_view part, std::string_view tag) noexcept {
+    return tag.starts_with(part) && (tag.size() == part.size() || tag[part.size()] == '-');
 }
 
 // Below 1024.
@@ -33,9 +38,17 @@ std::uint32_t distance(Fit offered, Fit wanted) noexcept {
     return sum * 1024 + scaleDistance(offered.scale, wanted.scale);
 }
 
-std::size_t bestFit(std::span<const Fit> offered, Fit wanted) noexcept {
-    const auto best = std::ranges::min_element(offered, {}, [&](Fit fit) { return distance(fit, wanted); });
-    return static_cast<std::size_t>(best - offered.begin());
+std::uint32_t languageDistance(std::string_view offered, std::span<const std::string> wanted) noexcept {
+    constexpr std::uint32_t forAll = std::uint32_t{1} << 24;
+    if (offered.empty())
+        return forAll;
+    std::uint32_t place = 0;
+    for (const std::string& language : wanted.first(std::min<std::size_t>(wanted.size(), forAll >> 8))) {
+        if (isTagOrItsBeginning(offered, language))
+            return place + static_cast<std::uint32_t>(std::min<std::size_t>(language.size() - offered.size(), 255));
+        place += 256;
+    }
+    return forAll + 1;
 }
 
 } // namespace AssetCatalog

@@ -37,7 +37,7 @@ std::optional<Size> pngSize(Bytes bytes) {
     return Size{Encoding::png, bigEndian(bytes.subspan(16, 4)), bigEndian(bytes.subspan(20, 4))};
 }
 
-// Goes from segment to segment up to the one that begins a frame.
+// Walks the segments up to the one that begins a frame.
 std::optional<Size> jpegSize(Bytes bytes) {
     std::size_t at = 2;
     while (at + 4 <= bytes.size()) {
@@ -51,7 +51,7 @@ std::optional<Size> jpegSize(Bytes bytes) {
             continue; // stands alone
         if (marker == 0xD9 || marker == 0xDA)
             return std::nullopt; // pixels or the end before any frame
-        // C4, C8 and CC lie among the frames' markers and are none.
+        // C4, C8 and CC are among the frames' markers but begin none.
         if (marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC) {
             if (at + 7 > bytes.size())
                 return std::nullopt;
@@ -62,7 +62,7 @@ std::optional<Size> jpegSize(Bytes bytes) {
     return std::nullopt;
 }
 
-// An error is not kept: descriptors may be lacking at the moment only.
+// A failure is not remembered: the process may be out of descriptors for the moment.
 Runtime::Result<const Decoders*> decoders() {
     static constinit std::atomic<const Decoders*> loaded{nullptr};
     if (const Decoders* known = loaded.load(std::memory_order_acquire))
@@ -90,13 +90,23 @@ Runtime::Result<Size> measure(std::span<const std::uint8_t> bytes) {
 }
 
 Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) {
-    const auto size = measure(bytes);
-    if (!size)
-        return size.error();
     const auto found = decoders();
     if (!found)
         return found.error();
-    return size->encoding == Encoding::png ? (*found)->png(bytes, maxPixels) : (*found)->jpeg(bytes, maxPixels);
+    return decode(bytes, maxPixels, **found);
+}
+
+Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels, const Decoders& decoders) {
+    const auto size = measure(bytes);
+    if (!size)
+        return size.error();
+    switch (size->encoding) {
+    case Encoding::png:
+        return decoders.png(bytes, maxPixels);
+    case Encoding::jpeg:
+        break;
+    }
+    return decoders.jpeg(bytes, maxPixels);
 }
 
 } // namespace Pictures

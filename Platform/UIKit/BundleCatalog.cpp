@@ -1,43 +1,84 @@
 #include "UIKit/internal/BundleCatalog.h"
 
+#include "Foundation/internal/HostState.h"
 #include "Runtime/internal/KeyedStore.h"
 #include <cmath>
-#include <utility>
+#include <string>
 
 namespace UIKit::detail {
 
 namespace {
 
-using Catalog = std::optional<AssetCatalog::Catalog>; // no value where the bundle has none, or a damaged one
-
 // Null when the catalog cannot be opened at the moment.
-const Catalog* openedFor(const Foundation::NSBundle& bundle) {
-    static constinit Runtime::KeyedStore<Catalog, 16> all;
-    if (const Catalog* const known = all.find(bundle.bundlePath()))
+const BundleCatalog* openedFor(const Foundation::NSBundle& bundle) {
+    static constinit Runtime::KeyedStore<BundleCatalog, 16> all;
+    if (const BundleCatalog* const known = all.find(bundle.bundlePath()))
         return known;
-    auto catalog = AssetCatalog::Catalog::open(bundle.bundlePath() + "/" + std::string(AssetCatalog::fileName));
-    if (!catalog && catalog.error().isTransient())
+    auto opened = AssetCatalog::Catalog::open(bundle.bundlePath() + "/" + std::string(AssetCatalog::fileName));
+    if (!opened && opened.error().isTransient())
         return nullptr;
-    return all.add(all.unlimited, bundle.bundlePath(), catalog ? Catalog(*std::move(catalog)) : std::nullopt);
+    std::optional<AssetCatalog::Catalog> catalog;
+    if (opened)
+        catalog.emplace(*std::move(opened));
+    return all.add(all.unlimited, bundle.bundlePath(), BundleCatalog(bundle, std::move(catalog)));
+}
+
+AssetCatalog::Appearance appearanceOf(UserInterfaceStyle style) noexcept {
+    switch (style) {
+    case UserInterfaceStyle::light:
+        return AssetCatalog::Appearance::light;
+    case UserInterfaceStyle::dark:
+        return AssetCatalog::Appearance::dark;
+    case UserInterfaceStyle::unspecified:
+        break;
+    }
+    return AssetCatalog::Appearance::any;
+}
+
+AssetCatalog::Direction directionOf(LayoutDirection direction) noexcept {
+    switch (direction) {
+    case LayoutDirection::leftToRight:
+        return AssetCatalog::Direction::leftToRight;
+    case LayoutDirection::rightToLeft:
+        return AssetCatalog::Direction::rightToLeft;
+    case LayoutDirection::unspecified:
+        break;
+    }
+    return AssetCatalog::Direction::any;
+}
+
+AssetCatalog::Fit fitFor(const UITraitCollection& traits) noexcept {
+    const double scale = traits.displayScale == 0 ? 1 : std::ceil(traits.displayScale);
+    return {appearanceOf(traits.userInterfaceStyle),
+            traits.accessibilityContrast == AccessibilityContrast::high ? AssetCatalog::Contrast::high
+                                                                        : AssetCatalog::Contrast::any,
+            directionOf(traits.layoutDirection), static_cast<std::uint8_t>(scale)};
 }
 
 } // namespace
 
-std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle) {
-    const Catalog* const catalog = openedFor(bundle);
-    if (catalog == nullptr || !*catalog)
-        return std::nullopt;
-    const auto index = (*catalog)->find(kind, name);
-    return index ? std::optional(Found{&**catalog, *index}) : std::nullopt;
+std::optional<std::size_t> BundleCatalog::find(AssetCatalog::Kind kind, std::string_view name) const noexcept {
+    return catalog_ ? catalog_->find(kind, name) : std::nullopt;
 }
 
-AssetCatalog::Fit wanted(const UITraitCollection& given) noexcept {
-    using namespace AssetCatalog;
-    const UITraitCollection traits = given.over(UITraitCollection::current());
-    const double scale = traits.displayScale == 0 ? 1 : std::ceil(traits.displayScale);
-    return {static_cast<Appearance>(traits.userInterfaceStyle),
-            traits.accessibilityContrast == AccessibilityContrast::high ? Contrast::high : Contrast::any,
-            static_cast<Direction>(traits.layoutDirection), static_cast<std::uint8_t>(scale)};
+std::size_t BundleCatalog::bestVariant(std::size_t index, const UITraitCollection& traits) const noexcept {
+    const AssetCatalog::Entry found = entry(index);
+    const AssetCatalog::Fit fit = fitFor(traits.over(UITraitCollection::current()));
+    if (!found.isLocalized())
+        return found.best(fit);
+    try {
+        if (const std::string* const language = bundle_.preferredLocalization())
+            return found.best(fit, {language, 1});
+        return found.best(fit, Foundation::detail::hostLanguages().languages); // a bundle without texts
+    } catch (...) { // no memory for the languages now
+        return found.best(fit);
+    }
+}
+
+std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle) {
+    const BundleCatalog* catalog = openedFor(bundle);
+    const auto index = catalog == nullptr ? std::nullopt : catalog->find(kind, name);
+    return index ? std::optional(Found{catalog, *index}) : std::nullopt;
 }
 
 } // namespace UIKit::detail

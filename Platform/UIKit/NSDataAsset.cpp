@@ -33,8 +33,8 @@ std::optional<NSDataAsset> NSDataAsset::assetWithName(std::string_view name, con
     const auto found = detail::findAsset(AssetCatalog::Kind::data, name, bundle);
     if (!found)
         return std::nullopt;
-    const AssetCatalog::Entry entry = (*found->catalog)[found->index];
-    const auto data = entry.data(entry.best(detail::wanted({})));
+    const AssetCatalog::Entry entry = found->catalog->entry(found->index);
+    const auto data = entry.data(found->catalog->bestVariant(found->index, {}));
     const Bytes* const bytes = readFrom(data.blob);
     return bytes == nullptr ? std::nullopt : std::optional(NSDataAsset(entry.name(), data.typeIdentifier, *bytes));
 }

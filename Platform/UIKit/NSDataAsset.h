@@ -1,6 +1,6 @@
 // UIKit/NSDataAsset.h
 // A file of a bundle's asset catalog.
-// Text: UTF-8. Threads: any. Ownership: a plain value; what it shows lives until the process ends.
+// Text: UTF-8. Threads: any. Ownership: a plain value; the views it returns are valid until the process ends.
 #pragma once
 
 #include "Foundation/NSBundle.h"
@@ -12,8 +12,7 @@
 
 namespace UIKit {
 
-// A class that is derived from it and has a look-up of its own under the name assetWithName is asked itself by whoever
-// takes the class as a template argument.
+// A derived class may define its own static assetWithName(); templates that take a class call that.
 class LUMORA_EXPORT NSDataAsset {
 public:
     // The data of that name (exact) in the asset catalog of `bundle`, in the variant that serves the traits in force
@@ -22,7 +21,7 @@ public:
                                                                   const Foundation::NSBundle& bundle);
 
     [[nodiscard]] std::string_view name() const noexcept { return name_; }
-    // "public.json"; empty when the catalog tells none.
+    // "public.json"; or empty
     [[nodiscard]] std::string_view typeIdentifier() const noexcept { return typeIdentifier_; }
     [[nodiscard]] std::span<const std::uint8_t> data() const noexcept { return data_; }
 

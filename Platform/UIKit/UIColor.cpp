@@ -24,8 +24,8 @@ UIColor UIColor::resolved(const UITraitCollection& traits) const noexcept {
     const Asset* asset = std::get_if<Asset>(&state_);
     if (asset == nullptr)
         return *this;
-    const AssetCatalog::Entry entry = (*asset->catalog)[asset->index];
-    return UIColor(State(detail::toExtendedSrgb(entry.color(entry.best(detail::wanted(asset->traits.over(traits)))))));
+    const std::size_t variant = asset->catalog->bestVariant(asset->index, asset->traits.over(traits));
+    return UIColor(State(detail::toExtendedSrgb(asset->catalog->entry(asset->index).color(variant))));
 }
 
 } // namespace UIKit

@@ -23,24 +23,23 @@ struct RGBA {
     friend bool operator==(const RGBA&, const RGBA&) = default;
 };
 
-// A class that is derived from it and has a look-up of its own under the name colorNamed is asked itself by whoever
-// takes the class as a template argument.
+// A derived class may define its own static colorNamed(); templates that take a class call that.
 class LUMORA_EXPORT UIColor {
 public:
-    // Any numbers, kept as they are.
+    // Any numbers, NaN included, kept as they are.
     constexpr UIColor(double red, double green, double blue, double alpha) noexcept
         : state_(RGBA{red, green, blue, alpha}) {}
     // Has no components.
     [[nodiscard]] static UIColor patternColor(const UIImage& image) noexcept { return UIColor(State(image)); }
-    // The colour of that name (exact) in the asset catalog of `bundle`, or no value. Traits that `traits` leaves
-    // unspecified, all of them without `traits`, are those in force whenever the colour is asked for its components.
+    // The colour of that name (exact) in the asset catalog of `bundle`, or no value. For traits that `traits` leaves
+    // unspecified, all of them without `traits`, each call of the colour uses those in force at that time; the language
+    // is that of the bundle's texts at that time.
     [[nodiscard]] static std::optional<UIColor> colorNamed(std::string_view name, const Foundation::NSBundle& bundle,
                                                            const UITraitCollection* traits = nullptr);
 
     // The components for the traits in force; no value when the colour is not one of red, green and blue.
     [[nodiscard]] std::optional<RGBA> rgba() const noexcept;
-    // The colour that this one is for these traits, with those in force now where they are unspecified; it follows no
-    // change.
+    // The fixed colour that this one is for these traits, with those in force now where they are unspecified.
     [[nodiscard]] UIColor resolved(const UITraitCollection& traits) const noexcept;
     // The picture of a pattern, or null.
     [[nodiscard]] const UIImage* patternImage() const noexcept { return std::get_if<UIImage>(&state_); }
@@ -50,7 +49,7 @@ public:
 
 private:
     struct Asset {
-        const AssetCatalog::Catalog* catalog;
+        const detail::BundleCatalog* catalog;
         std::size_t index;
         UITraitCollection traits;
         friend bool operator==(const Asset&, const Asset&) = default;

@@ -16,12 +16,13 @@ detail::PixelCache& cache() {
     return *slot.get([] { return new detail::PixelCache(keptPixelBytes); });
 }
 
-AssetCatalog::PictureView pictureFor(const AssetCatalog::Entry& entry, const UITraitCollection& traits) noexcept {
-    return entry.picture(entry.best(detail::wanted(traits)));
+AssetCatalog::PictureView pictureFor(const detail::BundleCatalog& catalog, std::size_t index,
+                                     const UITraitCollection& traits) noexcept {
+    return catalog.entry(index).picture(catalog.bestVariant(index, traits));
 }
 
-double scaleOf(const AssetCatalog::PictureView& picture) noexcept {
-    return picture.fit.scale == 0 ? 1 : picture.fit.scale;
+EdgeInsets insetsOf(const AssetCatalog::Insets& insets) noexcept {
+    return {insets.top, insets.left, insets.bottom, insets.right};
 }
 
 } // namespace
@@ -40,40 +41,73 @@ std::optional<UIImage> UIImage::imageNamedWithConfiguration(std::string_view nam
 }
 
 std::string_view UIImage::name() const noexcept {
-    return (*catalog_)[index_].name();
+    return catalog_->entry(index_).name();
+}
+
+RenderingMode UIImage::renderingMode() const noexcept {
+    switch (catalog_->entry(index_).rendering()) {
+    case AssetCatalog::Rendering::original:
+        return RenderingMode::alwaysOriginal;
+    case AssetCatalog::Rendering::asTemplate:
+        return RenderingMode::alwaysTemplate;
+    case AssetCatalog::Rendering::automatic:
+        break;
+    }
+    return RenderingMode::automatic;
 }
 bool UIImage::isTemplate() const noexcept {
-    return (*catalog_)[index_].isTemplate();
+    return renderingMode() == RenderingMode::alwaysTemplate;
 }
 
 Size UIImage::size() const noexcept {
-    const auto picture = pictureFor((*catalog_)[index_], traits_);
-    return {picture.width / scaleOf(picture), picture.height / scaleOf(picture)};
+    const AssetCatalog::Size points = pictureFor(*catalog_, index_, traits_).points;
+    return {points.width, points.height};
 }
 double UIImage::scale() const noexcept {
-    return scaleOf(pictureFor((*catalog_)[index_], traits_));
+    const std::uint8_t scale = pictureFor(*catalog_, index_, traits_).fit.scale;
+    return scale == 0 ? 1 : scale;
 }
 std::uint32_t UIImage::pixelWidth() const noexcept {
-    return pictureFor((*catalog_)[index_], traits_).width;
+    return pictureFor(*catalog_, index_, traits_).width;
 }
 std::uint32_t UIImage::pixelHeight() const noexcept {
-    return pictureFor((*catalog_)[index_], traits_).height;
+    return pictureFor(*catalog_, index_, traits_).height;
+}
+
+EdgeInsets UIImage::capInsets() const noexcept {
+    return insetsOf(pictureFor(*catalog_, index_, traits_).capInsets);
+}
+ResizingMode UIImage::resizingMode() const noexcept {
+    switch (pictureFor(*catalog_, index_, traits_).resizing) {
+    case AssetCatalog::Resizing::tile:
+        return ResizingMode::tile;
+    case AssetCatalog::Resizing::stretch:
+        break;
+    }
+    return ResizingMode::stretch;
+}
+EdgeInsets UIImage::alignmentRectInsets() const noexcept {
+    return insetsOf(pictureFor(*catalog_, index_, traits_).alignmentInsets);
 }
 
 std::shared_ptr<const Pictures::Bitmap> UIImage::rgba() const {
-    const auto picture = pictureFor((*catalog_)[index_], traits_);
-    auto pixels = cache().find(picture.blob);
-    if (pixels == nullptr) {
-        const auto encoded = picture.blob.read();
-        if (!encoded)
-            return nullptr;
-        auto decoded = Pictures::decode(*encoded, AssetCatalog::maxPixels);
-        if (!decoded)
-            return nullptr;
-        pixels = cache().add(picture.blob, std::make_shared<const Pictures::Bitmap>(std::move(*decoded)));
-    }
-    // A catalog that is wrong about a picture's size is damaged too.
-    return pixels->width == picture.width && pixels->height == picture.height ? pixels : nullptr;
+    const auto picture = pictureFor(*catalog_, index_, traits_);
+    // A catalog that is wrong about a picture's size is damaged.
+    const auto isRight = [&](const auto& pixels) {
+        return pixels.width == picture.width && pixels.height == picture.height;
+    };
+    if (auto known = cache().find(picture.blob))
+        return isRight(*known) ? known : nullptr;
+    const auto encoded = picture.blob.read();
+    if (!encoded)
+        return nullptr;
+    const auto size = Pictures::measure(*encoded);
+    if (!size || !isRight(*size))
+        return nullptr;
+    auto decoded = Pictures::decode(*encoded, AssetCatalog::maxPixels);
+    if (!decoded)
+        return nullptr;
+    return cache().add(picture.blob, std::make_shared<const Pictures::Bitmap>(*std::move(decoded)));
 }
 
 } // namespace UIKit

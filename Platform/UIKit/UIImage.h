@@ -1,7 +1,7 @@
 // UIKit/UIImage.h
 // A picture of a bundle's asset catalog.
-// Text: UTF-8. Threads: any. Ownership: an image is a handle of a few words; pixels are decoded when they are asked for
-// and shared by all images of the same picture.
+// Text: UTF-8. Threads: any. Ownership: an image is a handle of a few words; pixels are decoded on demand and shared by
+// all images of the same picture.
 #pragma once
 
 #include "Foundation/NSBundle.h"
@@ -14,11 +14,11 @@
 #include <optional>
 #include <string_view>
 
-namespace AssetCatalog {
-class Catalog;
-}
-
 namespace UIKit {
+
+namespace detail {
+class BundleCatalog;
+}
 
 // In points.
 struct Size {
@@ -27,12 +27,26 @@ struct Size {
     friend bool operator==(const Size&, const Size&) = default;
 };
 
-// A class that is derived from it and has look-ups of its own under these names is asked itself by whoever takes the
-// class as a template argument.
+// In points, from the image's edges inwards.
+struct EdgeInsets {
+    double top = 0;
+    double left = 0;
+    double bottom = 0;
+    double right = 0;
+    friend bool operator==(const EdgeInsets&, const EdgeInsets&) = default;
+};
+
+// How an image is drawn: as its context wants, in its own colours, or as a shape in the colour of its surroundings.
+enum class RenderingMode : std::uint8_t { automatic, alwaysOriginal, alwaysTemplate };
+// How the part inside the cap insets fills a larger area.
+enum class ResizingMode : std::uint8_t { stretch, tile };
+
+// A derived class may define its own static look-ups under these names; templates that take a class call those.
 class LUMORA_EXPORT UIImage {
 public:
-    // The image of that name (exact) in the asset catalog of `bundle`, or no value. Traits that `traits` leaves
-    // unspecified, all of them without `traits`, are those in force whenever the image is asked for its size or pixels.
+    // The image of that name (exact) in the asset catalog of `bundle`, or no value. For traits that `traits` leaves
+    // unspecified, all of them without `traits`, each call of the image uses those in force at that time; the language
+    // is that of the bundle's texts at that time.
     [[nodiscard]] static std::optional<UIImage> imageNamed(std::string_view name, const Foundation::NSBundle& bundle,
                                                            const UITraitCollection* traits = nullptr);
     // The same image under the name of the platform's later look-up.
@@ -42,26 +56,32 @@ public:
 
     // Valid until the process ends.
     [[nodiscard]] std::string_view name() const noexcept;
-    // Whether only its shape counts: it is drawn in the colour of its surroundings.
+    [[nodiscard]] RenderingMode renderingMode() const noexcept;
+    // Whether the rendering mode is `alwaysTemplate`.
     [[nodiscard]] bool isTemplate() const noexcept;
 
-    // All of the variant that serves the traits best.
+    // The following are those of the variant that serves the traits best.
     [[nodiscard]] Size size() const noexcept;
     [[nodiscard]] double scale() const noexcept; // pixels in a point
     [[nodiscard]] std::uint32_t pixelWidth() const noexcept;
     [[nodiscard]] std::uint32_t pixelHeight() const noexcept;
-    // Decoded, or null when the picture is damaged. Two calls give the same pixels as long as somebody holds them, and
-    // longer for the pictures that were used last.
+    // The edges that keep their size when the image is resized; zero where the catalog says nothing of it.
+    [[nodiscard]] EdgeInsets capInsets() const noexcept;
+    [[nodiscard]] ResizingMode resizingMode() const noexcept;
+    // The edges that don't count when the image is aligned with others, such as a shadow's.
+    [[nodiscard]] EdgeInsets alignmentRectInsets() const noexcept;
+    // The decoded pixels, or null when the picture is damaged. Two calls give the same object as long as a holder of it
+    // is left, and longer for the pictures that were used last.
     [[nodiscard]] std::shared_ptr<const Pictures::Bitmap> rgba() const;
 
     // Whether both are the same asset for the same traits.
     friend bool operator==(const UIImage&, const UIImage&) = default;
 
 private:
-    UIImage(const AssetCatalog::Catalog* catalog, std::size_t index, const UITraitCollection& traits) noexcept
+    UIImage(const detail::BundleCatalog* catalog, std::size_t index, const UITraitCollection& traits) noexcept
         : catalog_(catalog), index_(index), traits_(traits) {}
 
-    const AssetCatalog::Catalog* catalog_;
+    const detail::BundleCatalog* catalog_;
     std::size_t index_;
     UITraitCollection traits_;
 };

@@ -4,15 +4,18 @@
 
 #include "AssetCatalog/internal/Catalog.h"
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <cstdlib>
 #include <memory>
 #include <new>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace Walk {
 
-// Bytes at the very end of their allocation, so that a read behind them is seen; aligned as catalogs are.
+// Bytes that fill their allocation, so that a read behind them is detected; aligned as catalogs are.
 class Exact {
 public:
     explicit Exact(std::string_view bytes)
@@ -44,13 +47,17 @@ inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
         const AssetCatalog::Entry entry = catalog[i];
         if (catalog.find(entry.kind(), entry.name()) != i || entry.best({}) >= entry.variants())
             std::abort();
-        sum += entry.catalog().size() + (entry.isTemplate() ? 1U : 0U);
+        sum += entry.catalog().size() + static_cast<unsigned>(entry.rendering());
         for (std::size_t variant = 0; variant < entry.variants(); ++variant) {
-            if (entry.best(entry.fit(variant)) > variant) // the first of those that are just what is asked for
+            const std::array languages = {std::string(entry.language(variant))};
+            if (entry.best(entry.fit(variant), languages) > variant) // the first of those that fit exactly
                 std::abort();
-            if (entry.kind() == AssetCatalog::Kind::image)
-                read(entry.picture(variant).blob);
-            else if (entry.kind() == AssetCatalog::Kind::color)
+            if (entry.kind() == AssetCatalog::Kind::image) {
+                const AssetCatalog::PictureView picture = entry.picture(variant);
+                if (!(picture.points.width > 0) || !std::isfinite(picture.capInsets.top + picture.alignmentInsets.right))
+                    std::abort();
+                read(picture.blob);
+            } else if (entry.kind() == AssetCatalog::Kind::color)
                 sum += static_cast<unsigned long long>(entry.color(variant).components[3] * 2);
             else {
                 read(entry.data(variant).blob);

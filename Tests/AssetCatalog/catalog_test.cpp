@@ -4,9 +4,9 @@
 #include "Sample.h"
 #include "Walk.h"
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <limits>
 #include <set>
 #include <sys/stat.h>
 
@@ -20,7 +20,7 @@ template <class Bytes> std::vector<int> numbers(const Bytes& bytes) {
 
 TEST(Catalog, GivesBackWhatWasBuilt) {
     const Support::TemporaryFolder folder;
-    const std::string path = folder.write(fileName, *build(Sample::assets()));
+    const std::string path = folder.write(fileName, build(Sample::assets())->bytes());
     auto opened = Catalog::open(path);
     ASSERT_TRUE(opened) << opened.error().text();
     const Catalog catalog = std::move(*opened); // entries survive a move
@@ -29,15 +29,25 @@ TEST(Catalog, GivesBackWhatWasBuilt) {
     const Entry image = catalog[*catalog.find(Kind::image, "send")];
     EXPECT_EQ(image.catalog(), "Images");
     EXPECT_EQ(image.name(), "send");
-    EXPECT_TRUE(image.isTemplate());
+    EXPECT_EQ(image.rendering(), Rendering::asTemplate);
+    EXPECT_FALSE(image.isLocalized());
     ASSERT_EQ(image.variants(), 2U);
     const PictureView dark = image.picture(image.best(Sample::darkTwice));
     EXPECT_EQ(dark.fit, Sample::darkTwice);
-    EXPECT_EQ(dark.encoding, Encoding::jpeg);
     EXPECT_EQ(dark.width, 6U);
     EXPECT_EQ(dark.height, 4U);
+    EXPECT_EQ(dark.points, (Size{3, 2}));
+    EXPECT_EQ(dark.capInsets, Insets{});
     EXPECT_EQ(numbers(*dark.blob.read()), (std::vector{1, 2, 3}));
     EXPECT_EQ(numbers(*image.picture(image.best({})).blob.read()), (std::vector{9}));
+
+    const Entry star = catalog[*catalog.find(Kind::image, "folder/star_")];
+    EXPECT_EQ(star.rendering(), Rendering::original);
+    EXPECT_TRUE(star.isLocalized());
+    const PictureView framed = star.picture(0);
+    EXPECT_EQ(framed.resizing, Resizing::tile);
+    EXPECT_EQ(framed.capInsets, (Insets{1, 2, 3, 4}));
+    EXPECT_EQ(framed.alignmentInsets, (Insets{0.5, 0, -1, 0}));
 
     const Entry color = catalog[*catalog.find(Kind::color, "send")];
     const ColorValue wide = color.color(color.best({}));
@@ -47,6 +57,7 @@ TEST(Catalog, GivesBackWhatWasBuilt) {
 
     const Entry data = catalog[*catalog.find(Kind::data, "send")];
     EXPECT_EQ(data.data(0).typeIdentifier, "public.json");
+    EXPECT_EQ(data.language(0), "fr");
     EXPECT_EQ(numbers(*data.data(0).blob.read()), (std::vector<int>{'{', '}'}));
 
     EXPECT_TRUE(catalog.find(Kind::image, "folder/star_"));
@@ -58,7 +69,7 @@ TEST(Catalog, GivesBackWhatWasBuilt) {
 // The file is replaced and cut short while its catalog is open.
 TEST(Catalog, OutlivesItsFile) {
     const Support::TemporaryFolder folder;
-    const std::string path = folder.write(fileName, *build(Sample::assets()));
+    const std::string path = folder.write(fileName, build(Sample::assets())->bytes());
     const auto catalog = Catalog::open(path);
     ASSERT_TRUE(catalog);
     const Blob blob = (*catalog)[*catalog->find(Kind::data, "send")].data(0).blob;
@@ -75,8 +86,8 @@ TEST(Catalog, OutlivesItsFile) {
 TEST(Catalog, FindsEveryOneOfMany) {
     std::vector<Asset> assets;
     for (int i = 0; i < 5000; ++i)
-        assets.push_back({Kind::color, "C", std::to_string(i * 7919), false, {}, {{}}, {}});
-    const Walk::Exact bytes(*build(assets));
+        assets.push_back({.kind = Kind::color, .catalog = "C", .name = std::to_string(i * 7919), .colors = {{}}});
+    const Walk::Exact bytes(build(assets)->bytes());
     auto catalog = Catalog::read(bytes.span());
     ASSERT_TRUE(catalog);
     std::set<std::size_t> found;
@@ -87,21 +98,21 @@ TEST(Catalog, FindsEveryOneOfMany) {
 
 TEST(Catalog, SameAssetsGiveTheSameBytes) {
     std::vector<Asset> assets = Sample::assets();
-    const std::string bytes = *build(assets);
+    const std::string bytes = build(assets)->bytes();
     std::ranges::reverse(assets);
     for (Asset& asset : assets)
         std::ranges::reverse(asset.colors);
-    EXPECT_EQ(*build(assets), bytes);
+    EXPECT_EQ(build(assets)->bytes(), bytes);
 
     // Of two variants with one fit the first counts.
     assets = Sample::assets();
-    assets[0].pictures.push_back({{}, Encoding::jpeg, 9, 9, {7}});
-    EXPECT_EQ(*build(assets), bytes);
+    assets[0].pictures.push_back({.fit = {}, .width = 9, .height = 9, .points = {9, 9}, .bytes = shared("7")});
+    EXPECT_EQ(build(assets)->bytes(), bytes);
 
-    EXPECT_EQ(Catalog::read(Walk::Exact(*build({})).span())->size(), 0U);
+    EXPECT_EQ(Catalog::read(Walk::Exact(build({})->bytes()).span())->size(), 0U);
 }
 
-TEST(Catalog, BuilderRefusesWhatNobodyWouldRead) {
+TEST(Catalog, BuilderRefusesWhatReadersRefuse) {
     struct Case {
         int line;
         void (*edit)(std::vector<Asset>&);
@@ -111,13 +122,18 @@ TEST(Catalog, BuilderRefusesWhatNobodyWouldRead) {
         {__LINE__, [](auto& assets) { assets[1].name = "send"; }, "two assets of one kind are named \"send\""},
         {__LINE__, [](auto& assets) { assets[1].name = ""; }, "\"\" has a name that is empty or too long"},
         {__LINE__, [](auto& assets) { assets[1].pictures.clear(); }, "\"folder/star_\" has no variant or too many"},
-        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = 0; }, "has a picture of nothing"},
-        {__LINE__, [](auto& assets) { assets[1].pictures[0].bytes.clear(); }, "has a picture of nothing"},
-        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = (1U << 26) + 1; }, "too many pixels"},
-        {__LINE__, [](auto& assets) { assets[1].pictures[0].encoding = Encoding{2}; }, "unknown sort"},
-        {__LINE__, [](auto& assets) { assets[2].colors[0].fit.direction = Direction{3}; }, "unknown sort"},
-        {__LINE__, [](auto& assets) { assets[2].colors[0].components[3] = 1.5; }, "impossible components"},
-        {__LINE__, [](auto& assets) { assets[2].colors[0].components[1] = std::numeric_limits<double>::quiet_NaN(); },
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = 0; }, "picture without pixels"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].bytes = shared(""); }, "picture without pixels"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].points.height = 0; }, "picture without a size"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].capInsets.left = HUGE_VAL; }, "impossible insets"},
+        {__LINE__, [](auto& assets) { assets[1].catalog.resize(256); }, "in a catalog with too long a name"},
+        {__LINE__, [](auto& assets) { assets[3].data[0].typeIdentifier.resize(256); }, "too long a type"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = (1U << 26) + 1; }, "or with too many"},
+        {__LINE__, [](auto& assets) { assets[1].rendering = Rendering{3}; }, "drawn in an unknown way"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].fit.direction = Direction{3}; }, "for unknown readers"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].language.resize(256); }, "for unknown readers"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].value.components[3] = 1.5; }, "impossible components"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].value.components[1] = std::nan(""); },
          "impossible components"},
     };
     for (const Case& c : cases) {

@@ -1,6 +1,8 @@
 #include "AssetCatalog/internal/Fit.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <string>
 #include <vector>
 
 namespace {
@@ -51,12 +53,30 @@ TEST(Fit, BestVariant) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.line);
-        std::vector<Fit> offered;
-        for (const char* text : c.offered)
-            offered.push_back(fit(text));
-        EXPECT_STREQ(c.offered[bestFit(offered, fit(c.wanted))], c.best);
+        const auto distanceOf = [&](const char* offered) { return distance(fit(offered), fit(c.wanted)); };
+        EXPECT_STREQ(*std::ranges::min_element(c.offered, {}, distanceOf), c.best);
     }
-    EXPECT_EQ(bestFit(std::vector{fit("---2"), fit("---2")}, fit("---2")), 0U);
+}
+
+TEST(Fit, BestLanguage) {
+    const struct {
+        int line;
+        std::vector<std::string> wanted, offered;
+        const char* best;
+    } cases[] = {
+        {__LINE__, {"pt-BR"}, {"", "pt", "pt-PT", "pt-BR"}, "pt-BR"},
+        {__LINE__, {"pt-BR"}, {"", "pt", "pt-PT"}, "pt"},
+        {__LINE__, {"pt-BR"}, {"p", "pt-B", "pt-BR-x", ""}, ""},
+        {__LINE__, {"pt-BR"}, {"de", "pt-PT"}, "de"},
+        {__LINE__, {"zh-Hans-CN"}, {"zh", "zh-Hans", ""}, "zh-Hans"},
+        {__LINE__, {"fr", "de"}, {"", "de"}, "de"},
+        {__LINE__, {"fr-CA", "de"}, {"de", "fr"}, "fr"},
+        {__LINE__, {}, {"de", ""}, ""},
+    };
+    for (const auto& c : cases) {
+        const auto distanceOf = [&](const std::string& offered) { return languageDistance(offered, c.wanted); };
+        EXPECT_EQ(*std::ranges::min_element(c.offered, {}, distanceOf), c.best) << "line " << c.line;
+    }
 }
 
 } // namespace

@@ -14,9 +14,10 @@ ARROWS = {
     "Platform/UIKit": ["Platform/Foundation", "Platform/AssetCatalog", "Platform/Pictures"],
     "Platform/SwiftUI": ["Platform/UIKit"],
     "Lumora": ["Platform/SwiftUI"],
-    "Tools/SourceBundle": ["Platform/StringTables", "Platform/AssetCatalog"],
+    "Tools/SourcePictures": ["Platform/AssetCatalog", "Platform/Pictures"],
+    "Tools/SourceBundle": ["Platform/StringTables", "Tools/SourcePictures"],
     "Tools/Generator": ["Tools/SourceBundle"],
-    "Tools/Compiler": ["Tools/SourceBundle", "Platform/AssetCatalog", "Platform/Pictures"],
+    "Tools/Compiler": ["Tools/SourceBundle"],
     "Tools/Gallery": ["Tools/Generator", "Platform/UIKit"],
     "Tools/Program": ["Tools/Generator", "Tools/Compiler", "Tools/Gallery"],
 }

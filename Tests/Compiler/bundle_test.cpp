@@ -75,39 +75,6 @@ TEST(CompileBundle, KeepsWhatTheBundleSaysOfItself) {
               "en");
 }
 
-TEST(CompileBundle, RendersDrawingsInTheSizeTheyHave) {
-    const struct {
-        int line;
-        const char* attributes;
-        std::uint32_t width, height; // in points
-    } cases[] = {
-        {__LINE__, R"(width="24" height="12")", 24, 12},
-        {__LINE__, R"(width="6.35mm" height=".25in")", 24, 24},
-        {__LINE__, R"(width="18pt" height="2pc")", 24, 32},
-        {__LINE__, R"(viewBox="0 0 24 12")", 24, 12},
-        {__LINE__, R"(width="48" viewBox="0 0 24 12")", 48, 24},
-        {__LINE__, R"(height="48" viewBox="0 0 24 12")", 96, 48},
-        {__LINE__, R"(width="100%" height="100%" viewBox="0 0 10 20")", 10, 20},
-    };
-    const Support::TemporaryFolder folder;
-    folder.write("source/A.xcassets/p.imageset/Contents.json", R"({"images": [{"filename": "p.svg"}]})");
-    for (const auto& one : cases) {
-        folder.write("source/A.xcassets/p.imageset/p.svg", "<!-- a drawing -->" + std::string(5000, ' ') +
-                                                               "<svg xmlns=\"http://www.w3.org/2000/svg\" " +
-                                                               one.attributes + "><path d=\"M0 0H9V9Z\"/></svg>");
-        ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "") << "line " << one.line;
-        const auto catalog = AssetCatalog::Catalog::open(folder / "out.bundle/Assets.catalog");
-        ASSERT_TRUE(catalog) << "line " << one.line;
-        const AssetCatalog::Entry entry = (*catalog)[0];
-        ASSERT_EQ(entry.variants(), 3U);
-        for (std::size_t variant = 0; variant < 3; ++variant) {
-            const AssetCatalog::PictureView picture = entry.picture(variant);
-            EXPECT_EQ(picture.width, picture.fit.scale * one.width) << "line " << one.line;
-            EXPECT_EQ(picture.height, picture.fit.scale * one.height) << "line " << one.line;
-        }
-    }
-}
-
 TEST(CompileBundle, ChoosesTheFirstOfAssetsOfOneName) {
     const Support::TemporaryFolder folder;
     for (const std::string set : {"A.xcassets/F/x.dataset", "A.xcassets/x.dataset", "B.xcassets/x.dataset"}) {
@@ -145,45 +112,99 @@ TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
 }
 
-TEST(CompileBundle, StopsOverPicturesThatCannotBeRead) {
+std::string svg(int width, const char* color) {
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + std::to_string(width) +
+           "\" height=\"4\"><path fill=\"" + color + "\" d=\"M0 0H9V9Z\"/></svg>";
+}
+
+std::vector<std::string> assetsOf(const fs::path& bundle) {
+    const auto catalog = AssetCatalog::Catalog::open(bundle / "Assets.catalog");
+    std::vector<std::string> names;
+    for (std::size_t i = 0; catalog && i < catalog->size(); ++i)
+        names.emplace_back((*catalog)[i].name());
+    return names;
+}
+
+TEST(CompileBundle, LeavesOutPicturesThatCannotBeRead) {
     const Support::TemporaryFolder folder;
-    const fs::path images = LUMORA_RESOURCES "/Images.xcassets";
-    const std::string png = Support::contents(images / "Food/banana.imageset/banana.png");
-    const std::string jpeg = Support::contents(images / "Questionnaire/defaultCourseBoy.imageset/defaultCourseBoy.jpg");
-    std::string spoiled = png; // in the middle of its pixels
-    spoiled[png.find("IDAT") + 20] ^= 0x55;
-    const struct {
-        int line;
-        std::string file, said;
-    } cases[] = {
-        {__LINE__, "no picture", "is neither"},
-        {__LINE__, "", "is neither"},
-        {__LINE__, png.substr(0, png.size() - 12), "is a damaged PNG"},
-        {__LINE__, png.substr(0, png.size() / 2), "is a damaged PNG"},
-        {__LINE__, spoiled, "is a damaged PNG"},
-        {__LINE__, jpeg.substr(0, jpeg.size() / 2), "is a damaged JPEG"},
-        {__LINE__, jpeg.substr(0, 10), "is a damaged JPEG"},
-        {__LINE__, "<svg xmlns=\"http://www.w3.org/2000/svg\"><path", "is a damaged drawing"},
-        {__LINE__, "%PDF-1.7 and no more", "is a damaged drawing"},
-    };
+    for (const std::string name : {"good", "bad"})
+        folder.write("source/A.xcassets/" + name + ".imageset/Contents.json", R"({"images": [{"filename": "p"}]})");
+    folder.write("source/A.xcassets/good.imageset/p", svg(3, "red"));
+    const fs::path bad = folder.write("source/A.xcassets/bad.imageset/p", "8BPS");
+    const Outcome outcome = compile(folder / "source", folder / "out.bundle");
+    EXPECT_EQ(outcome.failure, "");
+    ASSERT_EQ(outcome.diagnostics.size(), 1U);
+    EXPECT_TRUE(outcome.diagnostics[0].starts_with(bad.string() + ": is in no picture format"));
+    EXPECT_EQ(assetsOf(folder / "out.bundle"), std::vector<std::string>{"good"});
+}
+
+TEST(CompileBundle, PrefersAScalesOwnPictureToThatOfADrawing) {
+    const Support::TemporaryFolder folder;
     folder.write("source/A.xcassets/p.imageset/Contents.json",
-                 R"({"images": [{"filename": "p"}, {"filename": "missing", "scale": "2x"}]})");
-    for (const auto& one : cases) {
-        const fs::path file = folder.write("source/A.xcassets/p.imageset/p", one.file);
-        const Outcome outcome = compile(folder / "source", folder / "out.bundle");
-        ASSERT_EQ(outcome.diagnostics.size(), 2U) << "line " << one.line;
-        EXPECT_EQ(outcome.diagnostics[0], (file.parent_path() / "missing").string() + ": is missing");
-        EXPECT_TRUE(outcome.diagnostics[1].starts_with(file.string() + ": " + one.said))
-            << "line " << one.line << ": " << outcome.diagnostics[1];
-        EXPECT_EQ(outcome.diagnostics[1].find('\n'), std::string::npos) << "line " << one.line;
-        EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 1) << "line " << one.line;
+                 R"({"images": [{"filename": "1.svg", "scale": "1x"}, {"filename": "2.svg", "scale": "2x"},
+                     {"filename": "any.svg"}], "properties": {"preserves-vector-representation": true}})");
+    for (const auto& [name, width] : {std::pair("1", 10), std::pair("2", 40), std::pair("any", 50)})
+        folder.write("source/A.xcassets/p.imageset/" + std::string(name) + ".svg", svg(width, "red"));
+    EXPECT_EQ(compile(folder / "source", folder / "out.bundle").diagnostics.size(), 0U);
+    const auto catalog = AssetCatalog::Catalog::open(folder / "out.bundle/Assets.catalog");
+    ASSERT_TRUE(catalog);
+    const AssetCatalog::Entry entry = (*catalog)[0];
+    ASSERT_EQ(entry.variants(), 3U);
+    const std::uint32_t widths[] = {10, 40, 30}; // for three pixels a point the first drawing counts
+    for (std::size_t i = 0; i < 3; ++i)
+        EXPECT_EQ(entry.picture(i).width, widths[i]) << i;
+}
+
+fs::file_time_type timeOf(const fs::path& file) {
+    return fs::last_write_time(file);
+}
+void setLongAgo(const fs::path& folder) {
+    for (const std::string& file : Support::filesBelow(folder))
+        fs::last_write_time(folder / file, fs::file_time_type() + std::chrono::hours(1));
+}
+
+// Whatever the last compile left, the result is that of a compile without it, and what stays equal keeps its time.
+TEST(CompileBundle, UsesTheLastCompileWhereNothingChanged) {
+    const Support::TemporaryFolder folder;
+    const fs::path bundle = folder / "out.bundle", catalog = bundle / "Assets.catalog";
+    folder.write("source/Base.lproj/A.strings", "a = b;");
+    for (const std::string name : {"one", "two"}) {
+        folder.write("source/A.xcassets/" + name + ".imageset/Contents.json", R"({"images": [{"filename": "p"}]})");
+        folder.write("source/A.xcassets/" + name + ".imageset/p", svg(3, "red"));
     }
-    for (const std::string& picture : {png, jpeg}) { // and what is missing is only said
-        folder.write("source/A.xcassets/p.imageset/p", picture);
-        const Outcome outcome = compile(folder / "source", folder / "out.bundle");
-        EXPECT_EQ(outcome.diagnostics.size(), 1U);
-        EXPECT_TRUE(fs::exists(folder / "out.bundle/Assets.catalog"));
-    }
+    const auto compileAndCompare = [&](int line) {
+        EXPECT_EQ(compile(folder / "source", bundle).failure, "") << "line " << line;
+        EXPECT_EQ(compile(folder / "source", folder / "fresh.bundle").failure, "") << "line " << line;
+        for (const std::string& file : Support::filesBelow(folder / "fresh.bundle"))
+            EXPECT_EQ(Support::contents(bundle / file), Support::contents(folder / "fresh.bundle" / file))
+                << "line " << line << ": " << file;
+        fs::remove_all(folder / "fresh.bundle");
+    };
+    compileAndCompare(__LINE__);
+    setLongAgo(bundle);
+    const auto longAgo = timeOf(catalog);
+    folder.write("source/Base.lproj/A.strings", "a = c;");
+    compileAndCompare(__LINE__);
+    EXPECT_EQ(timeOf(catalog), longAgo);
+    EXPECT_EQ(timeOf(bundle / "Info.plist"), longAgo);
+    EXPECT_NE(timeOf(bundle / "Base.lproj/A.strings"), longAgo);
+    EXPECT_EQ(fs::hard_link_count(catalog), 1U);
+
+    folder.write("source/A.xcassets/two.imageset/p", svg(3, "blue")); // of one size with the old one
+    compileAndCompare(__LINE__);
+    EXPECT_NE(timeOf(catalog), longAgo);
+    folder.write("source/A.xcassets/two.imageset/p", svg(3, "red"));
+    compileAndCompare(__LINE__);
+
+    // A catalog or list that was changed is not believed.
+    std::string bytes = Support::contents(catalog);
+    for (std::size_t place = bytes.size() / 4; place < bytes.size(); place += 7)
+        bytes[place] = static_cast<char>(~bytes[place]);
+    folder.write("out.bundle/Assets.catalog", bytes);
+    compileAndCompare(__LINE__);
+    folder.write("out.bundle/.lumora-bundle", "Made by lumora compile.\n0 1 2\n\n" + std::string(40, '0') +
+                                                  " 1 1 1 1 1 99999999999999999999 1 0\n");
+    compileAndCompare(__LINE__);
 }
 
 TEST(CompileBundle, ReplacesNothingButABundle) {
@@ -192,7 +213,7 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
     folder.write("photos/one", "dear");
     const std::string photos = folder / "photos";
     EXPECT_EQ(compile(folder / "source", photos).failure,
-              photos + ": is there and was not made by a compile; it is left alone");
+              photos + ": already exists and is not a compiled bundle");
     EXPECT_EQ(Support::contents(folder / "photos/one"), "dear");
     // Nor what people edit, though it looks much like one.
     folder.write("source/Info.plist", "<plist><dict/></plist>");

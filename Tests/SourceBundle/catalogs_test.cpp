@@ -12,9 +12,16 @@ using SourceBundle::SourceAsset;
 
 class Catalogs : public ::testing::Test {
 protected:
+    // Every file counts as a picture that can be read, but for those whose content is "unreadable".
     std::vector<SourceAsset> read() {
+        diagnostics = {};
         const std::filesystem::path folders[] = {folder.path()};
-        return SourceBundle::sourceAssets(SourceBundle::findFiles(folders, diagnostics).catalogs, diagnostics);
+        return SourceBundle::sourceAssets(
+            SourceBundle::findFiles(folders, diagnostics).catalogs, diagnostics, [](const SourceBundle::SourceFile& file) -> Runtime::Result<void> {
+                if (Support::contents(file.path) == "unreadable")
+                    return Runtime::Error{.message = "is damaged", .file = file.path};
+                return {};
+            });
     }
     // "severity path-below-the-folder[:line:column]: message"
     std::vector<std::string> said() {
@@ -28,19 +35,37 @@ protected:
         return lines;
     }
     void set(const std::string& path, const std::string& contents) { folder.write(path + "/Contents.json", contents); }
+    // The set A.xcassets/p.imageset with these entries and an empty file for each of the names.
+    void imageSet(const std::string& entries, std::initializer_list<const char*> files) {
+        std::filesystem::remove_all(folder / "A.xcassets");
+        set("A.xcassets/p.imageset", R"({"images": [)" + entries + "]}");
+        for (const char* file : files)
+            folder.write("A.xcassets/p.imageset/" + std::string(file), "");
+    }
+    // The names of the files of the only asset.
+    std::vector<std::string> files() {
+        std::vector<std::string> names;
+        for (const SourceAsset& asset : read())
+            for (const auto& file : asset.files)
+                names.push_back(file.path.filename());
+        return names;
+    }
 
     Support::TemporaryFolder folder;
     Diagnostics diagnostics;
 };
+
+using Lines = std::vector<std::string>;
+const std::string contents = "A.xcassets/p.imageset/Contents.json: ";
 
 TEST_F(Catalogs, ReadSetsInFoldersWithAndWithoutANamespace) {
     const std::string one = R"({"data": [{"filename": "f", "universal-type-identifier": "public.text"}]})";
     set("A.xcassets/Plain/x.dataset", one);
     set("A.xcassets/Named", R"({"properties": {"provides-namespace": true}})");
     set("A.xcassets/Named/Deep/y.dataset", one);
-    set("B.xcassets/v2.0", "{}"); // a dot in the name makes no set of a folder
-    set("B.xcassets/v2.0/z.dataset", one);
-    for (const char* set : {"A.xcassets/Plain/x", "A.xcassets/Named/Deep/y", "B.xcassets/v2.0/z"})
+    set("Deep/er/B.xcassets/v2.0", "{}"); // a dot in the name makes no set of a folder
+    set("Deep/er/B.xcassets/v2.0/z.dataset", one);
+    for (const char* set : {"A.xcassets/Plain/x", "A.xcassets/Named/Deep/y", "Deep/er/B.xcassets/v2.0/z"})
         folder.write(std::string(set) + ".dataset/f", "data");
 
     const auto assets = read();
@@ -57,35 +82,123 @@ TEST_F(Catalogs, TellWhatEachPictureIsFor) {
     set("A.xcassets/p.imageset", R"({"images": [
         {"idiom": "universal", "scale": "1x", "filename": "1.png"},
         {"idiom": "universal", "scale": "2x", "filename": "2.png",
-         "appearances": [{"appearance": "luminosity", "value": "dark"}, {"appearance": "contrast", "value": "high"}]},
+         "appearances": [{"appearance": "luminosity", "value": "dark"}, {"appearance": "contrast", "value": "high"}],
+         "resizing": {"mode": "9-part", "center": {"mode": "tile", "width": 1, "height": 1},
+                      "cap-insets": {"top": 2, "left": 4, "bottom": 6, "right": 8}},
+         "alignment-insets": {"top": 1}},
         {"idiom": "universal", "scale": "3x"},
-        {"idiom": "universal", "filename": "r.png", "language-direction": "right-to-left"},
-        {"idiom": "ipad", "scale": "1x", "filename": "1.png"},
-        {"idiom": "universal", "subtype": "retina4", "filename": "1.png"}],
-        "properties": {"template-rendering-intent": "template"}})");
+        {"idiom": "universal", "filename": "r.png", "language-direction": "right-to-left", "locale": "pt_BR"}],
+        "properties": {"template-rendering-intent": "template", "preserves-vector-representation": true}})");
     for (const char* file : {"1", "2", "r"})
         folder.write("A.xcassets/p.imageset/" + std::string(file) + ".png", "");
 
     const auto assets = read();
+    EXPECT_EQ(said(), Lines());
     ASSERT_EQ(assets.size(), 1U);
-    EXPECT_TRUE(assets[0].isTemplate);
+    EXPECT_EQ(assets[0].rendering, Rendering::asTemplate);
     ASSERT_EQ(assets[0].files.size(), 3U);
+    EXPECT_TRUE(assets[0].files[0].preservesVector);
     EXPECT_EQ(assets[0].files[0].fit, (Fit{.scale = 1}));
+    EXPECT_EQ(assets[0].files[0].capInsets, Insets{});
     EXPECT_EQ(assets[0].files[1].fit, (Fit{.appearance = Appearance::dark, .contrast = Contrast::high, .scale = 2}));
+    EXPECT_EQ(assets[0].files[1].capInsets, (Insets{1, 2, 3, 4})); // in points
+    EXPECT_EQ(assets[0].files[1].alignmentInsets, (Insets{0.5, 0, 0, 0}));
+    EXPECT_EQ(assets[0].files[1].resizing, Resizing::tile);
     EXPECT_EQ(assets[0].files[2].fit, (Fit{.direction = Direction::rightToLeft}));
-    EXPECT_EQ(said().size(), 2U); // the iPad's and the small phone's
+    EXPECT_EQ(assets[0].files[2].language, "pt-BR");
 }
 
-TEST_F(Catalogs, TakeAnotherDevicesPicturesWhereTheFirstHasNone) {
-    set("A.xcassets/p.imageset", R"({"images": [
-        {"idiom": "universal", "filename": "missing.png"}, {"idiom": "universal", "filename": ""},
-        {"idiom": "ipad", "filename": "2.png"}, {"idiom": "iphone", "filename": "1.png"}]})");
-    folder.write("A.xcassets/p.imageset/1.png", "");
-    folder.write("A.xcassets/p.imageset/2.png", "");
+TEST_F(Catalogs, TakeThePicturesOfOneKindOfDevice) {
+    const struct {
+        int line;
+        const char* entries;
+        Lines files, said;
+    } cases[] = {
+        {__LINE__,
+         R"({"idiom": "ipad", "filename": "2"}, {"idiom": "universal", "subtype": "retina4", "filename": "3"},
+            {"idiom": "universal", "filename": "1"})",
+         {"1"},
+         {"note " + contents + R"(entry 1 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "universal" are used)",
+          "note " + contents + R"(entry 2 ("3") is for other devices (idiom "universal", subtype "retina4") and is left out: the variants for idiom "universal" are used)"}},
+        {__LINE__,
+         R"({"idiom": "universal", "filename": "missing"}, {"idiom": "universal", "filename": ""},
+            {"idiom": "ipad", "filename": "2"}, {"idiom": "iphone", "filename": "1"})",
+         {"1"},
+         {"warning A.xcassets/p.imageset/missing: does not exist; it is left out",
+          "note " + contents + R"(entry 3 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "iphone" are used)"}},
+        // The only pictures are taken, whatever they are for; of the sizes of a watch those of the widest.
+        {__LINE__, R"({"idiom": "universal", "display-gamut": "display-P3", "filename": "1"})", {"1"}, {}},
+        {__LINE__, R"({"idiom": "universal", "display-gamut": "sRGB", "filename": "1"})", {"1"}, {}},
+        {__LINE__,
+         R"({"idiom": "watch", "screen-width": "<=145", "scale": "2x", "filename": "1"},
+            {"idiom": "watch", "screen-width": ">183", "scale": "2x", "filename": "2"},
+            {"idiom": "watch", "screen-width": ">161", "scale": "2x", "filename": "3"})",
+         {"2"},
+         {"note " + contents + R"(entry 3 ("3") is for other devices (idiom "watch", screen-width ">161") and is left out: the variants for idiom "watch", screen-width ">183" are used)",
+          "note " + contents + R"(entry 1 ("1") is for other devices (idiom "watch", screen-width "<=145") and is left out: the variants for idiom "watch", screen-width ">183" are used)"}},
+        // No reader can want these scales.
+        {__LINE__,
+         R"({"scale": "10x", "filename": "1"}, {"scale": "2x", "filename": "2"}, {"scale": "2X", "filename": "3"})",
+         {"2"},
+         {"note " + contents + R"(entry 1 ("1") is for other devices (idiom "universal", scale "10x") and is left out: the variants for idiom "universal" are used)",
+          "note " + contents + R"(entry 3 ("3") is for other devices (idiom "universal", scale "2X") and is left out: the variants for idiom "universal" are used)"}},
+        {__LINE__, R"({"scale": "1.5x", "filename": "1"})", {"1"}, {}},
+    };
+    for (const auto& one : cases) {
+        imageSet(one.entries, {"1", "2", "3"});
+        EXPECT_EQ(files(), one.files) << "line " << one.line;
+        EXPECT_EQ(said(), one.said) << "line " << one.line;
+    }
+}
+
+TEST_F(Catalogs, SayOnceWhatIsLeftOut) {
+    const struct {
+        int line;
+        const char* entries;
+        Lines files, said;
+    } cases[] = {
+        {__LINE__,
+         R"({"filename": "1", "unassigned": true}, {"filename": "2"})",
+         {"2"},
+         {"note " + contents + R"(entry 1 ("1") is not assigned to any variant and is left out)"}},
+        {__LINE__,
+         R"({"filename": "1"}, {"filename": "2"}, {"filename": "3", "locale": "de"})",
+         {"1", "3"},
+         {"warning " + contents + R"(entry 2 ("2") is for the same readers as an entry before it and is left out)"}},
+        {__LINE__,
+         R"({"filename": "1", "glow": 3}, {"filename": "2", "scale": 2, "locale": "de"})",
+         {"1", "2"},
+         {"note " + contents + R"(entry 1 ("1") has the property "glow", which is ignored)",
+          "note " + contents + R"(entry 2 ("2") has the property "scale", which is ignored)"}},
+        {__LINE__,
+         R"({"filename": "missing"})",
+         {},
+         {"warning A.xcassets/p.imageset/missing: does not exist; it is left out, and with it the set, which has no other variant"}},
+        {__LINE__,
+         R"({"scale": "1x"})",
+         {},
+         {"warning A.xcassets/p.imageset: has no variant that can be used and is left out"}},
+        {__LINE__,
+         R"({"filename": "damaged"}, {"filename": "2", "scale": "2x"})",
+         {"2"},
+         {"warning A.xcassets/p.imageset/damaged: is damaged; it is left out"}},
+    };
+    for (const auto& one : cases) {
+        imageSet(one.entries, {"1", "2", "3"});
+        folder.write("A.xcassets/p.imageset/damaged", "unreadable");
+        EXPECT_EQ(files(), one.files) << "line " << one.line;
+        EXPECT_EQ(said(), one.said) << "line " << one.line;
+    }
+}
+
+TEST_F(Catalogs, TakeSymbolsForImages) {
+    set("A.xcassets/s.symbolset", R"({"symbols": [{"idiom": "universal", "filename": "s.svg"}]})");
+    folder.write("A.xcassets/s.symbolset/s.svg", "");
     const auto assets = read();
     ASSERT_EQ(assets.size(), 1U);
-    ASSERT_EQ(assets[0].files.size(), 1U);
-    EXPECT_EQ(assets[0].files[0].path.filename(), "1.png");
+    EXPECT_EQ(assets[0].kind, Kind::image);
+    EXPECT_EQ(assets[0].rendering, Rendering::asTemplate);
+    EXPECT_TRUE(assets[0].files[0].isSymbol);
 }
 
 TEST_F(Catalogs, ReadColorsInEveryNotation) {
@@ -108,65 +221,108 @@ TEST_F(Catalogs, ReadColorsInEveryNotation) {
          ColorSpace::extendedSrgb,
          {1, 0.2, 0, 1}},
         {__LINE__,
-         R"("color-space": "gray-gamma-22", "components": {"white": "0.3", "alpha": 0.5})",
+         R"("color-space": "gray-gamma-22", "components": {"white": "0.3", "alpha": "0x01"})",
          ColorSpace::gray,
-         {0.3, 0.3, 0.3, 0.5}},
+         {0.3, 0.3, 0.3, 1 / 255.0}},
         {__LINE__,
-         R"("color-space": "srgb", "components": {"red": 1, "green": 0, "blue": 51, "alpha": 1})",
+         R"("color-space": "srgb", "components": {"red": 1, "green": 0.5, "blue": 2, "alpha": 1})",
          ColorSpace::srgb,
-         {1, 0, 0.2, 1}},
+         {1, 0.5, 2, 1}}, // JSON numbers are fractions
     };
     for (const auto& one : cases) {
         set("A.xcassets/c.colorset",
             std::string(R"({"colors": [{"idiom": "universal", "color": {)") + one.color + "}}]}");
         const auto assets = read();
         ASSERT_EQ(assets.size(), 1U) << "line " << one.line;
-        EXPECT_EQ(assets[0].colors[0].space, one.space) << "line " << one.line;
+        const ColorValue& value = assets[0].colors[0].value;
+        EXPECT_EQ(value.space, one.space) << "line " << one.line;
         for (std::size_t i = 0; i < 4; ++i)
-            EXPECT_DOUBLE_EQ(assets[0].colors[0].components[i], one.components[i]) << "line " << one.line;
+            EXPECT_DOUBLE_EQ(value.components[i], one.components[i]) << "line " << one.line;
     }
 }
 
-TEST_F(Catalogs, ReportWhatIsWrongWithItsPath) {
+TEST_F(Catalogs, KnowSystemColorsForLightAndDark) {
+    const auto colors = [&](const std::string& entries) {
+        set("A.xcassets/c.colorset", R"({"colors": [)" + entries + "]}");
+        const auto assets = read();
+        return assets.empty() ? std::vector<Color>() : assets[0].colors;
+    };
+    const std::string reference = R"({"color": {"platform": "ios", "reference": "systemRedColor"})";
+    const auto both = colors(reference + "}");
+    ASSERT_EQ(both.size(), 2U);
+    EXPECT_EQ(both[0].value.components, (std::array{1.0, 59 / 255.0, 48 / 255.0, 1.0}));
+    EXPECT_EQ(both[1].fit.appearance, Appearance::dark);
+    EXPECT_EQ(both[1].value.components, (std::array{1.0, 69 / 255.0, 58 / 255.0, 1.0}));
+    // A dark colour of the set's own counts.
+    const std::string dark = R"("appearances": [{"appearance": "luminosity", "value": "dark"}])";
+    const auto own = colors(reference + "}, {" + dark + R"(, "color": {"components": {"red": 0, "green": 0, "blue": 0}}})");
+    ASSERT_EQ(own.size(), 2U);
+    EXPECT_EQ(own[1].value.components, (std::array{0.0, 0.0, 0.0, 1.0}));
+    EXPECT_EQ(colors(reference + ", " + dark + "}").at(0).value.components[1], 69 / 255.0);
+    EXPECT_EQ(said(), Lines());
+}
+
+TEST_F(Catalogs, LeaveOutSetsThatAreWrong) {
+    const std::string withSet = ", and with it the set, which has no other variant";
     const struct {
         int line;
-        const char *set, *contents, *report;
+        const char *set, *contents;
+        std::string report;
     } cases[] = {
         {__LINE__, "a.imageset", "{\n  \"images\" : [ ?",
-         "error A.xcassets/a.imageset/Contents.json:2:16: is no JSON: something else was expected here"},
-        {__LINE__, "a.imageset", "[]", "error A.xcassets/a.imageset/Contents.json:1:1: is no JSON object"},
-        {__LINE__, "a.imageset", R"({"images": [{"filename": "no.png"}]})",
-         "warning A.xcassets/a.imageset/no.png: is missing"},
+         "warning A.xcassets/a.imageset/Contents.json:2:16: invalid JSON: unexpected token; the set is left out"},
+        {__LINE__, "a.imageset", "[]",
+         "warning A.xcassets/a.imageset/Contents.json:1:1: is not a JSON object; the set is left out"},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "../../secret"}]})",
-         "error A.xcassets/a.imageset/Contents.json: names a file outside of its set: \"../../secret\""},
+         R"(warning A.xcassets/a.imageset/Contents.json: entry 1 ("../../secret") is a file outside of its set and is left out)" +
+             withSet},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "/etc/passwd"}]})",
-         "error A.xcassets/a.imageset/Contents.json: names a file outside of its set: \"/etc/passwd\""},
-        {__LINE__, "a.imageset", R"({"images": [{"filename": "Contents.json\u0000.png"}]})",
-         "error A.xcassets/a.imageset/Contents.json: names a file with a zero in its name"},
+         R"(warning A.xcassets/a.imageset/Contents.json: entry 1 ("/etc/passwd") is a file outside of its set and is left out)" +
+             withSet},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "link"}]})",
-         "error A.xcassets/a.imageset/link: is a link; a set holds its files itself"},
-        {__LINE__, "a.colorset", R"({"colors": [{"color": {"platform": "ios", "reference": "systemRedColor"}}]})",
-         "warning A.xcassets/a.colorset/Contents.json: refers to a colour of the system, which is not supported: "
-         "systemRedColor"},
-        {__LINE__, "a.colorset", R"({"colors": [{"color": {"color-space": "srgb", "components": {"red": "much"}}}]})",
-         "error A.xcassets/a.colorset/Contents.json: has no readable colour component \"red\": \"much\""},
+         "warning A.xcassets/a.imageset/link: is a link, which is not followed; it is left out" + withSet},
+        {__LINE__, "a.colorset", R"({"colors": [{"color": {"platform": "ios", "reference": "noColor"}}]})",
+         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 is the unknown system colour "noColor" and is left out)" +
+             withSet},
+        {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "much"}}}]})",
+         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has no possible colour component "red": ""much"" and is left out)" +
+             withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "1", "green": "1"}}}]})",
-         "error A.xcassets/a.colorset/Contents.json: has no readable colour component \"blue\""},
+         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has no possible colour component "blue" and is left out)" +
+             withSet},
+        {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": 255}}}]})",
+         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has no possible colour component "red": "255" and is left out)" +
+             withSet},
+        {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "0xFFFFFFFF"}}}]})",
+         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has no possible colour component "red": ""0xFFFFFFFF"" and is left out)" +
+             withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"color-space": "cmyk", "components": {}}}]})",
-         "warning A.xcassets/a.colorset/Contents.json: has a colour space that is not supported: cmyk"},
-        {__LINE__, "a.appiconset", "{}", "note A.xcassets/a.appiconset: is a set of another kind, which is left out"},
+         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has the unknown colour space "cmyk" and is left out)" +
+             withSet},
+        {__LINE__, "a.appiconset", "{}",
+         "note A.xcassets/a.appiconset: is a set of a kind that is not supported and is left out"},
     };
     for (const auto& one : cases) {
         const std::string set = std::string("A.xcassets/") + one.set;
         folder.write(set + "/Contents.json", one.contents);
         std::filesystem::create_symlink("/etc/passwd", folder / (set + "/link"));
-        diagnostics = {};
         EXPECT_EQ(read().size(), 0U) << "line " << one.line;
-        ASSERT_FALSE(said().empty()) << "line " << one.line;
-        EXPECT_EQ(said()[0], one.report) << "line " << one.line;
-        EXPECT_TRUE(said().size() == 1 || said()[0].starts_with("warning ")) << "line " << one.line;
+        EXPECT_EQ(said(), Lines{one.report}) << "line " << one.line;
         std::filesystem::remove_all(folder / "A.xcassets");
     }
+    set("A.xcassets/Named", "{");
+    EXPECT_TRUE(read().empty());
+    EXPECT_EQ(said(), Lines{"warning A.xcassets/Named/Contents.json:1:2: invalid JSON: unexpected token; the folder "
+                            "does not provide a namespace"});
+    // To the system a name ends at a zero; here it is no name.
+    imageSet(R"({"filename": "Contents.json\u0000.png"})", {});
+    EXPECT_TRUE(read().empty());
+    EXPECT_EQ(said().size(), 1U);
+    // A link that leads out is not read, and nothing of it is shown.
+    std::filesystem::remove(folder / "A.xcassets/p.imageset/Contents.json");
+    std::filesystem::create_symlink("/etc/passwd", folder / "A.xcassets/p.imageset/Contents.json");
+    EXPECT_TRUE(read().empty());
+    EXPECT_EQ(said(), Lines{"warning " + contents + "is a link, which is not followed; the set is left out"});
 }
 
 TEST_F(Catalogs, KeepAssetsOfOneNameTheOuterFirst) {

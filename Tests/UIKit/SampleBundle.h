@@ -18,20 +18,38 @@ inline Fit fit(Appearance appearance, std::uint8_t scale) {
 }
 
 inline Picture picture(const Fit& fit, std::uint32_t side, std::uint8_t red) {
-    return {fit, Encoding::png, side, side, PngFile::plain(side, side, red, 0, 0, 255)};
+    const std::vector<std::uint8_t> bytes = PngFile::plain(side, side, red, 0, 0, 255);
+    const double points = side / static_cast<double>(std::max<int>(fit.scale, 1));
+    return {.fit = fit,
+            .width = side,
+            .height = side,
+            .points = {points, points},
+            .bytes = shared({bytes.begin(), bytes.end()})};
 }
 
 // Images "send" (light at 1x and 3x, dark at 2x), "star_" (no scale, template) and the damaged "broken" and "liar";
-// colours "ink" (dark on light, light on dark), "wide" and "grey"; data "regions".
+// "sign" (3
+// pixels, 5 in Russian); colours "ink" (dark on light, light on dark) and "flag" (German, Russian); data "regions".
 inline std::vector<Asset> assets() {
     const auto image = [](const char* name, std::vector<Picture> pictures) {
-        return Asset{Kind::image, "Images", name, std::string_view(name) == "star_", std::move(pictures), {}, {}};
+        const bool isTemplate = std::string_view(name) == "star_";
+        return Asset{.kind = Kind::image,
+                     .catalog = "Images",
+                     .name = name,
+                     .rendering = isTemplate ? Rendering::asTemplate : Rendering::automatic,
+                     .pictures = std::move(pictures)};
     };
-    const auto color = [](const char* name, std::vector<ColorValue> colors) {
-        return Asset{Kind::color, "Colors", name, false, {}, std::move(colors), {}};
+    const auto color = [](const char* name, std::vector<Color> colors) {
+        return Asset{.kind = Kind::color, .catalog = "Colors", .name = name, .colors = std::move(colors)};
     };
     Picture broken = picture({}, 3, 1);
-    broken.bytes.resize(broken.bytes.size() / 2);
+    broken.bytes = shared(broken.bytes->substr(0, broken.bytes->size() / 2));
+    Picture framed = picture({}, 3, 3);
+    framed.resizing = Resizing::tile;
+    framed.capInsets = {1, 2, 3, 4};
+    framed.alignmentInsets = {0, 0.5, 0, 0};
+    Picture russian = picture({}, 5, 5);
+    russian.language = "ru";
     Picture liar = picture({}, 3, 2);
     liar.width = 4;
     return {
@@ -40,12 +58,15 @@ inline std::vector<Asset> assets() {
         image("star_", {picture({}, 7, 7)}),
         image("broken", {broken}),
         image("liar", {liar}),
-        color("ink", {{{}, ColorSpace::srgb, {0.125, 0.25, 0.5, 1}},
-                      {fit(Appearance::dark, 0), ColorSpace::srgb, {0.875, 0.75, 0.5, 1}},
-                      {{Appearance::dark, Contrast::high, Direction::any, 0}, ColorSpace::srgb, {1, 1, 1, 1}}}),
-        color("wide", {{{}, ColorSpace::displayP3, {1, 0.5, 0.25, 0.5}}}),
-        color("grey", {{{}, ColorSpace::gray, {0.5, 0.5, 0.5, 1}}}),
-        {Kind::data, "Onboarding", "regions", false, {}, {}, {{{}, "public.json", {'{', '}'}}}},
+        image("sign", {framed, russian}),
+        color("ink", {{{}, "", {ColorSpace::srgb, {0.125, 0.25, 0.5, 1}}},
+                      {fit(Appearance::dark, 0), "", {ColorSpace::srgb, {0.875, 0.75, 0.5, 1}}},
+                      {{Appearance::dark, Contrast::high, Direction::any, 0}, "", {ColorSpace::srgb, {1, 1, 1, 1}}}}),
+        color("flag", {{{}, "de", {ColorSpace::srgb, {1, 1, 0, 1}}}, {{}, "ru", {ColorSpace::srgb, {1, 0, 0, 1}}}}),
+        {.kind = Kind::data,
+         .catalog = "Onboarding",
+         .name = "regions",
+         .data = {{.fit = {}, .typeIdentifier = "public.json", .bytes = shared("{}")}}},
     };
 }
 
@@ -53,7 +74,7 @@ inline std::vector<Asset> assets() {
 inline const Foundation::NSBundle& bundle() {
     static const Foundation::NSBundle& made = [&]() -> const Foundation::NSBundle& {
         static const Support::TemporaryFolder folder;
-        folder.write(fileName, *build(assets()));
+        folder.write(fileName, build(assets())->bytes());
         return Foundation::NSBundle::bundleWithPath(folder.path());
     }();
     return made;

@@ -78,7 +78,7 @@ TEST(ColorSpaces, BecomeExtendedSrgb) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.line);
-        const RGBA got = detail::toExtendedSrgb({{}, c.space, c.from});
+        const RGBA got = detail::toExtendedSrgb({c.space, c.from});
         EXPECT_NEAR(got.red, c.to[0], 1e-8);
         EXPECT_NEAR(got.green, c.to[1], 1e-8);
         EXPECT_NEAR(got.blue, c.to[2], 1e-8);

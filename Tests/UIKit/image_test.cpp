@@ -1,5 +1,6 @@
 #include "UIKit/UIKit.h"
 
+#include "Foundation/Host.h"
 #include "SampleBundle.h"
 #include "SwiftUI/SwiftUI.h"
 #include <gtest/gtest.h>
@@ -57,6 +58,43 @@ TEST(UIImage, IdentityAndAbsence) {
     EXPECT_FALSE(UIImage::imageNamed("send", Foundation::NSBundle::bundleWithPath("/nowhere")));
 }
 
+TEST(UIImage, HasTheInsetsOfItsVariant) {
+    const UIImage sign = UIImage::imageNamed("sign", bundle()).value();
+    EXPECT_EQ(sign.capInsets(), (EdgeInsets{1, 2, 3, 4}));
+    EXPECT_EQ(sign.alignmentRectInsets(), (EdgeInsets{0, 0.5, 0, 0}));
+    EXPECT_EQ(sign.resizingMode(), ResizingMode::tile);
+    EXPECT_EQ(sign.renderingMode(), RenderingMode::automatic);
+    EXPECT_EQ(UIImage::imageNamed("star_", bundle())->renderingMode(), RenderingMode::alwaysTemplate);
+}
+
+// The bundle has no texts: its pictures and colours follow the user's languages.
+TEST(UIImage, FollowsTheLanguageInForce) {
+    const UIImage sign = UIImage::imageNamed("sign", bundle()).value();
+    const UIColor flag = UIColor::colorNamed("flag", bundle()).value();
+    Foundation::Host::setPreferredLanguages({"ru-RU", "de"});
+    EXPECT_EQ(sign.pixelWidth(), 5U);
+    EXPECT_EQ(flag.rgba(), (RGBA{1, 0, 0, 1}));
+    Foundation::Host::setPreferredLanguages({"de"});
+    EXPECT_EQ(sign.pixelWidth(), 3U);
+    EXPECT_EQ(flag.rgba(), (RGBA{1, 1, 0, 1}));
+    Foundation::Host::reset();
+}
+
+// A bundle with texts: its pictures are in their language.
+TEST(UIImage, FollowsTheLanguageOfTheTexts) {
+    const Support::TemporaryFolder folder;
+    folder.write(AssetCatalog::fileName, AssetCatalog::build(Sample::assets())->bytes());
+    folder.write("ru.lproj/Localizable.strings", "a = b;");
+    folder.write("en.lproj/Localizable.strings", "a = b;");
+    const UIImage sign =
+        UIImage::imageNamed("sign", Foundation::NSBundle::bundleWithPath(folder.path())).value();
+    Foundation::Host::setPreferredLanguages({"de", "ru"});
+    EXPECT_EQ(sign.pixelWidth(), 5U);
+    Foundation::Host::setPreferredLanguages({"en", "ru"});
+    EXPECT_EQ(sign.pixelWidth(), 3U);
+    Foundation::Host::reset();
+}
+
 TEST(UIImage, DamagedPictureHasASizeButNoPixels) {
     for (const char* name : {"broken", "liar"}) {
         const UIImage image = UIImage::imageNamed(name, bundle()).value();
@@ -68,7 +106,7 @@ TEST(UIImage, DamagedPictureHasASizeButNoPixels) {
 
 TEST(Bundle, DamagedCatalogHasNoAssets) {
     const Support::TemporaryFolder folder;
-    const std::string bytes = *AssetCatalog::build(Sample::assets());
+    const std::string bytes = AssetCatalog::build(Sample::assets())->bytes();
     folder.write(AssetCatalog::fileName, std::string_view(bytes).substr(0, bytes.size() - 1));
     const auto& damaged = Foundation::NSBundle::bundleWithPath(folder.path());
     EXPECT_FALSE(UIImage::imageNamed("send", damaged));
@@ -78,7 +116,7 @@ TEST(Bundle, DamagedCatalogHasNoAssets) {
 
 TEST(Bundle, ManyThreadsOpenOneCatalog) {
     const Support::TemporaryFolder folder;
-    folder.write(AssetCatalog::fileName, *AssetCatalog::build(Sample::assets()));
+    folder.write(AssetCatalog::fileName, AssetCatalog::build(Sample::assets())->bytes());
     const auto& fresh = Foundation::NSBundle::bundleWithPath(folder.path());
     std::array<std::optional<UIImage>, 8> images;
     std::array<std::shared_ptr<const Pictures::Bitmap>, 8> pixels;

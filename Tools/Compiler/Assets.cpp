@@ -2,109 +2,153 @@
 
 #include "AssetCatalog/internal/Builder.h"
 #include "AssetCatalog/internal/Catalog.h"
-#include "Compiler/Vector.h"
-#include "Pictures/internal/Decoders.h"
-#include "Pictures/internal/Pictures.h"
+#include "Compiler/PictureCache.h"
 #include "Runtime/internal/File.h"
 #include "SourceBundle/Catalogs.h"
+#include "SourceBundle/Parallel.h"
+#include "SourceBundle/SetContents.h" // purposeOf
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <map>
+#include <mutex>
 #include <utility>
 
 namespace Compiler {
 
 namespace fs = std::filesystem;
 using AssetCatalog::Asset;
+using AssetCatalog::Bytes;
 using AssetCatalog::Picture;
+using SourceBundle::Diagnostics;
 using SourceBundle::Severity;
 using SourceBundle::SourceAsset;
 using SourceBundle::SourceFile;
 
 namespace {
 
-constexpr std::size_t maxFileBytes = std::size_t{256} << 20;
+// The files of the source, each read once, and the pictures made of them.
+// Threads: any.
+class Files {
+public:
+    explicit Files(const fs::path& lastBundle) : cache_(PictureCache::of(lastBundle)) {}
 
-std::vector<std::uint8_t> bytesOf(const std::string& text) {
-    return {text.begin(), text.end()};
-}
-
-Runtime::Result<std::vector<Picture>> raster(const SourceFile& file, const std::string& bytes) {
-    auto data = bytesOf(bytes);
-    const auto size = Pictures::measure(data);
-    if (!size)
-        return size.error();
-    if (std::uint64_t{size->width} * size->height > AssetCatalog::maxPixels)
-        return Runtime::Error{.message = "is a picture larger than a catalog may hold"};
-    const bool isPng = size->encoding == Pictures::Encoding::png;
-    const auto decode = isPng ? Pictures::decodePng : Pictures::decodeJpeg;
-    if (const auto decoded = decode(data, AssetCatalog::maxPixels); !decoded)
-        return decoded.error();
-    Picture picture{.fit = file.fit, .width = size->width, .height = size->height, .bytes = {}};
-    picture.encoding = isPng ? AssetCatalog::Encoding::png : AssetCatalog::Encoding::jpeg;
-    picture.bytes = std::move(data);
-    std::vector<Picture> pictures;
-    pictures.push_back(std::move(picture));
-    return pictures;
-}
-
-// One picture for each scale that a reader may have. A drawing made for one scale is drawn in that scale's pixels
-// already.
-Runtime::Result<std::vector<Picture>> vectors(const SourceFile& file, const std::string& bytes, VectorForm form) {
-    const bool isForOneScale = file.fit.scale != 0;
-    std::vector<Picture> pictures;
-    for (const std::uint8_t scale : isForOneScale ? std::vector{file.fit.scale} : std::vector<std::uint8_t>{1, 2, 3}) {
-        auto rendered = render(bytes, form, isForOneScale ? 1 : scale);
-        if (!rendered)
-            return std::move(rendered.error());
-        rendered->fit = file.fit;
-        rendered->fit.scale = scale;
-        pictures.push_back(*std::move(rendered));
-    }
-    return pictures;
-}
-
-Runtime::Result<std::vector<Picture>> picturesOf(const SourceFile& file) {
-    auto bytes = Runtime::readFile(file.path, maxFileBytes);
-    if (!bytes)
-        return std::move(bytes.error());
-    const std::optional<VectorForm> form = vectorFormOf(*bytes);
-    auto pictures = form ? vectors(file, *bytes, *form) : raster(file, *bytes);
-    if (!pictures)
-        pictures.error().file = file.path;
-    return pictures;
-}
-
-// The asset with the bytes of its files. What cannot be read is an error.
-Asset compiled(const SourceAsset& source, SourceBundle::Diagnostics& diagnostics) {
-    Asset asset{.kind = source.kind,
-                .catalog = source.catalog,
-                .name = source.name,
-                .isTemplate = source.isTemplate,
-                .pictures = {},
-                .colors = source.colors,
-                .data = {}};
-    for (const SourceFile& file : source.files) {
-        if (source.kind == AssetCatalog::Kind::image) {
-            auto pictures = picturesOf(file);
-            if (!pictures)
-                diagnostics.add(Severity::error, std::move(pictures.error()));
-            else
-                std::ranges::move(*pictures, std::back_inserter(asset.pictures));
-        } else {
-            auto bytes = Runtime::readFile(file.path, maxFileBytes);
-            if (!bytes)
-                diagnostics.add(Severity::error, std::move(bytes.error()));
-            else
-                asset.data.push_back(
-                    {.fit = file.fit, .typeIdentifier = file.typeIdentifier, .bytes = bytesOf(*bytes)});
+    // Errors: the file cannot be read or has more than 256 MiB, all files together have more than a catalog may hold.
+    Runtime::Result<Bytes> bytes(const fs::path& path) {
+        {
+            const std::lock_guard guard(lock_);
+            if (const auto known = read_.find(path); known != read_.end())
+                return known->second;
         }
+        auto text = Runtime::readFile(path, SourcePictures::maxFileBytes);
+        if (!text)
+            return std::move(text.error());
+        const std::lock_guard guard(lock_);
+        total_ += text->size();
+        if (total_ > AssetCatalog::maxBytes)
+            return Runtime::Error{.message = "with the files before it has more bytes than a catalog may hold",
+                                  .file = path};
+        return read_.try_emplace(path, AssetCatalog::shared(*std::move(text))).first->second;
+    }
+
+    Runtime::Result<void> check(const SourceFile& file) {
+        const auto read = bytes(file.path);
+        if (!read)
+            return read.error();
+        const SourcePictures::Purpose purpose = SourceBundle::purposeOf(file);
+        if (cache_.has(PictureCache::keyOf(**read, purpose)))
+            return {};
+        auto checked = SourcePictures::check(**read, purpose);
+        if (!checked)
+            checked.error().file = file.path;
+        return checked;
+    }
+
+    Runtime::Result<std::vector<Picture>> pictures(const SourceFile& file) {
+        const auto read = bytes(file.path);
+        if (!read)
+            return read.error();
+        const SourcePictures::Purpose purpose = SourceBundle::purposeOf(file);
+        const std::string key = PictureCache::keyOf(**read, purpose);
+        std::optional<std::vector<Picture>> pictures = cache_.find(key);
+        if (!pictures) {
+            auto made = SourcePictures::picturesOf(*read, purpose);
+            if (!made) {
+                made.error().file = file.path;
+                return made;
+            }
+            pictures = *std::move(made);
+        }
+        const std::lock_guard guard(lock_);
+        return made_.try_emplace(key, *std::move(pictures)).first->second;
+    }
+
+    // Precondition: no other thread uses the files any more.
+    const MadePictures& made() const { return made_; }
+
+private:
+    const PictureCache cache_;
+    std::mutex lock_;
+    std::map<fs::path, Bytes> read_;
+    std::size_t total_ = 0;
+    MadePictures made_;
+};
+
+// Pictures that were made for their own scale come before those that a drawing was made into besides.
+void addPictures(const SourceAsset& source, Files& files, Asset& asset, Diagnostics& diagnostics) {
+    std::vector<Picture> derived;
+    for (const SourceFile& file : source.files) {
+        auto pictures = files.pictures(file);
+        if (!pictures) {
+            diagnostics.add(Severity::error, std::move(pictures.error()));
+            continue;
+        }
+        for (Picture& picture : *pictures) {
+            const bool isOwn = picture.fit.scale == file.fit.scale;
+            const std::uint8_t scale = picture.fit.scale;
+            picture.fit = file.fit;
+            picture.fit.scale = scale;
+            picture.language = file.language;
+            picture.resizing = file.resizing;
+            picture.capInsets = file.capInsets;
+            picture.alignmentInsets = file.alignmentInsets;
+            (isOwn ? asset.pictures : derived).push_back(std::move(picture));
+        }
+    }
+    std::ranges::move(derived, std::back_inserter(asset.pictures));
+}
+
+void addData(const SourceAsset& source, Files& files, Asset& asset, Diagnostics& diagnostics) {
+    for (const SourceFile& file : source.files) {
+        auto bytes = files.bytes(file.path);
+        if (bytes)
+            asset.data.push_back({.fit = file.fit,
+                                  .language = file.language,
+                                  .typeIdentifier = file.typeIdentifier,
+                                  .bytes = *std::move(bytes)});
+        else
+            diagnostics.add(Severity::error, std::move(bytes.error()));
+    }
+}
+
+Asset compiled(const SourceAsset& source, Files& files, Diagnostics& diagnostics) {
+    Asset asset{.kind = source.kind, .catalog = source.catalog, .name = source.name, .rendering = source.rendering};
+    switch (source.kind) {
+    case AssetCatalog::Kind::image:
+        addPictures(source, files, asset, diagnostics);
+        break;
+    case AssetCatalog::Kind::color:
+        asset.colors = source.colors;
+        break;
+    case AssetCatalog::Kind::data:
+        addData(source, files, asset, diagnostics);
+        break;
     }
     return asset;
 }
 
 // A catalog has one asset of each kind and name: the first.
-void leaveOutTwins(std::vector<SourceAsset>& assets, SourceBundle::Diagnostics& diagnostics) {
+void leaveOutTwins(std::vector<SourceAsset>& assets, Diagnostics& diagnostics) {
     std::map<std::pair<AssetCatalog::Kind, std::string>, fs::path> taken;
     std::erase_if(assets, [&](const SourceAsset& asset) {
         const auto [before, isNew] = taken.try_emplace({asset.kind, asset.name}, asset.path);
@@ -116,23 +160,44 @@ void leaveOutTwins(std::vector<SourceAsset>& assets, SourceBundle::Diagnostics& 
     });
 }
 
+std::vector<Asset> compiledAssets(std::span<const fs::path> catalogs, Files& files, Diagnostics& diagnostics,
+                                  const Progress& progress) {
+    std::vector<SourceAsset> sources = SourceBundle::sourceAssets(
+        catalogs, diagnostics, [&](const SourceFile& file) { return files.check(file); });
+    leaveOutTwins(sources, diagnostics);
+    std::vector<Asset> assets(sources.size());
+    std::vector<Diagnostics> messages(sources.size());
+    std::mutex lock;
+    std::size_t done = 0;
+    SourceBundle::inParallel(sources.size(), [&](std::size_t i) {
+        {
+            const std::lock_guard guard(lock);
+            progress(sources[i].name, done++, sources.size());
+        }
+        assets[i] = compiled(sources[i], files, messages[i]);
+    });
+    for (const Diagnostics& ofOne : messages)
+        for (const SourceBundle::Diagnostic& one : ofOne.all())
+            diagnostics.add(one.severity, one.what);
+    return assets;
+}
+
 } // namespace
 
-Runtime::Result<void> compileAssets(const SourceBundle::Source& source, const fs::path& out,
-                                    SourceBundle::Diagnostics& diagnostics, const Progress& progress) {
-    std::vector<SourceAsset> sources = SourceBundle::sourceAssets(source.catalogs, diagnostics);
-    leaveOutTwins(sources, diagnostics);
-    std::vector<Asset> assets;
-    for (std::size_t done = 0; done < sources.size(); ++done) {
-        progress(sources[done].name, done, sources.size());
-        assets.push_back(compiled(sources[done], diagnostics));
-    }
+Runtime::Result<void> compileAssets(std::span<const fs::path> catalogs, StagedFolder& out, Diagnostics& diagnostics,
+                                    const Progress& progress) {
+    Files files(out.target());
+    std::vector<Asset> assets = compiledAssets(catalogs, files, diagnostics, progress);
     if (assets.empty() || diagnostics.hasErrors())
         return {};
-    auto catalog = AssetCatalog::build(std::move(assets));
+    const auto catalog = AssetCatalog::build(std::move(assets));
     if (!catalog)
-        return std::move(catalog.error());
-    return Runtime::writeFile(out / AssetCatalog::fileName, *catalog);
+        return catalog.error();
+    if (auto written = out.write(AssetCatalog::fileName, catalog->pieces()); !written)
+        return written;
+    const std::string list = cacheList(files.made(), *catalog);
+    const std::array<std::string_view, 2> mark = {markText, list};
+    return out.write(markName, mark);
 }
 
 } // namespace Compiler

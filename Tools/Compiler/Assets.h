@@ -1,14 +1,17 @@
 // Compiler/Assets.h
-// The asset catalogs of a bundle, made into one compiled catalog; internal to the compiler.
+// The asset catalogs of a source, made into one compiled catalog; internal to the compiler.
 #pragma once
 
 #include "Compiler/Bundle.h"
+#include "Compiler/StagedFolder.h"
+#include <filesystem>
+#include <span>
 
 namespace Compiler {
 
-// Writes Assets.catalog below `out` if `source` has asset catalogs. Vectors are rendered at one, two and three pixels a
-// point. A file that cannot be read, or is no picture, is an error among `diagnostics`; nothing is written then.
-[[nodiscard]] Runtime::Result<void> compileAssets(const SourceBundle::Source& source, const std::filesystem::path& out,
+// Writes Assets.catalog if the catalogs have assets, and the bundle's mark, which lists the pictures in it for the next
+// compile. Uses what the last compile of the bundle made; the result is the same without it.
+[[nodiscard]] Runtime::Result<void> compileAssets(std::span<const std::filesystem::path> catalogs, StagedFolder& out,
                                                   SourceBundle::Diagnostics& diagnostics, const Progress& progress);
 
 } // namespace Compiler

@@ -28,9 +28,9 @@ Runtime::Result<void> compileBundle(const SourceBundle::Source& source, std::spa
     auto staged = StagedFolder::create(bundle);
     if (!staged)
         return std::move(staged.error());
-    if (auto written = compileTables(source, staged->path(), progress); !written)
+    if (auto written = compileTables(source, *staged, progress); !written)
         return written;
-    if (auto written = compileAssets(source, staged->path(), diagnostics, progress); !written)
+    if (auto written = compileAssets(source.catalogs, *staged, diagnostics, progress); !written)
         return written;
     if (diagnostics.hasErrors())
         return {};

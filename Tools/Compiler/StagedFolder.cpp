@@ -1,13 +1,13 @@
 #include "Compiler/StagedFolder.h"
 
+#include "Runtime/internal/OpenFile.h"
 #include <algorithm>
 #include <cerrno>
 #include <cstdio> // renameat2
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
-#include <fstream>
-#include <string_view>
+#include <string>
 #include <sys/file.h> // flock
 #include <sys/stat.h>
 #include <unistd.h>
@@ -19,11 +19,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Says that a folder was made here, so that it may be replaced.
-constexpr const char* markName = ".lumora-bundle";
+// A descriptor that is kept for removing folders.
+Runtime::Descriptor reserved() noexcept {
+    return Runtime::Descriptor(::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
 
 Runtime::Error systemError(const fs::path& path, const char* doing) {
-    return {.message = std::string(doing) + ": " + std::strerror(errno), .file = path};
+    return {.message = std::string(doing) + ": " + std::strerror(errno), .file = path, .cause = errno};
 }
 
 bool isMarked(const fs::path& folder) {
@@ -31,7 +33,7 @@ bool isMarked(const fs::path& folder) {
     return fs::is_regular_file(fs::symlink_status(folder / markName, failed));
 }
 
-// Between a bundle's name and the six characters of its staged folder: nobody names a copy like that.
+// Between a bundle's name and the six characters of its staged folder. Unlikely in the name of a copy.
 constexpr std::string_view stagedMiddle = ".staged-";
 
 bool isStagedName(std::string_view name, std::string_view target) {
@@ -43,7 +45,7 @@ bool isStagedName(std::string_view name, std::string_view target) {
            });
 }
 
-// A compile holds its staged folder locked as long as it lives, from before the mark on.
+// Negative if another compile holds the lock, or without locks.
 int lock(const fs::path& folder) noexcept {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
     if (descriptor < 0 || ::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
@@ -52,7 +54,8 @@ int lock(const fs::path& folder) noexcept {
     return -1;
 }
 
-// The mark last, so that what a killed removal leaves is still known. What cannot be removed stays.
+// Removes the mark last, so that what a killed removal leaves is removed by the next compile. What cannot be removed
+// stays.
 void discard(const fs::path& folder) {
     std::error_code ignored, failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
@@ -61,28 +64,78 @@ void discard(const fs::path& folder) {
     fs::remove_all(folder, ignored);
 }
 
-// Takes away what killed compiles of `target` left.
+// Removes what killed compiles of `target` left: marked folders, and those that are still empty.
 void removeAbandoned(const fs::path& target) {
     std::error_code failed;
     const fs::path beside = target.has_parent_path() ? target.parent_path() : fs::path(".");
     for (fs::directory_iterator entry(beside, failed), end; !failed && entry != end; entry.increment(failed)) {
         const fs::path& folder = entry->path();
-        if (!isStagedName(folder.filename().native(), target.filename().native()) || !isMarked(folder))
+        if (!isStagedName(folder.filename().native(), target.filename().native()))
             continue;
-        const int locked = lock(folder);
-        if (locked < 0)
+        const Runtime::Descriptor locked(lock(folder));
+        if (locked.number() < 0)
             continue;
-        discard(folder);
-        ::close(locked);
+        if (isMarked(folder))
+            discard(folder);
+        else
+            ::rmdir(folder.c_str()); // of empty folders only
     }
 }
 
-// What a compile may replace: nothing, an empty folder, or what a compile made.
+// Whether `target` does not exist, is an empty folder or was made by a compile.
 bool mayReplace(const fs::path& target) {
     std::error_code failed;
     if (!fs::exists(fs::symlink_status(target, failed)))
         return true;
     return fs::is_directory(fs::symlink_status(target, failed)) && (fs::is_empty(target, failed) || isMarked(target));
+}
+
+// Whether the regular file at `path` has exactly this content.
+bool hasContent(const fs::path& path, std::span<const std::string_view> pieces) {
+    constexpr std::size_t partBytes = std::size_t{1} << 16;
+    std::size_t total = 0;
+    for (const std::string_view piece : pieces)
+        total += piece.size();
+    const auto file = Runtime::OpenFile::open(path, total);
+    if (!file || file->size() != total)
+        return false;
+    std::string part(partBytes, '\0');
+    std::uint64_t offset = 0;
+    for (std::string_view piece : pieces)
+        while (!piece.empty()) {
+            const std::size_t size = std::min(piece.size(), partBytes);
+            const auto filled = file->read(part.data(), size, offset);
+            if (!filled || *filled != size || part.compare(0, size, piece.substr(0, size)) != 0)
+                return false;
+            piece.remove_prefix(size);
+            offset += size;
+        }
+    return true;
+}
+
+bool writeAll(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written >= 0)
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        else if (errno != EINTR)
+            return false;
+    }
+    return true;
+}
+
+// Not synced to the disk: an output that a power failure damages is compiled again.
+Runtime::Result<void> writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
+    ::unlink(path.c_str());
+    Runtime::Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (file.number() < 0)
+        return systemError(path, "cannot be written");
+    for (const std::string_view piece : pieces)
+        if (!writeAll(file.number(), piece))
+            return systemError(path, "cannot be written");
+    if (!file.close())
+        return systemError(path, "cannot be written");
+    return {};
 }
 
 } // namespace
@@ -92,33 +145,46 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
     if (!target.has_filename())
         target = target.parent_path();
     if (!mayReplace(target))
-        return Runtime::Error{.message = "is there and was not made by a compile; it is left alone", .file = target};
+        return Runtime::Error{.message = "already exists and is not a compiled bundle", .file = target};
     removeAbandoned(target);
     std::string path = target.string().append(stagedMiddle).append("XXXXXX");
     if (::mkdtemp(path.data()) == nullptr)
         return systemError(target, "cannot be made");
-    StagedFolder folder(target, path, lock(path));
-    // Not by writeFile, whose care takes a while in which a killed compile would leave a folder without its mark.
-    if (!(std::ofstream(folder.path() / markName) << "Made by lumora compile.\n").flush())
-        return systemError(folder.path() / markName, "cannot be written");
-    // mkdtemp lets nobody else in; a bundle is for everybody.
+    StagedFolder folder(target, path);
+    if (folder.reserve_.back().number() < 0)
+        return systemError(target, "cannot be made");
+    if (auto written = folder.write(markName, markText); !written)
+        return std::move(written.error());
+    // mkdtemp makes a folder that only its owner can read.
     if (::chmod(path.c_str(), 0755) != 0)
         return systemError(target, "cannot be made");
     return folder;
 }
 
-StagedFolder::StagedFolder(fs::path target, fs::path staged, int lock)
-    : target_(std::move(target)), staged_(std::move(staged)), lock_(lock) {}
+// The lock is taken before the folder is marked: an unlocked marked folder is abandoned.
+StagedFolder::StagedFolder(fs::path target, fs::path staged)
+    : target_(std::move(target)), staged_(std::move(staged)), lock_(lock(staged_)),
+      reserve_{reserved(), reserved(), reserved()} {}
 
 StagedFolder::StagedFolder(StagedFolder&& other) noexcept
     : target_(std::move(other.target_)), staged_(std::exchange(other.staged_, fs::path())),
-      lock_(std::exchange(other.lock_, -1)) {}
+      lock_(std::move(other.lock_)), reserve_(std::move(other.reserve_)) {}
 
 StagedFolder::~StagedFolder() {
+    for (Runtime::Descriptor& one : reserve_)
+        one = Runtime::Descriptor(-1);
     if (!staged_.empty())
         discard(staged_);
-    if (lock_ >= 0)
-        ::close(lock_);
+}
+
+Runtime::Result<void> StagedFolder::write(const fs::path& name, std::span<const std::string_view> pieces) const {
+    const fs::path path = staged_ / name;
+    std::error_code failed;
+    fs::create_directories(path.parent_path(), failed); // what that fails for, writing fails for
+    if (hasContent(target_ / name, pieces) && (::unlink(path.c_str()) == 0 || errno == ENOENT) &&
+        ::link((target_ / name).c_str(), path.c_str()) == 0)
+        return {};
+    return writeNew(path, pieces);
 }
 
 Runtime::Result<void> StagedFolder::putInPlace() {

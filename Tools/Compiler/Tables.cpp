@@ -46,18 +46,15 @@ Runtime::Result<std::string> info(const Source& source) {
     return StringTables::write(entries, Form::binary);
 }
 
-Runtime::Result<void> place(const fs::path& file, Runtime::Result<std::string> bytes) {
-    if (!bytes) {
-        bytes.error().file = file;
-        return std::move(bytes.error());
-    }
-    std::error_code failed;
-    fs::create_directories(file.parent_path(), failed);
-    return Runtime::writeFile(file, *bytes);
+Runtime::Result<void> place(const StagedFolder& out, const fs::path& file, Runtime::Result<std::string> bytes) {
+    if (bytes)
+        return out.write(file, *bytes);
+    bytes.error().file = out.target() / file;
+    return std::move(bytes.error());
 }
 
 // The plain texts as TABLE.strings, those with forms as TABLE.stringsdict beside it.
-Runtime::Result<void> compileTexts(const LanguageTexts& texts, const fs::path& file) {
+Runtime::Result<void> compileTexts(const LanguageTexts& texts, const StagedFolder& out, const fs::path& file) {
     std::vector<Entry> entries;
     std::vector<StringTables::PluralEntry> plurals;
     for (const SourceBundle::SourceEntry& entry : texts.entries())
@@ -66,16 +63,16 @@ Runtime::Result<void> compileTexts(const LanguageTexts& texts, const fs::path& f
         else
             plurals.push_back({std::string(entry.key), *entry.plural, {}});
     if (!plurals.empty())
-        if (auto written = place(fs::path(file) += "dict", StringTables::write(plurals)); !written)
+        if (auto written = place(out, fs::path(file) += "dict", StringTables::write(plurals)); !written)
             return written;
     return entries.empty() && !plurals.empty() ? Runtime::Result<void>()
-                                               : place(file, StringTables::write(entries, Form::binary));
+                                               : place(out, file, StringTables::write(entries, Form::binary));
 }
 
 } // namespace
 
-Runtime::Result<void> compileTables(const Source& source, const fs::path& out, const Progress& progress) {
-    if (auto written = place(out / "Info.plist", info(source)); !written)
+Runtime::Result<void> compileTables(const Source& source, const StagedFolder& out, const Progress& progress) {
+    if (auto written = place(out, "Info.plist", info(source)); !written)
         return written;
     std::size_t all = 0, done = 0;
     for (const SourceTable& table : source.tables)
@@ -84,7 +81,7 @@ Runtime::Result<void> compileTables(const Source& source, const fs::path& out, c
         for (const LanguageTexts& texts : table.languages) {
             const fs::path file = fs::path(texts.language + ".lproj") / (table.name + ".strings");
             progress(file.native(), done++, all);
-            if (auto written = compileTexts(texts, out / file); !written)
+            if (auto written = compileTexts(texts, out, file); !written)
                 return written;
         }
     return {};

@@ -3,11 +3,12 @@
 #pragma once
 
 #include "Compiler/Bundle.h"
+#include "Compiler/StagedFolder.h"
 
 namespace Compiler {
 
-// Writes Info.plist and every table of `source` below `out`, one file for each table and language.
-[[nodiscard]] Runtime::Result<void> compileTables(const SourceBundle::Source& source, const std::filesystem::path& out,
+// Writes Info.plist and every table of `source` into `out`, one file for each table and language.
+[[nodiscard]] Runtime::Result<void> compileTables(const SourceBundle::Source& source, const StagedFolder& out,
                                                   const Progress& progress);
 
 } // namespace Compiler

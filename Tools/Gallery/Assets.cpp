@@ -3,6 +3,7 @@
 #include "AssetCatalog/internal/Catalog.h"
 #include "Gallery/Base64.h"
 #include "Generator/AssetsModel.h"
+#include "Pictures/internal/Pictures.h"
 #include "UIKit/UIColor.h"
 #include <algorithm>
 #include <array>
@@ -89,16 +90,15 @@ private:
         json["height"] = picture.height;
         json["bytes"] = bytes->size();
         json["picture"] = assets_.pictures.size();
-        const bool isPng = picture.encoding == AssetCatalog::Encoding::png;
+        const auto size = Pictures::measure(*bytes);
+        const bool isPng = size && size->encoding == Pictures::Encoding::png;
         assets_.pictures.push_back(std::string(isPng ? "data:image/png" : "data:image/jpeg") + ";base64," +
                                    base64(*bytes));
         return {};
     }
 
     void addColor(const Entry& entry, std::size_t variant, ordered_json& json) {
-        static constexpr std::array<std::string_view, 4> spaces = {"srgb", "extended-srgb", "display-p3",
-                                                                   "gray-gamma-22"};
-        json["space"] = named(entry.color(variant).space, spaces);
+        json["space"] = AssetCatalog::nameOf(entry.color(variant).space);
         const auto color = UIKit::UIColor::colorNamed(entry.name(), bundle_);
         const auto rgba = color ? color->resolved(readerOf(entry.fit(variant))).rgba() : std::nullopt;
         const UIKit::RGBA value = rgba.value_or(UIKit::RGBA{});
@@ -156,7 +156,7 @@ Runtime::Result<Assets> assetsOf(const fs::path& bundle) {
                               {"catalog", entry.catalog()},
                               {"name", entry.name()},
                               {"accessor", nullptr},
-                              {"template", entry.isTemplate()},
+                              {"template", entry.rendering() == AssetCatalog::Rendering::asTemplate},
                               {"variants", ordered_json::array()}};
         if (accessor != accessors.end())
             asset["accessor"] = accessor->second;

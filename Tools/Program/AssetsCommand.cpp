@@ -46,7 +46,6 @@ Runtime::Result<std::optional<Catalog>> openCatalog(const std::string& bundle) {
 }
 
 Exit listAssets(const AssetOptions& options) {
-    static constexpr std::array kinds = {"image", "color", "data"};
     const auto opened = openCatalog(options.bundle);
     if (!opened)
         return fail(opened.error());
@@ -54,7 +53,7 @@ Exit listAssets(const AssetOptions& options) {
     std::vector<std::string> lines;
     for (std::size_t i = 0; catalog && i < catalog->size(); ++i) {
         const Entry entry = (*catalog)[i];
-        std::string line = kinds[static_cast<std::size_t>(entry.kind())];
+        std::string line(AssetCatalog::nameOf(entry.kind()));
         for (const std::string_view name : {entry.catalog(), entry.name()})
             line.append("\t").append(Generator::visibleText(name, std::string::npos));
         line += '\n';
@@ -68,8 +67,7 @@ Exit listAssets(const AssetOptions& options) {
 }
 
 std::string colorText(const AssetCatalog::ColorValue& color) {
-    static constexpr std::array spaces = {"srgb", "extended-srgb", "display-p3", "gray-gamma-22"};
-    const nlohmann::ordered_json json = {{"color-space", spaces[static_cast<std::size_t>(color.space)]},
+    const nlohmann::ordered_json json = {{"color-space", AssetCatalog::nameOf(color.space)},
                                          {"components", color.components}};
     return json.dump() + "\n";
 }

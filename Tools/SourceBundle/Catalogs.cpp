@@ -1,7 +1,17 @@
 #include "SourceBundle/Catalogs.h"
 
+#include "Runtime/internal/File.h"
+#include "SourceBundle/Json.h"
+#include "SourceBundle/Parallel.h"
 #include "SourceBundle/SetContents.h"
+#include "SourceBundle/SourceFiles.h" // maxFolderDepth
+#include "SourcePictures/PictureFile.h"
+#include <algorithm>
 #include <array>
+#include <iterator>
+#include <optional>
+#include <string_view>
+#include <system_error>
 #include <utility>
 
 namespace SourceBundle {
@@ -11,7 +21,6 @@ using AssetCatalog::Kind;
 
 namespace {
 
-constexpr int maxFolderDepth = 64;
 
 std::vector<fs::path> sortedEntries(const fs::path& folder, Diagnostics& diagnostics) {
     std::vector<fs::path> entries;
@@ -24,9 +33,10 @@ std::vector<fs::path> sortedEntries(const fs::path& folder, Diagnostics& diagnos
     return entries;
 }
 
+// Not a link to one, which could lead out of the source.
 bool isFolder(const fs::path& path) {
     std::error_code failed;
-    return fs::is_directory(fs::symlink_status(path, failed)); // a link would lead out
+    return fs::is_directory(fs::symlink_status(path, failed));
 }
 
 bool isLinkedFolder(const fs::path& path) {
@@ -34,85 +44,114 @@ bool isLinkedFolder(const fs::path& path) {
     return fs::is_symlink(fs::symlink_status(path, failed)) && fs::is_directory(path, failed);
 }
 
-// Sets of kinds that a catalog does not hold. Any other folder is there for order, whatever its name.
+// Sets of kinds that are not supported. Any other folder only groups sets, whatever its name.
 bool isOtherSet(const fs::path& folder) {
-    static constexpr std::array<std::string_view, 21> extensions = {
+    static constexpr std::array<std::string_view, 20> extensions = {
         ".appiconset",      ".arreferenceimage", ".arreferenceobject", ".arresourcegroup", ".brandassets",
         ".complicationset", ".cubetextureset",   ".gcdashboardimage",  ".gcleaderboard",   ".gcleaderboardset",
         ".iconset",         ".imagestack",       ".imagestacklayer",   ".launchimage",     ".mipmapset",
-        ".solidimagestack", ".spriteatlas",      ".stickerpack",       ".stickersiconset", ".symbolset",
-        ".textureset"};
+        ".solidimagestack", ".spriteatlas",      ".stickerpack",       ".stickersiconset", ".textureset"};
     return std::ranges::find(extensions, folder.extension().string()) != extensions.end();
 }
 
+struct SetKind {
+    std::string_view extension;
+    Kind kind;
+};
+
 std::optional<Kind> kindOf(const fs::path& set) {
-    static constexpr std::array<std::pair<std::string_view, Kind>, 3> kinds = {
-        {{".imageset", Kind::image}, {".colorset", Kind::color}, {".dataset", Kind::data}}};
-    for (const auto& [extension, kind] : kinds)
-        if (set.extension() == extension)
-            return kind;
-    return std::nullopt;
+    static constexpr std::array<SetKind, 4> kinds = {{{".imageset", Kind::image},
+                                                      {symbolExtension, Kind::image},
+                                                      {".colorset", Kind::color},
+                                                      {".dataset", Kind::data}}};
+    const auto* const found = std::ranges::find(kinds, set.extension().string(), &SetKind::extension);
+    return found == kinds.end() ? std::nullopt : std::optional(found->kind);
 }
 
-class CatalogReader {
-public:
-    CatalogReader(std::vector<SourceAsset>& assets, Diagnostics& diagnostics)
-        : assets_(assets), diagnostics_(diagnostics) {}
+// Whether the folder's Contents.json makes its name a part of the names below it.
+bool providesNamespace(const fs::path& folder, Diagnostics& diagnostics) {
+    const fs::path file = folder / contentsName;
+    std::error_code failed;
+    if (!fs::exists(fs::symlink_status(file, failed)))
+        return false;
+    auto contents = readJsonObject(file);
+    if (contents)
+        return member(member(*contents, "properties"), "provides-namespace") == Json(true);
+    contents.error().message += "; the folder does not provide a namespace";
+    diagnostics.add(Severity::warning, std::move(contents.error()));
+    return false;
+}
 
-    void read(const fs::path& catalog) {
+// Finds the sets of catalogs; what is in them is read later.
+class SetFinder {
+public:
+    explicit SetFinder(Diagnostics& diagnostics) : diagnostics_(diagnostics) {}
+
+    void findIn(const fs::path& catalog) {
         catalog_ = catalog.stem();
-        readFolder(catalog, "", 0);
+        findInFolder(catalog, "", 0);
     }
+    std::vector<SourceAsset> take() { return std::move(sets_); }
 
 private:
-    void readFolder(const fs::path& folder, const std::string& prefix, int depth) {
+    void findInFolder(const fs::path& folder, const std::string& prefix, int depth) {
         if (depth > maxFolderDepth)
-            return diagnostics_.add(Severity::error,
-                                    {.message = "has too many folders in one another", .file = folder});
+            return diagnostics_.add(Severity::error, {.message = "is nested too deeply", .file = folder});
         std::vector<fs::path> entries = sortedEntries(folder, diagnostics_);
-        std::stable_partition(entries.begin(), entries.end(),
-                              [](const fs::path& entry) { return kindOf(entry).has_value(); });
+        std::ranges::stable_partition(entries, [](const fs::path& entry) { return kindOf(entry).has_value(); });
         for (const fs::path& entry : entries) {
-            if (isLinkedFolder(entry))
-                diagnostics_.add(Severity::note, {.message = "is a link, which is left out", .file = entry});
-            if (!isFolder(entry) || entry.filename().string().starts_with('.'))
+            if (entry.filename().native().starts_with('.'))
                 continue;
-            if (const std::optional<Kind> kind = kindOf(entry))
-                readAsset(entry, *kind, prefix + entry.stem().string());
-            else if (isOtherSet(entry))
+            if (isLinkedFolder(entry))
                 diagnostics_.add(Severity::note,
-                                 {.message = "is a set of another kind, which is left out", .file = entry});
-            else
-                readFolder(entry,
-                           providesNamespace(entry, diagnostics_) ? prefix + entry.filename().string() + "/" : prefix,
-                           depth + 1);
+                                 {.message = "is a link to a folder and is left out", .file = entry});
+            else if (isFolder(entry))
+                findFolder(entry, prefix, depth);
         }
     }
 
-    void readAsset(const fs::path& set, Kind kind, std::string name) {
-        SourceAsset asset{.kind = kind, .catalog = catalog_, .name = std::move(name), .path = set};
-        const std::size_t before = diagnostics_.all().size();
-        readSet(asset, diagnostics_);
-        if (asset.files.empty() && asset.colors.empty()) {
-            if (diagnostics_.all().size() == before || diagnostics_.all().back().severity != Severity::error)
-                diagnostics_.add(Severity::warning, {.message = "holds no variant and is left out", .file = set});
-            return;
-        }
-        assets_.push_back(std::move(asset));
+    void findFolder(const fs::path& folder, const std::string& prefix, int depth) {
+        if (const std::optional<Kind> kind = kindOf(folder))
+            sets_.push_back(
+                {.kind = *kind, .catalog = catalog_, .name = prefix + folder.stem().string(), .path = folder});
+        else if (isOtherSet(folder))
+            diagnostics_.add(Severity::note,
+                             {.message = "is a set of a kind that is not supported and is left out", .file = folder});
+        else
+            findInFolder(folder,
+                         providesNamespace(folder, diagnostics_) ? prefix + folder.filename().string() + "/" : prefix,
+                         depth + 1);
     }
 
-    std::vector<SourceAsset>& assets_;
     Diagnostics& diagnostics_;
+    std::vector<SourceAsset> sets_;
     std::string catalog_;
 };
 
 } // namespace
 
-std::vector<SourceAsset> sourceAssets(std::span<const fs::path> catalogs, Diagnostics& diagnostics) {
-    std::vector<SourceAsset> assets;
-    CatalogReader reader(assets, diagnostics);
+Runtime::Result<void> checkPicture(const SourceFile& file) {
+    const auto bytes = Runtime::readFile(file.path, SourcePictures::maxFileBytes);
+    if (!bytes)
+        return bytes.error();
+    auto checked = SourcePictures::check(*bytes, purposeOf(file));
+    if (!checked)
+        checked.error().file = file.path;
+    return checked;
+}
+
+std::vector<SourceAsset> sourceAssets(std::span<const fs::path> catalogs, Diagnostics& diagnostics,
+                                      const PictureCheck& check) {
+    SetFinder finder(diagnostics);
     for (const fs::path& catalog : catalogs)
-        reader.read(catalog);
+        finder.findIn(catalog);
+    std::vector<SourceAsset> assets = finder.take();
+    std::vector<Diagnostics> messages(assets.size());
+    inParallel(assets.size(), [&](std::size_t i) { readSet(assets[i], check, messages[i]); });
+    for (const Diagnostics& ofOne : messages)
+        for (const Diagnostic& one : ofOne.all())
+            diagnostics.add(one.severity, one.what);
+    std::erase_if(assets, [](const SourceAsset& asset) { return asset.files.empty() && asset.colors.empty(); });
     return assets;
 }
 

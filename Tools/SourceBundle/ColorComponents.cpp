@@ -1,8 +1,13 @@
 #include "SourceBundle/ColorComponents.h"
 
+#include "SourceBundle/QuotedName.h"
+#include <algorithm>
 #include <array>
+#include <cctype>
 #include <charconv>
-#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 namespace SourceBundle {
@@ -12,23 +17,10 @@ using AssetCatalog::ColorValue;
 
 namespace {
 
-// What a component's text says; alpha is a fraction even where it is written "1".
-std::optional<double> valueOf(std::string_view text, bool isAlpha) {
-    const bool isHex = text.starts_with("0x") || text.starts_with("0X");
-    const bool isFraction = !isHex && text.find_first_of(".eE") != std::string_view::npos;
-    if (isHex)
-        text.remove_prefix(2);
-    double value = 0;
-    const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value,
-                                        isHex ? std::chars_format::hex : std::chars_format::general);
-    if (parsed.ec != std::errc() || parsed.ptr != text.data() + text.size() || !std::isfinite(value))
-        return std::nullopt;
-    return isFraction || (isAlpha && value <= 1) ? value : value / 255;
-}
+// Extended spaces reach beyond 0 to 1, but no screen so far.
+constexpr double largestComponent = 16;
 
-} // namespace
-
-std::optional<ColorSpace> colorSpaceNamed(std::string_view name) {
+std::optional<ColorSpace> colorSpaceNamed(std::string name) {
     static constexpr std::array<std::pair<std::string_view, ColorSpace>, 6> spaces = {
         {{"srgb", ColorSpace::srgb},
          {"", ColorSpace::srgb},
@@ -36,25 +28,60 @@ std::optional<ColorSpace> colorSpaceNamed(std::string_view name) {
          {"display-p3", ColorSpace::displayP3},
          {"gray-gamma-22", ColorSpace::gray},
          {"extended-gray", ColorSpace::gray}}};
+    std::ranges::transform(name, name.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     for (const auto& [known, space] : spaces)
         if (known == name)
             return space;
     return std::nullopt;
 }
 
-Runtime::Result<ColorValue> colorFrom(ColorSpace space,
-                                      const std::function<std::optional<std::string>(const char*)>& component) {
+// The whole text as a number; `format` is that of std::from_chars.
+template <class Number, class Format> std::optional<double> parsed(std::string_view text, Format format) {
+    Number value{};
+    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), value, format);
+    return failure == std::errc() && end == text.data() + text.size() ? std::optional<double>(value) : std::nullopt;
+}
+
+std::optional<double> textValue(std::string_view text, bool isAlpha) {
+    if (text.starts_with("0x") || text.starts_with("0X")) {
+        const auto value = parsed<std::uint32_t>(text.substr(2), 16);
+        return value ? std::optional(*value / 255) : std::nullopt;
+    }
+    const auto value = parsed<double>(text, std::chars_format::general);
+    const bool isFraction = text.find_first_of(".eE") != std::string_view::npos || (isAlpha && value <= 1);
+    return !value || isFraction ? value : std::optional(*value / 255);
+}
+
+std::optional<double> componentValue(const Json& component, bool isAlpha) {
+    if (component.is_null() && isAlpha)
+        return 1;
+    std::optional<double> value;
+    if (component.is_string())
+        value = textValue(component.get_ref<const std::string&>(), isAlpha);
+    else if (component.is_number())
+        value = component.get<double>();
+    const double smallest = isAlpha ? 0 : -largestComponent;
+    const double largest = isAlpha ? 1 : largestComponent;
+    return value && *value >= smallest && *value <= largest ? value : std::nullopt;
+}
+
+} // namespace
+
+Runtime::Result<ColorValue> colorValue(const Json& json) {
     static constexpr std::array<const char*, 4> rgb = {"red", "green", "blue", "alpha"};
     static constexpr std::array<const char*, 4> gray = {"white", "white", "white", "alpha"};
+    const std::optional<ColorSpace> space = colorSpaceNamed(text(json, "color-space"));
+    if (!space)
+        return Runtime::Error{.message = "has the unknown colour space " + quotedName(text(json, "color-space"))};
+    ColorValue color{.space = *space};
     const auto& names = space == ColorSpace::gray ? gray : rgb;
-    ColorValue color{.fit = {}, .space = space, .components = {}};
     for (std::size_t i = 0; i < names.size(); ++i) {
-        const bool isAlpha = i == 3;
-        const std::optional<std::string> text = component(names[i]);
-        const std::optional<double> value = !text && isAlpha ? 1.0 : text ? valueOf(*text, isAlpha) : std::nullopt;
-        if (!value || (isAlpha && !(*value >= 0 && *value <= 1)))
-            return Runtime::Error{.message = std::string("has no readable colour component \"") + names[i] + '"' +
-                                             (text ? ": \"" + *text + '"' : "")};
+        const Json& component = member(member(json, "components"), names[i]);
+        const std::optional<double> value = componentValue(component, i == 3);
+        if (!value)
+            return Runtime::Error{.message = std::string("has no possible colour component ") + quotedName(names[i]) +
+                                             (component.is_null() ? "" : ": " + quotedName(component.dump(
+                                                 -1, ' ', false, Json::error_handler_t::replace)))};
         color.components[i] = *value;
     }
     return color;

@@ -1,22 +1,17 @@
 // SourceBundle/ColorComponents.h
-// The components of a colour as catalogs write them; internal.
+// Colours as catalogs write them; internal.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
 #include "Runtime/internal/Result.h"
-#include <functional>
-#include <optional>
-#include <string>
-#include <string_view>
+#include "SourceBundle/Json.h"
 
 namespace SourceBundle {
 
-// The space that a catalog calls "srgb", "extended-srgb", "display-p3", "gray-gamma-22" or "extended-gray".
-[[nodiscard]] std::optional<AssetCatalog::ColorSpace> colorSpaceNamed(std::string_view name);
-
-// A colour of that space. `component` gives the text of "red", "green", "blue", "white" or "alpha" (1 without one): a
-// decimal ("0.5"), a whole number of 255 ("128") or of 0xFF ("0x80"). The error tells which component is none.
-[[nodiscard]] Runtime::Result<AssetCatalog::ColorValue>
-colorFrom(AssetCatalog::ColorSpace space, const std::function<std::optional<std::string>(const char*)>& component);
+// The value of "color-space" and "components". A component's text is a decimal fraction ("0.5"), a whole number of 255
+// ("128") or a hexadecimal one of 255 ("0x80"); alpha, 1 when it is missing, is a fraction even when it is "1". A JSON
+// number is always a fraction: 1 is the whole. Errors begin with "has": an unknown space, no such component, alpha
+// outside of 0 to 1, another component outside of -16 to 16.
+[[nodiscard]] Runtime::Result<AssetCatalog::ColorValue> colorValue(const Json& color);
 
 } // namespace SourceBundle

@@ -1,206 +1,252 @@
 #include "SourceBundle/SetContents.h"
 
-#include "Runtime/internal/File.h"
 #include "SourceBundle/ColorComponents.h"
-#include <array>
-#include <nlohmann/json.hpp>
+#include "SourceBundle/ImageLayout.h"
+#include "SourceBundle/Json.h"
+#include "SourceBundle/KnownProperties.h"
+#include "SourceBundle/QuotedName.h"
+#include "SourceBundle/SetEntry.h"
+#include "SourceBundle/SystemColors.h"
+#include <algorithm>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace SourceBundle {
 
 namespace fs = std::filesystem;
-using AssetCatalog::Fit;
 using AssetCatalog::Kind;
-using Json = nlohmann::json;
 
 namespace {
 
-constexpr std::size_t maxContentsBytes = std::size_t{16} << 20;
-
-// The place of a byte as line and column, counted from 1.
-Runtime::Error errorAt(const fs::path& file, std::string_view text, std::size_t byte, std::string message) {
-    const std::string_view before = text.substr(0, std::min(byte, text.size()));
-    const auto lines = static_cast<std::size_t>(std::ranges::count(before, '\n'));
-    const std::size_t lineBegin = before.rfind('\n') + 1; // npos + 1 is the text's own begin
-    return {.message = std::move(message), .file = file, .line = lines + 1, .column = before.size() - lineBegin + 1};
-}
-
-// The object that a Contents.json holds. No value after a diagnostic, or when the file is not there and need not be.
-std::optional<Json> contents(const fs::path& folder, bool isNeeded, Diagnostics& diagnostics) {
-    const fs::path file = folder / "Contents.json";
-    if (std::error_code failed; !isNeeded && !fs::exists(file, failed))
-        return std::nullopt;
-    auto text = Runtime::readFile(file, maxContentsBytes);
-    if (!text) {
-        // A set without it is an accident of one asset; one that is there and cannot be read is nobody's intention.
-        std::error_code failed;
-        diagnostics.add(fs::exists(file, failed) ? Severity::error : Severity::warning, std::move(text.error()));
-        return std::nullopt;
+const char* listName(const SourceAsset& asset) {
+    switch (asset.kind) {
+    case Kind::image:
+        return asset.path.extension() == symbolExtension ? "symbols" : "images";
+    case Kind::color:
+        return "colors";
+    case Kind::data:
+        break;
     }
-    try {
-        Json json = Json::parse(*text);
-        if (json.is_object())
-            return json;
-        diagnostics.add(Severity::error, errorAt(file, *text, 0, "is no JSON object"));
-    } catch (const Json::out_of_range&) {
-        diagnostics.add(Severity::error, errorAt(file, *text, 0, "holds a number that is too large"));
-    } catch (const Json::parse_error& wrong) {
-        const std::size_t at = wrong.byte == 0 ? 0 : wrong.byte - 1;
-        diagnostics.add(Severity::error, errorAt(file, *text, at, "is no JSON: something else was expected here"));
-    }
-    return std::nullopt;
+    return "data";
 }
 
-// Members of objects that may be missing or of another type.
-std::string text(const Json& object, const char* name) {
-    const auto found = object.find(name);
-    return found != object.end() && found->is_string() ? found->get<std::string>() : std::string();
-}
-const Json& member(const Json& object, const char* name) {
-    static const Json none;
-    const auto found = object.is_object() ? object.find(name) : object.end();
-    return object.is_object() && found != object.end() ? *found : none;
-}
-
-// What an entry of a set is for, if a catalog knows such a variant.
-std::optional<Fit> fitOf(const Json& entry) {
-    Fit fit;
-    for (const Json& appearance : member(entry, "appearances")) {
-        const std::string kind = appearance.is_object() ? text(appearance, "appearance") : std::string();
-        const std::string value = appearance.is_object() ? text(appearance, "value") : std::string();
-        if (kind == "luminosity" && value == "dark")
-            fit.appearance = AssetCatalog::Appearance::dark;
-        else if (kind == "luminosity" && value == "light")
-            fit.appearance = AssetCatalog::Appearance::light;
-        else if (kind == "contrast" && value == "high")
-            fit.contrast = AssetCatalog::Contrast::high;
-        else
-            return std::nullopt;
-    }
-    const std::string direction = text(entry, "language-direction");
-    if (direction == "left-to-right")
-        fit.direction = AssetCatalog::Direction::leftToRight;
-    else if (direction == "right-to-left")
-        fit.direction = AssetCatalog::Direction::rightToLeft;
-    const std::string scale = text(entry, "scale");
-    if (scale.size() == 2 && scale[0] >= '1' && scale[0] <= '9' && scale[1] == 'x')
-        fit.scale = static_cast<std::uint8_t>(scale[0] - '0');
-    return fit;
+AssetCatalog::Rendering renderingOf(const SourceAsset& asset, const Json& properties) {
+    const std::string intent = text(properties, "template-rendering-intent");
+    if (intent == "template")
+        return AssetCatalog::Rendering::asTemplate;
+    if (intent == "original")
+        return AssetCatalog::Rendering::original;
+    // Symbols are shapes.
+    return asset.path.extension() == symbolExtension ? AssetCatalog::Rendering::asTemplate
+                                                     : AssetCatalog::Rendering::automatic;
 }
 
-// Whether an entry is for a device, screen or memory of its own, which no reader here asks for.
-bool isSpecial(const Json& entry) {
-    static constexpr std::array names = {"subtype", "screen-width", "width-class",          "height-class",
-                                         "memory",  "locale",       "graphics-feature-set", "display-gamut"};
-    return std::ranges::any_of(names, [&](const char* name) {
-        const std::string value = text(entry, name);
-        return !value.empty() && value != "sRGB" && value != "any";
-    });
-}
-
-// The kinds of device in the order in which their pictures are taken: those of a phone before those of other devices.
-std::size_t rankOf(const Json& entry) {
-    static constexpr std::array<std::string_view, 4> idioms = {"universal", "iphone", "ipad", "mac"};
-    const std::string idiom = text(entry, "idiom");
-    return static_cast<std::size_t>(std::ranges::find(idioms, idiom.empty() ? "universal" : idiom) - idioms.begin());
+// Whether both variants are for the same readers.
+template <class Variant> bool isTwin(const Variant& one, const SetEntry& other) {
+    return one.fit == other.fit && one.language == other.language;
 }
 
 class SetReader {
 public:
-    SetReader(SourceAsset& asset, Diagnostics& diagnostics) : asset_(asset), diagnostics_(diagnostics) {}
+    SetReader(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics)
+        : asset_(asset), check_(check), diagnostics_(diagnostics), contents_(asset.path / contentsName) {}
 
     void read(const Json& json) {
-        asset_.isTemplate = text(member(json, "properties"), "template-rendering-intent") == "template";
-        const char* list = asset_.kind == Kind::image ? "images" : asset_.kind == Kind::color ? "colors" : "data";
-        std::vector<const Json*> entries;
-        for (const Json& entry : member(json, list))
-            if (entry.is_object() &&
-                (!text(entry, "filename").empty() || entry.contains("color"))) // else an empty place
-                entries.push_back(&entry);
-        // The kinds of device in their order, until one gives a variant that can be used.
-        std::ranges::stable_sort(entries, {}, [](const Json* entry) { return rankOf(*entry); });
-        for (const Json* entry : entries) {
-            const std::optional<Fit> fit = fitOf(*entry);
-            const bool isDecided = rank_ && *rank_ != rankOf(*entry);
-            if (!fit || isSpecial(*entry) || isDecided)
-                diagnostics_.add(Severity::note, {.message = "has a variant for special devices, which is left out",
-                                                  .file = asset_.path / "Contents.json"});
-            else if (asset_.kind == Kind::color ? addColor(*fit, member(*entry, "color")) : addFile(*fit, *entry))
-                rank_ = rankOf(*entry);
+        properties_ = member(json, "properties");
+        asset_.rendering = renderingOf(asset_, properties_);
+        reportUnknownProperties(properties_, KnownProperties::ofSet, "the set");
+        std::vector<SetEntry> entries = filledEntries(member(json, listName(asset_)));
+        std::ranges::stable_sort(entries, isPreferred, &SetEntry::device);
+        // The first kind of device with a variant that can be used.
+        auto rest = entries.begin();
+        while (rest != entries.end() && isEmpty()) {
+            const SetEntry::Device device = rest->device;
+            for (; rest != entries.end() && rest->device == device; ++rest)
+                add(*rest);
+            chosen_ = device;
+        }
+        for (const SetEntry& entry : std::ranges::subrange(rest, entries.end()))
+            say(Severity::note, entry.label() + " is for other devices (" + entry.device.text() +
+                                    ") and is left out: the variants for " + chosen_.text() + " are used");
+        addSystemColorVariants();
+    }
+
+    bool isEmpty() const { return asset_.files.empty() && asset_.colors.empty(); }
+
+private:
+    std::vector<SetEntry> filledEntries(const Json& list) {
+        std::vector<SetEntry> entries;
+        std::size_t number = 0;
+        for (const Json& json : list) {
+            ++number;
+            if (!json.is_object())
+                continue;
+            SetEntry entry = readEntry(json, number);
+            if (!entry.isFilled())
+                continue;
+            reportUnknownProperties(json, KnownProperties::ofEntry, entry.label());
+            if (member(json, "unassigned") == Json(true))
+                say(Severity::note, entry.label() + " is not assigned to any variant and is left out");
+            else
+                entries.push_back(std::move(entry));
+        }
+        return entries;
+    }
+
+    void reportUnknownProperties(const Json& object, KnownProperties known, const std::string& owner) {
+        for (const std::string& name : unknownProperties(object, known))
+            say(Severity::note, owner + " has the property " + quotedName(name) + ", which is ignored");
+    }
+
+    void add(const SetEntry& entry) {
+        if (!hasTwin(entry)) {
+            if (asset_.kind == Kind::color)
+                addColor(entry);
+            else
+                addFile(entry);
         }
     }
 
-private:
-    // Whether there is a variant more.
-    bool addFile(Fit fit, const Json& entry) {
-        const std::string name = text(entry, "filename");
-        const fs::path file = asset_.path / name;
+    bool hasTwin(const SetEntry& entry) {
+        const auto isIts = [&](const auto& variant) { return isTwin(variant, entry); };
+        if (std::ranges::none_of(asset_.files, isIts) && std::ranges::none_of(asset_.colors, isIts))
+            return false;
+        say(Severity::warning, entry.label() + " is for the same readers as an entry before it and is left out");
+        return true;
+    }
+
+    void addFile(const SetEntry& entry) {
+        const std::optional<fs::path> path = pathOf(entry);
+        if (!path)
+            return;
+        SourceFile file{.fit = entry.fit, .language = entry.language, .path = *path};
+        file.typeIdentifier = text(*entry.json, "universal-type-identifier");
+        file.isSymbol = asset_.path.extension() == symbolExtension;
+        file.preservesVector = member(properties_, "preserves-vector-representation") == Json(true);
+        if (asset_.kind == Kind::image) {
+            readLayout(*entry.json, file);
+            if (auto usable = check_(file); !usable)
+                return reportUnusable(std::move(usable.error()));
+        }
+        asset_.files.push_back(std::move(file));
+    }
+
+    // The entry's file; no value after a warning.
+    std::optional<fs::path> pathOf(const SetEntry& entry) {
+        const std::string name = text(*entry.json, "filename");
         std::error_code failed;
-        // A name is one component, and what it names lies in the set: nothing else of the machine gets into a catalog.
-        if (name == "." || name == ".." || name.find('/') != std::string::npos)
-            return refuse("names a file outside of its set: \"" + name + "\"", asset_.path / "Contents.json");
-        if (name.find('\0') != std::string::npos) // to the system it would end there, and name another file
-            return refuse("names a file with a zero in its name", asset_.path / "Contents.json");
-        if (fs::is_symlink(fs::symlink_status(file, failed)))
-            return refuse("is a link; a set holds its files itself", file);
-        if (!fs::is_regular_file(file, failed))
-            return leaveOut("is missing", file);
-        asset_.files.push_back({.fit = fit, .path = file, .typeIdentifier = text(entry, "universal-type-identifier")});
-        return true;
+        // A name is one component, so that nothing outside of the set gets into a catalog.
+        if (name == "." || name == ".." || name.find_first_of(std::string_view("/\0", 2)) != std::string::npos) {
+            say(Severity::warning, entry.label() + " is a file outside of its set and is left out");
+            return std::nullopt;
+        }
+        const fs::path file = asset_.path / name;
+        const fs::file_status status = fs::symlink_status(file, failed);
+        if (fs::is_regular_file(status))
+            return file;
+        const char* fault = fs::is_symlink(status)  ? "is a link, which is not followed"
+                            : fs::exists(status)    ? "is not a regular file"
+                                                    : "does not exist";
+        diagnostics_.add(Severity::warning, leftOut({.message = fault, .file = file}));
+        return std::nullopt;
     }
 
-    bool addColor(Fit fit, const Json& color) {
-        const fs::path file = asset_.path / "Contents.json";
-        if (color.is_object() && !text(color, "reference").empty())
-            return leaveOut("refers to a colour of the system, which is not supported: " + text(color, "reference"),
-                            file);
-        const Json& components = member(color, "components");
-        const std::string spaceName = color.is_object() ? text(color, "color-space") : std::string();
-        const std::optional<AssetCatalog::ColorSpace> space = colorSpaceNamed(spaceName);
-        if (!space)
-            return leaveOut("has a colour space that is not supported: " + spaceName, file);
-        auto value = colorFrom(*space, [&](const char* name) -> std::optional<std::string> {
-            const Json& component = member(components, name);
-            if (component.is_string())
-                return component.get<std::string>();
-            if (!component.is_number())
-                return std::nullopt;
-            const auto number = component.get<double>(); // written with a point: 1 is the whole, not one of 255
-            return (number >= 0 && number <= 1 ? Json(number) : component).dump();
-        });
+    void addColor(const SetEntry& entry) {
+        const Json& color = member(*entry.json, "color");
+        if (const std::string reference = text(color, "reference"); !reference.empty())
+            return addSystemColor(entry, reference);
+        const auto value = colorValue(color);
         if (!value)
-            return refuse(value.error().message, file);
-        value->fit = fit;
-        asset_.colors.push_back(*value);
-        return true;
+            return say(Severity::warning, entry.label() + " " + value.error().message + " and is left out");
+        asset_.colors.push_back({entry.fit, entry.language, *value});
     }
 
-    // Both say what is wrong with a variant, which there is none of then.
-    bool refuse(std::string message, const fs::path& file) { return say(Severity::error, std::move(message), file); }
-    bool leaveOut(std::string message, const fs::path& file) {
-        return say(Severity::warning, std::move(message), file);
+    void addSystemColor(const SetEntry& entry, const std::string& reference) {
+        const std::optional<SystemColor> color = systemColor(reference);
+        if (!color)
+            return say(Severity::warning,
+                       entry.label() + " is the unknown system colour " + quotedName(reference) + " and is left out");
+        const bool isDark = entry.fit.appearance == AssetCatalog::Appearance::dark;
+        asset_.colors.push_back({entry.fit, entry.language, isDark ? color->dark : color->light});
+        if (entry.fit.appearance != AssetCatalog::Appearance::any)
+            return;
+        AssetCatalog::Color dark{entry.fit, entry.language, color->dark};
+        dark.fit.appearance = AssetCatalog::Appearance::dark;
+        systemColorVariants_.push_back(dark);
     }
-    bool say(Severity severity, std::string message, const fs::path& file) {
-        diagnostics_.add(severity, {.message = std::move(message), .file = file});
-        return false;
+
+    // What system colours are on a dark screen, where the set does not say otherwise.
+    void addSystemColorVariants() {
+        for (const AssetCatalog::Color& variant : systemColorVariants_)
+            if (std::ranges::none_of(asset_.colors, [&](const AssetCatalog::Color& color) {
+                    return color.fit == variant.fit && color.language == variant.language;
+                }))
+                asset_.colors.push_back(variant);
+    }
+
+    // A file that the system cannot read now is not left out: the next time it may be there.
+    void reportUnusable(Runtime::Error error) {
+        if (error.cause != 0)
+            diagnostics_.add(Severity::error, std::move(error));
+        else
+            diagnostics_.add(Severity::warning, leftOut(std::move(error)));
+    }
+    static Runtime::Error leftOut(Runtime::Error error) {
+        error.message += "; it is left out";
+        return error;
+    }
+    void say(Severity severity, std::string message) {
+        diagnostics_.add(severity, {.message = std::move(message), .file = contents_});
     }
 
     SourceAsset& asset_;
+    const PictureCheck& check_;
     Diagnostics& diagnostics_;
-    std::optional<std::size_t> rank_; // of the kind of device whose variants are taken
+    fs::path contents_;
+    Json properties_;
+    SetEntry::Device chosen_;
+    std::vector<AssetCatalog::Color> systemColorVariants_;
 };
+
+// An empty set is said once: with its last warning, or with one of its own.
+void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagnostics& diagnostics) {
+    const auto isWarning = [](const Diagnostic& one) { return one.severity == Severity::warning; };
+    const auto isError = [](const Diagnostic& one) { return one.severity == Severity::error; };
+    const auto warnings = std::ranges::count_if(messages.all(), isWarning);
+    std::ptrdiff_t warning = 0;
+    for (const Diagnostic& one : messages.all()) {
+        Runtime::Error what = one.what;
+        if (isWarning(one) && ++warning == warnings)
+            what.message += ", and with it the set, which has no other variant";
+        diagnostics.add(one.severity, std::move(what));
+    }
+    if (warnings == 0 && std::ranges::none_of(messages.all(), isError))
+        diagnostics.add(Severity::warning,
+                        {.message = "has no variant that can be used and is left out", .file = asset.path});
+}
 
 } // namespace
 
-void readSet(SourceAsset& asset, Diagnostics& diagnostics) {
-    if (const std::optional<Json> json = contents(asset.path, true, diagnostics))
-        SetReader(asset, diagnostics).read(*json);
+void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics) {
+    auto json = readJsonObject(asset.path / contentsName);
+    if (!json && json.error().isTransient())
+        return diagnostics.add(Severity::error, std::move(json.error()));
+    if (!json) {
+        json.error().message += "; the set is left out";
+        return diagnostics.add(Severity::warning, std::move(json.error()));
+    }
+    Diagnostics messages;
+    SetReader reader(asset, check, messages);
+    reader.read(*json);
+    if (reader.isEmpty())
+        return reportEmptySet(asset, messages, diagnostics);
+    for (const Diagnostic& one : messages.all())
+        diagnostics.add(one.severity, one.what);
 }
 
-bool providesNamespace(const fs::path& folder, Diagnostics& diagnostics) {
-    const std::optional<Json> json = contents(folder, false, diagnostics);
-    return json && member(member(*json, "properties"), "provides-namespace") == Json(true);
+SourcePictures::Purpose purposeOf(const SourceFile& file) {
+    return {.isSymbol = file.isSymbol, .scale = file.fit.scale, .preservesVector = file.preservesVector};
 }
 
 } // namespace SourceBundle

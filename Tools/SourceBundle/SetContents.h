@@ -3,13 +3,19 @@
 #pragma once
 
 #include "SourceBundle/Catalogs.h"
+#include "SourcePictures/PictureFile.h"
+#include <string_view>
 
 namespace SourceBundle {
 
-// Reads the set whose folder, kind and name `asset` holds, and fills in the rest.
-void readSet(SourceAsset& asset, Diagnostics& diagnostics);
+inline constexpr const char* contentsName = "Contents.json";
+inline constexpr std::string_view symbolExtension = ".symbolset";
 
-// Whether the folder's Contents.json makes its name a part of the names below it.
-[[nodiscard]] bool providesNamespace(const std::filesystem::path& folder, Diagnostics& diagnostics);
+// Reads the set whose folder, kind and name `asset` has, and fills in the rest. A set without a usable variant stays
+// empty and has exactly one warning that says so.
+void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics);
+
+// How the file of a picture is used.
+[[nodiscard]] SourcePictures::Purpose purposeOf(const SourceFile& file);
 
 } // namespace SourceBundle

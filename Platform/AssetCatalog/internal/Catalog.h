@@ -29,14 +29,18 @@ inline constexpr std::size_t maxBytes = std::size_t{4} << 30;
 inline constexpr std::size_t maxIndexBytes = std::size_t{256} << 20; // everything but the blobs
 inline constexpr std::size_t maxAssets = std::size_t{1} << 18;
 inline constexpr std::size_t maxVariants = 256; // of one asset
-inline constexpr std::size_t maxNameBytes = 1024;
+inline constexpr std::size_t maxNameBytes = 1024;       // of an asset, its folders included
+inline constexpr std::size_t maxOtherTextBytes = 255;    // of a catalog's name, a language, a type identifier
 inline constexpr std::uint64_t maxPixels = std::uint64_t{64} << 20; // of one picture
 
-// Variants as they lie in the catalog. See Picture and Data.
+// Variants as a catalog holds them. See Picture and Data.
 struct PictureView {
     Fit fit;
-    Encoding encoding;
     std::uint32_t width, height; // in pixels, at least 1
+    Size points;
+    Resizing resizing;
+    Insets capInsets;
+    Insets alignmentInsets;
     Blob blob;
 };
 struct DataView {
@@ -51,14 +55,19 @@ public:
     Kind kind() const noexcept;
     std::string_view catalog() const noexcept; // the source catalog, "Images"
     std::string_view name() const noexcept;
-    bool isTemplate() const noexcept;
+    Rendering rendering() const noexcept;
 
     std::size_t variants() const noexcept; // at least 1
     Fit fit(std::size_t variant) const noexcept;
-    // The variant that serves `wanted` best, see distance().
-    std::size_t best(Fit wanted) const noexcept;
+    std::string_view language(std::size_t variant) const noexcept; // empty: for all readers
+    // Whether some variant is for the readers of one language.
+    bool isLocalized() const noexcept;
+    // The variant that serves best a reader who wants `fit` and reads `languages` (BCP 47 tags, the best first). The
+    // language decides first: the one wanted, or the same with fewer subtags ("pt" for "pt-BR"), then a variant for all
+    // readers, then any other; among those, distance().
+    std::size_t best(Fit wanted, std::span<const std::string> languages = {}) const noexcept;
 
-    // A variant of an image, of a colour, of data: only the one of the entry's kind may be asked for.
+    // Precondition: the entry is of that kind.
     PictureView picture(std::size_t variant) const noexcept;
     ColorValue color(std::size_t variant) const noexcept;
     DataView data(std::size_t variant) const noexcept;
@@ -73,10 +82,9 @@ private:
 
 class Catalog {
 public:
-    // Opens the catalog at `path`. The whole index is checked before anything in it is believed, and nothing of a
-    // picture is read: the file stays open for that. Replacing it by renaming changes nothing for an open catalog.
-    // Errors: no such regular file, not a catalog, another version, cut off, damaged (with what does not hold). What
-    // lies inside of pictures and data is not looked at.
+    // Opens the catalog at `path`. The whole index is checked first; no picture is read, the file stays open for that.
+    // Renaming another file over it changes nothing for an open catalog. Errors: no such regular file, not a catalog,
+    // another version, cut off, damaged (the message says where). The content of pictures and data is not checked.
     [[nodiscard]] static Runtime::Result<Catalog> open(const std::string& path);
     // The same from memory that outlives the catalog and starts at a multiple of 16.
     [[nodiscard]] static Runtime::Result<Catalog> read(std::span<const std::uint8_t> bytes);

@@ -7,19 +7,21 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
+#include <string_view>
 
 namespace AssetCatalog {
 
-// How far `offered` is from `wanted`: 0 is what was asked for, and the smaller of two serves better. Four questions,
-// each deciding only what those before it left equal:
-// 1. direction, 2. appearance: the one wanted, then a variant for any, then another (for a reader without a wish: any,
-// then
-//    left to right or light, then the rest);
+// How far `offered` is from `wanted`: 0 is what was wanted, and the smaller of two serves better. Each of these decides
+// only between variants that those before it leave equal:
+// 1. direction, 2. appearance: the one wanted, then a variant for any, then another (for a reader who wants none: any,
+//    then left to right or light, then the rest);
 // 3. contrast: the one wanted, then the other;
 // 4. scale: the one wanted, then a variant for any, then the next larger, then the largest of the smaller ones.
 [[nodiscard]] std::uint32_t distance(Fit offered, Fit wanted) noexcept;
 
-// The index of the nearest of `offered`, the first of equals. `offered` holds at least one.
-[[nodiscard]] std::size_t bestFit(std::span<const Fit> offered, Fit wanted) noexcept;
+// The same for the language of a variant: the one wanted, or the same with fewer subtags ("pt" for "pt-BR"), an earlier
+// one of `wanted` before a later one; then a variant for all readers, whose `offered` is empty; then any other.
+[[nodiscard]] std::uint32_t languageDistance(std::string_view offered, std::span<const std::string> wanted) noexcept;
 
 } // namespace AssetCatalog

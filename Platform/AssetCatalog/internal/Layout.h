@@ -1,5 +1,5 @@
 // AssetCatalog/internal/Layout.h
-// What reader and builder of a compiled catalog must agree on beside its schema; internal.
+// What reader and builder of a compiled catalog share beside its schema; internal.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -11,15 +11,15 @@
 
 namespace AssetCatalog::Format {
 
-inline constexpr std::uint32_t version = 1;
+inline constexpr std::uint32_t version = 2;
 inline constexpr std::size_t alignment = 16; // of the blobs in the file
 
 constexpr std::size_t aligned(std::size_t size) noexcept {
     return (size + alignment - 1) / alignment * alignment;
 }
 
-// The order of assets in a catalog. Eight bytes a step, the last ones filled up with zeros; each step can be undone, so
-// that names of one length of at most eight bytes never meet.
+// Assets are ordered by this hash. It takes eight bytes a step, the last ones padded with zeros. Each step is invertible,
+// so that two names of one length of at most eight bytes never have the same hash.
 inline std::uint64_t hashOf(Kind kind, std::string_view name) noexcept {
     constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
     std::uint64_t hash = (static_cast<std::uint64_t>(kind) << 32 | name.size()) * spread;

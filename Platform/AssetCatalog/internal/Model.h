@@ -1,11 +1,14 @@
 // AssetCatalog/internal/Model.h
-// What a compiled catalog holds, as its builder takes it and as its reader tells it.
+// What a compiled catalog holds.
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace AssetCatalog {
@@ -20,31 +23,69 @@ struct Fit {
     Appearance appearance = Appearance::any;
     Contrast contrast = Contrast::any;
     Direction direction = Direction::any;
-    std::uint8_t scale = 0; // pixels in a point; 0: any
+    std::uint8_t scale = 0; // pixels per point; 0: any
     friend bool operator==(const Fit&, const Fit&) = default;
 };
 
-enum class Encoding : std::uint8_t { png, jpeg };
+// How an image is drawn: as its context wants, in its own colours, or as a shape in the colour of its surroundings.
+enum class Rendering : std::uint8_t { automatic, original, asTemplate };
+// How the part of an image inside its cap insets fills a larger area.
+enum class Resizing : std::uint8_t { stretch, tile };
 enum class ColorSpace : std::uint8_t { srgb, extendedSrgb, displayP3, gray };
 
+// "image", "color", "data".
+[[nodiscard]] std::string_view nameOf(Kind kind) noexcept;
+// As source catalogs spell it: "srgb", "extended-srgb", "display-p3", "gray-gamma-22".
+[[nodiscard]] std::string_view nameOf(ColorSpace space) noexcept;
+
+// In points.
+struct Size {
+    double width = 0;
+    double height = 0;
+    friend bool operator==(const Size&, const Size&) = default;
+};
+struct Insets {
+    double top = 0;
+    double left = 0;
+    double bottom = 0;
+    double right = 0;
+    friend bool operator==(const Insets&, const Insets&) = default;
+};
+
+// The bytes of a file, shared by the variants that have the same.
+using Bytes = std::shared_ptr<const std::string>;
+[[nodiscard]] inline Bytes shared(std::string bytes) {
+    return std::make_shared<const std::string>(std::move(bytes));
+}
+
+// `language` is the BCP 47 tag of the readers that a variant is for, or empty: all.
 struct Picture {
     Fit fit;
-    Encoding encoding = Encoding::png;
+    std::string language{};
     std::uint32_t width = 0; // in pixels
     std::uint32_t height = 0;
-    std::vector<std::uint8_t> bytes; // the encoded file
+    Size points{};
+    Resizing resizing = Resizing::stretch;
+    Insets capInsets{};
+    Insets alignmentInsets{};
+    Bytes bytes{}; // a PNG or JPEG file
 };
 
 struct ColorValue {
-    Fit fit;
     ColorSpace space = ColorSpace::srgb;
     std::array<double, 4> components{}; // red, green, blue, alpha in `space`; grey: white, white, white, alpha
+};
+struct Color {
+    Fit fit;
+    std::string language{};
+    ColorValue value{};
 };
 
 struct Data {
     Fit fit;
-    std::string typeIdentifier; // "public.json", or empty
-    std::vector<std::uint8_t> bytes;
+    std::string language{};
+    std::string typeIdentifier{}; // "public.json", or empty
+    Bytes bytes{};
 };
 
 // One asset with its variants; only the list of its kind is filled. A name in folders that provide a namespace is
@@ -53,10 +94,10 @@ struct Asset {
     Kind kind = Kind::image;
     std::string catalog; // "Images"
     std::string name;
-    bool isTemplate = false; // drawn in the colour of its surroundings
-    std::vector<Picture> pictures;
-    std::vector<ColorValue> colors;
-    std::vector<Data> data;
+    Rendering rendering = Rendering::automatic;
+    std::vector<Picture> pictures{};
+    std::vector<Color> colors{};
+    std::vector<Data> data{};
 };
 
 } // namespace AssetCatalog

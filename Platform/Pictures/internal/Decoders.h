@@ -1,6 +1,6 @@
 // Pictures/internal/Decoders.h
-// The face of the plug-in; internal. Both sides are built together. Programs of the build, which no plug-in
-// lies beside, link the decoders themselves.
+// The interface of the plug-in; internal. Both sides are built together. Tools have no plug-in beside them and link the
+// decoders themselves.
 #pragma once
 
 #include "Pictures/Bitmap.h"
@@ -20,7 +20,10 @@ protected:
     ~Decoders() = default;
 };
 
-// What the decoders are made of; each checks the limit on the numbers that it decodes by.
+// The decoders that this object links.
+[[nodiscard]] const Decoders& linkedDecoders() noexcept;
+
+// Each checks the limit with the size that it decodes by.
 Runtime::Result<Bitmap> decodePng(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
 Runtime::Result<Bitmap> decodeJpeg(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
 

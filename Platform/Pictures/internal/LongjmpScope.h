@@ -1,13 +1,13 @@
 // Pictures/internal/LongjmpScope.h
-// Work with C libraries that report a failure by calling a function which must not return; internal.
+// For C libraries that report an error by calling a function which must not return; internal.
 #pragma once
 
 #include <csetjmp>
 
 namespace Pictures {
 
-// fail() leaves the step that is being taken and goes on behind it. What it leaves are the library's frames and the
-// step's own, so a step holds nothing that would have to be destroyed and changes no local variable of its caller.
+// fail() jumps out of the step that attempt() runs. Frames of the library and of the step are left without being
+// unwound, so a step has no local object with a destructor and changes no local variable of its caller.
 class LongjmpScope {
 public:
     // False when the step failed.

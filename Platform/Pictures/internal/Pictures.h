@@ -1,11 +1,11 @@
 // Pictures/internal/Pictures.h
-// Decoding of PNG and JPEG files. The decoders lie in the plug-in lumora-pictures.so, which is loaded when
-// the first picture is decoded: most texts need no picture. Threads: any. Ownership: results own their memory.
+// Decoding of PNG and JPEG files. The decoders are in the plug-in lumora-pictures.so, which is loaded when the first
+// picture is decoded: most texts need no picture. Threads: any. Ownership: results own their memory.
 //
-// Tolerated, as viewers do: in a PNG, ancillary chunks with a wrong checksum, which are left out; in a JPEG, bytes
-// between its segments. Whatever else is wrong makes the picture damaged, an end that is missing too. Colours are
-// handed on as the file has them: neither gamma nor profiles nor EXIF turning is applied. Sixteen bits a channel give
-// their upper eight; CMYK becomes RGB without a profile.
+// Tolerated, as viewers do: in a PNG, ancillary chunks with a wrong checksum, which are skipped; in a JPEG, bytes
+// between its segments. Anything else that is wrong makes the picture damaged, a missing end included. Colours are
+// returned as the file has them: no gamma, no profile and no EXIF rotation is applied. Of sixteen bits per channel the
+// upper eight count; CMYK becomes RGB without a profile.
 #pragma once
 
 #include "Pictures/Bitmap.h"
@@ -23,12 +23,17 @@ struct Size {
     std::uint32_t height;
 };
 
-// What the file says of itself in its head; needs no plug-in. Errors: neither PNG nor JPEG, or the head is damaged.
+// The format and size that the file's header says; needs no plug-in. Errors: neither PNG nor JPEG, a damaged header.
 [[nodiscard]] Runtime::Result<Size> measure(std::span<const std::uint8_t> bytes);
 
-// Decodes a whole picture. Errors: those of measure(), more pixels than `maxPixels` (told before memory is taken),
-// damaged (with the decoder's reason), no plug-in (which names its file, and may be passing).
+// Decodes a whole picture. Errors: those of measure(), more pixels than `maxPixels` (checked before memory is taken),
+// damaged (with the decoder's reason), no plug-in (names its file; may be transient).
 [[nodiscard]] Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes,
                                              std::uint64_t maxPixels = std::uint64_t{64} << 20);
+
+class Decoders;
+// The same with given decoders, without the plug-in.
+[[nodiscard]] Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels,
+                                             const Decoders& decoders);
 
 } // namespace Pictures

@@ -1,7 +1,7 @@
 // UIKit/internal/PixelCache.h
-// Decoded pixels, shared by everyone who looks at the same picture; internal.
-// Threads: any; the lock is held for a look at the table, never while a picture is decoded. A child process that was
-// forked in the middle of one begins with an empty cache.
+// Decoded pixels, shared by all images of the same picture; internal.
+// Threads: any; the lock is held while the table is read or changed, never while a picture is decoded. A child process
+// that was forked while the lock was held begins with an empty cache.
 #pragma once
 
 #include "AssetCatalog/internal/Blobs.h"
@@ -22,13 +22,13 @@ class PixelCache {
 public:
     using Key = AssetCatalog::Blob; // of the encoded picture
 
-    // Keeps the pictures looked at last, up to `maxBytes` of pixels together, alive; others only as long as somebody
-    // else does.
+    // Keeps the most recently used pictures up to `maxBytes` of pixels together; others live as long as a caller holds
+    // them.
     explicit PixelCache(std::size_t maxBytes) noexcept : maxBytes_(maxBytes) {}
 
-    // The pixels of the picture that lies encoded at `key`, or null.
+    // The pixels of the picture whose encoded bytes are at `key`, or null.
     Pixels find(const Key& key);
-    // Adds them, or gives those that another thread has added meanwhile.
+    // Adds the pixels and returns them, or those that another thread has added meanwhile.
     Pixels add(const Key& key, const Pixels& pixels);
 
 private:
@@ -37,7 +37,7 @@ private:
         Pixels pixels;
     };
     struct Slot {
-        std::weak_ptr<const Pictures::Bitmap> pixels; // alive as long as anybody uses them
+        std::weak_ptr<const Pictures::Bitmap> pixels; // alive as long as a caller holds them
         std::list<Kept>::iterator kept;               // or the list's end
     };
 
@@ -45,7 +45,7 @@ private:
         std::list<Kept> kept; // the last used first
         std::size_t keptBytes = 0;
         std::map<Key, Slot> slots;
-        std::size_t nextSweep = 64; // slots at which those without pixels are looked for
+        std::size_t nextSweep = 64; // number of slots at which those without pixels are removed
     };
     class Access;
 

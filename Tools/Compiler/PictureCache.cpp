@@ -1,0 +1,142 @@
+#include "Compiler/PictureCache.h"
+
+#include "AssetCatalog/internal/Catalog.h"
+#include "Compiler/StagedFolder.h"
+#include "Runtime/internal/File.h"
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <xxhash.h>
+
+namespace Compiler {
+
+namespace fs = std::filesystem;
+using AssetCatalog::Picture;
+
+namespace {
+
+constexpr std::size_t maxListBytes = std::size_t{256} << 20;
+
+std::string hex(std::uint64_t number) {
+    char digits[16];
+    const auto written = std::to_chars(std::begin(digits), std::end(digits), number, 16);
+    const std::string text(digits, written.ptr);
+    return std::string(16 - text.size(), '0') + text;
+}
+
+std::uint64_t hashOf(std::string_view bytes) {
+    return XXH3_64bits(bytes.data(), bytes.size());
+}
+
+// The numbers of a line, one after the other.
+class Fields {
+public:
+    explicit Fields(std::string_view line) : rest_(line) {}
+
+    std::string_view word() {
+        const std::size_t end = std::min(rest_.find(' '), rest_.size());
+        const std::string_view word = rest_.substr(0, end);
+        rest_.remove_prefix(std::min(end + 1, rest_.size()));
+        return word;
+    }
+    template <class Number, class... Base> void read(Number& number, Base... base) {
+        const std::string_view text = word();
+        const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number, base...);
+        isSound_ = isSound_ && failure == std::errc() && end == text.data() + text.size();
+    }
+    bool isSound() const { return isSound_ && rest_.empty(); }
+
+private:
+    std::string_view rest_;
+    bool isSound_ = true;
+};
+
+std::string decimal(double number) {
+    char digits[32];
+    return {digits, std::to_chars(std::begin(digits), std::end(digits), number).ptr};
+}
+
+} // namespace
+
+PictureCache PictureCache::of(const fs::path& bundle) {
+    auto catalog = Runtime::OpenFile::open(bundle / AssetCatalog::fileName, AssetCatalog::maxBytes);
+    const auto list = Runtime::readFile(bundle / markName, maxListBytes);
+    if (!catalog || !list)
+        return PictureCache(std::nullopt);
+    PictureCache cache(*std::move(catalog));
+    std::string_view rest = *list;
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find('\n'), rest.size());
+        cache.readRecord(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return cache;
+}
+
+// Lines of another form are skipped.
+void PictureCache::readRecord(std::string_view line) {
+    Fields fields(line);
+    const std::string key(fields.word());
+    Record record;
+    Picture& picture = record.picture;
+    fields.read(picture.fit.scale);
+    fields.read(picture.width);
+    fields.read(picture.height);
+    fields.read(picture.points.width);
+    fields.read(picture.points.height);
+    fields.read(record.offset);
+    fields.read(record.size);
+    fields.read(record.hash, 16);
+    if (fields.isSound() && record.size <= AssetCatalog::maxBytes)
+        pictures_[key].push_back(std::move(record));
+}
+
+std::string PictureCache::keyOf(std::string_view bytes, const SourcePictures::Purpose& purpose) {
+    static const std::string version = SourcePictures::converterVersion();
+    const std::string context = version + (purpose.isSymbol ? " symbol " : " ") + std::to_string(purpose.scale) +
+                                (purpose.preservesVector ? " preserved" : "");
+    const XXH128_hash_t content = XXH3_128bits(bytes.data(), bytes.size());
+    const XXH128_hash_t key = XXH3_128bits_withSeed(context.data(), context.size(), content.low64);
+    return hex(key.high64 ^ content.high64) + hex(key.low64);
+}
+
+std::optional<std::vector<Picture>> PictureCache::find(const std::string& key) const {
+    const auto found = pictures_.find(key);
+    if (found == pictures_.end())
+        return std::nullopt;
+    std::vector<Picture> pictures;
+    for (const Record& record : found->second) {
+        if (record.offset > catalog_->size() || record.size > catalog_->size() - record.offset)
+            return std::nullopt;
+        std::string bytes(record.size, '\0');
+        const auto filled = catalog_->read(reinterpret_cast<std::uint8_t*>(bytes.data()), bytes.size(), record.offset);
+        if (!filled || *filled != bytes.size() || hashOf(bytes) != record.hash)
+            return std::nullopt;
+        pictures.push_back(record.picture);
+        pictures.back().bytes = AssetCatalog::shared(std::move(bytes));
+    }
+    return pictures;
+}
+
+std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog& catalog) {
+    std::string list;
+    const auto isStored = [&](const Picture& picture) { return catalog.offsets.contains(*picture.bytes); };
+    for (const auto& [key, pictures] : made) {
+        if (!std::ranges::all_of(pictures, isStored)) // another file's picture was taken for one of the scales
+            continue;
+        for (const Picture& picture : pictures) {
+            list.append(key);
+            list.append(" ").append(std::to_string(picture.fit.scale));
+            list.append(" ").append(std::to_string(picture.width));
+            list.append(" ").append(std::to_string(picture.height));
+            list.append(" ").append(decimal(picture.points.width));
+            list.append(" ").append(decimal(picture.points.height));
+            list.append(" ").append(std::to_string(catalog.offsets.at(*picture.bytes)));
+            list.append(" ").append(std::to_string(picture.bytes->size()));
+            list.append(" ").append(hex(hashOf(*picture.bytes))).append("\n");
+        }
+    }
+    return list;
+}
+
+} // namespace Compiler

@@ -1,0 +1,37 @@
+#include "SourceBundle/ImageLayout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace SourceBundle {
+
+using AssetCatalog::Insets;
+
+namespace {
+
+Insets insetsOf(const Json& insets, std::uint8_t scale) {
+    const double pixelsPerPoint = std::max<std::uint8_t>(scale, 1);
+    const auto points = [&](const char* edge) {
+        const double pixels = number(insets, edge);
+        return std::isfinite(pixels) ? pixels / pixelsPerPoint : 0;
+    };
+    return {points("top"), points("left"), points("bottom"), points("right")};
+}
+
+} // namespace
+
+void readLayout(const Json& entry, SourceFile& file) {
+    file.alignmentInsets = insetsOf(member(entry, "alignment-insets"), file.fit.scale);
+    const Json& resizing = member(entry, "resizing");
+    Insets caps = insetsOf(member(resizing, "cap-insets"), file.fit.scale);
+    const std::string mode = text(resizing, "mode");
+    if (mode.starts_with("3-part-horizontal"))
+        caps.top = caps.bottom = 0;
+    else if (mode.starts_with("3-part-vertical"))
+        caps.left = caps.right = 0;
+    file.capInsets = caps;
+    if (text(member(resizing, "center"), "mode") == "tile")
+        file.resizing = AssetCatalog::Resizing::tile;
+}
+
+} // namespace SourceBundle

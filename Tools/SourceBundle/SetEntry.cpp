@@ -1,0 +1,136 @@
+#include "SourceBundle/SetEntry.h"
+
+#include "SourceBundle/QuotedName.h"
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cctype>
+#include <string_view>
+
+namespace SourceBundle {
+
+using AssetCatalog::Fit;
+
+namespace {
+
+// The kinds of device in the order in which their variants are taken.
+std::size_t rankOf(std::string_view idiom) {
+    static constexpr std::array<std::string_view, 9> idioms = {"universal", "iphone", "ipad",   "mac", "vision",
+                                                               "reality",   "tv",     "watch", "car"};
+    return static_cast<std::size_t>(std::ranges::find(idioms, idiom) - idioms.begin());
+}
+
+// The appearance into `fit`; false for one that no reader can want.
+bool readAppearance(const Json& appearance, Fit& fit) {
+    const std::string kind = text(appearance, "appearance");
+    const std::string value = text(appearance, "value");
+    if (kind == "luminosity" && value == "dark")
+        fit.appearance = AssetCatalog::Appearance::dark;
+    else if (kind == "luminosity" && value == "light")
+        fit.appearance = AssetCatalog::Appearance::light;
+    else if (kind == "contrast" && value == "high")
+        fit.contrast = AssetCatalog::Contrast::high;
+    else
+        return false;
+    return true;
+}
+
+bool readDirection(std::string_view direction, Fit& fit) {
+    if (direction == "left-to-right")
+        fit.direction = AssetCatalog::Direction::leftToRight;
+    else if (direction == "right-to-left")
+        fit.direction = AssetCatalog::Direction::rightToLeft;
+    else
+        return direction.empty();
+    return true;
+}
+
+// "1x" to "9x".
+bool readScale(std::string_view scale, Fit& fit) {
+    if (scale.empty())
+        return true;
+    if (scale.size() != 2 || scale[0] < '1' || scale[0] > '9' || scale[1] != 'x')
+        return false;
+    fit.scale = static_cast<std::uint8_t>(scale[0] - '0');
+    return true;
+}
+
+// Conditions that no reader here can have; an entry with some of them is taken when there is no other.
+std::vector<std::string> conditionsOf(const Json& entry) {
+    static constexpr std::array names = {"subtype",      "screen-width",         "width-class",  "height-class",
+                                         "memory",       "graphics-feature-set", "display-gamut"};
+    std::vector<std::string> conditions;
+    for (const char* name : names)
+        if (const std::string value = text(entry, name); !value.empty() && value != "sRGB" && value != "any")
+            conditions.push_back(std::string(name) + " " + quotedName(value));
+    return conditions;
+}
+
+std::string withHyphens(std::string language) {
+    std::ranges::replace(language, '_', '-');
+    return language;
+}
+
+// The number in ">161", or 0. Of the sizes of a watch the widest is nearest to other screens.
+int screenWidth(const SetEntry::Device& device) {
+    for (const std::string& condition : device.conditions)
+        if (condition.starts_with("screen-width ")) {
+            const std::size_t digits = std::min(condition.find_first_of("0123456789"), condition.size());
+            int width = 0;
+            std::from_chars(condition.data() + digits, condition.data() + condition.size(), width);
+            return condition.find('>') != std::string::npos ? width + 1 : width;
+        }
+    return 0;
+}
+
+} // namespace
+
+std::string SetEntry::Device::text() const {
+    std::string all = idiom.empty() ? "" : "idiom " + quotedName(idiom);
+    for (const std::string& condition : conditions)
+        all.append(all.empty() ? "" : ", ").append(condition);
+    return all.empty() ? "any device" : all;
+}
+
+bool SetEntry::isFilled() const {
+    return !SourceBundle::text(*json, "filename").empty() || json->contains("color");
+}
+
+std::string SetEntry::label() const {
+    const std::string file = SourceBundle::text(*json, "filename");
+    return "entry " + std::to_string(number) + (file.empty() ? "" : " (" + quotedName(file) + ")");
+}
+
+bool isPreferred(const SetEntry::Device& one, const SetEntry::Device& other) {
+    if (one.conditions.empty() != other.conditions.empty())
+        return one.conditions.empty();
+    if (one.rank != other.rank)
+        return one.rank < other.rank;
+    if (one.conditions.size() != other.conditions.size())
+        return one.conditions.size() < other.conditions.size();
+    return screenWidth(one) > screenWidth(other);
+}
+
+SetEntry readEntry(const Json& json, std::size_t number) {
+    SetEntry entry{.json = &json, .number = number};
+    entry.language = withHyphens(text(json, "locale"));
+    entry.device.conditions = conditionsOf(json);
+    entry.device.idiom = text(json, "idiom");
+    if (entry.device.idiom.empty())
+        entry.device.idiom = "universal";
+    entry.device.rank = rankOf(entry.device.idiom);
+    const auto addCondition = [&](const char* name, const std::string& value) {
+        entry.device.conditions.push_back(std::string(name) + " " + quotedName(value));
+    };
+    for (const Json& appearance : member(json, "appearances"))
+        if (!readAppearance(appearance, entry.fit))
+            addCondition("appearance", text(appearance, "value"));
+    if (const std::string direction = text(json, "language-direction"); !readDirection(direction, entry.fit))
+        addCondition("language-direction", direction);
+    if (const std::string scale = text(json, "scale"); !readScale(scale, entry.fit))
+        addCondition("scale", scale);
+    std::ranges::sort(entry.device.conditions);
+    return entry;
+}
+
+} // namespace SourceBundle

@@ -1,0 +1,41 @@
+// SourceBundle/SetEntry.h
+// One entry of a set's Contents.json: which readers its variant is for; internal.
+#pragma once
+
+#include "AssetCatalog/internal/Model.h"
+#include "SourceBundle/Json.h"
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace SourceBundle {
+
+struct SetEntry {
+    const Json* json;
+    std::size_t number; // in its list, from 1
+    AssetCatalog::Fit fit{};
+    std::string language{};
+    // The kind of device and screen that the variant is for: the variants of one kind are taken, those of others not.
+    // The smallest is that of the most readers: no conditions, then any device, then a phone.
+    struct Device {
+        std::vector<std::string> conditions{}; // "subtype retina4", sorted
+        std::size_t rank = 0;                  // of the idiom
+        std::string idiom{};
+        friend bool operator==(const Device&, const Device&) = default;
+        // "idiom ipad, subtype retina4"
+        [[nodiscard]] std::string text() const;
+    } device{};
+
+    // Whether the entry has a file or a colour; others are empty places in the editor.
+    [[nodiscard]] bool isFilled() const;
+    // `entry 3 ("picture.png")`, with the name of its file, if it has one.
+    [[nodiscard]] std::string label() const;
+};
+
+// Whether `one` is taken before `other`.
+[[nodiscard]] bool isPreferred(const SetEntry::Device& one, const SetEntry::Device& other);
+
+// Precondition: `entry` is a JSON object that outlives the result.
+[[nodiscard]] SetEntry readEntry(const Json& entry, std::size_t number);
+
+} // namespace SourceBundle

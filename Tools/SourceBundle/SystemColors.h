@@ -1,0 +1,19 @@
+// SourceBundle/SystemColors.h
+// The system's colours that catalogs refer to by name; internal.
+#pragma once
+
+#include "AssetCatalog/internal/Model.h"
+#include <optional>
+#include <string_view>
+
+namespace SourceBundle {
+
+struct SystemColor {
+    AssetCatalog::ColorValue light;
+    AssetCatalog::ColorValue dark;
+};
+
+// The colour that catalogs call "systemRedColor", "labelColor" and so on; Docs/catalogs.md lists them.
+[[nodiscard]] std::optional<SystemColor> systemColor(std::string_view name);
+
+} // namespace SourceBundle

@@ -1,0 +1,95 @@
+#include "SourcePictures/Converted.h"
+
+#include "AssetCatalog/internal/Catalog.h" // maxPixels
+#include "SourcePictures/GlibPointers.h"
+#include <gdk-pixbuf/gdk-pixbuf.h>
+
+namespace SourcePictures {
+
+namespace {
+
+const char* loaderNameOf(Format format) {
+    switch (format) {
+    case Format::gif:
+        return "gif";
+    case Format::tiff:
+        return "tiff";
+    case Format::webp:
+        return "webp";
+    case Format::heif:
+        return "heif/avif";
+    case Format::png:
+    case Format::jpeg:
+    case Format::svg:
+    case Format::pdf:
+        break;
+    }
+    return "";
+}
+
+// Called as soon as the header is read. A picture that is too large is read as one pixel, and not used.
+void limitSize(GdkPixbufLoader* loader, gint width, gint height, gpointer isTooLarge) {
+    if (static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) <= AssetCatalog::maxPixels)
+        return;
+    *static_cast<bool*>(isTooLarge) = true;
+    gdk_pixbuf_loader_set_size(loader, 1, 1);
+}
+
+// The loader would take the part that is there.
+bool isCutOffWebp(std::string_view bytes) {
+    std::uint64_t size = 8; // of what comes before the size
+    for (std::size_t i = 0; i < 4; ++i)
+        size += static_cast<std::uint64_t>(static_cast<unsigned char>(bytes[4 + i])) << (8 * i);
+    return size > bytes.size();
+}
+
+// The libraries print their warnings on standard error; what is wrong is in their errors, too.
+void silenceWarnings() {
+    static const bool isDone = [] {
+        g_log_set_writer_func([](GLogLevelFlags, const GLogField*, gsize, gpointer) { return G_LOG_WRITER_HANDLED; },
+                              nullptr, nullptr);
+        return true;
+    }();
+    static_cast<void>(isDone);
+}
+
+Runtime::Result<AssetCatalog::Picture> asPng(GdkPixbuf* pixels) {
+    gchar* buffer = nullptr;
+    gsize size = 0;
+    GError* error = nullptr;
+    if (gdk_pixbuf_save_to_buffer(pixels, &buffer, &size, "png", &error, nullptr) == FALSE)
+        return damaged("picture", error);
+    const Owned<gchar> owned(buffer);
+    AssetCatalog::Picture picture;
+    picture.width = static_cast<std::uint32_t>(gdk_pixbuf_get_width(pixels));
+    picture.height = static_cast<std::uint32_t>(gdk_pixbuf_get_height(pixels));
+    picture.bytes = AssetCatalog::shared({buffer, size});
+    return picture;
+}
+
+} // namespace
+
+Runtime::Result<AssetCatalog::Picture> converted(std::string_view bytes, Format format) {
+    silenceWarnings();
+    const std::string name = loaderNameOf(format);
+    if (format == Format::webp && isCutOffWebp(bytes))
+        return damaged(name + " picture", nullptr);
+    GError* error = nullptr;
+    const Owned<GdkPixbufLoader> loader(gdk_pixbuf_loader_new_with_type(name.c_str(), &error));
+    if (loader == nullptr) {
+        const Owned<GError> owned(error);
+        return Runtime::Error{.message = "is in the format " + name + ", for which this machine has no loader"};
+    }
+    bool isTooLarge = false;
+    g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(limitSize), &isTooLarge);
+    const bool isWritten =
+        gdk_pixbuf_loader_write(loader.get(), reinterpret_cast<const guchar*>(bytes.data()), bytes.size(), &error);
+    // It must be closed, whatever happened; of two errors the first counts.
+    const bool isClosed = gdk_pixbuf_loader_close(loader.get(), isWritten ? &error : nullptr);
+    if (isTooLarge)
+        return Runtime::Error{.message = "is a picture larger than a catalog may hold"};
+    GdkPixbuf* pixels = isWritten && isClosed ? gdk_pixbuf_loader_get_pixbuf(loader.get()) : nullptr;
+    return pixels == nullptr ? damaged(name + " picture", error) : asPng(pixels);
+}
+
+} // namespace SourcePictures

@@ -1,0 +1,76 @@
+#include "SourcePictures/Drawing.h"
+
+#include "AssetCatalog/internal/Catalog.h" // maxPixels
+#include "SourcePictures/GlibPointers.h"
+#include <cmath>
+
+namespace SourcePictures {
+
+namespace {
+
+constexpr double maxSide = 32767; // of a cairo surface
+
+struct PixelSize {
+    int columns;
+    int rows;
+};
+
+Runtime::Result<PixelSize> pixelSize(AssetCatalog::Size size, double scale) {
+    const double columns = std::ceil(size.width * scale);
+    const double rows = std::ceil(size.height * scale);
+    if (!(columns >= 1 && rows >= 1))
+        return Runtime::Error{.message = "is a drawing without a size"};
+    if (!(columns * rows <= static_cast<double>(AssetCatalog::maxPixels) && columns <= maxSide && rows <= maxSide))
+        return Runtime::Error{.message = "is a drawing larger than a catalog may hold"};
+    return PixelSize{static_cast<int>(columns), static_cast<int>(rows)};
+}
+
+Runtime::Error cannotBeDrawn(cairo_status_t status) {
+    return {.message = std::string("cannot be drawn: ") + cairo_status_to_string(status)};
+}
+
+// The drawing on a surface of that size, which it fills.
+Runtime::Result<Owned<cairo_surface_t>> drawn(const DrawingForm& form, PixelSize pixels) {
+    Owned<cairo_surface_t> surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels.columns, pixels.rows));
+    const Owned<cairo_t> context(cairo_create(surface.get()));
+    cairo_scale(context.get(), pixels.columns / form.size().width, pixels.rows / form.size().height);
+    if (auto done = form.draw(context.get()); !done)
+        return std::move(done.error());
+    if (const cairo_status_t status = cairo_status(context.get()); status != CAIRO_STATUS_SUCCESS)
+        return cannotBeDrawn(status);
+    return surface;
+}
+
+} // namespace
+
+Runtime::Result<void> Drawing::check(double scale) const {
+    if (const auto pixels = pixelSize(size(), scale); !pixels)
+        return pixels.error();
+    if (const auto pixel = drawn(*form_, {1, 1}); !pixel)
+        return pixel.error();
+    return {};
+}
+
+Runtime::Result<AssetCatalog::Picture> Drawing::picture(double scale) const {
+    const auto pixels = pixelSize(size(), scale);
+    if (!pixels)
+        return pixels.error();
+    const auto surface = drawn(*form_, *pixels);
+    if (!surface)
+        return surface.error();
+    std::string png;
+    const auto append = [](void* out, const unsigned char* data, unsigned length) {
+        static_cast<std::string*>(out)->append(reinterpret_cast<const char*>(data), length);
+        return CAIRO_STATUS_SUCCESS;
+    };
+    const cairo_status_t status = cairo_surface_write_to_png_stream(surface->get(), append, &png);
+    if (status != CAIRO_STATUS_SUCCESS)
+        return cannotBeDrawn(status);
+    AssetCatalog::Picture picture;
+    picture.width = static_cast<std::uint32_t>(pixels->columns);
+    picture.height = static_cast<std::uint32_t>(pixels->rows);
+    picture.bytes = AssetCatalog::shared(std::move(png));
+    return picture;
+}
+
+} // namespace SourcePictures

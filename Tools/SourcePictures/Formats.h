@@ -1,0 +1,15 @@
+// SourcePictures/Formats.h
+// The format of a picture, told by its first bytes; internal.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace SourcePictures {
+
+enum class Format { png, jpeg, gif, tiff, webp, heif, svg, pdf };
+
+// No value for other formats.
+[[nodiscard]] std::optional<Format> formatOf(std::string_view bytes);
+
+} // namespace SourcePictures
