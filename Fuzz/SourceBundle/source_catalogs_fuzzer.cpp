@@ -24,8 +24,7 @@ class Source {
 public:
     Source() : contents_(folder_.write("contents", "")) {
         folder_.write("secret", "");
-        for (const char* set :
-             {"A.xcassets/Folder/i.imageset", "A.xcassets/Folder/c.colorset", "A.xcassets/d.dataset",
+        for (const char* set : {"A.xcassets/Folder/i.imageset", "A.xcassets/Folder/c.colorset", "A.xcassets/d.dataset",
                                 "A.xcassets/Folder/s.symbolset"}) {
             folder_.write(std::string(set) + "/1.png", "");
             fs::create_directory(folder_ / set / "folder");

@@ -1,5 +1,5 @@
-#include "Pictures/internal/LongjmpScope.h"
 #include "Pictures/internal/Decoders.h"
+#include "Pictures/internal/LongjmpScope.h"
 
 #include <cstdio>
 #include <cstring>

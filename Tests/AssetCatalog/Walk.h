@@ -54,7 +54,8 @@ inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
                 std::abort();
             if (entry.kind() == AssetCatalog::Kind::image) {
                 const AssetCatalog::PictureView picture = entry.picture(variant);
-                if (!(picture.points.width > 0) || !std::isfinite(picture.capInsets.top + picture.alignmentInsets.right))
+                if (!(picture.points.width > 0) ||
+                    !std::isfinite(picture.capInsets.top + picture.alignmentInsets.right))
                     std::abort();
                 read(picture.blob);
             } else if (entry.kind() == AssetCatalog::Kind::color)

@@ -83,7 +83,8 @@ TEST(DamagedCatalog, SharedPartsAreBounded) {
                                              buffer.CreateString(name), 0, colors));
     }
     Format::FinishSizePrefixedCatalogBuffer(
-        buffer, Format::CreateCatalog(buffer, Format::version, 0, buffer.CreateVector(hashes), buffer.CreateVector(assets)));
+        buffer,
+        Format::CreateCatalog(buffer, Format::version, 0, buffer.CreateVector(hashes), buffer.CreateVector(assets)));
     std::string bytes(reinterpret_cast<const char*>(buffer.GetBufferPointer()), buffer.GetSize());
     bytes.resize(Format::aligned(bytes.size()));
     EXPECT_EQ(Catalog::read(Walk::Exact(bytes).span()).error().message,

@@ -202,8 +202,8 @@ TEST(CompileBundle, UsesTheLastCompileWhereNothingChanged) {
         bytes[place] = static_cast<char>(~bytes[place]);
     folder.write("out.bundle/Assets.catalog", bytes);
     compileAndCompare(__LINE__);
-    folder.write("out.bundle/.lumora-bundle", "Made by lumora compile.\n0 1 2\n\n" + std::string(40, '0') +
-                                                  " 1 1 1 1 1 99999999999999999999 1 0\n");
+    folder.write("out.bundle/.lumora-bundle",
+                 "Made by lumora compile.\n0 1 2\n\n" + std::string(40, '0') + " 1 1 1 1 1 99999999999999999999 1 0\n");
     compileAndCompare(__LINE__);
 }
 
@@ -212,8 +212,7 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
     folder.write("source/Base.lproj/A.strings", "a = b;");
     folder.write("photos/one", "dear");
     const std::string photos = folder / "photos";
-    EXPECT_EQ(compile(folder / "source", photos).failure,
-              photos + ": already exists and is not a compiled bundle");
+    EXPECT_EQ(compile(folder / "source", photos).failure, photos + ": already exists and is not a compiled bundle");
     EXPECT_EQ(Support::contents(folder / "photos/one"), "dear");
     // Nor what people edit, though it looks much like one.
     folder.write("source/Info.plist", "<plist><dict/></plist>");

@@ -16,12 +16,12 @@ protected:
     std::vector<SourceAsset> read() {
         diagnostics = {};
         const std::filesystem::path folders[] = {folder.path()};
-        return SourceBundle::sourceAssets(
-            SourceBundle::findFiles(folders, diagnostics).catalogs, diagnostics, [](const SourceBundle::SourceFile& file) -> Runtime::Result<void> {
-                if (Support::contents(file.path) == "unreadable")
-                    return Runtime::Error{.message = "is damaged", .file = file.path};
-                return {};
-            });
+        return SourceBundle::sourceAssets(SourceBundle::findFiles(folders, diagnostics).catalogs, diagnostics,
+                                          [](const SourceBundle::SourceFile& file) -> Runtime::Result<void> {
+                                              if (Support::contents(file.path) == "unreadable")
+                                                  return Runtime::Error{.message = "is damaged", .file = file.path};
+                                              return {};
+                                          });
     }
     // "severity path-below-the-folder[:line:column]: message"
     std::vector<std::string> said() {
@@ -118,14 +118,17 @@ TEST_F(Catalogs, TakeThePicturesOfOneKindOfDevice) {
          R"({"idiom": "ipad", "filename": "2"}, {"idiom": "universal", "subtype": "retina4", "filename": "3"},
             {"idiom": "universal", "filename": "1"})",
          {"1"},
-         {"note " + contents + R"(entry 1 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "universal" are used)",
-          "note " + contents + R"(entry 2 ("3") is for other devices (idiom "universal", subtype "retina4") and is left out: the variants for idiom "universal" are used)"}},
+         {"note " + contents +
+              R"(entry 1 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "universal" are used)",
+          "note " + contents +
+              R"(entry 2 ("3") is for other devices (idiom "universal", subtype "retina4") and is left out: the variants for idiom "universal" are used)"}},
         {__LINE__,
          R"({"idiom": "universal", "filename": "missing"}, {"idiom": "universal", "filename": ""},
             {"idiom": "ipad", "filename": "2"}, {"idiom": "iphone", "filename": "1"})",
          {"1"},
          {"warning A.xcassets/p.imageset/missing: does not exist; it is left out",
-          "note " + contents + R"(entry 3 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "iphone" are used)"}},
+          "note " + contents +
+              R"(entry 3 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "iphone" are used)"}},
         // The only pictures are taken, whatever they are for; of the sizes of a watch those of the widest.
         {__LINE__, R"({"idiom": "universal", "display-gamut": "display-P3", "filename": "1"})", {"1"}, {}},
         {__LINE__, R"({"idiom": "universal", "display-gamut": "sRGB", "filename": "1"})", {"1"}, {}},
@@ -134,14 +137,18 @@ TEST_F(Catalogs, TakeThePicturesOfOneKindOfDevice) {
             {"idiom": "watch", "screen-width": ">183", "scale": "2x", "filename": "2"},
             {"idiom": "watch", "screen-width": ">161", "scale": "2x", "filename": "3"})",
          {"2"},
-         {"note " + contents + R"(entry 3 ("3") is for other devices (idiom "watch", screen-width ">161") and is left out: the variants for idiom "watch", screen-width ">183" are used)",
-          "note " + contents + R"(entry 1 ("1") is for other devices (idiom "watch", screen-width "<=145") and is left out: the variants for idiom "watch", screen-width ">183" are used)"}},
+         {"note " + contents +
+              R"(entry 3 ("3") is for other devices (idiom "watch", screen-width ">161") and is left out: the variants for idiom "watch", screen-width ">183" are used)",
+          "note " + contents +
+              R"(entry 1 ("1") is for other devices (idiom "watch", screen-width "<=145") and is left out: the variants for idiom "watch", screen-width ">183" are used)"}},
         // No reader can want these scales.
         {__LINE__,
          R"({"scale": "10x", "filename": "1"}, {"scale": "2x", "filename": "2"}, {"scale": "2X", "filename": "3"})",
          {"2"},
-         {"note " + contents + R"(entry 1 ("1") is for other devices (idiom "universal", scale "10x") and is left out: the variants for idiom "universal" are used)",
-          "note " + contents + R"(entry 3 ("3") is for other devices (idiom "universal", scale "2X") and is left out: the variants for idiom "universal" are used)"}},
+         {"note " + contents +
+              R"(entry 1 ("1") is for other devices (idiom "universal", scale "10x") and is left out: the variants for idiom "universal" are used)",
+          "note " + contents +
+              R"(entry 3 ("3") is for other devices (idiom "universal", scale "2X") and is left out: the variants for idiom "universal" are used)"}},
         {__LINE__, R"({"scale": "1.5x", "filename": "1"})", {"1"}, {}},
     };
     for (const auto& one : cases) {
@@ -173,7 +180,8 @@ TEST_F(Catalogs, SayOnceWhatIsLeftOut) {
         {__LINE__,
          R"({"filename": "missing"})",
          {},
-         {"warning A.xcassets/p.imageset/missing: does not exist; it is left out, and with it the set, which has no other variant"}},
+         {"warning A.xcassets/p.imageset/missing: does not exist; it is left out, and with it the set, which has no "
+          "other variant"}},
         {__LINE__,
          R"({"scale": "1x"})",
          {},
@@ -255,7 +263,8 @@ TEST_F(Catalogs, KnowSystemColorsForLightAndDark) {
     EXPECT_EQ(both[1].value.components, (std::array{1.0, 69 / 255.0, 58 / 255.0, 1.0}));
     // A dark colour of the set's own counts.
     const std::string dark = R"("appearances": [{"appearance": "luminosity", "value": "dark"}])";
-    const auto own = colors(reference + "}, {" + dark + R"(, "color": {"components": {"red": 0, "green": 0, "blue": 0}}})");
+    const auto own =
+        colors(reference + "}, {" + dark + R"(, "color": {"components": {"red": 0, "green": 0, "blue": 0}}})");
     ASSERT_EQ(own.size(), 2U);
     EXPECT_EQ(own[1].value.components, (std::array{0.0, 0.0, 0.0, 1.0}));
     EXPECT_EQ(colors(reference + ", " + dark + "}").at(0).value.components[1], 69 / 255.0);

@@ -183,8 +183,8 @@ TEST(PictureFile, RefusesWhatCannotBeRead) {
 
 // The libraries below are called by several threads.
 TEST(PictureFile, GivesTheSameInEveryThread) {
-    const std::string files[] = {Support::contents(LUMORA_RESOURCES "/Images2.xcassets/card.imageset/card.pdf"), svg(R"(width="99" height="99")"),
-                                 data("two-frames.gif"), data("plain.heic")};
+    const std::string files[] = {Support::contents(LUMORA_RESOURCES "/Images2.xcassets/card.imageset/card.pdf"),
+                                 svg(R"(width="99" height="99")"), data("two-frames.gif"), data("plain.heic")};
     for (const std::string& file : files) {
         const auto expected = pictures(file);
         std::vector<std::jthread> threads;

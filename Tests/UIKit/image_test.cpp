@@ -86,8 +86,7 @@ TEST(UIImage, FollowsTheLanguageOfTheTexts) {
     folder.write(AssetCatalog::fileName, AssetCatalog::build(Sample::assets())->bytes());
     folder.write("ru.lproj/Localizable.strings", "a = b;");
     folder.write("en.lproj/Localizable.strings", "a = b;");
-    const UIImage sign =
-        UIImage::imageNamed("sign", Foundation::NSBundle::bundleWithPath(folder.path())).value();
+    const UIImage sign = UIImage::imageNamed("sign", Foundation::NSBundle::bundleWithPath(folder.path())).value();
     Foundation::Host::setPreferredLanguages({"de", "ru"});
     EXPECT_EQ(sign.pixelWidth(), 5U);
     Foundation::Host::setPreferredLanguages({"en", "ru"});

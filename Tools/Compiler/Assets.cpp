@@ -162,8 +162,8 @@ void leaveOutTwins(std::vector<SourceAsset>& assets, Diagnostics& diagnostics) {
 
 std::vector<Asset> compiledAssets(std::span<const fs::path> catalogs, Files& files, Diagnostics& diagnostics,
                                   const Progress& progress) {
-    std::vector<SourceAsset> sources = SourceBundle::sourceAssets(
-        catalogs, diagnostics, [&](const SourceFile& file) { return files.check(file); });
+    std::vector<SourceAsset> sources =
+        SourceBundle::sourceAssets(catalogs, diagnostics, [&](const SourceFile& file) { return files.check(file); });
     leaveOutTwins(sources, diagnostics);
     std::vector<Asset> assets(sources.size());
     std::vector<Diagnostics> messages(sources.size());

@@ -163,8 +163,8 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
 
 // The lock is taken before the folder is marked: an unlocked marked folder is abandoned.
 StagedFolder::StagedFolder(fs::path target, fs::path staged)
-    : target_(std::move(target)), staged_(std::move(staged)), lock_(lock(staged_)),
-      reserve_{reserved(), reserved(), reserved()} {}
+    : target_(std::move(target)), staged_(std::move(staged)),
+      lock_(lock(staged_)), reserve_{reserved(), reserved(), reserved()} {}
 
 StagedFolder::StagedFolder(StagedFolder&& other) noexcept
     : target_(std::move(other.target_)), staged_(std::exchange(other.staged_, fs::path())),

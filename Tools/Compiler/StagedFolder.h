@@ -29,8 +29,8 @@ public:
     [[nodiscard]] const std::filesystem::path& path() const noexcept { return staged_; }
     [[nodiscard]] const std::filesystem::path& target() const noexcept { return target_; }
 
-    // Writes a file below the folder, whose content is the pieces. If the target has the same file, that one is linked, so
-    // that it keeps its time.
+    // Writes a file below the folder, whose content is the pieces. If the target has the same file, that one is linked,
+    // so that it keeps its time.
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name,
                                               std::span<const std::string_view> pieces) const;
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name, std::string_view bytes) const {

@@ -12,7 +12,6 @@ namespace Tools {
 
 namespace {
 
-using AssetCatalog::Kind;
 using Generator::CatalogTable;
 using Generator::Model;
 using Generator::Parameter;
@@ -34,18 +33,6 @@ const char* nameOf(Parameter parameter) {
         return "integer";
     case Parameter::number:
         return "number";
-    }
-    return "";
-}
-
-const char* nameOf(Kind kind) {
-    switch (kind) {
-    case Kind::image:
-        return "image";
-    case Kind::color:
-        return "color";
-    case Kind::data:
-        return "data";
     }
     return "";
 }

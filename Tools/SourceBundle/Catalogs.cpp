@@ -21,7 +21,6 @@ using AssetCatalog::Kind;
 
 namespace {
 
-
 std::vector<fs::path> sortedEntries(const fs::path& folder, Diagnostics& diagnostics) {
     std::vector<fs::path> entries;
     std::error_code failed;
@@ -103,8 +102,7 @@ private:
             if (entry.filename().native().starts_with('.'))
                 continue;
             if (isLinkedFolder(entry))
-                diagnostics_.add(Severity::note,
-                                 {.message = "is a link to a folder and is left out", .file = entry});
+                diagnostics_.add(Severity::note, {.message = "is a link to a folder and is left out", .file = entry});
             else if (isFolder(entry))
                 findFolder(entry, prefix, depth);
         }

@@ -20,7 +20,7 @@ struct SourceFile {
     std::filesystem::path path{};
     std::string typeIdentifier{}; // of data, or empty
     // Of pictures:
-    bool isSymbol = false;        // see SourcePictures::Purpose
+    bool isSymbol = false; // see SourcePictures::Purpose
     bool preservesVector = false;
     AssetCatalog::Resizing resizing = AssetCatalog::Resizing::stretch;
     AssetCatalog::Insets capInsets{}; // in points
@@ -44,13 +44,12 @@ using PictureCheck = std::function<Runtime::Result<void>(const SourceFile& file)
 // Reads the file and checks it with SourcePictures::check().
 [[nodiscard]] Runtime::Result<void> checkPicture(const SourceFile& file);
 
-// The assets of the catalogs, which are folders, in the order of the catalogs and then of their paths, those of a folder
-// before those of the folders in it. Several may have one kind and name, of which the first counts. Docs/catalogs.md says
-// what is read. Whatever cannot be used is left out with a warning: a set with a broken Contents.json, a file that is
-// missing or outside of its set, a picture that `check` refuses, a colour without meaning. What is left out on purpose is
-// a note. Errors: a folder that cannot be read.
+// The assets of the catalogs, which are folders, in the order of the catalogs and then of their paths, those of a
+// folder before those of the folders in it. Several may have one kind and name, of which the first counts.
+// Docs/catalogs.md says what is read. Whatever cannot be used is left out with a warning: a set with a broken
+// Contents.json, a file that is missing or outside of its set, a picture that `check` refuses, a colour without
+// meaning. What is left out on purpose is a note. Errors: a folder that cannot be read.
 [[nodiscard]] std::vector<SourceAsset> sourceAssets(std::span<const std::filesystem::path> catalogs,
-                                                    Diagnostics& diagnostics,
-                                                    const PictureCheck& check = checkPicture);
+                                                    Diagnostics& diagnostics, const PictureCheck& check = checkPicture);
 
 } // namespace SourceBundle

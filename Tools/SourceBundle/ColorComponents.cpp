@@ -79,9 +79,11 @@ Runtime::Result<ColorValue> colorValue(const Json& json) {
         const Json& component = member(member(json, "components"), names[i]);
         const std::optional<double> value = componentValue(component, i == 3);
         if (!value)
-            return Runtime::Error{.message = std::string("has no possible colour component ") + quotedName(names[i]) +
-                                             (component.is_null() ? "" : ": " + quotedName(component.dump(
-                                                 -1, ' ', false, Json::error_handler_t::replace)))};
+            return Runtime::Error{
+                .message = std::string("has no possible colour component ") + quotedName(names[i]) +
+                           (component.is_null()
+                                ? ""
+                                : ": " + quotedName(component.dump(-1, ' ', false, Json::error_handler_t::replace)))};
         color.components[i] = *value;
     }
     return color;

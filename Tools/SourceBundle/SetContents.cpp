@@ -145,9 +145,9 @@ private:
         const fs::file_status status = fs::symlink_status(file, failed);
         if (fs::is_regular_file(status))
             return file;
-        const char* fault = fs::is_symlink(status)  ? "is a link, which is not followed"
-                            : fs::exists(status)    ? "is not a regular file"
-                                                    : "does not exist";
+        const char* fault = fs::is_symlink(status) ? "is a link, which is not followed"
+                            : fs::exists(status)   ? "is not a regular file"
+                                                   : "does not exist";
         diagnostics_.add(Severity::warning, leftOut({.message = fault, .file = file}));
         return std::nullopt;
     }

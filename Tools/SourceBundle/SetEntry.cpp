@@ -3,8 +3,8 @@
 #include "SourceBundle/QuotedName.h"
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cctype>
+#include <charconv>
 #include <string_view>
 
 namespace SourceBundle {
@@ -15,7 +15,7 @@ namespace {
 
 // The kinds of device in the order in which their variants are taken.
 std::size_t rankOf(std::string_view idiom) {
-    static constexpr std::array<std::string_view, 9> idioms = {"universal", "iphone", "ipad",   "mac", "vision",
+    static constexpr std::array<std::string_view, 9> idioms = {"universal", "iphone", "ipad",  "mac", "vision",
                                                                "reality",   "tv",     "watch", "car"};
     return static_cast<std::size_t>(std::ranges::find(idioms, idiom) - idioms.begin());
 }
@@ -57,8 +57,8 @@ bool readScale(std::string_view scale, Fit& fit) {
 
 // Conditions that no reader here can have; an entry with some of them is taken when there is no other.
 std::vector<std::string> conditionsOf(const Json& entry) {
-    static constexpr std::array names = {"subtype",      "screen-width",         "width-class",  "height-class",
-                                         "memory",       "graphics-feature-set", "display-gamut"};
+    static constexpr std::array names = {"subtype", "screen-width",         "width-class",  "height-class",
+                                         "memory",  "graphics-feature-set", "display-gamut"};
     std::vector<std::string> conditions;
     for (const char* name : names)
         if (const std::string value = text(entry, name); !value.empty() && value != "sRGB" && value != "any")

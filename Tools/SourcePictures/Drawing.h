@@ -17,7 +17,8 @@ public:
     // Makes sure that picture() succeeds at that scale, by drawing into a single pixel. Errors: damaged, no size, more
     // pixels than a catalog may hold.
     [[nodiscard]] Runtime::Result<void> check(double scale) const;
-    // The drawing as a PNG of `scale` pixels per unit. It fills the picture, whose sides are rounded up to whole pixels.
+    // The drawing as a PNG of `scale` pixels per unit. It fills the picture, whose sides are rounded up to whole
+    // pixels.
     [[nodiscard]] Runtime::Result<AssetCatalog::Picture> picture(double scale) const;
     [[nodiscard]] AssetCatalog::Size size() const { return form_->size(); }
 

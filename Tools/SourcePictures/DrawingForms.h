@@ -25,8 +25,8 @@ using DrawingResult = Runtime::Result<std::unique_ptr<const DrawingForm>>;
 
 // Nothing outside of `bytes`, which must outlive the drawing, is read. Errors: damaged.
 [[nodiscard]] DrawingResult readSvg(std::string_view bytes);
-// Of a symbol's template the regular drawing: of medium size, or else of the small or large one; without any of them the
-// whole drawing.
+// Of a symbol's template the regular drawing: of medium size, or else of the small or large one; without any of them
+// the whole drawing.
 [[nodiscard]] DrawingResult readSymbol(std::string_view bytes);
 // The first page.
 [[nodiscard]] DrawingResult readPdf(std::string_view bytes);

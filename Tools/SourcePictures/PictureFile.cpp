@@ -116,7 +116,7 @@ Runtime::Error unknownFormat() {
 
 std::optional<Format> formatOf(std::string_view bytes) {
     static constexpr std::pair<std::string_view, Format> beginnings[] = {
-        {"\x89PNG", Format::png},  {"\xFF\xD8\xFF", Format::jpeg},          {"GIF8", Format::gif},
+        {"\x89PNG", Format::png},     {"\xFF\xD8\xFF", Format::jpeg}, {"GIF8", Format::gif},
         {{"MM\0*", 4}, Format::tiff}, {{"II*\0", 4}, Format::tiff},
     };
     for (const auto& [beginning, format] : beginnings)

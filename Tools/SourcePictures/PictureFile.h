@@ -29,9 +29,9 @@ struct Purpose {
 // size, more pixels than a catalog may hold.
 [[nodiscard]] Runtime::Result<void> check(const std::string& bytes, const Purpose& purpose);
 
-// What a catalog holds of the file: a PNG or JPEG as it is, another raster format as a PNG, a drawing (of a PDF the first
-// page) as a PNG for each of the scales 1, 2 and 3, or for the scale that it was made for. That one comes first where
-// there are others. Of the fits only the scale is set.
+// What a catalog holds of the file: a PNG or JPEG as it is, another raster format as a PNG, a drawing (of a PDF the
+// first page) as a PNG for each of the scales 1, 2 and 3, or for the scale that it was made for. That one comes first
+// where there are others. Of the fits only the scale is set.
 [[nodiscard]] Runtime::Result<std::vector<AssetCatalog::Picture>> picturesOf(const AssetCatalog::Bytes& bytes,
                                                                              const Purpose& purpose);
 

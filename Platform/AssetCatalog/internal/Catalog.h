@@ -28,9 +28,9 @@ inline constexpr std::string_view fileName = "Assets.catalog";
 inline constexpr std::size_t maxBytes = std::size_t{4} << 30;
 inline constexpr std::size_t maxIndexBytes = std::size_t{256} << 20; // everything but the blobs
 inline constexpr std::size_t maxAssets = std::size_t{1} << 18;
-inline constexpr std::size_t maxVariants = 256; // of one asset
-inline constexpr std::size_t maxNameBytes = 1024;       // of an asset, its folders included
-inline constexpr std::size_t maxOtherTextBytes = 255;    // of a catalog's name, a language, a type identifier
+inline constexpr std::size_t maxVariants = 256;       // of one asset
+inline constexpr std::size_t maxNameBytes = 1024;     // of an asset, its folders included
+inline constexpr std::size_t maxOtherTextBytes = 255; // of a catalog's name, a language, a type identifier
 inline constexpr std::uint64_t maxPixels = std::uint64_t{64} << 20; // of one picture
 
 // Variants as a catalog holds them. See Picture and Data.
