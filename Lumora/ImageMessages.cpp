@@ -16,7 +16,7 @@ std::optional<UIKit::UIImage> assetNamed(const std::string& name) {
 #define LEGACY_IMAGE(name, olderName, asset) Runtime::message<&UIImage::olderName>(#olderName),
 #define LEGACY_NAME(name, olderName, asset) Runtime::message<&UIImage::olderName>(#olderName),
 constexpr Runtime::Message imageProperties[] = {
-#include "Lumora/LegacyImages.inc"
+#include "Lumora/internal/LegacyImages.inc"
 };
 #undef LEGACY_IMAGE
 #undef LEGACY_NAME

@@ -20,7 +20,7 @@ namespace Lumora::UIImage {
     std::string olderName() {                                                                                          \
         return name();                                                                                                 \
     }
-#include "Lumora/LegacyImages.inc"
+#include "Lumora/internal/LegacyImages.inc"
 #undef LEGACY_IMAGE
 #undef LEGACY_NAME
 

@@ -7,6 +7,9 @@ namespace Lumora::UIImage {
 
 namespace {
 
+// Kept, as older screens' sources name it; pictures come from LumoraResources::bundle() only.
+class ResourceBundleClass {};
+
 using Candidates = std::initializer_list<const char*>;
 
 UIKit::UIImage load(const char* name) {

@@ -5,6 +5,11 @@
 #pragma once
 
 #include "Runtime/Export.h"
+
+#ifndef __cpp_rtti
+#error "message dispatch compares types at run time: compile with -frtti, or do without Runtime/Class.h"
+#else
+
 #include <concepts>
 #include <cstddef> // std::byte
 #include <cstdint>
@@ -140,3 +145,5 @@ Carried<Result> send(const Class* cls, std::string_view selector, const Argument
 }
 
 } // namespace Runtime
+
+#endif // __cpp_rtti

@@ -5,6 +5,7 @@
 // and never destroys it, so that nothing runs when the process ends.
 #pragma once
 
+#include "Runtime/Export.h"
 #include <atomic>
 #include <cstddef> // std::byte
 #include <cstdint>
