@@ -10,11 +10,15 @@
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <limits>
 #include <link.h>
 #include <new>
 #include <optional>
+#include <sys/resource.h>
+#include <unistd.h>
+#include <utility>
 #include <vector>
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/lsan_interface.h>
@@ -207,6 +211,53 @@ TEST(NoMemory, APlainReadNeverThrows) {
                   return isEmpty && !Texts::continue_().empty() ? 0 : 1;
               }),
               0);
+}
+
+// Bytes of address space in use.
+rlim_t addressSpace() {
+    rlim_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    return pages * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
+}
+
+// The address space is too small for the language data, or for some of it, at the first read: mappings fail,
+// allocations may not. Once there is room the text is right.
+TEST(NoMemory, TooLittleAddressSpaceIsNotRemembered) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "a sanitizer needs all addresses";
+#endif
+    const struct {
+        int line;
+        std::string (*read)();
+        const char* right;
+    } reads[] = {
+        {__LINE__, [] { return Localization::legacyTrYear(25); }, "\u0662\u0665 лет"},
+        {__LINE__, [] { return Localization::legacyTrNumber(25, false); }, "\u0662\u0665"},
+        {__LINE__, [] { return Texts::continue_(); }, "Продолжить"},
+        {__LINE__, [] { return std::to_string(Lumora::LumoraAsset::Images::send.image().rgba() != nullptr ? 1 : 0); },
+         "1"},
+    };
+    for (const auto& one : reads)
+        for (rlim_t room = 0; room < (rlim_t{64} << 20); room += room < (rlim_t{4} << 20) ? 200'000 : 1'900'000)
+            ASSERT_EQ(Child::exitOf([&] {
+                          Foundation::Host::setPreferredLanguages({"ru"});
+                          Foundation::Host::setCurrentLocale("ru_RU@numbers=arab");
+                          static_cast<void>(Lumora::LumoraResources::bundle());
+                          rlimit limit{};
+                          ::getrlimit(RLIMIT_AS, &limit);
+                          const rlim_t old = std::exchange(limit.rlim_cur, addressSpace() + room);
+                          ::setrlimit(RLIMIT_AS, &limit);
+                          std::optional<std::string> first;
+                          try { // pictures and what the test itself takes may throw
+                              first = one.read();
+                          } catch (const std::exception&) {
+                          }
+                          limit.rlim_cur = old;
+                          ::setrlimit(RLIMIT_AS, &limit);
+                          return one.read() == one.right ? 0 : 1;
+                      }),
+                      0)
+                << "line " << one.line << ", " << room << " bytes";
 }
 
 TEST(NoMemory, ADescriptionIsEmpty) {

@@ -1,5 +1,7 @@
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
+#include "Foundation/NSDictionary.h"
+#include "Foundation/NSNumberFormatter.h"
 
 #include "../Support/TemporaryFolder.h"
 #include <gtest/gtest.h>
@@ -80,6 +82,26 @@ TEST_F(Bundle, LooksInTheChosenLanguageThenInTheDevelopmentTexts) {
     // A change of the host's languages is seen by the next call.
     Host::setPreferredLanguages({"en"});
     EXPECT_EQ(text("both"), "Base");
+}
+
+// The system would read such a name up to the NUL, and find something else.
+TEST_F(Bundle, RefusesNamesWithANul) {
+    const std::string nul(1, '\0');
+    write("Base.lproj/T.strings", "a = text;");
+    write("de.lproj/T.strings", "a = deutsch;");
+    Host::setPreferredLanguages({"de" + nul});
+    EXPECT_EQ(text("a", "T"), "text");
+    EXPECT_EQ(text("a", "T" + nul), "a");
+    EXPECT_EQ(text("a", "T.strings" + nul), "a");
+    EXPECT_EQ(bundle().pathForResource("T" + nul, "strings", "", "de"), std::nullopt);
+    EXPECT_EQ(bundle().pathForResource("T.strings" + nul, "", "", "de"), std::nullopt);
+    EXPECT_EQ(bundle().pathForResource("T", "strings", "", "de.lproj" + nul), std::nullopt);
+    EXPECT_TRUE(NSBundle::bundleWithPath(folder_.path().string() + nul).localizations().empty());
+    EXPECT_FALSE(Foundation::NSDictionary::dictionaryWithContentsOfFile(folder_ / ("de.lproj/T.strings" + nul)));
+
+    Host::setCurrentLocale("de_DE" + nul);
+    EXPECT_EQ(Foundation::Locale::current().identifier(), "de_DE" + nul);
+    EXPECT_EQ(Foundation::NSNumberFormatter().stringFromNumber(1234.5), "1,234.5"); // as the root locale
 }
 
 TEST_F(Bundle, ReadsATableOnce) {
