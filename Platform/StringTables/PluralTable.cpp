@@ -96,7 +96,7 @@ private:
             entries_.emplace_back().key = keys_[0];
             places_.emplace_back();
         } else {
-            contents_.note("the key ", keys_[0], " appears again; this entry holds", offsets_[0]);
+            contents_.noteRepeated(keys_[0], "this entry holds", offsets_[0]);
         }
         entries_[known->second].plural = std::move(plural_);
         places_[known->second] = offsets_[0];

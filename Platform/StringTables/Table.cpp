@@ -54,6 +54,13 @@ void Contents::note(std::string_view before, std::string_view key, std::string_v
         found.push_back({static_cast<std::uint32_t>(offset), std::string(before).append(quoted(key)).append(after)});
 }
 
+void Contents::noteRepeated(std::string_view key, std::string_view what, std::size_t offset) {
+    const std::size_t before = found.size();
+    note("the key ", key, std::string(" appears again; ").append(what), offset);
+    if (found.size() != before)
+        found.back().repeatedKey.emplace(key);
+}
+
 void Contents::noteSkipped(std::string_view key, std::string_view what, std::size_t offset) {
     note("the value of ", key, std::string(" is ").append(what).append(", not a text; passed over"), offset);
 }
@@ -67,7 +74,7 @@ void Contents::addSkipped(std::string_view key, std::string_view what, std::size
 
 void Contents::noteReplaced(const Entry& entry, const Entry& later) {
     if (hasText(later))
-        note("the key ", later.key, " appears again; this text holds", later.offset);
+        noteRepeated(later.key, "this text holds", later.offset);
     else if (hasText(entry))
         note("the key ", later.key, " appears again without a text; the earlier text is dropped", later.offset);
 }
@@ -82,9 +89,9 @@ void Contents::finish() {
     std::ranges::stable_sort(found, {}, &Note::offset);
     Locator locator(*this);
     for (Note& kept : found)
-        notes.push_back(locator.error(kept.offset, std::move(kept.message)));
+        notes.push_back({locator.error(kept.offset, std::move(kept.message)), std::move(kept.repeatedKey)});
     if (more != 0)
-        notes.push_back({std::to_string(more) + " more of such notes", {}});
+        notes.push_back({{.message = std::to_string(more) + " more of such notes"}});
     found = {};
 }
 
@@ -217,8 +224,8 @@ std::span<const Entry> Table::entries() const noexcept {
     return contents_ ? std::span<const Entry>(contents_->entries) : std::span<const Entry>();
 }
 
-std::span<const Runtime::Error> Table::notes() const noexcept {
-    return contents_ ? std::span<const Runtime::Error>(contents_->notes) : std::span<const Runtime::Error>();
+std::span<const TableNote> Table::notes() const noexcept {
+    return contents_ ? std::span<const TableNote>(contents_->notes) : std::span<const TableNote>();
 }
 
 std::vector<Location> Table::locations() const {

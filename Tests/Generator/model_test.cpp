@@ -179,8 +179,8 @@ TEST(Model, ChecksItsOptions) {
     SourceBundle::Diagnostics diagnostics;
     Generator::check({.module = "class", .includes = {"a\"b"}, .shards = 0}, diagnostics);
     Strings messages;
-    for (const auto& [severity, what] : diagnostics.all())
-        messages.push_back(what.text());
+    for (const SourceBundle::Diagnostic& diagnostic : diagnostics.all())
+        messages.push_back(diagnostic.what.text());
     EXPECT_EQ(messages, (Strings{"the module's name is not a C++ identifier, or is reserved: \"class\"",
                                  "cannot be included: \"a\"b\"", "the accessors are split into 1 to 1000 sources"}));
 }

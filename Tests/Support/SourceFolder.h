@@ -20,7 +20,7 @@ public:
     // "warning: FILE:LINE:COLUMN: MESSAGE", file names below the folder; forgets them.
     std::vector<std::string> takeMessages() {
         std::vector<std::string> all;
-        for (const auto& [severity, what] : diagnostics.all()) {
+        for (const auto& [severity, what, topic, subject] : diagnostics.all()) {
             constexpr const char* words[] = {"note: ", "warning: ", "error: "};
             all.push_back(words[static_cast<int>(severity)] + withoutFolder(what.text()));
         }

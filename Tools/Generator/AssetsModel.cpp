@@ -11,6 +11,7 @@ namespace Generator {
 using SourceBundle::Diagnostics;
 using SourceBundle::Severity;
 using SourceBundle::SourceAsset;
+using SourceBundle::Topic;
 
 namespace {
 
@@ -44,14 +45,18 @@ AssetTree assetTreeOf(std::span<const SourceAsset> assets, Diagnostics& diagnost
         const SourceAsset& asset = assets[number];
         std::vector<std::string> path = pathOf(asset);
         std::string fault = faultOf(path);
+        Topic topic = Topic::noAccessor;
         std::erase(path, std::string()); // a folder without a name is none
         if (fault.empty())
-            if (const auto conflict = names.claim(path, number))
+            if (const auto conflict = names.claim(path, number)) {
+                topic = Topic::nameClash;
                 fault = "the name " + conflict->name + " belongs to " + assets[conflict->owner.number].path.string();
+            }
         if (!fault.empty()) {
             diagnostics.add(
                 Severity::warning,
-                {.message = "the asset " + quote(asset.name) + " has no constant: " + fault, .file = asset.path});
+                {.message = "the asset " + quote(asset.name) + " has no constant: " + fault, .file = asset.path}, topic,
+                asset.name);
             tree.leftOut.push_back({&asset, std::move(fault)});
             continue;
         }

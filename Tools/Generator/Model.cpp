@@ -13,6 +13,7 @@ using SourceBundle::Severity;
 using SourceBundle::Source;
 using SourceBundle::SourceEntry;
 using SourceBundle::SourceTable;
+using SourceBundle::Topic;
 
 namespace {
 
@@ -75,6 +76,7 @@ private:
         bool isNamed = false; // by the names file
         std::vector<Parameter> parameters{};
         std::string fault{};
+        bool isClash = false; // the fault
     };
 
     static void readText(Candidate& candidate, Diagnostics& diagnostics) {
@@ -86,7 +88,8 @@ private:
             diagnostics.add(Severity::warning,
                             candidate.entry->error("the text of key " + quote(candidate.entry->key) +
                                                    " has a % that begins no placeholder; it is printed as it is (write "
-                                                   "%% if that is meant)"));
+                                                   "%% if that is meant)"),
+                            Topic::lonePercent, candidate.entry->key);
     }
 
     void findName(Candidate& candidate) {
@@ -96,9 +99,11 @@ private:
         if (!candidate.fault.empty())
             return;
         const auto number = static_cast<std::size_t>(&candidate - candidates_.data());
-        if (const auto conflict = names_.claim(candidate.path, number))
+        if (const auto conflict = names_.claim(candidate.path, number)) {
+            candidate.isClash = true;
             candidate.fault =
                 "the name " + conflict->name + " belongs to " + describe(conflict->owner, *candidate.entry);
+        }
     }
 
     // The owner as a reader of a message about `entry` finds it.
@@ -115,7 +120,8 @@ private:
         const SourceEntry& entry = *candidate.entry;
         if (!candidate.fault.empty()) {
             diagnostics.add(Severity::warning,
-                            entry.error("key " + quote(entry.key) + " has no accessor: " + candidate.fault));
+                            entry.error("key " + quote(entry.key) + " has no accessor: " + candidate.fault),
+                            candidate.isClash ? Topic::nameClash : Topic::noAccessor, entry.key);
             out.leftOut.push_back({&entry, std::move(candidate.fault)});
             return;
         }
@@ -158,7 +164,8 @@ std::vector<CatalogTable> catalogOf(const Source& source, NamesFile& names, Diag
         const std::string reason = spelling.empty()
                                        ? "its name has no letter or digit"
                                        : "the name " + spelling + " belongs to " + fileOf(*known->second).string();
-        diagnostics.add(Severity::warning, {.message = "the table has no accessors: " + reason, .file = fileOf(table)});
+        diagnostics.add(Severity::warning, {.message = "the table has no accessors: " + reason, .file = fileOf(table)},
+                        spelling.empty() ? Topic::noAccessor : Topic::nameClash);
         catalog.push_back(leftOut(source, table, reason));
     }
     names.reportUnused(diagnostics);

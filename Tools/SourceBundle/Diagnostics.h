@@ -5,7 +5,9 @@
 #include "Runtime/internal/Result.h"
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -13,16 +15,32 @@ namespace SourceBundle {
 
 enum class Severity { note, warning, error };
 
+// What a message is about, for tools that sort messages by their kind.
+enum class Topic : std::uint8_t {
+    other,
+    unreadableTable,
+    duplicateKey,
+    lonePercent,
+    nameClash,  // a key or an asset has no accessor because another has its name
+    noAccessor, // a key or an asset has none for another reason
+    missingFile,
+    unreadableAsset,
+    unassignedVariant,
+    duplicateVariant
+};
+
 struct Diagnostic {
     Severity severity;
     Runtime::Error what; // message and place
+    Topic topic = Topic::other;
+    std::string subject{}; // the key or the asset's name, or empty
 };
 
 class Diagnostics {
 public:
-    void add(Severity severity, Runtime::Error what) {
+    void add(Severity severity, Runtime::Error what, Topic topic = Topic::other, std::string_view subject = {}) {
         const bool isRaised = isStrict_ && severity == Severity::warning;
-        all_.push_back({isRaised ? Severity::error : severity, std::move(what)});
+        all_.push_back({isRaised ? Severity::error : severity, std::move(what), topic, std::string(subject)});
     }
 
     const std::vector<Diagnostic>& all() const noexcept { return all_; }

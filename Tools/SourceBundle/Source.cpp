@@ -76,9 +76,11 @@ private:
         LanguageTexts& texts = byName_[file.table].try_emplace(language, language).first->second;
         for (const TableFile* other : texts.files)
             if (!areOneTable(other->kind, file.kind)) {
-                diagnostics_.add(Severity::error, {.message = "is the table \"" + file.table + "\" in the language " +
-                                                              language + ", as is " + other->path.string(),
-                                                   .file = file.path});
+                diagnostics_.add(Severity::error,
+                                 {.message = "is the table \"" + file.table + "\" in the language " + language +
+                                             ", as is " + other->path.string(),
+                                  .file = file.path},
+                                 Topic::unreadableTable);
                 return nullptr;
             }
         texts.files.push_back(&file);
@@ -92,11 +94,10 @@ private:
         auto read = Table::readFile(file.path);
         if (!read) {
             texts->isDamaged = true;
-            return diagnostics_.add(Severity::error, std::move(read.error()));
+            return diagnostics_.add(Severity::error, std::move(read.error()), Topic::unreadableTable);
         }
         const Table& table = storage_.tables.emplace_back(*std::move(read));
-        for (const Runtime::Error& note : table.notes())
-            diagnostics_.add(Severity::warning, note);
+        addNotes(table.notes());
         const std::vector<StringTables::Location> places = table.locations();
         const std::vector<std::string>& comments = storage_.comments.emplace_back(table.comments());
         texts->reserve(places.size());
@@ -116,11 +117,10 @@ private:
         auto read = StringTables::PluralTable::readFile(file.path);
         if (!read) {
             texts->isDamaged = true;
-            return diagnostics_.add(Severity::error, std::move(read.error()));
+            return diagnostics_.add(Severity::error, std::move(read.error()), Topic::unreadableTable);
         }
         const auto& table = storage_.pluralTables.emplace_back(*std::move(read));
-        for (const Runtime::Error& note : table.notes())
-            diagnostics_.add(Severity::warning, note);
+        addNotes(table.notes());
         for (const StringTables::PluralEntry& entry : table.entries()) {
             const SourceEntry* text = texts->find(entry.key);
             texts->replace({.key = entry.key,
@@ -150,7 +150,7 @@ private:
             for (const auto& [code, texts] : languages)
                 if (texts != nullptr)
                     texts->isDamaged = true;
-            return diagnostics_.add(Severity::error, std::move(language.error()));
+            return diagnostics_.add(Severity::error, std::move(language.error()), Topic::unreadableTable);
         }
         (void)textsIn(*language); // be it none
         if (catalogLanguage_.empty())
@@ -170,8 +170,15 @@ private:
         if (text.plural)
             entry.plural = &storage_.plurals.emplace_back(*std::move(text.plural));
         if (texts.find(entry.key) != nullptr)
-            diagnostics_.add(Severity::warning, entry.error("the key appears again; this text is used"));
+            diagnostics_.add(Severity::warning, entry.error("the key appears again; this text is used"),
+                             Topic::duplicateKey, entry.key);
         texts.replace(entry);
+    }
+
+    void addNotes(std::span<const StringTables::TableNote> notes) {
+        for (const StringTables::TableNote& note : notes)
+            diagnostics_.add(Severity::warning, note, note.repeatedKey ? Topic::duplicateKey : Topic::other,
+                             note.repeatedKey.value_or(""));
     }
 
     Source::Storage& storage_;

@@ -54,12 +54,13 @@ struct Contents {
     std::vector<Entry> entries;
     bool hasSkipped = false;                   // there may be entries without a text
     std::optional<std::uint32_t> skippedAtEnd; // where a value was skipped although the table was full
-    std::vector<Runtime::Error> notes;
+    std::vector<TableNote> notes;
     Index index;
 
     struct Note {
         std::uint32_t offset;
         std::string message;
+        std::optional<std::string> repeatedKey{};
     };
     std::vector<Note> found; // notes in the making, at most Table::maxNotes
     std::size_t more = 0;    // notes that were not kept
@@ -76,6 +77,8 @@ struct Contents {
     void noteSkipped(std::string_view key, std::string_view what, std::size_t offset);
     // Notes that `later` has the key of `entry` and replaces it: the last value wins.
     void noteReplaced(const Entry& entry, const Entry& later);
+    // Notes that the key appears again; `what` says which value holds.
+    void noteRepeated(std::string_view key, std::string_view what, std::size_t offset);
     void note(std::string_view before, std::string_view key, std::string_view after, std::size_t offset);
     [[nodiscard]] Runtime::Error errorAt(std::size_t offset, std::string message) const;
     // Makes the table ready for look-ups when its entries are complete.

@@ -55,14 +55,14 @@ public:
     // Every key once, in the order of the source; the last of equal keys wins.
     [[nodiscard]] std::span<const PluralEntry> entries() const noexcept { return entries_; }
     // What was skipped and why, with its place, in the order of the source.
-    [[nodiscard]] std::span<const Runtime::Error> notes() const noexcept { return notes_; }
+    [[nodiscard]] std::span<const TableNote> notes() const noexcept { return notes_; }
 
 private:
     static Runtime::Result<PluralTable> read(std::string bytes, const std::string& file);
 
     std::vector<PluralEntry> entries_;
     std::vector<std::size_t> byKey_; // the numbers of the entries, sorted by key
-    std::vector<Runtime::Error> notes_;
+    std::vector<TableNote> notes_;
 };
 
 // The bytes of a binary property list with these entries, in this order. The same entries give the same bytes.

@@ -32,6 +32,11 @@ struct Entry {
     std::uint32_t offset = 0; // of the key in the source: its first byte, its quotation mark or its tag
 };
 
+// What was passed over in a table: one sentence with its place.
+struct TableNote : Runtime::Error {
+    std::optional<std::string> repeatedKey{}; // where a key appears again: which one
+};
+
 namespace internal {
 struct Contents;
 }
@@ -63,7 +68,7 @@ public:
     // What was passed over: values that are not texts, keys that appear again. One sentence each, with its place, in
     // the order of the source; after maxNotes of them one that tells how many more there were.
     static constexpr std::size_t maxNotes = 1000;
-    [[nodiscard]] std::span<const Runtime::Error> notes() const noexcept;
+    [[nodiscard]] std::span<const TableNote> notes() const noexcept;
     // Where the key of every entry stands, in the order of the entries; found in one pass.
     [[nodiscard]] std::vector<Location> locations() const;
     // The comment of every entry, in the order of the entries, found in one pass: the comments directly before its key,
