@@ -19,7 +19,8 @@ ARROWS = {
     "Tools/Generator": ["Tools/SourceBundle"],
     "Tools/Compiler": ["Tools/SourceBundle"],
     "Tools/Gallery": ["Tools/Generator", "Platform/UIKit"],
-    "Tools/Program": ["Tools/Generator", "Tools/Compiler", "Tools/Gallery"],
+    "Tools/Check": ["Tools/Generator"],
+    "Tools/Program": ["Tools/Check", "Tools/Generator", "Tools/Compiler", "Tools/Gallery"],
 }
 INCLUDE = re.compile(r'\s*#\s*include\s+["<]([^">]+)[">]')
 

@@ -26,6 +26,7 @@ void addTextCommand(CLI::App& program, Exit& exit);
 void addTableCommand(CLI::App& program, Exit& exit);
 void addGenerateCommand(CLI::App& program, Exit& exit);
 void addCompileCommand(CLI::App& program, Exit& exit);
+void addCheckCommand(CLI::App& program, Exit& exit);
 void addAccessorsCommand(CLI::App& program, Exit& exit);
 void addAssetCommands(CLI::App& program, Exit& exit);
 void addGalleryCommand(CLI::App& program, Exit& exit);

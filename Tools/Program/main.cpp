@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
     Tools::addTableCommand(program, exit);
     Tools::addGenerateCommand(program, exit);
     Tools::addCompileCommand(program, exit);
+    Tools::addCheckCommand(program, exit);
     Tools::addAccessorsCommand(program, exit);
     Tools::addAssetCommands(program, exit);
     Tools::addGalleryCommand(program, exit);

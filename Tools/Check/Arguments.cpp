@@ -1,0 +1,83 @@
+#include "Check/Arguments.h"
+
+#include "StringTables/internal/PluralPieces.h"
+
+namespace Check {
+
+using StringTables::ArgumentCounter;
+using StringTables::FormatSignature;
+using StringTables::Placeholder;
+using StringTables::PluralFormat;
+
+namespace {
+
+// A sign of width one behind the percent sign, "% d": no translator means a placeholder by it.
+bool isProse(const Placeholder& placeholder, std::string_view format) noexcept {
+    return format[placeholder.begin + 1] == ' ';
+}
+
+void noteLone(std::string_view percent, Arguments& out) noexcept {
+    if (out.lonePercent.empty())
+        out.lonePercent = percent;
+}
+
+void read(std::string_view format, Arguments& out) {
+    ArgumentCounter counter;
+    std::size_t at = 0;
+    while (const auto placeholder = StringTables::nextPlaceholder(format, at)) {
+        if (const std::size_t lone = format.find('%', at); lone < placeholder->begin)
+            noteLone(format.substr(lone, 1), out);
+        if (isProse(*placeholder, format))
+            noteLone(format.substr(placeholder->begin, placeholder->end - placeholder->begin), out);
+        else
+            out.signature.add(*placeholder, counter.take(*placeholder));
+        at = placeholder->end;
+    }
+    if (const std::size_t lone = format.find('%', at); lone != format.npos)
+        noteLone(format.substr(lone, 1), out);
+}
+
+std::string_view lonePercentOf(const PluralFormat& plural) {
+    Arguments all;
+    read(plural.format, all);
+    for (const auto& variable : plural.variables)
+        for (const auto& form : variable.forms)
+            if (form)
+                read(*form, all);
+    return all.lonePercent;
+}
+
+} // namespace
+
+Arguments argumentsOf(const SourceBundle::SourceEntry& entry) {
+    Arguments arguments;
+    if (entry.plural != nullptr)
+        arguments = {StringTables::signatureOf(*entry.plural), lonePercentOf(*entry.plural)};
+    else if (entry.text.find('%') != entry.text.npos)
+        read(entry.text, arguments);
+    return arguments;
+}
+
+std::string_view nameOf(Placeholder::Kind kind) noexcept {
+    switch (kind) {
+    case Placeholder::Kind::integer:
+        return "whole number";
+    case Placeholder::Kind::number:
+        return "floating number";
+    case Placeholder::Kind::text:
+    case Placeholder::Kind::percent: // takes no argument
+        break;
+    }
+    return "text";
+}
+
+std::string Arguments::text() const {
+    if (signature.arguments.empty())
+        return "no arguments";
+    std::string all;
+    for (const auto& kind : signature.arguments)
+        all.append(all.empty() ? "(" : ", ").append(kind ? nameOf(*kind) : "none");
+    return all + ")";
+}
+
+} // namespace Check

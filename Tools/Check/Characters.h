@@ -1,0 +1,37 @@
+// Check/Characters.h
+// The characters of a text, from both ends; internal.
+// Text: well-formed UTF-8. Threads: any; no state.
+#pragma once
+
+#include "StringTables/internal/Unicode.h"
+#include <string_view>
+
+namespace Check {
+
+// The character at the end of `text`, which is taken off; 0 where there is none.
+[[nodiscard]] inline char32_t takeLastCharacter(std::string_view& text) noexcept {
+    if (text.empty())
+        return 0;
+    std::size_t begin = text.size() - 1;
+    while (begin > 0 && (static_cast<unsigned char>(text[begin]) & 0xC0) == 0x80)
+        --begin;
+    std::string_view last = text.substr(begin);
+    text = text.substr(0, begin);
+    return StringTables::internal::takeCharacter(last);
+}
+
+// White space of every width, line breaks among them.
+[[nodiscard]] constexpr bool isSpace(char32_t c) noexcept {
+    return c == ' ' || (c >= 0x09 && c <= 0x0D) || c == 0x85 || c == 0xA0 || (c >= 0x2000 && c <= 0x200A) ||
+           c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F || c == 0x3000;
+}
+[[nodiscard]] constexpr bool isLineBreak(char32_t c) noexcept {
+    return c == '\n' || c == '\r' || c == 0x85 || c == 0x2028 || c == 0x2029;
+}
+// Marks of writing direction, joiners, a byte-order mark.
+[[nodiscard]] constexpr bool isInvisible(char32_t c) noexcept {
+    return c == 0x61C || (c >= 0x200B && c <= 0x200F) || (c >= 0x202A && c <= 0x202E) || (c >= 0x2060 && c <= 0x2069) ||
+           c == 0xFEFF;
+}
+
+} // namespace Check

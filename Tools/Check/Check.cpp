@@ -1,0 +1,120 @@
+#include "Check/Check.h"
+
+#include "Check/MessageFindings.h"
+#include "Check/TextRules.h"
+#include "Check/Usage.h"
+#include "Generator/Generator.h"
+#include "SourceBundle/Parallel.h"
+#include <algorithm>
+#include <future>
+#include <iterator>
+#include <set>
+#include <tuple>
+
+namespace Check {
+
+using SourceBundle::Diagnostics;
+using SourceBundle::Source;
+using SourceBundle::SourceTable;
+
+namespace {
+
+std::vector<DevelopedTable> developedTables(const Source& source, std::span<const DevelopedTable> older) {
+    std::vector<const SourceTable*> tables;
+    for (const SourceTable& table : source.tables)
+        if (source.isDeveloped(table))
+            tables.push_back(&table);
+    std::vector<DevelopedTable> developed;
+    for (const SourceTable* table : tables) {
+        const auto before =
+            std::ranges::find_if(older, [&](const DevelopedTable& other) { return other.table->name == table->name; });
+        developed.push_back({table, {source, *table, before == older.end() ? nullptr : &before->development}});
+    }
+    return developed;
+}
+
+std::vector<std::string> languagesOf(const Source& source) {
+    std::set<std::string> languages;
+    for (const SourceTable& table : source.tables)
+        for (const auto& texts : table.languages)
+            languages.insert(texts.language);
+    return {languages.begin(), languages.end()};
+}
+
+// The rules about texts, each language on its own.
+void checkTexts(const Source& source, std::span<const DevelopedTable> tables, std::vector<Report>& reports) {
+    const std::vector<std::string> languages = languagesOf(source);
+    const auto shared = sharedTexts(tables);
+    const std::size_t first = reports.size();
+    for (std::size_t i = 0; i < languages.size(); ++i)
+        reports.emplace_back(reports.front().settings());
+    SourceBundle::inParallel(languages.size(), [&](std::size_t number) {
+        const std::string& language = languages[number];
+        Report& report = reports[first + number];
+        Coverage coverage;
+        for (const DevelopedTable& table : tables)
+            coverage += checkTable(source, table, language, report);
+        if (!isTranslation(language, source))
+            return;
+        checkConsistency(shared, language, report);
+        reportCoverage(tables, language, coverage, report);
+    });
+}
+
+auto placeOf(const Finding& finding) {
+    return std::tie(finding.file.native(), finding.line, finding.column, finding.rule, finding.language,
+                    finding.subject, finding.message);
+}
+
+bool areOneFault(const Finding& one, const Finding& other) {
+    return placeOf(one) == placeOf(other);
+}
+
+// A text whose placeholders contradict each other has no accessor because of that.
+bool explains(const Finding& mismatch, const Finding& unnamed) {
+    return mismatch.rule == Rule::placeholderMismatch && unnamed.rule == Rule::unnamedKey &&
+           mismatch.file == unnamed.file && mismatch.subject == unnamed.subject;
+}
+
+std::vector<Finding> sorted(std::vector<Finding> findings) {
+    std::ranges::sort(findings, [](const Finding& one, const Finding& other) { return placeOf(one) < placeOf(other); });
+    const auto repeated = std::ranges::unique(findings, areOneFault);
+    findings.erase(repeated.begin(), repeated.end());
+    // Findings of one key are beside each other, the errors first.
+    std::vector<Finding> kept;
+    for (Finding& finding : findings)
+        if (kept.empty() || !explains(kept.back(), finding))
+            kept.push_back(std::move(finding));
+    return kept;
+}
+
+} // namespace
+
+std::vector<Finding> check(const Source& source, const Options& options, Diagnostics& diagnostics) {
+    Diagnostics others;
+    const Settings settings = Settings::read(options.folders, options.disabled, others);
+    // Names and assets need as long as all texts.
+    auto modelling = std::async(std::launch::async, [&] {
+        return Generator::modelOf(source, {.module = "Module", .names = options.names}, diagnostics);
+    });
+    const std::vector<DevelopedTable> older =
+        options.older == nullptr ? std::vector<DevelopedTable>() : developedTables(*options.older, {});
+    const std::vector<DevelopedTable> tables = developedTables(source, older);
+    std::vector<Report> reports(1, Report(settings));
+    checkTexts(source, tables, reports);
+    const Generator::Model model = modelling.get();
+    if (!options.usedIn.empty())
+        checkUsage(model, source.developmentLanguage, options.usedIn, reports.front(), others);
+    takeFindings(source, diagnostics, reports.front(), others);
+    diagnostics = std::move(others);
+
+    std::vector<Finding> findings;
+    for (Report& report : reports) {
+        std::ranges::move(report.take(), std::back_inserter(findings));
+        for (Runtime::Error& warning : report.takeWarnings())
+            diagnostics.add(Severity::warning, std::move(warning));
+    }
+    return sorted(std::move(findings));
+}
+
+} // namespace Check

@@ -1,0 +1,102 @@
+#include "Check/MessageFindings.h"
+
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+namespace Check {
+
+namespace fs = std::filesystem;
+using SourceBundle::Diagnostic;
+using SourceBundle::Diagnostics;
+using SourceBundle::LanguageTexts;
+using SourceBundle::Source;
+using SourceBundle::SourceEntry;
+using SourceBundle::SourceTable;
+using SourceBundle::TableFile;
+using SourceBundle::Topic;
+
+namespace {
+
+// No value for what is no fault of the source, or is found by a rule of its own.
+std::optional<Rule> ruleFor(Topic topic) {
+    switch (topic) {
+    case Topic::unreadableTable:
+        return Rule::unreadableTable;
+    case Topic::duplicateKey:
+        return Rule::duplicateKey;
+    case Topic::nameClash:
+        return Rule::nameClash;
+    case Topic::noAccessor:
+        return Rule::unnamedKey;
+    case Topic::missingFile:
+        return Rule::assetMissingFile;
+    case Topic::unreadableAsset:
+        return Rule::unreadableAsset;
+    case Topic::unassignedVariant:
+        return Rule::assetUnassigned;
+    case Topic::duplicateVariant:
+        return Rule::assetDuplicateVariant;
+    case Topic::lonePercent:
+    case Topic::other:
+        break;
+    }
+    return std::nullopt;
+}
+
+// The languages of files with texts.
+class FileLanguages {
+public:
+    explicit FileLanguages(const Source& source) {
+        for (const SourceTable& table : source.tables)
+            for (const LanguageTexts& texts : table.languages)
+                for (const TableFile* file : texts.files)
+                    known_.try_emplace(file->path.native(), Known{&texts, file->kind});
+    }
+
+    std::string languageOf(const fs::path& file) const {
+        const auto found = known_.find(file.native());
+        if (found == known_.end())
+            return file.parent_path().extension() == ".lproj"
+                       ? SourceBundle::languageOfFolder(file.parent_path().stem().string())
+                       : "";
+        return found->second.kind == TableFile::Kind::catalog ? "" : found->second.texts->language;
+    }
+    const SourceEntry* entryOf(const fs::path& file, std::string_view key) const {
+        const auto found = known_.find(file.native());
+        return found == known_.end() ? nullptr : found->second.texts->find(key);
+    }
+
+private:
+    struct Known {
+        const LanguageTexts* texts;
+        TableFile::Kind kind;
+    };
+    std::unordered_map<std::string, Known> known_;
+};
+
+} // namespace
+
+void takeFindings(const Source& source, const Diagnostics& messages, Report& report, Diagnostics& others) {
+    const FileLanguages languages(source);
+    for (const Diagnostic& message : messages.all()) {
+        const std::optional<Rule> rule = ruleFor(message.topic);
+        if (!rule) {
+            if (message.topic == Topic::other && message.severity != Severity::note)
+                others.add(message.severity, message.what);
+            continue;
+        }
+        const SourceEntry* entry = languages.entryOf(message.what.file, message.subject);
+        if (entry != nullptr && Report::isAllowed(*rule, *entry))
+            continue;
+        report.add({.rule = *rule,
+                    .file = message.what.file,
+                    .line = static_cast<std::uint32_t>(message.what.line),
+                    .column = static_cast<std::uint32_t>(message.what.column),
+                    .language = languages.languageOf(message.what.file),
+                    .subject = message.subject,
+                    .message = message.what.message});
+    }
+}
+
+} // namespace Check

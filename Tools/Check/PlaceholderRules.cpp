@@ -1,0 +1,47 @@
+// placeholder-mismatch, changed-placeholder, lone-percent.
+#include "Check/TextRules.h"
+
+#include "Generator/CodeText.h"
+
+namespace Check {
+
+using Generator::quote;
+
+namespace {
+
+void checkChange(const Text& text, Report& report) {
+    const DevelopmentText& own = *text.development;
+    if (own.before)
+        text.report(report, Rule::changedPlaceholder,
+                    quote(text.entry.key) + " takes " + own.arguments.text() + "; before it took " +
+                        own.before->text());
+}
+
+// A translation that fits the older development text is not at fault: the change is.
+bool fits(const Arguments& arguments, const DevelopmentText& development) {
+    return arguments.fits(development.arguments) || (development.before && arguments.fits(*development.before));
+}
+
+} // namespace
+
+void checkPlaceholders(const Text& text, Report& report) {
+    const bool isPlain = text.entry.plural == nullptr && text.entry.text.find('%') == std::string_view::npos;
+    const Arguments arguments = isPlain ? Arguments() : argumentsOf(text.entry);
+    if (!arguments.lonePercent.empty())
+        text.report(report, Rule::lonePercent,
+                    quote(text.entry.key) + " has " + quote(arguments.lonePercent) +
+                        ", which is written \"%%\" if a percent sign is meant");
+    if (const auto& conflict = arguments.signature.conflict)
+        return text.report(report, Rule::placeholderMismatch,
+                           quote(text.entry.key) + " takes argument " + std::to_string(conflict->position) +
+                               " both as " + std::string(nameOf(conflict->first)) + " and as " +
+                               std::string(nameOf(conflict->later)));
+    if (text.isDevelopment())
+        checkChange(text, report);
+    else if (text.development != nullptr && !fits(arguments, *text.development))
+        text.report(report, Rule::placeholderMismatch,
+                    quote(text.entry.key) + " takes " + arguments.text() + ", the development text " +
+                        text.development->arguments.text());
+}
+
+} // namespace Check

@@ -1,0 +1,57 @@
+// Check/Report.h
+// Collects the findings of one step; those of rules that are off are dropped.
+// Threads: one report belongs to one thread; several may share their settings.
+#pragma once
+
+#include "Check/Finding.h"
+#include "Check/Settings.h"
+#include "SourceBundle/Source.h"
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Check {
+
+class Report {
+public:
+    explicit Report(const Settings& settings) : settings_(settings) {}
+
+    void add(Finding finding) {
+        if (settings_.isOn(finding.rule, finding.file, finding.language))
+            findings_.push_back(std::move(finding));
+    }
+    // A finding about a text. Its comment, or that of its `development` text, may allow it.
+    void add(Rule rule, const SourceBundle::SourceEntry& entry, std::string_view language, std::string message,
+             const SourceBundle::SourceEntry* development = nullptr) {
+        if (isAllowed(rule, entry) || (development != nullptr && isAllowed(rule, *development)))
+            return;
+        add({rule, entry.file->path, entry.line, entry.column, std::string(language), std::string(entry.key),
+             std::move(message)});
+    }
+
+    // Warns of names in the entry's comment that are no rules.
+    void checkComment(const SourceBundle::SourceEntry& entry) {
+        if (entry.comment.empty())
+            return;
+        std::vector<std::string_view> unknown;
+        allowedBy(entry.comment, &unknown);
+        for (const std::string_view name : unknown)
+            warnings_.push_back(entry.error("the comment allows the unknown rule \"" + std::string(name) + "\""));
+    }
+
+    [[nodiscard]] const Settings& settings() const noexcept { return settings_; }
+    [[nodiscard]] std::vector<Finding> take() { return std::move(findings_); }
+    [[nodiscard]] std::vector<Runtime::Error> takeWarnings() { return std::move(warnings_); }
+
+    [[nodiscard]] static bool isAllowed(Rule rule, const SourceBundle::SourceEntry& entry) {
+        return !entry.comment.empty() && allowedBy(entry.comment)[static_cast<std::size_t>(rule)];
+    }
+
+private:
+    const Settings& settings_;
+    std::vector<Finding> findings_;
+    std::vector<Runtime::Error> warnings_; // about the switches themselves
+};
+
+} // namespace Check

@@ -1,0 +1,63 @@
+// Check/Rules.h
+// What `lumora check` looks for. Docs/check.md describes each rule with examples.
+// Text: ASCII. Threads: any; constant data.
+#pragma once
+
+#include "SourceBundle/Diagnostics.h"
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace Check {
+
+using SourceBundle::Severity;
+
+// In the order of reports: by severity, then by name in the table of rules.
+enum class Rule : std::uint8_t {
+    unreadableTable,
+    placeholderMismatch,
+    changedPlaceholder,
+    missingPluralForm,
+    assetMissingFile,
+    unreadableAsset,
+    missingKey,
+    unknownKey,
+    duplicateKey,
+    lonePercent,
+    spaceMismatch,
+    newlineMismatch,
+    nameClash,
+    unnamedKey,
+    assetUnassigned,
+    assetDuplicateVariant,
+    assetMissingScale,
+    assetMissingDark,
+    unusedAccessor,
+    untranslated,
+    punctuationMismatch,
+    doubleSpace,
+    repeatedWord,
+    inconsistentTranslation,
+    coverage
+};
+inline constexpr std::size_t ruleCount = static_cast<std::size_t>(Rule::coverage) + 1;
+
+struct RuleInfo {
+    Rule rule;
+    std::string_view name; // "missing-key"
+    Severity severity;
+    std::string_view summary; // what is wrong, one phrase
+    std::string_view help;    // what to do, one sentence
+};
+
+// By rule.
+[[nodiscard]] std::span<const RuleInfo, ruleCount> allRules() noexcept;
+[[nodiscard]] const RuleInfo& infoOf(Rule rule) noexcept;
+[[nodiscard]] std::optional<Rule> ruleNamed(std::string_view name) noexcept;
+
+// "error", "warning", "note".
+[[nodiscard]] std::string_view nameOf(Severity severity) noexcept;
+
+} // namespace Check

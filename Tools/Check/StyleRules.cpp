@@ -1,0 +1,219 @@
+// double-space, repeated-word, punctuation-mismatch, untranslated, inconsistent-translation.
+#include "Check/TextRules.h"
+
+#include "Check/Characters.h"
+#include "Check/Languages.h"
+#include "Generator/CodeText.h"
+#include "Generator/Unicode.h"
+#include "StringTables/internal/PluralTable.h"
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+namespace Check {
+
+using Generator::quote;
+using SourceBundle::LanguageTexts;
+using SourceBundle::SourceEntry;
+using StringTables::internal::takeCharacter;
+namespace Unicode = Generator::Unicode;
+
+namespace {
+
+// Whether `test` holds for the text, or for one of the strings of a plural text.
+template <class Test> bool isAny(const SourceEntry& entry, const Test& test) {
+    if (entry.plural == nullptr)
+        return test(entry.text);
+    if (test(entry.plural->format))
+        return true;
+    for (const auto& variable : entry.plural->variables)
+        for (const auto& form : variable.forms)
+            if (form && test(*form))
+                return true;
+    return false;
+}
+
+// Two spaces between words; indentation and spaces before a line break are layout.
+bool hasDoubleSpace(std::string_view text) {
+    for (std::size_t at = text.find("  "); at != text.npos; at = text.find("  ", at)) {
+        const std::size_t end = std::min(text.find_first_not_of(' ', at), text.size());
+        if (at > 0 && text[at - 1] != '\n' && end < text.size() && text[end] != '\n')
+            return true;
+        at = end;
+    }
+    return false;
+}
+
+bool isLetter(char32_t c) {
+    return c < 0x80 ? (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') : Unicode::beginsIdentifier(c);
+}
+bool isInWord(char32_t c) {
+    return isLetter(c) || c == '-' || c == '\'' || c == 0x2019 || (c >= '0' && c <= '9') ||
+           (c >= 0x80 && Unicode::continuesIdentifier(c));
+}
+
+bool isWord(std::string_view token) {
+    bool hasLetter = false;
+    while (!token.empty()) {
+        const char32_t c = takeCharacter(token);
+        if (!isInWord(c))
+            return false;
+        hasLetter |= isLetter(c);
+    }
+    return hasLetter;
+}
+
+// Whether `token` is `word`, in any case, with nothing but marks behind it.
+bool repeats(std::string_view word, std::string_view token) {
+    while (!word.empty()) {
+        if (token.empty())
+            return false;
+        const char32_t one = takeCharacter(word), other = takeCharacter(token);
+        if (one != other && Unicode::lower(one) != Unicode::lower(other))
+            return false;
+    }
+    return token.empty() || !isInWord(takeCharacter(token));
+}
+
+std::string lowered(std::string_view word) {
+    std::u32string out;
+    while (!word.empty())
+        out += Unicode::lower(takeCharacter(word));
+    return Unicode::encoded(out);
+}
+
+// Takes the next word off `text`, with its marks; empty at the end.
+std::string_view takeToken(std::string_view& text) {
+    constexpr std::string_view spaces = " \t\r\n";
+    text.remove_prefix(std::min(text.find_first_not_of(spaces), text.size()));
+    const std::string_view token = text.substr(0, text.find_first_of(spaces));
+    text.remove_prefix(token.size());
+    return token;
+}
+
+// A word that follows itself, or an empty text.
+std::string_view repeatedWord(std::string_view text, std::string_view language) {
+    std::string_view last = takeToken(text);
+    for (std::string_view token = takeToken(text); !token.empty(); token = takeToken(text)) {
+        if (repeats(last, token) && isWord(last) && !mayRepeat(lowered(last), language))
+            return last;
+        last = token;
+    }
+    return {};
+}
+
+std::string_view repeatedWord(const SourceEntry& entry, std::string_view language) {
+    std::string_view word;
+    isAny(entry, [&](std::string_view text) {
+        word = repeatedWord(text, language);
+        return !word.empty();
+    });
+    return word;
+}
+
+// Whether there is something to translate: a letter outside of placeholders, and more than an address.
+bool isProse(std::string_view text) {
+    const bool isOneWord = text.find(' ') == text.npos;
+    if (isOneWord && (text.find("://") != text.npos || text.starts_with("www.")))
+        return false;
+    std::size_t at = 0;
+    const auto hasLetter = [](std::string_view part) {
+        while (!part.empty())
+            if (isLetter(takeCharacter(part)))
+                return true;
+        return false;
+    };
+    while (const auto placeholder = StringTables::nextPlaceholder(text, at)) {
+        if (hasLetter(text.substr(at, placeholder->begin - at)))
+            return true;
+        at = placeholder->end;
+    }
+    const std::string_view rest = text.substr(at);
+    return hasLetter(rest) && !(isOneWord && rest.find('@') != rest.npos);
+}
+
+bool haveSameEnd(const Text& text) {
+    const Mark own = lastMark(text.entry.text, text.languages.own);
+    const Mark other = lastMark(text.development->entry->text, text.languages.development);
+    const auto isOptional = [](Mark mark) { return mark == Mark::none || mark == Mark::fullStop; };
+    return own == other || (isOptional(own) && isOptional(other) &&
+                            (mayOmitFullStop(text.languages.own) || mayOmitFullStop(text.languages.development)));
+}
+
+} // namespace
+
+void checkWording(const Text& text, Report& report) {
+    const SourceEntry* development =
+        text.development == nullptr || text.isDevelopment() ? nullptr : text.development->entry;
+    if (isAny(text.entry, hasDoubleSpace) && (development == nullptr || !isAny(*development, hasDoubleSpace)))
+        text.report(report, Rule::doubleSpace, quote(text.entry.key) + " has two spaces behind each other");
+    const std::string_view word = repeatedWord(text.entry, text.languages.own);
+    if (!word.empty() && (development == nullptr || repeatedWord(*development, text.languages.development).empty()))
+        text.report(report, Rule::repeatedWord, quote(text.entry.key) + " repeats the word " + quote(word));
+}
+
+void checkStyle(const Text& text, Report& report) {
+    const SourceEntry& development = *text.development->entry;
+    if (text.languages.isTranslation && text.entry.text == development.text) {
+        if (isProse(development.text))
+            text.report(report, Rule::untranslated,
+                        quote(text.entry.key) + " has the development text " + quote(development.text));
+    } else if (!haveSameEnd(text)) {
+        text.report(report, Rule::punctuationMismatch,
+                    quote(text.entry.key) + " does not end with the mark of the development text " +
+                        quote(development.text));
+    }
+}
+
+std::vector<std::vector<SharedText>> sharedTexts(std::span<const DevelopedTable> tables) {
+    std::unordered_map<std::string_view, std::size_t> numbers;
+    std::vector<std::vector<SharedText>> all;
+    for (const DevelopedTable& table : tables)
+        for (const DevelopmentText& text : table.development.all()) {
+            if (text.entry->plural != nullptr || text.entry->text.empty())
+                continue;
+            const auto [known, isNew] = numbers.try_emplace(text.entry->text, all.size());
+            if (isNew)
+                all.emplace_back();
+            all[known->second].push_back({table.table, text.entry});
+        }
+    std::erase_if(all, [](const auto& texts) { return texts.size() < 2; });
+    return all;
+}
+
+namespace {
+
+// The translation of a development text, or null.
+const SourceEntry* translationOf(const SharedText& text, std::string_view language) {
+    const LanguageTexts* texts = text.table->find(language);
+    const SourceEntry* entry = texts == nullptr ? nullptr : texts->find(text.entry->key);
+    const bool isOther =
+        entry != nullptr && entry->plural == nullptr && !entry->text.empty() && entry->text != text.entry->text;
+    return isOther ? entry : nullptr;
+}
+
+void checkConsistency(const std::vector<SharedText>& texts, std::string_view language, Report& report) {
+    const SourceEntry* first = nullptr;
+    for (const SharedText& text : texts) {
+        const SourceEntry* entry = translationOf(text, language);
+        if (entry == nullptr || Report::isAllowed(Rule::inconsistentTranslation, *entry) ||
+            Report::isAllowed(Rule::inconsistentTranslation, *text.entry))
+            continue;
+        if (first == nullptr)
+            first = entry;
+        else if (first->text != entry->text)
+            return report.add(Rule::inconsistentTranslation, *entry, language,
+                              quote(text.entry->text) + " is " + quote(entry->text) + " for the key " +
+                                  quote(entry->key) + ", and " + quote(first->text) + " for " + quote(first->key),
+                              text.entry);
+    }
+}
+
+} // namespace
+
+void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view language, Report& report) {
+    for (const std::vector<SharedText>& texts : shared)
+        checkConsistency(texts, language, report);
+}
+
+} // namespace Check

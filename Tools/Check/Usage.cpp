@@ -1,0 +1,139 @@
+#include "Check/Usage.h"
+
+#include "Check/Identifiers.h"
+#include "Generator/CodeText.h"
+#include "Runtime/internal/File.h"
+#include <algorithm>
+#include <array>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace Check {
+
+namespace fs = std::filesystem;
+using Generator::Model;
+using SourceBundle::Diagnostics;
+
+namespace {
+
+constexpr std::size_t maxSourceBytes = std::size_t{64} << 20;
+constexpr std::string_view generatedMark = "// Made from the resources of the module ";
+
+struct Accessor {
+    std::string_view name;
+    std::string_view group;                           // the innermost namespace
+    Finding finding;                                  // if it is not used
+    const SourceBundle::SourceEntry* entry = nullptr; // of a text
+    bool isUsed = false;
+};
+
+std::string_view innermost(std::string_view groups) {
+    const std::size_t colon = groups.rfind(':');
+    return groups.substr(colon == groups.npos ? 0 : colon + 1);
+}
+
+class Accessors {
+public:
+    explicit Accessors(const Model& model, std::string_view language) {
+        for (const Generator::CatalogTable& table : model.tables)
+            for (const Generator::CatalogEntry& entry : table.entries)
+                add(table, entry, language);
+        for (const Generator::AssetConstant& constant : model.assetTree.constants)
+            add(constant);
+        for (std::size_t i = 0; i < all_.size(); ++i)
+            byName_[all_[i].name].push_back(i);
+    }
+
+    // Marks what `qualifier::name` may mean; the qualifier may be empty, or an alias.
+    void use(std::string_view name, std::string_view qualifier) {
+        const auto found = byName_.find(name);
+        if (found == byName_.end())
+            return;
+        const auto isIts = [&](std::size_t number) { return all_[number].group == qualifier; };
+        const bool isKnown = std::ranges::any_of(found->second, isIts);
+        for (const std::size_t number : found->second)
+            all_[number].isUsed |= !isKnown || isIts(number);
+    }
+
+    void report(Report& report) const {
+        for (const Accessor& accessor : all_)
+            if (!accessor.isUsed &&
+                (accessor.entry == nullptr || !Report::isAllowed(Rule::unusedAccessor, *accessor.entry)))
+                report.add(accessor.finding);
+    }
+
+private:
+    void add(const Generator::CatalogTable& table, const Generator::CatalogEntry& entry, std::string_view language) {
+        const SourceBundle::SourceEntry& text = *entry.source;
+        const std::string groups = table.spelling + (entry.groups.empty() ? "" : "::") + entry.groups;
+        all_.push_back(
+            {.name = entry.name,
+             .group = entry.groups.empty() ? std::string_view(table.spelling) : innermost(entry.groups),
+             .finding = {.rule = Rule::unusedAccessor,
+                         .file = text.file->path,
+                         .line = text.line,
+                         .column = text.column,
+                         .language = text.file->language.empty() ? std::string(language) : text.file->language,
+                         .subject = std::string(text.key),
+                         .message = "the accessor " + groups + "::" + entry.name + " is not used"},
+             .entry = &text});
+    }
+    void add(const Generator::AssetConstant& constant) {
+        all_.push_back(
+            {.name = constant.name,
+             .group = innermost(constant.groups),
+             .finding = {.rule = Rule::unusedAccessor,
+                         .file = constant.asset->path,
+                         .subject = constant.asset->name,
+                         .message = "the constant " + constant.groups + "::" + constant.name + " is not used"}});
+    }
+
+    std::vector<Accessor> all_;
+    std::unordered_map<std::string_view, std::vector<std::size_t>> byName_;
+};
+
+bool isSource(const fs::path& file) {
+    static constexpr std::array<std::string_view, 19> extensions = {
+        ".c",   ".C",   ".cc",  ".cpp", ".cppm", ".cxx", ".c++", ".h",  ".H",  ".hh",
+        ".hpp", ".hxx", ".h++", ".inc", ".inl",  ".ipp", ".ixx", ".mm", ".tpp"};
+    return std::ranges::find(extensions, file.extension().string()) != extensions.end();
+}
+
+// The sources below `tree`, but for those in hidden folders; links are not followed.
+std::vector<fs::path> sourcesIn(const fs::path& tree, Diagnostics& diagnostics) {
+    std::vector<fs::path> files;
+    std::error_code failed;
+    fs::recursive_directory_iterator at(tree, failed);
+    for (const fs::recursive_directory_iterator end; !failed && at != end; at.increment(failed)) {
+        const bool isHidden = at->path().filename().string().starts_with('.');
+        std::error_code ignored;
+        if (at->is_directory(ignored) && isHidden)
+            at.disable_recursion_pending();
+        else if (!isHidden && at->is_regular_file(ignored) && isSource(at->path()))
+            files.push_back(at->path());
+    }
+    if (failed)
+        diagnostics.add(Severity::error, {.message = "cannot be read: " + failed.message(), .file = tree});
+    std::ranges::sort(files);
+    return files;
+}
+
+} // namespace
+
+void checkUsage(const Model& model, std::string_view language, std::span<const fs::path> trees, Report& report,
+                Diagnostics& diagnostics) {
+    Accessors accessors(model, language);
+    for (const fs::path& tree : trees)
+        for (const fs::path& file : sourcesIn(tree, diagnostics)) {
+            auto code = Runtime::readFile(file, maxSourceBytes);
+            if (!code)
+                diagnostics.add(Severity::warning, std::move(code.error()));
+            else if (!code->starts_with(generatedMark))
+                forEachIdentifier(
+                    *code, [&](std::string_view name, std::string_view qualifier) { accessors.use(name, qualifier); });
+        }
+    accessors.report(report);
+}
+
+} // namespace Check

@@ -1,0 +1,115 @@
+// lumora check: the faults of a source.
+#include "Program/Command.h"
+
+#include "Check/Check.h"
+#include "Check/Writers.h"
+#include "Program/SourceArguments.h"
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <unistd.h>
+
+namespace Tools {
+
+namespace {
+
+using Check::Finding;
+using SourceBundle::Diagnostics;
+using SourceBundle::Severity;
+using SourceBundle::Source;
+
+struct CheckOptions {
+    SourceArguments source;
+    std::string format = "text";
+    std::string level; // empty: that of the format
+    std::vector<std::string> disabled;
+    std::vector<std::string> usedIn;
+    std::string since;
+};
+
+Severity lowestOf(const CheckOptions& options) {
+    for (const Severity severity : {Severity::error, Severity::warning, Severity::note})
+        if (options.level == Check::nameOf(severity))
+            return severity;
+    return options.format == "text" ? Severity::warning : Severity::note;
+}
+
+bool isColoured() {
+    const char* const refused = std::getenv("NO_COLOR");
+    return ::isatty(STDOUT_FILENO) == 1 && (refused == nullptr || *refused == '\0');
+}
+
+std::string written(const std::vector<Finding>& findings, const CheckOptions& options) {
+    const Severity lowest = lowestOf(options);
+    if (options.format == "json")
+        return Check::asJson(findings, lowest);
+    if (options.format == "sarif")
+        return Check::asSarif(findings, lowest, std::filesystem::current_path(), LUMORA_VERSION);
+    return Check::asText(findings, lowest, isColoured());
+}
+
+std::vector<Finding> find(const CheckOptions& options, Diagnostics& diagnostics) {
+    Check::Options rules{.folders = options.source.paths(),
+                         .names = options.source.names,
+                         .usedIn = {options.usedIn.begin(), options.usedIn.end()}};
+    for (const std::string& name : options.disabled)
+        rules.disabled.set(static_cast<std::size_t>(*Check::ruleNamed(name)));
+    std::optional<Source> older;
+    if (!options.since.empty()) {
+        const std::filesystem::path folders[] = {options.since};
+        Diagnostics messages;
+        rules.older = &older.emplace(Source::read(folders, options.source.options, messages));
+        for (const SourceBundle::Diagnostic& message : messages.all())
+            if (message.severity == Severity::error)
+                diagnostics.add(Severity::error, message.what);
+    }
+    const Source source = options.source.read(diagnostics);
+    return Check::check(source, rules, diagnostics);
+}
+
+Exit runCheck(const CheckOptions& options) {
+    Diagnostics diagnostics;
+    const std::vector<Finding> findings = find(options, diagnostics);
+    const Exit read = report(diagnostics);
+    const Exit printed = print(written(findings, options));
+    if (read != Exit::done || printed != Exit::done)
+        return Exit::wrongUse;
+    const bool hasError = std::ranges::any_of(
+        findings, [](const Finding& finding) { return Check::infoOf(finding.rule).severity == Severity::error; });
+    return hasError ? Exit::faultsFound : Exit::done;
+}
+
+CLI::Validator ruleName() {
+    return {[](const std::string& name) { return Check::ruleNamed(name) ? "" : "unknown rule " + name; }, "RULE"};
+}
+
+} // namespace
+
+void addCheckCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<CheckOptions>();
+    CLI::App* command =
+        program.add_subcommand("check", "Find the faults of a source: texts, plural forms, names, assets.");
+    options->source.addTo(*command)->required();
+    options->source.addNamesTo(*command);
+    command->add_option("--format", options->format, "text (default), json or sarif")
+        ->check(CLI::IsMember({"text", "json", "sarif"}));
+    command
+        ->add_option("--level", options->level,
+                     "The lowest severity that is shown: error, warning (default for text) or note (default otherwise)")
+        ->check(CLI::IsMember({"error", "warning", "note"}));
+    command->add_option("--disable", options->disabled, "A rule that is switched off (may be repeated)")
+        ->allow_extra_args(false)
+        ->check(ruleName());
+    command
+        ->add_option("--used-in", options->usedIn,
+                     "A folder of C++ sources: accessors that are used in none are found (may be repeated)")
+        ->allow_extra_args(false)
+        ->check(named());
+    command->add_option("--since", options->since, "An older source: development texts with other arguments are found")
+        ->check(named());
+    command->callback([options, &exit] { exit = runCheck(*options); });
+}
+
+} // namespace Tools
