@@ -40,7 +40,7 @@ void checkPlaceholders(const Text& text, Report& report) {
         checkChange(text, report);
     else if (text.development != nullptr && !fits(arguments, *text.development))
         text.report(report, Rule::placeholderMismatch,
-                    quote(text.entry.key) + " takes " + arguments.text() + ", the development text " +
+                    quote(text.entry.key) + " takes " + arguments.text() + "; the development text takes " +
                         text.development->arguments.text());
 }
 

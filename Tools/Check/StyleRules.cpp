@@ -132,12 +132,23 @@ bool isProse(std::string_view text) {
     return hasLetter(rest) && !(isOneWord && rest.find('@') != rest.npos);
 }
 
+// Whether the text has at most one word: a full stop behind it is that of an abbreviation, "sec.".
+bool isOneWord(std::string_view text) {
+    int words = 0;
+    for (std::string_view token = takeToken(text); !token.empty(); token = takeToken(text))
+        words += !token.starts_with('%');
+    return words <= 1;
+}
+
 bool haveSameEnd(const Text& text) {
     const Mark own = lastMark(text.entry.text, text.languages.own);
     const Mark other = lastMark(text.development->entry->text, text.languages.development);
     const auto isOptional = [](Mark mark) { return mark == Mark::none || mark == Mark::fullStop; };
-    return own == other || (isOptional(own) && isOptional(other) &&
-                            (mayOmitFullStop(text.languages.own) || mayOmitFullStop(text.languages.development)));
+    if (own == other)
+        return true;
+    const bool isAbbreviation = isOneWord(text.entry.text) && isOneWord(text.development->entry->text);
+    return isOptional(own) && isOptional(other) &&
+           (isAbbreviation || mayOmitFullStop(text.languages.own) || mayOmitFullStop(text.languages.development));
 }
 
 } // namespace

@@ -1,0 +1,59 @@
+"""Runs the examples of Docs/check.md: where the page says so, exactly the rule of its section is found; otherwise nothing is."""
+import json
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+ASSETS = {"asset-duplicate-variant", "asset-missing-dark", "asset-missing-file", "asset-missing-scale", "asset-unassigned", "unreadable-asset"}
+BLOCK = re.compile(r"```\w+ (\S+)\n(.*?)```", re.DOTALL)
+
+
+def found(program, own, files, arguments):
+    """The rules that are found in a source with these files; coverage counts in its own examples only."""
+    with tempfile.TemporaryDirectory() as held:
+        for name, text in files.items():
+            file = pathlib.Path(held, name)
+            file.parent.mkdir(parents=True, exist_ok=True)
+            file.write_text(text, encoding="utf-8")
+        done = subprocess.run([program, "check", "source", "--format", "json", *arguments], cwd=held, capture_output=True, timeout=60)
+        findings = json.loads(done.stdout)
+        rules = [finding["rule"] for finding in findings if finding["rule"] == own or finding["rule"] != "coverage"]
+        hasError = any(finding["severity"] == "error" for finding in findings)
+        complaint = "" if done.returncode == hasError else f"exit {done.returncode}, stderr {done.stderr.decode()}"
+        return rules, complaint
+
+
+def main(page, program):
+    text = page.read_text(encoding="utf-8")
+    sections = re.split(r"^### ", text, flags=re.MULTILINE)[1:]
+    faults, seen = [], []
+    for section in sections:
+        rule = section.split("\n", 1)[0].strip("`")
+        seen.append(rule)
+        arguments = re.findall(r"^With `(.+?)`$", section, re.MULTILINE)
+        arguments = arguments[0].split() if arguments else []
+        parts = re.split(r"^(Found|Not found):$", section, flags=re.MULTILINE)
+        examples = {parts[i]: {f"source/{name}" if "../" not in name else name[3:]: content for name, content in BLOCK.findall(parts[i + 1])}
+                    for i in range(1, len(parts), 2)}
+        if set(examples) != {"Found", "Not found"}:
+            faults.append(f"{rule}: has {sorted(examples)}")
+            continue
+        # What the second example does not show is as in the first.
+        examples["Not found"] = examples["Found"] | examples["Not found"]
+        for name, expected in (("Found", [rule]), ("Not found", [])):
+            rules, complaint = found(program, rule, examples[name], arguments)
+            if rules != expected or complaint:
+                faults.append(f"{rule}: {name}: {rules} {complaint}")
+    listed = json.loads(subprocess.run([program, "check", "--format", "sarif", str(page.parent.parent / "Resources")], check=True,
+                                       capture_output=True).stdout)["runs"][0]["tool"]["driver"]["rules"]
+    missing = {rule["id"] for rule in listed} ^ set(seen)
+    if missing - ASSETS:
+        faults.append(f"rules without a section, or sections without a rule: {sorted(missing)}")
+    print("\n".join(faults) or f"{len(seen)} rules behave as the page says")
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve()))
