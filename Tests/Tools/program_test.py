@@ -136,12 +136,13 @@ class Program(unittest.TestCase):
         self.write("src/Base.lproj/T.strings", "a = b;")
         file, source = self.write("a.strings", "a = b;"), self.folder / "src"
         for said, *arguments in (
-                ("bogus", "bogus", "--help"), ("check", "check", "--help"), ("check", "check", "--version"),
+                ("bogus", "bogus", "--help"), ("verify", "verify", "--help"), ("verify", "verify", "--version"),
                 ("--output: the name is empty", "table", file, "-o", ""), ("FILE: the name is empty", "table", ""),
                 ("--output: the name is empty", "asset", "send", "-o", ""), ("SOURCE: the name is empty", "compile", "", "-o", "x"),
                 ("--output: the name is empty", "compile", source, "-o", ""),
                 ("SOURCE: the name is empty", "generate", "", "--module", "M", "-o", "x"),
                 ("--output: the name is empty", "generate", source, "--module", "M", "-o", ""),
+                ("unknown rule x", "check", source, "--disable", "x"), ("yaml", "check", source, "--format", "yaml"),
                 ("1 to 1000", "generate", source, "--module", "M", "-o", self.folder / "x", "--shards", "0"),
                 ("1 to 1000", "generate", source, "--module", "M", "-o", self.folder / "x", "--shards", "1001")):
             with self.subTest(arguments):
