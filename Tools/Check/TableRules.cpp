@@ -109,7 +109,7 @@ public:
                 report_.add(Rule::missingKey, *entry, texts_.language, quote(entry->key) + " has an empty text",
                             text.entry);
             else
-                coverage.translated += entry->state != State::isNew && entry->text != text.entry->text;
+                coverage.translated += entry->state != State::isNew;
             before = entry == nullptr ? before : entry;
         }
         return coverage;
