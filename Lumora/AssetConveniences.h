@@ -14,6 +14,7 @@
 
 #include "Lumora/LumoraAsset.h"
 #include "Lumora/LumoraResources.h"
+#include "Runtime/Attempt.h"
 #include "SwiftUI/SwiftUI.h"
 #include "UIKit/UIKit.h"
 #include <optional>
@@ -38,6 +39,11 @@ template <class Class, class Base> auto madeFrom(const std::optional<Base>& foun
         return found;
 }
 
+// What `lookUp(bundle)` finds in the module's bundle; no value while that cannot be read.
+template <class LookUp> auto found(LookUp lookUp) {
+    return Runtime::attempt([&] { return lookUp(LumoraResources::bundle()); });
+}
+
 } // namespace detail
 
 namespace UIColor {
@@ -54,7 +60,8 @@ template <class Class = UIKit::UIColor> [[nodiscard]] auto withAsset(const Lumor
     if constexpr (answers && !isPlatforms)
         return Class::colorNamed(record.name(), LumoraResources::bundle(), nullptr);
     else
-        return detail::madeFrom<Class>(Platform::colorNamed(record.name(), LumoraResources::bundle(), nullptr));
+        return detail::madeFrom<Class>(detail::found(
+            [&](const Foundation::NSBundle& bundle) { return Platform::colorNamed(record.name(), bundle, nullptr); }));
 }
 
 } // namespace UIColor
@@ -73,7 +80,8 @@ template <class Class = UIKit::NSDataAsset> [[nodiscard]] auto withAsset(const L
     if constexpr (answers && !isPlatforms)
         return Class::assetWithName(record.name(), LumoraResources::bundle());
     else
-        return detail::madeFrom<Class>(Platform::assetWithName(record.name(), LumoraResources::bundle()));
+        return detail::madeFrom<Class>(detail::found(
+            [&](const Foundation::NSBundle& bundle) { return Platform::assetWithName(record.name(), bundle); }));
 }
 
 } // namespace NSDataAsset
@@ -83,12 +91,11 @@ namespace UIImage {
 // The picture of that name, or no value.
 template <class Class = UIKit::UIImage> [[nodiscard]] auto withAssetName(std::string_view name) {
     using Platform = UIKit::UIImage;
-    const Foundation::NSBundle& bundle = LumoraResources::bundle();
     constexpr bool answers = requires {
-        Class::imageNamedWithConfiguration(name, bundle, nullptr);
+        Class::imageNamedWithConfiguration(name, LumoraResources::bundle(), nullptr);
     };
     constexpr bool answersOlder = requires {
-        Class::imageNamed(name, bundle, nullptr);
+        Class::imageNamed(name, LumoraResources::bundle(), nullptr);
     };
     constexpr bool isPlatforms = requires {
         requires detail::Same<&Class::imageNamedWithConfiguration, &Platform::imageNamedWithConfiguration>;
@@ -97,11 +104,13 @@ template <class Class = UIKit::UIImage> [[nodiscard]] auto withAssetName(std::st
         requires detail::Same<&Class::imageNamed, &Platform::imageNamed>;
     };
     if constexpr (answers && !isPlatforms)
-        return Class::imageNamedWithConfiguration(name, bundle, nullptr);
+        return Class::imageNamedWithConfiguration(name, LumoraResources::bundle(), nullptr);
     else if constexpr (answersOlder && !isPlatformsOlder)
-        return Class::imageNamed(name, bundle, nullptr);
+        return Class::imageNamed(name, LumoraResources::bundle(), nullptr);
     else
-        return detail::madeFrom<Class>(Platform::imageNamedWithConfiguration(name, bundle, nullptr));
+        return detail::madeFrom<Class>(detail::found([&](const Foundation::NSBundle& bundle) {
+            return Platform::imageNamedWithConfiguration(name, bundle, nullptr);
+        }));
 }
 [[nodiscard]] inline std::optional<UIKit::UIImage> assetNamed(std::string_view name) {
     return withAssetName(name);

@@ -18,7 +18,8 @@
 //
 // Records are constants: nothing runs to make them and nothing when the process ends.
 // Text: UTF-8. Threads: any. Ownership: names are string literals; what is returned by reference lives until the
-// process ends.
+// process ends. Errors: an asset that is missing stops the process; while memory or descriptors have run out, its read
+// throws std::bad_alloc or std::system_error instead, and keeps nothing.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -36,9 +37,12 @@ namespace SwiftUI {
 
 namespace detail {
 
-// Stops the process: a module that names an asset which is not there was built wrong.
-[[noreturn]] LUMORA_EXPORT void missingAsset(std::string_view kind, std::string_view name, std::string_view source,
-                                             std::uint32_t line) noexcept;
+enum class AssetKind : std::uint8_t { image, color, data };
+
+// Stops the process: a module that names an asset which is not there was built wrong. An asset that cannot be read at
+// the moment only throws std::bad_alloc or std::system_error.
+[[noreturn]] LUMORA_EXPORT void missingAsset(AssetKind kind, std::string_view name, const Foundation::NSBundle& bundle,
+                                             std::string_view source, std::uint32_t line);
 
 // A value that is made at its first read and then stays where it is. No lock: threads that read first at the same
 // moment may each make one, and all of them see the one that was stored first.
@@ -72,7 +76,7 @@ public:
     UIKit::UIImage image() const {
         if (const auto found = UIKit::UIImage::imageNamed(name_, Module::bundle()))
             return *found;
-        detail::missingAsset("image", name_, Module::sourceName, 685);
+        detail::missingAsset(detail::AssetKind::image, name_, Module::bundle(), Module::sourceName, 685);
     }
     // Never reports a missing asset.
     Image swiftUIImage() const { return Image(name_, Module::bundle()); }
@@ -111,7 +115,7 @@ private:
     [[gnu::noinline, gnu::cold]] const UIKit::UIColor& load() const {
         if (const auto found = UIKit::UIColor::colorNamed(name_, Module::bundle()))
             return color_.keep(*found);
-        detail::missingAsset("color", name_, Module::sourceName, 587);
+        detail::missingAsset(detail::AssetKind::color, name_, Module::bundle(), Module::sourceName, 587);
     }
     // For the module: later reads give the assigned value.
     void setColor(const UIKit::UIColor& color) const { color_.replace(color); }
@@ -131,7 +135,7 @@ public:
     UIKit::NSDataAsset data() const {
         if (const auto found = UIKit::NSDataAsset::assetWithName(name_, Module::bundle()))
             return *found;
-        detail::missingAsset("data", name_, Module::sourceName, 645);
+        detail::missingAsset(detail::AssetKind::data, name_, Module::bundle(), Module::sourceName, 645);
     }
 
 private:

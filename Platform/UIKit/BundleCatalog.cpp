@@ -1,7 +1,9 @@
 #include "UIKit/internal/BundleCatalog.h"
 
 #include "Foundation/internal/HostState.h"
+#include "Runtime/Attempt.h"
 #include "Runtime/internal/KeyedStore.h"
+#include "Runtime/internal/TransientError.h"
 #include <cmath>
 #include <string>
 
@@ -9,18 +11,23 @@ namespace UIKit::detail {
 
 namespace {
 
-// Null when the catalog cannot be opened at the moment.
-const BundleCatalog* openedFor(const Foundation::NSBundle& bundle) {
+// Throws std::bad_alloc, and std::system_error when the catalog cannot be opened at the moment.
+const BundleCatalog& openedFor(const Foundation::NSBundle& bundle) {
     static constinit Runtime::KeyedStore<BundleCatalog, 16> all;
     if (const BundleCatalog* const known = all.find(bundle.bundlePath()))
-        return known;
+        return *known;
     auto opened = AssetCatalog::Catalog::open(bundle.bundlePath() + "/" + std::string(AssetCatalog::fileName));
-    if (!opened && opened.error().isTransient())
-        return nullptr;
     std::optional<AssetCatalog::Catalog> catalog;
     if (opened)
         catalog.emplace(*std::move(opened));
-    return all.add(all.unlimited, bundle.bundlePath(), BundleCatalog(bundle, std::move(catalog)));
+    else
+        Runtime::throwIfTransient(opened.error());
+    return *all.add(all.unlimited, bundle.bundlePath(), BundleCatalog(bundle, std::move(catalog)));
+}
+
+std::optional<Found> findIn(const BundleCatalog& catalog, AssetCatalog::Kind kind, std::string_view name) noexcept {
+    const auto index = catalog.find(kind, name);
+    return index ? std::optional(Found{&catalog, *index}) : std::nullopt;
 }
 
 AssetCatalog::Appearance appearanceOf(UserInterfaceStyle style) noexcept {
@@ -70,15 +77,23 @@ std::size_t BundleCatalog::bestVariant(std::size_t index, const UITraitCollectio
         if (const std::string* const language = bundle_.preferredLocalization())
             return found.best(fit, {language, 1});
         return found.best(fit, Foundation::detail::hostLanguages().languages); // a bundle without texts
-    } catch (...) { // no memory for the languages now
+    } catch (...) {                                                            // no memory for the languages now
         return found.best(fit);
     }
 }
 
-std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle) {
-    const BundleCatalog* catalog = openedFor(bundle);
-    const auto index = catalog == nullptr ? std::nullopt : catalog->find(kind, name);
-    return index ? std::optional(Found{catalog, *index}) : std::nullopt;
+std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name,
+                               const Foundation::NSBundle& bundle) noexcept {
+    return Runtime::attempt([&] { return findIn(openedFor(bundle), kind, name); });
+}
+
+void throwIfUnreadable(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle) {
+    const auto found = findIn(openedFor(bundle), kind, name);
+    if (!found || kind != AssetCatalog::Kind::data)
+        return;
+    const AssetCatalog::Entry entry = found->catalog->entry(found->index);
+    if (const auto bytes = entry.data(found->catalog->bestVariant(found->index, {})).blob.read(); !bytes)
+        Runtime::throwIfTransient(bytes.error());
 }
 
 } // namespace UIKit::detail

@@ -1,5 +1,6 @@
 #include "UIKit/NSDataAsset.h"
 
+#include "Runtime/Attempt.h"
 #include "Runtime/internal/KeyedStore.h"
 #include "UIKit/internal/BundleCatalog.h"
 #include <cstdint>
@@ -35,7 +36,7 @@ std::optional<NSDataAsset> NSDataAsset::assetWithName(std::string_view name, con
         return std::nullopt;
     const AssetCatalog::Entry entry = found->catalog->entry(found->index);
     const auto data = entry.data(found->catalog->bestVariant(found->index, {}));
-    const Bytes* const bytes = readFrom(data.blob);
+    const Bytes* const bytes = Runtime::attempt([&] { return readFrom(data.blob); });
     return bytes == nullptr ? std::nullopt : std::optional(NSDataAsset(entry.name(), data.typeIdentifier, *bytes));
 }
 

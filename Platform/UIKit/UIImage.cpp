@@ -1,6 +1,7 @@
 #include "UIKit/UIImage.h"
 
 #include "Pictures/internal/Pictures.h"
+#include "Runtime/Attempt.h"
 #include "Runtime/OnceSlot.h"
 #include "UIKit/internal/BundleCatalog.h"
 #include "UIKit/internal/PixelCache.h"
@@ -19,6 +20,26 @@ detail::PixelCache& cache() {
 AssetCatalog::PictureView pictureFor(const detail::BundleCatalog& catalog, std::size_t index,
                                      const UITraitCollection& traits) noexcept {
     return catalog.entry(index).picture(catalog.bestVariant(index, traits));
+}
+
+// Null when the picture is damaged or cannot be read.
+detail::Pixels pixelsOf(const AssetCatalog::PictureView& picture) {
+    // A catalog that is wrong about a picture's size is damaged.
+    const auto isRight = [&](const auto& pixels) {
+        return pixels.width == picture.width && pixels.height == picture.height;
+    };
+    if (auto known = cache().find(picture.blob))
+        return isRight(*known) ? known : nullptr;
+    const auto encoded = picture.blob.read();
+    if (!encoded)
+        return nullptr;
+    const auto size = Pictures::measure(*encoded);
+    if (!size || !isRight(*size))
+        return nullptr;
+    auto decoded = Pictures::decode(*encoded, AssetCatalog::maxPixels);
+    if (!decoded)
+        return nullptr;
+    return cache().add(picture.blob, std::make_shared<const Pictures::Bitmap>(*std::move(decoded)));
 }
 
 EdgeInsets insetsOf(const AssetCatalog::Insets& insets) noexcept {
@@ -91,23 +112,7 @@ EdgeInsets UIImage::alignmentRectInsets() const noexcept {
 }
 
 std::shared_ptr<const Pictures::Bitmap> UIImage::rgba() const {
-    const auto picture = pictureFor(*catalog_, index_, traits_);
-    // A catalog that is wrong about a picture's size is damaged.
-    const auto isRight = [&](const auto& pixels) {
-        return pixels.width == picture.width && pixels.height == picture.height;
-    };
-    if (auto known = cache().find(picture.blob))
-        return isRight(*known) ? known : nullptr;
-    const auto encoded = picture.blob.read();
-    if (!encoded)
-        return nullptr;
-    const auto size = Pictures::measure(*encoded);
-    if (!size || !isRight(*size))
-        return nullptr;
-    auto decoded = Pictures::decode(*encoded, AssetCatalog::maxPixels);
-    if (!decoded)
-        return nullptr;
-    return cache().add(picture.blob, std::make_shared<const Pictures::Bitmap>(*std::move(decoded)));
+    return Runtime::attempt([&] { return pixelsOf(pictureFor(*catalog_, index_, traits_)); });
 }
 
 } // namespace UIKit

@@ -9,11 +9,13 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <system_error>
 #include <thread>
 
 namespace {
 
 namespace fs = std::filesystem;
+namespace Assets = Lumora::LumoraAsset;
 namespace Texts = Lumora::LumoraStrings::Localizable;
 using Foundation::NSBundle;
 
@@ -44,7 +46,39 @@ TEST(Files, NoDescriptorsGiveNoTextAndKeepNothing) {
               0);
 }
 
-// The catalog is open already, so what lacks is the descriptor for the decoders.
+template <class Read> bool throwsSystemError(Read read) {
+    try {
+        static_cast<void>(read());
+    } catch (const std::system_error& error) {
+        return error.code() == std::errc::too_many_files_open;
+    }
+    return false;
+}
+
+// An asset that the module names is not missing because descriptors are: it is no reason to stop. What may be absent
+// is.
+TEST(Files, NoDescriptorsStopNothing) {
+    for (const bool isOpen : {false, true}) // the bundle, not its catalog
+        EXPECT_EQ(Child::exitOf([isOpen] {
+                      if (isOpen)
+                          static_cast<void>(Lumora::LumoraResources::bundle());
+                      const rlim_t old = setDescriptors(0);
+                      const bool throws = throwsSystemError([] { return Assets::Images::send.image(); }) &&
+                                          throwsSystemError([] { return Assets::Colors::progressGreen.color(); }) &&
+                                          throwsSystemError([] { return Assets::Onboarding::countryRegions.data(); });
+                      const bool isAbsent = !Lumora::UIImage::assetNamed("send") &&
+                                            !Lumora::UIColor::withAsset(Assets::Colors::progressGreen) &&
+                                            !Lumora::NSDataAsset::withAsset(Assets::Onboarding::countryRegions);
+                      setDescriptors(old);
+                      const bool isThere = Lumora::UIImage::assetNamed("send") &&
+                                           !Assets::Onboarding::countryRegions.data().data().empty();
+                      return throws ? isAbsent ? isThere ? 0 : 3 : 2 : 1;
+                  }),
+                  0)
+            << (isOpen ? "with the bundle open" : "at the first use");
+}
+
+// The catalog is open already; the decoders cannot be loaded.
 TEST(Files, NoDescriptorsGiveNoPixelsForTheMoment) {
     EXPECT_EQ(Child::exitOf([] {
                   const UIKit::UIImage image = Lumora::LumoraAsset::Images::send.image();

@@ -39,8 +39,13 @@ struct Found {
 };
 
 // The asset of that kind and name in the catalog of `bundle`, or no value. A bundle's catalog is opened at the first
-// call for it, once; a bundle without one, or with a damaged one, has no assets. Later calls take no lock.
+// call for it, once; a bundle without one, or with a damaged one, has no assets. One that cannot be opened at the
+// moment is tried again at the next call. Takes no lock.
 [[nodiscard]] std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name,
-                                             const Foundation::NSBundle& bundle);
+                                             const Foundation::NSBundle& bundle) noexcept;
+
+// Throws std::bad_alloc or std::system_error when the asset cannot be looked up, or its data not read, at the moment
+// only: memory or descriptors ran out, or the device failed.
+void throwIfUnreadable(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle);
 
 } // namespace UIKit::detail
