@@ -130,8 +130,9 @@ void appendMagnitude(std::string& out, const NumberPattern& pattern, std::uint64
 } // namespace
 
 Kept<NumberPattern> numberPattern(std::string_view locale, NumberStyle style) {
-    static constinit std::array<LocaleCache<NumberPattern>, 2> caches;
-    return caches[static_cast<std::size_t>(style)].get(locale, [&] { return Intl::numberPattern(locale, style); });
+    static constinit LocaleCache<NumberPattern> decimal, percent;
+    LocaleCache<NumberPattern>& cache = style == NumberStyle::percent ? percent : decimal;
+    return cache.get(locale, [&] { return Intl::numberPattern(locale, style); });
 }
 
 void appendDigits(std::string& out, const NumberPattern& pattern, std::string_view digits) {

@@ -1,6 +1,7 @@
 #include "Compiler/Tables.h"
 
 #include "Runtime/internal/File.h"
+#include "StringTables/internal/BundleLayout.h"
 #include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/Table.h"
 #include "StringTables/internal/Writer.h"
@@ -19,7 +20,8 @@ using StringTables::Table;
 
 namespace {
 
-constexpr std::string_view regionKey = "CFBundleDevelopmentRegion";
+namespace layout = StringTables::bundleLayout;
+constexpr std::string_view regionKey = layout::developmentRegionKey;
 
 Runtime::Result<std::string> smallestInfo(const Source& source) {
     const std::array<Entry, 1> entries = {{{regionKey, source.developmentLanguage}}};
@@ -54,7 +56,8 @@ Runtime::Result<void> place(const StagedFolder& out, const fs::path& file, Runti
 }
 
 // The plain texts as TABLE.strings, those with forms as TABLE.stringsdict beside it.
-Runtime::Result<void> compileTexts(const LanguageTexts& texts, const StagedFolder& out, const fs::path& file) {
+Runtime::Result<void> compileTexts(const LanguageTexts& texts, const StagedFolder& out, const fs::path& folder,
+                                   std::string_view table) {
     std::vector<Entry> entries;
     std::vector<StringTables::PluralEntry> plurals;
     for (const SourceBundle::SourceEntry& entry : texts.entries())
@@ -63,25 +66,26 @@ Runtime::Result<void> compileTexts(const LanguageTexts& texts, const StagedFolde
         else
             plurals.push_back({std::string(entry.key), *entry.plural, {}});
     if (!plurals.empty())
-        if (auto written = place(out, fs::path(file) += "dict", StringTables::write(plurals)); !written)
+        if (auto written = place(out, folder / layout::pluralsFile(table), StringTables::write(plurals)); !written)
             return written;
-    return entries.empty() && !plurals.empty() ? Runtime::Result<void>()
-                                               : place(out, file, StringTables::write(entries, Form::binary));
+    return entries.empty() && !plurals.empty()
+               ? Runtime::Result<void>()
+               : place(out, folder / layout::textsFile(table), StringTables::write(entries, Form::binary));
 }
 
 } // namespace
 
 Runtime::Result<void> compileTables(const Source& source, const StagedFolder& out, const Progress& progress) {
-    if (auto written = place(out, "Info.plist", info(source)); !written)
+    if (auto written = place(out, layout::informationFile, info(source)); !written)
         return written;
     std::size_t all = 0, done = 0;
     for (const SourceTable& table : source.tables)
         all += table.languages.size();
     for (const SourceTable& table : source.tables)
         for (const LanguageTexts& texts : table.languages) {
-            const fs::path file = fs::path(texts.language + ".lproj") / (table.name + ".strings");
-            progress(file.native(), done++, all);
-            if (auto written = compileTexts(texts, out, file); !written)
+            const fs::path folder = layout::folderOfLanguage(texts.language);
+            progress((folder / layout::textsFile(table.name)).native(), done++, all);
+            if (auto written = compileTexts(texts, out, folder, table.name); !written)
                 return written;
         }
     return {};

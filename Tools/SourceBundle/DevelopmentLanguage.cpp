@@ -1,6 +1,7 @@
 #include "SourceBundle/DevelopmentLanguage.h"
 
 #include "SourceBundle/SourceFiles.h"
+#include "StringTables/internal/BundleLayout.h"
 #include "StringTables/internal/Table.h"
 #include <algorithm>
 
@@ -10,7 +11,7 @@ using StringTables::Table;
 
 namespace {
 
-constexpr std::string_view regionKey = "CFBundleDevelopmentRegion";
+constexpr std::string_view regionKey = StringTables::bundleLayout::developmentRegionKey;
 
 bool isBuildSetting(std::string_view value) {
     return value.starts_with("$(") || value.starts_with("${");

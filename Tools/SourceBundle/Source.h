@@ -114,6 +114,6 @@ private:
 };
 
 // The language that texts have at run time when the user's is not there.
-inline constexpr std::string_view baseLanguage = "Base";
+inline constexpr std::string_view baseLanguage = StringTables::bundleLayout::baseName;
 
 } // namespace SourceBundle

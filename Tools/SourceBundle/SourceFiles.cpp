@@ -1,5 +1,6 @@
 #include "SourceBundle/SourceFiles.h"
 
+#include "StringTables/internal/BundleLayout.h"
 #include <array>
 #include <optional>
 #include <set>
@@ -10,6 +11,7 @@
 namespace SourceBundle {
 
 namespace fs = std::filesystem;
+namespace layout = StringTables::bundleLayout;
 
 namespace {
 
@@ -18,9 +20,9 @@ constexpr const char* compiledMark = ".lumora-bundle";
 
 std::optional<TableFile::Kind> kindOf(const fs::path& file) {
     const fs::path extension = file.extension();
-    if (extension == ".strings")
+    if (extension == layout::textsSuffix)
         return TableFile::Kind::texts;
-    if (extension == ".stringsdict")
+    if (extension == layout::pluralsSuffix)
         return TableFile::Kind::plurals;
     if (extension == ".xcstrings")
         return TableFile::Kind::catalog;
@@ -48,7 +50,7 @@ public:
         std::error_code failed;
         given_ = folder;
         source_ = fs::canonical(folder, failed);
-        findInfo(folder / "Info.plist");
+        findInfo(folder / layout::informationFile);
         findInFolder(folder, 0);
     }
 
@@ -104,7 +106,7 @@ private:
             std::error_code failed;
             if (!entry.is_directory(failed))
                 findFile(entry);
-            else if (path.extension() == ".lproj")
+            else if (path.extension() == layout::languageSuffix)
                 findInLanguageFolder(entry, depth);
             else if (entry.is_symlink())
                 add(Severity::note, path, "is a link to a folder and is left out");
@@ -118,7 +120,7 @@ private:
     void findFile(const fs::directory_entry& entry) {
         const fs::path& path = entry.path();
         const std::optional<TableFile::Kind> kind = kindOf(path);
-        if (path.extension() == ".lproj")
+        if (path.extension() == layout::languageSuffix)
             add(Severity::warning, path, "is not a folder of tables and is left out");
         else if (kind == TableFile::Kind::catalog)
             addTable(entry, *kind, "");

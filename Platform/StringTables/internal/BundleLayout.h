@@ -31,6 +31,14 @@ inline std::string folderOfLanguage(std::string_view language) {
     return std::string(language).append(languageSuffix);
 }
 
+// The files of a table in a language's folder.
+inline std::string textsFile(std::string_view table) {
+    return std::string(table).append(textsSuffix);
+}
+inline std::string pluralsFile(std::string_view table) {
+    return std::string(table).append(pluralsSuffix);
+}
+
 // The languages in whose folders a text is looked for, in this order, when `chosen` is the user's. May name one twice.
 constexpr std::array<std::string_view, 3> lookupOrder(std::string_view chosen, std::string_view development) noexcept {
     return {chosen, baseName, development};
