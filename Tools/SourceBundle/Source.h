@@ -7,6 +7,7 @@
 
 #include "SourceBundle/Diagnostics.h"
 #include "SourceBundle/SourceFiles.h"
+#include "StringTables/internal/BundleLayout.h"
 #include <cstdint>
 #include <filesystem>
 #include <memory>
