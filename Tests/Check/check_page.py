@@ -1,4 +1,5 @@
 """Runs the examples of Docs/check.md: where the page says so, exactly the rule of its section is found; otherwise nothing is."""
+import base64
 import json
 import pathlib
 import re
@@ -6,7 +7,9 @@ import subprocess
 import sys
 import tempfile
 
-ASSETS = {"asset-duplicate-variant", "asset-missing-dark", "asset-missing-file", "asset-missing-scale", "asset-unassigned", "unreadable-asset"}
+# A white pixel: the page cannot show what is in a bitmap.
+PIXEL = base64.b64decode("iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAAAAAA6fptVAAAACklEQVR4nGP4DwABAQEAsTj2FAAAAABJRU5ErkJggg==")
+BITMAP = re.compile(r'"filename": "([^"]+\.png)"')
 BLOCK = re.compile(r"```\w+ (\S+)\n(.*?)```", re.DOTALL)
 
 
@@ -17,6 +20,8 @@ def found(program, own, files, arguments):
             file = pathlib.Path(held, name)
             file.parent.mkdir(parents=True, exist_ok=True)
             file.write_text(text, encoding="utf-8")
+            for bitmap in BITMAP.findall(text):
+                file.with_name(bitmap).write_bytes(PIXEL)
         done = subprocess.run([program, "check", "source", "--format", "json", *arguments], cwd=held, capture_output=True, timeout=60)
         findings = json.loads(done.stdout)
         rules = [finding["rule"] for finding in findings if finding["rule"] == own or finding["rule"] != "coverage"]
@@ -49,7 +54,7 @@ def main(page, program):
     listed = json.loads(subprocess.run([program, "check", "--format", "sarif", str(page.parent.parent / "Resources")], check=True,
                                        capture_output=True).stdout)["runs"][0]["tool"]["driver"]["rules"]
     missing = {rule["id"] for rule in listed} ^ set(seen)
-    if missing - ASSETS:
+    if missing:
         faults.append(f"rules without a section, or sections without a rule: {sorted(missing)}")
     print("\n".join(faults) or f"{len(seen)} rules behave as the page says")
     return 1 if faults else 0

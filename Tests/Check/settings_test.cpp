@@ -20,6 +20,15 @@ TEST(Settings, SwitchRulesOffForASourceAndForLanguages) {
     EXPECT_EQ(source.findings(options), Strings());
 }
 
+TEST(Settings, SwitchRulesOffForAnAsset) {
+    const char* const unfinished = R"({"colors": [{"color": {"reference": "systemRedColor"}},
+                                                  {"appearances": [{"appearance": "luminosity", "value": "dark"}]}]})";
+    CheckedSource source{{"A.xcassets/one.colorset/Contents.json", unfinished},
+                         {"A.xcassets/two.colorset/Contents.json", unfinished},
+                         {"lumora-check.json", R"({"assets": {"one": ["asset-missing-dark"]}})"}};
+    EXPECT_EQ(source.findings(), Strings{"asset-missing-dark A.xcassets/two.colorset/Contents.json:2:51  two"});
+}
+
 TEST(Settings, SayWhatIsWrongWithThem) {
     const struct {
         int line;

@@ -57,6 +57,9 @@ protected:
 
 using Lines = std::vector<std::string>;
 const std::string contents = "A.xcassets/p.imageset/Contents.json: ";
+std::string at(const char* place) {
+    return std::string("A.xcassets/p.imageset/Contents.json:") + place + ": ";
+}
 
 TEST_F(Catalogs, ReadSetsInFoldersWithAndWithoutANamespace) {
     const std::string one = R"({"data": [{"filename": "f", "universal-type-identifier": "public.text"}]})";
@@ -118,16 +121,16 @@ TEST_F(Catalogs, TakeThePicturesOfOneKindOfDevice) {
          R"({"idiom": "ipad", "filename": "2"}, {"idiom": "universal", "subtype": "retina4", "filename": "3"},
             {"idiom": "universal", "filename": "1"})",
          {"1"},
-         {"note " + contents +
+         {"note " + at("1:13") +
               R"(entry 1 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "universal" are used)",
-          "note " + contents +
+          "note " + at("1:49") +
               R"(entry 2 ("3") is for other devices (idiom "universal", subtype "retina4") and is left out: the variants for idiom "universal" are used)"}},
         {__LINE__,
          R"({"idiom": "universal", "filename": "missing"}, {"idiom": "universal", "filename": ""},
             {"idiom": "ipad", "filename": "2"}, {"idiom": "iphone", "filename": "1"})",
          {"1"},
-         {"warning A.xcassets/p.imageset/missing: does not exist; it is left out",
-          "note " + contents +
+         {"warning " + at("1:13") + R"(entry 1 ("missing") is a file that does not exist and is left out)",
+          "note " + at("2:13") +
               R"(entry 3 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "iphone" are used)"}},
         // The only pictures are taken, whatever they are for; of the sizes of a watch those of the widest.
         {__LINE__, R"({"idiom": "universal", "display-gamut": "display-P3", "filename": "1"})", {"1"}, {}},
@@ -137,17 +140,17 @@ TEST_F(Catalogs, TakeThePicturesOfOneKindOfDevice) {
             {"idiom": "watch", "screen-width": ">183", "scale": "2x", "filename": "2"},
             {"idiom": "watch", "screen-width": ">161", "scale": "2x", "filename": "3"})",
          {"2"},
-         {"note " + contents +
+         {"note " + at("3:13") +
               R"(entry 3 ("3") is for other devices (idiom "watch", screen-width ">161") and is left out: the variants for idiom "watch", screen-width ">183" are used)",
-          "note " + contents +
+          "note " + at("1:13") +
               R"(entry 1 ("1") is for other devices (idiom "watch", screen-width "<=145") and is left out: the variants for idiom "watch", screen-width ">183" are used)"}},
         // No reader can want these scales.
         {__LINE__,
          R"({"scale": "10x", "filename": "1"}, {"scale": "2x", "filename": "2"}, {"scale": "2X", "filename": "3"})",
          {"2"},
-         {"note " + contents +
+         {"note " + at("1:13") +
               R"(entry 1 ("1") is for other devices (idiom "universal", scale "10x") and is left out: the variants for idiom "universal" are used)",
-          "note " + contents +
+          "note " + at("1:82") +
               R"(entry 3 ("3") is for other devices (idiom "universal", scale "2X") and is left out: the variants for idiom "universal" are used)"}},
         {__LINE__, R"({"scale": "1.5x", "filename": "1"})", {"1"}, {}},
     };
@@ -167,11 +170,11 @@ TEST_F(Catalogs, SayOnceWhatIsLeftOut) {
         {__LINE__,
          R"({"filename": "1", "unassigned": true}, {"filename": "2"})",
          {"2"},
-         {"note " + contents + R"(entry 1 ("1") is not assigned to any variant and is left out)"}},
+         {"note " + at("1:13") + R"(entry 1 ("1") is not assigned to any variant and is left out)"}},
         {__LINE__,
          R"({"filename": "1"}, {"filename": "2"}, {"filename": "3", "locale": "de"})",
          {"1", "3"},
-         {"warning " + contents + R"(entry 2 ("2") is for the same readers as an entry before it and is left out)"}},
+         {"warning " + at("1:32") + R"(entry 2 ("2") is for the same readers as an entry before it and is left out)"}},
         {__LINE__,
          R"({"filename": "1", "glow": 3}, {"filename": "2", "scale": 2, "locale": "de"})",
          {"1", "2"},
@@ -180,8 +183,8 @@ TEST_F(Catalogs, SayOnceWhatIsLeftOut) {
         {__LINE__,
          R"({"filename": "missing"})",
          {},
-         {"warning A.xcassets/p.imageset/missing: does not exist; it is left out, and with it the set, which has no "
-          "other variant"}},
+         {"warning " + at("1:13") +
+          R"(entry 1 ("missing") is a file that does not exist and is left out, and with it the set, which has no other variant)"}},
         {__LINE__,
          R"({"scale": "1x"})",
          {},
@@ -283,30 +286,31 @@ TEST_F(Catalogs, LeaveOutSetsThatAreWrong) {
         {__LINE__, "a.imageset", "[]",
          "warning A.xcassets/a.imageset/Contents.json:1:1: is not a JSON object; the set is left out"},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "../../secret"}]})",
-         R"(warning A.xcassets/a.imageset/Contents.json: entry 1 ("../../secret") is a file outside of its set and is left out)" +
+         R"(warning A.xcassets/a.imageset/Contents.json:1:13: entry 1 ("../../secret") is a file outside of its set and is left out)" +
              withSet},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "/etc/passwd"}]})",
-         R"(warning A.xcassets/a.imageset/Contents.json: entry 1 ("/etc/passwd") is a file outside of its set and is left out)" +
+         R"(warning A.xcassets/a.imageset/Contents.json:1:13: entry 1 ("/etc/passwd") is a file outside of its set and is left out)" +
              withSet},
         {__LINE__, "a.imageset", R"({"images": [{"filename": "link"}]})",
-         "warning A.xcassets/a.imageset/link: is a link, which is not followed; it is left out" + withSet},
+         R"(warning A.xcassets/a.imageset/Contents.json:1:13: entry 1 ("link") is a link, which is not followed, and is left out)" +
+             withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"platform": "ios", "reference": "noColor"}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 is the unknown system colour "noColor" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 is the unknown system colour "noColor" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "much"}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has no possible colour component "red": ""much"" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no possible colour component "red": ""much"" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "1", "green": "1"}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has no possible colour component "blue" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no possible colour component "blue" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": 255}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has no possible colour component "red": "255" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no possible colour component "red": "255" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "0xFFFFFFFF"}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has no possible colour component "red": ""0xFFFFFFFF"" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no possible colour component "red": ""0xFFFFFFFF"" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"color-space": "cmyk", "components": {}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json: entry 1 has the unknown colour space "cmyk" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has the unknown colour space "cmyk" and is left out)" +
              withSet},
         {__LINE__, "a.appiconset", "{}",
          "note A.xcassets/a.appiconset: is a set of a kind that is not supported and is left out"},

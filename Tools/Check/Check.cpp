@@ -1,5 +1,6 @@
 #include "Check/Check.h"
 
+#include "Check/AssetRules.h"
 #include "Check/MessageFindings.h"
 #include "Check/TextRules.h"
 #include "Check/Usage.h"
@@ -103,6 +104,7 @@ std::vector<Finding> check(const Source& source, const Options& options, Diagnos
     std::vector<Report> reports(1, Report(settings));
     checkTexts(source, tables, reports);
     const Generator::Model model = modelling.get();
+    checkAssets(model.assets, reports.front());
     if (!options.usedIn.empty())
         checkUsage(model, source.developmentLanguage, options.usedIn, reports.front(), others);
     takeFindings(source, diagnostics, reports.front(), others);

@@ -1,5 +1,6 @@
 #include "Check/MessageFindings.h"
 
+#include "SourceBundle/SetContents.h"
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -75,6 +76,14 @@ private:
     std::unordered_map<std::string, Known> known_;
 };
 
+// A message about a set as a whole is about its Contents.json.
+Runtime::Error placeOf(const Runtime::Error& what) {
+    std::error_code failed;
+    if (what.line != 0 || !fs::is_directory(what.file, failed))
+        return what;
+    return {.message = what.message, .file = fs::path(what.file) / SourceBundle::contentsName, .line = 1, .column = 1};
+}
+
 } // namespace
 
 void takeFindings(const Source& source, const Diagnostics& messages, Report& report, Diagnostics& others) {
@@ -89,10 +98,11 @@ void takeFindings(const Source& source, const Diagnostics& messages, Report& rep
         const SourceEntry* entry = languages.entryOf(message.what.file, message.subject);
         if (entry != nullptr && Report::isAllowed(*rule, *entry))
             continue;
+        const Runtime::Error place = placeOf(message.what);
         report.add({.rule = *rule,
-                    .file = message.what.file,
-                    .line = static_cast<std::uint32_t>(message.what.line),
-                    .column = static_cast<std::uint32_t>(message.what.column),
+                    .file = place.file,
+                    .line = static_cast<std::uint32_t>(place.line),
+                    .column = static_cast<std::uint32_t>(place.column),
                     .language = languages.languageOf(message.what.file),
                     .subject = message.subject,
                     .message = message.what.message});

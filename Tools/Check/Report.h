@@ -18,7 +18,7 @@ public:
     explicit Report(const Settings& settings) : settings_(settings) {}
 
     void add(Finding finding) {
-        if (settings_.isOn(finding.rule, finding.file, finding.language))
+        if (settings_.isOn(finding))
             findings_.push_back(std::move(finding));
     }
     // A finding about a text. Its comment, or that of its `development` text, may allow it.

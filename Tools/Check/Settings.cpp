@@ -1,6 +1,7 @@
 #include "Check/Settings.h"
 
 #include "Runtime/internal/File.h"
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <utility>
 
@@ -40,7 +41,7 @@ public:
             return {};
         }
         for (const auto& [name, value] : json.items())
-            if (name != "disable" && name != "languages")
+            if (name != "disable" && name != "languages" && name != "assets")
                 say(Severity::warning, "unknown member \"" + name + "\"");
         return json;
     }
@@ -59,6 +60,19 @@ public:
                 else
                     say(Severity::warning, "unknown rule \"" + name.get<std::string>() + "\"");
         return rules;
+    }
+
+    // The lists of the object that is the member `name`.
+    std::map<std::string, RuleSet> rulesByName(const Json& json, const char* name) {
+        std::map<std::string, RuleSet> all;
+        if (!json.contains(name))
+            return all;
+        if (!json[name].is_object())
+            say(Severity::error, "\"" + std::string(name) + "\" is not an object");
+        else
+            for (const auto& [member, list] : json[name].items())
+                all[member] = rules(list);
+        return all;
     }
 
     void say(Severity severity, std::string message) {
@@ -81,33 +95,28 @@ Settings Settings::read(std::span<const fs::path> folders, RuleSet disabled, Dia
 }
 
 Settings::Folder Settings::readFolder(const fs::path& folder, Diagnostics& diagnostics) {
-    Folder out{.prefix = (folder / "").string(), .disabled = {}, .byLanguage = {}};
     SettingsReader reader(folder / settingsFileName, diagnostics);
     const Json json = reader.parsed();
-    if (json.contains("disable"))
-        out.disabled = reader.rules(json["disable"]);
-    if (!json.contains("languages"))
-        return out;
-    if (!json["languages"].is_object())
-        reader.say(Severity::error, "\"languages\" is not an object");
-    else
-        for (const auto& [language, rules] : json["languages"].items())
-            out.byLanguage[language] = reader.rules(rules);
-    return out;
+    return {.prefix = (folder / "").string(),
+            .disabled = json.contains("disable") ? reader.rules(json["disable"]) : RuleSet(),
+            .byLanguage = reader.rulesByName(json, "languages"),
+            .byAsset = reader.rulesByName(json, "assets")};
 }
 
-bool Settings::isOn(Rule rule, const fs::path& file, std::string_view language) const {
-    const auto number = static_cast<std::size_t>(rule);
-    if (disabled_[number])
-        return false;
-    for (const Folder& folder : folders_) {
-        if (!file.native().starts_with(folder.prefix))
-            continue;
-        const auto own = folder.byLanguage.find(language);
-        if (folder.disabled[number] || (own != folder.byLanguage.end() && own->second[number]))
-            return false;
-    }
-    return true;
+bool Settings::isOn(const Finding& finding) const {
+    const auto number = static_cast<std::size_t>(finding.rule);
+    const auto has = [&](const Rules& rules, const std::string& name) {
+        const auto found = rules.find(name);
+        return found != rules.end() && found->second[number];
+    };
+    // A finding without a language is about an asset.
+    const auto isOff = [&](const Folder& folder) {
+        return folder.disabled[number] || (finding.language.empty() ? has(folder.byAsset, finding.subject)
+                                                                    : has(folder.byLanguage, finding.language));
+    };
+    return !disabled_[number] && std::ranges::none_of(folders_, [&](const Folder& folder) {
+        return finding.file.native().starts_with(folder.prefix) && isOff(folder);
+    });
 }
 
 RuleSet allowedBy(std::string_view comment, std::vector<std::string_view>* unknown) {

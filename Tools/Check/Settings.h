@@ -1,9 +1,10 @@
 // Check/Settings.h
-// Which rules are switched off where: for a run, for a source folder (lumora-check.json), for a language in it, and for
-// one key by a comment, "lumora: allow RULE, RULE".
+// Which rules are switched off where: for a run; for a source folder, or a language or an asset in it, by its
+// lumora-check.json; for one key by a comment, "lumora: allow RULE, RULE".
 // Threads: any, immutable once read.
 #pragma once
 
+#include "Check/Finding.h"
 #include "Check/Rules.h"
 #include <bitset>
 #include <filesystem>
@@ -26,14 +27,15 @@ public:
     [[nodiscard]] static Settings read(std::span<const std::filesystem::path> folders, RuleSet disabled,
                                        SourceBundle::Diagnostics& diagnostics);
 
-    // Whether findings of `rule` in `file`, about a text in `language` (empty: none), are reported.
-    [[nodiscard]] bool isOn(Rule rule, const std::filesystem::path& file, std::string_view language) const;
+    [[nodiscard]] bool isOn(const Finding& finding) const;
 
 private:
+    using Rules = std::map<std::string, RuleSet>; // by name
     struct Folder {
         std::string prefix; // of the files in it
         RuleSet disabled;
-        std::map<std::string, RuleSet, std::less<>> byLanguage;
+        Rules byLanguage;
+        Rules byAsset;
     };
     static Folder readFolder(const std::filesystem::path& folder, SourceBundle::Diagnostics& diagnostics);
 

@@ -3,6 +3,7 @@
 #include "Check/Identifiers.h"
 #include "Generator/CodeText.h"
 #include "Runtime/internal/File.h"
+#include "SourceBundle/SetContents.h"
 #include <algorithm>
 #include <array>
 #include <string>
@@ -84,7 +85,10 @@ private:
             {.name = constant.name,
              .group = innermost(constant.groups),
              .finding = {.rule = Rule::unusedAccessor,
-                         .file = constant.asset->path,
+                         .file = constant.asset->path / SourceBundle::contentsName,
+                         .line = 1,
+                         .column = 1,
+                         .language = {},
                          .subject = constant.asset->name,
                          .message = "the constant " + constant.groups + "::" + constant.name + " is not used"}});
     }

@@ -148,7 +148,7 @@ std::vector<SourceAsset> sourceAssets(std::span<const fs::path> catalogs, Diagno
     inParallel(assets.size(), [&](std::size_t i) { readSet(assets[i], check, messages[i]); });
     for (const Diagnostics& ofOne : messages)
         for (const Diagnostic& one : ofOne.all())
-            diagnostics.add(one.severity, one.what);
+            diagnostics.add(one);
     std::erase_if(assets, [](const SourceAsset& asset) { return asset.files.empty() && asset.colors.empty(); });
     return assets;
 }

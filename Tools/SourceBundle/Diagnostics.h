@@ -43,6 +43,8 @@ public:
         all_.push_back({isRaised ? Severity::error : severity, std::move(what), topic, std::string(subject)});
     }
 
+    void add(const Diagnostic& other) { add(other.severity, other.what, other.topic, other.subject); }
+
     const std::vector<Diagnostic>& all() const noexcept { return all_; }
     bool hasErrors() const noexcept { return count(Severity::error) != 0; }
     std::size_t count(Severity severity) const noexcept {

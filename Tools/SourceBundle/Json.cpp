@@ -2,15 +2,10 @@
 
 #include "Runtime/internal/File.h"
 #include <algorithm>
-#include <string_view>
 
 namespace SourceBundle {
 
 namespace fs = std::filesystem;
-
-namespace {
-
-constexpr std::size_t maxJsonBytes = std::size_t{4} << 20;
 
 Runtime::Error errorAt(const fs::path& file, std::string_view text, std::size_t byte, std::string message) {
     const std::string_view before = text.substr(0, std::min(byte, text.size()));
@@ -18,8 +13,6 @@ Runtime::Error errorAt(const fs::path& file, std::string_view text, std::size_t 
     const std::size_t lineBegin = before.find_last_of('\n') == std::string_view::npos ? 0 : before.rfind('\n') + 1;
     return {.message = std::move(message), .file = file, .line = lines + 1, .column = before.size() - lineBegin + 1};
 }
-
-} // namespace
 
 Runtime::Result<Json> readJsonObject(const fs::path& file) {
     if (std::error_code failed; fs::is_symlink(fs::symlink_status(file, failed)))

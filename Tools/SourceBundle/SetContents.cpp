@@ -1,6 +1,7 @@
 #include "SourceBundle/SetContents.h"
 
 #include "SourceBundle/ColorComponents.h"
+#include "SourceBundle/ContentsPlace.h"
 #include "SourceBundle/ImageLayout.h"
 #include "SourceBundle/Json.h"
 #include "SourceBundle/KnownProperties.h"
@@ -67,8 +68,9 @@ public:
             chosen_ = device;
         }
         for (const SetEntry& entry : std::ranges::subrange(rest, entries.end()))
-            say(Severity::note, entry.label() + " is for other devices (" + entry.device.text() +
-                                    ") and is left out: the variants for " + chosen_.text() + " are used");
+            say(Severity::note, entry,
+                "is for other devices (" + entry.device.text() + ") and is left out: the variants for " +
+                    chosen_.text() + " are used");
         addSystemColorVariants();
     }
 
@@ -87,7 +89,7 @@ private:
                 continue;
             reportUnknownProperties(json, KnownProperties::ofEntry, entry.label());
             if (member(json, "unassigned") == Json(true))
-                say(Severity::note, entry.label() + " is not assigned to any variant and is left out");
+                say(Severity::note, entry, "is not assigned to any variant and is left out", Topic::unassignedVariant);
             else
                 entries.push_back(std::move(entry));
         }
@@ -112,7 +114,8 @@ private:
         const auto isIts = [&](const auto& variant) { return isTwin(variant, entry); };
         if (std::ranges::none_of(asset_.files, isIts) && std::ranges::none_of(asset_.colors, isIts))
             return false;
-        say(Severity::warning, entry.label() + " is for the same readers as an entry before it and is left out");
+        say(Severity::warning, entry, "is for the same readers as an entry before it and is left out",
+            Topic::duplicateVariant);
         return true;
     }
 
@@ -138,17 +141,18 @@ private:
         std::error_code failed;
         // A name is one component, so that nothing outside of the set gets into a catalog.
         if (name == "." || name == ".." || name.find_first_of(std::string_view("/\0", 2)) != std::string::npos) {
-            say(Severity::warning, entry.label() + " is a file outside of its set and is left out");
+            say(Severity::warning, entry, "is a file outside of its set and is left out", Topic::unreadableAsset);
             return std::nullopt;
         }
         const fs::path file = asset_.path / name;
         const fs::file_status status = fs::symlink_status(file, failed);
         if (fs::is_regular_file(status))
             return file;
-        const char* fault = fs::is_symlink(status) ? "is a link, which is not followed"
+        const char* fault = fs::is_symlink(status) ? "is a link, which is not followed,"
                             : fs::exists(status)   ? "is not a regular file"
-                                                   : "does not exist";
-        diagnostics_.add(Severity::warning, leftOut({.message = fault, .file = file}));
+                                                   : "is a file that does not exist";
+        say(Severity::warning, entry, std::string(fault) + " and is left out",
+            fs::exists(status) ? Topic::unreadableAsset : Topic::missingFile);
         return std::nullopt;
     }
 
@@ -158,15 +162,15 @@ private:
             return addSystemColor(entry, reference);
         const auto value = colorValue(color);
         if (!value)
-            return say(Severity::warning, entry.label() + " " + value.error().message + " and is left out");
+            return say(Severity::warning, entry, value.error().message + " and is left out", Topic::unreadableAsset);
         asset_.colors.push_back({entry.fit, entry.language, *value});
     }
 
     void addSystemColor(const SetEntry& entry, const std::string& reference) {
         const std::optional<SystemColor> color = systemColor(reference);
         if (!color)
-            return say(Severity::warning,
-                       entry.label() + " is the unknown system colour " + quotedName(reference) + " and is left out");
+            return say(Severity::warning, entry,
+                       "is the unknown system colour " + quotedName(reference) + " and is left out");
         const bool isDark = entry.fit.appearance == AssetCatalog::Appearance::dark;
         asset_.colors.push_back({entry.fit, entry.language, isDark ? color->dark : color->light});
         if (entry.fit.appearance != AssetCatalog::Appearance::any)
@@ -188,13 +192,19 @@ private:
     // A file that the system cannot read now is not left out: the next time it may be there.
     void reportUnusable(Runtime::Error error) {
         if (error.cause != 0)
-            diagnostics_.add(Severity::error, std::move(error));
+            diagnostics_.add(Severity::error, std::move(error), Topic::unreadableAsset, asset_.name);
         else
-            diagnostics_.add(Severity::warning, leftOut(std::move(error)));
+            diagnostics_.add(Severity::warning, leftOut(std::move(error)), Topic::unreadableAsset, asset_.name);
     }
     static Runtime::Error leftOut(Runtime::Error error) {
         error.message += "; it is left out";
         return error;
+    }
+    // A message about an entry, at its place.
+    void say(Severity severity, const SetEntry& entry, std::string_view what, Topic topic = Topic::other) {
+        Runtime::Error error = entryPlace(contents_, listName(asset_), entry.number);
+        error.message = entry.label().append(" ").append(what);
+        diagnostics_.add(severity, std::move(error), topic, asset_.name);
     }
     void say(Severity severity, std::string message) {
         diagnostics_.add(severity, {.message = std::move(message), .file = contents_});
@@ -216,10 +226,10 @@ void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagn
     const auto warnings = std::ranges::count_if(messages.all(), isWarning);
     std::ptrdiff_t warning = 0;
     for (const Diagnostic& one : messages.all()) {
-        Runtime::Error what = one.what;
+        Diagnostic said = one;
         if (isWarning(one) && ++warning == warnings)
-            what.message += ", and with it the set, which has no other variant";
-        diagnostics.add(one.severity, std::move(what));
+            said.what.message += ", and with it the set, which has no other variant";
+        diagnostics.add(said);
     }
     if (warnings == 0 && std::ranges::none_of(messages.all(), isError))
         diagnostics.add(Severity::warning,
@@ -231,10 +241,10 @@ void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagn
 void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics) {
     auto json = readJsonObject(asset.path / contentsName);
     if (!json && json.error().isTransient())
-        return diagnostics.add(Severity::error, std::move(json.error()));
+        return diagnostics.add(Severity::error, std::move(json.error()), Topic::unreadableAsset, asset.name);
     if (!json) {
         json.error().message += "; the set is left out";
-        return diagnostics.add(Severity::warning, std::move(json.error()));
+        return diagnostics.add(Severity::warning, std::move(json.error()), Topic::unreadableAsset, asset.name);
     }
     Diagnostics messages;
     SetReader reader(asset, check, messages);
@@ -242,7 +252,7 @@ void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnos
     if (reader.isEmpty())
         return reportEmptySet(asset, messages, diagnostics);
     for (const Diagnostic& one : messages.all())
-        diagnostics.add(one.severity, one.what);
+        diagnostics.add(one);
 }
 
 SourcePictures::Purpose purposeOf(const SourceFile& file) {

@@ -1,0 +1,212 @@
+#include "Check/AssetRules.h"
+
+#include "AssetCatalog/internal/Model.h"
+#include "Generator/CodeText.h"
+#include "SourceBundle/ContentsPlace.h"
+#include "SourceBundle/SetContents.h"
+#include "SourceBundle/SetEntry.h"
+#include <algorithm>
+#include <array>
+#include <bitset>
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+namespace Check {
+
+namespace fs = std::filesystem;
+using AssetCatalog::Appearance;
+using AssetCatalog::Kind;
+using Generator::quote;
+using SourceBundle::Json;
+using SourceBundle::SetEntry;
+using SourceBundle::SourceAsset;
+
+namespace {
+
+constexpr std::size_t maxScale = 3;
+using Scales = std::bitset<maxScale + 1>; // by scale
+
+struct Set {
+    const SourceAsset* asset;
+    Json contents;
+    std::vector<SetEntry> entries; // point into the contents
+};
+
+bool isUnassigned(const SetEntry& entry) {
+    return SourceBundle::member(*entry.json, "unassigned") == Json(true);
+}
+
+// Pictures that are sharp at every scale.
+bool isVector(const SetEntry& entry) {
+    const std::string extension = fs::path(SourceBundle::text(*entry.json, "filename")).extension().string();
+    return extension == ".pdf" || extension == ".svg" || extension == ".PDF" || extension == ".SVG";
+}
+
+bool isDark(const SetEntry& entry) {
+    return entry.fit.appearance == Appearance::dark;
+}
+
+// The entries of a set that differ in their scale only.
+struct Variant {
+    std::string idiom;
+    bool isDark = false;
+    bool isForEveryScale = false; // a vector, or a picture without a scale
+    Scales filled;
+    const SetEntry* first = nullptr;
+};
+
+std::vector<Variant> variantsOf(const Set& set) {
+    std::map<std::string, Variant> byIdentity;
+    for (const SetEntry& entry : set.entries) {
+        if (isUnassigned(entry))
+            continue;
+        std::string identity = entry.device.text() + '\n' + entry.language;
+        for (const int part : {static_cast<int>(entry.fit.appearance), static_cast<int>(entry.fit.contrast),
+                               static_cast<int>(entry.fit.direction)})
+            identity += '\n' + std::to_string(part);
+        Variant& variant = byIdentity[identity];
+        if (variant.first == nullptr)
+            variant = {.idiom = entry.device.idiom,
+                       .isDark = isDark(entry),
+                       .isForEveryScale = false,
+                       .filled = {},
+                       .first = &entry};
+        if (!entry.isFilled())
+            continue;
+        if (entry.fit.scale == 0 || entry.fit.scale > maxScale || isVector(entry))
+            variant.isForEveryScale = true;
+        else
+            variant.filled.set(entry.fit.scale);
+    }
+    std::vector<Variant> variants;
+    for (auto& [identity, variant] : byIdentity)
+        variants.push_back(std::move(variant));
+    return variants;
+}
+
+// The scales of the screens of a kind of device, without 1: few catalogs have it, as it is drawn well from the others.
+Scales scalesOf(std::string_view idiom) {
+    if (idiom == "universal" || idiom == "iphone" || idiom == "car")
+        return Scales(0b1100);
+    return Scales(0b0100);
+}
+
+std::string textOf(const Scales& scales) {
+    std::string text;
+    for (std::size_t scale = 1; scale <= maxScale; ++scale)
+        if (scales[scale])
+            text.append(text.empty() ? "" : ", ").append(std::to_string(scale)).append("x");
+    return text;
+}
+
+class AssetCheck {
+public:
+    AssetCheck(std::span<const SourceAsset> assets, Report& report) : report_(report) {
+        for (const SourceAsset& asset : assets)
+            if (asset.kind != Kind::data && asset.path.extension() != SourceBundle::symbolExtension)
+                readSet(asset);
+    }
+
+    void run() {
+        const bool needsSingle = isSingleScaleUsual();
+        const std::vector<std::string_view> darkCatalogs = catalogsWithDarkColors();
+        for (const Set& set : sets_) {
+            const bool isInDarkCatalog = std::ranges::find(darkCatalogs, set.asset->catalog) != darkCatalogs.end();
+            if (set.asset->kind == Kind::image)
+                checkScales(set, needsSingle);
+            checkDark(set, set.asset->kind == Kind::color && isInDarkCatalog);
+        }
+    }
+
+private:
+    void readSet(const SourceAsset& asset) {
+        auto json = SourceBundle::readJsonObject(asset.path / SourceBundle::contentsName);
+        if (!json)
+            return; // gone since it was read
+        Set& set = sets_.emplace_back(Set{&asset, *std::move(json), {}});
+        std::size_t number = 0;
+        for (const Json& entry : SourceBundle::member(set.contents, listOf(asset)))
+            if (++number; entry.is_object())
+                set.entries.push_back(SourceBundle::readEntry(entry, number));
+    }
+
+    static const char* listOf(const SourceAsset& asset) { return asset.kind == Kind::color ? "colors" : "images"; }
+
+    // Whether most of the pictures with several scales have 1x.
+    bool isSingleScaleUsual() const {
+        std::size_t all = 0, withSingle = 0;
+        for (const Set& set : sets_)
+            for (const Variant& variant : variantsOf(set))
+                if (variant.filled.count() > 1) {
+                    ++all;
+                    withSingle += variant.filled[1];
+                }
+        return withSingle * 2 > all;
+    }
+
+    std::vector<std::string_view> catalogsWithDarkColors() const {
+        std::vector<std::string_view> catalogs;
+        for (const Set& set : sets_)
+            if (set.asset->kind == Kind::color && std::ranges::any_of(set.entries, isFilledDark) &&
+                std::ranges::find(catalogs, set.asset->catalog) == catalogs.end())
+                catalogs.push_back(set.asset->catalog);
+        return catalogs;
+    }
+
+    static bool isFilledDark(const SetEntry& entry) { return isDark(entry) && entry.isFilled(); }
+
+    void checkScales(const Set& set, bool needsSingle) {
+        for (const Variant& variant : variantsOf(set)) {
+            if (variant.isForEveryScale || variant.filled.none())
+                continue;
+            Scales needed = scalesOf(variant.idiom);
+            needed[1] = needsSingle;
+            if (const Scales missing = needed & ~variant.filled; missing.any())
+                report(set, *variant.first, Rule::assetMissingScale,
+                       " has no bitmap for " + textOf(missing) + (variant.isDark ? " in dark mode" : ""));
+        }
+    }
+
+    // An empty place for dark mode, or a colour without one where others have it.
+    void checkDark(const Set& set, bool isExpected) {
+        if (std::ranges::any_of(set.entries, isFilledDark))
+            return;
+        const auto place = std::ranges::find_if(set.entries, isDark);
+        const bool isSystemColor = std::ranges::any_of(set.entries, [](const SetEntry& entry) {
+            return !SourceBundle::text(SourceBundle::member(*entry.json, "color"), "reference").empty();
+        });
+        if (place != set.entries.end())
+            report(set, *place, Rule::assetMissingDark, " has an empty place for dark mode");
+        else if (isExpected && !isSystemColor && !set.entries.empty())
+            report(set, set.entries.front(), Rule::assetMissingDark,
+                   " has no colour for dark mode, as others of its catalog have");
+    }
+
+    void report(const Set& set, const SetEntry& entry, Rule rule, const std::string& what) {
+        const fs::path file = set.asset->path / SourceBundle::contentsName;
+        const Runtime::Error place = SourceBundle::entryPlace(file, listOf(*set.asset), entry.number);
+        report_.add({.rule = rule,
+                     .file = file,
+                     .line = static_cast<std::uint32_t>(place.line),
+                     .column = static_cast<std::uint32_t>(place.column),
+                     .language = {},
+                     .subject = set.asset->name,
+                     .message = "the asset " + quote(set.asset->name) + what});
+    }
+
+    Report& report_;
+    std::deque<Set> sets_; // their entries point into their contents
+};
+
+} // namespace
+
+void checkAssets(std::span<const SourceAsset> assets, Report& report) {
+    AssetCheck(assets, report).run();
+}
+
+} // namespace Check
