@@ -114,12 +114,13 @@ bool copyPermissions(const std::string& path, const Descriptor& file) noexcept {
     return ::stat(path.c_str(), &status) != 0 || ::fchmod(file.number(), status.st_mode & 07777) == 0;
 }
 
-Result<void> replace(const std::string& path, std::string_view bytes) {
+Result<void> replace(const std::string& path, std::string_view bytes, WriteSafety safety) {
     auto [file, temporary] = createBeside(path);
     if (file.number() < 0)
         return systemError(path, "cannot be written");
-    const bool written = copyPermissions(path, file) && writeAll(file.number(), bytes) && ::fsync(file.number()) == 0 &&
-                         file.close() && ::rename(temporary.c_str(), path.c_str()) == 0;
+    const bool written = copyPermissions(path, file) && writeAll(file.number(), bytes) &&
+                         (safety == WriteSafety::unsynced || ::fsync(file.number()) == 0) && file.close() &&
+                         ::rename(temporary.c_str(), path.c_str()) == 0;
     if (written)
         return {};
     Error error = systemError(path, "cannot be written");
@@ -142,7 +143,7 @@ Result<std::string> readFile(const std::string& path, std::size_t limit) {
     return bytes;
 }
 
-Result<void> writeFile(const std::string& path, std::string_view bytes) {
+Result<void> writeFile(const std::string& path, std::string_view bytes, WriteSafety safety) {
     if (path.find('\0') != path.npos) {
         errno = EINVAL;
         return systemError(path, "cannot be written");
@@ -153,7 +154,7 @@ Result<void> writeFile(const std::string& path, std::string_view bytes) {
         if (!link) {
             struct stat status {};
             const bool isThere = ::stat(place.c_str(), &status) == 0;
-            return isThere && !S_ISREG(status.st_mode) ? writeThrough(place, bytes) : replace(place, bytes);
+            return isThere && !S_ISREG(status.st_mode) ? writeThrough(place, bytes) : replace(place, bytes, safety);
         }
         const std::string folder = folderOf(place);
         if (isOfProcesses(folder))

@@ -14,9 +14,16 @@ template <class... Values> std::string printed(const char* format, Values... val
     return buffer;
 }
 
+// Which is nearly every character.
+constexpr bool isVisibleAscii(char c) {
+    return c >= ' ' && c < 0x7F;
+}
+
 // The bytes of the character that `text` begins with; one byte where it begins with none.
 std::string_view firstCharacter(std::string_view text) {
     std::size_t size = 1;
+    if (isVisibleAscii(text[0]))
+        return text.substr(0, size);
     while (size < std::min<std::size_t>(text.size(), 4) && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
         ++size;
     const std::u32string decoded = Unicode::decoded(text.substr(0, size));
@@ -25,6 +32,8 @@ std::string_view firstCharacter(std::string_view text) {
 }
 
 std::string visibleCharacter(std::string_view bytes) {
+    if (isVisibleAscii(bytes[0]))
+        return std::string(bytes);
     const char32_t c = Unicode::decoded(bytes)[0];
     if (Unicode::isVisible(c) && Unicode::encoded({&c, 1}) == bytes)
         return std::string(bytes);

@@ -28,7 +28,8 @@ void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
         const LanguageTexts* base = table.find(SourceBundle::baseLanguage);
         for (const LanguageTexts& texts : table.languages)
             for (const SourceEntry& entry : texts.entries())
-                if ((own == nullptr || own->find(entry.key) == nullptr) &&
+                if (&texts != own && &texts != base &&
+                    (own == nullptr || own->find(entry.key) == nullptr) &&
                     (base == nullptr || base->find(entry.key) == nullptr) && keys.insert(entry.key).second)
                     first = first == nullptr ? &entry : first;
         count += keys.size();

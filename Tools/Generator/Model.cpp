@@ -4,6 +4,7 @@
 #include "Generator/NameClaims.h"
 #include "Generator/Namer.h"
 #include <map>
+#include <unordered_map>
 #include <utility>
 
 namespace Generator {
@@ -17,23 +18,35 @@ using SourceBundle::Topic;
 
 namespace {
 
-// The path of a key by the rule; empty if the key gives no name. A part without a name is dropped.
-std::vector<std::string> pathOf(std::string_view key) {
-    std::vector<std::string> path;
-    std::string_view last;
-    for (const std::string_view part : Namer::components(key)) {
-        std::string name = Namer::spelling(Namer::groupName(part));
-        if (name.empty())
-            continue;
-        path.push_back(std::move(name));
-        last = part;
-        if (path.size() > maxPathParts)
-            break;
+// Makes the paths of keys by the rule.
+class PathMaker {
+public:
+    // Empty if the key gives no name. A part without a name is dropped.
+    std::vector<std::string> pathOf(std::string_view key) {
+        std::vector<std::string_view> parts = Namer::components(key);
+        std::string name;
+        for (; name.empty() && !parts.empty(); parts.pop_back())
+            name = Namer::spelling(Namer::entryName(parts.back()));
+        std::vector<std::string> path;
+        for (const std::string_view part : parts)
+            if (const std::string& group = groupName(part); !group.empty())
+                path.push_back(group);
+        if (!name.empty())
+            path.push_back(std::move(name));
+        return path;
     }
-    if (!path.empty())
-        path.back() = Namer::spelling(Namer::entryName(last));
-    return path;
-}
+
+private:
+    // Most keys share their groups with others.
+    const std::string& groupName(std::string_view part) {
+        const auto [known, isNew] = groups_.try_emplace(part);
+        if (isNew)
+            known->second = Namer::spelling(Namer::groupName(part));
+        return known->second;
+    }
+
+    std::unordered_map<std::string_view, std::string> groups_;
+};
 
 std::string faultOf(const std::vector<std::string>& path) {
     if (path.empty())
@@ -94,7 +107,7 @@ private:
 
     void findName(Candidate& candidate) {
         if (!candidate.isNamed)
-            candidate.path = pathOf(candidate.entry->key);
+            candidate.path = paths_.pathOf(candidate.entry->key);
         candidate.fault = faultOf(candidate.path);
         if (!candidate.fault.empty())
             return;
@@ -131,6 +144,7 @@ private:
     }
 
     std::vector<Candidate> candidates_;
+    PathMaker paths_;
     NameClaims names_;
 };
 

@@ -1,35 +1,27 @@
 #include "Generator/NameClaims.h"
 
+#include <algorithm>
+
 namespace Generator {
 
-namespace {
-
-// Calls `visit` with each group's qualified name and then the member's, until it returns false.
-template <class Visit> void visitNames(const std::vector<std::string>& path, Visit&& visit) {
-    std::string name;
-    for (const std::string& part : path) {
-        name.append(name.empty() ? "" : "::").append(part);
-        if (!visit(name, &part != &path.back()))
-            return;
-    }
-}
-
-} // namespace
-
 std::optional<NameClaims::Conflict> NameClaims::claim(const std::vector<std::string>& path, std::size_t number) {
-    std::optional<Conflict> conflict;
-    visitNames(path, [&](const std::string& name, bool isGroup) {
-        const auto found = owners_.find(name);
-        if (found != owners_.end() && !(isGroup && found->second.isGroup))
-            conflict = {name, found->second};
-        return !conflict;
-    });
-    if (!conflict)
-        visitNames(path, [&](const std::string& name, bool isGroup) {
-            owners_.try_emplace(name, Owner{number, isGroup});
-            return true;
-        });
-    return conflict;
+    std::size_t group = 0, known = 0; // how many groups of the path are there already
+    for (; known < path.size(); ++known) {
+        const bool isGroup = known + 1 < path.size();
+        const auto found = nodes_.find({group, path[known]});
+        if (found == nodes_.end())
+            break;
+        if (!isGroup || !found->second.owner.isGroup)
+            return Conflict{qualified({path.begin(), path.begin() + static_cast<std::ptrdiff_t>(known) + 1}),
+                            found->second.owner};
+        group = found->second.number;
+    }
+    for (; known < path.size(); ++known) {
+        const Node node{nodes_.size() + 1, {number, known + 1 < path.size()}};
+        nodes_.try_emplace({group, path[known]}, node);
+        group = node.number;
+    }
+    return std::nullopt;
 }
 
 std::string qualified(const std::vector<std::string>& path) {

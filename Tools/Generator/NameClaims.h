@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -26,7 +27,24 @@ public:
     std::optional<Conflict> claim(const std::vector<std::string>& path, std::size_t number);
 
 private:
-    std::unordered_map<std::string, Owner> owners_; // by qualified name
+    // A name in its group, by which alone it is looked up: a long path is not hashed again for each of its parts.
+    struct Name {
+        std::size_t group; // the number of its node; 0 for the root
+        std::string name;
+
+        bool operator==(const Name&) const = default;
+    };
+    struct Hash {
+        std::size_t operator()(const Name& name) const noexcept {
+            return std::hash<std::string>()(name.name) * 31 + name.group;
+        }
+    };
+    struct Node {
+        std::size_t number;
+        Owner owner;
+    };
+
+    std::unordered_map<Name, Node, Hash> nodes_;
 };
 
 // "Settings::Profile::title".

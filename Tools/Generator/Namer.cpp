@@ -50,6 +50,8 @@ bool isIdentifier(std::string_view name) {
 
 // A character outside C++ identifiers that stands for some inside them, as "№" does for "No".
 bool isLetterLike(char32_t c) {
+    if (c < 0x80)
+        return false;
     const std::u32string plain = compatible({&c, 1});
     return !plain.empty() && std::ranges::all_of(plain, continuesIdentifier);
 }

@@ -28,7 +28,7 @@ Runtime::Result<void> writeChanged(const fs::path& path, const std::string& cont
     fs::create_directories(path.parent_path(), failed);
     if (failed)
         return systemError(path.parent_path(), "cannot be made", failed);
-    return Runtime::writeFile(path, content);
+    return Runtime::writeFile(path, content, Runtime::WriteSafety::unsynced); // it can be made again
 }
 
 Runtime::Result<void> removeStale(const fs::path& folder, const std::set<fs::path>& made,

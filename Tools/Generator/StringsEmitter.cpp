@@ -12,9 +12,10 @@ namespace Generator {
 
 namespace {
 
-// A header of more entries is split, before the entry that begins another group where one comes near.
-constexpr std::size_t maxEntriesPerHeader = 250;
-constexpr std::size_t wantedEntriesPerHeader = 200;
+// A header of more entries is split, before the entry that begins another group where one comes near; into maxHeaders at
+// most.
+constexpr std::size_t minEntriesPerHeader = 250;
+constexpr std::size_t maxHeaders = 64;
 // What every compiler takes as one string literal.
 constexpr std::size_t maxLiteral = 65536;
 
@@ -109,12 +110,16 @@ std::string_view outermost(const CatalogEntry& entry) {
 }
 
 std::vector<std::span<const CatalogEntry>> parts(std::span<const CatalogEntry> entries) {
+    const std::size_t most = std::max(minEntriesPerHeader, entries.size() / maxHeaders + 1);
+    const std::size_t wanted = most * 4 / 5;
     std::vector<std::span<const CatalogEntry>> all;
     std::size_t begin = 0;
     for (std::size_t at = 1; at < entries.size(); ++at) {
         const bool beginsGroup = outermost(entries[at]) != outermost(entries[at - 1]);
-        if (at - begin == maxEntriesPerHeader || (beginsGroup && at - begin >= wantedEntriesPerHeader))
-            all.push_back(entries.subspan(begin, at - begin)), begin = at;
+        if (at - begin == most || (beginsGroup && at - begin >= wanted)) {
+            all.push_back(entries.subspan(begin, at - begin));
+            begin = at;
+        }
     }
     all.push_back(entries.subspan(begin));
     return all;

@@ -1,5 +1,7 @@
 #include "Generator/Unicode.h"
 
+#include <algorithm>
+#include <iterator>
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
@@ -26,6 +28,19 @@ std::u32string points(const icu::UnicodeString& string) {
     return text;
 }
 
+constexpr bool isAscii(char32_t c) noexcept {
+    return c < 0x80;
+}
+constexpr bool isAsciiCapital(char32_t c) noexcept {
+    return c >= 'A' && c <= 'Z';
+}
+constexpr bool isAsciiLower(char32_t c) noexcept {
+    return c >= 'a' && c <= 'z';
+}
+constexpr bool isAsciiDigit(char32_t c) noexcept {
+    return c >= '0' && c <= '9';
+}
+
 // The oldest of the compilers in use know the characters of Unicode 13.
 bool isSettled(UChar32 c) noexcept {
     UVersionInfo age;
@@ -35,55 +50,73 @@ bool isSettled(UChar32 c) noexcept {
 
 } // namespace
 
+// Nearly all names are ASCII, which needs no ICU.
+
 std::u32string decoded(std::string_view utf8) {
+    if (std::ranges::all_of(utf8, [](unsigned char byte) { return isAscii(byte); }))
+        return {utf8.begin(), utf8.end()};
     return points(icu::UnicodeString::fromUTF8(utf8));
 }
 
 std::string encoded(std::u32string_view text) {
     std::string utf8;
-    return unicodeString(text).toUTF8String(utf8);
+    if (std::ranges::all_of(text, isAscii))
+        std::ranges::transform(text, std::back_inserter(utf8), [](char32_t c) { return static_cast<char>(c); });
+    else
+        unicodeString(text).toUTF8String(utf8);
+    return utf8;
 }
 
 std::u32string composed(std::u32string_view text) {
+    if (std::ranges::all_of(text, isAscii))
+        return std::u32string(text);
     UErrorCode failed = U_ZERO_ERROR;
     return points(icu::Normalizer2::getNFCInstance(failed)->normalize(unicodeString(text), failed));
 }
 
 std::u32string compatible(std::u32string_view text) {
+    if (std::ranges::all_of(text, isAscii))
+        return std::u32string(text);
     UErrorCode failed = U_ZERO_ERROR;
     return points(icu::Normalizer2::getNFKCInstance(failed)->normalize(unicodeString(text), failed));
 }
 
 char32_t upper(char32_t c) noexcept {
-    return static_cast<char32_t>(u_toupper(code(c)));
+    return isAscii(c) ? c - (isAsciiLower(c) ? 'a' - 'A' : 0) : static_cast<char32_t>(u_toupper(code(c)));
 }
 
 char32_t lower(char32_t c) noexcept {
-    return static_cast<char32_t>(u_tolower(code(c)));
+    return isAscii(c) ? c + (isAsciiCapital(c) ? 'a' - 'A' : 0) : static_cast<char32_t>(u_tolower(code(c)));
 }
 
 bool isCapital(char32_t c) noexcept {
-    return u_isupper(code(c)) || u_istitle(code(c));
+    return isAscii(c) ? isAsciiCapital(c) : u_isupper(code(c)) || u_istitle(code(c));
 }
 
 bool isLower(char32_t c) noexcept {
-    return u_islower(code(c));
+    return isAscii(c) ? isAsciiLower(c) : static_cast<bool>(u_islower(code(c)));
 }
 
 bool isDigit(char32_t c) noexcept {
-    return u_isdigit(code(c));
+    return isAscii(c) ? isAsciiDigit(c) : static_cast<bool>(u_isdigit(code(c)));
 }
 
 bool beginsIdentifier(char32_t c) noexcept {
-    return c == '_' || (u_hasBinaryProperty(code(c), UCHAR_XID_START) && isSettled(code(c)));
+    if (isAscii(c))
+        return c == '_' || isAsciiCapital(c) || isAsciiLower(c);
+    return u_hasBinaryProperty(code(c), UCHAR_XID_START) && isSettled(code(c));
 }
 
 bool continuesIdentifier(char32_t c) noexcept {
+    if (isAscii(c))
+        return c == '_' || isAsciiCapital(c) || isAsciiLower(c) || isAsciiDigit(c);
     return u_hasBinaryProperty(code(c), UCHAR_XID_CONTINUE) && isSettled(code(c));
 }
 
 bool isVisible(char32_t c) noexcept {
-    return c == ' ' || (u_isgraph(code(c)) && isSettled(code(c)) && u_charType(code(c)) != U_FORMAT_CHAR);
+    if (isAscii(c))
+        return c >= ' ' && c < 0x7F;
+    return u_isgraph(code(c)) && isSettled(code(c)) && u_charType(code(c)) != U_FORMAT_CHAR;
 }
 
 } // namespace Generator::Unicode

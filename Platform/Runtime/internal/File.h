@@ -19,6 +19,10 @@ namespace Runtime {
 // or the new one and an interrupted write leaves the old. A link stays, and what it leads to is replaced, or made; a
 // pipe or a device is written to. A path that stands for an open descriptor, as /dev/stdout does, is written through
 // it, behind what it has written, and one for a descriptor of another process to the end of the file.
-[[nodiscard]] LUMORA_EXPORT Result<void> writeFile(const std::string& path, std::string_view bytes);
+// `safety`: whether the bytes are on the disk before the name is theirs, which costs a wait. Without, a machine that
+// loses power may leave an empty file.
+enum class WriteSafety { synced, unsynced };
+[[nodiscard]] LUMORA_EXPORT Result<void> writeFile(const std::string& path, std::string_view bytes,
+                                                   WriteSafety safety = WriteSafety::synced);
 
 } // namespace Runtime
