@@ -1,6 +1,6 @@
 // What the module publishes on the platform's image and colour types to callers who know it by message names only.
-#include "Lumora/AssetConveniences.h"
 #include "Lumora/LegacyImages.h"
+#include "Lumora/LumoraConveniences.h"
 #include "Lumora/ProgressColors.h"
 #include "Runtime/Class.h"
 

@@ -32,19 +32,20 @@ function(_lumora_run)
 endfunction()
 
 # lumora_add_module(Name SOURCES folder... [NAMES_FILE file] [DEVELOPMENT_LANGUAGE code] [STRICT]
-#                   [INCLUDE header...] [SHARDS n])
+#                   [INCLUDE header...] [HEADERS header...] [SHARDS n])
 # Makes the shared library target `Name` with the headers <Name/Name.h>, <Name/NameStrings.h> and <Name/NameAsset.h> in the
 # namespace `Name`, and Name.bundle beside the library file. Building a target that links it builds the bundle, too.
 #   NAMES_FILE             a table of names for keys: "TABLE/KEY" = "Group.name";
 #   DEVELOPMENT_LANGUAGE   where no Info.plist says it;
 #   STRICT                 warnings are errors;
 #   INCLUDE                headers of hand-made members that the tree of texts includes;
+#   HEADERS                headers of hand-made parts of the module that <Name/Name.h> includes;
 #   SHARDS                 into how many sources the accessors are split, so that they compile in parallel (default: 1).
 function(lumora_add_module name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "STRICT" "NAMES_FILE;DEVELOPMENT_LANGUAGE;SHARDS" "SOURCES;INCLUDE")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "STRICT" "NAMES_FILE;DEVELOPMENT_LANGUAGE;SHARDS" "SOURCES;INCLUDE;HEADERS")
     if(arg_UNPARSED_ARGUMENTS OR NOT arg_SOURCES)
         message(FATAL_ERROR "usage: lumora_add_module(Name SOURCES folder... [NAMES_FILE file] "
-                            "[DEVELOPMENT_LANGUAGE code] [STRICT] [INCLUDE header...] [SHARDS n])")
+                            "[DEVELOPMENT_LANGUAGE code] [STRICT] [INCLUDE header...] [HEADERS header...] [SHARDS n])")
     endif()
     set(sources "")
     foreach(source IN LISTS arg_SOURCES)
@@ -73,8 +74,9 @@ function(lumora_add_module name)
         list(APPEND code ${folder}/${name}Strings-${shard}.cpp)
     endforeach()
     list(TRANSFORM arg_INCLUDE REPLACE "(.+)" "--include;\\1" OUTPUT_VARIABLE includes)
+    list(TRANSFORM arg_HEADERS REPLACE "(.+)" "--header;\\1" OUTPUT_VARIABLE headers)
     _lumora_run(STAMP ${generated}/generated.stamp BYPRODUCTS ${code} COMMENT "Generating ${name}Strings and ${name}Asset"
-                ARGUMENTS generate ${sources} --module ${name} -o ${folder} --shards ${arg_SHARDS} ${includes} ${options})
+                ARGUMENTS generate ${sources} --module ${name} -o ${folder} --shards ${arg_SHARDS} ${includes} ${headers} ${options})
     add_library(${name} SHARED ${code} ${generated}/generated.stamp)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PUBLIC Lumora::Platform)

@@ -8,12 +8,15 @@
 //     };
 //     using LumoraImages = SwiftUI::ImageRecord<AssetModule>;
 //
-// and defines Catalog where it defines its records and nowhere else, so that nobody else can make one:
+// and declares Catalog whole in the same header, so that no user can define it,
 //
 //     class AssetModule::Catalog {
 //     public:
-//         static constexpr LumoraImages image(const char* name) { return LumoraImages(name); }
+//         static constexpr LumoraImages image(const char* name) noexcept;
 //     };
+//
+// but defines its functions in a header of its own, for the sources that define records or assign colours:
+//
 //     constinit const LumoraImages LumoraAsset::Images::send = AssetModule::Catalog::image("send");
 //
 // Records are constants: nothing runs to make them and nothing when the process ends.

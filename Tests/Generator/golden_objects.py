@@ -1,9 +1,10 @@
-"""Fails if generated objects run code when they are loaded, relocate per entry, or show other symbols than their accessors."""
+"""Fails if generated objects run code when they are loaded, relocate per entry, or show other symbols than their
+accessors and constants."""
 import re
 import subprocess
 import sys
 
-ACCESSORS = 28  # of Golden/input.bundle
+ACCESSORS, CONSTANTS = 30, 5  # of Golden/input.bundle
 BUNDLE = "_ZN3Odd12OddResources6bundleEv"
 SECTIONS = re.compile(r" (\.(?:init_array|ctors)\S*)")
 TREE_SECTIONS = re.compile(r" (\.(?:init_array|ctors|data\.rel\.ro)\S*)")
@@ -23,11 +24,14 @@ def main(objects):
         faults += [f"{file}: has {name}" for name in sections.findall(output("readelf", "-SW", file))]
         shown += [found.group(1) for found in map(SHOWN.match, output("readelf", "-sW", file).splitlines()) if found]
     accessors = [name for name in shown if name.startswith("_ZN3Odd10OddStrings")]
-    faults += [f"shows {name}" for name in shown if name not in accessors and name != BUNDLE]
+    constants = [name for name in shown if name.startswith("_ZN3Odd8OddAsset")]
+    faults += [f"shows {name}" for name in shown if name not in accessors + constants and name != BUNDLE]
     if BUNDLE not in shown:
         faults.append(f"hides {BUNDLE}")
     if len(accessors) != ACCESSORS:
         faults.append(f"shows {len(accessors)} accessors, not {ACCESSORS}")
+    if len(constants) != CONSTANTS:
+        faults.append(f"shows {len(constants)} constants, not {CONSTANTS}")
     print("\n".join(faults) or f"{len(shown)} symbols, no code at load")
     return 1 if faults else 0
 

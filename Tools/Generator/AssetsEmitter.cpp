@@ -5,6 +5,7 @@
 #include "Generator/CodeWriter.h"
 #include <array>
 #include <map>
+#include <utility>
 
 namespace Generator {
 
@@ -31,19 +32,17 @@ std::string headerOf(const AssetConstant& constant) {
 
 void declare(CodeWriter& code, const AssetConstant& constant, const Options& options) {
     code.enter(nameSpaceOf(constant, options));
-    code.add("// \"{{asset}}\"", {{"asset", visibleText(constant.asset->name)}});
+    code.addComment(quote(constant.asset->name));
     code.add("extern LUMORA_EXPORT const ::{{module}}::{{module}}{{record}} {{name}};",
              {{"record", wordsOf(constant).record}, {"name", constant.name}});
 }
 
 void define(CodeWriter& code, const AssetConstant& constant, const Options& options) {
     code.enter(nameSpaceOf(constant, options));
-    code.add("constinit const ::{{module}}::{{module}}{{record}} {{name}} =\n    "
-             "::{{module}}::{{module}}AssetModule::Catalog::{{maker}}({{asset}});",
-             {{"record", wordsOf(constant).record},
-              {"name", constant.name},
-              {"maker", wordsOf(constant).maker},
-              {"asset", literal(constant.asset->name)}});
+    const std::string module = "::" + options.module + "::" + options.module;
+    const auto [record, maker] = wordsOf(constant);
+    code.addAssignment("constinit const " + module + record + ' ' + constant.name,
+                       module + "AssetModule::Catalog::" + maker + '(' + literal(constant.asset->name) + ");");
 }
 
 } // namespace
@@ -53,33 +52,29 @@ std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, con
     std::map<std::string, CodeWriter> headers; // by the catalog's namespace
     CodeWriter source(options.module);
     source.add("#include \"{{module}}Asset.h\"\n\n#include \"{{module}}Asset/Internal/Catalog.h\"");
-    source.addBlankLine();
     for (const AssetConstant& constant : constants) {
         const auto [header, isNew] = headers.try_emplace(headerOf(constant), options.module);
-        if (isNew) {
+        if (isNew)
             header->second.add(
                 "#pragma once\n\n#include \"../{{module}}AssetRecords.h\"\n#include \"Runtime/Export.h\"");
-            header->second.addBlankLine();
-        }
         declare(header->second, constant, options);
         define(source, constant, options);
     }
 
     CodeWriter umbrella(options.module);
-    umbrella.add("// Every asset of the module by name.\n#pragma once\n\n#include \"{{module}}AssetRecords.h\"");
+    umbrella.add("// Every asset of the module by name.\n#pragma once\n");
+    std::vector<std::string> includes = {options.module + "AssetRecords.h"};
     std::vector<OutputFile> files;
     for (auto& [catalog, header] : headers) {
-        umbrella.add("#include \"{{module}}Asset/{{catalog}}.h\"", {{"catalog", catalog}});
+        includes.push_back(tree + "/" + catalog + ".h");
         files.push_back({tree + "/" + catalog + ".h", header.take()});
     }
-    CodeWriter records(options.module);
-    records.add(recordsHeader);
-    CodeWriter maker(options.module);
-    maker.add(makerHeader);
+    umbrella.addIncludes(std::move(includes));
     files.push_back({tree + ".h", umbrella.take()});
     files.push_back({tree + ".cpp", source.take()});
-    files.push_back({tree + "Records.h", records.take()});
-    files.push_back({tree + "/Internal/Catalog.h", maker.take()});
+    files.push_back({tree + "Records.h", filled(recordsHeader, options.module)});
+    files.push_back({tree + "/Internal/Catalog.h", filled(assetCatalogHeader, options.module)});
+    files.push_back({options.module + "Conveniences.h", filled(conveniencesHeader, options.module)});
     return files;
 }
 

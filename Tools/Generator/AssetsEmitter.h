@@ -9,7 +9,7 @@
 
 namespace Generator {
 
-// For constants without faults, those of one namespace in a row.
+// Those of one namespace are in a row.
 [[nodiscard]] std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, const Options& options);
 
 } // namespace Generator

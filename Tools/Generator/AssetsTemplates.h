@@ -10,6 +10,7 @@ namespace Generator {
 inline constexpr std::string_view recordsHeader = R"(#pragma once
 
 #include "{{module}}Resources.h"
+
 #include "SwiftUI/AssetRecord.h"
 #include <string_view>
 
@@ -19,29 +20,90 @@ namespace {{module}} {
 struct {{module}}AssetModule {
     static const ::Foundation::NSBundle& bundle() { return {{module}}Resources::bundle(); }
     static constexpr std::string_view sourceName = "TuistAssets+{{module}}";
-    class Catalog; // makes the records; only the module's own sources know how
+    class Catalog;
 };
 
 using {{module}}Images = ::SwiftUI::ImageRecord<{{module}}AssetModule>;
 using {{module}}Colors = ::SwiftUI::ColorRecord<{{module}}AssetModule>;
 using {{module}}Data = ::SwiftUI::DataRecord<{{module}}AssetModule>;
 
+// Makes the records and assigns their colours. Only the module's own sources have these functions.
+class {{module}}AssetModule::Catalog {
+public:
+    // Names are string literals.
+    static constexpr {{module}}Images image(const char* name) noexcept;
+    static constexpr {{module}}Colors color(const char* name) noexcept;
+    static constexpr {{module}}Data data(const char* name) noexcept;
+
+    // Later reads give the assigned value.
+    static void setColor(const {{module}}Colors& record, const ::UIKit::UIColor& color);
+    static void setSwiftUIColor(const {{module}}Colors& record, ::SwiftUI::Color color);
+};
+
 } // namespace {{module}})";
 
-inline constexpr std::string_view makerHeader = R"(// How records are made; internal.
+inline constexpr std::string_view assetCatalogHeader = R"(// How records are made and colours assigned; internal.
 #pragma once
 
 #include "../../{{module}}AssetRecords.h"
+#include <utility>
 
 namespace {{module}} {
 
-// Names are string literals.
-class {{module}}AssetModule::Catalog {
-public:
-    static constexpr {{module}}Images image(const char* name) noexcept { return {{module}}Images(name); }
-    static constexpr {{module}}Colors color(const char* name) noexcept { return {{module}}Colors(name); }
-    static constexpr {{module}}Data data(const char* name) noexcept { return {{module}}Data(name); }
-};
+constexpr {{module}}Images {{module}}AssetModule::Catalog::image(const char* name) noexcept {
+    return {{module}}Images(name);
+}
+constexpr {{module}}Colors {{module}}AssetModule::Catalog::color(const char* name) noexcept {
+    return {{module}}Colors(name);
+}
+constexpr {{module}}Data {{module}}AssetModule::Catalog::data(const char* name) noexcept {
+    return {{module}}Data(name);
+}
+
+inline void {{module}}AssetModule::Catalog::setColor(const {{module}}Colors& record, const ::UIKit::UIColor& color) {
+    record.setColor(color);
+}
+inline void {{module}}AssetModule::Catalog::setSwiftUIColor(const {{module}}Colors& record, ::SwiftUI::Color color) {
+    record.setSwiftUIColor(std::move(color));
+}
+
+} // namespace {{module}})";
+
+inline constexpr std::string_view conveniencesHeader =
+    R"(// What the module adds to the platform's image, colour and data types. SwiftUI/ModuleConveniences.h describes each.
+#pragma once
+
+#include "{{module}}AssetRecords.h"
+
+#include "SwiftUI/ModuleConveniences.h"
+
+namespace {{module}} {
+
+namespace UIColor {
+using ::SwiftUI::Conveniences::UIColor::withAsset;
+} // namespace UIColor
+
+namespace NSDataAsset {
+using ::SwiftUI::Conveniences::NSDataAsset::withAsset;
+} // namespace NSDataAsset
+
+namespace UIImage {
+template <class Class = ::UIKit::UIImage> [[nodiscard]] auto withAssetName(std::string_view name) {
+    return ::SwiftUI::Conveniences::UIImage::withAssetName<Class, {{module}}AssetModule>(name);
+}
+[[nodiscard]] inline std::optional<::UIKit::UIImage> assetNamed(std::string_view name) {
+    return withAssetName(name);
+}
+} // namespace UIImage
+
+namespace Color {
+using ::SwiftUI::Conveniences::Color::withAsset;
+} // namespace Color
+
+namespace Image {
+using ::SwiftUI::Conveniences::Image::decorative;
+using ::SwiftUI::Conveniences::Image::withAsset;
+} // namespace Image
 
 } // namespace {{module}})";
 

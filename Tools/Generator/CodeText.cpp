@@ -69,6 +69,15 @@ std::string quote(std::string_view text) {
     return '"' + visibleText(text) + '"';
 }
 
+std::size_t columnsOf(std::string_view text) {
+    if (std::ranges::all_of(text, isVisibleAscii))
+        return text.size();
+    std::size_t columns = 0;
+    for (const char32_t c : Unicode::decoded(text))
+        columns += Unicode::columnsOf(c);
+    return columns;
+}
+
 std::string literal(std::string_view bytes) {
     std::string code = "\"";
     while (!bytes.empty()) {

@@ -16,6 +16,9 @@ namespace Generator {
 // The same in quotation marks.
 [[nodiscard]] std::string quote(std::string_view text);
 
+// How many columns of a terminal the text takes.
+[[nodiscard]] std::size_t columnsOf(std::string_view text);
+
 // A string literal of exactly these bytes, quotation marks included, on one line.
 [[nodiscard]] std::string literal(std::string_view bytes);
 

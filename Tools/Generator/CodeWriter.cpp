@@ -1,5 +1,7 @@
 #include "Generator/CodeWriter.h"
 
+#include "Generator/CodeText.h"
+#include "Runtime/Fatal.h"
 #include <algorithm>
 
 namespace Generator {
@@ -12,36 +14,73 @@ void CodeWriter::add(std::string_view pattern, Values values) {
     for (std::size_t open; (open = pattern.find("{{")) != std::string_view::npos;) {
         const std::size_t close = pattern.find("}}", open);
         const std::string_view name = pattern.substr(open + 2, close - open - 2);
-        const auto found = std::ranges::find(values, name, &Values::value_type::first);
-        code_.append(pattern.substr(0, open)).append(found == values.end() ? module_ : found->second);
+        code_.append(pattern.substr(0, open)).append(valueOf(name, values));
         pattern.remove_prefix(close + 2);
     }
     code_.append(pattern).append("\n");
 }
 
-void CodeWriter::addList(std::string_view head, const std::vector<std::string>& items, std::string_view tail) {
-    const bool isHeadAlone = head.ends_with('\n');
-    const std::string indent(isHeadAlone ? 4 : head.size(), ' ');
-    code_ += head;
-    std::string line = isHeadAlone ? indent : std::string();
-    std::size_t width = isHeadAlone ? 0 : head.size();
-    for (const std::string& item : items) {
-        const bool isLast = &item == &items.back();
-        const std::string piece = item + (isLast ? std::string(tail) : ",");
-        const bool isFirst = line.find_first_not_of(' ') == std::string::npos;
-        if (!isFirst && width + line.size() + 1 + piece.size() > maxWidth) {
-            code_.append(line).append("\n");
-            line = indent + piece;
-            width = 0;
-        } else {
-            line.append(isFirst ? "" : " ").append(piece);
-        }
-    }
-    code_.append(line).append("\n");
+std::string_view CodeWriter::valueOf(std::string_view name, Values values) const {
+    if (name == "module")
+        return module_;
+    const auto found = std::ranges::find(values, name, &Values::value_type::first);
+    if (found == values.end())
+        Runtime::fatalError({"No value for {{", name, "}} in a template of generated code."}, "CodeWriter", __LINE__);
+    return found->second;
 }
 
-void CodeWriter::addBlankLine() {
+void CodeWriter::addList(std::string_view head, const std::vector<std::string>& items, std::string_view tail) {
+    const std::size_t indent = columnsOf(head.substr(head.rfind('\n') + 1)); // npos + 1 is the head's own begin
+    code_ += head;
+    std::size_t column = indent;
+    for (const std::string& item : items) {
+        const bool isFirst = &item == &items.front(), isLast = &item == &items.back();
+        const std::string piece = item + (isLast ? std::string(tail) : ",");
+        const std::size_t width = columnsOf(piece);
+        if (isFirst) {
+            column += width;
+        } else if (column + 1 + width > maxWidth) {
+            code_.append("\n").append(indent, ' ');
+            column = indent + width;
+        } else {
+            code_ += ' ';
+            column += 1 + width;
+        }
+        code_ += piece;
+    }
     code_ += '\n';
+}
+
+void CodeWriter::addAssignment(std::string_view head, std::string_view value) {
+    const bool fits = columnsOf(head) + 3 + columnsOf(value) <= maxWidth;
+    code_.append(head).append(fits ? " = " : " =\n    ").append(value).append("\n");
+}
+
+void CodeWriter::addComment(std::string_view text) {
+    constexpr std::string_view first = "// ", next = "//    ";
+    std::string line(first);
+    const auto end = [&] {
+        // Otherwise the next line would belong to the comment; "??/" is a backslash to some compilers.
+        const bool isContinued = line.ends_with('\\') || line.ends_with("?\?/");
+        code_.append(line).append(isContinued ? ".\n" : "\n");
+    };
+    for (bool isBegin = true; !text.empty(); isBegin = false) {
+        const std::string_view word = text.substr(0, text.find(' '));
+        if (!isBegin && columnsOf(line) + 1 + columnsOf(word) > maxWidth) {
+            end();
+            line = next;
+            isBegin = true;
+        }
+        line.append(isBegin ? "" : " ").append(word);
+        text.remove_prefix(std::min(word.size() + 1, text.size()));
+    }
+    end();
+}
+
+void CodeWriter::addIncludes(std::vector<std::string> headers) {
+    std::ranges::sort(headers);
+    for (const std::string& header : headers)
+        code_.append("#include \"").append(header).append("\"\n");
 }
 
 void CodeWriter::enter(const std::string& nameSpace) {
@@ -61,6 +100,12 @@ void CodeWriter::leave() {
 std::string CodeWriter::take() {
     leave();
     return std::move(code_);
+}
+
+std::string filled(std::string_view pattern, std::string_view module) {
+    CodeWriter code(module);
+    code.add(pattern);
+    return code.take();
 }
 
 } // namespace Generator

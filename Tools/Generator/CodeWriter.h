@@ -15,17 +15,22 @@ class CodeWriter {
 public:
     using Values = std::initializer_list<std::pair<std::string_view, std::string_view>>;
 
-    // Begins with the line that tells readers to keep their hands off. `module` is the value of {{module}} in every
+    // Begins with the line that says that the file is not to be edited. `module` is the value of {{module}} in every
     // pattern.
     explicit CodeWriter(std::string_view module);
 
-    // Adds `pattern` and a line end, with every {{name}} replaced by the value of that name. Values are not looked
-    // into.
+    // Adds `pattern` and a line end, with every {{name}} replaced by the value of that name. A name without a value
+    // stops the process. Values are not looked into.
     void add(std::string_view pattern, Values values = {});
     // Adds "HEAD ITEM, ITEM, ... TAIL", broken between items where the line would be too long; continued below the
-    // first item, or indented if the head is a line of its own.
+    // first item.
     void addList(std::string_view head, const std::vector<std::string>& items, std::string_view tail);
-    void addBlankLine();
+    // Adds "HEAD = VALUE", broken behind the sign where the line would be too long.
+    void addAssignment(std::string_view head, std::string_view value);
+    // Adds the text as comment lines, broken between words where they would be too long; continued lines are indented.
+    void addComment(std::string_view text);
+    // Adds a line for each quoted header, in the order that clang-format wants.
+    void addIncludes(std::vector<std::string> headers);
 
     // What follows is in the namespace of that name, given whole; nothing changes if it is already.
     void enter(const std::string& nameSpace);
@@ -34,12 +39,17 @@ public:
     // The code; closes what is open.
     [[nodiscard]] std::string take();
 
-    static constexpr std::size_t maxWidth = 120;
+    static constexpr std::size_t maxWidth = 120; // in columns
 
 private:
+    std::string_view valueOf(std::string_view name, Values values) const;
+
     std::string module_;
     std::string code_;
     std::string nameSpace_; // the open one
 };
+
+// A file of one pattern whose only name is {{module}}.
+[[nodiscard]] std::string filled(std::string_view pattern, std::string_view module);
 
 } // namespace Generator

@@ -2,6 +2,7 @@
 
 #include "Generator/AssetsEmitter.h"
 #include "Generator/CodeText.h"
+#include "Generator/CodeWriter.h"
 #include "Generator/Namer.h"
 #include "Generator/StringsEmitter.h"
 #include <algorithm>
@@ -28,8 +29,7 @@ void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
         const LanguageTexts* base = table.find(SourceBundle::baseLanguage);
         for (const LanguageTexts& texts : table.languages)
             for (const SourceEntry& entry : texts.entries())
-                if (&texts != own && &texts != base &&
-                    (own == nullptr || own->find(entry.key) == nullptr) &&
+                if (&texts != own && &texts != base && (own == nullptr || own->find(entry.key) == nullptr) &&
                     (base == nullptr || base->find(entry.key) == nullptr) && keys.insert(entry.key).second)
                     first = first == nullptr ? &entry : first;
         count += keys.size();
@@ -41,13 +41,41 @@ void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
                                                      quote(first->key)));
 }
 
+std::string moduleHeader(const Options& options) {
+    CodeWriter code(options.module);
+    code.add(R"(// The whole module.
+#pragma once
+
+#if __cplusplus < 202002L
+#error "{{module}} needs C++20: compile with -std=c++20 or later"
+#else
+
+#include "{{module}}Asset.h"
+#include "{{module}}Conveniences.h"
+#include "{{module}}Resources.h"
+#include "{{module}}Strings.h"
+
+#include "Foundation/Host.h"
+#include "Foundation/NSBundle.h"
+#ifdef __cpp_rtti // messages need it; all else works without
+#include "Runtime/Class.h"
+#endif)");
+    if (!options.headers.empty())
+        code.add("");
+    code.addIncludes(options.headers);
+    code.add("\n#endif // C++20");
+    return code.take();
+}
+
 } // namespace
 
 void check(const Options& options, Diagnostics& diagnostics) {
     const auto fail = [&](std::string message) { diagnostics.add(Severity::error, {.message = std::move(message)}); };
     if (!Namer::isModuleName(options.module))
         fail("the module's name is not a C++ identifier, or is reserved: " + quote(options.module));
-    for (const std::string& header : options.includes)
+    std::vector<std::string> headers = options.includes;
+    headers.insert(headers.end(), options.headers.begin(), options.headers.end());
+    for (const std::string& header : headers)
         if (header.find_first_of("\"\\\n\r") != std::string::npos)
             fail("cannot be included: " + quote(header));
     if (options.shards == 0 || options.shards > maxShards)
@@ -66,8 +94,8 @@ Model modelOf(const Source& source, const Options& options, Diagnostics& diagnos
 
 std::vector<OutputFile> filesOf(const Model& model, const Options& options) {
     std::vector<OutputFile> files = emitStrings(model.tables, options);
-    if (!model.assetTree.constants.empty())
-        std::ranges::move(emitAssets(model.assetTree.constants, options), std::back_inserter(files));
+    std::ranges::move(emitAssets(model.assetTree.constants, options), std::back_inserter(files));
+    files.push_back({options.module + ".h", moduleHeader(options)});
     return files;
 }
 

@@ -21,6 +21,7 @@ inline constexpr std::size_t maxShards = 1000;
 struct Options {
     std::string module; // a C++ identifier: the namespace of the tree, and what its files' names begin with
     std::vector<std::string> includes{}; // headers of hand-made members, included by the tree's own header
+    std::vector<std::string> headers{};  // of hand-made parts of the module, included by NAME.h
     std::size_t shards = 1;              // how many sources the accessors are split into; 1 to maxShards
     std::filesystem::path names{};       // see NamesFile; empty: none
 };
@@ -36,9 +37,9 @@ struct Model {
 [[nodiscard]] Model modelOf(const SourceBundle::Source& source, const Options& options,
                             SourceBundle::Diagnostics& diagnostics);
 
-// The files of the tree of texts: NAMEStrings.h and what it includes, the sources NAMEStrings.cpp and NAMEStrings-1.cpp
-// to NAMEStrings-SHARDS.cpp, and NAMEResources.h and .cpp; and those of the tree of assets, if there are assets:
-// NAMEAsset.h and what it includes, and NAMEAsset.cpp.
+// The files of the module: NAME.h, which includes the others; of the tree of texts NAMEStrings.h and what it includes,
+// the sources NAMEStrings.cpp and NAMEStrings-1.cpp to NAMEStrings-SHARDS.cpp; of the tree of assets NAMEAsset.h and
+// what it includes, NAMEAsset.cpp, and NAMEConveniences.h; NAMEResources.h and .cpp.
 [[nodiscard]] std::vector<OutputFile> filesOf(const Model& model, const Options& options);
 
 // Errors where the options are not what their comments say.

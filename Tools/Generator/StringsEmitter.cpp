@@ -12,10 +12,12 @@ namespace Generator {
 
 namespace {
 
-// A header of more entries is split, before the entry that begins another group where one comes near; into maxHeaders at
-// most.
+// A header of more entries is split, before the entry that begins another group where one comes near; into maxHeaders
+// at most.
 constexpr std::size_t minEntriesPerHeader = 250;
 constexpr std::size_t maxHeaders = 64;
+// Of a comment for translators, in bytes; the rest is left out.
+constexpr std::size_t maxComment = 1000;
 // What every compiler takes as one string literal.
 constexpr std::size_t maxLiteral = 65536;
 
@@ -63,16 +65,35 @@ std::vector<std::string> arguments(const CatalogEntry& entry) {
     return all;
 }
 
+// "TYPE NAME(", with the type on a line of its own where `rest` would not fit behind it.
+std::string declarator(const std::string& type, const std::string& name, std::string_view rest) {
+    const bool fits = columnsOf(type) + 1 + columnsOf(name) + 1 + columnsOf(rest) <= CodeWriter::maxWidth;
+    return type + (fits ? ' ' : '\n') + name + '(';
+}
+
+// Line by line, without the white space around each.
+void addLines(CodeWriter& code, std::string_view comment) {
+    constexpr std::string_view space = " \t\r";
+    comment = comment.substr(0, maxComment);
+    while (!comment.empty()) {
+        std::string_view line = comment.substr(0, comment.find('\n'));
+        comment.remove_prefix(std::min(line.size() + 1, comment.size()));
+        line.remove_prefix(std::min(line.find_first_not_of(space), line.size()));
+        line = line.substr(0, line.find_last_not_of(space) + 1); // npos + 1 is 0
+        if (!line.empty())
+            code.addComment(visibleText(line, maxComment));
+    }
+}
+
+// The comment for translators, the key and the text.
 void declare(CodeWriter& code, const CatalogEntry& entry) {
-    const std::string key = "// \"" + visibleText(entry.source->key) + "\" =";
-    const std::string text = " \"" + visibleText(entry.source->text) + '"';
-    code.add(
-        "{{key}}{{break}}{{text}}",
-        {{"key", key}, {"break", key.size() + text.size() > CodeWriter::maxWidth ? "\n//    " : ""}, {"text", text}});
-    if (entry.parameters.empty())
-        code.add("LUMORA_EXPORT const std::string& {{name}}();", {{"name", entry.name}});
+    addLines(code, entry.source->comment);
+    code.addComment(quote(entry.source->key) + " = " + quote(entry.source->text));
+    const std::vector<std::string> all = parameters(entry);
+    if (all.empty())
+        code.add(declarator("LUMORA_EXPORT const std::string&", entry.name, ");") + ");");
     else
-        code.addList("LUMORA_EXPORT std::string " + entry.name + "(", parameters(entry), ");");
+        code.addList(declarator("LUMORA_EXPORT std::string", entry.name, all.front() + ","), all, ");");
 }
 
 void define(CodeWriter& code, const CatalogEntry& entry, std::size_t number) {
@@ -91,16 +112,16 @@ void define(CodeWriter& code, const CatalogEntry& entry, std::size_t number) {
 std::string declarations(const CatalogTable& table, std::span<const CatalogEntry> entries, const Options& options) {
     CodeWriter code(options.module);
     code.add(declarationsBegin);
-    code.enter(nameSpaceOf(options, table));
     const CatalogEntry* previous = nullptr;
     for (const CatalogEntry& entry : entries) {
-        const std::string nameSpace = nameSpaceOf(options, table, entry.groups);
         if (previous != nullptr && previous->groups == entry.groups)
-            code.addBlankLine();
-        code.enter(nameSpace);
+            code.add("");
+        code.enter(nameSpaceOf(options, table, entry.groups));
         declare(code, entry);
         previous = &entry;
     }
+    if (entries.empty()) // the namespace is there all the same
+        code.add("\nnamespace {{name}} {} // namespace {{name}}", {{"name", nameSpaceOf(options, table)}});
     return code.take();
 }
 
@@ -145,11 +166,11 @@ void emitHeaders(const CatalogTable& table, const Options& options, std::vector<
 std::string umbrella(std::span<const CatalogTable> catalog, const Options& options) {
     CodeWriter code(options.module);
     code.add("#pragma once\n");
+    std::vector<std::string> includes = options.includes;
     for (const CatalogTable& table : catalog)
         if (!table.spelling.empty())
-            code.add("#include \"{{module}}Strings/{{table}}.h\"", {{"table", table.spelling}});
-    for (const std::string& header : options.includes)
-        code.add("#include \"{{header}}\"", {{"header", header}});
+            includes.push_back(options.module + "Strings/" + table.spelling + ".h");
+    code.addIncludes(std::move(includes));
     return code.take();
 }
 
@@ -181,7 +202,7 @@ public:
         code.add("constexpr char characters[] =");
         for (const std::string& text : literals_)
             code.add("    {{text}}{{end}}", {{"text", text}, {"end", &text == &literals_.back() ? ";" : ""}});
-        code.addList("constexpr Place places[] = {\n", places_, "};");
+        code.addList("constexpr Place places[] = {\n    ", places_, "};");
     }
 
 private:
@@ -198,13 +219,20 @@ private:
     std::size_t size_ = 0;
 };
 
-std::string definitions(std::span<const Placed> entries, const Options& options) {
-    CodeWriter code(options.module);
+std::vector<std::string> includesOf(std::span<const Placed> entries, const Options& options) {
+    const std::string folder = options.module + "Strings/";
+    std::vector<std::string> includes = {"Runtime/Attempt.h", "Runtime/OnceSlot.h", folder + "Internal/Catalog.h"};
     const CatalogTable* included = nullptr;
     for (const Placed& placed : entries)
         if (std::exchange(included, placed.table) != placed.table)
-            code.add("#include \"{{module}}Strings/{{table}}.h\"", {{"table", placed.table->spelling}});
-    code.add(definitionsBegin);
+            includes.push_back(folder + placed.table->spelling + ".h");
+    return includes;
+}
+
+std::string definitions(std::span<const Placed> entries, const Options& options) {
+    CodeWriter code(options.module);
+    code.addIncludes(includesOf(entries, options));
+    code.add("\n// Tables, and a line for each accessor.\n// clang-format off");
     const auto plain = static_cast<std::size_t>(
         std::ranges::count_if(entries, [](const Placed& placed) { return placed.entry->parameters.empty(); }));
     if (!entries.empty()) {
@@ -239,12 +267,6 @@ void emitSources(std::span<const CatalogTable> catalog, const Options& options, 
     }
 }
 
-std::string filled(std::string_view pattern, const Options& options) {
-    CodeWriter code(options.module);
-    code.add(pattern);
-    return code.take();
-}
-
 } // namespace
 
 std::vector<OutputFile> emitStrings(std::span<const CatalogTable> catalog, const Options& options) {
@@ -253,11 +275,11 @@ std::vector<OutputFile> emitStrings(std::span<const CatalogTable> catalog, const
         if (!table.spelling.empty())
             emitHeaders(table, options, files);
     files.push_back({options.module + "Strings.h", umbrella(catalog, options)});
-    files.push_back({options.module + "Strings/Internal/Catalog.h", filled(catalogHeader, options)});
-    files.push_back({options.module + "Strings.cpp", filled(lookupSource, options)});
+    files.push_back({options.module + "Strings/Internal/Catalog.h", filled(catalogHeader, options.module)});
+    files.push_back({options.module + "Strings.cpp", filled(lookupSource, options.module)});
     emitSources(catalog, options, files);
-    files.push_back({options.module + "Resources.h", filled(resourcesHeader, options)});
-    files.push_back({options.module + "Resources.cpp", filled(resourcesSource, options)});
+    files.push_back({options.module + "Resources.h", filled(resourcesHeader, options.module)});
+    files.push_back({options.module + "Resources.cpp", filled(resourcesSource, options.module)});
     return files;
 }
 

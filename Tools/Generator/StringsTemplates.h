@@ -14,10 +14,6 @@ inline constexpr std::string_view declarationsBegin = R"(#pragma once
 #include <cstdint>
 #include <string>)";
 
-inline constexpr std::string_view definitionsBegin = R"(#include "{{module}}Strings/Internal/Catalog.h"
-#include "Runtime/Attempt.h"
-#include "Runtime/OnceSlot.h")";
-
 // {{count}}: of plain entries.
 inline constexpr std::string_view plainDefinition = R"(
 constinit ::Runtime::OnceSlot<std::string> slots[{{count}}];
@@ -36,7 +32,8 @@ inline const std::string& text(std::size_t entry) noexcept {
 })";
 
 inline constexpr std::string_view formattedDefinition = R"(
-[[gnu::noinline]] std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
+[[gnu::noinline]] std::string formatted(std::size_t entry,
+                                        std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
     return ::Runtime::attempt([&] { return textAt(characters, places + entry, arguments); });
 })";
 
@@ -53,8 +50,8 @@ inline constexpr std::string_view catalogHeader = R"(// What the sources of the 
 
 namespace {{module}}::{{module}}Strings {
 
-// The text of `key` in the table `table`, in the user's language, its placeholders replaced by `arguments`. The only way from
-// the tree to the bundle. Throws what the system's lack of memory or descriptors throws.
+// The text of `key` in the table `table`, in the user's language, its placeholders replaced by `arguments`. The only
+// way from the tree to the bundle. Throws when the system is out of memory or descriptors.
 std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments);
 
 namespace detail {
@@ -62,8 +59,8 @@ namespace detail {
 // Of a text that could not be made.
 const std::string& noText() noexcept;
 
-// Where an entry's table name and key begin among the characters of its source. There are no pointers here, so nothing has to
-// be relocated when the library is loaded.
+// Where an entry's table name and key begin among the characters of its source. There are no pointers here, so nothing
+// has to be relocated when the library is loaded.
 struct Place {
     std::uint32_t table; // the name ends at a NUL
     std::uint32_t key;   // ends where the next key begins
@@ -79,13 +76,13 @@ inline std::string textAt(const char* characters, const Place* place,
 
 } // namespace {{module}}::{{module}}Strings)";
 
-inline constexpr std::string_view lookupSource = R"(#include "{{module}}Strings/Internal/Catalog.h"
+inline constexpr std::string_view lookupSource = R"(#include "{{module}}Resources.h"
+#include "{{module}}Strings/Internal/Catalog.h"
 
 #include "Foundation/Locale.h"
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
 #include "Runtime/OnceSlot.h"
-#include "{{module}}Resources.h"
 
 namespace {{module}}::{{module}}Strings {
 

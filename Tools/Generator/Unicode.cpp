@@ -113,6 +113,16 @@ bool continuesIdentifier(char32_t c) noexcept {
     return u_hasBinaryProperty(code(c), UCHAR_XID_CONTINUE) && isSettled(code(c));
 }
 
+std::size_t columnsOf(char32_t c) noexcept {
+    if (isAscii(c))
+        return 1;
+    const int type = u_charType(code(c));
+    if (type == U_NON_SPACING_MARK || type == U_ENCLOSING_MARK || type == U_FORMAT_CHAR)
+        return 0;
+    const int width = u_getIntPropertyValue(code(c), UCHAR_EAST_ASIAN_WIDTH);
+    return width == U_EA_WIDE || width == U_EA_FULLWIDTH ? 2 : 1;
+}
+
 bool isVisible(char32_t c) noexcept {
     if (isAscii(c))
         return c >= ' ' && c < 0x7F;

@@ -1,8 +1,9 @@
 // Generator/Unicode.h
-// What the generator asks of Unicode; internal. ICU is seen only behind this page.
+// What the generator has to know of Unicode; internal. Only its source includes ICU.
 // Text: UTF-8 outside, code points inside; a byte that is no UTF-8 becomes U+FFFD. Threads: any; no state.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,9 @@ namespace Generator::Unicode {
 // compilers.
 [[nodiscard]] bool beginsIdentifier(char32_t c) noexcept;
 [[nodiscard]] bool continuesIdentifier(char32_t c) noexcept;
+
+// How many columns of a terminal the character takes: 0, 1 or 2.
+[[nodiscard]] std::size_t columnsOf(char32_t c) noexcept;
 
 // That a reader sees the character as it is: no control, no direction mark, no separator but the space.
 [[nodiscard]] bool isVisible(char32_t c) noexcept;

@@ -49,6 +49,10 @@ void addGenerateCommand(CLI::App& program, Exit& exit) {
         ->add_option("--include", options->generator.includes,
                      "A header of hand-made members, included by the tree's (may be repeated)")
         ->allow_extra_args(false);
+    command
+        ->add_option("--header", options->generator.headers,
+                     "A header of hand-made parts of the module, included by NAME.h (may be repeated)")
+        ->allow_extra_args(false);
     command->add_option("--shards", options->generator.shards, "Into how many sources the accessors are split")
         ->check(CLI::Range(std::size_t{1}, Generator::maxShards));
     options->depfile.addOptions(*command);

@@ -1,8 +1,11 @@
 // Made from the resources of the module Odd; do not edit.
-#include "OddStrings/Localizable.h"
 #include "OddStrings/Internal/Catalog.h"
+#include "OddStrings/Localizable.h"
 #include "Runtime/Attempt.h"
 #include "Runtime/OnceSlot.h"
+
+// Tables, and a line for each accessor.
+// clang-format off
 
 namespace Odd::OddStrings::detail {
 
@@ -22,13 +25,14 @@ constexpr char characters[] =
     "10ExerciseStraight.Delete"
     "Foundation.Describable"
     "Runtime.std"
+    "errno"
     "You can't set a price that exceeds %@"
     "widget.fitness.inactive.after_days";
 constexpr Place places[] = {
     {0, 12}, {0, 20}, {0, 23}, {0, 26}, {0, 40}, {0, 51}, {0, 57}, {0, 62}, {0, 68}, {0, 83}, {0, 108}, {0, 130},
-    {0, 141}, {0, 178}, {0, 212}};
+    {0, 141}, {0, 146}, {0, 183}, {0, 217}};
 
-constinit ::Runtime::OnceSlot<std::string> slots[12];
+constinit ::Runtime::OnceSlot<std::string> slots[13];
 
 // Without memory or descriptors this read gives no text, and a later one tries again.
 [[gnu::noinline, gnu::cold]] const std::string& made(std::size_t entry) noexcept {
@@ -43,7 +47,8 @@ inline const std::string& text(std::size_t entry) noexcept {
     return slots[entry].isMade() ? slots[entry].value() : made(entry);
 }
 
-[[gnu::noinline]] std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
+[[gnu::noinline]] std::string formatted(std::size_t entry,
+                                        std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
     return ::Runtime::attempt([&] { return textAt(characters, places + entry, arguments); });
 }
 
@@ -58,7 +63,7 @@ const std::string& na() { return detail::text(1); }
 const std::string& msg() { return detail::text(2); }
 const std::string& compressing() { return detail::text(3); }
 std::string youCanTSetAPriceThatExceeds(const ::Foundation::Describable& value) {
-    return detail::formatted(12, {value.text()});
+    return detail::formatted(13, {value.text()});
 }
 const std::string& invoiceNo() { return detail::text(4); }
 const std::string& 日本() { return detail::text(5); }
@@ -94,7 +99,13 @@ const std::string& std() { return detail::text(11); }
 namespace Odd::OddStrings::Localizable::Widget::Fitness::Inactive {
 
 std::string afterDays(std::int64_t value) {
-    return detail::formatted(13, {value});
+    return detail::formatted(14, {value});
 }
 
 } // namespace Odd::OddStrings::Localizable::Widget::Fitness::Inactive
+
+namespace Odd::OddStrings::Localizable {
+
+const std::string& errno_() { return detail::text(12); }
+
+} // namespace Odd::OddStrings::Localizable

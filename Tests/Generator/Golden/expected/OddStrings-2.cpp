@@ -1,9 +1,12 @@
 // Made from the resources of the module Odd; do not edit.
+#include "OddStrings/Internal/Catalog.h"
 #include "OddStrings/Localizable.h"
 #include "OddStrings/OddNames.h"
-#include "OddStrings/Internal/Catalog.h"
 #include "Runtime/Attempt.h"
 #include "Runtime/OnceSlot.h"
+
+// Tables, and a line for each accessor.
+// clang-format off
 
 namespace Odd::OddStrings::detail {
 
@@ -12,7 +15,7 @@ namespace {
 constexpr char characters[] =
     "Localizable\000"
     "Odd names\000"
-    "errno"
+    "commented"
     "ends in a backslash"
     "closes */ a comment"
     "asks ?\?/ twice ?\?="
@@ -25,10 +28,11 @@ constexpr char characters[] =
     "swapped"
     "same"
     "width"
+    "floating"
     "six words";
 constexpr Place places[] = {
-    {0, 22}, {0, 27}, {0, 46}, {0, 65}, {0, 83}, {0, 92}, {0, 111}, {0, 115}, {12, 122}, {0, 126}, {0, 129}, {0, 136},
-    {0, 140}, {0, 145}, {0, 154}};
+    {0, 22}, {0, 31}, {0, 50}, {0, 69}, {0, 87}, {0, 96}, {0, 115}, {0, 119}, {12, 126}, {0, 130}, {0, 133}, {0, 140},
+    {0, 144}, {0, 149}, {0, 157}, {0, 166}};
 
 constinit ::Runtime::OnceSlot<std::string> slots[9];
 
@@ -45,7 +49,8 @@ inline const std::string& text(std::size_t entry) noexcept {
     return slots[entry].isMade() ? slots[entry].value() : made(entry);
 }
 
-[[gnu::noinline]] std::string formatted(std::size_t entry, std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
+[[gnu::noinline]] std::string formatted(std::size_t entry,
+                                        std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
     return ::Runtime::attempt([&] { return textAt(characters, places + entry, arguments); });
 }
 
@@ -55,7 +60,7 @@ inline const std::string& text(std::size_t entry) noexcept {
 
 namespace Odd::OddStrings::Localizable {
 
-const std::string& errno_() { return detail::text(0); }
+const std::string& commented() { return detail::text(0); }
 const std::string& endsInABackslash() { return detail::text(1); }
 const std::string& closesAComment() { return detail::text(2); }
 const std::string& asksTwice() { return detail::text(3); }
@@ -75,10 +80,13 @@ std::string same(const ::Foundation::Describable& value) {
 std::string width(std::int64_t first, std::int64_t second) {
     return detail::formatted(12, {first, second});
 }
+std::string floating(double value) {
+    return detail::formatted(13, {value});
+}
 std::string sixWords(const ::Foundation::Describable& first, const ::Foundation::Describable& second,
                      const ::Foundation::Describable& third, const ::Foundation::Describable& fourth,
                      const ::Foundation::Describable& fifth, const ::Foundation::Describable& argument6) {
-    return detail::formatted(13, {first.text(), second.text(), third.text(), fourth.text(), fifth.text(),
+    return detail::formatted(14, {first.text(), second.text(), third.text(), fourth.text(), fifth.text(),
                                   argument6.text()});
 }
 

@@ -1,11 +1,11 @@
 // Made from the resources of the module Odd; do not edit.
+#include "OddResources.h"
 #include "OddStrings/Internal/Catalog.h"
 
 #include "Foundation/Locale.h"
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
 #include "Runtime/OnceSlot.h"
-#include "OddResources.h"
 
 namespace Odd::OddStrings {
 

@@ -6,7 +6,4 @@
 #include <cstdint>
 #include <string>
 
-namespace Odd::OddStrings::Empty {
-
-
-} // namespace Odd::OddStrings::Empty
+namespace Odd::OddStrings::Empty {} // namespace Odd::OddStrings::Empty

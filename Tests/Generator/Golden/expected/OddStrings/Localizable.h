@@ -8,6 +8,7 @@
 
 namespace Odd::OddStrings::Localizable {
 
+// Names that are odd in one way each.
 // "continue" = "Continue"
 LUMORA_EXPORT const std::string& continue_();
 
@@ -74,9 +75,17 @@ LUMORA_EXPORT std::string afterDays(std::int64_t value);
 
 namespace Odd::OddStrings::Localizable {
 
+// Back at the root, whose namespace is opened again.
 // "errno" = "Error number"
 LUMORA_EXPORT const std::string& errno_();
 
+// For translators: a comment is part of the accessor's documentation, and one of more than a hundred and twenty
+//    characters is broken into lines.
+// It may have lines of its own, and end in a backslash: \.
+// "commented" = "C:\ and D:\"
+LUMORA_EXPORT const std::string& commented();
+
+// Texts that are dangerous in a comment, keys that are in a literal.
 // "ends in a backslash" = "C:\"
 LUMORA_EXPORT const std::string& endsInABackslash();
 
@@ -95,6 +104,7 @@ LUMORA_EXPORT const std::string& keyQuotedÉ1();
 // "long" = "A text of more than a hundred characters is cut in the comment, where it is there to be recognised, …"
 LUMORA_EXPORT const std::string& long_();
 
+// Placeholders.
 // "percent" = "100%%"
 LUMORA_EXPORT const std::string& percent();
 
@@ -109,6 +119,9 @@ LUMORA_EXPORT std::string same(const ::Foundation::Describable& value);
 
 // "width" = "%*d"
 LUMORA_EXPORT std::string width(std::int64_t first, std::int64_t second);
+
+// "floating" = "%.1f km"
+LUMORA_EXPORT std::string floating(double value);
 
 // "six words" = "%@ %@ %@ %@ %@ %@"
 LUMORA_EXPORT std::string sixWords(const ::Foundation::Describable& first, const ::Foundation::Describable& second,

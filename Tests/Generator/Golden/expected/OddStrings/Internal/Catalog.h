@@ -12,8 +12,8 @@
 
 namespace Odd::OddStrings {
 
-// The text of `key` in the table `table`, in the user's language, its placeholders replaced by `arguments`. The only way from
-// the tree to the bundle. Throws what the system's lack of memory or descriptors throws.
+// The text of `key` in the table `table`, in the user's language, its placeholders replaced by `arguments`. The only
+// way from the tree to the bundle. Throws when the system is out of memory or descriptors.
 std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments);
 
 namespace detail {
@@ -21,8 +21,8 @@ namespace detail {
 // Of a text that could not be made.
 const std::string& noText() noexcept;
 
-// Where an entry's table name and key begin among the characters of its source. There are no pointers here, so nothing has to
-// be relocated when the library is loaded.
+// Where an entry's table name and key begin among the characters of its source. There are no pointers here, so nothing
+// has to be relocated when the library is loaded.
 struct Place {
     std::uint32_t table; // the name ends at a NUL
     std::uint32_t key;   // ends where the next key begins

@@ -1,0 +1,6 @@
+// Made from the resources of the module Odd; do not edit.
+// Every asset of the module by name.
+#pragma once
+
+#include "OddAsset/Looks.h"
+#include "OddAssetRecords.h"

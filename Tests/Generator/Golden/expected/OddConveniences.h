@@ -1,0 +1,37 @@
+// Made from the resources of the module Odd; do not edit.
+// What the module adds to the platform's image, colour and data types. SwiftUI/ModuleConveniences.h describes each.
+#pragma once
+
+#include "OddAssetRecords.h"
+
+#include "SwiftUI/ModuleConveniences.h"
+
+namespace Odd {
+
+namespace UIColor {
+using ::SwiftUI::Conveniences::UIColor::withAsset;
+} // namespace UIColor
+
+namespace NSDataAsset {
+using ::SwiftUI::Conveniences::NSDataAsset::withAsset;
+} // namespace NSDataAsset
+
+namespace UIImage {
+template <class Class = ::UIKit::UIImage> [[nodiscard]] auto withAssetName(std::string_view name) {
+    return ::SwiftUI::Conveniences::UIImage::withAssetName<Class, OddAssetModule>(name);
+}
+[[nodiscard]] inline std::optional<::UIKit::UIImage> assetNamed(std::string_view name) {
+    return withAssetName(name);
+}
+} // namespace UIImage
+
+namespace Color {
+using ::SwiftUI::Conveniences::Color::withAsset;
+} // namespace Color
+
+namespace Image {
+using ::SwiftUI::Conveniences::Image::decorative;
+using ::SwiftUI::Conveniences::Image::withAsset;
+} // namespace Image
+
+} // namespace Odd
