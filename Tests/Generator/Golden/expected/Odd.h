@@ -2,6 +2,10 @@
 // The whole module.
 #pragma once
 
+#if __cplusplus < 202002L
+#error "Odd needs C++20: compile with -std=c++20 or later"
+#else
+
 #include "OddAsset.h"
 #include "OddConveniences.h"
 #include "OddResources.h"
@@ -9,4 +13,8 @@
 
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
+#ifdef __cpp_rtti // messages need it; all else works without
 #include "Runtime/Class.h"
+#endif
+
+#endif // C++20
