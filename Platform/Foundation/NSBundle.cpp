@@ -11,6 +11,7 @@
 #include <array>
 #include <atomic>
 #include <deque>
+#include <filesystem>
 #include <sys/stat.h>
 
 namespace Foundation {
@@ -24,6 +25,17 @@ using Chain = std::array<detail::Localization*, layout::lookupOrder({}, {}).size
 
 bool isEmptyOrFileName(std::string_view name) noexcept {
     return name.empty() || layout::isFileName(name);
+}
+
+// "lumora-1" for the library liblumora.so.1.0.0: its folder beside it when several versions are installed together.
+std::string versionedFolder(std::string_view library) {
+    static constexpr std::string_view prefix = "lib", suffix = ".so.";
+    const std::size_t end = library.find(suffix);
+    if (!library.starts_with(prefix) || end == library.npos)
+        return {};
+    const std::string_view version = library.substr(end + suffix.size());
+    return std::string(library.substr(prefix.size(), end - prefix.size())) + "-" +
+           std::string(version.substr(0, version.find('.')));
 }
 
 } // namespace
@@ -105,7 +117,10 @@ const NSBundle& NSBundle::bundleForCode(const void* code, std::string_view name)
     const Runtime::CodeLocation location = Runtime::codeLocation(code);
     if (location.isMainProgram)
         return mainBundle();
-    return bundleWithPath(location.directory + "/" + std::string(name) + ".bundle");
+    const std::string bundle = "/" + std::string(name) + ".bundle";
+    const std::string versioned = location.directory + "/" + versionedFolder(location.name) + bundle;
+    std::error_code failed;
+    return bundleWithPath(std::filesystem::is_directory(versioned, failed) ? versioned : location.directory + bundle);
 }
 
 const NSBundle& NSBundle::mainBundle() {

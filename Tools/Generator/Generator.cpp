@@ -3,6 +3,7 @@
 #include "Generator/AssetsEmitter.h"
 #include "Generator/CodeText.h"
 #include "Generator/CodeWriter.h"
+#include "Generator/ModuleTemplates.h"
 #include "Generator/Namer.h"
 #include "Generator/StringsEmitter.h"
 #include <algorithm>
@@ -43,23 +44,7 @@ void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
 
 std::string moduleHeader(const Options& options) {
     CodeWriter code(options.module);
-    code.add(R"(// The whole module.
-#pragma once
-
-#if __cplusplus < 202002L
-#error "{{module}} needs C++20: compile with -std=c++20 or later"
-#else
-
-#include "{{module}}Asset.h"
-#include "{{module}}Conveniences.h"
-#include "{{module}}Resources.h"
-#include "{{module}}Strings.h"
-
-#include "Foundation/Host.h"
-#include "Foundation/NSBundle.h"
-#ifdef __cpp_rtti // messages need it; all else works without
-#include "Runtime/Class.h"
-#endif)");
+    code.add(moduleHeaderBegin);
     if (!options.headers.empty())
         code.add("");
     code.addIncludes(options.headers);

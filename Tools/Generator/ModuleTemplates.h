@@ -1,0 +1,28 @@
+// Generator/ModuleTemplates.h
+// The beginning of the header that includes a whole module; internal.
+#pragma once
+
+#include <string_view>
+
+namespace Generator {
+
+// Ends in "#endif // C++20" behind the headers of hand-made parts.
+inline constexpr std::string_view moduleHeaderBegin = R"(// The whole module.
+#pragma once
+
+#if __cplusplus < 202002L
+#error "{{module}} needs C++20: compile with -std=c++20 or later"
+#else
+
+#include "{{module}}Asset.h"
+#include "{{module}}Conveniences.h"
+#include "{{module}}Resources.h"
+#include "{{module}}Strings.h"
+
+#include "Foundation/Host.h"
+#include "Foundation/NSBundle.h"
+#ifdef __cpp_rtti // messages need it; all else works without
+#include "Runtime/Class.h"
+#endif)";
+
+} // namespace Generator
