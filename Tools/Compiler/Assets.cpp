@@ -12,6 +12,8 @@
 #include <iterator>
 #include <map>
 #include <mutex>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace Compiler {
@@ -27,7 +29,7 @@ using SourceBundle::SourceFile;
 
 namespace {
 
-// The files of the source, each read once, and the pictures made of them.
+// The files of the source, each read once and equal ones kept once, and the pictures made of them.
 // Threads: any.
 class Files {
 public:
@@ -43,12 +45,14 @@ public:
         auto text = Runtime::readFile(path, SourcePictures::maxFileBytes);
         if (!text)
             return std::move(text.error());
+        Bytes bytes = AssetCatalog::shared(*std::move(text));
         const std::lock_guard guard(lock_);
-        total_ += text->size();
+        const auto [same, isNew] = contents_.try_emplace(*bytes, bytes);
+        total_ += isNew ? bytes->size() : 0;
         if (total_ > AssetCatalog::maxBytes)
             return Runtime::Error{.message = "with the files before it has more bytes than a catalog may hold",
                                   .file = path};
-        return read_.try_emplace(path, AssetCatalog::shared(*std::move(text))).first->second;
+        return read_.try_emplace(path, same->second).first->second;
     }
 
     Runtime::Result<void> check(const SourceFile& file) {
@@ -90,6 +94,7 @@ private:
     const PictureCache cache_;
     std::mutex lock_;
     std::map<fs::path, Bytes> read_;
+    std::unordered_map<std::string_view, Bytes> contents_;
     std::size_t total_ = 0;
     MadePictures made_;
 };
