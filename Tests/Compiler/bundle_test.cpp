@@ -7,6 +7,7 @@
 #include <csignal>
 #include <gtest/gtest.h>
 #include <set>
+#include <sys/resource.h>
 
 namespace {
 
@@ -261,6 +262,7 @@ TEST(CompileBundle, RemovesWhatAKilledCompileLeftAndNothingElse) {
                 "");
     ASSERT_EQ(staged(folder.path()).size(), 1U);
 
+    fs::create_directory(folder / "out.bundle.staged-killed"); // before it was marked
     // A copy, the staged folder of another bundle, one without the mark, and a link to what is dear.
     const std::set<std::string> others = {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef",
                                           "out.bundle.staged-abcdef", "out.bundle.staged-ABCDEF"};
@@ -280,6 +282,32 @@ TEST(CompileBundle, RemovesWhatAKilledCompileLeftAndNothingElse) {
     EXPECT_EQ(staged(folder.path()), others);
     EXPECT_TRUE(fs::exists(folder / "dear/.lumora-bundle"));
     EXPECT_EQ(Support::filesBelow(bundle).size(), 3U);
+}
+
+// With few descriptors a compile succeeds or says so, and leaves nothing behind; with more it succeeds.
+TEST(CompileBundle, RunsOutOfDescriptors) {
+    const Support::TemporaryFolder folder;
+    folder.write("source/Base.lproj/A.strings", "a = b;");
+    folder.write("source/A.xcassets/p.imageset/Contents.json", R"({"images": [{"filename": "p"}]})");
+    folder.write("source/A.xcassets/p.imageset/p", svg(3, "red"));
+    const fs::path bundle = folder / "out.bundle";
+    ASSERT_EQ(compile(folder / "source", bundle).diagnostics, std::vector<std::string>()); // whatever is opened once
+    const auto open = static_cast<rlim_t>(std::distance(fs::directory_iterator("/proc/self/fd"), {}));
+    rlimit limit{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
+    std::size_t failures = 0;
+    for (rlim_t more = 0; more < 16; ++more) {
+        const rlimit lower{.rlim_cur = open + more, .rlim_max = limit.rlim_max};
+        ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &lower), 0);
+        const Outcome outcome = compile(folder / "source", bundle);
+        ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &limit), 0);
+        const bool isDone = outcome.failure.empty() && outcome.diagnostics.empty();
+        failures += isDone ? 0 : 1;
+        EXPECT_TRUE(isDone || more < 12) << more << outcome.failure;
+        EXPECT_EQ(assetsOf(bundle), std::vector<std::string>{"p"}) << more;
+        EXPECT_EQ(staged(folder.path()), std::set<std::string>()) << more;
+    }
+    EXPECT_NE(failures, 0U);
 }
 
 TEST(CompileBundle, GivesTheSameBytesForTheSameSources) {

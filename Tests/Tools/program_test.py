@@ -182,6 +182,27 @@ class Program(unittest.TestCase):
         for command in (["assets"], ["asset", "send", "-o", "-"]):
             self.assertEqual(run(*command, "--bundle", self.folder / "none")[2], f"{self.folder / 'none'}: error: is not a bundle\n")
 
+    def test_lists_assets_as_json_and_names_what_was_meant(self):
+        self.write("src/Looks.xcassets/star big.imageset/Contents.json",
+                   '{"images": [{"filename": "a.svg", "scale": "2x", "locale": "de"}]}')
+        self.write("src/Looks.xcassets/star big.imageset/a.svg", '<svg xmlns="http://www.w3.org/2000/svg" width="3" height="1"/>')
+        self.write("src/Looks.xcassets/ink.colorset/Contents.json",
+                   '{"colors": [{"color": {"color-space": "display-p3", "components": {"red": 1, "green": "51", "blue": "0.5"}},'
+                   ' "appearances": [{"appearance": "luminosity", "value": "dark"}]}]}')
+        self.write("src/Base.lproj/Localizable.strings", '"Diet.AllDish" = "All";')
+        bundle = self.folder / "Shop.bundle"
+        self.assertEqual(run("compile", self.folder / "src", "-o", bundle), (0, b"", ""))
+        color, image = json.loads(run("assets", "--bundle", bundle, "--format", "json")[1])
+        self.assertEqual(color, {"kind": "color", "catalog": "Looks", "name": "ink", "variants": [
+            {"appearance": "dark", "color-space": "display-p3", "components": [1, 0.2, 0.5, 1]}]})
+        size = image["variants"][0].pop("bytes")
+        self.assertEqual(image["variants"], [{"scale": 2, "language": "de", "width": 3, "height": 1, "points": [1.5, 0.5]}])
+        self.assertEqual(len(run("asset", "star big", "--bundle", bundle, "--language", "de", "-o", "-")[1]), size)
+        for command, meant in ((("asset", "starbig", "--bundle", bundle, "-o", "-"), "star big"), (("assetz",), "assets"),
+                               (("text", "--bundle", bundle, "diet.alldish"), "Diet.AllDish")):
+            self.assertIn(f'did you mean "{meant}"?', run(*command)[2])
+        self.assertNotIn("mean", run("asset", "another", "--bundle", bundle, "-o", "-")[2])
+
     def test_messages_are_labelled_grouped_and_counted(self):
         words = self.write("src/Base.lproj/Words.strings", '"a_b" = "1";\n"a b" = "2";\n"x\\n\\U202E" = "3 %";\n')
         notes = [self.write(f"src/Base.lproj/{name}.xib", "") for name in "ABC"]

@@ -182,8 +182,7 @@ std::vector<Asset> compiledAssets(std::span<const fs::path> catalogs, Files& fil
         assets[i] = compiled(sources[i], files, messages[i]);
     });
     for (const Diagnostics& ofOne : messages)
-        for (const SourceBundle::Diagnostic& one : ofOne.all())
-            diagnostics.add(one.severity, one.what);
+        diagnostics.add(ofOne);
     return assets;
 }
 

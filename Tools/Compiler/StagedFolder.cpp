@@ -124,18 +124,16 @@ bool writeAll(int descriptor, std::string_view bytes) {
     return true;
 }
 
-// Not synced to the disk: an output that a power failure damages is compiled again.
-Runtime::Result<void> writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
+// False with errno on failure. Not synced to the disk: an output that a power failure damages is compiled again.
+bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
     ::unlink(path.c_str());
     Runtime::Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (file.number() < 0)
-        return systemError(path, "cannot be written");
+        return false;
     for (const std::string_view piece : pieces)
         if (!writeAll(file.number(), piece))
-            return systemError(path, "cannot be written");
-    if (!file.close())
-        return systemError(path, "cannot be written");
-    return {};
+            return false;
+    return file.close();
 }
 
 } // namespace
@@ -184,7 +182,7 @@ Runtime::Result<void> StagedFolder::write(const fs::path& name, std::span<const 
     if (hasContent(target_ / name, pieces) && (::unlink(path.c_str()) == 0 || errno == ENOENT) &&
         ::link((target_ / name).c_str(), path.c_str()) == 0)
         return {};
-    return writeNew(path, pieces);
+    return writeNew(path, pieces) ? Runtime::Result<void>() : systemError(target_ / name, "cannot be written");
 }
 
 Runtime::Result<void> StagedFolder::putInPlace() {

@@ -1,18 +1,15 @@
-// lumora assets, lumora asset: what a compiled catalog holds.
+// lumora assets: the list of a compiled catalog.
 #include "Program/Command.h"
 
 #include "AssetCatalog/internal/Catalog.h"
 #include "Generator/CodeText.h"
-#include "Program/OwnBundle.h"
+#include "Program/AssetCatalogs.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <array>
-#include <cerrno>
-#include <filesystem>
 #include <memory>
 #include <nlohmann/json.hpp>
-#include <optional>
-#include <system_error>
+#include <tuple>
+#include <vector>
 
 namespace Tools {
 
@@ -22,109 +19,107 @@ using AssetCatalog::Catalog;
 using AssetCatalog::Entry;
 using AssetCatalog::Fit;
 using AssetCatalog::Kind;
+using nlohmann::ordered_json;
 
-struct AssetOptions {
+struct ListOptions {
     std::string bundle;
-    std::string name;
-    std::string output;
-    bool isDark = false;
-    unsigned scale = 1;
+    std::string format = "text";
 };
 
-// No catalog: the bundle has no assets, and a compile made none for it.
-Runtime::Result<std::optional<Catalog>> openCatalog(const std::string& bundle) {
-    const std::string folder = bundle.empty() ? ownBundle() : bundle;
-    std::error_code failed;
-    if (!std::filesystem::is_directory(folder, failed))
-        return Runtime::Error{.message = "is not a bundle", .file = folder};
-    auto catalog = Catalog::open(folder + "/" + std::string(AssetCatalog::fileName));
-    if (catalog)
-        return std::optional(*std::move(catalog));
-    if (catalog.error().cause == ENOENT)
-        return std::optional<Catalog>();
-    return std::move(catalog.error());
+// Kind, catalog and name, separated by tabs.
+std::string lineOf(const Entry& entry) {
+    std::string line(AssetCatalog::nameOf(entry.kind()));
+    for (const std::string_view name : {entry.catalog(), entry.name()})
+        line.append("\t").append(Generator::visibleText(name, std::string::npos));
+    return line.append("\n");
 }
 
-Exit listAssets(const AssetOptions& options) {
-    const auto opened = openCatalog(options.bundle);
-    if (!opened)
-        return fail(opened.error());
-    const std::optional<Catalog>& catalog = *opened;
-    std::vector<std::string> lines;
-    for (std::size_t i = 0; catalog && i < catalog->size(); ++i) {
-        const Entry entry = (*catalog)[i];
-        std::string line(AssetCatalog::nameOf(entry.kind()));
-        for (const std::string_view name : {entry.catalog(), entry.name()})
-            line.append("\t").append(Generator::visibleText(name, std::string::npos));
-        line += '\n';
-        lines.push_back(std::move(line));
-    }
-    std::ranges::sort(lines);
-    std::string all;
-    for (const std::string& line : lines)
-        all += line;
-    return print(all);
+// What the variant is for, without what it leaves open.
+ordered_json readersOf(const Entry& entry, std::size_t variant) {
+    const Fit fit = entry.fit(variant);
+    ordered_json json = ordered_json::object();
+    if (fit.scale != 0)
+        json["scale"] = fit.scale;
+    if (fit.appearance != AssetCatalog::Appearance::any)
+        json["appearance"] = fit.appearance == AssetCatalog::Appearance::dark ? "dark" : "light";
+    if (fit.contrast != AssetCatalog::Contrast::any)
+        json["contrast"] = "high";
+    if (fit.direction != AssetCatalog::Direction::any)
+        json["direction"] = fit.direction == AssetCatalog::Direction::rightToLeft ? "right-to-left" : "left-to-right";
+    if (!entry.language(variant).empty())
+        json["language"] = entry.language(variant);
+    return json;
 }
 
-std::string colorText(const AssetCatalog::ColorValue& color) {
-    const nlohmann::ordered_json json = {{"color-space", AssetCatalog::nameOf(color.space)},
-                                         {"components", color.components}};
-    return json.dump() + "\n";
-}
-
-// The bytes of the variant that fits, as they stand in the catalog; a colour as its space and components.
-Runtime::Result<std::string> variantText(const Entry& entry, std::size_t variant) {
-    const auto text = [](const AssetCatalog::Blob& blob) -> Runtime::Result<std::string> {
-        const auto bytes = blob.read();
-        if (!bytes)
-            return bytes.error();
-        return std::string(bytes->begin(), bytes->end());
-    };
+ordered_json variantOf(const Entry& entry, std::size_t variant) {
+    ordered_json json = readersOf(entry, variant);
     switch (entry.kind()) {
-    case Kind::image:
-        return text(entry.picture(variant).blob);
-    case Kind::data:
-        return text(entry.data(variant).blob);
-    case Kind::color:
+    case Kind::image: {
+        const AssetCatalog::PictureView picture = entry.picture(variant);
+        json["width"] = picture.width;
+        json["height"] = picture.height;
+        json["points"] = {picture.points.width, picture.points.height};
+        json["bytes"] = picture.blob.size;
         break;
     }
-    return colorText(entry.color(variant));
+    case Kind::color: {
+        const AssetCatalog::ColorValue color = entry.color(variant);
+        json["color-space"] = AssetCatalog::nameOf(color.space);
+        json["components"] = color.components;
+        break;
+    }
+    case Kind::data: {
+        const AssetCatalog::DataView data = entry.data(variant);
+        json["type"] = data.typeIdentifier;
+        json["bytes"] = data.blob.size;
+        break;
+    }
+    }
+    return json;
 }
 
-Exit extractAsset(const AssetOptions& options) {
-    const auto opened = openCatalog(options.bundle);
-    if (!opened)
-        return fail(opened.error());
-    const std::optional<Catalog>& catalog = *opened;
-    Fit wanted;
-    wanted.appearance = options.isDark ? AssetCatalog::Appearance::dark : AssetCatalog::Appearance::light;
-    wanted.direction = AssetCatalog::Direction::leftToRight;
-    wanted.scale = static_cast<std::uint8_t>(options.scale);
-    for (const Kind kind : {Kind::image, Kind::color, Kind::data})
-        if (const auto index = catalog ? catalog->find(kind, options.name) : std::nullopt) {
-            const Entry entry = (*catalog)[*index];
-            const auto text = variantText(entry, entry.best(wanted));
-            return text ? write(options.output, *text) : fail(text.error());
-        }
-    return fail({.message = "no asset of the bundle has this name", .file = options.name});
+ordered_json assetOf(const Entry& entry) {
+    ordered_json json = {{"kind", AssetCatalog::nameOf(entry.kind())},
+                         {"catalog", entry.catalog()},
+                         {"name", entry.name()},
+                         {"variants", ordered_json::array()}};
+    for (std::size_t variant = 0; variant < entry.variants(); ++variant)
+        json["variants"].push_back(variantOf(entry, variant));
+    return json;
+}
+
+Exit listAssets(const ListOptions& options) {
+    const auto catalog = openCatalog(options.bundle);
+    if (!catalog)
+        return fail(catalog.error());
+    std::vector<Entry> entries;
+    for (std::size_t i = 0; *catalog && i < (*catalog)->size(); ++i)
+        entries.push_back((**catalog)[i]);
+    std::ranges::sort(entries, {}, [](const Entry& entry) {
+        return std::tuple(AssetCatalog::nameOf(entry.kind()), entry.catalog(), entry.name());
+    });
+    if (options.format == "json") {
+        ordered_json list = ordered_json::array();
+        for (const Entry& entry : entries)
+            list.push_back(assetOf(entry));
+        return print(list.dump(2, ' ', false, ordered_json::error_handler_t::replace) + "\n");
+    }
+    std::string lines;
+    for (const Entry& entry : entries)
+        lines += lineOf(entry);
+    return print(lines);
 }
 
 } // namespace
 
-void addAssetCommands(CLI::App& program, Exit& exit) {
-    auto options = std::make_shared<AssetOptions>();
-    CLI::App* list = program.add_subcommand("assets", "List every asset: kind, catalog, name.");
-    list->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
-    list->callback([options, &exit] { exit = listAssets(*options); });
-
-    CLI::App* one = program.add_subcommand("asset", "Write one asset out as it stands in the catalog.");
-    one->add_option("NAME", options->name, "The asset's name, folder/name where folders provide a namespace")
-        ->required();
-    one->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
-    one->add_flag("--dark", options->isDark, "The variant for a dark screen");
-    one->add_option("--scale", options->scale, "Pixels in a point")->check(CLI::Range(1U, 9U))->capture_default_str();
-    one->add_option("-o,--output", options->output, "Where to write; - is standard output")->required()->check(named());
-    one->callback([options, &exit] { exit = extractAsset(*options); });
+void addAssetsCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<ListOptions>();
+    CLI::App* command = program.add_subcommand("assets", "List every asset: kind, catalog, name.");
+    command->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
+    command->add_option("--format", options->format, "text or json, which lists the variants, too")
+        ->check(CLI::IsMember({"text", "json"}))
+        ->capture_default_str();
+    command->callback([options, &exit] { exit = listAssets(*options); });
 }
 
 } // namespace Tools

@@ -28,7 +28,8 @@ void addGenerateCommand(CLI::App& program, Exit& exit);
 void addCompileCommand(CLI::App& program, Exit& exit);
 void addCheckCommand(CLI::App& program, Exit& exit);
 void addAccessorsCommand(CLI::App& program, Exit& exit);
-void addAssetCommands(CLI::App& program, Exit& exit);
+void addAssetCommand(CLI::App& program, Exit& exit);
+void addAssetsCommand(CLI::App& program, Exit& exit);
 void addGalleryCommand(CLI::App& program, Exit& exit);
 
 // Messages go to standard error, a line each: "FILE:LINE:COLUMN: error: WHAT" with the parts that are known, or

@@ -6,8 +6,10 @@
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
 #include "Program/OwnBundle.h"
+#include "Program/Suggestion.h"
 #include "StringTables/internal/Placeholder.h"
 #include "StringTables/internal/PluralPieces.h"
+#include "StringTables/internal/Table.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
@@ -68,6 +70,17 @@ std::size_t unused(const FormatSignature& signature, std::size_t given) {
     return given - static_cast<std::size_t>(used);
 }
 
+std::string suggestedKey(const Foundation::NSBundle& bundle, const TextOptions& options) {
+    std::vector<std::string> keys;
+    for (const std::string_view language :
+         {std::string_view("Base"), std::string_view(bundle.developmentLocalization())})
+        if (const auto path = bundle.pathForResource(options.table, "strings", "", language))
+            if (const auto table = StringTables::Table::readFile(*path))
+                for (const StringTables::Entry& entry : table->entries())
+                    keys.emplace_back(entry.key);
+    return suggestion(options.key, keys);
+}
+
 Exit runText(const TextOptions& options) {
     if (!options.bundle.empty() && !std::filesystem::is_directory(options.bundle))
         return fail({.message = "is not a bundle", .file = options.bundle});
@@ -84,7 +97,7 @@ Exit runText(const TextOptions& options) {
     if (const auto damage = found ? std::nullopt : bundle.tableDamage(options.table))
         return fail({.message = *damage});
     if (!found)
-        note("no table \"" + options.table + "\" of the bundle has this key");
+        note("no table \"" + options.table + "\" of the bundle has this key" + suggestedKey(bundle, options));
     const Foundation::LocalizedFormat format = found.value_or(Foundation::LocalizedFormat(options.key));
     // Options behind the key are arguments, too: this tells users who did not mean that.
     const FormatSignature signature = signatureOf(format);

@@ -1,14 +1,26 @@
 // The program `lumora`: a thin face of the libraries.
 #include "Program/Command.h"
 
+#include "Program/Suggestion.h"
 #include <CLI/CLI.hpp>
 #include <exception>
 #include <sstream>
 
 namespace {
 
-Tools::Exit failWith(const CLI::Error& wrong) {
-    return Tools::fail({.message = std::string(wrong.what()) + " (see lumora --help)"});
+Tools::Exit failWith(const CLI::Error& wrong, const std::string& more = "") {
+    return Tools::fail({.message = wrong.what() + more + " (see lumora --help)"});
+}
+
+// For a word that is not one of the commands.
+std::string suggestedCommand(const CLI::App& program) {
+    const std::vector<std::string> unknown = program.remaining();
+    if (unknown.empty() || !program.get_subcommands().empty())
+        return "";
+    std::vector<std::string> commands;
+    for (const CLI::App* command : program.get_subcommands(nullptr))
+        commands.push_back(command->get_name());
+    return Tools::suggestion(unknown.front(), commands);
 }
 
 } // namespace
@@ -24,7 +36,8 @@ int main(int argc, char** argv) {
     Tools::addCompileCommand(program, exit);
     Tools::addCheckCommand(program, exit);
     Tools::addAccessorsCommand(program, exit);
-    Tools::addAssetCommands(program, exit);
+    Tools::addAssetsCommand(program, exit);
+    Tools::addAssetCommand(program, exit);
     Tools::addGalleryCommand(program, exit);
     try {
         program.parse(argc, argv);
@@ -36,9 +49,10 @@ int main(int argc, char** argv) {
         const std::vector<std::string> unknown = program.remaining();
         std::ostringstream text;
         program.exit(asked, text, text);
-        exit = unknown.empty() ? Tools::print(text.str()) : failWith(CLI::ExtrasError(unknown));
+        exit =
+            unknown.empty() ? Tools::print(text.str()) : failWith(CLI::ExtrasError(unknown), suggestedCommand(program));
     } catch (const CLI::Error& wrong) {
-        exit = failWith(wrong);
+        exit = failWith(wrong, suggestedCommand(program));
     } catch (const std::exception& failed) {
         exit = Tools::fail({.message = failed.what()});
     }

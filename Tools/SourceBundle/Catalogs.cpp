@@ -147,8 +147,7 @@ std::vector<SourceAsset> sourceAssets(std::span<const fs::path> catalogs, Diagno
     std::vector<Diagnostics> messages(assets.size());
     inParallel(assets.size(), [&](std::size_t i) { readSet(assets[i], check, messages[i]); });
     for (const Diagnostics& ofOne : messages)
-        for (const Diagnostic& one : ofOne.all())
-            diagnostics.add(one);
+        diagnostics.add(ofOne);
     std::erase_if(assets, [](const SourceAsset& asset) { return asset.files.empty() && asset.colors.empty(); });
     return assets;
 }

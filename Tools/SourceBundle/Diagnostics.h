@@ -43,7 +43,11 @@ public:
         all_.push_back({isRaised ? Severity::error : severity, std::move(what), topic, std::string(subject)});
     }
 
-    void add(const Diagnostic& other) { add(other.severity, other.what, other.topic, other.subject); }
+    void add(const Diagnostic& one) { add(one.severity, one.what, one.topic, one.subject); }
+    void add(const Diagnostics& others) {
+        for (const Diagnostic& one : others.all())
+            add(one);
+    }
 
     const std::vector<Diagnostic>& all() const noexcept { return all_; }
     bool hasErrors() const noexcept { return count(Severity::error) != 0; }

@@ -1,0 +1,15 @@
+// Program/AssetCatalogs.h
+// The compiled catalog that a command reads.
+#pragma once
+
+#include "AssetCatalog/internal/Catalog.h"
+#include <optional>
+#include <string>
+
+namespace Tools {
+
+// The catalog of the bundle at that path, or of the module's own bundle if the path is empty. No value: the bundle has
+// no assets. Errors: no such folder, a damaged catalog.
+[[nodiscard]] Runtime::Result<std::optional<AssetCatalog::Catalog>> openCatalog(const std::string& bundle);
+
+} // namespace Tools
