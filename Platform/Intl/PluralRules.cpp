@@ -19,7 +19,9 @@ constexpr bool isBetween(std::uint64_t value, std::uint64_t first, std::uint64_t
     return first <= value && value <= last;
 }
 
-#include "PluralRules.inc" // `select`, `categories` by rule set, `names`, and `languages` in the order of the names
+// `select`; `categories` and `expressions`, offsets into `expressionTexts`, by rule set; `names`; `languages` in the
+// order of the names.
+#include "PluralRules.inc"
 
 constexpr std::size_t longestName = 16;
 constexpr unsigned unknownLanguage = ~0U;
@@ -101,6 +103,11 @@ PluralCategories pluralCategories(std::string_view language) noexcept {
     static constexpr std::uint8_t other = 1U << indexOf(PluralCategory::other);
     const unsigned ruleSet = ruleSetOf(language);
     return ruleSet == unknownLanguage ? PluralCategories{other, other} : categories[ruleSet];
+}
+
+std::string_view integerPluralExpression(std::string_view language) noexcept {
+    const unsigned ruleSet = ruleSetOf(language);
+    return ruleSet == unknownLanguage ? "0" : expressionTexts + expressions[ruleSet];
 }
 
 } // namespace Intl

@@ -31,26 +31,6 @@ std::string withoutMark(std::string_view text, std::string_view mark) {
     return out;
 }
 
-void appendQuoted(std::string& out, std::string_view text) {
-    constexpr std::string_view characters = "\"\\\n\t\r", letters = "\"\\ntr";
-    constexpr const char* hex = "0123456789ABCDEF";
-    out += '"';
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (const std::size_t found = characters.find(c); found != characters.npos) {
-            out += '\\';
-            out += letters[found];
-        } else if (byte < ' ' || byte == 0x7F) {
-            out += "\\U00";
-            out += hex[byte >> 4];
-            out += hex[byte & 0xF];
-        } else {
-            out += c;
-        }
-    }
-    out += '"';
-}
-
 // What no form holds: text that is not UTF-8, a comment with a NUL.
 Runtime::Result<void> check(const Entry& entry, std::string_view comment) {
     const auto isUtf8 = [](std::string_view text) { return internal::firstInvalidUtf8(text) == text.npos; };
@@ -151,6 +131,26 @@ Runtime::Result<std::string> writeBinary(Entries entries) {
 }
 
 } // namespace
+
+void appendQuoted(std::string& out, std::string_view text) {
+    constexpr std::string_view characters = "\"\\\n\t\r", letters = "\"\\ntr";
+    constexpr const char* hex = "0123456789ABCDEF";
+    out += '"';
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (const std::size_t found = characters.find(c); found != characters.npos) {
+            out += '\\';
+            out += letters[found];
+        } else if (byte < ' ' || byte == 0x7F) {
+            out += "\\U00";
+            out += hex[byte >> 4];
+            out += hex[byte & 0xF];
+        } else {
+            out += c;
+        }
+    }
+    out += '"';
+}
 
 Runtime::Result<std::string> write(Entries entries, Form form, Comments comments) {
     if (form == Form::binary)

@@ -18,9 +18,10 @@ ARROWS = {
     "Tools/SourceBundle": ["Platform/StringTables", "Tools/SourcePictures"],
     "Tools/Generator": ["Tools/SourceBundle"],
     "Tools/Compiler": ["Tools/SourceBundle"],
+    "Tools/Exchange": ["Tools/SourceBundle"],
     "Tools/Gallery": ["Tools/Generator", "Platform/UIKit"],
     "Tools/Check": ["Tools/Generator"],
-    "Tools/Program": ["Tools/Check", "Tools/Generator", "Tools/Compiler", "Tools/Gallery"],
+    "Tools/Program": ["Tools/Check", "Tools/Generator", "Tools/Compiler", "Tools/Exchange", "Tools/Gallery"],
 }
 INCLUDE = re.compile(r'\s*#\s*include\s+["<]([^">]+)[">]')
 

@@ -31,6 +31,8 @@ void addAccessorsCommand(CLI::App& program, Exit& exit);
 void addAssetCommand(CLI::App& program, Exit& exit);
 void addAssetsCommand(CLI::App& program, Exit& exit);
 void addGalleryCommand(CLI::App& program, Exit& exit);
+void addExportCommand(CLI::App& program, Exit& exit);
+void addImportCommand(CLI::App& program, Exit& exit);
 
 // Messages go to standard error, a line each: "FILE:LINE:COLUMN: error: WHAT" with the parts that are known, or
 // "lumora: error: WHAT" where there is no file; in colour on a terminal. What cannot be seen is escaped.

@@ -5,11 +5,11 @@
 
 namespace Tools {
 
-CLI::Option* SourceArguments::addTo(CLI::App& command) {
+CLI::Option* SourceArguments::addTo(CLI::App& command, const std::string& name) {
     command.add_option("--development-language", options.developmentLanguage,
                        "The language that the texts are first written in (default: Info.plist's, or en)");
     return command
-        .add_option("SOURCE", folders,
+        .add_option(name, folders,
                     "Folders of resources, searched at any depth for *.lproj, *.xcstrings and *.xcassets")
         ->check(named());
 }

@@ -19,8 +19,8 @@ struct SourceArguments {
     SourceBundle::SourceOptions options;
     std::string names; // the names file, or empty
 
-    // SOURCE..., which is returned, and --development-language.
-    CLI::Option* addTo(CLI::App& command);
+    // SOURCE..., or the option of that name, which is returned, and --development-language.
+    CLI::Option* addTo(CLI::App& command, const std::string& name = "SOURCE");
     // --names.
     void addNamesTo(CLI::App& command);
 

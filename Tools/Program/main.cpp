@@ -39,6 +39,8 @@ int main(int argc, char** argv) {
     Tools::addAssetsCommand(program, exit);
     Tools::addAssetCommand(program, exit);
     Tools::addGalleryCommand(program, exit);
+    Tools::addExportCommand(program, exit);
+    Tools::addImportCommand(program, exit);
     try {
         program.parse(argc, argv);
         // Asked here, after a wrong word has been named.

@@ -2,6 +2,7 @@
 #include "Precompute/Precompute.h"
 
 #include "Intl/internal/PluralCategory.h"
+#include <algorithm>
 #include <array>
 #include <sstream>
 #include <unicode/localpointer.h>
@@ -77,26 +78,42 @@ std::string inRange(const std::string& value, const std::string& range) {
 }
 
 // "n % 10 != 2..4,7": an operand, a modulus or none, and ranges.
-std::string relation(const std::string& text) {
+struct Relation {
+    char operand = 'n';
+    std::string modulus; // " % 10" or empty
+    bool isEqual = true;
+    std::vector<std::string> ranges;
+};
+
+Relation parsed(const std::string& text) {
     std::istringstream words(text);
-    std::string operand, word, modulus, ranges;
+    Relation relation;
+    std::string operand, word, ranges;
     words >> operand >> word;
     if (word == "%") {
-        words >> modulus >> word;
-        modulus = " % " + modulus;
+        words >> relation.modulus >> word;
+        relation.modulus = " % " + relation.modulus;
     }
     words >> ranges;
     if (!words || operand.size() != 1 || std::string_view("nivwftec").find(operand) == std::string_view::npos ||
         (word != "=" && word != "!=") || ranges.find_first_not_of("0123456789.,") != ranges.npos)
         fail("cannot read the plural rule \"" + text + "\"");
+    relation.operand = operand[0];
+    relation.isEqual = word == "=";
+    relation.ranges = split(ranges, ",");
+    return relation;
+}
+
+// As C++ over the operands `o`.
+std::string relation(const std::string& text) {
+    const auto [operand, modulus, isEqual, ranges] = parsed(text);
     // Numbers in compact notation are not written here: their exponents, e and c, are 0.
-    const bool isExponent = operand == "e" || operand == "c";
-    const std::string value = isExponent ? "0U" : (operand == "n" ? "o.i" : "o." + operand) + modulus;
-    std::string any =
-        joined(split(ranges, ","), " || ", [&](const std::string& range) { return inRange(value, range); });
-    if (operand == "n") // has its fraction: without one it is i
+    const bool isExponent = operand == 'e' || operand == 'c';
+    const std::string value = isExponent ? "0U" : std::string("o.") + (operand == 'n' ? 'i' : operand) + modulus;
+    std::string any = joined(ranges, " || ", [&](const std::string& range) { return inRange(value, range); });
+    if (operand == 'n') // has its fraction: without one it is i
         any = "o.t == 0 && " + inBrackets(any, " || ");
-    return word == "!=" ? "!(" + any + ")" : inBrackets(any, " || ");
+    return isEqual ? inBrackets(any, " || ") : "!(" + any + ")";
 }
 
 std::string condition(const std::string& rule) {
@@ -105,26 +122,77 @@ std::string condition(const std::string& rule) {
     });
 }
 
+// Rules for whole numbers, as gettext has them: an expression of C over `n`, which gives the number of the form.
+
+constexpr const char* always = "1";
+constexpr const char* never = "0";
+
+// The numbers behind the point of a whole number are 0, so that most relations hold always or never.
+std::string integerRelation(const std::string& text) {
+    const auto [operand, modulus, isEqual, ranges] = parsed(text);
+    if (operand != 'n' && operand != 'i') {
+        const bool hasZero = ranges.front() == "0" || ranges.front().starts_with("0..");
+        return hasZero == isEqual ? always : never;
+    }
+    const std::string value = "n" + modulus;
+    const std::string any = joined(ranges, " || ", [&](const std::string& range) {
+        const std::vector<std::string> ends = split(range, "..");
+        return ends.size() == 1 ? value + " == " + ends[0]
+                                : "(" + value + " >= " + ends[0] + " && " + value + " <= " + ends[1] + ")";
+    });
+    return isEqual ? inBrackets(any, " || ") : "!(" + any + ")";
+}
+
+std::string integerCondition(const std::string& rule) {
+    std::vector<std::string> alternatives;
+    for (const std::string& alternative : split(rule, " or ")) {
+        std::vector<std::string> relations;
+        for (const std::string& each : split(alternative, " and "))
+            relations.push_back(integerRelation(each));
+        if (std::ranges::find(relations, never) != relations.end())
+            continue;
+        std::erase(relations, always);
+        alternatives.push_back(relations.empty() ? always
+                                                 : joined(relations, " && ", [](const auto& one) { return one; }));
+    }
+    return alternatives.empty()
+               ? never
+               : joined(alternatives, " || ", [](const std::string& one) { return inBrackets(one, " && "); });
+}
+
+std::string integerExpression(const std::vector<std::string>& conditions) {
+    std::string out;
+    for (std::size_t i = 0; i + 1 < conditions.size(); ++i)
+        out.append(conditions[i]).append(" ? ").append(std::to_string(i)).append(" : ");
+    return out + std::to_string(conditions.empty() ? 0 : conditions.size() - 1);
+}
+
 struct RuleSet {
     std::string code;
     unsigned categories = 0;        // a bit for each
     unsigned integerCategories = 0; // those that whole numbers have
+    std::string expression = never;
 };
 
 RuleSet ruleSet(const std::map<std::string, std::string>& rules) {
     RuleSet set;
+    std::vector<std::string> conditions; // of the categories that whole numbers have
     for (std::size_t category = 0; category < pluralCategoryCount; ++category) {
         const std::string name(pluralCategoryNames[category]);
         const auto rule = rules.find(name);
         if (rule == rules.end())
             continue;
         set.categories |= 1U << category;
-        set.integerCategories |= rule->second.find("@integer") != std::string::npos ? 1U << category : 0U;
         std::string text = before(rule->second, "@");
         text.erase(text.find_last_not_of(' ') + 1);
+        if (rule->second.find("@integer") != std::string::npos) {
+            set.integerCategories |= 1U << category;
+            conditions.push_back(text.empty() ? always : integerCondition(text));
+        }
         if (!text.empty())
             set.code += "        if (" + condition(text) + ")\n            return PluralCategory::" + name + ";\n";
     }
+    set.expression = integerExpression(conditions);
     return set;
 }
 
@@ -135,23 +203,26 @@ std::string pluralRules() {
     const Bundle all(ures_openDirect(nullptr, "plurals", &status));
     check(status);
     const Bundle rules = child(all, "rules");
-    std::string code, categories, languages;
+    std::string code, categories, languages, expressions;
     std::map<std::string, std::string> numbers; // of the sets that were written
-    Pool names;
+    Pool names, expressionTexts;
     for (const auto& [language, name] : texts(child(all, "locales"))) {
         const auto [number, isNew] = numbers.emplace(name, std::to_string(numbers.size()));
         if (isNew) {
-            const RuleSet set = name.empty() ? RuleSet{"", 0x20, 0x20} : ruleSet(texts(child(rules, name.c_str())));
+            const RuleSet set =
+                name.empty() ? RuleSet{"", 0x20, 0x20, never} : ruleSet(texts(child(rules, name.c_str())));
             code += "    case " + number->second + ":\n" + set.code + "        break;\n";
             categories +=
                 "    {" + std::to_string(set.categories) + ", " + std::to_string(set.integerCategories) + "},\n";
+            expressions += "    " + std::to_string(expressionTexts.offsetOf(set.expression)) + ",\n";
         }
         languages += "    {" + std::to_string(names.offsetOf(language)) + ", " + number->second + "},\n";
     }
     return "PluralCategory select(unsigned ruleSet, const PluralOperands& o) noexcept {\n    switch (ruleSet) {\n" +
            code + "    }\n    return PluralCategory::other;\n}\n" + "constexpr Categories categories[] = {\n" +
            categories + "};\n" + names.definition("names") + "constexpr Language languages[] = {\n" + languages +
-           "};\n";
+           "};\n" + expressionTexts.definition("expressionTexts") + "constexpr std::uint16_t expressions[] = {\n" +
+           expressions + "};\n";
 }
 
 } // namespace Intl::Precompute

@@ -36,4 +36,8 @@ struct PluralCategories {
 };
 [[nodiscard]] PluralCategories pluralCategories(std::string_view language) noexcept;
 
+// The rule for whole numbers as an expression of C over `n`, whose value is the number of the category among
+// `ofIntegers`, from 0 on: "n == 1 ? 0 : 1". "0" where the language is unknown.
+[[nodiscard]] std::string_view integerPluralExpression(std::string_view language) noexcept;
+
 } // namespace Intl

@@ -18,6 +18,9 @@ namespace StringTables {
 [[nodiscard]] Runtime::Result<std::string> write(std::span<const Entry> entries, Form form,
                                                  std::span<const std::string> comments = {});
 
+// Appends `text` in quotation marks, as a table of the form text has it.
+void appendQuoted(std::string& out, std::string_view text);
+
 // The limit of Table::maxBytes on what a writer of entries makes. To be asked before the first entry with the size of
 // all keys and texts, and then with the size of what is written.
 [[nodiscard]] Runtime::Result<void> checkWrittenSize(std::size_t size);

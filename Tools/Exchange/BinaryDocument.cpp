@@ -1,0 +1,73 @@
+#include "Exchange/BinaryDocument.h"
+
+#include "Exchange/PluralChange.h"
+#include "StringTables/internal/Writer.h"
+#include <algorithm>
+
+namespace Exchange {
+
+using StringTables::PluralEntry;
+
+namespace {
+
+Runtime::Error wouldLose(const Runtime::Error& note) {
+    return {.message = "a binary table that holds more than texts cannot be edited: " + note.message};
+}
+
+} // namespace
+
+Runtime::Result<BinaryTexts> BinaryTexts::read(std::string bytes) {
+    const auto table = StringTables::Table::read(std::move(bytes));
+    if (!table)
+        return table.error();
+    if (!table->notes().empty())
+        return wouldLose(table->notes().front());
+    BinaryTexts document;
+    for (const StringTables::Entry& entry : table->entries())
+        document.texts_.emplace_back(entry.key, entry.text);
+    return document;
+}
+
+Runtime::Result<void> BinaryTexts::apply(const Change& change) {
+    const Unit& unit = *change.changed.front();
+    const auto found = std::ranges::find(texts_, unit.id.key, &std::pair<std::string, std::string>::first);
+    if (found != texts_.end())
+        found->second = unit.target;
+    else
+        texts_.emplace_back(unit.id.key, unit.target);
+    return {};
+}
+
+Runtime::Result<std::string> BinaryTexts::bytes() const {
+    std::vector<StringTables::Entry> entries;
+    for (const auto& [key, text] : texts_)
+        entries.push_back({key, text});
+    return StringTables::write(entries, StringTables::Form::binary);
+}
+
+Runtime::Result<BinaryPlurals> BinaryPlurals::read(std::string bytes) {
+    const auto table = StringTables::PluralTable::read(std::move(bytes));
+    if (!table)
+        return table.error();
+    if (!table->notes().empty())
+        return wouldLose(table->notes().front());
+    BinaryPlurals document;
+    document.entries_.assign(table->entries().begin(), table->entries().end());
+    return document;
+}
+
+Runtime::Result<void> BinaryPlurals::apply(const Change& change) {
+    const std::string& key = change.changed.front()->id.key;
+    const auto found = std::ranges::find(entries_, key, &PluralEntry::key);
+    if (found != entries_.end())
+        applyTo(found->plural, change.changed, *change.development);
+    else
+        entries_.push_back({key, newPlural(change), {}});
+    return {};
+}
+
+Runtime::Result<std::string> BinaryPlurals::bytes() const {
+    return StringTables::write(entries_);
+}
+
+} // namespace Exchange

@@ -1,0 +1,159 @@
+#include "Exchange/CatalogDocument.h"
+
+#include <array>
+#include <utility>
+
+namespace Exchange {
+
+namespace {
+
+constexpr std::string_view stringUnit = "stringUnit", variations = "variations", plural = "plural";
+
+constexpr std::array<std::pair<std::string_view, State>, 3> states = {
+    {{"translated", State::translated}, {"new", State::isNew}, {"needs_review", State::needsReview}}};
+
+State stateOf(JsonNode& unit) {
+    const JsonNode* const found = unit.find("state");
+    const auto name = found == nullptr ? std::nullopt : found->string();
+    for (const auto& [each, state] : states)
+        if (name == each)
+            return state;
+    return State::translated;
+}
+
+std::string_view nameOf(State state) {
+    for (const auto& [name, each] : states)
+        if (each == state)
+            return name;
+    return {};
+}
+
+// Collects the texts of a localization: its own, and those for devices, categories and substitutions.
+class Collector {
+public:
+    explicit Collector(JsonNode& localization) { collect(localization); }
+    std::vector<StoredText> texts;
+
+private:
+    void collect(JsonNode& node) {
+        if (JsonNode* const unit = node.find(stringUnit))
+            if (const JsonNode* const value = unit->find("value"))
+                if (auto text = value->string())
+                    texts.push_back({part_, category_, *std::move(text), stateOf(*unit)});
+        if (JsonNode* const variation = node.find(variations); variation != nullptr && !category_)
+            for (const std::string& kind : variation->names())
+                collectVariations(kind, *variation->find(kind));
+        if (JsonNode* const substitutions = node.find(substitutionsPart); substitutions != nullptr && part_.empty())
+            collectParts(substitutionsPart, *substitutions);
+    }
+
+    void collectVariations(std::string_view kind, JsonNode& node) {
+        const bool isForDevice = !part_.empty() && part_[part_.size() - 2] == devicePart;
+        if (kind == plural)
+            for (const std::string& name : node.names()) {
+                category_ = Intl::pluralCategoryNamed(name);
+                if (category_)
+                    collect(*node.find(name));
+                category_.reset();
+            }
+        else if (kind == devicePart && !isForDevice)
+            collectParts(devicePart, node);
+    }
+
+    void collectParts(std::string_view kind, JsonNode& node) {
+        for (const std::string& name : node.names()) {
+            part_.insert(part_.end(), {std::string(kind), name});
+            collect(*node.find(name));
+            part_.resize(part_.size() - 2);
+        }
+    }
+
+    std::vector<std::string> part_;
+    std::optional<PluralCategory> category_;
+};
+
+// The variations of a node, which has no text of its own beside them.
+JsonNode& variationsOf(JsonNode& node) {
+    node.remove(stringUnit);
+    return node.member(variations);
+}
+
+bool isPlain(JsonNode& localization) {
+    return localization.find(stringUnit) != nullptr && localization.find(variations) == nullptr;
+}
+
+} // namespace
+
+CatalogDocument::CatalogDocument(JsonDocument json) : json_(std::move(json)) {
+    if (const JsonNode* const language = json_.root().find("sourceLanguage"))
+        sourceLanguage_ = language->string().value_or("");
+    if (JsonNode* const strings = json_.root().find("strings"))
+        for (const std::string& key : strings->names())
+            keys_[key] = strings->find(key);
+}
+
+Runtime::Result<CatalogDocument> CatalogDocument::read(std::string bytes) {
+    auto json = JsonDocument::read(std::move(bytes));
+    if (!json)
+        return std::move(json.error());
+    return CatalogDocument(*std::move(json));
+}
+
+JsonNode* CatalogDocument::localization(std::string_view key, std::string_view language) {
+    const auto known = keys_.find(std::string(key));
+    JsonNode* const all = known == keys_.end() ? nullptr : known->second->find("localizations");
+    return all == nullptr ? nullptr : all->find(language);
+}
+
+std::vector<StoredText> CatalogDocument::texts(std::string_view key, std::string_view language) {
+    JsonNode* const found = localization(key, language);
+    std::vector<StoredText> texts = found == nullptr ? std::vector<StoredText>() : Collector(*found).texts;
+    if (texts.empty() && language == sourceLanguage_ && keys_.contains(std::string(key)))
+        texts.push_back({{}, std::nullopt, std::string(key), State::translated});
+    return texts;
+}
+
+// The node of the unit's text, made if need be.
+JsonNode& CatalogDocument::place(JsonNode& localization, const Unit& unit) {
+    JsonNode* node = &localization;
+    for (std::size_t i = 0; i + 1 < unit.id.part.size(); i += 2) {
+        const std::string& name = unit.id.part[i + 1];
+        if (unit.id.part[i] == devicePart) {
+            node = &variationsOf(*node).member(devicePart).member(name);
+            continue;
+        }
+        JsonNode& substitution = node->member(substitutionsPart).member(name);
+        if (substitution.names().empty()) {
+            JsonNode* const source = this->localization(unit.id.key, sourceLanguage_);
+            JsonNode* const all = source == nullptr ? nullptr : source->find(substitutionsPart);
+            if (JsonNode* const model = all == nullptr ? nullptr : all->find(name))
+                substitution.copyMembers(*model, variations);
+        }
+        node = &substitution;
+    }
+    if (unit.id.category)
+        node = &variationsOf(*node).member(plural).member(Intl::pluralCategoryNames[indexOf(*unit.id.category)]);
+    return node->member(stringUnit);
+}
+
+Runtime::Result<void> CatalogDocument::apply(const Change& change) {
+    const std::string& key = change.changed.front()->id.key;
+    const auto known = keys_.find(key);
+    if (known == keys_.end())
+        return Runtime::Error{.message = "the string catalog has no key " + key};
+    JsonNode& localization = known->second->member("localizations").member(change.language);
+    // A text that gives way to forms is among them.
+    for (const Unit* unit : isPlain(localization) ? change.all : change.changed) {
+        JsonNode& stored = place(localization, *unit);
+        if (stored.find("value") == nullptr || stateOf(stored) != unit->state)
+            stored.member("state").set(nameOf(unit->state));
+        stored.member("value").set(unit->target);
+    }
+    return {};
+}
+
+Runtime::Result<std::string> CatalogDocument::bytes() const {
+    return json_.text();
+}
+
+} // namespace Exchange

@@ -1,0 +1,45 @@
+// Exchange/CatalogDocument.h
+// A string catalog (.xcstrings) whose texts are read as they are written down, and edited in place.
+#pragma once
+
+#include "Exchange/Json.h"
+#include "Exchange/TableDocument.h"
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Exchange {
+
+// The parts of a key in a string catalog.
+inline constexpr std::string_view devicePart = "device", substitutionsPart = "substitutions";
+
+// A text of a key in one language, as a file has it.
+struct StoredText {
+    std::vector<std::string> part;
+    std::optional<PluralCategory> category;
+    std::string text;
+    State state = State::translated;
+};
+
+class CatalogDocument final : public TableDocument {
+public:
+    [[nodiscard]] static Runtime::Result<CatalogDocument> read(std::string bytes);
+    CatalogDocument(CatalogDocument&&) = default;
+
+    // The texts of the key in the language, in their order. A key without a text in the source language has itself.
+    [[nodiscard]] std::vector<StoredText> texts(std::string_view key, std::string_view language);
+
+    Runtime::Result<void> apply(const Change& change) override;
+    Runtime::Result<std::string> bytes() const override;
+
+private:
+    explicit CatalogDocument(JsonDocument json);
+    JsonNode* localization(std::string_view key, std::string_view language);
+    JsonNode& place(JsonNode& localization, const Unit& unit);
+
+    JsonDocument json_;
+    std::string sourceLanguage_;
+    std::unordered_map<std::string, JsonNode*> keys_;
+};
+
+} // namespace Exchange

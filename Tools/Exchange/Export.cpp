@@ -1,0 +1,78 @@
+#include "Exchange/Export.h"
+
+#include <algorithm>
+
+namespace Exchange {
+
+namespace fs = std::filesystem;
+using SourceBundle::Severity;
+using SourceBundle::Source;
+using SourceBundle::SourceEntry;
+using SourceBundle::SourceTable;
+
+namespace {
+
+// "en.lproj/Localizable.strings:12", below the folder of the source.
+std::string placeOf(const SourceEntry& entry, std::span<const fs::path> folders) {
+    fs::path shown = entry.file->path.filename();
+    for (const fs::path& folder : folders)
+        if (const fs::path inside = entry.file->path.lexically_relative(folder);
+            !inside.empty() && *inside.begin() != "..")
+            shown = inside;
+    return shown.string() + ":" + std::to_string(entry.line);
+}
+
+bool isSamePart(const Unit& one, const Unit& other) {
+    return one.id.part == other.id.part;
+}
+
+// Takes out the parts of a key of which nothing is missing.
+void keepMissing(std::vector<Unit>& units, const std::string& language) {
+    std::vector<Unit> kept;
+    for (auto begin = units.begin(); begin != units.end();) {
+        const auto end =
+            std::find_if(begin, units.end(), [begin](const Unit& unit) { return !isSamePart(*begin, unit); });
+        if (std::any_of(begin, end, [&language](const Unit& unit) { return isMissing(unit, language); }))
+            std::move(begin, end, std::back_inserter(kept));
+        begin = end;
+    }
+    units = std::move(kept);
+}
+
+} // namespace
+
+void forEachKey(const Source& source, const SourceTable& table, const std::string& language,
+                const std::function<void(const Key&)>& visit) {
+    const SourceBundle::LanguageTexts* const own = table.find(source.developmentLanguage);
+    const SourceBundle::LanguageTexts* const translated = table.find(language);
+    for (const SourceEntry* entry : source.developmentEntries(table)) {
+        const bool isOwn = own != nullptr && own->find(entry->key) == entry;
+        visit({.table = &table,
+               .development = entry,
+               .translated = translated == nullptr ? nullptr : translated->find(entry->key),
+               .developmentLanguage = isOwn ? source.developmentLanguage : std::string(SourceBundle::baseLanguage),
+               .language = language});
+    }
+}
+
+Handout handoutOf(const Source& source, std::span<const fs::path> folders, const std::string& language,
+                  bool onlyMissing, SourceBundle::Diagnostics& diagnostics) {
+    Handout handout{.sourceLanguage = source.developmentLanguage, .targetLanguage = language};
+    StoredTexts texts(source, diagnostics);
+    for (const SourceTable& table : source.tables)
+        forEachKey(source, table, language, [&](const Key& key) {
+            if (!isExchanged(key))
+                diagnostics.add(Severity::warning,
+                                key.translated->error("has plural forms, which the development text does not have; it "
+                                                      "is left out"));
+            std::vector<Unit> units = unitsOf(key, texts);
+            if (onlyMissing)
+                keepMissing(units, language);
+            for (Unit& unit : units)
+                unit.place = placeOf(*key.development, folders);
+            std::ranges::move(units, std::back_inserter(handout.units));
+        });
+    return handout;
+}
+
+} // namespace Exchange

@@ -1,0 +1,96 @@
+#include "Exchange/FileSet.h"
+
+#include "Runtime/internal/File.h"
+#include <system_error>
+#include <unistd.h>
+
+namespace Exchange {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+Runtime::Error systemError(const fs::path& path, const std::error_code& reason) {
+    return {.message = "cannot be written: " + reason.message(), .file = path};
+}
+
+// A name beside `path` that no other run has.
+fs::path beside(const fs::path& path, std::string_view kind) {
+    fs::path name = path;
+    return name.replace_filename("." + path.filename().string() + "." + std::string(kind) + "-" +
+                                 std::to_string(::getpid()));
+}
+
+} // namespace
+
+FileSet::~FileSet() {
+    std::error_code ignored;
+    for (const File& file : files_) {
+        fs::remove(file.staged, ignored);
+        if (!file.old.empty())
+            fs::remove(file.old, ignored);
+    }
+    for (auto folder = folders_.rbegin(); folder != folders_.rend(); ++folder)
+        fs::remove(*folder, ignored); // one that is not empty stays
+}
+
+Runtime::Result<void> FileSet::stage(const fs::path& path, std::string_view bytes) {
+    std::error_code failed;
+    const fs::path folder = path.parent_path();
+    if (!folder.empty() && fs::create_directory(folder, failed))
+        folders_.push_back(folder);
+    if (failed)
+        return systemError(folder, failed);
+    fs::path target = path;
+    if (const fs::path real = fs::canonical(path, failed); !failed)
+        target = real;
+    files_.push_back({.target = target, .staged = beside(target, "new")});
+    if (auto written = Runtime::writeFile(files_.back().staged, bytes); !written) {
+        written.error().file = path;
+        return written;
+    }
+    if (const fs::file_status status = fs::status(target, failed); fs::exists(status))
+        fs::permissions(files_.back().staged, status.permissions(), failed);
+    return {};
+}
+
+Runtime::Result<void> FileSet::put(File& file) {
+    std::error_code failed;
+    if (fs::exists(file.target, failed)) {
+        const fs::path old = beside(file.target, "old");
+        fs::create_hard_link(file.target, old, failed);
+        if (failed) // a file system without links
+            fs::copy_file(file.target, old, fs::copy_options::overwrite_existing, failed);
+        if (failed)
+            return systemError(file.target, failed);
+        file.old = old;
+    }
+    fs::rename(file.staged, file.target, failed);
+    if (failed)
+        return systemError(file.target, failed);
+    file.isInPlace = true;
+    return {};
+}
+
+void FileSet::goBack() {
+    std::error_code ignored;
+    for (const File& file : files_) {
+        if (!file.isInPlace)
+            continue;
+        if (file.old.empty())
+            fs::remove(file.target, ignored);
+        else
+            fs::rename(file.old, file.target, ignored);
+    }
+}
+
+Runtime::Result<void> FileSet::commit() {
+    for (File& file : files_)
+        if (auto put = this->put(file); !put) {
+            goBack();
+            return put;
+        }
+    return {};
+}
+
+} // namespace Exchange

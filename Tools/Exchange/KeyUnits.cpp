@@ -1,0 +1,205 @@
+#include "Exchange/KeyUnits.h"
+
+#include "Exchange/Languages.h"
+#include "Exchange/PluralChange.h"
+#include "Exchange/Po.h"
+#include "StringTables/internal/PluralTable.h"
+#include <algorithm>
+#include <utility>
+
+namespace Exchange {
+
+using SourceBundle::SourceEntry;
+using SourceBundle::TableFile;
+using StringTables::PluralFormat;
+
+namespace {
+
+std::vector<StoredText> textsOf(const PluralFormat& plural) {
+    std::vector<StoredText> texts = {{{std::string(formatPart)}, std::nullopt, plural.format}};
+    for (const StringTables::PluralVariable& variable : plural.variables)
+        for (std::size_t i = 0; i < variable.forms.size(); ++i)
+            if (variable.forms[i])
+                texts.push_back(
+                    {{std::string(variablesPart), variable.name}, static_cast<PluralCategory>(i), *variable.forms[i]});
+    return texts;
+}
+
+using Part = std::vector<std::string>;
+
+// A part of a key: a text or plural forms, as the development language and the translation have them.
+struct PartTexts {
+    Part part;
+    bool isPlural = false;
+    std::vector<const StoredText*> development{}, translated{};
+};
+
+const StoredText* find(const std::vector<const StoredText*>& texts, std::optional<PluralCategory> category) {
+    const auto found = std::ranges::find(texts, category, &StoredText::category);
+    return found == texts.end() ? nullptr : *found;
+}
+
+// The development text of a category: that of `other`, where the development language does not have the category.
+const StoredText* developmentText(const std::vector<const StoredText*>& texts, std::optional<PluralCategory> category) {
+    if (const StoredText* const same = find(texts, category))
+        return same;
+    if (const StoredText* const other = find(texts, PluralCategory::other))
+        return other;
+    return texts.empty() ? nullptr : texts.back();
+}
+
+class UnitMaker {
+public:
+    UnitMaker(const Key& key, const std::vector<StoredText>& development, const std::vector<StoredText>& translated)
+        : key_(key), development_(development), translated_(translated) {
+        for (const StoredText& text : development)
+            partOf(text).development.push_back(&text);
+        for (const StoredText& text : translated)
+            partOf(text).translated.push_back(&text);
+    }
+
+    std::vector<Unit> make() {
+        for (const PartTexts& part : parts_) {
+            if (isTrivialFormat(part))
+                continue;
+            if (!part.isPlural)
+                add(part, std::nullopt);
+            else
+                for (std::size_t i = 0; i < Intl::pluralCategoryCount; ++i)
+                    if (const auto category = static_cast<PluralCategory>(i); isWanted(part, category))
+                        add(part, category);
+        }
+        return std::move(units_);
+    }
+
+private:
+    PartTexts& partOf(const StoredText& text) {
+        auto found = std::ranges::find(parts_, text.part, &PartTexts::part);
+        if (found == parts_.end()) {
+            parts_.push_back({.part = text.part});
+            found = parts_.end() - 1;
+        }
+        found->isPlural |= text.category.has_value();
+        return *found;
+    }
+
+    bool isWanted(const PartTexts& part, PluralCategory category) const {
+        const auto needed = categoriesOf(key_.language);
+        return std::ranges::find(needed, category) != needed.end() || find(part.translated, category) != nullptr ||
+               (category == PluralCategory::zero && find(part.development, category) != nullptr);
+    }
+
+    // A format that is nothing but a variable is the same in all languages.
+    bool isTrivialFormat(const PartTexts& part) const {
+        if (part.part.size() != 1 || key_.development->plural == nullptr)
+            return false;
+        const auto isVariable = [this](const StoredText* text) {
+            return std::ranges::any_of(key_.development->plural->variables, [text](const auto& variable) {
+                return text->text == "%#@" + variable.name + "@";
+            });
+        };
+        return std::ranges::all_of(part.development, isVariable) &&
+               (part.translated.empty() ||
+                (!part.development.empty() && part.translated.front()->text == part.development.front()->text));
+    }
+
+    // Of a part that the development text does not have, another part's text tells what is meant.
+    const StoredText* sourceOf(const PartTexts& part, std::optional<PluralCategory> category) const {
+        if (const StoredText* const own = developmentText(part.development, category))
+            return own;
+        for (const PartTexts& other : parts_)
+            if (const StoredText* const text = developmentText(other.development, category))
+                return text;
+        return nullptr;
+    }
+
+    // A plain text stands for the form `other`, where the development text has forms or texts for devices.
+    const StoredText* targetOf(const PartTexts& part, std::optional<PluralCategory> category) const {
+        if (const StoredText* const own = find(part.translated, category))
+            return own;
+        const bool isOther = (!category || category == PluralCategory::other) &&
+                             (part.part.empty() || part.part == Part{std::string(devicePart), "other"});
+        const auto plain = std::ranges::find_if(
+            translated_, [](const StoredText& text) { return text.part.empty() && !text.category; });
+        const bool isConverted = part.translated.empty() || part.part.empty();
+        return isOther && isConverted && plain != translated_.end() ? &*plain : nullptr;
+    }
+
+    void add(const PartTexts& part, std::optional<PluralCategory> category) {
+        const StoredText* const source = sourceOf(part, category);
+        const StoredText* const target = targetOf(part, category);
+        Unit unit{.id = {key_.table->name, std::string(key_.development->key), part.part, category},
+                  .source = source == nullptr ? std::string() : source->text,
+                  .sourceCategory = category};
+        if (target != nullptr) {
+            unit.target = target->text;
+            unit.state = target->state;
+        }
+        if (!unit.source.empty() || !unit.target.empty())
+            units_.push_back(std::move(unit));
+    }
+
+    const Key& key_;
+    const std::vector<StoredText>& development_;
+    const std::vector<StoredText>& translated_;
+    std::vector<PartTexts> parts_;
+    std::vector<Unit> units_;
+};
+
+} // namespace
+
+StoredTexts::StoredTexts(const SourceBundle::Source& source, SourceBundle::Diagnostics& diagnostics) {
+    for (const SourceBundle::SourceTable& table : source.tables)
+        for (const SourceBundle::LanguageTexts& texts : table.languages)
+            for (const TableFile* file : texts.files) {
+                if (file->kind != TableFile::Kind::catalog || catalogs_.contains(file->path))
+                    continue;
+                auto document = TableDocument::read(*file);
+                if (document)
+                    catalogs_[file->path].reset(static_cast<CatalogDocument*>(document->release()));
+                else
+                    diagnostics.add(SourceBundle::Severity::error, std::move(document.error()));
+            }
+}
+
+CatalogDocument* StoredTexts::catalog(const std::filesystem::path& path) {
+    const auto found = catalogs_.find(path);
+    return found == catalogs_.end() ? nullptr : found->second.get();
+}
+
+std::vector<StoredText> StoredTexts::of(const SourceEntry& entry, std::string_view language) {
+    if (CatalogDocument* const document = catalog(entry.file->path))
+        return document->texts(entry.key, language);
+    if (entry.plural != nullptr)
+        return textsOf(*entry.plural);
+    return {{{}, std::nullopt, std::string(entry.text), State::translated}};
+}
+
+bool isExchanged(const Key& key) {
+    return key.translated == nullptr || key.development->file->kind != TableFile::Kind::texts ||
+           key.translated->file->kind != TableFile::Kind::plurals;
+}
+
+std::vector<Unit> unitsOf(const Key& key, StoredTexts& texts) {
+    if (!key.development->isTranslatable || !isExchanged(key))
+        return {};
+    const std::vector<StoredText> development = texts.of(*key.development, key.developmentLanguage);
+    std::vector<StoredText> translated;
+    // A plain text beside development plurals is replaced by a plural.
+    const bool isReplaced = key.translated != nullptr && key.development->file->kind == TableFile::Kind::plurals &&
+                            key.translated->file->kind == TableFile::Kind::texts;
+    if (key.translated != nullptr && !isReplaced)
+        translated = texts.of(*key.translated, key.language);
+    std::vector<Unit> units = UnitMaker(key, development, translated).make();
+    for (Unit& unit : units)
+        unit.comment = key.development->comment;
+    markFuzzy(units, key.language);
+    return units;
+}
+
+bool isMissing(const Unit& unit, std::string_view language) {
+    const bool isNeeded = !unit.id.category || needsCategory(language, *unit.id.category);
+    return unit.target.empty() ? isNeeded && !unit.source.empty() : unit.state == State::isNew;
+}
+
+} // namespace Exchange

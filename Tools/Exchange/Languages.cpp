@@ -1,0 +1,87 @@
+#include "Exchange/Languages.h"
+
+#include "Intl/internal/PluralRules.h"
+#include <algorithm>
+#include <cstdint>
+
+namespace Exchange {
+
+namespace {
+
+char folded(char c) {
+    if (c == '_')
+        return '-';
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
+bool isLetter(char c) {
+    return folded(c) >= 'a' && folded(c) <= 'z';
+}
+
+// Two or three letters, then parts of up to eight letters and digits.
+bool isCode(std::string_view code) {
+    constexpr std::size_t longest = 8;
+    for (bool isFirst = true;; isFirst = false) {
+        const std::size_t size = std::min(code.find('-'), code.size());
+        const std::string_view part = code.substr(0, size);
+        const bool isMade =
+            std::ranges::all_of(part, [isFirst](char c) { return isLetter(c) || (!isFirst && c >= '0' && c <= '9'); });
+        if (!isMade || part.empty() || part.size() > longest || (isFirst && (part.size() < 2 || part.size() > 3)))
+            return false;
+        if (size == code.size())
+            return true;
+        code.remove_prefix(size + 1);
+    }
+}
+
+std::vector<PluralCategory> categoriesIn(std::uint8_t bits) {
+    std::vector<PluralCategory> all;
+    for (std::size_t i = 0; i < Intl::pluralCategoryCount; ++i)
+        if ((bits >> i & 1U) != 0)
+            all.push_back(static_cast<PluralCategory>(i));
+    return all;
+}
+
+} // namespace
+
+bool isSameLanguage(std::string_view one, std::string_view other) {
+    return std::ranges::equal(one, other, {}, folded, folded);
+}
+
+bool hasLanguage(const SourceBundle::Source& source, std::string_view language) {
+    return std::ranges::any_of(
+        source.tables, [language](const SourceBundle::SourceTable& table) { return table.find(language) != nullptr; });
+}
+
+std::optional<std::string> targetLanguage(const SourceBundle::Source& source, std::string_view code) {
+    if (isSameLanguage(code, source.developmentLanguage) || isSameLanguage(code, SourceBundle::baseLanguage))
+        return std::nullopt;
+    for (const SourceBundle::SourceTable& table : source.tables)
+        for (const SourceBundle::LanguageTexts& texts : table.languages)
+            if (isSameLanguage(texts.language, code))
+                return texts.language;
+    std::string language(code);
+    std::ranges::replace(language, '_', '-');
+    return isCode(language) ? std::optional(language) : std::nullopt;
+}
+
+std::vector<PluralCategory> categoriesOf(std::string_view language) {
+    constexpr std::uint8_t other = 1U << indexOf(PluralCategory::other);
+    return categoriesIn(Intl::pluralCategories(language).all | other);
+}
+
+std::vector<PluralCategory> integerCategoriesOf(std::string_view language) {
+    return categoriesIn(Intl::pluralCategories(language).ofIntegers);
+}
+
+bool needsCategory(std::string_view language, PluralCategory category) {
+    constexpr std::uint64_t most = 1000;
+    if (category == PluralCategory::other)
+        return true;
+    for (std::uint64_t i = 0; i <= most; ++i)
+        if (Intl::pluralCategory(language, {.i = i}) == category)
+            return true;
+    return false;
+}
+
+} // namespace Exchange

@@ -1,0 +1,177 @@
+#include "Exchange/Placeholders.h"
+
+#include "Exchange/CatalogDocument.h"
+#include "Exchange/PluralChange.h"
+#include "StringTables/internal/PluralPieces.h"
+#include <algorithm>
+#include <map>
+
+namespace Exchange {
+
+using StringTables::Placeholder;
+using StringTables::PluralFormat;
+using StringTables::PluralPieces;
+using StringTables::PluralVariable;
+
+namespace {
+
+// What a text takes: by position the kind of an argument, and by name the variables that it shows, with the position of
+// each where that counts.
+struct Needs {
+    std::map<std::size_t, Placeholder::Kind> arguments;
+    std::map<std::string, std::size_t> variables;
+    std::optional<std::size_t> number; // the argument that chooses a plural form
+};
+
+void add(Needs& needs, const StringTables::FormatSignature& signature) {
+    for (std::size_t i = 0; i < signature.arguments.size(); ++i)
+        if (signature.arguments[i])
+            needs.arguments.emplace(i + 1, *signature.arguments[i]);
+}
+
+// Of a format or form of a .stringsdict entry.
+Needs pluralNeeds(PluralPieces pieces) {
+    Needs needs;
+    StringTables::FormatSignature signature;
+    while (const auto piece = pieces.next())
+        if (piece->variable != nullptr)
+            needs.variables.emplace(piece->variable->name, piece->arguments.value);
+        else
+            signature.add(piece->placeholder, piece->arguments);
+    add(needs, signature);
+    return needs;
+}
+
+// Takes every `mark` out of the text; whether there was one.
+bool take(std::string& text, const std::string& mark) {
+    bool found = false;
+    for (std::size_t at = 0; (at = text.find(mark, at)) != text.npos;) {
+        text.erase(at, mark.size());
+        found = true;
+    }
+    return found;
+}
+
+// Of a text of a string catalog, whose substitutions have arguments of their own.
+Needs catalogNeeds(std::string text, const PluralFormat* plural) {
+    Needs needs;
+    if (plural != nullptr)
+        for (const PluralVariable& variable : plural->variables)
+            if (take(text, "%#@" + variable.name + "@"))
+                needs.variables.emplace(variable.name, 0);
+    take(text, "%arg");
+    add(needs, StringTables::signatureOf(text));
+    return needs;
+}
+
+const PluralVariable* variableNamed(const PluralFormat& plural, const std::string& name) {
+    const auto found = std::ranges::find(plural.variables, name, &PluralVariable::name);
+    return found == plural.variables.end() ? nullptr : &*found;
+}
+
+// The argument of a variable; one that only forms name has the first.
+std::size_t argumentOf(const PluralFormat& plural, const PluralVariable& variable) {
+    PluralPieces pieces(plural);
+    while (const auto piece = pieces.next())
+        if (piece->variable == &variable)
+            return std::max<std::size_t>(piece->arguments.value, 1);
+    return 1;
+}
+
+class Comparison {
+public:
+    Comparison(const Unit& unit, const SourceBundle::SourceEntry& development)
+        : part_(unit.id.part), isPlural_(unit.id.category), plural_(development.plural) {}
+
+    Needs needsOf(const std::string& text) const {
+        if (plural_ == nullptr || part_.empty() || part_.front() == devicePart || part_.front() == substitutionsPart)
+            return catalogNeeds(text, plural_);
+        if (!isPlural_) {
+            PluralFormat format = *plural_;
+            format.format = text;
+            return pluralNeeds(PluralPieces(format));
+        }
+        const PluralVariable* const variable = variableNamed(*plural_, part_.back());
+        if (variable == nullptr)
+            return catalogNeeds(text, nullptr);
+        const std::size_t own = argumentOf(*plural_, *variable);
+        Needs needs = pluralNeeds(PluralPieces(*plural_, text, *variable, own));
+        needs.number = own;
+        return needs;
+    }
+
+    // What the forms of the development text take together.
+    Needs allNeeds(std::span<const Unit> all) const {
+        Needs together;
+        for (const Unit& unit : all) {
+            if (unit.id.part != part_)
+                continue;
+            const Needs needs = needsOf(unit.source);
+            together.arguments.insert(needs.arguments.begin(), needs.arguments.end());
+            together.variables.insert(needs.variables.begin(), needs.variables.end());
+            together.number = needs.number;
+        }
+        if (isPlural_ && !together.number)
+            for (const auto& [position, kind] : together.arguments)
+                if (kind != Placeholder::Kind::text && !together.number)
+                    together.number = position;
+        return together;
+    }
+
+private:
+    const std::vector<std::string>& part_;
+    bool isPlural_;
+    const PluralFormat* plural_;
+};
+
+const char* nameOf(Placeholder::Kind kind) {
+    switch (kind) {
+    case Placeholder::Kind::text:
+        return "a text (%@)";
+    case Placeholder::Kind::integer:
+        return "a whole number (%ld)";
+    case Placeholder::Kind::number:
+        return "a floating number (%f)";
+    case Placeholder::Kind::percent:
+        break;
+    }
+    return "nothing";
+}
+
+// The first fault of what `given` takes, where `needed` is required and `allowed` is possible.
+std::optional<std::string> fault(const Needs& given, const Needs& needed, const Needs& allowed) {
+    for (const auto& [position, kind] : given.arguments) {
+        const auto known = allowed.arguments.find(position);
+        const bool isNumber = known == allowed.arguments.end() && position == allowed.number;
+        if (known == allowed.arguments.end() && !isNumber)
+            return "takes an argument " + std::to_string(position) + ", which the development text does not take";
+        if (known != allowed.arguments.end() && known->second != kind)
+            return "takes argument " + std::to_string(position) + " as " + nameOf(kind) + ", the development text as " +
+                   nameOf(known->second);
+    }
+    for (const auto& [position, kind] : needed.arguments)
+        if (position != allowed.number && !given.arguments.contains(position))
+            return "lacks argument " + std::to_string(position) + ", " + nameOf(kind);
+    for (const auto& [name, position] : needed.variables)
+        if (!given.variables.contains(name))
+            return "lacks the variable " + name;
+    for (const auto& [name, position] : given.variables) {
+        const auto known = allowed.variables.find(name);
+        if (known == allowed.variables.end())
+            return "has the variable " + name + ", which the development text does not have";
+        if (known->second != position)
+            return "takes argument " + std::to_string(position) + " for the variable " + name +
+                   ", the development text takes argument " + std::to_string(known->second);
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<std::string> placeholderFault(const std::string& translation, const Unit& expected,
+                                            std::span<const Unit> all, const SourceBundle::SourceEntry& development) {
+    const Comparison comparison(expected, development);
+    return fault(comparison.needsOf(translation), comparison.needsOf(expected.source), comparison.allNeeds(all));
+}
+
+} // namespace Exchange

@@ -1,0 +1,75 @@
+#include "Exchange/PoEntries.h"
+
+#include "Exchange/Languages.h"
+#include "Exchange/Po.h"
+#include <algorithm>
+
+namespace Exchange {
+
+namespace {
+
+bool isSamePart(const Unit& one, const Unit& other) {
+    return one.id.key == other.id.key && one.id.part == other.id.part && one.id.table == other.id.table;
+}
+
+// The number of the unit of the category among [begin, end), or `otherwise`.
+std::size_t numberOf(std::span<const Unit> units, std::size_t begin, std::size_t end, PluralCategory category,
+                     std::size_t otherwise) {
+    for (std::size_t i = begin; i < end; ++i)
+        if (units[i].id.category == category)
+            return i;
+    return otherwise;
+}
+
+bool isSplit(std::string_view one, std::string_view other) {
+    return one.starts_with('\n') != other.starts_with('\n') || one.ends_with('\n') != other.ends_with('\n');
+}
+
+// Whether gettext would refuse the entry: all of its texts begin and end with a line break, or none does.
+bool isRefused(std::span<const Unit> units, const PoEntry& entry) {
+    const std::string& source = units[entry.singular].source;
+    const bool isTranslated =
+        std::ranges::any_of(entry.units, [units](std::size_t number) { return !units[number].target.empty(); });
+    return isSplit(source, units[entry.plural].source) ||
+           (isTranslated && std::ranges::any_of(entry.units, [&](std::size_t number) {
+                return isSplit(source, units[number].target);
+            }));
+}
+
+} // namespace
+
+std::vector<PoEntry> poEntries(std::span<const Unit> units, std::string_view language) {
+    const std::vector<PluralCategory> categories = integerCategoriesOf(language);
+    std::vector<PoEntry> entries;
+    for (std::size_t begin = 0, end = 0; begin < units.size(); begin = end) {
+        while (end < units.size() && isSamePart(units[begin], units[end]))
+            ++end;
+        PoEntry plural{.isPlural = true};
+        std::vector<PoEntry> others;
+        for (std::size_t i = begin; i < end; ++i)
+            if (units[i].id.category && std::ranges::find(categories, *units[i].id.category) != categories.end())
+                plural.units.push_back(i);
+            else
+                others.push_back({.units = {i}, .singular = i, .plural = i});
+        if (!plural.units.empty()) {
+            plural.plural = numberOf(units, begin, end, PluralCategory::other, plural.units.back());
+            plural.singular = numberOf(units, begin, end, PluralCategory::one, plural.plural);
+            entries.push_back(std::move(plural));
+        }
+        entries.insert(entries.end(), others.begin(), others.end());
+    }
+    return entries;
+}
+
+void markFuzzy(std::span<Unit> units, std::string_view language) {
+    for (const PoEntry& entry : poEntries(units, language)) {
+        const bool isUnfinished = std::ranges::any_of(entry.units, [units](std::size_t number) {
+            return !units[number].target.empty() && units[number].state != State::translated;
+        });
+        const bool isFuzzy = isUnfinished || isRefused(units, entry);
+        for (const std::size_t number : entry.units)
+            units[number].isFuzzy = isFuzzy;
+    }
+}
+
+} // namespace Exchange

@@ -1,0 +1,153 @@
+#include "Exchange/Languages.h"
+#include "Exchange/PluralExpression.h"
+#include "Exchange/Po.h"
+#include "Exchange/PoSyntax.h"
+#include <algorithm>
+#include <charconv>
+
+namespace Exchange {
+
+using SourceBundle::Severity;
+
+namespace {
+
+std::string_view trimmed(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\r"), text.size()));
+    return text.substr(0, text.find_last_not_of(" \t\r") + 1);
+}
+
+// The value of a field of the header, or an empty text.
+std::string_view field(std::string_view header, std::string_view name) {
+    while (!header.empty()) {
+        const std::size_t size = std::min(header.find('\n'), header.size());
+        const std::string_view line = header.substr(0, size);
+        if (line.starts_with(name) && line.substr(name.size()).starts_with(':'))
+            return trimmed(line.substr(name.size() + 1));
+        header.remove_prefix(std::min(size + 1, header.size()));
+    }
+    return {};
+}
+
+bool isUtf8(std::string_view contentType) {
+    constexpr std::string_view charset = "charset=";
+    const std::size_t at = contentType.find(charset);
+    std::string name(at == contentType.npos ? "" : trimmed(contentType.substr(at + charset.size())));
+    std::ranges::transform(name, name.begin(),
+                           [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
+    return name == "UTF-8" || name == "UTF8" || name == "ASCII" || name == "US-ASCII";
+}
+
+struct PluralRule {
+    std::size_t count = 0;
+    std::string_view expression;
+};
+
+// "nplurals=2; plural=(n != 1);"
+std::optional<PluralRule> pluralRule(std::string_view forms) {
+    constexpr std::string_view nplurals = "nplurals=", plural = "plural=";
+    const std::size_t end = forms.find(';');
+    std::string_view count = trimmed(forms.substr(0, end));
+    if (end == forms.npos || !count.starts_with(nplurals))
+        return std::nullopt;
+    count = trimmed(count.substr(nplurals.size()));
+    std::string_view expression = trimmed(forms.substr(end + 1));
+    if (!expression.starts_with(plural))
+        return std::nullopt;
+    expression = expression.substr(plural.size());
+    expression = trimmed(expression.substr(0, expression.find(';')));
+    PluralRule rule{.expression = expression};
+    constexpr std::size_t most = 100;
+    const auto read = std::from_chars(count.data(), count.data() + count.size(), rule.count);
+    return read.ec == std::errc() && read.ptr == count.data() + count.size() && rule.count <= most ? std::optional(rule)
+                                                                                                   : std::nullopt;
+}
+
+class Reader {
+public:
+    Reader(Handout& handout, SourceBundle::Diagnostics& faults) : handout_(handout), faults_(faults) {}
+
+    Runtime::Result<void> readHeader(const PoText& entry) {
+        const std::string_view header = entry.targets.front();
+        if (!isUtf8(field(header, "Content-Type")))
+            return error(entry, "the file is not in UTF-8, as the field Content-Type of its header must say");
+        handout_.targetLanguage = field(header, "Language");
+        handout_.sourceLanguage = field(header, "X-Source-Language");
+        if (handout_.targetLanguage.empty())
+            return error(entry, "the header has no field Language");
+        if (const auto rule = pluralRule(field(header, "Plural-Forms")))
+            categories_ = categoriesOfForms(rule->expression, rule->count, handout_.targetLanguage);
+        return {};
+    }
+
+    void read(const PoText& entry) {
+        const auto id = entry.context ? unitIdOf(*entry.context) : std::nullopt;
+        if (!id)
+            return fault(entry, entry.context ? "\"" + *entry.context + "\" is not the id of a text"
+                                              : "the entry has no msgctxt, which would say where it belongs");
+        if (!entry.plural)
+            return add(entry, *id, entry.source, entry.targets.front());
+        if (!categories_)
+            return fault(entry,
+                         "the plural rule of the header (Plural-Forms) is not that of " + handout_.targetLanguage);
+        for (std::size_t i = 0; i < entry.targets.size(); ++i)
+            readForm(entry, *id, i);
+    }
+
+private:
+    Runtime::Error error(const PoText& entry, std::string message) const {
+        return {.message = std::move(message), .file = handout_.file, .line = entry.line};
+    }
+    void fault(const PoText& entry, std::string message) {
+        faults_.add(Severity::error, error(entry, std::move(message)));
+    }
+
+    void readForm(const PoText& entry, UnitId id, std::size_t form) {
+        if (form < categories_->size())
+            id.category = (*categories_)[form];
+        if (id.category)
+            return add(entry, id, id.category == PluralCategory::one ? entry.source : *entry.plural,
+                       entry.targets[form]);
+        if (!entry.targets[form].empty())
+            fault(entry, handout_.targetLanguage + " has no plural form " + std::to_string(form));
+    }
+
+    void add(const PoText& entry, const UnitId& id, const std::string& source, const std::string& target) {
+        Unit unit{.id = id, .source = source, .sourceCategory = id.category, .target = target};
+        if (entry.plural && id.category != PluralCategory::one)
+            unit.sourceCategory = PluralCategory::other;
+        unit.isFuzzy = entry.isFuzzy;
+        unit.line = entry.line;
+        handout_.units.push_back(std::move(unit));
+    }
+
+    Handout& handout_;
+    SourceBundle::Diagnostics& faults_;
+    std::optional<std::vector<std::optional<PluralCategory>>> categories_; // by form
+};
+
+bool isHeader(const PoText& entry) {
+    return entry.source.empty() && !entry.context && !entry.plural;
+}
+
+} // namespace
+
+Runtime::Result<Handout> readPo(const std::string& bytes, const std::string& file, SourceBundle::Diagnostics& faults) {
+    auto texts = readPoTexts(bytes);
+    if (!texts) {
+        texts.error().file = file;
+        return std::move(texts.error());
+    }
+    Handout handout{.file = file, .hasStates = false};
+    const auto header = std::ranges::find_if(*texts, isHeader);
+    if (header == texts->end())
+        return Runtime::Error{.message = "not a PO file: it has no header", .file = file};
+    Reader reader(handout, faults);
+    if (auto read = reader.readHeader(*header); !read)
+        return std::move(read.error());
+    for (const PoText& text : *texts)
+        if (!isHeader(text))
+            reader.read(text);
+    return handout;
+}
+
+} // namespace Exchange

@@ -1,0 +1,233 @@
+#include "Exchange/PoSyntax.h"
+
+#include "StringTables/internal/TextEscapes.h"
+#include "StringTables/internal/Unicode.h"
+#include <algorithm>
+#include <utility>
+
+namespace Exchange {
+
+namespace {
+
+class Reader {
+public:
+    explicit Reader(std::string_view bytes) : rest_(bytes) {
+        constexpr std::string_view mark = "\xEF\xBB\xBF";
+        if (rest_.starts_with(mark))
+            rest_.remove_prefix(mark.size());
+    }
+
+    Runtime::Result<std::vector<PoText>> read() {
+        while (!error_ && takeLine())
+            readLine();
+        if (!error_)
+            finish();
+        if (error_)
+            return *std::move(error_);
+        return std::move(texts_);
+    }
+
+private:
+    // The parts of an entry, in the order in which they come.
+    enum class Part { none, context, source, plural, target };
+
+    bool takeLine() {
+        if (rest_.empty())
+            return false;
+        const std::size_t size = std::min(rest_.find('\n'), rest_.size());
+        all_ = line_ = rest_.substr(0, size);
+        rest_.remove_prefix(std::min(size + 1, rest_.size()));
+        ++number_;
+        if (const std::size_t invalid = StringTables::internal::firstInvalidUtf8(line_); invalid != line_.npos) {
+            line_.remove_prefix(invalid);
+            fail("not UTF-8");
+        }
+        return true;
+    }
+
+    void fail(std::string message) {
+        const auto isFirst = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+        const std::string_view before = all_.substr(0, all_.size() - line_.size());
+        const auto column = static_cast<std::size_t>(std::ranges::count_if(before, isFirst)) + 1;
+        if (!error_)
+            error_ = {.message = std::move(message), .line = number_, .column = column};
+    }
+
+    void skipBlanks() { line_.remove_prefix(std::min(line_.find_first_not_of(" \t\r\f\v"), line_.size())); }
+
+    bool take(std::string_view word) {
+        if (!line_.starts_with(word))
+            return false;
+        line_.remove_prefix(word.size());
+        return true;
+    }
+
+    void readLine() {
+        skipBlanks();
+        if (error_ || line_.empty())
+            return;
+        if (line_[0] == '#')
+            return readComment();
+        if (line_[0] == '"')
+            return part_ == Part::none ? fail("a string that belongs to nothing") : readStrings();
+        readKeyword();
+    }
+
+    void readComment() {
+        if (!line_.starts_with("#~") && part_ == Part::target)
+            finish();
+        if (!take("#,"))
+            return;
+        while (!line_.empty()) {
+            const std::size_t size = std::min(line_.find(','), line_.size());
+            std::string_view flag = line_.substr(0, size);
+            flag.remove_prefix(std::min(flag.find_first_not_of(" \t\r"), flag.size()));
+            flag = flag.substr(0, flag.find_last_not_of(" \t\r") + 1);
+            current_.isFuzzy |= flag == "fuzzy";
+            line_.remove_prefix(std::min(size + 1, line_.size()));
+        }
+    }
+
+    void readKeyword() {
+        if (take("msgctxt"))
+            begin(Part::context);
+        else if (take("msgid_plural"))
+            begin(Part::plural);
+        else if (take("msgid"))
+            begin(Part::source);
+        else if (take("msgstr"))
+            begin(Part::target);
+        else
+            return fail("expected msgctxt, msgid, msgid_plural, msgstr or a comment");
+        if (error_)
+            return;
+        skipBlanks();
+        if (line_.empty() || line_[0] != '"')
+            return fail("expected a string");
+        if (part_ == Part::source)
+            current_.line = number_;
+        readStrings();
+    }
+
+    void begin(Part part) {
+        const bool isNew = part == Part::context || part == Part::source;
+        if (isNew && part_ == Part::target)
+            finish();
+        const bool isInOrder = part == Part::context  ? part_ == Part::none
+                               : part == Part::source ? part_ <= Part::context
+                               : part == Part::plural ? part_ == Part::source
+                                                      : part_ >= Part::source;
+        if (!isInOrder || (part_ == Part::target && !current_.plural))
+            return fail("not expected here");
+        part_ = part;
+        switch (part) {
+        case Part::context:
+            current_.context.emplace();
+            break;
+        case Part::plural:
+            current_.plural.emplace();
+            break;
+        case Part::target:
+            current_.targets.emplace_back();
+            if (current_.plural && !take("[" + std::to_string(current_.targets.size() - 1) + "]"))
+                fail("expected the form " + std::to_string(current_.targets.size() - 1) + " of msgstr");
+            break;
+        case Part::source:
+        case Part::none:
+            break;
+        }
+    }
+
+    std::string& text() {
+        switch (part_) {
+        case Part::context:
+            return *current_.context;
+        case Part::plural:
+            return *current_.plural;
+        case Part::target:
+            return current_.targets.back();
+        case Part::source:
+        case Part::none:
+            break;
+        }
+        return current_.source;
+    }
+
+    // Strings beside each other are one.
+    void readStrings() {
+        for (skipBlanks(); !error_ && !line_.empty(); skipBlanks()) {
+            if (!take("\""))
+                return fail("expected a string or the end of the line");
+            readString();
+        }
+    }
+
+    void readString() {
+        std::string& out = text();
+        for (;;) {
+            const std::size_t size = std::min(line_.find_first_of("\"\\"), line_.size());
+            out += line_.substr(0, size);
+            line_.remove_prefix(size);
+            if (line_.empty())
+                return fail("the string is not closed in its line");
+            if (take("\""))
+                return;
+            if (!readEscape(out))
+                return fail("bad escape");
+        }
+    }
+
+    bool readEscape(std::string& out) {
+        constexpr std::string_view letters = "\"\\ntrabfv", characters = "\"\\\n\t\r\a\b\f\v";
+        line_.remove_prefix(1);
+        if (line_.empty())
+            return false;
+        if (const std::size_t letter = letters.find(line_[0]); letter != letters.npos) {
+            out += characters[letter];
+            line_.remove_prefix(1);
+            return true;
+        }
+        return take("x") ? readDigits(out, 16, 2) : readDigits(out, 8, 3);
+    }
+
+    bool readDigits(std::string& out, int base, std::size_t most) {
+        int value = 0;
+        std::size_t count = 0;
+        for (; count < most && !line_.empty(); ++count) {
+            const int digit = StringTables::internal::hexDigit(line_[0]);
+            if (digit < 0 || digit >= base)
+                break;
+            value = value * base + digit;
+            line_.remove_prefix(1);
+        }
+        constexpr int firstBeyondAscii = 0x80; // a byte of a character, which nobody writes so
+        out += static_cast<char>(value);
+        return count != 0 && value < firstBeyondAscii;
+    }
+
+    // Keeps the entry that ends.
+    void finish() {
+        if (part_ == Part::target)
+            texts_.push_back(std::move(current_));
+        else if (part_ != Part::none)
+            return fail("the entry has no msgstr");
+        current_ = {};
+        part_ = Part::none;
+    }
+
+    std::string_view rest_;
+    std::string_view all_, line_; // the line, and what is left of it
+    std::size_t number_ = 0;      // of the line
+    PoText current_;
+    Part part_ = Part::none;
+    std::vector<PoText> texts_;
+    std::optional<Runtime::Error> error_;
+};
+
+} // namespace
+
+Runtime::Result<std::vector<PoText>> readPoTexts(std::string_view bytes) {
+    return Reader(bytes).read();
+}
+
+} // namespace Exchange

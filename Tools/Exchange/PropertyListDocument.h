@@ -1,0 +1,58 @@
+// Exchange/PropertyListDocument.h
+// A table as an XML property list, of texts or of plurals, edited in place; internal.
+#pragma once
+
+#include "Exchange/DecodedText.h"
+#include "Exchange/TableDocument.h"
+#include "Exchange/TextEdits.h"
+#include "Exchange/Xml.h"
+#include "StringTables/internal/PluralTable.h"
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace Exchange {
+
+class PropertyListDocument final : public TableDocument {
+public:
+    [[nodiscard]] static Runtime::Result<PropertyListDocument> read(const std::string& bytes);
+    PropertyListDocument(PropertyListDocument&&) = default;
+
+    Runtime::Result<void> apply(const Change& change) override;
+    Runtime::Result<std::string> bytes() const override;
+
+private:
+    // A key and its value.
+    struct Pair {
+        const XmlNode* key;
+        const XmlNode* value;
+    };
+    static std::vector<Pair> pairsOf(const XmlNode& dictionary);
+    // The value of the last `key`, or null.
+    static const XmlNode* find(const std::vector<Pair>& pairs, std::string_view key);
+
+    PropertyListDocument(DecodedText file, XmlDocument xml, const XmlNode& root);
+    void add(const Change& change, const std::string& value);
+    Runtime::Result<void> editPlural(const XmlNode& entry, const Change& change);
+    void editForm(const XmlNode& variable, const Unit& unit);
+    void setText(const XmlNode& string, std::string_view text);
+
+    // New pieces; `line` is the line break and the indentation that come before each of their lines.
+    std::string plural(const StringTables::PluralFormat& plural) const;
+    std::string variable(const StringTables::PluralVariable& variable, const std::string& line) const;
+    std::string pair(std::string_view key, std::string_view text, const std::string& line) const;
+    std::string element(std::string_view name, std::string_view text) const;
+    std::string blanksBefore(const XmlNode& node) const;
+
+    DecodedText file_;
+    XmlDocument xml_;
+    const XmlNode& root_;                                    // the outermost dictionary
+    std::unordered_map<std::string, const XmlNode*> values_; // of its keys
+    std::string line_;                                       // before its keys
+    std::string indent_;                                     // of one level
+    TextEdits edits_;
+    std::string added_; // to the outermost dictionary
+};
+
+} // namespace Exchange

@@ -1,0 +1,62 @@
+#include "Exchange/TableDocument.h"
+
+#include "Exchange/BinaryDocument.h"
+#include "Exchange/CatalogDocument.h"
+#include "Exchange/PropertyListDocument.h"
+#include "Exchange/StringsDocument.h"
+#include "Runtime/internal/File.h"
+#include <utility>
+
+namespace Exchange {
+
+namespace {
+
+using Kind = SourceBundle::TableFile::Kind;
+using Read = Runtime::Result<std::unique_ptr<TableDocument>>;
+
+template <class Document> Read given(Runtime::Result<Document> document) {
+    if (!document)
+        return std::move(document.error());
+    return std::unique_ptr<TableDocument>(std::make_unique<Document>(*std::move(document)));
+}
+
+Read readBytes(Kind kind, std::string bytes) {
+    if (kind == Kind::catalog)
+        return given(CatalogDocument::read(std::move(bytes)));
+    const bool isBinary = bytes.starts_with("bplist0");
+    if (isBinary && kind == Kind::texts)
+        return given(BinaryTexts::read(std::move(bytes)));
+    if (isBinary)
+        return given(BinaryPlurals::read(std::move(bytes)));
+    auto decoded = DecodedText::of(bytes);
+    if (!decoded)
+        return std::move(decoded.error());
+    const std::size_t first = decoded->text.find_first_not_of("\xEF\xBB\xBF \t\r\n");
+    if (first != std::string::npos && decoded->text[first] == '<')
+        return given(PropertyListDocument::read(bytes));
+    if (kind == Kind::texts)
+        return given(StringsDocument::read(*std::move(decoded)));
+    return TableDocument::make(kind); // a file of plurals without content
+}
+
+} // namespace
+
+Read TableDocument::read(const SourceBundle::TableFile& file) {
+    auto bytes = Runtime::readFile(file.path, maxBytes);
+    if (!bytes)
+        return std::move(bytes.error());
+    auto document = readBytes(file.kind, *std::move(bytes));
+    if (!document)
+        document.error().file = file.path;
+    return document;
+}
+
+std::unique_ptr<TableDocument> TableDocument::make(Kind kind) {
+    constexpr const char* emptyList = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                                      "<plist version=\"1.0\">\n<dict>\n</dict>\n</plist>\n";
+    auto document =
+        kind == Kind::plurals ? given(PropertyListDocument::read(emptyList)) : given(StringsDocument::read({}));
+    return *std::move(document);
+}
+
+} // namespace Exchange

@@ -1,0 +1,38 @@
+// Exchange/Targets.h
+// The files that translations go to; internal.
+#pragma once
+
+#include "Exchange/KeyUnits.h"
+#include "Exchange/TableDocument.h"
+#include <filesystem>
+#include <map>
+#include <memory>
+
+namespace Exchange {
+
+class Targets {
+public:
+    // `texts` has the string catalogs, which are changed there.
+    Targets(const SourceBundle::Source& source, StoredTexts& texts) : source_(source), texts_(texts) {}
+
+    // Changes the key in its file, in memory: in the one that has its translation, else in the table's file of the
+    // language, else in a new one beside the development texts.
+    [[nodiscard]] Runtime::Result<void> apply(const Key& key, const Change& change);
+    // Writes what was changed, all files or none; returns how many.
+    [[nodiscard]] Runtime::Result<std::size_t> write();
+
+private:
+    struct Target {
+        std::unique_ptr<TableDocument> own; // null for a string catalog
+        TableDocument* document = nullptr;
+        bool isChanged = false;
+    };
+    std::filesystem::path newFile(const Key& key) const;
+    Runtime::Result<Target*> targetOf(const Key& key);
+
+    const SourceBundle::Source& source_;
+    StoredTexts& texts_;
+    std::map<std::filesystem::path, Target> targets_;
+};
+
+} // namespace Exchange

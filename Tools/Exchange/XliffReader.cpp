@@ -1,0 +1,147 @@
+#include "Exchange/Xliff.h"
+
+#include "Exchange/Xml.h"
+#include "StringTables/internal/Unicode.h"
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <utility>
+
+namespace Exchange {
+
+using SourceBundle::Severity;
+
+namespace {
+
+// States of XLIFF that say more than "translated".
+State stateNamed(std::string_view name) {
+    if (name == "new" || name == "needs-translation")
+        return State::isNew;
+    return name.starts_with("needs-") ? State::needsReview : State::translated;
+}
+
+bool isOneOf(std::string_view name, std::initializer_list<std::string_view> names) {
+    return std::ranges::find(names, name) != names.end();
+}
+
+// The character of <ph ctype="x-character" equiv-text="1F"/>.
+std::optional<std::string> character(const XmlNode& node) {
+    constexpr int hexadecimal = 16;
+    constexpr std::uint32_t end = 0xD800; // none of those that XML cannot hold is beyond but U+FFFE and U+FFFF
+    const std::string* const type = node.attribute("ctype");
+    const std::string* const digits = node.attribute("equiv-text");
+    if (node.name != "ph" || type == nullptr || *type != "x-character" || digits == nullptr)
+        return std::nullopt;
+    std::uint32_t code = 0;
+    const char* const last = digits->data() + digits->size();
+    const auto read = std::from_chars(digits->data(), last, code, hexadecimal);
+    if (read.ec != std::errc() || read.ptr != last || (code >= end && code != 0xFFFE && code != 0xFFFF))
+        return std::nullopt;
+    std::array<char, 4> utf8;
+    return std::string(utf8.data(), StringTables::internal::putUtf8(utf8.data(), char32_t{code}));
+}
+
+class Reader {
+public:
+    Reader(XmlDocument& document, const std::string& file, SourceBundle::Diagnostics& faults)
+        : document_(document), file_(file), faults_(faults) {}
+
+    Runtime::Result<std::vector<Handout>> read() {
+        const XmlNode& root = document_.root();
+        const std::string* const version = root.attribute("version");
+        if (root.name != "xliff" || version == nullptr || !version->starts_with("1."))
+            return error(root, "not XLIFF 1.2");
+        for (const XmlNode& child : root.children)
+            if (child.name == "file")
+                readFile(child);
+        if (error_)
+            return *std::move(error_);
+        return std::move(handouts_);
+    }
+
+private:
+    Runtime::Error error(const XmlNode& node, std::string message) {
+        return {.message = std::move(message), .file = file_, .line = document_.lineOf(node.begin)};
+    }
+    void fail(const XmlNode& node, std::string message) {
+        if (!error_)
+            error_ = error(node, std::move(message));
+    }
+
+    void readFile(const XmlNode& file) {
+        const std::string* const source = file.attribute("source-language");
+        const std::string* const target = file.attribute("target-language");
+        if (source == nullptr || target == nullptr)
+            return fail(file, "<file> has no source-language or no target-language");
+        const auto isSame = [&](const Handout& handout) {
+            return handout.sourceLanguage == *source && handout.targetLanguage == *target;
+        };
+        auto found = std::ranges::find_if(handouts_, isSame);
+        if (found == handouts_.end())
+            found = handouts_.insert(found, {.sourceLanguage = *source, .targetLanguage = *target, .file = file_});
+        readUnits(file, *found);
+    }
+
+    void readUnits(const XmlNode& node, Handout& handout) {
+        for (const XmlNode& child : node.children)
+            if (child.name == "trans-unit")
+                readUnit(child, handout);
+            else if (child.name == "body" || child.name == "group")
+                readUnits(child, handout);
+    }
+
+    void readUnit(const XmlNode& node, Handout& handout) {
+        const std::string* const text = node.attribute("id");
+        const auto id = text == nullptr ? std::nullopt : unitIdOf(*text);
+        const XmlNode* const source = node.child("source");
+        const XmlNode* const target = node.child("target");
+        if (!id || source == nullptr)
+            return faults_.add(Severity::error,
+                               error(node, !id ? "\"" + (text == nullptr ? "" : *text) + "\" is not the id of a text"
+                                               : "the unit has no <source>"));
+        Unit unit{.id = *id,
+                  .sourceCategory = id->category,
+                  .state = State::translated,
+                  .line = document_.lineOf(node.begin)};
+        appendText(unit.source, *source);
+        if (target != nullptr) {
+            appendText(unit.target, *target);
+            if (const std::string* const state = target->attribute("state"))
+                unit.state = stateNamed(*state);
+        }
+        handout.units.push_back(std::move(unit));
+    }
+
+    // Marks of segments and other elements that only enclose text are seen through.
+    void appendText(std::string& out, const XmlNode& node) {
+        for (const XmlNode& child : node.children)
+            if (!child.isElement())
+                out += child.text;
+            else if (isOneOf(child.name, {"g", "mrk"}))
+                appendText(out, child);
+            else if (const auto one = character(child))
+                out += *one;
+            else
+                fail(child, "the inline element <" + child.name + "> is not known here");
+    }
+
+    XmlDocument& document_;
+    const std::string& file_;
+    SourceBundle::Diagnostics& faults_;
+    std::vector<Handout> handouts_;
+    std::optional<Runtime::Error> error_;
+};
+
+} // namespace
+
+Runtime::Result<std::vector<Handout>> readXliff(std::string bytes, const std::string& file,
+                                                SourceBundle::Diagnostics& faults) {
+    auto document = XmlDocument::read(std::move(bytes));
+    if (!document) {
+        document.error().file = file;
+        return std::move(document.error());
+    }
+    return Reader(*document, file, faults).read();
+}
+
+} // namespace Exchange

@@ -1,0 +1,70 @@
+// Exchange/Xml.h
+// An XML document as a tree whose elements know their places, for reading and for editing in place.
+// Text: UTF-8. Threads: plain values.
+#pragma once
+
+#include "Runtime/internal/Result.h"
+#include "StringTables/internal/Table.h"
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Exchange {
+
+// An element, or a text between elements, whose name is empty.
+struct XmlNode {
+    std::string name; // without a namespace's prefix
+    std::vector<std::pair<std::string, std::string>> attributes;
+    std::vector<XmlNode> children;
+    std::string text; // of a text
+
+    // Bytes of the document: the element with its tags, and what is between them.
+    std::size_t begin = 0, contentBegin = 0, contentEnd = 0, end = 0;
+
+    bool isElement() const noexcept { return !name.empty(); }
+    // The value of the attribute `wanted`, or null.
+    [[nodiscard]] const std::string* attribute(std::string_view wanted) const;
+    // The first child of that name, or null.
+    [[nodiscard]] const XmlNode* child(std::string_view wanted) const;
+    // The texts within it, one behind the other.
+    [[nodiscard]] std::string allText() const;
+};
+
+class XmlDocument {
+public:
+    // Reads a document in UTF-8, in UTF-16 or in the encoding that it declares; UTF-16 is made UTF-8, and places refer
+    // to that. Errors: not well-formed, an entity declaration, nested deeper than maxDepth, larger than
+    // Table::maxBytes.
+    [[nodiscard]] static Runtime::Result<XmlDocument> read(std::string bytes);
+    static constexpr std::size_t maxDepth = 128;
+
+    XmlDocument(XmlDocument&&) noexcept;
+    XmlDocument& operator=(XmlDocument&&) noexcept;
+    ~XmlDocument();
+
+    [[nodiscard]] const XmlNode& root() const noexcept { return root_; }
+    // The line of a place, counted from 1; places are asked for in rising order.
+    [[nodiscard]] std::size_t lineOf(std::size_t offset);
+    // Whether bytes beyond ASCII are not UTF-8: the document declares another encoding.
+    [[nodiscard]] bool hasOtherEncoding() const noexcept { return hasOtherEncoding_; }
+
+private:
+    struct Reader;
+    struct Source;
+    XmlDocument();
+
+    std::unique_ptr<Source> source_;
+    XmlNode root_;
+    bool hasOtherEncoding_ = false;
+};
+
+// Whether XML has a way to write the text.
+[[nodiscard]] bool xmlHolds(std::string_view text) noexcept;
+// `text` as content of an element or value of an attribute. `inAscii` writes every other character by its number.
+[[nodiscard]] std::string xmlText(std::string_view text, bool inAscii = false);
+[[nodiscard]] std::string xmlAttribute(std::string_view text);
+
+} // namespace Exchange

@@ -1,0 +1,75 @@
+// lumora export: the texts of a source for translators, as XLIFF or PO.
+#include "Program/Command.h"
+
+#include "Exchange/Export.h"
+#include "Exchange/Languages.h"
+#include "Exchange/Po.h"
+#include "Exchange/Xliff.h"
+#include "Program/SourceArguments.h"
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <memory>
+
+namespace Tools {
+
+namespace {
+
+struct ExportOptions {
+    SourceArguments source;
+    std::string language;
+    std::string format; // empty: by the file's name
+    std::string output;
+    bool onlyMissing = false;
+};
+
+bool isPo(const ExportOptions& options) {
+    return options.format == "po" || (options.format.empty() && options.output.ends_with(".po"));
+}
+
+std::string counted(const Exchange::Handout& handout) {
+    const auto isDone = [](const Exchange::Unit& unit) { return !unit.target.empty(); };
+    const auto done = static_cast<std::size_t>(std::ranges::count_if(handout.units, isDone));
+    return std::to_string(handout.units.size()) + " texts, " + std::to_string(handout.units.size() - done) +
+           " without a translation to " + handout.targetLanguage;
+}
+
+Exit runExport(const ExportOptions& options) {
+    SourceBundle::Diagnostics diagnostics;
+    const SourceBundle::Source source = options.source.read(diagnostics);
+    if (diagnostics.hasErrors())
+        return report(diagnostics);
+    const auto language = Exchange::targetLanguage(source, options.language);
+    if (!language)
+        return fail({.message = "--language: \"" + options.language +
+                                "\" is not a language that the source is translated to; its own is " +
+                                source.developmentLanguage});
+    const Exchange::Handout handout =
+        Exchange::handoutOf(source, options.source.paths(), *language, options.onlyMissing, diagnostics);
+    const std::string text =
+        isPo(options) ? Exchange::writePo(handout, diagnostics) : Exchange::writeXliff(handout, LUMORA_VERSION);
+    const Exit reported = report(diagnostics);
+    if (reported != Exit::done)
+        return reported;
+    const Exit written = write(options.output, text);
+    if (written == Exit::done)
+        note(counted(handout));
+    return written;
+}
+
+} // namespace
+
+void addExportCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<ExportOptions>();
+    CLI::App* command = program.add_subcommand("export", "Write the texts of a source for translators.");
+    options->source.addTo(*command)->required();
+    command->add_option("--language", options->language, "The language that is translated to: de, pt-BR")->required();
+    command->add_flag("--missing", options->onlyMissing, "Only texts that have no translation yet");
+    command->add_option("--format", options->format, "xliff or po (default: by the name of the file, else xliff)")
+        ->check(CLI::IsMember({"xliff", "po"}));
+    command->add_option("-o,--output", options->output, "The file to write; - is standard output")
+        ->required()
+        ->check(named());
+    command->callback([options, &exit] { exit = runExport(*options); });
+}
+
+} // namespace Tools

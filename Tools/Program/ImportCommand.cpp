@@ -1,0 +1,71 @@
+// lumora import: translated files brought back into the tables.
+#include "Program/Command.h"
+
+#include "Exchange/Import.h"
+#include "Program/SourceArguments.h"
+#include <CLI/CLI.hpp>
+#include <iterator>
+#include <memory>
+
+namespace Tools {
+
+namespace {
+
+using SourceBundle::Severity;
+
+struct ImportOptions {
+    std::vector<std::string> files;
+    SourceArguments source;
+    Exchange::ImportOptions import;
+};
+
+// Unreadable input is wrong use, whatever else was found.
+Exit failWith(SourceBundle::Diagnostics& diagnostics, Runtime::Error error) {
+    diagnostics.add(Severity::error, std::move(error));
+    return report(diagnostics);
+}
+
+std::string counted(std::size_t count, const char* word) {
+    return std::to_string(count) + ' ' + word + (count == 1 ? "" : "s");
+}
+
+Exit runImport(const ImportOptions& options) {
+    SourceBundle::Diagnostics diagnostics;
+    const SourceBundle::Source source = options.source.read(diagnostics);
+    if (diagnostics.hasErrors())
+        return report(diagnostics);
+    std::vector<Exchange::Handout> handouts;
+    for (const std::string& file : options.files) {
+        auto read = Exchange::readHandouts(file, diagnostics);
+        if (!read)
+            return failWith(diagnostics, std::move(read.error()));
+        std::move(read->begin(), read->end(), std::back_inserter(handouts));
+    }
+    auto imported = Exchange::importHandouts(source, handouts, options.import, diagnostics);
+    if (!imported)
+        return failWith(diagnostics, std::move(imported.error()));
+    const bool hasFaults = diagnostics.hasErrors();
+    report(diagnostics);
+    if (hasFaults && !options.import.keepGoing)
+        note("nothing was changed; --keep-going imports what fits");
+    else
+        note(counted(imported->texts, "text") + " changed in " + counted(imported->files, "file"));
+    return hasFaults ? Exit::faultsFound : Exit::done;
+}
+
+} // namespace
+
+void addImportCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<ImportOptions>();
+    CLI::App* command =
+        program.add_subcommand("import", "Bring translated files (XLIFF, PO) back into the tables of a source.");
+    command->add_option("FILE", options->files, "What lumora export wrote and translators changed")
+        ->required()
+        ->check(named());
+    options->source.addTo(*command, "--into")->required();
+    command->add_flag("--keep-going", options->import.keepGoing,
+                      "Import what fits although something does not; the exit status is still 1");
+    command->callback([options, &exit] { exit = runImport(*options); });
+}
+
+} // namespace Tools
