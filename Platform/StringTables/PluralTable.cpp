@@ -1,6 +1,7 @@
 #include "StringTables/internal/PluralTable.h"
 
 #include "Runtime/internal/File.h"
+#include "StringTables/internal/Comments.h"
 #include "StringTables/internal/PluralKeys.h"
 #include "StringTables/internal/PropertyListSink.h"
 #include <algorithm>
@@ -162,30 +163,46 @@ Runtime::Result<void> fill(Contents& contents, internal::PropertyListSink& sink)
     return contents.errorAt(first, "a plural table is a property list, XML or binary");
 }
 
-// Sets the entries' places, given where their keys are.
-void locate(const Contents& contents, std::span<const std::size_t> places, std::span<PluralEntry> entries) {
-    std::vector<std::size_t> order(entries.size());
+// The numbers of the entries in the order of their places.
+std::vector<std::size_t> inOrder(std::span<const std::size_t> places) {
+    std::vector<std::size_t> order(places.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::ranges::sort(order, {}, [&](std::size_t number) { return places[number]; });
+    return order;
+}
+
+// Sets the entries' places, given where their keys are.
+void locate(const Contents& contents, std::span<const std::size_t> places, std::span<PluralEntry> entries) {
+    const std::vector<std::size_t> order = inOrder(places);
     internal::Locator locator(contents);
     for (const std::size_t number : order)
         entries[number].location = locator.locate(places[number]);
 }
 
+void readComments(const Contents& contents, std::span<const std::size_t> places, std::span<PluralEntry> entries) {
+    const std::vector<std::size_t> order = inOrder(places);
+    std::vector<std::size_t> offsets;
+    for (const std::size_t number : order)
+        offsets.push_back(places[number]);
+    std::vector<std::string> comments = internal::commentsOf(offsets, contents);
+    for (std::size_t i = 0; i < order.size(); ++i)
+        entries[order[i]].comment = std::move(comments[i]);
+}
+
 } // namespace
 
 Runtime::Result<PluralTable> PluralTable::read(std::string bytes) {
-    return read(std::move(bytes), {});
+    return read(std::move(bytes), {}, Comments::areSkipped);
 }
 
-Runtime::Result<PluralTable> PluralTable::readFile(const std::string& path) {
+Runtime::Result<PluralTable> PluralTable::readFile(const std::string& path, Comments comments) {
     auto bytes = Runtime::readFile(path, Table::maxBytes);
     if (!bytes)
         return std::move(bytes.error());
-    return read(*std::move(bytes), path);
+    return read(*std::move(bytes), path, comments);
 }
 
-Runtime::Result<PluralTable> PluralTable::read(std::string bytes, const std::string& file) {
+Runtime::Result<PluralTable> PluralTable::read(std::string bytes, const std::string& file, Comments comments) {
     if (bytes.size() > Table::maxBytes)
         return Runtime::Error{"the table is larger than " + std::to_string(Table::maxBytes) + " bytes", file};
     Contents contents(std::move(bytes));
@@ -201,6 +218,8 @@ Runtime::Result<PluralTable> PluralTable::read(std::string bytes, const std::str
     for (Runtime::Error& note : table.notes_)
         note.file = file;
     locate(contents, sink.places(), table.entries_);
+    if (comments == Comments::areRead)
+        readComments(contents, sink.places(), table.entries_);
     table.byKey_.resize(table.entries_.size());
     std::iota(table.byKey_.begin(), table.byKey_.end(), std::size_t{0});
     std::ranges::sort(table.byKey_, {},

@@ -39,10 +39,13 @@ std::string idText(const std::string& key, Strings part, std::optional<PluralCat
 
 TEST(UnitIds, AreReadBack) {
     EXPECT_EQ(idText("cart.title", {}, {}), "T/cart.title");
-    EXPECT_EQ(idText("a/b [c]", {"variables", "d.e"}, PluralCategory::one), "T[variables.d\\u{2e}e.plural.one]/a/b [c]");
+    EXPECT_EQ(idText("a/b [c]", {"variables", "d.e"}, PluralCategory::one),
+              "T[variables.d\\u{2e}e.plural.one]/a/b [c]");
     for (const std::string& key : nasty)
-        for (const Exchange::UnitId& id : {Exchange::UnitId{key, key, {}, {}}, {key, key, {"device", key}, {}},
-                                           {key, key, {"substitutions", key}, PluralCategory::few}, {"", "", {}, {}}}) {
+        for (const Exchange::UnitId& id : {Exchange::UnitId{key, key, {}, {}},
+                                           {key, key, {"device", key}, {}},
+                                           {key, key, {"substitutions", key}, PluralCategory::few},
+                                           {"", "", {}, {}}}) {
             const std::string text = Exchange::textOf(id);
             EXPECT_EQ(Exchange::unitIdOf(text), std::optional(id)) << text;
             EXPECT_TRUE(std::ranges::none_of(text, [](char c) { return c >= 0 && c < ' '; })) << text;
@@ -102,14 +105,16 @@ TEST(ExchangeFiles, HoldEveryText) {
 
 TEST(ExchangeFiles, AreRefusedWithThePlaceOfTheFault) {
     const std::string head = "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\nLanguage: de\\n\"\n";
-    const std::string xml = "<xliff version='1.2'><file source-language='en' target-language='de'><body><trans-unit id='T/a'>";
+    const std::string xml =
+        "<xliff version='1.2'><file source-language='en' target-language='de'><body><trans-unit id='T/a'>";
     const struct {
         int line;
         std::string bytes, error;
     } cases[] = {
         {__LINE__, "", "f: not a PO file: it has no header"},
         {__LINE__, "msgid \"\"\nmsgstr \"Language: de\\n\"", "f:1: the file is not in UTF-8"},
-        {__LINE__, "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"", "f:1: the header has no field Language"},
+        {__LINE__, "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"",
+         "f:1: the header has no field Language"},
         {__LINE__, head + "msgid \"a\nmsgstr \"\"", "f:3:9: the string is not closed"},
         {__LINE__, head + "msgid \"a\\q\"\nmsgstr \"\"", "f:3:10: bad escape"},
         {__LINE__, head + "msgid \"a\"\n\nmsgid \"b\"", "f:5:6: not expected here"},
@@ -120,7 +125,8 @@ TEST(ExchangeFiles, AreRefusedWithThePlaceOfTheFault) {
         {__LINE__, "<a/>", "f:1: not XLIFF 1.2"},
         {__LINE__, "<xliff version='2.0'/>", "f:1: not XLIFF 1.2"},
         {__LINE__, "<xliff version='1.2'>\n<file/></xliff>", "f:2: <file> has no source-language"},
-        {__LINE__, xml + "<source>\n<x id='1'/></source></trans-unit></body></file></xliff>", "f:2: the inline element <x>"},
+        {__LINE__, xml + "<source>\n<x id='1'/></source></trans-unit></body></file></xliff>",
+         "f:2: the inline element <x>"},
         {__LINE__, xml, "no element found"},
         {__LINE__, "<!DOCTYPE x [<!ENTITY e 'f'>]><xliff version='1.2'>&e;</xliff>", "an entity declaration"},
     };
@@ -134,11 +140,13 @@ TEST(ExchangeFiles, AreRefusedWithThePlaceOfTheFault) {
 }
 
 TEST(PluralExpressions, AreThoseOfTheLanguages) {
-    for (const char* language : {"ar", "be", "br", "cs", "cy", "da", "de", "en", "es", "fr", "ga", "he", "hi", "is", "ja", "ksh",
-                                 "kw", "lt", "lv", "mk", "mt", "pl", "pt", "pt-PT", "ro", "ru", "shi", "sl", "xx", "zh-Hans"}) {
+    for (const char* language :
+         {"ar",  "be", "br", "cs", "cy", "da", "de", "en", "es",    "fr", "ga", "he",  "hi", "is", "ja",
+          "ksh", "kw", "lt", "lv", "mk", "mt", "pl", "pt", "pt-PT", "ro", "ru", "shi", "sl", "xx", "zh-Hans"}) {
         const auto categories = Exchange::integerCategoriesOf(language);
         const auto expression = Intl::integerPluralExpression(language);
-        for (const std::uint64_t n : std::vector<std::uint64_t>{0, 1, 2, 3, 5, 11, 12, 21, 22, 71, 100, 101, 102, 1000, 40000, 100000, 1000000, 1000001}) {
+        for (const std::uint64_t n : std::vector<std::uint64_t>{0, 1, 2, 3, 5, 11, 12, 21, 22, 71, 100, 101, 102, 1000,
+                                                                40000, 100000, 1000000, 1000001}) {
             const auto form = Exchange::evaluated(expression, n);
             ASSERT_TRUE(form && *form < categories.size()) << language << expression;
             EXPECT_EQ(categories[*form], Intl::pluralCategory(language, {.i = n})) << language << " " << n;
@@ -161,10 +169,12 @@ const std::string plist = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist ve
 const std::string rule = "<key>NSStringFormatSpecTypeKey</key> <string>NSStringPluralRuleType</string>\n"
                          "<key>NSStringFormatValueTypeKey</key> <string>ld</string>\n";
 std::string filesEntry(const std::string& format, const std::string& forms) {
-    return plist + "<dict>\n  <key>files</key>\n  <dict>\n    <key>NSStringLocalizedFormatKey</key>\n    <string>" + format +
-           "</string>\n    <key>n</key>\n    <dict>\n" + rule + forms + "\n    </dict>\n  </dict>\n</dict>\n</plist>\n";
+    return plist + "<dict>\n  <key>files</key>\n  <dict>\n    <key>NSStringLocalizedFormatKey</key>\n    <string>" +
+           format + "</string>\n    <key>n</key>\n    <dict>\n" + rule + forms +
+           "\n    </dict>\n  </dict>\n</dict>\n</plist>\n";
 }
-const std::string oneAndOther = "      <key>one</key> <string>%ld file</string>\n      <key>other</key> <string>%ld files</string>";
+const std::string oneAndOther =
+    "      <key>one</key> <string>%ld file</string>\n      <key>other</key> <string>%ld files</string>";
 
 std::string wide(const std::string& ascii) {
     std::string out = "\xFF\xFE";
@@ -200,15 +210,18 @@ ImportResult import(Support::SourceFolder& folder, const std::vector<Edit>& edit
         unit->target = edit.target;
         unit->state = edit.state;
     }
-    const auto imported = Exchange::importHandouts(source, std::span(&handout, 1), {.keepGoing = keepGoing}, folder.diagnostics);
+    const auto imported =
+        Exchange::importHandouts(source, std::span(&handout, 1), {.keepGoing = keepGoing}, folder.diagnostics);
     if (!imported)
         return {.messages = {imported.error().text()}};
     return {imported->texts, imported->files, folder.takeMessages()};
 }
 
 TEST(Imports, ChangeNothingButTexts) {
-    const std::string odd = "// top\n\"a\" = \"x\"; /* a's */ 'b'=y;\"c\";\n\n/* d */ \"d\" /* d2 */ =\n\t\"\\U0041 \\\"\" ;";
-    const std::string english = "/* Says a. */\na = \"A\"; b = \"B\"; c = \"C\"; d = \"D\"; /* New. */ e = \"E\"; f = \"F %@\";";
+    const std::string odd =
+        "// top\n\"a\" = \"x\"; /* a's */ 'b'=y;\"c\";\n\n/* d */ \"d\" /* d2 */ =\n\t\"\\U0041 \\\"\" ;";
+    const std::string english =
+        "/* Says a. */\na = \"A\"; b = \"B\"; c = \"C\"; d = \"D\"; /* New. */ e = \"E\"; f = \"F %@\";";
     const struct {
         int line;
         std::string file, before;
@@ -216,52 +229,104 @@ TEST(Imports, ChangeNothingButTexts) {
         std::string after;
     } cases[] = {
         // Quoted texts: the literal alone is replaced, whatever is around it.
-        {__LINE__, "T.strings", odd, {{"T/a", "q\" \\ \n\r\x01 \u2028"}},
-         "// top\n\"a\" = \"q\\\" \\\\ \\n\\r\\U0001 \u2028\"; /* a's */ 'b'=y;\"c\";\n\n/* d */ \"d\" /* d2 */ =\n\t\"\\U0041 \\\"\" ;"},
-        {__LINE__, "T.strings", odd, {{"T/b", "Y"}, {"T/c", "z"}, {"T/d", ""}},
+        {__LINE__,
+         "T.strings",
+         odd,
+         {{"T/a", "q\" \\ \n\r\x01 \u2028"}},
+         "// top\n\"a\" = \"q\\\" \\\\ \\n\\r\\U0001 \u2028\"; /* a's */ 'b'=y;\"c\";\n\n/* d */ \"d\" /* d2 */ "
+         "=\n\t\"\\U0041 \\\"\" ;"},
+        {__LINE__,
+         "T.strings",
+         odd,
+         {{"T/b", "Y"}, {"T/c", "z"}, {"T/d", ""}},
          "// top\n\"a\" = \"x\"; /* a's */ 'b'=\"Y\";\"c\" = \"z\";\n\n/* d */ \"d\" /* d2 */ =\n\t\"\\U0041 \\\"\" ;"},
-        {__LINE__, "T.strings", odd, {{"T/d", "D"}},
+        {__LINE__,
+         "T.strings",
+         odd,
+         {{"T/d", "D"}},
          "// top\n\"a\" = \"x\"; /* a's */ 'b'=y;\"c\";\n\n/* d */ \"d\" /* d2 */ =\n\t\"D\" ;"},
         // New keys come last, with their comments, in the order of the development texts.
-        {__LINE__, "T.strings", odd, {{"T/f", "%@ F"}, {"T/e", "Ee"}},
+        {__LINE__,
+         "T.strings",
+         odd,
+         {{"T/f", "%@ F"}, {"T/e", "Ee"}},
          odd + "\n/* New. */\n\"e\" = \"Ee\";\n\"f\" = \"%@ F\";\n"},
         {__LINE__, "T.strings", "a = b", {{"T/b", "B"}}, "a = b;\n\"b\" = \"B\";\n"},
-        {__LINE__, "T.strings", "{ a = b; } // end", {{"T/b", "B"}, {"T/a", "c"}}, "{ a = \"c\"; \n\"b\" = \"B\";\n} // end"},
+        {__LINE__,
+         "T.strings",
+         "{ a = b; } // end",
+         {{"T/b", "B"}, {"T/a", "c"}},
+         "{ a = \"c\"; \n\"b\" = \"B\";\n} // end"},
         {__LINE__, "T.strings", "{}", {{"T/b", "B"}}, "{\n\"b\" = \"B\";\n}"},
         {__LINE__, "T.strings", "a = b;\r\n", {{"T/e", "B"}}, "a = b;\r\n/* New. */\r\n\"e\" = \"B\";\r\n"},
         {__LINE__, "T.strings", "\xEF\xBB\xBF", {{"T/b", "B"}}, "\xEF\xBB\xBF\"b\" = \"B\";\n"},
-        {__LINE__, "T.strings", "a = 1; a = 2; b = (x, \"y;\"); // b", {{"T/a", "3"}, {"T/b", "B"}},
+        {__LINE__,
+         "T.strings",
+         "a = 1; a = 2; b = (x, \"y;\"); // b",
+         {{"T/a", "3"}, {"T/b", "B"}},
          "a = 1; a = \"3\"; b = (x, \"y;\"); // b\n\"b\" = \"B\";\n"},
         {__LINE__, "T.strings", wide("a = b;"), {{"T/a", "B"}, {"T/b", "C"}}, wide("a = \"B\";\n\"b\" = \"C\";\n")},
         // Property lists.
-        {__LINE__, "T.strings", plist + "<dict><!-- a -->\n\t<key>a</key> <string><![CDATA[x]]>y</string>\n\t<key>b</key><string/>\n</dict></plist>",
+        {__LINE__,
+         "T.strings",
+         plist + "<dict><!-- a -->\n\t<key>a</key> "
+                 "<string><![CDATA[x]]>y</string>\n\t<key>b</key><string/>\n</dict></plist>",
          {{"T/a", "<&>\r\n"}, {"T/b", "B"}, {"T/e", "E"}},
-         plist + "<dict><!-- a -->\n\t<key>a</key> <string>&lt;&amp;&gt;&#13;\n</string>\n\t<key>b</key><string>B</string>\n\t<!-- New. -->"
+         plist + "<dict><!-- a -->\n\t<key>a</key> "
+                 "<string>&lt;&amp;&gt;&#13;\n</string>\n\t<key>b</key><string>B</string>\n\t<!-- New. -->"
                  "\n\t<key>e</key>\n\t<string>E</string>\n</dict></plist>"},
-        {__LINE__, "T.strings", "<?xml version='1.0' encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string></dict></plist>",
+        {__LINE__,
+         "T.strings",
+         "<?xml version='1.0' encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string></dict></plist>",
          {{"T/a", "é"}, {"T/b", "b"}},
-         "<?xml version='1.0' encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string><key>b</key><string>b</string></dict></plist>"},
-        {__LINE__, "T.strings", "<?xml version='1.0' encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string></dict></plist>",
+         "<?xml version='1.0' "
+         "encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string><key>b</key><string>b</string></dict></"
+         "plist>"},
+        {__LINE__,
+         "T.strings",
+         "<?xml version='1.0' encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string></dict></plist>",
          {{"T/a", "ü"}},
          "<?xml version='1.0' encoding='ISO-8859-1'?><plist><dict><key>a</key><string>&#252;</string></dict></plist>"},
-        {__LINE__, "T.strings", plist + "<dict/></plist>", {{"T/a", "x"}},
+        {__LINE__,
+         "T.strings",
+         plist + "<dict/></plist>",
+         {{"T/a", "x"}},
          plist + "<dict>\n    <!-- Says a. -->\n    <key>a</key>\n    <string>x</string>\n</dict></plist>"},
         // Plurals: a form, a form that is missing, a format, and a whole entry.
-        {__LINE__, "T.stringsdict", filesEntry("%#@n@!", oneAndOther),
+        {__LINE__,
+         "T.stringsdict",
+         filesEntry("%#@n@!", oneAndOther),
          {{"T[variables.n.plural.other]/files", "%ld Dateien"}, {"T[format]/files", "%#@n@ da"}},
-         filesEntry("%#@n@ da", "      <key>one</key> <string>%ld file</string>\n      <key>other</key> <string>%ld Dateien</string>")},
-        {__LINE__, "T.stringsdict", filesEntry("%#@n@!", "      <key>other</key> <string>%ld files</string>"),
+         filesEntry(
+             "%#@n@ da",
+             "      <key>one</key> <string>%ld file</string>\n      <key>other</key> <string>%ld Dateien</string>")},
+        {__LINE__,
+         "T.stringsdict",
+         filesEntry("%#@n@!", "      <key>other</key> <string>%ld files</string>"),
          {{"T[variables.n.plural.one]/files", "eine Datei"}},
-         filesEntry("%#@n@!", "      <key>one</key> <string>eine Datei</string>\n      <key>other</key> <string>%ld files</string>")},
-        {__LINE__, "T.stringsdict", plist + "<dict>\n</dict>\n</plist>\n",
-         {{"T[variables.n.plural.one]/files", "a"}, {"T[variables.n.plural.other]/files", "%ld b"}, {"T[format]/files", "%#@n@?"}},
-         plist + "<dict>\n    <!-- Counts files. -->\n    <key>files</key>\n    <dict>\n        <key>NSStringLocalizedFormatKey</key>\n"
-                 "        <string>%#@n@?</string>\n        <key>n</key>\n        <dict>\n            <key>NSStringFormatSpecTypeKey</key>\n"
-                 "            <string>NSStringPluralRuleType</string>\n            <key>NSStringFormatValueTypeKey</key>\n"
-                 "            <string>ld</string>\n            <key>one</key>\n            <string>a</string>\n            <key>other</key>\n"
-                 "            <string>%ld b</string>\n        </dict>\n    </dict>\n</dict>\n</plist>\n"},
+         filesEntry(
+             "%#@n@!",
+             "      <key>one</key> <string>eine Datei</string>\n      <key>other</key> <string>%ld files</string>")},
+        {__LINE__,
+         "T.stringsdict",
+         plist + "<dict>\n</dict>\n</plist>\n",
+         {{"T[variables.n.plural.one]/files", "a"},
+          {"T[variables.n.plural.other]/files", "%ld b"},
+          {"T[format]/files", "%#@n@?"}},
+         plist +
+             "<dict>\n    <!-- Counts files. -->\n    <key>files</key>\n    <dict>\n        "
+             "<key>NSStringLocalizedFormatKey</key>\n"
+             "        <string>%#@n@?</string>\n        <key>n</key>\n        <dict>\n            "
+             "<key>NSStringFormatSpecTypeKey</key>\n"
+             "            <string>NSStringPluralRuleType</string>\n            <key>NSStringFormatValueTypeKey</key>\n"
+             "            <string>ld</string>\n            <key>one</key>\n            <string>a</string>\n            "
+             "<key>other</key>\n"
+             "            <string>%ld b</string>\n        </dict>\n    </dict>\n</dict>\n</plist>\n"},
         // The binary form keeps its order.
-        {__LINE__, "T.strings", binary({{"b", "1"}, {"a", "2"}}), {{"T/a", "3"}, {"T/d", "4"}},
+        {__LINE__,
+         "T.strings",
+         binary({{"b", "1"}, {"a", "2"}}),
+         {{"T/a", "3"}, {"T/d", "4"}},
          binary({{"b", "1"}, {"a", "3"}, {"d", "4"}})},
     };
     for (const auto& one : cases) {
@@ -287,7 +352,8 @@ std::string unit(const std::string& text, const std::string& state = "translated
 
 TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
     const std::string english = "      \"localizations\" : {\n        \"en\" : ";
-    const std::string plural = "{ \"variations\" : { \"plural\" : { \"one\" : " + unit("a k") + ", \"other\" : " + unit("%lld k") + " } } }";
+    const std::string plural =
+        "{ \"variations\" : { \"plural\" : { \"one\" : " + unit("a k") + ", \"other\" : " + unit("%lld k") + " } } }";
     const std::string added = "\"stringUnit\" : {\n            \"state\" : \"translated\",\n            \"value\" : \"";
     const struct {
         int line;
@@ -295,22 +361,32 @@ TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
         std::vector<Edit> edits;
         std::string after;
     } cases[] = {
-        {__LINE__, catalogOf(""), {{"T/%lld k", "%lld \"K\"\x01"}},
-         catalogOf("      \"localizations\" : {\n        \"de\" : {\n          " + added + "%lld \\\"K\\\"\\u0001\"\n          }\n        }\n      }\n")},
-        {__LINE__, catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("%lld k", "new") + "\n      }\n"),
+        {__LINE__,
+         catalogOf(""),
+         {{"T/%lld k", "%lld \"K\"\x01"}},
+         catalogOf("      \"localizations\" : {\n        \"de\" : {\n          " + added +
+                   "%lld \\\"K\\\"\\u0001\"\n          }\n        }\n      }\n")},
+        {__LINE__,
+         catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("%lld k", "new") + "\n      }\n"),
          {{"T/%lld k", "%lld k"}},
          catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("%lld k") + "\n      }\n")},
-        {__LINE__, catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("%lld k", "new") + "\n      }\n"),
+        {__LINE__,
+         catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("%lld k", "new") + "\n      }\n"),
          {{"T/%lld k", "K %lld", State::needsReview}},
          catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("K %lld", "needs_review") + "\n      }\n")},
         // A text gives way to forms, which are put in the order of the alphabet.
-        {__LINE__, catalogOf(english + plural + ",\n        \"fr\" : " + unit("x") + "\n      }\n"),
+        {__LINE__,
+         catalogOf(english + plural + ",\n        \"fr\" : " + unit("x") + "\n      }\n"),
          {{"T[plural.other]/%lld k", "%lld K"}, {"T[plural.one]/%lld k", "ein K"}},
-         catalogOf("      \"localizations\" : {\n        \"de\" : {\n          \"variations\" : {\n            \"plural\" : {\n"
-                   "              \"one\" : {\n                \"stringUnit\" : {\n                  \"state\" : \"translated\",\n"
-                   "                  \"value\" : \"ein K\"\n                }\n              },\n              \"other\" : {\n"
+         catalogOf("      \"localizations\" : {\n        \"de\" : {\n          \"variations\" : {\n            "
+                   "\"plural\" : {\n"
+                   "              \"one\" : {\n                \"stringUnit\" : {\n                  \"state\" : "
+                   "\"translated\",\n"
+                   "                  \"value\" : \"ein K\"\n                }\n              },\n              "
+                   "\"other\" : {\n"
                    "                \"stringUnit\" : {\n                  \"state\" : \"translated\",\n"
-                   "                  \"value\" : \"%lld K\"\n                }\n              }\n            }\n          }\n        },\n        \"en\" : " +
+                   "                  \"value\" : \"%lld K\"\n                }\n              }\n            }\n      "
+                   "    }\n        },\n        \"en\" : " +
                    plural + ",\n        \"fr\" : " + unit("x") + "\n      }\n")},
     };
     for (const auto& one : cases) {

@@ -114,7 +114,7 @@ private:
         LanguageTexts* texts = textsFor(file, file.language);
         if (texts == nullptr)
             return;
-        auto read = StringTables::PluralTable::readFile(file.path);
+        auto read = StringTables::PluralTable::readFile(file.path, StringTables::PluralTable::Comments::areRead);
         if (!read) {
             texts->isDamaged = true;
             return diagnostics_.add(Severity::error, std::move(read.error()), Topic::unreadableTable);
@@ -123,13 +123,14 @@ private:
         addNotes(table.notes());
         for (const StringTables::PluralEntry& entry : table.entries()) {
             const SourceEntry* text = texts->find(entry.key);
-            texts->replace({.key = entry.key,
-                            .text = storage_.keep(otherText(entry.plural)),
-                            .plural = &entry.plural,
-                            .comment = text == nullptr ? std::string_view() : text->comment,
-                            .file = &file,
-                            .line = static_cast<std::uint32_t>(entry.location.line),
-                            .column = static_cast<std::uint32_t>(entry.location.column)});
+            texts->replace(
+                {.key = entry.key,
+                 .text = storage_.keep(otherText(entry.plural)),
+                 .plural = &entry.plural,
+                 .comment = entry.comment.empty() && text != nullptr ? text->comment : std::string_view(entry.comment),
+                 .file = &file,
+                 .line = static_cast<std::uint32_t>(entry.location.line),
+                 .column = static_cast<std::uint32_t>(entry.location.column)});
         }
     }
 

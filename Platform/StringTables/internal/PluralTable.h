@@ -37,7 +37,8 @@ struct PluralFormat {
 struct PluralEntry {
     std::string key;
     PluralFormat plural;
-    Location location; // of the key in the source
+    Location location;     // of the key in the source
+    std::string comment{}; // directly before the key, as Table::comments() has them; empty unless they are read
 };
 
 class PluralTable {
@@ -46,8 +47,10 @@ public:
     // empty table. Limits: those of Table, maxTextBytes in all texts together, which entries may share in the file.
     // Throws std::bad_alloc when memory runs out.
     [[nodiscard]] static Runtime::Result<PluralTable> read(std::string bytes);
-    // The same from the regular file at `path`, which errors and notes name.
-    [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path);
+    // The same from the regular file at `path`, which errors and notes name. Comments cost a pass of their own.
+    enum class Comments { areSkipped, areRead };
+    [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path,
+                                                               Comments comments = Comments::areSkipped);
     static constexpr std::size_t maxTextBytes = std::size_t{64} << 20;
 
     // The entry of `key` (exact), or null. Never fails.
@@ -58,7 +61,7 @@ public:
     [[nodiscard]] std::span<const TableNote> notes() const noexcept { return notes_; }
 
 private:
-    static Runtime::Result<PluralTable> read(std::string bytes, const std::string& file);
+    static Runtime::Result<PluralTable> read(std::string bytes, const std::string& file, Comments comments);
 
     std::vector<PluralEntry> entries_;
     std::vector<std::size_t> byKey_; // the numbers of the entries, sorted by key

@@ -1,0 +1,67 @@
+// Any bytes as a translated file: refused with a message, or units that are the same after another way through a file.
+#include "Exchange/Po.h"
+#include "Exchange/Xliff.h"
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <set>
+
+namespace {
+
+using Exchange::Handout;
+using Exchange::Unit;
+
+void require(bool holds) {
+    if (!holds)
+        std::abort();
+}
+
+// An export has no text twice, and the forms of a plural beside each other.
+bool isLikeAnExport(const Handout& handout) {
+    std::set<std::string> ids;
+    return std::ranges::all_of(handout.units, [&ids](const Unit& unit) {
+        return ids.insert(Exchange::textOf(unit.id)).second && !unit.id.category;
+    });
+}
+
+bool haveSameTexts(const Handout& one, const Handout& other) {
+    return std::ranges::equal(one.units, other.units, [](const Unit& a, const Unit& b) {
+        return a.id == b.id && a.source == b.source && a.target == b.target;
+    });
+}
+
+void requireSame(const Handout& handout) {
+    for (const Unit& unit : handout.units)
+        require(Exchange::unitIdOf(Exchange::textOf(unit.id)) == unit.id);
+    if (!isLikeAnExport(handout) || handout.units.empty())
+        return;
+    SourceBundle::Diagnostics diagnostics;
+    auto written = handout;
+    // One table is one <file>.
+    std::ranges::stable_sort(written.units, {}, [](const Unit& unit) { return unit.id.table; });
+    const auto xliff = Exchange::readXliff(Exchange::writeXliff(written, "1"), "f", diagnostics);
+    require(xliff && xliff->size() == 1 && haveSameTexts(xliff->front(), written) && !diagnostics.hasErrors());
+    const std::string po = Exchange::writePo(written, diagnostics);
+    if (!diagnostics.all().empty()) // a NUL
+        return;
+    const auto again = Exchange::readPo(po, "f", diagnostics);
+    require(again ? haveSameTexts(*again, written)
+                  : written.targetLanguage.find_first_of(" \t\r\n") == 0 || written.targetLanguage.empty());
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    SourceBundle::Diagnostics diagnostics;
+    if (const auto po = Exchange::readPo(bytes, "f", diagnostics))
+        requireSame(*po);
+    else
+        require(!po.error().message.empty());
+    if (const auto xliff = Exchange::readXliff(bytes, "f", diagnostics))
+        for (const Handout& handout : *xliff)
+            requireSame(handout);
+    else
+        require(!xliff.error().message.empty());
+    return 0;
+}
