@@ -13,6 +13,20 @@ install(EXPORT LumoraPlatform NAMESPACE Lumora:: DESTINATION ${package} COMPONEN
 install(EXPORT LumoraModule NAMESPACE Lumora:: DESTINATION ${package} COMPONENT development)
 if(LUMORA_TOOLS)
     install(TARGETS lumora-program EXPORT LumoraTools RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    set(help ${PROJECT_BINARY_DIR}/Tools/Program/help)
+    if(LUMORA_PACKAGES) # Debian's folder, and its rule for man pages
+        set(zshFunctions vendor-completions)
+        install(CODE "execute_process(COMMAND gzip -9nkf ${help}/lumora.man COMMAND_ERROR_IS_FATAL ANY)" COMPONENT tools)
+        install(FILES ${help}/lumora.man.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 RENAME lumora.1.gz COMPONENT tools)
+    else()
+        set(zshFunctions site-functions)
+        install(FILES ${help}/lumora.man DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 RENAME lumora.1 COMPONENT tools)
+    endif()
+    install(FILES ${help}/lumora.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME lumora
+        COMPONENT tools)
+    install(FILES ${help}/lumora.zsh DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/${zshFunctions} RENAME _lumora
+        COMPONENT tools)
+    install(FILES ${help}/lumora.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
     install(EXPORT LumoraTools NAMESPACE Lumora:: DESTINATION ${package} COMPONENT tools)
 endif()
 

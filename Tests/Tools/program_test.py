@@ -3,7 +3,9 @@ import json
 import os
 import pathlib
 import plistlib
+import re
 import resource
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -68,6 +70,36 @@ class Program(unittest.TestCase):
         self.assertEqual(run(*text, "base"), (0, b"Base\n", ""))
         damaged.unlink()
         self.assertEqual(run(*text, "a")[:2], (0, b"a\n"))
+
+    def test_help(self):
+        self.assertEqual(run("help", "check"), run("check", "--help"))
+        self.assertEqual(run("help"), run("--help"))
+        for wrong, meant in ((["chek", "x"], "check"), (["help", "tex"], "text"), (["gallery", "--modul", "a", "-o", "x"], "--module"),
+                             (["asset", "sned", "-o", "x"], "send"), (["text", "Contineu"], "Continue")):
+            with self.subTest(wrong):
+                self.assertIn(f"; did you mean {meant}?", run(*wrong)[2])
+        for word in ("something else", "x" * 5000):
+            self.assertNotIn("did you mean", run(word)[2])
+            self.assertNotIn("did you mean", run("text", word)[2])
+        # Each has every command, and is well-formed for the program that reads it, where that is installed.
+        commands = re.findall(r"^  ([a-z]+) ", run("help")[1].decode().split("Subcommands:")[1], re.M)
+        self.assertIn("check", commands)
+        for format, reader in (("man", ["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z"]), ("bash", ["bash", "-n"]),
+                               ("zsh", ["zsh", "-n"]), ("fish", ["fish", "-n"])):
+            with self.subTest(format):
+                made = self.folder / f"lumora.{format}"
+                made.write_bytes(run("help", "--format", format)[1])
+                self.assertEqual([c for c in commands if not re.search(rf"\b{c}\b", made.read_text())], [])
+                if shutil.which(reader[0]):
+                    read = subprocess.run([*reader, made], capture_output=True, timeout=60)
+                    self.assertEqual((read.returncode, read.stderr), (0, b""))
+        asked = "COMP_WORDS=(lumora check --format s); COMP_CWORD=3; _lumora; echo ${COMPREPLY[@]}"
+        self.assertEqual(subprocess.run(["bash", "-c", f"source ./lumora.bash; {asked}"], capture_output=True).stdout, b"sarif\n")
+
+    def test_assets_as_json(self):
+        lines = [line.split("\t") for line in run("assets")[1].decode().splitlines()]
+        listed = json.loads(run("assets", "--format", "json")[1])
+        self.assertEqual([[one["kind"], one["catalog"], one["name"]] for one in listed], lines)
 
     def test_table_in_every_form(self):
         file = self.write("a.strings", '/* c */ "k\\n" = "v \\U0416"; plain = word; list = (1, 2);')

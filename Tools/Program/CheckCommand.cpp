@@ -6,7 +6,6 @@
 #include "Program/SourceArguments.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <unistd.h>
@@ -36,18 +35,13 @@ Severity lowestOf(const CheckOptions& options) {
     return options.format == "text" ? Severity::warning : Severity::note;
 }
 
-bool isColoured() {
-    const char* const refused = std::getenv("NO_COLOR");
-    return ::isatty(STDOUT_FILENO) == 1 && (refused == nullptr || *refused == '\0');
-}
-
 std::string written(const std::vector<Finding>& findings, const CheckOptions& options) {
     const Severity lowest = lowestOf(options);
     if (options.format == "json")
         return Check::asJson(findings, lowest);
     if (options.format == "sarif")
         return Check::asSarif(findings, lowest, std::filesystem::current_path(), LUMORA_VERSION);
-    return Check::asText(findings, lowest, isColoured());
+    return Check::asText(findings, lowest, hasColor(STDOUT_FILENO));
 }
 
 std::vector<Finding> find(const CheckOptions& options, Diagnostics& diagnostics) {

@@ -4,7 +4,9 @@
 #include "Runtime/internal/File.h"
 #include <CLI/CLI.hpp>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <span>
 #include <string>
@@ -66,7 +68,7 @@ std::string placeOf(const Runtime::Error& what) {
 void say(Severity severity, const Runtime::Error& what, std::string_view behind = {}) {
     const std::string label = std::string(wordFor(severity)) + ":";
     std::string line = placeOf(what) + ": ";
-    line += isTerminal() ? colorFor(severity) + label + "\033[0m" : label;
+    line += hasColor(STDERR_FILENO) ? colorFor(severity) + label + "\033[0m" : label;
     line.append(" ").append(Generator::visibleText(what.message, std::string::npos)).append(behind);
     writeLine(line);
 }
@@ -107,6 +109,11 @@ CLI::Validator named() {
     return {[](const std::string& path) { return path.empty() ? "the name is empty" : ""; }, ""};
 }
 
+bool hasColor(int stream) {
+    const char* const refused = std::getenv("NO_COLOR");
+    return ::isatty(stream) == 1 && (refused == nullptr || *refused == '\0');
+}
+
 Exit fail(const Runtime::Error& error) {
     say(Severity::error, error);
     return Exit::wrongUse;
@@ -136,7 +143,8 @@ Exit report(const SourceBundle::Diagnostics& diagnostics) {
 }
 
 void showProgress(std::string_view what, std::size_t done, std::size_t all) {
-    if (!isTerminal())
+    static const auto start = std::chrono::steady_clock::now();
+    if (!isTerminal() || std::chrono::steady_clock::now() - start < std::chrono::seconds(1))
         return;
     if (done == all)
         std::fputs("\r\033[K", stderr);

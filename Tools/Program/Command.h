@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -33,6 +34,14 @@ void addAssetsCommand(CLI::App& program, Exit& exit);
 void addGalleryCommand(CLI::App& program, Exit& exit);
 void addExportCommand(CLI::App& program, Exit& exit);
 void addImportCommand(CLI::App& program, Exit& exit);
+void addHelpCommand(CLI::App& program, Exit& exit);
+
+// The names of all commands, in the order in which help shows them.
+std::vector<std::string> commandNames(const CLI::App& program);
+
+// Whether what is written to the file descriptor `stream` has colors: on a terminal, unless the environment variable
+// NO_COLOR is set and not empty.
+bool hasColor(int stream);
 
 // Messages go to standard error, a line each: "FILE:LINE:COLUMN: error: WHAT" with the parts that are known, or
 // "lumora: error: WHAT" where there is no file; in colour on a terminal. What cannot be seen is escaped.
@@ -42,7 +51,8 @@ void note(std::string_view what);
 // Every diagnostic, the errors last, equal messages together, and a line that counts them; a lone one carries its count
 // itself. Exit::wrongUse if an error is among them.
 Exit report(const SourceBundle::Diagnostics& diagnostics);
-// A line that is written over by the next, on a terminal only; `done` of `all` equal takes it away.
+// A line that is written over by the next, on a terminal only and from a second after the first call; `done` equal to
+// `all` removes it.
 void showProgress(std::string_view what, std::size_t done, std::size_t all);
 // To standard output, whole; an error when it cannot be written.
 Exit print(std::string_view bytes);

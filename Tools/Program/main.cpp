@@ -8,19 +8,24 @@
 
 namespace {
 
-Tools::Exit failWith(const CLI::Error& wrong, const std::string& more = "") {
-    return Tools::fail({.message = wrong.what() + more + " (see lumora --help)"});
+// What the first unknown word was most likely meant to be: a command, or an option of the command that was given.
+std::string suggestedWord(const CLI::App& program) {
+    const std::vector<std::string> unknown = program.remaining(true);
+    if (unknown.empty())
+        return "";
+    const std::string& word = unknown.front();
+    if (!word.starts_with('-'))
+        return program.get_subcommands().empty() ? Tools::suggestion(word, Tools::commandNames(program)) : "";
+    std::vector<std::string> known;
+    const CLI::App* command = program.get_subcommands().empty() ? &program : program.get_subcommands().back();
+    for (const CLI::Option* option : command->get_options())
+        for (const std::string& name : option->get_lnames())
+            known.push_back("--" + name);
+    return Tools::suggestion(word.substr(0, word.find('=')), known);
 }
 
-// For a word that is not one of the commands.
-std::string suggestedCommand(const CLI::App& program) {
-    const std::vector<std::string> unknown = program.remaining();
-    if (unknown.empty() || !program.get_subcommands().empty())
-        return "";
-    std::vector<std::string> commands;
-    for (const CLI::App* command : program.get_subcommands(nullptr))
-        commands.push_back(command->get_name());
-    return Tools::suggestion(unknown.front(), commands);
+Tools::Exit failWith(const CLI::Error& wrong, const CLI::App& program) {
+    return Tools::fail({.message = std::string(wrong.what()) + suggestedWord(program) + " (see lumora --help)"});
 }
 
 } // namespace
@@ -28,6 +33,7 @@ std::string suggestedCommand(const CLI::App& program) {
 // NOLINTNEXTLINE(bugprone-exception-escape): what may be thrown outside of the block is that memory is out
 int main(int argc, char** argv) {
     CLI::App program("Localized texts and assets: reads, makes and compiles what a module ships.", "lumora");
+    program.require_subcommand(0, 1); // words behind the first command are its arguments, whatever they are
     program.set_version_flag("--version", LUMORA_VERSION);
     Tools::Exit exit = Tools::Exit::done;
     Tools::addTextCommand(program, exit);
@@ -41,6 +47,7 @@ int main(int argc, char** argv) {
     Tools::addGalleryCommand(program, exit);
     Tools::addExportCommand(program, exit);
     Tools::addImportCommand(program, exit);
+    Tools::addHelpCommand(program, exit);
     try {
         program.parse(argc, argv);
         // Asked here, after a wrong word has been named.
@@ -51,10 +58,9 @@ int main(int argc, char** argv) {
         const std::vector<std::string> unknown = program.remaining();
         std::ostringstream text;
         program.exit(asked, text, text);
-        exit =
-            unknown.empty() ? Tools::print(text.str()) : failWith(CLI::ExtrasError(unknown), suggestedCommand(program));
+        exit = unknown.empty() ? Tools::print(text.str()) : failWith(CLI::ExtrasError(unknown), program);
     } catch (const CLI::Error& wrong) {
-        exit = failWith(wrong, suggestedCommand(program));
+        exit = failWith(wrong, program);
     } catch (const std::exception& failed) {
         exit = Tools::fail({.message = failed.what()});
     }
