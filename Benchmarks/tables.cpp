@@ -1,11 +1,15 @@
 // Reading tables: the development texts of the application from text and from binary form.
 #include "Runtime/internal/File.h"
+#include "StringTables/internal/StoredTable.h"
 #include "StringTables/internal/Table.h"
 #include "StringTables/internal/Writer.h"
 #include <Lumora/Lumora.h>
 
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstring>
+#include <random>
+#include <vector>
 
 namespace {
 
@@ -41,6 +45,69 @@ void tableFromBinary(benchmark::State& state) {
     readTable(state, *StringTables::write(table->entries(), Form::binary));
 }
 BENCHMARK(tableFromBinary);
+
+// A compiled table as a bundle has it: of the Russian texts, which are UTF-16 in the file.
+std::vector<std::string> compiledKeys(const std::string& path) {
+    const auto table = Table::readFile(LUMORA_RESOURCES "/ru.lproj/Localizable.strings");
+    (void)Runtime::writeFile(path, *StringTables::writeCompiled(table->entries()));
+    std::vector<std::string> keys;
+    for (const StringTables::Entry& entry : table->entries())
+        keys.emplace_back(entry.key);
+    std::ranges::shuffle(keys, std::mt19937(1));
+    return keys;
+}
+
+const std::string compiledPath = "/tmp/lumora-benchmark.strings";
+
+void compiledOneText(benchmark::State& state) {
+    const std::vector<std::string> keys = compiledKeys(compiledPath);
+    std::size_t next = 0;
+    for (auto _ : state) {
+        StringTables::StoredTable table(compiledPath);
+        if (!table.find(keys[next++ % keys.size()]))
+            state.SkipWithError("the result is wrong");
+    }
+}
+BENCHMARK(compiledOneText);
+
+void compiledAllTexts(benchmark::State& state) {
+    const std::vector<std::string> keys = compiledKeys(compiledPath);
+    for (auto _ : state) {
+        StringTables::StoredTable table(compiledPath);
+        for (const std::string& key : keys)
+            if (!table.find(key))
+                state.SkipWithError("the result is wrong");
+    }
+}
+BENCHMARK(compiledAllTexts);
+
+// What a plain binary table costs.
+void binaryAllTexts(benchmark::State& state) {
+    const std::vector<std::string> keys = compiledKeys(compiledPath);
+    const auto read = Table::readFile(compiledPath);
+    (void)Runtime::writeFile(compiledPath, *StringTables::write(read->entries(), Form::binary));
+    for (auto _ : state) {
+        const auto table = Table::readFile(compiledPath);
+        for (const std::string& key : keys)
+            if (!table->find(key))
+                state.SkipWithError("the result is wrong");
+    }
+}
+BENCHMARK(binaryAllTexts);
+
+void compiledLookUp(benchmark::State& state) {
+    const std::vector<std::string> keys = compiledKeys(compiledPath);
+    StringTables::StoredTable table(compiledPath);
+    for (const std::string& key : keys)
+        if (!table.find(key))
+            state.SkipWithError("the result is wrong");
+    std::size_t next = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(table.find(keys[next]));
+        next = next + 1 == keys.size() ? 0 : next + 1;
+    }
+}
+BENCHMARK(compiledLookUp);
 
 // What the machine allows: the file read, and its bytes looked at once.
 void readAndMemchr(benchmark::State& state) {

@@ -4,8 +4,10 @@
 #include "Runtime/internal/TransientError.h"
 #include "StringTables/internal/BundleLayout.h"
 #include "StringTables/internal/PluralTable.h"
+#include "StringTables/internal/StoredTable.h"
 #include "StringTables/internal/Table.h"
 #include <cerrno>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -19,13 +21,13 @@ bool isMissing(const Runtime::Error& error) noexcept {
     return error.cause == ENOENT || error.cause == ENOTDIR;
 }
 
-// The table at `path`, without keys when the file is damaged; no value when there is none.
-template <class Table> std::optional<Table> readTable(const std::string& path) {
-    auto read = Table::readFile(path);
+// The table at `path`; without keys when the file is missing or damaged.
+StringTables::PluralTable readPlurals(const std::string& path) {
+    auto read = StringTables::PluralTable::readFile(path);
     if (read)
         return *std::move(read);
     Runtime::throwIfTransient(read.error());
-    return isMissing(read.error()) ? std::nullopt : std::optional(Table());
+    return {};
 }
 
 struct Plurals {
@@ -54,10 +56,13 @@ template <class Table> std::optional<std::string> damageOf(const std::string& pa
 } // namespace
 
 struct Localization::LoadedTable {
-    StringTables::Table texts;
+    LoadedTable(std::string path, StringTables::PluralTable pluralTable)
+        : texts(std::move(path)), plurals(std::move(pluralTable)) {}
+
+    StringTables::StoredTable texts;
     Plurals plurals;
 
-    std::optional<LocalizedFormat> find(std::string_view key, std::string_view language) const {
+    std::optional<LocalizedFormat> find(std::string_view key, std::string_view language) {
         if (const auto plural = plurals.find(key, language))
             return plural;
         const auto text = texts.find(key);
@@ -69,22 +74,20 @@ Localization::Localization(std::string_view name, std::string directory, std::st
     : name_(name), directory_(std::move(directory)), language_(language) {}
 
 std::optional<LocalizedFormat> Localization::find(std::string_view key, std::string_view table) {
-    if (const LoadedTable* const known = tables_.find(table))
+    if (LoadedTable* const known = tables_.find(table))
         return known->find(key, language_);
-    const LoadedTable* const loaded = load(table);
+    LoadedTable* const loaded = load(table);
     return loaded != nullptr ? loaded->find(key, language_) : std::nullopt;
 }
 
 // Null when there is no such table, unless that is kept.
-const Localization::LoadedTable* Localization::load(std::string_view name) {
+Localization::LoadedTable* Localization::load(std::string_view name) {
     if (!layout::isFileName(name))
         return nullptr;
-    auto texts = readTable<StringTables::Table>(pathOf(name, layout::textsSuffix));
-    auto plurals = readTable<StringTables::PluralTable>(pathOf(name, layout::pluralsSuffix));
-    const std::size_t limit = texts || plurals ? tables_.unlimited : mostMissing;
-    return tables_.add(limit, name,
-                       LoadedTable{std::move(texts).value_or(StringTables::Table()),
-                                   Plurals(std::move(plurals).value_or(StringTables::PluralTable()))});
+    std::string texts = pathOf(name, layout::textsSuffix);
+    const std::string plurals = pathOf(name, layout::pluralsSuffix);
+    const bool exists = ::access(texts.c_str(), F_OK) == 0 || ::access(plurals.c_str(), F_OK) == 0;
+    return tables_.add(exists ? tables_.unlimited : mostMissing, name, std::move(texts), readPlurals(plurals));
 }
 
 std::optional<std::string> Localization::damage(std::string_view table) const {

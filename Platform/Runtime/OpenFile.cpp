@@ -38,7 +38,11 @@ Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit) {
         return file.error("is not a regular file");
     if (static_cast<std::uintmax_t>(status.st_size) > limit)
         return file.error("is larger than " + std::to_string(limit) + " bytes");
-    file.size_ = static_cast<std::size_t>(status.st_size);
+    file.identity_ = {.device = status.st_dev,
+                      .inode = status.st_ino,
+                      .size = static_cast<std::size_t>(status.st_size),
+                      .seconds = status.st_mtim.tv_sec,
+                      .nanoseconds = status.st_mtim.tv_nsec};
     return file;
 }
 

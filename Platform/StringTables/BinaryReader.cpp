@@ -1,4 +1,5 @@
 #include "StringTables/internal/BinaryObjects.h"
+#include "StringTables/internal/CompiledTable.h"
 
 namespace StringTables::internal {
 
@@ -9,7 +10,7 @@ public:
     explicit BinaryReader(Contents& contents) : contents_(contents), objects_(contents) {}
 
     Runtime::Result<void> read() {
-        if (!objects_.open() || !table())
+        if (!objects_.open() || !table() || !checkIndex())
             return std::move(objects_.error());
         return {};
     }
@@ -18,6 +19,7 @@ private:
     using Object = BinaryObjects::Object;
 
     bool table();
+    bool checkIndex();
     bool entry(std::size_t keyAt, std::size_t textAt);
     bool keep(const Entry& entry, std::uint64_t keyNumber, std::uint64_t textNumber);
     void removeReplaced();
@@ -42,6 +44,28 @@ bool BinaryReader::table() {
         if (!entry(objects_.keyAt(top, i), objects_.valueAt(top, i)))
             return false;
     removeReplaced();
+    return true;
+}
+
+// A compiled table is read by its dictionary here and by its index in a bundle: both must say the same.
+bool BinaryReader::checkIndex() {
+    static constexpr std::size_t at = CompiledIndex::objectAt;
+    CompiledIndex index;
+    switch (CompiledIndex::recognizeFile(contents_.source, index)) {
+    case CompiledIndex::State::none:
+        return true;
+    case CompiledIndex::State::damaged:
+        return objects_.fail(at, "the table's index is damaged");
+    case CompiledIndex::State::present:
+        break;
+    }
+    if (index.front() > contents_.source.size() || index.entries() != contents_.entries.size())
+        return objects_.fail(at, "the table's index is another table's");
+    const CompiledTable table(contents_.source.substr(0, index.front()), index);
+    for (const Entry& entry : contents_.entries)
+        if (const std::string_view text = table.find(entry.key, keyHash(entry.key));
+            text.data() == nullptr || text != entry.text)
+            return objects_.fail(entry.offset, "the table's index contradicts the entry " + quoted(entry.key));
     return true;
 }
 

@@ -32,7 +32,13 @@ std::u16string utf16(std::string_view text) {
 } // namespace
 
 BinaryWriter::Number BinaryWriter::dictionary() {
-    objects_.push_back({.isDictionary = true, .text = {}, .entries = {}});
+    objects_.push_back({.kind = Object::Kind::dictionary});
+    top_ = top_.value_or(objects_.size() - 1);
+    return objects_.size() - 1;
+}
+
+BinaryWriter::Number BinaryWriter::room() {
+    objects_.push_back({.kind = Object::Kind::room});
     return objects_.size() - 1;
 }
 
@@ -43,31 +49,42 @@ BinaryWriter::Number BinaryWriter::string(std::string_view text) {
     isUtf8_ = isUtf8_ && firstInvalidUtf8(text) == text.npos;
     const auto [at, isNew] = strings_.try_emplace(text, objects_.size());
     if (isNew)
-        objects_.push_back({.isDictionary = false, .text = text, .entries = {}});
+        objects_.push_back({.kind = Object::Kind::string, .text = text});
     given_.insert_or_assign(text.data(), Given{text.size(), at->second});
     return at->second;
+}
+
+std::size_t BinaryWriter::charactersAt(Number number) const noexcept {
+    const std::size_t size = objects_[number].text.size();
+    return offset(number) + (size < 0xF ? 1 : 2 + bytesFor(size));
 }
 
 // The header, the objects, the table of their offsets, and the trailer.
 std::string BinaryWriter::write() {
     const std::size_t referenceSize = bytesFor(objects_.size() - 1);
     out_ = "bplist00";
-    std::vector<std::size_t> offsets;
     for (const Object& object : objects_) {
-        offsets.push_back(out_.size());
-        if (object.isDictionary)
+        offsets_.push_back(out_.size());
+        switch (object.kind) {
+        case Object::Kind::dictionary:
             putDictionary(object, referenceSize);
-        else
+            break;
+        case Object::Kind::string:
             putString(object.text);
+            break;
+        case Object::Kind::room:
+            out_.append(object.size, '\0');
+            break;
+        }
     }
     const std::size_t tableAt = out_.size(), offsetSize = bytesFor(tableAt);
-    for (const std::size_t offset : offsets)
+    for (const std::size_t offset : offsets_)
         put(offset, offsetSize);
     put(0, 6);
     put(offsetSize, 1);
     put(referenceSize, 1);
     put(objects_.size(), 8);
-    put(0, 8); // the top object
+    put(top_.value_or(0), 8);
     put(tableAt, 8);
     return std::move(out_);
 }

@@ -1,5 +1,6 @@
 #include "StringTables/internal/Unicode.h"
 
+#include "StringTables/internal/Hash.h"
 #include "StringTables/internal/Scan.h"
 #include <bit>
 #include <cstdint>
@@ -30,6 +31,16 @@ std::size_t characterLength(const unsigned char* at, std::size_t left) noexcept 
     return left >= 4 && isTail(at[3]) ? 4 : 0;
 }
 
+// Whether the next eight bytes are four characters of two bytes, as in words of Cyrillic, Greek, Hebrew and Arabic.
+bool areFourPairs(const char* at) noexcept {
+    constexpr std::uint64_t every = 0x0001000100010001;
+    const auto bytes = loadLittle<std::uint64_t>(at); // leads in the lower halves of the 16-bit lanes
+    const bool haveForm = (bytes & 0xC0E0 * every) == 0x80C0 * every;
+    // A lead of C0 or C1 begins an over-long form: its bits 1 to 4 are 0, and adding FE to them carries nothing.
+    const std::uint64_t carries = (bytes & 0x001E * every) + 0x00FE * every;
+    return haveForm && (carries & 0x0100 * every) == 0x0100 * every;
+}
+
 } // namespace
 
 std::size_t firstInvalidUtf8(std::string_view bytes) noexcept {
@@ -37,6 +48,10 @@ std::size_t firstInvalidUtf8(std::string_view bytes) noexcept {
     const char* const end = at + bytes.size();
     while ((at = skipAscii(at, end)) != end)
         do {
+            while (end - at >= 8 && areFourPairs(at))
+                at += 8;
+            if (at == end || static_cast<unsigned char>(*at) < 0x80)
+                break;
             const auto left = static_cast<std::size_t>(end - at);
             const std::size_t length = characterLength(reinterpret_cast<const unsigned char*>(at), left);
             if (length == 0)

@@ -70,7 +70,7 @@ Runtime::Result<void> compileTexts(const LanguageTexts& texts, const StagedFolde
             return written;
     return entries.empty() && !plurals.empty()
                ? Runtime::Result<void>()
-               : place(out, folder / layout::textsFile(table), StringTables::write(entries, Form::binary));
+               : place(out, folder / layout::textsFile(table), StringTables::writeCompiled(entries));
 }
 
 } // namespace

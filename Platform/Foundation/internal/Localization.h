@@ -27,7 +27,7 @@ public:
 private:
     struct LoadedTable;
 
-    const LoadedTable* load(std::string_view name);
+    LoadedTable* load(std::string_view name);
     std::string pathOf(std::string_view table, std::string_view suffix) const;
 
     std::string name_;

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -15,11 +16,14 @@ namespace StringTables::internal {
 
 class BinaryWriter {
 public:
-    // Objects are numbered in the order in which they are first named; object 0 is the list's top.
+    // Objects are numbered, and stand in the file, in the order in which they are first named.
     using Number = std::size_t;
 
-    // A new, empty dictionary.
+    // A new, empty dictionary. The first one is the list's top.
     Number dictionary();
+    // An object of zero bytes, for the caller to fill in, and how many.
+    Number room();
+    void setRoom(Number number, std::size_t size) { objects_[number].size = size; }
     // The string `text`; one object for equal strings. A text is read once, however often it is given in the same place
     // of memory.
     Number string(std::string_view text);
@@ -30,12 +34,16 @@ public:
 
     // The bytes of the list.
     [[nodiscard]] std::string write();
+    // Where in the list that was written an object is, and where the characters of an ASCII string.
+    std::size_t offset(Number number) const noexcept { return offsets_[number]; }
+    std::size_t charactersAt(Number number) const noexcept;
 
 private:
     struct Object {
-        bool isDictionary = false;
-        std::string_view text;
-        std::vector<std::pair<Number, Number>> entries;
+        enum class Kind { dictionary, string, room } kind;
+        std::string_view text{};
+        std::size_t size = 0; // of room
+        std::vector<std::pair<Number, Number>> entries{};
     };
 
     void put(std::uint64_t number, std::size_t size);
@@ -44,6 +52,8 @@ private:
     void putString(std::string_view text);
 
     std::vector<Object> objects_;
+    std::optional<Number> top_;
+    std::vector<std::size_t> offsets_;
     std::unordered_map<std::string_view, Number> strings_;
     struct Given {
         std::size_t size;

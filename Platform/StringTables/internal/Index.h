@@ -4,9 +4,9 @@
 // their owner.
 #pragma once
 
+#include "StringTables/internal/Hash.h"
 #include "StringTables/internal/Table.h"
 #include <bit>
-#include <cstring>
 
 namespace StringTables::internal {
 
@@ -25,45 +25,13 @@ private:
     static constexpr std::uint64_t tagBits = 0xFFFFFFFF00000000;
     static std::size_t entryOf(std::uint64_t slot) noexcept { return (slot & ~tagBits) - 1; } // none if free
 
-    template <class Word> static std::uint64_t load(const char* from) noexcept {
-        Word word;
-        std::memcpy(&word, from, sizeof word);
-        return word;
-    }
-    std::uint64_t hash(std::string_view key) const noexcept;
+    std::uint64_t hash(std::string_view key) const noexcept { return hashBytes(key, seed_); }
     std::uint64_t& slotOf(std::uint64_t hash, std::string_view key, std::span<const Entry> entries) const noexcept;
 
     std::unique_ptr<std::uint64_t[]> slots_;
     std::uint64_t mask_ = 0;
     std::uint64_t seed_ = 0;
 };
-
-inline std::uint64_t Index::hash(std::string_view key) const noexcept {
-    __extension__ using Wide = unsigned __int128;
-    const auto mix = [](std::uint64_t a, std::uint64_t b) {
-        const Wide product = static_cast<Wide>(a) * b;
-        return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
-    };
-    constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
-    // Both factors of every product are masked with what only this process knows: no key can force a zero.
-    const std::uint64_t second = seed_ * spread ^ spread;
-    std::uint64_t first = seed_;
-    const char* at = key.data();
-    std::size_t left = key.size();
-    for (; left > 16; at += 16, left -= 16)
-        first = mix(load<std::uint64_t>(at) ^ first, load<std::uint64_t>(at + 8) ^ second);
-    std::uint64_t a = 0, b = 0;
-    if (left >= 8) {
-        a = load<std::uint64_t>(at);
-        b = load<std::uint64_t>(at + left - 8);
-    } else if (left >= 4) {
-        a = load<std::uint32_t>(at);
-        b = load<std::uint32_t>(at + left - 4);
-    } else if (left > 0) {
-        a = load<std::uint8_t>(at) << 16 | load<std::uint8_t>(at + left / 2) << 8 | load<std::uint8_t>(at + left - 1);
-    }
-    return mix(mix(a ^ first, b ^ second) ^ key.size(), spread);
-}
 
 inline std::uint64_t& Index::slotOf(std::uint64_t hash, std::string_view key,
                                     std::span<const Entry> entries) const noexcept {

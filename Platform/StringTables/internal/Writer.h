@@ -17,6 +17,11 @@ namespace StringTables {
 // table would be larger than Table::maxBytes, as one of few bytes may be whose entries share a long text.
 [[nodiscard]] Runtime::Result<std::string> write(std::span<const Entry> entries, Form form,
                                                  std::span<const std::string> comments = {});
+// The same table in the binary form with an index in it, so that a bundle's reader finds a text without reading the
+// rest (CompiledIndex.h). Every other reader reads a plain dictionary. Without an index, and so as write() makes it: a
+// table whose entries share texts so much that they are together more than twice its size, one with two keys of one
+// hash.
+[[nodiscard]] Runtime::Result<std::string> writeCompiled(std::span<const Entry> entries);
 
 // Appends `text` in quotation marks, as a table of the form text has it.
 void appendQuoted(std::string& out, std::string_view text);

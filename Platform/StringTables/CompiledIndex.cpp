@@ -1,0 +1,136 @@
+#include "StringTables/internal/CompiledIndex.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace StringTables::internal {
+
+namespace {
+
+template <class Number> void appendLittle(std::string& out, Number number) {
+    for (std::size_t i = 0; i < sizeof number; ++i)
+        out += static_cast<char>(static_cast<std::uint64_t>(number) >> 8 * i & 0xFF);
+}
+
+// Whether more than half of a mark's bytes are there: damage is to be recognized as damage.
+bool resembles(std::string_view found, std::string_view mark) noexcept {
+    std::size_t same = 0;
+    for (std::size_t i = 0; i < mark.size(); ++i)
+        same += static_cast<std::size_t>(found[i] == mark[i]);
+    return same > mark.size() / 2;
+}
+
+// Random keys never fill a bucket so; keys that are made to would take quadratic time.
+constexpr std::size_t fullestBucket = 32;
+
+// The numbers of the keys by their buckets, the fullest bucket first: it is the hardest to place.
+std::vector<std::vector<std::size_t>> keysByBucket(std::span<const std::uint32_t> bucketOfKey, std::size_t count) {
+    std::vector<std::vector<std::size_t>> buckets(count);
+    for (std::size_t key = 0; key < bucketOfKey.size(); ++key)
+        buckets[bucketOfKey[key]].push_back(key);
+    std::ranges::stable_sort(buckets, std::ranges::greater(), &std::vector<std::size_t>::size);
+    return buckets;
+}
+
+} // namespace
+
+CompiledIndex::State CompiledIndex::recognize(std::string_view head, CompiledIndex& out) noexcept {
+    static constexpr std::string_view list = "bplist00";
+    if (head.size() < headSize || !head.starts_with(list) || !resembles(head.substr(markAt, mark.size()), mark))
+        return State::none;
+    const char* const numbers = head.data() + markAt + mark.size();
+    const auto number = [numbers](std::size_t i) { return loadLittle<std::uint32_t>(numbers + 4 * i); };
+    out.slots_ = number(0);
+    out.buckets_ = number(1);
+    out.entries_ = number(2);
+    out.front_ = number(3);
+    const bool isWhole = head.substr(markAt, mark.size()) == mark && number(4) == out.numbersCheck() &&
+                         out.entries_ < out.slots_ && out.buckets_ > 0 && out.slotsEnd() <= out.front_;
+    return isWhole ? State::present : State::damaged;
+}
+
+CompiledIndex::State CompiledIndex::recognizeFile(std::string_view file, CompiledIndex& out) noexcept {
+    const State state = recognize(file.substr(0, headSize), out);
+    if (state != State::none || file.size() < trailerSize)
+        return state;
+    const std::string_view found = file.substr(file.size() - trailerSize, trailerMark.size());
+    return resembles(found, trailerMark) ? State::damaged : State::none;
+}
+
+std::uint32_t CompiledIndex::numbersCheck() const noexcept {
+    std::uint64_t check = keyHash(mark);
+    for (const std::uint32_t number : {slots_, buckets_, entries_, front_})
+        check = mixed(check ^ number, hashSpread);
+    return static_cast<std::uint32_t>(check ^ check >> 32);
+}
+
+std::optional<CompiledIndexWriter> CompiledIndexWriter::make(std::span<const std::uint64_t> keyHashes) {
+    CompiledIndexWriter writer;
+    CompiledIndex& index = writer.index_;
+    index.entries_ = static_cast<std::uint32_t>(keyHashes.size());
+    index.slots_ = index.entries_ + index.entries_ / 8 + 1;
+    index.buckets_ = index.entries_ / 4 + 1;
+    writer.displacements_.resize(index.buckets_);
+    writer.slotOfEntry_.resize(keyHashes.size());
+    std::vector<std::uint32_t> bucketOfKey;
+    for (const std::uint64_t hash : keyHashes)
+        bucketOfKey.push_back(index.bucket(hash));
+
+    std::vector<bool> isTaken(index.slots_);
+    std::vector<std::uint32_t> places;
+    const auto fits = [&](const std::vector<std::size_t>& bucket, std::uint16_t displacement) {
+        places.clear();
+        for (const std::size_t key : bucket) {
+            const std::uint32_t slot = index.slot(keyHashes[key], displacement);
+            if (isTaken[slot] || std::ranges::find(places, slot) != places.end())
+                return false;
+            places.push_back(slot);
+        }
+        return true;
+    };
+    for (const std::vector<std::size_t>& bucket : keysByBucket(bucketOfKey, index.buckets_)) {
+        if (bucket.empty())
+            break;
+        static constexpr std::uint32_t most = std::numeric_limits<std::uint16_t>::max();
+        std::uint32_t displacement = bucket.size() > fullestBucket ? most + 1 : 0;
+        while (displacement <= most && !fits(bucket, static_cast<std::uint16_t>(displacement)))
+            ++displacement;
+        if (displacement > most)
+            return std::nullopt;
+        for (std::size_t i = 0; i < bucket.size(); ++i) {
+            isTaken[places[i]] = true;
+            writer.slotOfEntry_[bucket[i]] = places[i];
+        }
+        writer.displacements_[bucketOfKey[bucket.front()]] = static_cast<std::uint16_t>(displacement);
+    }
+    return writer;
+}
+
+void CompiledIndexWriter::write(std::string& file, std::size_t front, std::string_view strings,
+                                std::span<const CompiledIndex::Slot> slots) const {
+    CompiledIndex index = index_;
+    index.front_ = static_cast<std::uint32_t>(front);
+    std::string bytes = "\x4F\x12"; // data with a size of four bytes
+    const std::size_t size = stringsAt() + strings.size() - CompiledIndex::markAt;
+    for (int shift = 24; shift >= 0; shift -= 8)
+        bytes += static_cast<char>(size >> shift & 0xFF);
+    bytes += CompiledIndex::mark;
+    for (const std::uint32_t number :
+         {index.slots_, index.buckets_, index.entries_, index.front_, index.numbersCheck()})
+        appendLittle(bytes, number);
+    for (const std::uint16_t displacement : displacements_)
+        appendLittle(bytes, displacement);
+    std::vector<CompiledIndex::Slot> all(index.slots_);
+    for (std::size_t i = 0; i < slots.size(); ++i)
+        all[slotOfEntry_[i]] = slots[i];
+    for (const CompiledIndex::Slot& slot : all)
+        for (const std::uint32_t number : {slot.keyAt, slot.keySize, slot.textAt, slot.textSize, slot.check})
+            appendLittle(bytes, number);
+    bytes += strings;
+    file.replace(CompiledIndex::objectAt, bytes.size(), bytes);
+    file.replace(file.size() - CompiledIndex::trailerSize, CompiledIndex::trailerMark.size(),
+                 CompiledIndex::trailerMark);
+}
+
+} // namespace StringTables::internal

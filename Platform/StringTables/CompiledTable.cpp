@@ -1,0 +1,31 @@
+#include "StringTables/internal/CompiledTable.h"
+
+#include "StringTables/internal/Unicode.h"
+
+namespace StringTables::internal {
+
+CompiledTable::CompiledTable(std::string front, const CompiledIndex& index)
+    : front_(front.size() < index.slotsEnd() ? std::string() : std::move(front)), index_(index),
+      states_(new std::atomic<std::uint8_t>[front_.empty() ? 0 : index.slots()] {}),
+      left_(static_cast<std::ptrdiff_t>(mostTextPerFront * front_.size())) {}
+
+bool CompiledTable::check(std::uint32_t number, const CompiledIndex::Slot& slot, std::uint64_t hash,
+                          std::string_view text) const noexcept {
+    std::uint8_t state = states_[number].load(std::memory_order_relaxed);
+    if (state != unknown)
+        return state == intact;
+    const auto size = static_cast<std::ptrdiff_t>(text.size());
+    const bool isRight = left_.load(std::memory_order_relaxed) >= size && isIntact(slot, hash, text);
+    // Threads that check one slot at the same time find the same; the first counts.
+    if (states_[number].compare_exchange_strong(state, isRight ? intact : damaged, std::memory_order_relaxed)) {
+        left_.fetch_sub(size, std::memory_order_relaxed);
+        return isRight;
+    }
+    return state == intact;
+}
+
+bool isIntact(const CompiledIndex::Slot& slot, std::uint64_t hash, std::string_view text) noexcept {
+    return slot.check == CompiledIndex::check(hash, text) && firstInvalidUtf8(text) == text.npos;
+}
+
+} // namespace StringTables::internal

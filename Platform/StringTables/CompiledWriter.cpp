@@ -1,0 +1,98 @@
+#include "StringTables/internal/BinaryWriter.h"
+#include "StringTables/internal/CompiledIndex.h"
+#include "StringTables/internal/Scan.h"
+#include "StringTables/internal/Writer.h"
+
+namespace StringTables {
+
+namespace {
+
+using internal::BinaryWriter;
+using internal::CompiledIndex;
+using internal::CompiledIndexWriter;
+
+bool isAscii(std::string_view text) noexcept {
+    const char* const end = text.data() + text.size();
+    return internal::skipAscii(text.data(), end) == end;
+}
+
+// The strings that are not ASCII, each once.
+class Utf8Strings {
+public:
+    explicit Utf8Strings(std::size_t begin) : begin_(begin) {}
+
+    // Where in the file the list's string `number` is in UTF-8.
+    std::size_t at(BinaryWriter::Number number, std::string_view text) {
+        const auto [known, isNew] = places_.try_emplace(number, begin_ + bytes_.size());
+        if (isNew)
+            bytes_ += text;
+        return known->second;
+    }
+    const std::string& bytes() const noexcept { return bytes_; }
+
+private:
+    std::size_t begin_;
+    std::string bytes_;
+    std::unordered_map<BinaryWriter::Number, std::size_t> places_;
+};
+
+// The entries are UTF-8, and the index is that of their hashes.
+std::string writeIndexed(std::span<const Entry> entries, std::span<const std::uint64_t> hashes,
+                         const CompiledIndexWriter& index) {
+    BinaryWriter list;
+    const auto room = list.room();
+    const auto numbered = [&](bool ascii) {
+        for (const Entry& entry : entries)
+            for (const std::string_view string : {entry.key, entry.text})
+                if (isAscii(string) == ascii)
+                    list.string(string);
+    };
+    numbered(true);
+    const auto dictionary = list.dictionary();
+    numbered(false);
+    Utf8Strings utf8(index.stringsAt());
+    for (const Entry& entry : entries) {
+        list.add(dictionary, list.string(entry.key), list.string(entry.text));
+        for (const std::string_view string : {entry.key, entry.text})
+            if (!isAscii(string))
+                utf8.at(list.string(string), string);
+    }
+    list.setRoom(room, index.objectSize(utf8.bytes().size()));
+    std::string bytes = list.write();
+
+    const auto place = [&](std::string_view string) {
+        const auto number = list.string(string);
+        return static_cast<std::uint32_t>(isAscii(string) ? list.charactersAt(number) : utf8.at(number, string));
+    };
+    std::vector<CompiledIndex::Slot> slots;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const auto& [key, text, offset] = entries[i];
+        slots.push_back({.keyAt = place(key),
+                         .keySize = static_cast<std::uint32_t>(key.size()),
+                         .textAt = place(text),
+                         .textSize = static_cast<std::uint32_t>(text.size()),
+                         .check = CompiledIndex::check(hashes[i], text)});
+    }
+    index.write(bytes, list.offset(dictionary), utf8.bytes(), slots);
+    return bytes;
+}
+
+} // namespace
+
+Runtime::Result<std::string> writeCompiled(std::span<const Entry> entries) {
+    auto plain = write(entries, Form::binary);
+    if (!plain || sizeOf(entries) > 2 * plain->size())
+        return plain;
+    std::vector<std::uint64_t> hashes;
+    for (const Entry& entry : entries)
+        hashes.push_back(keyHash(entry.key));
+    const auto index = CompiledIndexWriter::make(hashes);
+    if (!index)
+        return plain;
+    std::string bytes = writeIndexed(entries, hashes, *index);
+    if (auto fits = checkWrittenSize(bytes.size()); !fits)
+        return std::move(fits.error());
+    return bytes;
+}
+
+} // namespace StringTables

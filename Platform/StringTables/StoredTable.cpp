@@ -1,0 +1,130 @@
+#include "StringTables/internal/StoredTable.h"
+
+#include "Runtime/internal/TransientError.h"
+#include <algorithm>
+
+namespace StringTables {
+
+namespace {
+
+using internal::CompiledIndex;
+
+// Parts of an open file, one block of it in memory.
+class FileParts {
+public:
+    explicit FileParts(const Runtime::OpenFile& file) noexcept : file_(file) {}
+
+    std::string_view bytes(std::size_t at, std::size_t size) {
+        if (const auto there = inBlock(at); there.size() >= size)
+            return there.substr(0, size);
+        if (size > block_.size())
+            return inLongBlock(at, size);
+        begin_ = at;
+        size_ = read(block_.data(), block_.size());
+        return inBlock(at).substr(0, size);
+    }
+
+private:
+    std::string_view inBlock(std::size_t at) const noexcept {
+        return at >= begin_ && at - begin_ <= size_ ? std::string_view(block_.data(), size_).substr(at - begin_)
+                                                    : std::string_view();
+    }
+    std::string_view inLongBlock(std::size_t at, std::size_t size) {
+        begin_ = at;
+        size_ = 0;
+        long_.resize(std::min(size, file_.size()));
+        return std::string_view(long_).substr(0, read(long_.data(), long_.size()));
+    }
+    std::size_t read(char* out, std::size_t size) const {
+        const auto filled = file_.read(out, size, begin_);
+        if (!filled)
+            Runtime::throwIfTransient(filled.error());
+        return filled ? *filled : 0;
+    }
+
+    const Runtime::OpenFile& file_;
+    // Covers the index's head and displacements in a table of 2,000 entries, and nearly every key or text.
+    std::array<char, 1024> block_;
+    std::size_t begin_ = 0, size_ = 0; // of what is in it
+    std::string long_;
+};
+
+Runtime::Result<std::string> readFront(const Runtime::OpenFile& file, const CompiledIndex& index) {
+    std::string front(std::min(index.front(), file.size()), '\0');
+    const auto filled = file.read(front.data(), front.size(), 0);
+    if (!filled)
+        return filled.error();
+    front.resize(*filled);
+    return front;
+}
+
+} // namespace
+
+StoredTable::~StoredTable() {
+    for (const auto& part : parts_)
+        delete part.load(std::memory_order_relaxed);
+    if (whole_.isMade())
+        std::destroy_at(const_cast<Whole*>(&whole_.value())); // once-slots leave that to their owner
+}
+
+// With the right hash, if the one that was given is not.
+std::optional<std::string_view> StoredTable::Whole::findAgain(std::string_view key, std::uint64_t hash) const noexcept {
+    const std::uint64_t right = keyHash(key);
+    const std::string_view text = hash == right ? std::string_view() : compiled->find(key, right);
+    return text.data() == nullptr ? std::nullopt : std::optional(text);
+}
+
+// Threads that read a part at the same time may all read it; one of the parts is kept.
+std::optional<std::string_view> StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
+    std::unique_ptr<const Part> made;
+    for (std::atomic<const Part*>& slot : parts_) {
+        const Part* part = slot.load(std::memory_order_acquire);
+        if (part == nullptr && !made)
+            made = readPart(key);
+        if (part == nullptr && !made)
+            break;
+        if (part == nullptr && slot.compare_exchange_strong(part, made.get(), std::memory_order_acq_rel))
+            part = made.release();
+        if (part->key == key)
+            return part->text;
+    }
+    return whole_.get([this] { return readWhole(); }).find(key, hash);
+}
+
+// Null where the file is to be read whole: it has no index, is small, or is not the one of the other parts.
+std::unique_ptr<const StoredTable::Part> StoredTable::readPart(std::string_view key) const {
+    static constexpr std::size_t smallFile = 8192;
+    const auto file = Runtime::OpenFile::open(path_, Table::maxBytes);
+    if (!file)
+        Runtime::throwIfTransient(file.error());
+    const Part* const first = parts_.front().load(std::memory_order_acquire);
+    if (!file || file->size() < smallFile || (first != nullptr && first->file != file->identity()))
+        return nullptr;
+    FileParts source(*file);
+    CompiledIndex index;
+    if (CompiledIndex::recognize(source.bytes(0, CompiledIndex::headSize), index) != CompiledIndex::State::present)
+        return nullptr;
+    return std::make_unique<Part>(Part{std::string(key), findIn(source, index, key, keyHash(key)), file->identity()});
+}
+
+StoredTable::Whole StoredTable::readWhole() const {
+    const auto file = Runtime::OpenFile::open(path_, Table::maxBytes);
+    if (!file) {
+        Runtime::throwIfTransient(file.error());
+        return Whole();
+    }
+    FileParts source(*file);
+    CompiledIndex index;
+    if (CompiledIndex::recognize(source.bytes(0, CompiledIndex::headSize), index) == CompiledIndex::State::present) {
+        auto front = readFront(*file, index);
+        if (!front)
+            Runtime::throwIfTransient(front.error());
+        return Whole(front ? *std::move(front) : std::string(), index);
+    }
+    auto table = Table::readFile(path_);
+    if (!table)
+        Runtime::throwIfTransient(table.error());
+    return Whole(table ? *std::move(table) : Table());
+}
+
+} // namespace StringTables

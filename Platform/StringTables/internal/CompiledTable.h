@@ -1,0 +1,82 @@
+// StringTables/internal/CompiledTable.h
+// Look-ups in a compiled table. Everything is checked when it is used: whatever the bytes are, a text is the one that
+// was compiled for the key, or there is none. Text: UTF-8. Threads: any; look-ups take no lock. Ownership: views live
+// as long as the table.
+#pragma once
+
+#include "StringTables/internal/CompiledIndex.h"
+#include <algorithm>
+#include <atomic>
+#include <cstring>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace StringTables::internal {
+
+// The front of a compiled table in memory.
+class CompiledTable {
+public:
+    // `front`: of the file, index.front() bytes or fewer.
+    CompiledTable(std::string front, const CompiledIndex& index);
+
+    // The text of `key`, whose hash is `hash`; a view of nothing, whose data() is null, where there is none.
+    [[nodiscard]] std::string_view find(std::string_view key, std::uint64_t hash) const noexcept {
+        if (front_.empty())
+            return {};
+        const auto displacement = loadLittle<std::uint16_t>(front_.data() + index_.displacementAt(hash));
+        const std::uint32_t number = index_.slot(hash, displacement);
+        const CompiledIndex::Slot slot = CompiledIndex::slotFrom(front_.data() + index_.slotAt(number));
+        if (slot.keySize != key.size() || !isInside(slot.keyAt, slot.keySize) ||
+            std::memcmp(front_.data() + slot.keyAt, key.data(), key.size()) != 0 ||
+            !isInside(slot.textAt, slot.textSize))
+            return {};
+        const std::string_view text(front_.data() + slot.textAt, slot.textSize);
+        const bool isIntact = states_[number].load(std::memory_order_relaxed) == intact;
+        return isIntact || check(number, slot, hash, text) ? text : std::string_view();
+    }
+
+private:
+    enum State : std::uint8_t { unknown, intact, damaged };
+
+    bool isInside(std::size_t at, std::size_t size) const noexcept { return at + size <= front_.size(); }
+    bool check(std::uint32_t number, const CompiledIndex::Slot& slot, std::uint64_t hash,
+               std::string_view text) const noexcept;
+
+    std::string front_; // empty if it ends within the slots
+    CompiledIndex index_;
+    std::unique_ptr<std::atomic<std::uint8_t>[]> states_; // of the slots
+    // How many bytes of text may still be checked: an index whose slots all name one long text costs linear time.
+    mutable std::atomic<std::ptrdiff_t> left_;
+};
+
+// Of the texts of all entries together, of which a writer of tables makes less.
+inline constexpr std::size_t mostTextPerFront = 8;
+
+// Whether the text is UTF-8 and the one that belongs to the key.
+[[nodiscard]] bool isIntact(const CompiledIndex::Slot& slot, std::uint64_t hash, std::string_view text) noexcept;
+
+// One look-up in a file of which only parts are read. Source: a class with
+//   std::string_view bytes(std::size_t at, std::size_t size);  that part of the file, valid until the next call;
+//   shorter
+//                                                           where the file ends
+template <class Source>
+std::optional<std::string> findIn(Source& source, const CompiledIndex& index, std::string_view key,
+                                  std::uint64_t hash) {
+    const std::string_view displacement = source.bytes(index.displacementAt(hash), sizeof(std::uint16_t));
+    if (displacement.size() < sizeof(std::uint16_t))
+        return std::nullopt;
+    const std::uint32_t number = index.slot(hash, loadLittle<std::uint16_t>(displacement.data()));
+    const std::string_view bytes = source.bytes(index.slotAt(number), CompiledIndex::slotSize);
+    if (bytes.size() < CompiledIndex::slotSize)
+        return std::nullopt;
+    const CompiledIndex::Slot slot = CompiledIndex::slotFrom(bytes.data());
+    if (slot.keySize != key.size() || source.bytes(slot.keyAt, slot.keySize) != key || slot.textSize > index.front())
+        return std::nullopt;
+    const std::string_view text = source.bytes(slot.textAt, slot.textSize);
+    const bool isThere = text.size() == slot.textSize && isIntact(slot, hash, text);
+    return isThere ? std::optional(std::string(text)) : std::nullopt;
+}
+
+} // namespace StringTables::internal
