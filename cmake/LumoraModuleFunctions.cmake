@@ -68,14 +68,17 @@ function(lumora_add_module name)
     endif()
 
     set(generated ${CMAKE_CURRENT_BINARY_DIR}/${name}.generated)
+    file(MAKE_DIRECTORY ${generated})
     set(folder ${generated}/${name})
     set(code ${folder}/${name}Resources.cpp ${folder}/${name}Asset.cpp ${folder}/${name}Strings.cpp)
     foreach(shard RANGE 1 ${arg_SHARDS})
         list(APPEND code ${folder}/${name}Strings-${shard}.cpp)
     endforeach()
+    # They change with every header that they include, so that a build compiles again what uses one.
+    set(known ${folder}/${name}Strings.h ${folder}/${name}Asset.h)
     list(TRANSFORM arg_INCLUDE REPLACE "(.+)" "--include;\\1" OUTPUT_VARIABLE includes)
     list(TRANSFORM arg_HEADERS REPLACE "(.+)" "--header;\\1" OUTPUT_VARIABLE headers)
-    _lumora_run(STAMP ${generated}/generated.stamp BYPRODUCTS ${code} COMMENT "Generating ${name}Strings and ${name}Asset"
+    _lumora_run(STAMP ${generated}/generated.stamp BYPRODUCTS ${code} ${known} COMMENT "Generating ${name}Strings and ${name}Asset"
                 ARGUMENTS generate ${sources} --module ${name} -o ${folder} --shards ${arg_SHARDS} ${includes} ${headers} ${options})
     add_library(${name} SHARED ${code} ${generated}/generated.stamp)
     target_compile_features(${name} PUBLIC cxx_std_20)

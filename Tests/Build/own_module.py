@@ -3,6 +3,7 @@ again: with Ninja and with Make."""
 import os
 import pathlib
 import shutil
+import subprocess
 import tempfile
 
 from packaging import expect, options, run, source
@@ -76,9 +77,13 @@ def build_and_change(prefix, folder, generator):
         raise SystemExit("a call with too few arguments compiled")
     expect(f"{generator}: configured once", (build / "CMakeCache.txt").stat().st_mtime_ns, configured)
 
-    # Without its bundle a program says where it looked.
+    replace(shop / "Resources/en.lproj/Localizable.strings", "Good to see you, %@ and %@!", "Good to see you, %@!")
+    run(*make)
+
+    # Without its bundle a program stops at its first asset, and names it.
     shutil.rmtree(bundle)
-    expect("without bundle", shown(program, "en")[0], "home.title: home.subtitle")
+    done = subprocess.run([program], capture_output=True, text=True)
+    expect("without bundle", (done.returncode < 0, "Unable to load color asset named copper." in done.stderr), (True, True))
 
 
 with tempfile.TemporaryDirectory(prefix="lumora-module-") as top:

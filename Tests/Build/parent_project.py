@@ -10,7 +10,7 @@ from packaging import NUMBER, compile_by_pkg_config, expect, options, run, russi
 
 def installed(prefix, library):
     """The relative names of what two installations must have in common, without the packages' own paths."""
-    return {str(path.relative_to(prefix)).replace(str(library.relative_to(prefix)), "LIB"): path
+    return {str(path.relative_to(prefix)).replace(f"{library.relative_to(prefix)}/", "LIB/"): path
             for path in prefix.rglob("*") if path.is_file() and path.suffix not in (".cmake", ".pc")}
 
 

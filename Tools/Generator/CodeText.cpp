@@ -2,6 +2,7 @@
 
 #include "Generator/Unicode.h"
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 
 namespace Generator {
@@ -67,6 +68,16 @@ std::string visibleText(std::string_view text, std::size_t limit) {
 
 std::string quote(std::string_view text) {
     return '"' + visibleText(text) + '"';
+}
+
+std::string fingerprint(std::span<const std::string_view> texts) {
+    std::uint64_t hash = 0xCBF29CE484222325; // FNV-1a
+    for (const std::string_view text : texts)
+        for (const char byte : text)
+            hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
+    char digits[17];
+    std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hash));
+    return digits;
 }
 
 std::size_t columnsOf(std::string_view text) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,9 @@ namespace Generator {
 
 // The same in quotation marks.
 [[nodiscard]] std::string quote(std::string_view text);
+
+// A number that is the same for the same texts, on every machine, in hexadecimal.
+[[nodiscard]] std::string fingerprint(std::span<const std::string_view> texts);
 
 // How many columns of a terminal the text takes.
 [[nodiscard]] std::size_t columnsOf(std::string_view text);

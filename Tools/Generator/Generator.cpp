@@ -52,6 +52,17 @@ std::string moduleHeader(const Options& options) {
     return code.take();
 }
 
+// Adds to NAME.h a line that changes with the headers in the folder NAME.
+void addFingerprint(const std::string& name, std::vector<OutputFile>& files) {
+    std::vector<std::string_view> headers;
+    for (const OutputFile& file : files)
+        if (file.path.parent_path() == name)
+            headers.push_back(file.content);
+    for (OutputFile& file : files)
+        if (file.path == name + ".h")
+            file.content += "\n// Fingerprint of these headers: " + fingerprint(headers) + "\n";
+}
+
 } // namespace
 
 void check(const Options& options, Diagnostics& diagnostics) {
@@ -81,6 +92,9 @@ std::vector<OutputFile> filesOf(const Model& model, const Options& options) {
     std::vector<OutputFile> files = emitStrings(model.tables, options);
     std::ranges::move(emitAssets(model.assetTree.constants, options), std::back_inserter(files));
     files.push_back({options.module + ".h", moduleHeader(options)});
+    // A build knows these by name, and by them sees that a header has changed that they include.
+    for (const std::string tree : {"Strings", "Asset"})
+        addFingerprint(options.module + tree, files);
     return files;
 }
 

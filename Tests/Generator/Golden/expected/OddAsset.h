@@ -4,3 +4,5 @@
 
 #include "OddAsset/Looks.h"
 #include "OddAssetRecords.h"
+
+// Fingerprint of these headers: 13b3c00dfd49668d

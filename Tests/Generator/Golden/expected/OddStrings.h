@@ -5,3 +5,5 @@
 #include "OddStrings/Localizable.h"
 #include "OddStrings/OddNames.h"
 #include "Runtime/Class.h"
+
+// Fingerprint of these headers: 7273a3426d26608f
