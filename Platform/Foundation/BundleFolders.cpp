@@ -27,8 +27,8 @@ bool isAt(DIR* directory, const std::string& path) noexcept {
            opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
 }
 
-// In no order. No value when another bundle took the place of this one meanwhile: its folders may have been removed while
-// they were listed.
+// In no order. No value when another bundle took the place of this one meanwhile: its folders may have been removed
+// while they were listed.
 std::optional<std::vector<std::string>> listedFolders(const std::string& bundle) {
     std::vector<std::string> names;
     const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(bundle.c_str()), &::closedir);
@@ -47,18 +47,7 @@ std::optional<std::vector<std::string>> listedFolders(const std::string& bundle)
     return isAt(directory.get(), bundle) ? std::optional(std::move(names)) : std::nullopt;
 }
 
-} // namespace
-
-std::string developmentRegion(const std::string& bundle) {
-    const auto information =
-        StringTables::Table::readFile(std::string(bundle).append("/").append(layout::informationFile));
-    if (!information)
-        Runtime::throwIfTransient(information.error());
-    const auto region = information ? information->find(layout::developmentRegionKey) : std::nullopt;
-    return std::string(region.value_or(layout::defaultRegion));
-}
-
-std::vector<std::string> languageFolders(const std::string& bundle) {
+std::vector<std::string> listed(const std::string& bundle) {
     constexpr int mostUpgrades = 16; // of the bundle while it is listed
     if (bundle.find('\0') != bundle.npos)
         return {};
@@ -68,6 +57,38 @@ std::vector<std::string> languageFolders(const std::string& bundle) {
             return *std::move(names);
         }
     throw std::system_error(EAGAIN, std::generic_category());
+}
+
+std::vector<std::string> split(std::string_view list) {
+    std::vector<std::string> names;
+    for (std::size_t end = 0; (end = list.find(layout::languageSeparator)) != list.npos; list.remove_prefix(end + 1))
+        names.emplace_back(list.substr(0, end));
+    return names;
+}
+
+// Whether the directory has as many folders as there are names. File systems count them as links, or do not count.
+bool hasAsManyFolders(const std::string& bundle, std::size_t names) noexcept {
+    struct stat status {};
+    constexpr nlink_t ownLinks = 2; // its name in its parent, and "."
+    return ::stat(bundle.c_str(), &status) == 0 && (status.st_nlink == 1 || status.st_nlink == ownLinks + names);
+}
+
+} // namespace
+
+BundleFolders bundleFolders(const std::string& bundle) {
+    const auto read = StringTables::Table::readFile(std::string(bundle).append("/").append(layout::informationFile));
+    if (!read)
+        Runtime::throwIfTransient(read.error());
+    const auto find = [&](std::string_view key) { return read ? read->find(key) : std::nullopt; };
+    BundleFolders folders{.developmentLanguage =
+                              std::string(find(layout::developmentRegionKey).value_or(layout::defaultRegion)),
+                          .languages = split(find(layout::languagesKey).value_or("")),
+                          .mayHavePlurals = find(layout::pluralsKey) != "no"};
+    if (folders.languages.empty() || !hasAsManyFolders(bundle, folders.languages.size())) {
+        folders.languages = listed(bundle);
+        folders.mayHavePlurals = true;
+    }
+    return folders;
 }
 
 } // namespace Foundation::detail

@@ -70,8 +70,8 @@ struct Localization::LoadedTable {
     }
 };
 
-Localization::Localization(std::string_view name, std::string directory, std::string_view language)
-    : name_(name), directory_(std::move(directory)), language_(language) {}
+Localization::Localization(std::string_view name, std::string directory, std::string_view language, bool mayHavePlurals)
+    : name_(name), directory_(std::move(directory)), language_(language), mayHavePlurals_(mayHavePlurals) {}
 
 std::optional<LocalizedFormat> Localization::find(std::string_view key, std::string_view table) {
     if (LoadedTable* const known = tables_.find(table))
@@ -85,9 +85,11 @@ Localization::LoadedTable* Localization::load(std::string_view name) {
     if (!layout::isFileName(name))
         return nullptr;
     std::string texts = pathOf(name, layout::textsSuffix);
-    const std::string plurals = pathOf(name, layout::pluralsSuffix);
-    const bool exists = ::access(texts.c_str(), F_OK) == 0 || ::access(plurals.c_str(), F_OK) == 0;
-    return tables_.add(exists ? tables_.unlimited : mostMissing, name, std::move(texts), readPlurals(plurals));
+    const std::string plurals = mayHavePlurals_ ? pathOf(name, layout::pluralsSuffix) : std::string();
+    const bool exists =
+        ::access(texts.c_str(), F_OK) == 0 || (mayHavePlurals_ && ::access(plurals.c_str(), F_OK) == 0);
+    return tables_.add(exists ? tables_.unlimited : mostMissing, name, std::move(texts),
+                       mayHavePlurals_ ? readPlurals(plurals) : StringTables::PluralTable());
 }
 
 std::optional<std::string> Localization::damage(std::string_view table) const {

@@ -41,11 +41,13 @@ std::string versionedFolder(std::string_view library) {
 } // namespace
 
 struct NSBundle::Contents {
-    explicit Contents(std::string bundlePath)
-        : bundle(*this), path(std::move(bundlePath)), developmentLocalization(detail::developmentRegion(path)) {
-        for (const std::string& name : detail::languageFolders(path)) {
+    explicit Contents(const std::string& bundlePath) : Contents(bundlePath, detail::bundleFolders(bundlePath)) {}
+
+    Contents(std::string bundlePath, const detail::BundleFolders& found)
+        : bundle(*this), path(std::move(bundlePath)), developmentLocalization(found.developmentLanguage) {
+        for (const std::string& name : found.languages) {
             const std::string& language = name == layout::baseName ? developmentLocalization : name;
-            folders.emplace_back(name, path + "/" + layout::folderOfLanguage(name), language);
+            folders.emplace_back(name, path + "/" + layout::folderOfLanguage(name), language, found.mayHavePlurals);
             localizations.push_back(language);
         }
         std::ranges::sort(localizations);

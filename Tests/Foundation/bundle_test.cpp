@@ -125,6 +125,26 @@ TEST_F(Bundle, TakesItsDevelopmentRegionFromInfoPlist) {
     EXPECT_EQ(text("a"), "un");
 }
 
+// `lumora compile` notes the languages; a note that the folder contradicts does not count.
+TEST_F(Bundle, TakesItsLanguagesFromInfoPlistIfTheyAreThere) {
+    const auto write = [](const Support::TemporaryFolder& folder, const char* noted) {
+        folder.write("Info.plist", std::string("LumoraLanguages = \"") + noted + "\"; LumoraPlurals = no;");
+        folder.write("Base.lproj/T.strings", "a = text;");
+        folder.write("de.lproj/T.strings", "a = deutsch;");
+    };
+    const Support::TemporaryFolder right, tooFew, none;
+    write(right, "Base/de/");
+    write(tooFew, "Base/");
+    write(none, "");
+    const Languages expected = {"de", "en"};
+    Host::setPreferredLanguages({"de"});
+    for (const auto* folder : {&right, &tooFew, &none}) {
+        const NSBundle& noted = NSBundle::bundleWithPath(folder->path());
+        EXPECT_EQ(noted.localizations(), expected);
+        EXPECT_EQ(noted.localizedText("a", "T"), "deutsch");
+    }
+}
+
 TEST_F(Bundle, FindsTheFilesOfOneLocalization) {
     write("Base.lproj/Localizable.strings", "");
     write("ru.lproj/help/page.html", "");

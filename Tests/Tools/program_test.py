@@ -77,7 +77,7 @@ class Program(unittest.TestCase):
         for wrong, meant in ((["chek", "x"], "check"), (["help", "tex"], "text"), (["gallery", "--modul", "a", "-o", "x"], "--module"),
                              (["asset", "sned", "-o", "x"], "send"), (["text", "Contineu"], "Continue")):
             with self.subTest(wrong):
-                self.assertIn(f"; did you mean {meant}?", run(*wrong)[2])
+                self.assertIn(f'; did you mean "{meant}"?', run(*wrong)[2])
         for word in ("something else", "x" * 5000):
             self.assertNotIn("did you mean", run(word)[2])
             self.assertNotIn("did you mean", run("text", word)[2])

@@ -5,7 +5,7 @@
 #include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/Table.h"
 #include "StringTables/internal/Writer.h"
-#include <array>
+#include <set>
 #include <vector>
 
 namespace Compiler {
@@ -23,29 +23,55 @@ namespace {
 namespace layout = StringTables::bundleLayout;
 constexpr std::string_view regionKey = layout::developmentRegionKey;
 
-Runtime::Result<std::string> smallestInfo(const Source& source) {
-    const std::array<Entry, 1> entries = {{{regionKey, source.developmentLanguage}}};
+// The language folders that the bundle will have, as bundleLayout::languagesKey wants them.
+std::string languagesOf(const Source& source) {
+    std::set<std::string> names;
+    for (const SourceTable& table : source.tables)
+        for (const LanguageTexts& texts : table.languages)
+            names.insert(texts.language);
+    std::string list;
+    for (const std::string& name : names)
+        list.append(name) += layout::languageSeparator;
+    return list;
+}
+
+bool hasPlurals(const Source& source) {
+    for (const SourceTable& table : source.tables)
+        for (const LanguageTexts& texts : table.languages)
+            for (const SourceBundle::SourceEntry& entry : texts.entries())
+                if (entry.plural != nullptr)
+                    return true;
+    return false;
+}
+
+// `entries` with what is known of the source, in the form that is read fastest: a program reads it before its first
+// text.
+Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source& source) {
+    const std::string languages = languagesOf(source);
+    const Entry own[] = {{regionKey, source.developmentLanguage},
+                         {layout::languagesKey, languages},
+                         {layout::pluralsKey, hasPlurals(source) ? "yes" : "no"}};
+    for (const Entry& one : own) {
+        std::erase_if(entries, [&one](const Entry& entry) { return entry.key == one.key; });
+        entries.push_back(one);
+    }
     return StringTables::write(entries, Form::binary);
 }
 
-// The source's Info.plist, or one that says the development language. In the form that is read fastest, as a program
-// reads it before its first text; one that holds more than texts stays as it is unless its language has to change.
+// The source's Info.plist, or one that says the development language. One that holds more than texts stays as it is
+// unless its language has to change.
 Runtime::Result<std::string> info(const Source& source) {
     if (source.infos.empty())
-        return smallestInfo(source);
+        return completed({}, source);
     auto bytes = Runtime::readFile(source.infos.front(), Table::maxBytes);
     if (!bytes)
         return bytes;
     const auto table = Table::read(*bytes);
     if (!table)
-        return smallestInfo(source);
-    const bool saysLanguage = table->find(regionKey) == source.developmentLanguage;
-    if (saysLanguage && !table->notes().empty())
+        return completed({}, source);
+    if (table->find(regionKey) == source.developmentLanguage && !table->notes().empty())
         return bytes;
-    std::vector<Entry> entries(table->entries().begin(), table->entries().end());
-    std::erase_if(entries, [](const Entry& entry) { return entry.key == regionKey; });
-    entries.push_back({regionKey, source.developmentLanguage});
-    return StringTables::write(entries, Form::binary);
+    return completed({table->entries().begin(), table->entries().end()}, source);
 }
 
 Runtime::Result<void> place(const StagedFolder& out, const fs::path& file, Runtime::Result<std::string> bytes) {

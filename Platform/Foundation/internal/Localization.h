@@ -14,7 +14,7 @@ namespace Foundation::detail {
 class Localization {
 public:
     // `name`: of the folder, "Base" or a language; `directory`: its path; `language`: the BCP 47 tag of its texts.
-    Localization(std::string_view name, std::string directory, std::string_view language);
+    Localization(std::string_view name, std::string directory, std::string_view language, bool mayHavePlurals);
 
     std::string_view name() const noexcept { return name_; }
 
@@ -33,6 +33,7 @@ private:
     std::string name_;
     std::string directory_;
     std::string language_;
+    bool mayHavePlurals_;
     // Those that were found, and so many that were not: a program may look for any number of others.
     Runtime::KeyedStore<LoadedTable, 16> tables_;
     static constexpr std::size_t mostMissing = 64;

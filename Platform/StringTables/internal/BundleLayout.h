@@ -21,6 +21,12 @@ inline constexpr std::string_view informationFile = "Info.plist";
 inline constexpr std::string_view developmentRegionKey = "CFBundleDevelopmentRegion";
 inline constexpr std::string_view defaultRegion = "en";
 
+// What `lumora compile` adds to Info.plist, so that no directory has to be listed: the names of the language folders,
+// each followed by a separator, and whether one of them has plurals ("yes", "no").
+inline constexpr std::string_view languagesKey = "LumoraLanguages";
+inline constexpr std::string_view pluralsKey = "LumoraPlurals";
+inline constexpr char languageSeparator = '/'; // no folder has it in its name
+
 // "de" for "de.lproj"; empty for another name.
 constexpr std::string_view languageOfFolder(std::string_view folder) noexcept {
     return folder.ends_with(languageSuffix) ? folder.substr(0, folder.size() - languageSuffix.size())
