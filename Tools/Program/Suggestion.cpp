@@ -10,7 +10,7 @@ namespace Tools {
 namespace {
 
 constexpr std::size_t maxComparedBytes = 100;
-constexpr unsigned costOfEdit = 2; // of a letter that is missing, superfluous or another
+constexpr unsigned costOfEdit = 2; // of a letter that is missing, superfluous or another, or two that changed places
 constexpr unsigned costOfCase = 1;
 
 unsigned substitutionCost(char one, char other) {
@@ -20,18 +20,20 @@ unsigned substitutionCost(char one, char other) {
     return lower(one) == lower(other) ? costOfCase : costOfEdit;
 }
 
-// The least cost of edits that make `other` of `one` (Levenshtein), row by row.
+// The least cost of edits that make `other` of `one`, row by row. Two letters that changed places are one edit.
 unsigned editCost(std::string_view one, std::string_view other) {
-    std::vector<unsigned> row(other.size() + 1);
-    for (std::size_t i = 0; i < row.size(); ++i)
-        row[i] = static_cast<unsigned>(i) * costOfEdit;
-    for (const char letter : one) {
-        unsigned diagonal = row[0];
-        row[0] += costOfEdit;
-        for (std::size_t i = 0; i < other.size(); ++i) {
-            const unsigned substituted = diagonal + substitutionCost(letter, other[i]);
-            diagonal = row[i + 1];
-            row[i + 1] = std::min({substituted, row[i] + costOfEdit, row[i + 1] + costOfEdit});
+    std::vector<unsigned> row(other.size() + 1), last(row), beforeLast(row);
+    for (std::size_t j = 0; j < row.size(); ++j)
+        row[j] = static_cast<unsigned>(j) * costOfEdit;
+    for (std::size_t i = 1; i <= one.size(); ++i) {
+        beforeLast.swap(last);
+        last.swap(row);
+        row[0] = last[0] + costOfEdit;
+        for (std::size_t j = 1; j < row.size(); ++j) {
+            const unsigned substituted = last[j - 1] + substitutionCost(one[i - 1], other[j - 1]);
+            row[j] = std::min({substituted, row[j - 1] + costOfEdit, last[j] + costOfEdit});
+            if (i > 1 && j > 1 && one[i - 1] == other[j - 2] && one[i - 2] == other[j - 1])
+                row[j] = std::min(row[j], beforeLast[j - 2] + costOfEdit);
         }
     }
     return row.back();
