@@ -1,14 +1,20 @@
-"""Prints a header with its comments as doxygen takes them; other files as they are. Doxygen runs it for each file."""
+"""Prints a header with its comments as doxygen takes them, and a page with each % that doxygen would drop. Doxygen runs it for
+each file."""
 import re
 import sys
 
-SPECIAL = re.compile(r"[\\@#<>%&]")
+SPECIAL = re.compile(r"(?<!\w)@|[\\#<>%&]")  # behind a letter, doxygen takes @ for itself
+CODE = re.compile(r"(`[^`\n]+`)")
+
+
+def code(span):
+    """Code in a line of text: doxygen drops a single % before a letter there."""
+    return re.sub(r"%(?=[A-Za-z_])", "%%", span)
 
 
 def plain(text):
     """Words as doxygen prints them; `code` stays code."""
-    parts = re.split(r"(`[^`]*`)", text)
-    return "".join(part if part.startswith("`") else SPECIAL.sub(r"\\\g<0>", part) for part in parts)
+    return "".join(code(part) if part.startswith("`") else SPECIAL.sub(r"\\\g<0>", part) for part in CODE.split(text))
 
 
 def documented(line):
@@ -30,4 +36,6 @@ if name.endswith(".h"):
         print("/// \\file")
         first = 1
     lines = [documented(line) for line in lines[first:]]
+else:
+    lines = [line if line.startswith("    ") else CODE.sub(lambda span: code(span[0]), line) for line in lines]
 print("\n".join(lines))
