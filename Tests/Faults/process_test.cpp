@@ -114,14 +114,16 @@ TEST(Process, AChildForkedDuringAFirstReadReadsAll) {
     for (int i = 0; i < 200; ++i)
         ASSERT_EQ(Child::exitOf([i] {
                       useRussian();
-                      std::latch start(2);
+                      std::latch start(2), forked(1);
                       std::thread reader([&] {
                           start.arrive_and_wait();
                           readsAll();
+                          forked.wait(); // the sanitizer would take a thread that has ended for one that the child leaks
                       });
                       start.arrive_and_wait();
                       ::usleep(static_cast<useconds_t>(i * 20)); // to be forked at another moment each time
                       const int code = Child::exitOf(useAll);
+                      forked.count_down();
                       reader.join();
                       return code;
                   }),
