@@ -3,6 +3,7 @@
 #include "SourcePictures/GlibPointers.h"
 #include <cmath>
 #include <librsvg/rsvg.h>
+#include <mutex>
 #include <optional>
 #include <poppler.h>
 #include <string>
@@ -138,10 +139,19 @@ DrawingResult wholeDrawing(Owned<RsvgHandle> drawing) {
     return elementOf(std::move(drawing), nullptr);
 }
 
+// Poppler shares color profiles and fonts between documents without a lock, so one thread at a time has a page, from
+// before it is read until what was drawn of it is complete. Recursive: a thread may have several.
+using PopplerLock = std::unique_lock<std::recursive_mutex>;
+
+PopplerLock lockPoppler() {
+    static std::recursive_mutex mutex;
+    return PopplerLock(mutex);
+}
+
 class PdfPage final : public DrawingForm {
 public:
-    PdfPage(Owned<PopplerDocument> document, Owned<PopplerPage> page)
-        : document_(std::move(document)), page_(std::move(page)) {}
+    PdfPage(PopplerLock lock, Owned<PopplerDocument> document, Owned<PopplerPage> page)
+        : lock_(std::move(lock)), document_(std::move(document)), page_(std::move(page)) {}
 
     Size size() const override {
         Size size;
@@ -154,6 +164,7 @@ public:
     }
 
 private:
+    PopplerLock lock_; // released after the page and its document
     Owned<PopplerDocument> document_;
     Owned<PopplerPage> page_;
 };
@@ -178,6 +189,7 @@ DrawingResult readSymbol(std::string_view bytes) {
 }
 
 DrawingResult readPdf(std::string_view bytes) {
+    PopplerLock lock = lockPoppler();
     GError* error = nullptr;
     const Owned<GBytes> data(g_bytes_new_static(bytes.data(), bytes.size()));
     Owned<PopplerDocument> document(poppler_document_new_from_bytes(data.get(), nullptr, &error));
@@ -186,7 +198,7 @@ DrawingResult readPdf(std::string_view bytes) {
     Owned<PopplerPage> page(poppler_document_get_page(document.get(), 0));
     if (page == nullptr)
         return damaged("drawing", nullptr);
-    return DrawingResult(std::make_unique<PdfPage>(std::move(document), std::move(page)));
+    return DrawingResult(std::make_unique<PdfPage>(std::move(lock), std::move(document), std::move(page)));
 }
 
 } // namespace SourcePictures

@@ -28,7 +28,7 @@ using DrawingResult = Runtime::Result<std::unique_ptr<const DrawingForm>>;
 // Of a symbol's template the regular drawing: of medium size, or else of the small or large one; without any of them
 // the whole drawing.
 [[nodiscard]] DrawingResult readSymbol(std::string_view bytes);
-// The first page.
+// The first page. While a thread has one, other threads wait here; it is destroyed by the thread that read it.
 [[nodiscard]] DrawingResult readPdf(std::string_view bytes);
 
 } // namespace SourcePictures
