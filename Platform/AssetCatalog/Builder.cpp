@@ -29,8 +29,9 @@ template <class Variant> void order(std::vector<Variant>& variants) {
         return std::tuple(std::string_view(variant.language), fit.direction, fit.appearance, fit.contrast, fit.scale);
     };
     std::ranges::stable_sort(variants, {}, key);
-    const auto twins = std::ranges::unique(variants, {}, key);
-    variants.erase(twins.begin(), twins.end());
+    const auto areTwins = [&key](const auto& one, const auto& other) { return key(one) == key(other); };
+    // Not the one of std::ranges, which clang 14 cannot compile with this standard library.
+    variants.erase(std::unique(variants.begin(), variants.end(), areTwins), variants.end());
 }
 
 // Blobs in the order in which they were added, equal ones once.

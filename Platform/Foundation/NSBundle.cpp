@@ -12,6 +12,7 @@
 #include <atomic>
 #include <deque>
 #include <filesystem>
+#include <memory>
 #include <sys/stat.h>
 
 namespace Foundation {
@@ -95,7 +96,8 @@ struct NSBundle::Contents {
 
     using Choice = std::optional<std::size_t>;
 
-    NSBundle bundle;
+    NSBundle bundle;              // of the contents that were read first; those of a reload have one that nobody uses
+    Contents* previous = nullptr; // before the last reload
     std::string path;
     std::string developmentLocalization;
     std::deque<detail::Localization> folders;
@@ -131,41 +133,43 @@ const NSBundle& NSBundle::mainBundle() {
 }
 
 const std::string& NSBundle::bundlePath() const noexcept {
-    return contents_.path;
+    return contents().path;
 }
 
 const std::string& NSBundle::developmentLocalization() const noexcept {
-    return contents_.developmentLocalization;
+    return contents().developmentLocalization;
 }
 
 const std::vector<std::string>& NSBundle::localizations() const noexcept {
-    return contents_.localizations;
+    return contents().localizations;
 }
 
 std::vector<std::string> NSBundle::preferredLocalizations() const {
+    Contents& contents = this->contents();
     std::vector<std::string> preferred;
     for (const std::string& language : detail::hostLanguages().languages)
-        if (const auto chosen = contents_.choose(language)) {
-            const std::string& localization = contents_.localizations[*chosen];
+        if (const auto chosen = contents.choose(language)) {
+            const std::string& localization = contents.localizations[*chosen];
             if (std::ranges::find(preferred, localization) == preferred.end())
                 preferred.push_back(localization);
         }
-    if (preferred.empty() && !contents_.localizations.empty())
-        preferred.push_back(contents_.developmentLocalization);
+    if (preferred.empty() && !contents.localizations.empty())
+        preferred.push_back(contents.developmentLocalization);
     return preferred;
 }
 
 const std::string* NSBundle::preferredLocalization() const {
-    if (contents_.localizations.empty())
+    Contents& contents = this->contents();
+    if (contents.localizations.empty())
         return nullptr;
-    const std::size_t number = contents_.preferred();
-    return number < contents_.localizations.size() ? &contents_.localizations[number]
-                                                   : &contents_.developmentLocalization;
+    const std::size_t number = contents.preferred();
+    return number < contents.localizations.size() ? &contents.localizations[number] : &contents.developmentLocalization;
 }
 
 std::optional<LocalizedFormat> NSBundle::findLocalized(std::string_view key, std::string_view table) const {
     const std::string_view name = table.empty() ? layout::defaultTable : table;
-    const Chain& chain = contents_.chains[contents_.preferred()];
+    Contents& contents = this->contents();
+    const Chain& chain = contents.chains[contents.preferred()];
     for (auto at = chain.begin(); *at != nullptr; ++at)
         if (const auto found = (*at)->find(key, name))
             return found;
@@ -189,7 +193,8 @@ std::string NSBundle::localizedStringForKey(std::string_view key, const std::str
 
 std::optional<std::string> NSBundle::tableDamage(std::string_view table) const {
     const std::string_view name = table.empty() ? layout::defaultTable : table;
-    const Chain& chain = contents_.chains[contents_.preferred()];
+    Contents& contents = this->contents();
+    const Chain& chain = contents.chains[contents.preferred()];
     for (auto at = chain.begin(); *at != nullptr; ++at)
         if (auto damage = (*at)->damage(name))
             return damage;
@@ -203,7 +208,7 @@ std::optional<std::string> NSBundle::pathForResource(std::string_view name, std:
         file.append(".").append(type);
     if (!layout::isFileName(file) || !isEmptyOrFileName(directory) || !layout::isFileName(localization))
         return std::nullopt;
-    std::string path = contents_.path + "/" + layout::folderOfLanguage(localization) + "/";
+    std::string path = bundlePath() + "/" + layout::folderOfLanguage(localization) + "/";
     if (!directory.empty())
         path.append(directory).append("/");
     path += file;
@@ -211,6 +216,14 @@ std::optional<std::string> NSBundle::pathForResource(std::string_view name, std:
     if (::stat(path.c_str(), &status) != 0)
         return std::nullopt;
     return path;
+}
+
+void NSBundle::reload() const {
+    auto fresh = std::make_unique<Contents>(bundlePath());
+    fresh->previous = contents_.load(std::memory_order_relaxed);
+    while (!contents_.compare_exchange_weak(fresh->previous, fresh.get(), std::memory_order_acq_rel))
+        continue;
+    (void)fresh.release(); // kept, as every one before it
 }
 
 } // namespace Foundation

@@ -6,6 +6,7 @@
 
 #include "Foundation/LocalizedFormat.h"
 #include "Runtime/Export.h"
+#include <atomic>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -62,12 +63,20 @@ public:
                                                              std::string_view directory,
                                                              std::string_view localization) const;
 
+    // For development: later look-ups read the bundle's files anew, as after a compile while the program runs. Nothing
+    // happens by itself. Seen anew are the languages and every text that this bundle is asked for; accessors of
+    // formatted texts ask it at each call. Not seen anew are the texts that accessors of plain texts have kept, and
+    // pictures, colours and data. Views and references that were given out stay valid: what was read before keeps its
+    // memory. Throws std::bad_alloc, or std::system_error when descriptors run out; the bundle is then as it was.
+    void reload() const;
+
 private:
     struct Contents;
-    explicit NSBundle(Contents& contents) noexcept : contents_(contents) {}
+    explicit NSBundle(Contents& contents) noexcept : contents_(&contents) {}
     ~NSBundle() = default;
+    Contents& contents() const noexcept { return *contents_.load(std::memory_order_acquire); }
 
-    Contents& contents_;
+    mutable std::atomic<Contents*> contents_; // another one after each reload
 };
 
 } // namespace Foundation

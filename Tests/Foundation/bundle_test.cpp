@@ -158,6 +158,20 @@ TEST_F(Bundle, FindsTheFilesOfOneLocalization) {
     EXPECT_EQ(path("Localizable", "strings", "", "ru.lproj/../Base"), "none");
 }
 
+TEST_F(Bundle, SeesNewTextsAfterAReload) {
+    write("Base.lproj/Localizable.strings", "a = old;");
+    Host::setPreferredLanguages({"fr"});
+    const std::string_view before = bundle().localizedText("a", "");
+    write("Base.lproj/Localizable.strings", "a = new;");
+    write("fr.lproj/Other.strings", "b = neuf;");
+    EXPECT_EQ(text("a"), "old");
+    bundle().reload();
+    EXPECT_EQ(text("a"), "new");
+    EXPECT_EQ(text("b", "Other"), "neuf");
+    EXPECT_EQ(bundle().localizations(), (Languages{"en", "fr"}));
+    EXPECT_EQ(before, "old");
+}
+
 TEST(BundleThreads, SeeOneStateOrTheOther) {
     const Support::TemporaryFolder folder;
     folder.write("Base.lproj/Localizable.strings", "language = en;");
@@ -177,8 +191,11 @@ TEST(BundleThreads, SeeOneStateOrTheOther) {
             }
         });
     ready.arrive_and_wait();
-    for (int n = 0; n < 500; ++n)
+    for (int n = 0; n < 500; ++n) {
         Host::setPreferredLanguages({n % 2 == 0 ? "de" : "ru"});
+        if (n % 10 == 0)
+            bundle.reload();
+    }
     threads.clear();
     Host::reset();
 }

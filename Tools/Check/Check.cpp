@@ -79,8 +79,8 @@ bool explains(const Finding& mismatch, const Finding& unnamed) {
 
 std::vector<Finding> sorted(std::vector<Finding> findings) {
     std::ranges::sort(findings, [](const Finding& one, const Finding& other) { return placeOf(one) < placeOf(other); });
-    const auto repeated = std::ranges::unique(findings, areOneFault);
-    findings.erase(repeated.begin(), repeated.end());
+    // Not the one of std::ranges, which clang 14 cannot compile with this standard library.
+    findings.erase(std::unique(findings.begin(), findings.end(), areOneFault), findings.end());
     // Findings of one key are beside each other, the errors first.
     std::vector<Finding> kept;
     for (Finding& finding : findings)

@@ -51,7 +51,7 @@ const StoredText* developmentText(const std::vector<const StoredText*>& texts, s
 class UnitMaker {
 public:
     UnitMaker(const Key& key, const std::vector<StoredText>& development, const std::vector<StoredText>& translated)
-        : key_(key), development_(development), translated_(translated) {
+        : key_(key), translated_(translated) {
         for (const StoredText& text : development)
             partOf(text).development.push_back(&text);
         for (const StoredText& text : translated)
@@ -140,7 +140,6 @@ private:
     }
 
     const Key& key_;
-    const std::vector<StoredText>& development_;
     const std::vector<StoredText>& translated_;
     std::vector<PartTexts> parts_;
     std::vector<Unit> units_;

@@ -34,6 +34,7 @@ void addAssetsCommand(CLI::App& program, Exit& exit);
 void addGalleryCommand(CLI::App& program, Exit& exit);
 void addExportCommand(CLI::App& program, Exit& exit);
 void addImportCommand(CLI::App& program, Exit& exit);
+void addWatchCommand(CLI::App& program, Exit& exit);
 void addHelpCommand(CLI::App& program, Exit& exit);
 
 // The names of all commands, in the order in which help shows them.

@@ -41,6 +41,7 @@ void addCompileCommand(CLI::App& program, Exit& exit) {
     options->source.addTo(*command)->required();
     command->add_option("-o,--output", options->output, "The bundle to make, NAME.bundle")->required()->check(named());
     options->source.addNamesTo(*command); // for callers that give both commands the same: names are not in a bundle
+    options->source.addPseudoTo(*command);
     command->add_flag("--strict", options->isStrict, "Warnings are errors");
     options->depfile.addOptions(*command);
     command->callback([options, &exit] { exit = runCompile(*options); });

@@ -105,6 +105,7 @@ void addGalleryCommand(CLI::App& program, Exit& exit) {
     CLI::App* command = program.add_subcommand("gallery", "Write a web page that shows every text and asset.");
     CLI::Option* source = options->source.addTo(*command);
     options->source.addNamesTo(*command);
+    options->source.addPseudoTo(*command);
     command->add_option("--bundle", options->bundle, "A compiled bundle (default: the module's own)")->excludes(source);
     command->add_option("--module", options->module,
                         "The module's name, with which accessors begin (default: that of the bundle)");

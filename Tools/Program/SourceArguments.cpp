@@ -19,6 +19,12 @@ void SourceArguments::addNamesTo(CLI::App& command) {
         ->check(named());
 }
 
+void SourceArguments::addPseudoTo(CLI::App& command) {
+    command.add_flag(
+        "--pseudo", options.addsPseudoLanguages,
+        "Add the languages en-XA (accented, longer) and ar-XB (right to left), made of the development texts");
+}
+
 std::vector<std::filesystem::path> SourceArguments::paths() const {
     return {folders.begin(), folders.end()};
 }

@@ -23,6 +23,8 @@ struct SourceArguments {
     CLI::Option* addTo(CLI::App& command, const std::string& name = "SOURCE");
     // --names.
     void addNamesTo(CLI::App& command);
+    // --pseudo.
+    void addPseudoTo(CLI::App& command);
 
     [[nodiscard]] std::vector<std::filesystem::path> paths() const;
     // What the result depends on: the folders and the names file.

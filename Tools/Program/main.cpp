@@ -47,6 +47,7 @@ int main(int argc, char** argv) {
     Tools::addGalleryCommand(program, exit);
     Tools::addExportCommand(program, exit);
     Tools::addImportCommand(program, exit);
+    Tools::addWatchCommand(program, exit);
     Tools::addHelpCommand(program, exit);
     try {
         program.parse(argc, argv);

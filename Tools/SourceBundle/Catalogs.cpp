@@ -97,7 +97,9 @@ private:
         if (depth > maxFolderDepth)
             return diagnostics_.add(Severity::error, {.message = "is nested too deeply", .file = folder});
         std::vector<fs::path> entries = sortedEntries(folder, diagnostics_);
-        std::ranges::stable_partition(entries, [](const fs::path& entry) { return kindOf(entry).has_value(); });
+        // Not the one of std::ranges, which clang 14 cannot compile with this standard library.
+        std::stable_partition(entries.begin(), entries.end(),
+                              [](const fs::path& entry) { return kindOf(entry).has_value(); });
         for (const fs::path& entry : entries) {
             if (entry.filename().native().starts_with('.'))
                 continue;

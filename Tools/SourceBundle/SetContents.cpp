@@ -10,6 +10,7 @@
 #include "SourceBundle/SystemColors.h"
 #include <algorithm>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -67,7 +68,7 @@ public:
                 add(*rest);
             chosen_ = device;
         }
-        for (const SetEntry& entry : std::ranges::subrange(rest, entries.end()))
+        for (const SetEntry& entry : std::span(rest, entries.end()))
             say(Severity::note, entry,
                 "is for other devices (" + entry.device.text() + ") and is left out: the variants for " +
                     chosen_.text() + " are used");

@@ -2,12 +2,14 @@
 
 #include "SourceBundle/DevelopmentLanguage.h"
 #include "SourceBundle/PluralText.h"
+#include "SourceBundle/PseudoText.h"
 #include "SourceBundle/StringCatalog.h"
 #include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/Table.h"
 #include <algorithm>
 #include <cstring>
 #include <deque>
+#include <iterator>
 #include <map>
 #include <memory_resource>
 #include <utility>
@@ -242,6 +244,34 @@ std::vector<const SourceEntry*> Source::developmentEntries(const SourceTable& ta
     return entries;
 }
 
+// A key that is not to be translated keeps its text.
+SourceEntry Source::pseudoEntry(const SourceEntry& development, Pseudo kind) {
+    SourceEntry entry = development;
+    if (!entry.isTranslatable)
+        return entry;
+    if (entry.plural != nullptr)
+        entry.plural = &storage_->plurals.emplace_back(pseudoPlural(*entry.plural, kind));
+    entry.text = storage_->keep(entry.plural == nullptr ? pseudoText(entry.text, kind) : otherText(*entry.plural));
+    return entry;
+}
+
+void Source::addPseudoLanguages() {
+    for (SourceTable& table : tables) {
+        const std::vector<const SourceEntry*> development = developmentEntries(table);
+        std::vector<LanguageTexts> added;
+        for (const auto& [code, kind] : pseudoLanguages) {
+            if (table.find(code) != nullptr)
+                continue;
+            LanguageTexts& texts = added.emplace_back(std::string(code));
+            texts.reserve(development.size());
+            for (const SourceEntry* entry : development)
+                texts.add(pseudoEntry(*entry, kind));
+        }
+        std::ranges::move(added, std::back_inserter(table.languages));
+        std::ranges::sort(table.languages, {}, &LanguageTexts::language);
+    }
+}
+
 Source Source::read(std::span<const fs::path> folders, const SourceOptions& options, Diagnostics& diagnostics) {
     Source source = read(findFiles(folders, diagnostics), options, diagnostics);
     if (!source.tables.empty() &&
@@ -270,6 +300,8 @@ Source Source::read(SourceFiles files, const SourceOptions& options, Diagnostics
     source.developmentLanguage = options.developmentLanguage.empty()
                                      ? SourceBundle::developmentLanguage(source.infos, diagnostics).value_or(otherwise)
                                      : languageOfFolder(options.developmentLanguage);
+    if (options.addsPseudoLanguages)
+        source.addPseudoLanguages();
     return source;
 }
 

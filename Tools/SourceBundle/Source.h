@@ -79,7 +79,12 @@ struct SourceTable {
 struct SourceOptions {
     // Empty: what Info.plist says (CFBundleDevelopmentRegion), or else a string catalog, or else "en".
     std::string developmentLanguage{};
+    // Adds the pseudo-languages (SourceBundle/PseudoText.h) to every table that does not have them, made of its
+    // development texts.
+    bool addsPseudoLanguages = false;
 };
+
+enum class Pseudo : std::uint8_t;
 
 class Source {
 public:
@@ -110,6 +115,8 @@ public:
 private:
     Source();
     static Source read(SourceFiles files, const SourceOptions& options, Diagnostics& diagnostics);
+    void addPseudoLanguages();
+    SourceEntry pseudoEntry(const SourceEntry& development, Pseudo kind);
 
     std::unique_ptr<Storage> storage_;
 };

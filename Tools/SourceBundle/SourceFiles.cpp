@@ -112,6 +112,8 @@ private:
                 add(Severity::note, path, "is a link to a folder and is left out");
             else if (path.extension() == ".xcassets")
                 addCatalog(path);
+            else if (fs::exists(path / compiledMark, failed))
+                add(Severity::note, path, "is a compiled bundle and is left out");
             else
                 findInFolder(path, depth + 1);
         }

@@ -35,7 +35,7 @@ struct SourceFiles {
 // Searches each of the folders at any depth (maxFolderDepth). Hidden files and folders are passed over; a file that two
 // of the folders hold is found once. Errors: a folder that cannot be read, that is a compiled bundle or that holds
 // neither tables nor catalogs, and a link from a language folder to a place outside of the source. Other links to
-// folders, and the files of a language folder that hold no texts, are notes.
+// folders, compiled bundles in a folder, and the files of a language folder that hold no texts, are notes.
 [[nodiscard]] SourceFiles findFiles(std::span<const std::filesystem::path> folders, Diagnostics& diagnostics);
 
 // The same for a compiled bundle, whose tables are in the places of a source's.

@@ -1,0 +1,71 @@
+// Pseudo-languages: words change, everything else stays.
+#include "../Support/SourceFolder.h"
+#include "SourceBundle/PseudoText.h"
+#include "StringTables/internal/PluralPieces.h"
+#include <gtest/gtest.h>
+
+namespace {
+
+using SourceBundle::Pseudo;
+using SourceBundle::pseudoText;
+
+// How `word` is shown from right to left.
+std::string turned(const std::string& word) {
+    return "\u200F\u202E" + word + "\u202C\u200F";
+}
+
+TEST(PseudoTexts, ChangeWordsAlone) {
+    const struct {
+        int line;
+        std::string text, accented, rightToLeft;
+    } cases[] = {
+        {__LINE__, "", "", ""},
+        {__LINE__, "Save", "[Šåṽé ~~]", turned("Save")},
+        {__LINE__, "%@", "[%@]", "%@"},
+        {__LINE__, "%1$@ of %2$ld, 100%%", "[%1$@ öƒ %2$ld, 100%% ~]", "%1$@ " + turned("of") + " %2$ld, 100%%"},
+        {__LINE__, "Go to %.1f km/h now", "[Ĝö ţö %.1f ķɱ/ĥ ñöŵ ~~~~]",
+         turned("Go") + " " + turned("to") + " %.1f " + turned("km/h") + " " + turned("now")},
+        {__LINE__, "one\ntwo\r\n", "[öñé\nţŵö ~~]\r\n", turned("one") + "\n" + turned("two") + "\r\n"},
+        {__LINE__, "<b class=\"x y\">Hi</b> a&amp;b \\n", "[<b class=\"x y\">Ĥî</b> å&amp;ƀ \\n ~~]",
+         "<b class=\"x y\">" + turned("Hi") + "</b> " + turned("a") + "&amp;" + turned("b") + " \\n"},
+        {__LINE__, "a < b & c", "[å < ƀ & ç ~]", turned("a") + " < " + turned("b") + " & " + turned("c")},
+        {__LINE__, "12:30 – é", "[12:30 – é]", "12:30 – é"},
+    };
+    for (const auto& one : cases) {
+        EXPECT_EQ(pseudoText(one.text, Pseudo::accented), one.accented) << "line " << one.line;
+        EXPECT_EQ(pseudoText(one.text, Pseudo::rightToLeft), one.rightToLeft) << "line " << one.line;
+    }
+}
+
+TEST(PseudoLanguages, AreAddedToEveryTable) {
+    Support::SourceFolder folder;
+    folder.write("Base.lproj/T.strings", "a = Add; b = \"%@ left\";");
+    folder.write("de.lproj/T.strings", "a = x; only = y;");
+    folder.write("en-XA.lproj/Own.strings", "a = own;");
+    folder.write("Base.lproj/Own.strings", "a = Add;");
+    folder.write("C.xcstrings",
+                 R"({"sourceLanguage": "en", "strings": {"Brand": {"shouldTranslate": false}, "%lld cups of %@": {
+        "localizations": {"en": {"variations": {"plural": {"one": {"stringUnit": {"value": "a cup of %2$@"}},
+                                                           "other": {"stringUnit": {"value": "%1$lld cups of %2$@"}}}}}}}}})");
+    const auto source = folder.read({.addsPseudoLanguages = true});
+    EXPECT_EQ(folder.takeMessages(), std::vector<std::string>());
+    const auto text = [&source](std::size_t table, const char* key) {
+        const auto* const texts = source.tables.at(table).find("en-XA");
+        const auto* const entry = texts == nullptr ? nullptr : texts->find(key);
+        return entry == nullptr ? std::string() : std::string(entry->text);
+    };
+    EXPECT_EQ(text(2, "a"), "[Åðð ~]");
+    EXPECT_EQ(text(2, "b"), "[%@ ļéƒţ ~~]");
+    EXPECT_EQ(text(2, "only"), "");
+    EXPECT_EQ(text(1, "a"), "own");
+    EXPECT_EQ(text(0, "Brand"), "Brand");
+    const auto* const cups = source.tables.at(0).find("ar-XB")->find("%lld cups of %@");
+    ASSERT_TRUE(cups != nullptr && cups->plural != nullptr);
+    const auto* const english = source.tables.at(0).find("en")->find(cups->key);
+    EXPECT_EQ(StringTables::signatureOf(*cups->plural).arguments,
+              StringTables::signatureOf(*english->plural).arguments);
+    EXPECT_EQ(cups->plural->format, english->plural->format);
+    EXPECT_EQ(cups->plural->variables[0].forms[1], turned("a") + " " + turned("cup") + " " + turned("of") + " %2$@");
+}
+
+} // namespace

@@ -1,0 +1,101 @@
+"""lumora watch from outside: what it makes after each kind of change, and how it ends."""
+import os
+import pathlib
+import queue
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import threading
+import unittest
+
+PROGRAM = os.path.abspath(sys.argv.pop(1))
+
+
+class Watch(unittest.TestCase):
+    def setUp(self):
+        self.held = tempfile.TemporaryDirectory()
+        self.folder = pathlib.Path(self.held.name)
+        self.source, self.bundle = self.folder / "Source", self.folder / "Source/Made.bundle"  # the bundle may be in the source
+        self.write("en.lproj/T.strings", 'a = "one";')
+        self.process = subprocess.Popen([PROGRAM, "watch", self.source, "-o", self.bundle], stdout=subprocess.PIPE,
+                                        stderr=subprocess.STDOUT, text=True)
+        self.lines = queue.Queue()
+        threading.Thread(target=lambda: [self.lines.put(line) for line in self.process.stdout], daemon=True).start()
+        self.assertRegex(self.next(), r"^\d\d:\d\d:\d\d .*Made\.bundle compiled in \d+ ms\n$")
+
+    def tearDown(self):
+        self.process.kill()
+        self.process.wait()
+        self.process.stdout.close()
+        self.held.cleanup()
+
+    def write(self, name, text):
+        file = self.source / name
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(text)
+        return file
+
+    def next(self):
+        return self.lines.get(timeout=60)
+
+    def until(self, said):
+        while said not in self.next():
+            pass
+
+    def expect(self, text, *, language="en", key="a"):
+        """The next compiles bring the bundle to this text; one change may be seen in two."""
+        while self.text(language, key) != text:
+            self.assertRegex(self.next(), "compiled in")
+
+    def text(self, language, key):
+        return subprocess.run([PROGRAM, "text", "--bundle", self.bundle, "--table", "T", "--language", language, key],
+                              capture_output=True, text=True, timeout=60).stdout.strip()
+
+    def test_every_kind_of_change(self):
+        table = self.write("en.lproj/T.strings", 'a = "two";')
+        self.expect("two")
+        # As editors do: a file beside it, renamed.
+        self.write("en.lproj/.T.swp", 'a = "three";').rename(table)
+        self.expect("three")
+        # A folder that is new, filled at once; one that is renamed; and what happens in it then.
+        self.write("Deep/er/de.lproj/T.strings", 'a = "drei";')
+        self.expect("drei", language="de")
+        (self.source / "Deep").rename(self.source / "Else")
+        self.write("Else/er/de.lproj/T.strings", 'a = "vier";')
+        self.expect("vier", language="de")
+        shutil.rmtree(self.source / "Else")
+        self.expect("three", language="de")
+        # A fault leaves the bundle; the repair is seen.
+        table.write_text("a = ")
+        self.until(f"{table}:1:")
+        self.until("stays as it is: T.strings changed")
+        self.assertEqual(self.text("en", "a"), "three")
+        table.write_text('a = "five";')
+        self.expect("five")
+        # The whole folder is another one.
+        self.source.rename(self.folder / "Old")
+        shutil.copytree(self.folder / "Old", self.folder / "New", ignore=shutil.ignore_patterns("*.bundle"))
+        (self.folder / "New/en.lproj/T.strings").write_text('a = "six";')
+        (self.folder / "New").rename(self.source)
+        while self.text("en", "a") != "six":
+            self.next()
+        table.write_text('a = "seven";')
+        self.expect("seven")
+        self.process.send_signal(signal.SIGTERM)
+        self.assertEqual(self.process.wait(timeout=60), 0)
+
+    def test_ends_on_an_interrupt_and_watches_nothing_that_it_makes(self):
+        self.assertRaises(queue.Empty, self.lines.get, timeout=1)
+        self.process.send_signal(signal.SIGINT)
+        self.assertEqual(self.process.wait(timeout=60), 0)
+        self.assertEqual({path.name for path in self.source.iterdir()}, {"en.lproj", "Made.bundle"})
+
+    def test_wrong_use(self):
+        done = subprocess.run([PROGRAM, "watch", self.folder / "none", "-o", self.bundle], capture_output=True, text=True, timeout=60)
+        self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,166 @@
+#include "Program/FolderWatch.h"
+
+#include "SourceBundle/SourceFiles.h"
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <poll.h>
+#include <sys/inotify.h>
+#include <unistd.h>
+#include <utility>
+
+namespace Tools {
+
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+namespace {
+
+constexpr std::uint32_t events =
+    IN_CLOSE_WRITE | IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+constexpr milliseconds quiet{50};          // without a change, and the change is complete
+constexpr milliseconds longestBurst{1000}; // of changes that follow each other
+constexpr milliseconds untilLooked{500};   // for a folder that is gone
+
+Runtime::Error systemError(const fs::path& path, const std::string& doing) {
+    return {.message = doing + ": " + std::strerror(errno), .file = path};
+}
+
+fs::path normal(const fs::path& path) {
+    const fs::path whole = fs::absolute(path).lexically_normal();
+    return whole.has_filename() ? whole : whole.parent_path();
+}
+
+// Waits until one of the descriptors can be read, at most so long (negative: for ever). Returns whether `stop` can be.
+bool waitFor(int stop, int inotify, milliseconds most) {
+    std::array<pollfd, 2> both = {{{stop, POLLIN, 0}, {inotify, POLLIN, 0}}};
+    ::poll(both.data(), both.size(), static_cast<int>(most.count()));
+    return both[0].revents != 0;
+}
+
+} // namespace
+
+FolderWatch::FolderWatch(std::vector<fs::path> folders, fs::path output, int inotify)
+    : folders_(std::move(folders)), output_(std::move(output)), inotify_(inotify) {}
+
+Runtime::Result<FolderWatch> FolderWatch::create(const std::vector<fs::path>& folders, const fs::path& output) {
+    std::vector<fs::path> whole;
+    std::ranges::transform(folders, std::back_inserter(whole), normal);
+    FolderWatch watch(std::move(whole), normal(output), ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+    if (watch.inotify_.number() < 0)
+        return systemError(folders.front(), "cannot be watched");
+    if (auto watched = watch.watchAll(); !watched)
+        return std::move(watched.error());
+    return watch;
+}
+
+bool FolderWatch::isIgnored(const fs::path& path) const {
+    if (path.filename().native().starts_with('.'))
+        return true;
+    const std::string& output = output_.native();
+    if (!path.native().starts_with(output))
+        return false;
+    const std::string_view rest = std::string_view(path.native()).substr(output.size());
+    return rest.empty() || rest.starts_with('/') || rest.starts_with(".staged-"); // where a compile works
+}
+
+Runtime::Result<void> FolderWatch::watchAll() {
+    const std::map<int, fs::path> before = std::exchange(watched_, {});
+    missing_.clear();
+    for (const fs::path& folder : folders_)
+        if (auto watched = watchBelow(folder, 0); !watched)
+            return watched;
+    for (const auto& [number, path] : before)
+        if (!watched_.contains(number))
+            ::inotify_rm_watch(inotify_.number(), number);
+    isStale_ = false;
+    return {};
+}
+
+Runtime::Result<void> FolderWatch::watchBelow(const fs::path& folder, int depth) {
+    const int number = ::inotify_add_watch(inotify_.number(), folder.c_str(), events);
+    if (number < 0 && errno == ENOSPC)
+        return systemError(folder, "cannot be watched, fs.inotify.max_user_watches are in use");
+    if (number < 0 && errno == ENOMEM)
+        return systemError(folder, "cannot be watched");
+    if (number < 0) { // gone meanwhile, or not to be read
+        if (depth == 0)
+            missing_.insert(folder);
+        return {};
+    }
+    watched_[number] = folder;
+    std::error_code failed;
+    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
+        std::error_code ignored;
+        // As the source is searched: links to folders are followed if they are of a language.
+        const bool isFolder =
+            entry->is_directory(ignored) && (!entry->is_symlink(ignored) || entry->path().extension() == ".lproj");
+        if (isFolder && !isIgnored(entry->path()) && depth < SourceBundle::maxFolderDepth)
+            if (auto watched = watchBelow(entry->path(), depth + 1); !watched)
+                return watched;
+    }
+    return {};
+}
+
+void FolderWatch::take(const inotify_event& event, std::string_view name) {
+    if ((event.mask & IN_Q_OVERFLOW) != 0) {
+        isStale_ = true;
+        changed_.insert(folders_.begin(), folders_.end());
+        return;
+    }
+    const auto folder = watched_.find(event.wd);
+    if (folder == watched_.end() || (event.mask & IN_IGNORED) != 0)
+        return;
+    const fs::path path = name.empty() ? folder->second : folder->second / name;
+    if (isIgnored(path))
+        return;
+    changed_.insert(path);
+    isStale_ |= (event.mask & (IN_ISDIR | IN_DELETE_SELF | IN_MOVE_SELF)) != 0;
+}
+
+void FolderWatch::readEvents() {
+    alignas(inotify_event) std::array<char, 65536> buffer;
+    for (;;) {
+        const ssize_t size = ::read(inotify_.number(), buffer.data(), buffer.size());
+        if (size <= 0)
+            return;
+        for (std::size_t at = 0; at < static_cast<std::size_t>(size);) {
+            inotify_event event{};
+            std::memcpy(&event, buffer.data() + at, sizeof event);
+            // The name is followed by NULs.
+            take(event, event.len == 0 ? "" : buffer.data() + at + sizeof event);
+            at += sizeof event + event.len;
+        }
+    }
+}
+
+Runtime::Result<std::optional<std::set<fs::path>>> FolderWatch::wait(int stop) {
+    changed_.clear();
+    Clock::time_point first{};
+    for (;;) {
+        const bool isChanged = !changed_.empty();
+        const milliseconds most = isChanged ? quiet : missing_.empty() ? milliseconds{-1} : untilLooked;
+        if (waitFor(stop, inotify_.number(), most))
+            return std::optional<std::set<fs::path>>();
+        const std::size_t known = changed_.size();
+        readEvents();
+        for (const fs::path& folder : std::set<fs::path>(missing_))
+            if (std::error_code failed; fs::is_directory(folder, failed)) {
+                changed_.insert(folder);
+                isStale_ = true;
+            }
+        if (isStale_)
+            if (auto watched = watchAll(); !watched)
+                return std::move(watched.error());
+        if (!isChanged)
+            first = Clock::now();
+        const bool isQuiet = isChanged && changed_.size() == known;
+        if (isQuiet || (isChanged && Clock::now() - first > longestBurst))
+            return std::optional(std::exchange(changed_, {}));
+    }
+}
+
+} // namespace Tools

@@ -1,0 +1,128 @@
+// lumora watch: a source compiled again whenever it changes.
+#include "Program/Command.h"
+
+#include "Compiler/Bundle.h"
+#include "Program/FolderWatch.h"
+#include "Program/SourceArguments.h"
+#include <CLI/CLI.hpp>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <ctime>
+#include <memory>
+#include <set>
+#include <sys/signalfd.h>
+#include <utility>
+
+namespace Tools {
+
+namespace {
+
+namespace fs = std::filesystem;
+using Paths = std::set<fs::path>;
+
+struct WatchOptions {
+    SourceArguments source;
+    std::string output;
+};
+
+// A descriptor that can be read when the user or the system wants the program to end.
+Runtime::Descriptor stopSignals() {
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGINT);
+    sigaddset(&signals, SIGTERM);
+    ::sigprocmask(SIG_BLOCK, &signals, nullptr);
+    return Runtime::Descriptor(::signalfd(-1, &signals, SFD_CLOEXEC));
+}
+
+std::string timeOfDay() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    ::localtime_r(&now, &local);
+    std::array<char, sizeof "00:00:00"> text{};
+    std::strftime(text.data(), text.size(), "%H:%M:%S", &local);
+    return text.data();
+}
+
+// What changed, as one line has room for it.
+std::string summary(const Paths& changed) {
+    if (changed.empty())
+        return "";
+    if (changed.size() == 1)
+        return ": " + changed.begin()->filename().string() + " changed";
+    return ": " + std::to_string(changed.size()) + " files changed";
+}
+
+class Watcher {
+public:
+    explicit Watcher(const WatchOptions& options) : options_(options) {}
+
+    Exit run() {
+        const Runtime::Descriptor stop = stopSignals();
+        for (const std::string& folder : options_.source.folders)
+            if (std::error_code failed; !fs::is_directory(folder, failed))
+                return fail({.message = "is not a folder of resources", .file = folder});
+        auto watch = FolderWatch::create(options_.source.paths(), options_.output);
+        if (!watch)
+            return fail(watch.error());
+        for (Paths changed;;) {
+            if (const Exit compiled = compile(changed); compiled != Exit::done)
+                return compiled;
+            auto next = watch->wait(stop.number());
+            if (!next)
+                return fail(next.error());
+            if (!*next)
+                return Exit::done;
+            changed = **std::move(next);
+        }
+    }
+
+private:
+    // A source with faults leaves the bundle as it is; the next change may repair it.
+    Exit compile(const Paths& changed) {
+        const auto begin = std::chrono::steady_clock::now();
+        SourceBundle::Diagnostics diagnostics;
+        const SourceBundle::Source source = options_.source.read(diagnostics);
+        auto done = Compiler::compileBundle(source, options_.source.paths(), options_.output, diagnostics,
+                                            [](std::string_view, std::size_t, std::size_t) {});
+        if (!done)
+            diagnostics.add(SourceBundle::Severity::error, std::move(done.error()));
+        const auto time =
+            std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begin);
+        reportNew(diagnostics);
+        std::string line = timeOfDay() + " " + options_.output;
+        line += diagnostics.hasErrors() ? " stays as it is" : " compiled in " + std::to_string(time.count()) + " ms";
+        return print(line + summary(changed) + "\n");
+    }
+
+    // Without notes, and without warnings that were there before.
+    void reportNew(const SourceBundle::Diagnostics& all) {
+        SourceBundle::Diagnostics serious;
+        std::string said;
+        for (const SourceBundle::Diagnostic& one : all.all()) {
+            if (one.severity == SourceBundle::Severity::note)
+                continue;
+            serious.add(one.severity, one.what);
+            said += one.what.text() + "\n";
+        }
+        if (said != std::exchange(said_, said) || serious.hasErrors())
+            report(serious);
+    }
+
+    const WatchOptions& options_;
+    std::string said_;
+};
+
+} // namespace
+
+void addWatchCommand(CLI::App& program, Exit& exit) {
+    auto options = std::make_shared<WatchOptions>();
+    CLI::App* command = program.add_subcommand("watch", "Compile a bundle, and again whenever its source changes.");
+    options->source.addTo(*command)->required();
+    command->add_option("-o,--output", options->output, "The bundle to make, NAME.bundle")->required()->check(named());
+    options->source.addPseudoTo(*command);
+    command->callback([options, &exit] { exit = Watcher(*options).run(); });
+}
+
+} // namespace Tools
