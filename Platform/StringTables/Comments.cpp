@@ -25,7 +25,8 @@ std::string cleaned(std::string_view text) {
     std::string out;
     text = trimmed(text);
     while (!text.empty()) {
-        const std::size_t size = std::min(text.find_first_of("\r\n"), text.size());
+        const char* const end = text.data() + text.size();
+        const auto size = static_cast<std::size_t>(findEither(text.data(), end, '\r', '\n') - text.data());
         out += trimmed(text.substr(0, size));
         text.remove_prefix(size);
         if (text.empty())

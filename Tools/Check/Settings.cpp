@@ -1,5 +1,6 @@
 #include "Check/Settings.h"
 
+#include "Check/Characters.h"
 #include "Runtime/internal/File.h"
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -122,7 +123,8 @@ bool Settings::isOn(const Finding& finding) const {
 RuleSet allowedBy(std::string_view comment, std::vector<std::string_view>* unknown) {
     constexpr std::string_view separators = ", \t", nameCharacters = "abcdefghijklmnopqrstuvwxyz-";
     RuleSet rules;
-    for (std::size_t mark = comment.find(allowMark); mark != comment.npos; mark = comment.find(allowMark, mark)) {
+    for (std::size_t mark = findPart(comment, allowMark); mark != comment.npos;
+         mark = findPart(comment, allowMark, mark)) {
         mark += allowMark.size();
         bool isListed = true; // what follows is a name: the first, or one behind a comma; otherwise it may be prose
         for (std::string_view rest = comment.substr(mark); !rest.empty();) {

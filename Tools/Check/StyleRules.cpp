@@ -6,6 +6,7 @@
 #include "Generator/CodeText.h"
 #include "Generator/Unicode.h"
 #include "StringTables/internal/PluralTable.h"
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -35,7 +36,7 @@ template <class Test> bool isAny(const SourceEntry& entry, const Test& test) {
 
 // Two spaces between words; indentation and spaces before a line break are layout.
 bool hasDoubleSpace(std::string_view text) {
-    for (std::size_t at = text.find("  "); at != text.npos; at = text.find("  ", at)) {
+    for (std::size_t at = findPart(text, "  "); at != text.npos; at = findPart(text, "  ", at)) {
         const std::size_t end = std::min(text.find_first_not_of(' ', at), text.size());
         if (at > 0 && text[at - 1] != '\n' && end < text.size() && text[end] != '\n')
             return true;
@@ -84,10 +85,11 @@ std::string lowered(std::string_view word) {
 
 // Takes the next word off `text`, with its marks; empty at the end.
 std::string_view takeToken(std::string_view& text) {
-    constexpr std::string_view spaces = " \t\r\n";
-    text.remove_prefix(std::min(text.find_first_not_of(spaces), text.size()));
-    const std::string_view token = text.substr(0, text.find_first_of(spaces));
-    text.remove_prefix(token.size());
+    constexpr auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
+    const auto begin = std::ranges::find_if_not(text, isBlank);
+    const auto end = std::ranges::find_if(begin, text.end(), isBlank);
+    const std::string_view token(begin, end);
+    text = std::string_view(end, text.end());
     return token;
 }
 

@@ -101,7 +101,7 @@ public:
         for (const DevelopmentText& text : development_.all()) {
             if (!needsTranslation(*text.entry))
                 continue;
-            const SourceEntry* entry = texts_.find(text.entry->key);
+            const SourceEntry* entry = texts_.findBehind(before, text.entry->key);
             ++coverage.all;
             if (entry == nullptr)
                 reportMissing(*text.entry, before);

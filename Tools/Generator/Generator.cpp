@@ -28,11 +28,18 @@ void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
         std::set<std::string_view> keys;
         const LanguageTexts* own = table.find(source.developmentLanguage);
         const LanguageTexts* base = table.find(SourceBundle::baseLanguage);
-        for (const LanguageTexts& texts : table.languages)
-            for (const SourceEntry& entry : texts.entries())
-                if (&texts != own && &texts != base && (own == nullptr || own->find(entry.key) == nullptr) &&
-                    (base == nullptr || base->find(entry.key) == nullptr) && keys.insert(entry.key).second)
+        for (const LanguageTexts& texts : table.languages) {
+            if (&texts == own || &texts == base)
+                continue;
+            const SourceEntry* last = nullptr; // of own
+            for (const SourceEntry& entry : texts.entries()) {
+                const SourceEntry* known = own == nullptr ? nullptr : own->findBehind(last, entry.key);
+                last = known == nullptr ? last : known;
+                if (known == nullptr && (base == nullptr || base->find(entry.key) == nullptr) &&
+                    keys.insert(entry.key).second)
                     first = first == nullptr ? &entry : first;
+            }
+        }
         count += keys.size();
     }
     if (first != nullptr)

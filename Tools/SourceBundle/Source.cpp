@@ -1,6 +1,7 @@
 #include "SourceBundle/Source.h"
 
 #include "SourceBundle/DevelopmentLanguage.h"
+#include "SourceBundle/Parallel.h"
 #include "SourceBundle/PluralText.h"
 #include "SourceBundle/PseudoText.h"
 #include "SourceBundle/StringCatalog.h"
@@ -44,19 +45,45 @@ bool areOneTable(TableFile::Kind one, TableFile::Kind other) {
     return one != other && one != TableFile::Kind::catalog && other != TableFile::Kind::catalog;
 }
 
+// A file TABLE.strings, read without looking at the others.
+struct TextsFile {
+    Runtime::Result<Table> table;
+    std::vector<std::string> comments; // of the entries
+    LanguageTexts texts;               // refers to both
+};
+
+std::unique_ptr<TextsFile> readTextsFile(const TableFile& file) {
+    auto read = std::make_unique<TextsFile>(TextsFile{Table::readFile(file.path), {}, LanguageTexts(file.language)});
+    if (!read->table)
+        return read;
+    const Table& table = *read->table;
+    const std::vector<StringTables::Location> places = table.locations();
+    read->comments = table.comments();
+    read->texts.reserve(places.size());
+    for (std::size_t i = 0; i < places.size(); ++i)
+        read->texts.add({.key = table.entries()[i].key,
+                         .text = table.entries()[i].text,
+                         .comment = read->comments[i],
+                         .file = &file,
+                         .line = static_cast<std::uint32_t>(places[i].line),
+                         .column = static_cast<std::uint32_t>(places[i].column)});
+    return read;
+}
+
 class Reader {
 public:
     Reader(Source::Storage& storage, Diagnostics& diagnostics) : storage_(storage), diagnostics_(diagnostics) {}
 
-    void read(const TableFile& file) {
-        switch (file.kind) {
-        case TableFile::Kind::texts:
-            return readTexts(file);
-        case TableFile::Kind::plurals:
-            return readPlurals(file);
-        case TableFile::Kind::catalog:
-            return readCatalog(file);
-        }
+    // Reads all files. Most of the work is in files of texts, which are taken apart on all processors first.
+    void readAll() {
+        const std::vector<TableFile>& files = storage_.files;
+        std::vector<std::unique_ptr<TextsFile>> texts(files.size());
+        inParallel(files.size(), [&](std::size_t i) {
+            if (files[i].kind == TableFile::Kind::texts)
+                texts[i] = readTextsFile(files[i]);
+        });
+        for (std::size_t i = 0; i < files.size(); ++i)
+            read(files[i], texts[i].get());
     }
 
     // The source language of the first string catalog, or an empty text.
@@ -73,6 +100,17 @@ public:
     }
 
 private:
+    void read(const TableFile& file, TextsFile* texts) {
+        switch (file.kind) {
+        case TableFile::Kind::texts:
+            return addTexts(file, *texts);
+        case TableFile::Kind::plurals:
+            return readPlurals(file);
+        case TableFile::Kind::catalog:
+            return readCatalog(file);
+        }
+    }
+
     // Where the texts of `file` in `language` go, or null after an error.
     LanguageTexts* textsFor(const TableFile& file, const std::string& language) {
         LanguageTexts& texts = byName_[file.table].try_emplace(language, language).first->second;
@@ -89,27 +127,18 @@ private:
         return &texts;
     }
 
-    void readTexts(const TableFile& file) {
+    void addTexts(const TableFile& file, TextsFile& read) {
         LanguageTexts* texts = textsFor(file, file.language);
         if (texts == nullptr)
             return;
-        auto read = Table::readFile(file.path);
-        if (!read) {
+        if (!read.table) {
             texts->isDamaged = true;
-            return diagnostics_.add(Severity::error, std::move(read.error()), Topic::unreadableTable);
+            return diagnostics_.add(Severity::error, std::move(read.table.error()), Topic::unreadableTable);
         }
-        const Table& table = storage_.tables.emplace_back(*std::move(read));
-        addNotes(table.notes());
-        const std::vector<StringTables::Location> places = table.locations();
-        const std::vector<std::string>& comments = storage_.comments.emplace_back(table.comments());
-        texts->reserve(places.size());
-        for (std::size_t i = 0; i < places.size(); ++i)
-            texts->add({.key = table.entries()[i].key,
-                        .text = table.entries()[i].text,
-                        .comment = comments[i],
-                        .file = &file,
-                        .line = static_cast<std::uint32_t>(places[i].line),
-                        .column = static_cast<std::uint32_t>(places[i].column)});
+        addNotes(read.table->notes());
+        storage_.tables.push_back(*std::move(read.table));
+        storage_.comments.push_back(std::move(read.comments));
+        texts->add(std::move(read.texts));
     }
 
     void readPlurals(const TableFile& file) {
@@ -201,11 +230,26 @@ const SourceEntry* LanguageTexts::find(std::string_view key) const {
     return found == numbers_.end() ? nullptr : &entries_[found->second];
 }
 
+const SourceEntry* LanguageTexts::findBehind(const SourceEntry* last, std::string_view key) const {
+    const std::size_t next = last == nullptr ? 0 : static_cast<std::size_t>(last - entries_.data()) + 1;
+    return next < entries_.size() && entries_[next].key == key ? &entries_[next] : find(key);
+}
+
 bool LanguageTexts::add(const SourceEntry& entry) {
     const bool isNew = numbers_.try_emplace(entry.key, static_cast<std::uint32_t>(entries_.size())).second;
     if (isNew)
         entries_.push_back(entry);
     return isNew;
+}
+
+void LanguageTexts::add(LanguageTexts&& other) {
+    if (entries_.empty()) {
+        entries_ = std::move(other.entries_);
+        numbers_ = std::move(other.numbers_);
+        return;
+    }
+    for (const SourceEntry& entry : other.entries_)
+        add(entry);
 }
 
 void LanguageTexts::replace(const SourceEntry& entry) {
@@ -293,8 +337,7 @@ Source Source::read(SourceFiles files, const SourceOptions& options, Diagnostics
     source.storage_->files = std::move(files.tables);
 
     Reader reader(*source.storage_, diagnostics);
-    for (const TableFile& file : source.storage_->files)
-        reader.read(file);
+    reader.readAll();
     source.tables = reader.take();
     const std::string otherwise = reader.catalogLanguage().empty() ? "en" : reader.catalogLanguage();
     source.developmentLanguage = options.developmentLanguage.empty()

@@ -50,8 +50,12 @@ public:
 
     // The key's entry, or null.
     [[nodiscard]] const SourceEntry* find(std::string_view key) const;
+    // The same. Looks first behind `last`, one of its entries or null: languages mostly have their keys in one order.
+    [[nodiscard]] const SourceEntry* findBehind(const SourceEntry* last, std::string_view key) const;
     // Adds an entry; false if the key is there already.
     bool add(const SourceEntry& entry);
+    // Adds the entries of `other` whose keys are not there already; moves them where there are none yet.
+    void add(LanguageTexts&& other);
     // Adds an entry or puts it in the place of that of the same key.
     void replace(const SourceEntry& entry);
     void reserve(std::size_t count);
