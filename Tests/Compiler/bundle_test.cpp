@@ -1,10 +1,12 @@
 #include "AssetCatalog/internal/Catalog.h"
 #include "Compiler/Bundle.h"
+#include "Runtime/internal/Descriptor.h"
 #include "StringTables/internal/Table.h"
 
 #include "../Support/TemporaryFolder.h"
 #include <algorithm>
 #include <csignal>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <set>
 #include <sys/resource.h>
@@ -293,12 +295,18 @@ TEST(CompileBundle, RunsOutOfDescriptors) {
     folder.write("source/A.xcassets/p.imageset/p", svg(3, "red"));
     const fs::path bundle = folder / "out.bundle";
     ASSERT_EQ(compile(folder / "source", bundle).diagnostics, std::vector<std::string>()); // whatever is opened once
-    const auto open = static_cast<rlim_t>(std::distance(fs::directory_iterator("/proc/self/fd"), {}));
+    int highest = 0;
+    for (const fs::directory_entry& one : fs::directory_iterator("/proc/self/fd"))
+        highest = std::max(highest, std::stoi(one.path().filename()));
+    std::vector<Runtime::Descriptor> gaps; // filled, so that the limit says how many descriptors are free
+    do
+        gaps.emplace_back(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    while (gaps.back().number() < highest);
     rlimit limit{};
     ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
     std::size_t failures = 0;
     for (rlim_t more = 0; more < 16; ++more) {
-        const rlimit lower{.rlim_cur = open + more, .rlim_max = limit.rlim_max};
+        const rlimit lower{.rlim_cur = static_cast<rlim_t>(gaps.back().number()) + 1 + more, .rlim_max = limit.rlim_max};
         ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &lower), 0);
         const Outcome outcome = compile(folder / "source", bundle);
         ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &limit), 0);

@@ -145,12 +145,14 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
     if (!mayReplace(target))
         return Runtime::Error{.message = "already exists and is not a compiled bundle", .file = target};
     removeAbandoned(target);
+    // Before there is anything to remove.
+    Reserve reserve{reserved(), reserved(), reserved()};
+    if (reserve.back().number() < 0)
+        return systemError(target, "cannot be made");
     std::string path = target.string().append(stagedMiddle).append("XXXXXX");
     if (::mkdtemp(path.data()) == nullptr)
         return systemError(target, "cannot be made");
-    StagedFolder folder(target, path);
-    if (folder.reserve_.back().number() < 0)
-        return systemError(target, "cannot be made");
+    StagedFolder folder(target, path, std::move(reserve));
     if (auto written = folder.write(markName, markText); !written)
         return std::move(written.error());
     // mkdtemp makes a folder that only its owner can read.
@@ -160,9 +162,8 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
 }
 
 // The lock is taken before the folder is marked: an unlocked marked folder is abandoned.
-StagedFolder::StagedFolder(fs::path target, fs::path staged)
-    : target_(std::move(target)), staged_(std::move(staged)),
-      lock_(lock(staged_)), reserve_{reserved(), reserved(), reserved()} {}
+StagedFolder::StagedFolder(fs::path target, fs::path staged, Reserve reserve)
+    : target_(std::move(target)), staged_(std::move(staged)), lock_(lock(staged_)), reserve_(std::move(reserve)) {}
 
 StagedFolder::StagedFolder(StagedFolder&& other) noexcept
     : target_(std::move(other.target_)), staged_(std::exchange(other.staged_, fs::path())),

@@ -40,13 +40,15 @@ public:
     [[nodiscard]] Runtime::Result<void> putInPlace();
 
 private:
-    StagedFolder(std::filesystem::path target, std::filesystem::path staged);
+    using Reserve = std::array<Runtime::Descriptor, 3>; // what the destructor needs
+
+    StagedFolder(std::filesystem::path target, std::filesystem::path staged, Reserve reserve);
 
     std::filesystem::path target_;
     std::filesystem::path staged_; // empty once nothing is aside
-    // Locked as long as the compile lives; -1 where the file system has no locks. Then what the destructor needs.
+    // Locked as long as the compile lives; -1 where the file system has no locks.
     Runtime::Descriptor lock_;
-    std::array<Runtime::Descriptor, 3> reserve_;
+    Reserve reserve_;
 };
 
 } // namespace Compiler
