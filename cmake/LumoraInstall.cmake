@@ -6,7 +6,7 @@ set(package ${CMAKE_INSTALL_LIBDIR}/cmake/Lumora)
 install(TARGETS lumora-platform EXPORT LumoraPlatform
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/lumora-platform COMPONENT development)
-install(TARGETS lumora-intl lumora-pictures
+install(TARGETS lumora-intl lumora-pictures lumora-xml
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${LUMORA_PLUGIN_FOLDER} COMPONENT runtime)
 lumora_install_module(Lumora EXPORT LumoraModule VERSIONED)
 install(EXPORT LumoraPlatform NAMESPACE Lumora:: DESTINATION ${package} COMPONENT development)

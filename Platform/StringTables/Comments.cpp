@@ -57,19 +57,16 @@ std::vector<Comment> textComments(const Contents& contents) {
     return comments;
 }
 
-struct XmlComments {
-    explicit XmlComments(const Contents& contents) : parser(contents, this) {
-        XML_SetCommentHandler(parser.get(), [](void* self, const char* text) {
-            auto& found = *static_cast<XmlComments*>(self);
-            found.parser.handle([&] {
-                const std::size_t at = found.parser.offset();
-                const auto size = static_cast<std::size_t>(XML_GetCurrentByteCount(found.parser.get()));
-                found.comments.push_back({at, at + size, cleaned(text)});
-            });
-        });
+class XmlComments final : public XmlHandler {
+public:
+    std::string open(const char*, const char* const*, XmlPlace) override { return {}; }
+    std::string close(XmlPlace) override { return {}; }
+    std::string characters(std::string_view) override { return {}; }
+    void comment(std::string_view text, XmlPlace place) override {
+        found.push_back({place.begin, place.end, cleaned(text)});
     }
-    XmlParser parser;
-    std::vector<Comment> comments;
+
+    std::vector<Comment> found;
 };
 
 // Joins the comments of one entry.
@@ -128,8 +125,8 @@ std::vector<Comment> findComments(const Contents& contents) {
         return {};
     if (contents.form == Form::text)
         return textComments(contents);
-    XmlComments found(contents);
-    return found.parser.parse() ? std::move(found.comments) : std::vector<Comment>();
+    XmlComments comments;
+    return parseXml(contents, comments) ? std::move(comments.found) : std::vector<Comment>();
 }
 
 std::vector<std::string> commentsOf(std::span<const std::size_t> entryOffsets, const Contents& contents) {

@@ -47,6 +47,17 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
            [russian("Continue"), "25 лет"])
     expect("lumora text", run(prefix / "bin/lumora", "text", "--language", "ru", "Continue"), russian("Continue") + "\n")
 
+    # Tables in XML are read by a plug-in. Without it they cannot be read, which is said.
+    tables = folder / "Xml.bundle/Base.lproj"
+    tables.mkdir(parents=True)
+    (tables / "Localizable.strings").write_text("<plist><dict><key>a</key><string>text</string></dict></plist>")
+    read = [prefix / "bin/lumora", "text", "--bundle", tables.parent, "a"]
+    expect("an XML table", run(*read), "text\n")
+    [plugin] = prefix.rglob("lumora-xml.so")
+    plugin.unlink()
+    done = subprocess.run(read, capture_output=True, text=True)
+    expect("without the plug-in", (done.returncode, done.stdout, plugin.name in done.stderr), (2, "", True))
+
     # Each component has its files, and a package without the program is found by who does not ask for it.
     for component, present, absent in (("runtime", "liblumora.so.1", "*.h"), ("development", "Lumora.h", "liblumora.so.1"),
                                        ("tools", "lumora", "*.h")):

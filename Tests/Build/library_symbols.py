@@ -1,4 +1,4 @@
-"""Fails if a shared library runs code when it is loaded, or shows symbols that are not its own interface."""
+"""Fails if a shared library runs code when it is loaded, needs a library that it could do without, or shows symbols that are not its own interface."""
 import re
 import subprocess
 import sys
@@ -7,6 +7,8 @@ import sys
 MODULE, PLATFORM = "Lumora|Corvane", "Foundation|UIKit|SwiftUI|Runtime"
 C_FUNCTIONS = {"Loc", "LocNumber", "LocNumberWithPositivePrefix", "LocAge", "LocPercent", "LocPercentSigned",
                "NSStringCreate", "NSStringUTF8", "NSNumberCreateInteger", "NSNumberCreateDouble", "NSRelease"}
+
+SYSTEM = ("libstdc++.so", "libm.so", "libgcc_s.so", "libc.so", "ld-linux", "libasan.so", "libubsan.so", "libtsan.so")
 
 
 def output(*command):
@@ -24,6 +26,10 @@ def faults_of(library, namespaces, others):
     # One entry is the compiler's own frame_dummy; more are constructors.
     if array and int(array.group(1), 16) > 8:
         yield f"{library}: .init_array has {int(array.group(1), 16) // 8} entries"
+    # Each library more costs a process's first text.
+    for name in re.findall(r"NEEDED.*\[(.*)\]", output("readelf", "-dW", library)):
+        if not name.startswith(("liblumora-platform", *SYSTEM)):
+            yield f"{library} needs {name}"
     symbols = symbols_of(library)
     for name in symbols:
         if not interface.match(name) and name not in others and not name.startswith(("std::", "typeinfo", "vtable")):

@@ -112,6 +112,16 @@ std::string joined(const std::vector<std::string>& list) {
 
 std::string xmlBundle; // the path of a bundle with an XML table
 
+void writeXmlBundle(const Support::TemporaryFolder& folder) {
+    xmlBundle = folder.path();
+    folder.write("en.lproj/Localizable.strings", "<plist><dict><key>Continue</key><string>Weiter</string>"
+                                                 "<key>Number</key><integer>1</integer></dict></plist>");
+}
+
+std::string xmlText() {
+    return std::string(Foundation::NSBundle::bundleWithPath(xmlBundle).localizedText("Continue", "Localizable"));
+}
+
 const std::string longText(100, 'a');
 
 struct Case {
@@ -148,11 +158,7 @@ const Case cases[] = {
     {"languages", [] { return joined(Localization::allSupportedLocalizations()); }},
     {"C", [] { return taken(LocPercent(0.5)); }},
     {"C text", [] { return taken(NSStringCreate(longText.c_str())); }},
-    {"XML table",
-     [] {
-         return std::string(Foundation::NSBundle::bundleWithPath(xmlBundle).localizedText("Continue", "Localizable"));
-     },
-     "", "Weiter"},
+    {"XML table", xmlText, "", "Weiter"},
 };
 
 // Looking for leaks takes long: after some of the failures only.
@@ -186,9 +192,7 @@ int attempt(const Case& one, long n, bool on) {
 
 TEST(NoMemory, GivesNoTextAndKeepsNothing) {
     const Support::TemporaryFolder folder;
-    xmlBundle = folder.path();
-    folder.write("en.lproj/Localizable.strings", "<plist><dict><key>Continue</key><string>Weiter</string>"
-                                                 "<key>Number</key><integer>1</integer></dict></plist>");
+    writeXmlBundle(folder);
     for (const bool on : {false, true})
         for (const Case& one : cases) {
             long n = 0;
@@ -236,7 +240,10 @@ TEST(NoMemory, TooLittleAddressSpaceIsNotRemembered) {
         {__LINE__, [] { return Texts::continue_(); }, "Продолжить"},
         {__LINE__, [] { return std::to_string(Lumora::LumoraAsset::Images::send.image().rgba() != nullptr ? 1 : 0); },
          "1"},
+        {__LINE__, xmlText, "Weiter"},
     };
+    const Support::TemporaryFolder folder;
+    writeXmlBundle(folder);
     for (const auto& one : reads)
         for (rlim_t room = 0; room < (rlim_t{64} << 20); room += room < (rlim_t{4} << 20) ? 200'000 : 1'900'000)
             ASSERT_EQ(Child::exitOf([&] {

@@ -1,5 +1,6 @@
 #include "Exchange/Xml.h"
 
+#include "StringTables/internal/Contents.h"
 #include "StringTables/internal/Unicode.h"
 #include "StringTables/internal/XmlParser.h"
 #include <algorithm>
@@ -9,7 +10,6 @@ namespace Exchange {
 
 using StringTables::internal::Contents;
 using StringTables::internal::Locator;
-using StringTables::internal::XmlParser;
 
 struct XmlDocument::Source {
     explicit Source(std::string bytes) : contents(std::move(bytes)) {}
@@ -40,82 +40,47 @@ std::string XmlNode::allText() const {
     return all;
 }
 
-struct XmlDocument::Reader {
-    explicit Reader(const Contents& source) : contents(source), parser(source, this) {
-        XML_SetElementHandler(
-            parser.get(),
-            [](void* self, const char* name, const char** attributes) {
-                handle(self, [=](Reader& reader) { reader.open(name, attributes); });
-            },
-            [](void* self, const char*) { handle(self, [](Reader& reader) { reader.close(); }); });
-        XML_SetCharacterDataHandler(parser.get(), [](void* self, const char* text, int size) {
-            handle(self, [=](Reader& reader) { reader.characters({text, static_cast<std::size_t>(size)}); });
-        });
-        XML_SetXmlDeclHandler(parser.get(), [](void* self, const char*, const char* declared, int) {
-            if (declared != nullptr)
-                handle(self, [=](Reader& reader) { reader.encoding = declared; });
-        });
-        // Without declarations no entity can grow or reach outside.
-        XML_SetEntityDeclHandler(parser.get(), [](void* self, const char*, int, const char*, int, const char*,
-                                                  const char*, const char*, const char*) {
-            handle(self, [](Reader& reader) { reader.stop("an entity declaration"); });
-        });
-        XML_SetSkippedEntityHandler(parser.get(), [](void* self, const char* name, int) {
-            handle(self,
-                   [=](Reader& reader) { reader.stop("the unknown entity " + StringTables::internal::quoted(name)); });
-        });
-    }
+struct XmlDocument::Reader final : StringTables::internal::XmlHandler {
+    using XmlPlace = StringTables::internal::XmlPlace;
 
-    template <class Step> static void handle(void* self, Step step) noexcept {
-        auto& reader = *static_cast<Reader*>(self);
-        reader.parser.handle([&] { step(reader); });
-    }
-
-    void stop(std::string message) {
-        error = contents.errorAt(parser.offset(), std::move(message));
-        parser.stop();
-    }
-
-    std::size_t endOfEvent() const {
-        return parser.offset() + static_cast<std::size_t>(XML_GetCurrentByteCount(parser.get()));
-    }
-
-    void open(const char* name, const char** attributes) {
+    std::string open(const char* name, const char* const* attributes, XmlPlace place) override {
         if (open_.size() == maxDepth)
-            return stop(StringTables::internal::nestedTooDeeply);
+            return StringTables::internal::nestedTooDeeply;
         XmlNode& node = open_.emplace_back();
         const std::string_view full = name;
         node.name = full.substr(full.rfind(':') + 1);
         for (; *attributes != nullptr; attributes += 2)
             node.attributes.emplace_back(attributes[0], attributes[1]);
-        node.begin = parser.offset();
-        node.contentBegin = endOfEvent();
+        node.begin = place.begin;
+        node.contentBegin = place.end;
+        return {};
     }
 
-    void close() {
+    std::string close(XmlPlace place) override {
         XmlNode node = std::move(open_.back());
         open_.pop_back();
-        node.contentEnd = parser.offset();
-        node.end = endOfEvent();
+        node.contentEnd = place.begin;
+        node.end = place.end;
         if (open_.empty())
             root = std::move(node);
         else
             open_.back().children.push_back(std::move(node));
+        return {};
     }
 
-    void characters(std::string_view piece) {
+    std::string characters(std::string_view piece) override {
         auto& siblings = open_.back().children;
         if (siblings.empty() || siblings.back().isElement())
             siblings.emplace_back();
         siblings.back().text += piece;
+        return {};
     }
 
-    const Contents& contents;
-    XmlParser parser;
+    void encoding(std::string_view declared) override { declaredEncoding = declared; }
+
     std::vector<XmlNode> open_;
     XmlNode root;
-    std::string encoding;
-    std::optional<Runtime::Error> error;
+    std::string declaredEncoding;
 };
 
 Runtime::Result<XmlDocument> XmlDocument::read(std::string bytes) {
@@ -128,16 +93,13 @@ Runtime::Result<XmlDocument> XmlDocument::read(std::string bytes) {
         return std::move(recognized.error());
     if (contents.form != StringTables::Form::xml)
         return contents.errorAt(contents.begin, "not XML");
-    Reader reader(contents);
-    const bool isWellFormed = reader.parser.parse();
-    if (reader.error)
-        return *std::move(reader.error);
-    if (!isWellFormed)
-        return contents.errorAt(reader.parser.offset(), XML_ErrorString(XML_GetErrorCode(reader.parser.get())));
+    Reader reader;
+    if (auto parsed = parseXml(contents, reader); !parsed)
+        return std::move(parsed.error());
     document.root_ = std::move(reader.root);
     const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
-    std::ranges::transform(reader.encoding, reader.encoding.begin(), lower);
-    document.hasOtherEncoding_ = !contents.isUtf8 && !reader.encoding.empty() && reader.encoding != "utf-8";
+    std::ranges::transform(reader.declaredEncoding, reader.declaredEncoding.begin(), lower);
+    document.hasOtherEncoding_ = !contents.isUtf8 && !reader.declaredEncoding.empty() && reader.declaredEncoding != "utf-8";
     document.source_->locator.emplace(contents);
     return document;
 }

@@ -1,70 +1,59 @@
 // StringTables/internal/XmlParser.h
-// expat over the source of a table.
-// Text: handlers get UTF-8, whatever the encoding of the source.
+// Parsing of XML by expat, which is in the plug-in lumora-xml.so: compiled bundles hold no XML. Tools have no plug-in
+// beside them and link the parser itself. Both sides of the plug-in are built together.
+// Text: handlers get UTF-8, whatever the encoding of the source; it is valid during the call only.
+// Threads: any; a parser is used by its caller alone.
 #pragma once
 
-#include "StringTables/internal/Contents.h"
-#include <exception>
-#include <expat.h>
-#include <memory>
-#include <new> // std::bad_alloc
+#include "Runtime/Export.h"
+#include "Runtime/internal/Result.h"
+#include <cstddef>
+#include <string>
+#include <string_view>
 
 namespace StringTables::internal {
 
-class XmlParser {
-public:
-    // `reader` is what expat hands to its handlers.
-    XmlParser(const Contents& contents, void* reader)
-        : parser_(XML_ParserCreate(contents.isUtf8 ? "UTF-8" : nullptr)), source_(contents.source),
-          begin_(source_.find('<', contents.begin)) {
-        if (!parser_)
-            throw std::bad_alloc();
-        XML_SetUserData(parser_.get(), reader);
-    }
+struct Contents;
 
-    XML_Parser get() const noexcept { return parser_.get(); }
-    // Of what is being handled, in the source. expat's own index is -1 before it has read anything.
-    std::size_t offset() const noexcept {
-        return begin_ + static_cast<std::size_t>(std::max<XML_Index>(XML_GetCurrentByteIndex(parser_.get()), 0));
-    }
-    void stop() noexcept {
-        XML_StopParser(parser_.get(), XML_FALSE);
-        isStopped_ = true;
-    }
-
-    // Runs a handler's work. expat is written in C, so an exception waits until parse() can throw it. expat may call
-    // handlers once more after a stop; they do nothing.
-    template <class Work> void handle(Work work) noexcept {
-        if (isStopped_)
-            return;
-        try {
-            work();
-        } catch (...) {
-            thrown_ = std::current_exception();
-            stop();
-        }
-    }
-
-    // Whether the source is well-formed XML and nothing stopped the parser.
-    [[nodiscard]] bool parse() {
-        const std::string_view document = source_.substr(begin_);
-        const XML_Status status = XML_Parse(get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
-        if (thrown_)
-            std::rethrow_exception(thrown_);
-        if (!isStopped_ && status != XML_STATUS_OK && XML_GetErrorCode(get()) == XML_ERROR_NO_MEMORY)
-            throw std::bad_alloc();
-        return status == XML_STATUS_OK;
-    }
-
-private:
-    struct Free {
-        void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
-    };
-    std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> parser_;
-    std::string_view source_;
-    std::size_t begin_;
-    bool isStopped_ = false;
-    std::exception_ptr thrown_;
+// Bytes of the source: the tag or the comment that is handled.
+struct XmlPlace {
+    std::size_t begin;
+    std::size_t end;
 };
 
+// What a document contains, in its order. A function that returns a text stops the parser with that error.
+class XmlHandler {
+public:
+    // `attributes` are names and values in turn, null behind the last.
+    virtual std::string open(const char* name, const char* const* attributes, XmlPlace place) = 0;
+    virtual std::string close(XmlPlace place) = 0;
+    // A text may come in pieces.
+    virtual std::string characters(std::string_view piece) = 0;
+    virtual void comment(std::string_view, XmlPlace) {}
+    virtual void encoding(std::string_view /*declared*/) {}
+
+protected:
+    ~XmlHandler() = default;
+};
+
+// Errors with line and column: not well-formed; an entity is declared (without that none can grow or reach outside) or
+// unknown; the handler's own. Without a place: no plug-in (names its file; may be transient). Throws std::bad_alloc and
+// what the handler throws.
+[[nodiscard]] Runtime::Result<void> parseXml(const Contents& contents, XmlHandler& handler);
+
+struct XmlFault {
+    std::string message; // empty: the source was read to its end
+    std::size_t offset = 0;
+    std::string entity{}; // whose name the message is about
+};
+// Parses `source` from `begin` on. It is UTF-8 for certain, or in the encoding that it declares.
+using XmlParser = XmlFault(std::string_view source, std::size_t begin, bool isUtf8, XmlHandler& handler);
+XmlParser parseByExpat;
+
+// The parser that this object links, or the plug-in's. The platform and the tools link different definitions.
+[[nodiscard]] Runtime::Result<XmlParser*> xmlParser();
+
 } // namespace StringTables::internal
+
+// The one function that the plug-in exports.
+extern "C" LUMORA_EXPORT StringTables::internal::XmlParser* lumoraXml() noexcept;

@@ -1,0 +1,130 @@
+#include "StringTables/internal/XmlParser.h"
+
+#include <algorithm>
+#include <exception>
+#include <expat.h>
+#include <memory>
+#include <new> // std::bad_alloc
+
+namespace StringTables::internal {
+
+namespace {
+
+class Parser {
+public:
+    Parser(std::string_view source, std::size_t begin, bool isUtf8, XmlHandler& handler)
+        : expat_(XML_ParserCreate(isUtf8 ? "UTF-8" : nullptr)), source_(source), begin_(begin), handler_(handler) {
+        if (!expat_)
+            throw std::bad_alloc();
+        XML_SetUserData(expat_.get(), this);
+        handleContent();
+        handleDeclarations();
+    }
+
+    XmlFault parse() {
+        const std::string_view document = source_.substr(begin_);
+        const XML_Status status =
+            XML_Parse(expat_.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
+        if (thrown_)
+            std::rethrow_exception(thrown_);
+        if (!isStopped_ && status != XML_STATUS_OK) {
+            const XML_Error error = XML_GetErrorCode(expat_.get());
+            if (error == XML_ERROR_NO_MEMORY)
+                throw std::bad_alloc();
+            stop(XML_ErrorString(error));
+        }
+        return std::move(fault_);
+    }
+
+private:
+    struct Free {
+        void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
+    };
+
+    void handleContent();
+    void handleDeclarations();
+
+    // Runs a handler's work. expat is written in C, so an exception waits until parse() can throw it. expat may call
+    // handlers once more after a stop; they do nothing.
+    template <class Work> static void handle(void* self, Work work) noexcept {
+        auto& parser = *static_cast<Parser*>(self);
+        if (parser.isStopped_)
+            return;
+        try {
+            if (std::string wrong = work(parser); !wrong.empty())
+                parser.stop(std::move(wrong));
+        } catch (...) {
+            parser.thrown_ = std::current_exception();
+            parser.stop({});
+        }
+    }
+
+    void stop(std::string message, std::string entity = {}) {
+        fault_ = {std::move(message), place().begin, std::move(entity)};
+        isStopped_ = true;
+        XML_StopParser(expat_.get(), XML_FALSE);
+    }
+
+    // Of what is being handled. expat's index is -1 before it has read anything.
+    XmlPlace place() const noexcept {
+        const auto index = static_cast<std::size_t>(std::max<XML_Index>(XML_GetCurrentByteIndex(expat_.get()), 0));
+        const std::size_t begin = begin_ + index;
+        return {begin, begin + static_cast<std::size_t>(XML_GetCurrentByteCount(expat_.get()))};
+    }
+
+    std::unique_ptr<std::remove_pointer_t<XML_Parser>, Free> expat_;
+    std::string_view source_;
+    std::size_t begin_;
+    XmlHandler& handler_;
+    XmlFault fault_;
+    std::exception_ptr thrown_;
+    bool isStopped_ = false;
+};
+
+void Parser::handleContent() {
+    XML_SetElementHandler(
+        expat_.get(),
+        [](void* self, const char* name, const char** attributes) {
+            handle(self, [=](Parser& parser) { return parser.handler_.open(name, attributes, parser.place()); });
+        },
+        [](void* self, const char*) {
+            handle(self, [](Parser& parser) { return parser.handler_.close(parser.place()); });
+        });
+    XML_SetCharacterDataHandler(expat_.get(), [](void* self, const char* text, int size) {
+        const std::string_view piece(text, static_cast<std::size_t>(size));
+        handle(self, [=](Parser& parser) { return parser.handler_.characters(piece); });
+    });
+    XML_SetCommentHandler(expat_.get(), [](void* self, const char* text) {
+        handle(self, [=](Parser& parser) {
+            parser.handler_.comment(text, parser.place());
+            return std::string();
+        });
+    });
+}
+
+void Parser::handleDeclarations() {
+    XML_SetXmlDeclHandler(expat_.get(), [](void* self, const char*, const char* encoding, int) {
+        handle(self, [=](Parser& parser) {
+            parser.handler_.encoding(encoding != nullptr ? encoding : "");
+            return std::string();
+        });
+    });
+    XML_SetEntityDeclHandler(expat_.get(), [](void* self, const char*, int, const char*, int, const char*, const char*,
+                                              const char*, const char*) {
+        handle(self, [](Parser&) { return std::string("an entity declaration"); });
+    });
+    XML_SetSkippedEntityHandler(expat_.get(), [](void* self, const char* name, int) {
+        handle(self, [=](Parser& parser) {
+            parser.stop("the unknown entity ", name);
+            return std::string();
+        });
+    });
+}
+
+} // namespace
+
+XmlFault parseByExpat(std::string_view source, std::size_t begin, bool isUtf8, XmlHandler& handler) {
+    return Parser(source, begin, isUtf8, handler).parse();
+}
+
+} // namespace StringTables::internal

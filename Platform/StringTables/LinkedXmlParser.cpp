@@ -1,0 +1,9 @@
+#include "StringTables/internal/XmlParser.h"
+
+namespace StringTables::internal {
+
+Runtime::Result<XmlParser*> xmlParser() {
+    return &parseByExpat;
+}
+
+} // namespace StringTables::internal
