@@ -23,8 +23,7 @@ public:
 
     XmlFault parse() {
         const std::string_view document = source_.substr(begin_);
-        const XML_Status status =
-            XML_Parse(expat_.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
+        const XML_Status status = XML_Parse(expat_.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
         if (thrown_)
             std::rethrow_exception(thrown_);
         if (!isStopped_ && status != XML_STATUS_OK) {
@@ -109,10 +108,9 @@ void Parser::handleDeclarations() {
             return std::string();
         });
     });
-    XML_SetEntityDeclHandler(expat_.get(), [](void* self, const char*, int, const char*, int, const char*, const char*,
-                                              const char*, const char*) {
-        handle(self, [](Parser&) { return std::string("an entity declaration"); });
-    });
+    XML_SetEntityDeclHandler(
+        expat_.get(), [](void* self, const char*, int, const char*, int, const char*, const char*, const char*,
+                         const char*) { handle(self, [](Parser&) { return std::string("an entity declaration"); }); });
     XML_SetSkippedEntityHandler(expat_.get(), [](void* self, const char* name, int) {
         handle(self, [=](Parser& parser) {
             parser.stop("the unknown entity ", name);

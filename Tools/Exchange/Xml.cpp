@@ -99,7 +99,8 @@ Runtime::Result<XmlDocument> XmlDocument::read(std::string bytes) {
     document.root_ = std::move(reader.root);
     const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
     std::ranges::transform(reader.declaredEncoding, reader.declaredEncoding.begin(), lower);
-    document.hasOtherEncoding_ = !contents.isUtf8 && !reader.declaredEncoding.empty() && reader.declaredEncoding != "utf-8";
+    document.hasOtherEncoding_ =
+        !contents.isUtf8 && !reader.declaredEncoding.empty() && reader.declaredEncoding != "utf-8";
     document.source_->locator.emplace(contents);
     return document;
 }
