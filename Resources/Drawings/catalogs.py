@@ -22,7 +22,6 @@ PNG = set("ava_1 ava_2 ava_3 ava_4 banana fried_egg omlet cup bubble_1 bubble_2 
 JPEG = set("trainer_header_background feedPlaceholder defaultCourseBoy defaultCourseGirl".split())
 PDF = {"arrow", "card", "choose"}
 MIRRORED = {"arrow_right", "icon_forward", "disclosure_icon"}
-FOLDERS = {icons: "Icons", food: "Food", questions: "Questionnaire", placeholders: "Pictures"}
 
 
 def _json(value):
@@ -79,14 +78,14 @@ def _image(name, drawing, dark):
 
 
 def drawings():
-    """name -> (function giving the drawing, folder of the Images catalog)."""
+    """name -> function giving the drawing."""
     result = {}
     for module in (icons, food, questions, placeholders, pages):
         made = module.icons() if module is icons else module.pictures()
         for name, function in made.items():
             if name in result:
                 raise ValueError(f"{name} is drawn twice")
-            result[name] = function, FOLDERS.get(module, "")
+            result[name] = function
     return result
 
 
@@ -101,8 +100,8 @@ def files():
     def group(catalog, folder):
         root = f"{catalog}.xcassets"
         put(root, {"Contents.json": _contents()})
-        if folder:
-            root += f"/{folder}"
+        for part in folder.split("/") if folder else ():
+            root += f"/{part}"
             put(root, {"Contents.json": _contents()})
         return root
 
@@ -111,9 +110,8 @@ def files():
     pictures, dark = drawings(), placeholders.dark_pictures()
     for catalog, kinds in names.CATALOGS.items():
         for name in kinds.get("imageset", ()):
-            function, folder = pictures[name]
-            root = group(catalog, folder if catalog == "Images" else "")
-            put(f"{root}/{name}.imageset", _image(name, function(), dark.get(name)))
+            root = group(catalog, names.FOLDERS.get(catalog, {}).get(name, ""))
+            put(f"{root}/{name}.imageset", _image(name, pictures[name](), dark.get(name)))
         for name in kinds.get("dataset", ()):
             entry = {"filename": f"{name}.json", "idiom": "universal",
                      "universal-type-identifier": "public.json"}

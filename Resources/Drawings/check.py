@@ -166,7 +166,7 @@ def check_distinct(faults):
     """No drawing occurs twice, neither among the files nor among the drawings of any format."""
     files = [(p.name, p.read_bytes()) for catalog in names.CATALOGS
              for p in sorted((ROOT / f"{catalog}.xcassets").rglob("*")) if p.suffix in SIZE]
-    drawn = [(name, svg.encode(function())) for name, (function, _) in catalogs.drawings().items()]
+    drawn = [(name, svg.encode(function())) for name, function in catalogs.drawings().items()]
     for pictures in (files, drawn):
         seen = {}
         for name, data in pictures:

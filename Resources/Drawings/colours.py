@@ -3,11 +3,11 @@
 Each line: NAME light [dark [light-contrast dark-contrast]] [@notation]. A value is #RRGGBB or
 #RRGGBBAA, or a grey level such as =0.96 (gamma 2.2 grey). A group line "[Folder notation]" sets the
 folder and how its components are written: decimal, byte, hex; p3 and wide (extended sRGB) are
-decimals in another colour space. "." keeps a group without a folder.
+decimals in another colour space.
 """
 
 TABLE = """
-[Charts decimal]
+[Areas/Charts decimal]
 chartAnkle #E07A5F #F08A70
 chartBlackColor #1C1C1E #F2F2F7
 chartBlueColor #3B7DFF #5E96FF
@@ -37,18 +37,18 @@ chartVioletColor #A347D1 #BC6BE6
 chartWaist #FF6F91 #FF8FAA
 chartWrist #6A994E #86B56A
 chartYellowColor #FFC93C #FFD65E @p3
-[Payment byte]
+[Areas/Payment byte]
 paymentCancelledColor #8E95A3 #9AA1AF
 paymentErrorColor #E0352B #FF6259
 paymentNotPaidColor #F08A24 #FFA24D
 paymentPendingColor #3B7DFF #6B9DFF
-[Subscription hex]
+[Areas/Subscription hex]
 subscriptionBackground #FFFFFF #16171C
 subscriptionForeground #1C1C1E #FFFFFF #000000 #FFFFFF
 subscriptionLink #2F6BEB #7FAAFF #1446B0 #B3CCFF
 subscriptionTextDisabled #B4BAC5 #5F6470
 subscriptionTextSecondary #6A7180 #A3A9B6 #454B58 #D0D4DC
-[Tags hex]
+[Areas/Tags hex]
 tagBlueColor #E3EDFF #1C2B4A
 tagBlueSelectedColor #3B7DFF #4C88FF
 tagBlueTextColor #1F4FB8 #A9C7FF #0F3282 #D6E4FF
@@ -57,13 +57,13 @@ tagGreenSelectedColor #34B56A #3EC276
 tagGreenTextColor #1E7A46 #96E0B3 #0E5029 #C9F3DA
 tagOrangeColor #FFEBD9 #402A17
 tagOrangeTextColor #B4540C #FFC08F #7D3600 #FFE0C7
-[. byte]
+[Controls byte]
 barBackgroundColor #F9F9FB #1B1C20
 blockBackgroundColor #FFFFFF #232429
 blueTextColor #2F6BEB #7FAAFF #1446B0 #B3CCFF
 borderColor #DDE1E8 #3A3B42
 brightBlue #0A84FF #409CFF @wide
-[Buttons byte]
+[Controls byte]
 defaultButtonPressedBackgroundColor #2A63D6 #3A72E6
 facebookButton #3463B8
 floatingButtonBackgroundColor #3B7DFF #4C88FF
@@ -78,7 +78,7 @@ tagButtonBackgroundColor #EFF1F5 #2C2D33
 tagButtonForegroundColor #3E4450 #D3D7DF
 vkButton #3F78C9
 vkButtonPressed #315FA1
-[. decimal]
+[General decimal]
 casablanca #F7B24A #F9BE66
 curiousBlue #2E90DA #52A8EA
 currentWorkoutBorderColor #34B56A #4BCB80
@@ -158,4 +158,4 @@ def colours():
             if appearances:
                 entry["appearances"] = appearances
             entries.append(entry)
-        yield name, folder.strip("."), entries
+        yield name, folder, entries

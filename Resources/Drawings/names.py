@@ -1,4 +1,6 @@
-"""Names of every asset, catalog by catalog, in declaration order."""
+"""Names of every asset, catalog by catalog, in declaration order.
+
+That is the order in which the catalogs are read: by folder, then by name. A line "[Folder]" begins a folder."""
 
 COLORS = """
 chartAnkle chartBlackColor chartBlueColor chartBodyFat chartBrightBlueColor chartButtocks
@@ -26,9 +28,15 @@ unselectedServiceRadioButton unselectedServiceTypeIcon warningTextColor
 """.split()
 
 IMAGES = """
-icon_show icon_unshow login pass icon_more_info_vertical slider slider_a slider_button star_
-star_a star_big_ star_big_a star_grey star_half_a icon_about icon_achievements icon_club
-icon_education icon_experience icon_goal icon_more icon_sertificates icon_work icon_years
+[Authorization]
+icon_show icon_unshow login pass
+[CoachList]
+icon_more_info_vertical slider slider_a slider_button star_ star_a star_big_ star_big_a star_grey
+star_half_a
+[CoachProfile]
+icon_about icon_achievements icon_club icon_education icon_experience icon_goal icon_more
+icon_sertificates icon_work icon_years
+[Common]
 action_complain action_copy action_delete action_edit action_graphic action_messageoff
 action_messageon addPhoto add_feed approved arrowBottom arrow_down arrow_right arrow_up
 badge_bookmark bigDislike bigLike blacklist_avatar blacklist_chat blacklist_chat_small
@@ -36,58 +44,85 @@ blacklist_comments blacklist_comments_small blacklist_feed blacklist_feed_small
 blacklist_my_post_comments blacklist_my_post_comments_small blacklist_profile
 blacklist_profile_small button_add button_add_placeholder button_delete button_edit button_info
 button_pause_vdieo button_play_vdieo button_play_video_big calendar_arrow_icon change_position
-chart_icon_down chart_icon_up add bubble_1 bubble_2 button_play_video send
-chat_another_user_readed chat_delivered chat_in_delivery chat_not_delivered chat_sent ava_1 ava_2
-ava_3 ava_4 search_field course_icon_coach course_start_chat cup advice1 advice2 advice3 advice4
-advice5 advice_registration calendarBack calendarCheck calendarNext calendarTraining
-chart_placeholder desktopArrowWhite desktopInfoButton desktopRefresh desktopStartDay icon_history
-men_ectomorph men_endomorph men_mezomorph women_ectomorph women_endomorph women_mezomorph
+chart_icon_down chart_icon_up
+[Conversation/Input]
+add bubble_1 bubble_2 button_play_video send
+[Conversation/Messages]
+chat_another_user_readed chat_delivered chat_in_delivery chat_not_delivered chat_sent
+[Conversation/People]
+ava_1 ava_2 ava_3 ava_4 search_field
+[Courses]
+course_icon_coach course_start_chat cup
+[Desktop]
+advice1 advice2 advice3 advice4 advice5 advice_registration calendarBack calendarCheck
+calendarNext calendarTraining chart_placeholder desktopArrowWhite desktopInfoButton desktopRefresh
+desktopStartDay icon_history men_ectomorph men_endomorph men_mezomorph women_ectomorph
+women_endomorph women_mezomorph
+[Diet/Load]
 daily_load_high daily_load_low daily_load_medium diet_list_view_button diet_table_view_button
-meals_count_image female_training_target_maintain_ar female_training_target_maintain_ru
+meals_count_image
+[Diet/Targets]
+female_training_target_maintain_ar female_training_target_maintain_ru
 female_training_target_weight_gain_ar female_training_target_weight_gain_ru
 female_training_target_weight_loss_ar female_training_target_weight_loss_ru
 male_training_target_maintain_ar male_training_target_maintain_ru
 male_training_target_weight_gain_ar male_training_target_weight_gain_ru
-male_training_target_weight_loss_ar male_training_target_weight_loss_ru banana diet_spinner
-fried_egg omlet diet_category_59_icon diet_category_60_icon diet_category_61_icon
-diet_category_62_icon diet_category_63_icon diet_category_64_icon diet_category_65_icon
-diet_category_66_icon diet_category_67_icon diet_category_68_icon diet_category_69_icon
-diet_category_70_icon diet_category_71_icon diet_category_72_icon diet_category_73_icon
-diet_category_74_icon diet_category_75_icon diet_category_76_icon diet_category_77_icon
-diet_category_78_icon diet_category_79_icon diet_category_80_icon diet_category_81_icon
-diet_category_82_icon diet_category_83_icon diet_category_84_icon diet_category_85_icon
-disclosure_icon exerciseCarousel exerciseCarouselLocked exerciseInfo exercise_add expand-06
-floatingButtonAdd floatingButtonHelp floatingButtonToBottom hls_button_pause_video
-hls_button_play_video hls_icon_backward hls_icon_expand hls_icon_forward hls_icon_min
-hls_quality_settings iconAdd iconRemove icon_app icon_auto icon_back icon_backgr_data
-icon_bookmark icon_comments icon_copy icon_dislike icon_done icon_down icon_edit icon_favorite
-icon_favorite_a icon_filter icon_forward icon_info icon_like icon_like_handbook icon_min
-icon_month icon_month_refresh icon_once icon_recommend icon_refresh icon_replace icon_sort
-icon_time icon_unbookmark icon_unread icon_up icon_video icon_warning menu_answers menu_blocked
-menu_cards menu_cash menu_exit menu_login menu_messages menu_money menu_progress menu_sound
-menu_subscription menu_theme menu_timer menu_units menu_workout_review icon_analytics icon_blocked
-icon_community icon_copy_id icon_email icon_exit icon_lifestyle icon_login icon_messages_dots_20
-icon_orders icon_password icon_rate icon_settings icon_share icon_support icon_tape
-icon_theme_dark icon_theme_light icon_theme_system icon_share2 navbarBack navbarBookmark
-navbarBookmarkFilled navbarCopy navbarFilter navbarFontSize navbarInfo navbarPlayVideo navbarShare
-navbarShoppingCart navbar_add navbar_cancel navbar_settings notification_post post_more tabEdit
-tabHistory trainingList noWatch nosound not_approved addAnalytics addCard addCoach addDiet
-addMeasurements addMessagePlaceholder addOrder addSportFood blocked_users coursesError
-emptyClients emptyComments emptyFavorites emptyInvoices exercisesHistoryPlaceholder
-feedPlaceholder healthKitPermission notificationsPermission profileAbout profilePhoto searchEmpty
-settings profile_write quality_settings-04 radiobutton radiobutton_a radiobutton_active
-radiobutton_inactive searchIcon share_fb share_inst share_more share_logo small_info apple_colored
-facebook_colored instagram_colored vk_colored startSet stopSet superSetLine superSetPoint
-tab_selected target_lock timer_sound_lock tooltip_icon_info tooltip_icon_warning1
-tooltip_icon_warning2 ageBoy ageGirl at_gym at_home boy_equipment.arab boy_equipment
-boy_no_equipment.arab boy_no_equipment checkbox checkbox_a checkbox_na course_star
-course_star_filled defaultCourseBoy.arab defaultCourseBoy defaultCourseGirl.arab defaultCourseGirl
-girlBack girlFront girlSide girl_equipment.arab girl_equipment girl_no_equipment.arab
-girl_no_equipment gymBoy.arab gymBoy gymGirl.arab gymGirl heightBoy heightGirl homeBoy
-homeGirl.arab homeGirl manBack manFront manSide mcalories mpulse msteps sexBoy.arab sexBoy
-sexGirl.arab sexGirl wcalories weightBoy weightGirl workoutResultsIcon wpulse wsteps welcom_google
-welcom_logo welcome_apple welcome_fb welcome_instagram welcome_vk yessound
-""".split()
+male_training_target_weight_loss_ar male_training_target_weight_loss_ru
+[Food]
+banana diet_spinner fried_egg omlet
+[General]
+diet_category_59_icon diet_category_60_icon diet_category_61_icon diet_category_62_icon
+diet_category_63_icon diet_category_64_icon diet_category_65_icon diet_category_66_icon
+diet_category_67_icon diet_category_68_icon diet_category_69_icon diet_category_70_icon
+diet_category_71_icon diet_category_72_icon diet_category_73_icon diet_category_74_icon
+diet_category_75_icon diet_category_76_icon diet_category_77_icon diet_category_78_icon
+diet_category_79_icon diet_category_80_icon diet_category_81_icon diet_category_82_icon
+diet_category_83_icon diet_category_84_icon diet_category_85_icon disclosure_icon exerciseCarousel
+exerciseCarouselLocked exerciseInfo exercise_add expand-06 floatingButtonAdd floatingButtonHelp
+floatingButtonToBottom hls_button_pause_video hls_button_play_video hls_icon_backward
+hls_icon_expand hls_icon_forward hls_icon_min hls_quality_settings iconAdd iconRemove icon_app
+icon_auto icon_back icon_backgr_data icon_bookmark icon_comments icon_copy icon_dislike icon_done
+icon_down icon_edit icon_favorite icon_favorite_a icon_filter icon_forward icon_info icon_like
+icon_like_handbook icon_min icon_month icon_month_refresh icon_once icon_recommend icon_refresh
+icon_replace icon_sort icon_time icon_unbookmark icon_unread icon_up icon_video icon_warning
+menu_answers menu_blocked menu_cards menu_cash menu_exit menu_login menu_messages menu_money
+menu_progress menu_sound menu_subscription menu_theme menu_timer menu_units menu_workout_review
+[Menu]
+icon_analytics icon_blocked icon_community icon_copy_id icon_email icon_exit icon_lifestyle
+icon_login icon_messages_dots_20 icon_orders icon_password icon_rate icon_settings icon_share
+icon_support icon_tape icon_theme_dark icon_theme_light icon_theme_system
+[Navigation]
+icon_share2 navbarBack navbarBookmark navbarBookmarkFilled navbarCopy navbarFilter navbarFontSize
+navbarInfo navbarPlayVideo navbarShare navbarShoppingCart navbar_add navbar_cancel navbar_settings
+notification_post post_more tabEdit tabHistory trainingList
+[Notices]
+noWatch nosound not_approved
+[Placeholders]
+addAnalytics addCard addCoach addDiet addMeasurements addMessagePlaceholder addOrder addSportFood
+blocked_users coursesError emptyClients emptyComments emptyFavorites emptyInvoices
+exercisesHistoryPlaceholder feedPlaceholder healthKitPermission notificationsPermission
+profileAbout profilePhoto searchEmpty settings
+[Profile]
+profile_write quality_settings-04 radiobutton radiobutton_a radiobutton_active
+radiobutton_inactive searchIcon share_fb share_inst share_more
+[Sharing]
+share_logo small_info
+[SocialNetworks]
+apple_colored facebook_colored instagram_colored vk_colored
+[Training]
+startSet stopSet superSetLine superSetPoint tab_selected target_lock timer_sound_lock
+tooltip_icon_info tooltip_icon_warning1 tooltip_icon_warning2
+[User]
+ageBoy ageGirl at_gym at_home boy_equipment.arab boy_equipment boy_no_equipment.arab
+boy_no_equipment checkbox checkbox_a checkbox_na course_star course_star_filled
+defaultCourseBoy.arab defaultCourseBoy defaultCourseGirl.arab defaultCourseGirl girlBack girlFront
+girlSide girl_equipment.arab girl_equipment girl_no_equipment.arab girl_no_equipment gymBoy.arab
+gymBoy gymGirl.arab gymGirl heightBoy heightGirl homeBoy homeGirl.arab homeGirl manBack manFront
+manSide mcalories mpulse msteps sexBoy.arab sexBoy sexGirl.arab sexGirl wcalories weightBoy
+weightGirl workoutResultsIcon wpulse wsteps
+[Welcome]
+welcom_google welcom_logo welcome_apple welcome_fb welcome_instagram welcome_vk yessound
+"""
 
 IMAGES2 = """
 arrow arrow_left button_delete_pic button_filter_close button_filter_open card choose
@@ -109,17 +144,35 @@ onboarding.4.latina onboarding.4.usa
 """.split()
 
 SUBSCRIPTION = """
+[People]
 subscription_man.arab subscription_man.asia subscription_man subscription_man.usa
 subscription_woman.arab subscription_woman.asia subscription_woman subscription_woman.latina
-subscription_woman.usa icon_alt icon_cup icon_dumbbell icon_food_plan icon_graph icon_reactions
-icon_report icon_support_subs icon_timer subscription_logo
-""".split()
+subscription_woman.usa
+[Services]
+icon_alt icon_cup icon_dumbbell icon_food_plan icon_graph icon_reactions icon_report
+icon_support_subs icon_timer subscription_logo
+"""
+
+
+def _by_folder(text):
+    """name -> folder"""
+    folder, result = "", {}
+    for word in text.split():
+        if word.startswith("["):
+            folder = word.strip("[]")
+        else:
+            result[word] = folder
+    return result
+
+
+# catalog -> image -> folder
+FOLDERS = {"Images": _by_folder(IMAGES), "Subscription": _by_folder(SUBSCRIPTION)}
 
 # catalog -> asset kind -> names
 CATALOGS = {
     "Colors": {"colorset": COLORS},
-    "Images": {"imageset": IMAGES},
+    "Images": {"imageset": list(FOLDERS["Images"])},
     "Images2": {"imageset": IMAGES2},
     "Onboarding": {"dataset": ONBOARDING_DATA, "imageset": ONBOARDING},
-    "Subscription": {"imageset": SUBSCRIPTION},
+    "Subscription": {"imageset": list(FOLDERS["Subscription"])},
 }

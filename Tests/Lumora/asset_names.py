@@ -1,17 +1,40 @@
-"""Compares the assets of the compiled bundle with the list of the drawings' names."""
+"""Compares the assets of the compiled bundle, and the constants in their order, with the list of the drawings' names."""
+import json
 import pathlib
+import re
 import subprocess
 import sys
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(pathlib.Path(sys.argv[1]) / "Resources/Drawings"))
+resources = pathlib.Path(sys.argv[1]) / "Resources"
+sys.path.insert(0, str(resources / "Drawings"))
 import names  # noqa: E402
 
 KINDS = {"imageset": "image", "colorset": "color", "dataset": "data"}
+
+
+def printed(*arguments):
+    return subprocess.run([sys.argv[2], *arguments], check=True, capture_output=True, text=True).stdout
+
+
+def constant(name):
+    first, *others = filter(None, re.split("[_.-]", name))
+    return first + "".join(piece[0].upper() + piece[1:] for piece in others)
+
+
+faults = []
 expected = {f"{KINDS[kind]}\t{catalog}\t{name}"
             for catalog, kinds in names.CATALOGS.items() for kind, listed in kinds.items() for name in listed}
-listed = set(subprocess.run([sys.argv[2], "assets"], check=True, capture_output=True, text=True).stdout.splitlines())
+listed = set(printed("assets").splitlines())
 for line in sorted(expected ^ listed):
-    print("missing" if line in expected else "unknown", line)
-print(f"{len(listed)} assets")
-sys.exit(0 if listed == expected and len(listed) == 537 else 1)
+    faults.append(f"{'missing' if line in expected else 'unknown'} {line}")
+
+made = [entry for entry in json.loads(printed("accessors", resources, "--module", "Lumora", "--format", "json"))
+        if entry["kind"] != "text"]
+for catalog, kinds in names.CATALOGS.items():
+    wanted = [f"Lumora::LumoraAsset::{catalog}::{constant(name)}" for listed in kinds.values() for name in listed]
+    declared = [entry["accessor"] for entry in made if entry["catalog"] == catalog]
+    faults += [f"{one} is declared where {other} should be" for one, other in zip(declared, wanted) if one != other][:3]
+
+print("\n".join(faults) or f"{len(listed)} assets")
+sys.exit(0 if not faults and len(listed) == len(made) == 537 else 1)

@@ -48,7 +48,7 @@ std::uint32_t pixel(const Pictures::Bitmap& bitmap, std::size_t x, std::size_t y
 
 TEST(PictureFile, KeepsPngAndJpegAsTheyAre) {
     for (const char* name :
-         {"Food/banana.imageset/banana.png", "Questionnaire/defaultCourseBoy.imageset/defaultCourseBoy.jpg"}) {
+         {"Food/banana.imageset/banana.png", "User/defaultCourseBoy.imageset/defaultCourseBoy.jpg"}) {
         const std::string bytes = resource(name);
         const auto made = pictures(bytes, {.scale = 2});
         ASSERT_EQ(made.size(), 1U) << name;
@@ -147,7 +147,7 @@ TEST(PictureFile, DrawsTheRegularSymbolOfMediumSize) {
 
 TEST(PictureFile, RefusesWhatCannotBeRead) {
     const std::string png = resource("Food/banana.imageset/banana.png");
-    const std::string jpeg = resource("Questionnaire/defaultCourseBoy.imageset/defaultCourseBoy.jpg");
+    const std::string jpeg = resource("User/defaultCourseBoy.imageset/defaultCourseBoy.jpg");
     std::string spoiledPng = png; // in the middle of its pixels
     spoiledPng[png.find("IDAT") + 20] ^= 0x55;
     std::string spoiledJpeg = jpeg;
