@@ -99,8 +99,7 @@ endfunction()
 # lumora_shared_library(target map)
 # What both shared libraries have in common: a soname, and only the names in the linker script `map` visible.
 function(lumora_shared_library target map)
-    set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
-                          INSTALL_RPATH "$ORIGIN" LINK_DEPENDS ${map})
+    set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${map})
     target_compile_features(${target} PUBLIC cxx_std_20)
     # Never unmapped: views and texts that were read once stay valid. Its functions call each other directly.
     target_link_options(${target} PRIVATE -Wl,-z,nodelete -Wl,-Bsymbolic -Wl,--as-needed -Wl,--version-script=${map})

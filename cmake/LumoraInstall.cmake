@@ -49,6 +49,8 @@ foreach(name lumora lumora-platform)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endforeach()
 
-foreach(component runtime development tools)
-    install(FILES LICENSE THIRD-PARTY.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT ${component})
-endforeach()
+if(NOT LUMORA_PACKAGES) # a Debian package has them in a folder of its own
+    foreach(component runtime development tools)
+        install(FILES LICENSE THIRD-PARTY.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT ${component})
+    endforeach()
+endif()

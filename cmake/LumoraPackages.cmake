@@ -5,6 +5,7 @@ set(CPACK_COMPONENTS_ALL runtime development tools)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "typed access to localized texts and assets") # first line of every description
 set(CPACK_PACKAGE_CONTACT "Lumora maintainers <maintainers@users.noreply.c-seed-46c1529d.example>")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE
@@ -15,28 +16,27 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 
 set(runtime liblumora${PROJECT_VERSION_MAJOR})
 set(same_version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime})
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/debian/triggers)
+# CPack warns of plug-ins when it writes these.
+set(shlibs ${PROJECT_BINARY_DIR}/debian/shlibs)
+file(WRITE ${shlibs} "liblumora ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})
+liblumora-platform ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})
+")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/cmake/debian/triggers ${shlibs})
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME liblumora-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime} ${same_version}")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME lumora)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime} ${same_version}")
-# The first line is the synopsis.
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "typed access to localized texts and assets
-The platform that modules of texts, images, colours and data stand on,
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The platform that modules of texts, images, colours and data stand on,
 and the fitness module with its bundle.")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "typed access to localized texts and assets: headers
-Headers, CMake and pkg-config packages for programs that use the module
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake and pkg-config packages for programs that use the module
 or make modules of their own.")
-set(CPACK_COMPONENT_TOOLS_DESCRIPTION "tools for modules of localized texts and assets
-The program lumora generates typed trees from an application's resources,
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION "The program lumora generates typed trees from an application's resources,
 compiles, checks, shows and exchanges them.")
 
 # What every package of Debian has.
@@ -51,7 +51,15 @@ file(WRITE ${changelog}/changelog.Debian "lumora (${PROJECT_VERSION}-${CPACK_DEB
 execute_process(COMMAND ${GZIP} -9nf changelog.Debian WORKING_DIRECTORY ${changelog} COMMAND_ERROR_IS_FATAL ANY)
 foreach(component runtime development tools)
     string(TOUPPER ${component} upper)
-    install(FILES cmake/debian/copyright ${changelog}/changelog.Debian.gz
-        DESTINATION share/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME} COMPONENT ${component})
+    set(package ${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
+    install(FILES cmake/debian/copyright THIRD-PARTY.md ${changelog}/changelog.Debian.gz DESTINATION share/doc/${package}
+        COMPONENT ${component})
+    # These packages are not made for Debian's archive, so there is no bug that their first version closes. CPack gives every
+    # package with a library scripts that call ldconfig.
+    file(WRITE ${changelog}/${package} "${package} binary: initial-upload-closes-no-bugs\n")
+    if(component STREQUAL "runtime")
+        file(APPEND ${changelog}/${package} "${package} binary: maintscript-calls-ldconfig\n")
+    endif()
+    install(FILES ${changelog}/${package} DESTINATION share/lintian/overrides COMPONENT ${component})
 endforeach()
 include(CPack)
