@@ -1,0 +1,51 @@
+// Any bytes as a table of plural formats, each of which is made into texts.
+#include "Foundation/String.h"
+#include "Foundation/internal/PluralText.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+namespace {
+
+using Foundation::FormatArgument;
+using StringTables::PluralEntry;
+
+void require(bool holds) {
+    if (!holds)
+        std::abort();
+}
+
+bool areEqual(const PluralEntry& one, const PluralEntry& other) {
+    return one.key == other.key && one.plural == other.plural;
+}
+
+void makeTexts(const StringTables::PluralFormat& plural) {
+    const std::vector<FormatArgument> arguments = {std::int64_t{1}, 2.5, std::string_view("text"), std::int64_t{-21}};
+    for (const std::string_view language : {"en", "ru", "ar", "no language"})
+        for (std::size_t given = 0; given <= arguments.size(); given += 2) {
+            const std::span some = std::span(arguments).first(given);
+            const std::string format = Foundation::detail::chosenFormat(plural, language, some);
+            require(format.size() <= Foundation::detail::longestPlural);
+            (void)Foundation::String::format(format, Foundation::Locale(std::string(language)), some);
+        }
+    (void)Foundation::detail::generalFormat(plural);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto table = StringTables::PluralTable::read({reinterpret_cast<const char*>(data), size});
+    if (!table) {
+        require(!table.error().message.empty());
+        return 0;
+    }
+    for (const PluralEntry& entry : table->entries())
+        require(table->find(entry.key) == &entry);
+    const auto bytes = StringTables::write(table->entries());
+    const auto again = bytes ? StringTables::PluralTable::read(*bytes) : bytes.error();
+    require(again && std::ranges::equal(table->entries(), again->entries(), areEqual));
+    for (const PluralEntry& entry : table->entries().first(std::min<std::size_t>(table->entries().size(), 4)))
+        makeTexts(entry.plural);
+    return 0;
+}

@@ -1,0 +1,59 @@
+// Any bytes as the file of a compiled table in a bundle.
+#include "Checks.h"
+#include "StringTables/internal/CompiledIndex.h"
+#include "StringTables/internal/StoredTable.h"
+
+#include <sys/mman.h>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+using Checks::require;
+using StringTables::Table;
+using StringTables::StoredTable;
+
+// A file in memory that has a path.
+class MemoryFile {
+public:
+    explicit MemoryFile(std::string_view bytes) : descriptor_(::memfd_create("table", MFD_CLOEXEC)) {
+        require(descriptor_ >= 0 && ::write(descriptor_, bytes.data(), bytes.size()) >= 0);
+    }
+    ~MemoryFile() { ::close(descriptor_); }
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+    std::string path() const { return "/proc/self/fd/" + std::to_string(descriptor_); }
+
+private:
+    int descriptor_;
+};
+
+// The text of `key`, read by itself, or once the file was read whole.
+std::optional<std::string> found(const MemoryFile& file, std::string_view key, bool whole) {
+    StoredTable table(file.path());
+    for (int i = 0; i < (whole ? 8 : 0); ++i)
+        (void)table.find(std::string(static_cast<std::size_t>(i + 1), '\1'));
+    const auto text = table.find(key);
+    return text ? std::optional(std::string(*text)) : std::nullopt;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    if (!bytes.starts_with("bplist0"))
+        return 0;
+    const MemoryFile file(bytes);
+    const auto table = Table::read(std::string(bytes));
+    std::vector<std::string> keys = {"", "a", "key 1", "Ключ", "long"};
+    if (table)
+        for (const auto& entry : table->entries().first(std::min<std::size_t>(table->entries().size(), 8)))
+            keys.emplace_back(entry.key);
+    for (const std::string& key : keys) {
+        const auto part = found(file, key, false), whole = found(file, key, true);
+        require(!part || !whole || part == whole);
+        if (table) // an index that contradicts the dictionary is refused
+            require(part == table->find(key) && whole == part);
+    }
+    return 0;
+}
