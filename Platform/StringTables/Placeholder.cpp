@@ -152,10 +152,9 @@ std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t 
     return std::nullopt;
 }
 
-void FormatSignature::add(std::size_t position, Kind kind, bool isByPosition) {
+void FormatSignature::add(std::size_t position, Kind kind) {
     if (position == 0)
         return;
-    (isByPosition ? hasPositions : hasOrder) = true;
     if (arguments.size() < position)
         arguments.resize(position);
     std::optional<Kind>& known = arguments[position - 1];
@@ -166,20 +165,23 @@ void FormatSignature::add(std::size_t position, Kind kind, bool isByPosition) {
 }
 
 void FormatSignature::add(const Placeholder& placeholder, const ArgumentCounter::Taken& taken) {
-    add(taken.width, Kind::integer, placeholder.width.value != 0);
-    add(taken.precision, Kind::integer, placeholder.precision.value != 0);
-    add(taken.value, placeholder.kind, placeholder.position != 0);
+    add(taken.width, Kind::integer);
+    add(taken.precision, Kind::integer);
+    add(taken.value, placeholder.kind);
 }
 
 FormatSignature signatureOf(std::string_view format) {
     FormatSignature signature;
     ArgumentCounter counter;
+    ArgumentManner manner;
     std::size_t at = 0;
     while (const auto found = nextPlaceholder(format, at)) {
         signature.hasLonePercent |= format.substr(at, found->begin - at).find('%') != format.npos;
         at = found->end;
         signature.add(*found, counter.take(*found));
+        manner.add(*found);
     }
+    signature.mixesPositions = manner.isMixed();
     signature.hasLonePercent |= format.substr(at).find('%') != format.npos;
     return signature;
 }

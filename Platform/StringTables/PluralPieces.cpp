@@ -85,27 +85,33 @@ Placeholder::Kind kindOf(const PluralVariable& variable) {
 
 class SignatureReader {
 public:
-    explicit SignatureReader(const PluralFormat& plural) : plural_(plural) { add(PluralPieces(plural)); }
+    explicit SignatureReader(const PluralFormat& plural) : plural_(plural) { add(PluralPieces(plural), 0); }
     FormatSignature signature;
 
 private:
-    void add(PluralPieces pieces) {
-        while (const auto piece = pieces.next())
+    // One text: the format (`own` is 0), or a form of the variable that the argument `own` chooses. Its own number
+    // has no position and needs none, whatever the others have.
+    void add(PluralPieces pieces, std::size_t own) {
+        ArgumentManner manner;
+        while (const auto piece = pieces.next()) {
+            if (piece->placeholder.position != 0 || piece->arguments.value != own)
+                manner.add(piece->placeholder);
             if (piece->variable == nullptr)
                 signature.add(piece->placeholder, piece->arguments);
             else
-                add(*piece->variable, *piece);
+                add(*piece->variable, piece->arguments.value);
+        }
+        signature.mixesPositions |= manner.isMixed();
     }
 
     // The forms of a variable that an argument chooses; once, however often it is named.
-    void add(const PluralVariable& variable, const PluralPiece& piece) {
-        const std::size_t argument = piece.arguments.value;
-        signature.add(argument, kindOf(variable), piece.placeholder.position != 0);
+    void add(const PluralVariable& variable, std::size_t argument) {
+        signature.add(argument, kindOf(variable));
         if (argument > mostArguments || !seen_.emplace(&variable, argument).second)
             return;
         for (const auto& form : variable.forms)
             if (form)
-                add(PluralPieces(plural_, *form, variable, argument));
+                add(PluralPieces(plural_, *form, variable, argument), argument);
     }
 
     // Variables that name each other may count on without end.

@@ -115,6 +115,25 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              "}, 'folders': {'argNum': 3, 'variations': " + plural("a folder", "%arg folders") + "}}}",
          "%1$@: %2$#@files@ in %3$#@folders@ {files ld one=%2$ld file other=%2$ld files, 100%%arg} "
          "{folders lld one=a folder other=%3$lld folders}"},
+        // Without a number of its own, and named in a form.
+        {__LINE__,
+         "{'substitutions': {'a': {'variations': " + plural("%arg egg", "%arg eggs in %#@b@") +
+             "}, 'b': {'argNum': 3, "
+             "'variations': " +
+             plural("a box", "%arg boxes") + "}}, 'variations': {'device': {'iphone': " + unit("Tap %@, %#@a@") +
+             ", 'other': " + unit("Click %@, %#@a@") + "}}}",
+         "Click %1$@, %2$#@a@ {a lld one=%2$lld egg other=%2$lld eggs in %3$#@b@} {b lld one=a box other=%3$lld "
+         "boxes}"},
+        // What waits for its translation is no text.
+        {__LINE__,
+         "{'variations': {'plural': {'one': {'stringUnit': {'state': 'new', 'value': ''}}, 'other': " +
+             unit("%d eggs") + "}}}",
+         "%#@value@ {value d other=%d eggs}"},
+        {__LINE__,
+         "{'variations': {'device': {'other': {'stringUnit': {'value': '', 'state': 'new'}}, 'ipad': " + unit("x") +
+             "}}}",
+         "x"},
+        {__LINE__, "{'variations': {'plural': {'other': {'stringUnit': {'state': 'new', 'value': ''}}}}}", "k"},
     };
     for (const auto& one : cases)
         EXPECT_EQ(shownOf(one.localization), one.shown) << "line " << one.line;
@@ -147,14 +166,19 @@ TEST(StringCatalog, IsRefusedWithThePlaceOfItsFault) {
 
 TEST(StringCatalog, ReportsWhatItLeavesOut) {
     Support::SourceFolder folder;
-    folder.write("T.xcstrings", quotes("{'sourceLanguage': 'en', 'strings': {'a': {},\n'a': {}, 'd': {'localizations': "
-                                       "{'en': {'variations': {'device': {'mac': {'stringUnit': {'value': 'x'}}, "
-                                       "'other': {'stringUnit': {'value': 'y'}}}}}}}}}"));
+    folder.write("T.xcstrings",
+                 quotes("{'sourceLanguage': 'en', 'strings': {'a': {},\n'a': {}, 'd': {'localizations': "
+                        "{'en': {'variations': {'device': {'mac': {'stringUnit': {'value': 'x'}}, "
+                        "'other': {'stringUnit': {'value': 'y'}}}}}}},\n"
+                        "'p': {'localizations': {'en': {'variations': {'plural': {'other': {'variations': "
+                        "{'device': {'mac': {'stringUnit': {'value': 'x'}}, "
+                        "'other': {'stringUnit': {'value': 'y'}}}}}}}}}}}}"));
     folder.write("en.lproj/T.strings", "a = b;");
     (void)folder.read();
     EXPECT_EQ(folder.takeMessages(),
               (Strings{"warning: T.xcstrings:2:1: the key appears again; this text is used",
                        "note: T.xcstrings:2:10: texts for single devices are left out",
+                       "note: T.xcstrings:3:1: texts for single devices are left out",
                        "error: en.lproj/T.strings: is the table \"T\" in the language en, as is T.xcstrings"}));
 }
 

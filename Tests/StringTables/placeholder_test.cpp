@@ -85,8 +85,8 @@ TEST(Placeholder, PassesOverWhatIsNone) {
 }
 
 TEST(Placeholder, TellsWhatAFormatTakes) {
-    // The kinds as "t i n", '-' for none; then 'p' by position, 'o' in order, '%' a lone percent sign, and the
-    // conflict.
+    // The kinds as "t i n", '-' for none; then 'm' for a mix of positions and order, '%' for a lone percent sign, and
+    // the conflict.
     const auto described = [](std::string_view format) {
         const StringTables::FormatSignature signature = StringTables::signatureOf(format);
         std::string out;
@@ -94,7 +94,7 @@ TEST(Placeholder, TellsWhatAFormatTakes) {
         const auto letter = [&kinds](Placeholder::Kind kind) { return kinds[static_cast<std::size_t>(kind)]; };
         for (const auto& kind : signature.arguments)
             out += kind ? letter(*kind) : '-';
-        out.append(signature.hasPositions ? " p" : "").append(signature.hasOrder ? " o" : "");
+        out += signature.mixesPositions ? " m" : "";
         out += signature.hasLonePercent ? " %" : "";
         if (const auto& conflict = signature.conflict)
             ((out += " " + std::to_string(conflict->position)) += letter(conflict->first)) += letter(conflict->later);
@@ -107,12 +107,12 @@ TEST(Placeholder, TellsWhatAFormatTakes) {
     } cases[] = {
         {__LINE__, "100%%", ""},
         {__LINE__, "100% k", " %"},
-        {__LINE__, "100% sure", "t o"},
-        {__LINE__, "%@ %d %.2f %s", "tint o"},
-        {__LINE__, "%3$@ %1$d %1$i", "i-t p"},
-        {__LINE__, "%1$@ %2$d %1$d %2$f", "ti p 1ti"},
-        {__LINE__, "%*.*f %", "iin o %"},
-        {__LINE__, "%2$*1$f %@", "in p o 1it"},
+        {__LINE__, "100% sure", "t"},
+        {__LINE__, "%@ %d %.2f %s", "tint"},
+        {__LINE__, "%3$@ %1$d %1$i", "i-t"},
+        {__LINE__, "%1$@ %2$d %1$d %2$f", "ti 1ti"},
+        {__LINE__, "%*.*f %", "iin %"},
+        {__LINE__, "%2$*1$f %@", "in m 1it"},
     };
     for (const auto& [line, format, expected] : cases)
         EXPECT_EQ(described(format), expected) << "line " << line;

@@ -35,7 +35,7 @@ const char* wordFor(Parameter parameter) {
 }
 
 std::string faultOf(const FormatSignature& signature) {
-    if (signature.hasPositions && signature.hasOrder)
+    if (signature.mixesPositions)
         return "mixes placeholders with and without a position";
     if (signature.conflict)
         return "takes argument " + std::to_string(signature.conflict->position) + " both as " +

@@ -104,6 +104,31 @@ std::size_t argumentCount(const PluralForms& forms) {
     return count;
 }
 
+std::string positionText(std::size_t argument) {
+    return argument == 0 ? "" : std::to_string(argument) + "$";
+}
+
+std::size_t indexOf(const PluralVariable& variable, const PluralFormat& plural) {
+    return static_cast<std::size_t>(&variable - plural.variables.data());
+}
+
+// `text` with the argument of each variable that it names, "%2$#@files@". `pieces` are those of `text`.
+std::string withArguments(PluralPieces pieces, std::string_view text, const PluralFormat& plural,
+                          const std::vector<std::size_t>& arguments) {
+    std::string out;
+    std::size_t done = 0;
+    while (const auto piece = pieces.next()) {
+        if (piece->variable == nullptr || piece->placeholder.position != 0)
+            continue;
+        const std::size_t name = piece->placeholder.begin + 1;
+        out += text.substr(done, name - done);
+        out += positionText(arguments[indexOf(*piece->variable, plural)]);
+        done = name;
+    }
+    out += text.substr(done);
+    return out;
+}
+
 void replaceArg(std::string& form, const std::string& placeholder) {
     constexpr std::string_view arg = "%arg";
     for (std::size_t at = form.find('%'); at != form.npos; at = form.find('%', at)) {
@@ -133,34 +158,33 @@ PluralFormat pluralOfForms(PluralForms forms) {
         for (auto& form : forms)
             if (form)
                 form = withPositions(*std::move(form));
-    const std::string position = number.argument == 1 ? "" : std::to_string(number.argument) + "$";
-    return {"%" + position + "#@value@", {{"value", number.valueType, std::move(forms)}}};
+    return {"%" + positionText(number.argument == 1 ? 0 : number.argument) + "#@value@",
+            {{"value", number.valueType, std::move(forms)}}};
 }
 
 PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substitution> substitutions) {
     PluralFormat plural{format, {}};
+    std::vector<std::size_t> arguments; // of the variables; 0 where it is not known
     for (auto& [variable, argument] : substitutions) {
-        const std::string position = argument == 0 ? "" : std::to_string(argument) + "$";
-        for (auto& form : variable.forms)
-            if (form)
-                replaceArg(*form, "%" + position + variable.valueType);
         plural.variables.push_back(std::move(variable));
+        arguments.push_back(argument);
     }
-    // A variable takes the argument that is given with it, not the next one.
-    std::string positioned;
-    std::size_t done = 0;
     PluralPieces pieces(plural);
-    while (const auto piece = pieces.next()) {
-        const Placeholder& found = piece->placeholder;
-        if (piece->variable == nullptr || found.position != 0)
-            continue;
-        const auto number = static_cast<std::size_t>(piece->variable - plural.variables.data());
-        positioned += format.substr(done, found.begin - done) + "%";
-        done = found.begin + 1;
-        if (substitutions[number].argument != 0)
-            positioned += std::to_string(substitutions[number].argument) + "$";
+    while (const auto piece = pieces.next())
+        if (piece->variable != nullptr && arguments[indexOf(*piece->variable, plural)] == 0)
+            arguments[indexOf(*piece->variable, plural)] = piece->arguments.value;
+
+    const PluralFormat named = plural;
+    plural.format = withPositions(withArguments(PluralPieces(named), format, named, arguments));
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        PluralVariable& variable = plural.variables[i];
+        for (auto& form : variable.forms)
+            if (form) {
+                const PluralPieces inForm(named, *form, named.variables[i], std::max<std::size_t>(arguments[i], 1));
+                form = withArguments(inForm, *form, named, arguments);
+                replaceArg(*form, "%" + positionText(arguments[i]) + variable.valueType);
+            }
     }
-    plural.format = withPositions(positioned + format.substr(done));
     return plural;
 }
 

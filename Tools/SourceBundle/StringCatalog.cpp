@@ -4,6 +4,7 @@
 #include "SourceBundle/PluralText.h"
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <simdjson.h>
 #include <tuple>
 #include <utility>
@@ -50,7 +51,14 @@ struct Localized {
     bool hasForms() const {
         return std::ranges::any_of(forms, [](const auto& form) { return form.has_value(); });
     }
-    bool isEmpty() const { return !hasForms() && (!text || (text->empty() && state == State::isNew)); }
+    bool isEmpty() const { return !text && !hasForms(); }
+    // What the text for one device says.
+    void take(Localized&& device) {
+        text = std::move(device.text);
+        forms = std::move(device.forms);
+        std::ranges::move(device.substitutions, std::back_inserter(substitutions));
+        note(device.state);
+    }
     void note(State other) {
         if (state == State::translated || other == State::isNew)
             state = other;
@@ -97,7 +105,7 @@ State stateNamed(std::string_view name) {
 }
 
 struct Unit {
-    std::optional<std::string> text;
+    std::optional<std::string> text; // none while it waits for its translation
     State state = State::translated;
 };
 
@@ -111,6 +119,8 @@ Unit readUnit(ondemand::value object) {
         else
             skip(value);
     });
+    if (unit.state == State::isNew && unit.text && unit.text->empty())
+        unit.text.reset();
     return unit;
 }
 
@@ -125,23 +135,28 @@ void readPlural(ondemand::value object, Localized& out) {
         readLocalized(value, form);
         out.forms[indexOf(*category)] = std::move(form.text);
         out.note(form.state);
+        out.hasDevices |= form.hasDevices;
     });
 }
 
 void readDevices(ondemand::value object, Localized& out) {
     static constexpr std::array<std::string_view, 2> liked = {"other", "iphone"};
     std::size_t best = liked.size() + 1;
+    Localized chosen;
     forEach(object, [&](std::string_view name, ondemand::value value) {
         Localized device;
         readLocalized(value, device);
+        if (device.isEmpty())
+            return;
         const auto rank = static_cast<std::size_t>(std::ranges::find(liked, name) - liked.begin());
         const bool isFirst = best > liked.size();
+        out.hasDevices |= !isFirst || device.hasDevices;
         if (rank < best) {
             best = rank;
-            std::swap(out, device);
+            chosen = std::move(device);
         }
-        out.hasDevices |= !isFirst || device.hasDevices;
     });
+    out.take(std::move(chosen));
 }
 
 void readSubstitutions(ondemand::value object, Localized& out) {

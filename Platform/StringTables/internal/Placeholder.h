@@ -77,6 +77,25 @@ private:
     std::size_t taken_ = 0;
 };
 
+// Whether the placeholders of one text take their arguments by position, in their order, or both.
+class ArgumentManner {
+public:
+    void add(const Placeholder& placeholder) noexcept {
+        if (placeholder.width.from == Placeholder::Size::From::argument)
+            add(placeholder.width.value != 0);
+        if (placeholder.precision.from == Placeholder::Size::From::argument)
+            add(placeholder.precision.value != 0);
+        if (placeholder.kind != Placeholder::Kind::percent)
+            add(placeholder.position != 0);
+    }
+    bool isMixed() const noexcept { return hasPositions_ && hasOrder_; }
+
+private:
+    void add(bool isByPosition) noexcept { (isByPosition ? hasPositions_ : hasOrder_) = true; }
+
+    bool hasPositions_ = false, hasOrder_ = false;
+};
+
 // All arguments that a format takes.
 struct FormatSignature {
     using Kind = Placeholder::Kind;
@@ -89,14 +108,13 @@ struct FormatSignature {
     // By position; no value for an argument that no placeholder takes. Of different kinds, the first counts.
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one
-    bool hasPositions = false;        // placeholders take arguments by position
-    bool hasOrder = false;            // placeholders take the next argument
+    bool mixesPositions = false;      // one text takes arguments both by position and in their order
     bool hasLonePercent = false;      // a '%' begins no placeholder
 
     // Adds the arguments that a placeholder takes.
     void add(const Placeholder& placeholder, const ArgumentCounter::Taken& taken);
     // Adds that the argument at `position` (0: none) is of that kind.
-    void add(std::size_t position, Kind kind, bool isByPosition);
+    void add(std::size_t position, Kind kind);
 };
 [[nodiscard]] FormatSignature signatureOf(std::string_view format);
 
