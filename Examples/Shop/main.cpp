@@ -1,4 +1,4 @@
-// One page of a tea and coffee shop in the user's language: LANGUAGE=de ./shop
+// One page of a tea and coffee shop in the user's language: LANGUAGE=de LC_ALL=de_DE.UTF-8 ./shop
 #include <Shop/Shop.h>
 
 #include <cstdint>

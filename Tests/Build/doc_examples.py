@@ -1,38 +1,82 @@
-"""Follows pages of Docs/ word by word with the installed package: writes the files that they show, runs their commands in a copy of
-Examples/Shop, and compares what is printed with what the page shows. C++ fragments are compiled against the module."""
+"""Follows README.md and the pages of Docs/ word by word with the installed package: writes the files that they show, runs their commands,
+and compares what is printed with what the page shows. Fragments of C++ are compiled against the module."""
 import os
 import pathlib
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
 
 from packaging import options, run, source
 
-PAGES = ("add-a-text", "add-a-language", "add-a-picture", "use-from-c")
+# The pages, and whether they begin in an empty folder or with the resources of Examples/Shop. Of check.md, only what comes before its
+# rules: check_page.py has those.
+EMPTY, SHOP = "empty", "shop"
+PAGES = {"README.md": SHOP, "Docs/own-module.md": EMPTY, "Docs/add-a-text.md": SHOP, "Docs/add-a-language.md": SHOP,
+         "Docs/add-a-picture.md": SHOP, "Docs/use-from-c.md": EMPTY, "Docs/check.md": SHOP, "Docs/translate.md": SHOP,
+         "Docs/gallery.md": SHOP, "Docs/plurals.md": EMPTY, "Docs/naming.md": EMPTY}
 BLOCK = re.compile(r"^```(\w+)(?: (>>)?(\S+))?\n(.*?)^```$", re.DOTALL | re.MULTILINE)
+INDENTED = re.compile(r"(?:\A|\n)\n    (?! )(.*)")
+BUILDS_LUMORA = re.compile(r"cmake .*\bbuild/own\b")  # as the build of this test was made
+INSTALLED = "/opt/lumora"  # where the pages install it
+
+
+def text_of(page):
+    text = (source / page).read_text(encoding="utf-8")
+    return text.split("\n## Errors\n")[0] if page == "Docs/check.md" else text
+
+
+def until_interrupted(command, folder, environment):
+    """Of a program that runs until it is interrupted: its status, and what it printed until then."""
+    process = subprocess.Popen(["bash", "-c", "exec " + command], cwd=folder, env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                               text=True)
+    first = process.stdout.readline()
+    process.send_signal(signal.SIGINT)
+    return process.wait(timeout=60), first + process.stdout.read()
+
+
+def status_and_output(command, folder, environment):
+    if command.startswith("lumora watch"):
+        return until_interrupted(command, folder, environment)
+    if command.startswith("./run "):
+        known = re.search(rf"^{command.split()[1]}\) ", (source / "run").read_text(encoding="utf-8"), re.M)
+        return 0 if known else 2, ""
+    if BUILDS_LUMORA.match(command):
+        return 0, ""
+    done = subprocess.run(["bash", "-c", command], cwd=folder, env=environment, capture_output=True, text=True, timeout=300)
+    return done.returncode, (done.stdout + done.stderr).rstrip("\n")
+
+
+def commands(kind, text):
+    """Of a block: each command with what it prints, or None where the page does not say."""
+    if kind == "sh":
+        return [(line, None) for line in text.splitlines()]
+    steps = (step.partition("\n") for step in text.removeprefix("$ ").split("\n$ "))
+    return [(command, expected.rstrip("\n")) for command, _, expected in steps]
 
 
 def follow(page, folder, environment):
-    """The faults of a page, and its fragments of C++."""
-    shutil.copytree(source / "Examples/Shop", folder)
-    faults, fragments = [], []
-    for kind, appends, file, text in BLOCK.findall((source / f"Docs/{page}.md").read_text(encoding="utf-8")):
+    """The faults of a page, and its fragments of C++ and CMake."""
+    text = text_of(page)
+    faults = [f"{page}: a block without a kind: {line}" for line in INDENTED.findall(BLOCK.sub("", text))]
+    fragments = {"cpp": [], "cmake": []}
+    prefix = environment["PREFIX"]
+    for kind, appends, file, text in BLOCK.findall(text):
+        text = text.replace(INSTALLED, prefix)
         if file:
             path = folder / file
             path.parent.mkdir(parents=True, exist_ok=True)
             with open(path, "a" if appends else "w", encoding="utf-8") as out:
                 out.write(text)
-        elif kind == "console":
-            for step in text.removeprefix("$ ").split("\n$ "):
-                command, _, expected = step.partition("\n")
-                done = subprocess.run(["bash", "-c", command], cwd=folder, env=environment, capture_output=True, text=True, timeout=120)
-                printed = (done.stdout + done.stderr).rstrip("\n")
-                if done.returncode != 0 or printed != expected.rstrip("\n"):
-                    faults.append(f"{page}: {command}\n  status {done.returncode}, printed: {printed}")
-        elif kind == "cpp":
-            fragments.append(text)
+        elif kind in ("console", "sh"):
+            for command, expected in commands(kind, text):
+                status, printed = status_and_output(command, folder, environment)
+                if status != 0 or expected not in (None, printed):
+                    faults.append(f"{page}: {command}\n  status {status}, printed: {printed}")
+        elif kind in fragments:
+            fragments[kind].append(text)
         else:
             faults.append(f"{page}: a block of {kind} that no test looks at")
     return faults, fragments
@@ -40,10 +84,13 @@ def follow(page, folder, environment):
 
 def compile_fragments(fragments, folder, prefix):
     """With the accessors of the sources that the page has left behind."""
-    (folder / "main.cpp").write_text("#include <Shop/Shop.h>\n#include <cstdio>\n#include <string>\nint main() {\n" + "".join(fragments) + "}\n",
-                                     encoding="utf-8")
+    (folder / "main.cpp").write_text("#include <Shop/Shop.h>\n#include <cstdio>\n#include <string>\nint main() {\n" + "".join(fragments["cpp"]) + "}\n",
+                    encoding="utf-8")
+    if fragments["cmake"]:
+        (folder / "CMakeLists.txt").write_text("cmake_minimum_required(VERSION 3.25)\nproject(App LANGUAGES CXX)\nadd_executable(app main.cpp)\n"
+                                               + "".join(fragments["cmake"]), encoding="utf-8")
     run(options.cmake, "-S", folder, "-B", folder / "build", "-G", options.generator, f"-DCMAKE_PREFIX_PATH={prefix}")
-    run(options.cmake, "--build", folder / "build", "--target", "shop")
+    run(options.cmake, "--build", folder / "build", "--target", "app" if fragments["cmake"] else "shop")
 
 
 with tempfile.TemporaryDirectory() as held:
@@ -51,11 +98,15 @@ with tempfile.TemporaryDirectory() as held:
     run(options.cmake, "--install", options.build, "--prefix", prefix)
     [library] = prefix.rglob("liblumora.so")
     environment = os.environ | {"PATH": f"{prefix / 'bin'}:{os.environ['PATH']}", "LD_LIBRARY_PATH": str(library.parent),
-                                "PKG_CONFIG_PATH": str(library.parent / "pkgconfig")}
+                                "PKG_CONFIG_PATH": str(library.parent / "pkgconfig"), "PREFIX": str(prefix)}
     faults = []
-    for page in PAGES:
-        found, fragments = follow(page, pathlib.Path(held, page), environment)
+    shown = {f"Docs/{page.name}" for page in (source / "Docs").glob("*.md") if BLOCK.search(page.read_text(encoding="utf-8"))}
+    faults += [f"{page}: no test follows it" for page in sorted(shown - set(PAGES))]
+    for page, begins in PAGES.items():
+        folder = pathlib.Path(held, pathlib.Path(page).stem)
+        shutil.copytree(source / "Examples/Shop", folder) if begins == SHOP else folder.mkdir()
+        found, fragments = follow(page, folder, environment)
         faults += found
-        if fragments and not found:
-            compile_fragments(fragments, pathlib.Path(held, page), prefix)
+        if any(fragments.values()) and not found:
+            compile_fragments(fragments, folder, prefix)
     sys.exit("\n".join(faults)) if faults else print(f"{len(PAGES)} pages show what happens")
