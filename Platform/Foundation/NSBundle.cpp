@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <memory>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace Foundation {
 
@@ -198,6 +199,8 @@ std::optional<std::string> NSBundle::tableDamage(std::string_view table) const {
     for (auto at = chain.begin(); *at != nullptr; ++at)
         if (auto damage = (*at)->damage(name))
             return damage;
+    if (::access(contents.path.c_str(), F_OK) != 0)
+        return contents.path + ": there is no bundle";
     return std::nullopt;
 }
 

@@ -53,8 +53,8 @@ public:
     // The text as a string; where no table has the key, `value` unless that is null or empty, and else the key.
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, const std::string* value,
                                                     std::string_view table) const;
-    // Why a file of the table cannot be read, of those in which findLocalized() looks: "FILE:LINE:COLUMN: REASON"; no
-    // value when each can or is not there. Reads them anew.
+    // Why a file of the table cannot be read, of those in which findLocalized() looks: "FILE:LINE:COLUMN: REASON", or
+    // "PATH: REASON" where the bundle itself is not there; no value when each can or is not there. Reads them anew.
     [[nodiscard]] std::optional<std::string> tableDamage(std::string_view table) const;
     // The path of the file NAME.TYPE (NAME where TYPE is empty) of one localization ("Base" is one), in `directory`
     // below the localization's folder if that is not empty; no value when there is no such file or a name would lead

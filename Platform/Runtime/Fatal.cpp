@@ -21,16 +21,24 @@ void fatalError(std::string_view message, std::string_view file, std::uint32_t l
     fatalError(std::initializer_list<std::string_view>{message}, file, line);
 }
 
-void fatalError(std::initializer_list<std::string_view> message, std::string_view file, std::uint32_t line) noexcept {
+void fatalError(std::initializer_list<std::string_view> message, std::string_view file, std::uint32_t line,
+                std::initializer_list<std::string_view> hint) noexcept {
     char digits[10];
     const auto end = std::to_chars(digits, digits + sizeof digits, line).ptr;
     // One call without allocation: the report stays whole beside other threads' output and works when memory is gone.
-    iovec report[maxPieces + 6] = {piece("Fatal error: ")};
-    iovec* next =
-        std::transform(message.begin(), message.begin() + std::min(message.size(), maxPieces), report + 1, piece);
+    iovec report[2 * maxPieces + 7] = {piece("Fatal error: ")};
+    iovec* next = report + 1;
+    const auto add = [&next](std::initializer_list<std::string_view> pieces) {
+        next = std::transform(pieces.begin(), pieces.begin() + std::min(pieces.size(), maxPieces), next, piece);
+    };
+    add(message);
     for (const std::string_view text : {std::string_view(": file "), file, std::string_view(", line "),
                                         std::string_view(digits, end), std::string_view("\n")})
         *next++ = piece(text);
+    if (hint.size() != 0) {
+        add(hint);
+        *next++ = piece("\n");
+    }
     while (::writev(STDERR_FILENO, report, static_cast<int>(next - report)) < 0 && errno == EINTR) {
     }
     std::abort();

@@ -14,9 +14,11 @@ namespace Runtime {
 // `message` and `file` are UTF-8. Any thread. Needs no memory.
 [[noreturn]] LUMORA_EXPORT void fatalError(std::string_view message, std::string_view file,
                                            std::uint32_t line) noexcept;
-// The same with a message in pieces, at most maxPieces of them: putting them together would need memory.
+// The same with a message in pieces, at most maxPieces of them: putting them together would need memory. The pieces of
+// `hint`, as many at most, are a second line.
 inline constexpr std::size_t maxPieces = 8;
 [[noreturn]] LUMORA_EXPORT void fatalError(std::initializer_list<std::string_view> message, std::string_view file,
-                                           std::uint32_t line) noexcept;
+                                           std::uint32_t line,
+                                           std::initializer_list<std::string_view> hint = {}) noexcept;
 
 } // namespace Runtime

@@ -2,6 +2,7 @@
 
 #include "Runtime/Fatal.h"
 #include "UIKit/internal/BundleCatalog.h"
+#include <unistd.h>
 
 namespace SwiftUI::detail {
 
@@ -29,7 +30,11 @@ KindName kindName(AssetKind kind) noexcept {
 void missingAsset(AssetKind kind, std::string_view name, const Foundation::NSBundle& bundle, std::string_view source,
                   std::uint32_t line) {
     UIKit::detail::throwIfUnreadable(kindName(kind).kind, name, bundle);
-    Runtime::fatalError({"Unable to load ", kindName(kind).name, " asset named ", name, "."}, source, line);
+    const std::initializer_list<std::string_view> message = {"Unable to load ", kindName(kind).name, " asset named ",
+                                                             name, "."};
+    if (::access(bundle.bundlePath().c_str(), F_OK) == 0)
+        Runtime::fatalError(message, source, line);
+    Runtime::fatalError(message, source, line, {"There is no bundle at ", bundle.bundlePath()});
 }
 
 } // namespace SwiftUI::detail

@@ -80,10 +80,12 @@ def build_and_change(prefix, folder, generator):
     replace(shop / "Resources/en.lproj/Localizable.strings", "Good to see you, %@ and %@!", "Good to see you, %@!")
     run(*make)
 
-    # Without its bundle a program stops at its first asset, and names it.
+    # Without its bundle a program stops at its first asset, and names both.
     shutil.rmtree(bundle)
     done = subprocess.run([program], capture_output=True, text=True)
-    expect("without bundle", (done.returncode < 0, "Unable to load color asset named copper." in done.stderr), (True, True))
+    report = done.stderr.splitlines()
+    expect("without bundle", (done.returncode < 0, "Unable to load color asset named copper." in report[0], report[1:]),
+           (True, True, [f"There is no bundle at {bundle}"]))
 
 
 with tempfile.TemporaryDirectory(prefix="lumora-module-") as top:

@@ -159,6 +159,7 @@ TEST(Files, WhatMayNotBeReadIsMissing) {
 TEST(Files, NoBundleGivesKeysAndNoAssets) {
     const NSBundle& none = NSBundle::bundleWithPath("/nowhere/None.bundle");
     EXPECT_EQ(none.localizedStringForKey("a", nullptr, "T"), "a");
+    EXPECT_EQ(none.tableDamage("T"), "/nowhere/None.bundle: there is no bundle");
     EXPECT_TRUE(none.localizations().empty());
     EXPECT_FALSE(UIKit::UIImage::imageNamed("send", none));
     EXPECT_FALSE(UIKit::NSDataAsset::assetWithName("send", none));
