@@ -13,6 +13,7 @@
 #include <sys/resource.h>
 #include <system_error>
 #include <thread>
+#include <unistd.h> // close_range
 
 namespace {
 
@@ -219,6 +220,20 @@ TEST(Files, ACatalogCutShortInPlaceIsDamaged) {
     EXPECT_TRUE(seen->rgba());
     EXPECT_GT(unseen->pixelWidth(), 0U);
     EXPECT_FALSE(unseen->rgba());
+}
+
+// A program may close descriptors that are not its own and open other files under their numbers.
+TEST(Files, ClosedDescriptorsDamagePicturesOnly) {
+    EXPECT_EQ(Child::exitOf([] {
+                  Foundation::Host::setPreferredLanguages({"ru"});
+                  const bool hasPicture = Assets::Images::send.image().rgba() != nullptr;
+                  ::close_range(3, ~0U, 0);
+                  while (::open("/dev/zero", O_RDONLY) < 64) {}
+                  const auto unseen = UIKit::UIImage::imageNamed("icon_month", Lumora::LumoraResources::bundle());
+                  const bool isDamaged = unseen && unseen->rgba() == nullptr;
+                  return hasPicture && isDamaged && Texts::continue_() == "Продолжить" ? 0 : 1;
+              }),
+              0);
 }
 
 } // namespace
