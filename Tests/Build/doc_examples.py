@@ -93,13 +93,23 @@ def compile_fragments(fragments, folder, prefix):
     run(options.cmake, "--build", folder / "build", "--target", "app" if fragments["cmake"] else "shop")
 
 
+def unknown_tests():
+    """Tests that the pages name, `Suite.Name`, and that there are none of."""
+    tests = {f"{suite}.{name}" for file in (source / "Tests").rglob("*.cpp")
+             for suite, name in re.findall(r"^TEST(?:_F|_P)?\((\w+), (\w+)\)", file.read_text(encoding="utf-8"), re.M)}
+    for page in ("SECURITY.md", "Docs/reliability.md"):
+        for test in re.findall(r"`([A-Z]\w+\.[A-Z]\w+)`", (source / page).read_text(encoding="utf-8")):
+            if test not in tests | {"Suite.Name"}:
+                yield f"{page}: there is no test {test}"
+
+
 with tempfile.TemporaryDirectory() as held:
     prefix = pathlib.Path(held, "prefix")
     run(options.cmake, "--install", options.build, "--prefix", prefix)
     [library] = prefix.rglob("liblumora.so")
     environment = os.environ | {"PATH": f"{prefix / 'bin'}:{os.environ['PATH']}", "LD_LIBRARY_PATH": str(library.parent),
                                 "PKG_CONFIG_PATH": str(library.parent / "pkgconfig"), "PREFIX": str(prefix)}
-    faults = []
+    faults = list(unknown_tests())
     shown = {f"Docs/{page.name}" for page in (source / "Docs").glob("*.md") if BLOCK.search(page.read_text(encoding="utf-8"))}
     faults += [f"{page}: no test follows it" for page in sorted(shown - set(PAGES))]
     for page, begins in PAGES.items():
