@@ -29,14 +29,14 @@ std::string_view generalForm(const PluralVariable& variable) noexcept {
     return last == variable.forms.rend() ? std::string_view() : std::string_view(**last);
 }
 
-// How a form prints its own number: the placeholder without its position. The form `other` decides, because every
-// language has it; a form without its number leaves it to the variable's type.
-std::string numberFormat(const PluralFormat& plural, const PluralVariable& variable) {
+// How a form prints its own number, the argument at `own`: the placeholder without its position. The form `other`
+// decides, because every language has it; a form without its number leaves it to the variable's type.
+std::string numberFormat(const PluralFormat& plural, const PluralVariable& variable, std::size_t own) {
     const std::string_view form = generalForm(variable);
-    PluralPieces pieces(plural, form, variable, 1);
+    PluralPieces pieces(plural, form, variable, own);
     while (const auto piece = pieces.next()) {
         const Placeholder& found = piece->placeholder;
-        if (piece->variable != nullptr || piece->arguments.value != 1 || piece->arguments.width != 0 ||
+        if (piece->variable != nullptr || piece->arguments.value != own || piece->arguments.width != 0 ||
             piece->arguments.precision != 0)
             continue;
         const std::string_view text = form.substr(found.begin, found.end - found.begin);
@@ -45,21 +45,28 @@ std::string numberFormat(const PluralFormat& plural, const PluralVariable& varia
     return "%" + variable.valueType;
 }
 
-// Whether all digits of a whole number are printed, and no others.
+bool isDecimal(const Placeholder& placeholder) noexcept {
+    return placeholder.conversion == 'd' || placeholder.conversion == 'i' || placeholder.conversion == 'u';
+}
+
+// Whether the whole number itself counts: all its digits are printed and no others, or they are not decimal ones.
 bool isPlainInteger(const Placeholder& placeholder) noexcept {
-    return (placeholder.conversion == 'd' || placeholder.conversion == 'i' || placeholder.conversion == 'u') &&
-           placeholder.bits == 64 && placeholder.precision.from == Placeholder::Size::From::none;
+    return placeholder.kind == Placeholder::Kind::integer &&
+           (!isDecimal(placeholder) ||
+            (placeholder.bits == 64 && placeholder.precision.from == Placeholder::Size::From::none));
 }
 
 // The number as it is printed, in ASCII and without its sign.
-Intl::PluralOperands operandsOf(const PluralFormat& plural, const PluralVariable& variable,
+Intl::PluralOperands operandsOf(const PluralFormat& plural, const PluralVariable& variable, std::size_t own,
                                 const FormatArgument& argument) {
-    const std::string format = numberFormat(plural, variable);
+    std::string format = numberFormat(plural, variable, own);
     const auto placeholder = StringTables::nextPlaceholder(format, 0);
     if (argument.kind() == FormatArgument::Kind::integer && placeholder && isPlainInteger(*placeholder)) {
         const auto value = static_cast<std::uint64_t>(argument.integer());
         return {.i = placeholder->conversion != 'u' && argument.integer() < 0 ? -value : value};
     }
+    if (placeholder && (placeholder->conversion == 'a' || placeholder->conversion == 'A'))
+        format = "%g";
     const std::string printed = String::format(format, Locale("en_US_POSIX"), {&argument, 1});
     const std::size_t digits = printed.find_first_of("0123456789.");
     return Intl::pluralOperands(std::string_view(printed).substr(std::min(digits, printed.size())));
@@ -67,8 +74,8 @@ Intl::PluralOperands operandsOf(const PluralFormat& plural, const PluralVariable
 
 // The form for a number, of the language of the table.
 std::string_view chosenForm(const PluralFormat& plural, const PluralVariable& variable, std::string_view language,
-                            const FormatArgument& argument) {
-    const Intl::PluralOperands number = operandsOf(plural, variable, argument);
+                            std::size_t own, const FormatArgument& argument) {
+    const Intl::PluralOperands number = operandsOf(plural, variable, own, argument);
     const bool isZero = number.i == 0 && number.t == 0;
     if (const auto& zero = formOf(variable, PluralCategory::zero); isZero && zero)
         return *zero;
@@ -146,7 +153,8 @@ std::string chosenFormat(const PluralFormat& plural, std::string_view language,
                          std::span<const FormatArgument> arguments) {
     return Flattener::flatten(plural, [&](const PluralVariable& variable, std::size_t position) {
         const bool isGiven = position >= 1 && position <= arguments.size();
-        return isGiven ? chosenForm(plural, variable, language, arguments[position - 1]) : generalForm(variable);
+        return isGiven ? chosenForm(plural, variable, language, position, arguments[position - 1])
+                       : generalForm(variable);
     });
 }
 

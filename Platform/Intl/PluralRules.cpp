@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <iterator>
 
 namespace Intl {
@@ -75,22 +76,54 @@ bool isDigit(char c) noexcept {
     return '0' <= c && c <= '9';
 }
 
+void addFraction(PluralOperands& number, char digit) noexcept {
+    number.f = withDigit(number.f, digit);
+    ++number.v;
+    if (digit != '0') {
+        number.t = number.f;
+        number.w = number.v;
+    }
+}
+
+// "e+06" at the front is 6. More than a double has is cut.
+int exponentOf(std::string_view text) noexcept {
+    constexpr int most = 400;
+    if (!text.starts_with('e') && !text.starts_with('E'))
+        return 0;
+    text.remove_prefix(text.substr(1).starts_with('+') ? 2 : 1);
+    int exponent = 0;
+    std::from_chars(text.data(), text.data() + text.size(), exponent);
+    return std::clamp(exponent, -most, most);
+}
+
 } // namespace
 
 PluralOperands pluralOperands(std::string_view decimal) noexcept {
-    PluralOperands number;
     std::size_t at = 0;
-    for (; at < decimal.size() && isDigit(decimal[at]); ++at)
-        number.i = withDigit(number.i, decimal[at]);
-    if (at == decimal.size() || decimal[at] != '.')
-        return number;
-    for (++at; at < decimal.size() && isDigit(decimal[at]); ++at) {
-        number.f = withDigit(number.f, decimal[at]);
-        ++number.v;
-        if (decimal[at] != '0') {
-            number.t = number.f;
-            number.w = number.v;
-        }
+    const auto takeDigits = [&] {
+        const std::size_t begin = at;
+        while (at < decimal.size() && isDigit(decimal[at]))
+            ++at;
+        return decimal.substr(begin, at - begin);
+    };
+    const std::string_view whole = takeDigits();
+    std::string_view fraction;
+    if (decimal.substr(at).starts_with('.')) {
+        ++at;
+        fraction = takeDigits();
+    }
+    const auto count = static_cast<int>(whole.size() + fraction.size());
+    const int point = static_cast<int>(whole.size()) + exponentOf(decimal.substr(at));
+    PluralOperands number;
+    for (int place = std::min(point, 0); place < std::max(count, point); ++place) {
+        const auto index = static_cast<std::size_t>(place);
+        const char digit = place < 0 || place >= count ? '0'
+                           : index < whole.size()      ? whole[index]
+                                                       : fraction[index - whole.size()];
+        if (place < point)
+            number.i = withDigit(number.i, digit);
+        else
+            addFraction(number, digit);
     }
     return number;
 }

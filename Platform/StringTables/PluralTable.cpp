@@ -5,6 +5,8 @@
 #include "StringTables/internal/PluralKeys.h"
 #include "StringTables/internal/PropertyListSink.h"
 #include <algorithm>
+#include <charconv>
+#include <limits>
 #include <numeric>
 #include <unordered_map>
 
@@ -13,6 +15,38 @@ namespace StringTables {
 namespace {
 
 using internal::Contents;
+
+// The text of an entry that has several, by the rule `widthRule` or `deviceRule`: the widest, or the best device's.
+class TextChoice {
+public:
+    void begin(std::string_view rule) { isByWidth_ = rule == pluralKeys::widthRule; }
+    void offer(std::string_view of, std::string_view text) {
+        std::size_t rank = pluralKeys::deviceRank(of);
+        if (isByWidth_) {
+            std::size_t width = 0;
+            std::from_chars(of.data(), of.data() + of.size(), width);
+            rank = std::numeric_limits<std::size_t>::max() - width;
+        }
+        if (count_++ == 0 || rank < rank_) {
+            rank_ = rank;
+            text_.assign(text);
+        }
+    }
+    bool isMade() const noexcept { return count_ > 0; }
+    const std::string& text() const noexcept { return text_; }
+    // What is lost by the choice, or null.
+    const char* loss() const noexcept {
+        return count_ < 2 ? nullptr
+               : isByWidth_
+                   ? " has texts for several widths; the widest is used"
+                   : " has texts for several kinds of device; that for \"other\", \"iphone\" or else the first is used";
+    }
+
+private:
+    bool isByWidth_ = false;
+    std::size_t count_ = 0, rank_ = 0;
+    std::string text_;
+};
 
 // Builds the entries from what the list contains: entries, their variables, and the variables' forms, one level each.
 class PluralSink final : public internal::PropertyListSink {
@@ -77,11 +111,12 @@ private:
     // A note on the value of the key at hand.
     void skip(std::string_view what) { contents_.note("the value of ", key(), what, offsets_[depth_ - 1]); }
     // A note on the entry.
-    void skipEntry(std::string_view why) { contents_.note("the entry ", keys_[0], why, offsets_[0]); }
+    void noteEntry(std::string_view why) { contents_.note("the entry ", keys_[0], why, offsets_[0]); }
 
     void beginEntry() {
         plural_ = {};
         hasFormat_ = false;
+        choice_ = {};
     }
     void takeFormat(std::string_view text) {
         if (key() != pluralKeys::format)
@@ -90,8 +125,14 @@ private:
         hasFormat_ = true;
     }
     void endEntry() {
+        if (!hasFormat_ && choice_.isMade()) {
+            plural_.format = choice_.text();
+            hasFormat_ = true;
+            if (const char* const loss = choice_.loss())
+                noteEntry(loss);
+        }
         if (!hasFormat_)
-            return skipEntry(std::string(" has no ").append(pluralKeys::format).append("; it is skipped"));
+            return noteEntry(std::string(" has no ").append(pluralKeys::format).append("; it is skipped"));
         const auto [known, isNew] = numbers_.try_emplace(keys_[0], entries_.size());
         if (isNew) {
             entries_.emplace_back().key = keys_[0];
@@ -107,18 +148,25 @@ private:
         variable_ = {};
         variable_.name = keys_[variableLevel - 1];
         isPlural_ = true;
+        isChoice_ = variable_.name == pluralKeys::widthRule || variable_.name == pluralKeys::deviceRule;
+        if (isChoice_)
+            choice_.begin(variable_.name);
     }
     void takeForm(std::string_view text) {
-        if (key() == pluralKeys::ruleType)
+        if (isChoice_)
+            choice_.offer(key(), text);
+        else if (key() == pluralKeys::ruleType)
             isPlural_ = text == pluralKeys::pluralRule;
         else if (key() == pluralKeys::valueType)
-            variable_.valueType.assign(text);
+            variable_.valueType.assign(text.substr(text.starts_with('%') ? 1 : 0));
         else if (const auto category = Intl::pluralCategoryNamed(key()))
             variable_.forms[Intl::indexOf(*category)].emplace(text);
         else
             skip(" is for no plural category; it is skipped");
     }
     void endVariable() {
+        if (isChoice_)
+            return;
         const auto isSame = [this](const PluralVariable& one) { return one.name == variable_.name; };
         if (!isPlural_)
             return contents_.note("the variable ", variable_.name, " has no plural rule; it is skipped",
@@ -140,6 +188,8 @@ private:
     bool hasFormat_ = false;
     PluralVariable variable_;
     bool isPlural_ = false;
+    bool isChoice_ = false; // it is no variable, but the texts of `choice_`
+    TextChoice choice_;
 
     std::vector<PluralEntry> entries_;
     std::vector<std::size_t> places_;

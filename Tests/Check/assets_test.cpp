@@ -66,6 +66,7 @@ TEST(Check, FindsFaultsOfAssets) {
          R"({"color": {"platform": "ios", "reference": "systemBlueColor"}})",
          {}}, // has its own
         {__LINE__, "a.colorset", R"({"color": {"components": {"red": "much"}}})", {"unreadable-asset:2:1  a"}},
+        {__LINE__, "a.colorset", R"({"color": {"reference": "noColor"}})", {"unreadable-asset:2:1  a"}},
         {__LINE__, "--.imageset", R"({"filename": "a.svg"})", {"unnamed-key:1:1  --"}},
     };
     for (const auto& one : cases)

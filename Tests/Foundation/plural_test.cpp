@@ -125,10 +125,15 @@ TEST_F(Plurals, FollowTheLanguageOfTheirTable) {
 }
 
 TEST_F(Plurals, LookAtFloatingNumbersAsPrinted) {
-    write("Base", plural("f", "%#@n@", variable("n", "f", forms("%.1f mile", "%.1f miles"))) +
-                      plural("rounded", "%#@n@", variable("n", "f", forms("%.0f mile", "%.0f miles"))) +
-                      plural("free", "%#@n@", variable("n", "g", forms("a mile", "several miles"))) +
-                      plural("lu", "%#@n@", variable("n", "lu", forms("%lu byte", "%lu bytes"))));
+    write("Base",
+          plural("f", "%#@n@", variable("n", "f", forms("%.1f mile", "%.1f miles"))) +
+              plural("rounded", "%#@n@", variable("n", "f", forms("%.0f mile", "%.0f miles"))) +
+              plural("free", "%#@n@", variable("n", "g", forms("a mile", "several miles"))) +
+              plural("e", "%#@n@", variable("n", "e", forms("%.0e mile", "%.0e miles"))) +
+              plural("a", "%#@n@", variable("n", "a", forms("%a mile", "%a miles"))) +
+              plural("x", "%#@n@", variable("n", "x", forms("%x mile", "%x miles"))) +
+              plural("second", "%2$#@n@", variable("n", "f", forms("%1$d: %2$.1f mile", "%1$d: %2$.1f miles"))) +
+              plural("lu", "%#@n@", variable("n", "lu", forms("%lu byte", "%lu bytes"))));
     write("fr", plural("f", "%#@n@", variable("n", "f", forms("%.1f mille", "%.1f milles"))));
     Host::setPreferredLanguages({"en"});
     Host::setCurrentLocale("en_US");
@@ -137,6 +142,10 @@ TEST_F(Plurals, LookAtFloatingNumbersAsPrinted) {
     EXPECT_EQ(made("rounded", {0.9}), "1 mile");
     EXPECT_EQ(made("free", {1.0}), "a mile");
     EXPECT_EQ(made("free", {1.5}), "several miles");
+    EXPECT_EQ(made("e", {1e6}), "1e+06 miles");
+    EXPECT_EQ(made("a", {1.0}), "0x1p+0 mile");
+    EXPECT_EQ(made("x", {255}), "ff miles");
+    EXPECT_EQ(made("second", {7, 1.4}), "7: 1.4 miles");
     EXPECT_EQ(made("lu", {std::uint64_t{1}}), "1 byte");
     EXPECT_EQ(made("lu", {~std::uint64_t{0}}), "18,446,744,073,709,551,615 bytes");
     Host::setPreferredLanguages({"fr"});

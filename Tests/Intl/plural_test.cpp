@@ -67,6 +67,10 @@ TEST(PluralRules, LookAtDigitsAsPrinted) {
     EXPECT_EQ(Intl::pluralOperands("12.50"), (PluralOperands{.i = 12, .v = 2, .w = 1, .f = 50, .t = 5}));
     EXPECT_EQ(Intl::pluralOperands("0.05"), (PluralOperands{.i = 0, .v = 2, .w = 2, .f = 5, .t = 5}));
     EXPECT_EQ(Intl::pluralOperands("7"), (PluralOperands{.i = 7}));
+    EXPECT_EQ(Intl::pluralOperands("1.250e+02"), (PluralOperands{.i = 125, .v = 1}));
+    EXPECT_EQ(Intl::pluralOperands("1E+06"), (PluralOperands{.i = 1'000'000}));
+    EXPECT_EQ(Intl::pluralOperands("5.0e-02"), (PluralOperands{.i = 0, .v = 3, .w = 2, .f = 50, .t = 5}));
+    EXPECT_EQ(Intl::pluralOperands("1e+99999999999"), (PluralOperands{.i = 1}));
     EXPECT_EQ(Intl::pluralOperands("inf"), PluralOperands());
     EXPECT_NE(Intl::pluralOperands("1" + std::string(400, '0')).i, 0U);
 }

@@ -67,7 +67,7 @@ TEST(PluralTable, SaysWhatIsSkipped) {
     const std::string format = text("NSStringLocalizedFormatKey", "%#@v@");
     const struct {
         int line;
-        std::string entries, notes;
+        std::string entries, notes, format{};
     } cases[] = {
         {__LINE__, text("k", "text"), "2:1: the value of \"k\" is a text, not a plural format; it is skipped\n"},
         {__LINE__, "<key>k</key><array><dict/></array>", "2:1: the value of \"k\" is an array; it is skipped\n"},
@@ -81,13 +81,25 @@ TEST(PluralTable, SaysWhatIsSkipped) {
          "2:78: the variable \"v\" has no plural rule; it is skipped\n"},
         {__LINE__, dict("k", format + dict("v", rule + dict("one", ""))),
          "2:171: the value of \"one\" is a dictionary; it is skipped\n"},
+        {__LINE__,
+         dict("k", dict("NSStringVariableWidthRuleType", text("9", "9") + text("60", "60") + text("20", "20"))),
+         "2:1: the entry \"k\" has texts for several widths; the widest is used\n", "60"},
+        {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m") + text("iphone", "i"))),
+         "2:1: the entry \"k\" has texts for several kinds of device; that for \"other\", \"iphone\" or else the first "
+         "is "
+         "used\n",
+         "i"},
+        {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m"))), "", "m"},
         {__LINE__, dict("k", format) + "\n" + dict("k", format),
          "3:1: the key \"k\" appears again; this entry holds\n"},
     };
-    for (const auto& [line, entries, notes] : cases) {
+    for (const auto& [line, entries, notes, chosen] : cases) {
         const auto table = PluralTable::read(list(entries));
         ASSERT_TRUE(table) << "line " << line << ": " << table.error().text();
         EXPECT_EQ(notesOf(*table), notes) << "line " << line;
+        if (!chosen.empty()) {
+            EXPECT_EQ(table->find("k")->plural.format, chosen) << "line " << line;
+        }
     }
 }
 

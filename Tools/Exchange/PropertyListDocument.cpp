@@ -163,6 +163,8 @@ Runtime::Result<void> PropertyListDocument::editPlural(const XmlNode& entry, con
         if (const XmlNode* found = unit->id.category ? find(pairs, unit->id.part.back()) : nullptr;
             found != nullptr && pairsOf(*found).empty())
             return unusual(change);
+    if (find(pairs, pluralKeys::widthRule) != nullptr || find(pairs, pluralKeys::deviceRule) != nullptr)
+        return unusual(change);
     PluralFormat added;
     for (const Unit* unit : change.changed) {
         const XmlNode* const found = find(pairs, unit->id.category ? unit->id.part.back() : pluralKeys::format);

@@ -171,7 +171,8 @@ private:
         const std::optional<SystemColor> color = systemColor(reference);
         if (!color)
             return say(Severity::warning, entry,
-                       "is the unknown system colour " + quotedName(reference) + " and is left out");
+                       "is the unknown system colour " + quotedName(reference) + " and is left out",
+                       Topic::unreadableAsset);
         const bool isDark = entry.fit.appearance == AssetCatalog::Appearance::dark;
         asset_.colors.push_back({entry.fit, entry.language, isDark ? color->dark : color->light});
         if (entry.fit.appearance != AssetCatalog::Appearance::any)

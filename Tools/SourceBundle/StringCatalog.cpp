@@ -2,8 +2,8 @@
 
 #include "Runtime/internal/File.h"
 #include "SourceBundle/PluralText.h"
+#include "StringTables/internal/PluralKeys.h"
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <simdjson.h>
 #include <tuple>
@@ -140,16 +140,17 @@ void readPlural(ondemand::value object, Localized& out) {
 }
 
 void readDevices(ondemand::value object, Localized& out) {
-    static constexpr std::array<std::string_view, 2> liked = {"other", "iphone"};
-    std::size_t best = liked.size() + 1;
+    using StringTables::pluralKeys::deviceRank;
+    using StringTables::pluralKeys::lastDeviceRank;
+    std::size_t best = lastDeviceRank + 1;
     Localized chosen;
     forEach(object, [&](std::string_view name, ondemand::value value) {
         Localized device;
         readLocalized(value, device);
         if (device.isEmpty())
             return;
-        const auto rank = static_cast<std::size_t>(std::ranges::find(liked, name) - liked.begin());
-        const bool isFirst = best > liked.size();
+        const std::size_t rank = deviceRank(name);
+        const bool isFirst = best > lastDeviceRank;
         out.hasDevices |= !isFirst || device.hasDevices;
         if (rank < best) {
             best = rank;
