@@ -28,13 +28,6 @@ const std::vector<std::string>& listed(Runtime::OnceSlot<std::vector<std::string
 
 } // namespace
 
-LocalizationCode detail::pickLocalizationCode(std::span<const std::string> preferred,
-                                              std::span<const LocalizationCode> supported) noexcept {
-    const auto code = preferred.empty() ? std::nullopt : LocalizationCode::fromRawValue(preferred.front());
-    const bool isSupported = code && std::ranges::find(supported, *code) != supported.end();
-    return isSupported ? *code : LocalizationCode::en;
-}
-
 LocalizationCode detail::languageInForce() {
     const std::string* const first = LumoraResources::bundle().preferredLocalization();
     return pickLocalizationCode({first, first != nullptr ? 1U : 0U}, LocalizationCode::allCases());

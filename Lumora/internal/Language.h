@@ -5,16 +5,22 @@
 
 #include "Foundation/Locale.h"
 #include "Lumora/LocalizationCode.h"
-#include "Runtime/Export.h"
+#include <algorithm>
+#include <optional>
 #include <span>
 #include <string>
 
 namespace Lumora::detail {
 
 // The language in force: among `supported`, by the first of `preferred` only.
-[[nodiscard]] LUMORA_EXPORT Corvane::LocalizationCode
+[[nodiscard]] inline Corvane::LocalizationCode
 pickLocalizationCode(std::span<const std::string> preferred,
-                     std::span<const Corvane::LocalizationCode> supported) noexcept;
+                     std::span<const Corvane::LocalizationCode> supported) noexcept {
+    using Corvane::LocalizationCode;
+    const auto code = preferred.empty() ? std::nullopt : LocalizationCode::fromRawValue(preferred.front());
+    const bool isSupported = code && std::ranges::find(supported, *code) != supported.end();
+    return isSupported ? *code : LocalizationCode::en;
+}
 // The language in force and its locale. Throw when memory or descriptors run out.
 [[nodiscard]] Corvane::LocalizationCode languageInForce();
 [[nodiscard]] Foundation::Locale localeInForce();

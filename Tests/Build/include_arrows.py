@@ -1,4 +1,5 @@
-"""Fails on an include line that points against the arrows between the folders."""
+"""Fails on an include line that points against the arrows between the folders, and on an internal header that exports what is not
+a plug-in's function."""
 import pathlib
 import re
 import sys
@@ -53,6 +54,8 @@ def main(root):
                     seen += 1
                     if target not in may:
                         faults.append(f"{file.relative_to(root)}:{number}: {folder} may not include {target}")
+                if file.parent.name == "internal" and "LUMORA_EXPORT" in line and not line.startswith('extern "C"'):
+                    faults.append(f"{file.relative_to(root)}:{number}: an internal header exports nothing")
     print("\n".join(faults) or f"{seen} includes follow the arrows")
     return 1 if faults or seen == 0 else 0
 

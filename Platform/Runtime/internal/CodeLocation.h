@@ -3,7 +3,6 @@
 // Text: paths as the file system has them, any bytes. Threads: any.
 #pragma once
 
-#include "Runtime/Export.h"
 #include <string>
 
 namespace Runtime {
@@ -17,8 +16,8 @@ struct CodeLocation {
 // Of the shared object or program that holds `code`, the address of a function or object of static storage. The answer
 // does not depend on the process's current directory. Empty texts when the address belongs to no loaded file.
 // Throws nothing but std::bad_alloc.
-[[nodiscard]] LUMORA_EXPORT CodeLocation codeLocation(const void* code);
+[[nodiscard]] CodeLocation codeLocation(const void* code);
 // Of the running program itself.
-[[nodiscard]] LUMORA_EXPORT CodeLocation mainProgramLocation();
+[[nodiscard]] CodeLocation mainProgramLocation();
 
 } // namespace Runtime
