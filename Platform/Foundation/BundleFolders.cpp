@@ -19,7 +19,7 @@ namespace {
 
 namespace layout = StringTables::bundleLayout;
 
-// Whether the open directory is the one that the path leads to.
+// Whether the path still refers to the open directory.
 bool isAt(DIR* directory, const std::string& path) noexcept {
     struct stat opened {
     }, there{};
@@ -27,8 +27,8 @@ bool isAt(DIR* directory, const std::string& path) noexcept {
            opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
 }
 
-// In no order. No value when another bundle took the place of this one meanwhile: its folders may have been removed
-// while they were listed.
+// The language folders, unsorted. No value when another bundle took the place of this one meanwhile: then the list may
+// be incomplete.
 std::optional<std::vector<std::string>> listedFolders(const std::string& bundle) {
     std::vector<std::string> names;
     const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(bundle.c_str()), &::closedir);
@@ -36,7 +36,7 @@ std::optional<std::vector<std::string>> listedFolders(const std::string& bundle)
         Runtime::throwIfTransient({.cause = errno});
         return names;
     }
-    // The end and a failure look the same but for errno.
+    // readdir() returns null at the end and on failure; only errno tells them apart.
     errno = 0;
     while (const dirent* entry = ::readdir(directory.get())) {
         if (const std::string_view language = layout::languageOfFolder(entry->d_name); !language.empty())
@@ -48,7 +48,7 @@ std::optional<std::vector<std::string>> listedFolders(const std::string& bundle)
 }
 
 std::vector<std::string> listed(const std::string& bundle) {
-    constexpr int mostUpgrades = 16; // of the bundle while it is listed
+    constexpr int mostUpgrades = 16; // replacements of the bundle while it is listed
     if (bundle.find('\0') != bundle.npos)
         return {};
     for (int upgrades = 0; upgrades < mostUpgrades; ++upgrades)
@@ -66,7 +66,7 @@ std::vector<std::string> split(std::string_view list) {
     return names;
 }
 
-// Whether the directory has as many folders as there are names. File systems count them as links, or do not count.
+// Whether the directory has that number of folders. Most file systems count them in st_nlink; the others report 1.
 bool hasAsManyFolders(const std::string& bundle, std::size_t names) noexcept {
     struct stat status {};
     constexpr nlink_t ownLinks = 2; // its name in its parent, and "."

@@ -13,8 +13,7 @@ detail::Kept<Intl::YearForms> yearForms(std::string_view locale) {
     return cache.get(locale, [&] { return Intl::yearForms(locale); });
 }
 
-// The form for so many years in the language of a locale's identifier. A negative count takes that of its absolute
-// value.
+// The form for `count` years in the language of `locale`. Negative counts use the form of their absolute value.
 const std::string& formFor(std::int64_t count, const Intl::YearForms& years, std::string_view locale) {
     const auto magnitude = count < 0 ? -static_cast<std::uint64_t>(count) : static_cast<std::uint64_t>(count);
     const std::string_view language = locale.substr(0, locale.find_first_of(".@"));

@@ -1,6 +1,6 @@
 // Foundation/DateComponents.h
-// A number of years in a locale's words. Of the platform's calendars this is what is offered: years, spelled out.
-// Text: UTF-8. Threads: values; one formatter may be read by several threads, not changed meanwhile.
+// Formats a number of years as a locale spells it. Years are the only supported unit.
+// Text: UTF-8. Threads: concurrent const calls on one formatter are safe; changes need external synchronization.
 #pragma once
 
 #include "Foundation/Locale.h"
@@ -11,7 +11,7 @@
 
 namespace Foundation {
 
-// Spans of time that a formatter may name; a set of them.
+// The units that a formatter may use; a bit set.
 enum class NSCalendarUnit : std::uint32_t { none = 0, year = 1U << 2 };
 
 class LUMORA_EXPORT NSCalendar {
@@ -28,7 +28,7 @@ private:
     Locale locale_;
 };
 
-// Amounts of time; a field without a value is not part of them.
+// An amount of time; fields without a value are not part of it.
 struct NSDateComponents {
     std::optional<std::int64_t> year;
 };
@@ -41,14 +41,14 @@ public:
     void setAllowedUnits(NSCalendarUnit units) noexcept { allowedUnits_ = units; }
     [[nodiscard]] UnitsStyle unitsStyle() const noexcept { return unitsStyle_; }
     void setUnitsStyle(UnitsStyle style) noexcept { unitsStyle_ = style; }
-    // How many units a text may name; 0: any number.
+    // The largest number of units in a text; 0 means no limit.
     [[nodiscard]] int maximumUnitCount() const noexcept { return maximumUnitCount_; }
     void setMaximumUnitCount(int count) noexcept { maximumUnitCount_ = count; }
     [[nodiscard]] const NSCalendar& calendar() const noexcept { return calendar_; }
     void setCalendar(NSCalendar calendar) noexcept { calendar_ = std::move(calendar); }
 
-    // The components' years in the words of the calendar's locale, their number in its digits. No value unless years
-    // are allowed and given, and none without the library's language data.
+    // The years of `components` as the calendar's locale spells them, with its digits. No value when years are not
+    // among the allowed units or have no value, or when the library's language data is missing.
     [[nodiscard]] std::optional<std::string> stringFromDateComponents(const NSDateComponents& components) const;
 
 private:

@@ -14,7 +14,8 @@ template <class T> std::string_view shortestText(T value, char* buffer) noexcept
         return "nan";
     if (std::isinf(value))
         return value < 0 ? "-inf" : "inf";
-    // Above these, not every whole number is a value of the type, and digits in full would pretend that it is.
+    // Beyond these limits the type cannot represent every integer, so full digits would suggest a precision that it
+    // does not have.
     static constexpr T largestInFull = static_cast<T>(std::uint64_t{1} << (std::numeric_limits<T>::digits - 1)) * 2;
     static constexpr T smallestInFull = static_cast<T>(1e-4L);
     const T magnitude = std::fabs(value);
@@ -65,9 +66,9 @@ void appendQuoted(std::string& out, std::string_view text) {
     for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c);
         if (const std::size_t known = escaped.find(c); known != std::string_view::npos)
-            (out += '\\') += escapes[known];
+            out.append({'\\', escapes[known]});
         else if (byte < 0x20 || byte == 0x7F)
-            ((out += "\\u{") += hexDigits[byte >> 4]) += hexDigits[byte & 15], out += '}';
+            out.append("\\u{").append({hexDigits[byte >> 4], hexDigits[byte & 15], '}'});
         else
             out += c;
     }

@@ -1,7 +1,7 @@
 // Foundation/Describable.h
-// The platform's default description of a value, as a parameter type: a function that takes `const Describable&` takes
-// any value that can be described. Text: UTF-8; the bytes of texts pass through as they are. Threads: any; values.
-// Included by every header of typed texts, so it includes little.
+// The platform's default description of a value, as a parameter type: a function with a `const Describable&` parameter
+// accepts any value that can be described. Text: UTF-8; the bytes of strings are passed through unchanged. Threads:
+// plain values. Every header of generated texts includes this one, so it includes little.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -21,17 +21,17 @@ namespace Foundation {
 
 namespace detail {
 
-inline constexpr std::size_t scalarTextSize = 32; // of the longest number
+inline constexpr std::size_t scalarTextSize = 32; // enough for the longest number
 
-// Each writes into `buffer`, of scalarTextSize bytes, and returns what it wrote.
+// Each writes into `buffer`, which has scalarTextSize bytes, and returns the written part.
 LUMORA_EXPORT std::string_view integerText(std::int64_t value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view unsignedText(std::uint64_t value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view floatingText(float value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view floatingText(double value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view floatingText(long double value, char* buffer) noexcept;
-// UTF-8; U+FFFD for what is no character.
+// UTF-8; U+FFFD for an invalid code point.
 LUMORA_EXPORT std::string_view characterText(std::uint32_t codePoint, char* buffer) noexcept;
-// In quotation marks, with quotation marks, backslashes and control characters escaped.
+// Appends `text` in quotation marks, with quotation marks, backslashes and control characters escaped.
 LUMORA_EXPORT void appendQuoted(std::string& out, std::string_view text);
 
 template <class T>
@@ -44,7 +44,7 @@ concept DescribesItself = requires(const T& value) {
     { describe(value) } -> std::convertible_to<std::string>; // found by argument-dependent look-up only
 };
 
-// What std::vector<bool> and std::bitset give for an element.
+// The element references of std::vector<bool> and std::bitset.
 template <class T>
 concept BoolProxy = std::is_class_v<T> && std::convertible_to<const T&, bool> && requires(T value) {
     value.flip();
@@ -58,7 +58,8 @@ concept OptionalLike = requires(const T& value) {
 };
 
 template <class T> using ElementOf = std::remove_cvref_t<decltype(*std::begin(std::declval<const T&>()))>;
-// A text of wide characters is none: it would read as a list of letters. Nor is what holds parts of its own type.
+// Wide strings are excluded, because they would be printed as a list of letters, and so are types that contain
+// themselves.
 template <class T>
 concept Sequence = requires(const T& value) {
     std::begin(value) != std::end(value);
@@ -67,15 +68,15 @@ concept Sequence = requires(const T& value) {
 
 } // namespace detail
 
-// The description of a value, made from
-// - a text (std::string, std::string_view, const char*; a null pointer is "nil") or a character: itself;
-// - a bool, or an element of a std::vector<bool>: "true" or "false"; a whole number: its decimal digits;
+// The description of a value:
+// - a string (std::string, std::string_view, const char*; a null pointer is "nil") or a character: itself;
+// - a bool, or an element of a std::vector<bool>: "true" or "false"; an integer: its decimal digits;
 // - a floating number: the fewest digits that give the same value back, with a point or an exponent: "2.0", "0.1",
 // "1e+16";
 // - a type with `std::string describe(const T&)` in its namespace: what that returns;
 // - std::nullopt: "nil"; an optional: "nil" or "Optional(5)"; a sequence: "[1, 2]". Texts inside are quoted: ["a"].
-// Borrows texts, which must outlive it; nothing but descriptions, optionals and sequences needs memory. When that is
-// out the description is empty; any other exception of a describe() goes to whoever asked for the description.
+// Borrows strings, which must outlive it. Only results of describe(), optionals and sequences allocate memory. If that
+// fails, the description is empty; any other exception of a describe() propagates.
 class Describable {
 public:
     template <class T> Describable(const T& value) {
@@ -91,7 +92,7 @@ public:
     Describable(const Describable&) = delete;
     Describable& operator=(const Describable&) = delete;
 
-    // Lives as long as this and the described text do.
+    // Valid as long as this object and a borrowed string live.
     std::string_view text() const noexcept { return text_; }
 
 private:
@@ -104,7 +105,7 @@ private:
         else if constexpr (detail::BoolProxy<T> && !detail::DescribesItself<T>)
             describeValue(static_cast<bool>(value));
         else if constexpr (detail::NarrowCharacter<T>)
-            borrow(std::string_view(buffer_, 1)), buffer_[0] = static_cast<char>(value);
+            borrowCharacter(static_cast<char>(value));
         else if constexpr (detail::WideCharacter<T>)
             borrow(detail::characterText(static_cast<std::uint32_t>(value), buffer_));
         else if constexpr (std::signed_integral<T> && sizeof(T) <= sizeof(std::int64_t))
@@ -114,7 +115,7 @@ private:
         else if constexpr (std::floating_point<T>)
             text_ = detail::floatingText(value, buffer_);
         else if constexpr (std::is_pointer_v<T> && std::convertible_to<T, const char*>)
-            value == nullptr ? void(text_ = "nil") : borrow(value);
+            borrowOrNil(value);
         else if constexpr (std::is_null_pointer_v<T> || std::same_as<T, std::nullopt_t>)
             text_ = "nil";
         else if constexpr (detail::DescribesItself<T>)
@@ -131,6 +132,16 @@ private:
     void borrow(std::string_view text) noexcept {
         text_ = text;
         isText_ = true;
+    }
+    void borrowOrNil(const char* text) noexcept {
+        if (text == nullptr)
+            text_ = "nil";
+        else
+            borrow(text);
+    }
+    void borrowCharacter(char character) noexcept {
+        buffer_[0] = character;
+        borrow({buffer_, 1});
     }
 
     template <class T> void appendParts(const T& value) {

@@ -18,17 +18,21 @@ namespace {
 using Intl::NumberPattern;
 using StringTables::Placeholder;
 
-// What a placeholder looks at of a whole number: "%hhd" at its lowest 8 bits.
+// The bits of an integer that a placeholder uses: "%hhd" uses the lowest 8.
 std::uint64_t truncated(std::int64_t value, unsigned bits) noexcept {
     return bits == 64 ? static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value) & ((1U << bits) - 1);
 }
 std::int64_t signedTruncated(std::int64_t value, unsigned bits) noexcept {
-    return bits == 8 ? static_cast<std::int8_t>(value) : bits == 16 ? static_cast<std::int16_t>(value) : value;
+    if (bits == 8)
+        return static_cast<std::int8_t>(value);
+    return bits == 16 ? static_cast<std::int16_t>(value) : value;
 }
 
-// The sign that the flags give to a number that is not negative.
+// The sign of a nonnegative number, as the flags require it.
 std::string_view flaggedSign(const Placeholder& placeholder, std::string_view plusSign) noexcept {
-    return placeholder.plusSign ? plusSign : placeholder.spaceSign ? " " : "";
+    if (placeholder.plusSign)
+        return plusSign;
+    return placeholder.spaceSign ? " " : "";
 }
 
 void appendPrefix(std::string& out, const Placeholder& placeholder, const NumberPattern& pattern, bool isNegative) {
@@ -38,14 +42,14 @@ void appendPrefix(std::string& out, const Placeholder& placeholder, const Number
         (out += flaggedSign(placeholder, pattern.plusSign)) += pattern.positivePrefix;
 }
 
-// Zeros go here, where the flags ask for them.
+// Zero padding at the current end of `out`, if the flags require it.
 Padding zerosAt(const std::string& out, const Placeholder& placeholder, std::string_view zero) noexcept {
     if (!placeholder.zeroPadded || placeholder.leftAligned)
         return std::nullopt;
     return ZeroPadding{out.size(), zero};
 }
 
-// `digits` with zeros before them up to the precision; precision 0 prints the number 0 without a digit.
+// `digits` with leading zeros up to the precision. With precision 0 the number 0 has no digits.
 std::string precise(std::string_view digits, std::optional<std::size_t> precision) {
     if (precision == std::size_t{0} && digits == "0")
         return {};
@@ -55,7 +59,7 @@ std::string precise(std::string_view digits, std::optional<std::size_t> precisio
     return out.append(digits);
 }
 
-// The C library's text of a magnitude, without a sign, in any C locale.
+// A magnitude as snprintf() formats it, without a sign. The process may have any C locale.
 class LibraryText {
 public:
     LibraryText(const Conversion& conversion, double magnitude) {
@@ -64,13 +68,13 @@ public:
         const int precision = conversion.precision ? static_cast<int>(*conversion.precision) : -1;
         const int size = std::snprintf(buffer_.data(), buffer_.size(), format.c_str(), precision, magnitude);
         if (size < 0)
-            throw std::bad_alloc(); // the only reason that is left
+            throw std::bad_alloc(); // the only remaining reason
         text_ = {buffer_.data(), static_cast<std::size_t>(size)};
     }
     std::string_view text() const noexcept { return text_; }
 
 private:
-    static constexpr std::size_t marks = 16; // a point of up to four bytes, an exponent, a NUL
+    static constexpr std::size_t marks = 16; // a decimal point of up to four bytes, an exponent, a NUL
     std::array<char, std::numeric_limits<double>::max_exponent10 + String::largestSize + marks> buffer_;
     std::string_view text_;
 };
@@ -79,8 +83,8 @@ bool isDigit(char c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-// The parts of a decimal text. The C locale decides how its decimal separator looks: it is what stands between digits
-// and is no exponent.
+// The parts of a decimal number as text. Its decimal separator depends on the C locale: it is whatever follows the
+// integer digits and is not an exponent.
 struct DecimalParts {
     explicit DecimalParts(std::string_view text) {
         const auto take = [&text](auto belongs) {
@@ -94,7 +98,7 @@ struct DecimalParts {
         fraction = take(isDigit);
         exponent = text;
     }
-    std::string_view whole, fraction, exponent; // the exponent with its letter and sign: "e+05"
+    std::string_view whole, fraction, exponent; // `exponent` has its letter and sign: "e+05"
     bool hasSeparator = false;
 };
 
@@ -125,7 +129,7 @@ Padding appendHexadecimal(std::string& out, const Conversion& conversion, double
                                c == 'p' || c == 'P';
         if (isPrinted)
             out += c;
-        else if (!out.ends_with('.')) // the C locale's separator, of any number of bytes
+        else if (!out.ends_with('.')) // the C locale's separator, which may have several bytes
             out += '.';
     }
     return padding;
@@ -143,16 +147,18 @@ Padding appendNotFinite(std::string& out, const Placeholder& placeholder, double
 Padding appendDecimal(std::string& out, const Conversion& conversion, const NumberPattern& pattern,
                       std::int64_t value) {
     const Placeholder& placeholder = conversion.placeholder;
-    const std::int64_t looked = placeholder.conversion == 'u' ? 0 : signedTruncated(value, placeholder.bits);
-    const bool isNegative = looked < 0;
-    if (placeholder.conversion == 'u')
+    std::uint64_t magnitude = 0;
+    bool isNegative = false;
+    if (placeholder.conversion == 'u') {
+        magnitude = truncated(value, placeholder.bits);
         out += pattern.positivePrefix;
-    else
+    } else {
+        const std::int64_t number = signedTruncated(value, placeholder.bits);
+        isNegative = number < 0;
+        magnitude = isNegative ? -static_cast<std::uint64_t>(number) : static_cast<std::uint64_t>(number);
         appendPrefix(out, placeholder, pattern, isNegative);
+    }
     const Padding padding = conversion.precision ? std::nullopt : zerosAt(out, placeholder, pattern.digits[0]);
-    const std::uint64_t magnitude = isNegative                      ? -static_cast<std::uint64_t>(looked)
-                                    : placeholder.conversion == 'u' ? truncated(value, placeholder.bits)
-                                                                    : static_cast<std::uint64_t>(looked);
     std::array<char, scalarTextSize> buffer;
     const std::string_view digits = unsignedText(magnitude, buffer.data());
     if (conversion.precision)
@@ -165,16 +171,16 @@ Padding appendDecimal(std::string& out, const Conversion& conversion, const Numb
 
 Padding appendPlain(std::string& out, const Conversion& conversion, std::int64_t value) {
     const Placeholder& placeholder = conversion.placeholder;
-    const std::uint64_t looked = truncated(value, placeholder.bits);
+    const std::uint64_t bits = truncated(value, placeholder.bits);
     const bool isOctal = placeholder.conversion == 'o';
     std::array<char, scalarTextSize> buffer;
-    char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), looked, isOctal ? 8 : 16).ptr;
+    char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), bits, isOctal ? 8 : 16).ptr;
     if (placeholder.conversion == 'X')
         std::transform(buffer.data(), end, buffer.data(), [](char c) { return c >= 'a' ? c - 'a' + 'A' : c; });
     std::string digits = precise({buffer.data(), static_cast<std::size_t>(end - buffer.data())}, conversion.precision);
     if (placeholder.alternative && isOctal && !digits.starts_with('0'))
         digits.insert(digits.begin(), '0');
-    else if (placeholder.alternative && !isOctal && looked != 0)
+    else if (placeholder.alternative && !isOctal && bits != 0)
         out += placeholder.conversion == 'X' ? "0X" : "0x";
     const Padding padding = conversion.precision ? std::nullopt : zerosAt(out, placeholder, "0");
     out += digits;

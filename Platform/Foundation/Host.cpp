@@ -13,14 +13,14 @@ namespace detail {
 
 namespace {
 
-constexpr std::string_view plainLocale = "en_US"; // of a host that says nothing, or "C"
-constexpr char separator = '\0';                  // between languages, none of which has one
+constexpr std::string_view plainLocale = "en_US"; // when the environment says nothing, or "C"
+constexpr char separator = '\0';                  // cannot be part of a language tag
 
-constinit SharedText<Host::longestLanguages> languages; // best liked first
+constinit SharedText<Host::longestLanguages> languages; // most preferred first
 constinit SharedText<Host::longestLocale> locale;
-constinit Runtime::ForkLock changing; // both texts; each is whole at every moment
+constinit Runtime::ForkLock changing; // guards writes to both; readers always see a consistent text
 
-// Held by a setter. A lock that a forked process left behind is as good as free.
+// Held by setters. An interrupted write of a parent process needs no repair: readers still see the text before it.
 class Change {
 public:
     Change() noexcept { static_cast<void>(changing.lock()); }
@@ -43,7 +43,7 @@ bool isPlain(std::string_view name) {
     return language.empty() || language == "C" || language == "POSIX";
 }
 
-// What the environment says.
+// The settings in the environment.
 struct Settings {
     std::string languages;
     std::string locale;
@@ -69,7 +69,7 @@ std::vector<std::string> splitLanguages(std::string_view list) {
 
 std::string environmentLanguages(std::string_view own) {
     std::string list;
-    // A user who asks for the plain locale gets the plain language whatever LANGUAGE says.
+    // As in gettext, the locale "C" overrides LANGUAGE.
     std::string_view wanted = own.empty() || !isPlain(own) ? environment("LANGUAGE") : std::string_view();
     while (!wanted.empty()) {
         const std::string_view one = withoutSuffix(wanted, ':');
@@ -94,7 +94,7 @@ Settings environmentSettings() {
                                                       : accepted(withoutSuffix(withoutSuffix(identifier, '@'), '.')))};
 }
 
-// Takes from the environment what nobody has set.
+// Reads what was not set explicitly from the environment.
 [[gnu::cold]] void initialize() {
     const Settings settings = environmentSettings();
     const Change change;

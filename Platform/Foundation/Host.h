@@ -1,8 +1,8 @@
 // Foundation/Host.h
-// What a host tells the platform of its user: preferred languages and current locale.
-// Text: UTF-8. Threads: all functions from any thread, at any time, in a forked child too; a reader sees the state
-// before a change or after it, and takes no lock. Memory: fixed, however many users a process serves. Errors: all may
-// throw std::bad_alloc, and then the state in force stays.
+// The host application's settings for the user: preferred languages and current locale.
+// Text: UTF-8. Threads: any, at any time, also in a forked child. Readers take no lock and see the state either before
+// or after a change. Memory: constant, however many changes are made. Errors: all functions may throw std::bad_alloc
+// and then change nothing.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -13,17 +13,17 @@
 
 namespace Foundation::Host {
 
-// The languages that the user reads, the best liked first: "ru", "pt-PT", "zh_CN". Replaces the environment's. A name
-// with a NUL matches nothing; names beyond longestLanguages bytes together are left out.
+// Sets the languages that the user reads, most preferred first: "ru", "pt-PT", "zh_CN". Overrides the environment. A
+// name with a NUL matches nothing; names that exceed longestLanguages bytes in total are ignored.
 LUMORA_EXPORT void setPreferredLanguages(const std::vector<std::string>& languages);
 inline constexpr std::size_t longestLanguages = 2048;
-// The identifier of the user's locale: "de_AT". Replaces the environment's. A longer one than longestLocale bytes is
-// taken as the empty one, which formats as the root locale.
+// Sets the identifier of the user's locale: "de_AT". Overrides the environment. One of more than longestLocale bytes is
+// treated as empty, which formats as the root locale.
 LUMORA_EXPORT void setCurrentLocale(std::string_view identifier);
 inline constexpr std::size_t longestLocale = 256;
-// Back to the environment, read at this call and at the first use. Languages: those of LANGUAGE, then that of the first
-// of LC_ALL, LC_MESSAGES and LANG that is not empty; English alone where that one says "C". Locale: that of LC_ALL,
-// else of LANG, or where LANG says nothing or "C", of LC_MESSAGES. What nobody says is English and "en_US".
+// Resets both to the environment, which is read at this call and at the first use. Languages: those of LANGUAGE, then
+// that of the first non-empty one of LC_ALL, LC_MESSAGES and LANG; if that is "C", only English. Locale: LC_ALL, else
+// LANG, or LC_MESSAGES if LANG is empty or "C". The defaults are English and "en_US".
 LUMORA_EXPORT void reset();
 
 } // namespace Foundation::Host

@@ -14,15 +14,15 @@ std::string_view languageOf(std::string_view tag) {
     return tag.substr(0, tag.find('-'));
 }
 
-// "de-AT": a language and a region and nothing more.
+// Whether the tag is a language and a region only, such as "de-AT".
 bool namesRegionOnly(std::string_view tag) {
     const std::string_view region = tag.substr(std::min(languageOf(tag).size() + 1, tag.size()));
     return region.size() == 2 ||
            (region.size() == 3 && region.find_first_not_of("0123456789") == std::string_view::npos);
 }
 
-// The cases that need no knowledge of the world's languages, which are nearly all: the very tag, or the only variant of
-// the language. Spares most processes the loading of that knowledge.
+// The common cases, which need no language data: the exact tag, or the only variant of the language. Most processes
+// then never load ICU.
 std::optional<std::size_t> chooseByTag(std::string_view wanted, std::span<const std::string> supported) {
     if (const auto same = std::ranges::find(supported, wanted); same != supported.end())
         return same - supported.begin();

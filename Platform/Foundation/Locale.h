@@ -1,6 +1,6 @@
 // Foundation/Locale.h
-// A user's language, region and regional settings, known by an identifier such as "de_AT" or "ar_EG@numbers=latn".
-// Text: ASCII by custom, kept as given. Threads: any; values.
+// A user's language, region and regional settings, given by an identifier such as "de_AT" or "ar_EG@numbers=latn".
+// Text: usually ASCII, kept unchanged. Threads: plain values.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -10,10 +10,10 @@ namespace Foundation {
 
 class LUMORA_EXPORT Locale {
 public:
-    // Any text is an identifier; one that means nothing formats as the root locale does.
+    // Accepts any string; an unknown identifier formats as the root locale.
     explicit Locale(std::string identifier) : identifier_(std::move(identifier)) {}
 
-    // The locale that the host says is the user's, read anew at every call.
+    // The user's locale according to the host settings, read at every call.
     [[nodiscard]] static Locale current();
 
     [[nodiscard]] const std::string& identifier() const noexcept { return identifier_; }

@@ -21,7 +21,7 @@ bool isMissing(const Runtime::Error& error) noexcept {
     return error.cause == ENOENT || error.cause == ENOTDIR;
 }
 
-// The table at `path`; without keys when the file is missing or damaged.
+// The table at `path`; an empty one when the file is missing or damaged.
 StringTables::PluralTable readPlurals(const std::string& path) {
     auto read = StringTables::PluralTable::readFile(path);
     if (read)
@@ -45,7 +45,7 @@ struct Plurals {
     }
 
     StringTables::PluralTable table;
-    std::vector<std::string> texts; // of the entries, where there are no numbers
+    std::vector<std::string> texts; // of the entries, for use without numbers
 };
 
 template <class Table> std::optional<std::string> damageOf(const std::string& path) {
@@ -80,14 +80,14 @@ std::optional<LocalizedFormat> Localization::find(std::string_view key, std::str
     return loaded != nullptr ? loaded->find(key, language_) : std::nullopt;
 }
 
-// Null when there is no such table, unless that is kept.
+// Reads a table and keeps it. A missing table is kept as an empty one while there is room; after that the result is
+// null.
 Localization::LoadedTable* Localization::load(std::string_view name) {
     if (!layout::isFileName(name))
         return nullptr;
     std::string texts = pathOf(name, layout::textsSuffix);
     const std::string plurals = mayHavePlurals_ ? pathOf(name, layout::pluralsSuffix) : std::string();
-    const bool exists =
-        ::access(texts.c_str(), F_OK) == 0 || (mayHavePlurals_ && ::access(plurals.c_str(), F_OK) == 0);
+    const bool exists = ::access(texts.c_str(), F_OK) == 0 || (mayHavePlurals_ && ::access(plurals.c_str(), F_OK) == 0);
     return tables_.add(exists ? tables_.unlimited : mostMissing, name, std::move(texts),
                        mayHavePlurals_ ? readPlurals(plurals) : StringTables::PluralTable());
 }

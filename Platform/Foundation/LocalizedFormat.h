@@ -1,6 +1,6 @@
 // Foundation/LocalizedFormat.h
-// What a bundle has for a key: a text, or a format whose words depend on numbers (a plural).
-// Text: UTF-8. Threads: values. Ownership: views into the bundle, which lives until the process ends.
+// A bundle's entry for a key: a text, or a plural, whose words depend on numbers.
+// Text: UTF-8. Threads: plain values. Ownership: views into the bundle, which lives until the process ends.
 #pragma once
 
 #include "Foundation/FormatArgument.h"
@@ -19,13 +19,13 @@ namespace Foundation {
 class LocalizedFormat {
 public:
     explicit LocalizedFormat(std::string_view text) noexcept : text_(text) {}
-    // `text`: what the plural reads as where there are no numbers. `language`: the table's, whose rules choose.
+    // `text`: the plural's text for use without numbers. `language`: the table's language, whose plural rules apply.
     LocalizedFormat(std::string_view text, const StringTables::PluralFormat& plural, std::string_view language) noexcept
         : text_(text), plural_(&plural), language_(language) {}
 
-    // Of a plural: its format with the form `other` of every variable.
+    // For a plural: its format with the form `other` of every variable.
     std::string_view text() const noexcept { return text_; }
-    // Null unless it is a plural.
+    // Null for a text.
     const StringTables::PluralFormat* plural() const noexcept { return plural_; }
     std::string_view language() const noexcept { return language_; }
 
@@ -37,8 +37,8 @@ private:
 
 namespace String {
 
-// As format() of a text. The arguments choose the forms of a plural by the rules of its language; numbers are printed
-// as `locale` writes them.
+// Like format() of a text. The arguments select the forms of a plural by the rules of its language; `locale` determines
+// how numbers are written.
 [[nodiscard]] LUMORA_EXPORT std::string format(const LocalizedFormat& format, const Locale& locale,
                                                std::span<const FormatArgument> arguments);
 

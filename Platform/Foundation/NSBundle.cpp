@@ -22,14 +22,14 @@ namespace {
 
 namespace layout = StringTables::bundleLayout;
 
-// Where texts are looked for, in order; null behind the last.
+// The language folders in which texts are looked up, in order; null after the last.
 using Chain = std::array<detail::Localization*, layout::lookupOrder({}, {}).size() + 1>;
 
 bool isEmptyOrFileName(std::string_view name) noexcept {
     return name.empty() || layout::isFileName(name);
 }
 
-// "lumora-1" for the library liblumora.so.1.0.0: its folder beside it when several versions are installed together.
+// "lumora-1" for liblumora.so.1.0.0: the library's own folder, so that several versions can be installed together.
 std::string versionedFolder(std::string_view library) {
     static constexpr std::string_view prefix = "lib", suffix = ".so.";
     const std::size_t end = library.find(suffix);
@@ -69,7 +69,7 @@ struct NSBundle::Contents {
         return chain;
     }
 
-    // The number among `localizations` of the one that a reader of `language` (BCP 47) is served with.
+    // The index in `localizations` of the best match for `language` (BCP 47).
     std::optional<std::size_t> choose(std::string_view language) {
         const Choice* known = choices.find(language);
         if (known != nullptr)
@@ -79,7 +79,7 @@ struct NSBundle::Contents {
         return made;
     }
 
-    // The number of the first preferred localization; `localizations.size()` when the user reads none.
+    // The index of the user's first preferred localization; `localizations.size()` when the user reads none.
     std::size_t preferred() {
         const std::uint64_t known = latest.load(std::memory_order_relaxed);
         if (known / versionUnit == detail::hostVersion()) [[likely]]
@@ -97,17 +97,17 @@ struct NSBundle::Contents {
 
     using Choice = std::optional<std::size_t>;
 
-    NSBundle bundle;              // of the contents that were read first; those of a reload have one that nobody uses
+    NSBundle bundle;              // used only in the first contents; a reload leaves it in place
     Contents* previous = nullptr; // before the last reload
     std::string path;
     std::string developmentLocalization;
     std::deque<detail::Localization> folders;
     std::vector<std::string> localizations;
-    std::vector<Chain> chains; // of the localizations, and last of a user who reads none of them
+    std::vector<Chain> chains; // by localization, then one for users who read none of them
 
     Runtime::KeyedStore<Choice, 16> choices; // by the user's language
     static constexpr std::size_t mostChoices = 256;
-    // The version of the host's languages times versionUnit, plus what preferred() was for it.
+    // The version of the host's languages times versionUnit, plus preferred() for that version.
     std::atomic<std::uint64_t> latest{0};
     static constexpr std::uint64_t versionUnit = std::uint64_t{1} << 16;
 };
@@ -226,7 +226,7 @@ void NSBundle::reload() const {
     fresh->previous = contents_.load(std::memory_order_relaxed);
     while (!contents_.compare_exchange_weak(fresh->previous, fresh.get(), std::memory_order_acq_rel))
         continue;
-    (void)fresh.release(); // kept, as every one before it
+    (void)fresh.release(); // never freed: callers hold views into all contents
 }
 
 } // namespace Foundation

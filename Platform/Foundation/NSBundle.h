@@ -1,7 +1,7 @@
 // Foundation/NSBundle.h
-// A directory of resources: string tables per language in NAME.lproj folders, compiled assets, Info.plist.
-// Text: UTF-8; paths as the file system has them. Threads: all members from any thread; after a first read no look-up
-// takes a lock. Ownership: bundles, and every view and reference they give, live until the process ends.
+// A directory of resources: Info.plist, compiled assets, and string tables in one NAME.lproj folder for each language.
+// Text: UTF-8; paths are raw bytes. Threads: any; after the first read, lookups are lock-free. Ownership: bundles, and
+// all views and references to their content, live until the process ends.
 #pragma once
 
 #include "Foundation/LocalizedFormat.h"
@@ -16,58 +16,56 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSBundle {
 public:
-    // The bundle NAME.bundle of the shared object that holds `code` (the address of a function or static object): in
-    // the folder LIBRARY-VERSION beside it ("lumora-1" for liblumora.so.1.0.0) if there is one, else beside it; the
-    // main bundle when the code is the program's own.
+    // The bundle NAME.bundle of the shared object that contains `code` (the address of a function or static object). It
+    // is in the folder LIBRARY-VERSION beside that file ("lumora-1" for liblumora.so.1.0.0) if there is one, else
+    // beside the file itself. For code of the main program: the main bundle.
     [[nodiscard]] static const NSBundle& bundleForCode(const void* code, std::string_view name);
     // PROGRAM.bundle in the directory of the program.
     [[nodiscard]] static const NSBundle& mainBundle();
-    // The bundle at a path; the same object for the same path. A directory that is not there is a bundle without
-    // resources.
+    // The bundle at a path; the same object for the same path. A missing directory gives a bundle without resources.
     [[nodiscard]] static const NSBundle& bundleWithPath(const std::string& path);
 
     NSBundle(const NSBundle&) = delete;
     NSBundle& operator=(const NSBundle&) = delete;
 
-    // Absolute if the path that named the bundle was.
+    // The path of the bundle, absolute if the path it was opened with was.
     [[nodiscard]] const std::string& bundlePath() const noexcept;
-    // The language of the development texts: Info.plist's CFBundleDevelopmentRegion, "en" without one.
+    // The language of the development texts: CFBundleDevelopmentRegion in Info.plist, or "en".
     [[nodiscard]] const std::string& developmentLocalization() const noexcept;
-    // The languages of the bundle, sorted: one for each *.lproj folder, Base.lproj standing for the development
-    // language.
+    // The languages of the bundle, sorted: one for each *.lproj folder; Base.lproj counts as the development language.
     [[nodiscard]] const std::vector<std::string>& localizations() const noexcept;
-    // Those of `localizations` that the user reads, the best liked first, by the host's preferred languages now; the
-    // development language alone when the user reads none. Empty when the bundle has no languages.
+    // The localizations that the user reads, most preferred first, according to the host's current preferred languages;
+    // only the development language when the user reads none. Empty when the bundle has no languages.
     [[nodiscard]] std::vector<std::string> preferredLocalizations() const;
-    // The first of them, or null; faster.
+    // The first of these, or null. Faster than preferredLocalizations().
     [[nodiscard]] const std::string* preferredLocalization() const;
 
-    // What the bundle has for `key` (exact) in the table `table` (empty: "Localizable"): the entry of the first
-    // preferred localization, else of the development texts, or no value. A plural wins over a text of its
-    // localization. A damaged or missing table is a table without keys. Each table is read once.
+    // The entry for `key` (exact) in the table `table` (empty: "Localizable"): that of the first preferred
+    // localization, else that of the development texts, else no value. Within a localization a plural takes precedence
+    // over a text. A damaged or missing table has no keys. Each table is read once.
     [[nodiscard]] std::optional<LocalizedFormat> findLocalized(std::string_view key, std::string_view table) const;
-    // The same with `key` itself, as a text, where no table has it.
+    // The same, but with `key` itself as the text when no table has it.
     [[nodiscard]] LocalizedFormat localizedFormat(std::string_view key, std::string_view table) const;
-    // The text of localizedFormat(), a view that lives until the process ends, or `key`.
+    // The text of localizedFormat(): a view that lives until the process ends, or `key`.
     [[nodiscard]] std::string_view localizedText(std::string_view key, std::string_view table) const;
-    // The text as a string; where no table has the key, `value` unless that is null or empty, and else the key.
+    // The text as a string. When no table has the key: `value`, or the key if `value` is null or empty.
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, const std::string* value,
                                                     std::string_view table) const;
     // Why a file of the table cannot be read, of those in which findLocalized() looks: "FILE:LINE:COLUMN: REASON", or
     // "PATH: REASON" where the bundle itself is not there; no value when each can or is not there. Reads them anew.
     [[nodiscard]] std::optional<std::string> tableDamage(std::string_view table) const;
-    // The path of the file NAME.TYPE (NAME where TYPE is empty) of one localization ("Base" is one), in `directory`
-    // below the localization's folder if that is not empty; no value when there is no such file or a name would lead
-    // out of the bundle.
+    // The path of the file NAME.TYPE (NAME if TYPE is empty) of one localization ("Base" is one), in the subfolder
+    // `directory` of the localization's folder unless that is empty. No value when there is no such file or a name
+    // would leave the bundle.
     [[nodiscard]] std::optional<std::string> pathForResource(std::string_view name, std::string_view type,
                                                              std::string_view directory,
                                                              std::string_view localization) const;
 
-    // For development: later look-ups read the bundle's files anew, as after a compile while the program runs. Nothing
-    // happens by itself. Seen anew are the languages and every text that this bundle is asked for; accessors of
-    // formatted texts ask it at each call. Not seen anew are the texts that accessors of plain texts have kept, and
-    // pictures, colours and data. Views and references that were given out stay valid: what was read before keeps its
-    // memory. Throws std::bad_alloc, or std::system_error when descriptors run out; the bundle is then as it was.
+    // For development: makes later lookups read the bundle's files again, for example after a compile while the program
+    // runs. There is no automatic reload. Affected are the languages, all texts looked up through this bundle, and the
+    // accessors of formatted texts. Not affected are texts that accessors of plain texts have already cached, and
+    // pictures, colours and data. Views and references to the old content stay valid, because it is never freed. Throws
+    // std::bad_alloc, or std::system_error when descriptors run out; the bundle is then unchanged.
     void reload() const;
 
 private:
@@ -76,7 +74,7 @@ private:
     ~NSBundle() = default;
     Contents& contents() const noexcept { return *contents_.load(std::memory_order_acquire); }
 
-    mutable std::atomic<Contents*> contents_; // another one after each reload
+    mutable std::atomic<Contents*> contents_; // replaced by each reload
 };
 
 } // namespace Foundation

@@ -1,6 +1,6 @@
 // Foundation/NSDictionary.h
-// A file's dictionary of texts: a string table in any of its forms.
-// Text: UTF-8; paths as the file system has them. Threads: any, immutable. Ownership: views live as long as the dictionary.
+// A dictionary of strings read from a file: a string table in any of its forms.
+// Text: UTF-8; paths are raw bytes. Threads: any, immutable. Ownership: views live as long as the dictionary.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -14,10 +14,10 @@ namespace Foundation {
 class LUMORA_EXPORT NSDictionary {
 public:
     // Reads the whole file; no value when it is missing, damaged or too large. Throws std::bad_alloc, and
-    // std::system_error on a transient error of the system.
+    // std::system_error on a transient error.
     [[nodiscard]] static std::optional<NSDictionary> dictionaryWithContentsOfFile(const std::string& path);
 
-    // The text of `key` (exact), or no value; a value that is not a text is none.
+    // The text of `key` (exact); no value when there is none or it is not a string.
     [[nodiscard]] std::optional<std::string_view> stringForKey(std::string_view key) const noexcept;
 
 private:

@@ -9,9 +9,9 @@ namespace Foundation {
 
 namespace {
 
-// The whole number nearest to `value`, of those that T holds.
+// `value` without its fraction, clamped to the range of T.
 template <class T> T clamped(double value) noexcept {
-    // As doubles: 2^63 or 2^64, just above the largest, and the smallest itself.
+    // 2^63 or 2^64, just above the largest value of T, which a double cannot represent.
     static constexpr double above = static_cast<double>(T{1} << (std::numeric_limits<T>::digits - 1)) * 2;
     if (std::isnan(value))
         return 0;

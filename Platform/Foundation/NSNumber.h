@@ -1,5 +1,5 @@
 // Foundation/NSNumber.h
-// A number of any arithmetic type, as one value.
+// Holds a number of any arithmetic type.
 // Threads: a plain value.
 #pragma once
 
@@ -13,7 +13,7 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSNumber {
 public:
-    // Keeps whole numbers exactly, floating ones as double; a bool is 0 or 1.
+    // Keeps integers exactly and floating-point numbers as double; a bool is 0 or 1.
     template <class T>
     requires(std::is_arithmetic_v<T> &&
              (std::floating_point<T> || sizeof(T) <= sizeof(std::uint64_t))) constexpr NSNumber(T value) noexcept {
@@ -21,23 +21,22 @@ public:
             kind_ = Kind::floating;
             floating_ = static_cast<double>(value);
         } else {
-            // A negative one is kept by its two's complement, in 64 bits.
+            // Negative values are kept as 64-bit two's complement.
             kind_ = std::is_signed_v<T> ? Kind::signedInteger : Kind::unsignedInteger;
             integer_ = static_cast<std::uint64_t>(value);
         }
     }
 
     [[nodiscard]] constexpr bool isFloating() const noexcept { return kind_ == Kind::floating; }
-    // Minus zero is negative; not-a-number is not, whatever its sign bit.
+    // True for -0.0; false for NaN, whatever its sign bit.
     [[nodiscard]] bool isNegative() const noexcept;
 
-    // The value in another type: a fraction is cut off, a value out of range becomes the nearest in range, not-a-number
-    // 0.
+    // The value in another type: a fraction is cut off, an out-of-range value is clamped, NaN gives 0.
     [[nodiscard]] std::int64_t int64Value() const noexcept;
     [[nodiscard]] std::uint64_t uint64Value() const noexcept;
     // The nearest double.
     [[nodiscard]] double doubleValue() const noexcept;
-    // Whether the value is other than 0.
+    // Whether the value is not 0.
     [[nodiscard]] bool boolValue() const noexcept { return isFloating() ? floating_ != 0 : integer_ != 0; }
 
     // The number as Describable writes it: "5", "2.0".

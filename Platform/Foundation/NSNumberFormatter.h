@@ -1,7 +1,7 @@
 // Foundation/NSNumberFormatter.h
-// Writes numbers as a locale does.
-// Text: UTF-8. Threads: values; one formatter may be read by several threads, not changed meanwhile.
-// Cheap to make: what must be known of the locale is kept by the library.
+// Formats numbers for a locale.
+// Text: UTF-8. Threads: concurrent const calls on one formatter are safe; changes need external synchronization.
+// Cheap to create: the library caches the locale's data.
 #pragma once
 
 #include "Foundation/Locale.h"
@@ -14,11 +14,11 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSNumberFormatter {
 public:
-    // decimal: at most three places after the point, whole numbers in full. percent: a hundred times the number,
-    // rounded to a whole one, with the percent sign where the locale has it. Halves are rounded to even.
+    // decimal: at most three fraction digits. percent: a hundred times the number, rounded to an integer, with the
+    // percent sign where the locale puts it. Halves are rounded to even.
     enum class Style { decimal, percent };
 
-    // Decimal, in the locale that is current now.
+    // Decimal, in the current locale.
     NSNumberFormatter() : locale_(Locale::current()) {}
 
     [[nodiscard]] Style numberStyle() const noexcept { return style_; }
@@ -27,15 +27,15 @@ public:
     [[nodiscard]] const Locale& locale() const noexcept { return locale_; }
     void setLocale(Locale locale) noexcept { locale_ = std::move(locale); }
 
-    // The locale's own, with the marks that keep it in its place in texts written from right to left.
+    // The locale's plus sign, with the bidirectional marks that it has in right-to-left locales.
     [[nodiscard]] std::string plusSign() const;
 
-    // What stands before a number that is not negative, zero included; the locale's own until one is set.
+    // The prefix of nonnegative numbers; the locale's own until one is set.
     [[nodiscard]] std::string positivePrefix() const;
     void setPositivePrefix(std::string prefix) { positivePrefix_ = std::move(prefix); }
 
-    // Both styles have a text for every number, infinities and not-a-number included. Without the library's language
-    // data: ASCII digits, '-', '.', and no grouping.
+    // Both styles have a text for every number, including infinities and NaN. Without the library's language data the
+    // result has ASCII digits, '-', '.', and no grouping.
     [[nodiscard]] std::optional<std::string> stringFromNumber(const NSNumber& number) const;
 
 private:

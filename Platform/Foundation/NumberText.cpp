@@ -13,13 +13,13 @@ namespace {
 using Intl::NumberPattern;
 using Intl::NumberStyle;
 
-// A positive decimal number: 0.DIGITS times ten to the power `point`, without zeros at the end. Zero has no digits.
+// A nonnegative decimal number: 0.DIGITS times ten to the power of `point`, without trailing zeros. Zero has no digits.
 struct Decimal {
     std::array<char, std::numeric_limits<std::uint64_t>::digits10 + 1> digits;
     int count = 0;
     int point = 0;
 
-    // `magnitude` times ten to `power`, rounded to `places` after the point; finite and not negative.
+    // `magnitude`, finite and not negative, times ten to the power of `power`, rounded to `places` fraction digits.
     Decimal(double magnitude, int power, int places) noexcept {
         if (readScaled(magnitude, power + places)) {
             point = count - places;
@@ -37,9 +37,9 @@ struct Decimal {
     char at(int place) const noexcept { return digits[static_cast<std::size_t>(place)]; }
 
 private:
-    // The magnitude times ten to `power` as a whole number, if that is sure: what a product so far below 2^53 has lost,
-    // and what sets the value apart from its shortest digits, is too little to reach the half. Nearly all numbers are
-    // such.
+    // Fast path for nearly all numbers: the magnitude times ten to the power of `power`, rounded to an integer. Returns
+    // false when the result might be wrong. The product is far below 2^53, so neither its rounding error nor the
+    // difference between the value and its shortest digits can move it across a half unless it is near one.
     bool readScaled(double magnitude, int power) noexcept {
         static constexpr std::array<double, 7> powers = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
         static constexpr double largest = 0x1p40;
@@ -70,7 +70,7 @@ private:
         ++point;
     }
 
-    // To `places` digits after the point, halves to even.
+    // Rounds to `places` fraction digits, halves to even.
     void round(int places) noexcept {
         const int keep = point + places;
         if (keep >= count)
@@ -151,7 +151,7 @@ void appendWhole(std::string& out, const NumberPattern& pattern, std::string_vie
         appendDigits(out, pattern, digits);
         return;
     }
-    const std::size_t last = digits.size() - primary; // where the last group begins
+    const std::size_t last = digits.size() - primary; // the start of the last group
     std::size_t begin = 0;
     for (std::size_t end = (last - 1) % secondary + 1; begin != last; begin = end, end += secondary) {
         appendDigits(out, pattern, digits.substr(begin, end - begin));

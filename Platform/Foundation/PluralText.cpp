@@ -22,7 +22,7 @@ const std::optional<std::string>& formOf(const PluralVariable& variable, PluralC
     return variable.forms[indexOf(category)];
 }
 
-// The form `other`, or else the last one that there is; empty where there is none.
+// The form `other`, else the last existing one, else an empty text.
 std::string_view generalForm(const PluralVariable& variable) noexcept {
     const auto last =
         std::find_if(variable.forms.rbegin(), variable.forms.rend(), [](const auto& form) { return form.has_value(); });
@@ -72,7 +72,7 @@ Intl::PluralOperands operandsOf(const PluralFormat& plural, const PluralVariable
     return Intl::pluralOperands(std::string_view(printed).substr(std::min(digits, printed.size())));
 }
 
-// The form for a number, of the language of the table.
+// The form for a number in the language of the table.
 std::string_view chosenForm(const PluralFormat& plural, const PluralVariable& variable, std::string_view language,
                             std::size_t own, const FormatArgument& argument) {
     const Intl::PluralOperands number = operandsOf(plural, variable, own, argument);
@@ -83,10 +83,10 @@ std::string_view chosenForm(const PluralFormat& plural, const PluralVariable& va
     return form ? std::string_view(*form) : generalForm(variable);
 }
 
-// Appends to a format whose placeholders all have positions.
+// Replaces the variables of a plural format. The result is a format whose placeholders all have positions.
 class Flattener {
 public:
-    // `choose(variable, argument)` returns the form to take for the argument at that position.
+    // `choose(variable, argument)` returns the form to use for the argument at that position.
     template <class Choose> static std::string flatten(const PluralFormat& plural, Choose choose) {
         Flattener flattener(plural);
         flattener.append(plural.format, PluralPieces(plural), choose);
@@ -113,7 +113,7 @@ private:
         append(form, PluralPieces(plural_, form, *piece.variable, piece.arguments.value), choose);
     }
 
-    // Every '%' of it is one: what is behind it now may read as a placeholder.
+    // Escapes every '%', because the text that follows it now might complete a placeholder.
     void appendLiteral(std::string_view text) {
         for (const char c : text)
             out_.append(c == '%' ? 2 : 1, c);
@@ -137,7 +137,7 @@ private:
                 continue;
             appendPosition(std::exchange(isWidth, false) ? piece.arguments.width : piece.arguments.precision);
             const std::size_t digits = text.find_first_not_of("0123456789", at + 1);
-            if (digits > at + 1 && text[digits] == '$') // replaced by the same position
+            if (digits > at + 1 && text[digits] == '$') // an explicit position, which was just written
                 at = digits;
         }
     }

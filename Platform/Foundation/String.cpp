@@ -28,14 +28,14 @@ std::string_view firstCharacters(std::string_view text, std::size_t limit) noexc
     return text;
 }
 
-// The whole characters among the first `size` bytes of a longer text.
+// The complete characters in the first `size` bytes of a longer text.
 std::string_view cut(std::string_view text, std::size_t size) noexcept {
     while (size > 0 && !beginsCharacter(text[size]))
         --size;
     return text.substr(0, size);
 }
 
-// Appends to a text of the caller's.
+// Formats into a string of the caller.
 class Formatter {
 public:
     Formatter(std::string& out, std::string_view format, const Locale& locale,
@@ -59,11 +59,11 @@ private:
         return size;
     }
 
-    // Until the text is longer than the limit.
+    // Formats until the text exceeds the limit.
     void fill() {
         std::size_t done = 0;
         for (std::size_t at = 0; (at = format_.find('%', at)) != format_.npos && out_.size() <= limit_; at = done) {
-            if (format_.substr(at + 1).starts_with('@')) { // nearly all of them: nothing to read
+            if (format_.substr(at + 1).starts_with('@')) { // the most common placeholder: no need to parse it
                 put(format_.substr(done, at - done));
                 done = at + 2;
                 if (const FormatArgument* given = argument(counter_.next()))
@@ -79,18 +79,18 @@ private:
         put(format_.substr(done));
     }
 
-    // At most one byte beyond the limit, which shows that the text does not fit.
+    // Appends up to one byte more than the limit, which marks the text as too long.
     void put(std::string_view text) {
         if (out_.size() <= limit_)
             out_ += text.substr(0, limit_ + 1 - out_.size());
     }
 
-    // Null for an argument that is not there.
+    // Null for a missing argument.
     const FormatArgument* argument(std::size_t position) const noexcept {
         return position >= 1 && position <= arguments_.size() ? &arguments_[position - 1] : nullptr;
     }
 
-    // A width or precision; no value when there is none. May be negative when it is an argument.
+    // A width or precision; no value when there is none. Negative values come from arguments.
     std::optional<std::int64_t> resolved(Placeholder::Size size, std::size_t position) const noexcept {
         if (size.from == Placeholder::Size::From::number)
             return size.value;
@@ -150,11 +150,20 @@ private:
 
     void putText(const FormatArgument& given, std::optional<std::size_t> precision = std::nullopt) {
         std::array<char, detail::scalarTextSize> buffer;
-        const std::string_view text = given.kind() == Kind::text ? given.text()
-                                      : given.kind() == Kind::integer
-                                          ? detail::integerText(given.integer(), buffer.data())
-                                          : detail::floatingText(given.number(), buffer.data());
+        const std::string_view text = textOf(given, buffer.data());
         put(precision ? firstCharacters(text, *precision) : text);
+    }
+
+    // `buffer`: of detail::scalarTextSize characters, for a number.
+    static std::string_view textOf(const FormatArgument& given, char* buffer) noexcept {
+        switch (given.kind()) {
+        case Kind::integer:
+            return detail::integerText(given.integer(), buffer);
+        case Kind::number:
+            return detail::floatingText(given.number(), buffer);
+        default:
+            return given.text();
+        }
     }
 
     void putCharacter(std::int64_t value) {
@@ -169,7 +178,7 @@ private:
         return *pattern_;
     }
 
-    // Brings what was appended since `begin` to `width` characters.
+    // Pads the text appended since `begin` to `width` characters.
     void pad(std::size_t begin, std::size_t width, bool leftAligned, const detail::Padding& padding) {
         const auto written = std::string_view(out_).substr(begin);
         const auto characters = static_cast<std::size_t>(std::ranges::count_if(written, beginsCharacter));
@@ -191,7 +200,7 @@ private:
     std::span<const FormatArgument> arguments_;
     std::size_t limit_; // of out_
     ArgumentCounter counter_;
-    detail::Kept<Intl::NumberPattern> pattern_; // once a number has needed it
+    detail::Kept<Intl::NumberPattern> pattern_; // loaded for the first number
 };
 
 } // namespace

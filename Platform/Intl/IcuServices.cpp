@@ -1,4 +1,5 @@
-// The plug-in: the services by ICU. What ICU refuses has the plain form; nothing but std::bad_alloc is thrown.
+// The plug-in: implements the services with ICU. When ICU reports an error, the plain form is returned; only
+// std::bad_alloc is thrown.
 #include "Intl/internal/Intl.h"
 
 #include "Intl/internal/IcuText.h"
@@ -21,8 +22,8 @@ namespace Intl {
 
 namespace {
 
-// The locale of an identifier if there are data for its language. ICU would read others as the process's default
-// locale, which is another program's affair; they are the root locale, with the digits that they ask for.
+// The locale of an identifier if ICU has data for its language. For other identifiers ICU would use the process's
+// default locale; this returns the root locale, with the requested digits.
 icu::Locale knownLocale(std::string_view identifier) {
     icu::Locale locale = icuLocale(identifier);
     if (locale.isBogus())
@@ -37,7 +38,7 @@ icu::Locale knownLocale(std::string_view identifier) {
     return root.isBogus() ? icu::Locale::getRoot() : root;
 }
 
-// Null for a numbering system without digits of its own (Roman numerals) and for one that is unknown.
+// Null for an unknown numbering system and for one without decimal digits (Roman numerals).
 std::unique_ptr<icu::DecimalFormat> decimalFormat(const icu::Locale& locale, NumberStyle style) {
     UErrorCode status = U_ZERO_ERROR;
     const auto icuStyle = style == NumberStyle::percent ? UNUM_PERCENT : UNUM_DECIMAL;
@@ -50,7 +51,7 @@ std::unique_ptr<icu::DecimalFormat> decimalFormat(const icu::Locale& locale, Num
     return std::unique_ptr<icu::DecimalFormat>(decimal);
 }
 
-// How many digits must stand before the first separator.
+// The smallest number of digits before the first separator.
 unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     const icu::UnicodeString separator =
         format.getDecimalFormatSymbols()->getConstSymbol(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol);
@@ -68,12 +69,12 @@ unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     return before;
 }
 
-// Strips the format of everything but digits and separators, which affixes may hold too.
+// Removes affixes and multiplier from the format, because affixes may contain digits and separators, too.
 void readGrouping(NumberPattern& pattern, icu::DecimalFormat& format) {
     format.setMultiplier(1);
     format.setPositivePrefix(icu::UnicodeString());
     format.setPositiveSuffix(icu::UnicodeString());
-    // More than any language groups would be more than the value below holds.
+    // A larger group size, which no language has, would overflow the value in minimumGrouping().
     const int primary = format.isGroupingUsed() ? std::clamp(format.getGroupingSize(), 0, 9) : 0;
     const int secondary = format.getSecondaryGroupingSize();
     pattern.primaryGrouping = static_cast<unsigned>(primary);
@@ -105,7 +106,7 @@ void readAffixes(NumberPattern& pattern, const icu::DecimalFormat& format) {
     pattern.negativeSuffix = utf8(format.getNegativeSuffix(text));
 }
 
-// ICU's text for so many years with "{0}" in the place of the number.
+// ICU's text for `count` years, with "{0}" instead of the number.
 std::string yearForm(const icu::number::LocalizedNumberFormatter& formatter, std::int64_t count) {
     UErrorCode status = U_ZERO_ERROR;
     const icu::number::FormattedNumber formatted = formatter.formatInt(count, status);
@@ -136,7 +137,7 @@ YearForms icuYearForms(std::string_view identifier) {
     };
     if (!succeeded(status))
         return years;
-    // Every category of whole numbers has one among the small or the round ones.
+    // Every category of integers occurs among the small or the round numbers.
     for (std::int32_t count = 0; count <= 200; ++count)
         fill(count);
     for (std::int32_t count = 1'000; count < 1'000'000'000; count *= 10)
@@ -144,9 +145,9 @@ YearForms icuYearForms(std::string_view identifier) {
     return years;
 }
 
-// Calls ICU only while there is memory for its first steps: one of them waits for itself for ever when it finds none,
-// and others remember for good that there was none. When ICU fails twice although there was memory it has remembered,
-// and `otherwise`, what there is without it, is the result.
+// Calls ICU only when enough memory is free for its initialization: without memory, one part of it deadlocks and others
+// cache the failure permanently. If ICU fails twice although memory was free, it has cached a failure, and `otherwise`
+// is returned.
 constexpr std::size_t plentyForIcu = std::size_t{8} << 20;
 template <class Make, class Value> Value withMemory(Make make, Value otherwise) {
     for (int attempt = 0; attempt < 2; ++attempt) {
@@ -172,7 +173,7 @@ NumberPattern icuNumberPattern(std::string_view identifier, NumberStyle style) {
     pattern.maximumFraction = static_cast<unsigned>(std::max(format->getMaximumFractionDigits(), 0));
     pattern.minimumFraction = static_cast<unsigned>(std::max(format->getMinimumFractionDigits(), 0));
     readGrouping(pattern, *format);
-    // A format that finds no memory while it is changed is bogus from then on, and its other answers are defaults.
+    // A format that runs out of memory during a change becomes bogus and returns defaults. utf8() throws in that case.
     icu::UnicodeString prefix;
     static_cast<void>(utf8(format->getPositivePrefix(prefix)));
     return pattern;

@@ -23,14 +23,14 @@ const Services* services(const Runtime::ForkGuard& guard) {
     });
 }
 
-// What `ask(services)` returns, or `plain()` without the plug-in.
-template <class Ask, class Plain> auto askServices(Ask ask, Plain plain) {
-    const Runtime::ForkGuard guard; // ICU has locks of its own
+// Returns `use(services)`, or `plain()` without the plug-in.
+template <class Use, class Plain> auto withServices(Use use, Plain plain) {
+    const Runtime::ForkGuard guard; // ICU takes locks
     const Services* const all = services(guard);
-    return all != nullptr ? ask(*all) : plain();
+    return all != nullptr ? use(*all) : plain();
 }
 
-// The longest beginning of the tag that is supported.
+// The longest supported prefix of the tag.
 std::optional<std::size_t> matchByTruncation(std::string_view desired, std::span<const std::string> supported) {
     for (;;) {
         if (const auto found = std::ranges::find(supported, desired); found != supported.end())
@@ -45,21 +45,21 @@ std::optional<std::size_t> matchByTruncation(std::string_view desired, std::span
 } // namespace
 
 std::optional<std::size_t> matchLanguage(std::string_view desired, std::span<const std::string> supported) {
-    return askServices([&](const Services& all) { return all.matchLanguage(desired, supported); },
-                       [&] { return matchByTruncation(desired, supported); });
+    return withServices([&](const Services& all) { return all.matchLanguage(desired, supported); },
+                        [&] { return matchByTruncation(desired, supported); });
 }
 
 NumberPattern numberPattern(std::string_view locale, NumberStyle style) {
     if (auto known = knownNumberPattern(locale, style))
         return *std::move(known);
-    return askServices([&](const Services& all) { return all.numberPattern(locale, style); },
-                       [&] { return plainNumberPattern(style); });
+    return withServices([&](const Services& all) { return all.numberPattern(locale, style); },
+                        [&] { return plainNumberPattern(style); });
 }
 
 YearForms yearForms(std::string_view locale) {
     if (auto known = knownYearForms(locale))
         return *std::move(known);
-    return askServices([&](const Services& all) { return all.yearForms(locale); }, [] { return YearForms(); });
+    return withServices([&](const Services& all) { return all.yearForms(locale); }, [] { return YearForms(); });
 }
 
 } // namespace Intl

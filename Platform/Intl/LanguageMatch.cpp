@@ -8,16 +8,16 @@ namespace Intl {
 
 namespace {
 
-// In today's form of its language: "iw" is "he".
+// Replaces outdated language codes: "iw" becomes "he".
 icu::Locale canonical(std::string_view identifier) {
-    // Modifiers and keywords say nothing of the language.
+    // Modifiers and keywords do not affect the language.
     icu::Locale locale = icuLocale(identifier.substr(0, identifier.find('@')));
     UErrorCode status = U_ZERO_ERROR;
     locale.canonicalize(status);
     return succeeded(status) ? locale : icu::Locale::getRoot();
 }
 
-// Norwegian without more is Bokmål; to the canonical form they are two.
+// "no" means Bokmål, but ICU's canonical form keeps "no" and "nb" apart.
 std::string_view languageOf(const icu::Locale& locale) {
     const std::string_view language = locale.getLanguage();
     return language == "no" ? "nb" : language;
@@ -29,8 +29,8 @@ std::optional<std::size_t> bestLanguage(std::string_view desired, std::span<cons
     const icu::Locale reader = canonical(desired);
     if (languageOf(reader).empty())
         return std::nullopt;
-    // The matcher knows which languages many of a language's readers understand too. Who did not name them gets none of
-    // them, so it sees the variants of the one language only.
+    // ICU's matcher may also select related languages that many readers understand. We never do that, so it only sees
+    // the variants of the reader's language.
     UErrorCode status = U_ZERO_ERROR;
     icu::LocaleMatcher::Builder builder;
     builder.setNoDefaultLocale();

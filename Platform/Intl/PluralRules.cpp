@@ -9,9 +9,9 @@ namespace Intl {
 
 namespace {
 
-// Offsets instead of pointers: nothing has to be relocated when the library is loaded.
+// Offsets instead of pointers need no relocation when the library is loaded.
 struct Language {
-    std::uint16_t name; // among `names`, ends at a NUL; "pt_PT"
+    std::uint16_t name; // offset in `names`, NUL-terminated: "pt_PT"
     std::uint8_t ruleSet;
 };
 using Categories = PluralCategories;
@@ -20,8 +20,8 @@ constexpr bool isBetween(std::uint64_t value, std::uint64_t first, std::uint64_t
     return first <= value && value <= last;
 }
 
-// `select`; `categories` and `expressions`, offsets into `expressionTexts`, by rule set; `names`; `languages` in the
-// order of the names.
+// Generated. Defines `select`; `categories` and `expressions` (offsets in `expressionTexts`) by rule set; `names`;
+// `languages`, sorted by name.
 #include "PluralRules.inc"
 
 constexpr std::size_t longestName = 16;
@@ -33,7 +33,7 @@ const Language* findLanguage(std::string_view name) noexcept {
     return found != std::end(languages) && nameOf(*found) == name ? found : nullptr;
 }
 
-// "PT-pt" as ICU spells it, "pt_PT". Only languages and regions have rules.
+// Converts "PT-pt" to ICU's spelling, "pt_PT". Only languages and regions have rules.
 char* spellTag(std::string_view tag, char* out) noexcept {
     const auto within = [](char c, char first, char last) { return first <= c && c <= last; };
     bool isLanguage = true;
@@ -49,7 +49,7 @@ char* spellTag(std::string_view tag, char* out) noexcept {
     return out;
 }
 
-// Of the longest beginning of the tag that has rules.
+// The rule set of the longest prefix of the tag that has one.
 unsigned ruleSetOf(std::string_view tag) noexcept {
     std::array<char, longestName> buffer;
     const char* const end = spellTag(tag.substr(0, longestName), buffer.data());
@@ -63,9 +63,9 @@ unsigned ruleSetOf(std::string_view tag) noexcept {
     }
 }
 
-constexpr std::uint64_t longest = 1'000'000'000'000'000'000; // numbers below it keep all their digits
+constexpr std::uint64_t longest = 1'000'000'000'000'000'000; // smaller numbers keep all their digits
 
-// Keeps the last digits, and of a longer number that it is not zero.
+// Appends a digit. Of a long number only the last digits are kept, and that it is not zero.
 std::uint64_t withDigit(std::uint64_t number, char digit) noexcept {
     const bool isLong = number >= longest / 10;
     const std::uint64_t last = number % (longest / 10) * 10 + static_cast<std::uint64_t>(digit - '0');

@@ -10,15 +10,15 @@ namespace Intl {
 
 namespace {
 
-// Offsets instead of pointers: nothing has to be relocated when the library is loaded.
+// Offsets instead of pointers need no relocation when the library is loaded.
 struct Known {
-    std::uint16_t name;                    // among `names`, ends at a NUL
-    std::uint16_t decimal, percent, years; // among `texts`
+    std::uint16_t name;                    // offset in `names`, NUL-terminated
+    std::uint16_t decimal, percent, years; // offsets in `texts`
 };
 
 #include "Precomputed.inc" // `names`, `texts`, and `known` in the order of the names
 
-// Of the locale with that identifier in ICU's form or as BCP 47; null when it is not among them.
+// Finds a locale by its identifier in ICU's form or BCP 47; null if it is not in the table.
 const Known* find(std::string_view locale) noexcept {
     std::array<char, 32> buffer;
     if (locale.size() > buffer.size())
@@ -33,7 +33,7 @@ const Known* find(std::string_view locale) noexcept {
 template <class Value> Value readAt(std::size_t offset) {
     Value value;
     const char* at = texts + offset;
-    detail::forEachPart(value, [&at](auto& part) {
+    detail::forEachField(value, [&at](auto& part) {
         if constexpr (std::is_same_v<decltype(part), unsigned&>)
             part = static_cast<unsigned>(*at++ - '0');
         else

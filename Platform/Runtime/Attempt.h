@@ -1,5 +1,5 @@
 // Runtime/Attempt.h
-// Where the text path stops exceptions.
+// Catches exceptions for callers that must not throw.
 // Threads: any; no state.
 #pragma once
 
@@ -7,7 +7,7 @@
 
 namespace Runtime {
 
-// What `make()` gives, or `otherwise` where the process has run out of memory or descriptors.
+// Returns `make()`, or `otherwise` when it throws because memory or descriptors ran out.
 template <class Make, class Value = decltype(std::declval<Make&>()())>
 Value attempt(Make&& make, Value otherwise = {}) noexcept {
     try {

@@ -1,5 +1,5 @@
 // Runtime/Class.h
-// Message dispatch by name, for callers that know a class and its messages only as texts. A class publishes constant
+// Message dispatch by name, for callers that know classes and selectors only as strings. A class publishes constant
 // tables; nothing is registered before the first look-up.
 // Threads: any. Ownership: classes live as long as the library; results belong to the caller.
 #pragma once
@@ -25,11 +25,11 @@
 
 namespace Runtime {
 
-// The type of an argument or result. Compared by what it points to: each library has a type_info of its own.
+// The type of an argument or result. Compare the type_infos, not the pointers: each library may have its own copy.
 using TypeTag = const std::type_info*;
 
-// What an argument or a result travels as: every whole number as std::int64_t, every floating one as double, every
-// text as std::string (a null C text as the empty one), anything else as itself.
+// The type in which an argument or a result is passed: every integer as std::int64_t, every floating-point number as
+// double, every string as std::string (a null C string as an empty one), any other type unchanged.
 template <class T>
 using Carried = std::conditional_t<
     std::same_as<std::remove_cvref_t<T>, bool>, bool,
@@ -44,7 +44,8 @@ struct Argument {
     const void* value;
 };
 
-// One thing that a class answers. `invoke` constructs its answer at `result`, raw memory for the result's type.
+// One property or method that a class publishes. `invoke` constructs the result at `result`, raw memory of the right
+// size and alignment.
 struct Message {
     const char* selector;
     TypeTag result;
@@ -63,7 +64,7 @@ public:
     std::vector<std::string> classProperties() const;
     std::vector<std::string> classMethods() const;
 
-    // The message of that selector, or null.
+    // The message with that selector, or null.
     const Message* find(std::string_view selector) const noexcept;
 
 private:
@@ -72,13 +73,13 @@ private:
     std::span<const Message> methods_;
 };
 
-// The class of that name in any loaded library or in the program, or null. Looks through what is loaded at every call,
-// under the dynamic linker's lock: callers keep what it returns.
+// The class of that name in any loaded library or in the program, or null. Each call searches all loaded libraries
+// under the dynamic linker's lock, so callers should keep the result.
 [[nodiscard]] LUMORA_EXPORT const Class* classNamed(std::string_view name) noexcept;
 
 namespace detail {
 
-// Stops the process unless `cls` answers `selector` with exactly these types; returns what it answers with.
+// Finds the message of `cls` for `selector`. Stops the process if there is none or if its types differ from these.
 LUMORA_EXPORT const Message& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
                                      TypeTag result) noexcept;
 
@@ -115,20 +116,20 @@ template <auto* function> constexpr Message message(const char* selector) noexce
     }(selector, function);
 }
 
-// Makes classNamed() find a class of static storage as long as the library or program that holds it is loaded: an ELF
-// note says where the class is, so no code runs at start-up and no symbol is exported. Use it at namespace scope.
+// Publishes a class of static storage, so that classNamed() finds it while its library or program is loaded. An ELF
+// note points to the class, so no code runs at start-up and no symbol is exported. Use it at namespace scope.
 #define LUMORA_PUBLISH_CLASS(cls) LUMORA_PUBLISH_CLASS_AS(cls, LUMORA_PUBLISHED_SYMBOL(__COUNTER__))
 #define LUMORA_PUBLISHED_SYMBOL(number) LUMORA_PUBLISHED_SYMBOL_TEXT(number)
 #define LUMORA_PUBLISHED_SYMBOL_TEXT(number) "lumora_published_class_" #number
-// The note's header: the sizes of owner and content, and the type, 1; its content is the distance to a pointer to the
-// class.
+// The note: sizes of the owner's name and of the content, the type (1), the name, and the content, which is the
+// relative address of a pointer to the class.
 #define LUMORA_PUBLISH_CLASS_AS(cls, symbol)                                                                           \
     [[gnu::used]] static const ::Runtime::Class* const cls##Published __asm__(symbol) = &(cls);                        \
     __asm__(".pushsection .note.lumora.class,\"a\",%note\n.balign 4\n.long 7, 4, 1\n.asciz \"Lumora\"\n.balign "       \
             "4\n.long " symbol " - .\n.popsection")
 
-// Sends a message and returns its answer. A null class, a selector that the class does not answer, and arguments or a
-// result of other types stop the process with a report that names class and selector.
+// Sends a message and returns its result. A null class, an unknown selector, and arguments or a result of other types
+// stop the process with a report that names class and selector.
 template <class Result, class... Arguments>
 Carried<Result> send(const Class* cls, std::string_view selector, const Arguments&... arguments) {
     return [&](const Carried<Arguments>&... carried) {
@@ -137,10 +138,10 @@ Carried<Result> send(const Class* cls, std::string_view selector, const Argument
             detail::resolve(cls, selector, std::span(given, sizeof...(Arguments)), &typeid(Carried<Result>));
         alignas(Carried<Result>) std::byte place[sizeof(Carried<Result>)];
         found.invoke(given, place);
-        auto* answer = std::launder(reinterpret_cast<Carried<Result>*>(place));
-        Carried<Result> taken = std::move(*answer);
-        std::destroy_at(answer);
-        return taken;
+        auto* const made = std::launder(reinterpret_cast<Carried<Result>*>(place));
+        Carried<Result> moved = std::move(*made);
+        std::destroy_at(made);
+        return moved;
     }(detail::carried(arguments)...);
 }
 

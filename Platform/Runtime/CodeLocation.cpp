@@ -38,12 +38,12 @@ CodeLocation locationOf(const std::string& path, bool isMainProgram) {
 } // namespace
 
 CodeLocation codeLocation(const void* code) {
-    // Unlike dladdr, this looks for no symbol: that would read through all names of the library.
+    // dladdr would also search the symbol table, which touches all of the library's names.
     dl_find_object found{};
     if (::_dl_find_object(const_cast<void*>(code), &found) != 0)
         return {};
     link_map* const object = found.dlfo_link_map;
-    // The dynamic linker knows the program itself by an empty name.
+    // The main program has an empty name in the link map.
     return object->l_name[0] == '\0' ? mainProgramLocation() : locationOf(pathOf(object), false);
 }
 

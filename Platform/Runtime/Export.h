@@ -1,11 +1,11 @@
 // Runtime/Export.h
-// Marks what the shared library shows to the world; everything else is compiled hidden. Included first by every public
-// header, so that a compiler for an older C++ says what is missing and nothing else.
+// Marks what the shared library exports; everything else has hidden visibility. Every public header includes this one
+// first, so that a compiler in an older C++ mode reports one clear error and stops.
 #pragma once
 
 #if defined(__cplusplus) && __cplusplus < 202002L
 #error "these headers need C++20: compile with -std=c++20 or later"
-#include <lumora-needs-c++20> // not there: ends the compilation
+#include <lumora-needs-c++20> // does not exist: ends the compilation
 #endif
 
 #define LUMORA_EXPORT __attribute__((visibility("default")))

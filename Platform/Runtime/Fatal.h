@@ -1,5 +1,5 @@
 // Runtime/Fatal.h
-// The one place where the process is stopped on purpose.
+// Stops the process with a report. No other code aborts on purpose.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -10,8 +10,8 @@
 
 namespace Runtime {
 
-// Writes the line "Fatal error: MESSAGE: file FILE, line LINE" to standard error and ends the process by SIGABRT.
-// `message` and `file` are UTF-8. Any thread. Needs no memory.
+// Writes the line "Fatal error: MESSAGE: file FILE, line LINE" to standard error and ends the process with SIGABRT.
+// `message` and `file` are UTF-8. Any thread. Allocates nothing.
 [[noreturn]] LUMORA_EXPORT void fatalError(std::string_view message, std::string_view file,
                                            std::uint32_t line) noexcept;
 // The same with a message in pieces, at most maxPieces of them: putting them together would need memory. The pieces of

@@ -58,7 +58,7 @@ std::string realPath(const std::string& path) {
     return real == nullptr ? std::string() : std::string(real.get());
 }
 
-// Links below /proc lead to what a process has open; their text is only its name at that time.
+// Links below /proc refer to a process's open files; the link text is only a name and may be outdated.
 bool isOfProcesses(const std::string& folder) noexcept {
     struct statfs system {};
     return ::statfs(folder.c_str(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
@@ -85,7 +85,7 @@ Result<void> writeThrough(const std::string& path, std::string_view bytes) {
     return writeInto(::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC), path, bytes);
 }
 
-// To what a process has open, which has no name that could be replaced: at the offset of an own descriptor, at the end
+// Writes to an open file of a process, which has no name to replace: at the offset of our own descriptor, or at the end
 // of another process's file.
 Result<void> writeOpened(const std::string& path, std::string_view bytes) {
     const int own = ownDescriptor(path);
@@ -93,8 +93,8 @@ Result<void> writeOpened(const std::string& path, std::string_view bytes) {
     return writeInto(file, path, bytes);
 }
 
-// An open file beside `path` that nothing else has, with its path. As new files are, with the permissions that the
-// umask leaves; negative on failure.
+// Creates a new file beside `path`, with the default permissions under the umask. Returns it with its path; a negative
+// descriptor on failure.
 std::pair<Descriptor, std::string> createBeside(const std::string& path) {
     constexpr int mostTries = 100;
     for (int tries = 0;; ++tries) {
@@ -134,7 +134,7 @@ Result<std::string> readFile(const std::string& path, std::size_t limit) {
     const auto file = OpenFile::open(path, limit);
     if (!file)
         return file.error();
-    // What is read counts, not what was promised: the file may shrink or grow meanwhile.
+    // The file may shrink or grow while it is read, so the number of bytes read decides.
     std::string bytes(file->size(), '\0');
     const auto filled = file->read(bytes.data(), bytes.size(), 0);
     if (!filled)

@@ -18,7 +18,7 @@ void beforeFork() noexcept {
 void afterForkInParent() noexcept {
     ::pthread_rwlock_unlock(&forking);
 }
-// The child's thread is another one to the lock, so it cannot give it back.
+// The lock does not know the child's thread as its owner, so it cannot be unlocked there.
 void afterForkInChild() noexcept {
     forking = PTHREAD_RWLOCK_INITIALIZER;
 }

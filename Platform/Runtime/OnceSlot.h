@@ -1,8 +1,8 @@
 // Runtime/OnceSlot.h
-// A value that is made at its first read, exactly once, and kept until the process ends.
-// Threads: any thread may read first; the others wait for it, and later reads are one load and one test. A child
-// process that was forked while another thread was making the value makes it anew. Ownership: the slot owns its value
-// and never destroys it, so that nothing runs when the process ends.
+// A value that is created at its first use, exactly once, and kept until the process ends.
+// Threads: any; the first one creates the value while others wait; later reads are one load and one branch. A child
+// process that was forked during the creation creates the value itself. Ownership: the slot never destroys its value,
+// so that no code runs at exit.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -17,16 +17,16 @@ namespace Runtime {
 
 template <class T> class OnceSlot {
 public:
-    // Constant: a static slot costs zeroed memory and no start-up work.
+    // Constant-initialized: a static slot costs zeroed memory and no start-up code.
     constexpr OnceSlot() noexcept = default;
     OnceSlot(const OnceSlot&) = delete;
     OnceSlot& operator=(const OnceSlot&) = delete;
 
     bool isMade() const noexcept { return state_.load(std::memory_order_acquire) == made; }
-    // The value; only once isMade().
+    // The value. Requires isMade().
     const T& value() const noexcept { return *std::launder(reinterpret_cast<const T*>(storage_)); }
-    // The value; made by `make()` if it is not there yet. When `make` throws, the slot stays empty and the next reader
-    // tries again.
+    // The value; calls `make()` if there is none yet. When `make` throws, the slot stays empty and the next call tries
+    // again.
     template <class Make> const T& get(Make&& make) {
         if (!isMade()) [[unlikely]]
             fill<std::remove_cvref_t<Make>>(make);
@@ -34,11 +34,11 @@ public:
     }
 
 private:
-    // The states; any other is that of the process in which a thread makes the value.
+    // Any other state is the id of the process in which a thread is creating the value.
     static constexpr std::uint32_t empty = 0, made = 1;
     static std::uint32_t running() noexcept { return static_cast<std::uint32_t>(::getpid()) << 1; }
 
-    // Takes `make` by value, so that a caller whose value is ready prepares nothing for it in memory.
+    // Takes `make` by value, so that the fast path does not have to spill it to the stack.
     template <class Make> [[gnu::noinline, gnu::cold]] void fill(Make make) {
         const std::uint32_t mine = running();
         std::uint32_t seen = empty;

@@ -21,14 +21,14 @@ Error cannotBeRead(const OpenFile& file) {
 
 Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit) {
     OpenFile file(path);
-    if (path.find('\0') != path.npos) { // the system would read the part before it
+    if (path.find('\0') != path.npos) { // the system would read only the part before the NUL
         errno = ENOENT;
         return cannotBeRead(file);
     }
-    // Without O_NONBLOCK the opening of a pipe would wait for its writer.
+    // Without O_NONBLOCK, opening a pipe would block until a writer opens it.
     static constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
     file.descriptor_ = Descriptor(::open(path.c_str(), flags));
-    // A folder on the way may have been exchanged for another and its files removed while the path was followed.
+    // Retry once: a folder on the path may have been replaced, and the old one emptied, while the path was resolved.
     if (file.descriptor_.number() < 0 && errno == ENOENT)
         file.descriptor_ = Descriptor(::open(path.c_str(), flags));
     struct stat status {};

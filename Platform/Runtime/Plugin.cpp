@@ -13,7 +13,7 @@ namespace Runtime {
 
 namespace {
 
-// More than any plug-in takes with all its libraries.
+// More than any plug-in needs with all its libraries.
 constexpr std::size_t plentyOfAddresses = std::size_t{128} << 20;
 
 bool hasAddressSpace() noexcept {
@@ -33,11 +33,11 @@ Result<void*> symbolOf(void* library, const std::string& path, const char* symbo
 Result<void*> pluginSymbol(const ForkGuard&, const char* file, const char* symbol) {
     static constexpr char here = 0;
     const std::string path = codeLocation(&here).directory + "/" LUMORA_PLUGIN_FOLDER "/" + file;
-    // Other threads take and give back descriptors meanwhile, so one look after a failure does not tell its reason.
+    // Other threads open and close files at the same time, so a single check after a failure may miss its cause.
     for (int tries = 0; tries < 3; ++tries) {
         if (void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL))
             return symbolOf(library, path, symbol);
-        // The dynamic linker gives its reasons in words only, and not always the right ones.
+        // dlerror() gives only text, which is sometimes misleading, so probe for the causes.
         demandMemory();
         if (!hasAddressSpace())
             return Error{.message = "cannot be loaded: no address space", .file = path, .cause = ENOMEM};

@@ -23,7 +23,7 @@ constexpr std::size_t padded(std::size_t size) noexcept {
     return (size + noteAlignment - 1) / noteAlignment * noteAlignment;
 }
 
-// The class that a note's content refers to by its distance.
+// Follows the relative address in a note's content.
 const Class& classAt(const char* content) noexcept {
     std::int32_t distance = 0;
     std::memcpy(&distance, content, sizeof distance);
@@ -32,7 +32,7 @@ const Class& classAt(const char* content) noexcept {
     return *published;
 }
 
-// Whether the visitor stopped at one of the notes between `note` and `end`.
+// Visits the classes of the notes in [note, end). Returns whether the visitor stopped.
 bool visitNotes(const char* note, const char* end, const Visitor& visitor) noexcept {
     ElfW(Nhdr) header;
     while (static_cast<std::size_t>(end - note) >= sizeof header) {
@@ -47,11 +47,11 @@ bool visitNotes(const char* note, const char* end, const Visitor& visitor) noexc
     return false;
 }
 
-// In the form that dl_iterate_phdr calls: not zero ends the walk.
+// Callback of dl_iterate_phdr: a result other than 0 ends the iteration.
 int visitObject(dl_phdr_info* object, std::size_t, void* visitor) noexcept {
     for (std::size_t i = 0; i < object->dlpi_phnum; ++i) {
         const ElfW(Phdr)& segment = object->dlpi_phdr[i];
-        // Segments of other alignments hold notes in another layout, none of them ours.
+        // Notes in segments of another alignment have another layout; ours are never in those.
         if (segment.p_type != PT_NOTE || segment.p_align != noteAlignment)
             continue;
         // NOLINTNEXTLINE(performance-no-int-to-ptr): the dynamic linker gives addresses as numbers

@@ -6,9 +6,9 @@
 namespace StringTables::internal {
 
 const char* BinaryObjects::describe(std::uint8_t type) noexcept {
-    constexpr const char* names[16] = {"a truth value", "a number", "a number", "a date",      "data",
-                                       nullptr,         nullptr,    nullptr,    "a reference", nullptr,
-                                       "an array",      "a set",    "a set",    "a dictionary"};
+    constexpr const char* names[16] = {"a boolean", "a number", "a number", "a date",      "data",
+                                       nullptr,     nullptr,    nullptr,    "a reference", nullptr,
+                                       "an array",  "a set",    "a set",    "a dictionary"};
     return names[type];
 }
 
@@ -28,7 +28,7 @@ bool BinaryObjects::open() {
     if (referenceSize_ < 1 || referenceSize_ > 8)
         return fail(at + 7, "references of " + std::to_string(referenceSize_) + " bytes");
     if (tableAt < headerSize || tableAt > at)
-        return fail(at + 24, "the offset table lies outside of the file");
+        return fail(at + 24, "the offset table is outside of the file");
     tableAt_ = static_cast<std::size_t>(tableAt);
     // Each object takes a byte at least, and an offset in the table.
     if (objects_ > tableAt_ - headerSize || objects_ > (at - tableAt_) / offsetSize_)
@@ -40,21 +40,21 @@ bool BinaryObjects::top(Object& out) {
     if (!object(top_, bytes_.size() - trailerSize + 16, out))
         return false;
     if (out.type != dictionary)
-        return fail(out.at, "the table is no dictionary");
+        return fail(out.at, "expected a dictionary at the top of the table");
     if (!members(out))
         return false;
     isOrdered_ = isOrdered() && keyAt(out, 2 * static_cast<std::size_t>(out.count)) <= next(top_);
     return true;
 }
 
-// Object `number`, which is named at `namedAt`.
+// Object `number`; errors about the reference point at `namedAt`.
 bool BinaryObjects::object(std::uint64_t number, std::size_t namedAt, Object& out) {
     if (number >= objects_)
         return fail(namedAt, "there is no object " + std::to_string(number));
     const std::uint64_t at = offset(number);
     if (at < headerSize || at >= tableAt_)
         return fail(tableAt_ + static_cast<std::size_t>(number) * offsetSize_,
-                    "an object lies outside of the objects' part of the file");
+                    "an object is outside of the object area of the file");
     out.at = static_cast<std::size_t>(at);
     out.type = byte(out.at) >> 4;
     out.count = byte(out.at) & 0xF;
@@ -70,7 +70,7 @@ bool BinaryObjects::members(Object& object) {
     return object.count <= Table::maxEntries || fail(object.at, tooManyEntries);
 }
 
-// Counts from fifteen on stand in a number object behind the marker.
+// A count of 15 or more is stored in a number object after the marker.
 bool BinaryObjects::count(Object& object) {
     if (object.count < 0xF)
         return true;
@@ -108,8 +108,8 @@ bool BinaryObjects::string(std::uint64_t number, Object& object, std::string_vie
     return decode(object, out);
 }
 
-// UTF-16 to UTF-8. Where no other object can lie, it takes the place of the UTF-16 if it is not longer: the first touch
-// of fresh memory costs more than a copy.
+// UTF-16 to UTF-8. If the UTF-8 is not longer and no other object can overlap, it overwrites the UTF-16: touching fresh
+// memory costs more than a copy.
 bool BinaryObjects::decode(const Object& object, std::string_view& out) {
     char* const room = contents_.arena.room(out.size() / 2 * 3);
     const Decoded decoded = decodeUtf16(out, ByteOrder::big, room);
@@ -125,7 +125,7 @@ bool BinaryObjects::decode(const Object& object, std::string_view& out) {
     return true;
 }
 
-// Whether every object begins behind the one with the number before.
+// Whether the objects are in the file in the order of their numbers.
 bool BinaryObjects::isOrdered() const noexcept {
     std::uint64_t before = 0;
     for (std::uint64_t i = 0; i < objects_; ++i)

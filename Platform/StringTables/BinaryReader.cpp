@@ -27,10 +27,14 @@ private:
 
     Contents& contents_;
     BinaryObjects objects_;
-    // A string that several entries name is read once: for each object, 2i + 1 if it is entry i's key, 2i + 2 if it is
-    // only known as entry i's text.
-    std::vector<std::uint32_t> readAs_;
-    std::vector<std::size_t> replaced_; // entries whose key object a later entry names again
+    // An entry that has an object's string as its key or text, so that a shared string is read once.
+    struct StringUse {
+        static constexpr std::uint32_t none = 0x7FFFFFFF;
+        std::uint32_t entry : 31 = none;
+        std::uint32_t isKey : 1 = 0;
+    };
+    std::vector<StringUse> uses_;       // by object
+    std::vector<std::size_t> replaced_; // entries whose key object is the key of a later entry, too
 };
 
 bool BinaryReader::table() {
@@ -39,7 +43,7 @@ bool BinaryReader::table() {
         return false;
     const auto size = static_cast<std::size_t>(top.count);
     contents_.entries.reserve(size);
-    readAs_.resize(static_cast<std::size_t>(objects_.size()));
+    uses_.resize(static_cast<std::size_t>(objects_.size()));
     for (std::size_t i = 0; i < size; ++i)
         if (!entry(objects_.keyAt(top, i), objects_.valueAt(top, i)))
             return false;
@@ -47,7 +51,7 @@ bool BinaryReader::table() {
     return true;
 }
 
-// A compiled table is read by its dictionary here and by its index in a bundle: both must say the same.
+// Tools read a compiled table through its dictionary, a bundle reads it through its index: both must agree.
 bool BinaryReader::checkIndex() {
     static constexpr std::size_t at = CompiledIndex::objectAt;
     CompiledIndex index;
@@ -60,7 +64,7 @@ bool BinaryReader::checkIndex() {
         break;
     }
     if (index.front() > contents_.source.size() || index.entries() != contents_.entries.size())
-        return objects_.fail(at, "the table's index is another table's");
+        return objects_.fail(at, "the table's index belongs to another table");
     const CompiledTable table(contents_.source.substr(0, index.front()), index);
     for (const Entry& entry : contents_.entries)
         if (const std::string_view text = table.find(entry.key, keyHash(entry.key));
@@ -69,7 +73,7 @@ bool BinaryReader::checkIndex() {
     return true;
 }
 
-// The entry whose key and text are named at these places.
+// Adds the entry whose key and text references are at these offsets.
 bool BinaryReader::entry(std::size_t keyAt, std::size_t textAt) {
     const std::uint64_t keyNumber = objects_.reference(keyAt), textNumber = objects_.reference(textAt);
     Object key, text;
@@ -77,7 +81,7 @@ bool BinaryReader::entry(std::size_t keyAt, std::size_t textAt) {
         return false;
     std::string_view keyString, textString;
     if (!key.isString())
-        return objects_.fail(key.at, "a key is no string");
+        return objects_.fail(key.at, "expected a string as key");
     if (!string(keyNumber, key, keyString))
         return false;
     if (!text.isString()) {
@@ -98,16 +102,16 @@ bool BinaryReader::entry(std::size_t keyAt, std::size_t textAt) {
 
 // False when the table is full.
 bool BinaryReader::keep(const Entry& entry, std::uint64_t keyNumber, std::uint64_t textNumber) {
-    std::uint32_t& key = readAs_[static_cast<std::size_t>(keyNumber)];
-    std::uint32_t& text = readAs_[static_cast<std::size_t>(textNumber)];
+    StringUse& key = uses_[static_cast<std::size_t>(keyNumber)];
+    StringUse& text = uses_[static_cast<std::size_t>(textNumber)];
     const auto number = static_cast<std::uint32_t>(contents_.entries.size());
-    if (key % 2 != 0) {
-        replaced_.push_back((key - 1) / 2);
-        contents_.noteReplaced(contents_.entries[replaced_.back()], entry);
+    if (key.isKey) {
+        replaced_.push_back(key.entry);
+        contents_.noteReplaced(contents_.entries[key.entry], entry);
     }
-    key = 2 * number + 1;
-    if (text == 0 && hasText(entry))
-        text = 2 * number + 2;
+    key = {.entry = number, .isKey = 1};
+    if (text.entry == StringUse::none && hasText(entry))
+        text.entry = number;
     return contents_.add(entry.key, entry.text, entry.offset);
 }
 
@@ -121,12 +125,12 @@ void BinaryReader::removeReplaced() {
     std::erase_if(contents_.entries, [&](const Entry&) { return isReplaced[number++]; });
 }
 
-// What object `number`, a string, says.
+// Reads object `number`, a string.
 bool BinaryReader::string(std::uint64_t number, Object& object, std::string_view& out) {
-    const std::uint32_t readAs = readAs_[static_cast<std::size_t>(number)];
-    if (readAs != 0) {
-        const Entry& entry = contents_.entries[(readAs - 1) / 2];
-        out = readAs % 2 != 0 ? entry.key : entry.text;
+    const StringUse use = uses_[static_cast<std::size_t>(number)];
+    if (use.entry != StringUse::none) {
+        const Entry& entry = contents_.entries[use.entry];
+        out = use.isKey ? entry.key : entry.text;
         return true;
     }
     return objects_.string(number, object, out);

@@ -6,7 +6,8 @@ namespace StringTables::internal {
 
 namespace {
 
-// Reports the entries of a binary property list. Several may share an object; the sink bounds how deep they nest.
+// Reports the entries of a binary property list to a sink. Entries may share objects, even recursively; the sink limits
+// the depth.
 class BinaryWalk {
 public:
     BinaryWalk(Contents& contents, PropertyListSink& sink) : objects_(contents), sink_(sink) {}
@@ -21,7 +22,7 @@ public:
 private:
     using Object = BinaryObjects::Object;
 
-    // Of a dictionary whose size was read.
+    // Reports the entries of a dictionary whose size was read.
     bool entries(const Object& dictionary) {
         if (!sink_.beginDictionary())
             return true;
@@ -39,7 +40,7 @@ private:
         if (!objects_.object(number, namedAt, object))
             return false;
         if (!object.isString())
-            return objects_.fail(object.at, "a key is no string");
+            return objects_.fail(object.at, "expected a string as key");
         return string(number, object, text) && goesOn(sink_.key(text, object.at), object);
     }
 

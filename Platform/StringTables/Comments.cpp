@@ -20,7 +20,7 @@ std::string_view trimmed(std::string_view text) noexcept {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-// Each line without outer white space, the lines joined by LF.
+// Trims each line and joins the lines with LF.
 std::string cleaned(std::string_view text) {
     std::string out;
     text = trimmed(text);
@@ -75,7 +75,7 @@ public:
     Attachment(const Contents& contents, std::span<const Comment> comments)
         : source_(contents.source), begin_(contents.begin), comments_(comments) {}
 
-    // Of the entry at `offset`; `comments` are those between it and the entry before.
+    // The comment of the entry at `offset`.
     std::string text(std::size_t offset) const {
         std::size_t first = comments_.size();
         for (std::size_t next = offset; first > 0 && leadsTo(comments_[first - 1], next, first - 1); --first)
@@ -88,7 +88,7 @@ public:
     }
 
 private:
-    // Whether the comment belongs to what begins at `next`.
+    // Whether the comment belongs to what begins at `next`: at most one line break is between them.
     bool leadsTo(const Comment& comment, std::size_t next, std::size_t number) const {
         const std::string_view between = source_.substr(comment.end, next - comment.end);
         if (between.find_first_not_of(blanks) != between.npos)
@@ -100,7 +100,7 @@ private:
         return rest.find_first_of("\r\n") == rest.npos && beginsLine(number);
     }
 
-    // Whether nothing but comments stands before comment `number` in its line.
+    // Whether only comments precede comment `number` on its line.
     bool beginsLine(std::size_t number) const {
         for (;; --number) {
             std::size_t at = comments_[number].begin;

@@ -13,7 +13,7 @@ template <class Number> void appendLittle(std::string& out, Number number) {
         out += static_cast<char>(static_cast<std::uint64_t>(number) >> 8 * i & 0xFF);
 }
 
-// Whether more than half of a mark's bytes are there: damage is to be recognized as damage.
+// Whether more than half of a mark's bytes match: a damaged mark must be reported, not taken for a plain table.
 bool resembles(std::string_view found, std::string_view mark) noexcept {
     std::size_t same = 0;
     for (std::size_t i = 0; i < mark.size(); ++i)
@@ -21,10 +21,10 @@ bool resembles(std::string_view found, std::string_view mark) noexcept {
     return same > mark.size() / 2;
 }
 
-// Random keys never fill a bucket so; keys that are made to would take quadratic time.
+// Random keys never reach this size; crafted keys could otherwise cost quadratic time.
 constexpr std::size_t fullestBucket = 32;
 
-// The numbers of the keys by their buckets, the fullest bucket first: it is the hardest to place.
+// The indices of the keys in each bucket, largest buckets first because they are the hardest to place.
 std::vector<std::vector<std::size_t>> keysByBucket(std::span<const std::uint32_t> bucketOfKey, std::size_t count) {
     std::vector<std::vector<std::size_t>> buckets(count);
     for (std::size_t key = 0; key < bucketOfKey.size(); ++key)

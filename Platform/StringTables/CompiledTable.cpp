@@ -16,7 +16,7 @@ bool CompiledTable::check(std::uint32_t number, const CompiledIndex::Slot& slot,
         return state == intact;
     const auto size = static_cast<std::ptrdiff_t>(text.size());
     const bool isRight = left_.load(std::memory_order_relaxed) >= size && isIntact(slot, hash, text);
-    // Threads that check one slot at the same time find the same; the first counts.
+    // Several threads may check one slot at the same time; they get the same result, and the first is counted.
     if (states_[number].compare_exchange_strong(state, isRight ? intact : damaged, std::memory_order_relaxed)) {
         left_.fetch_sub(size, std::memory_order_relaxed);
         return isRight;

@@ -16,12 +16,12 @@ bool isAscii(std::string_view text) noexcept {
     return internal::skipAscii(text.data(), end) == end;
 }
 
-// The strings that are not ASCII, each once.
+// The strings that are not ASCII, each stored once.
 class Utf8Strings {
 public:
     explicit Utf8Strings(std::size_t begin) : begin_(begin) {}
 
-    // Where in the file the list's string `number` is in UTF-8.
+    // The offset in the file of string `number` in UTF-8.
     std::size_t at(BinaryWriter::Number number, std::string_view text) {
         const auto [known, isNew] = places_.try_emplace(number, begin_ + bytes_.size());
         if (isNew)
@@ -36,7 +36,7 @@ private:
     std::unordered_map<BinaryWriter::Number, std::size_t> places_;
 };
 
-// The entries are UTF-8, and the index is that of their hashes.
+// `index` was made from `hashes`, the key hashes of the entries.
 std::string writeIndexed(std::span<const Entry> entries, std::span<const std::uint64_t> hashes,
                          const CompiledIndexWriter& index) {
     BinaryWriter list;

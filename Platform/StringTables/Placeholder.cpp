@@ -4,7 +4,7 @@ namespace StringTables {
 
 namespace {
 
-// Reads the parts of a placeholder in their order; false means that there is none.
+// Reads the parts of a placeholder in order. Functions return false when there is no placeholder.
 class Reader {
 public:
     Reader(std::string_view format, std::size_t percent) noexcept : format_(format), at_(percent + 1) {
@@ -38,7 +38,7 @@ private:
         return is;
     }
 
-    // Digits at the front; false when there are more than `most`. None is the number 0.
+    // Reads digits; false when there are more than `most`. No digits give 0.
     bool digits(int most, int& value) noexcept {
         value = 0;
         for (int count = 0; next() >= '0' && next() <= '9'; ++count, ++at_) {
@@ -49,8 +49,7 @@ private:
         return true;
     }
 
-    // "12$" at the front gives 12, and digits without the sign are left where they are. False for a position that is
-    // not from 1 to 9999.
+    // Reads a position such as "12$". Digits without the '$' are not consumed. False for a position outside 1 to 9999.
     bool position(int& out) noexcept {
         const std::size_t begin = at_;
         int number = 0;
@@ -83,7 +82,7 @@ private:
             case '0':
                 out_.zeroPadded = true;
                 break;
-            case '\'': // groups digits elsewhere; has no effect here
+            case '\'': // POSIX digit grouping; ignored, the locale decides
                 break;
             default:
                 return;
@@ -104,7 +103,7 @@ private:
         return true;
     }
 
-    // Behind its point. A point alone is a precision of 0.
+    // Reads what follows the point. A point alone is a precision of 0.
     bool precision() noexcept {
         if (!size(out_.precision))
             return false;
@@ -131,9 +130,10 @@ private:
         if (found == known.npos)
             return false;
         out_.conversion = read[found];
-        out_.kind = found < known.find('d')   ? Placeholder::Kind::text
-                    : found < known.find('f') ? Placeholder::Kind::integer
-                                              : Placeholder::Kind::number;
+        if (found < known.find('d'))
+            out_.kind = Placeholder::Kind::text;
+        else
+            out_.kind = found < known.find('f') ? Placeholder::Kind::integer : Placeholder::Kind::number;
         out_.end = ++at_;
         return true;
     }

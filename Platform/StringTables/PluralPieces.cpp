@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view variableMark = "#@";
 
-// The name behind a placeholder "%#@" that ends in "@", or an empty text.
+// The variable's name in "%#@NAME@", or an empty string when `placeholder` is not its "%#@".
 std::string_view nameBehind(std::string_view text, const Placeholder& placeholder) noexcept {
     const std::string_view read = text.substr(placeholder.begin, placeholder.end - placeholder.begin);
     const std::size_t end = text.find('@', placeholder.end);
@@ -20,7 +20,7 @@ std::string_view nameBehind(std::string_view text, const Placeholder& placeholde
     return text.substr(placeholder.end, end - placeholder.end);
 }
 
-// How many arguments the placeholders of `form` before "%#@NAME@" take; 0 where the form does not name it.
+// How many arguments the placeholders of `form` before "%#@NAME@" take; 0 when the form does not contain it.
 std::size_t argumentsBefore(std::string_view form, std::string_view name) noexcept {
     ArgumentCounter counter;
     std::size_t at = 0;
@@ -62,7 +62,7 @@ const PluralVariable* PluralPieces::variableAt(const Placeholder& placeholder) c
     return found == plural_.variables.end() || name.empty() ? nullptr : &*found;
 }
 
-// Of a variable that is named in a form without a position.
+// The argument of a variable that a form names without a position.
 std::size_t PluralPieces::argumentOf(const PluralVariable& named) const noexcept {
     std::size_t most = 0;
     for (const auto& form : variable_->forms)
@@ -114,7 +114,7 @@ private:
                 add(PluralPieces(plural_, *form, variable, argument), argument);
     }
 
-    // Variables that name each other may count on without end.
+    // Variables that refer to each other could increase the argument number without end.
     static constexpr std::size_t mostArguments = 64;
 
     const PluralFormat& plural_;

@@ -95,11 +95,11 @@ public:
     void other(const char* what) override { skip(std::string(" is ").append(what).append("; it is skipped")); }
 
     std::vector<PluralEntry> takeEntries() { return std::move(entries_); }
-    // Where the keys of the entries are.
+    // The offsets of the entries' keys.
     const std::vector<std::size_t>& places() const noexcept { return places_; }
 
 private:
-    // The depth at which the keys of each kind are.
+    // The depth of each kind of key.
     static constexpr std::size_t entryLevel = 1, variableLevel = 2, levels = 3;
 
     const char* count(std::string_view text) noexcept {
@@ -108,7 +108,7 @@ private:
     }
 
     const std::string& key() const noexcept { return keys_[depth_ - 1]; }
-    // A note on the value of the key at hand.
+    // Adds a note about the value of the current key.
     void skip(std::string_view what) { contents_.note("the value of ", key(), what, offsets_[depth_ - 1]); }
     // A note on the entry.
     void noteEntry(std::string_view why) { contents_.note("the entry ", keys_[0], why, offsets_[0]); }
@@ -179,7 +179,7 @@ private:
 
     Contents& contents_;
     std::size_t depth_ = 0;
-    std::array<std::string, levels> keys_; // at hand, by level
+    std::array<std::string, levels> keys_; // the current ones, by level
     std::array<std::size_t, levels> offsets_{};
     std::size_t values_ = 0;
     std::size_t bytes_ = 0;
@@ -210,10 +210,10 @@ Runtime::Result<void> fill(Contents& contents, internal::PropertyListSink& sink)
     const std::size_t first = contents.source.find_first_not_of(" \t\r\n", contents.begin);
     if (first == std::string::npos)
         return {};
-    return contents.errorAt(first, "a plural table is a property list, XML or binary");
+    return contents.errorAt(first, "expected a property list (XML or binary): plural tables have no text form");
 }
 
-// The numbers of the entries in the order of their places.
+// The indices of the entries in the order of their offsets.
 std::vector<std::size_t> inOrder(std::span<const std::size_t> places) {
     std::vector<std::size_t> order(places.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
@@ -221,7 +221,7 @@ std::vector<std::size_t> inOrder(std::span<const std::size_t> places) {
     return order;
 }
 
-// Sets the entries' places, given where their keys are.
+// Sets the locations of the entries, given the offsets of their keys.
 void locate(const Contents& contents, std::span<const std::size_t> places, std::span<PluralEntry> entries) {
     const std::vector<std::size_t> order = inOrder(places);
     internal::Locator locator(contents);

@@ -9,7 +9,7 @@ namespace {
 
 using internal::CompiledIndex;
 
-// Parts of an open file, one block of it in memory.
+// Reads parts of an open file through a buffer of one block.
 class FileParts {
 public:
     explicit FileParts(const Runtime::OpenFile& file) noexcept : file_(file) {}
@@ -43,9 +43,10 @@ private:
     }
 
     const Runtime::OpenFile& file_;
-    // Covers the index's head and displacements in a table of 2,000 entries, and nearly every key or text.
+    // Large enough for the index's head and displacements in a table of 2,000 entries, and for nearly every key or
+    // text.
     std::array<char, 1024> block_;
-    std::size_t begin_ = 0, size_ = 0; // of what is in it
+    std::size_t begin_ = 0, size_ = 0; // of the block's content
     std::string long_;
 };
 
@@ -64,17 +65,17 @@ StoredTable::~StoredTable() {
     for (const auto& part : parts_)
         delete part.load(std::memory_order_relaxed);
     if (whole_.isMade())
-        std::destroy_at(const_cast<Whole*>(&whole_.value())); // once-slots leave that to their owner
+        std::destroy_at(const_cast<Whole*>(&whole_.value())); // a OnceSlot never destroys its value
 }
 
-// With the right hash, if the one that was given is not.
+// Looks up again with the right hash if the given one was wrong.
 std::optional<std::string_view> StoredTable::Whole::findAgain(std::string_view key, std::uint64_t hash) const noexcept {
     const std::uint64_t right = keyHash(key);
     const std::string_view text = hash == right ? std::string_view() : compiled->find(key, right);
     return text.data() == nullptr ? std::nullopt : std::optional(text);
 }
 
-// Threads that read a part at the same time may all read it; one of the parts is kept.
+// Threads may read the same part at the same time; one result is kept.
 std::optional<std::string_view> StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
     std::unique_ptr<const Part> made;
     for (std::atomic<const Part*>& slot : parts_) {
@@ -91,7 +92,7 @@ std::optional<std::string_view> StoredTable::findInParts(std::string_view key, s
     return whole_.get([this] { return readWhole(); }).find(key, hash);
 }
 
-// Null where the file is to be read whole: it has no index, is small, or is not the one of the other parts.
+// Null when the file must be read whole: it has no index, is small, or has changed since the other parts were read.
 std::unique_ptr<const StoredTable::Part> StoredTable::readPart(std::string_view key) const {
     static constexpr std::size_t smallFile = 8192;
     const auto file = Runtime::OpenFile::open(path_, Table::maxBytes);

@@ -14,7 +14,7 @@ std::string quoted(std::string_view text) {
     constexpr std::size_t longest = 60;
     std::size_t size = std::min(text.size(), longest);
     while (size < text.size() && size > 0 && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
-        --size; // not within a character
+        --size; // do not cut a character
     std::string out = "\"";
     for (const char c : text.substr(0, size))
         out += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
@@ -62,7 +62,7 @@ void Contents::noteRepeated(std::string_view key, std::string_view what, std::si
 }
 
 void Contents::noteSkipped(std::string_view key, std::string_view what, std::size_t offset) {
-    note("the value of ", key, std::string(" is ").append(what).append(", not a text; passed over"), offset);
+    note("the value of ", key, std::string(" is ").append(what).append(", not a text; skipped"), offset);
 }
 
 void Contents::addSkipped(std::string_view key, std::string_view what, std::size_t offset) {
@@ -99,7 +99,7 @@ namespace {
 
 constexpr std::string_view markLittle = "\xFF\xFE", markBig = "\xFE\xFF";
 
-// UTF-16 is told by its byte-order mark or, since a table begins with an ASCII character, by a zero beside that.
+// UTF-16 is recognized by its byte-order mark, or by a zero byte beside the ASCII character that begins every table.
 std::optional<ByteOrder> utf16Order(std::string_view bytes) {
     if (bytes.starts_with(markLittle))
         return ByteOrder::little;
@@ -160,7 +160,7 @@ Runtime::Result<void> recognize(Contents& contents) {
         contents.begin = 3;
         contents.isUtf8 = true;
     }
-    // No table of the text form begins with '<'.
+    // A table in text form never begins with '<'.
     const std::size_t first = contents.source.find_first_not_of(" \t\r\n", contents.begin);
     if (first != std::string::npos && contents.source[first] == '<')
         contents.form = Form::xml;
@@ -171,7 +171,7 @@ Runtime::Result<void> recognize(Contents& contents) {
 
 namespace {
 
-// The numbers of the entries by their place in the source: a key that appears again is further down than its entry.
+// The indices of the entries by source offset. A repeated key has the offset of its last occurrence.
 std::vector<std::size_t> inSourceOrder(std::span<const Entry> entries) {
     std::vector<std::size_t> order(entries.size());
     std::iota(order.begin(), order.end(), std::size_t{0});

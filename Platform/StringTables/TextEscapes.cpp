@@ -22,11 +22,11 @@ constexpr char16_t nextstep[0x7E] = {
     0x00ED, 0x00AA, 0x00EE, 0x00EF, 0x00F0, 0x00F1, 0x0141, 0x00D8, 0x0152, 0x00BA, 0x00F2, 0x00F3, 0x00F4, 0x00F5,
     0x00F6, 0x00E6, 0x00F9, 0x00FA, 0x00FB, 0x0131, 0x00FC, 0x00FD, 0x0142, 0x00F8, 0x0153, 0x00DF, 0x00FE, 0x00FF};
 
-// Each function is called with `in` at a backslash that something follows, and moves it behind the escape. A result is
-// what is wrong with the escape, or null.
+// The escape functions are called with `in` at a backslash (never the last character) and move it past the escape. They
+// return what is wrong with the escape, or null.
 using Fault = const char*;
 
-// The unit written as \U and four digits at `at`, or -1. Reading stops at the first character that is no digit.
+// The UTF-16 unit written as \U and four digits at `at`, or -1. Reads no further than the first other character.
 std::int32_t escapedUnit(const char* at) noexcept {
     if (at[0] != '\\' || at[1] != 'U')
         return -1;
@@ -79,9 +79,9 @@ Fault escape(const char*& in, char*& out) noexcept {
         return unicodeEscape(in, out);
     if (c >= '0' && c <= '7')
         return octalEscape(in, out);
+    // Copies the first byte of a multi-byte character; the main loop copies the rest.
     const std::size_t letter = letters.find(c);
-    *out++ =
-        letter != letters.npos ? characters[letter] : c; // the other bytes of a longer character follow as they are
+    *out++ = letter != letters.npos ? characters[letter] : c;
     in += 2;
     return nullptr;
 }

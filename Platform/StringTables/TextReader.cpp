@@ -25,9 +25,9 @@ constexpr bool is(CharacterClass wanted, char c) noexcept {
 
 // table := entries | '{' entries '}'       entry := string ['=' value] ';'; the last ';' may be missing
 // value := string | '{' entries '}' | '(' value, ... ')' | '<' hexadecimal digits '>'
-// Recursive descent. Each function begins where its piece does, with blanks taken off, and ends behind the piece; false
-// means that `error` says why. The source ends in the zero of std::string and holds no other, so that one character
-// may be looked at without asking for the end.
+// Recursive descent. Each function starts at the first character of its construct and stops after the last; it returns
+// false after setting `error_`. The source ends in the NUL of std::string and contains no other, so one character can
+// be read without a check for the end.
 class TextReader {
 public:
     explicit TextReader(Contents& contents)
@@ -90,7 +90,7 @@ bool TextReader::table() {
     return at_ == end_ || fail(at_, "text after the table's closing brace");
 }
 
-// Up to the brace that closes `open`, or to the end of the file.
+// Reads entries up to the brace that closes `open`, or to the end of the file.
 bool TextReader::entries(std::size_t depth, const char* open) {
     for (;;) {
         if (!blanks())
@@ -134,7 +134,7 @@ bool TextReader::entry(std::size_t depth, bool braces) {
     return true;
 }
 
-// A value that is no text is checked and passed over; `skipped` then says what it is.
+// A value that is not a text is validated and skipped; `skipped` is then set to its description.
 bool TextReader::value(std::string_view& text, std::size_t depth, const char*& skipped) {
     if (depth == Table::maxDepth)
         return fail(at_, nestedTooDeeply);
@@ -180,7 +180,7 @@ bool TextReader::data() {
     while (is(space, *at_) || hexDigit(*at_) >= 0)
         ++at_;
     if (at_ == end_)
-        return fail(open, "the data are never closed");
+        return fail(open, "the data is never closed");
     return *at_++ == '>' || fail(at_ - 1, "expected hexadecimal digits or '>' in data");
 }
 

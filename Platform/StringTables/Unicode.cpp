@@ -14,8 +14,8 @@ constexpr bool isTail(unsigned char byte) noexcept {
     return (byte & 0xC0) == 0x80;
 }
 
-// The length of the well-formed character of more than one byte at `at`, or 0. The bounds of the second byte keep out
-// surrogates, over-long forms and what lies above U+10FFFF.
+// The length of the well-formed multi-byte character at `at`, or 0. The bounds of the second byte exclude surrogates,
+// overlong forms and code points above U+10FFFF.
 std::size_t characterLength(const unsigned char* at, std::size_t left) noexcept {
     const unsigned char lead = at[0];
     if (lead < 0xC2 || lead > 0xF4 || left < 2)
@@ -36,7 +36,7 @@ bool areFourPairs(const char* at) noexcept {
     constexpr std::uint64_t every = 0x0001000100010001;
     const auto bytes = loadLittle<std::uint64_t>(at); // leads in the lower halves of the 16-bit lanes
     const bool haveForm = (bytes & 0xC0E0 * every) == 0x80C0 * every;
-    // A lead of C0 or C1 begins an over-long form: its bits 1 to 4 are 0, and adding FE to them carries nothing.
+    // Lead bytes C0 and C1 begin overlong forms: their bits 1 to 4 are 0, so adding FE to them does not carry.
     const std::uint64_t carries = (bytes & 0x001E * every) + 0x00FE * every;
     return haveForm && (carries & 0x0100 * every) == 0x0100 * every;
 }
@@ -95,8 +95,8 @@ std::uint64_t fourUnits(const char* from, ByteOrder order) noexcept {
     return order == ByteOrder::little ? units : (units >> 8 & 0xFF * everyUnit) | (units & 0xFF * everyUnit) << 8;
 }
 
-// A code below 0x800, without a branch: letters and spaces come in an order that nothing can foretell. Writes two
-// bytes.
+// Encodes a code point below 0x800. No branch, because the mix of letters and spaces is unpredictable: always writes
+// two bytes and returns the end of the one or two that count.
 char* putOneOrTwo(char* out, char32_t code) noexcept {
     const bool isTwo = code >= 0x80;
     out[0] = static_cast<char>(isTwo ? 0xC0 | code >> 6 : code);

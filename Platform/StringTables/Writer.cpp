@@ -11,7 +11,7 @@ namespace {
 using Entries = std::span<const Entry>;
 using Comments = std::span<const std::string>;
 
-// What a comment that does not exist reads as.
+// The comment of the entry, or an empty string.
 std::string_view commentOf(Comments comments, std::size_t entry) noexcept {
     return entry < comments.size() ? std::string_view(comments[entry]) : std::string_view();
 }
@@ -31,7 +31,7 @@ std::string withoutMark(std::string_view text, std::string_view mark) {
     return out;
 }
 
-// What no form holds: text that is not UTF-8, a comment with a NUL.
+// Checks what no form can store: text that is not UTF-8, a comment with a NUL.
 Runtime::Result<void> check(const Entry& entry, std::string_view comment) {
     const auto isUtf8 = [](std::string_view text) { return internal::firstInvalidUtf8(text) == text.npos; };
     if (!isUtf8(entry.key) || !isUtf8(entry.text) || !isUtf8(comment))
@@ -67,7 +67,7 @@ bool xmlHolds(std::string_view text) noexcept {
 
 void appendElement(std::string& out, std::string_view name, std::string_view text) {
     out += "\t<";
-    (out += name) += '>';
+    out.append(name).append(">");
     for (const char c : text)
         switch (c) {
         case '&':
@@ -79,14 +79,14 @@ void appendElement(std::string& out, std::string_view name, std::string_view tex
         case '>':
             out += "&gt;";
             break;
-        case '\r': // would be read as a line end
+        case '\r': // would be read back as a line feed
             out += "&#13;";
             break;
         default:
             out += c;
         }
     out += "</";
-    (out += name) += ">\n";
+    out.append(name).append(">\n");
 }
 
 Runtime::Result<std::string> writeXml(Entries entries, Comments comments) {
@@ -111,12 +111,12 @@ Runtime::Result<std::string> writeXml(Entries entries, Comments comments) {
     return out + "</dict>\n</plist>\n";
 }
 
-// The objects are the dictionary, then each different string once, as keys and texts first name it.
+// The objects are the dictionary, then each distinct string once.
 Runtime::Result<std::string> writeBinary(Entries entries) {
     internal::BinaryWriter writer;
     const auto table = writer.dictionary();
     std::vector<internal::BinaryWriter::Number> keys;
-    // Keys before texts: as objects they stand beside each other.
+    // All keys first, so that they are next to each other in the file.
     for (const Entry& entry : entries) {
         keys.push_back(writer.string(entry.key));
         if (!writer.isUtf8())

@@ -10,7 +10,7 @@ enum class Kind : std::uint8_t { plist, dict, array, key, string, leaf };
 struct Element {
     const char* name;
     Kind kind;
-    const char* what = nullptr; // in a note about a value that is no text
+    const char* what = nullptr; // for a note about a value that is not a text
 };
 
 constexpr Element elements[] = {{"string", Kind::string},
@@ -19,8 +19,8 @@ constexpr Element elements[] = {{"string", Kind::string},
                                 {"array", Kind::array, "an array"},
                                 {"integer", Kind::leaf, "a number"},
                                 {"real", Kind::leaf, "a number"},
-                                {"true", Kind::leaf, "a truth value"},
-                                {"false", Kind::leaf, "a truth value"},
+                                {"true", Kind::leaf, "a boolean"},
+                                {"false", Kind::leaf, "a boolean"},
                                 {"date", Kind::leaf, "a date"},
                                 {"data", Kind::leaf, "data"},
                                 {"plist", Kind::plist}};
@@ -36,8 +36,8 @@ public:
 private:
     struct Level {
         Kind kind;
-        bool hasKey = false;    // dict: a key waits for its value
-        bool filled = false;    // plist: its one value was there
+        bool hasKey = false;    // dict: a key without its value so far
+        bool filled = false;    // plist: its one value was read
         bool isWanted = false;  // dict: the sink wants its entries; key or value: of such a dict
         std::size_t offset = 0; // key: where it begins
     };
@@ -93,7 +93,7 @@ std::string XmlReader::open(const char* name, const char* const*, XmlPlace place
     return {};
 }
 
-// Whether the sink wants an element of the innermost open one.
+// Whether the sink wants an element of that kind inside the innermost open element.
 bool XmlReader::isWanted(Kind kind) const noexcept {
     if (kind == Kind::plist)
         return false;

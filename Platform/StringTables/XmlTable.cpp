@@ -5,7 +5,7 @@ namespace StringTables::internal {
 
 namespace {
 
-// Keeps the texts of the list itself; what is not a text is skipped with a note.
+// Keeps the texts of the top-level dictionary; other values are skipped with a note.
 class TableSink final : public PropertyListSink {
 public:
     explicit TableSink(Contents& contents) : contents_(contents) {}

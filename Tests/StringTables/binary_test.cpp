@@ -76,17 +76,17 @@ TEST(BinaryTable, ReadsEveryLayout) {
 }
 
 TEST(BinaryTable, NotesWhatItPassesOver) {
-    // Itself, a truth value, a date that is cut off, a reference, an array without its members.
+    // Itself, a boolean, a truncated date, a reference, an array without its members.
     const std::string bytes = file({"\xD6\1\2\3\4\5\1\0\6\7\x8\x9\6"s, "\121a", "\121b", "\121c", "\121d", "\121e",
                                     "\x09", "\x33", "\x80", "\xAF"});
     EXPECT_EQ(read(bytes), Pairs());
     EXPECT_EQ(Tables::notes(bytes),
-              (std::vector<std::string>{"byte 21: the value of \"a\" is a dictionary, not a text; passed over",
-                                        "byte 21: the value of \"a\" is a truth value, not a text; passed over",
-                                        "byte 23: the value of \"b\" is a truth value, not a text; passed over",
-                                        "byte 25: the value of \"c\" is a date, not a text; passed over",
-                                        "byte 27: the value of \"d\" is a reference, not a text; passed over",
-                                        "byte 29: the value of \"e\" is an array, not a text; passed over"}));
+              (std::vector<std::string>{"byte 21: the value of \"a\" is a dictionary, not a text; skipped",
+                                        "byte 21: the value of \"a\" is a boolean, not a text; skipped",
+                                        "byte 23: the value of \"b\" is a boolean, not a text; skipped",
+                                        "byte 25: the value of \"c\" is a date, not a text; skipped",
+                                        "byte 27: the value of \"d\" is a reference, not a text; skipped",
+                                        "byte 29: the value of \"e\" is an array, not a text; skipped"}));
     EXPECT_EQ(Tables::notes(file({"\xD2\1\1\2\2", "\x51k", "\x51v"})),
               (std::vector<std::string>{"byte 13: the key \"k\" appears again; this text holds"}));
 }
@@ -133,17 +133,17 @@ TEST(BinaryTable, RefusesWithPlaceAndReason) {
         {__LINE__, edited(trailerAt + 15, "\6"), "byte 56: 6 objects do not fit into the file"},
         {__LINE__, edited(trailerAt + 15, "\0"s), "byte 64: there is no object 0"},
         {__LINE__, edited(trailerAt + 23, "\5"), "byte 64: there is no object 5"},
-        {__LINE__, edited(trailerAt + 23, "\1"), "byte 13: the table is no dictionary"},
-        {__LINE__, edited(trailerAt + 24, "\x80"), "byte 72: the offset table lies outside of the file"},
-        {__LINE__, edited(trailerAt + 31, "\x31"), "byte 72: the offset table lies outside of the file"},
-        {__LINE__, edited(trailerAt + 31, "\7"), "byte 72: the offset table lies outside of the file"},
-        {__LINE__, edited(44, "\7"), "byte 44: an object lies outside of the objects' part of the file"},
-        {__LINE__, edited(44, "\x2B"), "byte 44: an object lies outside of the objects' part of the file"},
+        {__LINE__, edited(trailerAt + 23, "\1"), "byte 13: expected a dictionary at the top of the table"},
+        {__LINE__, edited(trailerAt + 24, "\x80"), "byte 72: the offset table is outside of the file"},
+        {__LINE__, edited(trailerAt + 31, "\x31"), "byte 72: the offset table is outside of the file"},
+        {__LINE__, edited(trailerAt + 31, "\7"), "byte 72: the offset table is outside of the file"},
+        {__LINE__, edited(44, "\7"), "byte 44: an object is outside of the object area of the file"},
+        {__LINE__, edited(44, "\x2B"), "byte 44: an object is outside of the object area of the file"},
         {__LINE__, edited(10, "\5"), "byte 10: there is no object 5"},
         {__LINE__, edited(8, "\xDF\x13\x80\0\0\0\0\0\0\1"s),
          "byte 8: 9223372036854775809 entries do not fit into the file"},
         {__LINE__, edited(8, "\xDF\x14"), "byte 9: expected the size of an object"},
-        {__LINE__, edited(9, "\0"s), "byte 8: a key is no string"},
+        {__LINE__, edited(9, "\0"s), "byte 8: expected a string as key"},
         {__LINE__, edited(16, "\x72"), "byte 16: an object of an unknown type"},
         {__LINE__, edited(14, "\xC3"), "byte 14: a byte above 0x7F in an ASCII string"},
         {__LINE__, edited(20, "\xDC"), "byte 20: a lone surrogate in UTF-16"},

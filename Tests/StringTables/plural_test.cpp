@@ -108,7 +108,8 @@ TEST(PluralTable, ErrorsNameTheirPlace) {
         int line;
         std::string source, error;
     } cases[] = {
-        {__LINE__, "\"key\" = \"text\";", "1:1: a plural table is a property list, XML or binary"},
+        {__LINE__, "\"key\" = \"text\";",
+         "1:1: expected a property list (XML or binary): plural tables have no text form"},
         {__LINE__, "<plist><dict><key>k</key></dict></plist>", "1:26: the key \"k\" has no value"},
         {__LINE__, "<plist><array/></plist>", "1:8: expected <dict>, not <array>"},
         {__LINE__, "bplist00", "byte 8: the file ends before its trailer"},

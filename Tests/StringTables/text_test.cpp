@@ -98,7 +98,7 @@ TEST(TextTable, RefusesWithPlaceAndReason) {
         {__LINE__, "a = {b = c;", "1:5: the brace is never closed"},
         {__LINE__, "a = (b", "1:5: the parenthesis is never closed"},
         {__LINE__, "a = (b c)", "1:8: expected ',' or ')' in an array"},
-        {__LINE__, "a = <0", "1:5: the data are never closed"},
+        {__LINE__, "a = <0", "1:5: the data is never closed"},
         {__LINE__, "a = <0x>", "1:7: expected hexadecimal digits or '>' in data"},
         {__LINE__, R"(a = "\U12";)", "1:6: bad escape: \\U takes four hexadecimal digits"},
         {__LINE__, R"(a = "xy\UD83D";)", "1:8: bad escape: a surrogate without its other half"},
@@ -123,12 +123,12 @@ TEST(TextTable, RefusesWithPlaceAndReason) {
 
 TEST(TextTable, NotesWhatItPassesOver) {
     EXPECT_EQ(Tables::notes("a = b;\nb = {c = d;};\n a = (1);\na = (2); a = b;\nc = <00>;"),
-              (std::vector<std::string>{"2:1: the value of \"b\" is a dictionary, not a text; passed over",
-                                        "3:2: the value of \"a\" is an array, not a text; passed over",
+              (std::vector<std::string>{"2:1: the value of \"b\" is a dictionary, not a text; skipped",
+                                        "3:2: the value of \"a\" is an array, not a text; skipped",
                                         "3:2: the key \"a\" appears again without a text; the earlier text is dropped",
-                                        "4:1: the value of \"a\" is an array, not a text; passed over",
+                                        "4:1: the value of \"a\" is an array, not a text; skipped",
                                         "4:10: the key \"a\" appears again; this text holds",
-                                        "5:1: the value of \"c\" is data, not a text; passed over"}));
+                                        "5:1: the value of \"c\" is data, not a text; skipped"}));
     std::string many;
     for (int i = 0; i < 1500; ++i)
         many += "a = ();\n";
@@ -213,8 +213,8 @@ TEST(TextTable, IsBounded) {
     std::string source;
     for (std::size_t i = 0; i <= StringTables::Table::maxEntries; ++i)
         source += std::to_string(i) + ";";
-    EXPECT_EQ(refusal(source), "1:" + std::to_string(source.rfind(';', source.size() - 2) + 2) +
-                                   ": the table has more entries than are accepted");
+    EXPECT_EQ(refusal(source),
+              "1:" + std::to_string(source.rfind(';', source.size() - 2) + 2) + ": the table has too many entries");
 }
 
 } // namespace

@@ -51,10 +51,10 @@ TEST(XmlTable, NotesWhatItPassesOver) {
                                       " <key>a</key><string>2</string><key>t</key><true/></dict></plist>";
     EXPECT_EQ(read(source), (Pairs{{"a", "2"}}));
     EXPECT_EQ(Tables::notes(source),
-              (std::vector<std::string>{"4:1: the value of \"n\" is a dictionary, not a text; passed over",
-                                        "6:1: the value of \"i\" is a number, not a text; passed over",
+              (std::vector<std::string>{"4:1: the value of \"n\" is a dictionary, not a text; skipped",
+                                        "6:1: the value of \"i\" is a number, not a text; skipped",
                                         "7:2: the key \"a\" appears again; this text holds",
-                                        "7:32: the value of \"t\" is a truth value, not a text; passed over"}));
+                                        "7:32: the value of \"t\" is a boolean, not a text; skipped"}));
     const auto table = StringTables::Table::read(source);
     EXPECT_EQ(table->locations()[0].line, 7u);
 }
@@ -89,8 +89,9 @@ TEST(XmlTable, RefusesWithPlaceAndReason) {
         {__LINE__, plist("<key>\xFF</key>"), "1:33: not well-formed (invalid token)"},
         {__LINE__, plist("<key>&#0;</key>"), "1:33: reference to invalid character number"},
         {__LINE__, "<?xml version='1.0' encoding='KOI8-R'?><plist/>", "1:31: unknown encoding"},
-        {__LINE__, bomb + plist("<key>&b;</key><string/>"), "1:29: an entity declaration"},
-        {__LINE__, "<!DOCTYPE plist [<!ENTITY x SYSTEM \"/etc/passwd\">]>" + plist(""), "1:49: an entity declaration"},
+        {__LINE__, bomb + plist("<key>&b;</key><string/>"), "1:29: entity declarations are not allowed"},
+        {__LINE__, "<!DOCTYPE plist [<!ENTITY x SYSTEM \"/etc/passwd\">]>" + plist(""),
+         "1:49: entity declarations are not allowed"},
         {__LINE__, plist("<key>a</key>" + arrays), "1:922: nested too deeply"},
     };
     for (const auto& [line, source, expected] : cases)

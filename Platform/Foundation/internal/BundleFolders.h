@@ -1,7 +1,6 @@
 // Foundation/internal/BundleFolders.h
-// What a bundle's directory says of its languages; internal.
-// Text: paths as the file system has them. Threads: any; no state. Errors: std::bad_alloc, and std::system_error on
-// what may be there at a later try.
+// Finds the languages of a bundle; internal.
+// Text: paths are raw bytes. Threads: any; no state. Errors: std::bad_alloc, and std::system_error on transient errors.
 #pragma once
 
 #include <string>
@@ -15,8 +14,8 @@ struct BundleFolders {
     bool mayHavePlurals = true;
 };
 
-// A directory that is missing or cannot be read has no languages. Those that `lumora compile` has noted in Info.plist
-// count unless the directory has more or fewer folders; without them the directory is listed.
+// A directory that is missing or unreadable has no languages. Uses the list that `lumora compile` wrote into Info.plist
+// if the directory has that number of folders; otherwise lists the directory.
 [[nodiscard]] BundleFolders bundleFolders(const std::string& bundle);
 
 } // namespace Foundation::detail

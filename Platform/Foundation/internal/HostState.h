@@ -1,7 +1,6 @@
 // Foundation/internal/HostState.h
-// The host's inputs as the platform reads them; internal.
-// Threads: any; reading takes no lock and needs no memory beyond the result's. A reader sees the state before a change
-// or after it.
+// Read access to the host settings; internal.
+// Threads: any; lock-free; allocates only the result. A reader sees the state either before or after a change.
 #pragma once
 
 #include "Foundation/Locale.h"
@@ -12,17 +11,17 @@
 
 namespace Foundation::detail {
 
-// The number of the preferred languages in force. Setting them makes another one, so what is derived from them can be
-// kept beside their number. Reads the environment if nothing has set them.
+// The version of the preferred languages, which changes whenever they are set: the key for caching what is derived from
+// them. Reads the environment if they were not set.
 [[nodiscard]] std::uint64_t hostVersion();
 
 struct HostLanguages {
     std::uint64_t version;
-    std::vector<std::string> languages; // BCP 47, the best liked first
+    std::vector<std::string> languages; // BCP 47, most preferred first
 };
 [[nodiscard]] HostLanguages hostLanguages();
 
-// The host's tag as BCP 47: "sr_RS.UTF-8@latin" is "sr-Latn-RS".
+// Converts a POSIX locale name to BCP 47: "sr_RS.UTF-8@latin" gives "sr-Latn-RS".
 [[nodiscard]] std::string languageTag(std::string_view hostName);
 
 } // namespace Foundation::detail

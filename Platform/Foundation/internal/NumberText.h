@@ -1,7 +1,6 @@
 // Foundation/internal/NumberText.h
-// Numbers as a locale writes them; internal.
-// Text: UTF-8. Threads: any; reading a pattern that is known takes no lock. Without the language data every locale
-// writes plain ASCII.
+// Formats numbers for a locale; internal.
+// Text: UTF-8. Threads: any; lock-free for cached patterns. Without the language data every locale uses plain ASCII.
 #pragma once
 
 #include "Foundation/NSNumber.h"
@@ -12,17 +11,17 @@
 
 namespace Foundation::detail {
 
-// How the locale of that identifier writes numbers.
+// The number pattern of a locale, cached.
 [[nodiscard]] Kept<Intl::NumberPattern> numberPattern(std::string_view locale, Intl::NumberStyle style);
 
-// Appends digits, given in ASCII, in the locale's digits.
+// Appends ASCII digits as the locale's digits.
 void appendDigits(std::string& out, const Intl::NumberPattern& pattern, std::string_view digits);
 
-// Appends a whole number, given by its digits in ASCII, in the locale's digits and grouping.
+// Appends an integer, given as ASCII digits, with the locale's digits and grouping.
 void appendWhole(std::string& out, const Intl::NumberPattern& pattern, std::string_view digits);
 
-// Appends a number with its affixes; `positivePrefix` stands before what is not negative. Floating values are rounded
-// at the pattern's last place, halves to even, by their shortest decimal digits.
+// Appends a number with its prefix and suffix; `positivePrefix` is the prefix of nonnegative numbers. Floating-point
+// values are rounded to the pattern's fraction digits, halves to even, based on their shortest decimal digits.
 void appendNumber(std::string& out, const Intl::NumberPattern& pattern, std::string_view positivePrefix,
                   NSNumber number);
 

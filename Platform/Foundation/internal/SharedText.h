@@ -1,6 +1,6 @@
 // Foundation/internal/SharedText.h
-// A short text that one thread replaces while others read it; internal.
-// Threads: any number of readers, one writer at a time. Readers take no lock: they copy, and look whether the text was
+// A short string that one thread replaces while others read it (a seqlock with two buffers); internal.
+// Threads: any number of readers, one writer at a time. Readers take no lock: they copy the text and retry if it was
 // replaced meanwhile. Memory: fixed.
 #pragma once
 
@@ -15,8 +15,8 @@
 
 namespace Foundation::detail {
 
-// One of two places for a text; SharedText writes the one that is not read.
-template <std::size_t longest> class TextPlace {
+// One of the two buffers; SharedText writes the one that is not being read.
+template <std::size_t longest> class TextBuffer {
 public:
     void write(std::string_view text) noexcept {
         size_.store(text.size(), std::memory_order_relaxed);
@@ -42,7 +42,7 @@ private:
     std::array<std::atomic<Word>, (longest + sizeof(Word) - 1) / sizeof(Word)> words_{};
 };
 
-// Texts of at most `longest` bytes, with the number of each.
+// A string of at most `longest` bytes, with a version number.
 template <std::size_t longest> class SharedText {
 public:
     struct Read {
@@ -50,32 +50,32 @@ public:
         std::string text;
     };
 
-    // 0 before the first text.
+    // 0 before the first write.
     std::uint64_t version() const noexcept { return version_.load(std::memory_order_acquire); }
 
     Read read() const {
         for (;;) {
             Read now{version(), {}};
-            now.text = places_[now.version % 2].read();
+            now.text = buffers_[now.version % 2].read();
             std::atomic_thread_fence(std::memory_order_acquire);
-            // The place is written again only after the next version is in force.
+            // The buffer is reused only after the next version was published.
             if (version_.load(std::memory_order_relaxed) == now.version)
                 return now;
         }
     }
 
-    // One thread at a time. `text` is not longer than it may be. In a child that was forked during a write the text
-    // before it holds.
+    // One thread at a time. Requires text.size() <= longest. In a child that was forked during a write, the previous
+    // text stays valid.
     void write(std::string_view text) noexcept {
         const std::uint64_t next = version_.load(std::memory_order_relaxed) + 1;
         std::atomic_thread_fence(std::memory_order_release);
-        places_[next % 2].write(text);
+        buffers_[next % 2].write(text);
         version_.store(next, std::memory_order_release);
     }
 
 private:
     std::atomic<std::uint64_t> version_{0};
-    std::array<TextPlace<longest>, 2> places_{};
+    std::array<TextBuffer<longest>, 2> buffers_{};
 };
 
 } // namespace Foundation::detail

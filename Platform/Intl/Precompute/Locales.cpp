@@ -15,7 +15,7 @@ namespace Intl::Precompute {
 
 namespace {
 
-// In order, with the names that older systems use.
+// Sorted; includes legacy aliases.
 std::set<std::string> localeNames() {
     std::set<std::string> names;
     UErrorCode status = U_ZERO_ERROR;
@@ -29,7 +29,7 @@ std::set<std::string> localeNames() {
 
 template <class Value> std::string written(const Value& value) {
     std::string out;
-    Intl::detail::forEachPart(value, [&out](const auto& part) {
+    Intl::detail::forEachField(value, [&out](const auto& part) {
         if constexpr (std::is_same_v<decltype(part), const unsigned&>)
             out += static_cast<char>('0' + part);
         else
@@ -47,8 +47,8 @@ std::string locales() {
     for (const std::string& name : localeNames()) {
         known += "    {" + std::to_string(names.offsetOf(name));
         for (const std::string& text :
-             {written(icu.numberPattern(name, NumberStyle::decimal)), written(icu.numberPattern(name, NumberStyle::percent)),
-              written(icu.yearForms(name))})
+             {written(icu.numberPattern(name, NumberStyle::decimal)),
+              written(icu.numberPattern(name, NumberStyle::percent)), written(icu.yearForms(name))})
             known += ", " + std::to_string(texts.offsetOf(text));
         known += "},\n";
     }

@@ -1,4 +1,4 @@
-// The cardinal plural rules of all languages, as code: each rule set is a case of a switch.
+// Generates code for the cardinal plural rules of all languages: each rule set is a case of a switch.
 #include "Precompute/Precompute.h"
 
 #include "Intl/internal/PluralCategory.h"
@@ -64,7 +64,7 @@ template <class Make> std::string joined(const std::vector<std::string>& parts, 
     return out;
 }
 
-// Only where it holds `mark`: compilers warn of brackets too few and too many.
+// Adds brackets if the text contains `mark`; compilers warn about missing and about redundant ones.
 std::string inBrackets(const std::string& text, std::string_view mark) {
     return text.find(mark) == text.npos ? text : "(" + text + ")";
 }
@@ -77,7 +77,7 @@ std::string inRange(const std::string& value, const std::string& range) {
     return "isBetween(" + value + ", " + ends[0] + ", " + ends[1] + ")";
 }
 
-// "n % 10 != 2..4,7": an operand, a modulus or none, and ranges.
+// "n % 10 != 2..4,7": an operand, an optional modulus, and ranges.
 struct Relation {
     char operand = 'n';
     std::string modulus; // " % 10" or empty
@@ -104,14 +104,14 @@ Relation parsed(const std::string& text) {
     return relation;
 }
 
-// As C++ over the operands `o`.
+// The relation as C++ code with the operands `o`.
 std::string relation(const std::string& text) {
     const auto [operand, modulus, isEqual, ranges] = parsed(text);
-    // Numbers in compact notation are not written here: their exponents, e and c, are 0.
+    // Compact notation is not supported, so the exponents e and c are always 0.
     const bool isExponent = operand == 'e' || operand == 'c';
     const std::string value = isExponent ? "0U" : std::string("o.") + (operand == 'n' ? 'i' : operand) + modulus;
     std::string any = joined(ranges, " || ", [&](const std::string& range) { return inRange(value, range); });
-    if (operand == 'n') // has its fraction: without one it is i
+    if (operand == 'n') // n includes the fraction; without one it equals i
         any = "o.t == 0 && " + inBrackets(any, " || ");
     return isEqual ? inBrackets(any, " || ") : "!(" + any + ")";
 }
@@ -122,12 +122,12 @@ std::string condition(const std::string& rule) {
     });
 }
 
-// Rules for whole numbers, as gettext has them: an expression of C over `n`, which gives the number of the form.
+// Rules for integers as in gettext: a C expression in `n` whose value is the index of the form.
 
 constexpr const char* always = "1";
 constexpr const char* never = "0";
 
-// The numbers behind the point of a whole number are 0, so that most relations hold always or never.
+// The fraction operands of an integer are 0, so relations on them are constant.
 std::string integerRelation(const std::string& text) {
     const auto [operand, modulus, isEqual, ranges] = parsed(text);
     if (operand != 'n' && operand != 'i') {
@@ -169,14 +169,14 @@ std::string integerExpression(const std::vector<std::string>& conditions) {
 
 struct RuleSet {
     std::string code;
-    unsigned categories = 0;        // a bit for each
-    unsigned integerCategories = 0; // those that whole numbers have
+    unsigned categories = 0;        // one bit per category
+    unsigned integerCategories = 0; // those that occur for integers
     std::string expression = never;
 };
 
 RuleSet ruleSet(const std::map<std::string, std::string>& rules) {
     RuleSet set;
-    std::vector<std::string> conditions; // of the categories that whole numbers have
+    std::vector<std::string> conditions; // of the categories that occur for integers
     for (std::size_t category = 0; category < pluralCategoryCount; ++category) {
         const std::string name(pluralCategoryNames[category]);
         const auto rule = rules.find(name);
@@ -204,7 +204,7 @@ std::string pluralRules() {
     check(status);
     const Bundle rules = child(all, "rules");
     std::string code, categories, languages, expressions;
-    std::map<std::string, std::string> numbers; // of the sets that were written
+    std::map<std::string, std::string> numbers; // of the rule sets, by name
     Pool names, expressionTexts;
     for (const auto& [language, name] : texts(child(all, "locales"))) {
         const auto [number, isNew] = numbers.emplace(name, std::to_string(numbers.size()));

@@ -1,5 +1,5 @@
 // Intl/Precompute/Precompute.h
-// What the build-time program writes down of ICU's data, and its means: C++ for the library's sources to include.
+// The build-time program that turns ICU's data into C++ tables for the library's sources.
 #pragma once
 
 #include <cstddef>
@@ -16,11 +16,11 @@ std::string scriptVariants();
 
 [[noreturn]] void fail(const std::string& message);
 
-// Texts one behind the other, each once, each with a NUL at its end.
+// Concatenates distinct NUL-terminated strings.
 class Pool {
 public:
     std::size_t offsetOf(const std::string& text);
-    // The definition of the constant `name` with all texts. Fails when offsets do not fit into 16 bits.
+    // The C++ definition of the constant `name` with all strings. Fails when offsets do not fit into 16 bits.
     std::string definition(const std::string& name) const;
 
 private:

@@ -1,4 +1,4 @@
-// The languages whose regions differ in script.
+// Generates the list of languages whose regions use different scripts.
 #include "Precompute/Precompute.h"
 
 #include <array>
@@ -8,7 +8,7 @@ namespace Intl::Precompute {
 
 namespace {
 
-// Empty when nothing is known of the locale.
+// Empty when ICU does not know the locale.
 std::string likelyScript(const std::string& locale) {
     std::array<char, ULOC_FULLNAME_CAPACITY> full{};
     std::array<char, ULOC_SCRIPT_CAPACITY> script{};
@@ -36,7 +36,7 @@ std::string scriptVariants() {
         if (differsByRegion(*language))
             list += std::string("    \"") + *language + "\",\n";
     if (list.empty())
-        fail("ICU knows no language with regions that differ in script");
+        fail("ICU lists no language whose regions use different scripts");
     return "constexpr std::string_view severalScripts[] = {\n" + list + "};\n";
 }
 

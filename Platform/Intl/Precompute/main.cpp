@@ -1,4 +1,4 @@
-// Runs during the build: writes one of the files of data that the library takes from ICU to standard output.
+// Runs during the build: writes one of the generated tables to standard output.
 #include "Precompute/Precompute.h"
 #include <cstdio>
 #include <cstdlib>
@@ -22,7 +22,7 @@ std::size_t Pool::offsetOf(const std::string& text) {
 std::string Pool::definition(const std::string& name) const {
     constexpr std::size_t perLine = 24;
     if (all_.size() > std::numeric_limits<std::uint16_t>::max())
-        fail(std::to_string(all_.size()) + " bytes of " + name + " do not fit");
+        fail(std::to_string(all_.size()) + " bytes of " + name + " do not fit into 16-bit offsets");
     std::string out = "constexpr char " + name + "[] =";
     for (std::size_t i = 0; i < all_.size(); ++i) {
         char escape[sizeof "\\000"];
@@ -47,6 +47,6 @@ int main(int count, char** arguments) {
         text = scriptVariants();
     else
         fail("expected Precomputed, PluralRules or ScriptVariants");
-    std::printf("// As ICU %s has them; do not edit.\n%s", U_ICU_VERSION, text.c_str());
+    std::printf("// Generated from ICU %s; do not edit.\n%s", U_ICU_VERSION, text.c_str());
     return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? 0 : 1;
 }

@@ -1,5 +1,5 @@
 // Intl/internal/IcuText.h
-// Between ICU's texts and identifiers and ours; part of the plug-in.
+// Converts between ICU's strings and identifiers and ours; part of the plug-in.
 // Text: UTF-8 on our side. Threads: any; no state.
 #pragma once
 
@@ -13,14 +13,15 @@
 
 namespace Intl {
 
-// Whether ICU did what it was asked. What it lacked the memory for is thrown, so that nobody keeps it as an answer.
+// Whether the status is a success. Throws std::bad_alloc when memory ran out, so that callers never cache such a
+// failure.
 [[nodiscard]] inline bool succeeded(UErrorCode status) {
     if (status == U_MEMORY_ALLOCATION_ERROR)
         throw std::bad_alloc();
     return U_SUCCESS(status);
 }
 
-// ICU makes a text bogus where it lacks the memory for it.
+// ICU marks a string as bogus when memory runs out.
 [[nodiscard]] inline std::string utf8(const icu::UnicodeString& text) {
     if (text.isBogus())
         throw std::bad_alloc();
@@ -28,11 +29,11 @@ namespace Intl {
     return text.toUTF8String(out);
 }
 
-// The locale of an identifier of any custom ("de_AT", "zh-Hans", "pt_PT.UTF-8@euro", "ar_EG@numbers=latn"), without its
-// character set. Bogus when ICU makes nothing of it, and when it is longer than any in use.
+// The locale of an identifier in any common form ("de_AT", "zh-Hans", "pt_PT.UTF-8@euro", "ar_EG@numbers=latn"),
+// without its character set. Bogus when ICU cannot parse it or it is too long for ICU.
 [[nodiscard]] inline icu::Locale icuLocale(std::string_view identifier) {
     std::string name(identifier);
-    if (name.find('\0') != name.npos) { // ICU would read the part before it
+    if (name.find('\0') != name.npos) { // ICU would read only the part before the NUL
         icu::Locale none;
         none.setToBogus();
         return none;
@@ -40,7 +41,7 @@ namespace Intl {
     if (const std::size_t dot = name.find('.'); dot != std::string::npos)
         name.erase(dot, name.find('@', dot) - dot);
     icu::Locale locale = icu::Locale::createFromName(name.c_str());
-    // ICU copies names into places of this size, not always with care. Either may be the longer one.
+    // ICU copies names into buffers of this size, not always with a check. Either name may be the longer one.
     if (!locale.isBogus() &&
         std::max(std::strlen(locale.getName()), std::strlen(locale.getBaseName())) >= ULOC_FULLNAME_CAPACITY)
         locale.setToBogus();

@@ -1,10 +1,10 @@
 // Intl/internal/Intl.h
-// What the platform knows of the world's languages: which one fits a user, how they write numbers, how they count
-// years. Most of it was taken from ICU when the library was built. The rest is asked of ICU at run time, in the plug-in
-// lumora-intl.so: loading ICU costs more than a process's first text, and most processes never need it.
-// Text: UTF-8. Threads: any. Errors: where the plug-in cannot be loaded or has no memory at the moment, std::bad_alloc
-// or std::system_error is thrown, so that nobody keeps a poorer result, and the next call tries again. Without the
-// plug-in there are plain forms.
+// Language data: which language fits a user, how numbers are written, how years are counted. Most of it is generated
+// from ICU at build time. The rest is computed by ICU at run time, in the plug-in lumora-intl.so, because loading ICU
+// takes longer than the first text of a process and most processes never need it.
+// Text: UTF-8. Threads: any. Errors: transient failures throw std::bad_alloc or std::system_error, so that callers
+// never cache a degraded result; the next call tries again. When the plug-in is not installed, plain forms are
+// returned.
 #pragma once
 
 #include "Intl/internal/NumberPattern.h"
@@ -17,17 +17,17 @@
 
 namespace Intl {
 
-// The index in `supported` of the language that serves a reader of `desired` best, by CLDR's matching, or no value when
-// none is of a language that the reader named. Identifiers of both lists as BCP 47 or with '_'.
+// The index in `supported` of the best match for `desired` by CLDR's rules, or no value when none is of the same
+// language. Identifiers are BCP 47 or use '_'.
 [[nodiscard]] std::optional<std::size_t> matchLanguage(std::string_view desired,
                                                        std::span<const std::string> supported);
-// How a locale writes numbers. Any identifier works; what is unknown is read as the root locale. "@numbers=" and other
-// keywords are kept.
+// How a locale writes numbers. An unknown identifier gives the root locale's pattern. Keywords such as "@numbers=" are
+// respected.
 [[nodiscard]] NumberPattern numberPattern(std::string_view locale, NumberStyle style);
-// The same of the identifier. Empty forms when there are no words.
+// How a locale writes years; the forms are empty when it has none.
 [[nodiscard]] YearForms yearForms(std::string_view locale);
 
-// The plug-in.
+// The interface of the plug-in.
 class Services {
 public:
     virtual std::optional<std::size_t> matchLanguage(std::string_view desired,

@@ -1,6 +1,6 @@
 // Intl/internal/LanguageMatch.h
-// Which language serves a reader; part of the plug-in.
-// Text: identifiers of any custom. Threads: any; no state.
+// Selects the language for a reader with ICU; part of the plug-in.
+// Text: identifiers in any common form. Threads: any; no state.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace Intl {
 
-// As Services::matchLanguage().
+// Implements Services::matchLanguage().
 [[nodiscard]] std::optional<std::size_t> bestLanguage(std::string_view desired, std::span<const std::string> supported);
 
 } // namespace Intl

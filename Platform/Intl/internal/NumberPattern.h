@@ -10,8 +10,8 @@ namespace Intl {
 
 enum class NumberStyle { decimal, percent };
 
-// How one locale writes numbers of one style. Affixes hold the sign where the locale puts it. As made here: the plain
-// decimal form, ASCII without grouping.
+// How one locale writes numbers of one style. The affixes include the sign. The default is the plain decimal form:
+// ASCII without grouping.
 struct NumberPattern {
     std::array<std::string, 10> digits = {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"};
     std::string positivePrefix, positiveSuffix;
@@ -19,15 +19,15 @@ struct NumberPattern {
     std::string plusSign = "+", minusSign = "-";
     std::string decimalSeparator = ".", groupingSeparator;
     std::string infinity = "∞", notANumber = "NaN";
-    unsigned primaryGrouping = 0;   // digits of the last group; 0: no grouping
-    unsigned secondaryGrouping = 0; // digits of the groups before it
-    unsigned minimumGrouping = 1;   // digits that must stand before the first separator
+    unsigned primaryGrouping = 0;   // digits in the last group; 0 means no grouping
+    unsigned secondaryGrouping = 0; // digits in the other groups
+    unsigned minimumGrouping = 1;   // required digits before the first separator
     unsigned maximumFraction = 3;
     unsigned minimumFraction = 0;
-    unsigned powerOfTen = 0; // how far the point moves before a number is written: 2 for percent
+    unsigned powerOfTen = 0; // numbers are multiplied by this power of ten: 2 for percent
 };
 
-// The plain form of a style: what there is without knowledge of the locale.
+// The plain form of a style, used when the locale's data is not available.
 [[nodiscard]] inline NumberPattern plainNumberPattern(NumberStyle style) {
     NumberPattern pattern;
     if (style == NumberStyle::percent) {

@@ -1,5 +1,5 @@
 // Intl/internal/PluralCategory.h
-// The six plural categories of CLDR. Which numbers are of which depends on the language.
+// The six plural categories of CLDR. The language determines the category of a number.
 // Text: ASCII. Threads: any; constant data.
 #pragma once
 

@@ -1,6 +1,6 @@
 // Intl/internal/PluralRules.h
-// Which plural form goes with a number in a language, by CLDR's cardinal rules. ICU's data are written down when the
-// library is built, so that no plural needs ICU.
+// Selects the plural category of a number by CLDR's cardinal rules. The rules are generated from ICU's data at build
+// time, so that plurals do not need ICU.
 // Text: ASCII. Threads: any; constant data.
 #pragma once
 
@@ -10,8 +10,8 @@
 
 namespace Intl {
 
-// A number as the rules look at it: they ask for its digits as printed, so 1 and 1.0 differ. No rule looks at more than
-// the last digits of each part.
+// The operands of CLDR's rules. They describe the number as it is printed, so 1 and 1.0 differ. Only the last digits of
+// each part are kept, which suffices for all rules.
 struct PluralOperands {
     std::uint64_t i = 0; // whole part
     std::uint64_t v = 0; // number of digits after the point
@@ -25,19 +25,18 @@ struct PluralOperands {
 // Of a number as printed in ASCII, without its sign: "12.50", "1.25e+01". Other characters end it.
 [[nodiscard]] PluralOperands pluralOperands(std::string_view decimal) noexcept;
 
-// The category of the number in the language of a tag such as "pt-PT" or "sr_Latn"; `other` where the language is
-// unknown.
+// The category of the number in the language of a tag such as "pt-PT" or "sr_Latn"; `other` for an unknown language.
 [[nodiscard]] PluralCategory pluralCategory(std::string_view language, const PluralOperands& number) noexcept;
 
-// The categories of a language, a bit for each by its index: of all numbers, and of whole numbers.
+// The categories of a language as bit sets by index: those of all numbers, and those of integers.
 struct PluralCategories {
     std::uint8_t all;
     std::uint8_t ofIntegers;
 };
 [[nodiscard]] PluralCategories pluralCategories(std::string_view language) noexcept;
 
-// The rule for whole numbers as an expression of C over `n`, whose value is the number of the category among
-// `ofIntegers`, from 0 on: "n == 1 ? 0 : 1". "0" where the language is unknown.
+// The rule for integers as a C expression in `n`, whose value is the index of the category within `ofIntegers`: "n == 1
+// ? 0 : 1". "0" for an unknown language.
 [[nodiscard]] std::string_view integerPluralExpression(std::string_view language) noexcept;
 
 } // namespace Intl

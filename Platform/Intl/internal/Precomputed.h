@@ -1,7 +1,7 @@
 // Intl/internal/Precomputed.h
-// The number patterns and year forms of the locales that ICU lists, written down when the library is built. Most
-// numbers and years then need neither the plug-in nor ICU's data, which cost a millisecond and megabytes of a process's
-// start. Text: UTF-8. Threads: any; constant data.
+// The number patterns and year forms of all locales that ICU lists, generated at build time. Most processes then need
+// neither the plug-in nor ICU's data, which would cost a millisecond and megabytes at start-up. Text: UTF-8. Threads:
+// any; constant data.
 #pragma once
 
 #include "Intl/internal/NumberPattern.h"
@@ -12,22 +12,22 @@
 
 namespace Intl {
 
-// Of the locale with that identifier in ICU's form ("de_AT") or as BCP 47 ("de-AT"), or no value.
+// The data of the locale with that identifier in ICU's form ("de_AT") or BCP 47 ("de-AT"), or no value.
 [[nodiscard]] std::optional<NumberPattern> knownNumberPattern(std::string_view locale, NumberStyle style);
 [[nodiscard]] std::optional<YearForms> knownYearForms(std::string_view locale);
 
 namespace detail {
 
-// Visits all parts in the order in which they are written down: a text ends with a NUL, a number is one digit.
+// Visits all fields in storage order. Strings are stored with a NUL, numbers as one digit.
 template <class Visit, class Forms>
 requires std::is_same_v<std::remove_const_t<Forms>, YearForms>
-void forEachPart(Forms& years, Visit&& visit) {
+void forEachField(Forms& years, Visit&& visit) {
     for (auto& form : years.forms)
         visit(form);
 }
 template <class Visit, class Pattern>
 requires std::is_same_v<std::remove_const_t<Pattern>, NumberPattern>
-void forEachPart(Pattern& pattern, Visit&& visit) {
+void forEachField(Pattern& pattern, Visit&& visit) {
     for (auto& digit : pattern.digits)
         visit(digit);
     for (auto* text : {&pattern.positivePrefix, &pattern.positiveSuffix, &pattern.negativePrefix,

@@ -1,5 +1,5 @@
 // Intl/internal/ScriptVariants.h
-// Languages that are written in several scripts.
+// Knows which languages are written in several scripts.
 // Text: ASCII. Threads: any; constant data.
 #pragma once
 
@@ -7,8 +7,8 @@
 
 namespace Intl {
 
-// Whether the regions of a language ("sr") differ in script by ICU's data, which are written down when the library is
-// built. The region then decides which variant a user can read.
+// Whether regions of a language ("sr") use different scripts, so that the region determines which variant a user can
+// read. Generated from ICU's data at build time.
 [[nodiscard]] bool isWrittenInSeveralScripts(std::string_view language) noexcept;
 
 } // namespace Intl

@@ -9,8 +9,8 @@
 
 namespace Intl {
 
-// By PluralCategory: "{0} year", where "{0}" is the place of the number, which a form such as "a year" need not have.
-// Empty for a category that the language does not have; all are empty when there are no words.
+// By PluralCategory: "{0} year", where "{0}" stands for the number; a form such as "a year" may lack it. Empty for a
+// category that the language does not have; all are empty when the language data is missing.
 struct YearForms {
     std::array<std::string, pluralCategoryCount> forms;
 

@@ -1,5 +1,5 @@
 // Runtime/internal/CodeLocation.h
-// Where loaded code lies in the file system.
+// Finds the file that a piece of loaded code comes from.
 // Text: paths as the file system has them, any bytes. Threads: any.
 #pragma once
 
@@ -8,7 +8,7 @@
 namespace Runtime {
 
 struct CodeLocation {
-    std::string directory; // of the real file, links followed; absolute; without a slash at its end
+    std::string directory; // absolute, symbolic links resolved, without a trailing slash
     std::string name;      // the file's own name: "liblumora.so.1.0.0", "app"
     bool isMainProgram = false;
 };

@@ -1,6 +1,6 @@
 // Runtime/internal/Descriptor.h
-// An open file of the system.
-// Ownership: closes it. Threads: as the system's number.
+// RAII owner of a file descriptor.
+// Threads: as thread-safe as the raw descriptor.
 #pragma once
 
 #include <unistd.h>
@@ -10,7 +10,7 @@ namespace Runtime {
 
 class Descriptor {
 public:
-    // Negative: none.
+    // A negative number means no file.
     explicit Descriptor(int number) noexcept : number_(number) {}
     Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
     Descriptor& operator=(Descriptor&& other) noexcept {
@@ -22,7 +22,7 @@ public:
             ::close(number_);
     }
     int number() const noexcept { return number_; }
-    // Closes now, for writers who want to hear of it. False on failure.
+    // Closes now, for writers that must detect a failed close. False on failure.
     bool close() noexcept { return ::close(std::exchange(number_, -1)) == 0; }
 
 private:

@@ -1,6 +1,6 @@
 // Runtime/internal/File.h
-// Files read whole and written whole.
-// Text: paths as the file system has them. Threads: any. Errors carry the path and the system's reason.
+// Reads and writes whole files.
+// Text: paths are raw bytes. Threads: any. Errors carry the path and the errno text.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -14,12 +14,12 @@ namespace Runtime {
 // Never waits for a writer.
 [[nodiscard]] Result<std::string> readFile(const std::string& path, std::size_t limit);
 
-// Makes `path` hold exactly `bytes`: written to a temporary beside it and renamed, so that a reader sees the old file
-// or the new one and an interrupted write leaves the old. A link stays, and what it leads to is replaced, or made; a
-// pipe or a device is written to. A path that stands for an open descriptor, as /dev/stdout does, is written through
-// it, behind what it has written, and one for a descriptor of another process to the end of the file.
-// `safety`: whether the bytes are on the disk before the name is theirs, which costs a wait. Without, a machine that
-// loses power may leave an empty file.
+// Replaces the content of `path` atomically: writes a temporary file beside it and renames it, so that readers see
+// either the old file or the new one, and an interrupted write leaves the old one. A symbolic link is followed and its
+// target replaced or created. A pipe or a device is written to directly. A path such as /dev/stdout, which names an
+// open descriptor of this process, is written at the descriptor's offset; one of another process is appended to.
+// `safety`: with `synced` the data reaches the disk before the rename, which takes longer; with `unsynced` a power
+// failure may leave an empty file.
 enum class WriteSafety { synced, unsynced };
 [[nodiscard]] Result<void> writeFile(const std::string& path, std::string_view bytes,
                                                    WriteSafety safety = WriteSafety::synced);

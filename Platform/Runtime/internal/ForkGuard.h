@@ -1,12 +1,12 @@
 // Runtime/internal/ForkGuard.h
-// Keeps the process from being forked while a thread is in code with locks of its own, such as ICU or the dynamic
-// linker: the child would find them held by a thread that it does not have.
+// Delays fork() while a thread is in code that takes locks of its own, such as ICU or the dynamic linker. Otherwise the
+// child could inherit a lock held by a thread that does not exist in it.
 #pragma once
 
 namespace Runtime {
 
-// While one lives, fork() waits in other threads, and the guards that they make wait for fork(). Threads: any number at
-// the same time; not two on one thread. Throws std::bad_alloc.
+// While a guard exists, fork() in other threads waits; a new guard waits while a fork() is running. Threads: any number
+// at the same time, but at most one guard per thread. Throws std::bad_alloc.
 class ForkGuard {
 public:
     ForkGuard();

@@ -1,5 +1,5 @@
 // Runtime/internal/ForkLock.h
-// A lock that no forked child finds held for ever.
+// A lock that a forked child can take over when a thread of its parent held it.
 // Threads: any.
 #pragma once
 
@@ -15,13 +15,13 @@ public:
     ForkLock(const ForkLock&) = delete;
     ForkLock& operator=(const ForkLock&) = delete;
 
-    // True when a thread held the lock that this process did not get when it was forked: what the lock guards is then as
-    // that thread left it in the middle of its work.
+    // Returns true when a thread of the parent process held the lock at the fork. What the lock guards may then be half
+    // written.
     [[nodiscard]] bool lock() noexcept {
         const auto mine = static_cast<std::uint32_t>(::getpid());
         std::uint32_t seen = free;
         while (!owner_.compare_exchange_strong(seen, mine, std::memory_order_acquire)) {
-            if (seen != mine) // the next exchange takes it over, or another thread has done so
+            if (seen != mine) // of the parent process: the next exchange takes the lock over
                 continue;
             owner_.wait(mine, std::memory_order_relaxed);
             seen = free;

@@ -1,6 +1,6 @@
 // Runtime/internal/KeyedStore.h
-// Values by name that are kept until the process ends.
-// Threads: any; nothing takes a lock. Ownership: a value stays at its address; the store never destroys one.
+// An append-only hash map from names to values that are kept until the process ends.
+// Threads: any; lock-free. Ownership: values never move and are never destroyed.
 #pragma once
 
 #include <array>
@@ -16,12 +16,12 @@
 
 namespace Runtime {
 
-// Looks through one in `buckets` of the values for a name.
+// Separate chaining with a fixed number of buckets.
 template <class T, std::size_t buckets = 64> class KeyedStore {
 public:
     static constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
 
-    // Constant: a static store is zeroed memory.
+    // Constant-initialized: a static store costs zeroed memory and no start-up code.
     constexpr KeyedStore() noexcept = default;
     KeyedStore(const KeyedStore&) = delete;
     KeyedStore& operator=(const KeyedStore&) = delete;
@@ -32,8 +32,8 @@ public:
         return search(bucket(hash).load(std::memory_order_acquire), hash, key);
     }
 
-    // Makes the value of `key` from `parts`. Another thread's value wins if it was added meanwhile. Null, and nothing is
-    // kept, when the store holds `limit` values.
+    // Constructs the value of `key` from `parts`, or returns the value that another thread added meanwhile. Returns
+    // null and keeps nothing when the store already holds `limit` values.
     template <class... Parts> T* add(std::size_t limit, std::string_view key, Parts&&... parts) {
         if (size_.load(std::memory_order_relaxed) >= limit)
             return nullptr;

@@ -8,10 +8,9 @@
 
 namespace Runtime {
 
-// Throws std::bad_alloc unless `size` bytes are free at the moment. What fails although they are did not fail for lack
-// of memory.
+// Throws std::bad_alloc unless `size` bytes can be allocated now. If they can, a preceding failure had another reason.
 inline void demandMemory(std::size_t size = std::size_t{1} << 16) {
-    ::operator delete(::operator new(size)); // calls, not expressions, which a compiler may leave out
+    ::operator delete(::operator new(size)); // direct calls: a compiler may remove a new-delete pair
 }
 
 } // namespace Runtime

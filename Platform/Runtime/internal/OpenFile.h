@@ -1,6 +1,6 @@
 // Runtime/internal/OpenFile.h
-// A regular file that is read from, in parts or whole.
-// Threads: any; parts may be read at the same time. No child program inherits it.
+// A regular file opened for reading.
+// Threads: any; concurrent reads are allowed. Child programs do not inherit the descriptor.
 #pragma once
 
 #include "Runtime/internal/Descriptor.h"
@@ -14,22 +14,22 @@ namespace Runtime {
 
 class OpenFile {
 public:
-    // Opens the regular file at `path`. Errors name it: the system's reason, a directory or a device, more than `limit`
-    // bytes. Never waits for a writer.
+    // Opens the regular file at `path`. Errors name it: the system refused, it is not a regular file, it has more than
+    // `limit` bytes. Never blocks on a pipe.
     [[nodiscard]] static Result<OpenFile> open(const std::string& path, std::size_t limit);
 
-    std::size_t size() const noexcept { return identity_.size; } // when it was opened
-    // What tells the file from one that takes its place, or from itself after a change.
+    std::size_t size() const noexcept { return identity_.size; } // at the time of opening
+    // Differs when another file takes the place of this one, or when its content changes.
     struct Identity {
         std::uint64_t device = 0, inode = 0;
         std::size_t size = 0;
-        std::int64_t seconds = 0, nanoseconds = 0; // of the last change of its content
+        std::int64_t seconds = 0, nanoseconds = 0; // last modification
         friend bool operator==(const Identity&, const Identity&) = default;
     };
     const Identity& identity() const noexcept { return identity_; }
-    // Puts what stands at `offset` at `out`. How much that was: less than `size` where the file ends.
+    // Reads up to `size` bytes at `offset` into `out`. Returns how many, fewer than `size` only at the end of the file.
     [[nodiscard]] Result<std::size_t> read(void* out, std::size_t size, std::uint64_t offset) const;
-    // An error of this file.
+    // An Error that names this file.
     [[nodiscard]] Error error(std::string message) const { return {.message = std::move(message), .file = path_}; }
 
 private:

@@ -1,6 +1,6 @@
 // Runtime/internal/Plugin.h
-// Plug-ins: parts of the library that most processes never need, and whose own libraries cost more to load than
-// everything else together. One is opened when it is first needed.
+// Plug-ins: parts of the library that most processes never need and whose dependencies are expensive to load. Each is
+// opened at its first use.
 #pragma once
 
 #include "Runtime/internal/ForkGuard.h"
@@ -9,10 +9,11 @@
 namespace Runtime {
 
 // Opens the plug-in `file` ("lumora-intl.so") from the plug-in folder beside the shared object that holds this code
-// and returns the address of its exported function `symbol`. Nothing is searched elsewhere, whatever the process's
-// directory or environment. It stays open until the process ends. The guard: the dynamic linker has locks.
-// Errors: the plug-in is absent, cannot be loaded, or has no such function; transient ones where descriptors, memory or
-// address space ran out. Throws std::bad_alloc. Any thread.
+// and returns the address of its exported function `symbol`. No other place is searched, whatever the current directory
+// or environment. The plug-in stays open until the process ends. The guard is needed because the dynamic linker takes
+// locks.
+// Errors: the plug-in is absent, cannot be loaded, or has no such function; transient errors when descriptors, memory
+// or address space ran out. Throws std::bad_alloc. Any thread.
 [[nodiscard]] Result<void*> pluginSymbol(const ForkGuard& guard, const char* file, const char* symbol);
 
 } // namespace Runtime

@@ -1,6 +1,6 @@
 // Runtime/internal/PublishedClasses.h
 // The classes that loaded libraries and the program publish with LUMORA_PUBLISH_CLASS.
-// Threads: any; under the dynamic linker's lock.
+// Threads: any; holds the dynamic linker's lock.
 #pragma once
 
 #include "Runtime/Class.h"

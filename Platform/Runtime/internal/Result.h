@@ -1,5 +1,5 @@
 // Runtime/internal/Result.h
-// What readers and writers give back: a value, or the one error that stopped them.
+// The result of an operation that can fail: a value, or the error that stopped it.
 // Threads: plain values. Ownership: a Result owns what it holds.
 #pragma once
 
@@ -12,16 +12,16 @@
 
 namespace Runtime {
 
-// What went wrong and where. `file` may be empty (the input has no name); `line` and `column` count from 1, 0 means
-// that the place is unknown or that the input has no lines.
+// What went wrong and where. `file` is empty when the input has no name. `line` and `column` count from 1; 0 means
+// unknown or not applicable.
 struct Error {
     std::string message{};
     std::string file{};
     std::size_t line = 0;
     std::size_t column = 0;
-    int cause = 0; // the system's errno, where it was the system that refused
+    int cause = 0; // errno of the failed system call, or 0
 
-    // Whether the same may succeed later: the process is out of memory or descriptors, or the device failed.
+    // Whether a retry may succeed: the process was out of memory or descriptors, or the device failed.
     bool isTransient() const noexcept {
         return cause == ENOMEM || cause == EMFILE || cause == ENFILE || cause == EINTR || cause == EIO;
     }
@@ -35,7 +35,7 @@ struct Error {
     }
 };
 
-// A T, or the Error that kept it from being made.
+// A T, or the Error that prevented it.
 template <class T> class [[nodiscard]] Result {
 public:
     Result(T value) : state_(std::in_place_index<0>, std::move(value)) {}
@@ -56,7 +56,7 @@ private:
     std::variant<T, Error> state_;
 };
 
-// The same for work that leaves no value behind.
+// Success, or the error.
 template <> class [[nodiscard]] Result<void> {
 public:
     Result() = default;

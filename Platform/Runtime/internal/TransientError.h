@@ -1,5 +1,5 @@
 // Runtime/internal/TransientError.h
-// What is missing for the moment must not be taken for missing and kept so.
+// Throws on transient errors, so that callers never cache the result of one.
 // Threads: any; no state.
 #pragma once
 

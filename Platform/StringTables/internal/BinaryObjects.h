@@ -1,5 +1,5 @@
 // StringTables/internal/BinaryObjects.h
-// The objects of a binary property list, each checked when it is looked at.
+// The objects of a binary property list, each validated when it is read.
 // The layout: "bplist00", the objects, a table of their offsets, and at the end the trailer that describes them. All
 // numbers are big-endian.
 #pragma once
@@ -18,7 +18,7 @@ public:
 
     struct Object {
         std::size_t at = 0;
-        std::uint8_t type = 0;   // the upper half of the marker byte
+        std::uint8_t type = 0;   // the upper four bits of the marker byte
         std::uint64_t count = 0; // of the characters or members, which begin at `begin`
         std::size_t begin = 0;
 
@@ -28,32 +28,33 @@ public:
     explicit BinaryObjects(Contents& contents)
         : contents_(contents), bytes_(contents.source), unread_(contents.source.size()) {}
 
-    // Reads the trailer. To be called first; this and what follows return false after an error, which error() tells.
+    // Reads the trailer; call this first. All functions that return bool return false after an error; see error().
     bool open();
     Runtime::Error& error() noexcept { return error_; }
 
     std::uint64_t size() const noexcept { return objects_; }
-    // The dictionary that is the list, with its size.
+    // The top-level dictionary, with its size.
     bool top(Object& out);
-    // Object `number`, which is named at `namedAt`; of strings and dictionaries the size is read by what follows.
+    // Object `number`; errors about the reference point at `namedAt`. string() and members() read the size of strings
+    // and dictionaries.
     bool object(std::uint64_t number, std::size_t namedAt, Object& out);
     // Reads the size of a dictionary and checks that its members are in the file.
     bool members(Object& object);
-    // Where the number of the key or value of entry `i` stands, and what it is.
+    // The offsets of the references to the key and value of entry `i`, and the reference at an offset.
     std::size_t keyAt(const Object& list, std::size_t i) const noexcept { return list.begin + i * referenceSize_; }
     std::size_t valueAt(const Object& list, std::size_t i) const noexcept {
         return keyAt(list, static_cast<std::size_t>(list.count) + i);
     }
     std::uint64_t reference(std::size_t at) const noexcept { return number(at, referenceSize_); }
-    // What object `number`, a string, says, as UTF-8 that lives as long as the contents. All strings together are no
-    // longer than the file: callers read each object once.
+    // Reads object `number`, a string, as UTF-8 that lives as long as the contents. Callers read each object at most
+    // once: the total size of all strings read is limited to the size of the file.
     bool string(std::uint64_t number, Object& object, std::string_view& out);
 
     bool fail(std::size_t at, std::string message) {
         error_ = contents_.errorAt(at, std::move(message));
         return false;
     }
-    // What a value of another type is, for a note; null for an unknown type.
+    // The name of a value's type for notes; null for an unknown type.
     static const char* describe(std::uint8_t type) noexcept;
 
 private:
@@ -63,12 +64,13 @@ private:
     std::uint64_t offset(std::uint64_t number) const noexcept {
         return this->number(tableAt_ + static_cast<std::size_t>(number) * offsetSize_, offsetSize_);
     }
-    // Where the object behind it begins, in a file whose objects are in order.
+    // The offset of the following object, in a file whose objects are in order.
     std::uint64_t next(std::uint64_t number) const noexcept {
         return number + 1 < objects_ ? offset(number + 1) : tableAt_;
     }
     std::uint8_t byte(std::size_t at) const noexcept { return static_cast<std::uint8_t>(bytes_[at]); }
-    // `size` is 1 to 8. No number stands closer than eight bytes to the file's end: the trailer's last is as long.
+    // `size` is 1 to 8. Reading eight bytes is always safe: the file ends with the trailer, whose last number has
+    // eight.
     std::uint64_t number(std::size_t at, std::size_t size) const noexcept {
         std::uint64_t value;
         std::memcpy(&value, bytes_.data() + at, sizeof value);
@@ -83,14 +85,14 @@ private:
     Contents& contents_;
     std::string_view bytes_;
     std::size_t offsetSize_ = 0;    // bytes of an offset
-    std::size_t referenceSize_ = 0; // bytes of an object's number where another names it
+    std::size_t referenceSize_ = 0; // bytes of a reference to an object
     std::uint64_t objects_ = 0;
     std::uint64_t top_ = 0;
-    std::size_t tableAt_ = 0; // of the offsets; the objects end there
-    // Objects share no bytes, so all strings together are no longer than the file: one whose strings overlap uses up
-    // `unread_` instead of memory and time without bound.
+    std::size_t tableAt_ = 0; // of the offset table, where the objects end
+    // In a valid file objects do not overlap, so all strings together are shorter than the file. This budget bounds
+    // time and memory for files whose strings do overlap.
     std::size_t unread_;
-    bool isOrdered_ = false; // the objects stand in the order of their numbers, as every writer known puts them
+    bool isOrdered_ = false; // the objects are in the order of their numbers, as all known writers store them
     Runtime::Error error_;
 };
 

@@ -1,6 +1,6 @@
 // StringTables/internal/BinaryWriter.h
-// Makes a binary property list of dictionaries and strings.
-// Text: UTF-8 in, ASCII or UTF-16 in the file. Threads: values. Ownership: borrows its strings.
+// Builds a binary property list of dictionaries and strings.
+// Text: takes UTF-8, stores ASCII or UTF-16. Threads: one at a time. Ownership: borrows its strings.
 #pragma once
 
 #include <cstddef>
@@ -16,25 +16,24 @@ namespace StringTables::internal {
 
 class BinaryWriter {
 public:
-    // Objects are numbered, and stand in the file, in the order in which they are first named.
+    // Objects are numbered and stored in the order in which they are created.
     using Number = std::size_t;
 
-    // A new, empty dictionary. The first one is the list's top.
+    // A new, empty dictionary. The first one is the top-level object.
     Number dictionary();
-    // An object of zero bytes, for the caller to fill in, and how many.
+    // An object of zero bytes that the caller fills in after write(), and its size.
     Number room();
     void setRoom(Number number, std::size_t size) { objects_[number].size = size; }
-    // The string `text`; one object for equal strings. A text is read once, however often it is given in the same place
-    // of memory.
+    // The string `text`; equal strings share one object. Repeated calls with the same memory do not read it again.
     Number string(std::string_view text);
-    // Whether all strings are UTF-8; nothing is to be written if not.
+    // Whether all strings are UTF-8. If not, do not call write().
     bool isUtf8() const noexcept { return isUtf8_; }
-    // Adds an entry to a dictionary. Each key once.
+    // Adds an entry to a dictionary. Each key may be added once.
     void add(Number dictionary, Number key, Number value) { objects_[dictionary].entries.emplace_back(key, value); }
 
     // The bytes of the list.
     [[nodiscard]] std::string write();
-    // Where in the list that was written an object is, and where the characters of an ASCII string.
+    // After write(): the offset of an object, and that of the characters of an ASCII string.
     std::size_t offset(Number number) const noexcept { return offsets_[number]; }
     std::size_t charactersAt(Number number) const noexcept;
 
@@ -59,7 +58,7 @@ private:
         std::size_t size;
         Number number;
     };
-    std::unordered_map<const char*, Given> given_; // strings by their place in memory
+    std::unordered_map<const char*, Given> given_; // strings by their address
     bool isUtf8_ = true;
     std::string out_;
 };

@@ -1,7 +1,7 @@
 // StringTables/internal/BundleLayout.h
-// How a bundle is laid out: a folder LANGUAGE.lproj for each language with its tables, TABLE.strings and
-// TABLE.stringsdict, and Info.plist, which names the language of the development texts. Those are in Base.lproj, in the
-// folder of their language, or in both.
+// The layout of a bundle: Info.plist, and for each language a folder LANGUAGE.lproj with its tables, TABLE.strings and
+// TABLE.stringsdict. Info.plist names the development language. Its texts are in Base.lproj, in the folder of that
+// language, or in both.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 
@@ -21,11 +21,11 @@ inline constexpr std::string_view informationFile = "Info.plist";
 inline constexpr std::string_view developmentRegionKey = "CFBundleDevelopmentRegion";
 inline constexpr std::string_view defaultRegion = "en";
 
-// What `lumora compile` adds to Info.plist, so that no directory has to be listed: the names of the language folders,
-// each followed by a separator, and whether one of them has plurals ("yes", "no").
+// `lumora compile` adds these to Info.plist, so that readers need not list the directory: the names of the language
+// folders, each followed by the separator, and whether any of them has plurals ("yes", "no").
 inline constexpr std::string_view languagesKey = "LumoraLanguages";
 inline constexpr std::string_view pluralsKey = "LumoraPlurals";
-inline constexpr char languageSeparator = '/'; // no folder has it in its name
+inline constexpr char languageSeparator = '/'; // cannot be part of a folder's name
 
 // "de" for "de.lproj"; empty for another name.
 constexpr std::string_view languageOfFolder(std::string_view folder) noexcept {
@@ -45,12 +45,13 @@ inline std::string pluralsFile(std::string_view table) {
     return std::string(table).append(pluralsSuffix);
 }
 
-// The languages in whose folders a text is looked for, in this order, when `chosen` is the user's. May name one twice.
+// The folders in which a text is looked up, in this order, for a user of the language `chosen`. May contain a name
+// twice.
 constexpr std::array<std::string_view, 3> lookupOrder(std::string_view chosen, std::string_view development) noexcept {
     return {chosen, baseName, development};
 }
 
-// Whether `name` is one component of a path, so that nothing outside a folder is reached by it.
+// Whether `name` is a single path component, so that it cannot leave its folder.
 constexpr bool isFileName(std::string_view name) noexcept {
     return !name.empty() && name != "." && name != ".." && name.find_first_of(std::string_view("/\0", 2)) == name.npos;
 }

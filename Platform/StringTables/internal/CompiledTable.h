@@ -1,7 +1,7 @@
 // StringTables/internal/CompiledTable.h
-// Look-ups in a compiled table. Everything is checked when it is used: whatever the bytes are, a text is the one that
-// was compiled for the key, or there is none. Text: UTF-8. Threads: any; look-ups take no lock. Ownership: views live
-// as long as the table.
+// Lookups in a compiled table. Everything is validated on use: whatever the bytes are, a lookup returns the text that
+// was compiled for the key, or none. Text: UTF-8. Threads: any; lookups are lock-free. Ownership: views live as long as
+// the table.
 #pragma once
 
 #include "StringTables/internal/CompiledIndex.h"
@@ -18,10 +18,10 @@ namespace StringTables::internal {
 // The front of a compiled table in memory.
 class CompiledTable {
 public:
-    // `front`: of the file, index.front() bytes or fewer.
+    // `front`: the first index.front() bytes of the file, or all if it is shorter.
     CompiledTable(std::string front, const CompiledIndex& index);
 
-    // The text of `key`, whose hash is `hash`; a view of nothing, whose data() is null, where there is none.
+    // The text of `key`, whose hash is `hash`; a view whose data() is null when there is none.
     [[nodiscard]] std::string_view find(std::string_view key, std::uint64_t hash) const noexcept {
         if (front_.empty())
             return {};
@@ -44,23 +44,23 @@ private:
     bool check(std::uint32_t number, const CompiledIndex::Slot& slot, std::uint64_t hash,
                std::string_view text) const noexcept;
 
-    std::string front_; // empty if it ends within the slots
+    std::string front_; // empty if the file ends within the slots
     CompiledIndex index_;
     std::unique_ptr<std::atomic<std::uint8_t>[]> states_; // of the slots
-    // How many bytes of text may still be checked: an index whose slots all name one long text costs linear time.
+    // The bytes of text that may still be checked. This keeps the cost linear for an index whose slots all refer to one
+    // long text.
     mutable std::atomic<std::ptrdiff_t> left_;
 };
 
-// Of the texts of all entries together, of which a writer of tables makes less.
+// Limits all checked texts to this multiple of the front's size. Our writer stays below it.
 inline constexpr std::size_t mostTextPerFront = 8;
 
-// Whether the text is UTF-8 and the one that belongs to the key.
+// Whether the text is UTF-8 and belongs to the key.
 [[nodiscard]] bool isIntact(const CompiledIndex::Slot& slot, std::uint64_t hash, std::string_view text) noexcept;
 
-// One look-up in a file of which only parts are read. Source: a class with
-//   std::string_view bytes(std::size_t at, std::size_t size);  that part of the file, valid until the next call;
-//   shorter
-//                                                           where the file ends
+// One lookup in a file of which only parts are read. Source: a class with
+//   // That part of the file, valid until the next call; shorter at the end of the file.
+//   std::string_view bytes(std::size_t at, std::size_t size);
 template <class Source>
 std::optional<std::string> findIn(Source& source, const CompiledIndex& index, std::string_view key,
                                   std::uint64_t hash) {

@@ -1,5 +1,5 @@
 // StringTables/internal/Contents.h
-// What a table holds, while a reader fills it and after.
+// The content of a table, during and after reading.
 // Ownership: never moved once its bytes are in place; every view points into `source` or `arena`.
 #pragma once
 
@@ -9,10 +9,10 @@
 
 namespace StringTables::internal {
 
-// Memory for texts that are not in the source as they read: never moves, freed as a whole.
+// Memory for texts that differ from their form in the source. Never moves, freed as a whole.
 class Arena {
 public:
-    // Room for `size` bytes; keep() makes the part up to `end` permanent.
+    // Space for `size` bytes; keep() then allocates the part up to `end`.
     char* room(std::size_t size) {
         if (static_cast<std::size_t>(end_ - next_) < size) {
             const std::size_t chunk = std::max(size, chunks_.empty() ? smallest : largest);
@@ -34,7 +34,7 @@ private:
     char* end_ = nullptr;
 };
 
-// Marks a value that is not a text, by its address, until finish() removes the entry.
+// Its address marks a value that is not a text, until finish() removes the entry.
 inline constexpr char noTextMark[] = "";
 inline constexpr std::string_view noText(noTextMark, 0);
 inline bool hasText(const Entry& entry) noexcept {
@@ -46,14 +46,14 @@ struct Contents {
     Contents(const Contents&) = delete;
     Contents& operator=(const Contents&) = delete;
 
-    std::string source;    // UTF-16 text as UTF-8
-    std::size_t begin = 0; // of what follows the byte-order mark
+    std::string source;    // converted to UTF-8 if it was UTF-16 text
+    std::size_t begin = 0; // offset after the byte-order mark
     bool isUtf8 = false;   // known from the first bytes, whatever an XML declaration says
     Form form = Form::text;
     Arena arena;
     std::vector<Entry> entries;
-    bool hasSkipped = false;                   // there may be entries without a text
-    std::optional<std::uint32_t> skippedAtEnd; // where a value was skipped although the table was full
+    bool hasSkipped = false;                   // entries without a text are possible
+    std::optional<std::uint32_t> skippedAtEnd; // offset of a skipped value in a full table
     std::vector<TableNote> notes;
     Index index;
 
@@ -62,37 +62,38 @@ struct Contents {
         std::string message;
         std::optional<std::string> repeatedKey{};
     };
-    std::vector<Note> found; // notes in the making, at most Table::maxNotes
+    std::vector<Note> found; // unfinished notes, at most Table::maxNotes
     std::size_t more = 0;    // notes that were not kept
 
-    // For the readers, in the order of the source. False when the table is full.
+    // Called by readers in source order. False when the table is full.
     [[nodiscard]] bool add(std::string_view key, std::string_view text, std::size_t offset) {
         if (entries.size() == Table::maxEntries)
             return false;
         entries.push_back({key, text, static_cast<std::uint32_t>(offset)});
         return true;
     }
-    // The value of `key` is `what` ("an array") and not a text: noted, and remembered because the last value wins.
+    // Notes that the value of `key` is `what` ("an array") and not a text, and adds an entry without a text because the
+    // last value of a key wins.
     void addSkipped(std::string_view key, std::string_view what, std::size_t offset);
     void noteSkipped(std::string_view key, std::string_view what, std::size_t offset);
     // Notes that `later` has the key of `entry` and replaces it: the last value wins.
     void noteReplaced(const Entry& entry, const Entry& later);
-    // Notes that the key appears again; `what` says which value holds.
+    // Notes a repeated key; `what` says which value wins.
     void noteRepeated(std::string_view key, std::string_view what, std::size_t offset);
     void note(std::string_view before, std::string_view key, std::string_view after, std::size_t offset);
     [[nodiscard]] Runtime::Error errorAt(std::size_t offset, std::string message) const;
-    // Makes the table ready for look-ups when its entries are complete.
+    // Prepares the table for lookups once its entries are complete.
     void finish();
 };
 
-// Counts lines and columns of a text from its beginning on. Lines end at LF, CR or CR LF.
+// Counts lines and columns from the beginning of a text. Lines end with LF, CR or CR LF.
 class Locator {
 public:
     explicit Locator(const Contents& contents) noexcept
         : source_(contents.source), at_(contents.begin), counts_(contents.form != Form::binary) {}
-    // Of `offset`, which is not before the last one asked for.
+    // The location of `offset`. Offsets must not decrease between calls.
     [[nodiscard]] Location locate(std::size_t offset) noexcept;
-    // With line and column, or with the byte in a binary table.
+    // An error with line and column, or with the byte offset in a binary table.
     [[nodiscard]] Runtime::Error error(std::size_t offset, std::string message);
 
 private:
@@ -105,14 +106,14 @@ private:
 // `text` in quotation marks, for messages: one line, cut when it is long.
 [[nodiscard]] std::string quoted(std::string_view text);
 
-// Finds out the form of the source, where its content begins, and makes UTF-16 text UTF-8.
+// Detects the form of the source and where its content begins, and converts UTF-16 text to UTF-8.
 [[nodiscard]] Runtime::Result<void> recognize(Contents& contents);
-// Each fills the entries from the source, from `contents.begin` on, and leaves the rest to finish().
+// Each reads the entries of the source from `contents.begin` on; finish() does the rest.
 [[nodiscard]] Runtime::Result<void> readText(Contents& contents);
 [[nodiscard]] Runtime::Result<void> readXml(Contents& contents);
 [[nodiscard]] Runtime::Result<void> readBinary(Contents& contents);
 
-inline constexpr const char* tooManyEntries = "the table has more entries than are accepted";
+inline constexpr const char* tooManyEntries = "the table has too many entries";
 inline constexpr const char* nestedTooDeeply = "nested too deeply";
 
 } // namespace StringTables::internal

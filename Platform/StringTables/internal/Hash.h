@@ -10,7 +10,7 @@
 
 namespace StringTables::internal {
 
-// A little-endian number at any address.
+// Reads a little-endian number at any address.
 template <class Number> Number loadLittle(const char* from) noexcept {
     Number number;
     std::memcpy(&number, from, sizeof number);
@@ -27,14 +27,14 @@ template <class Number> Number loadLittle(const char* from) noexcept {
 
 inline constexpr std::uint64_t hashSpread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
 
-// Both halves of the product, joined.
+// XOR of the two halves of the 128-bit product.
 inline std::uint64_t mixed(std::uint64_t a, std::uint64_t b) noexcept {
     __extension__ using Wide = unsigned __int128;
     const Wide product = static_cast<Wide>(a) * b;
     return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
 }
 
-// Nobody who does not know the seed can make keys whose hashes are equal: it masks both factors of every product.
+// The seed masks both factors of every product, so colliding keys cannot be made without knowing it.
 inline std::uint64_t hashBytes(std::string_view bytes, std::uint64_t seed) noexcept {
     const std::uint64_t second = seed * hashSpread ^ hashSpread;
     std::uint64_t first = seed;

@@ -1,7 +1,7 @@
 // StringTables/internal/Index.h
-// Finds the entry of a key: open addressing, and a part of each key's hash beside its entry's number, so that nearly
-// every look-up compares one key. Threads: immutable once built. Ownership: holds numbers only; the entries stay with
-// their owner.
+// A hash index from keys to entries. Open addressing; each slot holds part of the key's hash beside the entry's number,
+// so that most lookups compare a single key. Threads: immutable once built. Ownership: holds numbers only; the caller
+// owns the entries.
 #pragma once
 
 #include "StringTables/internal/Hash.h"
@@ -12,8 +12,8 @@ namespace StringTables::internal {
 
 class Index {
 public:
-    // Adds the entries in their order. Where the key is there already, `replace(entry, later)` merges the later entry
-    // into the earlier one, and the entries behind it move up.
+    // Adds the entries in order. For a repeated key, `replace(entry, later)` merges the later entry into the earlier
+    // one, and the later one is removed.
     template <class Replace> void build(std::vector<Entry>& entries, Replace&& replace);
 
     // The number of the key's entry, or `none`.
@@ -21,9 +21,9 @@ public:
     [[nodiscard]] std::size_t find(std::string_view key, std::span<const Entry> entries) const noexcept;
 
 private:
-    // A slot: the upper half of the key's hash above the entry's number plus one; 0 is free.
+    // A slot holds the upper half of the key's hash and, in the lower half, the entry's number plus one; 0 means free.
     static constexpr std::uint64_t tagBits = 0xFFFFFFFF00000000;
-    static std::size_t entryOf(std::uint64_t slot) noexcept { return (slot & ~tagBits) - 1; } // none if free
+    static std::size_t entryOf(std::uint64_t slot) noexcept { return (slot & ~tagBits) - 1; } // `none` for a free slot
 
     std::uint64_t hash(std::string_view key) const noexcept { return hashBytes(key, seed_); }
     std::uint64_t& slotOf(std::uint64_t hash, std::string_view key, std::span<const Entry> entries) const noexcept;
@@ -47,10 +47,11 @@ inline std::size_t Index::find(std::string_view key, std::span<const Entry> entr
 }
 
 template <class Replace> void Index::build(std::vector<Entry>& entries, Replace&& replace) {
-    const std::size_t size = std::bit_ceil(entries.size() + entries.size() / 2 + 1); // at most two thirds are taken
+    const std::size_t size =
+        std::bit_ceil(entries.size() + entries.size() / 2 + 1); // load factor of at most two thirds
     slots_ = std::make_unique<std::uint64_t[]>(size);
     mask_ = size - 1;
-    // The address differs from run to run: nobody can prepare keys whose hashes are equal.
+    // The address differs from run to run, so colliding keys cannot be prepared.
     seed_ = reinterpret_cast<std::uintptr_t>(slots_.get());
     std::size_t kept = 0;
     for (const Entry entry : entries) {

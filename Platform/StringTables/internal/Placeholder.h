@@ -1,6 +1,6 @@
 // StringTables/internal/Placeholder.h
-// The printf-style placeholders of a text and the arguments they take: one place for the formatter that fills them and
-// for the generator that makes parameters of them.
+// Parses the printf-style placeholders of a text and finds the arguments they take. Shared by the formatter, which
+// fills them, and the generator, which turns them into parameters.
 // Text: any bytes, UTF-8 expected. Threads: any; no state.
 #pragma once
 
@@ -13,7 +13,8 @@
 namespace StringTables {
 
 struct Placeholder {
-    // What it prints: nothing but "%%", a text (%@ %s %S), a whole number (%d and its kin, %c), a floating number.
+    // What it prints: a percent sign ("%%"), a text (%@ %s %S), an integer (%d and the like, %c), a floating-point
+    // number.
     enum class Kind : std::uint8_t { percent, text, integer, number };
 
     // A width or precision: none, the number `value`, or an argument ("*"): the one at position `value` ("*2$"), or the
@@ -32,7 +33,7 @@ struct Placeholder {
     bool spaceSign = false;     // ' '
     bool alternative = false;   // '#'
     bool zeroPadded = false;    // '0'
-    std::uint8_t bits = 64;     // of the whole number that is looked at: 8 for "hh", 16 for "h", else 64
+    std::uint8_t bits = 64;     // how many bits of an integer are used: 8 for "hh", 16 for "h", else 64
     Size width;
     Size precision;
     std::size_t begin = 0; // of the '%'
@@ -40,18 +41,18 @@ struct Placeholder {
 };
 
 // The first placeholder of `format` that begins at or after `from`: "%%", or % [position$] [flags] [width] [.precision]
-// [length] conversion. A '%' that begins none is ordinary text: an unknown conversion, the end of the text, a position
-// outside of 1 to 9999, a width or precision of more than six digits. Never fails, allocates nothing.
+// [length] conversion. Any other '%' is ordinary text: one before an unknown conversion or the end of the text, with a
+// position outside 1 to 9999, or with a width or precision of more than six digits. Never fails, allocates nothing.
 [[nodiscard]] std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t from) noexcept;
 
 // Counts the arguments that the placeholders of one format take, in the order of the format.
 class ArgumentCounter {
 public:
     constexpr ArgumentCounter() noexcept = default;
-    // The first `taken` arguments are taken.
+    // Starts after the first `taken` arguments.
     constexpr explicit ArgumentCounter(std::size_t taken) noexcept : taken_(taken) {}
 
-    // Positions of arguments, from 1 on; 0: none.
+    // Positions of arguments, counted from 1; 0 means none.
     struct Taken {
         std::size_t width = 0;
         std::size_t precision = 0;
@@ -99,13 +100,13 @@ private:
 // All arguments that a format takes.
 struct FormatSignature {
     using Kind = Placeholder::Kind;
-    // Two placeholders take one argument for different kinds.
+    // Two placeholders use the same argument as different kinds.
     struct Conflict {
-        std::size_t position; // of the argument, from 1 on
+        std::size_t position; // of the argument, counted from 1
         Kind first, later;
     };
 
-    // By position; no value for an argument that no placeholder takes. Of different kinds, the first counts.
+    // By position; no value for an argument that no placeholder takes. In a conflict the first kind counts.
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one
     bool mixesPositions = false;      // one text takes arguments both by position and in their order

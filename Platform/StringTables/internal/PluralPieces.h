@@ -1,7 +1,7 @@
 // StringTables/internal/PluralPieces.h
-// The placeholders of a plural format and of its forms, with the arguments they take. One place for the formatter and
-// for the tools that list a format's arguments.
-// Text: UTF-8. Threads: values. Ownership: borrows the format.
+// Iterates over the placeholders of a plural format and its forms, with the arguments they take. Shared by the
+// formatter and the tools that list a format's arguments.
+// Text: UTF-8. Threads: plain values. Ownership: borrows the format.
 #pragma once
 
 #include "StringTables/internal/Placeholder.h"
@@ -13,21 +13,21 @@
 namespace StringTables {
 
 struct PluralPiece {
-    Placeholder placeholder; // `end` is behind a variable's name
-    // The variable that is named, "%#@days@", or null.
+    Placeholder placeholder; // `end` is after the "NAME@" of a variable
+    // The variable of "%#@days@", or null for any other placeholder.
     const PluralVariable* variable = nullptr;
-    // The arguments it takes, from 1 on; of a variable the one that chooses its form.
+    // The arguments it takes, counted from 1. For a variable: the argument that selects its form.
     ArgumentCounter::Taken arguments;
 };
 
-// The placeholders of one text in their order. In the format itself each takes the next argument, as in any text. In a
-// form the first is the variable's own number, unless it prints a text and the number is none; so a form without its
-// number, "One file by %@", takes the same arguments as the others. A variable that is named in a form takes the
-// argument that it has in the form where most placeholders come before it.
+// The placeholders of one text in order. In the format itself each takes the next argument, as in any text. In a form
+// the first placeholder takes the variable's own number, unless it prints a text and the number is not one: then a form
+// without its number, such as "One file by %@", takes the same arguments as the other forms. A variable inside a form
+// takes the same argument in all forms: the one after the largest number of placeholders that precede it in any form.
 class PluralPieces {
 public:
     explicit PluralPieces(const PluralFormat& plural) noexcept : plural_(plural), text_(plural.format) {}
-    // Of `form`, one of those of `variable`, which argument `own` has chosen.
+    // For `form`, a form of `variable`; argument `own` is the variable's number.
     PluralPieces(const PluralFormat& plural, std::string_view form, const PluralVariable& variable,
                  std::size_t own) noexcept
         : plural_(plural), text_(form), variable_(&variable), own_(own), counter_(own - 1) {}
@@ -41,13 +41,13 @@ private:
 
     const PluralFormat& plural_;
     std::string_view text_;
-    const PluralVariable* variable_ = nullptr; // whose form it is, or null
+    const PluralVariable* variable_ = nullptr; // whose form this is; null in the format itself
     std::size_t own_ = 0;
     std::size_t at_ = 0;
     ArgumentCounter counter_;
 };
 
-// The arguments that a plural format and all its forms take: of a variable's number the kind of its value type.
+// The arguments that a plural format and all its forms take. The kind of a variable's number is that of its value type.
 [[nodiscard]] FormatSignature signatureOf(const PluralFormat& plural);
 
 } // namespace StringTables

@@ -1,6 +1,6 @@
 // StringTables/internal/PluralTable.h
-// A table of texts that depend on numbers (TABLE.stringsdict): each key has a format whose variables, "%#@days@", are
-// replaced by the form that goes with their number.
+// A table of texts that depend on numbers (TABLE.stringsdict). Each key has a format with variables such as "%#@days@",
+// which are replaced by the plural form for their number.
 // Text: UTF-8. Threads: any, immutable after reading. Ownership: values.
 #pragma once
 
@@ -19,8 +19,8 @@ namespace StringTables {
 
 struct PluralVariable {
     std::string name;      // "days" for "%#@days@"
-    std::string valueType; // the number's placeholder without its '%': "d", "ld", "lu", "f"; never empty
-    // By Intl::PluralCategory; no value where the table gives no form. A form is a format of its own and may contain
+    std::string valueType; // the number's placeholder without '%': "d", "ld", "lu", "f"; never empty
+    // By Intl::PluralCategory; no value when the table has no such form. A form is itself a format and may contain
     // variables.
     std::array<std::optional<std::string>, Intl::pluralCategoryCount> forms;
 
@@ -38,16 +38,16 @@ struct PluralEntry {
     std::string key;
     PluralFormat plural;
     Location location;     // of the key in the source
-    std::string comment{}; // directly before the key, as Table::comments() has them; empty unless they are read
+    std::string comment{}; // as in Table::comments(); empty unless comments are read
 };
 
 class PluralTable {
 public:
-    // Reads a table in the form of a property list, XML or binary. Errors as those of Table; a source of no bytes is an
-    // empty table. Limits: those of Table, maxTextBytes in all texts together, which entries may share in the file.
-    // Throws std::bad_alloc when memory runs out.
+    // Reads a table from a property list, XML or binary. Errors as in Table; an empty source is an empty table. Limits:
+    // those of Table, and maxTextBytes for all texts together (entries may share texts in the file). Throws
+    // std::bad_alloc when memory runs out.
     [[nodiscard]] static Runtime::Result<PluralTable> read(std::string bytes);
-    // The same from the regular file at `path`, which errors and notes name. Comments cost a pass of their own.
+    // The same from the regular file at `path`, which errors and notes name. Reading comments takes a separate pass.
     enum class Comments { areSkipped, areRead };
     [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path,
                                                                Comments comments = Comments::areSkipped);
@@ -55,9 +55,9 @@ public:
 
     // The entry of `key` (exact), or null. Never fails.
     [[nodiscard]] const PluralEntry* find(std::string_view key) const noexcept;
-    // Every key once, in the order of the source; the last of equal keys wins.
+    // Every key once, in source order; the last of equal keys wins.
     [[nodiscard]] std::span<const PluralEntry> entries() const noexcept { return entries_; }
-    // What was skipped and why, with its place, in the order of the source.
+    // What was skipped and why, with its location, in source order.
     [[nodiscard]] std::span<const TableNote> notes() const noexcept { return notes_; }
 
 private:
@@ -68,8 +68,8 @@ private:
     std::vector<TableNote> notes_;
 };
 
-// The bytes of a binary property list with these entries, in this order. The same entries give the same bytes.
-// An error when a text is not UTF-8.
+// Writes a binary property list with these entries, in this order. The same entries give the same bytes.
+// Fails when a text is not UTF-8.
 [[nodiscard]] Runtime::Result<std::string> write(std::span<const PluralEntry> entries);
 
 } // namespace StringTables

@@ -1,5 +1,5 @@
 // StringTables/internal/Scan.h
-// Looks for bytes sixteen at a time where the processor can.
+// Searches for bytes, sixteen at a time with SSE2.
 // Text: any bytes. Nothing outside [at, end) is read.
 #pragma once
 
@@ -50,7 +50,7 @@ inline const char* skipAscii(const char* at, const char* end) noexcept {
     while (end - at >= 16 && ((word(at) | word(at + 8)) & high) == 0)
         at += 16;
 #endif
-    // What is left is short: two loads that may overlap, not a loop whose length nobody can predict.
+    // The rest is short: two possibly overlapping loads are cheaper than a loop of unpredictable length.
     if (end - at >= 8 && ((word(at) | word(end - 8)) & high) == 0)
         return end;
     while (at != end && static_cast<unsigned char>(*at) < 0x80)

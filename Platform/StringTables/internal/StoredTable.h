@@ -1,7 +1,7 @@
 // StringTables/internal/StoredTable.h
-// A table in a bundle, read as far as it is needed: of a compiled table the first few texts are read by themselves,
-// then the file is read whole, once. Nothing is mapped, and no descriptor stays open. Text: UTF-8; the path as the file
-// system has it. Threads: any; look-ups of what was read take no lock. Ownership: views live as long as the table.
+// A table in a bundle, read lazily: the first few texts of a compiled table are read one by one, then the whole file is
+// read once. Nothing is memory-mapped, and no descriptor stays open. Text: UTF-8; the path is raw bytes. Threads: any;
+// lookups are lock-free once the file is read. Ownership: views live as long as the table.
 #pragma once
 
 #include "Runtime/OnceSlot.h"
@@ -26,10 +26,10 @@ public:
     StoredTable& operator=(const StoredTable&) = delete;
     ~StoredTable();
 
-    // The text of `key` (exact), or no value. A missing table has no keys. A damaged one has none either, except that a
-    // compiled table keeps the entries that are intact. Where another file has taken the place of the one that gave the
-    // first texts, they stay, and the rest comes from that.
-    // Throws std::bad_alloc, and std::system_error for a transient error of the system; the next look-up tries again.
+    // The text of `key` (exact), or no value. A missing table has no keys. A damaged one has none either, except for
+    // the intact entries of a compiled table. When the file is replaced after the first texts were read, those texts
+    // stay, and the rest comes from the new file.
+    // Throws std::bad_alloc, and std::system_error for transient errors; the next lookup tries again.
     [[nodiscard]] std::optional<std::string_view> find(std::string_view key) { return find(key, keyHash(key)); }
     // `hash` is keyHash(key). A wrong hash only costs time.
     [[nodiscard]] std::optional<std::string_view> find(std::string_view key, std::uint64_t hash) {
@@ -39,23 +39,23 @@ public:
     }
 
 private:
-    // A look-up that was answered without reading the file whole.
+    // The result of a lookup that did not read the whole file.
     struct Part {
         std::string key;
         std::optional<std::string> text;
         Runtime::OpenFile::Identity file;
     };
-    // So many are cheaper than the whole file.
+    // Up to this number, single reads are cheaper than reading the whole file.
     static constexpr std::size_t mostParts = 3;
 
-    // What is kept of the file in the end.
+    // The whole file, after it was read.
     struct Whole {
         explicit Whole(Table table = {}) noexcept : other(std::move(table)) {}
         Whole(std::string front, const internal::CompiledIndex& index)
             : compiled(std::in_place, std::move(front), index) {}
 
         std::optional<internal::CompiledTable> compiled;
-        Table other; // where it is not a compiled table
+        Table other; // if it is not a compiled table
 
         std::optional<std::string_view> find(std::string_view key, std::uint64_t hash) const noexcept {
             if (!compiled)

@@ -17,12 +17,12 @@ constexpr int hexDigit(char c) noexcept {
 
 struct Unescaped {
     char* end;                // of what was written
-    const char* at = nullptr; // of a bad escape, and what is wrong with it
+    const char* at = nullptr; // of a bad escape, or null
     const char* message = nullptr;
 };
 
-// Writes the characters that `raw`, the inside of a quoted string, stands for at `out`, which has room for raw.size()
-// bytes: no escape is shorter than its character. A character that is not a hexadecimal digit follows `raw`.
+// Decodes `raw`, the inside of a quoted string, into `out`, which has room for raw.size() bytes (no escape is shorter
+// than its character). The byte after `raw` must be readable and not a hexadecimal digit.
 [[nodiscard]] Unescaped unescape(std::string_view raw, char* out) noexcept;
 
 } // namespace StringTables::internal

@@ -1,6 +1,6 @@
 // StringTables/internal/TextSyntax.h
-// The tokens of the text form whose end has to be searched for.
-// Text: [at, end) is followed by a NUL, as in a std::string, so that one character may be read at `end`.
+// Comments and quoted strings of the text form.
+// Text: a NUL follows [at, end), as in a std::string, so that one character can be read at `end`.
 #pragma once
 
 #include "StringTables/internal/Scan.h"
@@ -14,7 +14,8 @@ inline bool beginsComment(const char* at) noexcept {
     return *at == '/' && (at[1] == '/' || at[1] == '*');
 }
 
-// One past the comment that begins at `at`; a line comment ends before its line break. Null if it is never closed.
+// One past the comment that begins at `at`. A line comment ends before its line break. Null if the comment is never
+// closed.
 inline const char* commentEnd(const char* at, const char* end) noexcept {
     if (at[1] == '/')
         return findEither(at + 2, end, '\n', '\r');
@@ -31,7 +32,7 @@ struct QuotedEnd {
 inline QuotedEnd quotedEnd(const char* at, const char* end) noexcept {
     const char* const first = findEither(at + 1, end, *at, '\\');
     const char* close = first;
-    while (*close == '\\') // the character behind a backslash closes nothing
+    while (*close == '\\') // skip the escaped character
         close = findEither(std::min(close + 2, end), end, *at, '\\');
     return {first, close};
 }

@@ -1,5 +1,5 @@
 // StringTables/internal/Unicode.h
-// UTF-8 checked and made. Threads: any; no state.
+// Validates and encodes UTF-8. Threads: any; no state.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 
 namespace StringTables::internal {
 
-// The offset of the first byte of `bytes` that belongs to no well-formed character, or npos.
+// The offset of the first byte that is not part of a well-formed character, or npos.
 [[nodiscard]] std::size_t firstInvalidUtf8(std::string_view bytes) noexcept;
 
 // Writes `code`, a scalar value, at `out` (at most 4 bytes) and returns the end.
@@ -32,7 +32,7 @@ struct Decoded {
 // UTF-16 to UTF-8. `out` has room for three bytes per unit.
 [[nodiscard]] Decoded decodeUtf16(std::string_view bytes, ByteOrder order, char* out) noexcept;
 
-// The character at the front of `utf8`, which is well-formed and not empty; takes it off.
+// Removes the first character of `utf8`, which must be well-formed and not empty, and returns it.
 [[nodiscard]] char32_t takeCharacter(std::string_view& utf8) noexcept;
 
 } // namespace StringTables::internal

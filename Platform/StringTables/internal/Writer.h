@@ -1,6 +1,6 @@
 // StringTables/internal/Writer.h
 // Writes a table in one of its forms. The same entries give the same bytes.
-// Text: UTF-8 in, UTF-8 out (binary: as the form wants it). Threads: any; no state.
+// Text: takes UTF-8; writes UTF-8, or in the binary form ASCII and UTF-16. Threads: any; no state.
 #pragma once
 
 #include "StringTables/internal/Table.h"
@@ -17,17 +17,16 @@ namespace StringTables {
 // table would be larger than Table::maxBytes, as one of few bytes may be whose entries share a long text.
 [[nodiscard]] Runtime::Result<std::string> write(std::span<const Entry> entries, Form form,
                                                  std::span<const std::string> comments = {});
-// The same table in the binary form with an index in it, so that a bundle's reader finds a text without reading the
-// rest (CompiledIndex.h). Every other reader reads a plain dictionary. Without an index, and so as write() makes it: a
-// table whose entries share texts so much that they are together more than twice its size, one with two keys of one
-// hash.
+// The same table in binary form with an index (CompiledIndex.h), so that a bundle finds a text without reading the
+// rest. Other readers see a plain dictionary. The index is left out, and the result is that of write(), when two keys
+// have the same hash, or when entries share texts so much that their total size is more than twice that of the file.
 [[nodiscard]] Runtime::Result<std::string> writeCompiled(std::span<const Entry> entries);
 
-// Appends `text` in quotation marks, as a table of the form text has it.
+// Appends `text` in quotation marks, escaped as in a table in text form.
 void appendQuoted(std::string& out, std::string_view text);
 
-// The limit of Table::maxBytes on what a writer of entries makes. To be asked before the first entry with the size of
-// all keys and texts, and then with the size of what is written.
+// Fails when `size` is over Table::maxBytes. Writers check the total size of all keys and texts first, then the size of
+// what they have written.
 [[nodiscard]] Runtime::Result<void> checkWrittenSize(std::size_t size);
 [[nodiscard]] std::size_t sizeOf(std::span<const Entry> entries) noexcept;
 
