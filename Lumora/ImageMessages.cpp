@@ -1,4 +1,4 @@
-// What the module publishes on the platform's image and colour types to callers who know it by message names only.
+// Publishes the module's functions on image and colour types to callers that use messages.
 #include "Lumora/LegacyImages.h"
 #include "Lumora/LumoraConveniences.h"
 #include "Lumora/ProgressColors.h"

@@ -1,4 +1,4 @@
-// The language in force and what follows from it.
+// The current language and everything that depends on it.
 #include "Lumora/Localization.h"
 
 #include "Lumora/LumoraResources.h"
@@ -18,7 +18,7 @@ namespace {
 constexpr std::array<LocalizationCode, 3> asianLocalizationCodes = {LocalizationCode::ko, LocalizationCode::ja,
                                                                     LocalizationCode::zhHans};
 
-// A list that is made at its first read; empty while there is no memory for it.
+// A list that is created at its first use; an empty one while memory is out.
 template <class Make>
 const std::vector<std::string>& listed(Runtime::OnceSlot<std::vector<std::string>>& slot, Make make) noexcept {
     static constinit Runtime::OnceSlot<std::vector<std::string>> none;
@@ -33,14 +33,14 @@ LocalizationCode detail::languageInForce() {
     return pickLocalizationCode({first, first != nullptr ? 1U : 0U}, LocalizationCode::allCases());
 }
 
-Foundation::Locale detail::localeInForce() {
-    const std::string language = languageInForce().shortId();
+Foundation::Locale detail::currentLocale() {
+    const std::string language = currentCode().shortId();
     Foundation::Locale current = Foundation::Locale::current();
     return current.identifier().starts_with(language) ? std::move(current) : Foundation::Locale(language);
 }
 
 LocalizationCode Localization::currentLanguageCode() {
-    return Runtime::attempt(detail::languageInForce, LocalizationCode(LocalizationCode::en));
+    return Runtime::attempt(detail::currentCode, LocalizationCode(LocalizationCode::en));
 }
 
 std::string Localization::currentLanguage() {
@@ -48,7 +48,7 @@ std::string Localization::currentLanguage() {
 }
 
 Foundation::Locale Localization::currentLocale() {
-    return Runtime::attempt(detail::localeInForce, Foundation::Locale("en"));
+    return Runtime::attempt(detail::currentLocale, Foundation::Locale("en"));
 }
 
 bool Localization::isAsianLocale() {

@@ -1,9 +1,9 @@
 // Lumora/LegacyImages.h
-// The pictures that older screens know by fixed names, each under two: legacyAddDiet() and addDiet(). In the order in which
-// messages know them. Some names do not say what their picture shows, and legacyIconOnce() is iconMonth(): callers rely on
-// it.
-// Threads: any; a picture is looked up at the first read under either name, once, and later reads give the same object.
-// Ownership: the pictures live until the process ends. One that is missing stops the process.
+// The pictures that older screens use by fixed names. Each has two: legacyAddDiet() and addDiet(). The order is that in
+// which the message properties are published. Some names do not match their picture, and legacyIconOnce() is
+// iconMonth(): callers rely on that.
+// Threads: any. A picture is looked up once, at the first call of either function; later calls return the same object.
+// Ownership: the pictures live until the process ends. A missing picture stops the process.
 #pragma once
 
 #include "Runtime/Export.h"

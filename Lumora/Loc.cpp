@@ -12,10 +12,10 @@ struct NSString {
 
 namespace {
 
-// C callers hold texts and numbers by bare pointers and release both by one function, so each lies behind a note of how
-// it is deleted.
+// C callers release strings and numbers with the same function, so each object is preceded by a header with its
+// deleter.
 struct Header {
-    void (*release)(Header* dying);
+    void (*destroy)(Header* header);
 };
 constexpr std::size_t headerSize = alignof(std::max_align_t);
 static_assert(sizeof(Header) <= headerSize);
@@ -25,12 +25,12 @@ template <class T> struct Object : Header {
 };
 
 template <class T, class... Parts> T* create(Parts&&... parts) {
-    constexpr auto release = [](Header* dying) { delete static_cast<Object<T>*>(dying); };
-    return &(new Object<T>{{release}, T{std::forward<Parts>(parts)...}})->value;
+    constexpr auto destroy = [](Header* header) { delete static_cast<Object<T>*>(header); };
+    return &(new Object<T>{{destroy}, T{std::forward<Parts>(parts)...}})->value;
 }
 
-// Runs `make` and hands its object to a C caller, through whom nothing may be thrown.
-template <class Make> auto handOver(Make make) noexcept -> decltype(make()) {
+// Returns the object that `make` creates, or null when it throws: exceptions must not reach C callers.
+template <class Make> auto createForC(Make make) noexcept -> decltype(make()) {
     try {
         return make();
     } catch (...) {
@@ -38,8 +38,9 @@ template <class Make> auto handOver(Make make) noexcept -> decltype(make()) {
     }
 }
 
-template <class... Arguments> NSString* answer(std::string_view selector, const Arguments&... arguments) noexcept {
-    return handOver([&] {
+template <class... Arguments>
+NSString* sendToLocalization(std::string_view selector, const Arguments&... arguments) noexcept {
+    return createForC([&] {
         static constinit Runtime::OnceSlot<const Runtime::Class*> localization;
         const Runtime::Class* cls = localization.get([] { return Runtime::classNamed("Lumora.Localization"); });
         return create<NSString>(Runtime::send<std::string>(cls, selector, arguments...));
@@ -49,7 +50,7 @@ template <class... Arguments> NSString* answer(std::string_view selector, const 
 } // namespace
 
 NSString* NSStringCreate(const char* utf8) {
-    return handOver([&] { return create<NSString>(utf8 == nullptr ? "" : utf8); });
+    return createForC([&] { return create<NSString>(utf8 == nullptr ? "" : utf8); });
 }
 
 const char* NSStringUTF8(const NSString* string) {
@@ -57,23 +58,23 @@ const char* NSStringUTF8(const NSString* string) {
 }
 
 NSNumber* NSNumberCreateInteger(int64_t value) {
-    return handOver([&] { return create<NSNumber>(value); });
+    return createForC([&] { return create<NSNumber>(value); });
 }
 
 NSNumber* NSNumberCreateDouble(double value) {
-    return handOver([&] { return create<NSNumber>(value); });
+    return createForC([&] { return create<NSNumber>(value); });
 }
 
 void NSRelease(const void* object) {
     if (object == nullptr)
         return;
-    std::byte* header = static_cast<std::byte*>(const_cast<void*>(object)) - headerSize;
-    Header* dying = std::launder(reinterpret_cast<Header*>(header));
-    dying->release(dying);
+    std::byte* bytes = static_cast<std::byte*>(const_cast<void*>(object)) - headerSize;
+    Header* header = std::launder(reinterpret_cast<Header*>(bytes));
+    header->destroy(header);
 }
 
 NSString* Loc(const NSString* key) {
-    return key == nullptr ? NSStringCreate("") : answer("legacyTr:", key->text);
+    return key == nullptr ? NSStringCreate("") : sendToLocalization("legacyTr:", key->text);
 }
 
 NSString* LocNumber(const NSNumber* number) {
@@ -81,11 +82,11 @@ NSString* LocNumber(const NSNumber* number) {
 }
 
 NSString* LocNumberWithPositivePrefix(const NSNumber* number, bool needSign) {
-    return number == nullptr ? NSStringCreate("") : answer("legacyTrNumber:needSign:", *number, needSign);
+    return number == nullptr ? NSStringCreate("") : sendToLocalization("legacyTrNumber:needSign:", *number, needSign);
 }
 
 NSString* LocAge(NSInteger age) {
-    return answer("legacyTrAge:", age);
+    return sendToLocalization("legacyTrAge:", age);
 }
 
 NSString* LocPercent(CGFloat value) {
@@ -93,5 +94,5 @@ NSString* LocPercent(CGFloat value) {
 }
 
 NSString* LocPercentSigned(CGFloat value, bool showPlus) {
-    return answer("legacyTrPercent:showPlus:", value, showPlus);
+    return sendToLocalization("legacyTrPercent:showPlus:", value, showPlus);
 }

@@ -1,8 +1,8 @@
 /* Lumora/Loc.h
  * The localization services for C: C11 and C++.
  * Text: UTF-8. Threads: every function from any thread.
- * Ownership: whatever a function returns belongs to its caller, who gives it back with NSRelease(); arguments stay the
- * caller's. A null argument is harmless. A function returns null only when memory is out. */
+ * Ownership: the caller releases every result with NSRelease(); arguments still belong to the
+ * caller. Null arguments are allowed. A function returns null only when memory runs out. */
 #ifndef LUMORA_LOC_H
 #define LUMORA_LOC_H
 
@@ -26,27 +26,27 @@ typedef double CGFloat;
 
 #define LUMORA_C_EXPORT __attribute__((visibility("default")))
 
-/* A text object with a copy of `utf8`; null makes the empty text. */
+/* Creates a string with a copy of `utf8`; null gives the empty string. */
 LUMORA_C_EXPORT NSString* NSStringCreate(const char* utf8);
-/* The text, ended by a NUL, as long as `string` lives; "" for null. */
+/* The NUL-terminated text, valid as long as `string` lives; "" for null. */
 LUMORA_C_EXPORT const char* NSStringUTF8(const NSString* string);
 LUMORA_C_EXPORT NSNumber* NSNumberCreateInteger(int64_t value);
 LUMORA_C_EXPORT NSNumber* NSNumberCreateDouble(double value);
-/* Gives back what one of these functions returned, once. */
+/* Releases a result of one of these functions. Call it once for each. Null is allowed. */
 LUMORA_C_EXPORT void NSRelease(const void* object);
 
-/* The text of `key` in the language in force, its placeholders as they stand; the key itself when it has none; the
- * empty text for null. */
+/* The text of `key` in the current language, without formatting; the key itself when it has no text; the empty string
+ * for null. */
 LUMORA_C_EXPORT NSString* Loc(const NSString* key);
-/* The number in the user's locale, without a plus sign; the empty text for null. */
+/* The number in the user's locale, without a plus sign; the empty string for null. */
 LUMORA_C_EXPORT NSString* LocNumber(const NSNumber* number);
-/* The same, with a plus sign before what is not negative if `needSign` says so. */
+/* The same; with `needSign`, nonnegative numbers have a plus sign. */
 LUMORA_C_EXPORT NSString* LocNumberWithPositivePrefix(const NSNumber* number, bool needSign);
-/* An age in years, in words. */
+/* An age in years as a phrase: "25 years". */
 LUMORA_C_EXPORT NSString* LocAge(NSInteger age);
 /* A fraction as a percentage: 0.25 is "25%". */
 LUMORA_C_EXPORT NSString* LocPercent(CGFloat value);
-/* The same, with a plus sign before what is above zero if `showPlus` says so. */
+/* The same; with `showPlus`, positive values have a plus sign. */
 LUMORA_C_EXPORT NSString* LocPercentSigned(CGFloat value, bool showPlus);
 
 #ifdef __cplusplus

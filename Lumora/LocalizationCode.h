@@ -1,5 +1,5 @@
 // Lumora/LocalizationCode.h
-// The languages that the application speaks.
+// The languages that the application supports.
 // Text: ASCII. Threads: values and constants.
 #pragma once
 
@@ -20,14 +20,14 @@ public:
 
     // Every case, in declaration order.
     [[nodiscard]] static std::span<const LocalizationCode> allCases() noexcept;
-    // The case of exactly that raw value, case-sensitive, or none.
+    // The case with that raw value (exact), or no value.
     [[nodiscard]] static std::optional<LocalizationCode> fromRawValue(std::string_view text) noexcept;
 
     // "es-419"
     [[nodiscard]] std::string rawValue() const;
-    // Names the localization: the raw value.
+    // The raw value.
     [[nodiscard]] std::string id() const { return rawValue(); }
-    // Names the language alone: "es" for both "es" and "es-419".
+    // The language without region or script: "es" for both "es" and "es-419".
     [[nodiscard]] std::string shortId() const;
 
     friend constexpr bool operator==(LocalizationCode, LocalizationCode) noexcept = default;

@@ -1,6 +1,6 @@
 // Lumora/LumoraStrings+Members.h
-// The members of LumoraStrings::Localizable that are made by hand: plural forms, quantity phrases, signed numbers.
-// Text: UTF-8. Threads: any; the words are texts of the main table, kept from their first read on.
+// The hand-written members of LumoraStrings::Localizable: plural forms, quantity phrases, signed numbers. Text: UTF-8.
+// Threads: any. The words come from the main table and are cached at their first use.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -16,8 +16,8 @@ struct PluralForms {
     std::string many;
 };
 
-// The form that goes with `count`: by its last digit, the last form for counts that end in 11 to 19, and for every
-// negative one. The rule is the same in all languages; the words are the language's.
+// The form for `count`, selected by its last digit; `many` for counts that end in 11 to 19 and for negative counts. The
+// rule is the same in all languages.
 [[nodiscard]] LUMORA_EXPORT std::string getSuffix(std::int64_t count, const PluralForms& forms);
 
 // The count in plain decimal, a space and the noun: "3 days".
@@ -26,7 +26,7 @@ struct PluralForms {
 [[nodiscard]] LUMORA_EXPORT std::string locHours(std::int64_t count);
 [[nodiscard]] LUMORA_EXPORT std::string locWeeks(std::int64_t count);
 
-// Localization::legacyTrNumber() of a whole number.
+// Localization::legacyTrNumber() for an integer.
 [[nodiscard]] LUMORA_EXPORT std::string locNumber(std::int64_t number, bool needSign);
 
 } // namespace Lumora::LumoraStrings::Localizable

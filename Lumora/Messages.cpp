@@ -1,4 +1,4 @@
-// What the module publishes of its localization services to callers who know them by message names only.
+// Publishes the localization services to callers that use messages.
 #include "Lumora/Localization.h"
 #include "Runtime/Class.h"
 
@@ -6,7 +6,7 @@ namespace Lumora {
 
 namespace {
 
-// Messages carry owned texts and lists.
+// Messages cannot pass references and views, so these return and take copies.
 std::vector<std::string> allSupportedLocalizations() {
     return Localization::allSupportedLocalizations();
 }

@@ -20,7 +20,7 @@ using Foundation::NSNumberFormatter;
 
 namespace {
 
-// Whose percentages are left to the platform: their sign stands elsewhere.
+// Languages whose percentages are formatted by the platform, because they place the percent sign differently.
 constexpr std::array<LocalizationCode, 2> localePercentCodes = {LocalizationCode::ar, LocalizationCode::tr};
 
 std::string localePercent(double value) {
@@ -31,7 +31,7 @@ std::string localePercent(double value) {
 
 std::string plainPercent(double value) {
     static_assert(std::numeric_limits<float>::is_iec559, "an overflow to single precision must be an infinity");
-    // Single precision is meant: it decides how values near a half are rounded. Adding zero takes the sign off a zero.
+    // Single precision is intended: it decides how values near a half are rounded. Adding zero turns -0 into 0.
     const float percent = std::round(static_cast<float>(value) * 100.0F) + 0.0F;
     if (std::isnan(percent))
         return "NaN%";
@@ -53,7 +53,7 @@ std::string Localization::legacyTrNumber(const NSNumber& number, bool needSign) 
         if (needSign)
             formatter.setPositivePrefix(formatter.plusSign());
         std::optional<std::string> text = formatter.stringFromNumber(number);
-        // A signed number without a text is a broken invariant, an unsigned one is not: older screens rely on both.
+        // Older screens rely on this difference: only a signed number without a text is fatal.
         if (!text && needSign)
             Runtime::fatalError("Unable to format a signed number", "Localization+Lumora", __LINE__);
         return std::move(text).value_or("");
@@ -62,8 +62,7 @@ std::string Localization::legacyTrNumber(const NSNumber& number, bool needSign) 
 
 std::string Localization::legacyTrPercent(double value, bool showPlus) {
     return Runtime::attempt([&]() -> std::string {
-        const bool isLocal =
-            std::ranges::find(localePercentCodes, detail::languageInForce()) != localePercentCodes.end();
+        const bool isLocal = std::ranges::find(localePercentCodes, detail::currentCode()) != localePercentCodes.end();
         std::string text = isLocal ? localePercent(value) : plainPercent(value);
         return showPlus && value > 0.0 ? "+" + text : text;
     });

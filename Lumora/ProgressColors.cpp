@@ -10,7 +10,7 @@ UIKit::UIColor UIColor::watchProgress(double progress, const UIKit::UIColor& bas
         return base;
     double done = progress > 1.0 ? 1.0 : progress;
     done = done <= 0.0 ? 0.0 : done;
-    // The comparisons are written so that a progress that is no number goes through to the components.
+    // These comparisons propagate NaN to the components.
     const double missing = 1.0 - done;
     const double red = missing + missing <= end->red ? end->red : missing + missing;
     const double green = end->green < done + done ? end->green : done + done;

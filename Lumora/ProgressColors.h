@@ -1,5 +1,5 @@
 // Lumora/ProgressColors.h
-// A colour for how far a goal is reached: from red (nothing) through yellow (half) to a base colour (all).
+// A colour for progress towards a goal: from red (none) through yellow (half) to a base colour (reached).
 // Threads: any; no state.
 #pragma once
 
@@ -11,10 +11,10 @@ namespace Lumora {
 
 namespace UIColor {
 
-// The colour of `progress`, taken as 0 below 0 and as 1 above 1, on the base of the catalog's "progressGreen". Opaque.
-// Its red goes beyond 1 below the half, as far as 2 at 0; a progress that is no number gives components that are none.
+// The colour for `progress`, clamped to 0 to 1, with the catalog's "progressGreen" as base. Opaque. Below one half its
+// red component is above 1, up to 2 at progress 0. NaN gives NaN components.
 [[nodiscard]] LUMORA_EXPORT UIKit::UIColor colorForProgress(double progress);
-// The same on a base of the caller's; the base itself when it has no components of red, green and blue.
+// The same with another base colour. Returns the base itself if it has no RGB components.
 [[nodiscard]] LUMORA_EXPORT UIKit::UIColor watchProgress(double progress, const UIKit::UIColor& base);
 [[nodiscard]] LUMORA_EXPORT UIKit::UIColor color(const UIKit::UIColor& base, double progress);
 

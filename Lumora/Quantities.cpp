@@ -17,7 +17,7 @@ namespace LumoraStrings::Localizable {
 
 namespace {
 
-// Remainders keep the sign of the count, so that a negative one always takes `many`.
+// Remainders keep the sign of the count, so a negative count always selects `many`.
 const std::string& chosen(std::int64_t count, const std::string& one, const std::string& two, const std::string& many) {
     if (const std::int64_t tail = count % 100; tail >= 11 && tail <= 19)
         return many;
@@ -64,7 +64,7 @@ std::string locWeeks(std::int64_t count) {
 
 namespace {
 
-// Whose ages are phrases of the table. That Russian is not among them, though the rule is its own, is meant.
+// Languages whose ages are phrases of the table. Russian is left out on purpose, although the plural rule is Russian.
 constexpr std::array<LocalizationCode, 7> keyedAgeCodes = {
     LocalizationCode::en, LocalizationCode::de, LocalizationCode::tr,    LocalizationCode::ko,
     LocalizationCode::vi, LocalizationCode::ja, LocalizationCode::zhHans};
@@ -74,7 +74,7 @@ constexpr std::array<LocalizationCode, 7> keyedAgeCodes = {
 std::string Localization::legacyTrYear(std::int64_t value) {
     return Runtime::attempt([&]() -> std::string {
         Foundation::NSCalendar calendar = Foundation::NSCalendar::current();
-        calendar.setLocale(detail::localeInForce());
+        calendar.setLocale(detail::currentLocale());
         Foundation::NSDateComponentsFormatter formatter;
         formatter.setAllowedUnits(Foundation::NSCalendarUnit::year);
         formatter.setUnitsStyle(Foundation::NSDateComponentsFormatter::UnitsStyle::full);
@@ -88,7 +88,7 @@ std::string Localization::legacyTrYear(std::int64_t value) {
 
 std::string Localization::legacyTrAge(std::int64_t age) {
     return Runtime::attempt([&] {
-        const bool isKeyed = std::ranges::find(keyedAgeCodes, detail::languageInForce()) != keyedAgeCodes.end();
+        const bool isKeyed = std::ranges::find(keyedAgeCodes, detail::currentCode()) != keyedAgeCodes.end();
         return isKeyed ? LumoraStrings::Localizable::locYears(age) : legacyTrYear(age);
     });
 }

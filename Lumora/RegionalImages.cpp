@@ -7,7 +7,7 @@ namespace Lumora::UIImage {
 
 namespace {
 
-// Kept, as older screens' sources name it; pictures come from LumoraResources::bundle() only.
+// Unused, but sources of older screens expect this name. Pictures come from LumoraResources::bundle().
 class ResourceBundleClass {};
 
 using Candidates = std::initializer_list<const char*>;

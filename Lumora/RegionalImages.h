@@ -1,9 +1,9 @@
 // Lumora/RegionalImages.h
 // Pictures that come in variants for a market region and for the user's sex.
-// A region is "arab", "asia", "europe", "latina" or "usa", compared with the end of a picture's name, letter for
-// letter: an empty region takes the first variant, an unknown one the default. The training targets know the regions
-// "ru" and "ar" and the genders "male" and "female", compared whole. Text: UTF-8. Threads: any. A picture that is
-// chosen and missing stops the process.
+// A region is "arab", "asia", "europe", "latina" or "usa". It is compared with the end of a picture's name: an empty
+// region selects the first variant, an unknown one the default. For the training targets the regions are "ru" and "ar"
+// and the genders "male" and "female", compared exactly. Text: UTF-8. Threads: any. A missing picture stops the
+// process.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -28,11 +28,11 @@ namespace Lumora::UIImage {
 [[nodiscard]] LUMORA_EXPORT std::optional<UIKit::UIImage> assetOnboarding(std::int64_t step, std::string_view region);
 [[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetOnboardingStep1(std::string_view region);
 [[nodiscard]] LUMORA_EXPORT UIKit::UIImage assetOnboardingStep2(std::string_view region);
-// Optional by their declaration, as callers know them; there always is a picture.
+// Always have a value; the type is optional for existing callers.
 [[nodiscard]] LUMORA_EXPORT std::optional<UIKit::UIImage> assetOnboardingStep3(std::string_view region);
 [[nodiscard]] LUMORA_EXPORT std::optional<UIKit::UIImage> assetOnboardingStep4(std::string_view region);
 
-// Pictures of Russian users and of Arab men; everybody else gets that of an Arab woman.
+// There are pictures of Russian men and women and of Arab men; all others get the picture of an Arab woman.
 [[nodiscard]] LUMORA_EXPORT UIKit::UIImage trainingTagetLossImage(std::string_view gender, std::string_view region);
 [[nodiscard]] LUMORA_EXPORT UIKit::UIImage trainingTagetGainImage(std::string_view gender, std::string_view region);
 [[nodiscard]] LUMORA_EXPORT UIKit::UIImage trainingTagetMaintainImage(std::string_view gender, std::string_view region);

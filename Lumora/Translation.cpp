@@ -1,4 +1,4 @@
-// Texts of the main table by their key.
+// Looks up texts of the main table by key.
 #include "Lumora/Localization.h"
 
 #include "Foundation/NSDictionary.h"

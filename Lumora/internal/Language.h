@@ -1,5 +1,5 @@
 // Lumora/internal/Language.h
-// The choices behind Localization; internal.
+// How Localization selects language and locale; internal.
 // Threads: any.
 #pragma once
 

@@ -13,7 +13,7 @@ Runtime::Result<std::vector<std::uint8_t>> Blob::read() const {
     if (!filled)
         return filled.error();
     if (*filled != length)
-        return blobs->file_->error("has been cut short");
+        return blobs->file_->error("was truncated after it was opened");
     return bytes;
 }
 

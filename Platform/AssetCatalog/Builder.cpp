@@ -22,22 +22,22 @@ Format::Insets formatted(const Insets& insets) {
     return {insets.top, insets.left, insets.bottom, insets.right};
 }
 
-// Sorts the variants by their readers and keeps the first for the same readers.
+// Sorts the variants by what they are for and keeps the first of equal ones.
 template <class Variant> void order(std::vector<Variant>& variants) {
     const auto key = [](const Variant& variant) {
         const Fit& fit = variant.fit;
         return std::tuple(std::string_view(variant.language), fit.direction, fit.appearance, fit.contrast, fit.scale);
     };
     std::ranges::stable_sort(variants, {}, key);
-    const auto areTwins = [&key](const auto& one, const auto& other) { return key(one) == key(other); };
-    // Not the one of std::ranges, which clang 14 cannot compile with this standard library.
-    variants.erase(std::unique(variants.begin(), variants.end(), areTwins), variants.end());
+    const auto isSame = [&key](const auto& one, const auto& other) { return key(one) == key(other); };
+    // Not std::ranges::unique: clang 14 cannot compile it with this standard library.
+    variants.erase(std::unique(variants.begin(), variants.end(), isSame), variants.end());
 }
 
-// Blobs in the order in which they were added, equal ones once.
+// The distinct blobs in the order in which they were added.
 class BlobList {
 public:
-    // The offset among the blobs.
+    // Adds a blob and returns its offset from the first blob.
     std::uint64_t add(const Bytes& bytes) {
         const auto [known, isNew] = offsets_.try_emplace(*bytes, size_);
         if (isNew) {
@@ -48,7 +48,7 @@ public:
     }
 
     std::uint64_t size() const { return size_; }
-    // Hands everything over to the catalog whose index is `built.index`.
+    // Moves the blobs into `built`, whose index is complete.
     void moveTo(BuiltCatalog& built) {
         for (auto& [bytes, offset] : offsets_)
             offset += built.index.size();
@@ -66,7 +66,7 @@ class Writer {
 public:
     void add(Asset& asset) {
         hashes_.push_back(hashOf(asset));
-        // FlatBuffers are written from the end: parts before the table that holds them.
+        // FlatBuffers are built bottom-up: children before the table that contains them.
         const auto catalog = buffer_.CreateSharedString(asset.catalog);
         const auto name = buffer_.CreateString(asset.name);
         List<Format::Picture> pictures;
@@ -135,7 +135,7 @@ private:
                                   text(data.typeIdentifier));
     }
 
-    // An empty text is left out.
+    // Empty strings are omitted.
     flatbuffers::Offset<flatbuffers::String> text(const std::string& text) {
         return text.empty() ? 0 : buffer_.CreateSharedString(text);
     }
@@ -167,13 +167,13 @@ std::string BuiltCatalog::bytes() const {
 
 Runtime::Result<BuiltCatalog> build(std::vector<Asset> assets) {
     std::ranges::sort(assets, {}, hashOf);
-    if (const auto twin = std::ranges::adjacent_find(assets, {}, hashOf); twin != assets.end())
-        return Runtime::Error{.message = "two assets of one kind are named \"" + twin->name + "\"", .file = {}};
+    if (const auto same = std::ranges::adjacent_find(assets, {}, hashOf); same != assets.end())
+        return Runtime::Error{.message = "two assets of one kind are named \"" + same->name + "\"", .file = {}};
     Writer writer;
     for (Asset& asset : assets)
         writer.add(asset);
     BuiltCatalog built = writer.finish();
-    // The reader's own checks: a catalog that it would refuse is not written.
+    // Run the reader's checks, so that no catalog is written that it would reject.
     std::uint64_t total = 0;
     for (const std::string_view piece : built.pieces())
         total += piece.size();

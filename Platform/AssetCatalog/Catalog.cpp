@@ -12,7 +12,7 @@ namespace {
 
 using Place = flatbuffers::uoffset_t;
 
-// The index has been checked: every number is one of its enumeration.
+// The casts are safe: check() has validated the enumerators.
 Fit fitOf(const Format::Fit& fit) noexcept {
     return {static_cast<Appearance>(fit.appearance()), static_cast<Contrast>(fit.contrast()),
             static_cast<Direction>(fit.direction()), fit.scale()};
@@ -26,7 +26,7 @@ std::string_view textOf(const flatbuffers::String* text) noexcept {
     return text == nullptr ? std::string_view() : text->string_view();
 }
 
-// Calls `use` with the variant, whose type depends on the asset's kind.
+// Calls `use` with the variant, whose type depends on the kind.
 template <class Use> auto withVariant(const Format::Asset& asset, Kind kind, std::size_t variant, Use use) noexcept {
     const auto place = static_cast<Place>(variant);
     switch (kind) {
@@ -133,10 +133,10 @@ Runtime::Result<Catalog> Catalog::open(const std::string& path) {
     const auto filled = file->read(bytes.get(), *size, 0);
     if (!filled)
         return filled.error();
-    // The file may have changed meanwhile; the size must still be the one that memory was taken for.
+    // The file may have changed between the two reads: the size must still match the allocated memory.
     auto sameSize = indexBytes({bytes.get(), *filled}, *filled);
     if (!sameSize || *sameSize != *size)
-        return file->error("has been changed while it was read");
+        return file->error("was changed while it was read");
     auto index = check({bytes.get(), *size}, file->size());
     if (!index)
         return failure(index.error());

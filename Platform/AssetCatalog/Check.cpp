@@ -39,14 +39,14 @@ class AssetCheck {
 public:
     AssetCheck(const Format::Asset& asset, std::uint64_t blobBytes) : asset_(asset), blobBytes_(blobBytes) {}
 
-    // What is wrong, or null.
+    // An error message, or null.
     const char* fault() const {
         if (asset_.name()->size() == 0 || asset_.name()->size() > maxNameBytes)
-            return "has a name that is empty or too long";
+            return "has an empty or too long name";
         if (!isShort(asset_.catalog()))
-            return "is in a catalog with too long a name";
+            return "is in a catalog whose name is too long";
         if (!within(asset_.rendering(), Rendering::asTemplate))
-            return "is drawn in an unknown way";
+            return "has an unknown rendering mode";
         switch (static_cast<Kind>(asset_.kind())) {
         case Kind::image:
             return all(asset_.pictures());
@@ -61,10 +61,10 @@ public:
 private:
     template <class Vector> const char* all(const Vector* variants) const {
         if (variants == nullptr || variants->size() == 0 || variants->size() > maxVariants)
-            return "has no variant or too many";
+            return "has no variants or too many";
         for (const auto* variant : *variants) {
             if (!isSound(*variant->fit()) || !isShort(variant->language()))
-                return "has a variant for unknown readers";
+                return "has a variant with invalid traits or language";
             if (const char* found = fault(*variant))
                 return found;
         }
@@ -78,25 +78,25 @@ private:
         const auto isPositive = [](double points) { return std::isfinite(points) && points > 0; };
         if (picture.size() == 0 || picture.width() == 0 || picture.height() == 0 ||
             std::uint64_t{picture.width()} * picture.height() > maxPixels)
-            return "has a picture without pixels or with too many";
+            return "has a picture with no pixels or too many";
         if (!isPositive(picture.points()->width()) || !isPositive(picture.points()->height()))
-            return "has a picture without a size";
+            return "has a picture with an invalid size in points";
         if (!within(picture.resizing(), Resizing::tile) || !isSound(picture.cap_insets()) ||
             !isSound(picture.alignment_insets()))
-            return "has a picture with impossible insets";
+            return "has a picture with invalid insets or resizing mode";
         return holds(picture.offset(), picture.size()) ? nullptr : "has a picture outside of the catalog";
     }
     static const char* fault(const Format::Color& color) {
         if (!within(color.space(), ColorSpace::gray))
-            return "has a colour of an unknown space";
+            return "has a colour in an unknown colour space";
         const Format::Components& components = *color.components();
         const bool isSound = std::isfinite(components.first()) && std::isfinite(components.second()) &&
                              std::isfinite(components.third()) && components.alpha() >= 0 && components.alpha() <= 1;
-        return isSound ? nullptr : "has a colour with impossible components";
+        return isSound ? nullptr : "has a colour with invalid components";
     }
     const char* fault(const Format::Data& data) const {
         if (!isShort(data.type()))
-            return "has data with too long a type";
+            return "has data whose type identifier is too long";
         return holds(data.offset(), data.size()) ? nullptr : "has data outside of the catalog";
     }
 
@@ -104,15 +104,15 @@ private:
     std::uint64_t blobBytes_;
 };
 
-// The names first: ascending hashes that match the names mean that no asset is there twice. `indexBytes` bounds the
-// names together, which could otherwise share the bytes of one.
+// Ascending hashes that match the names guarantee that no asset occurs twice. `indexBytes` limits the total size of the
+// names, because damaged entries could all share one long name.
 Runtime::Result<void> checkAssets(const Format::Catalog& index, std::size_t indexBytes) {
     const auto& hashes = *index.hashes();
     const auto& assets = *index.assets();
-    // The container's verifier does not check that the elements of a vector are aligned.
+    // The FlatBuffers verifier does not check the alignment of vector elements.
     const bool isAligned = reinterpret_cast<std::uintptr_t>(hashes.Data()) % alignof(std::uint64_t) == 0;
     if (!isAligned || hashes.size() != assets.size() || assets.size() > maxAssets)
-        return damaged("the order of its assets is lost");
+        return damaged("its lists of hashes and assets do not match");
     std::size_t nameBytes = 0;
     for (flatbuffers::uoffset_t i = 0; i < assets.size(); ++i) {
         const Format::Asset& asset = *assets[i];
@@ -120,10 +120,10 @@ Runtime::Result<void> checkAssets(const Format::Catalog& index, std::size_t inde
             return damagedAsset(asset, fault);
         if ((i != 0 && hashes[i - 1] >= hashes[i]) ||
             hashes[i] != Format::hashOf(static_cast<Kind>(asset.kind()), asset.name()->string_view()))
-            return damagedAsset(asset, "is not in its place");
+            return damagedAsset(asset, "is out of order");
         nameBytes += asset.name()->size();
         if (nameBytes > indexBytes)
-            return damaged("its names are longer than it is");
+            return damaged("its names are longer than its index");
     }
     return {};
 }
@@ -136,13 +136,13 @@ Runtime::Result<std::size_t> indexBytes(std::span<const std::uint8_t> head, std:
     const std::size_t size =
         Format::aligned(flatbuffers::GetPrefixedSize(head.data()) + sizeof(flatbuffers::uoffset_t));
     if (size > maxIndexBytes || size > total)
-        return damaged("its index is cut off or too large");
+        return damaged("its index is truncated or too large");
     return size;
 }
 
 Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> bytes, std::uint64_t total) {
-    // An asset or variant that is not shared takes at least twelve bytes. A catalog in which many assets share one
-    // list of variants would take quadratic time; ours share none.
+    // Each table that is not shared takes at least twelve bytes. This limit rejects files in which many assets share
+    // one list of variants, which would take quadratic time; our builder never shares lists.
     const flatbuffers::Verifier::Options limits{
         .max_depth = 3, .max_tables = static_cast<flatbuffers::uoffset_t>(bytes.size() / 12 + 1)};
     flatbuffers::Verifier verifier(bytes.data(),
@@ -154,7 +154,7 @@ Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> byte
         return fault("is a catalog of version " + std::to_string(index.version()) + "; this program reads version " +
                      std::to_string(Format::version));
     if (index.blob_bytes() != total - bytes.size())
-        return damaged("it is cut off");
+        return damaged("it is truncated");
     if (auto sound = checkAssets(index, bytes.size()); !sound)
         return std::move(sound.error());
     return &index;

@@ -6,7 +6,7 @@ namespace AssetCatalog {
 
 namespace {
 
-// For a quality with three values, of which 0 is "any" and 1 the more usual one. From 0 to 2.
+// The distance, 0 to 2, for a trait with three values: 0 is "any", 1 is the more common one.
 template <class Quality> std::uint32_t threeWay(Quality offered, Quality wanted) noexcept {
     if (offered == wanted)
         return 0;
@@ -15,7 +15,7 @@ template <class Quality> std::uint32_t threeWay(Quality offered, Quality wanted)
     return offered == Quality::any ? 1 : 2;
 }
 
-// "pt" and "pt-BR" of "pt-BR".
+// Whether `part` is `tag` or a prefix of its subtags: "pt" and "pt-BR" for "pt-BR".
 bool isTagOrItsBeginning(std::string_view part, std::string_view tag) noexcept {
     return tag.starts_with(part) && (tag.size() == part.size() || tag[part.size()] == '-');
 }

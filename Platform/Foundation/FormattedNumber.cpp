@@ -138,7 +138,10 @@ Padding appendHexadecimal(std::string& out, const Conversion& conversion, double
 Padding appendNotFinite(std::string& out, const Placeholder& placeholder, double value) {
     const bool isUpper = placeholder.conversion >= 'A' && placeholder.conversion <= 'Z';
     out += std::signbit(value) ? std::string_view("-") : flaggedSign(placeholder, "+");
-    out += std::isnan(value) ? (isUpper ? "NAN" : "nan") : (isUpper ? "INF" : "inf");
+    if (std::isnan(value))
+        out += isUpper ? "NAN" : "nan";
+    else
+        out += isUpper ? "INF" : "inf";
     return std::nullopt;
 }
 

@@ -6,6 +6,7 @@
 #include "Runtime/internal/ForkLock.h"
 #include <algorithm>
 #include <cstdlib>
+#include <initializer_list>
 
 namespace Foundation {
 
@@ -84,11 +85,18 @@ std::string_view accepted(std::string_view identifier) noexcept {
     return identifier.size() <= Host::longestLocale ? identifier : std::string_view();
 }
 
+std::string_view firstNonEmpty(std::initializer_list<std::string_view> values) noexcept {
+    for (const std::string_view value : values)
+        if (!value.empty())
+            return value;
+    return {};
+}
+
 Settings environmentSettings() {
     const std::string_view all = environment("LC_ALL"), messages = environment("LC_MESSAGES"),
                            rest = environment("LANG");
-    const std::string_view language = !all.empty() ? all : !messages.empty() ? messages : rest;
-    const std::string_view identifier = !all.empty() ? all : !isPlain(rest) ? rest : messages;
+    const std::string_view language = firstNonEmpty({all, messages, rest});
+    const std::string_view identifier = firstNonEmpty({all, isPlain(rest) ? messages : rest});
     return {.languages = environmentLanguages(language),
             .locale = std::string(isPlain(identifier) ? plainLocale
                                                       : accepted(withoutSuffix(withoutSuffix(identifier, '@'), '.')))};
@@ -126,7 +134,11 @@ std::string languageTag(std::string_view hostName) {
     const std::string_view modifier = at == std::string_view::npos ? std::string_view() : hostName.substr(at + 1);
     std::string tag(name);
     std::ranges::replace(tag, '_', '-');
-    const std::string_view script = modifier == "latin" ? "-Latn" : modifier == "cyrillic" ? "-Cyrl" : "";
+    std::string_view script;
+    if (modifier == "latin")
+        script = "-Latn";
+    else if (modifier == "cyrillic")
+        script = "-Cyrl";
     return tag.insert(std::min(tag.find('-'), tag.size()), script);
 }
 

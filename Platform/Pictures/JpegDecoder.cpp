@@ -63,14 +63,14 @@ public:
 private:
     static JpegReader& of(const jpeg_common_struct& jpeg) { return *static_cast<JpegReader*>(jpeg.client_data); }
 
-    // A small file can ask for thousands of passes over a large picture.
+    // A small file can require thousands of passes over a large picture.
     static void limitScans(jpeg_common_struct& jpeg) {
         constexpr int maxScans = 200;
         if (jpeg.is_decompressor && reinterpret_cast<jpeg_decompress_struct&>(jpeg).input_scan_number > maxScans)
             of(jpeg).fail();
     }
 
-    // In place. Files marked as the usual program writes them store the inks inverted.
+    // Converts CMYK in place. Files with an Adobe marker store inverted values.
     void toRgba(std::uint8_t* pixel, const std::uint8_t* end) const {
         const unsigned flip = jpeg_.saw_Adobe_marker ? 0 : 255;
         for (; pixel != end; pixel += 4) {

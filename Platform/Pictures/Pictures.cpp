@@ -1,10 +1,11 @@
 #include "Pictures/internal/Pictures.h"
 
 #include "Pictures/internal/Decoders.h"
+#include "Runtime/OnceSlot.h"
 #include "Runtime/internal/Plugin.h"
+#include "Runtime/internal/TransientError.h"
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <optional>
 
 namespace Pictures {
@@ -37,21 +38,21 @@ std::optional<Size> pngSize(Bytes bytes) {
     return Size{Encoding::png, bigEndian(bytes.subspan(16, 4)), bigEndian(bytes.subspan(20, 4))};
 }
 
-// Walks the segments up to the one that begins a frame.
+// Scans the segments up to the first frame header.
 std::optional<Size> jpegSize(Bytes bytes) {
     std::size_t at = 2;
     while (at + 4 <= bytes.size()) {
         const std::uint8_t marker = bytes[at + 1];
-        if (bytes[at] != 0xFF || marker == 0xFF) { // bytes between segments, or filling before a marker
+        if (bytes[at] != 0xFF || marker == 0xFF) { // bytes between segments, or fill bytes before a marker
             ++at;
             continue;
         }
         at += 2;
         if (marker == 0x00 || marker == 0x01 || (marker >= 0xD0 && marker <= 0xD8))
-            continue; // stands alone
+            continue; // a marker without a segment
         if (marker == 0xD9 || marker == 0xDA)
-            return std::nullopt; // pixels or the end before any frame
-        // C4, C8 and CC are among the frames' markers but begin none.
+            return std::nullopt; // pixel data or end of image before any frame
+        // C4, C8 and CC are in the range of frame markers but are not frame headers.
         if (marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC) {
             if (at + 7 > bytes.size())
                 return std::nullopt;
@@ -62,18 +63,23 @@ std::optional<Size> jpegSize(Bytes bytes) {
     return std::nullopt;
 }
 
-// A failure is not remembered: the process may be out of descriptors for the moment.
-Runtime::Result<const Decoders*> decoders() {
-    static constinit std::atomic<const Decoders*> loaded{nullptr};
-    if (const Decoders* known = loaded.load(std::memory_order_acquire))
-        return known;
-    const Runtime::ForkGuard guard;
+using LoadedDecoders = Runtime::Result<const Decoders*>;
+
+LoadedDecoders loadPlugin(const Runtime::ForkGuard& guard) {
     const auto entry = Runtime::pluginSymbol(guard, "lumora-pictures.so", "lumoraPictures");
-    if (!entry)
-        return entry.error();
-    const Decoders* const opened = reinterpret_cast<decltype(&lumoraPictures)>(*entry)();
-    loaded.store(opened, std::memory_order_release); // the same object for every thread
-    return opened;
+    if (entry)
+        return reinterpret_cast<decltype(&lumoraPictures)>(*entry)();
+    Runtime::throwIfTransient(entry.error());
+    return entry.error();
+}
+
+// The plug-in, or why it cannot be loaded. Only permanent errors are kept.
+const LoadedDecoders& decoders() {
+    static constinit Runtime::OnceSlot<LoadedDecoders> slot;
+    if (slot.isMade())
+        return slot.value();
+    const Runtime::ForkGuard guard;
+    return slot.get([&guard] { return loadPlugin(guard); });
 }
 
 } // namespace
@@ -82,7 +88,7 @@ Runtime::Result<Size> measure(std::span<const std::uint8_t> bytes) {
     constexpr std::array<std::uint8_t, 3> jpegHead = {0xFF, 0xD8, 0xFF};
     const bool isPng = startsWith(bytes, pngHead);
     if (!isPng && !startsWith(bytes, jpegHead))
-        return error("is neither a PNG nor a JPEG");
+        return error("is neither a PNG nor a JPEG file");
     const auto size = isPng ? pngSize(bytes) : jpegSize(bytes);
     if (!size || size->width == 0 || size->height == 0)
         return error(isPng ? "is a damaged PNG: no size" : "is a damaged JPEG: no size");
@@ -90,10 +96,10 @@ Runtime::Result<Size> measure(std::span<const std::uint8_t> bytes) {
 }
 
 Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) {
-    const auto found = decoders();
-    if (!found)
-        return found.error();
-    return decode(bytes, maxPixels, **found);
+    const LoadedDecoders& loaded = decoders();
+    if (!loaded)
+        return loaded.error();
+    return decode(bytes, maxPixels, **loaded);
 }
 
 Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels, const Decoders& decoders) {

@@ -1,4 +1,4 @@
-// The plug-in's only function.
+// The only function that the plug-in exports.
 #include "Pictures/internal/Decoders.h"
 
 const Pictures::Decoders* lumoraPictures() noexcept {

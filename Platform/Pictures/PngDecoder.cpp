@@ -15,7 +15,7 @@ public:
     explicit PngReader(std::span<const std::uint8_t> bytes) : rest_(bytes) {
         const auto failed = [](png_structp png, png_const_charp reason) {
             PngReader& self = *static_cast<PngReader*>(png_get_error_ptr(png));
-            // The library may have put the text together in one of the frames that are left now.
+            // Copy the text: libpng may have built it in a stack frame that longjmp() leaves.
             std::snprintf(self.reason_, sizeof self.reason_, "%s", reason);
             self.fail();
         };
@@ -35,8 +35,7 @@ public:
             png_set_read_fn(png_, this, [](png_structp png, png_bytep to, std::size_t size) {
                 static_cast<PngReader*>(png_get_io_ptr(png))->give(to, size);
             });
-            // Of the chunks that a picture can do without none is read, whatever is in them; in the others nothing is
-            // forgiven.
+            // Skip ancillary chunks, even damaged ones; treat any error in critical chunks as fatal.
             png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
             png_set_crc_action(png_, PNG_CRC_ERROR_QUIT, PNG_CRC_WARN_DISCARD);
             png_set_benign_errors(png_, 0);
@@ -49,7 +48,7 @@ public:
     // `pixels` has room for width() x height() pixels.
     bool readPixels(std::uint8_t* pixels) {
         return attempt([this, pixels] {
-            png_set_expand(png_); // palettes and bits to bytes, the transparent colour to alpha
+            png_set_expand(png_); // palettes and small samples to bytes, the transparent colour to alpha
             png_set_strip_16(png_);
             png_set_gray_to_rgb(png_);
             png_set_add_alpha(png_, 0xFF, PNG_FILLER_AFTER);
@@ -61,7 +60,7 @@ public:
             for (int pass = 0; pass < passes; ++pass)
                 for (std::size_t row = 0; row < height(); ++row)
                     png_read_row(png_, pixels + row * stride, nullptr);
-            png_read_end(png_, nullptr); // what follows the pixels, up to the end mark
+            png_read_end(png_, nullptr); // the chunks after the pixels, up to IEND
         });
     }
 
@@ -70,7 +69,7 @@ public:
 private:
     void give(std::uint8_t* to, std::size_t size) {
         if (size > rest_.size())
-            png_error(png_, "ends too early");
+            png_error(png_, "unexpected end of file");
         std::memcpy(to, rest_.data(), size);
         rest_ = rest_.subspan(size);
     }

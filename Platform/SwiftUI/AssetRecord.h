@@ -1,28 +1,28 @@
 // SwiftUI/AssetRecord.h
-// The records by which a module names its assets: an image, a colour, a data asset. A module instantiates them with
+// The records that represent a module's assets: images, colours, data. A module instantiates them with
 //
 //     struct AssetModule {
 //         static const Foundation::NSBundle& bundle();
-//         static constexpr std::string_view sourceName = "TuistAssets+Lumora"; // in the reports
-//         class Catalog; // the only maker of records
+//         static constexpr std::string_view sourceName = "TuistAssets+Lumora"; // for error reports
+//         class Catalog; // the only class that can create records
 //     };
 //     using LumoraImages = SwiftUI::ImageRecord<AssetModule>;
 //
-// and declares Catalog whole in the same header, so that no user can define it,
+// and defines the class Catalog in the same header, so that users cannot define it themselves,
 //
 //     class AssetModule::Catalog {
 //     public:
 //         static constexpr LumoraImages image(const char* name) noexcept;
 //     };
 //
-// but defines its functions in a header of its own, for the sources that define records or assign colours:
+// but defines its functions in a separate header, for the sources that define records or assign colours:
 //
 //     constinit const LumoraImages LumoraAsset::Images::send = AssetModule::Catalog::image("send");
 //
-// Records are constants: nothing runs to make them and nothing when the process ends.
-// Text: UTF-8. Threads: any. Ownership: names are string literals; what is returned by reference lives until the
-// process ends. Errors: an asset that is missing stops the process; while memory or descriptors have run out, its read
-// throws std::bad_alloc or std::system_error instead, and keeps nothing.
+// Records are constants: no code runs to create or destroy them.
+// Text: UTF-8. Threads: any. Ownership: names are
+// string literals; returned references are valid until the process ends. Errors: reading a missing asset stops the
+// process; while memory or descriptors are out, it throws std::bad_alloc or std::system_error and caches nothing.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -42,18 +42,19 @@ namespace detail {
 
 enum class AssetKind : std::uint8_t { image, color, data };
 
-// Stops the process: a module that names an asset which is not there was built wrong. An asset that cannot be read at
-// the moment only throws std::bad_alloc or std::system_error.
+// Stops the process, because a module without one of its assets was built incorrectly. If the asset is unreadable
+// because of a transient error, throws std::bad_alloc or std::system_error instead.
 [[noreturn]] LUMORA_EXPORT void missingAsset(AssetKind kind, std::string_view name, const Foundation::NSBundle& bundle,
                                              std::string_view source, std::uint32_t line);
 
-// A value that is made at its first read and then stays where it is. No lock: threads that read first at the same
-// moment may each make one, and all of them see the one that was stored first.
-template <class Value> class Cached {
+// A cached value that can be replaced, unlike a Runtime::OnceSlot. Lock-free: several threads may create the first
+// value at the same time, and all of them use the one that was stored first. Replaced values are never freed, because
+// callers hold references to them.
+template <class Value> class ReplaceableCache {
 public:
-    constexpr Cached() noexcept = default;
+    constexpr ReplaceableCache() noexcept = default;
 
-    // Null before the first keep().
+    // Null before the first value.
     const Value* find() const noexcept { return value_.load(std::memory_order_acquire); }
     const Value& keep(Value value) const {
         auto made = std::make_unique<const Value>(std::move(value));
@@ -61,7 +62,7 @@ public:
         return value_.compare_exchange_strong(others, made.get(), std::memory_order_acq_rel) ? *made.release()
                                                                                              : *others;
     }
-    // What was there before stays alive for those who look at it.
+    // Stores another value; references to the old one stay valid.
     void replace(Value value) const { value_.store(new Value(std::move(value)), std::memory_order_release); }
 
 private:
@@ -70,7 +71,7 @@ private:
 
 } // namespace detail
 
-// An image asset. A plain value; nothing is kept, each read asks the platform.
+// An image asset. A plain value without a cache: each read is a lookup in the platform.
 template <class Module> class ImageRecord {
 public:
     // As the catalog spells it.
@@ -91,7 +92,7 @@ private:
     const char* name_;
 };
 
-// A colour asset: one shared object per asset, so that its colour is looked up once in a process.
+// A colour asset. There is one shared object per asset, so that its colour is looked up once per process.
 template <class Module> class ColorRecord {
 public:
     ColorRecord(const ColorRecord&) = delete;
@@ -99,12 +100,13 @@ public:
 
     // As the catalog spells it.
     std::string name() const { return name_; }
-    // The same object at every call. It follows the traits in force. Stops the process when the asset is missing.
+    // Returns the same object at every call; it adapts to the current traits. Stops the process when the asset is
+    // missing.
     const UIKit::UIColor& color() const {
         const UIKit::UIColor* known = color_.find();
         return known != nullptr ? *known : load();
     }
-    // The same object at every call. Never reports a missing asset.
+    // Returns the same object at every call. Never reports a missing asset.
     const Color& swiftUIColor() const {
         const Color* known = swiftUIColor_.find();
         return known != nullptr ? *known : swiftUIColor_.keep(Color(name_, Module::bundle()));
@@ -114,22 +116,22 @@ private:
     friend typename Module::Catalog;
     constexpr explicit ColorRecord(const char* name) noexcept : name_(name) {}
 
-    // Apart, so that reading a colour that is known costs a load and a test.
+    // Kept out of line, so that the fast path is one load and one branch.
     [[gnu::noinline, gnu::cold]] const UIKit::UIColor& load() const {
         if (const auto found = UIKit::UIColor::colorNamed(name_, Module::bundle()))
             return color_.keep(*found);
         detail::missingAsset(detail::AssetKind::color, name_, Module::bundle(), Module::sourceName, 587);
     }
-    // For the module: later reads give the assigned value.
+    // For use in the module: later reads return the assigned value.
     void setColor(const UIKit::UIColor& color) const { color_.replace(color); }
     void setSwiftUIColor(Color color) const { swiftUIColor_.replace(std::move(color)); }
 
     const char* name_;
-    detail::Cached<UIKit::UIColor> color_;
-    detail::Cached<Color> swiftUIColor_;
+    detail::ReplaceableCache<UIKit::UIColor> color_;
+    detail::ReplaceableCache<Color> swiftUIColor_;
 };
 
-// A data asset. A plain value; nothing is kept, each read makes a new data-asset object.
+// A data asset. A plain value without a cache: each read creates a new NSDataAsset.
 template <class Module> class DataRecord {
 public:
     // As the catalog spells it.

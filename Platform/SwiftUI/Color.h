@@ -1,6 +1,6 @@
 // SwiftUI/Color.h
-// A colour as a view. It says which colour is meant; whether an asset of that name is there turns out when it is drawn.
-// Text: UTF-8. Threads: plain values.
+// A colour view. It refers to a colour by name; the asset is looked up when the view is drawn. Text: UTF-8. Threads:
+// plain values.
 #pragma once
 
 #include "Foundation/NSBundle.h"
@@ -13,7 +13,7 @@
 
 namespace SwiftUI {
 
-// An asset that a view names.
+// A view's reference to an asset.
 struct NamedAsset {
     std::string name;
     const Foundation::NSBundle* bundle; // never null
@@ -25,10 +25,9 @@ public:
     Color(std::string name, const Foundation::NSBundle& bundle) : state_(NamedAsset{std::move(name), &bundle}) {}
     explicit Color(const UIKit::UIColor& color) : state_(color) {}
 
-    // The asset it names, or null.
+    // The asset it refers to, or null.
     [[nodiscard]] const NamedAsset* asset() const noexcept { return std::get_if<NamedAsset>(&state_); }
-    // What a renderer draws for these traits, with those in force now where they are unspecified; no value when there
-    // is no asset of the name.
+    // The colour to draw for these traits, completed by the current ones; no value when the asset is missing.
     [[nodiscard]] std::optional<UIKit::UIColor> resolve(const UIKit::UITraitCollection& traits) const;
 
     friend bool operator==(const Color&, const Color&) = default;

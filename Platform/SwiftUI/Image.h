@@ -1,6 +1,6 @@
 // SwiftUI/Image.h
-// A picture as a view. It says which picture is meant; whether an asset of that name is there turns out when it is
-// drawn. Text: UTF-8. Threads: plain values.
+// An image view. It refers to a picture by name; the asset is looked up when the view is drawn. Text: UTF-8. Threads:
+// plain values.
 #pragma once
 
 #include "Foundation/NSBundle.h"
@@ -16,12 +16,12 @@ namespace SwiftUI {
 
 class LUMORA_EXPORT Image {
 public:
-    // Readers who hear the screen are told the name.
+    // Accessibility label: the asset name.
     Image(std::string name, const Foundation::NSBundle& bundle) : asset_{std::move(name), &bundle} {}
-    // They are told the label.
+    // Accessibility label: `label`.
     Image(std::string name, const Foundation::NSBundle& bundle, Text label)
         : asset_{std::move(name), &bundle}, label_(std::move(label)) {}
-    // They are told nothing.
+    // An image that screen readers skip.
     [[nodiscard]] static Image decorative(std::string name, const Foundation::NSBundle& bundle) {
         Image image(std::move(name), bundle);
         image.isDecorative_ = true;
@@ -31,8 +31,7 @@ public:
     [[nodiscard]] const NamedAsset& asset() const noexcept { return asset_; }
     [[nodiscard]] const std::optional<Text>& label() const noexcept { return label_; }
     [[nodiscard]] bool isDecorative() const noexcept { return isDecorative_; }
-    // What a renderer draws for these traits, with those in force where they are unspecified; no value when there is no
-    // asset of the name.
+    // The image to draw for these traits, completed by the current ones; no value when the asset is missing.
     [[nodiscard]] std::optional<UIKit::UIImage> resolve(const UIKit::UITraitCollection& traits) const;
 
     friend bool operator==(const Image&, const Image&) = default;

@@ -1,15 +1,16 @@
 // SwiftUI/ModuleConveniences.h
-// What every module adds to the platform's image, colour and data types: making them from its records, and pictures by
-// their bare name. A module has them in namespaces that are named after the types: Shop::UIColor::withAsset(record).
+// The functions that every module adds to the platform's image, colour and data types: they create objects from
+// records, and images from plain names. A module re-exports them in namespaces named after the types:
+// Shop::UIColor::withAsset(record).
 //
-// Those that take a Class make one of a class of the user's that is derived from the platform's. A class may have a
-// look-up of its own, a static function that takes what the platform's of that name takes:
+// The template parameter Class may be a user's class derived from the platform's. It may define its own static lookup
+// function with the same name and parameters as the platform's:
 // - colours: colorNamed(name, bundle, traits);
 // - data: assetWithName(name, bundle);
 // - pictures: imageNamedWithConfiguration(name, bundle, traits), or else imageNamed(name, bundle, traits).
-// It is called then, and its result returned. Without one the result is an optional Class, made as Class{found} from
-// what the platform finds, or that itself if Class cannot be made from it.
-// Text: UTF-8. Threads: any. Ownership: values; see the types themselves.
+// That function is then called and its result returned. Otherwise the result is an optional Class, constructed as
+// Class{found} from the platform's result, or the platform's result itself if Class cannot be constructed from it.
+// Text: UTF-8. Threads: any. Ownership: values; see the types.
 #pragma once
 
 #include "Runtime/Attempt.h"
@@ -26,11 +27,11 @@ namespace SwiftUI::Conveniences {
 namespace detail {
 
 template <auto> struct Function;
-// Whether both are one function: whether a class inherits it from the platform's.
+// Whether both are the same function, i.e. a class inherits it from the platform's.
 template <auto one, auto other>
 concept Same = std::is_same_v<Function<one>, Function<other>>;
 
-// What the platform has found, as one of the user's class where that can be made from it.
+// Converts the platform's result to Class if possible.
 template <class Class, class Base> auto madeFrom(const std::optional<Base>& found) {
     if constexpr (requires { Class{*found}; })
         return found ? std::optional<Class>(Class{*found}) : std::nullopt;
@@ -38,7 +39,7 @@ template <class Class, class Base> auto madeFrom(const std::optional<Base>& foun
         return found;
 }
 
-// What `lookUp(bundle)` finds in the module's bundle; no value while that cannot be read.
+// The result of `lookUp(bundle)` for the module's bundle; no value while the bundle is unreadable.
 template <class Module, class LookUp> auto found(LookUp lookUp) {
     return Runtime::attempt([&] { return lookUp(Module::bundle()); });
 }
@@ -47,7 +48,7 @@ template <class Module, class LookUp> auto found(LookUp lookUp) {
 
 namespace UIColor {
 
-// The record's colour, or no value when the catalog has none of its name.
+// The record's colour, or no value when the catalog does not contain it.
 template <class Class = UIKit::UIColor, class Module> [[nodiscard]] auto withAsset(const ColorRecord<Module>& record) {
     using Platform = UIKit::UIColor;
     constexpr bool hasOwn = requires {
@@ -67,7 +68,7 @@ template <class Class = UIKit::UIColor, class Module> [[nodiscard]] auto withAss
 
 namespace NSDataAsset {
 
-// The record's data, or no value when the catalog has none of its name.
+// The record's data, or no value when the catalog does not contain it.
 template <class Class = UIKit::NSDataAsset, class Module>
 [[nodiscard]] auto withAsset(const DataRecord<Module>& record) {
     using Platform = UIKit::NSDataAsset;
@@ -131,7 +132,7 @@ template <class Module> [[nodiscard]] SwiftUI::Image withAsset(const ImageRecord
 template <class Module> [[nodiscard]] SwiftUI::Image withAsset(const ImageRecord<Module>& record, SwiftUI::Text label) {
     return {record.name(), Module::bundle(), std::move(label)};
 }
-// One that screen readers skip.
+// An image that screen readers skip.
 template <class Module> [[nodiscard]] SwiftUI::Image decorative(const ImageRecord<Module>& record) {
     return SwiftUI::Image::decorative(record.name(), Module::bundle());
 }

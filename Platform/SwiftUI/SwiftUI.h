@@ -1,5 +1,5 @@
 // SwiftUI/SwiftUI.h
-// Everything of the folder that users see.
+// All public headers of this folder.
 #pragma once
 
 #include "SwiftUI/Color.h"

@@ -1,5 +1,5 @@
 // SwiftUI/Text.h
-// A text as a view.
+// A text view.
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
@@ -10,7 +10,7 @@ namespace SwiftUI {
 
 class Text {
 public:
-    // Shown as it is, without being looked up.
+    // The text is shown verbatim, without a lookup.
     explicit Text(std::string verbatim) : text_(std::move(verbatim)) {}
 
     const std::string& string() const noexcept { return text_; }

@@ -11,7 +11,7 @@ namespace UIKit::detail {
 
 namespace {
 
-// Throws std::bad_alloc, and std::system_error when the catalog cannot be opened at the moment.
+// Throws std::bad_alloc, and std::system_error when a transient error prevents opening the catalog.
 const BundleCatalog& openedFor(const Foundation::NSBundle& bundle) {
     static constinit Runtime::KeyedStore<BundleCatalog, 16> all;
     if (const BundleCatalog* const known = all.find(bundle.bundlePath()))
@@ -76,8 +76,8 @@ std::size_t BundleCatalog::bestVariant(std::size_t index, const UITraitCollectio
     try {
         if (const std::string* const language = bundle_.preferredLocalization())
             return found.best(fit, {language, 1});
-        return found.best(fit, Foundation::detail::hostLanguages().languages); // a bundle without texts
-    } catch (...) {                                                            // no memory for the languages now
+        return found.best(fit, Foundation::detail::hostLanguages().languages); // the bundle has no texts
+    } catch (...) {                                                            // out of memory: ignore the languages
         return found.best(fit);
     }
 }

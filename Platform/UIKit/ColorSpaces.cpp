@@ -9,7 +9,7 @@ namespace {
 
 using Components = std::array<double, 3>;
 
-// `curve` of the component's size, with the component's sign.
+// Applies `curve` to the magnitude and keeps the sign.
 template <class Curve> double mirrored(double component, Curve curve) noexcept {
     return std::copysign(curve(std::abs(component)), component);
 }
@@ -22,8 +22,8 @@ double curved(double component) noexcept {
                     [](double c) { return c <= 0.04045 / 12.92 ? c * 12.92 : 1.055 * std::pow(c, 1 / 2.4) - 0.055; });
 }
 
-// From the chromaticities of both spaces' primaries and their common white (0.3127, 0.3290), worked out in fractions
-// and rounded once.
+// Computed from the chromaticities of both spaces' primaries and their common white point (0.3127, 0.3290) with exact
+// fractions, rounded once.
 constexpr std::array<Components, 3> displayP3ToSrgb = {{
     {1.2249401762805598, -0.22494017628055996, 0},
     {-0.042056954709688163, 1.0420569547096881, 0},

@@ -17,8 +17,7 @@ std::string keyOf(const AssetCatalog::Blob& blob) {
     return std::to_string(reinterpret_cast<std::uintptr_t>(blob.blobs)) + ":" + std::to_string(blob.offset);
 }
 
-// Null when the bytes cannot be read. Kept as the catalogs are: the span that an asset gives out outlives the asset.
-// Data assets are few.
+// Null when the bytes cannot be read. Never freed, because callers hold spans into them; there are few data assets.
 const Bytes* readFrom(const AssetCatalog::Blob& blob) {
     static constinit Runtime::KeyedStore<Bytes> all;
     const std::string key = keyOf(blob);

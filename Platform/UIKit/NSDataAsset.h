@@ -1,5 +1,5 @@
 // UIKit/NSDataAsset.h
-// A file of a bundle's asset catalog.
+// A data file in a bundle's asset catalog.
 // Text: UTF-8. Threads: any. Ownership: a plain value; the views it returns are valid until the process ends.
 #pragma once
 
@@ -12,16 +12,16 @@
 
 namespace UIKit {
 
-// A derived class may define its own static assetWithName(); templates that take a class call that.
+// A derived class may define its own static assetWithName(); `withAsset<Derived>()` calls it.
 class LUMORA_EXPORT NSDataAsset {
 public:
-    // The data of that name (exact) in the asset catalog of `bundle`, in the variant that serves the traits in force
-    // now, or no value.
+    // The data asset with that name (exact) in the catalog of `bundle`, in the best variant for the current traits, or
+    // no value.
     [[nodiscard]] static std::optional<NSDataAsset> assetWithName(std::string_view name,
                                                                   const Foundation::NSBundle& bundle);
 
     [[nodiscard]] std::string_view name() const noexcept { return name_; }
-    // "public.json"; or empty
+    // "public.json", or empty
     [[nodiscard]] std::string_view typeIdentifier() const noexcept { return typeIdentifier_; }
     [[nodiscard]] std::span<const std::uint8_t> data() const noexcept { return data_; }
 

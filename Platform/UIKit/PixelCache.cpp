@@ -4,11 +4,11 @@
 
 namespace UIKit::detail {
 
-// The table, locked.
+// Locks the table and gives access to it.
 class PixelCache::Access {
 public:
     explicit Access(PixelCache& cache) : cache_(cache) {
-        // Left in the middle of a change by a thread that this process does not have; not even to be destroyed.
+        // A thread of the parent process was changing the table at the fork. It may be inconsistent, so leak it.
         if (cache_.lock_.lock())
             static_cast<void>(cache_.table_.release());
         try {
@@ -46,7 +46,7 @@ private:
         table().nextSweep = table().slots.size() * 2 + 64;
     }
 
-    // The slot's pixels, if they are alive, as the last used.
+    // Returns the slot's pixels if they are alive, and marks them as most recently used.
     Pixels use(Slot& slot, const Key& key) {
         Pixels pixels = slot.pixels.lock();
         if (pixels == nullptr)
@@ -56,16 +56,16 @@ private:
             kept.splice(kept.begin(), kept, slot.kept);
             return pixels;
         }
-        if (pixels->pixels.size() <= cache_.maxBytes_) { // a larger one would only drive the others out
+        if (pixels->pixels.size() <= cache_.maxBytes_) { // a larger one would only evict the others
             kept.push_front({key, pixels});
             table().keptBytes += pixels->pixels.size();
             slot.kept = kept.begin();
-            letGo();
+            evict();
         }
         return pixels;
     }
 
-    void letGo() {
+    void evict() {
         std::list<Kept>& kept = table().kept;
         while (table().keptBytes > cache_.maxBytes_) {
             table().keptBytes -= kept.back().pixels->pixels.size();

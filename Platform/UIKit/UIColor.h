@@ -1,5 +1,5 @@
 // UIKit/UIColor.h
-// A colour: fixed components, a colour of a bundle's asset catalog, or a picture laid as a pattern.
+// A colour: fixed components, a colour in a bundle's asset catalog, or a picture used as a pattern.
 // Text: UTF-8. Threads: any. Ownership: a plain value of a few words.
 #pragma once
 
@@ -14,7 +14,7 @@
 
 namespace UIKit {
 
-// Extended sRGB, not premultiplied: 0 to 1 is the range of sRGB, and components may lie outside of it.
+// Extended sRGB, not premultiplied: 0 to 1 is the sRGB range; components may be outside of it.
 struct RGBA {
     double red = 0;
     double green = 0;
@@ -23,28 +23,28 @@ struct RGBA {
     friend bool operator==(const RGBA&, const RGBA&) = default;
 };
 
-// A derived class may define its own static colorNamed(); templates that take a class call that.
+// A derived class may define its own static colorNamed(); `withAsset<Derived>()` calls it.
 class LUMORA_EXPORT UIColor {
 public:
-    // Any numbers, NaN included, kept as they are.
+    // Any numbers, including NaN, are kept unchanged.
     constexpr UIColor(double red, double green, double blue, double alpha) noexcept
         : state_(RGBA{red, green, blue, alpha}) {}
-    // Has no components.
+    // A colour without components.
     [[nodiscard]] static UIColor patternColor(const UIImage& image) noexcept { return UIColor(State(image)); }
-    // The colour of that name (exact) in the asset catalog of `bundle`, or no value. For traits that `traits` leaves
-    // unspecified, all of them without `traits`, each call of the colour uses those in force at that time; the language
-    // is that of the bundle's texts at that time.
+    // The colour with that name (exact) in the catalog of `bundle`, or no value. Traits that `traits` leaves
+    // unspecified (all, if it is null) are taken from the current traits each time the colour is read, and so is the
+    // language of the bundle's texts.
     [[nodiscard]] static std::optional<UIColor> colorNamed(std::string_view name, const Foundation::NSBundle& bundle,
                                                            const UITraitCollection* traits = nullptr);
 
-    // The components for the traits in force; no value when the colour is not one of red, green and blue.
+    // The components for the current traits; no value for a pattern.
     [[nodiscard]] std::optional<RGBA> rgba() const noexcept;
-    // The fixed colour that this one is for these traits, with those in force now where they are unspecified.
+    // The fixed colour for these traits, completed by the current ones.
     [[nodiscard]] UIColor resolved(const UITraitCollection& traits) const noexcept;
     // The picture of a pattern, or null.
     [[nodiscard]] const UIImage* patternImage() const noexcept { return std::get_if<UIImage>(&state_); }
 
-    // Whether both have the same components, are the same asset for the same traits, or lay the same picture.
+    // Whether both have the same components, are the same asset for the same traits, or have the same pattern.
     friend bool operator==(const UIColor&, const UIColor&) = default;
 
 private:

@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t keptPixelBytes = std::size_t{32} << 20;
 
 detail::PixelCache& cache() {
-    static Runtime::OnceSlot<detail::PixelCache*> slot; // never destroyed: images may be used while the process ends
+    static Runtime::OnceSlot<detail::PixelCache*> slot; // never destroyed: images may be used at exit
     return *slot.get([] { return new detail::PixelCache(keptPixelBytes); });
 }
 
@@ -24,17 +24,17 @@ AssetCatalog::PictureView pictureFor(const detail::BundleCatalog& catalog, std::
 
 // Null when the picture is damaged or cannot be read.
 detail::Pixels pixelsOf(const AssetCatalog::PictureView& picture) {
-    // A catalog that is wrong about a picture's size is damaged.
-    const auto isRight = [&](const auto& pixels) {
+    // A size that differs from the catalog's means a damaged catalog.
+    const auto hasExpectedSize = [&](const auto& pixels) {
         return pixels.width == picture.width && pixels.height == picture.height;
     };
     if (auto known = cache().find(picture.blob))
-        return isRight(*known) ? known : nullptr;
+        return hasExpectedSize(*known) ? known : nullptr;
     const auto encoded = picture.blob.read();
     if (!encoded)
         return nullptr;
     const auto size = Pictures::measure(*encoded);
-    if (!size || !isRight(*size))
+    if (!size || !hasExpectedSize(*size))
         return nullptr;
     auto decoded = Pictures::decode(*encoded, AssetCatalog::maxPixels);
     if (!decoded)

@@ -1,7 +1,7 @@
 // UIKit/UIImage.h
-// A picture of a bundle's asset catalog.
-// Text: UTF-8. Threads: any. Ownership: an image is a handle of a few words; pixels are decoded on demand and shared by
-// all images of the same picture.
+// A picture in a bundle's asset catalog.
+// Text: UTF-8. Threads: any. Ownership: an image is a small handle; pixels are decoded on demand and shared by all
+// images of the same picture.
 #pragma once
 
 #include "Foundation/NSBundle.h"
@@ -36,20 +36,20 @@ struct EdgeInsets {
     friend bool operator==(const EdgeInsets&, const EdgeInsets&) = default;
 };
 
-// How an image is drawn: as its context wants, in its own colours, or as a shape in the colour of its surroundings.
+// How an image is drawn: as the context decides, in its own colours, or as a template in the current tint colour.
 enum class RenderingMode : std::uint8_t { automatic, alwaysOriginal, alwaysTemplate };
 // How the part inside the cap insets fills a larger area.
 enum class ResizingMode : std::uint8_t { stretch, tile };
 
-// A derived class may define its own static look-ups under these names; templates that take a class call those.
+// A derived class may define its own static lookups with these names; `withAssetName<Derived>()` calls them.
 class LUMORA_EXPORT UIImage {
 public:
-    // The image of that name (exact) in the asset catalog of `bundle`, or no value. For traits that `traits` leaves
-    // unspecified, all of them without `traits`, each call of the image uses those in force at that time; the language
-    // is that of the bundle's texts at that time.
+    // The image with that name (exact) in the catalog of `bundle`, or no value. Traits that `traits` leaves unspecified
+    // (all, if it is null) are taken from the current traits each time the image is read, and so is the language of the
+    // bundle's texts.
     [[nodiscard]] static std::optional<UIImage> imageNamed(std::string_view name, const Foundation::NSBundle& bundle,
                                                            const UITraitCollection* traits = nullptr);
-    // The same image under the name of the platform's later look-up.
+    // The same lookup under its newer name.
     [[nodiscard]] static std::optional<UIImage> imageNamedWithConfiguration(std::string_view name,
                                                                             const Foundation::NSBundle& bundle,
                                                                             const UITraitCollection* traits = nullptr);
@@ -60,18 +60,18 @@ public:
     // Whether the rendering mode is `alwaysTemplate`.
     [[nodiscard]] bool isTemplate() const noexcept;
 
-    // The following are those of the variant that serves the traits best.
+    // The following describe the best variant for the traits.
     [[nodiscard]] Size size() const noexcept;
-    [[nodiscard]] double scale() const noexcept; // pixels in a point
+    [[nodiscard]] double scale() const noexcept; // pixels per point
     [[nodiscard]] std::uint32_t pixelWidth() const noexcept;
     [[nodiscard]] std::uint32_t pixelHeight() const noexcept;
-    // The edges that keep their size when the image is resized; zero where the catalog says nothing of it.
+    // The edges that keep their size when the image is resized; zero unless the catalog sets them.
     [[nodiscard]] EdgeInsets capInsets() const noexcept;
     [[nodiscard]] ResizingMode resizingMode() const noexcept;
-    // The edges that don't count when the image is aligned with others, such as a shadow's.
+    // The edges that are ignored when the image is aligned, such as a shadow.
     [[nodiscard]] EdgeInsets alignmentRectInsets() const noexcept;
-    // The decoded pixels, or null when the picture is damaged. Two calls give the same object as long as a holder of it
-    // is left, and longer for the pictures that were used last.
+    // The decoded pixels, or null when the picture is damaged. Calls return the same object as long as it is referenced
+    // or in the cache of recently used pictures.
     [[nodiscard]] std::shared_ptr<const Pictures::Bitmap> rgba() const;
 
     // Whether both are the same asset for the same traits.

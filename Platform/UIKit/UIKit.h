@@ -1,5 +1,5 @@
 // UIKit/UIKit.h
-// Everything of the folder that users see.
+// All public headers of this folder.
 #pragma once
 
 #include "UIKit/NSDataAsset.h"

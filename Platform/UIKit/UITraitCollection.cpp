@@ -8,13 +8,13 @@ namespace UIKit {
 
 namespace {
 
-// All traits in one word, so that a change is never seen by halves.
+// All traits in one word, so that readers never see a partial change.
 struct Packed {
     float displayScale = 0;
     UserInterfaceStyle style{};
     AccessibilityContrast contrast{};
     LayoutDirection direction{};
-    std::uint8_t unused = 0; // instead of padding, which has no value
+    std::uint8_t unused = 0; // bit_cast needs a value instead of padding
 };
 
 constinit std::atomic<std::uint64_t> inForce{std::bit_cast<std::uint64_t>(Packed{})};
@@ -23,9 +23,9 @@ template <class Trait> Trait either(Trait own, Trait other) noexcept {
     return own == Trait{} ? other : own;
 }
 
-// 0 when it is unspecified.
+// Clamps a scale to the supported range; 0 if it is unspecified.
 double bounded(double scale) noexcept {
-    constexpr double largest = 255; // beyond any screen, and what a catalog can tell
+    constexpr double largest = 255; // the largest scale that a catalog can store
     return scale > 0 ? std::clamp(scale, 1 / largest, largest) : 0;
 }
 

@@ -1,7 +1,7 @@
 // UIKit/UITraitCollection.h
-// What pictures and colours adapt to.
-// Threads: setCurrent() and current() from any thread at any time; a reader sees the traits before a change or after
-// it.
+// The traits that pictures and colours adapt to.
+// Threads: setCurrent() and current() from any thread at any time; a reader sees the traits either before or after a
+// change.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -17,17 +17,17 @@ enum class LayoutDirection : std::uint8_t { unspecified, leftToRight, rightToLef
 struct LUMORA_EXPORT UITraitCollection {
     UserInterfaceStyle userInterfaceStyle = UserInterfaceStyle::unspecified;
     AccessibilityContrast accessibilityContrast = AccessibilityContrast::unspecified;
-    double displayScale = 0; // pixels in a point; what is not above 0 is unspecified
+    double displayScale = 0; // pixels per point; 0 or less means unspecified
     LayoutDirection layoutDirection = LayoutDirection::unspecified;
 
-    // The traits in force in the whole process; all unspecified until they are set, which means a light screen of one
-    // pixel in a point.
+    // The current traits of the process. Initially all are unspecified, which means a light screen with one pixel per
+    // point.
     [[nodiscard]] static UITraitCollection current() noexcept;
     // `displayScale` is kept in single precision.
     static void setCurrent(const UITraitCollection& traits) noexcept;
 
-    // These traits, with those of `under` where they are unspecified. The scale is 0 where neither specifies one, and
-    // within the bounds of screens, from 1/255 to 255.
+    // These traits, with unspecified ones taken from `under`. The scale is 0 if neither specifies one, else clamped to
+    // 1/255 to 255.
     [[nodiscard]] UITraitCollection over(const UITraitCollection& under) const noexcept;
 
     friend bool operator==(const UITraitCollection&, const UITraitCollection&) = default;

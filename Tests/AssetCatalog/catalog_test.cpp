@@ -79,7 +79,7 @@ TEST(Catalog, OutlivesItsFile) {
     EXPECT_EQ(numbers(*blob.read()), (std::vector<int>{'{', '}'}));
 
     std::filesystem::resize_file(path + ".old", 5);
-    EXPECT_EQ(blob.read().error().text(), path + ": has been cut short");
+    EXPECT_EQ(blob.read().error().text(), path + ": was truncated after it was opened");
     EXPECT_EQ((*catalog)[*catalog->find(Kind::image, "send")].name(), "send");
 }
 
@@ -120,21 +120,21 @@ TEST(Catalog, BuilderRefusesWhatReadersRefuse) {
     };
     const Case cases[] = {
         {__LINE__, [](auto& assets) { assets[1].name = "send"; }, "two assets of one kind are named \"send\""},
-        {__LINE__, [](auto& assets) { assets[1].name = ""; }, "\"\" has a name that is empty or too long"},
-        {__LINE__, [](auto& assets) { assets[1].pictures.clear(); }, "\"folder/star_\" has no variant or too many"},
+        {__LINE__, [](auto& assets) { assets[1].name = ""; }, "\"\" has an empty or too long name"},
+        {__LINE__, [](auto& assets) { assets[1].pictures.clear(); }, "\"folder/star_\" has no variants or too many"},
         {__LINE__, [](auto& assets) { assets[1].pictures[0].width = 0; }, "picture without pixels"},
         {__LINE__, [](auto& assets) { assets[1].pictures[0].bytes = shared(""); }, "picture without pixels"},
-        {__LINE__, [](auto& assets) { assets[1].pictures[0].points.height = 0; }, "picture without a size"},
-        {__LINE__, [](auto& assets) { assets[1].pictures[0].capInsets.left = HUGE_VAL; }, "impossible insets"},
-        {__LINE__, [](auto& assets) { assets[1].catalog.resize(256); }, "in a catalog with too long a name"},
-        {__LINE__, [](auto& assets) { assets[3].data[0].typeIdentifier.resize(256); }, "too long a type"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].points.height = 0; }, "invalid size in points"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].capInsets.left = HUGE_VAL; }, "invalid insets"},
+        {__LINE__, [](auto& assets) { assets[1].catalog.resize(256); }, "in a catalog whose name is too long"},
+        {__LINE__, [](auto& assets) { assets[3].data[0].typeIdentifier.resize(256); }, "type identifier is too long"},
         {__LINE__, [](auto& assets) { assets[1].pictures[0].width = (1U << 26) + 1; }, "or with too many"},
-        {__LINE__, [](auto& assets) { assets[1].rendering = Rendering{3}; }, "drawn in an unknown way"},
-        {__LINE__, [](auto& assets) { assets[2].colors[0].fit.direction = Direction{3}; }, "for unknown readers"},
-        {__LINE__, [](auto& assets) { assets[2].colors[0].language.resize(256); }, "for unknown readers"},
-        {__LINE__, [](auto& assets) { assets[2].colors[0].value.components[3] = 1.5; }, "impossible components"},
-        {__LINE__, [](auto& assets) { assets[2].colors[0].value.components[1] = std::nan(""); },
-         "impossible components"},
+        {__LINE__, [](auto& assets) { assets[1].rendering = Rendering{3}; }, "unknown rendering mode"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].fit.direction = Direction{3}; },
+         "invalid traits or language"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].language.resize(256); }, "invalid traits or language"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].value.components[3] = 1.5; }, "invalid components"},
+        {__LINE__, [](auto& assets) { assets[2].colors[0].value.components[1] = std::nan(""); }, "invalid components"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.line);

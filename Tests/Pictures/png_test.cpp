@@ -122,7 +122,7 @@ TEST(Png, MeasureReadsTheHeadOnly) {
     EXPECT_EQ(size->width, 300U);
     EXPECT_EQ(size->height, 2U);
     EXPECT_FALSE(Pictures::measure(std::span(file).first(23)));
-    EXPECT_EQ(Pictures::measure(Bytes{'G', 'I', 'F', '8'}).error().message, "is neither a PNG nor a JPEG");
+    EXPECT_EQ(Pictures::measure(Bytes{'G', 'I', 'F', '8'}).error().message, "is neither a PNG nor a JPEG file");
 }
 
 TEST(Png, LimitIsCheckedBeforeMemoryIsTaken) {

@@ -1,6 +1,6 @@
 // AssetCatalog/internal/Blobs.h
-// The bytes of a catalog's pictures and data, which stay in its file until they are asked for.
-// Threads: any. Ownership: a blob is a place; the catalog that gave it out holds the bytes.
+// The bytes of a catalog's pictures and data, which are read from its file on demand.
+// Threads: any. Ownership: a blob is a reference; the catalog owns the bytes and must outlive it.
 #pragma once
 
 #include "Runtime/internal/OpenFile.h"
@@ -20,10 +20,10 @@ struct Blob {
     std::uint64_t offset;
     std::uint64_t size;
 
-    // Error: the file has been cut short since the catalog was opened, or cannot be read any more.
+    // Errors: the file was truncated after the catalog was opened, or cannot be read any more.
     [[nodiscard]] Runtime::Result<std::vector<std::uint8_t>> read() const;
-    // Equal places hold equal bytes.
-    // NOLINTNEXTLINE(modernize-use-nullptr): what the check sees is inside the comparison
+    // Compares the location, which implies equal bytes.
+    // NOLINTNEXTLINE(modernize-use-nullptr): a false positive in the defaulted comparison
     friend auto operator<=>(const Blob&, const Blob&) = default;
 };
 

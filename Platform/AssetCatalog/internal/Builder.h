@@ -1,5 +1,5 @@
 // AssetCatalog/internal/Builder.h
-// Makes compiled catalogs; not part of the run-time library.
+// Builds compiled catalogs; not part of the run-time library.
 // Text: UTF-8. Threads: pure functions.
 #pragma once
 
@@ -16,7 +16,7 @@ namespace AssetCatalog {
 struct BuiltCatalog {
     std::string index;
     std::vector<Bytes> blobs;
-    // Offsets in the file, by the bytes of a blob, which `blobs` owns.
+    // File offsets by the content of a blob; the keys point into `blobs`.
     std::unordered_map<std::string_view, std::uint64_t> offsets;
 
     // The file's content in order.
@@ -24,9 +24,9 @@ struct BuiltCatalog {
     [[nodiscard]] std::string bytes() const;
 };
 
-// The catalog of these assets, the same for the same assets in any order. Of several variants for the same readers the
-// first counts; equal blobs are stored once. Errors name the asset: two of one kind and name, no variant, a number
-// out of its range, more than a catalog may hold (see Catalog.h).
+// Builds a catalog of these assets. Their order does not affect the result. Of several variants for the same traits the
+// first is used; equal blobs are stored once. Errors name the asset: two with the same kind and name, no variant, an
+// invalid number, a limit of Catalog.h exceeded.
 [[nodiscard]] Runtime::Result<BuiltCatalog> build(std::vector<Asset> assets);
 
 } // namespace AssetCatalog

@@ -1,7 +1,7 @@
 // AssetCatalog/internal/Catalog.h
-// A compiled catalog: the file Assets.catalog of a bundle, with every image, colour and data asset of the bundle's
+// A compiled catalog: the file Assets.catalog of a bundle, with all image, colour and data assets of the bundle's
 // source catalogs. Text: UTF-8. Threads: any, immutable after opening. Ownership: a catalog owns its index and its open
-// file; entries, views and blobs live as long as it does, moved or not.
+// file; entries, views and blobs stay valid as long as it lives, also after a move.
 #pragma once
 
 #include "AssetCatalog/internal/Blobs.h"
@@ -24,16 +24,16 @@ struct Catalog;
 
 inline constexpr std::string_view fileName = "Assets.catalog";
 
-// What a catalog may hold; a file beyond it is not opened, and the builder makes none.
+// Limits. A file that exceeds them is not opened, and the builder creates none.
 inline constexpr std::size_t maxBytes = std::size_t{4} << 30;
 inline constexpr std::size_t maxIndexBytes = std::size_t{256} << 20; // everything but the blobs
 inline constexpr std::size_t maxAssets = std::size_t{1} << 18;
 inline constexpr std::size_t maxVariants = 256;       // of one asset
-inline constexpr std::size_t maxNameBytes = 1024;     // of an asset, its folders included
+inline constexpr std::size_t maxNameBytes = 1024;     // of an asset, including its folders
 inline constexpr std::size_t maxOtherTextBytes = 255; // of a catalog's name, a language, a type identifier
 inline constexpr std::uint64_t maxPixels = std::uint64_t{64} << 20; // of one picture
 
-// Variants as a catalog holds them. See Picture and Data.
+// Variants in an open catalog. See Picture and Data.
 struct PictureView {
     Fit fit;
     std::uint32_t width, height; // in pixels, at least 1
@@ -59,12 +59,12 @@ public:
 
     std::size_t variants() const noexcept; // at least 1
     Fit fit(std::size_t variant) const noexcept;
-    std::string_view language(std::size_t variant) const noexcept; // empty: for all readers
-    // Whether some variant is for the readers of one language.
+    std::string_view language(std::size_t variant) const noexcept; // empty: for all languages
+    // Whether any variant is for one language.
     bool isLocalized() const noexcept;
-    // The variant that serves best a reader who wants `fit` and reads `languages` (BCP 47 tags, the best first). The
-    // language decides first: the one wanted, or the same with fewer subtags ("pt" for "pt-BR"), then a variant for all
-    // readers, then any other; among those, distance().
+    // The best variant for `wanted` and `languages` (BCP 47 tags, most preferred first). The language decides first: an
+    // exact match or one with fewer subtags ("pt" for "pt-BR"), then a variant for all languages, then any other.
+    // distance() decides between the rest.
     std::size_t best(Fit wanted, std::span<const std::string> languages = {}) const noexcept;
 
     // Precondition: the entry is of that kind.
@@ -82,18 +82,19 @@ private:
 
 class Catalog {
 public:
-    // Opens the catalog at `path`. The whole index is checked first; no picture is read, the file stays open for that.
-    // Renaming another file over it changes nothing for an open catalog. Errors: no such regular file, not a catalog,
-    // another version, cut off, damaged (the message says where). The content of pictures and data is not checked.
+    // Opens the catalog at `path` and validates its whole index. Pictures are read later from the open file, so
+    // replacing it by renaming another file does not affect an open catalog. Errors: no such regular file, not a
+    // catalog, another version, truncated, damaged (the message says where). The content of pictures and data is not
+    // validated.
     [[nodiscard]] static Runtime::Result<Catalog> open(const std::string& path);
-    // The same from memory that outlives the catalog and starts at a multiple of 16.
+    // The same from memory, which must outlive the catalog and be aligned to 16 bytes.
     [[nodiscard]] static Runtime::Result<Catalog> read(std::span<const std::uint8_t> bytes);
 
-    // The index of the asset of that kind and name (exact), or no value. Images, colours and data have names of their
-    // own. Never fails, allocates nothing.
+    // The index of the asset with that kind and name (exact), or no value. Images, colours and data have separate
+    // names. Never fails, allocates nothing.
     [[nodiscard]] std::optional<std::size_t> find(Kind kind, std::string_view name) const noexcept;
 
-    // The order of the assets is the catalog's own; the same input of the builder gives the same order.
+    // All assets, in an unspecified but reproducible order.
     std::size_t size() const noexcept;
     Entry operator[](std::size_t index) const noexcept; // below size()
 
@@ -102,7 +103,7 @@ private:
     Catalog(Bytes bytes, const Format::Catalog* index, std::unique_ptr<const Blobs> blobs) noexcept
         : bytes_(std::move(bytes)), index_(index), blobs_(std::move(blobs)) {}
 
-    Bytes bytes_; // of the index, unless they are somebody else's
+    Bytes bytes_; // of the index; null if the caller of read() owns it
     const Format::Catalog* index_;
     std::unique_ptr<const Blobs> blobs_;
 };

@@ -1,5 +1,5 @@
 // AssetCatalog/internal/Check.h
-// Whether bytes are a compiled catalog that may be believed; internal.
+// Validates compiled catalogs; internal.
 #pragma once
 
 #include "AssetCatalog/internal/Layout.h"
@@ -9,14 +9,14 @@
 
 namespace AssetCatalog {
 
-// The bytes of the index at the beginning of a catalog of `total` bytes, filling included; the blobs follow. `head`
-// holds the first headBytes of them, or all.
+// The size of the index of a catalog of `total` bytes, including padding; the blobs follow it. `head` has the first
+// headBytes bytes, or all.
 inline constexpr std::size_t headBytes = 3 * sizeof(flatbuffers::uoffset_t); // size, root, identifier
 [[nodiscard]] Runtime::Result<std::size_t> indexBytes(std::span<const std::uint8_t> head, std::uint64_t total);
 
-// Checks all that readers rely on: the container, the version, the order of names, enumerations, numbers, and that
-// every blob lies within the `total` bytes of the catalog. `index` is as long as indexBytes() says and starts at a
-// multiple of 16. Time and memory grow with the index only, whatever it says.
+// Validates everything that readers rely on: the container, the version, the order of names, enumerators, numbers, and
+// that all blobs are within the `total` bytes of the catalog. `index` has the size returned by indexBytes() and is
+// aligned to 16 bytes. Time and memory are linear in the size of the index, whatever its content.
 [[nodiscard]] Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> index, std::uint64_t total);
 
 } // namespace AssetCatalog

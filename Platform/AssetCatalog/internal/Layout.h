@@ -1,5 +1,5 @@
 // AssetCatalog/internal/Layout.h
-// What reader and builder of a compiled catalog share beside its schema; internal.
+// The parts of the format of compiled catalogs that the schema does not express; internal.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -18,8 +18,8 @@ constexpr std::size_t aligned(std::size_t size) noexcept {
     return (size + alignment - 1) / alignment * alignment;
 }
 
-// Assets are ordered by this hash. It takes eight bytes a step, the last ones padded with zeros. Each step is
-// invertible, so that two names of one length of at most eight bytes never have the same hash.
+// Assets are sorted by this hash. Each step hashes eight bytes, padded with zeros. The steps are invertible, so two
+// names of the same length of at most eight bytes never collide.
 inline std::uint64_t hashOf(Kind kind, std::string_view name) noexcept {
     constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
     std::uint64_t hash = (static_cast<std::uint64_t>(kind) << 32 | name.size()) * spread;

@@ -1,5 +1,5 @@
 // AssetCatalog/internal/Model.h
-// What a compiled catalog holds.
+// The content of a compiled catalog.
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
@@ -15,7 +15,7 @@ namespace AssetCatalog {
 
 enum class Kind : std::uint8_t { image, color, data };
 
-// What a variant was made for. `any` fits every reader.
+// The traits that a variant is made for. `any` fits all.
 enum class Appearance : std::uint8_t { any, light, dark };
 enum class Contrast : std::uint8_t { any, high };
 enum class Direction : std::uint8_t { any, leftToRight, rightToLeft };
@@ -23,11 +23,11 @@ struct Fit {
     Appearance appearance = Appearance::any;
     Contrast contrast = Contrast::any;
     Direction direction = Direction::any;
-    std::uint8_t scale = 0; // pixels per point; 0: any
+    std::uint8_t scale = 0; // pixels per point; 0 means any
     friend bool operator==(const Fit&, const Fit&) = default;
 };
 
-// How an image is drawn: as its context wants, in its own colours, or as a shape in the colour of its surroundings.
+// How an image is drawn: as the context decides, in its own colours, or as a template in the current tint colour.
 enum class Rendering : std::uint8_t { automatic, original, asTemplate };
 // How the part of an image inside its cap insets fills a larger area.
 enum class Resizing : std::uint8_t { stretch, tile };
@@ -35,7 +35,7 @@ enum class ColorSpace : std::uint8_t { srgb, extendedSrgb, displayP3, gray };
 
 // "image", "color", "data".
 [[nodiscard]] std::string_view nameOf(Kind kind) noexcept;
-// As source catalogs spell it: "srgb", "extended-srgb", "display-p3", "gray-gamma-22".
+// The spelling in source catalogs: "srgb", "extended-srgb", "display-p3", "gray-gamma-22".
 [[nodiscard]] std::string_view nameOf(ColorSpace space) noexcept;
 
 // In points.
@@ -52,13 +52,13 @@ struct Insets {
     friend bool operator==(const Insets&, const Insets&) = default;
 };
 
-// The bytes of a file, shared by the variants that have the same.
+// The content of a file; variants with equal content share it.
 using Bytes = std::shared_ptr<const std::string>;
 [[nodiscard]] inline Bytes shared(std::string bytes) {
     return std::make_shared<const std::string>(std::move(bytes));
 }
 
-// `language` is the BCP 47 tag of the readers that a variant is for, or empty: all.
+// `language` is the BCP 47 tag of the language that a variant is for; empty means all.
 struct Picture {
     Fit fit;
     std::string language{};
@@ -73,7 +73,7 @@ struct Picture {
 
 struct ColorValue {
     ColorSpace space = ColorSpace::srgb;
-    std::array<double, 4> components{}; // red, green, blue, alpha in `space`; grey: white, white, white, alpha
+    std::array<double, 4> components{}; // red, green, blue, alpha in `space`; gray: white, white, white, alpha
 };
 struct Color {
     Fit fit;
@@ -88,7 +88,7 @@ struct Data {
     Bytes bytes{};
 };
 
-// One asset with its variants; only the list of its kind is filled. A name in folders that provide a namespace is
+// One asset with its variants; only the list for its kind is used. The name includes folders that provide a namespace:
 // "folder/name".
 struct Asset {
     Kind kind = Kind::image;

@@ -1,6 +1,6 @@
 // Pictures/internal/Decoders.h
-// The interface of the plug-in; internal. Both sides are built together. Tools have no plug-in beside them and link the
-// decoders themselves.
+// The interface of the plug-in; internal. Library and plug-in are always built together. Tools link the decoders
+// directly instead.
 #pragma once
 
 #include "Pictures/Bitmap.h"
@@ -20,14 +20,14 @@ protected:
     ~Decoders() = default;
 };
 
-// The decoders that this object links.
+// The decoders linked into this program or plug-in.
 [[nodiscard]] const Decoders& linkedDecoders() noexcept;
 
-// Each checks the limit with the size that it decodes by.
+// Each checks `maxPixels` against the size that its decoder uses.
 Runtime::Result<Bitmap> decodePng(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
 Runtime::Result<Bitmap> decodeJpeg(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
 
-// A bitmap of that size with its memory, or the error that it is too large.
+// Allocates a bitmap, or fails if it would be too large.
 inline Runtime::Result<Bitmap> blank(std::uint32_t width, std::uint32_t height, std::uint64_t maxPixels) {
     const std::uint64_t pixels = std::uint64_t{width} * height;
     if (pixels > maxPixels)
@@ -37,5 +37,5 @@ inline Runtime::Result<Bitmap> blank(std::uint32_t width, std::uint32_t height, 
 
 } // namespace Pictures
 
-// The one function that the plug-in exports.
+// The only function that the plug-in exports.
 extern "C" LUMORA_EXPORT const Pictures::Decoders* lumoraPictures() noexcept;

@@ -1,18 +1,18 @@
 // Pictures/internal/LongjmpScope.h
-// For C libraries that report an error by calling a function which must not return; internal.
+// Error handling for C libraries whose error callback must not return; internal.
 #pragma once
 
 #include <csetjmp>
 
 namespace Pictures {
 
-// fail() jumps out of the step that attempt() runs. Frames of the library and of the step are left without being
-// unwound, so a step has no local object with a destructor and changes no local variable of its caller.
+// fail() jumps out of the step that attempt() runs. The stack is not unwound, so a step must not have local objects
+// with destructors or change local variables of its caller.
 class LongjmpScope {
 public:
     // False when the step failed.
     template <class Step> bool attempt(Step step) {
-        if (setjmp(stepStart_) != 0) // NOLINT(cert-err52-cpp): nothing may be thrown through frames of C
+        if (setjmp(stepStart_) != 0) // NOLINT(cert-err52-cpp): exceptions must not pass through C frames
             return false;
         step();
         return true;

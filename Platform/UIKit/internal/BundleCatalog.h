@@ -1,5 +1,5 @@
 // UIKit/internal/BundleCatalog.h
-// The compiled catalog of a bundle, and which variant of an asset serves given traits; internal.
+// The compiled catalog of a bundle, and the selection of variants for given traits; internal.
 // Threads: any. Ownership: catalogs live until the process ends.
 #pragma once
 
@@ -19,12 +19,12 @@ public:
         : bundle_(bundle), catalog_(std::move(catalog)) {}
 
     const Foundation::NSBundle& bundle() const noexcept { return bundle_; }
-    // The index of the asset of that kind and name, or no value.
+    // The index of the asset with that kind and name, or no value.
     std::optional<std::size_t> find(AssetCatalog::Kind kind, std::string_view name) const noexcept;
-    // Precondition for both: find() gave `index`.
+    // Precondition for both: find() returned `index`.
     AssetCatalog::Entry entry(std::size_t index) const noexcept { return (*catalog_)[index]; }
-    // The variant of an asset that serves best a reader with these traits, with those in force where they are
-    // unspecified, in the language that the bundle's texts have. Of the screen's scale the next whole one is wanted.
+    // The best variant of an asset for these traits, completed by the current ones, and for the language of the
+    // bundle's texts. Fractional screen scales are rounded up.
     std::size_t bestVariant(std::size_t index, const UITraitCollection& traits) const noexcept;
 
 private:
@@ -38,14 +38,14 @@ struct Found {
     std::size_t index;
 };
 
-// The asset of that kind and name in the catalog of `bundle`, or no value. A bundle's catalog is opened at the first
-// call for it, once; a bundle without one, or with a damaged one, has no assets. One that cannot be opened at the
-// moment is tried again at the next call. Takes no lock.
+// The asset with that kind and name in the catalog of `bundle`, or no value. A bundle's catalog is opened once, at the
+// first call; a bundle with a missing or damaged catalog has no assets. After a transient error the next call tries
+// again. Lock-free.
 [[nodiscard]] std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name,
                                              const Foundation::NSBundle& bundle) noexcept;
 
-// Throws std::bad_alloc or std::system_error when the asset cannot be looked up, or its data not read, at the moment
-// only: memory or descriptors ran out, or the device failed.
+// Throws std::bad_alloc or std::system_error when a transient error prevents looking up the asset or reading its data:
+// memory or descriptors ran out, or the device failed.
 void throwIfUnreadable(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle);
 
 } // namespace UIKit::detail

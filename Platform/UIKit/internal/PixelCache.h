@@ -1,7 +1,7 @@
 // UIKit/internal/PixelCache.h
-// Decoded pixels, shared by all images of the same picture; internal.
-// Threads: any; the lock is held while the table is read or changed, never while a picture is decoded. A child process
-// that was forked while the lock was held begins with an empty cache.
+// A cache of decoded pixels, shared by all images of the same picture; internal.
+// Threads: any; the lock is held only while the table is used, never while a picture is decoded. A child process that
+// was forked while the lock was held starts with an empty cache.
 #pragma once
 
 #include "AssetCatalog/internal/Blobs.h"
@@ -22,13 +22,13 @@ class PixelCache {
 public:
     using Key = AssetCatalog::Blob; // of the encoded picture
 
-    // Keeps the most recently used pictures up to `maxBytes` of pixels together; others live as long as a caller holds
+    // Keeps the most recently used pictures, up to `maxBytes` of pixels in total; others live as long as a caller holds
     // them.
     explicit PixelCache(std::size_t maxBytes) noexcept : maxBytes_(maxBytes) {}
 
-    // The pixels of the picture whose encoded bytes are at `key`, or null.
+    // The pixels of a picture, or null.
     Pixels find(const Key& key);
-    // Adds the pixels and returns them, or those that another thread has added meanwhile.
+    // Adds the pixels and returns them, or those that another thread added meanwhile.
     Pixels add(const Key& key, const Pixels& pixels);
 
 private:
@@ -37,15 +37,15 @@ private:
         Pixels pixels;
     };
     struct Slot {
-        std::weak_ptr<const Pictures::Bitmap> pixels; // alive as long as a caller holds them
-        std::list<Kept>::iterator kept;               // or the list's end
+        std::weak_ptr<const Pictures::Bitmap> pixels; // expired when no caller holds them
+        std::list<Kept>::iterator kept;               // or the end of the list
     };
 
     struct Table {
-        std::list<Kept> kept; // the last used first
+        std::list<Kept> kept; // most recently used first
         std::size_t keptBytes = 0;
         std::map<Key, Slot> slots;
-        std::size_t nextSweep = 64; // number of slots at which those without pixels are removed
+        std::size_t nextSweep = 64; // when there are this many slots, expired ones are removed
     };
     class Access;
 
