@@ -43,8 +43,8 @@ private:
     void handleContent();
     void handleDeclarations();
 
-    // Runs a handler's work. expat is written in C, so an exception waits until parse() can throw it. expat may call
-    // handlers once more after a stop; they do nothing.
+    // Runs the body of a handler. Exceptions must not pass through expat, which is C code: parse() rethrows them. After
+    // stop(), expat may call more handlers; they do nothing.
     template <class Work> static void handle(void* self, Work work) noexcept {
         auto& parser = *static_cast<Parser*>(self);
         if (parser.isStopped_)
@@ -64,7 +64,7 @@ private:
         XML_StopParser(expat_.get(), XML_FALSE);
     }
 
-    // Of what is being handled. expat's index is -1 before it has read anything.
+    // The position of the current construct. expat's index is -1 before it has read anything.
     XmlPlace place() const noexcept {
         const auto index = static_cast<std::size_t>(std::max<XML_Index>(XML_GetCurrentByteIndex(expat_.get()), 0));
         const std::size_t begin = begin_ + index;
@@ -108,9 +108,10 @@ void Parser::handleDeclarations() {
             return std::string();
         });
     });
-    XML_SetEntityDeclHandler(
-        expat_.get(), [](void* self, const char*, int, const char*, int, const char*, const char*, const char*,
-                         const char*) { handle(self, [](Parser&) { return std::string("an entity declaration"); }); });
+    XML_SetEntityDeclHandler(expat_.get(), [](void* self, const char*, int, const char*, int, const char*, const char*,
+                                              const char*, const char*) {
+        handle(self, [](Parser&) { return std::string("entity declarations are not allowed"); });
+    });
     XML_SetSkippedEntityHandler(expat_.get(), [](void* self, const char* name, int) {
         handle(self, [=](Parser& parser) {
             parser.stop("the unknown entity ", name);

@@ -1,4 +1,4 @@
-// The plug-in's only function.
+// The only function that the plug-in exports.
 #include "StringTables/internal/XmlParser.h"
 
 StringTables::internal::XmlParser* lumoraXml() noexcept {

@@ -50,7 +50,7 @@ private:
     std::string text_; // of the key or string that is open
 };
 
-// Validates `element` against its parent. Returns what is wrong with its place, or nothing.
+// Validates `element` against its parent. Returns an error message, or an empty string.
 std::string XmlReader::faultOfPlace(const Element& element) {
     const auto tag = [&element] { return std::string("<").append(element.name).append(">"); };
     if (levels_.empty())
