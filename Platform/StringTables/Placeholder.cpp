@@ -173,15 +173,15 @@ void FormatSignature::add(const Placeholder& placeholder, const ArgumentCounter:
 FormatSignature signatureOf(std::string_view format) {
     FormatSignature signature;
     ArgumentCounter counter;
-    ArgumentManner manner;
+    ArgumentStyle style;
     std::size_t at = 0;
     while (const auto found = nextPlaceholder(format, at)) {
         signature.hasLonePercent |= format.substr(at, found->begin - at).find('%') != format.npos;
         at = found->end;
         signature.add(*found, counter.take(*found));
-        manner.add(*found);
+        style.add(*found);
     }
-    signature.mixesPositions = manner.isMixed();
+    signature.mixesPositions = style.isMixed();
     signature.hasLonePercent |= format.substr(at).find('%') != format.npos;
     return signature;
 }

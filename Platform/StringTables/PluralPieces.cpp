@@ -92,19 +92,19 @@ private:
     // One text: the format (`own` is 0), or a form of the variable that the argument `own` chooses. Its own number
     // has no position and needs none, whatever the others have.
     void add(PluralPieces pieces, std::size_t own) {
-        ArgumentManner manner;
+        ArgumentStyle style;
         while (const auto piece = pieces.next()) {
             if (piece->placeholder.position != 0 || piece->arguments.value != own)
-                manner.add(piece->placeholder);
+                style.add(piece->placeholder);
             if (piece->variable == nullptr)
                 signature.add(piece->placeholder, piece->arguments);
             else
                 add(*piece->variable, piece->arguments.value);
         }
-        signature.mixesPositions |= manner.isMixed();
+        signature.mixesPositions |= style.isMixed();
     }
 
-    // The forms of a variable that an argument chooses; once, however often it is named.
+    // Adds the forms of a variable, once for each argument that selects them.
     void add(const PluralVariable& variable, std::size_t argument) {
         signature.add(argument, kindOf(variable));
         if (argument > mostArguments || !seen_.emplace(&variable, argument).second)

@@ -78,8 +78,8 @@ private:
     std::size_t taken_ = 0;
 };
 
-// Whether the placeholders of one text take their arguments by position, in their order, or both.
-class ArgumentManner {
+// Whether the placeholders of one text take their arguments by position, in order, or both.
+class ArgumentStyle {
 public:
     void add(const Placeholder& placeholder) noexcept {
         if (placeholder.width.from == Placeholder::Size::From::argument)
@@ -109,12 +109,12 @@ struct FormatSignature {
     // By position; no value for an argument that no placeholder takes. In a conflict the first kind counts.
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one
-    bool mixesPositions = false;      // one text takes arguments both by position and in their order
-    bool hasLonePercent = false;      // a '%' begins no placeholder
+    bool mixesPositions = false;      // one text takes arguments both by position and in order
+    bool hasLonePercent = false;      // some '%' does not begin a placeholder
 
     // Adds the arguments that a placeholder takes.
     void add(const Placeholder& placeholder, const ArgumentCounter::Taken& taken);
-    // Adds that the argument at `position` (0: none) is of that kind.
+    // Adds an argument of that kind at `position`; does nothing for position 0.
     void add(std::size_t position, Kind kind);
 };
 [[nodiscard]] FormatSignature signatureOf(std::string_view format);
