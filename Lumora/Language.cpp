@@ -28,7 +28,7 @@ const std::vector<std::string>& listed(Runtime::OnceSlot<std::vector<std::string
 
 } // namespace
 
-LocalizationCode detail::languageInForce() {
+LocalizationCode detail::currentCode() {
     const std::string* const first = LumoraResources::bundle().preferredLocalization();
     return pickLocalizationCode({first, first != nullptr ? 1U : 0U}, LocalizationCode::allCases());
 }

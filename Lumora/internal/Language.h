@@ -12,7 +12,7 @@
 
 namespace Lumora::detail {
 
-// The language in force: among `supported`, by the first of `preferred` only.
+// The first of `preferred` if it is one of `supported`, else English. Later preferences are ignored.
 [[nodiscard]] inline Corvane::LocalizationCode
 pickLocalizationCode(std::span<const std::string> preferred,
                      std::span<const Corvane::LocalizationCode> supported) noexcept {
@@ -21,8 +21,8 @@ pickLocalizationCode(std::span<const std::string> preferred,
     const bool isSupported = code && std::ranges::find(supported, *code) != supported.end();
     return isSupported ? *code : LocalizationCode::en;
 }
-// The language in force and its locale. Throw when memory or descriptors run out.
-[[nodiscard]] Corvane::LocalizationCode languageInForce();
-[[nodiscard]] Foundation::Locale localeInForce();
+// The current language and its locale. Throw when memory or descriptors run out.
+[[nodiscard]] Corvane::LocalizationCode currentCode();
+[[nodiscard]] Foundation::Locale currentLocale();
 
 } // namespace Lumora::detail

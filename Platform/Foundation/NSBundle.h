@@ -51,8 +51,8 @@ public:
     // The text as a string. When no table has the key: `value`, or the key if `value` is null or empty.
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, const std::string* value,
                                                     std::string_view table) const;
-    // Why a file of the table cannot be read, of those in which findLocalized() looks: "FILE:LINE:COLUMN: REASON", or
-    // "PATH: REASON" where the bundle itself is not there; no value when each can or is not there. Reads them anew.
+    // Why a table file that findLocalized() uses cannot be read: "FILE:LINE:COLUMN: REASON", or "PATH: REASON" if the
+    // bundle itself is missing. No value when each is readable or missing. Reads the files again.
     [[nodiscard]] std::optional<std::string> tableDamage(std::string_view table) const;
     // The path of the file NAME.TYPE (NAME if TYPE is empty) of one localization ("Base" is one), in the subfolder
     // `directory` of the localization's folder unless that is empty. No value when there is no such file or a name

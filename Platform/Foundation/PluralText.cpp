@@ -29,8 +29,8 @@ std::string_view generalForm(const PluralVariable& variable) noexcept {
     return last == variable.forms.rend() ? std::string_view() : std::string_view(**last);
 }
 
-// How a form prints its own number, the argument at `own`: the placeholder without its position. The form `other`
-// decides, because every language has it; a form without its number leaves it to the variable's type.
+// The placeholder, without its position, that prints the variable's number, argument `own`. It is taken from the form
+// `other`, which every language has; if that form does not print the number, the variable's value type is used.
 std::string numberFormat(const PluralFormat& plural, const PluralVariable& variable, std::size_t own) {
     const std::string_view form = generalForm(variable);
     PluralPieces pieces(plural, form, variable, own);
@@ -49,14 +49,15 @@ bool isDecimal(const Placeholder& placeholder) noexcept {
     return placeholder.conversion == 'd' || placeholder.conversion == 'i' || placeholder.conversion == 'u';
 }
 
-// Whether the whole number itself counts: all its digits are printed and no others, or they are not decimal ones.
+// Whether the plural rules apply to the integer itself: the placeholder prints exactly its decimal digits, or not in
+// decimal.
 bool isPlainInteger(const Placeholder& placeholder) noexcept {
     return placeholder.kind == Placeholder::Kind::integer &&
            (!isDecimal(placeholder) ||
             (placeholder.bits == 64 && placeholder.precision.from == Placeholder::Size::From::none));
 }
 
-// The number as it is printed, in ASCII and without its sign.
+// The plural operands of the number as it is printed.
 Intl::PluralOperands operandsOf(const PluralFormat& plural, const PluralVariable& variable, std::size_t own,
                                 const FormatArgument& argument) {
     std::string format = numberFormat(plural, variable, own);

@@ -85,7 +85,7 @@ void addFraction(PluralOperands& number, char digit) noexcept {
     }
 }
 
-// "e+06" at the front is 6. More than a double has is cut.
+// Parses an exponent such as "e+06", clamped to what a double can have.
 int exponentOf(std::string_view text) noexcept {
     constexpr int most = 400;
     if (!text.starts_with('e') && !text.starts_with('E'))
@@ -117,9 +117,9 @@ PluralOperands pluralOperands(std::string_view decimal) noexcept {
     PluralOperands number;
     for (int place = std::min(point, 0); place < std::max(count, point); ++place) {
         const auto index = static_cast<std::size_t>(place);
-        const char digit = place < 0 || place >= count ? '0'
-                           : index < whole.size()      ? whole[index]
-                                                       : fraction[index - whole.size()];
+        char digit = '0';
+        if (place >= 0 && place < count)
+            digit = index < whole.size() ? whole[index] : fraction[index - whole.size()];
         if (place < point)
             number.i = withDigit(number.i, digit);
         else

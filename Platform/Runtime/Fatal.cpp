@@ -25,7 +25,8 @@ void fatalError(std::initializer_list<std::string_view> message, std::string_vie
                 std::initializer_list<std::string_view> hint) noexcept {
     char digits[10];
     const auto end = std::to_chars(digits, digits + sizeof digits, line).ptr;
-    // One call without allocation: the report stays whole beside other threads' output and works when memory is gone.
+    // One system call without allocation: other threads' output cannot split the report, and it works without free
+    // memory.
     iovec report[2 * maxPieces + 7] = {piece("Fatal error: ")};
     iovec* next = report + 1;
     const auto add = [&next](std::initializer_list<std::string_view> pieces) {

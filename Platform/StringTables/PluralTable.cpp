@@ -16,7 +16,7 @@ namespace {
 
 using internal::Contents;
 
-// The text of an entry that has several, by the rule `widthRule` or `deviceRule`: the widest, or the best device's.
+// Selects the text of an entry with a `widthRule` or `deviceRule`: the widest, or that for the best device.
 class TextChoice {
 public:
     void begin(std::string_view rule) { isByWidth_ = rule == pluralKeys::widthRule; }
@@ -34,10 +34,11 @@ public:
     }
     bool isMade() const noexcept { return count_ > 0; }
     const std::string& text() const noexcept { return text_; }
-    // What is lost by the choice, or null.
+    // A note about the texts that are not used, or null.
     const char* loss() const noexcept {
-        return count_ < 2 ? nullptr
-               : isByWidth_
+        if (count_ < 2)
+            return nullptr;
+        return isByWidth_
                    ? " has texts for several widths; the widest is used"
                    : " has texts for several kinds of device; that for \"other\", \"iphone\" or else the first is used";
     }
@@ -48,7 +49,7 @@ private:
     std::string text_;
 };
 
-// Builds the entries from what the list contains: entries, their variables, and the variables' forms, one level each.
+// Builds the entries. The dictionaries nest three deep: entries, their variables, the variables' forms.
 class PluralSink final : public internal::PropertyListSink {
 public:
     explicit PluralSink(Contents& contents) : contents_(contents) {}
@@ -110,7 +111,7 @@ private:
     const std::string& key() const noexcept { return keys_[depth_ - 1]; }
     // Adds a note about the value of the current key.
     void skip(std::string_view what) { contents_.note("the value of ", key(), what, offsets_[depth_ - 1]); }
-    // A note on the entry.
+    // Adds a note about the current entry.
     void noteEntry(std::string_view why) { contents_.note("the entry ", keys_[0], why, offsets_[0]); }
 
     void beginEntry() {
@@ -188,7 +189,7 @@ private:
     bool hasFormat_ = false;
     PluralVariable variable_;
     bool isPlural_ = false;
-    bool isChoice_ = false; // it is no variable, but the texts of `choice_`
+    bool isChoice_ = false; // not a variable, but the texts of `choice_`
     TextChoice choice_;
 
     std::vector<PluralEntry> entries_;

@@ -22,7 +22,7 @@ struct PluralOperands {
     friend bool operator==(const PluralOperands&, const PluralOperands&) = default;
 };
 
-// Of a number as printed in ASCII, without its sign: "12.50", "1.25e+01". Other characters end it.
+// The operands of a number printed in ASCII without its sign: "12.50", "1.25e+01". Stops at any other character.
 [[nodiscard]] PluralOperands pluralOperands(std::string_view decimal) noexcept;
 
 // The category of the number in the language of a tag such as "pt-PT" or "sr_Latn"; `other` for an unknown language.

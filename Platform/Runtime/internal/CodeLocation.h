@@ -13,11 +13,11 @@ struct CodeLocation {
     bool isMainProgram = false;
 };
 
-// Of the shared object or program that holds `code`, the address of a function or object of static storage. The answer
-// does not depend on the process's current directory. Empty texts when the address belongs to no loaded file.
-// Throws nothing but std::bad_alloc.
+// The location of the shared object or program that contains `code`, the address of a function or static object. The
+// result does not depend on the current directory. Its strings are empty when the address belongs to no loaded file.
+// Throws only std::bad_alloc.
 [[nodiscard]] CodeLocation codeLocation(const void* code);
-// Of the running program itself.
+// The location of the running program.
 [[nodiscard]] CodeLocation mainProgramLocation();
 
 } // namespace Runtime

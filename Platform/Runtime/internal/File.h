@@ -22,6 +22,6 @@ namespace Runtime {
 // failure may leave an empty file.
 enum class WriteSafety { synced, unsynced };
 [[nodiscard]] Result<void> writeFile(const std::string& path, std::string_view bytes,
-                                                   WriteSafety safety = WriteSafety::synced);
+                                     WriteSafety safety = WriteSafety::synced);
 
 } // namespace Runtime
