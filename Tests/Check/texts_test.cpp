@@ -103,13 +103,20 @@ TEST(Check, FindsKeysThatOneSideLacks) {
     EXPECT_EQ(source.takeMessages(), Strings());
 }
 
-TEST(Check, HasOneFindingForAFileThatCannotBeRead) {
+TEST(Check, HasOneFindingForAFaultThatOthersFollowFrom) {
     CheckedSource source{{"en.lproj/T.strings", "a = one;\nb = two;"}, {"de.lproj/T.strings", "a = eins;\nb = ;"}};
     EXPECT_EQ(source.findings(), Strings{"unreadable-table de.lproj/T.strings:2:5 de "});
     source.write("en.lproj/T.strings", "a = ");
     source.write("de.lproj/T.strings", "a = eins;");
     source.takeMessages();
     EXPECT_EQ(source.findings(), Strings{"unreadable-table en.lproj/T.strings:1:5 en "});
+    source.write("en.lproj/T.strings", "a = one;\nb = two;");
+    source.write("More/de.lproj/T.strings", "b = zwei;");
+    source.takeMessages();
+    EXPECT_EQ(source.findings(), Strings{"unreadable-table de.lproj/T.strings:0:0 de "});
+
+    CheckedSource conflict{{"en.lproj/T.strings", "m = \"%1$@ %1$d\";"}, {"de.lproj/T.strings", "m = \"%1$@\";"}};
+    EXPECT_EQ(conflict.findings(), Strings{"placeholder-mismatch en.lproj/T.strings:1:1 en m"});
 }
 
 TEST(Check, NamesKeysWithoutAccessor) {
@@ -151,7 +158,7 @@ TEST(Check, ComparesAllPluralForms) {
         {__LINE__, "ja", "other=%d 個 %@", ""},
         {__LINE__, "ja", "one=%d 個 %@", "missing-plural-form"},
         {__LINE__, "de", "one=Eine  Datei von %@;other=%d Dateien von %@", "double-space"},
-        {__LINE__, "de", "one=100 % von %@;other=%d Dateien von %@", "lone-percent"},
+        {__LINE__, "de", "one=100 % der %@;other=%d Dateien von %@", "lone-percent"},
     };
     for (const auto& one : cases) {
         const std::string file = std::string(one.language) + ".lproj/T.stringsdict";

@@ -151,6 +151,9 @@ TEST(StringCatalog, IsRefusedWithThePlaceOfItsFault) {
         {__LINE__, "{'sourceLanguage': 'en', 'strings': {'a': 5}}", "is not a string catalog"},
         {__LINE__, "{'sourceLanguage': 'en',\n'strings': {'a': {'x': nul}}}", "T.xcstrings:2:"},
         {__LINE__, "{'sourceLanguage': 'en', 'strings': {'a': {}", "invalid JSON"},
+        {__LINE__, "{'sourceLanguage': 'en', 'strings': {},\n'version': 1.0.0}", "T.xcstrings:2:"},
+        {__LINE__, "{'a': [tru], 'sourceLanguage': 'en', 'strings': {}}", "T.xcstrings:1:"},
+        {__LINE__, "{'sourceLanguage': 'en', 'strings': {}}\n{}", "T.xcstrings:2:"},
         {__LINE__, "{'sourceLanguage': 'en', 'strings': {'\xFF': {}}}", "invalid JSON"},
     };
     for (const auto& one : cases) {

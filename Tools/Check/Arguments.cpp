@@ -47,13 +47,34 @@ std::string_view lonePercentOf(const PluralFormat& plural) {
     return all.lonePercent;
 }
 
+void escapeProse(std::string& format) {
+    std::size_t at = 0;
+    while (const auto placeholder = StringTables::nextPlaceholder(format, at)) {
+        const bool isEscaped = isProse(*placeholder, format);
+        if (isEscaped)
+            format.insert(placeholder->begin, 1, '%');
+        at = placeholder->end + (isEscaped ? 1 : 0);
+    }
+}
+
+FormatSignature signatureWithoutProse(PluralFormat plural) {
+    escapeProse(plural.format);
+    for (auto& variable : plural.variables)
+        for (auto& form : variable.forms)
+            if (form)
+                escapeProse(*form);
+    return StringTables::signatureOf(plural);
+}
+
 } // namespace
 
 Arguments argumentsOf(const SourceBundle::SourceEntry& entry) {
     Arguments arguments;
-    if (entry.plural != nullptr)
-        arguments = {StringTables::signatureOf(*entry.plural), lonePercentOf(*entry.plural)};
-    else if (entry.text.find('%') != entry.text.npos)
+    if (entry.plural != nullptr) {
+        const std::string_view lone = lonePercentOf(*entry.plural);
+        arguments = {lone.empty() ? StringTables::signatureOf(*entry.plural) : signatureWithoutProse(*entry.plural),
+                     lone};
+    } else if (entry.text.find('%') != entry.text.npos)
         read(entry.text, arguments);
     return arguments;
 }

@@ -17,9 +17,11 @@ void checkChange(const Text& text, Report& report) {
                         own.before->text());
 }
 
-// A translation that fits the older development text is not at fault: the change is.
+// A translation that fits the older development text is not at fault: the change is. Nor is one of a development text
+// that is at fault itself.
 bool fits(const Arguments& arguments, const DevelopmentText& development) {
-    return arguments.fits(development.arguments) || (development.before && arguments.fits(*development.before));
+    return development.arguments.signature.conflict || arguments.fits(development.arguments) ||
+           (development.before && arguments.fits(*development.before));
 }
 
 } // namespace

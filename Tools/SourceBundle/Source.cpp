@@ -121,6 +121,7 @@ private:
                                              ", as is " + other->path.string(),
                                   .file = file.path},
                                  Topic::unreadableTable);
+                texts.isDamaged = true;
                 return nullptr;
             }
         texts.files.push_back(&file);

@@ -255,7 +255,18 @@ private:
             const std::string key(std::string_view(field.unescaped_key()));
             readKey(key, field.value(), line, column);
         }
+        checkRest(document);
         return sourceLanguage_;
+    }
+
+    // Finds faults outside of what has been read.
+    static void checkRest(ondemand::document& document) {
+        document.rewind();
+        for (auto field : document.get_object())
+            if (field.unescaped_key().value() != "strings")
+                skip(field.value());
+        if (const char* place = nullptr; document.current_location().get(place) == simdjson::SUCCESS)
+            throw simdjson::simdjson_error(simdjson::TRAILING_CONTENT);
     }
 
     void readKey(std::string_view key, ondemand::value object, std::uint32_t line, std::uint32_t column) {
