@@ -6,6 +6,7 @@
 #include "Foundation/FormatArgument.h"
 #include "Foundation/Locale.h"
 #include "Runtime/Export.h"
+#include "StringTables/PercentRange.h"
 #include <span>
 #include <string>
 #include <string_view>
@@ -18,19 +19,23 @@ namespace Foundation {
 
 class LocalizedFormat {
 public:
-    explicit LocalizedFormat(std::string_view text) noexcept : text_(text) {}
+    explicit LocalizedFormat(std::string_view text, StringTables::PercentRange percents = {}) noexcept
+        : text_(text), percents_(percents) {}
     // `text`: the plural's text for use without numbers. `language`: the table's language, whose plural rules apply.
     LocalizedFormat(std::string_view text, const StringTables::PluralFormat& plural, std::string_view language) noexcept
         : text_(text), plural_(&plural), language_(language) {}
 
     // For a plural: its format with the form `other` of every variable.
     std::string_view text() const noexcept { return text_; }
+    // Where the text has its percent signs.
+    StringTables::PercentRange percents() const noexcept { return percents_; }
     // Null for a text.
     const StringTables::PluralFormat* plural() const noexcept { return plural_; }
     std::string_view language() const noexcept { return language_; }
 
 private:
     std::string_view text_;
+    StringTables::PercentRange percents_;
     const StringTables::PluralFormat* plural_ = nullptr;
     std::string_view language_;
 };
@@ -38,8 +43,10 @@ private:
 namespace String {
 
 // Like format() of a text. The arguments select the forms of a plural by the rules of its language; `locale` determines
-// how numbers are written.
+// how numbers are written. Without it, the user's current locale does.
 [[nodiscard]] LUMORA_EXPORT std::string format(const LocalizedFormat& format, const Locale& locale,
+                                               std::span<const FormatArgument> arguments);
+[[nodiscard]] LUMORA_EXPORT std::string format(const LocalizedFormat& format,
                                                std::span<const FormatArgument> arguments);
 
 } // namespace String

@@ -1,10 +1,12 @@
 #include "Foundation/NSBundle.h"
 
 #include "Foundation/internal/BundleFolders.h"
+#include "Foundation/internal/FormattedText.h"
 #include "Foundation/internal/HostState.h"
 #include "Foundation/internal/LanguageChoice.h"
 #include "Foundation/internal/Localization.h"
 #include "Runtime/internal/CodeLocation.h"
+#include "Runtime/internal/Hash.h"
 #include "Runtime/internal/KeyedStore.h"
 #include "StringTables/internal/BundleLayout.h"
 #include <algorithm>
@@ -21,6 +23,8 @@ namespace Foundation {
 namespace {
 
 namespace layout = StringTables::bundleLayout;
+
+template <class... Functions> struct Overloaded : Functions... { using Functions::operator()...; };
 
 // The language folders in which texts are looked up, in order; null after the last.
 using Chain = std::array<detail::Localization*, layout::lookupOrder({}, {}).size() + 1>;
@@ -82,8 +86,9 @@ struct NSBundle::Contents {
     // The index of the user's first preferred localization; `localizations.size()` when the user reads none.
     std::size_t preferred() {
         const std::uint64_t known = latest.load(std::memory_order_relaxed);
-        if (known / versionUnit == detail::hostVersion()) [[likely]]
-            return known % versionUnit;
+        return known / versionUnit == detail::hostVersion() ? known % versionUnit : choosePreferred();
+    }
+    [[gnu::noinline, gnu::cold]] std::size_t choosePreferred() {
         const detail::HostLanguages host = detail::hostLanguages();
         std::size_t number = localizations.size();
         for (const std::string& language : host.languages)
@@ -93,6 +98,23 @@ struct NSBundle::Contents {
             }
         latest.store(host.version * versionUnit + number, std::memory_order_relaxed);
         return number;
+    }
+
+    // What `use` makes of what is found: the LocalizedFormat of a plural, or a FoundText, which is none where no table
+    // has the key.
+    template <class Use> auto lookUp(const LocalizedKey& key, Use&& use) {
+        const Chain& chain = chains[preferred()];
+        for (auto at = chain.begin(); *at != nullptr; ++at) {
+            detail::LocalizedTable* const table = (*at)->table(key.table, key.tableHash);
+            if (table == nullptr)
+                continue;
+            if (table->hasPlurals()) [[unlikely]]
+                if (const auto plural = table->findPlural(key.key, (*at)->language()))
+                    return use(*plural);
+            if (const StringTables::FoundText text = table->findText(key.key, key.keyHash)) [[likely]]
+                return use(text);
+        }
+        return use(StringTables::FoundText());
     }
 
     using Choice = std::optional<std::size_t>;
@@ -111,6 +133,11 @@ struct NSBundle::Contents {
     std::atomic<std::uint64_t> latest{0};
     static constexpr std::uint64_t versionUnit = std::uint64_t{1} << 16;
 };
+
+LocalizedKey LocalizedKey::of(std::string_view table, std::string_view key) noexcept {
+    const std::string_view name = table.empty() ? layout::defaultTable : table;
+    return {name, key, Runtime::keyHash(name), Runtime::keyHash(key)};
+}
 
 const NSBundle& NSBundle::bundleWithPath(const std::string& path) {
     static constinit Runtime::KeyedStore<Contents> opened;
@@ -167,14 +194,26 @@ const std::string* NSBundle::preferredLocalization() const {
     return number < contents.localizations.size() ? &contents.localizations[number] : &contents.developmentLocalization;
 }
 
+std::optional<LocalizedFormat> NSBundle::findLocalized(const LocalizedKey& key) const {
+    using Found = std::optional<LocalizedFormat>;
+    return contents().lookUp(key, Overloaded{[](const LocalizedFormat& plural) { return Found(plural); },
+                                             [](StringTables::FoundText found) {
+                                                 return found ? Found(LocalizedFormat(found.text(), found.percents()))
+                                                              : Found();
+                                             }});
+}
+
 std::optional<LocalizedFormat> NSBundle::findLocalized(std::string_view key, std::string_view table) const {
-    const std::string_view name = table.empty() ? layout::defaultTable : table;
-    Contents& contents = this->contents();
-    const Chain& chain = contents.chains[contents.preferred()];
-    for (auto at = chain.begin(); *at != nullptr; ++at)
-        if (const auto found = (*at)->find(key, name))
-            return found;
-    return std::nullopt;
+    return findLocalized(LocalizedKey::of(table, key));
+}
+
+std::string NSBundle::formattedText(const LocalizedKey& key, std::span<const FormatArgument> arguments) const {
+    return contents().lookUp(
+        key, Overloaded{[&](const LocalizedFormat& plural) { return String::format(plural, arguments); },
+                        [&](StringTables::FoundText found) {
+                            return detail::formattedText(found ? found.text() : key.key, found.percents(), nullptr,
+                                                         arguments);
+                        }});
 }
 
 LocalizedFormat NSBundle::localizedFormat(std::string_view key, std::string_view table) const {

@@ -5,9 +5,11 @@
 #pragma once
 
 #include "Foundation/LocalizedFormat.h"
+#include "Foundation/LocalizedKey.h"
 #include "Runtime/Export.h"
 #include <atomic>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,8 +46,11 @@ public:
     // localization, else that of the development texts, else no value. Within a localization a plural takes precedence
     // over a text. A damaged or missing table has no keys. Each table is read once.
     [[nodiscard]] std::optional<LocalizedFormat> findLocalized(std::string_view key, std::string_view table) const;
+    [[nodiscard]] std::optional<LocalizedFormat> findLocalized(const LocalizedKey& key) const;
     // The same, but with `key` itself as the text when no table has it.
     [[nodiscard]] LocalizedFormat localizedFormat(std::string_view key, std::string_view table) const;
+    // The finished text: localizedFormat() with its placeholders replaced, in the user's current locale.
+    [[nodiscard]] std::string formattedText(const LocalizedKey& key, std::span<const FormatArgument> arguments) const;
     // The text of localizedFormat(): a view that lives until the process ends, or `key`.
     [[nodiscard]] std::string_view localizedText(std::string_view key, std::string_view table) const;
     // The text as a string. When no table has the key: `value`, or the key if `value` is null or empty.

@@ -2,6 +2,7 @@
 
 #include "Foundation/NSNumber.h"
 #include "Foundation/internal/FormattedNumber.h"
+#include "Foundation/internal/FormattedText.h"
 #include "Foundation/internal/NumberText.h"
 #include "StringTables/internal/Placeholder.h"
 #include <algorithm>
@@ -35,19 +36,67 @@ std::string_view cut(std::string_view text, std::size_t size) noexcept {
     return text.substr(0, size);
 }
 
-// Formats into a string of the caller.
+// The beginning of a format that has no other placeholders than "%@" for texts; nearly always the whole format. It is
+// put together on the stack, so that the finished text takes one allocation and nothing is kept for other placeholders.
+class PlainBeginning {
+public:
+    PlainBeginning(std::string_view format, StringTables::PercentRange percents,
+                   std::span<const FormatArgument> arguments) noexcept {
+        if (!fits(format, arguments))
+            return;
+        const std::string_view withPercents = format.substr(0, percents.end(format));
+        std::size_t at = nextPercent(withPercents, percents.begin());
+        for (; at + 1 < format.size() && format[at + 1] == '@' && taken_ < arguments.size();
+             at = nextPercent(withPercents, done_)) {
+            put(format.substr(done_, at - done_));
+            put(arguments[taken_++].text());
+            done_ = at + 2;
+        }
+        isWhole_ = at == format.npos;
+        if (isWhole_)
+            put(format.substr(done_));
+    }
+
+    // Whether that is all of the format.
+    bool isWhole() const noexcept { return isWhole_; }
+    std::string_view text() const noexcept { return {buffer_.data(), static_cast<std::size_t>(out_ - buffer_.data())}; }
+    // Of the format; the text up to the next placeholder is not in it unless it is the whole format.
+    std::size_t size() const noexcept { return done_; }
+    std::size_t arguments() const noexcept { return taken_; }
+
+private:
+    bool fits(std::string_view format, std::span<const FormatArgument> arguments) const noexcept {
+        std::size_t size = format.size();
+        for (const FormatArgument& argument : arguments)
+            size += argument.kind() == Kind::text ? argument.text().size() : buffer_.size();
+        return size <= buffer_.size();
+    }
+    static std::size_t nextPercent(std::string_view format, std::size_t from) noexcept {
+        const bool isThere = from < format.size() && format[from] == '%'; // spares the call
+        return isThere ? from : format.find('%', from);
+    }
+    void put(std::string_view text) noexcept { out_ += text.copy(out_, text.size()); }
+
+    std::array<char, 512> buffer_;
+    char* out_ = buffer_.data();
+    std::size_t done_ = 0, taken_ = 0;
+    bool isWhole_ = false;
+};
+
+// Appends what follows the plain beginning of a format.
 class Formatter {
 public:
-    Formatter(std::string& out, std::string_view format, const Locale& locale,
-              std::span<const FormatArgument> arguments)
-        : out_(out), format_(format), locale_(locale), arguments_(arguments),
-          limit_(out.size() + format.size() + largestGrowth) {}
+    Formatter(std::string_view format, const Locale* locale, std::span<const FormatArgument> arguments) noexcept
+        : format_(format), locale_(locale), arguments_(arguments), limit_(format.size() + largestGrowth) {}
 
-    void run() {
-        out_.reserve(std::min(out_.size() + expectedSize(), limit_));
-        fill();
+    std::string run(const PlainBeginning& beginning) {
+        out_.reserve(std::min(beginning.text().size() + expectedSize(), limit_));
+        out_ = beginning.text();
+        counter_ = ArgumentCounter(beginning.arguments());
+        fill(beginning.size());
         if (out_.size() > limit_)
             out_.resize(cut(out_, limit_).size());
+        return std::move(out_);
     }
 
 private:
@@ -60,21 +109,14 @@ private:
     }
 
     // Formats until the text exceeds the limit.
-    void fill() {
-        std::size_t done = 0;
-        for (std::size_t at = 0; (at = format_.find('%', at)) != format_.npos && out_.size() <= limit_; at = done) {
-            if (format_.substr(at + 1).starts_with('@')) { // the most common placeholder: no need to parse it
-                put(format_.substr(done, at - done));
-                done = at + 2;
-                if (const FormatArgument* given = argument(counter_.next()))
-                    putText(*given);
-            } else if (const auto placeholder = StringTables::nextPlaceholder(format_, at)) {
-                put(format_.substr(done, placeholder->begin - done));
-                done = placeholder->end;
-                append(*placeholder);
-            } else {
+    void fill(std::size_t done) {
+        while (out_.size() <= limit_) {
+            const auto placeholder = StringTables::nextPlaceholder(format_, done);
+            if (!placeholder)
                 break;
-            }
+            put(format_.substr(done, placeholder->begin - done));
+            done = placeholder->end;
+            append(*placeholder);
         }
         put(format_.substr(done));
     }
@@ -174,7 +216,8 @@ private:
 
     const Intl::NumberPattern& pattern() {
         if (!pattern_)
-            pattern_ = detail::numberPattern(locale_.identifier(), Intl::NumberStyle::decimal);
+            pattern_ = detail::numberPattern((locale_ != nullptr ? *locale_ : Locale::current()).identifier(),
+                                             Intl::NumberStyle::decimal);
         return *pattern_;
     }
 
@@ -194,21 +237,37 @@ private:
         out_.insert(padding ? padding->at : begin, filling);
     }
 
-    std::string& out_;
+    std::string out_;
     std::string_view format_;
-    const Locale& locale_;
+    const Locale* locale_; // null: the user's current one, as it is when the first number needs it
     std::span<const FormatArgument> arguments_;
     std::size_t limit_; // of out_
     ArgumentCounter counter_;
     detail::Kept<Intl::NumberPattern> pattern_; // loaded for the first number
 };
 
+// A function of its own, so that a format that is all plain takes no registers for it.
+[[gnu::noinline]] std::string completed(const PlainBeginning& beginning, std::string_view format, const Locale* locale,
+                                        std::span<const FormatArgument> arguments) {
+    return Formatter(format, locale, arguments).run(beginning);
+}
+
 } // namespace
 
 std::string format(std::string_view format, const Locale& locale, std::span<const FormatArgument> arguments) {
-    std::string out;
-    Formatter(out, format, locale, arguments).run();
-    return out;
+    return detail::formattedText(format, {}, &locale, arguments);
 }
 
 } // namespace Foundation::String
+
+namespace Foundation {
+
+std::string detail::formattedText(std::string_view format, StringTables::PercentRange percents, const Locale* locale,
+                                  std::span<const FormatArgument> arguments) {
+    const String::PlainBeginning beginning(format, percents, arguments);
+    if (beginning.isWhole()) [[likely]]
+        return std::string(beginning.text());
+    return String::completed(beginning, format, locale, arguments);
+}
+
+} // namespace Foundation

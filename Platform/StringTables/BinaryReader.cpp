@@ -67,8 +67,7 @@ bool BinaryReader::checkIndex() {
         return objects_.fail(at, "the table's index belongs to another table");
     const CompiledTable table(contents_.source.substr(0, index.front()), index);
     for (const Entry& entry : contents_.entries)
-        if (const std::string_view text = table.find(entry.key, keyHash(entry.key));
-            text.data() == nullptr || text != entry.text)
+        if (const auto found = table.find(entry.key, Runtime::keyHash(entry.key)); !found || found.text() != entry.text)
             return objects_.fail(entry.offset, "the table's index contradicts the entry " + quoted(entry.key));
     return true;
 }

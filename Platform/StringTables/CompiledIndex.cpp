@@ -40,7 +40,7 @@ CompiledIndex::State CompiledIndex::recognize(std::string_view head, CompiledInd
     if (head.size() < headSize || !head.starts_with(list) || !resembles(head.substr(markAt, mark.size()), mark))
         return State::none;
     const char* const numbers = head.data() + markAt + mark.size();
-    const auto number = [numbers](std::size_t i) { return loadLittle<std::uint32_t>(numbers + 4 * i); };
+    const auto number = [numbers](std::size_t i) { return Runtime::loadLittle<std::uint32_t>(numbers + 4 * i); };
     out.slots_ = number(0);
     out.buckets_ = number(1);
     out.entries_ = number(2);
@@ -59,9 +59,9 @@ CompiledIndex::State CompiledIndex::recognizeFile(std::string_view file, Compile
 }
 
 std::uint32_t CompiledIndex::numbersCheck() const noexcept {
-    std::uint64_t check = keyHash(mark);
+    std::uint64_t check = Runtime::keyHash(mark);
     for (const std::uint32_t number : {slots_, buckets_, entries_, front_})
-        check = mixed(check ^ number, hashSpread);
+        check = Runtime::mixed(check ^ number, Runtime::hashSpread);
     return static_cast<std::uint32_t>(check ^ check >> 32);
 }
 

@@ -6,22 +6,20 @@ namespace StringTables::internal {
 
 CompiledTable::CompiledTable(std::string front, const CompiledIndex& index)
     : front_(front.size() < index.slotsEnd() ? std::string() : std::move(front)), index_(index),
-      states_(new std::atomic<std::uint8_t>[front_.empty() ? 0 : index.slots()] {}),
+      states_(new std::atomic<std::uint32_t>[front_.empty() ? 0 : index.slots()] {}),
       left_(static_cast<std::ptrdiff_t>(mostTextPerFront * front_.size())) {}
 
-bool CompiledTable::check(std::uint32_t number, const CompiledIndex::Slot& slot, std::uint64_t hash,
-                          std::string_view text) const noexcept {
-    std::uint8_t state = states_[number].load(std::memory_order_relaxed);
-    if (state != unknown)
-        return state == intact;
+std::uint32_t CompiledTable::check(std::uint32_t number, const CompiledIndex::Slot& slot, std::uint64_t hash,
+                                   std::string_view text) const noexcept {
     const auto size = static_cast<std::ptrdiff_t>(text.size());
     const bool isRight = left_.load(std::memory_order_relaxed) >= size && isIntact(slot, hash, text);
     // Several threads may check one slot at the same time; they get the same result, and the first is counted.
-    if (states_[number].compare_exchange_strong(state, isRight ? intact : damaged, std::memory_order_relaxed)) {
-        left_.fetch_sub(size, std::memory_order_relaxed);
-        return isRight;
-    }
-    return state == intact;
+    const std::uint32_t found = isRight ? intact + PercentRange::of(text).packed() : damaged;
+    std::uint32_t state = unknown;
+    if (!states_[number].compare_exchange_strong(state, found, std::memory_order_relaxed))
+        return state;
+    left_.fetch_sub(size, std::memory_order_relaxed);
+    return found;
 }
 
 bool isIntact(const CompiledIndex::Slot& slot, std::uint64_t hash, std::string_view text) noexcept {

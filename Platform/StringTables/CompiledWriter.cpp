@@ -85,7 +85,7 @@ Runtime::Result<std::string> writeCompiled(std::span<const Entry> entries) {
         return plain;
     std::vector<std::uint64_t> hashes;
     for (const Entry& entry : entries)
-        hashes.push_back(keyHash(entry.key));
+        hashes.push_back(Runtime::keyHash(entry.key));
     const auto index = CompiledIndexWriter::make(hashes);
     if (!index)
         return plain;

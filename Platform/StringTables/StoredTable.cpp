@@ -68,15 +68,18 @@ StoredTable::~StoredTable() {
         std::destroy_at(const_cast<Whole*>(&whole_.value())); // a OnceSlot never destroys its value
 }
 
-// Looks up again with the right hash if the given one was wrong.
-std::optional<std::string_view> StoredTable::Whole::findAgain(std::string_view key, std::uint64_t hash) const noexcept {
-    const std::uint64_t right = keyHash(key);
-    const std::string_view text = hash == right ? std::string_view() : compiled->find(key, right);
-    return text.data() == nullptr ? std::nullopt : std::optional(text);
+// Looks up in a table that is not a compiled one, or again with the right hash if the given one was wrong.
+FoundText StoredTable::Whole::findOther(std::string_view key, std::uint64_t hash) const noexcept {
+    if (!compiled) {
+        const auto text = other.find(key);
+        return text ? FoundText(*text) : FoundText();
+    }
+    const std::uint64_t right = Runtime::keyHash(key);
+    return hash == right ? FoundText() : compiled->find(key, right);
 }
 
 // Threads may read the same part at the same time; one result is kept.
-std::optional<std::string_view> StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
+FoundText StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
     std::unique_ptr<const Part> made;
     for (std::atomic<const Part*>& slot : parts_) {
         const Part* part = slot.load(std::memory_order_acquire);
@@ -86,8 +89,8 @@ std::optional<std::string_view> StoredTable::findInParts(std::string_view key, s
             break;
         if (part == nullptr && slot.compare_exchange_strong(part, made.get(), std::memory_order_acq_rel))
             part = made.release();
-        if (part->key == key)
-            return part->text;
+        if (Runtime::isSameName(part->key, key))
+            return part->found;
     }
     return whole_.get([this] { return readWhole(); }).find(key, hash);
 }
@@ -105,7 +108,7 @@ std::unique_ptr<const StoredTable::Part> StoredTable::readPart(std::string_view 
     CompiledIndex index;
     if (CompiledIndex::recognize(source.bytes(0, CompiledIndex::headSize), index) != CompiledIndex::State::present)
         return nullptr;
-    return std::make_unique<Part>(Part{std::string(key), findIn(source, index, key, keyHash(key)), file->identity()});
+    return std::make_unique<Part>(key, findIn(source, index, key, Runtime::keyHash(key)), file->identity());
 }
 
 StoredTable::Whole StoredTable::readWhole() const {

@@ -1,6 +1,6 @@
 #include "StringTables/internal/Unicode.h"
 
-#include "StringTables/internal/Hash.h"
+#include "Runtime/internal/Hash.h"
 #include "StringTables/internal/Scan.h"
 #include <bit>
 #include <cstdint>
@@ -34,7 +34,7 @@ std::size_t characterLength(const unsigned char* at, std::size_t left) noexcept 
 // Whether the next eight bytes are four characters of two bytes, as in words of Cyrillic, Greek, Hebrew and Arabic.
 bool areFourPairs(const char* at) noexcept {
     constexpr std::uint64_t every = 0x0001000100010001;
-    const auto bytes = loadLittle<std::uint64_t>(at); // leads in the lower halves of the 16-bit lanes
+    const auto bytes = Runtime::loadLittle<std::uint64_t>(at); // leads in the lower halves of the 16-bit lanes
     const bool haveForm = (bytes & 0xC0E0 * every) == 0x80C0 * every;
     // Lead bytes C0 and C1 begin overlong forms: their bits 1 to 4 are 0, so adding FE to them does not carry.
     const std::uint64_t carries = (bytes & 0x001E * every) + 0x00FE * every;

@@ -27,6 +27,8 @@ Texts sample(int count) {
                    {"shared 2", "the same"},
                    {"the same", "as a text"},
                    {"long", std::string(5000, 'l')},
+                   {"percent signs", "50 % of %@, %d%"},
+                   {"percent signs far behind", std::string(70'000, 'l') + "%@"},
                    {"длинный", std::string(3000, '\0')}};
     for (int i = 0; i < count; ++i)
         texts.emplace("Group.key_" + std::to_string(i),
@@ -82,7 +84,10 @@ TEST_F(CompiledTable, FindsEveryText) {
         StoredTable table(path);
         for (const auto& [key, text] : texts) {
             EXPECT_EQ(table.find(key), text);
-            EXPECT_EQ(table.find(key, 1), text) << "a wrong hash only costs time";
+            const StringTables::FoundText found = table.find(key, 1);
+            EXPECT_EQ(found.text(), text) << "a wrong hash only costs time";
+            EXPECT_EQ(text.substr(0, found.percents().begin()).find('%'), text.npos);
+            EXPECT_EQ(text.find('%', found.percents().end(text)), text.npos);
             EXPECT_EQ(table.find(key + "?"), std::nullopt);
         }
         for (const std::string key : {"", "empty", "Ключ", "длинный", "the same", "long", "none"})

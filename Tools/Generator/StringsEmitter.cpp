@@ -3,8 +3,10 @@
 #include "Generator/CodeText.h"
 #include "Generator/CodeWriter.h"
 #include "Generator/StringsTemplates.h"
+#include "Runtime/internal/Hash.h"
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdint>
 #include <utility>
 
@@ -182,18 +184,21 @@ class Keys {
 public:
     explicit Keys(std::span<const Placed> entries) {
         for (const Placed& placed : entries)
-            if (std::ranges::find(tables_, placed.table, &Table::first) == tables_.end()) {
-                tables_.emplace_back(placed.table, size_);
-                add(std::string(placed.table->name) + '\0');
+            if (std::ranges::find(tables_, placed.table) == tables_.end()) {
+                const std::string_view name = placed.table->name;
+                tables_.push_back(placed.table);
+                tableRows_.push_back(row({size_, name.size()}, name));
+                add(name);
             }
         for (const bool plain : {true, false})
             for (const Placed& placed : entries)
                 if (placed.entry->parameters.empty() == plain) {
-                    const auto table = std::ranges::find(tables_, placed.table, &Table::first);
-                    places_.push_back('{' + std::to_string(table->second) + ", " + std::to_string(size_) + '}');
-                    add(placed.entry->source->key);
+                    const std::string_view key = placed.entry->source->key;
+                    const auto table = std::ranges::find(tables_, placed.table) - tables_.begin();
+                    places_.push_back(row({static_cast<std::size_t>(table), size_}, key));
+                    add(key);
                 }
-        places_.push_back("{0, " + std::to_string(size_) + '}');
+        places_.push_back("{0, " + std::to_string(size_) + ", 0}");
     }
 
     void emit(CodeWriter& code) const {
@@ -202,26 +207,35 @@ public:
         code.add("constexpr char characters[] =");
         for (const std::string& text : literals_)
             code.add("    {{text}}{{end}}", {{"text", text}, {"end", &text == &literals_.back() ? ";" : ""}});
+        code.addList("constexpr Table tables[] = {\n    ", tableRows_, "};");
         code.addList("constexpr Place places[] = {\n    ", places_, "};");
+        code.add(keyDefinition);
     }
 
 private:
-    using Table = std::pair<const CatalogTable*, std::size_t>;
+    // Two numbers and the hash of a name.
+    static std::string row(std::array<std::size_t, 2> numbers, std::string_view name) {
+        std::array<char, 2 * sizeof(std::uint64_t)> hash;
+        char* const end = std::to_chars(hash.begin(), hash.end(), Runtime::keyHash(name), 16).ptr;
+        return '{' + std::to_string(numbers[0]) + ", " + std::to_string(numbers[1]) + ", 0x" +
+               std::string(hash.data(), end) + '}';
+    }
 
     void add(std::string_view text) {
         literals_.push_back(literal(text));
         size_ += text.size();
     }
 
-    std::vector<Table> tables_;
+    std::vector<const CatalogTable*> tables_;
     std::vector<std::string> literals_;
+    std::vector<std::string> tableRows_;
     std::vector<std::string> places_;
     std::size_t size_ = 0;
 };
 
 std::vector<std::string> includesOf(std::span<const Placed> entries, const Options& options) {
     const std::string folder = options.module + "Strings/";
-    std::vector<std::string> includes = {"Runtime/Attempt.h", "Runtime/OnceSlot.h", folder + "Internal/Catalog.h"};
+    std::vector<std::string> includes = {"Runtime/OnceSlot.h", folder + "Internal/Catalog.h"};
     const CatalogTable* included = nullptr;
     for (const Placed& placed : entries)
         if (std::exchange(included, placed.table) != placed.table)

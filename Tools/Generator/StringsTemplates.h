@@ -14,6 +14,15 @@ inline constexpr std::string_view declarationsBegin = R"(#pragma once
 #include <cstdint>
 #include <string>)";
 
+inline constexpr std::string_view keyDefinition = R"(
+inline ::Foundation::LocalizedKey keyAt(std::size_t entry) noexcept {
+    const Place& place = places[entry];
+    const Table& table = tables[place.table];
+    const std::string_view name(characters + table.name, table.size);
+    const std::string_view key(characters + place.key, places[entry + 1].key - place.key);
+    return {name, key, table.hash, place.hash};
+})";
+
 // {{count}}: of plain entries.
 inline constexpr std::string_view plainDefinition = R"(
 constinit ::Runtime::OnceSlot<std::string> slots[{{count}}];
@@ -21,7 +30,7 @@ constinit ::Runtime::OnceSlot<std::string> slots[{{count}}];
 // Without memory or descriptors this read gives no text, and a later one tries again.
 [[gnu::noinline, gnu::cold]] const std::string& made(std::size_t entry) noexcept {
     try {
-        return slots[entry].get([entry] { return textAt(characters, places + entry, {}); });
+        return slots[entry].get([entry] { return tr(keyAt(entry), {}); });
     } catch (...) {
         return noText();
     }
@@ -34,13 +43,18 @@ inline const std::string& text(std::size_t entry) noexcept {
 inline constexpr std::string_view formattedDefinition = R"(
 [[gnu::noinline]] std::string formatted(std::size_t entry,
                                         std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
-    return ::Runtime::attempt([&] { return textAt(characters, places + entry, arguments); });
+    try {
+        return tr(keyAt(entry), arguments);
+    } catch (...) { // no memory or descriptors
+        return {};
+    }
 })";
 
 inline constexpr std::string_view catalogHeader = R"(// What the sources of the tree share; internal.
 #pragma once
 
 #include "Foundation/FormatArgument.h"
+#include "Foundation/LocalizedKey.h"
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -50,27 +64,27 @@ inline constexpr std::string_view catalogHeader = R"(// What the sources of the 
 
 namespace {{module}}::{{module}}Strings {
 
-// The text of `key` in the table `table`, in the user's language, its placeholders replaced by `arguments`. The only
-// way from the tree to the bundle. Throws when the system is out of memory or descriptors.
-std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments);
+// The text of `key`, in the user's language, its placeholders replaced by `arguments`. The only way from the tree to
+// the bundle. Throws when the system is out of memory or descriptors.
+std::string tr(const ::Foundation::LocalizedKey& key, std::span<const ::Foundation::FormatArgument> arguments);
 
 namespace detail {
 
 // Of a text that could not be made.
 const std::string& noText() noexcept;
 
-// Where an entry's table name and key begin among the characters of its source. There are no pointers here, so nothing
+// Where the names of tables and the keys are among the characters of a source. There are no pointers here, so nothing
 // has to be relocated when the library is loaded.
-struct Place {
-    std::uint32_t table; // the name ends at a NUL
-    std::uint32_t key;   // ends where the next key begins
+struct Table {
+    std::uint32_t name;
+    std::uint32_t size; // of the name
+    std::uint64_t hash;
 };
-
-inline std::string textAt(const char* characters, const Place* place,
-                          std::initializer_list<::Foundation::FormatArgument> arguments) {
-    const std::string_view key(characters + place[0].key, place[1].key - place[0].key);
-    return tr(characters + place[0].table, key, arguments);
-}
+struct Place {
+    std::uint32_t table; // its number
+    std::uint32_t key;   // ends where the next key begins
+    std::uint64_t hash;  // of the key
+};
 
 } // namespace detail
 
@@ -79,17 +93,14 @@ inline std::string textAt(const char* characters, const Place* place,
 inline constexpr std::string_view lookupSource = R"(#include "{{module}}Resources.h"
 #include "{{module}}Strings/Internal/Catalog.h"
 
-#include "Foundation/Locale.h"
 #include "Foundation/NSBundle.h"
-#include "Foundation/String.h"
 #include "Runtime/OnceSlot.h"
 
 namespace {{module}}::{{module}}Strings {
 
 // A text without arguments is formatted as well: its doubled percent signs become single ones.
-std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments) {
-    const ::Foundation::LocalizedFormat format = ::{{module}}::{{module}}Resources::bundle().localizedFormat(key, table);
-    return ::Foundation::String::format(format, ::Foundation::Locale::current(), arguments);
+std::string tr(const ::Foundation::LocalizedKey& key, std::span<const ::Foundation::FormatArgument> arguments) {
+    return ::{{module}}::{{module}}Resources::bundle().formattedText(key, arguments);
 }
 
 const std::string& detail::noText() noexcept {

@@ -3,7 +3,7 @@
 // Threads: any; lock-free. A table is read at its first lookup and kept.
 #pragma once
 
-#include "Foundation/LocalizedFormat.h"
+#include "Foundation/internal/LocalizedTable.h"
 #include "Runtime/internal/KeyedStore.h"
 #include <optional>
 #include <string>
@@ -18,16 +18,20 @@ public:
 
     std::string_view name() const noexcept { return name_; }
 
-    // The entry for `key` in the table, or no value. Plurals (TABLE.stringsdict) take precedence over texts
-    // (TABLE.strings). Throws std::bad_alloc, and std::system_error on transient errors.
-    std::optional<LocalizedFormat> find(std::string_view key, std::string_view table);
+    // BCP 47.
+    std::string_view language() const noexcept { return language_; }
+
+    // The table of that name, or null. `hash`: of the name. Throws std::bad_alloc, and std::system_error on transient
+    // errors.
+    LocalizedTable* table(std::string_view name, std::uint64_t hash) {
+        LocalizedTable* const known = tables_.find(name, hash);
+        return known != nullptr ? known : knownOrLoaded(name);
+    }
     // Why the table's files cannot be read ("FILE:LINE:COLUMN: REASON"); no value when they are readable or missing.
     std::optional<std::string> damage(std::string_view table) const;
 
 private:
-    struct LoadedTable;
-
-    LoadedTable* load(std::string_view name);
+    LocalizedTable* knownOrLoaded(std::string_view name);
     std::string pathOf(std::string_view table, std::string_view suffix) const;
 
     std::string name_;
@@ -36,7 +40,7 @@ private:
     bool mayHavePlurals_;
     // All existing tables, and missing ones until there are mostMissing tables: a program may ask for any number of
     // names.
-    Runtime::KeyedStore<LoadedTable, 16> tables_;
+    Runtime::KeyedStore<LocalizedTable, 16> tables_;
     static constexpr std::size_t mostMissing = 64;
 };
 

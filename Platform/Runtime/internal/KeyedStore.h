@@ -3,11 +3,11 @@
 // Threads: any; lock-free. Ownership: values never move and are never destroyed.
 #pragma once
 
+#include "Runtime/internal/Hash.h"
 #include <array>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <memory>
 #include <string>
@@ -27,8 +27,9 @@ public:
     KeyedStore& operator=(const KeyedStore&) = delete;
 
     // The value of `key` (exact), or null.
-    T* find(std::string_view key) const noexcept {
-        const std::uint64_t hash = hashOf(key);
+    T* find(std::string_view key) const noexcept { return find(key, keyHash(key)); }
+    // With `hash`, which is keyHash(key); with a wrong one nothing is found.
+    T* find(std::string_view key, std::uint64_t hash) const noexcept {
         return search(bucket(hash).load(std::memory_order_acquire), hash, key);
     }
 
@@ -37,7 +38,7 @@ public:
     template <class... Parts> T* add(std::size_t limit, std::string_view key, Parts&&... parts) {
         if (size_.load(std::memory_order_relaxed) >= limit)
             return nullptr;
-        const std::uint64_t hash = hashOf(key);
+        const std::uint64_t hash = keyHash(key);
         std::atomic<Node*>& first = bucket(hash);
         std::unique_ptr<Node> made(new Node{hash, std::string(key), T(std::forward<Parts>(parts)...), nullptr});
         made->next = first.load(std::memory_order_acquire);
@@ -58,22 +59,9 @@ private:
     };
 
     static T* search(Node* node, std::uint64_t hash, std::string_view key) noexcept {
-        while (node != nullptr && (node->hash != hash || node->key != key))
+        while (node != nullptr && (node->hash != hash || !isSameName(node->key, key)))
             node = node->next;
         return node == nullptr ? nullptr : &node->value;
-    }
-
-    static std::uint64_t hashOf(std::string_view key) noexcept {
-        constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
-        std::uint64_t hash = key.size();
-        while (!key.empty()) {
-            std::uint64_t word = 0;
-            std::memcpy(&word, key.data(), std::min(key.size(), sizeof word));
-            hash = (hash ^ word) * spread;
-            hash ^= hash >> 32;
-            key.remove_prefix(std::min(key.size(), sizeof word));
-        }
-        return hash;
     }
 
     std::atomic<Node*>& bucket(std::uint64_t hash) noexcept { return buckets_[hash % buckets]; }

@@ -12,7 +12,7 @@
 // slot holds the positions of the key and the text in the front.
 #pragma once
 
-#include "StringTables/internal/KeyHash.h"
+#include "Runtime/internal/Hash.h"
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -54,19 +54,20 @@ public:
     // The offset of the displacement of the key's bucket, and the key's slot for that displacement.
     std::size_t displacementAt(std::uint64_t hash) const noexcept { return headSize + 2 * std::size_t{bucket(hash)}; }
     std::uint32_t slot(std::uint64_t hash, std::uint16_t displacement) const noexcept {
-        return reduced((hash ^ (displacement + std::uint64_t{1}) * hashSpread) * hashSpread, slots_);
+        return reduced((hash ^ (displacement + std::uint64_t{1}) * Runtime::hashSpread) * Runtime::hashSpread, slots_);
     }
     std::size_t slotAt(std::uint32_t slot) const noexcept {
         return headSize + 2 * std::size_t{buckets_} + slotSize * slot;
     }
     static Slot slotFrom(const char* bytes) noexcept {
-        const auto number = [bytes](std::size_t i) { return loadLittle<std::uint32_t>(bytes + 4 * i); };
+        const auto number = [bytes](std::size_t i) { return Runtime::loadLittle<std::uint32_t>(bytes + 4 * i); };
         return {number(0), number(1), number(2), number(3), number(4)};
     }
 
     // The checksum of a key and its text.
     static std::uint32_t check(std::uint64_t keyHash, std::string_view text) noexcept {
-        const std::uint64_t both = mixed(keyHash ^ hashSpread, StringTables::keyHash(text) ^ ~hashSpread);
+        const std::uint64_t both =
+            Runtime::mixed(keyHash ^ Runtime::hashSpread, Runtime::keyHash(text) ^ ~Runtime::hashSpread);
         return static_cast<std::uint32_t>(both ^ both >> 32);
     }
 

@@ -5,9 +5,9 @@
 #pragma once
 
 #include "StringTables/internal/CompiledIndex.h"
+#include "StringTables/internal/FoundText.h"
 #include <algorithm>
 #include <atomic>
-#include <cstring>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,32 +21,39 @@ public:
     // `front`: the first index.front() bytes of the file, or all if it is shorter.
     CompiledTable(std::string front, const CompiledIndex& index);
 
-    // The text of `key`, whose hash is `hash`; a view whose data() is null when there is none.
-    [[nodiscard]] std::string_view find(std::string_view key, std::uint64_t hash) const noexcept {
+    // The text of `key`, whose hash is `hash`, or none.
+    [[nodiscard]] FoundText find(std::string_view key, std::uint64_t hash) const noexcept {
         if (front_.empty())
             return {};
-        const auto displacement = loadLittle<std::uint16_t>(front_.data() + index_.displacementAt(hash));
+        const auto displacement = Runtime::loadLittle<std::uint16_t>(front_.data() + index_.displacementAt(hash));
         const std::uint32_t number = index_.slot(hash, displacement);
         const CompiledIndex::Slot slot = CompiledIndex::slotFrom(front_.data() + index_.slotAt(number));
         if (slot.keySize != key.size() || !isInside(slot.keyAt, slot.keySize) ||
-            std::memcmp(front_.data() + slot.keyAt, key.data(), key.size()) != 0 ||
+            !Runtime::isSameName({front_.data() + slot.keyAt, slot.keySize}, key) ||
             !isInside(slot.textAt, slot.textSize))
             return {};
         const std::string_view text(front_.data() + slot.textAt, slot.textSize);
-        const bool isIntact = states_[number].load(std::memory_order_relaxed) == intact;
-        return isIntact || check(number, slot, hash, text) ? text : std::string_view();
+        std::uint32_t state = states_[number].load(std::memory_order_relaxed);
+        if (state == unknown) [[unlikely]]
+            state = check(number, slot, hash, text);
+        if (state == damaged)
+            return {};
+        return FoundText(text, PercentRange::unpacked(state - intact));
     }
 
 private:
-    enum State : std::uint8_t { unknown, intact, damaged };
+    // The states of a slot. An intact one is this number plus the packed range of the text's percent signs.
+    static constexpr std::uint32_t unknown = 0, damaged = 1, intact = 2;
+    static_assert(PercentRange::largestPacked + std::uint64_t{intact} <= 0xFFFF'FFFF);
 
     bool isInside(std::size_t at, std::size_t size) const noexcept { return at + size <= front_.size(); }
-    bool check(std::uint32_t number, const CompiledIndex::Slot& slot, std::uint64_t hash,
-               std::string_view text) const noexcept;
+    // The state of a slot that was unknown.
+    std::uint32_t check(std::uint32_t number, const CompiledIndex::Slot& slot, std::uint64_t hash,
+                        std::string_view text) const noexcept;
 
     std::string front_; // empty if the file ends within the slots
     CompiledIndex index_;
-    std::unique_ptr<std::atomic<std::uint8_t>[]> states_; // of the slots
+    std::unique_ptr<std::atomic<std::uint32_t>[]> states_; // of the slots
     // The bytes of text that may still be checked. This keeps the cost linear for an index whose slots all refer to one
     // long text.
     mutable std::atomic<std::ptrdiff_t> left_;
@@ -67,7 +74,7 @@ std::optional<std::string> findIn(Source& source, const CompiledIndex& index, st
     const std::string_view displacement = source.bytes(index.displacementAt(hash), sizeof(std::uint16_t));
     if (displacement.size() < sizeof(std::uint16_t))
         return std::nullopt;
-    const std::uint32_t number = index.slot(hash, loadLittle<std::uint16_t>(displacement.data()));
+    const std::uint32_t number = index.slot(hash, Runtime::loadLittle<std::uint16_t>(displacement.data()));
     const std::string_view bytes = source.bytes(index.slotAt(number), CompiledIndex::slotSize);
     if (bytes.size() < CompiledIndex::slotSize)
         return std::nullopt;

@@ -4,7 +4,7 @@
 // owns the entries.
 #pragma once
 
-#include "StringTables/internal/Hash.h"
+#include "Runtime/internal/Hash.h"
 #include "StringTables/internal/Table.h"
 #include <bit>
 
@@ -25,7 +25,7 @@ private:
     static constexpr std::uint64_t tagBits = 0xFFFFFFFF00000000;
     static std::size_t entryOf(std::uint64_t slot) noexcept { return (slot & ~tagBits) - 1; } // `none` for a free slot
 
-    std::uint64_t hash(std::string_view key) const noexcept { return hashBytes(key, seed_); }
+    std::uint64_t hash(std::string_view key) const noexcept { return Runtime::hashBytes(key, seed_); }
     std::uint64_t& slotOf(std::uint64_t hash, std::string_view key, std::span<const Entry> entries) const noexcept;
 
     std::unique_ptr<std::uint64_t[]> slots_;

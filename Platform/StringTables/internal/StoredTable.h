@@ -5,9 +5,9 @@
 #pragma once
 
 #include "Runtime/OnceSlot.h"
+#include "Runtime/internal/Hash.h"
 #include "Runtime/internal/OpenFile.h"
 #include "StringTables/internal/CompiledTable.h"
-#include "StringTables/internal/KeyHash.h"
 #include "StringTables/internal/Table.h"
 #include <array>
 #include <atomic>
@@ -30,9 +30,12 @@ public:
     // the intact entries of a compiled table. When the file is replaced after the first texts were read, those texts
     // stay, and the rest comes from the new file.
     // Throws std::bad_alloc, and std::system_error for transient errors; the next lookup tries again.
-    [[nodiscard]] std::optional<std::string_view> find(std::string_view key) { return find(key, keyHash(key)); }
-    // `hash` is keyHash(key). A wrong hash only costs time.
-    [[nodiscard]] std::optional<std::string_view> find(std::string_view key, std::uint64_t hash) {
+    [[nodiscard]] std::optional<std::string_view> find(std::string_view key) {
+        const auto found = find(key, Runtime::keyHash(key));
+        return found ? std::optional(found.text()) : std::nullopt;
+    }
+    // `hash` is Runtime::keyHash(key). A wrong hash only costs time.
+    [[nodiscard]] FoundText find(std::string_view key, std::uint64_t hash) {
         if (!whole_.isMade()) [[unlikely]]
             return findInParts(key, hash);
         return whole_.value().find(key, hash);
@@ -41,9 +44,16 @@ public:
 private:
     // The result of a lookup that did not read the whole file.
     struct Part {
-        std::string key;
-        std::optional<std::string> text;
-        Runtime::OpenFile::Identity file;
+        Part(std::string_view askedFor, std::optional<std::string> read, const Runtime::OpenFile::Identity& from)
+            : key(askedFor), text(std::move(read)),
+              found(text ? FoundText(*text, PercentRange::of(*text)) : FoundText()), file(from) {}
+        Part(const Part&) = delete;
+        Part& operator=(const Part&) = delete;
+
+        const std::string key;
+        const std::optional<std::string> text;
+        const FoundText found; // a view of `text`
+        const Runtime::OpenFile::Identity file;
     };
     // Up to this number, single reads are cheaper than reading the whole file.
     static constexpr std::size_t mostParts = 3;
@@ -57,18 +67,16 @@ private:
         std::optional<internal::CompiledTable> compiled;
         Table other; // if it is not a compiled table
 
-        std::optional<std::string_view> find(std::string_view key, std::uint64_t hash) const noexcept {
-            if (!compiled)
-                return other.find(key);
-            const std::string_view text = compiled->find(key, hash);
-            if (text.data() != nullptr) [[likely]]
-                return text;
-            return findAgain(key, hash);
+        FoundText find(std::string_view key, std::uint64_t hash) const noexcept {
+            if (compiled) [[likely]]
+                if (const FoundText found = compiled->find(key, hash)) [[likely]]
+                    return found;
+            return findOther(key, hash);
         }
-        std::optional<std::string_view> findAgain(std::string_view key, std::uint64_t hash) const noexcept;
+        FoundText findOther(std::string_view key, std::uint64_t hash) const noexcept;
     };
 
-    std::optional<std::string_view> findInParts(std::string_view key, std::uint64_t hash);
+    FoundText findInParts(std::string_view key, std::uint64_t hash);
     std::unique_ptr<const Part> readPart(std::string_view key) const;
     Whole readWhole() const;
 

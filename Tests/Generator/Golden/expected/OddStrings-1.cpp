@@ -1,7 +1,6 @@
 // Made from the resources of the module Odd; do not edit.
 #include "OddStrings/Internal/Catalog.h"
 #include "OddStrings/Localizable.h"
-#include "Runtime/Attempt.h"
 #include "Runtime/OnceSlot.h"
 
 // Tables, and a line for each accessor.
@@ -12,7 +11,7 @@ namespace Odd::OddStrings::detail {
 namespace {
 
 constexpr char characters[] =
-    "Localizable\000"
+    "Localizable"
     "continue"
     "N/A"
     "MSG"
@@ -28,16 +27,29 @@ constexpr char characters[] =
     "errno"
     "You can't set a price that exceeds %@"
     "widget.fitness.inactive.after_days";
+constexpr Table tables[] = {
+    {0, 11, 0x5cec8775a743a99d}};
 constexpr Place places[] = {
-    {0, 12}, {0, 20}, {0, 23}, {0, 26}, {0, 40}, {0, 51}, {0, 57}, {0, 62}, {0, 68}, {0, 83}, {0, 108}, {0, 130},
-    {0, 141}, {0, 146}, {0, 183}, {0, 217}};
+    {0, 11, 0xd7b8624774bba82a}, {0, 19, 0xbad792ba44d3ffb8}, {0, 22, 0x1832cceedba6f6e5}, {0, 25, 0x11cd733b05d202e3},
+    {0, 39, 0x54fcf147d51932bd}, {0, 50, 0x10e634dabdf02f70}, {0, 56, 0x6890a5c99f444e91}, {0, 61, 0x897d37404a3086f9},
+    {0, 67, 0x95e97eac24d61b79}, {0, 82, 0x49358c47eb14996f}, {0, 107, 0xb25a57b51063bfb7},
+    {0, 129, 0x15260c232e7621c0}, {0, 140, 0xb055ecfa37907cc6}, {0, 145, 0x945aaf25c6b15e25},
+    {0, 182, 0xceea310df6a2cca7}, {0, 216, 0}};
+
+inline ::Foundation::LocalizedKey keyAt(std::size_t entry) noexcept {
+    const Place& place = places[entry];
+    const Table& table = tables[place.table];
+    const std::string_view name(characters + table.name, table.size);
+    const std::string_view key(characters + place.key, places[entry + 1].key - place.key);
+    return {name, key, table.hash, place.hash};
+}
 
 constinit ::Runtime::OnceSlot<std::string> slots[13];
 
 // Without memory or descriptors this read gives no text, and a later one tries again.
 [[gnu::noinline, gnu::cold]] const std::string& made(std::size_t entry) noexcept {
     try {
-        return slots[entry].get([entry] { return textAt(characters, places + entry, {}); });
+        return slots[entry].get([entry] { return tr(keyAt(entry), {}); });
     } catch (...) {
         return noText();
     }
@@ -49,7 +61,11 @@ inline const std::string& text(std::size_t entry) noexcept {
 
 [[gnu::noinline]] std::string formatted(std::size_t entry,
                                         std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
-    return ::Runtime::attempt([&] { return textAt(characters, places + entry, arguments); });
+    try {
+        return tr(keyAt(entry), arguments);
+    } catch (...) { // no memory or descriptors
+        return {};
+    }
 }
 
 } // namespace

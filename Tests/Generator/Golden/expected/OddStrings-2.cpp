@@ -2,7 +2,6 @@
 #include "OddStrings/Internal/Catalog.h"
 #include "OddStrings/Localizable.h"
 #include "OddStrings/OddNames.h"
-#include "Runtime/Attempt.h"
 #include "Runtime/OnceSlot.h"
 
 // Tables, and a line for each accessor.
@@ -13,8 +12,8 @@ namespace Odd::OddStrings::detail {
 namespace {
 
 constexpr char characters[] =
-    "Localizable\000"
-    "Odd names\000"
+    "Localizable"
+    "Odd names"
     "commented"
     "ends in a backslash"
     "closes */ a comment"
@@ -30,16 +29,29 @@ constexpr char characters[] =
     "width"
     "floating"
     "six words";
+constexpr Table tables[] = {
+    {0, 11, 0x5cec8775a743a99d}, {11, 9, 0x2660c3b44ecb557d}};
 constexpr Place places[] = {
-    {0, 22}, {0, 31}, {0, 50}, {0, 69}, {0, 87}, {0, 96}, {0, 115}, {0, 119}, {12, 126}, {0, 130}, {0, 133}, {0, 140},
-    {0, 144}, {0, 149}, {0, 157}, {0, 166}};
+    {0, 20, 0x74a53778c2623edc}, {0, 29, 0xc6b9532b9e1b7288}, {0, 48, 0xa708afc82ab1f2da}, {0, 67, 0xefbe8d9d6040e4e5},
+    {0, 85, 0x8d4080a031438e80}, {0, 94, 0x9b149da67606d67e}, {0, 113, 0x40badd106ebb7ba5},
+    {0, 117, 0x2e4c9c518b5a1f0e}, {1, 124, 0x4c44ab7c1907e54d}, {0, 128, 0xf0650ba30d45eed8},
+    {0, 131, 0xa3187ac9724b560c}, {0, 138, 0x3110611e5aff0186}, {0, 142, 0xe5565e6f157eba16},
+    {0, 147, 0x7e847a625d48181b}, {0, 155, 0xd61bc9542b1856f5}, {0, 164, 0}};
+
+inline ::Foundation::LocalizedKey keyAt(std::size_t entry) noexcept {
+    const Place& place = places[entry];
+    const Table& table = tables[place.table];
+    const std::string_view name(characters + table.name, table.size);
+    const std::string_view key(characters + place.key, places[entry + 1].key - place.key);
+    return {name, key, table.hash, place.hash};
+}
 
 constinit ::Runtime::OnceSlot<std::string> slots[9];
 
 // Without memory or descriptors this read gives no text, and a later one tries again.
 [[gnu::noinline, gnu::cold]] const std::string& made(std::size_t entry) noexcept {
     try {
-        return slots[entry].get([entry] { return textAt(characters, places + entry, {}); });
+        return slots[entry].get([entry] { return tr(keyAt(entry), {}); });
     } catch (...) {
         return noText();
     }
@@ -51,7 +63,11 @@ inline const std::string& text(std::size_t entry) noexcept {
 
 [[gnu::noinline]] std::string formatted(std::size_t entry,
                                         std::initializer_list<::Foundation::FormatArgument> arguments) noexcept {
-    return ::Runtime::attempt([&] { return textAt(characters, places + entry, arguments); });
+    try {
+        return tr(keyAt(entry), arguments);
+    } catch (...) { // no memory or descriptors
+        return {};
+    }
 }
 
 } // namespace

@@ -2,17 +2,14 @@
 #include "OddResources.h"
 #include "OddStrings/Internal/Catalog.h"
 
-#include "Foundation/Locale.h"
 #include "Foundation/NSBundle.h"
-#include "Foundation/String.h"
 #include "Runtime/OnceSlot.h"
 
 namespace Odd::OddStrings {
 
 // A text without arguments is formatted as well: its doubled percent signs become single ones.
-std::string tr(std::string_view table, std::string_view key, std::span<const ::Foundation::FormatArgument> arguments) {
-    const ::Foundation::LocalizedFormat format = ::Odd::OddResources::bundle().localizedFormat(key, table);
-    return ::Foundation::String::format(format, ::Foundation::Locale::current(), arguments);
+std::string tr(const ::Foundation::LocalizedKey& key, std::span<const ::Foundation::FormatArgument> arguments) {
+    return ::Odd::OddResources::bundle().formattedText(key, arguments);
 }
 
 const std::string& detail::noText() noexcept {

@@ -1,5 +1,6 @@
-// StringTables/internal/Hash.h
+// Runtime/internal/Hash.h
 // A fast 64-bit hash of bytes; the same on every machine.
+// Threads: any; no state.
 #pragma once
 
 #include <bit>
@@ -8,7 +9,7 @@
 #include <cstring>
 #include <string_view>
 
-namespace StringTables::internal {
+namespace Runtime {
 
 // Reads a little-endian number at any address.
 template <class Number> Number loadLittle(const char* from) noexcept {
@@ -56,4 +57,22 @@ inline std::uint64_t hashBytes(std::string_view bytes, std::uint64_t seed) noexc
     return mixed(mixed(a ^ first, b ^ second) ^ bytes.size(), hashSpread);
 }
 
-} // namespace StringTables::internal
+// The hash of a name: of a key in compiled tables and in generated code, of what a KeyedStore keeps. It is written down
+// in files and in the code of modules, so a change needs a new mark of the index of compiled tables. Generated code of
+// another version only costs time.
+[[nodiscard]] inline std::uint64_t keyHash(std::string_view key) noexcept {
+    return hashBytes(key, hashSpread);
+}
+
+// Whether two names are equal; without a call for those of 8 to 16 bytes, which takes longer than the comparison.
+[[nodiscard]] inline bool isSameName(std::string_view a, std::string_view b) noexcept {
+    static constexpr std::size_t wordSize = sizeof(std::uint64_t);
+    if (a.size() != b.size() || a.size() < wordSize || a.size() > 2 * wordSize)
+        return a == b;
+    const auto differ = [&](std::size_t at) {
+        return loadLittle<std::uint64_t>(a.data() + at) != loadLittle<std::uint64_t>(b.data() + at);
+    };
+    return !differ(0) && !differ(a.size() - wordSize);
+}
+
+} // namespace Runtime

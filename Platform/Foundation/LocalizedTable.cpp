@@ -1,0 +1,23 @@
+#include "Foundation/internal/LocalizedTable.h"
+
+#include "Foundation/internal/PluralText.h"
+#include <utility>
+
+namespace Foundation::detail {
+
+LocalizedTable::LocalizedTable(std::string texts, StringTables::PluralTable plurals)
+    : texts_(std::move(texts)), plurals_(std::move(plurals)) {
+    for (const StringTables::PluralEntry& entry : plurals_.entries())
+        pluralTexts_.push_back(generalFormat(entry.plural));
+}
+
+std::optional<LocalizedFormat> LocalizedTable::findPlural(std::string_view key,
+                                                          std::string_view language) const noexcept {
+    const StringTables::PluralEntry* const entry = plurals_.find(key);
+    if (entry == nullptr)
+        return std::nullopt;
+    const auto number = static_cast<std::size_t>(entry - plurals_.entries().data());
+    return LocalizedFormat(pluralTexts_[number], entry->plural, language);
+}
+
+} // namespace Foundation::detail

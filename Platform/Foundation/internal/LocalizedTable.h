@@ -1,0 +1,34 @@
+// Foundation/internal/LocalizedTable.h
+// The texts and plurals of one table in one language; internal.
+// Threads: any; look-ups of what was read take no lock. Ownership: views live as long as the table.
+#pragma once
+
+#include "Foundation/LocalizedFormat.h"
+#include "StringTables/internal/PluralTable.h"
+#include "StringTables/internal/StoredTable.h"
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Foundation::detail {
+
+class LocalizedTable {
+public:
+    // `texts`: the path of a table, which is read when it is needed.
+    LocalizedTable(std::string texts, StringTables::PluralTable plurals);
+
+    // Those of the table TABLE.stringsdict. `language`: whose rules choose plural forms.
+    bool hasPlurals() const noexcept { return !plurals_.entries().empty(); }
+    std::optional<LocalizedFormat> findPlural(std::string_view key, std::string_view language) const noexcept;
+    // Those of the table TABLE.strings. `hash`: of the key. Throws as StoredTable::find().
+    StringTables::FoundText findText(std::string_view key, std::uint64_t hash) { return texts_.find(key, hash); }
+
+private:
+    StringTables::StoredTable texts_;
+    StringTables::PluralTable plurals_;
+    std::vector<std::string> pluralTexts_; // of the plurals, where there are no numbers
+};
+
+} // namespace Foundation::detail

@@ -1,0 +1,32 @@
+// StringTables/internal/FoundText.h
+// A text that was found in a table, or none.
+// Threads: plain values. Ownership: borrows the text. Sixteen bytes, which functions return in registers: as an
+// optional view in memory it takes longer than the look-up.
+#pragma once
+
+#include "StringTables/PercentRange.h"
+#include <cstdint>
+#include <string_view>
+
+namespace StringTables {
+
+class FoundText {
+public:
+    constexpr FoundText() noexcept = default; // none
+    // Of at most 4 GB. `percents`: where the text has its percent signs.
+    constexpr explicit FoundText(std::string_view text, PercentRange percents = {}) noexcept
+        : begin_(text.empty() ? "" : text.data()), size_(static_cast<std::uint32_t>(text.size())), percents_(percents) {
+    }
+
+    constexpr explicit operator bool() const noexcept { return begin_ != nullptr; }
+    constexpr std::string_view text() const noexcept { return {begin_, size_}; }
+    constexpr PercentRange percents() const noexcept { return percents_; }
+
+private:
+    const char* begin_ = nullptr;
+    std::uint32_t size_ = 0;
+    PercentRange percents_;
+};
+static_assert(sizeof(FoundText) == 16);
+
+} // namespace StringTables
