@@ -2,6 +2,7 @@
 // Decoded pixels.
 #pragma once
 
+#include "Runtime/Export.h"
 #include <cstdint>
 #include <vector>
 

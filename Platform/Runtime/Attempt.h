@@ -3,6 +3,7 @@
 // Threads: any; no state.
 #pragma once
 
+#include "Runtime/Export.h"
 #include <utility>
 
 namespace Runtime {

@@ -3,6 +3,7 @@
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
+#include "Runtime/Export.h"
 #include <string>
 #include <utility>
 

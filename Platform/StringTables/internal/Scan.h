@@ -50,8 +50,9 @@ inline const char* skipAscii(const char* at, const char* end) noexcept {
     while (end - at >= 16 && ((word(at) | word(at + 8)) & high) == 0)
         at += 16;
 #endif
-    // The rest is short: two possibly overlapping loads are cheaper than a loop of unpredictable length.
-    if (end - at >= 8 && ((word(at) | word(end - 8)) & high) == 0)
+    // A short rest: two possibly overlapping loads are cheaper than a loop of unpredictable length. It is longer only
+    // where one of its first sixteen bytes is not ASCII.
+    if (end - at >= 8 && end - at <= 16 && ((word(at) | word(end - 8)) & high) == 0)
         return end;
     while (at != end && static_cast<unsigned char>(*at) < 0x80)
         ++at;
