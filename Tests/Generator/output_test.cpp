@@ -2,7 +2,9 @@
 
 #include "../Support/SourceFolder.h"
 #include "Generator/CodeText.h"
+#include "Generator/CodeWriter.h"
 #include "Generator/Generator.h"
+#include <csignal>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -52,6 +54,11 @@ TEST(GenerateModule, LeavesNothingOfASourceThatHadMore) {
     auto rest = generate("out");
     EXPECT_EQ(rest.erase("MAsset/ours.h"), 1U);
     EXPECT_EQ(rest, generate("fresh"));
+}
+
+TEST(CodeWriterDeathTest, StopsAtANameWithoutAValue) {
+    EXPECT_EXIT(Generator::CodeWriter("M").add("{{name}}{{nam}}", {{"name", "a"}}), testing::KilledBySignal(SIGABRT),
+                "No value for \\{\\{nam\\}\\}");
 }
 
 TEST(CodeText, ShowsWhatCannotBeSeen) {
