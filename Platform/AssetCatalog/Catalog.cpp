@@ -117,8 +117,8 @@ DataView Entry::data(std::size_t variant) const noexcept {
     return {fitOf(*found.fit()), textOf(found.type()), {blobs_, found.offset(), found.size()}};
 }
 
-Runtime::Result<Catalog> Catalog::open(const std::string& path) {
-    auto file = Runtime::OpenFile::open(path, maxBytes);
+Runtime::Result<Catalog> Catalog::open(const std::string& path, std::string_view bundle) {
+    auto file = Runtime::OpenFile::open(path, maxBytes, bundle);
     if (!file)
         return std::move(file.error());
     const auto failure = [&](Runtime::Error& error) { return file->error(std::move(error.message)); };

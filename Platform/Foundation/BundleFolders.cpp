@@ -76,7 +76,8 @@ bool hasAsManyFolders(const std::string& bundle, std::size_t names) noexcept {
 } // namespace
 
 BundleFolders bundleFolders(const std::string& bundle) {
-    const auto read = StringTables::Table::readFile(std::string(bundle).append("/").append(layout::informationFile));
+    const std::string path = std::string(bundle).append("/").append(layout::informationFile);
+    const auto read = StringTables::Table::readFile(path, bundle);
     if (!read)
         Runtime::throwIfTransient(read.error());
     const auto find = [&](std::string_view key) { return read ? read->find(key) : std::nullopt; };

@@ -19,16 +19,16 @@ bool isMissing(const Runtime::Error& error) noexcept {
 }
 
 // The table at `path`; an empty one when the file is missing or damaged.
-StringTables::PluralTable readPlurals(const std::string& path) {
-    auto read = StringTables::PluralTable::readFile(path);
+StringTables::PluralTable readPlurals(const std::string& path, std::string_view bundle) {
+    auto read = StringTables::PluralTable::readFile(path, bundle);
     if (read)
         return *std::move(read);
     Runtime::throwIfTransient(read.error());
     return {};
 }
 
-template <class Table> std::optional<std::string> damageOf(const std::string& path) {
-    const auto read = Table::readFile(path);
+template <class Table> std::optional<std::string> damageOf(const std::string& path, std::string_view bundle) {
+    const auto read = Table::readFile(path, bundle);
     return read || isMissing(read.error()) ? std::nullopt : std::optional(read.error().text());
 }
 
@@ -47,16 +47,16 @@ LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
     std::string texts = pathOf(name, layout::textsSuffix);
     const std::string plurals = mayHavePlurals_ ? pathOf(name, layout::pluralsSuffix) : std::string();
     const bool exists = ::access(texts.c_str(), F_OK) == 0 || (mayHavePlurals_ && ::access(plurals.c_str(), F_OK) == 0);
-    return tables_.add(exists ? tables_.unlimited : mostMissing, name, std::move(texts),
-                       mayHavePlurals_ ? readPlurals(plurals) : StringTables::PluralTable());
+    return tables_.add(exists ? tables_.unlimited : mostMissing, name, std::move(texts), bundle().size(),
+                       mayHavePlurals_ ? readPlurals(plurals, bundle()) : StringTables::PluralTable());
 }
 
 std::optional<std::string> Localization::damage(std::string_view table) const {
     if (!layout::isFileName(table))
         return std::nullopt;
-    if (auto damaged = damageOf<StringTables::Table>(pathOf(table, layout::textsSuffix)))
+    if (auto damaged = damageOf<StringTables::Table>(pathOf(table, layout::textsSuffix), bundle()))
         return damaged;
-    return damageOf<StringTables::PluralTable>(pathOf(table, layout::pluralsSuffix));
+    return damageOf<StringTables::PluralTable>(pathOf(table, layout::pluralsSuffix), bundle());
 }
 
 std::string Localization::pathOf(std::string_view table, std::string_view suffix) const {

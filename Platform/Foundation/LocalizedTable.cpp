@@ -5,8 +5,8 @@
 
 namespace Foundation::detail {
 
-LocalizedTable::LocalizedTable(std::string texts, StringTables::PluralTable plurals)
-    : texts_(std::move(texts)), plurals_(std::move(plurals)) {
+LocalizedTable::LocalizedTable(std::string texts, std::size_t bundle, StringTables::PluralTable plurals)
+    : texts_(std::move(texts), bundle), plurals_(std::move(plurals)) {
     for (const StringTables::PluralEntry& entry : plurals_.entries())
         pluralTexts_.push_back(generalFormat(entry.plural));
 }

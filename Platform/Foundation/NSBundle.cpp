@@ -8,6 +8,8 @@
 #include "Runtime/internal/CodeLocation.h"
 #include "Runtime/internal/Hash.h"
 #include "Runtime/internal/KeyedStore.h"
+#include "Runtime/internal/OpenFile.h"
+#include "Runtime/internal/TransientError.h"
 #include "StringTables/internal/BundleLayout.h"
 #include <algorithm>
 #include <array>
@@ -15,7 +17,6 @@
 #include <deque>
 #include <filesystem>
 #include <memory>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Foundation {
@@ -254,9 +255,10 @@ std::optional<std::string> NSBundle::pathForResource(std::string_view name, std:
     if (!directory.empty())
         path.append(directory).append("/");
     path += file;
-    struct stat status {};
-    if (::stat(path.c_str(), &status) != 0)
+    if (const auto exists = Runtime::OpenFile::exists(path, bundlePath()); !exists) {
+        Runtime::throwIfTransient(exists.error());
         return std::nullopt;
+    }
     return path;
 }
 

@@ -61,7 +61,7 @@ public:
     [[nodiscard]] std::optional<std::string> tableDamage(std::string_view table) const;
     // The path of the file NAME.TYPE (NAME if TYPE is empty) of one localization ("Base" is one), in the subfolder
     // `directory` of the localization's folder unless that is empty. No value when there is no such file or a name
-    // would leave the bundle.
+    // would leave the bundle, or a link leads out of it. Throws std::system_error on transient errors.
     [[nodiscard]] std::optional<std::string> pathForResource(std::string_view name, std::string_view type,
                                                              std::string_view directory,
                                                              std::string_view localization) const;

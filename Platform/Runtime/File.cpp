@@ -130,8 +130,8 @@ Result<void> replace(const std::string& path, std::string_view bytes, WriteSafet
 
 } // namespace
 
-Result<std::string> readFile(const std::string& path, std::size_t limit) {
-    const auto file = OpenFile::open(path, limit);
+Result<std::string> readFile(const std::string& path, std::size_t limit, std::string_view folder) {
+    const auto file = OpenFile::open(path, limit, folder);
     if (!file)
         return file.error();
     // The file may shrink or grow while it is read, so the number of bytes read decides.

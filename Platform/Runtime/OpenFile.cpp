@@ -1,9 +1,13 @@
 #include "Runtime/internal/OpenFile.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <linux/openat2.h>
+#include <memory>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace Runtime {
@@ -17,20 +21,58 @@ Error cannotBeRead(const OpenFile& file) {
     return error;
 }
 
+// Without O_NONBLOCK the opening of a pipe would wait for its writer.
+constexpr int openFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
+
+constexpr int leadsOut = EXDEV;
+
+// Fails with ELOOP where there is a link on the way.
+int openWithoutLinks(const std::string& path, int flags) noexcept {
+    open_how how{};
+    how.flags = static_cast<__u64>(flags);
+    how.resolve = RESOLVE_NO_SYMLINKS;
+    return static_cast<int>(::syscall(SYS_openat2, AT_FDCWD, path.c_str(), &how, sizeof how));
+}
+
+// The path without links; empty with errno on failure.
+std::string resolved(const std::string& path) {
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
+    return real == nullptr ? std::string() : std::string(real.get());
+}
+
+// Negative with errno on failure, leadsOut for a link out of the folder.
+int openInside(const std::string& path, std::string_view folder, int flags) {
+    const int descriptor = openWithoutLinks(path, flags);
+    const bool hasLinks = descriptor < 0 && errno == ELOOP;
+    const bool isUnknownCall = descriptor < 0 && (errno == ENOSYS || errno == EPERM); // old kernels, some containers
+    if (!hasLinks && !isUnknownCall)
+        return descriptor;
+    const std::string real = resolved(path);
+    if (real.empty())
+        return -1;
+    if (real.starts_with(resolved(std::string(folder)) + "/"))
+        return ::open(real.c_str(), flags);
+    errno = leadsOut;
+    return -1;
+}
+
 } // namespace
 
-Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit) {
+Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit, std::string_view folder) {
     OpenFile file(path);
     if (path.find('\0') != path.npos) { // the system would read only the part before the NUL
         errno = ENOENT;
         return cannotBeRead(file);
     }
-    // Without O_NONBLOCK, opening a pipe would block until a writer opens it.
-    static constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
-    file.descriptor_ = Descriptor(::open(path.c_str(), flags));
-    // Retry once: a folder on the path may have been replaced, and the old one emptied, while the path was resolved.
+    const auto tryOpen = [&] {
+        return folder.empty() ? ::open(path.c_str(), openFlags) : openInside(path, folder, openFlags);
+    };
+    file.descriptor_ = Descriptor(tryOpen());
+    // A folder on the way may have been exchanged for another and its files removed while the path was followed.
     if (file.descriptor_.number() < 0 && errno == ENOENT)
-        file.descriptor_ = Descriptor(::open(path.c_str(), flags));
+        file.descriptor_ = Descriptor(tryOpen());
+    if (file.descriptor_.number() < 0 && errno == leadsOut)
+        return file.error("is a link that leads out of " + std::string(folder));
     struct stat status {};
     if (file.descriptor_.number() < 0 || ::fstat(file.descriptor_.number(), &status) != 0)
         return cannotBeRead(file);
@@ -59,6 +101,12 @@ Result<std::size_t> OpenFile::read(void* out, std::size_t size, std::uint64_t of
             filled += static_cast<std::size_t>(count);
     }
     return filled;
+}
+
+Result<void> OpenFile::exists(const std::string& path, std::string_view folder) {
+    if (Descriptor(openInside(path, folder, O_PATH | O_CLOEXEC)).number() < 0)
+        return cannotBeRead(OpenFile(path));
+    return {};
 }
 
 } // namespace Runtime

@@ -246,8 +246,9 @@ Runtime::Result<PluralTable> PluralTable::read(std::string bytes) {
     return read(std::move(bytes), {}, Comments::areSkipped);
 }
 
-Runtime::Result<PluralTable> PluralTable::readFile(const std::string& path, Comments comments) {
-    auto bytes = Runtime::readFile(path, Table::maxBytes);
+Runtime::Result<PluralTable> PluralTable::readFile(const std::string& path, std::string_view bundle,
+                                                 Comments comments) {
+    auto bytes = Runtime::readFile(path, Table::maxBytes, bundle);
     if (!bytes)
         return std::move(bytes.error());
     return read(*std::move(bytes), path, comments);

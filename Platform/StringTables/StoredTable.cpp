@@ -98,7 +98,7 @@ FoundText StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
 // Null when the file must be read whole: it has no index, is small, or has changed since the other parts were read.
 std::unique_ptr<const StoredTable::Part> StoredTable::readPart(std::string_view key) const {
     static constexpr std::size_t smallFile = 8192;
-    const auto file = Runtime::OpenFile::open(path_, Table::maxBytes);
+    const auto file = Runtime::OpenFile::open(path_, Table::maxBytes, bundle());
     if (!file)
         Runtime::throwIfTransient(file.error());
     const Part* const first = parts_.front().load(std::memory_order_acquire);
@@ -112,7 +112,7 @@ std::unique_ptr<const StoredTable::Part> StoredTable::readPart(std::string_view 
 }
 
 StoredTable::Whole StoredTable::readWhole() const {
-    const auto file = Runtime::OpenFile::open(path_, Table::maxBytes);
+    const auto file = Runtime::OpenFile::open(path_, Table::maxBytes, bundle());
     if (!file) {
         Runtime::throwIfTransient(file.error());
         return Whole();
@@ -125,7 +125,7 @@ StoredTable::Whole StoredTable::readWhole() const {
             Runtime::throwIfTransient(front.error());
         return Whole(front ? *std::move(front) : std::string(), index);
     }
-    auto table = Table::readFile(path_);
+    auto table = Table::readFile(path_, bundle());
     if (!table)
         Runtime::throwIfTransient(table.error());
     return Whole(table ? *std::move(table) : Table());

@@ -185,8 +185,8 @@ Runtime::Result<Table> Table::read(std::string bytes) {
     return read(std::move(bytes), {});
 }
 
-Runtime::Result<Table> Table::readFile(const std::string& path) {
-    auto bytes = Runtime::readFile(path, maxBytes);
+Runtime::Result<Table> Table::readFile(const std::string& path, std::string_view bundle) {
+    auto bytes = Runtime::readFile(path, maxBytes, bundle);
     if (!bytes)
         return std::move(bytes.error());
     return read(*std::move(bytes), path);

@@ -16,7 +16,8 @@ const BundleCatalog& openedFor(const Foundation::NSBundle& bundle) {
     static constinit Runtime::KeyedStore<BundleCatalog, 16> all;
     if (const BundleCatalog* const known = all.find(bundle.bundlePath()))
         return *known;
-    auto opened = AssetCatalog::Catalog::open(bundle.bundlePath() + "/" + std::string(AssetCatalog::fileName));
+    const std::string& folder = bundle.bundlePath();
+    auto opened = AssetCatalog::Catalog::open(folder + "/" + std::string(AssetCatalog::fileName), folder);
     std::optional<AssetCatalog::Catalog> catalog;
     if (opened)
         catalog.emplace(*std::move(opened));

@@ -104,6 +104,32 @@ TEST_F(Bundle, RefusesNamesWithANul) {
     EXPECT_EQ(Foundation::NSNumberFormatter().stringFromNumber(1234.5), "1,234.5"); // as the root locale
 }
 
+// What a bundle shows comes out of the bundle, by whatever way the bundle itself was reached.
+TEST_F(Bundle, FollowsNoLinkOutOfIt) {
+    write("Base.lproj/T.strings", "a = text;");
+    write("shared/S.strings", "a = shared;");
+    const Support::TemporaryFolder elsewhere;
+    const std::string secret = elsewhere.write("X.strings", "a = secret;");
+    std::filesystem::create_symlink("../shared/S.strings", folder_ / "Base.lproj/S.strings");
+    std::filesystem::create_symlink(secret, folder_ / "Base.lproj/X.strings");
+    std::filesystem::create_symlink(elsewhere / "none", folder_ / "Base.lproj/N.strings");
+    std::filesystem::create_directory_symlink(elsewhere.path(), folder_ / "de.lproj");
+    std::filesystem::create_directory_symlink(folder_.path(), elsewhere / "B.bundle");
+    Host::setPreferredLanguages({"de"});
+    for (const NSBundle* one : {&bundle(), &NSBundle::bundleWithPath(elsewhere / "B.bundle")}) {
+        const auto text = [&](std::string_view table) { return one->localizedStringForKey("a", nullptr, table); };
+        EXPECT_EQ(text("T"), "text");
+        EXPECT_EQ(text("S"), "shared");
+        EXPECT_EQ(text("X"), "a");
+        EXPECT_EQ(text("N"), "a");
+        EXPECT_EQ(one->tableDamage("X"),
+                  one->bundlePath() + "/de.lproj/X.strings: is a link that leads out of " + one->bundlePath());
+        EXPECT_TRUE(one->pathForResource("S", "strings", "", "Base"));
+        EXPECT_FALSE(one->pathForResource("X", "strings", "", "Base"));
+        EXPECT_FALSE(one->pathForResource("X", "strings", "", "de"));
+    }
+}
+
 TEST_F(Bundle, ReadsATableOnce) {
     write("Base.lproj/Localizable.strings", "a = first;");
     EXPECT_EQ(text("a"), "first");

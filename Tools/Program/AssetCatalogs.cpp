@@ -14,7 +14,7 @@ Runtime::Result<std::optional<Catalog>> openCatalog(const std::string& bundle) {
     std::error_code failed;
     if (!std::filesystem::is_directory(folder, failed))
         return Runtime::Error{.message = "is not a bundle", .file = folder};
-    auto catalog = Catalog::open(folder + "/" + std::string(AssetCatalog::fileName));
+    auto catalog = Catalog::open(folder + "/" + std::string(AssetCatalog::fileName), folder);
     if (catalog)
         return std::optional(*std::move(catalog));
     if (catalog.error().cause == ENOENT) // a compile makes none for a source without assets

@@ -146,7 +146,7 @@ private:
         LanguageTexts* texts = textsFor(file, file.language);
         if (texts == nullptr)
             return;
-        auto read = StringTables::PluralTable::readFile(file.path, StringTables::PluralTable::Comments::areRead);
+        auto read = StringTables::PluralTable::readFile(file.path, {}, StringTables::PluralTable::Comments::areRead);
         if (!read) {
             texts->isDamaged = true;
             return diagnostics_.add(Severity::error, std::move(read.error()), Topic::unreadableTable);

@@ -86,7 +86,8 @@ public:
     // replacing it by renaming another file does not affect an open catalog. Errors: no such regular file, not a
     // catalog, another version, truncated, damaged (the message says where). The content of pictures and data is not
     // validated.
-    [[nodiscard]] static Runtime::Result<Catalog> open(const std::string& path);
+    // If `bundle` is not empty, links must not lead out of that folder.
+    [[nodiscard]] static Runtime::Result<Catalog> open(const std::string& path, std::string_view bundle = {});
     // The same from memory, which must outlive the catalog and be aligned to 16 bytes.
     [[nodiscard]] static Runtime::Result<Catalog> read(std::span<const std::uint8_t> bytes);
 

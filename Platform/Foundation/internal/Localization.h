@@ -13,7 +13,7 @@ namespace Foundation::detail {
 
 class Localization {
 public:
-    // `name`: "Base" or a language; `directory`: the path of the folder; `language`: the BCP 47 tag of its texts.
+    // `name`: "Base" or a language; `directory`: the path of the folder, which is in the bundle; `language`: the BCP 47 tag of its texts.
     Localization(std::string_view name, std::string directory, std::string_view language, bool mayHavePlurals);
 
     std::string_view name() const noexcept { return name_; }
@@ -32,6 +32,7 @@ public:
 
 private:
     LocalizedTable* knownOrLoaded(std::string_view name);
+    std::string_view bundle() const noexcept { return std::string_view(directory_).substr(0, directory_.rfind('/')); }
     std::string pathOf(std::string_view table, std::string_view suffix) const;
 
     std::string name_;

@@ -6,6 +6,7 @@
 #include "Foundation/LocalizedFormat.h"
 #include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/StoredTable.h"
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -16,8 +17,9 @@ namespace Foundation::detail {
 
 class LocalizedTable {
 public:
-    // `texts`: the path of a table, which is read when it is needed.
-    LocalizedTable(std::string texts, StringTables::PluralTable plurals);
+    // `texts`: the path of a table, which is read when it is needed. `bundle`: how many of its characters are the
+    // bundle's path.
+    LocalizedTable(std::string texts, std::size_t bundle, StringTables::PluralTable plurals);
 
     // Those of the table TABLE.stringsdict. `language`: whose rules choose plural forms.
     bool hasPlurals() const noexcept { return !plurals_.entries().empty(); }

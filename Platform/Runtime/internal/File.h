@@ -11,8 +11,8 @@
 namespace Runtime {
 
 // The bytes of the regular file at `path`, at most `limit` of them; a longer file, a directory or a device is an error.
-// Never waits for a writer.
-[[nodiscard]] Result<std::string> readFile(const std::string& path, std::size_t limit);
+// Never waits for a writer. `folder`: as for OpenFile::open().
+[[nodiscard]] Result<std::string> readFile(const std::string& path, std::size_t limit, std::string_view folder = {});
 
 // Replaces the content of `path` atomically: writes a temporary file beside it and renames it, so that readers see
 // either the old file or the new one, and an interrupted write leaves the old one. A symbolic link is followed and its

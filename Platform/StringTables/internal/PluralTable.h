@@ -47,9 +47,10 @@ public:
     // those of Table, and maxTextBytes for all texts together (entries may share texts in the file). Throws
     // std::bad_alloc when memory runs out.
     [[nodiscard]] static Runtime::Result<PluralTable> read(std::string bytes);
-    // The same from the regular file at `path`, which errors and notes name. Reading comments takes a separate pass.
+    // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, links must not
+    // lead out of that folder. Reading comments takes a separate pass.
     enum class Comments { areSkipped, areRead };
-    [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path,
+    [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path, std::string_view bundle = {},
                                                                Comments comments = Comments::areSkipped);
     static constexpr std::size_t maxTextBytes = std::size_t{64} << 20;
 

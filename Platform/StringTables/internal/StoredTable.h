@@ -20,8 +20,10 @@ namespace StringTables {
 
 class StoredTable {
 public:
-    // Reads nothing yet.
-    explicit StoredTable(std::string path) noexcept : path_(std::move(path)) {}
+    // Reads nothing yet. `bundle`: how many characters of the path are the folder that links must not lead out of; 0 for
+    // none.
+    explicit StoredTable(std::string path, std::size_t bundle = 0) noexcept
+        : path_(std::move(path)), bundle_(bundle) {}
     StoredTable(const StoredTable&) = delete;
     StoredTable& operator=(const StoredTable&) = delete;
     ~StoredTable();
@@ -80,7 +82,10 @@ private:
     std::unique_ptr<const Part> readPart(std::string_view key) const;
     Whole readWhole() const;
 
+    std::string_view bundle() const noexcept { return std::string_view(path_).substr(0, bundle_); }
+
     std::string path_;
+    std::size_t bundle_;
     std::array<std::atomic<const Part*>, mostParts> parts_{}; // filled from the front
     Runtime::OnceSlot<Whole> whole_;
 };

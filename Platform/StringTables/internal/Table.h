@@ -47,8 +47,9 @@ public:
     // Limits, checked before memory is allocated: maxBytes of source, maxEntries entries, maxDepth levels of nesting.
     // Both overloads throw std::bad_alloc when memory runs out.
     [[nodiscard]] static Runtime::Result<Table> read(std::string bytes);
-    // The same from the regular file at `path`, which errors and notes name.
-    [[nodiscard]] static Runtime::Result<Table> readFile(const std::string& path);
+    // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, links must not
+    // lead out of that folder.
+    [[nodiscard]] static Runtime::Result<Table> readFile(const std::string& path, std::string_view bundle = {});
     static constexpr std::size_t maxBytes = std::size_t{256} << 20;
     static constexpr std::size_t maxEntries = std::size_t{1} << 22;
     static constexpr std::size_t maxDepth = 128;
