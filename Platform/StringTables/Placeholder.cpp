@@ -1,5 +1,7 @@
 #include "StringTables/internal/Placeholder.h"
 
+#include <algorithm>
+
 namespace StringTables {
 
 namespace {
@@ -155,12 +157,13 @@ std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t 
 void FormatSignature::add(std::size_t position, Kind kind) {
     if (position == 0)
         return;
-    if (arguments.size() < position)
-        arguments.resize(position);
-    std::optional<Kind>& known = arguments[position - 1];
+    const std::size_t count = std::min(position, mostArguments);
+    if (arguments.size() < count)
+        arguments.resize(count);
+    std::optional<Kind>& known = arguments[count - 1];
     if (!known)
         known = kind;
-    else if (*known != kind && !conflict)
+    else if (*known != kind && !conflict && position < mostArguments)
         conflict = {position, *known, kind};
 }
 

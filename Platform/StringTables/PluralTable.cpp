@@ -118,6 +118,7 @@ private:
         plural_ = {};
         hasFormat_ = false;
         choice_ = {};
+        variables_ = 0;
     }
     void takeFormat(std::string_view text) {
         if (key() != pluralKeys::format)
@@ -134,6 +135,9 @@ private:
         }
         if (!hasFormat_)
             return noteEntry(std::string(" has no ").append(pluralKeys::format).append("; it is skipped"));
+        if (variables_ > PluralTable::maxVariables)
+            noteEntry(" has more than " + std::to_string(PluralTable::maxVariables) +
+                      " variables; those behind are skipped");
         const auto [known, isNew] = numbers_.try_emplace(keys_[0], entries_.size());
         if (isNew) {
             entries_.emplace_back().key = keys_[0];
@@ -175,7 +179,8 @@ private:
         if (variable_.valueType.empty())
             variable_.valueType = "d";
         std::erase_if(plural_.variables, isSame);
-        plural_.variables.push_back(std::move(variable_));
+        if (++variables_ <= PluralTable::maxVariables)
+            plural_.variables.push_back(std::move(variable_));
     }
 
     Contents& contents_;
@@ -187,6 +192,7 @@ private:
 
     PluralFormat plural_;
     bool hasFormat_ = false;
+    std::size_t variables_ = 0; // of the entry so far
     PluralVariable variable_;
     bool isPlural_ = false;
     bool isChoice_ = false; // not a variable, but the texts of `choice_`

@@ -202,6 +202,15 @@ TEST(PluralTables, WinOverEqualKeysOfTexts) {
     EXPECT_EQ(files.text, "Found %d files here");
     EXPECT_EQ(files.comment, "why");
     EXPECT_EQ(files.line, 2U);
+    // Forms that name each other hundreds of times end soon.
+    std::string names;
+    for (int i = 0; i < 500; ++i)
+        names += "%#@n@";
+    folder.write("en.lproj/T.stringsdict",
+                 "<plist><dict><key>files</key><dict><key>NSStringLocalizedFormatKey</key><string>"
+                 "%#@n@</string><key>n</key><dict><key>other</key><string>" +
+                     names + "</string></dict></dict></dict></plist>");
+    EXPECT_EQ(folder.read().tables.at(0).find("en")->entries()[1].text, "");
     folder.write("en.lproj/T.stringsdict", "<plist>");
     EXPECT_TRUE(folder.read().tables.at(0).find("en")->isDamaged);
     EXPECT_TRUE(folder.diagnostics.hasErrors());

@@ -113,6 +113,7 @@ TEST(Placeholder, TellsWhatAFormatTakes) {
         {__LINE__, "%1$@ %2$d %1$d %2$f", "ti 1ti"},
         {__LINE__, "%*.*f %", "iin %"},
         {__LINE__, "%2$*1$f %@", "in m 1it"},
+        {__LINE__, "%9999$@ %9998$d", std::string(255, '-') + "t"}, // those behind the last are one
     };
     for (const auto& [line, format, expected] : cases)
         EXPECT_EQ(described(format), expected) << "line " << line;

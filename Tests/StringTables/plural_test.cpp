@@ -103,6 +103,16 @@ TEST(PluralTable, SaysWhatIsSkipped) {
     }
 }
 
+TEST(PluralTable, HasALimitOfVariables) {
+    std::string variables;
+    for (std::size_t i = 0; i <= PluralTable::maxVariables; ++i)
+        variables += dict("v" + std::to_string(i), text("other", "x"));
+    const auto table = PluralTable::read(list(dict("k", text("NSStringLocalizedFormatKey", "%#@v1@") + variables)));
+    ASSERT_TRUE(table);
+    EXPECT_EQ(table->find("k")->plural.variables.size(), PluralTable::maxVariables);
+    EXPECT_EQ(notesOf(*table), "2:1: the entry \"k\" has more than 256 variables; those behind are skipped\n");
+}
+
 TEST(PluralTable, ErrorsNameTheirPlace) {
     const struct {
         int line;

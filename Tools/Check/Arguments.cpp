@@ -1,6 +1,8 @@
 #include "Check/Arguments.h"
 
 #include "StringTables/internal/PluralPieces.h"
+#include <algorithm>
+#include <span>
 
 namespace Check {
 
@@ -47,22 +49,24 @@ std::string_view lonePercentOf(const PluralFormat& plural) {
     return all.lonePercent;
 }
 
-void escapeProse(std::string& format) {
+// The format with a doubled percent sign at each placeholder that is prose.
+std::string escapedProse(std::string_view format) {
+    std::string out;
     std::size_t at = 0;
     while (const auto placeholder = StringTables::nextPlaceholder(format, at)) {
-        const bool isEscaped = isProse(*placeholder, format);
-        if (isEscaped)
-            format.insert(placeholder->begin, 1, '%');
-        at = placeholder->end + (isEscaped ? 1 : 0);
+        out.append(format.substr(at, placeholder->begin - at)).append(isProse(*placeholder, format) ? "%" : "");
+        out.append(format.substr(placeholder->begin, placeholder->end - placeholder->begin));
+        at = placeholder->end;
     }
+    return out.append(format.substr(at));
 }
 
 FormatSignature signatureWithoutProse(PluralFormat plural) {
-    escapeProse(plural.format);
+    plural.format = escapedProse(plural.format);
     for (auto& variable : plural.variables)
         for (auto& form : variable.forms)
             if (form)
-                escapeProse(*form);
+                form = escapedProse(*form);
     return StringTables::signatureOf(plural);
 }
 
@@ -95,10 +99,11 @@ std::string_view nameOf(Placeholder::Kind kind) noexcept {
 std::string Arguments::text() const {
     if (signature.arguments.empty())
         return "no arguments";
+    constexpr std::size_t mostNamed = 16;
     std::string all;
-    for (const auto& kind : signature.arguments)
+    for (const auto& kind : std::span(signature.arguments).first(std::min(signature.arguments.size(), mostNamed)))
         all.append(all.empty() ? "(" : ", ").append(kind ? nameOf(*kind) : "none");
-    return all + ")";
+    return all + (signature.arguments.size() > mostNamed ? ", ...)" : ")");
 }
 
 } // namespace Check

@@ -43,12 +43,13 @@ Needs pluralNeeds(PluralPieces pieces) {
 }
 
 // Takes every `mark` out of the text; whether there was one.
-bool take(std::string& text, const std::string& mark) {
-    bool found = false;
-    for (std::size_t at = 0; (at = text.find(mark, at)) != text.npos;) {
-        text.erase(at, mark.size());
-        found = true;
-    }
+bool take(std::string& text, std::string_view mark) {
+    std::string rest;
+    std::size_t done = 0;
+    for (std::size_t at = 0; (at = text.find(mark, done)) != text.npos; done = at + mark.size())
+        rest.append(text, done, at - done);
+    const bool found = done != 0;
+    text = rest.append(text, done);
     return found;
 }
 

@@ -21,32 +21,51 @@ std::string_view otherForm(const PluralVariable& variable) {
     return last == variable.forms.rend() ? std::string_view() : std::string_view(**last);
 }
 
-void appendOther(std::string& out, std::string_view text, PluralPieces pieces, const PluralFormat& plural, int depth) {
-    constexpr int maxDepth = 16; // variables may name each other
-    std::size_t done = 0;
-    while (const auto piece = pieces.next()) {
-        if (piece->variable == nullptr)
-            continue;
-        out += text.substr(done, piece->placeholder.begin - done);
-        done = piece->placeholder.end;
-        if (out.size() >= maxOtherText || depth == maxDepth)
-            return;
-        const std::string_view form = otherForm(*piece->variable);
-        appendOther(out, form,
-                    PluralPieces(plural, form, *piece->variable, std::max<std::size_t>(piece->arguments.value, 1)),
-                    plural, depth + 1);
+class OtherText {
+public:
+    explicit OtherText(const PluralFormat& plural) : plural_(plural) {
+        append(plural.format, PluralPieces(plural), 0);
+        if (out_.size() > maxOtherText)
+            out_.resize(maxOtherText);
     }
-    out += text.substr(done);
-}
+    std::string take() { return std::move(out_); }
 
-void insertPosition(std::string& text, std::size_t percent, std::size_t position) {
-    text.insert(percent + 1, std::to_string(position) + "$");
+private:
+    void append(std::string_view text, PluralPieces pieces, int depth) {
+        std::size_t done = 0;
+        while (const auto piece = pieces.next()) {
+            if (piece->variable == nullptr)
+                continue;
+            out_ += text.substr(done, piece->placeholder.begin - done);
+            done = piece->placeholder.end;
+            if (out_.size() >= maxOtherText || depth == maxDepth || variables_ == mostVariables)
+                return;
+            ++variables_;
+            const std::string_view form = otherForm(*piece->variable);
+            const std::size_t own = std::max<std::size_t>(piece->arguments.value, 1);
+            append(form, PluralPieces(plural_, form, *piece->variable, own), depth + 1);
+        }
+        out_ += text.substr(done);
+    }
+
+    // Variables may name each other, and each several times.
+    static constexpr int maxDepth = 16;
+    static constexpr std::size_t mostVariables = 256;
+
+    const PluralFormat& plural_;
+    std::string out_;
+    std::size_t variables_ = 0; // replaced so far
+};
+
+std::string positionText(std::size_t argument) {
+    return argument == 0 ? "" : std::to_string(argument) + "$";
 }
 
 // The text with a position at every placeholder. One with a "*" stays as it is: it has several.
-std::string withPositions(std::string text) {
+std::string withPositions(const std::string& text) {
+    std::string out;
     ArgumentCounter counter;
-    std::size_t at = 0;
+    std::size_t at = 0, done = 0;
     while (const auto found = StringTables::nextPlaceholder(text, at)) {
         at = found->end;
         const auto taken = counter.take(*found);
@@ -54,11 +73,11 @@ std::string withPositions(std::string text) {
             continue;
         if (taken.width != 0 || taken.precision != 0)
             return text;
-        const std::size_t before = text.size();
-        insertPosition(text, found->begin, taken.value);
-        at += text.size() - before;
+        const std::size_t behindPercent = found->begin + 1;
+        out.append(text, done, behindPercent - done).append(positionText(taken.value));
+        done = behindPercent;
     }
-    return text;
+    return out.append(text, done);
 }
 
 bool isNumber(const Placeholder& placeholder) {
@@ -104,10 +123,6 @@ std::size_t argumentCount(const PluralForms& forms) {
     return count;
 }
 
-std::string positionText(std::size_t argument) {
-    return argument == 0 ? "" : std::to_string(argument) + "$";
-}
-
 std::size_t indexOf(const PluralVariable& variable, const PluralFormat& plural) {
     return static_cast<std::size_t>(&variable - plural.variables.data());
 }
@@ -129,26 +144,26 @@ std::string withArguments(PluralPieces pieces, std::string_view text, const Plur
     return out;
 }
 
-void replaceArg(std::string& form, const std::string& placeholder) {
+// The form with `placeholder` for each "%arg".
+std::string withoutArg(std::string_view form, std::string_view placeholder) {
     constexpr std::string_view arg = "%arg";
+    std::string out;
+    std::size_t done = 0;
     for (std::size_t at = form.find('%'); at != form.npos; at = form.find('%', at)) {
-        if (std::string_view(form).substr(at).starts_with(arg)) {
-            form.replace(at, arg.size(), placeholder);
-            at += placeholder.size();
+        if (form.substr(at).starts_with(arg)) {
+            out.append(form.substr(done, at - done)).append(placeholder);
+            done = at += arg.size();
         } else {
-            at += std::string_view(form).substr(at).starts_with("%%") ? 2U : 1U;
+            at += form.substr(at).starts_with("%%") ? 2U : 1U;
         }
     }
+    return out.append(form.substr(done));
 }
 
 } // namespace
 
 std::string otherText(const PluralFormat& plural) {
-    std::string text;
-    appendOther(text, plural.format, PluralPieces(plural), plural, 0);
-    if (text.size() > maxOtherText)
-        text.resize(maxOtherText);
-    return text;
+    return OtherText(plural).take();
 }
 
 PluralFormat pluralOfForms(PluralForms forms) {
@@ -157,7 +172,7 @@ PluralFormat pluralOfForms(PluralForms forms) {
     if (argumentCount(forms) > 1)
         for (auto& form : forms)
             if (form)
-                form = withPositions(*std::move(form));
+                form = withPositions(*form);
     return {"%" + positionText(number.argument == 1 ? 0 : number.argument) + "#@value@",
             {{"value", number.valueType, std::move(forms)}}};
 }
@@ -181,8 +196,8 @@ PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substi
         for (auto& form : variable.forms)
             if (form) {
                 const PluralPieces inForm(named, *form, named.variables[i], std::max<std::size_t>(arguments[i], 1));
-                form = withArguments(inForm, *form, named, arguments);
-                replaceArg(*form, "%" + positionText(arguments[i]) + variable.valueType);
+                form = withoutArg(withArguments(inForm, *form, named, arguments),
+                                  "%" + positionText(arguments[i]) + variable.valueType);
             }
     }
     return plural;

@@ -46,7 +46,8 @@ struct Localized {
     PluralForms forms;
     std::vector<Substitution> substitutions;
     State state = State::translated;
-    bool hasDevices = false; // for which there were other texts
+    bool hasTooManySubstitutions = false; // further ones are left out
+    bool hasDevices = false;              // for which there were other texts
 
     bool hasForms() const {
         return std::ranges::any_of(forms, [](const auto& form) { return form.has_value(); });
@@ -57,6 +58,7 @@ struct Localized {
         text = std::move(device.text);
         forms = std::move(device.forms);
         std::ranges::move(device.substitutions, std::back_inserter(substitutions));
+        hasTooManySubstitutions |= device.hasTooManySubstitutions;
         note(device.state);
     }
     void note(State other) {
@@ -181,7 +183,10 @@ void readSubstitutions(ondemand::value object, Localized& out) {
         substitution.variable.forms = std::move(forms.forms);
         out.note(forms.state);
         out.hasDevices |= forms.hasDevices;
-        out.substitutions.push_back(std::move(substitution));
+        if (out.substitutions.size() < StringTables::PluralTable::maxVariables)
+            out.substitutions.push_back(std::move(substitution));
+        else
+            out.hasTooManySubstitutions = true;
     });
 }
 
@@ -304,6 +309,13 @@ private:
                                               .file = file_,
                                               .line = text.line,
                                               .column = text.column});
+        if (localized.hasTooManySubstitutions)
+            diagnostics_.add(Severity::warning, {.message = "a text has more than " +
+                                                            std::to_string(StringTables::PluralTable::maxVariables) +
+                                                            " substitutions; those behind are left out",
+                                                 .file = file_,
+                                                 .line = text.line,
+                                                 .column = text.column});
         text.language = language;
         text.state = localized.state;
         if (!localized.substitutions.empty() && localized.text)
