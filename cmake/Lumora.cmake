@@ -33,6 +33,7 @@ set(LUMORA_ICU_VERSION 72) # the least that the build accepts
 
 include(CheckLinkerFlag)
 check_linker_flag(CXX -Wl,-z,pack-relative-relocs LUMORA_HAS_PACKED_RELOCATIONS)
+check_linker_flag(CXX -Wl,-z,noseparate-code LUMORA_HAS_NOSEPARATE_CODE)
 
 add_library(lumora-build-rules INTERFACE)
 target_compile_options(lumora-build-rules INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
@@ -105,6 +106,10 @@ function(lumora_shared_library target map)
     target_link_options(${target} PRIVATE -Wl,-z,nodelete -Wl,-Bsymbolic -Wl,--as-needed -Wl,--version-script=${map})
     if(LUMORA_HAS_PACKED_RELOCATIONS)
         target_link_options(${target} PRIVATE -Wl,-z,pack-relative-relocs)
+    endif()
+    # Code and constants in one mapping: two fewer to make, and fewer pages to load, at each process's start.
+    if(LUMORA_HAS_NOSEPARATE_CODE)
+        target_link_options(${target} PRIVATE -Wl,-z,noseparate-code)
     endif()
     if(NOT LUMORA_SANITIZE)
         target_link_options(${target} PRIVATE -Wl,-z,defs)
