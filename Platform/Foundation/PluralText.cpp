@@ -104,13 +104,16 @@ private:
             done = piece->placeholder.end;
             if (piece->variable == nullptr)
                 appendPlaceholder(text.substr(piece->placeholder.begin, done - piece->placeholder.begin), *piece);
-            else if (++variables_ <= mostVariables && out_.size() < longestPlural)
+            else if (variables_ == mostVariables || out_.size() >= longestPlural)
+                return;
+            else
                 appendForm(choose(*piece->variable, piece->arguments.value), *piece, choose);
         }
         appendLiteral(text.substr(done));
     }
 
     template <class Choose> void appendForm(std::string_view form, const PluralPiece& piece, Choose& choose) {
+        ++variables_;
         append(form, PluralPieces(plural_, form, *piece.variable, piece.arguments.value), choose);
     }
 

@@ -1,6 +1,7 @@
 #include "StringTables/internal/PluralPieces.h"
 
 #include <algorithm>
+#include <bitset>
 #include <set>
 #include <string>
 #include <utility>
@@ -20,19 +21,6 @@ std::string_view nameBehind(std::string_view text, const Placeholder& placeholde
     return text.substr(placeholder.end, end - placeholder.end);
 }
 
-// How many arguments the placeholders of `form` before "%#@NAME@" take; 0 when the form does not contain it.
-std::size_t argumentsBefore(std::string_view form, std::string_view name) noexcept {
-    ArgumentCounter counter;
-    std::size_t at = 0;
-    while (const auto placeholder = nextPlaceholder(form, at)) {
-        if (nameBehind(form, *placeholder) == name)
-            return counter.taken();
-        counter.take(*placeholder);
-        at = placeholder->end;
-    }
-    return 0;
-}
-
 bool isText(std::string_view valueType) noexcept {
     return valueType == "@";
 }
@@ -43,7 +31,7 @@ std::optional<PluralPiece> PluralPieces::next() noexcept {
     const auto placeholder = nextPlaceholder(text_, at_);
     if (!placeholder)
         return std::nullopt;
-    PluralPiece piece{.placeholder = *placeholder, .variable = variableAt(*placeholder), .arguments = {}};
+    PluralPiece piece{.placeholder = *placeholder, .variable = variableAt(text_, *placeholder), .arguments = {}};
     if (piece.variable != nullptr) {
         piece.placeholder.end += piece.variable->name.size() + 1;
         if (variable_ != nullptr && placeholder->position == 0)
@@ -56,19 +44,42 @@ std::optional<PluralPiece> PluralPieces::next() noexcept {
     return piece;
 }
 
-const PluralVariable* PluralPieces::variableAt(const Placeholder& placeholder) const noexcept {
-    const std::string_view name = nameBehind(text_, placeholder);
+const PluralVariable* PluralPieces::variableAt(std::string_view text, const Placeholder& placeholder) const noexcept {
+    const std::string_view name = nameBehind(text, placeholder);
     const auto found = std::ranges::find(plural_.variables, name, &PluralVariable::name);
     return found == plural_.variables.end() || name.empty() ? nullptr : &*found;
 }
 
-// The argument of a variable that a form names without a position.
-std::size_t PluralPieces::argumentOf(const PluralVariable& named) const noexcept {
-    std::size_t most = 0;
-    for (const auto& form : variable_->forms)
-        if (form)
-            most = std::max(most, argumentsBefore(*form, named.name));
+std::size_t PluralPieces::numberOf(const PluralVariable& variable) const noexcept {
+    return static_cast<std::size_t>(&variable - plural_.variables.data());
+}
+
+// Of a variable that is named in a form without a position.
+std::size_t PluralPieces::argumentOf(const PluralVariable& named) noexcept {
+    if (!mostBefore_)
+        countMostBefore();
+    const std::size_t number = numberOf(named);
+    const std::size_t most = number < mostBefore_->size() ? (*mostBefore_)[number] : 0;
     return std::max(own_ + most, counter_.taken() + 1);
+}
+
+void PluralPieces::countMostBefore() noexcept {
+    auto& most = mostBefore_.emplace();
+    for (const auto& form : variable_->forms) {
+        std::bitset<PluralTable::maxVariables> isNamed;
+        ArgumentCounter counter;
+        std::size_t at = 0;
+        while (const auto placeholder = form ? nextPlaceholder(*form, at) : std::nullopt) {
+            const PluralVariable* const named = variableAt(*form, *placeholder);
+            if (const std::size_t number = named == nullptr ? isNamed.size() : numberOf(*named);
+                number < isNamed.size() && !isNamed[number]) {
+                isNamed.set(number);
+                most[number] = std::max(most[number], static_cast<std::uint32_t>(counter.taken()));
+            }
+            counter.take(*placeholder);
+            at = placeholder->end;
+        }
+    }
 }
 
 bool PluralPieces::skipsOwn(const Placeholder& placeholder) const noexcept {
@@ -107,7 +118,7 @@ private:
     // Adds the forms of a variable, once for each argument that selects them.
     void add(const PluralVariable& variable, std::size_t argument) {
         signature.add(argument, kindOf(variable));
-        if (argument > mostArguments || !seen_.emplace(&variable, argument).second)
+        if (argument > mostArguments || seen_.size() == mostVisits || !seen_.emplace(&variable, argument).second)
             return;
         for (const auto& form : variable.forms)
             if (form)
@@ -116,6 +127,7 @@ private:
 
     // Variables that refer to each other could increase the argument number without end.
     static constexpr std::size_t mostArguments = 64;
+    static constexpr std::size_t mostVisits = 256;
 
     const PluralFormat& plural_;
     std::set<std::pair<const PluralVariable*, std::size_t>> seen_;

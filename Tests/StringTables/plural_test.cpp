@@ -150,6 +150,19 @@ TEST(PluralTable, KnowsTheArgumentsOfAllForms) {
     EXPECT_EQ(signature.conflict->position, 3U);
 }
 
+TEST(PluralTable, EndsWhereFormsNameEachOther) {
+    StringTables::PluralFormat web{"%#@v0@", {}};
+    std::string names;
+    for (std::size_t i = 0; i < PluralTable::maxVariables; ++i)
+        names += "%#@v" + std::to_string(i) + "@";
+    for (std::size_t i = 0; i < PluralTable::maxVariables; ++i) {
+        auto& variable = web.variables.emplace_back();
+        variable.name = "v" + std::to_string(i);
+        variable.forms.back() = names;
+    }
+    EXPECT_EQ(signatureOf(web).arguments.size(), StringTables::FormatSignature::mostArguments);
+}
+
 // One dictionary for all entries: a small file that would be a large table.
 TEST(PluralTable, SharedTextsAreBounded) {
     std::vector<StringTables::PluralEntry> entries;

@@ -6,7 +6,9 @@
 
 #include "StringTables/internal/Placeholder.h"
 #include "StringTables/internal/PluralTable.h"
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -35,8 +37,10 @@ public:
     std::optional<PluralPiece> next() noexcept;
 
 private:
-    const PluralVariable* variableAt(const Placeholder& placeholder) const noexcept;
-    std::size_t argumentOf(const PluralVariable& named) const noexcept;
+    const PluralVariable* variableAt(std::string_view text, const Placeholder& placeholder) const noexcept;
+    std::size_t numberOf(const PluralVariable& variable) const noexcept;
+    std::size_t argumentOf(const PluralVariable& named) noexcept;
+    void countMostBefore() noexcept;
     bool skipsOwn(const Placeholder& placeholder) const noexcept;
 
     const PluralFormat& plural_;
@@ -45,6 +49,8 @@ private:
     std::size_t own_ = 0;
     std::size_t at_ = 0;
     ArgumentCounter counter_;
+    // By variable, how many arguments come before its name in the form where those are most. Counted when first needed.
+    std::optional<std::array<std::uint32_t, PluralTable::maxVariables>> mostBefore_;
 };
 
 // The arguments that a plural format and all its forms take. The kind of a variable's number is that of its value type.
