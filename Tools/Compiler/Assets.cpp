@@ -29,7 +29,7 @@ using SourceBundle::SourceFile;
 
 namespace {
 
-// The files of the source, each read once and equal ones kept once, and the pictures made of them.
+// Reads the files of the source, each once, and converts pictures. Equal contents are stored once.
 // Threads: any.
 class Files {
 public:
@@ -50,7 +50,7 @@ public:
         const auto [same, isNew] = contents_.try_emplace(*bytes, bytes);
         total_ += isNew ? bytes->size() : 0;
         if (total_ > AssetCatalog::maxBytes)
-            return Runtime::Error{.message = "with the files before it has more bytes than a catalog may hold",
+            return Runtime::Error{.message = "together with the files before it exceeds the size limit of a catalog",
                                   .file = path};
         return read_.try_emplace(path, same->second).first->second;
     }
@@ -87,7 +87,7 @@ public:
         return made_.try_emplace(key, *std::move(pictures)).first->second;
     }
 
-    // Precondition: no other thread uses the files any more.
+    // Precondition: no other thread uses this object any more.
     const MadePictures& made() const { return made_; }
 
 private:
@@ -99,7 +99,7 @@ private:
     MadePictures made_;
 };
 
-// Pictures that were made for their own scale come before those that a drawing was made into besides.
+// Pictures made for their scale come before those that were derived from a drawing for another scale.
 void addPictures(const SourceAsset& source, Files& files, Asset& asset, Diagnostics& diagnostics) {
     std::vector<Picture> derived;
     for (const SourceFile& file : source.files) {
@@ -152,8 +152,8 @@ Asset compiled(const SourceAsset& source, Files& files, Diagnostics& diagnostics
     return asset;
 }
 
-// A catalog has one asset of each kind and name: the first.
-void leaveOutTwins(std::vector<SourceAsset>& assets, Diagnostics& diagnostics) {
+// A catalog has only one asset per kind and name: the first.
+void removeDuplicates(std::vector<SourceAsset>& assets, Diagnostics& diagnostics) {
     std::map<std::pair<AssetCatalog::Kind, std::string>, fs::path> taken;
     std::erase_if(assets, [&](const SourceAsset& asset) {
         const auto [before, isNew] = taken.try_emplace({asset.kind, asset.name}, asset.path);
@@ -169,7 +169,7 @@ std::vector<Asset> compiledAssets(std::span<const fs::path> catalogs, Files& fil
                                   const Progress& progress) {
     std::vector<SourceAsset> sources =
         SourceBundle::sourceAssets(catalogs, diagnostics, [&](const SourceFile& file) { return files.check(file); });
-    leaveOutTwins(sources, diagnostics);
+    removeDuplicates(sources, diagnostics);
     std::vector<Asset> assets(sources.size());
     std::vector<Diagnostics> messages(sources.size());
     std::mutex lock;

@@ -1,5 +1,5 @@
 // Compiler/Assets.h
-// The asset catalogs of a source, made into one compiled catalog; internal to the compiler.
+// Compiles the asset catalogs of a source into one catalog; internal to the compiler.
 #pragma once
 
 #include "Compiler/Bundle.h"
@@ -9,8 +9,8 @@
 
 namespace Compiler {
 
-// Writes Assets.catalog if the catalogs have assets, and the bundle's mark, which lists the pictures in it for the next
-// compile. Uses what the last compile of the bundle made; the result is the same without it.
+// Writes Assets.catalog if the catalogs have assets, and the bundle's mark file, which lists its pictures for the next
+// compile. Reuses pictures of the last compile; the result is the same as without them.
 [[nodiscard]] Runtime::Result<void> compileAssets(std::span<const std::filesystem::path> catalogs, StagedFolder& out,
                                                   SourceBundle::Diagnostics& diagnostics, const Progress& progress);
 

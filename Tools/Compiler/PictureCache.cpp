@@ -28,7 +28,7 @@ std::uint64_t hashOf(std::string_view bytes) {
     return XXH3_64bits(bytes.data(), bytes.size());
 }
 
-// The numbers of a line, one after the other.
+// Reads the fields of a line in order.
 class Fields {
 public:
     explicit Fields(std::string_view line) : rest_(line) {}
@@ -73,7 +73,7 @@ PictureCache PictureCache::of(const fs::path& bundle) {
     return cache;
 }
 
-// Lines of another form are skipped.
+// Invalid lines are skipped.
 void PictureCache::readRecord(std::string_view line) {
     Fields fields(line);
     const std::string key(fields.word());
@@ -122,7 +122,7 @@ std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog
     std::string list;
     const auto isStored = [&](const Picture& picture) { return catalog.offsets.contains(*picture.bytes); };
     for (const auto& [key, pictures] : made) {
-        if (!std::ranges::all_of(pictures, isStored)) // another file's picture was taken for one of the scales
+        if (!std::ranges::all_of(pictures, isStored)) // for some scale the catalog uses the picture of another file
             continue;
         for (const Picture& picture : pictures) {
             list.append(key);

@@ -1,6 +1,6 @@
 // Compiler/PictureCache.h
-// What the last compile made of pictures, so that the next one need not make it again; internal to the compiler.
-// The list is in the bundle's mark, the pictures are in its catalog.
+// A cache of the pictures converted by the last compile; internal to the compiler.
+// The list of pictures is in the bundle's mark file, their bytes are in its catalog.
 // Threads: find() and has() from any thread.
 #pragma once
 
@@ -19,14 +19,14 @@ namespace Compiler {
 
 class PictureCache {
 public:
-    // The cache of the bundle at that path; an empty one where there is none or it cannot be read.
+    // The cache of the bundle at that path; empty if there is none or it is unreadable.
     static PictureCache of(const std::filesystem::path& bundle);
 
-    // A hash of the file, its purpose and everything else that the result depends on.
+    // A hash of everything that the result depends on: the file, its purpose and the versions of the converters.
     [[nodiscard]] static std::string keyOf(std::string_view bytes, const SourcePictures::Purpose& purpose);
 
     [[nodiscard]] bool has(const std::string& key) const { return pictures_.contains(key); }
-    // The pictures, or no value if there are none for the key or the catalog has been changed.
+    // The pictures, or no value if the key is unknown or the catalog was changed.
     [[nodiscard]] std::optional<std::vector<AssetCatalog::Picture>> find(const std::string& key) const;
 
 private:
@@ -44,10 +44,10 @@ private:
     std::map<std::string, std::vector<Record>, std::less<>> pictures_; // by key
 };
 
-// What was made in this compile, by key.
+// The pictures of this compile, by key.
 using MadePictures = std::map<std::string, std::vector<AssetCatalog::Picture>>;
 
-// The list of a bundle's mark. Precondition: the pictures are in `catalog`.
+// The list for the mark file of the bundle with `catalog`.
 [[nodiscard]] std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog& catalog);
 
 } // namespace Compiler

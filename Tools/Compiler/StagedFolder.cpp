@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A descriptor that is kept for removing folders.
+// A spare descriptor, so that folders can be removed when none is free.
 Runtime::Descriptor reserved() noexcept {
     return Runtime::Descriptor(::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
@@ -33,7 +33,7 @@ bool isMarked(const fs::path& folder) {
     return fs::is_regular_file(fs::symlink_status(folder / markName, failed));
 }
 
-// Between a bundle's name and the six characters of its staged folder. Unlikely in the name of a copy.
+// The part between the bundle's name and the six random characters of a staged folder's name.
 constexpr std::string_view stagedMiddle = ".staged-";
 
 bool isStagedName(std::string_view name, std::string_view target) {
@@ -45,7 +45,7 @@ bool isStagedName(std::string_view name, std::string_view target) {
            });
 }
 
-// Negative if another compile holds the lock, or without locks.
+// Negative if another compile holds the lock or the file system has no locks.
 int lock(const fs::path& folder) noexcept {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
     if (descriptor < 0 || ::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
@@ -54,8 +54,7 @@ int lock(const fs::path& folder) noexcept {
     return -1;
 }
 
-// Removes the mark last, so that what a killed removal leaves is removed by the next compile. What cannot be removed
-// stays.
+// Removes the mark file last, so that the next compile can continue an interrupted removal. Ignores errors.
 void discard(const fs::path& folder) {
     std::error_code ignored, failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
@@ -64,7 +63,7 @@ void discard(const fs::path& folder) {
     fs::remove_all(folder, ignored);
 }
 
-// Removes what killed compiles of `target` left: marked folders, and those that are still empty.
+// Removes the folders that killed compiles of `target` left behind: marked or empty ones.
 void removeAbandoned(const fs::path& target) {
     std::error_code failed;
     const fs::path beside = target.has_parent_path() ? target.parent_path() : fs::path(".");
@@ -78,11 +77,11 @@ void removeAbandoned(const fs::path& target) {
         if (isMarked(folder))
             discard(folder);
         else
-            ::rmdir(folder.c_str()); // of empty folders only
+            ::rmdir(folder.c_str()); // fails unless it is empty
     }
 }
 
-// Whether `target` does not exist, is an empty folder or was made by a compile.
+// Whether `target` does not exist, is empty, or is a compiled bundle.
 bool mayReplace(const fs::path& target) {
     std::error_code failed;
     if (!fs::exists(fs::symlink_status(target, failed)))
@@ -124,7 +123,8 @@ bool writeAll(int descriptor, std::string_view bytes) {
     return true;
 }
 
-// False with errno on failure. Not synced to the disk: an output that a power failure damages is compiled again.
+// Returns false and sets errno on failure. Not synced to the disk: an output damaged by a power failure can be compiled
+// again.
 bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
     ::unlink(path.c_str());
     Runtime::Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
@@ -145,23 +145,23 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
     if (!mayReplace(target))
         return Runtime::Error{.message = "already exists and is not a compiled bundle", .file = target};
     removeAbandoned(target);
-    // Before there is anything to remove.
+    // Reserve these first: removing the folder must never fail for lack of descriptors.
     Reserve reserve{reserved(), reserved(), reserved()};
     if (reserve.back().number() < 0)
-        return systemError(target, "cannot be made");
+        return systemError(target, "cannot be created");
     std::string path = target.string().append(stagedMiddle).append("XXXXXX");
     if (::mkdtemp(path.data()) == nullptr)
-        return systemError(target, "cannot be made");
+        return systemError(target, "cannot be created");
     StagedFolder folder(target, path, std::move(reserve));
     if (auto written = folder.write(markName, markText); !written)
         return std::move(written.error());
-    // mkdtemp makes a folder that only its owner can read.
+    // mkdtemp creates a folder that only its owner can read.
     if (::chmod(path.c_str(), 0755) != 0)
-        return systemError(target, "cannot be made");
+        return systemError(target, "cannot be created");
     return folder;
 }
 
-// The lock is taken before the folder is marked: an unlocked marked folder is abandoned.
+// Takes the lock before the folder is marked, because marked folders without a lock count as abandoned.
 StagedFolder::StagedFolder(fs::path target, fs::path staged, Reserve reserve)
     : target_(std::move(target)), staged_(std::move(staged)), lock_(lock(staged_)), reserve_(std::move(reserve)) {}
 
@@ -179,7 +179,7 @@ StagedFolder::~StagedFolder() {
 Runtime::Result<void> StagedFolder::write(const fs::path& name, std::span<const std::string_view> pieces) const {
     const fs::path path = staged_ / name;
     std::error_code failed;
-    fs::create_directories(path.parent_path(), failed); // what that fails for, writing fails for
+    fs::create_directories(path.parent_path(), failed); // if this fails, writing fails, too
     if (hasContent(target_ / name, pieces) && (::unlink(path.c_str()) == 0 || errno == ENOENT) &&
         ::link((target_ / name).c_str(), path.c_str()) == 0)
         return {};

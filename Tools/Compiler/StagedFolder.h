@@ -1,5 +1,5 @@
 // Compiler/StagedFolder.h
-// A folder that is filled aside and then put in its place in one step.
+// A folder that is built beside its target and then replaces it atomically.
 #pragma once
 
 #include "Runtime/internal/Descriptor.h"
@@ -11,32 +11,32 @@
 
 namespace Compiler {
 
-// The file that marks a folder as made by a compile, so that it may be replaced, and its first line.
+// The file that marks a folder as a compiled bundle, which may be replaced, and its first line.
 inline constexpr const char* markName = ".lumora-bundle";
 inline constexpr std::string_view markText = "Made by lumora compile.\n";
 
 class StagedFolder {
 public:
-    // An empty folder beside `target`, NAME.staged-XXXXXX; such folders that killed compiles left are removed. Errors:
-    // `target` exists and is neither empty nor marked, or its folder cannot be written.
+    // Creates an empty folder beside `target`, NAME.staged-XXXXXX, and removes such folders of killed compiles. Errors:
+    // `target` exists and is neither empty nor marked, or its parent folder is not writable.
     [[nodiscard]] static Runtime::Result<StagedFolder> create(const std::filesystem::path& target);
 
     StagedFolder(StagedFolder&& other) noexcept;
     StagedFolder& operator=(StagedFolder&&) = delete;
-    // Removes the unfinished folder, or the old one after its replacement; needs no descriptors that are free.
+    // Removes the unfinished folder, or the old target after its replacement. Works even when no descriptors are free.
     ~StagedFolder();
 
     [[nodiscard]] const std::filesystem::path& path() const noexcept { return staged_; }
     [[nodiscard]] const std::filesystem::path& target() const noexcept { return target_; }
 
-    // Writes a file below the folder, whose content is the pieces. If the target has the same file, that one is linked,
-    // so that it keeps its time.
+    // Writes a file below the folder; its content is the concatenation of `pieces`. If the target has the same file, it
+    // is hard-linked, so that it keeps its modification time.
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name,
                                               std::span<const std::string_view> pieces) const;
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name, std::string_view bytes) const {
         return write(name, {&bytes, 1});
     }
-    // Makes this folder the target; an older target is exchanged for it in one step.
+    // Moves the folder to the target; an older target is exchanged atomically.
     [[nodiscard]] Runtime::Result<void> putInPlace();
 
 private:
@@ -45,8 +45,8 @@ private:
     StagedFolder(std::filesystem::path target, std::filesystem::path staged, Reserve reserve);
 
     std::filesystem::path target_;
-    std::filesystem::path staged_; // empty once nothing is aside
-    // Locked as long as the compile lives; -1 where the file system has no locks.
+    std::filesystem::path staged_; // empty when there is nothing to remove
+    // Held as long as the compile runs; -1 if the file system has no locks.
     Runtime::Descriptor lock_;
     Reserve reserve_;
 };

@@ -23,7 +23,7 @@ namespace {
 namespace layout = StringTables::bundleLayout;
 constexpr std::string_view regionKey = layout::developmentRegionKey;
 
-// The language folders that the bundle will have, as bundleLayout::languagesKey wants them.
+// The language folders of the bundle, in the form of bundleLayout::languagesKey.
 std::string languagesOf(const Source& source) {
     std::set<std::string> names;
     for (const SourceTable& table : source.tables)
@@ -44,8 +44,7 @@ bool hasPlurals(const Source& source) {
     return false;
 }
 
-// `entries` with what is known of the source, in the form that is read fastest: a program reads it before its first
-// text.
+// Adds the entries about the source. Binary, because a program reads Info.plist before its first text.
 Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source& source) {
     const std::string languages = languagesOf(source);
     const Entry own[] = {{regionKey, source.developmentLanguage},
@@ -58,8 +57,8 @@ Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source&
     return StringTables::write(entries, Form::binary);
 }
 
-// The source's Info.plist, or one that says the development language. One that holds more than texts stays as it is
-// unless its language has to change.
+// The source's Info.plist with additional entries. One that contains other values than strings is copied unchanged,
+// unless its development language must be changed.
 Runtime::Result<std::string> info(const Source& source) {
     if (source.infos.empty())
         return completed({}, source);
@@ -81,7 +80,7 @@ Runtime::Result<void> place(const StagedFolder& out, const fs::path& file, Runti
     return std::move(bytes.error());
 }
 
-// The plain texts as TABLE.strings, those with forms as TABLE.stringsdict beside it.
+// Writes plain texts to TABLE.strings and plurals to TABLE.stringsdict.
 Runtime::Result<void> compileTexts(const LanguageTexts& texts, const StagedFolder& out, const fs::path& folder,
                                    std::string_view table) {
     std::vector<Entry> entries;

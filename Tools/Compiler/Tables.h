@@ -1,5 +1,5 @@
 // Compiler/Tables.h
-// The string tables of a bundle, from any form to the binary one; internal to the compiler.
+// Compiles string tables to their binary form; internal to the compiler.
 #pragma once
 
 #include "Compiler/Bundle.h"

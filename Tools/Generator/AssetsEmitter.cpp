@@ -12,8 +12,8 @@ namespace Generator {
 namespace {
 
 struct KindWords {
-    const char* record; // what a module's name goes before
-    const char* maker;
+    const char* record; // suffix of the record type
+    const char* factory;
 };
 constexpr std::array<KindWords, 3> kindWords = {{{"Images", "image"}, {"Colors", "color"}, {"Data", "data"}}};
 
@@ -25,7 +25,7 @@ std::string nameSpaceOf(const AssetConstant& constant, const Options& options) {
     return options.module + "::" + options.module + "Asset::" + constant.groups;
 }
 
-// The catalog's own namespace names its header.
+// Each catalog has a header, named after its namespace.
 std::string headerOf(const AssetConstant& constant) {
     return constant.groups.substr(0, constant.groups.find(':'));
 }
@@ -40,9 +40,9 @@ void declare(CodeWriter& code, const AssetConstant& constant, const Options& opt
 void define(CodeWriter& code, const AssetConstant& constant, const Options& options) {
     code.enter(nameSpaceOf(constant, options));
     const std::string module = "::" + options.module + "::" + options.module;
-    const auto [record, maker] = wordsOf(constant);
+    const auto [record, factory] = wordsOf(constant);
     code.addAssignment("constinit const " + module + record + ' ' + constant.name,
-                       module + "AssetModule::Catalog::" + maker + '(' + literal(constant.asset->name) + ");");
+                       module + "AssetModule::Catalog::" + factory + '(' + literal(constant.asset->name) + ");");
 }
 
 } // namespace
@@ -62,7 +62,7 @@ std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, con
     }
 
     CodeWriter umbrella(options.module);
-    umbrella.add("// Every asset of the module by name.\n#pragma once\n");
+    umbrella.add("// All assets of the module.\n#pragma once\n");
     std::vector<std::string> includes = {options.module + "AssetRecords.h"};
     std::vector<OutputFile> files;
     for (auto& [catalog, header] : headers) {

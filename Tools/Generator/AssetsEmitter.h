@@ -1,5 +1,5 @@
 // Generator/AssetsEmitter.h
-// The tree of assets as headers and sources.
+// Writes the tree of assets as headers and sources.
 #pragma once
 
 #include "Generator/AssetsModel.h"
@@ -9,7 +9,7 @@
 
 namespace Generator {
 
-// Those of one namespace are in a row.
+// Constants of the same namespace must be adjacent.
 [[nodiscard]] std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, const Options& options);
 
 } // namespace Generator

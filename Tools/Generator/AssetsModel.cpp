@@ -15,7 +15,7 @@ using SourceBundle::Topic;
 
 namespace {
 
-// The names of an asset's namespaces, its catalog's first, and its own last.
+// The namespaces of an asset, beginning with the catalog's, and its own name.
 std::vector<std::string> pathOf(const SourceAsset& asset) {
     std::vector<std::string> path{Namer::tableSpelling(asset.catalog)};
     std::string_view name = asset.name;
@@ -27,7 +27,7 @@ std::vector<std::string> pathOf(const SourceAsset& asset) {
     return path;
 }
 
-// Why the path can be nobody's, or empty.
+// Why the path is not usable, or an empty string.
 std::string faultOf(const std::vector<std::string>& path) {
     if (path.front().empty())
         return "its catalog's name has no letter or digit";
@@ -46,11 +46,11 @@ AssetTree assetTreeOf(std::span<const SourceAsset> assets, Diagnostics& diagnost
         std::vector<std::string> path = pathOf(asset);
         std::string fault = faultOf(path);
         Topic topic = Topic::noAccessor;
-        std::erase(path, std::string()); // a folder without a name is none
+        std::erase(path, std::string()); // folders without a usable name are dropped
         if (fault.empty())
             if (const auto conflict = names.claim(path, number)) {
                 topic = Topic::nameClash;
-                fault = "the name " + conflict->name + " belongs to " + assets[conflict->owner.number].path.string();
+                fault = "the name " + conflict->name + " is already used for " + assets[conflict->owner.number].path.string();
             }
         if (!fault.empty()) {
             diagnostics.add(

@@ -1,5 +1,5 @@
 // Generator/AssetsModel.h
-// The tree of assets, as the emitter needs it.
+// The tree of assets for the emitter.
 // Ownership: the constants point to the assets, which must outlive them. Threads: plain values.
 #pragma once
 
@@ -11,7 +11,7 @@
 namespace Generator {
 
 struct AssetConstant {
-    std::string groups; // the namespaces around it, outermost first: "Images::Icons"
+    std::string groups; // the enclosing namespaces, outermost first: "Images::Icons"
     std::string name;   // in C++
     const SourceBundle::SourceAsset* asset;
 };
@@ -27,7 +27,7 @@ struct AssetTree {
     std::vector<LeftOutAsset> leftOut;    // likewise
 };
 
-// An asset that can have no constant is a warning; the first asset of a clash keeps the name.
+// Warns about every asset that cannot have a constant. If names clash, the first asset keeps the name.
 [[nodiscard]] AssetTree assetTreeOf(std::span<const SourceBundle::SourceAsset> assets,
                                     SourceBundle::Diagnostics& diagnostics);
 

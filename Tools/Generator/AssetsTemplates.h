@@ -1,6 +1,6 @@
 // Generator/AssetsTemplates.h
-// The parts of generated code that are the same for every tree of assets; internal to the emitter of assets.
-// In generated code the platform's names begin with "::", because a group may be called UIKit.
+// The constant parts of generated code for assets; internal to the emitter.
+// In generated code the platform's names begin with "::", because a group may be named UIKit.
 #pragma once
 
 #include <string_view>
@@ -16,7 +16,7 @@ inline constexpr std::string_view recordsHeader = R"(#pragma once
 
 namespace {{module}} {
 
-// Where the records below look, and what their reports say.
+// The bundle and the name in error reports of the records below.
 struct {{module}}AssetModule {
     static const ::Foundation::NSBundle& bundle() { return {{module}}Resources::bundle(); }
     static constexpr std::string_view sourceName = "TuistAssets+{{module}}";
@@ -27,7 +27,7 @@ using {{module}}Images = ::SwiftUI::ImageRecord<{{module}}AssetModule>;
 using {{module}}Colors = ::SwiftUI::ColorRecord<{{module}}AssetModule>;
 using {{module}}Data = ::SwiftUI::DataRecord<{{module}}AssetModule>;
 
-// Makes the records and assigns their colours. Only the module's own sources have these functions.
+// Creates records and assigns their colours. Only the module's own sources can use these functions.
 class {{module}}AssetModule::Catalog {
 public:
     // Names are string literals.
@@ -35,14 +35,14 @@ public:
     static constexpr {{module}}Colors color(const char* name) noexcept;
     static constexpr {{module}}Data data(const char* name) noexcept;
 
-    // Later reads give the assigned value.
+    // Later reads return the assigned value.
     static void setColor(const {{module}}Colors& record, const ::UIKit::UIColor& color);
     static void setSwiftUIColor(const {{module}}Colors& record, ::SwiftUI::Color color);
 };
 
 } // namespace {{module}})";
 
-inline constexpr std::string_view assetCatalogHeader = R"(// How records are made and colours assigned; internal.
+inline constexpr std::string_view assetCatalogHeader = R"(// The functions that create records and assign colours; internal.
 #pragma once
 
 #include "../../{{module}}AssetRecords.h"
@@ -70,7 +70,7 @@ inline void {{module}}AssetModule::Catalog::setSwiftUIColor(const {{module}}Colo
 } // namespace {{module}})";
 
 inline constexpr std::string_view conveniencesHeader =
-    R"(// What the module adds to the platform's image, colour and data types. SwiftUI/ModuleConveniences.h describes each.
+    R"(// The module's additions to the platform's image, colour and data types. See SwiftUI/ModuleConveniences.h.
 #pragma once
 
 #include "{{module}}AssetRecords.h"

@@ -15,12 +15,12 @@ template <class... Values> std::string printed(const char* format, Values... val
     return buffer;
 }
 
-// Which is nearly every character.
+// The most common case.
 constexpr bool isVisibleAscii(char c) {
     return c >= ' ' && c < 0x7F;
 }
 
-// The bytes of the character that `text` begins with; one byte where it begins with none.
+// The bytes of the first character of `text`; one byte if it is invalid.
 std::string_view firstCharacter(std::string_view text) {
     std::size_t size = 1;
     if (isVisibleAscii(text[0]))
@@ -98,7 +98,7 @@ std::string literal(std::string_view bytes) {
             code.append("\\").append(character);
         else if (visibleCharacter(character) == character)
             code += character;
-        else // three octal digits end where they end; a hexadecimal escape would take in what follows
+        else // octal escapes have at most three digits; a hexadecimal escape could swallow the next character
             for (const char byte : character)
                 code += printed("\\%03o", static_cast<unsigned>(static_cast<unsigned char>(byte)));
         bytes.remove_prefix(character.size());

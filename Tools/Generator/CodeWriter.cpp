@@ -7,7 +7,7 @@
 namespace Generator {
 
 CodeWriter::CodeWriter(std::string_view module) : module_(module) {
-    add("// Made from the resources of the module {{module}}; do not edit.");
+    add("// Generated from the resources of the module {{module}}; do not edit.");
 }
 
 void CodeWriter::add(std::string_view pattern, Values values) {
@@ -25,12 +25,12 @@ std::string_view CodeWriter::valueOf(std::string_view name, Values values) const
         return module_;
     const auto found = std::ranges::find(values, name, &Values::value_type::first);
     if (found == values.end())
-        Runtime::fatalError({"No value for {{", name, "}} in a template of generated code."}, "CodeWriter", __LINE__);
+        Runtime::fatalError({"No value for {{", name, "}} in a template for generated code."}, "CodeWriter", __LINE__);
     return found->second;
 }
 
 void CodeWriter::addList(std::string_view head, const std::vector<std::string>& items, std::string_view tail) {
-    const std::size_t indent = columnsOf(head.substr(head.rfind('\n') + 1)); // npos + 1 is the head's own begin
+    const std::size_t indent = columnsOf(head.substr(head.rfind('\n') + 1)); // npos + 1 is 0
     code_ += head;
     std::size_t column = indent;
     for (const std::string& item : items) {
@@ -60,7 +60,7 @@ void CodeWriter::addComment(std::string_view text) {
     constexpr std::string_view first = "// ", next = "//    ";
     std::string line(first);
     const auto end = [&] {
-        // Otherwise the next line would belong to the comment; "??/" is a backslash to some compilers.
+        // A backslash would continue the comment on the next line; some compilers also treat "??/" as one.
         const bool isContinued = line.ends_with('\\') || line.ends_with("?\?/");
         code_.append(line).append(isContinued ? ".\n" : "\n");
     };

@@ -1,6 +1,6 @@
 // Generator/CodeWriter.h
-// Code as it grows: lines with named parts, namespaces that open and close by themselves, lists that are wrapped.
-// Text: UTF-8. Threads: values.
+// Writes code: templates with named placeholders, namespaces that are opened and closed as needed, wrapped lists.
+// Text: UTF-8. Threads: one at a time.
 #pragma once
 
 #include <initializer_list>
@@ -15,28 +15,26 @@ class CodeWriter {
 public:
     using Values = std::initializer_list<std::pair<std::string_view, std::string_view>>;
 
-    // Begins with the line that says that the file is not to be edited. `module` is the value of {{module}} in every
-    // pattern.
+    // Starts with a do-not-edit line. `module` is the value of {{module}} in all patterns.
     explicit CodeWriter(std::string_view module);
 
-    // Adds `pattern` and a line end, with every {{name}} replaced by the value of that name. A name without a value
-    // stops the process. Values are not looked into.
+    // Adds `pattern` and a line feed. Replaces every {{name}} with its value; an unknown name stops the process.
+    // Placeholders in values are not replaced.
     void add(std::string_view pattern, Values values = {});
-    // Adds "HEAD ITEM, ITEM, ... TAIL", broken between items where the line would be too long; continued below the
-    // first item.
+    // Adds "HEAD ITEM, ITEM, ... TAIL", wrapped between items; continuation lines are aligned with the first item.
     void addList(std::string_view head, const std::vector<std::string>& items, std::string_view tail);
-    // Adds "HEAD = VALUE", broken behind the sign where the line would be too long.
+    // Adds "HEAD = VALUE", wrapped after the sign if the line would be too long.
     void addAssignment(std::string_view head, std::string_view value);
-    // Adds the text as comment lines, broken between words where they would be too long; continued lines are indented.
+    // Adds the text as a comment, wrapped between words; continuation lines are indented.
     void addComment(std::string_view text);
-    // Adds a line for each quoted header, in the order that clang-format wants.
+    // Adds an #include line for each header, sorted as by clang-format.
     void addIncludes(std::vector<std::string> headers);
 
-    // What follows is in the namespace of that name, given whole; nothing changes if it is already.
+    // Opens the namespace with that qualified name and closes another one if open. Does nothing if it is already open.
     void enter(const std::string& nameSpace);
     void leave();
 
-    // The code; closes what is open.
+    // Closes the open namespace and returns the code.
     [[nodiscard]] std::string take();
 
     static constexpr std::size_t maxWidth = 120; // in columns
@@ -49,7 +47,7 @@ private:
     std::string nameSpace_; // the open one
 };
 
-// A file of one pattern whose only name is {{module}}.
+// A file made from one pattern with the placeholder {{module}}.
 [[nodiscard]] std::string filled(std::string_view pattern, std::string_view module);
 
 } // namespace Generator

@@ -59,7 +59,7 @@ std::string moduleHeader(const Options& options) {
     return code.take();
 }
 
-// Adds to NAME.h a line that changes with the headers in the folder NAME.
+// Adds a line to NAME.h that changes whenever a header in the folder NAME changes.
 void addFingerprint(const std::string& name, std::vector<OutputFile>& files) {
     std::vector<std::string_view> headers;
     for (const OutputFile& file : files)
@@ -99,14 +99,14 @@ std::vector<OutputFile> filesOf(const Model& model, const Options& options) {
     std::vector<OutputFile> files = emitStrings(model.tables, options);
     std::ranges::move(emitAssets(model.assetTree.constants, options), std::back_inserter(files));
     files.push_back({options.module + ".h", moduleHeader(options)});
-    // A build knows these by name, and by them sees that a header has changed that they include.
+    // A build system tracks only these headers by name: this makes them change with the headers that they include.
     for (const std::string tree : {"Strings", "Asset"})
         addFingerprint(options.module + tree, files);
     return files;
 }
 
 Runtime::Result<void> writeModule(const Model& model, const Options& options, const std::filesystem::path& folder) {
-    // With the last table or catalog of a source, nothing new is made in these.
+    // These may contain stale files even if nothing new is written to them.
     const std::filesystem::path texts = options.module + "Strings", constants = options.module + "Asset";
     return writeFiles(folder, filesOf(model, options), {texts, texts / "Internal", constants, constants / "Internal"});
 }

@@ -18,10 +18,10 @@ using SourceBundle::Topic;
 
 namespace {
 
-// Makes the paths of keys by the rule.
+// Derives accessor paths from keys.
 class PathMaker {
 public:
-    // Empty if the key gives no name. A part without a name is dropped.
+    // Empty if the key gives no name. Groups without a usable name are dropped.
     std::vector<std::string> pathOf(std::string_view key) {
         std::vector<std::string_view> parts = Namer::components(key);
         std::string name;
@@ -37,7 +37,7 @@ public:
     }
 
 private:
-    // Most keys share their groups with others.
+    // Cached, because most keys share their groups.
     const std::string& groupName(std::string_view part) {
         const auto [known, isNew] = groups_.try_emplace(part);
         if (isNew)
@@ -50,7 +50,7 @@ private:
 
 std::string faultOf(const std::vector<std::string>& path) {
     if (path.empty())
-        return "it has no letter or digit to make a name of";
+        return "it has no letter or digit for a name";
     if (path.size() > maxPathParts)
         return "it has more than " + std::to_string(maxPathParts) + " parts";
     if (qualified(path).size() > maxPathLength)
@@ -100,8 +100,8 @@ private:
         if (parameters.hasLonePercent)
             diagnostics.add(Severity::warning,
                             candidate.entry->error("the text of key " + quote(candidate.entry->key) +
-                                                   " has a % that begins no placeholder; it is printed as it is (write "
-                                                   "%% if that is meant)"),
+                                                   " has a % that begins no placeholder and is printed literally (write "
+                                                   "%% for a percent sign)"),
                             Topic::lonePercent, candidate.entry->key);
     }
 
@@ -115,11 +115,11 @@ private:
         if (const auto conflict = names_.claim(candidate.path, number)) {
             candidate.isClash = true;
             candidate.fault =
-                "the name " + conflict->name + " belongs to " + describe(conflict->owner, *candidate.entry);
+                "the name " + conflict->name + " is already used for " + describe(conflict->owner, *candidate.entry);
         }
     }
 
-    // The owner as a reader of a message about `entry` finds it.
+    // Describes the owner in a message about `entry`.
     std::string describe(const NameClaims::Owner& owner, const SourceEntry& entry) const {
         const SourceEntry& other = *candidates_[owner.number].entry;
         std::string place = other.file == entry.file ? "" : other.file->path.string();
@@ -152,7 +152,7 @@ const std::filesystem::path& fileOf(const SourceTable& table) {
     return table.languages.front().files.front()->path;
 }
 
-// A table without a namespace: none of its keys has an accessor.
+// A table without a namespace; none of its keys gets an accessor.
 CatalogTable leftOut(const Source& source, const SourceTable& table, const std::string& reason) {
     CatalogTable out{table.name, {}, {}, {}};
     for (const SourceEntry* entry : source.developmentEntries(table))
@@ -177,7 +177,7 @@ std::vector<CatalogTable> catalogOf(const Source& source, NamesFile& names, Diag
         }
         const std::string reason = spelling.empty()
                                        ? "its name has no letter or digit"
-                                       : "the name " + spelling + " belongs to " + fileOf(*known->second).string();
+                                       : "the name " + spelling + " is already used for " + fileOf(*known->second).string();
         diagnostics.add(Severity::warning, {.message = "the table has no accessors: " + reason, .file = fileOf(table)},
                         spelling.empty() ? Topic::noAccessor : Topic::nameClash);
         catalog.push_back(leftOut(source, table, reason));

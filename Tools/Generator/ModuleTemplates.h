@@ -1,12 +1,12 @@
 // Generator/ModuleTemplates.h
-// The beginning of the header that includes a whole module; internal.
+// The first part of the header that includes a whole module; internal.
 #pragma once
 
 #include <string_view>
 
 namespace Generator {
 
-// Ends in "#endif // C++20" behind the headers of hand-made parts.
+// The emitter adds the headers of hand-written parts and "#endif // C++20".
 inline constexpr std::string_view moduleHeaderBegin = R"(// The whole module.
 #pragma once
 
@@ -21,7 +21,7 @@ inline constexpr std::string_view moduleHeaderBegin = R"(// The whole module.
 
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
-#ifdef __cpp_rtti // messages need it; all else works without
+#ifdef __cpp_rtti // only messages need it
 #include "Runtime/Class.h"
 #endif)";
 

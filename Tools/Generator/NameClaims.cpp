@@ -5,7 +5,7 @@
 namespace Generator {
 
 std::optional<NameClaims::Conflict> NameClaims::claim(const std::vector<std::string>& path, std::size_t number) {
-    std::size_t group = 0, known = 0; // how many groups of the path are there already
+    std::size_t group = 0, known = 0; // number of leading parts that already exist
     for (; known < path.size(); ++known) {
         const bool isGroup = known + 1 < path.size();
         const auto found = nodes_.find({group, path[known]});

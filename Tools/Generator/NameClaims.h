@@ -1,6 +1,6 @@
 // Generator/NameClaims.h
-// The names of a tree and what they name: each belongs to one member, or to the groups of that name.
-// Threads: values.
+// Tracks the names of a tree to detect clashes: each name belongs to one member or is a group.
+// Threads: one at a time.
 #pragma once
 
 #include <cstddef>
@@ -20,14 +20,14 @@ public:
     };
     struct Conflict {
         std::string name; // "Settings::title"
-        Owner owner;      // to whom it belongs
+        Owner owner;      // the member or group that has the name
     };
 
-    // Takes the names of `path`, groups first, for the member `number`. If one of them belongs to another, takes none.
+    // Claims the names of `path`, groups first, for the member `number`. Claims nothing if one of them is taken.
     std::optional<Conflict> claim(const std::vector<std::string>& path, std::size_t number);
 
 private:
-    // A name in its group, by which alone it is looked up: a long path is not hashed again for each of its parts.
+    // A name within its group. Looking up one part at a time avoids hashing a long path once per part.
     struct Name {
         std::size_t group; // the number of its node; 0 for the root
         std::string name;

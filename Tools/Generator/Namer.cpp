@@ -12,8 +12,8 @@ namespace {
 using namespace Unicode;
 using Words = std::vector<std::u32string>;
 
-// Tables stand beside what the generated code is made of.
-constexpr std::string_view takenFromTables[] = {"detail", "std", "tr"};
+// Names in generated code that table namespaces would clash with.
+constexpr std::string_view namesTakenBeforeTables[] = {"detail", "std", "tr"};
 
 // A macro of <cinttypes>: "PRId64", "SCNxFAST8".
 bool isNumberFormat(std::string_view word) {
@@ -35,20 +35,21 @@ bool isReserved(std::string_view word) {
         return true;
     const bool capitals =
         std::ranges::all_of(word, [](char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); });
-    // Error numbers, signals and the like: the standard keeps whole families of such names for its macros.
+    // Error numbers, signals and the like: the C standard reserves whole families of such names for macros.
     constexpr std::string_view macros[] = {"BUFSIZ", "INFINITY", "NAN", "NULL", "WEOF"};
     return capitals && word.size() > 2 &&
            (word.starts_with('E') || word.starts_with("SIG") || std::ranges::find(macros, word) != std::end(macros));
 }
 
-// Of a program's own: the implementation keeps names with two underscores running, and many that begin with one.
+// Whether the name is an identifier that is not reserved for the implementation: those with two adjacent underscores,
+// and many that begin with one.
 bool isIdentifier(std::string_view name) {
     const std::u32string text = decoded(name);
     return !text.empty() && text[0] != '_' && beginsIdentifier(text[0]) &&
            std::ranges::all_of(text, continuesIdentifier) && text.find(U"__") == std::u32string::npos;
 }
 
-// A character outside C++ identifiers that stands for some inside them, as "№" does for "No".
+// A character that is not allowed in C++ identifiers but is compatible with some that are: "№" with "No".
 bool isLetterLike(char32_t c) {
     if (c < 0x80)
         return false;
@@ -158,7 +159,7 @@ std::string spelling(std::string_view name) {
 
 std::string tableSpelling(std::string_view table) {
     const std::string spelled = isIdentifier(table) ? spelling(table) : spelling(groupName(table));
-    return std::ranges::find(takenFromTables, spelled) == std::end(takenFromTables) ? spelled : spelled + '_';
+    return std::ranges::find(namesTakenBeforeTables, spelled) == std::end(namesTakenBeforeTables) ? spelled : spelled + '_';
 }
 
 bool isSpelled(std::string_view name) {

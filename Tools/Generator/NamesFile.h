@@ -1,5 +1,5 @@
 // Generator/NamesFile.h
-// The names that a team gives to keys itself: a string table from "TABLE/KEY" to the accessor's dotted path below the
+// Accessor names chosen by the team: a string table that maps "TABLE/KEY" to the accessor's dotted path below the
 // table's namespace.
 //     "Localizable/Ban %@" = "Moderation.banUser";
 // Text: UTF-8. Threads: plain values.
@@ -19,13 +19,13 @@ class NamesFile {
 public:
     // No names.
     NamesFile() = default;
-    // A file that cannot be read is an error. A path that is not made of C++ names is a warning, and its key is named
-    // by the rule.
+    // An unreadable file is an error. A path that does not consist of C++ names is a warning, and the key gets its
+    // default name.
     [[nodiscard]] static NamesFile read(const std::filesystem::path& file, SourceBundle::Diagnostics& diagnostics);
 
-    // The parts of the path, groups first; null if the file does not name the key.
+    // The parts of the path, groups first; null if the file does not mention the key.
     [[nodiscard]] const std::vector<std::string>* find(std::string_view table, std::string_view key);
-    // Warns of the names that find() has not been asked for: no table has their keys.
+    // Warns about keys for which find() was never called, because no table has them.
     void reportUnused(SourceBundle::Diagnostics& diagnostics) const;
 
 private:

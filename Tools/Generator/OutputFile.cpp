@@ -27,8 +27,8 @@ Runtime::Result<void> writeChanged(const fs::path& path, const std::string& cont
     std::error_code failed;
     fs::create_directories(path.parent_path(), failed);
     if (failed)
-        return systemError(path.parent_path(), "cannot be made", failed);
-    return Runtime::writeFile(path, content, Runtime::WriteSafety::unsynced); // it can be made again
+        return systemError(path.parent_path(), "cannot be created", failed);
+    return Runtime::writeFile(path, content, Runtime::WriteSafety::unsynced); // it can be generated again
 }
 
 Runtime::Result<void> removeStale(const fs::path& folder, const std::set<fs::path>& made,

@@ -1,5 +1,5 @@
 // Generator/OutputFile.h
-// Generated files, made whole in memory and written together.
+// Generated files, built in memory and written together.
 // Text: contents UTF-8, paths relative to the folder they are written into. Threads: plain values.
 #pragma once
 
@@ -10,15 +10,15 @@
 
 namespace Generator {
 
-// The first line of every content says what the file was made from and that it is not to be edited.
+// The first line of every file says what it was generated from and that it must not be edited.
 struct OutputFile {
     std::filesystem::path path;
     std::string content;
 };
 
-// Writes the files below `folder`, which is made if need be. Each replaces its predecessor at once; a file that has its
-// content already is not touched. Files of an earlier run that are no longer made are removed: those beside the new
-// ones and in `own`, more folders below `folder`, that begin with the same first line.
+// Writes the files below `folder`, which is created if necessary. Each file is replaced atomically; unchanged files are
+// not touched. Stale files of earlier runs are removed: those beside the new files, or in the folders `own` below
+// `folder`, that begin with the same first line.
 [[nodiscard]] Runtime::Result<void> writeFiles(const std::filesystem::path& folder,
                                                const std::vector<OutputFile>& files,
                                                const std::vector<std::filesystem::path>& own = {});

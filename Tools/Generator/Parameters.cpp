@@ -27,9 +27,9 @@ const char* wordFor(Parameter parameter) {
     case Parameter::text:
         return "text";
     case Parameter::integer:
-        return "a whole number";
+        return "an integer";
     case Parameter::number:
-        return "a floating number";
+        return "a floating-point number";
     }
     return "";
 }

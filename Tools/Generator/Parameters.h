@@ -1,5 +1,5 @@
 // Generator/Parameters.h
-// The parameters that a text's accessor takes.
+// The parameters of a text's accessor.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 
@@ -15,12 +15,12 @@ enum class Parameter { text, integer, number };
 inline constexpr std::size_t maxParameters = 64;
 
 struct Parameters {
-    std::vector<Parameter> all;  // in the order of positions or of appearance
-    std::string fault;           // why the text can have no accessor ("mixes ..."), or empty
-    bool hasLonePercent = false; // a '%' begins no placeholder
+    std::vector<Parameter> all;  // by position
+    std::string fault;           // why the text cannot have an accessor ("mixes ..."), or empty
+    bool hasLonePercent = false; // some '%' does not begin a placeholder
 };
 
-// Of the placeholders in the entry's text.
+// The parameters for the placeholders in the entry's text.
 [[nodiscard]] Parameters parametersOf(const SourceBundle::SourceEntry& entry);
 
 } // namespace Generator

@@ -1,10 +1,10 @@
 // Generator/ReservedNames.h
-// The names that generated code may not have, sorted; internal to Namer: the keywords and alternative tokens of C++20,
-// and the macros that compilers and the headers of C, C++, POSIX and the C library define. Left out are macros
-// - that begin with an underscore, as no name of the tree does;
-// - of capitals only, and of whole families, which Namer.cpp knows;
-// - with an underscore, beyond C and C++: only a table's file name could be one.
-// The macros are what this prints for each header:
+// The names that generated code must not use, sorted; internal to Namer: the keywords and alternative tokens of C++20,
+// and the macros defined by compilers and by the headers of C, C++, POSIX and the C library. Left out are macros
+// - that begin with an underscore, because no generated name does;
+// - of capitals only, and whole families, which Namer.cpp handles;
+// - with an underscore that are not from C or C++: only a table's file name could equal one.
+// This command prints the macros of a header:
 //     echo '#include <csignal>' | g++ -std=gnu++20 -dM -E -x c++ -
 #pragma once
 
@@ -14,7 +14,7 @@
 
 namespace Generator::Namer {
 
-// Which would be two columns otherwise.
+// clang-format would use two columns.
 // clang-format off
 inline constexpr auto reservedNames = std::to_array<std::string_view>({
     "ElfW", "I", "alignas", "alignof", "alloca", "and", "and_eq", "asm", "assert", "auto", "basename", "be16toh",

@@ -14,13 +14,12 @@ namespace Generator {
 
 namespace {
 
-// A header of more entries is split, before the entry that begins another group where one comes near; into maxHeaders
-// at most.
+// A header with more entries is split, preferably where another group begins, into at most maxHeaders headers.
 constexpr std::size_t minEntriesPerHeader = 250;
 constexpr std::size_t maxHeaders = 64;
-// Of a comment for translators, in bytes; the rest is left out.
+// The longest comment for translators, in bytes; longer ones are cut.
 constexpr std::size_t maxComment = 1000;
-// What every compiler takes as one string literal.
+// The longest string literal that every compiler accepts.
 constexpr std::size_t maxLiteral = 65536;
 
 struct Placed {
@@ -67,13 +66,13 @@ std::vector<std::string> arguments(const CatalogEntry& entry) {
     return all;
 }
 
-// "TYPE NAME(", with the type on a line of its own where `rest` would not fit behind it.
+// "TYPE NAME(", with the type on a separate line if `rest` would not fit on the same line.
 std::string declarator(const std::string& type, const std::string& name, std::string_view rest) {
     const bool fits = columnsOf(type) + 1 + columnsOf(name) + 1 + columnsOf(rest) <= CodeWriter::maxWidth;
     return type + (fits ? ' ' : '\n') + name + '(';
 }
 
-// Line by line, without the white space around each.
+// Adds each line without leading and trailing white space.
 void addLines(CodeWriter& code, std::string_view comment) {
     constexpr std::string_view space = " \t\r";
     comment = comment.substr(0, maxComment);
@@ -122,7 +121,7 @@ std::string declarations(const CatalogTable& table, std::span<const CatalogEntry
         declare(code, entry);
         previous = &entry;
     }
-    if (entries.empty()) // the namespace is there all the same
+    if (entries.empty()) // the namespace exists even without entries
         code.add("\nnamespace {{name}} {} // namespace {{name}}", {{"name", nameSpaceOf(options, table)}});
     return code.take();
 }
@@ -178,8 +177,8 @@ std::string umbrella(std::span<const CatalogTable> catalog, const Options& optio
 
 // Sources.
 
-// The table names and keys of one source, end to end, and where each begins. Plain entries come first: their numbers
-// are those of their slots.
+// The concatenated table names and keys of one source file, with their offsets. Plain entries come first, so that their
+// numbers are also those of their slots.
 class Keys {
 public:
     explicit Keys(std::span<const Placed> entries) {
@@ -246,7 +245,7 @@ std::vector<std::string> includesOf(std::span<const Placed> entries, const Optio
 std::string definitions(std::span<const Placed> entries, const Options& options) {
     CodeWriter code(options.module);
     code.addIncludes(includesOf(entries, options));
-    code.add("\n// Tables, and a line for each accessor.\n// clang-format off");
+    code.add("\n// Data, and one line for each accessor.\n// clang-format off");
     const auto plain = static_cast<std::size_t>(
         std::ranges::count_if(entries, [](const Placed& placed) { return placed.entry->parameters.empty(); }));
     if (!entries.empty()) {

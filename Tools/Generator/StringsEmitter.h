@@ -1,5 +1,5 @@
 // Generator/StringsEmitter.h
-// The tree of texts as headers and sources.
+// Writes the tree of texts as headers and sources.
 #pragma once
 
 #include "Generator/Generator.h"
@@ -9,7 +9,7 @@
 
 namespace Generator {
 
-// For a catalog without faults and options that hold what their comments say.
+// Requires valid options; see check().
 [[nodiscard]] std::vector<OutputFile> emitStrings(std::span<const CatalogTable> catalog, const Options& options);
 
 } // namespace Generator

@@ -1,6 +1,6 @@
 // Generator/StringsTemplates.h
-// The parts of generated code that are the same for every catalog; internal to the emitter of texts.
-// In generated code the platform's names begin with "::", because a group may be called Foundation.
+// The constant parts of generated code for texts; internal to the emitter.
+// In generated code the platform's names begin with "::", because a group may be named Foundation.
 #pragma once
 
 #include <string_view>
@@ -23,11 +23,11 @@ inline ::Foundation::LocalizedKey keyAt(std::size_t entry) noexcept {
     return {name, key, table.hash, place.hash};
 })";
 
-// {{count}}: of plain entries.
+// {{count}}: the number of plain entries.
 inline constexpr std::string_view plainDefinition = R"(
 constinit ::Runtime::OnceSlot<std::string> slots[{{count}}];
 
-// Without memory or descriptors this read gives no text, and a later one tries again.
+// While memory or descriptors are out, the text is empty; a later call tries again.
 [[gnu::noinline, gnu::cold]] const std::string& made(std::size_t entry) noexcept {
     try {
         return slots[entry].get([entry] { return tr(keyAt(entry), {}); });
@@ -50,7 +50,7 @@ inline constexpr std::string_view formattedDefinition = R"(
     }
 })";
 
-inline constexpr std::string_view catalogHeader = R"(// What the sources of the tree share; internal.
+inline constexpr std::string_view catalogHeader = R"(// Shared by the sources of the tree; internal.
 #pragma once
 
 #include "Foundation/FormatArgument.h"
@@ -64,24 +64,24 @@ inline constexpr std::string_view catalogHeader = R"(// What the sources of the 
 
 namespace {{module}}::{{module}}Strings {
 
-// The text of `key`, in the user's language, its placeholders replaced by `arguments`. The only way from the tree to
-// the bundle. Throws when the system is out of memory or descriptors.
+// The text of `key` in the user's language, formatted with `arguments`. All accessors get their texts from here. Throws
+// when memory or descriptors run out.
 std::string tr(const ::Foundation::LocalizedKey& key, std::span<const ::Foundation::FormatArgument> arguments);
 
 namespace detail {
 
-// Of a text that could not be made.
+// The empty text, for errors.
 const std::string& noText() noexcept;
 
-// Where the names of tables and the keys are among the characters of a source. There are no pointers here, so nothing
-// has to be relocated when the library is loaded.
+// The offsets of table names and keys in the characters of their source file. Offsets instead of pointers need no
+// relocation when the library is loaded.
 struct Table {
     std::uint32_t name;
     std::uint32_t size; // of the name
     std::uint64_t hash;
 };
 struct Place {
-    std::uint32_t table; // its number
+    std::uint32_t table; // its index
     std::uint32_t key;   // ends where the next key begins
     std::uint64_t hash;  // of the key
 };
@@ -98,7 +98,7 @@ inline constexpr std::string_view lookupSource = R"(#include "{{module}}Resource
 
 namespace {{module}}::{{module}}Strings {
 
-// A text without arguments is formatted as well: its doubled percent signs become single ones.
+// Texts without arguments are formatted, too, so that "%%" becomes "%".
 std::string tr(const ::Foundation::LocalizedKey& key, std::span<const ::Foundation::FormatArgument> arguments) {
     return ::{{module}}::{{module}}Resources::bundle().formattedText(key, arguments);
 }
@@ -117,10 +117,10 @@ inline constexpr std::string_view resourcesHeader = R"(#pragma once
 
 namespace {{module}} {
 
-// The module's own resources. Published to messages under this name.
+// The module's resources. The class is published under this name.
 class {{module}}Resources {
 public:
-    // The bundle beside the library that holds this code: the same object at every call, from any thread.
+    // The module's bundle: the same object at every call, from any thread.
     [[nodiscard]] LUMORA_EXPORT static const ::Foundation::NSBundle& bundle();
 };
 
@@ -135,7 +135,7 @@ namespace {{module}} {
 
 namespace {
 
-// Lies in the library whose bundle is asked for.
+// Its address identifies the library whose bundle is wanted.
 struct BundleFinder {
     static constexpr char code = 0;
 };

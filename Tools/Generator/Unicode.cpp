@@ -41,7 +41,7 @@ constexpr bool isAsciiDigit(char32_t c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-// The oldest of the compilers in use know the characters of Unicode 13.
+// The oldest supported compilers know the characters of Unicode 13.
 bool isSettled(UChar32 c) noexcept {
     UVersionInfo age;
     u_charAge(c, age);
@@ -50,7 +50,7 @@ bool isSettled(UChar32 c) noexcept {
 
 } // namespace
 
-// Nearly all names are ASCII, which needs no ICU.
+// Fast path: nearly all names are ASCII.
 
 std::u32string decoded(std::string_view utf8) {
     if (std::ranges::all_of(utf8, [](unsigned char byte) { return isAscii(byte); }))

@@ -1,4 +1,4 @@
-// lumora accessors: what lumora generate makes of a source, and what it leaves out.
+// lumora accessors: lists what lumora generate makes from a source, and what it leaves out.
 #include "Program/Command.h"
 
 #include "Generator/CodeText.h"
@@ -37,7 +37,7 @@ const char* nameOf(Parameter parameter) {
     return "";
 }
 
-// One accessor, or one that is left out.
+// Lists accessors and left-out entries as JSON objects.
 class Lister {
 public:
     explicit Lister(const std::string& module) : tree_(module + "::" + module) {}
@@ -102,7 +102,8 @@ std::string visible(const ordered_json& text) {
     return Generator::visibleText(text.get_ref<const std::string&>(), std::string::npos);
 }
 
-// Kind, accessor with its parameters (or "-"), table or catalog, key or name, and why there is no accessor.
+// A line with kind, accessor with its parameters (or "-"), table or catalog, key or name, and the reason if there is no
+// accessor.
 std::string lineOf(const ordered_json& accessor) {
     std::string parameters;
     if (accessor.contains("parameters"))
@@ -141,7 +142,7 @@ Exit runAccessors(AccessorsOptions& options) {
 
 void addAccessorsCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<AccessorsOptions>();
-    CLI::App* command = program.add_subcommand("accessors", "List the accessors that generate makes of a source.");
+    CLI::App* command = program.add_subcommand("accessors", "List the accessors that generate makes from a source.");
     options->source.addTo(*command)->required();
     options->source.addNamesTo(*command);
     command->add_option("--module", options->generator.module, "The module's name, a C++ identifier")->required();

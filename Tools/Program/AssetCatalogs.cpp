@@ -17,7 +17,7 @@ Runtime::Result<std::optional<Catalog>> openCatalog(const std::string& bundle) {
     auto catalog = Catalog::open(folder + "/" + std::string(AssetCatalog::fileName), folder);
     if (catalog)
         return std::optional(*std::move(catalog));
-    if (catalog.error().cause == ENOENT) // a compile makes none for a source without assets
+    if (catalog.error().cause == ENOENT) // lumora compile writes no catalog for a source without assets
         return std::optional<Catalog>();
     return std::move(catalog.error());
 }

@@ -1,5 +1,5 @@
 // Program/AssetCatalogs.h
-// The compiled catalog that a command reads.
+// Opens the compiled catalog that a command reads.
 #pragma once
 
 #include "AssetCatalog/internal/Catalog.h"
@@ -8,8 +8,8 @@
 
 namespace Tools {
 
-// The catalog of the bundle at that path, or of the module's own bundle if the path is empty. No value: the bundle has
-// no assets. Errors: no such folder, a damaged catalog.
+// The catalog of the bundle at that path, or of the module's own bundle if the path is empty. No value when the bundle
+// has no assets. Errors: no such folder, a damaged catalog.
 [[nodiscard]] Runtime::Result<std::optional<AssetCatalog::Catalog>> openCatalog(const std::string& bundle);
 
 } // namespace Tools

@@ -1,4 +1,4 @@
-// lumora asset: one asset of a compiled catalog as a file.
+// lumora asset: writes one asset of a compiled catalog to a file.
 #include "Program/Command.h"
 
 #include "AssetCatalog/internal/Catalog.h"
@@ -42,7 +42,7 @@ Runtime::Result<std::string> blobText(const AssetCatalog::Blob& blob) {
     return std::string(bytes->begin(), bytes->end());
 }
 
-// The bytes of the variant as the catalog has them; a colour as its space and components.
+// The unchanged bytes of the variant; for a colour its colour space and components.
 Runtime::Result<std::string> variantText(const Entry& entry, std::size_t variant) {
     switch (entry.kind()) {
     case Kind::image:
@@ -76,7 +76,7 @@ Exit writeAsset(const AssetOptions& options) {
     const auto entry = *catalog ? findEntry(**catalog, options.name) : std::nullopt;
     if (!entry) {
         const std::vector<std::string> names = *catalog ? namesOf(**catalog) : std::vector<std::string>();
-        return fail({.message = "no asset of the bundle has this name" + suggestion(options.name, names),
+        return fail({.message = "the bundle has no asset with this name" + suggestion(options.name, names),
                      .file = options.name});
     }
     const Fit wanted{.appearance = options.isDark ? AssetCatalog::Appearance::dark : AssetCatalog::Appearance::light,
@@ -90,7 +90,7 @@ Exit writeAsset(const AssetOptions& options) {
 
 void addAssetCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<AssetOptions>();
-    CLI::App* command = program.add_subcommand("asset", "Write one asset out as the catalog has it.");
+    CLI::App* command = program.add_subcommand("asset", "Write one asset to a file.");
     command->add_option("NAME", options->name, "The asset's name, folder/name where folders provide a namespace")
         ->required();
     command->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
@@ -98,7 +98,7 @@ void addAssetCommand(CLI::App& program, Exit& exit) {
     command->add_option("--scale", options->scale, "Pixels per point")
         ->check(CLI::Range(1U, 9U))
         ->capture_default_str();
-    command->add_option("--language", options->languages, "The variant for readers of this language, such as pt-BR");
+    command->add_option("--language", options->languages, "The variant for this language, such as pt-BR");
     command->add_option("-o,--output", options->output, "Where to write; - is standard output")
         ->required()
         ->check(named());

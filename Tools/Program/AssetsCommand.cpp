@@ -1,4 +1,4 @@
-// lumora assets: the list of a compiled catalog.
+// lumora assets: lists the assets of a compiled catalog.
 #include "Program/Command.h"
 
 #include "AssetCatalog/internal/Catalog.h"
@@ -34,8 +34,8 @@ std::string lineOf(const Entry& entry) {
     return line.append("\n");
 }
 
-// What the variant is for, without what it leaves open.
-ordered_json readersOf(const Entry& entry, std::size_t variant) {
+// The traits and language that the variant is for, without unspecified ones.
+ordered_json traitsOf(const Entry& entry, std::size_t variant) {
     const Fit fit = entry.fit(variant);
     ordered_json json = ordered_json::object();
     if (fit.scale != 0)
@@ -52,7 +52,7 @@ ordered_json readersOf(const Entry& entry, std::size_t variant) {
 }
 
 ordered_json variantOf(const Entry& entry, std::size_t variant) {
-    ordered_json json = readersOf(entry, variant);
+    ordered_json json = traitsOf(entry, variant);
     switch (entry.kind()) {
     case Kind::image: {
         const AssetCatalog::PictureView picture = entry.picture(variant);

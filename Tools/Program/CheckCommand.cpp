@@ -1,4 +1,4 @@
-// lumora check: the faults of a source.
+// lumora check: finds faults in a source.
 #include "Program/Command.h"
 
 #include "Check/Check.h"
@@ -22,7 +22,7 @@ using SourceBundle::Source;
 struct CheckOptions {
     SourceArguments source;
     std::string format = "text";
-    std::string level; // empty: that of the format
+    std::string level; // empty: the default of the format
     std::vector<std::string> disabled;
     std::vector<std::string> usedIn;
     std::string since;
@@ -84,7 +84,7 @@ CLI::Validator ruleName() {
 void addCheckCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<CheckOptions>();
     CLI::App* command =
-        program.add_subcommand("check", "Find the faults of a source: texts, plural forms, names, assets.");
+        program.add_subcommand("check", "Find faults in a source: texts, plural forms, names, assets.");
     options->source.addTo(*command)->required();
     options->source.addNamesTo(*command);
     command->add_option("--format", options->format, "text (default), json or sarif")

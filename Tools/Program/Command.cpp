@@ -56,7 +56,7 @@ void writeLine(std::string_view text) {
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
 
-// "FILE:LINE:COLUMN", or the program's name.
+// "FILE:LINE:COLUMN", or the program's name without a file.
 std::string placeOf(const Runtime::Error& what) {
     std::string place = what.text();
     place.resize(place.size() - what.message.size());
@@ -65,15 +65,15 @@ std::string placeOf(const Runtime::Error& what) {
     return place.empty() ? "lumora" : Generator::visibleText(place, std::string::npos);
 }
 
-void say(Severity severity, const Runtime::Error& what, std::string_view behind = {}) {
+void say(Severity severity, const Runtime::Error& what, std::string_view suffix = {}) {
     const std::string label = std::string(wordFor(severity)) + ":";
     std::string line = placeOf(what) + ": ";
     line += hasColor(STDERR_FILENO) ? colorFor(severity) + label + "\033[0m" : label;
-    line.append(" ").append(Generator::visibleText(what.message, std::string::npos)).append(behind);
+    line.append(" ").append(Generator::visibleText(what.message, std::string::npos)).append(suffix);
     writeLine(line);
 }
 
-// One message and all places that it is about.
+// One message and all its locations.
 using Group = std::vector<const Runtime::Error*>;
 
 std::vector<Group> grouped(const SourceBundle::Diagnostics& diagnostics, Severity severity) {

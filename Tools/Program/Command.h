@@ -1,5 +1,5 @@
 // Program/Command.h
-// What the commands of the program share: how they end, and how they speak to their user.
+// Shared by the commands of the program: exit statuses, messages and output.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -16,13 +16,13 @@ class Validator;
 
 namespace Tools {
 
-// Of a path on the command line: refuses the empty one, which no message could name.
+// Rejects an empty path on the command line, because messages could not name it.
 CLI::Validator named();
 
-// How the program ends.
+// The exit status of the program.
 enum class Exit : int { done = 0, faultsFound = 1, wrongUse = 2 };
 
-// Each adds its command to the program. When the command line names it, it runs and sets `exit`.
+// Each adds its command to the program. When the command line selects it, the command runs and sets `exit`.
 void addTextCommand(CLI::App& program, Exit& exit);
 void addTableCommand(CLI::App& program, Exit& exit);
 void addGenerateCommand(CLI::App& program, Exit& exit);
@@ -37,27 +37,27 @@ void addImportCommand(CLI::App& program, Exit& exit);
 void addWatchCommand(CLI::App& program, Exit& exit);
 void addHelpCommand(CLI::App& program, Exit& exit);
 
-// The names of all commands, in the order in which help shows them.
+// The names of all commands, in the order of the help text.
 std::vector<std::string> commandNames(const CLI::App& program);
 
-// Whether what is written to the file descriptor `stream` has colors: on a terminal, unless the environment variable
-// NO_COLOR is set and not empty.
+// Whether output to the file descriptor `stream` is colored: on a terminal, unless the environment variable NO_COLOR is
+// set and not empty.
 bool hasColor(int stream);
 
-// Messages go to standard error, a line each: "FILE:LINE:COLUMN: error: WHAT" with the parts that are known, or
-// "lumora: error: WHAT" where there is no file; in colour on a terminal. What cannot be seen is escaped.
+// Write a message to standard error, on one line: "FILE:LINE:COLUMN: error: WHAT" with the known parts, or "lumora:
+// error: WHAT" without a file; colored on a terminal. Invisible characters are escaped.
 Exit fail(const Runtime::Error& error);
 void note(const Runtime::Error& what);
 void note(std::string_view what);
-// Every diagnostic, the errors last, equal messages together, and a line that counts them; a lone one carries its count
-// itself. Exit::wrongUse if an error is among them.
+// Writes all diagnostics, errors last, with equal messages grouped, and a line with their numbers. A single diagnostic
+// has the numbers on its own line. Returns Exit::wrongUse if there are errors.
 Exit report(const SourceBundle::Diagnostics& diagnostics);
-// A line that is written over by the next, on a terminal only and from a second after the first call; `done` equal to
-// `all` removes it.
+// Shows a progress line that the next call overwrites. Only on a terminal, and only after the first second. Calling it
+// with `done` equal to `all` removes the line.
 void showProgress(std::string_view what, std::size_t done, std::size_t all);
-// To standard output, whole; an error when it cannot be written.
+// Writes to standard output; reports an error when that fails.
 Exit print(std::string_view bytes);
-// To the file that the option -o names, or to standard output for "-".
+// Writes to the file given by the option -o, or to standard output for "-".
 Exit write(const std::string& output, std::string_view bytes);
 
 } // namespace Tools

@@ -6,7 +6,7 @@ namespace Tools {
 
 namespace {
 
-// The parser describes an option that takes certain words only as "TEXT:{text,json}".
+// The parser gives an option with fixed choices the type name "TEXT:{text,json}".
 std::vector<std::string> choicesOf(const std::string& type) {
     const std::size_t open = type.find('{');
     const std::size_t close = type.find('}');

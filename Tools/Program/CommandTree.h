@@ -1,6 +1,6 @@
 // Program/CommandTree.h
-// The program's commands and options as plain records, read from the command line parser: the man page and the shells'
-// completions are written from them.
+// The program's commands and options as plain records, read from the command line parser. The man page and the shell
+// completions are generated from them.
 #pragma once
 
 #include <string>
@@ -13,9 +13,9 @@ class App;
 namespace Tools {
 
 struct OptionInfo {
-    std::vector<std::string> names;   // "-o", "--output"; for a positional argument its name alone, "SOURCE"
-    std::string value;                // what the man page calls its value; empty for a flag
-    std::vector<std::string> choices; // the only values it takes; empty: any
+    std::vector<std::string> names;   // "-o", "--output"; for a positional argument its name, "SOURCE"
+    std::string value;                // the placeholder for its value in the man page; empty for a flag
+    std::vector<std::string> choices; // the allowed values; empty: any
     std::string description;
     bool isRequired = false;
     bool isRepeated = false;
@@ -36,7 +36,7 @@ struct ProgramInfo {
 
 ProgramInfo describe(const CLI::App& program);
 
-// Writers of text files, each from the same records.
+// Each returns the content of a file.
 std::string manPage(const ProgramInfo& program);
 std::string bashCompletion(const ProgramInfo& program);
 std::string zshCompletion(const ProgramInfo& program);

@@ -1,4 +1,4 @@
-// lumora compile: a source made into the bundle that ships.
+// lumora compile: compiles a source into the bundle that ships.
 #include "Program/Command.h"
 #include "Program/Depfile.h"
 
@@ -37,12 +37,12 @@ Exit runCompile(const CompileOptions& options) {
 void addCompileCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<CompileOptions>();
     CLI::App* command =
-        program.add_subcommand("compile", "Make the bundle that ships: binary tables, compiled assets.");
+        program.add_subcommand("compile", "Compile the bundle that ships: binary tables, compiled assets.");
     options->source.addTo(*command)->required();
-    command->add_option("-o,--output", options->output, "The bundle to make, NAME.bundle")->required()->check(named());
-    options->source.addNamesTo(*command); // for callers that give both commands the same: names are not in a bundle
+    command->add_option("-o,--output", options->output, "The bundle to write, NAME.bundle")->required()->check(named());
+    options->source.addNamesTo(*command); // ignored; for callers that pass the same options to generate and compile
     options->source.addPseudoTo(*command);
-    command->add_flag("--strict", options->isStrict, "Warnings are errors");
+    command->add_flag("--strict", options->isStrict, "Treat warnings as errors");
     options->depfile.addOptions(*command);
     command->callback([options, &exit] { exit = runCompile(*options); });
 }

@@ -1,4 +1,4 @@
-// Completions for the shells bash, zsh and fish. A value without fixed choices is completed as a file.
+// Completions for bash, zsh and fish. Values without fixed choices are completed as file names.
 #include "Program/CommandTree.h"
 
 #include <CLI/CLI.hpp>
@@ -7,7 +7,7 @@ namespace Tools {
 
 namespace {
 
-// One shell word, whatever `text` has in it.
+// Quotes any text as one shell word.
 std::string quoted(const std::string& text) {
     return "'" + CLI::detail::find_and_replace(text, "'", "'\\''") + "'";
 }
@@ -31,7 +31,7 @@ std::vector<std::string> optionNames(const std::vector<OptionInfo>& options) {
     return names;
 }
 
-// The lines of a bash case statement for the options of `command` that take certain words only.
+// The cases of a bash case statement for the options of `command` with fixed choices.
 std::string bashChoices(const CommandInfo& command) {
     std::string out;
     for (const OptionInfo& option : command.options)
@@ -42,7 +42,7 @@ std::string bashChoices(const CommandInfo& command) {
     return out;
 }
 
-// Brackets and colons end the parts of a zsh option specification.
+// Escapes brackets and colons, which delimit the parts of a zsh option specification.
 std::string zshEscaped(std::string text) {
     for (const char* const special : {"\\", "[", "]", ":"})
         text = CLI::detail::find_and_replace(text, special, std::string("\\") + special);
@@ -99,7 +99,7 @@ std::string bashCompletion(const ProgramInfo& program) {
            options +
            "    esac\n"
            "    fi\n"
-           "    # Without words bash completes files.\n"
+           "    # Without words bash completes file names.\n"
            "    [[ -z $words ]] || COMPREPLY=($(compgen -W \"$words\" -- \"$current\"))\n"
            "}\n"
            "complete -o default -F _lumora lumora\n";

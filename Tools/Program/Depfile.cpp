@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// As makefiles spell a path: what would end a name or begin a comment or a variable is escaped.
+// Escapes a path for a makefile: spaces, and characters that begin a comment or a variable.
 std::string escaped(std::string_view path) {
     std::string out;
     for (const char c : path) {
@@ -34,7 +34,7 @@ void appendPrerequisite(std::string& rule, const fs::path& path) {
 
 void Depfile::addOptions(CLI::App& command) {
     auto* file =
-        command.add_option("--depfile", path, "Write a makefile of the files that this command reads")->check(named());
+        command.add_option("--depfile", path, "Write a makefile rule with the files that this command reads")->check(named());
     command.add_option("--depfile-target", target, "The target of the makefile's rule")->needs(file);
 }
 

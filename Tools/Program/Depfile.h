@@ -1,5 +1,5 @@
 // Program/Depfile.h
-// The files that a build must watch to know when a command has to run again.
+// Writes dependency files for build systems.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -18,8 +18,8 @@ struct Depfile {
     std::string target;
 
     void addOptions(CLI::App& command);
-    // Writes a makefile that says that `target` depends on `sources` and, for a folder, on all files and folders below it: a
-    // folder changes when a file joins or leaves it.
+    // Writes a makefile rule that makes `target` depend on `sources` and, for folders, on all files and folders below
+    // them. Folders are included because they change when files are added or removed.
     [[nodiscard]] Runtime::Result<void> write(const std::vector<std::string>& sources) const;
 };
 

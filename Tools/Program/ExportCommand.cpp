@@ -1,4 +1,4 @@
-// lumora export: the texts of a source for translators, as XLIFF or PO.
+// lumora export: writes the texts of a source for translators, as XLIFF or PO.
 #include "Program/Command.h"
 
 #include "Exchange/Export.h"
@@ -17,7 +17,7 @@ namespace {
 struct ExportOptions {
     SourceArguments source;
     std::string language;
-    std::string format; // empty: by the file's name
+    std::string format; // empty: determined by the file's name
     std::string output;
     bool onlyMissing = false;
 };
@@ -62,9 +62,9 @@ void addExportCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<ExportOptions>();
     CLI::App* command = program.add_subcommand("export", "Write the texts of a source for translators.");
     options->source.addTo(*command)->required();
-    command->add_option("--language", options->language, "The language that is translated to: de, pt-BR")->required();
-    command->add_flag("--missing", options->onlyMissing, "Only texts that have no translation yet");
-    command->add_option("--format", options->format, "xliff or po (default: by the name of the file, else xliff)")
+    command->add_option("--language", options->language, "The language to translate to: de, pt-BR")->required();
+    command->add_flag("--missing", options->onlyMissing, "Only texts without a translation");
+    command->add_option("--format", options->format, "xliff or po (default: determined by the file name, else xliff)")
         ->check(CLI::IsMember({"xliff", "po"}));
     command->add_option("-o,--output", options->output, "The file to write; - is standard output")
         ->required()

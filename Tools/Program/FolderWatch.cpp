@@ -21,9 +21,9 @@ namespace {
 
 constexpr std::uint32_t events =
     IN_CLOSE_WRITE | IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
-constexpr milliseconds quiet{50};          // without a change, and the change is complete
-constexpr milliseconds longestBurst{1000}; // of changes that follow each other
-constexpr milliseconds untilLooked{500};   // for a folder that is gone
+constexpr milliseconds quiet{50};          // without further changes, then the change is complete
+constexpr milliseconds longestBurst{1000}; // of consecutive changes
+constexpr milliseconds pollInterval{500};  // for a folder that is missing
 
 Runtime::Error systemError(const fs::path& path, const std::string& doing) {
     return {.message = doing + ": " + std::strerror(errno), .file = path};
@@ -34,7 +34,8 @@ fs::path normal(const fs::path& path) {
     return whole.has_filename() ? whole : whole.parent_path();
 }
 
-// Waits until one of the descriptors can be read, at most so long (negative: for ever). Returns whether `stop` can be.
+// Waits until one of the descriptors is readable, at most for `most` (negative: no limit). Returns whether `stop` is
+// readable.
 bool waitFor(int stop, int inotify, milliseconds most) {
     std::array<pollfd, 2> both = {{{stop, POLLIN, 0}, {inotify, POLLIN, 0}}};
     ::poll(both.data(), both.size(), static_cast<int>(most.count()));
@@ -64,7 +65,7 @@ bool FolderWatch::isIgnored(const fs::path& path) const {
     if (!path.native().starts_with(output))
         return false;
     const std::string_view rest = std::string_view(path.native()).substr(output.size());
-    return rest.empty() || rest.starts_with('/') || rest.starts_with(".staged-"); // where a compile works
+    return rest.empty() || rest.starts_with('/') || rest.starts_with(".staged-"); // the staging folder of a compile
 }
 
 Runtime::Result<void> FolderWatch::watchAll() {
@@ -83,10 +84,10 @@ Runtime::Result<void> FolderWatch::watchAll() {
 Runtime::Result<void> FolderWatch::watchBelow(const fs::path& folder, int depth) {
     const int number = ::inotify_add_watch(inotify_.number(), folder.c_str(), events);
     if (number < 0 && errno == ENOSPC)
-        return systemError(folder, "cannot be watched, fs.inotify.max_user_watches are in use");
+        return systemError(folder, "cannot be watched: all watches are in use (raise fs.inotify.max_user_watches)");
     if (number < 0 && errno == ENOMEM)
         return systemError(folder, "cannot be watched");
-    if (number < 0) { // gone meanwhile, or not to be read
+    if (number < 0) { // deleted meanwhile, or unreadable
         if (depth == 0)
             missing_.insert(folder);
         return {};
@@ -95,7 +96,7 @@ Runtime::Result<void> FolderWatch::watchBelow(const fs::path& folder, int depth)
     std::error_code failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
         std::error_code ignored;
-        // As the source is searched: links to folders are followed if they are of a language.
+        // Like the source reader, follow links to folders only if they are language folders.
         const bool isFolder =
             entry->is_directory(ignored) && (!entry->is_symlink(ignored) || entry->path().extension() == ".lproj");
         if (isFolder && !isIgnored(entry->path()) && depth < SourceBundle::maxFolderDepth)
@@ -130,7 +131,7 @@ void FolderWatch::readEvents() {
         for (std::size_t at = 0; at < static_cast<std::size_t>(size);) {
             inotify_event event{};
             std::memcpy(&event, buffer.data() + at, sizeof event);
-            // The name is followed by NULs.
+            // The name is padded with NULs.
             take(event, event.len == 0 ? "" : buffer.data() + at + sizeof event);
             at += sizeof event + event.len;
         }
@@ -142,7 +143,11 @@ Runtime::Result<std::optional<std::set<fs::path>>> FolderWatch::wait(int stop) {
     Clock::time_point first{};
     for (;;) {
         const bool isChanged = !changed_.empty();
-        const milliseconds most = isChanged ? quiet : missing_.empty() ? milliseconds{-1} : untilLooked;
+        milliseconds most{-1};
+        if (isChanged)
+            most = quiet;
+        else if (!missing_.empty())
+            most = pollInterval;
         if (waitFor(stop, inotify_.number(), most))
             return std::optional<std::set<fs::path>>();
         const std::size_t known = changed_.size();

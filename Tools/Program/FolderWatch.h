@@ -1,6 +1,6 @@
 // Program/FolderWatch.h
-// Waits until something changes below folders.
-// Text: paths as the file system has them. Threads: one at a time.
+// Waits for changes below folders, with inotify.
+// Text: paths are raw bytes. Threads: one at a time.
 #pragma once
 
 #include "Runtime/internal/Descriptor.h"
@@ -18,13 +18,13 @@ namespace Tools {
 
 class FolderWatch {
 public:
-    // Watches the folders at any depth, hidden files and folders and what is at `output` excepted. A folder that is
-    // gone is watched again when it is back. An error where the system allows no more watches.
+    // Watches the folders at any depth, except hidden files and folders and everything at `output`. A deleted folder is
+    // watched again when it reappears. Fails when the system allows no more watches.
     [[nodiscard]] static Runtime::Result<FolderWatch> create(const std::vector<std::filesystem::path>& folders,
                                                              const std::filesystem::path& output);
 
-    // Waits for a change, and until no other has followed for a moment. Returns what was changed: files, or folders
-    // where it is not known what changed in them; no value when `stop`, a descriptor, can be read first.
+    // Waits for a change and then until no more changes follow for a moment. Returns the changed files, or folders when
+    // the exact changes in them are unknown. No value when the descriptor `stop` becomes readable first.
     [[nodiscard]] Runtime::Result<std::optional<std::set<std::filesystem::path>>> wait(int stop);
 
 private:
@@ -39,10 +39,10 @@ private:
     std::vector<std::filesystem::path> folders_;
     std::filesystem::path output_;
     Runtime::Descriptor inotify_;
-    std::map<int, std::filesystem::path> watched_; // by the system's number of the watch
+    std::map<int, std::filesystem::path> watched_; // by watch descriptor
     std::set<std::filesystem::path> missing_;      // of the folders
     std::set<std::filesystem::path> changed_;
-    bool isStale_ = false; // a folder came or went: watches have to be set anew
+    bool isStale_ = false; // a folder was added or removed: watches must be updated
 };
 
 } // namespace Tools

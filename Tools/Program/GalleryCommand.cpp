@@ -1,4 +1,4 @@
-// lumora gallery: one page that shows all resources to people.
+// lumora gallery: writes a web page that shows all resources.
 #include "Program/Command.h"
 
 #include "Compiler/Bundle.h"
@@ -26,14 +26,14 @@ struct GalleryOptions {
     std::string output;
 };
 
-// A folder that is gone with this object.
+// A temporary folder that is removed with this object.
 class TemporaryFolder {
 public:
     static Runtime::Result<TemporaryFolder> create() {
         std::error_code failed;
         std::string path = fs::temp_directory_path(failed) / "lumora-gallery-XXXXXX";
         if (failed || ::mkdtemp(path.data()) == nullptr)
-            return Runtime::Error{.message = "no temporary folder can be made", .file = path};
+            return Runtime::Error{.message = "cannot create a temporary folder", .file = path};
         return TemporaryFolder(std::move(path));
     }
     TemporaryFolder(TemporaryFolder&& other) noexcept : path_(std::exchange(other.path_, {})) {}
@@ -52,7 +52,7 @@ private:
     fs::path path_;
 };
 
-// The name of a folder, whether its path ends in a slash or in none.
+// The last component of a folder's path, with or without a trailing slash.
 fs::path nameOf(const fs::path& folder) {
     const fs::path whole = fs::absolute(folder).lexically_normal();
     return whole.has_filename() ? whole.filename() : whole.parent_path().filename();
@@ -64,7 +64,7 @@ Exit writePage(const GalleryOptions& options, const SourceBundle::Source& source
     return page ? write(options.output, *page) : fail(page.error());
 }
 
-// Shows what a compile makes of the source.
+// Compiles the source and shows the resulting bundle.
 Exit showSource(const GalleryOptions& options) {
     const auto folder = TemporaryFolder::create();
     if (!folder)
@@ -85,7 +85,7 @@ Exit showSource(const GalleryOptions& options) {
     return writePage(options, source, bundle, {.title = title, .module = options.module, .names = std::move(names)});
 }
 
-// Shows also what a damaged table leaves.
+// A damaged table does not prevent the page.
 Exit showBundle(const GalleryOptions& options) {
     const fs::path bundle = options.bundle.empty() ? ownBundle() : options.bundle;
     const std::string name = options.module.empty() ? nameOf(bundle).stem().string() : options.module;
@@ -108,7 +108,7 @@ void addGalleryCommand(CLI::App& program, Exit& exit) {
     options->source.addPseudoTo(*command);
     command->add_option("--bundle", options->bundle, "A compiled bundle (default: the module's own)")->excludes(source);
     command->add_option("--module", options->module,
-                        "The module's name, with which accessors begin (default: that of the bundle)");
+                        "The module's name, the first part of accessors (default: the bundle's name)");
     command->add_option("-o,--output", options->output, "The page to write, FILE.html; - is standard output")
         ->required()
         ->check(named());

@@ -1,4 +1,4 @@
-// lumora generate: the typed trees of a source.
+// lumora generate: writes the typed trees of a source.
 #include "Program/Command.h"
 #include "Program/Depfile.h"
 
@@ -44,16 +44,16 @@ void addGenerateCommand(CLI::App& program, Exit& exit) {
     command->add_option("--module", options->generator.module, "The module's name, a C++ identifier")->required();
     command->add_option("-o,--output", options->output, "The folder to write into")->required()->check(named());
     options->source.addNamesTo(*command);
-    command->add_flag("--strict", options->isStrict, "Warnings are errors");
+    command->add_flag("--strict", options->isStrict, "Treat warnings as errors");
     command
         ->add_option("--include", options->generator.includes,
-                     "A header of hand-made members, included by the tree's (may be repeated)")
+                     "A header with hand-written members, included by the tree's header (may be repeated)")
         ->allow_extra_args(false);
     command
         ->add_option("--header", options->generator.headers,
-                     "A header of hand-made parts of the module, included by NAME.h (may be repeated)")
+                     "A header with hand-written parts of the module, included by NAME.h (may be repeated)")
         ->allow_extra_args(false);
-    command->add_option("--shards", options->generator.shards, "Into how many sources the accessors are split")
+    command->add_option("--shards", options->generator.shards, "The number of source files for the accessors")
         ->check(CLI::Range(std::size_t{1}, Generator::maxShards));
     options->depfile.addOptions(*command);
     command->callback([options, &exit] { exit = runGenerate(*options); });

@@ -1,4 +1,4 @@
-// lumora help: what the program and its commands take, for people, as a man page, and for the completions of shells.
+// lumora help: describes the program and its commands as text, man page or shell completion.
 #include "Program/Command.h"
 #include "Program/CommandTree.h"
 #include "Program/Suggestion.h"
@@ -43,7 +43,7 @@ std::vector<std::string> commandNames(const CLI::App& program) {
 
 void addHelpCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<HelpOptions>();
-    CLI::App* command = program.add_subcommand("help", "Show what the program or one of its commands takes.");
+    CLI::App* command = program.add_subcommand("help", "Show the arguments and options of the program or one command.");
     command->add_option("COMMAND", options->command, "The command; without one, the program");
     command
         ->add_option("--format", options->format,

@@ -1,4 +1,4 @@
-// lumora import: translated files brought back into the tables.
+// lumora import: writes translated files back into the tables.
 #include "Program/Command.h"
 
 #include "Exchange/Import.h"
@@ -19,7 +19,7 @@ struct ImportOptions {
     Exchange::ImportOptions import;
 };
 
-// Unreadable input is wrong use, whatever else was found.
+// Unreadable input gives Exit::wrongUse, whatever else was found.
 Exit failWith(SourceBundle::Diagnostics& diagnostics, Runtime::Error error) {
     diagnostics.add(Severity::error, std::move(error));
     return report(diagnostics);
@@ -47,7 +47,7 @@ Exit runImport(const ImportOptions& options) {
     const bool hasFaults = diagnostics.hasErrors();
     report(diagnostics);
     if (hasFaults && !options.import.keepGoing)
-        note("nothing was changed; --keep-going imports what fits");
+        note("nothing was changed; --keep-going imports the valid texts");
     else
         note(counted(imported->texts, "text") + " changed in " + counted(imported->files, "file"));
     return hasFaults ? Exit::faultsFound : Exit::done;
@@ -58,13 +58,13 @@ Exit runImport(const ImportOptions& options) {
 void addImportCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<ImportOptions>();
     CLI::App* command =
-        program.add_subcommand("import", "Bring translated files (XLIFF, PO) back into the tables of a source.");
-    command->add_option("FILE", options->files, "What lumora export wrote and translators changed")
+        program.add_subcommand("import", "Write translated files (XLIFF, PO) back into the tables of a source.");
+    command->add_option("FILE", options->files, "A file written by lumora export and edited by translators")
         ->required()
         ->check(named());
     options->source.addTo(*command, "--into")->required();
     command->add_flag("--keep-going", options->import.keepGoing,
-                      "Import what fits although something does not; the exit status is still 1");
+                      "Import all valid texts even if some are not valid; the exit status is still 1");
     command->callback([options, &exit] { exit = runImport(*options); });
 }
 

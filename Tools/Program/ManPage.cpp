@@ -8,7 +8,7 @@ namespace Tools {
 
 namespace {
 
-// A line of text: no character of it is a command.
+// Escapes a line of text, so that troff does not interpret it.
 std::string escaped(std::string_view text) {
     std::string out = text.starts_with('.') || text.starts_with('\'') ? "\\&" : "";
     for (const char c : text) {
@@ -72,10 +72,10 @@ std::string manPage(const ProgramInfo& program) {
     for (const CommandInfo& command : program.commands)
         out += section(command);
     out += ".SH EXIT STATUS\n" + entry(bold("0"), "Done.") + entry(bold("1"), "A check or an import found faults.") +
-           entry(bold("2"), "Wrong use, or input that cannot be read. One line on standard error names the file.");
+           entry(bold("2"), "Wrong use, or unreadable input. One line on standard error names the file.");
     out += ".SH ENVIRONMENT\n" +
            entry(bold("LANGUAGE") + ", " + bold("LC_ALL") + ", " + bold("LC_MESSAGES") + ", " + bold("LANG"),
-                 "The user's languages and locale, where no option gives them.") +
+                 "The user's languages and locale, unless options set them.") +
            entry(bold("NO_COLOR"), "If set and not empty, messages on a terminal have no color.");
     return out;
 }

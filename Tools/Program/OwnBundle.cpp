@@ -8,7 +8,7 @@
 namespace Tools {
 
 std::string ownBundle() {
-    // Installed; in a build tree.
+    // In an installation, and in a build tree.
     static constexpr std::array<std::string_view, 2> places = {
         "/" LUMORA_LIBRARIES_FROM_PROGRAM "/" LUMORA_MODULE_FOLDER "/Lumora.bundle", "/../lib/Lumora.bundle"};
     const std::string program = Runtime::mainProgramLocation().directory;

@@ -1,12 +1,12 @@
 // Program/OwnBundle.h
-// Where the module that is installed with the program has its bundle.
+// Finds the bundle of the module that is installed with the program.
 #pragma once
 
 #include <string>
 
 namespace Tools {
 
-// The bundle's path; of several places the first where it is, else the first.
+// The path of the bundle: the first existing candidate, else the first candidate.
 std::string ownBundle();
 
 } // namespace Tools

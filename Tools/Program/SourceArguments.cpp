@@ -7,7 +7,7 @@ namespace Tools {
 
 CLI::Option* SourceArguments::addTo(CLI::App& command, const std::string& name) {
     command.add_option("--development-language", options.developmentLanguage,
-                       "The language that the texts are first written in (default: Info.plist's, or en)");
+                       "The language of the development texts (default: from Info.plist, or en)");
     return command
         .add_option(name, folders,
                     "Folders of resources, searched at any depth for *.lproj, *.xcstrings and *.xcassets")
@@ -15,14 +15,14 @@ CLI::Option* SourceArguments::addTo(CLI::App& command, const std::string& name) 
 }
 
 void SourceArguments::addNamesTo(CLI::App& command) {
-    command.add_option("--names", names, "A table from TABLE/KEY to the dotted path of the key's accessor")
+    command.add_option("--names", names, "A table that maps TABLE/KEY to the dotted path of an accessor")
         ->check(named());
 }
 
 void SourceArguments::addPseudoTo(CLI::App& command) {
     command.add_flag(
         "--pseudo", options.addsPseudoLanguages,
-        "Add the languages en-XA (accented, longer) and ar-XB (right to left), made of the development texts");
+        "Add the pseudo languages en-XA (accented, longer) and ar-XB (right to left)");
 }
 
 std::vector<std::filesystem::path> SourceArguments::paths() const {

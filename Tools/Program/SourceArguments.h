@@ -1,5 +1,5 @@
 // Program/SourceArguments.h
-// The arguments with which every command that takes a source is told which one.
+// The command line arguments that select a source.
 #pragma once
 
 #include "SourceBundle/Source.h"
@@ -19,15 +19,15 @@ struct SourceArguments {
     SourceBundle::SourceOptions options;
     std::string names; // the names file, or empty
 
-    // SOURCE..., or the option of that name, which is returned, and --development-language.
+    // Adds SOURCE... (or the option `name`), which is returned, and --development-language.
     CLI::Option* addTo(CLI::App& command, const std::string& name = "SOURCE");
-    // --names.
+    // Adds --names.
     void addNamesTo(CLI::App& command);
-    // --pseudo.
+    // Adds --pseudo.
     void addPseudoTo(CLI::App& command);
 
     [[nodiscard]] std::vector<std::filesystem::path> paths() const;
-    // What the result depends on: the folders and the names file.
+    // The inputs of the command: the folders and the names file.
     [[nodiscard]] std::vector<std::string> inputs() const;
     // Reads the folders as one source.
     [[nodiscard]] SourceBundle::Source read(SourceBundle::Diagnostics& diagnostics) const;

@@ -10,7 +10,7 @@ namespace Tools {
 namespace {
 
 constexpr std::size_t maxComparedBytes = 100;
-constexpr unsigned costOfEdit = 2; // of a letter that is missing, superfluous or another, or two that changed places
+constexpr unsigned costOfEdit = 2; // an inserted, deleted, replaced or swapped letter
 constexpr unsigned costOfCase = 1;
 
 unsigned substitutionCost(char one, char other) {
@@ -20,7 +20,7 @@ unsigned substitutionCost(char one, char other) {
     return lower(one) == lower(other) ? costOfCase : costOfEdit;
 }
 
-// The least cost of edits that make `other` of `one`, row by row. Two letters that changed places are one edit.
+// The Damerau-Levenshtein distance of two words, with reduced cost for letter case.
 unsigned editCost(std::string_view one, std::string_view other) {
     std::vector<unsigned> row(other.size() + 1), last(row), beforeLast(row);
     for (std::size_t j = 0; j < row.size(); ++j)

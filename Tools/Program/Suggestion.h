@@ -1,5 +1,5 @@
 // Program/Suggestion.h
-// What a user may have meant by a name that does not exist.
+// Suggests an existing name for a misspelled one.
 // Text: UTF-8.
 #pragma once
 
@@ -9,8 +9,8 @@
 
 namespace Tools {
 
-// `; did you mean "NAME"?` with the known name that differs least from `word`, the first of equals; empty if none
-// differs by at most a third of its letters. Letters that differ in case only are half as different. Names beyond 100
+// Returns `; did you mean "NAME"?` with the known name closest to `word` (the first one in a tie), or an empty string
+// if more than a third of the letters differ from every name. Differences in case count half. Names of more than 100
 // bytes are not compared.
 [[nodiscard]] std::string suggestion(std::string_view word, std::span<const std::string> known);
 

@@ -1,4 +1,4 @@
-// lumora table: a string table read in any form and written in another.
+// lumora table: converts a string table from any form to another.
 #include "Program/Command.h"
 
 #include "StringTables/internal/Table.h"
@@ -30,7 +30,7 @@ struct TableOptions {
     std::string form = "json";
 };
 
-// Written member by member: entries may share a text, and an object would hold a copy for each.
+// Writes the members one by one, because a JSON object would copy texts that entries share.
 Runtime::Result<std::string> json(const Table& table) {
     const auto literal = [](std::string_view text) { return nlohmann::json(text).dump(); };
     if (auto fits = StringTables::checkWrittenSize(StringTables::sizeOf(table.entries())); !fits)
@@ -61,7 +61,7 @@ Runtime::Result<std::string> written(const Table& table, Output form) {
     return json(table);
 }
 
-// What a pipe or a device gives until it ends.
+// Reads a pipe or a device to its end.
 Runtime::Result<std::string> readToEnd(std::FILE* stream) {
     std::string bytes;
     std::array<char, 65536> part;
@@ -113,10 +113,10 @@ Exit runTable(const TableOptions& options) {
 
 void addTableCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<TableOptions>();
-    CLI::App* command = program.add_subcommand("table", "Read a string table of any form and write it in another.");
+    CLI::App* command = program.add_subcommand("table", "Convert a string table to another form.");
     command
         ->add_option("FILE", options->file,
-                     "The table: quoted text, XML or binary, told by its content; - is standard input")
+                     "The table: quoted text, XML or binary, detected from its content; - is standard input")
         ->required()
         ->check(named());
     command->add_option("--to", options->form, "The form to write")

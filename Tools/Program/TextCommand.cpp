@@ -1,4 +1,4 @@
-// lumora text: the finished text of a key.
+// lumora text: prints the formatted text of a key.
 #include "Program/Command.h"
 
 #include "Foundation/Host.h"
@@ -32,8 +32,8 @@ struct TextOptions {
 
 using StringTables::FormatSignature;
 
-// `text` as what placeholders of a kind print. A number only where the text is exactly how one is written: "007" and
-// "+1" are texts.
+// Converts `text` to an argument for placeholders of a kind. Only canonical numbers are converted: "007" and "+1" stay
+// strings.
 Foundation::FormatArgument argument(const std::string& text, FormatSignature::Kind kind) {
     const char* const end = text.data() + text.size();
     std::int64_t integer = 0;
@@ -61,7 +61,7 @@ FormatSignature signatureOf(const Foundation::LocalizedFormat& format) {
                                       : StringTables::signatureOf(format.text());
 }
 
-// How many of `given` arguments no placeholder of the text takes.
+// The number of given arguments that no placeholder takes.
 std::size_t unused(const FormatSignature& signature, std::size_t given) {
     const std::size_t known = std::min(given, signature.arguments.size());
     const auto used = std::ranges::count_if(signature.arguments.begin(),
@@ -99,7 +99,7 @@ Exit runText(const TextOptions& options) {
     if (!found)
         note("no table \"" + options.table + "\" of the bundle has this key" + suggestedKey(bundle, options));
     const Foundation::LocalizedFormat format = found.value_or(Foundation::LocalizedFormat(options.key));
-    // Options behind the key are arguments, too: this tells users who did not mean that.
+    // Options after the key are arguments, too; this note helps users who expected otherwise.
     const FormatSignature signature = signatureOf(format);
     if (const std::size_t left = unused(signature, options.arguments.size()); left != 0)
         note(std::to_string(left) + " of " + std::to_string(options.arguments.size()) + " arguments unused");
@@ -112,16 +112,16 @@ Exit runText(const TextOptions& options) {
 
 void addTextCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<TextOptions>();
-    CLI::App* command = program.add_subcommand("text", "Print the finished text of a key.");
+    CLI::App* command = program.add_subcommand("text", "Print the formatted text of a key.");
     command->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
     command->add_option("--language", options->language, "The user's language, such as ru or es-MX");
     command->add_option("--locale", options->locale, "The user's locale, such as de_AT (default: the language)");
     command->add_option("--table", options->table, "The table")->capture_default_str();
-    command->add_option("KEY", options->key, "The key, exactly as the table has it")->required();
-    command->add_option("ARG", options->arguments, "What the text's placeholders are filled with");
+    command->add_option("KEY", options->key, "The key, exactly as in the table")->required();
+    command->add_option("ARG", options->arguments, "An argument for the text's placeholders");
     command->positionals_at_end();
     command->callback([options, &exit] {
-        // The parser hands on the mark that ends the options.
+        // The parser also passes on the "--" that ends the options.
         if (!options->arguments.empty() && options->arguments.front() == "--")
             options->arguments.erase(options->arguments.begin());
         exit = runText(*options);

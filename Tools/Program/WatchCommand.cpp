@@ -1,4 +1,4 @@
-// lumora watch: a source compiled again whenever it changes.
+// lumora watch: compiles a source again whenever it changes.
 #include "Program/Command.h"
 
 #include "Compiler/Bundle.h"
@@ -26,7 +26,7 @@ struct WatchOptions {
     std::string output;
 };
 
-// A descriptor that can be read when the user or the system wants the program to end.
+// A descriptor that becomes readable on SIGINT and SIGTERM.
 Runtime::Descriptor stopSignals() {
     sigset_t signals;
     sigemptyset(&signals);
@@ -45,7 +45,7 @@ std::string timeOfDay() {
     return text.data();
 }
 
-// What changed, as one line has room for it.
+// A short description of the changes.
 std::string summary(const Paths& changed) {
     if (changed.empty())
         return "";
@@ -79,7 +79,7 @@ public:
     }
 
 private:
-    // A source with faults leaves the bundle as it is; the next change may repair it.
+    // A source with errors leaves the bundle unchanged; the next change may fix them.
     Exit compile(const Paths& changed) {
         const auto begin = std::chrono::steady_clock::now();
         SourceBundle::Diagnostics diagnostics;
@@ -92,26 +92,26 @@ private:
             std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begin);
         reportNew(diagnostics);
         std::string line = timeOfDay() + " " + options_.output;
-        line += diagnostics.hasErrors() ? " stays as it is" : " compiled in " + std::to_string(time.count()) + " ms";
+        line += diagnostics.hasErrors() ? " is unchanged" : " compiled in " + std::to_string(time.count()) + " ms";
         return print(line + summary(changed) + "\n");
     }
 
-    // Without notes, and without warnings that were there before.
+    // Reports warnings and errors, but no notes and no unchanged warnings.
     void reportNew(const SourceBundle::Diagnostics& all) {
         SourceBundle::Diagnostics serious;
-        std::string said;
+        std::string text;
         for (const SourceBundle::Diagnostic& one : all.all()) {
             if (one.severity == SourceBundle::Severity::note)
                 continue;
             serious.add(one.severity, one.what);
-            said += one.what.text() + "\n";
+            text += one.what.text() + "\n";
         }
-        if (said != std::exchange(said_, said) || serious.hasErrors())
+        if (text != std::exchange(lastReport_, text) || serious.hasErrors())
             report(serious);
     }
 
     const WatchOptions& options_;
-    std::string said_;
+    std::string lastReport_;
 };
 
 } // namespace
@@ -120,7 +120,7 @@ void addWatchCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<WatchOptions>();
     CLI::App* command = program.add_subcommand("watch", "Compile a bundle, and again whenever its source changes.");
     options->source.addTo(*command)->required();
-    command->add_option("-o,--output", options->output, "The bundle to make, NAME.bundle")->required()->check(named());
+    command->add_option("-o,--output", options->output, "The bundle to write, NAME.bundle")->required()->check(named());
     options->source.addPseudoTo(*command);
     command->callback([options, &exit] { exit = Watcher(*options).run(); });
 }

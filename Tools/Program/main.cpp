@@ -1,4 +1,4 @@
-// The program `lumora`: a thin face of the libraries.
+// The program `lumora`: a thin layer on top of the libraries.
 #include "Program/Command.h"
 
 #include "Program/Suggestion.h"
@@ -8,7 +8,7 @@
 
 namespace {
 
-// What the first unknown word was most likely meant to be: a command, or an option of the command that was given.
+// A suggestion for the first unknown word: a command, or an option of the given command.
 std::string suggestedWord(const CLI::App& program) {
     const std::vector<std::string> unknown = program.remaining(true);
     if (unknown.empty())
@@ -30,10 +30,10 @@ Tools::Exit failWith(const CLI::Error& wrong, const CLI::App& program) {
 
 } // namespace
 
-// NOLINTNEXTLINE(bugprone-exception-escape): what may be thrown outside of the block is that memory is out
+// NOLINTNEXTLINE(bugprone-exception-escape): only std::bad_alloc can be thrown outside of the try block
 int main(int argc, char** argv) {
-    CLI::App program("Localized texts and assets: reads, makes and compiles what a module ships.", "lumora");
-    program.require_subcommand(0, 1); // words behind the first command are its arguments, whatever they are
+    CLI::App program("Generates, compiles, checks and shows localized texts and assets.", "lumora");
+    program.require_subcommand(0, 1); // words after the first command are always its arguments
     program.set_version_flag("--version", LUMORA_VERSION);
     Tools::Exit exit = Tools::Exit::done;
     Tools::addTextCommand(program, exit);
@@ -51,11 +51,11 @@ int main(int argc, char** argv) {
     Tools::addHelpCommand(program, exit);
     try {
         program.parse(argc, argv);
-        // Asked here, after a wrong word has been named.
+        // Checked here, so that an unknown word is reported first.
         if (program.get_subcommands().empty())
             throw CLI::RequiredError("A command");
     } catch (const CLI::Success& asked) { // --help, --version
-        // The parser comes to them before it complains of a command that it does not know.
+        // The parser handles these options before it reports an unknown command.
         const std::vector<std::string> unknown = program.remaining();
         std::ostringstream text;
         program.exit(asked, text, text);

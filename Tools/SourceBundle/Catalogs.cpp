@@ -32,7 +32,7 @@ std::vector<fs::path> sortedEntries(const fs::path& folder, Diagnostics& diagnos
     return entries;
 }
 
-// Not a link to one, which could lead out of the source.
+// False for links to folders, which could lead out of the source.
 bool isFolder(const fs::path& path) {
     std::error_code failed;
     return fs::is_directory(fs::symlink_status(path, failed));
@@ -43,7 +43,7 @@ bool isLinkedFolder(const fs::path& path) {
     return fs::is_symlink(fs::symlink_status(path, failed)) && fs::is_directory(path, failed);
 }
 
-// Sets of kinds that are not supported. Any other folder only groups sets, whatever its name.
+// Whether the folder is a set of an unsupported kind. All other folders only group sets, whatever their names.
 bool isOtherSet(const fs::path& folder) {
     static constexpr std::array<std::string_view, 20> extensions = {
         ".appiconset",      ".arreferenceimage", ".arreferenceobject", ".arresourcegroup", ".brandassets",
@@ -67,7 +67,7 @@ std::optional<Kind> kindOf(const fs::path& set) {
     return found == kinds.end() ? std::nullopt : std::optional(found->kind);
 }
 
-// Whether the folder's Contents.json makes its name a part of the names below it.
+// Whether the folder's name is a prefix of the asset names below it, according to its Contents.json.
 bool providesNamespace(const fs::path& folder, Diagnostics& diagnostics) {
     const fs::path file = folder / contentsName;
     std::error_code failed;
@@ -81,7 +81,7 @@ bool providesNamespace(const fs::path& folder, Diagnostics& diagnostics) {
     return false;
 }
 
-// Finds the sets of catalogs; what is in them is read later.
+// Finds the sets of catalogs without reading them.
 class SetFinder {
 public:
     explicit SetFinder(Diagnostics& diagnostics) : diagnostics_(diagnostics) {}
@@ -97,7 +97,7 @@ private:
         if (depth > maxFolderDepth)
             return diagnostics_.add(Severity::error, {.message = "is nested too deeply", .file = folder});
         std::vector<fs::path> entries = sortedEntries(folder, diagnostics_);
-        // Not the one of std::ranges, which clang 14 cannot compile with this standard library.
+        // Not std::ranges::stable_partition: clang 14 cannot compile it with this standard library.
         std::stable_partition(entries.begin(), entries.end(),
                               [](const fs::path& entry) { return kindOf(entry).has_value(); });
         for (const fs::path& entry : entries) {
@@ -116,7 +116,7 @@ private:
                 {.kind = *kind, .catalog = catalog_, .name = prefix + folder.stem().string(), .path = folder});
         else if (isOtherSet(folder))
             diagnostics_.add(Severity::note,
-                             {.message = "is a set of a kind that is not supported and is left out", .file = folder});
+                             {.message = "is a set of an unsupported kind and is left out", .file = folder});
         else
             findInFolder(folder,
                          providesNamespace(folder, diagnostics_) ? prefix + folder.filename().string() + "/" : prefix,

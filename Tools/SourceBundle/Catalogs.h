@@ -1,6 +1,6 @@
 // SourceBundle/Catalogs.h
-// The asset catalogs of a source bundle, *.xcassets, as projects have them.
-// Text: UTF-8; paths as the file system has them.
+// Reads the asset catalogs of a source bundle, *.xcassets.
+// Text: UTF-8; paths are raw bytes.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -13,13 +13,13 @@
 
 namespace SourceBundle {
 
-// A file of an image, symbol or data set, and the readers it is for.
+// A file of an image, symbol or data set, with the traits and language that it is for.
 struct SourceFile {
     AssetCatalog::Fit fit{};
     std::string language{};
     std::filesystem::path path{};
     std::string typeIdentifier{}; // of data, or empty
-    // Of pictures:
+    // For pictures:
     bool isSymbol = false; // see SourcePictures::Purpose
     bool preservesVector = false;
     AssetCatalog::Resizing resizing = AssetCatalog::Resizing::stretch;
@@ -27,7 +27,7 @@ struct SourceFile {
     AssetCatalog::Insets alignmentInsets{};
 };
 
-// One asset; only the list of its kind is filled, and not empty.
+// One asset. Only the list for its kind is used, and it is not empty.
 struct SourceAsset {
     AssetCatalog::Kind kind = AssetCatalog::Kind::image;
     std::string catalog{};        // "Images"
@@ -38,17 +38,17 @@ struct SourceAsset {
     std::vector<AssetCatalog::Color> colors{};
 };
 
-// Whether a picture's file can be used. Called from several threads.
+// Checks whether a picture's file is usable. Called from several threads.
 using PictureCheck = std::function<Runtime::Result<void>(const SourceFile& file)>;
 
 // Reads the file and checks it with SourcePictures::check().
 [[nodiscard]] Runtime::Result<void> checkPicture(const SourceFile& file);
 
-// The assets of the catalogs, which are folders, in the order of the catalogs and then of their paths, those of a
-// folder before those of the folders in it. Several may have one kind and name, of which the first counts.
-// Docs/catalogs.md says what is read. Whatever cannot be used is left out with a warning: a set with a broken
-// Contents.json, a file that is missing or outside of its set, a picture that `check` refuses, a colour without
-// meaning. What is left out on purpose is a note. Errors: a folder that cannot be read.
+// Reads the assets of the catalogs. They are ordered by catalog, then by path, with those of a folder before those of
+// its subfolders. Several may have the same kind and name; the first one counts. Docs/catalogs.md describes what is
+// read. Unusable parts are left out with a warning: a set with a broken Contents.json, a file that is missing or
+// outside of its set, a picture that `check` rejects, an invalid colour. Unsupported features are notes. Errors: an
+// unreadable folder.
 [[nodiscard]] std::vector<SourceAsset> sourceAssets(std::span<const std::filesystem::path> catalogs,
                                                     Diagnostics& diagnostics, const PictureCheck& check = checkPicture);
 

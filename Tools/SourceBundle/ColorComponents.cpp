@@ -17,7 +17,7 @@ using AssetCatalog::ColorValue;
 
 namespace {
 
-// Extended spaces reach beyond 0 to 1, but no screen so far.
+// Components in extended colour spaces may exceed 0 to 1; no screen reaches this limit.
 constexpr double largestComponent = 16;
 
 std::optional<ColorSpace> colorSpaceNamed(std::string name) {
@@ -35,7 +35,7 @@ std::optional<ColorSpace> colorSpaceNamed(std::string name) {
     return std::nullopt;
 }
 
-// The whole text as a number; `format` is that of std::from_chars.
+// Parses the whole text as a number; `format` is an argument of std::from_chars.
 template <class Number, class Format> std::optional<double> parsed(std::string_view text, Format format) {
     Number value{};
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), value, format);
@@ -80,7 +80,7 @@ Runtime::Result<ColorValue> colorValue(const Json& json) {
         const std::optional<double> value = componentValue(component, i == 3);
         if (!value)
             return Runtime::Error{
-                .message = std::string("has no possible colour component ") + quotedName(names[i]) +
+                .message = std::string("has no valid colour component ") + quotedName(names[i]) +
                            (component.is_null()
                                 ? ""
                                 : ": " + quotedName(component.dump(-1, ' ', false, Json::error_handler_t::replace)))};

@@ -1,5 +1,5 @@
 // SourceBundle/ColorComponents.h
-// Colours as catalogs write them; internal.
+// Reads colours of asset catalogs; internal.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -8,10 +8,10 @@
 
 namespace SourceBundle {
 
-// The value of "color-space" and "components". A component's text is a decimal fraction ("0.5"), a whole number of 255
-// ("128") or a hexadecimal one of 255 ("0x80"); alpha, 1 when it is missing, is a fraction even when it is "1". A JSON
-// number is always a fraction: 1 is the whole. Errors begin with "has": an unknown space, no such component, alpha
-// outside of 0 to 1, another component outside of -16 to 16.
+// Reads "color-space" and "components". A component given as a string is a decimal fraction ("0.5"), or an integer of
+// 255 in decimal ("128") or hexadecimal ("0x80"); alpha is 1 when missing, and "1" also means 1. A component given as a
+// JSON number is always a fraction of 1. Errors begin with "has": an unknown colour space, a missing component, alpha
+// outside 0 to 1, another component outside -16 to 16.
 [[nodiscard]] Runtime::Result<AssetCatalog::ColorValue> colorValue(const Json& color);
 
 } // namespace SourceBundle

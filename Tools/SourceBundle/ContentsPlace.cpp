@@ -9,7 +9,7 @@ namespace SourceBundle {
 
 namespace {
 
-// The byte at which the element begins; throws where there is none.
+// The byte offset of the element; throws if it does not exist.
 std::size_t elementOffset(simdjson::padded_string& text, const std::string& list, std::size_t number) {
     simdjson::ondemand::parser parser;
     simdjson::ondemand::document document = parser.iterate(text);

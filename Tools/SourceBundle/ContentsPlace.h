@@ -1,5 +1,5 @@
 // SourceBundle/ContentsPlace.h
-// Where in a Contents.json an entry of a set is; internal.
+// Locates an entry of a set in its Contents.json; internal.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -9,8 +9,8 @@
 
 namespace SourceBundle {
 
-// An error without a message at the place of the entry `number` (from 1) of the array `list`; at the beginning of the
-// file where that cannot be found.
+// An error without a message, located at entry `number` (counted from 1) of the array `list`, or at the beginning of
+// the file if the entry cannot be found.
 [[nodiscard]] Runtime::Error entryPlace(const std::filesystem::path& file, const std::string& list, std::size_t number);
 
 } // namespace SourceBundle

@@ -21,7 +21,7 @@ Runtime::Error unresolved(const std::filesystem::path& file, const Table& table,
     const auto entry = std::ranges::find(table.entries(), regionKey, &StringTables::Entry::key);
     const StringTables::Location place = table.locations()[static_cast<std::size_t>(entry - table.entries().begin())];
     return {.message = "the development language is the build setting " + std::string(value) +
-                       ", which has no value here (--development-language gives it one)",
+                       ", which has no value here (use --development-language to set it)",
             .file = file,
             .line = place.line,
             .column = place.column};
@@ -31,7 +31,7 @@ Runtime::Error unresolved(const std::filesystem::path& file, const Table& table,
 
 std::optional<std::string> developmentLanguage(std::span<const std::filesystem::path> infos, Diagnostics& diagnostics) {
     for (const std::filesystem::path& file : infos) {
-        const auto table = Table::readFile(file); // its notes are about values that are not texts, as most are here
+        const auto table = Table::readFile(file); // ignore its notes: most values of Info.plist are not strings
         if (!table) {
             diagnostics.add(Severity::error, table.error());
             continue;

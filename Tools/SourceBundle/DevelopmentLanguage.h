@@ -1,5 +1,5 @@
 // SourceBundle/DevelopmentLanguage.h
-// The language in which a source's texts are first written, as Info.plist names it; internal.
+// Reads a source's development language from Info.plist; internal.
 #pragma once
 
 #include "SourceBundle/Diagnostics.h"
@@ -10,8 +10,8 @@
 
 namespace SourceBundle {
 
-// CFBundleDevelopmentRegion of the first of `infos` that has it. A file that cannot be read is an error; a value that
-// is a build setting, "$(DEVELOPMENT_LANGUAGE)", is a warning and no value.
+// CFBundleDevelopmentRegion of the first of `infos` that contains it. An unreadable file is an error. A value that is a
+// build setting, such as "$(DEVELOPMENT_LANGUAGE)", is ignored with a warning.
 [[nodiscard]] std::optional<std::string> developmentLanguage(std::span<const std::filesystem::path> infos,
                                                              Diagnostics& diagnostics);
 

@@ -1,5 +1,5 @@
 // SourceBundle/Diagnostics.h
-// The messages about a source, collected in the order in which they were found.
+// Collects messages about a source.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -15,14 +15,14 @@ namespace SourceBundle {
 
 enum class Severity { note, warning, error };
 
-// What a message is about, for tools that sort messages by their kind.
+// The topic of a message, for tools that classify messages.
 enum class Topic : std::uint8_t {
     other,
     unreadableTable,
     duplicateKey,
     lonePercent,
-    nameClash,  // a key or an asset has no accessor because another has its name
-    noAccessor, // a key or an asset has none for another reason
+    nameClash,  // a key or asset has no accessor because its name is taken
+    noAccessor, // a key or asset has no accessor for another reason
     missingFile,
     unreadableAsset,
     unassignedVariant,
@@ -31,7 +31,7 @@ enum class Topic : std::uint8_t {
 
 struct Diagnostic {
     Severity severity;
-    Runtime::Error what; // message and place
+    Runtime::Error what; // message and location
     Topic topic = Topic::other;
     std::string subject{}; // the key or the asset's name, or empty
 };
@@ -54,7 +54,7 @@ public:
     std::size_t count(Severity severity) const noexcept {
         return static_cast<std::size_t>(std::ranges::count(all_, severity, &Diagnostic::severity));
     }
-    // Makes every warning an error, the earlier ones and those to come.
+    // Turns all warnings into errors, earlier and later ones.
     void beStrict() {
         isStrict_ = true;
         for (Diagnostic& diagnostic : all_)

@@ -26,9 +26,9 @@ void readLayout(const Json& entry, SourceFile& file) {
     Insets caps = insetsOf(member(resizing, "cap-insets"), file.fit.scale);
     const std::string mode = text(resizing, "mode");
     if (mode.starts_with("3-part-horizontal"))
-        caps.top = caps.bottom = 0;
+        caps = {.left = caps.left, .right = caps.right};
     else if (mode.starts_with("3-part-vertical"))
-        caps.left = caps.right = 0;
+        caps = {.top = caps.top, .bottom = caps.bottom};
     file.capInsets = caps;
     if (text(member(resizing, "center"), "mode") == "tile")
         file.resizing = AssetCatalog::Resizing::tile;

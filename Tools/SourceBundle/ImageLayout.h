@@ -1,5 +1,5 @@
 // SourceBundle/ImageLayout.h
-// How an image is resized and aligned, as catalogs write it; internal.
+// Reads how an image is resized and aligned; internal.
 #pragma once
 
 #include "SourceBundle/Catalogs.h"
@@ -7,7 +7,7 @@
 
 namespace SourceBundle {
 
-// The entry's "resizing" and "alignment-insets", which are in pixels, into `file`, which has them in points.
+// Reads the entry's "resizing" and "alignment-insets" and converts them from pixels to points.
 void readLayout(const Json& entry, SourceFile& file);
 
 } // namespace SourceBundle

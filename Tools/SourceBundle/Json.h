@@ -1,5 +1,5 @@
 // SourceBundle/Json.h
-// The JSON of asset catalogs, in which any member may be missing or of another type; internal.
+// Reads JSON of asset catalogs, where any member may be missing or have another type; internal.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -13,21 +13,21 @@ namespace SourceBundle {
 
 using Json = nlohmann::json;
 
-// The object in the file. Errors: the file cannot be read or is a link, more than 4 MiB, not valid JSON, not an object;
-// with line and column, without content of the file.
+// Reads the object in the file. Errors: an unreadable file, a link, more than 4 MiB, invalid JSON, not an object. They
+// have line and column and do not quote the file.
 [[nodiscard]] Runtime::Result<Json> readJsonObject(const std::filesystem::path& file);
 
 inline constexpr std::size_t maxJsonBytes = std::size_t{4} << 20;
 
-// An error at the place of a byte of `text`, which the file holds.
+// An error located at a byte of `text`, the content of the file.
 [[nodiscard]] Runtime::Error errorAt(const std::filesystem::path& file, std::string_view text, std::size_t byte,
                                      std::string message);
 
-// The member, or null where there is none or `object` is not an object.
+// The member, or a null value if it is missing or `object` is not an object.
 [[nodiscard]] const Json& member(const Json& object, const char* name);
-// The member's text, or "" where it is not a text.
+// The member's string, or "" if it is not a string.
 [[nodiscard]] std::string text(const Json& object, const char* name);
-// The member's number, or 0 where it is not a number.
+// The member's number, or 0 if it is not a number.
 [[nodiscard]] double number(const Json& object, const char* name);
 
 } // namespace SourceBundle

@@ -1,5 +1,5 @@
 // SourceBundle/KnownProperties.h
-// Which properties of a Contents.json are read, or ignored because they change nothing here; internal.
+// The properties of a Contents.json that are read or have no effect here; internal.
 #pragma once
 
 #include "SourceBundle/Json.h"
@@ -10,7 +10,8 @@ namespace SourceBundle {
 
 enum class KnownProperties { ofSet, ofEntry };
 
-// The names of the others, and of those whose value is not of the expected type. Docs/catalogs.md lists all.
+// The names of unknown properties and of those with a value of another type than expected. Docs/catalogs.md lists the
+// known ones.
 [[nodiscard]] std::vector<std::string> unknownProperties(const Json& object, KnownProperties known);
 
 } // namespace SourceBundle

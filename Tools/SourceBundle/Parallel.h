@@ -1,5 +1,5 @@
 // SourceBundle/Parallel.h
-// Independent steps on all processors.
+// Runs independent steps on all processors.
 #pragma once
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 
 namespace SourceBundle {
 
-// Calls step(0) to step(count - 1), several at a time. The first exception is thrown on once all threads have stopped.
+// Calls step(0) to step(count - 1), several at a time. Rethrows the first exception after all threads have stopped.
 template <class Step> void inParallel(std::size_t count, const Step& step) {
     std::atomic<std::size_t> next{0};
     std::mutex lock;

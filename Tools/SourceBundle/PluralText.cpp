@@ -89,7 +89,7 @@ struct Number {
     std::string valueType = "lld";
 };
 
-// The first number among the placeholders of a form.
+// The first placeholder of a form that prints a number.
 std::optional<Number> firstNumber(std::string_view form) {
     ArgumentCounter counter;
     std::size_t at = 0;
@@ -168,7 +168,7 @@ std::string otherText(const PluralFormat& plural) {
 
 PluralFormat pluralOfForms(PluralForms forms) {
     const Number number = numberOf(forms);
-    // Alone, it is the number of every form. Otherwise positions tell the arguments apart.
+    // A single argument is the number in every form. With several, positions distinguish them.
     if (argumentCount(forms) > 1)
         for (auto& form : forms)
             if (form)

@@ -1,5 +1,5 @@
 // SourceBundle/PluralText.h
-// Plural formats made and read as people write them; internal.
+// Builds plural formats from string catalogs and shows them as text; internal.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 
@@ -10,15 +10,15 @@
 
 namespace SourceBundle {
 
-// The format with every variable replaced by its form `other`, or the last one there is: for people, not for
-// formatting. Longer ones are cut at maxOtherText bytes.
+// The format with every variable replaced by its form `other`, or its last form: for display, not for formatting. Cut
+// at maxOtherText bytes.
 [[nodiscard]] std::string otherText(const StringTables::PluralFormat& plural);
 inline constexpr std::size_t maxOtherText = 4096;
 
 using PluralForms = decltype(StringTables::PluralVariable::forms);
 
-// The format of a text that has forms for the first number among its placeholders: "%@ has %lld files" takes the form
-// of its second argument.
+// The plural format of a text whose forms depend on its first number: the forms of "%@ has %lld files" depend on the
+// second argument.
 [[nodiscard]] StringTables::PluralFormat pluralOfForms(PluralForms forms);
 
 // A variable of a format, the argument that it takes (0: that of its place in the format) and its forms, in which "%arg" is that argument.

@@ -26,7 +26,7 @@ std::string_view accented(char c) {
     return c >= 'a' ? small[static_cast<std::size_t>(c - 'a')] : capital[static_cast<std::size_t>(c - 'A')];
 }
 
-// How many bytes at the front of a text are markup and no words: a tag, an entity, a backslash and what it escapes.
+// The number of leading bytes that are markup: a tag, an entity, or a backslash with the escaped character.
 std::size_t markupSize(std::string_view text) {
     if (text[0] == '\\')
         return std::min<std::size_t>(text.size(), 2);
@@ -40,7 +40,7 @@ class Writer {
 public:
     explicit Writer(Pseudo kind) : kind_(kind) {}
 
-    // Words and what is between them; no placeholders.
+    // Adds text without placeholders: words and what separates them.
     void addWords(std::string_view text) {
         while (!text.empty()) {
             const std::size_t markup = markupSize(text);
@@ -59,7 +59,7 @@ public:
     }
     void addUntouched(std::string_view text) { out_ += text; }
 
-    // Padding behind accented texts: a third of the letters.
+    // Pads accented texts by a third of their letters.
     std::string finish(bool isWhole) {
         if (kind_ == Pseudo::rightToLeft)
             return out_;
@@ -97,8 +97,8 @@ private:
     std::size_t letters_ = 0;
 };
 
-// `next` gives the placeholders of the text one after the other.
-template <class Next> std::string made(std::string_view text, Pseudo kind, bool isWhole, Next next) {
+// `next` returns the placeholders of the text in order.
+template <class Next> std::string transformed(std::string_view text, Pseudo kind, bool isWhole, Next next) {
     Writer writer(kind);
     std::size_t done = 0;
     while (const auto placeholder = next()) {
@@ -110,8 +110,8 @@ template <class Next> std::string made(std::string_view text, Pseudo kind, bool 
     return writer.finish(isWhole);
 }
 
-std::string made(std::string_view text, Pseudo kind, bool isWhole, PluralPieces pieces) {
-    return made(text, kind, isWhole, [&pieces] {
+std::string transformed(std::string_view text, Pseudo kind, bool isWhole, PluralPieces pieces) {
+    return transformed(text, kind, isWhole, [&pieces] {
         const auto piece = pieces.next();
         return piece ? std::optional(piece->placeholder) : std::nullopt;
     });
@@ -121,7 +121,7 @@ std::string made(std::string_view text, Pseudo kind, bool isWhole, PluralPieces 
 
 std::string pseudoText(std::string_view text, Pseudo kind) {
     std::size_t at = 0;
-    return made(text, kind, true, [&] {
+    return transformed(text, kind, true, [&] {
         const auto placeholder = StringTables::nextPlaceholder(text, at);
         at = placeholder ? placeholder->end : at;
         return placeholder;
@@ -130,12 +130,12 @@ std::string pseudoText(std::string_view text, Pseudo kind) {
 
 PluralFormat pseudoPlural(const PluralFormat& plural, Pseudo kind) {
     PluralFormat out = plural;
-    out.format = made(plural.format, kind, true, PluralPieces(plural));
+    out.format = transformed(plural.format, kind, true, PluralPieces(plural));
     for (std::size_t i = 0; i < plural.variables.size(); ++i)
         for (std::size_t category = 0; category < Intl::pluralCategoryCount; ++category)
             if (const auto& form = plural.variables[i].forms[category])
                 out.variables[i].forms[category] =
-                    made(*form, kind, false, PluralPieces(plural, *form, plural.variables[i], 1));
+                    transformed(*form, kind, false, PluralPieces(plural, *form, plural.variables[i], 1));
     return out;
 }
 

@@ -1,6 +1,6 @@
 // SourceBundle/PseudoText.h
-// Texts of the pseudo-languages: development texts that show, before anything is translated, what a translation will
-// need of the layout. Placeholders, "%%", line breaks, tags, entities and backslash escapes stay as they are.
+// Texts of the pseudo-languages: transformed development texts that show layout problems before anything is translated.
+// Placeholders, "%%", line breaks, tags, entities and backslash escapes are unchanged.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 
@@ -13,8 +13,8 @@
 namespace SourceBundle {
 
 enum class Pseudo : std::uint8_t {
-    accented,   // "[Ŷöûŕ çåŕţ ~~~]": letters with accents, a third longer, in brackets
-    rightToLeft // each word with letters is shown from right to left
+    accented,   // "[Ŷöûŕ çåŕţ ~~~]": accented letters, a third longer, in brackets
+    rightToLeft // words are displayed from right to left
 };
 
 struct PseudoLanguage {
@@ -25,7 +25,7 @@ inline constexpr std::array<PseudoLanguage, 2> pseudoLanguages = {
     {{"en-XA", Pseudo::accented}, {"ar-XB", Pseudo::rightToLeft}}};
 
 [[nodiscard]] std::string pseudoText(std::string_view text, Pseudo kind);
-// The format alone has brackets; its forms have the rest.
+// Only the format gets brackets, not its forms.
 [[nodiscard]] StringTables::PluralFormat pseudoPlural(const StringTables::PluralFormat& plural, Pseudo kind);
 
 } // namespace SourceBundle

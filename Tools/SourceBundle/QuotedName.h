@@ -1,5 +1,5 @@
 // SourceBundle/QuotedName.h
-// Names of a source in messages; internal.
+// Quotes names in messages; internal.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ namespace SourceBundle {
     if (name.size() <= longest)
         return '"' + std::string(name) + '"';
     std::size_t end = longest;
-    while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0) == 0x80) // not inside of a character
+    while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0) == 0x80) // do not cut a character
         --end;
     return '"' + std::string(name.substr(0, end)) + "…\"";
 }

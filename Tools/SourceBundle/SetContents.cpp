@@ -39,13 +39,13 @@ AssetCatalog::Rendering renderingOf(const SourceAsset& asset, const Json& proper
         return AssetCatalog::Rendering::asTemplate;
     if (intent == "original")
         return AssetCatalog::Rendering::original;
-    // Symbols are shapes.
+    // Symbols are templates by default.
     return asset.path.extension() == symbolExtension ? AssetCatalog::Rendering::asTemplate
                                                      : AssetCatalog::Rendering::automatic;
 }
 
-// Whether both variants are for the same readers.
-template <class Variant> bool isTwin(const Variant& one, const SetEntry& other) {
+// Whether both variants are for the same traits and language.
+template <class Variant> bool hasSameTraits(const Variant& one, const SetEntry& other) {
     return one.fit == other.fit && one.language == other.language;
 }
 
@@ -60,7 +60,7 @@ public:
         reportUnknownProperties(properties_, KnownProperties::ofSet, "the set");
         std::vector<SetEntry> entries = filledEntries(member(json, listName(asset_)));
         std::ranges::stable_sort(entries, isPreferred, &SetEntry::device);
-        // The first kind of device with a variant that can be used.
+        // Use the first kind of device that has a usable variant.
         auto rest = entries.begin();
         while (rest != entries.end() && isEmpty()) {
             const SetEntry::Device device = rest->device;
@@ -103,7 +103,7 @@ private:
     }
 
     void add(const SetEntry& entry) {
-        if (!hasTwin(entry)) {
+        if (!isDuplicate(entry)) {
             if (asset_.kind == Kind::color)
                 addColor(entry);
             else
@@ -111,11 +111,11 @@ private:
         }
     }
 
-    bool hasTwin(const SetEntry& entry) {
-        const auto isIts = [&](const auto& variant) { return isTwin(variant, entry); };
-        if (std::ranges::none_of(asset_.files, isIts) && std::ranges::none_of(asset_.colors, isIts))
+    bool isDuplicate(const SetEntry& entry) {
+        const auto isSame = [&](const auto& variant) { return hasSameTraits(variant, entry); };
+        if (std::ranges::none_of(asset_.files, isSame) && std::ranges::none_of(asset_.colors, isSame))
             return false;
-        say(Severity::warning, entry, "is for the same readers as an entry before it and is left out",
+        say(Severity::warning, entry, "is for the same traits as an earlier entry and is left out",
             Topic::duplicateVariant);
         return true;
     }
@@ -136,11 +136,11 @@ private:
         asset_.files.push_back(std::move(file));
     }
 
-    // The entry's file; no value after a warning.
+    // The entry's file; no value if it is unusable, which gives a warning.
     std::optional<fs::path> pathOf(const SetEntry& entry) {
         const std::string name = text(*entry.json, "filename");
         std::error_code failed;
-        // A name is one component, so that nothing outside of the set gets into a catalog.
+        // A name must be a single path component, so that no file outside of the set gets into a catalog.
         if (name == "." || name == ".." || name.find_first_of(std::string_view("/\0", 2)) != std::string::npos) {
             say(Severity::warning, entry, "is a file outside of its set and is left out", Topic::unreadableAsset);
             return std::nullopt;
@@ -182,7 +182,7 @@ private:
         systemColorVariants_.push_back(dark);
     }
 
-    // What system colours are on a dark screen, where the set does not say otherwise.
+    // Adds the dark variants of system colours unless the set defines its own.
     void addSystemColorVariants() {
         for (const AssetCatalog::Color& variant : systemColorVariants_)
             if (std::ranges::none_of(asset_.colors, [&](const AssetCatalog::Color& color) {
@@ -191,7 +191,7 @@ private:
                 asset_.colors.push_back(variant);
     }
 
-    // A file that the system cannot read now is not left out: the next time it may be there.
+    // A file that is unreadable because of a system error is an error, not left out: a retry may succeed.
     void reportUnusable(Runtime::Error error) {
         if (error.cause != 0)
             diagnostics_.add(Severity::error, std::move(error), Topic::unreadableAsset, asset_.name);
@@ -202,7 +202,7 @@ private:
         error.message += "; it is left out";
         return error;
     }
-    // A message about an entry, at its place.
+    // Adds a message located at the entry.
     void say(Severity severity, const SetEntry& entry, std::string_view what, Topic topic = Topic::other) {
         Runtime::Error error = entryPlace(contents_, listName(asset_), entry.number);
         error.message = entry.label().append(" ").append(what);
@@ -221,21 +221,21 @@ private:
     std::vector<AssetCatalog::Color> systemColorVariants_;
 };
 
-// An empty set is said once: with its last warning, or with one of its own.
+// Reports an empty set exactly once: with its last warning, or with a separate one.
 void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagnostics& diagnostics) {
     const auto isWarning = [](const Diagnostic& one) { return one.severity == Severity::warning; };
     const auto isError = [](const Diagnostic& one) { return one.severity == Severity::error; };
     const auto warnings = std::ranges::count_if(messages.all(), isWarning);
     std::ptrdiff_t warning = 0;
     for (const Diagnostic& one : messages.all()) {
-        Diagnostic said = one;
+        Diagnostic message = one;
         if (isWarning(one) && ++warning == warnings)
-            said.what.message += ", and with it the set, which has no other variant";
-        diagnostics.add(said);
+            message.what.message += ", and with it the set, which has no other variant";
+        diagnostics.add(message);
     }
     if (warnings == 0 && std::ranges::none_of(messages.all(), isError))
         diagnostics.add(Severity::warning,
-                        {.message = "has no variant that can be used and is left out", .file = asset.path});
+                        {.message = "has no usable variant and is left out", .file = asset.path});
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // SourceBundle/SetContents.h
-// The Contents.json of one set of an asset catalog; internal.
+// Reads the Contents.json of one set of an asset catalog; internal.
 #pragma once
 
 #include "SourceBundle/Catalogs.h"
@@ -11,8 +11,8 @@ namespace SourceBundle {
 inline constexpr const char* contentsName = "Contents.json";
 inline constexpr std::string_view symbolExtension = ".symbolset";
 
-// Reads the set whose folder, kind and name `asset` has, and fills in the rest. A set without a usable variant stays
-// empty and has exactly one warning that says so.
+// Reads the set with the folder, kind and name of `asset` and fills in the other members. A set without a usable
+// variant stays empty and gives exactly one warning that says so.
 void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics);
 
 // How the file of a picture is used.

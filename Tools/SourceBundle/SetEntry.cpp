@@ -13,14 +13,14 @@ using AssetCatalog::Fit;
 
 namespace {
 
-// The kinds of device in the order in which their variants are taken.
+// The priority of a kind of device; 0 is the highest.
 std::size_t rankOf(std::string_view idiom) {
     static constexpr std::array<std::string_view, 9> idioms = {"universal", "iphone", "ipad",  "mac", "vision",
                                                                "reality",   "tv",     "watch", "car"};
     return static_cast<std::size_t>(std::ranges::find(idioms, idiom) - idioms.begin());
 }
 
-// The appearance into `fit`; false for one that no reader can want.
+// Reads an appearance into `fit`; false if it is not supported.
 bool readAppearance(const Json& appearance, Fit& fit) {
     const std::string kind = text(appearance, "appearance");
     const std::string value = text(appearance, "value");
@@ -55,7 +55,7 @@ bool readScale(std::string_view scale, Fit& fit) {
     return true;
 }
 
-// Conditions that no reader here can have; an entry with some of them is taken when there is no other.
+// Conditions that are not supported; an entry with conditions is used only if there is no other.
 std::vector<std::string> conditionsOf(const Json& entry) {
     static constexpr std::array names = {"subtype", "screen-width",         "width-class",  "height-class",
                                          "memory",  "graphics-feature-set", "display-gamut"};
@@ -71,7 +71,7 @@ std::string withHyphens(std::string language) {
     return language;
 }
 
-// The number in ">161", or 0. Of the sizes of a watch the widest is nearest to other screens.
+// The number in ">161", or 0. Among watch sizes the widest is closest to other screens.
 int screenWidth(const SetEntry::Device& device) {
     for (const std::string& condition : device.conditions)
         if (condition.starts_with("screen-width ")) {

@@ -1,5 +1,5 @@
 // SourceBundle/SetEntry.h
-// One entry of a set's Contents.json: which readers its variant is for; internal.
+// One entry of a set's Contents.json, with the traits that its variant is for; internal.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -12,11 +12,11 @@ namespace SourceBundle {
 
 struct SetEntry {
     const Json* json;
-    std::size_t number; // in its list, from 1
+    std::size_t number; // in its list, counted from 1
     AssetCatalog::Fit fit{};
     std::string language{};
-    // The kind of device and screen that the variant is for: the variants of one kind are taken, those of others not.
-    // The smallest is that of the most readers: no conditions, then any device, then a phone.
+    // The kind of device and screen that the variant is for. Only the variants of one kind are used: preferably those
+    // without conditions, then those for any device, then those for a phone.
     struct Device {
         std::vector<std::string> conditions{}; // "subtype retina4", sorted
         std::size_t rank = 0;                  // of the idiom
@@ -26,13 +26,13 @@ struct SetEntry {
         [[nodiscard]] std::string text() const;
     } device{};
 
-    // Whether the entry has a file or a colour; others are empty places in the editor.
+    // Whether the entry has a file or a colour; others are empty slots of the editor.
     [[nodiscard]] bool isFilled() const;
-    // `entry 3 ("picture.png")`, with the name of its file, if it has one.
+    // `entry 3 ("picture.png")`; without a name if it has no file.
     [[nodiscard]] std::string label() const;
 };
 
-// Whether `one` is taken before `other`.
+// Whether `one` is preferred to `other`.
 [[nodiscard]] bool isPreferred(const SetEntry::Device& one, const SetEntry::Device& other);
 
 // Precondition: `entry` is a JSON object that outlives the result.

@@ -45,11 +45,11 @@ bool areOneTable(TableFile::Kind one, TableFile::Kind other) {
     return one != other && one != TableFile::Kind::catalog && other != TableFile::Kind::catalog;
 }
 
-// A file TABLE.strings, read without looking at the others.
+// A file TABLE.strings, read independently of the other files.
 struct TextsFile {
     Runtime::Result<Table> table;
     std::vector<std::string> comments; // of the entries
-    LanguageTexts texts;               // refers to both
+    LanguageTexts texts;               // points into both
 };
 
 std::unique_ptr<TextsFile> readTextsFile(const TableFile& file) {
@@ -74,7 +74,7 @@ class Reader {
 public:
     Reader(Source::Storage& storage, Diagnostics& diagnostics) : storage_(storage), diagnostics_(diagnostics) {}
 
-    // Reads all files. Most of the work is in files of texts, which are taken apart on all processors first.
+    // Reads all files. TABLE.strings files, which are most of the work, are first parsed on all processors.
     void readAll() {
         const std::vector<TableFile>& files = storage_.files;
         std::vector<std::unique_ptr<TextsFile>> texts(files.size());
@@ -86,7 +86,7 @@ public:
             read(files[i], texts[i].get());
     }
 
-    // The source language of the first string catalog, or an empty text.
+    // The source language of the first string catalog, or an empty string.
     const std::string& catalogLanguage() const noexcept { return catalogLanguage_; }
 
     std::vector<SourceTable> take() {
@@ -111,7 +111,7 @@ private:
         }
     }
 
-    // Where the texts of `file` in `language` go, or null after an error.
+    // The destination of the texts of `file` in `language`, or null after an error.
     LanguageTexts* textsFor(const TableFile& file, const std::string& language) {
         LanguageTexts& texts = byName_[file.table].try_emplace(language, language).first->second;
         for (const TableFile* other : texts.files)
@@ -185,7 +185,7 @@ private:
                     texts->isDamaged = true;
             return diagnostics_.add(Severity::error, std::move(language.error()), Topic::unreadableTable);
         }
-        (void)textsIn(*language); // be it none
+        (void)textsIn(*language); // the table exists even without texts
         if (catalogLanguage_.empty())
             catalogLanguage_ = *std::move(language);
     }
@@ -289,7 +289,7 @@ std::vector<const SourceEntry*> Source::developmentEntries(const SourceTable& ta
     return entries;
 }
 
-// A key that is not to be translated keeps its text.
+// Keys that must not be translated keep their text.
 SourceEntry Source::pseudoEntry(const SourceEntry& development, Pseudo kind) {
     SourceEntry entry = development;
     if (!entry.isTranslatable)

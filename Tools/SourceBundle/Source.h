@@ -1,8 +1,8 @@
 // SourceBundle/Source.h
-// A module's resources as people edit them, from one or more folders: the texts of every table and language, and where
-// the asset catalogs are. Every tool reads its source through this.
-// Text: UTF-8. Threads: immutable after reading. Ownership: the source owns what its entries refer to; they stay valid
-// when it is moved.
+// A module's resources as people edit them, from one or more folders: the texts of all tables and languages, and the
+// paths of the asset catalogs. All tools read sources through this class.
+// Text: UTF-8. Threads: immutable after reading. Ownership: the source owns everything that its entries refer to;
+// entries stay valid when it is moved.
 #pragma once
 
 #include "SourceBundle/Diagnostics.h"
@@ -23,23 +23,23 @@ struct PluralFormat;
 
 namespace SourceBundle {
 
-// How far a translation is, as string catalogs say it; texts of other files are translated.
+// The state of a translation in a string catalog; texts in other files count as translated.
 enum class State : std::uint8_t { translated, isNew, needsReview };
 
 // A key's text in one language.
 struct SourceEntry {
     std::string_view key;
-    std::string_view text; // of a plural text, what its forms for `other` make of it
+    std::string_view text; // for a plural, the text with its forms `other`
     const StringTables::PluralFormat* plural = nullptr;
     std::string_view comment{}; // for translators
     const TableFile* file = nullptr;
     std::uint32_t line = 0; // of the key, counted from 1; 0 in a binary table
     std::uint32_t column = 0;
     State state = State::translated;
-    bool isStale = false;       // the application's code no longer has the key, says the string catalog
-    bool isTranslatable = true; // false where the string catalog says that the key stays as it is
+    bool isStale = false;       // the string catalog marks the key as no longer used in code
+    bool isTranslatable = true; // false if the string catalog marks the key as not to be translated
 
-    // A message about the entry.
+    // An error located at the entry.
     [[nodiscard]] Runtime::Error error(std::string message) const;
 };
 
@@ -50,21 +50,22 @@ public:
 
     // The key's entry, or null.
     [[nodiscard]] const SourceEntry* find(std::string_view key) const;
-    // The same. Looks first behind `last`, one of its entries or null: languages mostly have their keys in one order.
+    // The same, but first looks at the entry after `last` (an entry of this language, or null), because most languages
+    // have their keys in the same order.
     [[nodiscard]] const SourceEntry* findBehind(const SourceEntry* last, std::string_view key) const;
-    // Adds an entry; false if the key is there already.
+    // Adds an entry; false if the key already exists.
     bool add(const SourceEntry& entry);
-    // Adds the entries of `other` whose keys are not there already; moves them where there are none yet.
+    // Adds the entries of `other` with new keys; moves all of them if there are none yet.
     void add(LanguageTexts&& other);
-    // Adds an entry or puts it in the place of that of the same key.
+    // Adds an entry or replaces the one with the same key.
     void replace(const SourceEntry& entry);
     void reserve(std::size_t count);
 
     std::string language;                // "de", "pt-BR", "Base"
-    std::vector<const TableFile*> files; // which the texts are from
-    bool isDamaged = false;              // a file of the table cannot be read: keys are missing here
+    std::vector<const TableFile*> files; // the sources of the texts
+    bool isDamaged = false;              // a file of the table is unreadable, so keys may be missing
 
-    // Every key once, in the order of the files.
+    // Every key once, in file order.
     [[nodiscard]] const std::vector<SourceEntry>& entries() const noexcept { return entries_; }
 
 private:
@@ -81,10 +82,9 @@ struct SourceTable {
 };
 
 struct SourceOptions {
-    // Empty: what Info.plist says (CFBundleDevelopmentRegion), or else a string catalog, or else "en".
+    // Empty: CFBundleDevelopmentRegion of Info.plist, else the language of a string catalog, else "en".
     std::string developmentLanguage{};
-    // Adds the pseudo-languages (SourceBundle/PseudoText.h) to every table that does not have them, made of its
-    // development texts.
+    // Adds the pseudo-languages (SourceBundle/PseudoText.h) to every table that does not have them.
     bool addsPseudoLanguages = false;
 };
 
@@ -92,9 +92,9 @@ enum class Pseudo : std::uint8_t;
 
 class Source {
 public:
-    // Reads the folders as one source. What is wrong with them goes to `diagnostics`; after an error the source holds
-    // what could be read. Two files that give one table in one language are an error that names both, but for
-    // TABLE.strings and TABLE.stringsdict: of a key in both the plural text counts.
+    // Reads the folders as one source. Problems are added to `diagnostics`; after an error the source contains what
+    // could be read. Two files with the same table and language are an error that names both, except for TABLE.strings
+    // and TABLE.stringsdict: if a key is in both, the plural is used.
     [[nodiscard]] static Source read(std::span<const std::filesystem::path> folders, const SourceOptions& options,
                                      Diagnostics& diagnostics);
     // Reads the tables of a compiled bundle.
@@ -108,10 +108,10 @@ public:
     std::vector<std::filesystem::path> catalogs; // *.xcassets
     std::vector<std::filesystem::path> infos;    // Info.plist of the folders that have one
 
-    // The texts of `table` that decide which accessors exist: those of the development language, then those of Base
-    // whose keys it does not have, as its users read them. Points into the source. A table without either has none.
+    // The texts of `table` that determine which accessors exist: those of the development language, then those of Base
+    // with other keys. Points into the source. Empty for a table without either.
     [[nodiscard]] std::vector<const SourceEntry*> developmentEntries(const SourceTable& table) const;
-    // Whether the table has development texts, be it none.
+    // Whether the table exists in the development language or Base, even without texts.
     [[nodiscard]] bool isDeveloped(const SourceTable& table) const;
 
     struct Storage; // internal
@@ -125,7 +125,7 @@ private:
     std::unique_ptr<Storage> storage_;
 };
 
-// The language that texts have at run time when the user's is not there.
+// The folder of the texts that are used when the user's language is missing.
 inline constexpr std::string_view baseLanguage = StringTables::bundleLayout::baseName;
 
 } // namespace SourceBundle

@@ -15,7 +15,7 @@ namespace layout = StringTables::bundleLayout;
 
 namespace {
 
-// lumora compile leaves it in every bundle that it makes.
+// lumora compile writes this file into every bundle.
 constexpr const char* compiledMark = ".lumora-bundle";
 
 std::optional<TableFile::Kind> kindOf(const fs::path& file) {
@@ -55,7 +55,7 @@ public:
     }
 
     SourceFiles take() {
-        // Catalogs of one name follow each other.
+        // Catalogs with the same name must be adjacent.
         std::ranges::stable_sort(found_.catalogs, {}, [](const fs::path& catalog) { return catalog.stem(); });
         return std::move(found_);
     }
@@ -77,7 +77,8 @@ private:
         return entries;
     }
 
-    // That no link leads out of the source: what is there belongs to others, and its content is not shown to anyone.
+    // Whether the path is inside the source. Links that lead out of it are refused, so that no other content is
+    // disclosed.
     bool isInside(const fs::path& path) const {
         std::error_code failed;
         const fs::path inside = fs::weakly_canonical(path, failed).lexically_relative(source_);
@@ -89,7 +90,7 @@ private:
         add(Severity::error, entry.path(), "is a link that leads out of the source");
         return false;
     }
-    // One of the folders may be in another: a file counts once.
+    // One of the folders may contain another: each file counts once.
     bool isNew(const fs::path& path) { return known_.insert(source_ / path.lexically_relative(given_)).second; }
 
     void findInfo(const fs::path& file) {
@@ -127,7 +128,7 @@ private:
         else if (kind == TableFile::Kind::catalog)
             addTable(entry, *kind, "");
         else if (kind)
-            add(Severity::warning, path, "is in no language folder (*.lproj) and is left out");
+            add(Severity::warning, path, "is not in a language folder (*.lproj) and is left out");
     }
 
     void findInLanguageFolder(const fs::directory_entry& folder, int depth) {
@@ -142,7 +143,7 @@ private:
             else if (entry.is_directory(failed) && !entry.is_symlink())
                 findInFolder(entry.path(), depth + 1);
             else
-                add(Severity::note, entry.path(), "holds no table of texts and is left out");
+                add(Severity::note, entry.path(), "is not a table and is left out");
         }
     }
 
@@ -162,7 +163,7 @@ private:
     fs::path given_;
     fs::path source_; // the same, canonical
     std::set<fs::path> known_;
-    bool isEmpty_ = true; // nothing was found in the folder
+    bool isEmpty_ = true; // nothing was found in the folder so far
 };
 
 } // namespace

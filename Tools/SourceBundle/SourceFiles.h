@@ -1,6 +1,6 @@
 // SourceBundle/SourceFiles.h
-// The files of a source: found, not read.
-// Text: paths as the file system has them. Threads: pure functions of the file system.
+// Finds the files of a source without reading them.
+// Text: paths are raw bytes. Threads: any; no state.
 #pragma once
 
 #include "SourceBundle/Diagnostics.h"
@@ -32,18 +32,18 @@ struct SourceFiles {
     std::vector<std::filesystem::path> infos;    // Info.plist directly in a folder
 };
 
-// Searches each of the folders at any depth (maxFolderDepth). Hidden files and folders are passed over; a file that two
-// of the folders hold is found once. Errors: a folder that cannot be read, that is a compiled bundle or that holds
-// neither tables nor catalogs, and a link from a language folder to a place outside of the source. Other links to
-// folders, compiled bundles in a folder, and the files of a language folder that hold no texts, are notes.
+// Searches the folders up to maxFolderDepth. Hidden files and folders are skipped; a file that is in several of the
+// folders is found once. Errors: a folder that is unreadable, is a compiled bundle or contains neither tables nor
+// catalogs; a link of a table or language folder that leads out of the source. Notes: other links to folders, compiled
+// bundles inside a folder, and files of a language folder that are not tables.
 [[nodiscard]] SourceFiles findFiles(std::span<const std::filesystem::path> folders, Diagnostics& diagnostics);
 
-// The same for a compiled bundle, whose tables are in the places of a source's.
+// The same for a compiled bundle, which has the same layout.
 [[nodiscard]] SourceFiles findBundleFiles(const std::filesystem::path& bundle, Diagnostics& diagnostics);
 
 inline constexpr int maxFolderDepth = 64;
 
-// The language of a language folder's name without ".lproj". Folders of old have English names: "German" is "de".
+// The language of a folder name without ".lproj". Old folders have English names: "German" gives "de".
 [[nodiscard]] std::string languageOfFolder(const std::string& name);
 
 } // namespace SourceBundle

@@ -17,7 +17,7 @@ using Intl::pluralCategoryNamed;
 
 namespace {
 
-// Counts lines and columns, of places that follow each other.
+// Counts lines and columns. Offsets must not decrease between calls.
 class Lines {
 public:
     explicit Lines(std::string_view text) : text_(text) {}
@@ -40,7 +40,7 @@ private:
     std::uint32_t line_ = 1, column_ = 1;
 };
 
-// What a localization says: a text, or forms, or a text with variables.
+// A localization: a text, plural forms, or a text with variables.
 struct Localized {
     std::optional<std::string> text;
     PluralForms forms;
@@ -67,7 +67,7 @@ struct Localized {
     }
 };
 
-// Takes a value apart, so that a fault in it is found.
+// Parses and ignores a value, so that errors in it are found.
 void skip(ondemand::value value) {
     switch (value.type()) {
     case ondemand::json_type::array:
@@ -94,7 +94,7 @@ void skip(ondemand::value value) {
     }
 }
 
-// Calls `visit(name, value)` for each member; it takes the value apart.
+// Calls `visit(name, value)` for each member; `visit` must consume the value.
 template <class Visit> void forEach(ondemand::value object, Visit&& visit) {
     for (auto field : object.get_object()) {
         const std::string_view name = field.unescaped_key();
@@ -219,7 +219,7 @@ public:
     Runtime::Result<std::string> read() {
         if (text_.starts_with("\xEF\xBB\xBF"))
             text_.erase(0, 3);
-        // The parser reads beyond the end, up to its padding.
+        // The parser needs padding after the text.
         const std::size_t size = text_.size();
         text_.resize(size + simdjson::SIMDJSON_PADDING);
         lines_ = Lines(text_);
@@ -305,7 +305,7 @@ private:
 
     void add(CatalogText text, std::string_view language, Localized localized) {
         if (localized.hasDevices)
-            diagnostics_.add(Severity::note, {.message = "texts for single devices are left out",
+            diagnostics_.add(Severity::note, {.message = "texts for specific devices are left out",
                                               .file = file_,
                                               .line = text.line,
                                               .column = text.column});

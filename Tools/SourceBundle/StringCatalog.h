@@ -12,7 +12,7 @@
 
 namespace SourceBundle {
 
-// A key's text in one language, as the reader finds it. Views are valid during the call.
+// A key's text in one language. Views are valid during the call.
 struct CatalogText {
     std::string_view language;
     std::string_view key;
@@ -33,7 +33,7 @@ struct CatalogText {
 [[nodiscard]] Runtime::Result<std::string> readStringCatalog(const std::filesystem::path& file,
                                                              const std::function<void(CatalogText&&)>& add,
                                                              Diagnostics& diagnostics);
-// The same of the bytes of a file, which messages name.
+// The same from the content of a file, which messages name.
 [[nodiscard]] Runtime::Result<std::string> parseStringCatalog(std::string bytes, const std::filesystem::path& file,
                                                               const std::function<void(CatalogText&&)>& add,
                                                               Diagnostics& diagnostics);

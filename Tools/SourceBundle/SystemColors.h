@@ -1,5 +1,5 @@
 // SourceBundle/SystemColors.h
-// The system's colours that catalogs refer to by name; internal.
+// The named system colours that catalogs refer to; internal.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"

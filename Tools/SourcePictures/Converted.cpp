@@ -27,7 +27,7 @@ const char* loaderNameOf(Format format) {
     return "";
 }
 
-// Called as soon as the header is read. A picture that is too large is read as one pixel, and not used.
+// Called when the header is read. A picture that is too large is decoded as one pixel and rejected.
 void limitSize(GdkPixbufLoader* loader, gint width, gint height, gpointer isTooLarge) {
     if (static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) <= AssetCatalog::maxPixels)
         return;
@@ -35,7 +35,7 @@ void limitSize(GdkPixbufLoader* loader, gint width, gint height, gpointer isTooL
     gdk_pixbuf_loader_set_size(loader, 1, 1);
 }
 
-// The loader would take the part that is there.
+// The loader would accept a truncated file.
 bool isCutOffWebp(std::string_view bytes) {
     std::uint64_t size = 8; // of what comes before the size
     for (std::size_t i = 0; i < 4; ++i)
@@ -43,7 +43,7 @@ bool isCutOffWebp(std::string_view bytes) {
     return size > bytes.size();
 }
 
-// The libraries print their warnings on standard error; what is wrong is in their errors, too.
+// The libraries print warnings to standard error; their errors contain the same information.
 void silenceWarnings() {
     static const bool isDone = [] {
         g_log_set_writer_func([](GLogLevelFlags, const GLogField*, gsize, gpointer) { return G_LOG_WRITER_HANDLED; },
@@ -78,16 +78,16 @@ Runtime::Result<AssetCatalog::Picture> converted(std::string_view bytes, Format 
     const Owned<GdkPixbufLoader> loader(gdk_pixbuf_loader_new_with_type(name.c_str(), &error));
     if (loader == nullptr) {
         const Owned<GError> owned(error);
-        return Runtime::Error{.message = "is in the format " + name + ", for which this machine has no loader"};
+        return Runtime::Error{.message = "is in the format " + name + ", for which no gdk-pixbuf loader is installed"};
     }
     bool isTooLarge = false;
     g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(limitSize), &isTooLarge);
     const bool isWritten =
         gdk_pixbuf_loader_write(loader.get(), reinterpret_cast<const guchar*>(bytes.data()), bytes.size(), &error);
-    // It must be closed, whatever happened; of two errors the first counts.
+    // Close the loader in any case; the first of two errors is reported.
     const bool isClosed = gdk_pixbuf_loader_close(loader.get(), isWritten ? &error : nullptr);
     if (isTooLarge)
-        return Runtime::Error{.message = "is a picture larger than a catalog may hold"};
+        return Runtime::Error{.message = "is a picture with more pixels than a catalog may contain"};
     GdkPixbuf* pixels = isWritten && isClosed ? gdk_pixbuf_loader_get_pixbuf(loader.get()) : nullptr;
     return pixels == nullptr ? damaged(name + " picture", error) : asPng(pixels);
 }

@@ -1,5 +1,5 @@
 // SourcePictures/Converted.h
-// Raster formats that a catalog does not hold, made into PNG; internal.
+// Converts raster formats that catalogs do not store to PNG; internal.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -9,8 +9,8 @@
 
 namespace SourcePictures {
 
-// The picture, of an animation the first frame, as a PNG. Precondition: `format` is gif, tiff, webp or heif. Errors:
-// damaged, more pixels than a catalog may hold, no loader of the format on this machine.
+// Converts the picture, or the first frame of an animation, to PNG. Precondition: `format` is gif, tiff, webp or heif.
+// Errors: damaged, more pixels than a catalog may contain, no loader installed for the format.
 [[nodiscard]] Runtime::Result<AssetCatalog::Picture> converted(std::string_view bytes, Format format);
 
 } // namespace SourcePictures

@@ -21,7 +21,7 @@ Runtime::Result<PixelSize> pixelSize(AssetCatalog::Size size, double scale) {
     if (!(columns >= 1 && rows >= 1))
         return Runtime::Error{.message = "is a drawing without a size"};
     if (!(columns * rows <= static_cast<double>(AssetCatalog::maxPixels) && columns <= maxSide && rows <= maxSide))
-        return Runtime::Error{.message = "is a drawing larger than a catalog may hold"};
+        return Runtime::Error{.message = "is a drawing with more pixels than a catalog may contain"};
     return PixelSize{static_cast<int>(columns), static_cast<int>(rows)};
 }
 
@@ -29,7 +29,7 @@ Runtime::Error cannotBeDrawn(cairo_status_t status) {
     return {.message = std::string("cannot be drawn: ") + cairo_status_to_string(status)};
 }
 
-// The drawing on a surface of that size, which it fills.
+// Draws on a new surface of that size, which the drawing fills.
 Runtime::Result<Owned<cairo_surface_t>> drawn(const DrawingForm& form, PixelSize pixels) {
     Owned<cairo_surface_t> surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels.columns, pixels.rows));
     const Owned<cairo_t> context(cairo_create(surface.get()));

@@ -1,5 +1,5 @@
 // SourcePictures/Drawing.h
-// Vector drawings as pixels; internal.
+// Rasterizes vector drawings; internal.
 // Threads: different drawings may be used at the same time.
 #pragma once
 
@@ -14,11 +14,11 @@ class Drawing {
 public:
     explicit Drawing(std::unique_ptr<const DrawingForm> form) : form_(std::move(form)) {}
 
-    // Makes sure that picture() succeeds at that scale, by drawing into a single pixel. Errors: damaged, no size, more
-    // pixels than a catalog may hold.
+    // Checks that picture() will succeed at that scale, by drawing into a single pixel. Errors: damaged, no size, more
+    // pixels than a catalog may contain.
     [[nodiscard]] Runtime::Result<void> check(double scale) const;
-    // The drawing as a PNG of `scale` pixels per unit. It fills the picture, whose sides are rounded up to whole
-    // pixels.
+    // Rasterizes the drawing to a PNG with `scale` pixels per unit. The drawing fills the picture, whose sides are
+    // rounded up to whole pixels.
     [[nodiscard]] Runtime::Result<AssetCatalog::Picture> picture(double scale) const;
     [[nodiscard]] AssetCatalog::Size size() const { return form_->size(); }
 

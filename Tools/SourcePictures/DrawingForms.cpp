@@ -14,9 +14,9 @@ namespace {
 
 using AssetCatalog::Size;
 
-constexpr double pixelsPerInch = 96; // as CSS has it
+constexpr double pixelsPerInch = 96; // as in CSS
 
-// In points; no value where the drawing leaves it to its surroundings.
+// The length in points; no value for a percentage or a missing length.
 std::optional<double> pointsOf(gboolean isGiven, RsvgLength length) {
     if (isGiven == FALSE)
         return std::nullopt;
@@ -42,7 +42,7 @@ std::optional<double> pointsOf(gboolean isGiven, RsvgLength length) {
     return std::nullopt;
 }
 
-// What a drawing leaves open of its size follows from its view box. No value without both.
+// The size of the drawing. Missing lengths are derived from the view box; no value if that is missing, too.
 std::optional<Size> declaredSize(RsvgHandle* drawing) {
     gboolean hasWidth = FALSE;
     gboolean hasHeight = FALSE;
@@ -61,12 +61,12 @@ std::optional<Size> declaredSize(RsvgHandle* drawing) {
     }
     if (!width || !height)
         return std::nullopt;
-    // The library computes in single precision, of which 6.35 mm are 23.9999 points.
+    // librsvg computes in single precision, where 6.35 mm are 23.9999 points.
     const auto rounded = [](double points) { return std::round(points * 1e4) / 1e4; };
     return Size{rounded(*width), rounded(*height)};
 }
 
-// One element, or the content of the whole drawing where `id` is null.
+// The size of one element, or of the whole content if `id` is null.
 Runtime::Result<Size> contentSize(RsvgHandle* drawing, const char* id) {
     RsvgRectangle ink{};
     GError* error = nullptr;
@@ -77,7 +77,7 @@ Runtime::Result<Size> contentSize(RsvgHandle* drawing, const char* id) {
 
 Runtime::Result<Owned<RsvgHandle>> svgHandle(std::string_view bytes) {
     GError* error = nullptr;
-    // Without a base there is no file that the drawing could refer to.
+    // Without a base URL the drawing cannot refer to other files.
     Owned<RsvgHandle> drawing(
         rsvg_handle_new_from_data(reinterpret_cast<const guint8*>(bytes.data()), bytes.size(), &error));
     if (drawing == nullptr)
@@ -104,7 +104,7 @@ private:
     Size size_;
 };
 
-// An element of a drawing, or the content of one that has no size of its own.
+// An element of a drawing, or the content of a drawing without a declared size.
 class SvgElement final : public DrawingForm {
 public:
     // `id`: "#Regular-M", or null for the whole content.
@@ -139,8 +139,8 @@ DrawingResult wholeDrawing(Owned<RsvgHandle> drawing) {
     return elementOf(std::move(drawing), nullptr);
 }
 
-// Poppler shares color profiles and fonts between documents without a lock, so one thread at a time has a page, from
-// before it is read until what was drawn of it is complete. Recursive: a thread may have several.
+// Poppler shares color profiles and fonts between documents without a lock, so only one thread at a time may have
+// pages, from before they are read until they are destroyed. Recursive, because a thread may have several pages.
 using PopplerLock = std::unique_lock<std::recursive_mutex>;
 
 PopplerLock lockPoppler() {

@@ -1,5 +1,5 @@
 // SourcePictures/DrawingForms.h
-// The vector formats; internal.
+// Reads vector formats; internal.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -15,7 +15,7 @@ class DrawingForm {
 public:
     virtual ~DrawingForm() = default;
 
-    // In the drawing's units, which are points when it was made for one pixel per point. 0 if the drawing has no size.
+    // The size in the drawing's units, which are points if it was made for one pixel per point. 0 if it has no size.
     [[nodiscard]] virtual AssetCatalog::Size size() const = 0;
     // Draws into the area from the origin to size(). Errors: damaged.
     [[nodiscard]] virtual Runtime::Result<void> draw(cairo_t* context) const = 0;
@@ -23,12 +23,12 @@ public:
 
 using DrawingResult = Runtime::Result<std::unique_ptr<const DrawingForm>>;
 
-// Nothing outside of `bytes`, which must outlive the drawing, is read. Errors: damaged.
+// References to other files are not followed. `bytes` must outlive the drawing. Errors: damaged.
 [[nodiscard]] DrawingResult readSvg(std::string_view bytes);
-// Of a symbol's template the regular drawing: of medium size, or else of the small or large one; without any of them
-// the whole drawing.
+// The regular drawing of a symbol's template: the medium size, else small, else large, else the whole drawing.
 [[nodiscard]] DrawingResult readSymbol(std::string_view bytes);
-// The first page. While a thread has one, other threads wait here; it is destroyed by the thread that read it.
+// The first page. While a thread has a page, other threads wait here. A page must be destroyed by the thread that read
+// it.
 [[nodiscard]] DrawingResult readPdf(std::string_view bytes);
 
 } // namespace SourcePictures

@@ -1,5 +1,5 @@
 // SourcePictures/Formats.h
-// The format of a picture, told by its first bytes; internal.
+// Detects the format of a picture from its first bytes; internal.
 #pragma once
 
 #include <optional>

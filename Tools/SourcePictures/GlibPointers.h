@@ -1,5 +1,5 @@
 // SourcePictures/GlibPointers.h
-// Owners of objects of GLib and cairo; internal.
+// Smart pointers for GLib and cairo objects; internal.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -20,13 +20,13 @@ struct Release {
 };
 template <class T> using Owned = std::unique_ptr<T, Release>;
 
-// "is a damaged WHAT: REASON"; takes the error over, which may be null.
+// "is a damaged WHAT: REASON". Takes ownership of the error, which may be null.
 [[nodiscard]] inline Runtime::Error damaged(const std::string& what, GError* error) {
     const Owned<GError> owned(error);
     std::string message = "is a damaged " + what;
     if (error != nullptr)
         message.append(": ").append(error->message);
-    message.erase(message.find_last_not_of('\n') + 1); // some libraries end the line
+    message.erase(message.find_last_not_of('\n') + 1); // some libraries append a line feed
     return {.message = message};
 }
 

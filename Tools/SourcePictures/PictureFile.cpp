@@ -32,7 +32,7 @@ bool isHeif(std::string_view bytes) {
     return bytes.size() >= 12 && bytes.substr(4, 4) == "ftyp" && std::ranges::count(brands, bytes.substr(8, 4)) != 0;
 }
 
-// Anything that begins as XML does, in any of its encodings, is meant as an SVG.
+// Treats everything that begins like XML, in any encoding, as SVG.
 bool isXml(std::string_view bytes) {
     const std::size_t begin = bytes.find_first_not_of(std::string_view("\xEF\xBB\xBF\xFE\xFF\0 \t\r\n", 10));
     return begin != std::string_view::npos && bytes[begin] == '<';
@@ -48,7 +48,7 @@ bool isForOneScale(const Purpose& purpose) {
     return purpose.scale != 0 && !purpose.preservesVector;
 }
 
-// The scales for which a drawing is drawn, that which it was made for first.
+// The scales at which a drawing is rasterized, beginning with its own.
 std::vector<std::uint8_t> scalesOf(const Purpose& purpose) {
     if (isForOneScale(purpose))
         return {purpose.scale};
@@ -60,7 +60,7 @@ std::vector<std::uint8_t> scalesOf(const Purpose& purpose) {
     return scales;
 }
 
-// Pixels per unit of a drawing for `scale`: a drawing made for one scale is in that scale's pixels.
+// Pixels per unit of a drawing at `scale`. The units of a drawing made for one scale are pixels at that scale.
 double pixelsPerUnit(std::uint8_t scale, const Purpose& purpose) {
     return scale / static_cast<double>(std::max<std::uint8_t>(purpose.scale, 1));
 }
@@ -109,7 +109,7 @@ Runtime::Result<Picture> raster(const AssetCatalog::Bytes& bytes) {
 }
 
 Runtime::Error unknownFormat() {
-    return {.message = "is in no picture format that can be read (PNG, JPEG, GIF, TIFF, WebP, HEIF, SVG, PDF)"};
+    return {.message = "has an unknown format (supported: PNG, JPEG, GIF, TIFF, WebP, HEIF, SVG, PDF)"};
 }
 
 } // namespace

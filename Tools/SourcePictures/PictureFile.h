@@ -1,6 +1,6 @@
 // SourcePictures/PictureFile.h
-// The picture files of source catalogs: which of them can be read, and what a compiled catalog holds of them.
-// Threads: pure functions; different files may be read at the same time.
+// Reads and converts the picture files of source catalogs.
+// Threads: any; different files may be read at the same time.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -16,26 +16,27 @@ inline constexpr std::size_t maxFileBytes = std::size_t{256} << 20;
 
 // How a file is used.
 struct Purpose {
-    // Whether the file is a symbol's template, of which only the regular drawing of medium size counts.
+    // Whether the file is a symbol's template, of which only the regular drawing in medium size is used.
     bool isSymbol = false;
-    std::uint8_t scale = 0; // pixels per point that the file was made for; 0: any
-    // A drawing made for one scale is drawn for the others as well.
+    std::uint8_t scale = 0; // the pixels per point that the file was made for; 0 means any
+    // Whether a drawing made for one scale is also rasterized for the others.
     bool preservesVector = false;
     friend bool operator==(const Purpose&, const Purpose&) = default;
 };
 
-// Makes sure that picturesOf() will succeed, without drawing vectors in their size. PNG, JPEG, GIF, TIFF, WebP and HEIF
-// are read by their content, whatever the file is called, as are SVG and PDF. Errors: another format, damaged, no
-// size, more pixels than a catalog may hold.
+// Checks that picturesOf() will succeed, without rasterizing drawings at full size. The format (PNG, JPEG, GIF, TIFF,
+// WebP, HEIF, SVG, PDF) is detected from the content, not the file name. Errors: another format, damaged, no size, more
+// pixels than a catalog may contain.
 [[nodiscard]] Runtime::Result<void> check(const std::string& bytes, const Purpose& purpose);
 
-// What a catalog holds of the file: a PNG or JPEG as it is, another raster format as a PNG, a drawing (of a PDF the
-// first page) as a PNG for each of the scales 1, 2 and 3, or for the scale that it was made for. That one comes first
-// where there are others. Of the fits only the scale is set.
+// The pictures that a catalog stores for the file: a PNG or JPEG unchanged; other raster formats converted to PNG; a
+// drawing (or the first page of a PDF) as one PNG for each of the scales 1, 2 and 3, or only for the scale that it was
+// made for. Its own scale comes first. Only the scale of each fit is set.
 [[nodiscard]] Runtime::Result<std::vector<AssetCatalog::Picture>> picturesOf(const AssetCatalog::Bytes& bytes,
                                                                              const Purpose& purpose);
 
-// Changes whenever picturesOf() may give other bytes for the same file: the versions of the libraries and of this code.
+// Identifies the versions of this code and of the libraries: it changes whenever picturesOf() may give other bytes for
+// the same file.
 [[nodiscard]] std::string converterVersion();
 
 } // namespace SourcePictures
