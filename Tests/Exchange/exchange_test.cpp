@@ -15,8 +15,8 @@
 namespace {
 
 using namespace std::string_literals;
-using Exchange::Handout;
 using Exchange::State;
+using Exchange::Translations;
 using Exchange::Unit;
 using Intl::PluralCategory;
 using Strings = std::vector<std::string>;
@@ -55,41 +55,41 @@ TEST(UnitIds, AreReadBack) {
 }
 
 // Units with every nasty text at every place, states included.
-Handout nastyHandout(const std::string& language) {
-    Handout handout{.sourceLanguage = "en", .targetLanguage = language};
+Translations nastyTranslations(const std::string& language) {
+    Translations translations{.sourceLanguage = "en", .targetLanguage = language};
     constexpr State states[] = {State::translated, State::isNew, State::needsReview};
     for (std::size_t i = 0; i < std::size(nasty); ++i) {
         Unit unit{.id = {"T", nasty[i], {}, {}}, .source = nasty[i], .target = nasty[(i + 1) % std::size(nasty)]};
         unit.state = states[i % 3];
         unit.comment = nasty[i];
         unit.place = "a b.strings:5";
-        handout.units.push_back(unit);
+        translations.units.push_back(unit);
         for (const PluralCategory category : Exchange::categoriesOf(language)) {
             unit.id.part = {"variables", nasty[i]};
             unit.id.category = unit.sourceCategory = category;
             unit.source = category == PluralCategory::one ? "one" : "other";
-            handout.units.push_back(unit);
+            translations.units.push_back(unit);
         }
     }
-    Exchange::markFuzzy(handout.units, language);
-    return handout;
+    Exchange::markFuzzy(translations.units, language);
+    return translations;
 }
 
 TEST(ExchangeFiles, HoldEveryText) {
     for (const char* language : {"de", "ar", "ja", "ru", "fr", "xx"}) {
-        const Handout handout = nastyHandout(language);
+        const Translations translations = nastyTranslations(language);
         SourceBundle::Diagnostics diagnostics;
-        const auto xliff = Exchange::readXliff(Exchange::writeXliff(handout, "1"), "f", diagnostics);
+        const auto xliff = Exchange::readXliff(Exchange::writeXliff(translations, "1"), "f", diagnostics);
         ASSERT_TRUE(xliff) << xliff.error().text();
-        const auto po = Exchange::readPo(Exchange::writePo(handout, diagnostics), "f", diagnostics);
+        const auto po = Exchange::readPo(Exchange::writePo(translations, diagnostics), "f", diagnostics);
         ASSERT_TRUE(po) << po.error().text();
         EXPECT_TRUE(diagnostics.all().empty());
         ASSERT_EQ(xliff->size(), 1U);
-        for (const Handout& read : {xliff->front(), *po}) {
+        for (const Translations& read : {xliff->front(), *po}) {
             EXPECT_EQ(read.sourceLanguage, "en");
             EXPECT_EQ(read.targetLanguage, language);
-            ASSERT_EQ(read.units.size(), handout.units.size());
-            for (const Unit& unit : handout.units) {
+            ASSERT_EQ(read.units.size(), translations.units.size());
+            for (const Unit& unit : translations.units) {
                 const auto found = std::ranges::find(read.units, unit.id, &Unit::id);
                 ASSERT_NE(found, read.units.end()) << Exchange::textOf(unit.id);
                 EXPECT_EQ(found->source, unit.source);
@@ -134,7 +134,7 @@ TEST(ExchangeFiles, AreRefusedWithThePlaceOfTheFault) {
     Support::TemporaryFolder folder;
     for (const auto& one : cases) {
         SourceBundle::Diagnostics faults;
-        const auto read = Exchange::readHandouts(folder.write("f", one.bytes), faults);
+        const auto read = Exchange::readTranslations(folder.write("f", one.bytes), faults);
         ASSERT_FALSE(read) << "line " << one.line;
         EXPECT_NE(read.error().text().find(one.error), std::string::npos) << "line " << one.line << read.error().text();
     }
@@ -202,17 +202,17 @@ ImportResult import(Support::SourceFolder& folder, const std::vector<Edit>& edit
     const std::filesystem::path folders[] = {folder.path()};
     const auto source = SourceBundle::Source::read(folders, {}, folder.diagnostics);
     folder.diagnostics = {};
-    Handout handout = Exchange::handoutOf(source, folders, "de", false, folder.diagnostics);
+    Translations translations = Exchange::translationsOf(source, folders, "de", false, folder.diagnostics);
     for (const Edit& edit : edits) {
         const auto id = *Exchange::unitIdOf(edit.id);
-        auto unit = std::ranges::find(handout.units, id, &Unit::id);
-        if (unit == handout.units.end())
-            unit = handout.units.insert(unit, {.id = id});
+        auto unit = std::ranges::find(translations.units, id, &Unit::id);
+        if (unit == translations.units.end())
+            unit = translations.units.insert(unit, {.id = id});
         unit->target = edit.target;
         unit->state = edit.state;
     }
     const auto imported =
-        Exchange::importHandouts(source, std::span(&handout, 1), {.keepGoing = keepGoing}, folder.diagnostics);
+        Exchange::importTranslations(source, std::span(&translations, 1), {.keepGoing = keepGoing}, folder.diagnostics);
     if (!imported)
         return {.messages = {imported.error().text()}};
     return {imported->texts, imported->files, folder.takeMessages()};

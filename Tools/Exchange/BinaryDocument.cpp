@@ -11,7 +11,7 @@ using StringTables::PluralEntry;
 namespace {
 
 Runtime::Error wouldLose(const Runtime::Error& note) {
-    return {.message = "a binary table that holds more than texts cannot be edited: " + note.message};
+    return {.message = "a binary table with other values than texts cannot be edited: " + note.message};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // Exchange/BinaryDocument.h
-// Tables in the binary form, which has no layout to keep: they are written anew, in the order that they have; internal.
+// Edits tables in binary form. They have no layout to preserve, so they are rewritten in their existing order;
+// internal.
 #pragma once
 
 #include "Exchange/TableDocument.h"
@@ -12,7 +13,7 @@ namespace Exchange {
 
 class BinaryTexts final : public TableDocument {
 public:
-    // An error where writing would lose values that are not texts.
+    // Fails if the table has values that are not texts, because writing would lose them.
     [[nodiscard]] static Runtime::Result<BinaryTexts> read(std::string bytes);
     BinaryTexts(BinaryTexts&&) = default;
 

@@ -28,7 +28,7 @@ std::string_view nameOf(State state) {
     return {};
 }
 
-// Collects the texts of a localization: its own, and those for devices, categories and substitutions.
+// Collects the texts of a localization: the plain text and those for devices, categories and substitutions.
 class Collector {
 public:
     explicit Collector(JsonNode& localization) { collect(localization); }
@@ -72,7 +72,7 @@ private:
     std::optional<PluralCategory> category_;
 };
 
-// The variations of a node, which has no text of its own beside them.
+// The variations of a node, which cannot also have a plain text.
 JsonNode& variationsOf(JsonNode& node) {
     node.remove(stringUnit);
     return node.member(variations);
@@ -113,7 +113,7 @@ std::vector<StoredText> CatalogDocument::texts(std::string_view key, std::string
     return texts;
 }
 
-// The node of the unit's text, made if need be.
+// The node of the unit's text, created if necessary.
 JsonNode& CatalogDocument::place(JsonNode& localization, const Unit& unit) {
     JsonNode* node = &localization;
     for (std::size_t i = 0; i + 1 < unit.id.part.size(); i += 2) {
@@ -142,7 +142,7 @@ Runtime::Result<void> CatalogDocument::apply(const Change& change) {
     if (known == keys_.end())
         return Runtime::Error{.message = "the string catalog has no key " + key};
     JsonNode& localization = known->second->member("localizations").member(change.language);
-    // A text that gives way to forms is among them.
+    // If a plain text is replaced by forms, all forms must be written.
     for (const Unit* unit : isPlain(localization) ? change.all : change.changed) {
         JsonNode& stored = place(localization, *unit);
         if (stored.find("value") == nullptr || stateOf(stored) != unit->state)

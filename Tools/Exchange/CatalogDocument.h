@@ -1,5 +1,5 @@
 // Exchange/CatalogDocument.h
-// A string catalog (.xcstrings) whose texts are read as they are written down, and edited in place.
+// Reads and edits the texts of a string catalog (.xcstrings) in place.
 #pragma once
 
 #include "Exchange/Json.h"
@@ -13,7 +13,7 @@ namespace Exchange {
 // The parts of a key in a string catalog.
 inline constexpr std::string_view devicePart = "device", substitutionsPart = "substitutions";
 
-// A text of a key in one language, as a file has it.
+// A text of a key in one language.
 struct StoredText {
     std::vector<std::string> part;
     std::optional<PluralCategory> category;
@@ -26,7 +26,8 @@ public:
     [[nodiscard]] static Runtime::Result<CatalogDocument> read(std::string bytes);
     CatalogDocument(CatalogDocument&&) = default;
 
-    // The texts of the key in the language, in their order. A key without a text in the source language has itself.
+    // The texts of the key in the language, in file order. In the source language, a key without a text is its own
+    // text.
     [[nodiscard]] std::vector<StoredText> texts(std::string_view key, std::string_view language);
 
     Runtime::Result<void> apply(const Change& change) override;

@@ -1,5 +1,5 @@
 // Exchange/DecodedText.h
-// A file's characters as UTF-8, and the way back to the encoding that the file has.
+// Converts a file to UTF-8 and back to its own encoding.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -10,13 +10,14 @@
 namespace Exchange {
 
 struct DecodedText {
-    // UTF-16 is made UTF-8, other bytes stay as they are. A byte-order mark stays in UTF-8 and is taken off UTF-16.
+    // Converts UTF-16 to UTF-8; other bytes are unchanged. The byte-order mark is kept in UTF-8 and removed from
+    // UTF-16.
     [[nodiscard]] static Runtime::Result<DecodedText> of(std::string bytes);
-    // `edited`, which is UTF-8, in the encoding of the file.
+    // Converts `edited`, which is UTF-8, to the encoding of the file.
     [[nodiscard]] std::string encoded(std::string_view edited) const;
 
     std::string text;
-    std::optional<StringTables::internal::ByteOrder> utf16; // the order of its bytes, if it is UTF-16
+    std::optional<StringTables::internal::ByteOrder> utf16; // its byte order, if it is UTF-16
     bool hasMark = false;                                   // UTF-16 with a byte-order mark
 };
 

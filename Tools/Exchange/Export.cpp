@@ -12,7 +12,7 @@ using SourceBundle::SourceTable;
 
 namespace {
 
-// "en.lproj/Localizable.strings:12", below the folder of the source.
+// "en.lproj/Localizable.strings:12", relative to the folder of the source.
 std::string placeOf(const SourceEntry& entry, std::span<const fs::path> folders) {
     fs::path shown = entry.file->path.filename();
     for (const fs::path& folder : folders)
@@ -26,7 +26,7 @@ bool isSamePart(const Unit& one, const Unit& other) {
     return one.id.part == other.id.part;
 }
 
-// Takes out the parts of a key of which nothing is missing.
+// Removes the parts of a key that are completely translated.
 void keepMissing(std::vector<Unit>& units, const std::string& language) {
     std::vector<Unit> kept;
     for (auto begin = units.begin(); begin != units.end();) {
@@ -55,24 +55,24 @@ void forEachKey(const Source& source, const SourceTable& table, const std::strin
     }
 }
 
-Handout handoutOf(const Source& source, std::span<const fs::path> folders, const std::string& language,
-                  bool onlyMissing, SourceBundle::Diagnostics& diagnostics) {
-    Handout handout{.sourceLanguage = source.developmentLanguage, .targetLanguage = language};
+Translations translationsOf(const Source& source, std::span<const fs::path> folders, const std::string& language,
+                            bool onlyMissing, SourceBundle::Diagnostics& diagnostics) {
+    Translations translations{.sourceLanguage = source.developmentLanguage, .targetLanguage = language};
     StoredTexts texts(source, diagnostics);
     for (const SourceTable& table : source.tables)
         forEachKey(source, table, language, [&](const Key& key) {
             if (!isExchanged(key))
                 diagnostics.add(Severity::warning,
-                                key.translated->error("has plural forms, which the development text does not have; it "
+                                key.translated->error("has plural forms, but the development text does not; it "
                                                       "is left out"));
             std::vector<Unit> units = unitsOf(key, texts);
             if (onlyMissing)
                 keepMissing(units, language);
             for (Unit& unit : units)
                 unit.place = placeOf(*key.development, folders);
-            std::ranges::move(units, std::back_inserter(handout.units));
+            std::ranges::move(units, std::back_inserter(translations.units));
         });
-    return handout;
+    return translations;
 }
 
 } // namespace Exchange

@@ -1,6 +1,6 @@
 // Exchange/Export.h
-// The texts of a source for translators.
-// Text: UTF-8. Threads: pure functions of the source and its files.
+// Collects the texts of a source for translators.
+// Text: UTF-8. Threads: any; no state.
 #pragma once
 
 #include "Exchange/KeyUnits.h"
@@ -10,13 +10,14 @@
 
 namespace Exchange {
 
-// The texts of `source`, read from `folders`, with their translations in `language`, in the order of tables and of
-// development texts. `onlyMissing`: those that have none, or a new one; of a plural all forms, if one is missing. What
-// has no place in such a file is a warning.
-[[nodiscard]] Handout handoutOf(const SourceBundle::Source& source, std::span<const std::filesystem::path> folders,
-                                const std::string& language, bool onlyMissing, SourceBundle::Diagnostics& diagnostics);
+// The texts of `source`, which was read from `folders`, with their translations in `language`, in the order of tables
+// and development texts. `onlyMissing`: only texts without a translation or with one in state `new`; if one form of a
+// plural is missing, all its forms are included. Warns about texts that cannot be exchanged.
+[[nodiscard]] Translations translationsOf(const SourceBundle::Source& source,
+                                          std::span<const std::filesystem::path> folders, const std::string& language,
+                                          bool onlyMissing, SourceBundle::Diagnostics& diagnostics);
 
-// Calls `visit` for each key of the table that has a development text.
+// Calls `visit` for each key of the table with a development text.
 void forEachKey(const SourceBundle::Source& source, const SourceBundle::SourceTable& table, const std::string& language,
                 const std::function<void(const Key&)>& visit);
 

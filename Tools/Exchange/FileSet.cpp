@@ -14,7 +14,7 @@ Runtime::Error systemError(const fs::path& path, const std::error_code& reason) 
     return {.message = "cannot be written: " + reason.message(), .file = path};
 }
 
-// A name beside `path` that no other run has.
+// A name beside `path` that is unique to this process.
 fs::path beside(const fs::path& path, std::string_view kind) {
     fs::path name = path;
     return name.replace_filename("." + path.filename().string() + "." + std::string(kind) + "-" +
@@ -31,7 +31,7 @@ FileSet::~FileSet() {
             fs::remove(file.old, ignored);
     }
     for (auto folder = folders_.rbegin(); folder != folders_.rend(); ++folder)
-        fs::remove(*folder, ignored); // one that is not empty stays
+        fs::remove(*folder, ignored); // fails unless it is empty
 }
 
 Runtime::Result<void> FileSet::stage(const fs::path& path, std::string_view bytes) {
@@ -54,12 +54,12 @@ Runtime::Result<void> FileSet::stage(const fs::path& path, std::string_view byte
     return {};
 }
 
-Runtime::Result<void> FileSet::put(File& file) {
+Runtime::Result<void> FileSet::replace(File& file) {
     std::error_code failed;
     if (fs::exists(file.target, failed)) {
         const fs::path old = beside(file.target, "old");
         fs::create_hard_link(file.target, old, failed);
-        if (failed) // a file system without links
+        if (failed) // the file system has no hard links
             fs::copy_file(file.target, old, fs::copy_options::overwrite_existing, failed);
         if (failed)
             return systemError(file.target, failed);
@@ -72,7 +72,7 @@ Runtime::Result<void> FileSet::put(File& file) {
     return {};
 }
 
-void FileSet::goBack() {
+void FileSet::rollBack() {
     std::error_code ignored;
     for (const File& file : files_) {
         if (!file.isInPlace)
@@ -86,9 +86,9 @@ void FileSet::goBack() {
 
 Runtime::Result<void> FileSet::commit() {
     for (File& file : files_)
-        if (auto put = this->put(file); !put) {
-            goBack();
-            return put;
+        if (auto replaced = this->replace(file); !replaced) {
+            rollBack();
+            return replaced;
         }
     return {};
 }

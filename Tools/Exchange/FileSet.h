@@ -1,6 +1,6 @@
 // Exchange/FileSet.h
-// Files that are replaced together: all of them or none.
-// Text: paths as the file system has them. Threads: one at a time.
+// Replaces several files: all of them or none.
+// Text: paths are raw bytes. Threads: one at a time.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -16,26 +16,26 @@ public:
     FileSet() = default;
     FileSet(const FileSet&) = delete;
     FileSet& operator=(const FileSet&) = delete;
-    // Takes away what was not put in place, and folders that were made for it.
+    // Removes staged files that were not committed, and folders that were created for them.
     ~FileSet();
 
-    // Writes what `path` is to hold to a temporary file beside it, with the permissions of the file that it replaces;
-    // makes its folder if need be. A link stays, and what it leads to is replaced.
+    // Writes the new content of `path` to a temporary file beside it, with the permissions of the existing file.
+    // Creates the folder if necessary. If `path` is a symbolic link, its target is replaced.
     [[nodiscard]] Runtime::Result<void> stage(const std::filesystem::path& path, std::string_view bytes);
-    // Puts every file in its place, one rename each. After a failure the files are what they were before.
+    // Renames all temporary files to their targets. After a failure all files are restored.
     [[nodiscard]] Runtime::Result<void> commit();
 
 private:
     struct File {
         std::filesystem::path target, staged;
-        std::filesystem::path old{}; // what the target was; empty if it is new
+        std::filesystem::path old{}; // the old content; empty if the target is new
         bool isInPlace = false;
     };
-    Runtime::Result<void> put(File& file);
-    void goBack();
+    Runtime::Result<void> replace(File& file);
+    void rollBack();
 
     std::vector<File> files_;
-    std::vector<std::filesystem::path> folders_; // that were made
+    std::vector<std::filesystem::path> folders_; // that were created
 };
 
 } // namespace Exchange

@@ -22,13 +22,13 @@ using SourceBundle::TableFile;
 
 namespace {
 
-// A key that translations are brought back for.
-struct Returned {
+// A key with translations to import.
+struct ImportedKey {
     Key key;
-    std::vector<Unit> expected;          // the key's units as the source has them
-    std::vector<const Unit*> seen;       // of those, the ones that a file has
-    std::vector<const Unit*> accepted{}; // of `merged`, those that are to change
-    std::vector<Unit> merged{};          // the units as they are to be
+    std::vector<Unit> expected;          // the key's units in the source
+    std::vector<const Unit*> seen;       // those of them that occurred in a file
+    std::vector<const Unit*> accepted{}; // those of `merged` that change
+    std::vector<Unit> merged{};          // the units after the import
     std::string file{};                  // for messages
     std::size_t line = 0;
 };
@@ -39,7 +39,8 @@ Unit* find(std::vector<Unit>& units, const std::vector<std::string>& part, std::
     return found == units.end() ? nullptr : &*found;
 }
 
-// What a file says of a translation's state. The mark of a PO file counts where it is not what an export would give.
+// The state of an imported translation. The fuzzy flag of a PO file counts only if it differs from what an export
+// writes.
 State stateOf(const Unit& unit, const Unit& expected, bool hasStates) {
     if (hasStates)
         return unit.state;
@@ -53,18 +54,19 @@ public:
     Importer(const Source& source, SourceBundle::Diagnostics& faults)
         : source_(source), faults_(faults), texts_(source, faults), targets_(source, texts_) {}
 
-    void read(const Handout& handout) {
-        const auto language = targetLanguage(source_, handout.targetLanguage);
+    void read(const Translations& translations) {
+        const auto language = targetLanguage(source_, translations.targetLanguage);
         if (!language)
-            return fault(handout, 0,
-                         "is in \"" + handout.targetLanguage +
+            return fault(translations, 0,
+                         "is in \"" + translations.targetLanguage +
                              "\", which is not a language that the source is translated to");
-        if (!handout.sourceLanguage.empty() && !isSameLanguage(handout.sourceLanguage, source_.developmentLanguage))
-            return fault(handout, 0,
-                         "was translated from " + handout.sourceLanguage + ", the source's language is " +
+        if (!translations.sourceLanguage.empty() &&
+            !isSameLanguage(translations.sourceLanguage, source_.developmentLanguage))
+            return fault(translations, 0,
+                         "was translated from " + translations.sourceLanguage + ", the source's language is " +
                              source_.developmentLanguage);
-        for (const Unit& unit : handout.units)
-            read(handout, unit, *language);
+        for (const Unit& unit : translations.units)
+            read(translations, unit, *language);
     }
 
     // Changes the documents in memory.
@@ -72,8 +74,8 @@ public:
         for (const std::string& language : languages_)
             for (const SourceTable& table : source_.tables)
                 forEachKey(source_, table, language, [&](const Key& key) {
-                    const auto found = returned_.find(nameOf(language, table.name, key.development->key));
-                    if (found != returned_.end() && !found->second.accepted.empty())
+                    const auto found = keys_.find(nameOf(language, table.name, key.development->key));
+                    if (found != keys_.end() && !found->second.accepted.empty())
                         apply(found->second);
                 });
     }
@@ -86,8 +88,8 @@ public:
     }
 
 private:
-    void fault(const Handout& handout, std::size_t line, std::string message) {
-        faults_.add(Severity::error, {.message = std::move(message), .file = handout.file, .line = line});
+    void fault(const Translations& translations, std::size_t line, std::string message) {
+        faults_.add(Severity::error, {.message = std::move(message), .file = translations.file, .line = line});
     }
 
     static std::string nameOf(std::string_view language, std::string_view table, std::string_view key) {
@@ -95,10 +97,10 @@ private:
         return name.append("/").append(table).append("/").append(key);
     }
 
-    // The key of a unit, or null where the source has none.
-    Returned* returnedFor(const UnitId& id, const std::string& language) {
+    // The key of a unit, or null if the source does not have it.
+    ImportedKey* importedKeyFor(const UnitId& id, const std::string& language) {
         const std::string name = nameOf(language, id.table, id.key);
-        if (const auto known = returned_.find(name); known != returned_.end())
+        if (const auto known = keys_.find(name); known != keys_.end())
             return &known->second;
         const auto table = std::ranges::find(source_.tables, id.table, &SourceTable::name);
         if (table == source_.tables.end())
@@ -115,93 +117,93 @@ private:
                     .translated = translated == nullptr ? nullptr : translated->find(id.key),
                     .developmentLanguage = std::string(developed),
                     .language = language};
-            Returned returned{.key = std::move(key), .expected = {}, .seen = {}};
-            returned.expected = unitsOf(returned.key, texts_);
-            returned.merged = returned.expected;
-            return &returned_.emplace(name, std::move(returned)).first->second;
+            ImportedKey imported{.key = std::move(key), .expected = {}, .seen = {}};
+            imported.expected = unitsOf(imported.key, texts_);
+            imported.merged = imported.expected;
+            return &keys_.emplace(name, std::move(imported)).first->second;
         }
         return nullptr;
     }
 
-    void read(const Handout& handout, const Unit& unit, const std::string& language) {
+    void read(const Translations& translations, const Unit& unit, const std::string& language) {
         const std::string id = textOf(unit.id);
-        Returned* const returned = returnedFor(unit.id, language);
-        if (returned == nullptr || returned->expected.empty())
-            return fault(handout, unit.line, "the source has no text to translate with the id " + id);
-        Unit* const expected = find(returned->expected, unit.id.part, unit.id.category);
+        ImportedKey* const imported = importedKeyFor(unit.id, language);
+        if (imported == nullptr || imported->expected.empty())
+            return fault(translations, unit.line, "the source has no translatable text with the id " + id);
+        Unit* const expected = find(imported->expected, unit.id.part, unit.id.category);
         if (expected == nullptr)
-            return fault(handout, unit.line, whyUnknown(*returned, unit));
-        if (std::ranges::find(returned->seen, expected) != returned->seen.end())
-            return fault(handout, unit.line, id + " appears again");
-        returned->seen.push_back(expected);
+            return fault(translations, unit.line, whyUnknown(*imported, unit));
+        if (std::ranges::find(imported->seen, expected) != imported->seen.end())
+            return fault(translations, unit.line, id + " appears again");
+        imported->seen.push_back(expected);
         if (unit.target.empty())
             return;
-        const Unit* const model = find(returned->expected, unit.id.part, unit.sourceCategory);
+        const Unit* const model = find(imported->expected, unit.id.part, unit.sourceCategory);
         if (unit.source != (model == nullptr ? expected : model)->source)
-            return fault(handout, unit.line, "the development text of " + id + " is another one than was translated");
-        const State state = stateOf(unit, *expected, handout.hasStates);
-        const bool holdsStates = returned->key.development->file->kind == TableFile::Kind::catalog;
+            return fault(translations, unit.line, "the development text of " + id + " has changed since the export");
+        const State state = stateOf(unit, *expected, translations.hasStates);
+        const bool holdsStates = imported->key.development->file->kind == TableFile::Kind::catalog;
         if (unit.target == expected->target && (!holdsStates || state == expected->state))
             return;
         if (unit.target != expected->target)
             if (const auto wrong =
-                    placeholderFault(unit.target, *expected, returned->expected, *returned->key.development))
-                return fault(handout, unit.line, id + " " + *wrong);
-        accept(handout, *returned, unit, state);
+                    placeholderFault(unit.target, *expected, imported->expected, *imported->key.development))
+                return fault(translations, unit.line, id + " " + *wrong);
+        accept(translations, *imported, unit, state);
         if (std::ranges::find(languages_, language) == languages_.end())
             languages_.push_back(language);
     }
 
-    static std::string whyUnknown(Returned& returned, const Unit& unit) {
+    static std::string whyUnknown(ImportedKey& imported, const Unit& unit) {
         const bool hasPart = std::ranges::any_of(
-            returned.expected, [&unit](const Unit& each) { return each.id.part == unit.id.part && each.id.category; });
+            imported.expected, [&unit](const Unit& each) { return each.id.part == unit.id.part && each.id.category; });
         if (unit.id.category && hasPart)
-            return returned.key.language + " has no plural form \"" +
+            return imported.key.language + " has no plural form \"" +
                    std::string(Intl::pluralCategoryNames[indexOf(*unit.id.category)]) + "\" for " + textOf(unit.id);
         return "the key has no text with the id " + textOf(unit.id);
     }
 
-    void accept(const Handout& handout, Returned& returned, const Unit& unit, State state) {
-        Unit& merged = *find(returned.merged, unit.id.part, unit.id.category);
+    void accept(const Translations& translations, ImportedKey& imported, const Unit& unit, State state) {
+        Unit& merged = *find(imported.merged, unit.id.part, unit.id.category);
         merged.target = unit.target;
         merged.state = state;
         merged.line = unit.line;
-        returned.accepted.push_back(&merged);
-        if (returned.file.empty()) {
-            returned.file = handout.file;
-            returned.line = unit.line;
+        imported.accepted.push_back(&merged);
+        if (imported.file.empty()) {
+            imported.file = translations.file;
+            imported.line = unit.line;
         }
     }
 
-    // What a key that is new in the language lacks, or null: every text has to be there that the others need.
-    static const Unit* lacking(const Returned& returned) {
+    // For a key that is new in the language: a required text that is missing, or null.
+    static const Unit* lacking(const ImportedKey& imported) {
         const auto isLacking = [](const Unit& unit) {
             const bool isForDevice = !unit.id.part.empty() && unit.id.part.front() == devicePart;
             return unit.target.empty() && !isForDevice &&
                    unit.id.category.value_or(PluralCategory::other) == PluralCategory::other;
         };
-        if (returned.key.translated != nullptr &&
-            (returned.key.development->plural == nullptr || returned.key.translated->plural != nullptr))
+        if (imported.key.translated != nullptr &&
+            (imported.key.development->plural == nullptr || imported.key.translated->plural != nullptr))
             return nullptr;
-        const auto found = std::ranges::find_if(returned.merged, isLacking);
-        return found == returned.merged.end() ? nullptr : &*found;
+        const auto found = std::ranges::find_if(imported.merged, isLacking);
+        return found == imported.merged.end() ? nullptr : &*found;
     }
 
-    void apply(const Returned& returned) {
-        const Handout place{.sourceLanguage = {}, .targetLanguage = {}, .file = returned.file};
-        if (const Unit* const missing = lacking(returned))
-            return fault(place, returned.line,
-                         textOf(missing->id) + " is missing, without which the others cannot be used");
-        Change change{.development = returned.key.development,
-                      .language = returned.key.language,
-                      .changed = returned.accepted,
+    void apply(const ImportedKey& imported) {
+        const Translations place{.sourceLanguage = {}, .targetLanguage = {}, .file = imported.file};
+        if (const Unit* const missing = lacking(imported))
+            return fault(place, imported.line,
+                         textOf(missing->id) + " is missing; it is required by the other texts of the key");
+        Change change{.development = imported.key.development,
+                      .language = imported.key.language,
+                      .changed = imported.accepted,
                       .all = {}};
-        for (const Unit& unit : returned.merged)
+        for (const Unit& unit : imported.merged)
             if (!unit.target.empty())
                 change.all.push_back(&unit);
-        auto applied = targets_.apply(returned.key, change);
+        auto applied = targets_.apply(imported.key, change);
         if (!applied)
-            return fault(place, returned.line, textOf(change.changed.front()->id) + ": " + applied.error().text());
+            return fault(place, imported.line, textOf(change.changed.front()->id) + ": " + applied.error().text());
         count_ += change.changed.size();
     }
 
@@ -209,14 +211,15 @@ private:
     SourceBundle::Diagnostics& faults_;
     StoredTexts texts_;
     Targets targets_;
-    std::unordered_map<std::string, Returned> returned_;
-    std::vector<std::string> languages_; // with something to change
+    std::unordered_map<std::string, ImportedKey> keys_;
+    std::vector<std::string> languages_; // with changes
     std::size_t count_ = 0;
 };
 
 } // namespace
 
-Runtime::Result<std::vector<Handout>> readHandouts(const std::string& file, SourceBundle::Diagnostics& faults) {
+Runtime::Result<std::vector<Translations>> readTranslations(const std::string& file,
+                                                            SourceBundle::Diagnostics& faults) {
     auto bytes = Runtime::readFile(file, StringTables::Table::maxBytes);
     if (!bytes)
         return std::move(bytes.error());
@@ -224,17 +227,17 @@ Runtime::Result<std::vector<Handout>> readHandouts(const std::string& file, Sour
     const bool isWide = bytes->starts_with("\xFF\xFE") || bytes->starts_with("\xFE\xFF");
     if (isWide || (first != std::string::npos && (*bytes)[first] == '<'))
         return readXliff(*std::move(bytes), file, faults);
-    auto handout = readPo(*bytes, file, faults);
-    if (!handout)
-        return std::move(handout.error());
-    return std::vector<Handout>{*std::move(handout)};
+    auto translations = readPo(*bytes, file, faults);
+    if (!translations)
+        return std::move(translations.error());
+    return std::vector<Translations>{*std::move(translations)};
 }
 
-Runtime::Result<Imported> importHandouts(const Source& source, std::span<const Handout> handouts,
-                                         const ImportOptions& options, SourceBundle::Diagnostics& faults) {
+Runtime::Result<Imported> importTranslations(const Source& source, std::span<const Translations> all,
+                                             const ImportOptions& options, SourceBundle::Diagnostics& faults) {
     Importer importer(source, faults);
-    for (const Handout& handout : handouts)
-        importer.read(handout);
+    for (const Translations& translations : all)
+        importer.read(translations);
     importer.apply();
     if (faults.hasErrors() && !options.keepGoing)
         return Imported{};

@@ -1,5 +1,5 @@
 // Exchange/Import.h
-// Translations brought back into the tables of a source.
+// Writes translations back into the tables of a source.
 // Text: UTF-8. Threads: one import of one source at a time.
 #pragma once
 
@@ -11,25 +11,26 @@
 namespace Exchange {
 
 struct ImportOptions {
-    bool keepGoing = false; // what fits is imported although something does not
+    bool keepGoing = false; // import valid texts even if others are invalid
 };
 
-// What was done.
+// The numbers of changes.
 struct Imported {
-    std::size_t texts = 0; // that changed
+    std::size_t texts = 0; // changed
     std::size_t files = 0;
 };
 
-// Reads the file as XLIFF or PO, told by its content.
-[[nodiscard]] Runtime::Result<std::vector<Handout>> readHandouts(const std::string& file,
-                                                                 SourceBundle::Diagnostics& faults);
+// Reads an XLIFF or PO file; the format is detected from the content.
+[[nodiscard]] Runtime::Result<std::vector<Translations>> readTranslations(const std::string& file,
+                                                                          SourceBundle::Diagnostics& faults);
 
-// Puts the translations into the files of `source`, all or none of them: only the texts that differ change. What does
-// not fit is an error in `faults`: an unknown text, a text given twice, a development text that is not the one that was
-// translated, placeholders that it does not have, a language that is not translated to. The result tells of files that
-// cannot be read or written.
-[[nodiscard]] Runtime::Result<Imported> importHandouts(const SourceBundle::Source& source,
-                                                       std::span<const Handout> handouts, const ImportOptions& options,
-                                                       SourceBundle::Diagnostics& faults);
+// Writes the translations into the files of `source`, either all files or none. Only texts that differ are changed.
+// Invalid translations are errors in `faults`: an unknown text, a text given twice, a development text that has changed
+// since the export, other placeholders than those of the development text, an unknown language. The result reports
+// files that cannot be read or written.
+[[nodiscard]] Runtime::Result<Imported> importTranslations(const SourceBundle::Source& source,
+                                                           std::span<const Translations> all,
+                                                           const ImportOptions& options,
+                                                           SourceBundle::Diagnostics& faults);
 
 } // namespace Exchange

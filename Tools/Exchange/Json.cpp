@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
 
-// Each takes a place in a valid document and returns the end of what begins there.
+// Each takes an offset in a valid document and returns the end of the construct that begins there.
 std::size_t blanksEnd(std::string_view text, std::size_t at) {
     return std::min(text.find_first_not_of(blanks, at), text.size());
 }
@@ -34,7 +34,7 @@ std::size_t valueEnd(std::string_view text, std::size_t at) {
             at = stringEnd(text, at);
             continue;
         }
-        text[at] == '{' || text[at] == '[' ? ++depth : --depth;
+        depth = text[at] == '{' || text[at] == '[' ? depth + 1 : depth - 1;
         ++at;
     } while (depth != 0);
     return at;
@@ -193,7 +193,10 @@ Runtime::Result<JsonDocument> JsonDocument::read(std::string text) {
     if (!document.root_->members_.empty()) {
         const JsonMember& first = document.root_->members_.front();
         layout.separator = first.separator;
-        layout.lineBreak = first.before.starts_with("\r\n") ? "\r\n" : first.before.starts_with('\n') ? "\n" : "";
+        if (first.before.starts_with("\r\n"))
+            layout.lineBreak = "\r\n";
+        else if (first.before.starts_with('\n'))
+            layout.lineBreak = "\n";
         layout.indent = first.before.substr(layout.lineBreak.size());
     }
     return document;

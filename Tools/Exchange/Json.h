@@ -1,7 +1,7 @@
 // Exchange/Json.h
-// A JSON document that is edited in place: what is not changed keeps its bytes, and what is added takes the layout of
-// the rest.
-// Text: UTF-8. Threads: one at a time. Ownership: nodes belong to the document and stay where they are.
+// A JSON document that is edited in place: unchanged parts keep their bytes, and additions follow the document's
+// layout.
+// Text: UTF-8. Threads: one at a time. Ownership: the document owns its nodes, which never move.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -17,10 +17,10 @@ namespace Exchange {
 
 struct JsonMember;
 
-// How a document is laid out, as its first members show.
+// The layout of a document, derived from its first member.
 struct JsonLayout {
-    std::string lineBreak;        // empty in a document of one line
-    std::string indent;           // of one level
+    std::string lineBreak;        // empty in a single-line document
+    std::string indent;           // per level
     std::string separator = ": "; // between a name and its value
     bool escapesSlashes = false;
 };
@@ -28,18 +28,18 @@ struct JsonLayout {
 class JsonNode {
 public:
     [[nodiscard]] bool isObject() const noexcept { return !isString_ && (raw_.empty() || raw_.starts_with('{')); }
-    // The member `name` of an object, the last of that name, or null. Members are read when they are first looked for.
+    // The last member with that name, or null. Members are parsed at the first access.
     [[nodiscard]] JsonNode* find(std::string_view name);
-    // The same; where there is none, an empty object is added: in alphabetical order if the others have it, else last.
-    // A node that is no object becomes one.
+    // The same, but adds an empty object if there is none: in alphabetical order if the members are sorted, else last.
+    // A node that is not an object becomes one.
     JsonNode& member(std::string_view name);
     void remove(std::string_view name);
     [[nodiscard]] std::vector<std::string> names();
-    // The value of a string, or no value.
+    // The value if this is a string, or no value.
     [[nodiscard]] std::optional<std::string> string() const;
-    // Makes it that string. The bytes of an equal one stay.
+    // Sets it to that string. If it is already equal, its bytes are kept.
     void set(std::string_view text);
-    // Adds the members that `other` has in the document, but for `without`.
+    // Adds copies of all members of `other` except `without`.
     void copyMembers(JsonNode& other, std::string_view without);
 
 private:
@@ -48,7 +48,7 @@ private:
     void expand();
     void write(std::string& out, const JsonLayout& layout, std::size_t depth) const;
 
-    std::string_view raw_; // its bytes in the document; empty if it was added
+    std::string_view raw_; // its bytes in the document; empty for an added node
     bool isExpanded_ = false;
     bool isString_ = false; // set to `text_`
     std::string text_;
@@ -58,19 +58,19 @@ private:
 
 struct JsonMember {
     std::string name;
-    // Bytes of the document: white space, the name with its quotation marks, what separates it from its value, and
-    // white space behind that. Empty if the member was added.
+    // Parts of the document: white space, the quoted name, the separator, and the white space after the value. Empty
+    // for an added member.
     std::string_view before, literal, separator, after;
     JsonNode value;
 };
 
 class JsonDocument {
 public:
-    // Reads a document in UTF-8, whose byte-order mark stays. An error if it is not valid.
+    // Reads a UTF-8 document; a byte-order mark is kept. Fails if the JSON is invalid.
     [[nodiscard]] static Runtime::Result<JsonDocument> read(std::string text);
 
     [[nodiscard]] JsonNode& root() noexcept { return *root_; }
-    // The document as it is now.
+    // The edited document.
     [[nodiscard]] std::string text() const;
 
 private:

@@ -27,7 +27,7 @@ std::vector<StoredText> textsOf(const PluralFormat& plural) {
 
 using Part = std::vector<std::string>;
 
-// A part of a key: a text or plural forms, as the development language and the translation have them.
+// A part of a key, which is a text or plural forms, in the development language and the translation.
 struct PartTexts {
     Part part;
     bool isPlural = false;
@@ -39,7 +39,7 @@ const StoredText* find(const std::vector<const StoredText*>& texts, std::optiona
     return found == texts.end() ? nullptr : *found;
 }
 
-// The development text of a category: that of `other`, where the development language does not have the category.
+// The development text for a category, or for `other` if the development language does not have the category.
 const StoredText* developmentText(const std::vector<const StoredText*>& texts, std::optional<PluralCategory> category) {
     if (const StoredText* const same = find(texts, category))
         return same;
@@ -89,7 +89,7 @@ private:
                (category == PluralCategory::zero && find(part.development, category) != nullptr);
     }
 
-    // A format that is nothing but a variable is the same in all languages.
+    // A format that consists of a single variable is the same in all languages.
     bool isTrivialFormat(const PartTexts& part) const {
         if (part.part.size() != 1 || key_.development->plural == nullptr)
             return false;
@@ -103,7 +103,7 @@ private:
                 (!part.development.empty() && part.translated.front()->text == part.development.front()->text));
     }
 
-    // Of a part that the development text does not have, another part's text tells what is meant.
+    // If the development text does not have the part, the text of another part is shown to translators.
     const StoredText* sourceOf(const PartTexts& part, std::optional<PluralCategory> category) const {
         if (const StoredText* const own = developmentText(part.development, category))
             return own;
@@ -113,7 +113,7 @@ private:
         return nullptr;
     }
 
-    // A plain text stands for the form `other`, where the development text has forms or texts for devices.
+    // If the development text has forms or texts for devices, a plain translation counts as the form `other`.
     const StoredText* targetOf(const PartTexts& part, std::optional<PluralCategory> category) const {
         if (const StoredText* const own = find(part.translated, category))
             return own;
@@ -184,7 +184,7 @@ std::vector<Unit> unitsOf(const Key& key, StoredTexts& texts) {
         return {};
     const std::vector<StoredText> development = texts.of(*key.development, key.developmentLanguage);
     std::vector<StoredText> translated;
-    // A plain text beside development plurals is replaced by a plural.
+    // A plain translation of a development plural will be replaced by a plural.
     const bool isReplaced = key.translated != nullptr && key.development->file->kind == TableFile::Kind::plurals &&
                             key.translated->file->kind == TableFile::Kind::texts;
     if (key.translated != nullptr && !isReplaced)

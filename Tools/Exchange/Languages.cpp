@@ -18,15 +18,15 @@ bool isLetter(char c) {
     return folded(c) >= 'a' && folded(c) <= 'z';
 }
 
-// Two or three letters, then parts of up to eight letters and digits.
+// Whether this is a language code: two or three letters, then parts of up to eight letters and digits.
 bool isCode(std::string_view code) {
     constexpr std::size_t longest = 8;
     for (bool isFirst = true;; isFirst = false) {
         const std::size_t size = std::min(code.find('-'), code.size());
         const std::string_view part = code.substr(0, size);
-        const bool isMade =
+        const bool isValid =
             std::ranges::all_of(part, [isFirst](char c) { return isLetter(c) || (!isFirst && c >= '0' && c <= '9'); });
-        if (!isMade || part.empty() || part.size() > longest || (isFirst && (part.size() < 2 || part.size() > 3)))
+        if (!isValid || part.empty() || part.size() > longest || (isFirst && (part.size() < 2 || part.size() > 3)))
             return false;
         if (size == code.size())
             return true;

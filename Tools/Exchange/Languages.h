@@ -1,5 +1,5 @@
 // Exchange/Languages.h
-// The language that texts are translated to: its name, and the plural forms that it needs.
+// Target languages: their names and plural forms.
 #pragma once
 
 #include "Exchange/Unit.h"
@@ -10,18 +10,18 @@
 
 namespace Exchange {
 
-// The language of that code, "pt_BR" or "pt-br", as the source has it; one that the source does not have is "pt-BR" as
-// given, with hyphens. No value where it is no code of a language, or is that of the development texts.
+// The language for a code such as "pt_BR" or "pt-br", as the source spells it; if the source does not have it, the code
+// with hyphens. No value if it is not a language code or is the development language.
 [[nodiscard]] std::optional<std::string> targetLanguage(const SourceBundle::Source& source, std::string_view code);
-// Whether the source has texts in it.
+// Whether the source has texts in the language.
 [[nodiscard]] bool hasLanguage(const SourceBundle::Source& source, std::string_view language);
 [[nodiscard]] bool isSameLanguage(std::string_view one, std::string_view other);
 
-// The plural categories of a language, those that only fractions have among them, and `other`.
+// The plural categories of a language, including those for fractions only, and `other`.
 [[nodiscard]] std::vector<PluralCategory> categoriesOf(std::string_view language);
-// Those that whole numbers have, in the order in which PO files number them.
+// The plural categories for integers, in the order of plural forms in PO files.
 [[nodiscard]] std::vector<PluralCategory> integerCategoriesOf(std::string_view language);
-// Whether a plural without the form is incomplete: whole numbers up to 1,000 have the category, or it is `other`.
+// Whether a plural needs this form: the category is `other` or applies to an integer up to 1,000.
 [[nodiscard]] bool needsCategory(std::string_view language, PluralCategory category);
 
 } // namespace Exchange

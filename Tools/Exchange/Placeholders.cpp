@@ -15,12 +15,11 @@ using StringTables::PluralVariable;
 
 namespace {
 
-// What a text takes: by position the kind of an argument, and by name the variables that it shows, with the position of
-// each where that counts.
+// The arguments of a text: their kinds by position, and the variables by name, with their positions where relevant.
 struct Needs {
     std::map<std::size_t, Placeholder::Kind> arguments;
     std::map<std::string, std::size_t> variables;
-    std::optional<std::size_t> number; // the argument that chooses a plural form
+    std::optional<std::size_t> number; // the argument that selects the plural form
 };
 
 void add(Needs& needs, const StringTables::FormatSignature& signature) {
@@ -29,7 +28,7 @@ void add(Needs& needs, const StringTables::FormatSignature& signature) {
             needs.arguments.emplace(i + 1, *signature.arguments[i]);
 }
 
-// Of a format or form of a .stringsdict entry.
+// The arguments of a format or form of a .stringsdict entry.
 Needs pluralNeeds(PluralPieces pieces) {
     Needs needs;
     StringTables::FormatSignature signature;
@@ -53,7 +52,7 @@ bool take(std::string& text, std::string_view mark) {
     return found;
 }
 
-// Of a text of a string catalog, whose substitutions have arguments of their own.
+// The arguments of a text in a string catalog.
 Needs catalogNeeds(std::string text, const PluralFormat* plural) {
     Needs needs;
     if (plural != nullptr)
@@ -70,7 +69,7 @@ const PluralVariable* variableNamed(const PluralFormat& plural, const std::strin
     return found == plural.variables.end() ? nullptr : &*found;
 }
 
-// The argument of a variable; one that only forms name has the first.
+// The argument of a variable; 1 for a variable that occurs only in forms.
 std::size_t argumentOf(const PluralFormat& plural, const PluralVariable& variable) {
     PluralPieces pieces(plural);
     while (const auto piece = pieces.next())
@@ -101,7 +100,7 @@ public:
         return needs;
     }
 
-    // What the forms of the development text take together.
+    // The arguments of all forms of the development text.
     Needs allNeeds(std::span<const Unit> all) const {
         Needs together;
         for (const Unit& unit : all) {
@@ -130,16 +129,16 @@ const char* nameOf(Placeholder::Kind kind) {
     case Placeholder::Kind::text:
         return "a text (%@)";
     case Placeholder::Kind::integer:
-        return "a whole number (%ld)";
+        return "an integer (%ld)";
     case Placeholder::Kind::number:
-        return "a floating number (%f)";
+        return "a floating-point number (%f)";
     case Placeholder::Kind::percent:
         break;
     }
     return "nothing";
 }
 
-// The first fault of what `given` takes, where `needed` is required and `allowed` is possible.
+// The first mismatch of `given` with the required and the allowed arguments.
 std::optional<std::string> fault(const Needs& given, const Needs& needed, const Needs& allowed) {
     for (const auto& [position, kind] : given.arguments) {
         const auto known = allowed.arguments.find(position);

@@ -1,5 +1,5 @@
 // Exchange/Placeholders.h
-// Whether a translation takes the arguments that the development text takes.
+// Checks that a translation takes the same arguments as the development text.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 
@@ -10,9 +10,9 @@
 
 namespace Exchange {
 
-// What is wrong with the placeholders of `translation`, a text for the unit `expected`, or no value. They are compared
-// by the arguments they take and by the kind of these. A plural form may leave out the number that chooses it, and may
-// take what another form of the development text takes. `all`: the units of the key.
+// What is wrong with the placeholders of `translation`, a text for the unit `expected`, or no value. Compares the
+// arguments and their kinds. A plural form may omit the number that selects it and may take the arguments of any form
+// of the development text. `all`: the units of the key.
 [[nodiscard]] std::optional<std::string> placeholderFault(const std::string& translation, const Unit& expected,
                                                           std::span<const Unit> all,
                                                           const SourceBundle::SourceEntry& development);

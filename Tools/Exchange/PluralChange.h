@@ -1,5 +1,5 @@
 // Exchange/PluralChange.h
-// A change applied to a plural format; internal.
+// Applies changes to a plural format; internal.
 #pragma once
 
 #include "Exchange/TableDocument.h"
@@ -9,13 +9,13 @@
 
 namespace Exchange {
 
-// The parts of a key in a file of plurals.
+// The parts of a key in a .stringsdict file.
 inline constexpr std::string_view formatPart = "format", variablesPart = "variables";
 
-// Puts the units' texts into `plural`. A variable that is not there yet takes its number's type from `development`.
+// Writes the units' texts into `plural`. A new variable gets its value type from `development`.
 void applyTo(StringTables::PluralFormat& plural, std::span<const Unit* const> units,
              const SourceBundle::SourceEntry& development);
-// A new one of all texts of the change; its format, where no unit gives one, is that of the development text.
+// A new plural with all texts of the change. Without a unit for the format, it has that of the development text.
 [[nodiscard]] StringTables::PluralFormat newPlural(const Change& change);
 
 } // namespace Exchange

@@ -8,7 +8,7 @@ namespace Exchange {
 
 namespace {
 
-// Recursive descent; a fault ends everything with false from then on.
+// Recursive descent. After an error all functions return quickly.
 class Evaluator {
 public:
     Evaluator(std::string_view text, std::uint64_t n) : text_(text), n_(n) {}
@@ -22,22 +22,26 @@ public:
 private:
     struct Operator {
         std::string_view sign;
-        int level; // binds more tightly the higher it is
+        int level; // precedence; higher levels bind more tightly
+        std::uint64_t (*apply)(std::uint64_t left, std::uint64_t right);
     };
-    // A sign that begins another comes after it.
-    static constexpr std::array<Operator, 13> operators = {{{"||", 0},
-                                                            {"&&", 1},
-                                                            {"==", 2},
-                                                            {"!=", 2},
-                                                            {"<=", 3},
-                                                            {">=", 3},
-                                                            {"<", 3},
-                                                            {">", 3},
-                                                            {"+", 4},
-                                                            {"-", 4},
-                                                            {"*", 5},
-                                                            {"/", 5},
-                                                            {"%", 5}}};
+    // Longer signs come before their prefixes.
+    using Number = std::uint64_t;
+    static constexpr std::array<Operator, 13> operators = {{
+        {"||", 0, [](Number a, Number b) -> Number { return a != 0 || b != 0; }},
+        {"&&", 1, [](Number a, Number b) -> Number { return a != 0 && b != 0; }},
+        {"==", 2, [](Number a, Number b) -> Number { return a == b; }},
+        {"!=", 2, [](Number a, Number b) -> Number { return a != b; }},
+        {"<=", 3, [](Number a, Number b) -> Number { return a <= b; }},
+        {">=", 3, [](Number a, Number b) -> Number { return a >= b; }},
+        {"<", 3, [](Number a, Number b) -> Number { return a < b; }},
+        {">", 3, [](Number a, Number b) -> Number { return a > b; }},
+        {"+", 4, [](Number a, Number b) -> Number { return a + b; }},
+        {"-", 4, [](Number a, Number b) -> Number { return a - b; }},
+        {"*", 5, [](Number a, Number b) -> Number { return a * b; }},
+        {"/", 5, [](Number a, Number b) -> Number { return a / b; }},
+        {"%", 5, [](Number a, Number b) -> Number { return a % b; }},
+    }};
     static constexpr int highest = 5;
 
     void skipBlanks() {
@@ -78,27 +82,14 @@ private:
                 operators, [&](const Operator& each) { return each.level == level && take(each.sign); });
             if (found == operators.end())
                 break;
-            left = combined(found->sign, left, binary(level + 1));
+            left = combined(*found, left, binary(level + 1));
         }
         return left;
     }
 
-    std::uint64_t combined(std::string_view sign, std::uint64_t left, std::uint64_t right) {
-        if (right == 0 && (sign == "/" || sign == "%"))
-            return wrong();
-        return sign == "||"   ? std::uint64_t{left != 0 || right != 0}
-               : sign == "&&" ? std::uint64_t{left != 0 && right != 0}
-               : sign == "==" ? std::uint64_t{left == right}
-               : sign == "!=" ? std::uint64_t{left != right}
-               : sign == "<=" ? std::uint64_t{left <= right}
-               : sign == ">=" ? std::uint64_t{left >= right}
-               : sign == "<"  ? std::uint64_t{left < right}
-               : sign == ">"  ? std::uint64_t{left > right}
-               : sign == "+"  ? left + right
-               : sign == "-"  ? left - right
-               : sign == "*"  ? left * right
-               : sign == "/"  ? left / right
-                              : left % right;
+    std::uint64_t combined(const Operator& by, std::uint64_t left, std::uint64_t right) {
+        const bool isDivision = by.sign == "/" || by.sign == "%";
+        return right == 0 && isDivision ? wrong() : by.apply(left, right);
     }
 
     std::uint64_t unary() {
@@ -149,7 +140,7 @@ categoriesOfForms(std::string_view expression, std::size_t count, std::string_vi
             return std::nullopt;
         categories[*form] = category;
     }
-    // Some languages have forms of their own for thousands and millions.
+    // Some languages have separate forms for thousands and millions.
     for (const std::uint64_t n : {std::uint64_t{1000}, std::uint64_t{100'000}, std::uint64_t{1'000'000}})
         if (const auto form = evaluated(expression, n); form && *form < count && !categories[*form])
             categories[*form] = Intl::pluralCategory(language, {.i = n});

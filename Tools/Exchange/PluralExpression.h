@@ -1,5 +1,5 @@
 // Exchange/PluralExpression.h
-// The plural rules of PO files: expressions of C over the number `n`.
+// Evaluates the plural rules of PO files: C expressions in the number `n`.
 // Text: ASCII. Threads: any; no state.
 #pragma once
 
@@ -12,13 +12,13 @@
 
 namespace Exchange {
 
-// The value for `n`; no value where the text is no expression or divides by zero. Integers, n, ! * / % + - < <= > >= ==
-// != && || ?: and brackets, nested at most maxExpressionDepth deep.
+// The value for `n`; no value for an invalid expression or a division by zero. Supported are integers, n, ! * / % + - <
+// <= > >= == != && || ?: and brackets, nested up to maxExpressionDepth.
 [[nodiscard]] std::optional<std::uint64_t> evaluated(std::string_view expression, std::uint64_t n);
 inline constexpr int maxExpressionDepth = 64;
 
-// The category that each of `count` forms has in the language, where the expression chooses the form of a number; no
-// value if it tells numbers apart otherwise than the language does. A form that no number has has no category.
+// The plural category of each of `count` forms, where the expression maps numbers to forms. No value if the expression
+// groups numbers differently than the language. A form that no number selects has no category.
 [[nodiscard]] std::optional<std::vector<std::optional<Intl::PluralCategory>>>
 categoriesOfForms(std::string_view expression, std::size_t count, std::string_view language);
 

@@ -1,5 +1,5 @@
 // Exchange/Po.h
-// Units as PO files, the format of gettext and of most translators' programs.
+// Reads and writes PO files, the format of gettext and most translation tools.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 
@@ -9,17 +9,17 @@
 
 namespace Exchange {
 
-// Sets the mark of each of a key's units: its entry in a PO file has a translation that is not finished, or one that
-// gettext's checks would refuse otherwise, since it begins or ends with a line break where its source does not.
+// Sets the fuzzy flag of a key's units. An entry is fuzzy if its translation is unfinished, or if gettext would reject
+// it because it begins or ends with a line break and its source does not.
 void markFuzzy(std::span<Unit> units, std::string_view language);
 
-// A plural is one entry with the forms that whole numbers have, and one entry more for each other form. What PO cannot
-// hold, a NUL character, is left out with a warning.
-[[nodiscard]] std::string writePo(const Handout& handout, SourceBundle::Diagnostics& diagnostics);
+// A plural is one entry with the forms for integers, and one more entry for each other form. Entries with a NUL
+// character, which PO cannot represent, are left out with a warning.
+[[nodiscard]] std::string writePo(const Translations& translations, SourceBundle::Diagnostics& diagnostics);
 
-// Reads a file in UTF-8 whose header names its language. An entry without the id of a text, or whose plural rule is not
-// the language's, is an error in `faults`. Errors: not a PO file, another encoding, no language.
-[[nodiscard]] Runtime::Result<Handout> readPo(const std::string& bytes, const std::string& file,
-                                              SourceBundle::Diagnostics& faults);
+// Reads a UTF-8 file whose header names its language. Entries with an invalid id or another plural rule than the
+// language's are errors in `faults`. Errors: not a PO file, another encoding, no language.
+[[nodiscard]] Runtime::Result<Translations> readPo(const std::string& bytes, const std::string& file,
+                                                   SourceBundle::Diagnostics& faults);
 
 } // namespace Exchange

@@ -12,7 +12,7 @@ bool isSamePart(const Unit& one, const Unit& other) {
     return one.id.key == other.id.key && one.id.part == other.id.part && one.id.table == other.id.table;
 }
 
-// The number of the unit of the category among [begin, end), or `otherwise`.
+// The index of the unit with the category in [begin, end), or `otherwise`.
 std::size_t numberOf(std::span<const Unit> units, std::size_t begin, std::size_t end, PluralCategory category,
                      std::size_t otherwise) {
     for (std::size_t i = begin; i < end; ++i)
@@ -21,18 +21,19 @@ std::size_t numberOf(std::span<const Unit> units, std::size_t begin, std::size_t
     return otherwise;
 }
 
-bool isSplit(std::string_view one, std::string_view other) {
+bool haveDifferentBreaks(std::string_view one, std::string_view other) {
     return one.starts_with('\n') != other.starts_with('\n') || one.ends_with('\n') != other.ends_with('\n');
 }
 
-// Whether gettext would refuse the entry: all of its texts begin and end with a line break, or none does.
-bool isRefused(std::span<const Unit> units, const PoEntry& entry) {
+// Whether gettext would reject the entry: it requires that either all or none of its texts begin (and end) with a line
+// break.
+bool isRejected(std::span<const Unit> units, const PoEntry& entry) {
     const std::string& source = units[entry.singular].source;
     const bool isTranslated =
         std::ranges::any_of(entry.units, [units](std::size_t number) { return !units[number].target.empty(); });
-    return isSplit(source, units[entry.plural].source) ||
+    return haveDifferentBreaks(source, units[entry.plural].source) ||
            (isTranslated && std::ranges::any_of(entry.units, [&](std::size_t number) {
-                return isSplit(source, units[number].target);
+                return haveDifferentBreaks(source, units[number].target);
             }));
 }
 
@@ -66,7 +67,7 @@ void markFuzzy(std::span<Unit> units, std::string_view language) {
         const bool isUnfinished = std::ranges::any_of(entry.units, [units](std::size_t number) {
             return !units[number].target.empty() && units[number].state != State::translated;
         });
-        const bool isFuzzy = isUnfinished || isRefused(units, entry);
+        const bool isFuzzy = isUnfinished || isRejected(units, entry);
         for (const std::size_t number : entry.units)
             units[number].isFuzzy = isFuzzy;
     }

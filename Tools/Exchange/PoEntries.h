@@ -1,5 +1,5 @@
 // Exchange/PoEntries.h
-// Which units make one entry of a PO file; internal.
+// Groups units into entries of a PO file; internal.
 #pragma once
 
 #include "Exchange/Unit.h"
@@ -8,11 +8,11 @@
 
 namespace Exchange {
 
-// One text, or the forms of a plural that whole numbers have, in their order.
+// One text, or the plural forms for integers in order.
 struct PoEntry {
-    std::vector<std::size_t> units{}; // their numbers
+    std::vector<std::size_t> units{}; // indices
     bool isPlural = false;
-    std::size_t singular = 0, plural = 0; // of the units whose sources are msgid and msgid_plural
+    std::size_t singular = 0, plural = 0; // indices of the units whose sources are msgid and msgid_plural
 };
 
 [[nodiscard]] std::vector<PoEntry> poEntries(std::span<const Unit> units, std::string_view language);

@@ -16,7 +16,7 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(0, text.find_last_not_of(" \t\r") + 1);
 }
 
-// The value of a field of the header, or an empty text.
+// The value of a header field, or an empty string.
 std::string_view field(std::string_view header, std::string_view name) {
     while (!header.empty()) {
         const std::size_t size = std::min(header.find('\n'), header.size());
@@ -64,18 +64,19 @@ std::optional<PluralRule> pluralRule(std::string_view forms) {
 
 class Reader {
 public:
-    Reader(Handout& handout, SourceBundle::Diagnostics& faults) : handout_(handout), faults_(faults) {}
+    Reader(Translations& translations, SourceBundle::Diagnostics& faults)
+        : translations_(translations), faults_(faults) {}
 
     Runtime::Result<void> readHeader(const PoText& entry) {
         const std::string_view header = entry.targets.front();
         if (!isUtf8(field(header, "Content-Type")))
-            return error(entry, "the file is not in UTF-8, as the field Content-Type of its header must say");
-        handout_.targetLanguage = field(header, "Language");
-        handout_.sourceLanguage = field(header, "X-Source-Language");
-        if (handout_.targetLanguage.empty())
+            return error(entry, "the header field Content-Type must say charset=UTF-8");
+        translations_.targetLanguage = field(header, "Language");
+        translations_.sourceLanguage = field(header, "X-Source-Language");
+        if (translations_.targetLanguage.empty())
             return error(entry, "the header has no field Language");
         if (const auto rule = pluralRule(field(header, "Plural-Forms")))
-            categories_ = categoriesOfForms(rule->expression, rule->count, handout_.targetLanguage);
+            categories_ = categoriesOfForms(rule->expression, rule->count, translations_.targetLanguage);
         return {};
     }
 
@@ -83,19 +84,19 @@ public:
         const auto id = entry.context ? unitIdOf(*entry.context) : std::nullopt;
         if (!id)
             return fault(entry, entry.context ? "\"" + *entry.context + "\" is not the id of a text"
-                                              : "the entry has no msgctxt, which would say where it belongs");
+                                              : "the entry has no msgctxt with the id of its text");
         if (!entry.plural)
             return add(entry, *id, entry.source, entry.targets.front());
         if (!categories_)
             return fault(entry,
-                         "the plural rule of the header (Plural-Forms) is not that of " + handout_.targetLanguage);
+                         "the plural rule in the header (Plural-Forms) is not that of " + translations_.targetLanguage);
         for (std::size_t i = 0; i < entry.targets.size(); ++i)
             readForm(entry, *id, i);
     }
 
 private:
     Runtime::Error error(const PoText& entry, std::string message) const {
-        return {.message = std::move(message), .file = handout_.file, .line = entry.line};
+        return {.message = std::move(message), .file = translations_.file, .line = entry.line};
     }
     void fault(const PoText& entry, std::string message) {
         faults_.add(Severity::error, error(entry, std::move(message)));
@@ -108,7 +109,7 @@ private:
             return add(entry, id, id.category == PluralCategory::one ? entry.source : *entry.plural,
                        entry.targets[form]);
         if (!entry.targets[form].empty())
-            fault(entry, handout_.targetLanguage + " has no plural form " + std::to_string(form));
+            fault(entry, translations_.targetLanguage + " has no plural form " + std::to_string(form));
     }
 
     void add(const PoText& entry, const UnitId& id, const std::string& source, const std::string& target) {
@@ -117,10 +118,10 @@ private:
             unit.sourceCategory = PluralCategory::other;
         unit.isFuzzy = entry.isFuzzy;
         unit.line = entry.line;
-        handout_.units.push_back(std::move(unit));
+        translations_.units.push_back(std::move(unit));
     }
 
-    Handout& handout_;
+    Translations& translations_;
     SourceBundle::Diagnostics& faults_;
     std::optional<std::vector<std::optional<PluralCategory>>> categories_; // by form
 };
@@ -131,23 +132,24 @@ bool isHeader(const PoText& entry) {
 
 } // namespace
 
-Runtime::Result<Handout> readPo(const std::string& bytes, const std::string& file, SourceBundle::Diagnostics& faults) {
+Runtime::Result<Translations> readPo(const std::string& bytes, const std::string& file,
+                                     SourceBundle::Diagnostics& faults) {
     auto texts = readPoTexts(bytes);
     if (!texts) {
         texts.error().file = file;
         return std::move(texts.error());
     }
-    Handout handout{.file = file, .hasStates = false};
+    Translations translations{.file = file, .hasStates = false};
     const auto header = std::ranges::find_if(*texts, isHeader);
     if (header == texts->end())
         return Runtime::Error{.message = "not a PO file: it has no header", .file = file};
-    Reader reader(handout, faults);
+    Reader reader(translations, faults);
     if (auto read = reader.readHeader(*header); !read)
         return std::move(read.error());
     for (const PoText& text : *texts)
         if (!isHeader(text))
             reader.read(text);
-    return handout;
+    return translations;
 }
 
 } // namespace Exchange

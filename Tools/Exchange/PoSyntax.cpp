@@ -28,14 +28,15 @@ public:
     }
 
 private:
-    // The parts of an entry, in the order in which they come.
+    // The parts of an entry in order.
     enum class Part { none, context, source, plural, target };
 
     bool takeLine() {
         if (rest_.empty())
             return false;
         const std::size_t size = std::min(rest_.find('\n'), rest_.size());
-        all_ = line_ = rest_.substr(0, size);
+        all_ = rest_.substr(0, size);
+        line_ = all_;
         rest_.remove_prefix(std::min(size + 1, rest_.size()));
         ++number_;
         if (const std::size_t invalid = StringTables::internal::firstInvalidUtf8(line_); invalid != line_.npos) {
@@ -69,7 +70,7 @@ private:
         if (line_[0] == '#')
             return readComment();
         if (line_[0] == '"')
-            return part_ == Part::none ? fail("a string that belongs to nothing") : readStrings();
+            return part_ == Part::none ? fail("a string without a keyword") : readStrings();
         readKeyword();
     }
 
@@ -109,15 +110,23 @@ private:
         readStrings();
     }
 
+    bool mayBegin(Part part) const {
+        switch (part) {
+        case Part::context:
+            return part_ == Part::none;
+        case Part::source:
+            return part_ <= Part::context;
+        case Part::plural:
+            return part_ == Part::source;
+        default: // a second msgstr belongs to a plural
+            return part_ >= Part::source && (part_ != Part::target || current_.plural);
+        }
+    }
     void begin(Part part) {
         const bool isNew = part == Part::context || part == Part::source;
         if (isNew && part_ == Part::target)
             finish();
-        const bool isInOrder = part == Part::context  ? part_ == Part::none
-                               : part == Part::source ? part_ <= Part::context
-                               : part == Part::plural ? part_ == Part::source
-                                                      : part_ >= Part::source;
-        if (!isInOrder || (part_ == Part::target && !current_.plural))
+        if (!mayBegin(part))
             return fail("not expected here");
         part_ = part;
         switch (part) {
@@ -153,7 +162,7 @@ private:
         return current_.source;
     }
 
-    // Strings beside each other are one.
+    // Adjacent strings are concatenated.
     void readStrings() {
         for (skipBlanks(); !error_ && !line_.empty(); skipBlanks()) {
             if (!take("\""))
@@ -169,7 +178,7 @@ private:
             out += line_.substr(0, size);
             line_.remove_prefix(size);
             if (line_.empty())
-                return fail("the string is not closed in its line");
+                return fail("the string is not closed on its line");
             if (take("\""))
                 return;
             if (!readEscape(out))
@@ -200,12 +209,12 @@ private:
             value = value * base + digit;
             line_.remove_prefix(1);
         }
-        constexpr int firstBeyondAscii = 0x80; // a byte of a character, which nobody writes so
+        constexpr int firstBeyondAscii = 0x80; // the start of a UTF-8 sequence, which is never escaped
         out += static_cast<char>(value);
         return count != 0 && value < firstBeyondAscii;
     }
 
-    // Keeps the entry that ends.
+    // Stores the current entry.
     void finish() {
         if (part_ == Part::target)
             texts_.push_back(std::move(current_));
@@ -216,7 +225,7 @@ private:
     }
 
     std::string_view rest_;
-    std::string_view all_, line_; // the line, and what is left of it
+    std::string_view all_, line_; // the line, and the rest of it
     std::size_t number_ = 0;      // of the line
     PoText current_;
     Part part_ = Part::none;

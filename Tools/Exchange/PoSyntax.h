@@ -1,5 +1,5 @@
 // Exchange/PoSyntax.h
-// The entries of a PO file, read one after the other; internal.
+// Parses PO files; internal.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -19,8 +19,8 @@ struct PoText {
     std::size_t line = 0; // of msgid
 };
 
-// Obsolete entries ("#~") and comments but for the mark "fuzzy" are passed over. Errors name line and column: not
-// UTF-8, an unknown keyword, a string that is not closed, a bad escape, an entry without its msgid or msgstr.
+// Skips obsolete entries ("#~") and comments, except for the flag "fuzzy". Errors name line and column: not UTF-8, an
+// unknown keyword, an unclosed string, a bad escape, an entry without msgid or msgstr.
 [[nodiscard]] Runtime::Result<std::vector<PoText>> readPoTexts(std::string_view bytes);
 
 } // namespace Exchange

@@ -10,17 +10,17 @@ namespace {
 
 void appendEscaped(std::string& out, char c) {
     constexpr std::string_view characters = "\"\\\n\t\r\a\b\f\v", letters = "\"\\ntrabfv";
+    const auto octal = [](unsigned digit) { return static_cast<char>('0' + digit); };
     const auto byte = static_cast<unsigned char>(c);
     if (const std::size_t found = characters.find(c); found != characters.npos)
-        (out += '\\') += letters[found];
+        out.append({'\\', letters[found]});
     else if (byte < ' ' || byte == 0x7F)
-        (((out += '\\') += static_cast<char>('0' + (byte >> 6))) += static_cast<char>('0' + (byte >> 3 & 7U))) +=
-            static_cast<char>('0' + (byte & 7U));
+        out.append({'\\', octal(byte >> 6), octal(byte >> 3 & 7U), octal(byte & 7U)});
     else
         out += c;
 }
 
-// A text of several lines is written as several.
+// Writes a text of several lines as several strings.
 void appendString(std::string& out, std::string_view keyword, std::string_view text) {
     out.append(keyword).append(" ");
     const std::size_t first = text.find('\n');
@@ -43,7 +43,7 @@ void appendComment(std::string& out, std::string_view mark, std::string_view tex
     }
 }
 
-void appendHeader(std::string& out, const Handout& handout) {
+void appendHeader(std::string& out, const Translations& translations) {
     const auto withUnderscores = [](std::string code) {
         std::ranges::replace(code, '-', '_');
         return code;
@@ -55,24 +55,25 @@ void appendHeader(std::string& out, const Handout& handout) {
                          "MIME-Version: 1.0\n"
                          "Content-Type: text/plain; charset=UTF-8\n"
                          "Content-Transfer-Encoding: 8bit\n";
-    header.append("Language: ").append(withUnderscores(handout.targetLanguage)).append("\n");
-    header.append("X-Source-Language: ").append(withUnderscores(handout.sourceLanguage)).append("\n");
+    header.append("Language: ").append(withUnderscores(translations.targetLanguage)).append("\n");
+    header.append("X-Source-Language: ").append(withUnderscores(translations.sourceLanguage)).append("\n");
     header.append("Plural-Forms: nplurals=")
-        .append(std::to_string(integerCategoriesOf(handout.targetLanguage).size()))
+        .append(std::to_string(integerCategoriesOf(translations.targetLanguage).size()))
         .append("; plural=(")
-        .append(Intl::integerPluralExpression(handout.targetLanguage))
+        .append(Intl::integerPluralExpression(translations.targetLanguage))
         .append(");\n");
     out += "msgid \"\"\n";
     appendString(out, "msgstr", header);
 }
 
-bool holdsNul(const Unit& unit) {
+bool containsNul(const Unit& unit) {
     return unit.source.find('\0') != std::string::npos || unit.target.find('\0') != std::string::npos;
 }
 
 void appendEntry(std::string& out, const PoEntry& entry, std::span<const Unit> units) {
     const Unit& first = units[entry.units.front()];
-    appendComment(out += "\n", "#. ", first.comment);
+    out += "\n";
+    appendComment(out, "#. ", first.comment);
     appendComment(out, "#: ", first.place);
     if (first.isFuzzy)
         out += "#, fuzzy\n";
@@ -90,16 +91,16 @@ void appendEntry(std::string& out, const PoEntry& entry, std::span<const Unit> u
 
 } // namespace
 
-std::string writePo(const Handout& handout, SourceBundle::Diagnostics& diagnostics) {
+std::string writePo(const Translations& translations, SourceBundle::Diagnostics& diagnostics) {
     std::string out;
-    appendHeader(out, handout);
-    const std::span<const Unit> units = handout.units;
-    for (const PoEntry& entry : poEntries(units, handout.targetLanguage)) {
-        const auto isLost = [units](std::size_t number) { return holdsNul(units[number]); };
+    appendHeader(out, translations);
+    const std::span<const Unit> units = translations.units;
+    for (const PoEntry& entry : poEntries(units, translations.targetLanguage)) {
+        const auto isLost = [units](std::size_t number) { return containsNul(units[number]); };
         if (std::ranges::any_of(entry.units, isLost) || isLost(entry.singular) || isLost(entry.plural))
             diagnostics.add(SourceBundle::Severity::warning,
                             {.message = textOf(units[entry.units.front()].id) +
-                                        " holds a NUL character, which PO files cannot hold; it is left out"});
+                                        " contains a NUL character, which PO files cannot represent; it is left out"});
         else
             appendEntry(out, entry, units);
     }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
 
-// "--" would end a comment.
+// Separates "--", which is not allowed in comments.
 std::string commentText(std::string_view text) {
     std::string out;
     for (const char c : text) {
@@ -26,7 +26,7 @@ std::string commentText(std::string_view text) {
     return out;
 }
 
-// The part of white space that begins the last line.
+// The last line of white space, with its line break.
 std::string lastLine(std::string white) {
     std::size_t at = white.rfind('\n');
     if (at == white.npos)
@@ -37,7 +37,7 @@ std::string lastLine(std::string white) {
 }
 
 Runtime::Error unusual(const Change& change) {
-    return {.message = "the table has something else than a text or a plural for " + change.changed.front()->id.key};
+    return {.message = "the table has neither a text nor a plural for " + change.changed.front()->id.key};
 }
 
 } // namespace
@@ -111,7 +111,7 @@ void PropertyListDocument::setText(const XmlNode& string, std::string_view text)
 Runtime::Result<void> PropertyListDocument::apply(const Change& change) {
     for (const Unit* unit : change.all)
         if (!xmlHolds(unit->target) || !xmlHolds(unit->id.key))
-            return Runtime::Error{.message = "the table is XML, which has no way to write a control character"};
+            return Runtime::Error{.message = "the table is XML, which cannot represent control characters"};
     const Unit& first = *change.changed.front();
     const auto known = values_.find(first.id.key);
     const bool isPlural = !first.id.part.empty();
@@ -183,7 +183,7 @@ Runtime::Result<void> PropertyListDocument::editPlural(const XmlNode& entry, con
     return {};
 }
 
-// Adds a form before those of later categories.
+// Adds a form, before those of later categories.
 void PropertyListDocument::editForm(const XmlNode& variable, const Unit& unit) {
     const std::vector<Pair> pairs = pairsOf(variable);
     const std::string_view name = Intl::pluralCategoryNames[indexOf(*unit.id.category)];

@@ -1,5 +1,5 @@
 // Exchange/PropertyListDocument.h
-// A table as an XML property list, of texts or of plurals, edited in place; internal.
+// Edits a table of texts or plurals in an XML property list in place; internal.
 #pragma once
 
 #include "Exchange/DecodedText.h"
@@ -38,7 +38,7 @@ private:
     void editForm(const XmlNode& variable, const Unit& unit);
     void setText(const XmlNode& string, std::string_view text);
 
-    // New pieces; `line` is the line break and the indentation that come before each of their lines.
+    // Create new elements; `line` is the line break and indentation before each of their lines.
     std::string plural(const StringTables::PluralFormat& plural) const;
     std::string variable(const StringTables::PluralVariable& variable, const std::string& line) const;
     std::string pair(std::string_view key, std::string_view text, const std::string& line) const;
@@ -47,12 +47,12 @@ private:
 
     DecodedText file_;
     XmlDocument xml_;
-    const XmlNode& root_;                                    // the outermost dictionary
-    std::unordered_map<std::string, const XmlNode*> values_; // of its keys
-    std::string line_;                                       // before its keys
-    std::string indent_;                                     // of one level
+    const XmlNode& root_;                                    // the top-level dictionary
+    std::unordered_map<std::string, const XmlNode*> values_; // by key
+    std::string line_;                                       // line break and indentation of its keys
+    std::string indent_;                                     // per level
     TextEdits edits_;
-    std::string added_; // to the outermost dictionary
+    std::string added_; // to the top-level dictionary
 };
 
 } // namespace Exchange

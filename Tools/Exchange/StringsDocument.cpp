@@ -10,7 +10,8 @@ namespace {
 
 constexpr std::string_view mark = "\xEF\xBB\xBF"; // the byte-order mark in UTF-8
 
-// Each takes a place in the text of a valid table, which a NUL ends, and returns the end of what begins there.
+// Each takes an offset in the NUL-terminated text of a valid table and returns the end of the construct that begins
+// there.
 std::size_t blanksEnd(const std::string& text, std::size_t at) {
     constexpr std::array<std::string_view, 2> separators = {"\u2028", "\u2029"};
     const std::string_view all = text;
@@ -84,13 +85,14 @@ Runtime::Result<void> StringsDocument::apply(const Change& change) {
 StringsDocument::End StringsDocument::findEnd() const {
     const std::string& text = file_.text;
     const bool braces = hasBraces(text);
-    std::size_t last = 0, lastButOne = 0; // ends of what is neither blank nor comment
+    std::size_t last = 0, lastButOne = 0; // the ends of the last two tokens
     std::size_t at = text.starts_with(mark) ? mark.size() : 0;
     const std::size_t begin = at;
     while ((at = blanksEnd(text, at)) < text.size()) {
         lastButOne = last;
         const bool isQuoted = text[at] == '"' || text[at] == '\'';
-        last = at = isQuoted ? stringEnd(text, at) : at + 1;
+        at = isQuoted ? stringEnd(text, at) : at + 1;
+        last = at;
     }
     const std::size_t entryEnd = braces ? lastButOne : last;
     const std::size_t empty = braces ? blanksEnd(text, begin) + 1 : 0;

@@ -1,5 +1,5 @@
 // Exchange/StringsDocument.h
-// A table of quoted texts, edited in place; internal.
+// Edits a table in text form in place; internal.
 #pragma once
 
 #include "Exchange/DecodedText.h"
@@ -20,17 +20,17 @@ public:
 
 private:
     StringsDocument() = default;
-    // Where the table ends: behind its last entry, before what closes it.
+    // The end of the table: after its last entry, before a closing brace.
     struct End {
-        std::size_t at = 0;          // where new entries go
-        bool lacksSemicolon = false; // the last entry's
-        std::size_t entryEnd = 0;    // behind its last character
+        std::size_t at = 0;          // position of new entries
+        bool lacksSemicolon = false; // of the last entry
+        std::size_t entryEnd = 0;    // after its last character
     };
     End findEnd() const;
     std::string withAddedEntries() const;
 
     DecodedText file_;
-    std::unordered_map<std::string, std::size_t> keys_; // where they are
+    std::unordered_map<std::string, std::size_t> keys_; // their offsets
     TextEdits edits_;
     std::string added_;
 };

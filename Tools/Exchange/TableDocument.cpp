@@ -14,7 +14,7 @@ namespace {
 using Kind = SourceBundle::TableFile::Kind;
 using Read = Runtime::Result<std::unique_ptr<TableDocument>>;
 
-template <class Document> Read given(Runtime::Result<Document> document) {
+template <class Document> Read asDocument(Runtime::Result<Document> document) {
     if (!document)
         return std::move(document.error());
     return std::unique_ptr<TableDocument>(std::make_unique<Document>(*std::move(document)));
@@ -22,21 +22,21 @@ template <class Document> Read given(Runtime::Result<Document> document) {
 
 Read readBytes(Kind kind, std::string bytes) {
     if (kind == Kind::catalog)
-        return given(CatalogDocument::read(std::move(bytes)));
+        return asDocument(CatalogDocument::read(std::move(bytes)));
     const bool isBinary = bytes.starts_with("bplist0");
     if (isBinary && kind == Kind::texts)
-        return given(BinaryTexts::read(std::move(bytes)));
+        return asDocument(BinaryTexts::read(std::move(bytes)));
     if (isBinary)
-        return given(BinaryPlurals::read(std::move(bytes)));
+        return asDocument(BinaryPlurals::read(std::move(bytes)));
     auto decoded = DecodedText::of(bytes);
     if (!decoded)
         return std::move(decoded.error());
     const std::size_t first = decoded->text.find_first_not_of("\xEF\xBB\xBF \t\r\n");
     if (first != std::string::npos && decoded->text[first] == '<')
-        return given(PropertyListDocument::read(bytes));
+        return asDocument(PropertyListDocument::read(bytes));
     if (kind == Kind::texts)
-        return given(StringsDocument::read(*std::move(decoded)));
-    return TableDocument::make(kind); // a file of plurals without content
+        return asDocument(StringsDocument::read(*std::move(decoded)));
+    return TableDocument::make(kind); // an empty file of plurals
 }
 
 } // namespace
@@ -54,8 +54,8 @@ Read TableDocument::read(const SourceBundle::TableFile& file) {
 std::unique_ptr<TableDocument> TableDocument::make(Kind kind) {
     constexpr const char* emptyList = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                                       "<plist version=\"1.0\">\n<dict>\n</dict>\n</plist>\n";
-    auto document =
-        kind == Kind::plurals ? given(PropertyListDocument::read(emptyList)) : given(StringsDocument::read({}));
+    auto document = kind == Kind::plurals ? asDocument(PropertyListDocument::read(emptyList))
+                                          : asDocument(StringsDocument::read({}));
     return *std::move(document);
 }
 

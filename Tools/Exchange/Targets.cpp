@@ -11,7 +11,7 @@ using SourceBundle::TableFile;
 
 namespace {
 
-// The file that has the key's translation or its table's other ones, or null.
+// The file with the translation of the key, else the file with other translations of its table, else null.
 const TableFile* presentFile(const Key& key) {
     const TableFile& development = *key.development->file;
     if (development.kind == TableFile::Kind::catalog)
@@ -30,7 +30,7 @@ const TableFile* presentFile(const Key& key) {
 
 } // namespace
 
-// In the language's folder, where another table has made one, beside that of the development language.
+// The path of a new file, in the language folder beside that of the development language.
 fs::path Targets::newFile(const Key& key) const {
     const fs::path& development = key.development->file->path;
     const fs::path above = development.parent_path().parent_path();

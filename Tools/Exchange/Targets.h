@@ -1,5 +1,5 @@
 // Exchange/Targets.h
-// The files that translations go to; internal.
+// The files that translations are written to; internal.
 #pragma once
 
 #include "Exchange/KeyUnits.h"
@@ -12,13 +12,13 @@ namespace Exchange {
 
 class Targets {
 public:
-    // `texts` has the string catalogs, which are changed there.
+    // Changes the string catalogs in `texts`.
     Targets(const SourceBundle::Source& source, StoredTexts& texts) : source_(source), texts_(texts) {}
 
-    // Changes the key in its file, in memory: in the one that has its translation, else in the table's file of the
-    // language, else in a new one beside the development texts.
+    // Changes the key in memory: in the file with its translation, else in the table's file for the language, else in a
+    // new one.
     [[nodiscard]] Runtime::Result<void> apply(const Key& key, const Change& change);
-    // Writes what was changed, all files or none; returns how many.
+    // Writes the changed files, either all or none. Returns their number.
     [[nodiscard]] Runtime::Result<std::size_t> write();
 
 private:

@@ -1,5 +1,5 @@
 // Exchange/TextEdits.h
-// Replacements in a text, collected in any order and made at once; the rest stays byte for byte.
+// Collects replacements in a text in any order and applies them at once.
 #pragma once
 
 #include <algorithm>
@@ -13,7 +13,7 @@ namespace Exchange {
 
 class TextEdits {
 public:
-    // Replaces [begin, end) of the text. Ranges do not overlap; what is inserted at one place keeps its order.
+    // Replaces [begin, end) of the text. Ranges must not overlap; several insertions at one offset keep their order.
     void replace(std::size_t begin, std::size_t end, std::string with) {
         edits_.push_back({begin, end, std::move(with)});
     }

@@ -61,7 +61,7 @@ std::optional<std::string> unescaped(std::string_view text) {
     return out;
 }
 
-// Takes the plural category off the end of the steps of a part.
+// Moves a plural category from the end of the part to `category`.
 void splitCategory(UnitId& id) {
     auto& part = id.part;
     if (part.size() < 2 || part[part.size() - 2] != pluralStep)

@@ -1,5 +1,5 @@
 // Exchange/Unit.h
-// What translators are handed and bring back: every text once, with where it belongs.
+// The units of translation: every text once, with its id.
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
@@ -16,8 +16,8 @@ namespace Exchange {
 using Intl::PluralCategory;
 using SourceBundle::State;
 
-// One text of a key. A key has a single text, whose part is empty, or several: the forms of a plural, the format and
-// the variables of a .stringsdict entry, texts for devices and substitutions of a string catalog.
+// Identifies one text of a key. A key has a single text, with an empty part, or several: plural forms, the format and
+// variables of a .stringsdict entry, texts for devices and substitutions of a string catalog.
 struct UnitId {
     std::string table;
     std::string key;
@@ -27,31 +27,31 @@ struct UnitId {
     friend bool operator==(const UnitId&, const UnitId&) = default;
 };
 
-// "Localizable/cart.title", "Localizable[variables.days.plural.one]/days left". Whatever a file of XML cannot hold or
-// would be taken for a part is escaped as \u{HEX}, a backslash doubled.
+// "Localizable/cart.title", "Localizable[variables.days.plural.one]/days left". Characters that XML cannot represent,
+// and those that separate the parts of an id, are escaped as \u{HEX}; backslashes are doubled.
 [[nodiscard]] std::string textOf(const UnitId& id);
-// The same back, or no value.
+// Parses the result of textOf(); no value if it is invalid.
 [[nodiscard]] std::optional<UnitId> unitIdOf(std::string_view text);
 
 struct Unit {
     UnitId id;
-    std::string source{};                         // the development text
+    std::string source{};                           // the development text
     std::optional<PluralCategory> sourceCategory{}; // the development form that `source` is
-    std::string target{};                         // the translation; empty: none
-    State state = State::isNew;                   // of the translation
-    bool isFuzzy = false; // the mark that a PO file has: not translated, or the state of a form beside it
+    std::string target{};                           // the translation; empty if there is none
+    State state = State::isNew;                     // of the translation
+    bool isFuzzy = false; // the flag of its PO entry, which may be due to another form of the plural
     std::string comment{};
     std::string place{};  // of the development text, "en.lproj/Localizable.strings:12"
     std::size_t line = 0; // in the file that was read
 };
 
 // The units of one language.
-struct Handout {
+struct Translations {
     std::string sourceLanguage{};
     std::string targetLanguage{};
     std::vector<Unit> units{};
-    std::string file{};    // it was read from
-    bool hasStates = true; // false: only the marks `isFuzzy`, as in PO files
+    std::string file{};    // the file that it was read from
+    bool hasStates = true; // false if only `isFuzzy` is known, as in PO files
 };
 
 } // namespace Exchange

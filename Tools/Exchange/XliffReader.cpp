@@ -13,7 +13,7 @@ using SourceBundle::Severity;
 
 namespace {
 
-// States of XLIFF that say more than "translated".
+// Maps XLIFF states to ours.
 State stateNamed(std::string_view name) {
     if (name == "new" || name == "needs-translation")
         return State::isNew;
@@ -27,7 +27,8 @@ bool isOneOf(std::string_view name, std::initializer_list<std::string_view> name
 // The character of <ph ctype="x-character" equiv-text="1F"/>.
 std::optional<std::string> character(const XmlNode& node) {
     constexpr int hexadecimal = 16;
-    constexpr std::uint32_t end = 0xD800; // none of those that XML cannot hold is beyond but U+FFFE and U+FFFF
+    constexpr std::uint32_t end =
+        0xD800; // the characters that XML cannot represent are below it, except U+FFFE and U+FFFF
     const std::string* const type = node.attribute("ctype");
     const std::string* const digits = node.attribute("equiv-text");
     if (node.name != "ph" || type == nullptr || *type != "x-character" || digits == nullptr)
@@ -46,7 +47,7 @@ public:
     Reader(XmlDocument& document, const std::string& file, SourceBundle::Diagnostics& faults)
         : document_(document), file_(file), faults_(faults) {}
 
-    Runtime::Result<std::vector<Handout>> read() {
+    Runtime::Result<std::vector<Translations>> read() {
         const XmlNode& root = document_.root();
         const std::string* const version = root.attribute("version");
         if (root.name != "xliff" || version == nullptr || !version->starts_with("1."))
@@ -56,7 +57,7 @@ public:
                 readFile(child);
         if (error_)
             return *std::move(error_);
-        return std::move(handouts_);
+        return std::move(all_);
     }
 
 private:
@@ -73,24 +74,24 @@ private:
         const std::string* const target = file.attribute("target-language");
         if (source == nullptr || target == nullptr)
             return fail(file, "<file> has no source-language or no target-language");
-        const auto isSame = [&](const Handout& handout) {
-            return handout.sourceLanguage == *source && handout.targetLanguage == *target;
+        const auto isSame = [&](const Translations& translations) {
+            return translations.sourceLanguage == *source && translations.targetLanguage == *target;
         };
-        auto found = std::ranges::find_if(handouts_, isSame);
-        if (found == handouts_.end())
-            found = handouts_.insert(found, {.sourceLanguage = *source, .targetLanguage = *target, .file = file_});
+        auto found = std::ranges::find_if(all_, isSame);
+        if (found == all_.end())
+            found = all_.insert(found, {.sourceLanguage = *source, .targetLanguage = *target, .file = file_});
         readUnits(file, *found);
     }
 
-    void readUnits(const XmlNode& node, Handout& handout) {
+    void readUnits(const XmlNode& node, Translations& translations) {
         for (const XmlNode& child : node.children)
             if (child.name == "trans-unit")
-                readUnit(child, handout);
+                readUnit(child, translations);
             else if (child.name == "body" || child.name == "group")
-                readUnits(child, handout);
+                readUnits(child, translations);
     }
 
-    void readUnit(const XmlNode& node, Handout& handout) {
+    void readUnit(const XmlNode& node, Translations& translations) {
         const std::string* const text = node.attribute("id");
         const auto id = text == nullptr ? std::nullopt : unitIdOf(*text);
         const XmlNode* const source = node.child("source");
@@ -109,10 +110,10 @@ private:
             if (const std::string* const state = target->attribute("state"))
                 unit.state = stateNamed(*state);
         }
-        handout.units.push_back(std::move(unit));
+        translations.units.push_back(std::move(unit));
     }
 
-    // Marks of segments and other elements that only enclose text are seen through.
+    // Elements that only enclose text, such as segment marks, are replaced by their content.
     void appendText(std::string& out, const XmlNode& node) {
         for (const XmlNode& child : node.children)
             if (!child.isElement())
@@ -122,20 +123,20 @@ private:
             else if (const auto one = character(child))
                 out += *one;
             else
-                fail(child, "the inline element <" + child.name + "> is not known here");
+                fail(child, "the inline element <" + child.name + "> is not supported");
     }
 
     XmlDocument& document_;
     const std::string& file_;
     SourceBundle::Diagnostics& faults_;
-    std::vector<Handout> handouts_;
+    std::vector<Translations> all_;
     std::optional<Runtime::Error> error_;
 };
 
 } // namespace
 
-Runtime::Result<std::vector<Handout>> readXliff(std::string bytes, const std::string& file,
-                                                SourceBundle::Diagnostics& faults) {
+Runtime::Result<std::vector<Translations>> readXliff(std::string bytes, const std::string& file,
+                                                     SourceBundle::Diagnostics& faults) {
     auto document = XmlDocument::read(std::move(bytes));
     if (!document) {
         document.error().file = file;

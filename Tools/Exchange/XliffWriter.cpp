@@ -15,7 +15,7 @@ bool isSamePart(const Unit& one, const Unit& other) {
     return one.id.key == other.id.key && one.id.part == other.id.part;
 }
 
-// What people read: a space for what XML cannot hold, and for line breaks unless they are `kept`.
+// A readable form: characters that XML cannot represent, and control characters not in `kept`, become spaces.
 std::string visible(std::string_view text, std::string_view kept = "") {
     std::string out;
     while (!text.empty()) {
@@ -42,12 +42,12 @@ std::string_view stateName(State state) {
 
 class Writer {
 public:
-    explicit Writer(const Handout& handout) : handout_(handout) {}
+    explicit Writer(const Translations& translations) : translations_(translations) {}
 
     std::string write(std::string_view version) {
         out_ = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                "<xliff version=\"1.2\" xmlns=\"urn:oasis:names:tc:xliff:document:1.2\">\n";
-        std::span<const Unit> rest = handout_.units;
+        std::span<const Unit> rest = translations_.units;
         while (!rest.empty()) {
             const auto end = std::ranges::find_if(
                 rest, [&rest](const Unit& unit) { return unit.id.table != rest.front().id.table; });
@@ -61,8 +61,8 @@ public:
 private:
     void writeTable(std::span<const Unit> units, std::string_view version) {
         out_ += "  <file original=\"" + xmlAttribute(visible(units.front().id.table)) + "\" source-language=\"" +
-                xmlAttribute(handout_.sourceLanguage) + "\" target-language=\"" +
-                xmlAttribute(handout_.targetLanguage) +
+                xmlAttribute(translations_.sourceLanguage) + "\" target-language=\"" +
+                xmlAttribute(translations_.targetLanguage) +
                 "\" datatype=\"plaintext\">\n    <header>\n      <tool tool-id=\"lumora\" tool-name=\"lumora\" "
                 "tool-version=\"" +
                 xmlAttribute(version) + "\"/>\n    </header>\n    <body>\n";
@@ -132,14 +132,14 @@ private:
         out_.append(digits.begin(), end).append("\"/>");
     }
 
-    const Handout& handout_;
+    const Translations& translations_;
     std::string out_;
 };
 
 } // namespace
 
-std::string writeXliff(const Handout& handout, std::string_view version) {
-    return Writer(handout).write(version);
+std::string writeXliff(const Translations& translations, std::string_view version) {
+    return Writer(translations).write(version);
 }
 
 } // namespace Exchange

@@ -1,5 +1,5 @@
 // Exchange/Xml.h
-// An XML document as a tree whose elements know their places, for reading and for editing in place.
+// An XML document as a tree of elements with their positions, for reading and in-place editing.
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
@@ -14,22 +14,22 @@
 
 namespace Exchange {
 
-// An element, or a text between elements, whose name is empty.
+// An element, or a text between elements, which has an empty name.
 struct XmlNode {
     std::string name; // without a namespace's prefix
     std::vector<std::pair<std::string, std::string>> attributes;
     std::vector<XmlNode> children;
-    std::string text; // of a text
+    std::string text; // for a text
 
-    // Bytes of the document: the element with its tags, and what is between them.
+    // Offsets in the document: of the element with its tags, and of its content.
     std::size_t begin = 0, contentBegin = 0, contentEnd = 0, end = 0;
 
     bool isElement() const noexcept { return !name.empty(); }
     // The value of the attribute `wanted`, or null.
     [[nodiscard]] const std::string* attribute(std::string_view wanted) const;
-    // The first child of that name, or null.
+    // The first child with that name, or null.
     [[nodiscard]] const XmlNode* child(std::string_view wanted) const;
-    // The texts within it, one behind the other.
+    // The concatenated texts within the element.
     [[nodiscard]] std::string allText() const;
 };
 
@@ -46,9 +46,9 @@ public:
     ~XmlDocument();
 
     [[nodiscard]] const XmlNode& root() const noexcept { return root_; }
-    // The line of a place, counted from 1; places are asked for in rising order.
+    // The line of an offset, counted from 1. Offsets must not decrease between calls.
     [[nodiscard]] std::size_t lineOf(std::size_t offset);
-    // Whether bytes beyond ASCII are not UTF-8: the document declares another encoding.
+    // Whether the document declares another encoding than UTF-8.
     [[nodiscard]] bool hasOtherEncoding() const noexcept { return hasOtherEncoding_; }
 
 private:
@@ -61,9 +61,9 @@ private:
     bool hasOtherEncoding_ = false;
 };
 
-// Whether XML has a way to write the text.
+// Whether XML can represent the text.
 [[nodiscard]] bool xmlHolds(std::string_view text) noexcept;
-// `text` as content of an element or value of an attribute. `inAscii` writes every other character by its number.
+// Escapes `text` as element content or attribute value. `inAscii` writes other characters as numeric references.
 [[nodiscard]] std::string xmlText(std::string_view text, bool inAscii = false);
 [[nodiscard]] std::string xmlAttribute(std::string_view text);
 

@@ -26,11 +26,11 @@ bool isPo(const ExportOptions& options) {
     return options.format == "po" || (options.format.empty() && options.output.ends_with(".po"));
 }
 
-std::string counted(const Exchange::Handout& handout) {
+std::string counted(const Exchange::Translations& translations) {
     const auto isDone = [](const Exchange::Unit& unit) { return !unit.target.empty(); };
-    const auto done = static_cast<std::size_t>(std::ranges::count_if(handout.units, isDone));
-    return std::to_string(handout.units.size()) + " texts, " + std::to_string(handout.units.size() - done) +
-           " without a translation to " + handout.targetLanguage;
+    const auto done = static_cast<std::size_t>(std::ranges::count_if(translations.units, isDone));
+    return std::to_string(translations.units.size()) + " texts, " + std::to_string(translations.units.size() - done) +
+           " without a translation to " + translations.targetLanguage;
 }
 
 Exit runExport(const ExportOptions& options) {
@@ -43,16 +43,16 @@ Exit runExport(const ExportOptions& options) {
         return fail({.message = "--language: \"" + options.language +
                                 "\" is not a language that the source is translated to; its own is " +
                                 source.developmentLanguage});
-    const Exchange::Handout handout =
-        Exchange::handoutOf(source, options.source.paths(), *language, options.onlyMissing, diagnostics);
-    const std::string text =
-        isPo(options) ? Exchange::writePo(handout, diagnostics) : Exchange::writeXliff(handout, LUMORA_VERSION);
+    const Exchange::Translations translations =
+        Exchange::translationsOf(source, options.source.paths(), *language, options.onlyMissing, diagnostics);
+    const std::string text = isPo(options) ? Exchange::writePo(translations, diagnostics)
+                                           : Exchange::writeXliff(translations, LUMORA_VERSION);
     const Exit reported = report(diagnostics);
     if (reported != Exit::done)
         return reported;
     const Exit written = write(options.output, text);
     if (written == Exit::done)
-        note(counted(handout));
+        note(counted(translations));
     return written;
 }
 

@@ -34,14 +34,14 @@ Exit runImport(const ImportOptions& options) {
     const SourceBundle::Source source = options.source.read(diagnostics);
     if (diagnostics.hasErrors())
         return report(diagnostics);
-    std::vector<Exchange::Handout> handouts;
+    std::vector<Exchange::Translations> all;
     for (const std::string& file : options.files) {
-        auto read = Exchange::readHandouts(file, diagnostics);
+        auto read = Exchange::readTranslations(file, diagnostics);
         if (!read)
             return failWith(diagnostics, std::move(read.error()));
-        std::move(read->begin(), read->end(), std::back_inserter(handouts));
+        std::move(read->begin(), read->end(), std::back_inserter(all));
     }
-    auto imported = Exchange::importHandouts(source, handouts, options.import, diagnostics);
+    auto imported = Exchange::importTranslations(source, all, options.import, diagnostics);
     if (!imported)
         return failWith(diagnostics, std::move(imported.error()));
     const bool hasFaults = diagnostics.hasErrors();

@@ -8,7 +8,7 @@
 
 namespace {
 
-using Exchange::Handout;
+using Exchange::Translations;
 using Exchange::Unit;
 
 void require(bool holds) {
@@ -17,26 +17,26 @@ void require(bool holds) {
 }
 
 // An export has no text twice, and the forms of a plural beside each other.
-bool isLikeAnExport(const Handout& handout) {
+bool isLikeAnExport(const Translations& translations) {
     std::set<std::string> ids;
-    return std::ranges::all_of(handout.units, [&ids](const Unit& unit) {
+    return std::ranges::all_of(translations.units, [&ids](const Unit& unit) {
         return ids.insert(Exchange::textOf(unit.id)).second && !unit.id.category;
     });
 }
 
-bool haveSameTexts(const Handout& one, const Handout& other) {
+bool haveSameTexts(const Translations& one, const Translations& other) {
     return std::ranges::equal(one.units, other.units, [](const Unit& a, const Unit& b) {
         return a.id == b.id && a.source == b.source && a.target == b.target;
     });
 }
 
-void requireSame(const Handout& handout) {
-    for (const Unit& unit : handout.units)
+void requireSame(const Translations& translations) {
+    for (const Unit& unit : translations.units)
         require(Exchange::unitIdOf(Exchange::textOf(unit.id)) == unit.id);
-    if (!isLikeAnExport(handout) || handout.units.empty())
+    if (!isLikeAnExport(translations) || translations.units.empty())
         return;
     SourceBundle::Diagnostics diagnostics;
-    auto written = handout;
+    auto written = translations;
     written.sourceLanguage = "en"; // an export writes codes only
     written.targetLanguage = "de";
     // One table is one <file>.
@@ -60,8 +60,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     else
         require(!po.error().message.empty());
     if (const auto xliff = Exchange::readXliff(bytes, "f", diagnostics))
-        for (const Handout& handout : *xliff)
-            requireSame(handout);
+        for (const Translations& translations : *xliff)
+            requireSame(translations);
     else
         require(!xliff.error().message.empty());
     return 0;
