@@ -13,7 +13,7 @@ using StringTables::PluralFormat;
 
 namespace {
 
-// A sign of width one behind the percent sign, "% d": no translator means a placeholder by it.
+// "% d" is a valid placeholder, but translators who write it mean a percent sign.
 bool isProse(const Placeholder& placeholder, std::string_view format) noexcept {
     return format[placeholder.begin + 1] == ' ';
 }
@@ -86,9 +86,9 @@ Arguments argumentsOf(const SourceBundle::SourceEntry& entry) {
 std::string_view nameOf(Placeholder::Kind kind) noexcept {
     switch (kind) {
     case Placeholder::Kind::integer:
-        return "whole number";
+        return "integer";
     case Placeholder::Kind::number:
-        return "floating number";
+        return "floating-point number";
     case Placeholder::Kind::text:
     case Placeholder::Kind::percent: // takes no argument
         break;

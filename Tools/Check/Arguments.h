@@ -1,5 +1,5 @@
 // Check/Arguments.h
-// The arguments that a text takes, as people mean it: "50% off" has no placeholder, although "% o" reads as one.
+// The arguments that a text takes. "50% off" counts as having no placeholder, although "% o" is one.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 
@@ -12,18 +12,19 @@ namespace Check {
 
 struct Arguments {
     StringTables::FormatSignature signature;
-    std::string_view lonePercent; // the first '%' that is not written "%%", with what it seems to begin; or empty
+    std::string_view
+        lonePercent; // the first '%' that is not written "%%", with the placeholder that it seems to begin; or empty
 
-    // Whether both take arguments of the same kinds by position.
+    // Whether both take arguments of the same kinds at the same positions.
     [[nodiscard]] bool fits(const Arguments& other) const { return signature.arguments == other.signature.arguments; }
-    // "(text, whole number)"; "no arguments".
+    // "(text, integer)" or "no arguments".
     [[nodiscard]] std::string text() const;
 };
 
-// Of the text, or of all forms of a plural text.
+// The arguments of the text, or of all forms of a plural.
 [[nodiscard]] Arguments argumentsOf(const SourceBundle::SourceEntry& entry);
 
-// "text", "whole number", "floating number".
+// "text", "integer", "floating-point number".
 [[nodiscard]] std::string_view nameOf(StringTables::Placeholder::Kind kind) noexcept;
 
 } // namespace Check

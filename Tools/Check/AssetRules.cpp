@@ -34,14 +34,14 @@ using Scales = std::bitset<maxScale + 1>; // by scale
 struct Set {
     const SourceAsset* asset;
     Json contents;
-    std::vector<SetEntry> entries; // point into the contents
+    std::vector<SetEntry> entries; // point into `contents`
 };
 
 bool isUnassigned(const SetEntry& entry) {
     return SourceBundle::member(*entry.json, "unassigned") == Json(true);
 }
 
-// Pictures that are sharp at every scale.
+// Whether the picture is sharp at every scale.
 bool isVector(const SetEntry& entry) {
     const std::string extension = fs::path(SourceBundle::text(*entry.json, "filename")).extension().string();
     return extension == ".pdf" || extension == ".svg" || extension == ".PDF" || extension == ".SVG";
@@ -51,7 +51,7 @@ bool isDark(const SetEntry& entry) {
     return entry.fit.appearance == Appearance::dark;
 }
 
-// The entries of a set that differ in their scale only.
+// The entries of a set that differ only in their scale.
 struct Variant {
     std::string idiom;
     bool isDark = false;
@@ -89,7 +89,8 @@ std::vector<Variant> variantsOf(const Set& set) {
     return variants;
 }
 
-// The scales of the screens of a kind of device, without 1: few catalogs have it, as it is drawn well from the others.
+// The screen scales of a kind of device, without 1: few catalogs have 1x bitmaps, because larger ones can be scaled
+// down.
 Scales scalesOf(std::string_view idiom) {
     if (idiom == "universal" || idiom == "iphone" || idiom == "car")
         return Scales(0b1100);
@@ -127,7 +128,7 @@ private:
     void readSet(const SourceAsset& asset) {
         auto json = SourceBundle::readJsonObject(asset.path / SourceBundle::contentsName);
         if (!json)
-            return; // gone since it was read
+            return; // deleted since it was read
         Set& set = sets_.emplace_back(Set{&asset, *std::move(json), {}});
         std::size_t number = 0;
         for (const Json& entry : SourceBundle::member(set.contents, listOf(asset)))
@@ -137,7 +138,7 @@ private:
 
     static const char* listOf(const SourceAsset& asset) { return asset.kind == Kind::color ? "colors" : "images"; }
 
-    // Whether most of the pictures with several scales have 1x.
+    // Whether most pictures with several scales include 1x.
     bool isSingleScaleUsual() const {
         std::size_t all = 0, withSingle = 0;
         for (const Set& set : sets_)
@@ -172,7 +173,7 @@ private:
         }
     }
 
-    // An empty place for dark mode, or a colour without one where others have it.
+    // Reports an empty slot for dark mode, or a colour without a dark variant in a catalog that has some.
     void checkDark(const Set& set, bool isExpected) {
         if (std::ranges::any_of(set.entries, isFilledDark))
             return;
@@ -181,10 +182,10 @@ private:
             return !SourceBundle::text(SourceBundle::member(*entry.json, "color"), "reference").empty();
         });
         if (place != set.entries.end())
-            report(set, *place, Rule::assetMissingDark, " has an empty place for dark mode");
+            report(set, *place, Rule::assetMissingDark, " has an empty slot for dark mode");
         else if (isExpected && !isSystemColor && !set.entries.empty())
             report(set, set.entries.front(), Rule::assetMissingDark,
-                   " has no colour for dark mode, as others of its catalog have");
+                   " has no colour for dark mode, but others in its catalog have");
     }
 
     void report(const Set& set, const SetEntry& entry, Rule rule, const std::string& what) {
@@ -200,7 +201,7 @@ private:
     }
 
     Report& report_;
-    std::deque<Set> sets_; // their entries point into their contents
+    std::deque<Set> sets_; // a deque, because entries point into the sets
 };
 
 } // namespace

@@ -1,6 +1,6 @@
 // Check/AssetRules.h
-// asset-missing-scale, asset-missing-dark: the variants that a set lacks. What is wrong with the variants that it has
-// is among the messages of reading it.
+// asset-missing-scale, asset-missing-dark: finds missing variants. Faults of existing variants are reported when the
+// set is read.
 #pragma once
 
 #include "Check/Report.h"
@@ -9,7 +9,7 @@
 
 namespace Check {
 
-// Reads the Contents.json of each asset anew, because empty places in it are no part of an asset.
+// Reads the Contents.json of each asset again, because SourceAsset does not include empty slots.
 void checkAssets(std::span<const SourceBundle::SourceAsset> assets, Report& report);
 
 } // namespace Check

@@ -1,5 +1,5 @@
 // Check/Characters.h
-// The characters of a text, from both ends; internal.
+// Functions on characters; internal.
 // Text: well-formed UTF-8. Threads: any; no state.
 #pragma once
 
@@ -9,7 +9,7 @@
 
 namespace Check {
 
-// The character at the end of `text`, which is taken off; 0 where there is none.
+// Removes the last character of `text` and returns it; 0 if the text is empty.
 [[nodiscard]] inline char32_t takeLastCharacter(std::string_view& text) noexcept {
     if (text.empty())
         return 0;
@@ -21,8 +21,8 @@ namespace Check {
     return StringTables::internal::takeCharacter(last);
 }
 
-// The first `part` in `text` at or behind `from`, or npos. string_view::find stops at each first character of `part`,
-// which is slow where that is frequent.
+// The first `part` in `text` at or after `from`, or npos. Faster than string_view::find, which stops at each occurrence
+// of the first character.
 [[nodiscard]] inline std::size_t findPart(std::string_view text, std::string_view part, std::size_t from = 0) noexcept {
     if (text.size() - from < part.size())
         return text.npos;
@@ -30,7 +30,7 @@ namespace Check {
     return found == nullptr ? text.npos : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
 }
 
-// White space of every width, line breaks among them.
+// White space of any width, including line breaks.
 [[nodiscard]] constexpr bool isSpace(char32_t c) noexcept {
     return c == ' ' || (c >= 0x09 && c <= 0x0D) || c == 0x85 || c == 0xA0 || (c >= 0x2000 && c <= 0x200A) ||
            c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F || c == 0x3000;
@@ -38,7 +38,7 @@ namespace Check {
 [[nodiscard]] constexpr bool isLineBreak(char32_t c) noexcept {
     return c == '\n' || c == '\r' || c == 0x85 || c == 0x2028 || c == 0x2029;
 }
-// Marks of writing direction, joiners, a byte-order mark.
+// Direction marks, joiners, the byte-order mark.
 [[nodiscard]] constexpr bool isInvisible(char32_t c) noexcept {
     return c == 0x61C || (c >= 0x200B && c <= 0x200F) || (c >= 0x202A && c <= 0x202E) || (c >= 0x2060 && c <= 0x2069) ||
            c == 0xFEFF;

@@ -42,7 +42,7 @@ std::vector<std::string> languagesOf(const Source& source) {
     return {languages.begin(), languages.end()};
 }
 
-// The rules about texts, each language on its own.
+// Checks the texts, each language in a separate step.
 void checkTexts(const Source& source, std::span<const DevelopedTable> tables, std::vector<Report>& reports) {
     const std::vector<std::string> languages = languagesOf(source);
     const auto shared = sharedTexts(tables);
@@ -67,11 +67,11 @@ auto placeOf(const Finding& finding) {
                     finding.subject, finding.message);
 }
 
-bool areOneFault(const Finding& one, const Finding& other) {
+bool areSame(const Finding& one, const Finding& other) {
     return placeOf(one) == placeOf(other);
 }
 
-// A text whose placeholders contradict each other has no accessor because of that.
+// Contradicting placeholders are also the reason why a text has no accessor.
 bool explains(const Finding& mismatch, const Finding& unnamed) {
     return mismatch.rule == Rule::placeholderMismatch && unnamed.rule == Rule::unnamedKey &&
            mismatch.file == unnamed.file && mismatch.subject == unnamed.subject;
@@ -79,9 +79,9 @@ bool explains(const Finding& mismatch, const Finding& unnamed) {
 
 std::vector<Finding> sorted(std::vector<Finding> findings) {
     std::ranges::sort(findings, [](const Finding& one, const Finding& other) { return placeOf(one) < placeOf(other); });
-    // Not the one of std::ranges, which clang 14 cannot compile with this standard library.
-    findings.erase(std::unique(findings.begin(), findings.end(), areOneFault), findings.end());
-    // Findings of one key are beside each other, the errors first.
+    // Not std::ranges::unique: clang 14 cannot compile it with this standard library.
+    findings.erase(std::unique(findings.begin(), findings.end(), areSame), findings.end());
+    // Findings of one key are adjacent, errors first.
     std::vector<Finding> kept;
     for (Finding& finding : findings)
         if (kept.empty() || !explains(kept.back(), finding))
@@ -94,7 +94,7 @@ std::vector<Finding> sorted(std::vector<Finding> findings) {
 std::vector<Finding> check(const Source& source, const Options& options, Diagnostics& diagnostics) {
     Diagnostics others;
     const Settings settings = Settings::read(options.folders, options.disabled, others);
-    // Names and assets need as long as all texts.
+    // Runs in parallel, because names and assets take as long as all texts.
     auto modelling = std::async(std::launch::async, [&] {
         return Generator::modelOf(source, {.module = "Module", .names = options.names}, diagnostics);
     });

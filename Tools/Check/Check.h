@@ -1,6 +1,6 @@
 // Check/Check.h
-// Finds the faults of a source.
-// Threads: works on all processors; the source is only read.
+// Finds faults in a source.
+// Threads: uses all processors; does not change the source.
 #pragma once
 
 #include "Check/Finding.h"
@@ -15,12 +15,12 @@ struct Options {
     std::vector<std::filesystem::path> folders{}; // of the source; their settings files are read
     std::filesystem::path names{};                // see Generator::NamesFile; empty: none
     RuleSet disabled{};
-    const SourceBundle::Source* older = nullptr; // what development texts are compared with
-    std::vector<std::filesystem::path> usedIn{}; // C++ sources that use accessors; empty: use is not looked for
+    const SourceBundle::Source* older = nullptr; // development texts are compared with it
+    std::vector<std::filesystem::path> usedIn{}; // C++ sources that use accessors; empty: usage is not checked
 };
 
-// The findings, by file and place. `diagnostics` holds the messages about reading the source: those that are findings
-// are taken out, what else goes wrong is added.
+// The findings, sorted by file and location. `diagnostics` has the messages about reading the source: those that are
+// findings are removed, and other problems are added.
 [[nodiscard]] std::vector<Finding> check(const SourceBundle::Source& source, const Options& options,
                                          SourceBundle::Diagnostics& diagnostics);
 

@@ -1,5 +1,5 @@
 // Check/DevelopmentTexts.h
-// The development texts of one table, which translations are compared with.
+// The development texts of one table, for comparison with translations.
 // Ownership: points into the source. Threads: any, immutable once made.
 #pragma once
 
@@ -16,7 +16,7 @@ namespace Check {
 struct DevelopmentText {
     const SourceBundle::SourceEntry* entry = nullptr;
     Arguments arguments{};
-    std::optional<Arguments> before{}; // that it took in the older source, where they differ
+    std::optional<Arguments> before{}; // the arguments in the older source, if they differ
 };
 
 class DevelopmentTexts {
@@ -27,10 +27,10 @@ public:
 
     [[nodiscard]] const std::vector<DevelopmentText>& all() const noexcept { return texts_; }
     [[nodiscard]] const DevelopmentText* find(std::string_view key) const;
-    // The same; looks first at the text behind `last`, since languages mostly have one order.
+    // The same, but first looks at the text after `last`, because most languages have their keys in the same order.
     [[nodiscard]] const DevelopmentText* findBehind(const DevelopmentText* last, std::string_view key) const;
 
-    // A file of the development texts cannot be read, so texts are missing here.
+    // Whether a file of the development texts is unreadable, so texts may be missing.
     [[nodiscard]] bool isDamaged() const noexcept { return isDamaged_; }
 
 private:

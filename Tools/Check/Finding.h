@@ -1,6 +1,6 @@
 // Check/Finding.h
-// One fault of a source and its place.
-// Text: UTF-8; paths as the file system has them. Threads: plain values.
+// One fault in a source and its location.
+// Text: UTF-8; paths are raw bytes. Threads: plain values.
 #pragma once
 
 #include "Check/Rules.h"
@@ -13,7 +13,7 @@ namespace Check {
 struct Finding {
     Rule rule;
     std::filesystem::path file;
-    std::uint32_t line = 0;   // counted from 1; 0 where the file has no lines
+    std::uint32_t line = 0;   // counted from 1; 0 if the file has no lines
     std::uint32_t column = 0; // in characters, counted from 1
     std::string language{};   // "de"; empty for an asset
     std::string subject{};    // the key or the asset's name, or empty

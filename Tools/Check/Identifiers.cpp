@@ -96,7 +96,7 @@ private:
             forget();
     }
 
-    // What follows is not qualified by what came before.
+    // Ends a qualified name.
     void forget() {
         last_ = {};
         isQualified_ = false;
@@ -105,7 +105,7 @@ private:
     std::string_view code_;
     const Visit& visit_;
     std::size_t at_ = 0;
-    std::string_view last_; // the identifier before, if only white space and "::" are behind it
+    std::string_view last_; // the preceding identifier, if only white space and "::" follow it
     bool isQualified_ = false;
 };
 

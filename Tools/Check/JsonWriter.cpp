@@ -20,7 +20,7 @@ std::string asJson(std::span<const Finding> findings, Severity lowest) {
                            {"key", finding.subject},
                            {"message", finding.message}});
     }
-    // A path need not be UTF-8.
+    // Paths may be invalid UTF-8.
     return all.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

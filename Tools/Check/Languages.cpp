@@ -14,7 +14,7 @@ bool isOneOf(const std::array<std::string_view, count>& languages, std::string_v
     return std::ranges::find(languages, primaryLanguage(tag)) != languages.end();
 }
 
-// Repeating a word is grammar in these: plurals, emphasis, "slowly slowly".
+// In these languages repeating a word is grammatical: plurals, emphasis.
 constexpr std::array<std::string_view, 13> repeating = {"bn", "fa", "gu", "hi", "kn", "ml", "mr",
                                                         "pa", "ta", "te", "tr", "ur", "vi"};
 

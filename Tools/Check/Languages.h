@@ -1,30 +1,30 @@
 // Check/Languages.h
-// How languages write, as far as the rules differ for them.
-// Text: language tags as folders have them ("pt-BR"). Threads: any; constant data.
+// Differences between languages that the rules depend on.
+// Text: language tags as in folder names ("pt-BR"). Threads: any; constant data.
 #pragma once
 
 #include <string_view>
 
 namespace Check {
 
-// "pt" of "pt-BR".
+// "pt" for "pt-BR".
 [[nodiscard]] std::string_view primaryLanguage(std::string_view tag) noexcept;
 
-// Whether both are one language but for the region ("en-GB", "en"), so that each serves the readers of the other.
+// Whether both differ only in their region ("en-GB", "en"), so that readers of one can read the other.
 [[nodiscard]] bool areVariants(std::string_view one, std::string_view other) noexcept;
 
 // Whether words are written without spaces between them: Chinese, Japanese, Thai, Lao, Khmer, Burmese.
 [[nodiscard]] bool writesWithoutSpaces(std::string_view tag) noexcept;
 
-// Whether a sentence may end without a full stop where other languages have one.
+// Whether a sentence may omit the full stop that other languages require.
 [[nodiscard]] bool mayOmitFullStop(std::string_view tag) noexcept;
 
 // Whether `word`, in lower case, may follow itself in a correct sentence.
 [[nodiscard]] bool mayRepeat(std::string_view word, std::string_view tag) noexcept;
 
-// The mark that ends a text, whatever the language writes for it; `none` for a letter or another character.
+// The kind of punctuation mark at the end of a text, in any script; `none` for other characters.
 enum class Mark { none, fullStop, question, exclamation, colon, semicolon, comma, ellipsis };
-// Of the end of `text`, without white space, quotation marks and brackets behind it.
+// The last mark of `text`, ignoring white space, quotation marks and brackets after it.
 [[nodiscard]] Mark lastMark(std::string_view text, std::string_view tag) noexcept;
 
 } // namespace Check

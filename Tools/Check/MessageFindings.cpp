@@ -19,7 +19,7 @@ using SourceBundle::Topic;
 
 namespace {
 
-// No value for what is no fault of the source, or is found by a rule of its own.
+// No value for messages that are not faults of the source or are found by another rule.
 std::optional<Rule> ruleFor(Topic topic) {
     switch (topic) {
     case Topic::unreadableTable:
@@ -45,7 +45,7 @@ std::optional<Rule> ruleFor(Topic topic) {
     return std::nullopt;
 }
 
-// The languages of files with texts.
+// Maps table files to their languages and entries.
 class FileLanguages {
 public:
     explicit FileLanguages(const Source& source) {
@@ -76,7 +76,7 @@ private:
     std::unordered_map<std::string, Known> known_;
 };
 
-// A message about a set as a whole is about its Contents.json.
+// A message about a whole set is located in its Contents.json.
 Runtime::Error placeOf(const Runtime::Error& what) {
     std::error_code failed;
     if (what.line != 0 || !fs::is_directory(what.file, failed))

@@ -1,5 +1,5 @@
 // Check/MessageFindings.h
-// The findings among the messages that reading and naming a source give: unreadable-table, duplicate-key, name-clash,
+// Turns messages of the source reader and the generator into findings: unreadable-table, duplicate-key, name-clash,
 // unnamed-key, unreadable-asset, asset-missing-file, asset-unassigned, asset-duplicate-variant.
 #pragma once
 
@@ -8,7 +8,7 @@
 
 namespace Check {
 
-// Reports each of `messages` that is a fault; other warnings and errors go to `others`.
+// Reports each of `messages` that is a fault; other warnings and errors are added to `others`.
 void takeFindings(const SourceBundle::Source& source, const SourceBundle::Diagnostics& messages, Report& report,
                   SourceBundle::Diagnostics& others);
 

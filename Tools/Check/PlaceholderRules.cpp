@@ -13,12 +13,11 @@ void checkChange(const Text& text, Report& report) {
     const DevelopmentText& own = *text.development;
     if (own.before)
         text.report(report, Rule::changedPlaceholder,
-                    quote(text.entry.key) + " takes " + own.arguments.text() + "; before it took " +
-                        own.before->text());
+                    quote(text.entry.key) + " takes " + own.arguments.text() + "; it took " + own.before->text());
 }
 
-// A translation that fits the older development text is not at fault: the change is. Nor is one of a development text
-// that is at fault itself.
+// Nothing is reported for a translation that matches the older development text, where the change is at fault, nor for
+// one of a development text that has an error of its own.
 bool fits(const Arguments& arguments, const DevelopmentText& development) {
     return development.arguments.signature.conflict || arguments.fits(development.arguments) ||
            (development.before && arguments.fits(*development.before));
@@ -32,7 +31,7 @@ void checkPlaceholders(const Text& text, Report& report) {
     if (!arguments.lonePercent.empty())
         text.report(report, Rule::lonePercent,
                     quote(text.entry.key) + " has " + quote(arguments.lonePercent) +
-                        ", which is written \"%%\" if a percent sign is meant");
+                        "; write \"%%\" for a percent sign");
     if (const auto& conflict = arguments.signature.conflict)
         return text.report(report, Rule::placeholderMismatch,
                            quote(text.entry.key) + " takes argument " + std::to_string(conflict->position) +

@@ -18,7 +18,7 @@ constexpr std::uint8_t bitOf(PluralCategory category) noexcept {
     return static_cast<std::uint8_t>(1U << Intl::indexOf(category));
 }
 
-// The rules repeat themselves within these numbers, but for those about whole thousands and millions.
+// The rules are periodic within these numbers, except those for whole thousands and millions.
 constexpr int mostWhole = 200, mostTenths = 30;
 
 std::uint8_t categoryBit(std::string_view language, const std::string& number) {
@@ -54,7 +54,7 @@ NeededForms neededForms(std::string_view language) {
         needed.ofWhole |= categoryBit(language, std::to_string(i));
     for (int i = 0; i <= mostTenths; ++i)
         needed.ofFloating |= categoryBit(language, std::to_string(i / 10) + '.' + std::to_string(i % 10));
-    needed.ofFloating |= needed.ofWhole; // "%g" prints a whole number without a point
+    needed.ofFloating |= needed.ofWhole; // "%g" prints integers without a decimal point
     return needed;
 }
 

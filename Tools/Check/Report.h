@@ -1,6 +1,6 @@
 // Check/Report.h
-// Collects the findings of one step; those of rules that are off are dropped.
-// Threads: one report belongs to one thread; several may share their settings.
+// Collects the findings of one step and drops those of disabled rules.
+// Threads: one thread per report; several reports may share their settings.
 #pragma once
 
 #include "Check/Finding.h"
@@ -21,7 +21,7 @@ public:
         if (settings_.isOn(finding))
             findings_.push_back(std::move(finding));
     }
-    // A finding about a text. Its comment, or that of its `development` text, may allow it.
+    // Adds a finding about a text, unless its comment or that of its `development` text allows it.
     void add(Rule rule, const SourceBundle::SourceEntry& entry, std::string_view language, std::string message,
              const SourceBundle::SourceEntry* development = nullptr) {
         if (isAllowed(rule, entry) || (development != nullptr && isAllowed(rule, *development)))
@@ -30,7 +30,7 @@ public:
              std::move(message)});
     }
 
-    // Warns of names in the entry's comment that are no rules.
+    // Warns about unknown rule names in the entry's comment.
     void checkComment(const SourceBundle::SourceEntry& entry) {
         if (entry.comment.empty())
             return;
@@ -51,7 +51,7 @@ public:
 private:
     const Settings& settings_;
     std::vector<Finding> findings_;
-    std::vector<Runtime::Error> warnings_; // about the switches themselves
+    std::vector<Runtime::Error> warnings_; // about settings in comments
 };
 
 } // namespace Check

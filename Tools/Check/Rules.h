@@ -1,5 +1,5 @@
 // Check/Rules.h
-// What `lumora check` looks for. Docs/check.md describes each rule with examples.
+// The rules of `lumora check`. Docs/check.md describes each rule with examples.
 // Text: ASCII. Threads: any; constant data.
 #pragma once
 
@@ -14,7 +14,7 @@ namespace Check {
 
 using SourceBundle::Severity;
 
-// In the order of reports: by severity, then by name in the table of rules.
+// In report order: by severity, then as in the table of rules.
 enum class Rule : std::uint8_t {
     unreadableTable,
     placeholderMismatch,
@@ -48,11 +48,11 @@ struct RuleInfo {
     Rule rule;
     std::string_view name; // "missing-key"
     Severity severity;
-    std::string_view summary; // what is wrong, one phrase
-    std::string_view help;    // what to do, one sentence
+    std::string_view summary; // what is wrong, as a phrase
+    std::string_view help;    // what to do, as a sentence
 };
 
-// By rule.
+// In the order of the enumeration.
 [[nodiscard]] std::span<const RuleInfo, ruleCount> allRules() noexcept;
 [[nodiscard]] const RuleInfo& infoOf(Rule rule) noexcept;
 [[nodiscard]] std::optional<Rule> ruleNamed(std::string_view name) noexcept;

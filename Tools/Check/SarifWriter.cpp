@@ -13,7 +13,7 @@ using Json = nlohmann::ordered_json;
 namespace {
 
 std::string percentEncoded(std::string_view path) {
-    constexpr std::string_view plain = "-._~/!$&'()*+,;=@"; // of RFC 3986, without ':', which could end a scheme
+    constexpr std::string_view plain = "-._~/!$&'()*+,;=@"; // allowed by RFC 3986, except ':', which could end a scheme
     std::string uri;
     for (const char c : path) {
         const bool isPlain =
@@ -32,7 +32,7 @@ std::string uriOf(const fs::path& file, const fs::path& folder) {
     return isInside ? percentEncoded(relative.generic_string()) : "file://" + percentEncoded(whole.generic_string());
 }
 
-// FNV-1a, 64 bits: the same in every version.
+// 64-bit FNV-1a, the same in every version.
 std::string hashOf(std::string_view text) {
     std::uint64_t hash = 0xCBF29CE484222325;
     for (const char c : text)
@@ -72,7 +72,7 @@ public:
     }
 
 private:
-    // Of all but the place and the message; findings that are alike in it are numbered.
+    // A hash of everything except location and message. Equal hashes get a running number.
     std::string fingerprint(const Finding& finding, const RuleInfo& rule, const std::string& uri) {
         std::string identity(rule.name);
         for (const std::string& part : {uri, finding.language, finding.subject})

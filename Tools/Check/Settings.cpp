@@ -21,12 +21,12 @@ void add(RuleSet& rules, Rule rule) {
     rules.set(static_cast<std::size_t>(rule));
 }
 
-// Reads one settings file. What is wrong with it is said with its name.
+// Reads one settings file; messages name it.
 class SettingsReader {
 public:
     SettingsReader(fs::path file, Diagnostics& diagnostics) : file_(std::move(file)), diagnostics_(diagnostics) {}
 
-    // No value where there is no file, or after an error.
+    // Null if there is no file, or after an error.
     Json parsed() {
         std::error_code failed;
         if (!fs::exists(fs::symlink_status(file_, failed)))
@@ -47,15 +47,15 @@ public:
         return json;
     }
 
-    // The rules that the list `json` names.
+    // The rules in the list `json`.
     RuleSet rules(const Json& json) {
         RuleSet rules;
         if (!json.is_array())
-            say(Severity::error, "rules are given as a list of names");
+            say(Severity::error, "expected a list of rule names");
         else
             for (const Json& name : json)
                 if (!name.is_string())
-                    say(Severity::error, "rules are given as a list of names");
+                    say(Severity::error, "expected a list of rule names");
                 else if (const auto rule = ruleNamed(name.get_ref<const std::string&>()))
                     add(rules, *rule);
                 else
@@ -63,7 +63,7 @@ public:
         return rules;
     }
 
-    // The lists of the object that is the member `name`.
+    // The lists in the object `name`, by member.
     std::map<std::string, RuleSet> rulesByName(const Json& json, const char* name) {
         std::map<std::string, RuleSet> all;
         if (!json.contains(name))
@@ -126,7 +126,8 @@ RuleSet allowedBy(std::string_view comment, std::vector<std::string_view>* unkno
     for (std::size_t mark = findPart(comment, allowMark); mark != comment.npos;
          mark = findPart(comment, allowMark, mark)) {
         mark += allowMark.size();
-        bool isListed = true; // what follows is a name: the first, or one behind a comma; otherwise it may be prose
+        bool isListed =
+            true; // the next word must be a rule: it is the first or follows a comma; other words may be prose
         for (std::string_view rest = comment.substr(mark); !rest.empty();) {
             const std::size_t begin = std::min(rest.find_first_not_of(separators), rest.size());
             isListed |= rest.substr(0, begin).find(',') != rest.npos;

@@ -1,6 +1,6 @@
 // Check/Settings.h
-// Which rules are switched off where: for a run; for a source folder, or a language or an asset in it, by its
-// lumora-check.json; for one key by a comment, "lumora: allow RULE, RULE".
+// The disabled rules: for a run; for a source folder, or a language or asset in it, in its lumora-check.json; for one
+// key in its comment, "lumora: allow RULE, RULE".
 // Threads: any, immutable once read.
 #pragma once
 
@@ -22,17 +22,17 @@ inline constexpr std::string_view settingsFileName = "lumora-check.json";
 
 class Settings {
 public:
-    // `disabled` is off everywhere; each folder's settings file, if there is one, is for the files in that folder. A
-    // file that is not what it should be is an error, an unknown rule in it a warning.
+    // `disabled` applies everywhere; the settings file of a folder, if there is one, applies to the files in that
+    // folder. An invalid settings file is an error, an unknown rule in it a warning.
     [[nodiscard]] static Settings read(std::span<const std::filesystem::path> folders, RuleSet disabled,
                                        SourceBundle::Diagnostics& diagnostics);
 
     [[nodiscard]] bool isOn(const Finding& finding) const;
 
 private:
-    using Rules = std::map<std::string, RuleSet>; // by name
+    using Rules = std::map<std::string, RuleSet>; // by language or asset
     struct Folder {
-        std::string prefix; // of the files in it
+        std::string prefix; // of the paths in it
         RuleSet disabled;
         Rules byLanguage;
         Rules byAsset;
@@ -43,7 +43,7 @@ private:
     std::vector<Folder> folders_;
 };
 
-// The rules that a comment allows. Names that are no rules go to `unknown`.
+// The rules that a comment allows. Unknown names are added to `unknown`.
 RuleSet allowedBy(std::string_view comment, std::vector<std::string_view>* unknown = nullptr);
 
 } // namespace Check

@@ -21,7 +21,7 @@ namespace Unicode = Generator::Unicode;
 
 namespace {
 
-// Whether `test` holds for the text, or for one of the strings of a plural text.
+// Whether `test` holds for the text, or for any string of a plural.
 template <class Test> bool isAny(const SourceEntry& entry, const Test& test) {
     if (entry.plural == nullptr)
         return test(entry.text);
@@ -34,7 +34,7 @@ template <class Test> bool isAny(const SourceEntry& entry, const Test& test) {
     return false;
 }
 
-// Two spaces between words; indentation and spaces before a line break are layout.
+// Whether there are two spaces between words. Indentation and spaces before a line break are ignored.
 bool hasDoubleSpace(std::string_view text) {
     for (std::size_t at = findPart(text, "  "); at != text.npos; at = findPart(text, "  ", at)) {
         const std::size_t end = std::min(text.find_first_not_of(' ', at), text.size());
@@ -64,7 +64,7 @@ bool isWord(std::string_view token) {
     return hasLetter;
 }
 
-// Whether `token` is `word`, in any case, with nothing but marks behind it.
+// Whether `token` is `word`, ignoring case and punctuation after it.
 bool repeats(std::string_view word, std::string_view token) {
     while (!word.empty()) {
         if (token.empty())
@@ -83,7 +83,7 @@ std::string lowered(std::string_view word) {
     return Unicode::encoded(out);
 }
 
-// Takes the next word off `text`, with its marks; empty at the end.
+// Removes the next word of `text`, with its punctuation, and returns it; empty at the end.
 std::string_view takeToken(std::string_view& text) {
     constexpr auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
     const auto begin = std::ranges::find_if_not(text, isBlank);
@@ -93,7 +93,7 @@ std::string_view takeToken(std::string_view& text) {
     return token;
 }
 
-// A word that follows itself, or an empty text.
+// The first word that is repeated, or an empty string.
 std::string_view repeatedWord(std::string_view text, std::string_view language) {
     std::string_view last = takeToken(text);
     for (std::string_view token = takeToken(text); !token.empty(); token = takeToken(text)) {
@@ -113,7 +113,7 @@ std::string_view repeatedWord(const SourceEntry& entry, std::string_view languag
     return word;
 }
 
-// Whether there is something to translate: a letter outside of placeholders, and more than an address.
+// Whether there is something to translate: letters outside of placeholders, and not just a web or mail address.
 bool isProse(std::string_view text) {
     const bool isOneWord = text.find(' ') == text.npos;
     if (isOneWord && (text.find("://") != text.npos || text.starts_with("www.")))
@@ -134,7 +134,7 @@ bool isProse(std::string_view text) {
     return hasLetter(rest) && !(isOneWord && rest.find('@') != rest.npos);
 }
 
-// Whether the text has at most one word: a full stop behind it is that of an abbreviation, "sec.".
+// Whether the text has at most one word, so that a full stop marks an abbreviation such as "sec.".
 bool isOneWord(std::string_view text) {
     int words = 0;
     for (std::string_view token = takeToken(text); !token.empty(); token = takeToken(text))
@@ -159,7 +159,7 @@ void checkWording(const Text& text, Report& report) {
     const SourceEntry* development =
         text.development == nullptr || text.isDevelopment() ? nullptr : text.development->entry;
     if (isAny(text.entry, hasDoubleSpace) && (development == nullptr || !isAny(*development, hasDoubleSpace)))
-        text.report(report, Rule::doubleSpace, quote(text.entry.key) + " has two spaces behind each other");
+        text.report(report, Rule::doubleSpace, quote(text.entry.key) + " has two adjacent spaces");
     const std::string_view word = repeatedWord(text.entry, text.languages.own);
     if (!word.empty() && (development == nullptr || repeatedWord(*development, text.languages.development).empty()))
         text.report(report, Rule::repeatedWord, quote(text.entry.key) + " repeats the word " + quote(word));

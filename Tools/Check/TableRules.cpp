@@ -18,7 +18,7 @@ using SourceBundle::TableFile;
 
 namespace {
 
-// Whether the text has a space at each end, line breaks aside.
+// Whether the text begins (or ends) with a space, ignoring line breaks.
 bool beginsWithSpace(std::string_view text) {
     while (!text.empty()) {
         const char32_t c = StringTables::internal::takeCharacter(text);
@@ -34,9 +34,9 @@ bool endsWithSpace(std::string_view text) {
     return false;
 }
 
-// "begins with", or an empty text where nothing is wrong.
+// "begins with", or an empty string if nothing is wrong.
 std::string differenceOf(const char* verb, bool hasOwn, bool hasOther, const Text& text) {
-    // Between words of such a language no space is needed.
+    // Languages without spaces between words may omit the space.
     const bool isFault = hasOwn != hasOther && (hasOwn || !writesWithoutSpaces(text.languages.own));
     return isFault ? std::string(verb) + (hasOwn ? " with" : " without") : "";
 }
@@ -51,7 +51,7 @@ void checkEdges(const Text& text, Report& report) {
                         " a space, unlike the development text");
 }
 
-// "\r\n" is one.
+// Counts line breaks; "\r\n" is one.
 std::size_t lineBreaks(std::string_view text) {
     auto count = static_cast<std::size_t>(std::ranges::count(text, '\n'));
     for (std::size_t at = text.find('\r'); at != text.npos; at = text.find('\r', at + 1))
@@ -94,7 +94,7 @@ public:
         }
     }
 
-    // Each key that is not there is reported where it would be.
+    // Reports each missing key where it would be.
     Coverage checkKeys() {
         Coverage coverage;
         const SourceEntry* before = nullptr;
@@ -147,7 +147,7 @@ private:
                         .language = texts_.language,
                         .subject = std::string(development.key),
                         .message = quote(development.key) + " has no text in " + texts_.language};
-        // In a string catalog the key itself is there; a file of one language has a place behind the key before.
+        // A string catalog contains the key; in the file of one language, report it at the preceding key.
         if (development.file->kind != TableFile::Kind::catalog) {
             finding.file = before == nullptr ? texts_.files.front()->path : before->file->path;
             finding.line = before == nullptr ? 1 : before->line;
@@ -163,7 +163,7 @@ private:
     NeededForms needed_{};
 };
 
-// The whole table is missing: one fault.
+// A missing table is reported once.
 Coverage reportMissingTable(const DevelopedTable& table, std::string_view language, Report& report) {
     Coverage coverage;
     const SourceEntry* first = nullptr;

@@ -1,6 +1,6 @@
 // Check/TextRules.h
-// The rules about texts, a family in each source file.
-// Threads: each function reads the source and writes to its report only.
+// The rules for texts; each source file has a group of them.
+// Threads: functions only read the source and write to their report.
 #pragma once
 
 #include "Check/DevelopmentTexts.h"
@@ -14,21 +14,21 @@
 
 namespace Check {
 
-// The languages whose grammar the texts in hand follow: Base is written in the development language.
+// The languages of a text and its development text. Base is in the development language.
 struct LanguagePair {
     std::string_view own;
     std::string_view development;
-    bool isTranslation; // from one into the other
+    bool isTranslation; // from `development` into `own`
 };
 
-// One text: its key, its language, and the development text of its key; null for a key that has none.
+// One text with its language and its development text, or null if the key has none.
 struct Text {
     const SourceBundle::SourceEntry& entry;
     std::string_view language;
     const DevelopmentText* development;
     const LanguagePair& languages;
 
-    // Whether it is the development text itself.
+    // Whether this is the development text itself.
     [[nodiscard]] bool isDevelopment() const noexcept { return development != nullptr && development->entry == &entry; }
     void report(Report& report, Rule rule, std::string message) const {
         report.add(rule, entry, language, std::move(message), development == nullptr ? nullptr : development->entry);
@@ -38,8 +38,8 @@ struct Text {
 // placeholder-mismatch, changed-placeholder, lone-percent.
 void checkPlaceholders(const Text& text, Report& report);
 
-// The plural forms that a language needs, a bit for each category. Categories of large numbers only, such as whole
-// millions in French, are not needed: `other` is right for them, too.
+// The plural forms that a language needs, as bit sets of categories. Categories for large numbers only, such as whole
+// millions in French, are not required, because `other` is acceptable for them.
 struct NeededForms {
     std::uint8_t ofWhole;
     std::uint8_t ofFloating;
@@ -49,13 +49,13 @@ struct NeededForms {
 // missing-plural-form.
 void checkPluralForms(const Text& text, NeededForms needed, Report& report);
 
-// double-space, repeated-word, for every text; what the development text has too is reported there only.
+// double-space, repeated-word. A fault that the development text has, too, is reported only there.
 void checkWording(const Text& text, Report& report);
 
-// untranslated, punctuation-mismatch; for texts that are not the development text.
+// untranslated, punctuation-mismatch; not for the development text itself.
 void checkStyle(const Text& text, Report& report);
 
-// Texts of a table, counted.
+// The number of texts and of translated ones.
 struct Coverage {
     std::size_t all = 0;
     std::size_t translated = 0;
@@ -67,32 +67,34 @@ struct Coverage {
     }
 };
 
-// A table that has development texts.
+// A table with its development texts.
 struct DevelopedTable {
     const SourceBundle::SourceTable* table;
     DevelopmentTexts development;
 };
 
 // missing-key, unknown-key, space-mismatch, newline-mismatch, and all rules above, for the texts of a table in one
-// language. Returns how much is translated.
+// language. Returns the coverage.
 Coverage checkTable(const SourceBundle::Source& source, const DevelopedTable& table, std::string_view language,
                     Report& report);
 
-// inconsistent-translation. `equal` are development texts that read alike, with their tables' languages.
+// A development text that occurs several times, with its table.
 struct SharedText {
     const SourceBundle::SourceTable* table;
     const SourceBundle::SourceEntry* entry;
 };
-// The development texts that appear more than once.
+// The development texts that occur more than once, grouped by text.
 [[nodiscard]] std::vector<std::vector<SharedText>> sharedTexts(std::span<const DevelopedTable> tables);
-void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view language, Report& report);
+// inconsistent-translation.
+void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view
+// language, Report& report);
 
 // coverage.
 void reportCoverage(std::span<const DevelopedTable> tables, std::string_view language, const Coverage& coverage,
                     Report& report);
 
-// Whether texts in `language` are translations: not those of Base, nor of "en-GB" where "en" is the development
-// language.
+// Whether texts in `language` are translations. Those of Base are not, nor those of "en-GB" if the development language
+// is "en".
 [[nodiscard]] bool isTranslation(std::string_view language, const SourceBundle::Source& source) noexcept;
 
 } // namespace Check

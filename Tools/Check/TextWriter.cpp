@@ -36,8 +36,8 @@ std::string placeOf(const Finding& finding) {
     return place;
 }
 
-std::string styled(std::string_view text, std::string_view style, bool isColoured) {
-    return isColoured ? std::string(style).append(text).append("\033[0m") : std::string(text);
+std::string styled(std::string_view text, std::string_view style, bool isColored) {
+    return isColored ? std::string(style).append(text).append("\033[0m") : std::string(text);
 }
 
 std::string summary(const std::array<std::size_t, 3>& counts, Severity lowest) {
@@ -54,7 +54,7 @@ std::string summary(const std::array<std::size_t, 3>& counts, Severity lowest) {
 
 } // namespace
 
-std::string asText(std::span<const Finding> findings, Severity lowest, bool isColoured) {
+std::string asText(std::span<const Finding> findings, Severity lowest, bool isColored) {
     std::array<std::vector<const Finding*>, ruleCount> byRule;
     std::array<std::size_t, 3> counts{}; // by severity
     for (const Finding& finding : findings) {
@@ -66,9 +66,9 @@ std::string asText(std::span<const Finding> findings, Severity lowest, bool isCo
         const auto& its = byRule[static_cast<std::size_t>(rule.rule)];
         if (its.empty() || rule.severity < lowest)
             continue;
-        text += styled(rule.name, "\033[1m", isColoured);
+        text += styled(rule.name, "\033[1m", isColored);
         text.append(": ").append(rule.summary).append(" (").append(std::to_string(its.size())).append(")\n");
-        const std::string label = styled(std::string(nameOf(rule.severity)) + ":", colorOf(rule.severity), isColoured);
+        const std::string label = styled(std::string(nameOf(rule.severity)) + ":", colorOf(rule.severity), isColored);
         for (const Finding* finding : its)
             text.append("  ")
                 .append(placeOf(*finding))

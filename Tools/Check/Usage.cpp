@@ -19,12 +19,11 @@ using SourceBundle::Diagnostics;
 namespace {
 
 constexpr std::size_t maxSourceBytes = std::size_t{64} << 20;
-constexpr std::string_view generatedMark = "// Made from the resources of the module ";
 
 struct Accessor {
     std::string_view name;
     std::string_view group;                           // the innermost namespace
-    Finding finding;                                  // if it is not used
+    Finding finding;                                  // reported if it is not used
     const SourceBundle::SourceEntry* entry = nullptr; // of a text
     bool isUsed = false;
 };
@@ -46,15 +45,15 @@ public:
             byName_[all_[i].name].push_back(i);
     }
 
-    // Marks what `qualifier::name` may mean; the qualifier may be empty, or an alias.
+    // Marks all accessors that `qualifier::name` may refer to; the qualifier may be empty or an alias.
     void use(std::string_view name, std::string_view qualifier) {
         const auto found = byName_.find(name);
         if (found == byName_.end())
             return;
-        const auto isIts = [&](std::size_t number) { return all_[number].group == qualifier; };
-        const bool isKnown = std::ranges::any_of(found->second, isIts);
+        const auto isInGroup = [&](std::size_t number) { return all_[number].group == qualifier; };
+        const bool isKnown = std::ranges::any_of(found->second, isInGroup);
         for (const std::size_t number : found->second)
-            all_[number].isUsed |= !isKnown || isIts(number);
+            all_[number].isUsed |= !isKnown || isInGroup(number);
     }
 
     void report(Report& report) const {
@@ -104,7 +103,7 @@ bool isSource(const fs::path& file) {
     return std::ranges::find(extensions, file.extension().string()) != extensions.end();
 }
 
-// The sources below `tree`, but for those in hidden folders; links are not followed.
+// The sources below `tree`, except in hidden folders; links are not followed.
 std::vector<fs::path> sourcesIn(const fs::path& tree, Diagnostics& diagnostics) {
     std::vector<fs::path> files;
     std::error_code failed;
@@ -133,7 +132,7 @@ void checkUsage(const Model& model, std::string_view language, std::span<const f
             auto code = Runtime::readFile(file, maxSourceBytes);
             if (!code)
                 diagnostics.add(Severity::warning, std::move(code.error()));
-            else if (!code->starts_with(generatedMark))
+            else if (!code->starts_with(Generator::generatedMark))
                 forEachIdentifier(
                     *code, [&](std::string_view name, std::string_view qualifier) { accessors.use(name, qualifier); });
         }

@@ -1,5 +1,5 @@
 // Check/Usage.h
-// unused-accessor: accessors whose names no source uses.
+// unused-accessor: finds accessors that no source uses.
 #pragma once
 
 #include "Check/Report.h"
@@ -10,10 +10,9 @@
 
 namespace Check {
 
-// Looks for the accessors' names among the identifiers of the C and C++ files in `trees`, in one pass; comments and
-// literals do not count, and neither do files that `lumora generate` made. Where several groups have an accessor of one
-// name, `Cart::title` uses that of Cart only. A tree that cannot be read is an error. `language` is that of the
-// development texts.
+// Searches the identifiers of the C and C++ files in `trees` for the accessors' names, in one pass. Comments, literals
+// and files written by `lumora generate` are ignored. If several groups have an accessor with the same name,
+// `Cart::title` uses only that of Cart. An unreadable tree is an error. `language` is the development language.
 void checkUsage(const Generator::Model& model, std::string_view language, std::span<const std::filesystem::path> trees,
                 Report& report, SourceBundle::Diagnostics& diagnostics);
 

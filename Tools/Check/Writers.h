@@ -1,6 +1,7 @@
 // Check/Writers.h
-// Findings as people and programs read them.
-// Text: UTF-8; what cannot be seen in names is escaped. Threads: any; no state. The same findings give the same bytes.
+// Formats findings for people and programs.
+// Text: UTF-8; invisible characters in names are escaped. Threads: any; no state. The same findings give the same
+// bytes.
 #pragma once
 
 #include "Check/Finding.h"
@@ -9,15 +10,15 @@
 
 namespace Check {
 
-// A paragraph for each rule, in the order of the rules, with a line for each finding, "FILE:LINE:COLUMN: error:
-// MESSAGE"; the last line counts. Findings below `lowest` are counted only.
-[[nodiscard]] std::string asText(std::span<const Finding> findings, Severity lowest, bool isColoured);
+// A paragraph for each rule with a line for each finding, "FILE:LINE:COLUMN: error: MESSAGE", and a last line with the
+// totals. Findings below `lowest` are only counted.
+[[nodiscard]] std::string asText(std::span<const Finding> findings, Severity lowest, bool isColored);
 
-// An array of objects with rule, severity, file, line, column, language, key and message.
+// A JSON array of objects with rule, severity, file, line, column, language, key and message.
 [[nodiscard]] std::string asJson(std::span<const Finding> findings, Severity lowest);
 
-// SARIF 2.1.0. Files in `folder` are named relative to it, as viewers in a repository expect; each finding has a
-// fingerprint that stays when lines move. `version` is the program's.
+// SARIF 2.1.0. Paths in `folder` are relative to it, as repository viewers expect. Each finding has a fingerprint that
+// does not change when lines move. `version` is that of the program.
 [[nodiscard]] std::string asSarif(std::span<const Finding> findings, Severity lowest,
                                   const std::filesystem::path& folder, const std::string& version);
 

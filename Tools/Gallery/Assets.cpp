@@ -31,7 +31,7 @@ std::string_view named(Enumeration value, const std::array<std::string_view, siz
     return names[static_cast<std::size_t>(value)];
 }
 
-// Without those that a variant leaves open.
+// The specified traits of a variant.
 ordered_json traitsOf(const Fit& fit) {
     ordered_json traits = ordered_json::object();
     if (fit.scale != 0)
@@ -46,7 +46,7 @@ ordered_json traitsOf(const Fit& fit) {
     return traits;
 }
 
-// The traits of a reader for whom that variant is made.
+// Traits for which the variant is the best match.
 UIKit::UITraitCollection readerOf(const Fit& fit) {
     const bool isDark = fit.appearance == AssetCatalog::Appearance::dark;
     const bool isHigh = fit.contrast == AssetCatalog::Contrast::high;
@@ -111,7 +111,7 @@ private:
 
 using AssetKey = std::pair<Kind, std::string>;
 
-// The accessors of the assets, below the tree.
+// The accessors of the assets, relative to the tree.
 std::map<AssetKey, std::string> accessorsOf(const std::vector<Entry>& entries) {
     std::vector<SourceBundle::SourceAsset> assets;
     assets.reserve(entries.size());

@@ -1,5 +1,5 @@
 // Gallery/Assets.h
-// The assets of a bundle, as the page takes them; internal.
+// The assets of a bundle as JSON for the page; internal.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -9,13 +9,13 @@
 namespace Gallery {
 
 struct Assets {
-    // [{ "kind", "catalog", "name", "accessor", "template", "variants" }], by catalog and name.
+    // [{ "kind", "catalog", "name", "accessor", "template", "variants" }], sorted by catalog and name.
     nlohmann::ordered_json list = nlohmann::ordered_json::array();
-    // Data URIs, to whose indices the variants of images refer.
+    // Data URIs; image variants refer to them by index.
     nlohmann::ordered_json pictures = nlohmann::ordered_json::array();
 };
 
-// A bundle without a catalog has no assets. Error: a damaged catalog.
+// Empty for a bundle without a catalog. Error: a damaged catalog.
 [[nodiscard]] Runtime::Result<Assets> assetsOf(const std::filesystem::path& bundle);
 
 } // namespace Gallery

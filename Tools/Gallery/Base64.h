@@ -1,5 +1,5 @@
 // Gallery/Base64.h
-// Bytes as text, for data URIs; internal.
+// Base64 encoding for data URIs; internal.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 namespace Gallery {
 
-// The standard alphabet, padded.
+// Uses the standard alphabet, with padding.
 [[nodiscard]] std::string base64(std::span<const std::uint8_t> bytes);
 
 } // namespace Gallery

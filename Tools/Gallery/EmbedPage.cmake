@@ -1,13 +1,14 @@
 # cmake -D TEMPLATE=index.html -D STYLE=style.css -D SCRIPTS=a.js;b.js -D OUTPUT=PageTemplate.cpp -P EmbedPage.cmake
-# Writes the page with its style and scripts as a C++ source. The page's policy runs exactly these: it names their hashes.
+# Writes the page with its style and scripts as a C++ source. The page's content security policy allows only these, by
+# their hashes.
 
 cmake_minimum_required(VERSION 3.25)
 
-# The hash of `content` as a content security policy spells it: in base64.
+# The base64 hash of `content` for a content security policy.
 function(policy_hash out content)
     set(digits "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/")
     string(SHA256 hash "${content}")
-    string(APPEND hash "00") # 256 bits are not a multiple of three hexadecimal, two base64 digits
+    string(APPEND hash "00") # pad 256 bits to a multiple of 12 bits: 3 hexadecimal digits or 2 base64 digits
     set(encoded "")
     foreach(begin RANGE 0 63 3)
         string(SUBSTRING ${hash} ${begin} 3 bits)

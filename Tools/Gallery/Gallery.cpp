@@ -10,7 +10,7 @@ namespace Gallery {
 
 namespace {
 
-// The JSON as it may stand in a script element: nothing in it can end the element. Bytes that are no text are replaced.
+// JSON for a script element, escaped so that it cannot end the element. Invalid UTF-8 is replaced.
 std::string embedded(const nlohmann::ordered_json& json) {
     const std::string text = json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
     std::string safe;

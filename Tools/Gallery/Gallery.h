@@ -1,7 +1,7 @@
 // Gallery/Gallery.h
-// One web page that shows the resources of a bundle to people: texts, pictures, colours, data and how far each language
-// is translated. Docs/gallery.md describes the page and the data in it.
-// Text: UTF-8; paths as the file system has them. Threads: one page at a time.
+// Creates a web page that shows the resources of a bundle: texts, pictures, colours, data and the coverage of each
+// language. Docs/gallery.md describes the page and its data.
+// Text: UTF-8; paths are raw bytes. Threads: one page at a time.
 #pragma once
 
 #include "Generator/NamesFile.h"
@@ -14,13 +14,12 @@ namespace Gallery {
 
 struct Options {
     std::string title;  // of the page
-    std::string module; // the namespace that accessors begin with, or empty: they begin with their table or catalog
+    std::string module; // the namespace of accessors; if empty, they begin with their table or catalog
     Generator::NamesFile names{};
 };
 
-// The page of the texts of `source` and the assets of the compiled bundle at `bundle`, whole and in need of no other
-// file. A text or asset whose name gives no accessor is shown without one. The result is an error when
-// the catalog is damaged.
+// A self-contained page with the texts of `source` and the assets of the compiled bundle at `bundle`. Texts and assets
+// without an accessor are included. Error: a damaged catalog.
 [[nodiscard]] Runtime::Result<std::string> pageOf(const SourceBundle::Source& source,
                                                   const std::filesystem::path& bundle, const Options& options);
 

@@ -1,12 +1,12 @@
 // Gallery/PageTemplate.h
-// The gallery's page without resources, made during the build from the files in Page/; internal.
+// The gallery's page without resources, assembled from the files in Page/ during the build; internal.
 #pragma once
 
 #include <string_view>
 
 namespace Gallery {
 
-// Holds @RESOURCES@ and @PICTURES@ once each, in this order, where JSON goes.
+// Contains the placeholders @RESOURCES@ and @PICTURES@ for JSON, once each and in this order.
 extern const std::string_view pageTemplate;
 
 } // namespace Gallery

@@ -19,7 +19,7 @@ using SourceBundle::SourceTable;
 
 namespace {
 
-// The development language, then the others in their order.
+// The development language, then the others in alphabetical order.
 std::vector<std::string> languagesOf(const Source& source) {
     std::set<std::string> others;
     for (const SourceTable& table : source.tables)
@@ -32,7 +32,7 @@ std::vector<std::string> languagesOf(const Source& source) {
     return languages;
 }
 
-// The accessor of each text, or why it has none, as members of the text's object.
+// JSON members with the accessor of each text, or the reason why it has none.
 using Accessors = std::unordered_map<const SourceEntry*, ordered_json>;
 
 Accessors accessorsOf(const Source& source, Generator::NamesFile names) {
@@ -66,7 +66,7 @@ ordered_json valueOf(const SourceEntry& entry) {
     return {{"format", entry.plural->format}, {"variables", std::move(variables)}};
 }
 
-// A text that is not to be translated is the same in every language.
+// Untranslatable texts have the same value in every language.
 ordered_json valuesOf(const SourceTable& table, const SourceEntry& entry, const std::vector<std::string>& languages) {
     ordered_json values = ordered_json::array({valueOf(entry)});
     for (std::size_t i = 1; i < languages.size(); ++i) {

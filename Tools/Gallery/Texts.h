@@ -1,5 +1,5 @@
 // Gallery/Texts.h
-// The texts of a source in every language, as the page takes them; internal.
+// The texts of a source in all languages as JSON for the page; internal.
 #pragma once
 
 #include "Generator/NamesFile.h"
@@ -8,8 +8,8 @@
 
 namespace Gallery {
 
-// { "languages": [CODE], "texts": [{ "table", "key", "accessor", "reason", "comment", "fixed", "values" }] }, the
-// development language first, and a value, or null, for each language.
+// { "languages": [CODE], "texts": [{ "table", "key", "accessor", "reason", "comment", "fixed", "values" }] }, with the
+// development language first and a value, or null, for each language.
 [[nodiscard]] nlohmann::ordered_json textsOf(const SourceBundle::Source& source, const Generator::NamesFile& names);
 
 } // namespace Gallery

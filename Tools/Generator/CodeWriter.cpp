@@ -7,7 +7,7 @@
 namespace Generator {
 
 CodeWriter::CodeWriter(std::string_view module) : module_(module) {
-    add("// Generated from the resources of the module {{module}}; do not edit.");
+    add(std::string(generatedMark) + "{{module}}; do not edit.");
 }
 
 void CodeWriter::add(std::string_view pattern, Values values) {

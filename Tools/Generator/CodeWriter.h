@@ -11,6 +11,9 @@
 
 namespace Generator {
 
+// The beginning of the first line of every generated source.
+inline constexpr std::string_view generatedMark = "// Generated from the resources of the module ";
+
 class CodeWriter {
 public:
     using Values = std::initializer_list<std::pair<std::string_view, std::string_view>>;

@@ -1,6 +1,6 @@
-// What pictures, colours and data have in common: the traits of a variant, and the name with the accessor.
+// Shared by pictures, colours and data: the traits of a variant, and the name with the accessor.
 
-// In the order in which they are read out.
+// In display order.
 const traitTexts = {
     scale: (value) => `${value}×`,
     appearance: String,
@@ -10,7 +10,7 @@ const traitTexts = {
     direction: String,
 };
 
-// Beside a dark variant, one for any appearance is the light one.
+// If there is a dark variant, a variant for any appearance is labelled "light".
 function traitText(variant, asset) {
     const hasDark = asset.variants.some(({ traits }) => traits.appearance === "dark");
     const traits = hasDark ? { appearance: "light", ...variant.traits } : variant.traits;

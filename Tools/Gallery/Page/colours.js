@@ -32,7 +32,7 @@ function contrastRatio(colour, ground) {
 const grade = (ratio) => (ratio >= 7 ? "AAA" : ratio >= 4.5 ? "AA" : ratio >= 3 ? "AA large" : "–");
 
 function contrastLine(colour, ground, groundName) {
-    const ratio = Math.floor(contrastRatio(colour, ground) * 100) / 100; // never rounded up to a grade
+    const ratio = Math.floor(contrastRatio(colour, ground) * 100) / 100; // rounded down, so that the ratio never suggests a higher grade
     return make("li", { "data-grade": grade(ratio) }, `${ratio.toFixed(2)} on ${groundName} `, make("b", {}, grade(ratio)));
 }
 
@@ -53,14 +53,14 @@ function colourRow(asset) {
 
 const colourLists = assetLists(assetsOf("color").map(colourRow), "colours");
 
-// The colour between red, yellow and `base` that shows how far a goal is reached.
+// The colour for progress towards a goal: from red through yellow to `base`.
 function progressColour([red, green, blue], progress) {
     return [Math.max(red, 2 * (1 - progress)), Math.min(green, 2 * progress), progress * blue, 1];
 }
 
 function progressStrip(variant, asset) {
     const stops = Array.from({ length: 51 }, (_, i) => cssColour(progressColour(variant.srgb, i / 50)));
-    const label = "From red over yellow to the colour itself";
+    const label = "From red through yellow to the colour itself";
     const strip = make("div", { class: "strip-colours", role: "img", "aria-label": label });
     strip.style.background = `linear-gradient(to right, ${stops.join(", ")})`;
     const percents = [0, 25, 50, 75, 100].map((percent) => make("span", {}, `${percent} %`));

@@ -1,4 +1,4 @@
-// How much of each language is there.
+// The coverage of each language.
 function coverageOf(language) {
     const counts = { translated: 0, same: 0, missing: 0 };
     for (const text of resources.texts)

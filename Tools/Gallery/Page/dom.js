@@ -1,4 +1,4 @@
-// Builds elements. Children that are strings become text nodes, so no resource is ever read as markup.
+// Builds elements. String children become text nodes, so resources are never parsed as markup.
 function make(tag, attributes, ...children) {
     const element = document.createElement(tag);
     for (const [name, value] of Object.entries(attributes ?? {}))
@@ -16,7 +16,7 @@ function fileSize(bytes) {
     return bytes < 1000 ? `${bytes} B` : bytes < 1e6 ? `${(bytes / 1e3).toFixed(1)} kB` : `${(bytes / 1e6).toFixed(1)} MB`;
 }
 
-// A code element whose text copies itself; `full` is what is copied, `shown` what is read.
+// A button that shows `shown` and copies `full`.
 function copyButton(full, shown) {
     return make("button", { type: "button", class: "accessor", "data-copy": full, title: `Copy ${full}` }, shown);
 }

@@ -1,11 +1,11 @@
-// Marks the searched words where they are shown. Browsers that cannot show them unmarked.
+// Highlights the search words, in browsers that support it.
 const foundWords = "Highlight" in window ? new Highlight() : null;
 if (foundWords)
     CSS.highlights.set("found", foundWords);
 
 function wordRanges(node, words) {
     const text = node.data.toLowerCase();
-    if (text.length !== node.data.length) // places would differ
+    if (text.length !== node.data.length) // the offsets would differ
         return [];
     const ranges = [];
     for (const word of words)

@@ -1,6 +1,6 @@
-// Puts the page together and connects its controls.
+// Assembles the page and connects its controls.
 
-// Each section with its lists and what the navigation calls it. A section without resources is not shown.
+// The sections with their names and lists. A section without resources is hidden.
 const sections = [
     { id: "texts", name: "Texts", lists: textLists },
     { id: "pictures", name: "Pictures", lists: pictureLists },
@@ -76,14 +76,14 @@ function search() {
     showFound(words.length > 0 || status !== "all");
 }
 
-// What is found begins at the top, however far down the page is scrolled.
+// Searches and scrolls to the first result.
 function searchFromTop() {
     search();
     if (byId("results").getBoundingClientRect().top < 0)
         byId("results").scrollIntoView();
 }
 
-// Says how much is found, and hides the sections without any of it. What is not searched is shown without a search only.
+// Shows the numbers of results and hides sections without any. Parts that are not searched are hidden during a search.
 function showFound(isNarrowed) {
     for (const { id, lists } of sections) {
         byId(id).hidden = shownCount(lists) === 0;
@@ -118,12 +118,12 @@ async function copy(button) {
     try {
         await navigator.clipboard.writeText(button.dataset.copy);
         announce(`Copied ${button.dataset.copy}`);
-    } catch { // not allowed here
+    } catch { // not permitted by the browser
         announce(`Cannot copy. The accessor is ${button.dataset.copy}`);
     }
 }
 
-// Keys: / goes to the search, Escape empties it, the arrows go from accessor to accessor.
+// Keys: / focuses the search field, Escape clears it, the arrow keys move between accessors.
 function goToNeighbour(button, step) {
     const buttons = Array.from(document.querySelectorAll("main .accessor"));
     const next = buttons[buttons.indexOf(button) + step];
@@ -148,7 +148,7 @@ function onKey(event) {
     }
 }
 
-// Choices that change how things look: the page's theme, the pictures' ground and size.
+// Display options: the page's theme, the pictures' background and size.
 function connectChoice(id, apply) {
     byId(id).addEventListener("change", (event) => apply(event.target.value));
 }
@@ -174,5 +174,5 @@ fillNavigation();
 fillSections();
 search();
 connect();
-// The first letter typed is then as quick as the others.
+// Prepares the search index, so that the first letter typed is as fast as the others.
 setTimeout(() => sections.flatMap((section) => section.lists).forEach((list) => list.rows.forEach(prepared)), 200);

@@ -1,9 +1,9 @@
-// The pictures with all their variants, and what data assets there are.
+// The pictures with all their variants, and the data assets.
 
 const documentLoaded = new Promise((resolve) => document.addEventListener("DOMContentLoaded", resolve));
 let pictureList = null;
 
-// Has no pixels before loadPictures().
+// An image element without its data, which loadPictures() adds.
 function picture(variant, text) {
     const scale = variant.traits.scale ?? 1;
     const image = make("img", { alt: text, width: Math.ceil(variant.width / scale), height: Math.ceil(variant.height / scale) });

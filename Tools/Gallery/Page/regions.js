@@ -1,6 +1,6 @@
-// The pictures that a region or a sex chooses among, found by their names: "sexGirl.arab" is the picture "sex" of women
-// in the region "arab", "male_training_target_maintain_ru" that of men in "ru". Behind an underscore, two letters are a
-// region only where the name has a sex too: "arrow_up" is none.
+// The pictures that depend on a region or sex, recognized by their names: "sexGirl.arab" is the picture "sex" of women
+// in the region "arab", "male_training_target_maintain_ru" that of men in "ru". Two letters after an underscore are a
+// region only if the name also has a sex: "arrow_up" has no region.
 const sexes = [
     ["men", /(?<![A-Za-z])(male|man|boy)(?![a-z])|(?<=[a-z])(Male|Man|Boy)(?![a-z])/],
     ["women", /(?<![A-Za-z])(female|woman|girl)(?![a-z])|(?<=[a-z])(Female|Woman|Girl)(?![a-z])/],
@@ -13,8 +13,8 @@ function regionalParts(name) {
     return { subject: sex ? stem.replace(pattern, "…") : stem, sex, region: ending?.[1] ?? ending?.[2] ?? "" };
 }
 
-// Maps subjects to maps from sexes to maps from regions to pictures; only subjects with something to choose, those with
-// regions first.
+// Maps subject to sex to region to picture. Only subjects with several pictures are included, those with regions
+// first.
 function regionalPictures(assets) {
     const subjects = new Map();
     for (const asset of assets) {

@@ -1,5 +1,5 @@
-// The resources that the page shows, see Docs/gallery.md, and what follows from them: names and directions of
-// languages, and how far each text is translated.
+// The resources of the page (see Docs/gallery.md) and derived data: names and directions of languages, and the
+// translation status of texts.
 const resources = JSON.parse(byId("resource-list").textContent);
 
 const rightToLeft = new Set(["Adlm", "Arab", "Hebr", "Mand", "Nkoo", "Rohg", "Samr", "Syrc", "Thaa"]);
@@ -11,13 +11,13 @@ function languageOf(code) {
         const name = new Intl.DisplayNames([tag], { type: "language" }).of(tag);
         const direction = rightToLeft.has(script) ? "rtl" : "ltr";
         return { code, tag, name: name.charAt(0).toLocaleUpperCase(tag) + name.slice(1), direction };
-    } catch { // no language tag
+    } catch { // not a language tag
         return { code, tag: "und", name: code, direction: "auto" };
     }
 }
 
 const languages = resources.languages.map(languageOf);
-const development = 0; // the first language is the one the texts are written in
+const development = 0; // the first language is the development language
 
 // A text is a string, or an object of plural forms: { format, variables: { NAME: { CATEGORY: text } } }.
 const isPlural = (value) => value !== null && typeof value === "object";
@@ -28,7 +28,7 @@ function stringsOf(value) {
     return isPlural(value) ? [value.format, ...Object.values(value.variables).flatMap(Object.values)] : [value];
 }
 
-// A placeholder as the platform's formatting has it, or a variable of a plural rule.
+// A printf-style placeholder or a plural variable.
 const placeholder = /%(?:\d+\$)?(?:#@[^@]+@|[-+ 0#']*(?:\d+|\*)?(?:\.(?:\d+|\*))?(?:hh|h|ll|l|q|L|z|t|j)?[@a-zA-Z])|%%/g;
 
 function hasWords(value) {

@@ -1,19 +1,19 @@
-// Lists that the search narrows down. A list's rows are made once; a search replaces what the document holds of them.
+// Lists that can be searched. A list's rows are created once; a search changes which of them are in the document.
 
-// Upper and lower case, accents and the forms of a character do not matter.
+// Ignores case, accents and compatibility forms.
 function folded(text) {
     return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase();
 }
 
-// The row with its strings folded, alone and together.
+// Caches the folded strings of the row, separately and joined.
 function prepared(row) {
     row.haystack ??= folded(row.strings().map((text) => text.replaceAll("\0", "")).join("\n\0"));
     row.folded ??= row.haystack.split("\n\0");
     return row;
 }
 
-// Rows are kept in chunks, which a browser neither styles nor lays out while they are far from the window.
-const chunkRows = 24; // full lines of one, two, three and four columns
+// Rows are grouped in chunks, which the browser neither styles nor lays out while they are far off-screen.
+const chunkRows = 24; // divisible by 1, 2, 3 and 4 columns
 
 // Runs the action of a chunk once it comes near the window.
 const chunkActions = new WeakMap();
@@ -59,7 +59,7 @@ class SearchableList {
     put(rows) {
         this.shown = rows;
         this.seen = []; // rows that came near the window
-        this.list.replaceChildren(); // rows move faster outside of the document
+        this.list.replaceChildren(); // moving rows outside of the document is faster
         const chunks = [];
         for (let first = 0; first < rows.length; first += chunkRows)
             chunks.push(this.chunk(rows.slice(first, first + chunkRows)));
@@ -84,7 +84,7 @@ class SearchableList {
     }
 }
 
-// One list for each group of the rows, in the order in which the groups come first.
+// One list for each group of rows, in order of first occurrence.
 function listsByGroup(rows, groupOf, className) {
     const groups = new Map();
     for (const row of rows) {

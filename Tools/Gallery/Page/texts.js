@@ -1,7 +1,7 @@
 // The texts, two languages side by side.
 const chosen = { a: development, b: development };
 
-// The text with its placeholders set apart.
+// The text with its placeholders marked up.
 function marked(text) {
     if (!text.includes("%"))
         return [text];
@@ -70,7 +70,7 @@ function textRow(text) {
     return row;
 }
 
-// Shows the text of a third language when only that has one of the words.
+// Shows the text of a third language if a search word occurs only there.
 function explain(row, words) {
     row.elsewhere?.remove();
     row.elsewhere = null;
