@@ -45,7 +45,7 @@ TEST(Check, FindsAccessorsThatNoCodeUses) {
     code.write("deep/b.mm", "auto b = T::delete_();");
     code.write("notes.txt", "old");
     code.write(".hidden/c.cpp", "old();");
-    code.write("Shop.h", "// Made from the resources of the module Shop; do not edit.\nconst std::string& old();");
+    code.write("Shop.h", "// Generated from the resources of the module Shop; do not edit.\nconst std::string& old();");
     EXPECT_EQ(source.findings({.usedIn = {code.path()}}),
               (Strings{"unused-accessor en.lproj/T.strings:1:1 en Cart.title",
                        "unused-accessor en.lproj/T.strings:7:1 en old"}));

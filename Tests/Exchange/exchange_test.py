@@ -203,7 +203,7 @@ class Exchange(unittest.TestCase):
                 ('"home.title" is not the id of a text', good.replace('id="Localizable/home.title"', 'id="home.title"')),
                 ("the development text of Localizable/home.welcome is another", good.replace("Good to see you, %@!<", "Hello, %@!<")),
                 ("lacks argument 1, a text (%@)", target(greeting, "Hallo")),
-                ("takes argument 1 as a whole number (%ld), the development text as a text (%@)", target(greeting, "Hallo %d")),
+                ("takes argument 1 as an integer (%ld), the development text as a text (%@)", target(greeting, "Hallo %d")),
                 ("takes an argument 2", target(greeting, "%@ %@")),
                 ("takes an argument 1", target(title, "100 % da")),
                 ("takes argument 1 as a text", target(articles, "%1$@ Artikel")),

@@ -75,10 +75,10 @@ TEST(Model, LeavesOutKeysThatGiveNoAccessor) {
         const char* place; // of the last one left out
     } cases[] = {
         // No name.
-        {__LINE__, "ok = a;\n \"\" = \"\";", {"ok", "- it has no letter or digit to make a name of"}, "2:2"},
+        {__LINE__, "ok = a;\n \"\" = \"\";", {"ok", "- it has no letter or digit for a name"}, "2:2"},
         {__LINE__,
          "\"...\" = a; \"%%\" = b;",
-         {"- it has no letter or digit to make a name of", "- it has no letter or digit to make a name of"},
+         {"- it has no letter or digit for a name", "- it has no letter or digit for a name"},
          "1:12"},
         {__LINE__, "\"settings.second.%@\" = a; \"%%.x\" = b; \"a.-.b\" = c;", {"Settings::second", "x", "A::b"}, ""},
         // Names of others: the first keeps it.
@@ -106,7 +106,7 @@ TEST(Model, LeavesOutKeysThatGiveNoAccessor) {
          ""},
         // Placeholders.
         {__LINE__, "\"a b\" = \"%1$@ %3$d\";", {"- its text has no placeholder for argument 2 of 3"}, "1:1"},
-        {__LINE__, "a = \"%1$@ %1$d\";", {"- its text takes argument 1 both as text and as a whole number"}, "1:1"},
+        {__LINE__, "a = \"%1$@ %1$d\";", {"- its text takes argument 1 both as text and as an integer"}, "1:1"},
         {__LINE__, "a = \"%1$@ %d\";", {"- its text mixes placeholders with and without a position"}, "1:1"},
         // Limits.
         {__LINE__, longName + " = a;", {"- its name is longer than 1000 characters"}, "1:1"},
@@ -169,8 +169,8 @@ TEST(Model, ReportsWhatElseIsOdd) {
         (Strings{"warning: Base.lproj/---.strings: the table has no accessors: its name has no letter or digit",
                  "warning: Base.lproj/OddNames.strings: the table has no accessors: the name OddNames belongs to "
                  "Base.lproj/Odd names.strings",
-                 "warning: Base.lproj/T.strings:1:8: the text of key \"a\" has a % that begins no placeholder; it "
-                 "is printed as it is (write %% if that is meant)",
+                 "warning: Base.lproj/T.strings:1:8: the text of key \"a\" has a % that begins no placeholder and "
+                 "is printed literally (write %% for a percent sign)",
                  "note: de.lproj/T.strings:2:1: 3 keys are only in translations and have no accessor; the first "
                  "is \"old\""}));
 }
@@ -195,7 +195,7 @@ TEST(Emitter, SplitsLargeTablesBetweenGroups) {
     const auto files = Tree(text.str()).files({.module = "M", .shards = 3});
 
     EXPECT_EQ(content(files, "MStrings/T.h"),
-              "// Made from the resources of the module M; do not edit.\n#pragma once\n\n"
+              "// Generated from the resources of the module M; do not edit.\n#pragma once\n\n"
               "#include \"T-1.h\"\n#include \"T-2.h\"\n");
     EXPECT_NE(content(files, "MStrings/T-1.h").find("& root249();"), std::string::npos);
     // Ten of the root, then groups that stay whole.

@@ -174,7 +174,7 @@ TEST_F(Catalogs, SayOnceWhatIsLeftOut) {
         {__LINE__,
          R"({"filename": "1"}, {"filename": "2"}, {"filename": "3", "locale": "de"})",
          {"1", "3"},
-         {"warning " + at("1:32") + R"(entry 2 ("2") is for the same readers as an entry before it and is left out)"}},
+         {"warning " + at("1:32") + R"(entry 2 ("2") is for the same traits as an earlier entry and is left out)"}},
         {__LINE__,
          R"({"filename": "1", "glow": 3}, {"filename": "2", "scale": 2, "locale": "de"})",
          {"1", "2"},
@@ -188,7 +188,7 @@ TEST_F(Catalogs, SayOnceWhatIsLeftOut) {
         {__LINE__,
          R"({"scale": "1x"})",
          {},
-         {"warning A.xcassets/p.imageset: has no variant that can be used and is left out"}},
+         {"warning A.xcassets/p.imageset: has no usable variant and is left out"}},
         {__LINE__,
          R"({"filename": "damaged"}, {"filename": "2", "scale": "2x"})",
          {"2"},
@@ -298,22 +298,22 @@ TEST_F(Catalogs, LeaveOutSetsThatAreWrong) {
          R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 is the unknown system colour "noColor" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "much"}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no possible colour component "red": ""much"" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "red": ""much"" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "1", "green": "1"}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no possible colour component "blue" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "blue" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": 255}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no possible colour component "red": "255" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "red": "255" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "0xFFFFFFFF"}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no possible colour component "red": ""0xFFFFFFFF"" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "red": ""0xFFFFFFFF"" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"color-space": "cmyk", "components": {}}}]})",
          R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has the unknown colour space "cmyk" and is left out)" +
              withSet},
         {__LINE__, "a.appiconset", "{}",
-         "note A.xcassets/a.appiconset: is a set of a kind that is not supported and is left out"},
+         "note A.xcassets/a.appiconset: is a set of an unsupported kind and is left out"},
     };
     for (const auto& one : cases) {
         const std::string set = std::string("A.xcassets/") + one.set;

@@ -138,10 +138,10 @@ TEST(Source, ReportsWhatItLeavesOut) {
     const Source source = folder.read();
     EXPECT_EQ(contents(source), (Strings{"Broken Base", "Folder Base", "Gone Base", "Twice Base a=c"}));
     EXPECT_TRUE(source.tables[0].languages[0].isDamaged);
-    const Strings expected = {"note: Base.lproj/Layout.xib: holds no table of texts and is left out",
+    const Strings expected = {"note: Base.lproj/Layout.xib: is not a table and is left out",
                               "warning: file.lproj: is not a folder of tables and is left out",
                               "note: loop: is a link to a folder and is left out",
-                              "warning: loose.strings: is in no language folder (*.lproj) and is left out",
+                              "warning: loose.strings: is not in a language folder (*.lproj) and is left out",
                               "error: Base.lproj/Broken.strings:2:",
                               "error: Base.lproj/Folder.strings: is not a regular file",
                               "error: Base.lproj/Gone.strings: ",

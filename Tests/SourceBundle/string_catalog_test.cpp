@@ -180,8 +180,8 @@ TEST(StringCatalog, ReportsWhatItLeavesOut) {
     (void)folder.read();
     EXPECT_EQ(folder.takeMessages(),
               (Strings{"warning: T.xcstrings:2:1: the key appears again; this text is used",
-                       "note: T.xcstrings:2:10: texts for single devices are left out",
-                       "note: T.xcstrings:3:1: texts for single devices are left out",
+                       "note: T.xcstrings:2:10: texts for specific devices are left out",
+                       "note: T.xcstrings:3:1: texts for specific devices are left out",
                        "error: en.lproj/T.strings: is the table \"T\" in the language en, as is T.xcstrings"}));
 }
 

@@ -169,7 +169,7 @@ TEST(PictureFile, RefusesWhatCannotBeRead) {
         {__LINE__, "<html/>", "is a damaged drawing"},
         {__LINE__, svg("", ""), "is a drawing without a size"},
         {__LINE__, svg(R"(width="0" height="5")"), "is a drawing without a size"},
-        {__LINE__, svg(R"(width="20000" height="5")"), "is a drawing larger than a catalog may hold"},
+        {__LINE__, svg(R"(width="20000" height="5")"), "is a drawing with more pixels than a catalog may contain"},
         {__LINE__, "%PDF-1.7 and no more", "is a damaged drawing"},
     };
     for (const auto& one : cases) {

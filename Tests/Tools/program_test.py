@@ -210,7 +210,7 @@ class Program(unittest.TestCase):
         bundle = self.folder / "Shop.bundle"
         self.assertEqual(run("assets", "--bundle", bundle), (0, b"", ""))
         self.assertEqual(run("asset", "send", "--bundle", bundle, "-o", "-"),
-                         (2, b"", "send: error: no asset of the bundle has this name\n"))
+                         (2, b"", "send: error: the bundle has no asset with this name\n"))
         for command in (["assets"], ["asset", "send", "-o", "-"]):
             self.assertEqual(run(*command, "--bundle", self.folder / "none")[2], f"{self.folder / 'none'}: error: is not a bundle\n")
 
@@ -238,10 +238,10 @@ class Program(unittest.TestCase):
     def test_messages_are_labelled_grouped_and_counted(self):
         words = self.write("src/Base.lproj/Words.strings", '"a_b" = "1";\n"a b" = "2";\n"x\\n\\U202E" = "3 %";\n')
         notes = [self.write(f"src/Base.lproj/{name}.xib", "") for name in "ABC"]
-        left_out = "holds no table of texts and is left out"
+        left_out = "is not a table and is left out"
         clash = f'{words}:2:1: LEVEL: key "a b" has no accessor: the name ab belongs to key "a_b" (line 1)\n'
-        percent = (f'{words}:3:1: LEVEL: the text of key "x\\n\\u{{202E}}" has a % that begins no placeholder; it is printed as '
-                   "it is (write %% if that is meant)\n")
+        percent = (f'{words}:3:1: LEVEL: the text of key "x\\n\\u{{202E}}" has a % that begins no placeholder and is printed '
+                   "literally (write %% for a percent sign)\n")
         expected = f"{notes[0]}: note: {left_out}\n    also {notes[1]}, {notes[2]}\n{percent}{clash}lumora: COUNT\n"
         generate = ["generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree"]
         self.assertEqual(run(*generate), (0, b"", expected.replace("LEVEL", "warning").replace("COUNT", "0 errors, 2 warnings")))
@@ -266,7 +266,7 @@ class Program(unittest.TestCase):
         self.write("src/Looks.xcassets/a.imageset/a.svg", '<svg xmlns="http://www.w3.org/2000/svg" width="1" height="1"/>')
         accessors = ["accessors", self.folder / "src", "--module", "Shop"]
         status, out, err = run(*accessors, "--format", "json")
-        reason = "it has no letter or digit to make a name of"
+        reason = "it has no letter or digit for a name"
         self.assertEqual((status, err), (0, f'{table}:3:1: warning: key "" has no accessor: {reason} (0 errors, 1 warning)\n'))
         tree = "Shop::Shop"
         self.assertEqual(json.loads(out), [

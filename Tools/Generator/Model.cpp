@@ -115,7 +115,7 @@ private:
         if (const auto conflict = names_.claim(candidate.path, number)) {
             candidate.isClash = true;
             candidate.fault =
-                "the name " + conflict->name + " is already used for " + describe(conflict->owner, *candidate.entry);
+                "the name " + conflict->name + " belongs to " + describe(conflict->owner, *candidate.entry);
         }
     }
 
@@ -177,7 +177,7 @@ std::vector<CatalogTable> catalogOf(const Source& source, NamesFile& names, Diag
         }
         const std::string reason = spelling.empty()
                                        ? "its name has no letter or digit"
-                                       : "the name " + spelling + " is already used for " + fileOf(*known->second).string();
+                                       : "the name " + spelling + " belongs to " + fileOf(*known->second).string();
         diagnostics.add(Severity::warning, {.message = "the table has no accessors: " + reason, .file = fileOf(table)},
                         spelling.empty() ? Topic::noAccessor : Topic::nameClash);
         catalog.push_back(leftOut(source, table, reason));
