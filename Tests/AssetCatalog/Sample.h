@@ -1,5 +1,5 @@
 // Tests/AssetCatalog/Sample.h
-// A small catalog with one asset of each kind under one name, and one more.
+// A small catalog with one asset of each kind under the same name, and one more image.
 #pragma once
 
 #include "AssetCatalog/internal/Builder.h"

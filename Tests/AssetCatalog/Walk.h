@@ -1,5 +1,5 @@
 // Tests/AssetCatalog/Walk.h
-// What tests and fuzzers do with the bytes of a catalog.
+// Reads a whole catalog, for tests and fuzzers.
 #pragma once
 
 #include "AssetCatalog/internal/Catalog.h"
@@ -15,10 +15,10 @@
 
 namespace Walk {
 
-// Bytes that fill their allocation, so that a read behind them is detected; aligned as catalogs are.
-class Exact {
+// Bytes that fill their allocation exactly, so that sanitizers detect reads past the end; aligned like catalogs.
+class ExactAllocation {
 public:
-    explicit Exact(std::string_view bytes)
+    explicit ExactAllocation(std::string_view bytes)
         : size_(bytes.size()), bytes_(static_cast<std::uint8_t*>(::operator new (bytes.size(), std::align_val_t{16}))) {
         std::copy(bytes.begin(), bytes.end(), bytes_.get());
     }
@@ -32,8 +32,8 @@ private:
     std::unique_ptr<std::uint8_t, Free> bytes_;
 };
 
-// Reads everything that a catalog gives out; the sum keeps the reads from being left out. Stops the process when the
-// catalog contradicts itself.
+// Reads everything in a catalog; the returned sum prevents the compiler from removing the reads. Stops the process when
+// the catalog contradicts itself.
 inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
     unsigned long long sum = 0;
     const auto read = [&](const AssetCatalog::Blob& blob) {
@@ -50,7 +50,7 @@ inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
         sum += entry.catalog().size() + static_cast<unsigned>(entry.rendering());
         for (std::size_t variant = 0; variant < entry.variants(); ++variant) {
             const std::array languages = {std::string(entry.language(variant))};
-            if (entry.best(entry.fit(variant), languages) > variant) // the first of those that fit exactly
+            if (entry.best(entry.fit(variant), languages) > variant) // the first exact match
                 std::abort();
             if (entry.kind() == AssetCatalog::Kind::image) {
                 const AssetCatalog::PictureView picture = entry.picture(variant);

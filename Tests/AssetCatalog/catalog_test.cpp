@@ -18,7 +18,7 @@ template <class Bytes> std::vector<int> numbers(const Bytes& bytes) {
     return {bytes.begin(), bytes.end()};
 }
 
-TEST(Catalog, GivesBackWhatWasBuilt) {
+TEST(Catalog, ReadsWhatWasBuilt) {
     const Support::TemporaryFolder folder;
     const std::string path = folder.write(fileName, build(Sample::assets())->bytes());
     auto opened = Catalog::open(path);
@@ -66,7 +66,7 @@ TEST(Catalog, GivesBackWhatWasBuilt) {
     EXPECT_FALSE(catalog.find(Kind::color, "folder/star_"));
 }
 
-// The file is replaced and cut short while its catalog is open.
+// The file is replaced and truncated while its catalog is open.
 TEST(Catalog, OutlivesItsFile) {
     const Support::TemporaryFolder folder;
     const std::string path = folder.write(fileName, build(Sample::assets())->bytes());
@@ -83,7 +83,7 @@ TEST(Catalog, OutlivesItsFile) {
     EXPECT_EQ((*catalog)[*catalog->find(Kind::image, "send")].name(), "send");
 }
 
-TEST(Catalog, FindsEveryOneOfMany) {
+TEST(Catalog, FindsEachOfManyAssets) {
     std::vector<Asset> assets;
     for (int i = 0; i < 5000; ++i)
         assets.push_back({.kind = Kind::color, .catalog = "C", .name = std::to_string(i * 7919), .colors = {{}}});
@@ -104,7 +104,7 @@ TEST(Catalog, SameAssetsGiveTheSameBytes) {
         std::ranges::reverse(asset.colors);
     EXPECT_EQ(build(assets)->bytes(), bytes);
 
-    // Of two variants with one fit the first counts.
+    // Of two variants for the same traits the first is used.
     assets = Sample::assets();
     assets[0].pictures.push_back({.fit = {}, .width = 9, .height = 9, .points = {9, 9}, .bytes = shared("7")});
     EXPECT_EQ(build(assets)->bytes(), bytes);
@@ -112,7 +112,7 @@ TEST(Catalog, SameAssetsGiveTheSameBytes) {
     EXPECT_EQ(Catalog::read(Walk::Exact(build({})->bytes()).span())->size(), 0U);
 }
 
-TEST(Catalog, BuilderRefusesWhatReadersRefuse) {
+TEST(Catalog, BuilderRejectsWhatReadersReject) {
     struct Case {
         int line;
         void (*edit)(std::vector<Asset>&);

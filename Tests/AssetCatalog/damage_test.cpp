@@ -1,5 +1,5 @@
-// Catalogs that were cut, altered or made with bad intent: an error or, where the change makes another sound catalog,
-// that one; never a read outside of the bytes.
+// Truncated, altered and malicious catalogs give an error, or another valid catalog if the change results in one; bytes
+// outside are never read.
 #include "AssetCatalog/internal/Catalog.h"
 
 #include "AssetCatalog/internal/Layout.h"
@@ -11,14 +11,14 @@ namespace {
 
 using namespace AssetCatalog;
 
-// Whether `bytes` are a sound catalog, which is then read.
+// Whether `bytes` are a valid catalog, which is then read.
 bool isSound(const std::string& bytes) {
     const Walk::Exact exact(bytes);
     const auto catalog = Catalog::read(exact.span());
     return catalog && Walk::everything(*catalog) != 0;
 }
 
-TEST(DamagedCatalog, CutAtEveryLength) {
+TEST(DamagedCatalog, TruncatedAtEveryLength) {
     const std::string sound = build(Sample::assets())->bytes();
     ASSERT_TRUE(isSound(sound));
     for (std::size_t length = 0; length < sound.size(); ++length)
@@ -36,11 +36,12 @@ TEST(DamagedCatalog, EveryByteAltered) {
             if (!isSound(bytes))
                 ++refused;
         }
-    // Components of colours, texts of catalogs, filling and blobs may be altered unseen; that is less than half.
+    // Changes of colour components, catalog names, padding and blobs are not detected; that is less than half of the
+    // bytes.
     EXPECT_GT(refused, sound.size() * 2);
 }
 
-// Every four bytes of the index exchanged with every other four: offsets, sizes and counts stand at such places.
+// Exchanges every four bytes of the index with every other four, because offsets, sizes and counts have that size.
 TEST(DamagedCatalog, WordsExchanged) {
     const std::string sound = build(Sample::assets())->bytes();
     for (std::size_t a = 0; a + 4 <= sound.size(); a += 4)
@@ -62,7 +63,7 @@ TEST(DamagedCatalog, OtherVersionIsNamed) {
               "is a catalog of version 1; this program reads version 2");
 }
 
-// Many assets that share the bytes of one long name or one list of variants take no more time than the index has bytes.
+// Many assets that share one long name or one list of variants still take linear time.
 TEST(DamagedCatalog, SharedPartsAreBounded) {
     flatbuffers::FlatBufferBuilder buffer;
     const Format::Fit fit(0, 0, 0, 0);

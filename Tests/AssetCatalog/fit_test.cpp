@@ -28,13 +28,13 @@ struct Case {
 
 TEST(Fit, BestVariant) {
     const Case cases[] = {
-        // Scale: the one wanted, any, the next larger, the largest smaller.
+        // Scale: the wanted one, any, the next larger, the largest of the smaller ones.
         {__LINE__, "---2", {"---1", "---2", "---3", "----"}, "---2"},
         {__LINE__, "---2", {"---1", "---3", "----"}, "----"},
         {__LINE__, "---1", {"---3", "---2"}, "---2"},
         {__LINE__, "---2", {"---1", "---3"}, "---3"},
         {__LINE__, "---4", {"---1", "---3", "---2"}, "---3"},
-        // Appearance and direction: the one wanted, any, another; without a wish the more usual one.
+        // Appearance and direction: the wanted one, any, another; if none is wanted, the more common one.
         {__LINE__, "-d--", {"----", "-l--", "-d--"}, "-d--"},
         {__LINE__, "-d--", {"-l--", "----"}, "----"},
         {__LINE__, "-l--", {"-d--", "----"}, "----"},
@@ -48,7 +48,7 @@ TEST(Fit, BestVariant) {
         {__LINE__, "rdh3", {"-dh3", "r--1"}, "r--1"},
         {__LINE__, "-dh3", {"--h3", "-d-1"}, "-d-1"},
         {__LINE__, "--h3", {"---3", "--h1"}, "--h1"},
-        // What does not fit at all is better than nothing; the first of equals counts.
+        // A mismatch is better than nothing; the first of equal variants wins.
         {__LINE__, "rdh9", {"ll-1"}, "ll-1"},
     };
     for (const Case& c : cases) {

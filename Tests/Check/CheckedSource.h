@@ -1,4 +1,4 @@
-// A source as tests write it down, and what is found in it.
+// A source written by a test, with the findings in it.
 #pragma once
 
 #include "../Support/SourceFolder.h"
@@ -20,7 +20,7 @@ public:
             write(name, text);
     }
 
-    // "RULE FILE:LINE:COLUMN LANGUAGE KEY" for each finding but coverage.
+    // "RULE FILE:LINE:COLUMN LANGUAGE KEY" for each finding except coverage.
     Strings findings(Check::Options options = {}) {
         options.folders = {path()};
         const SourceBundle::Source source = read();

@@ -1,4 +1,4 @@
-// Findings about assets, at the entries of their sets.
+// Findings about assets, located at the entries of their sets.
 #include "CheckedSource.h"
 #include <gtest/gtest.h>
 
@@ -9,13 +9,13 @@ using Support::Strings;
 
 constexpr const char* drawing = R"(<svg xmlns="http://www.w3.org/2000/svg" width="8" height="8"/>)";
 
-// The rules and places of the findings in a set of this kind with these entries and the drawing a.svg.
+// The rules and locations of the findings in a set of this kind with these entries and the drawing a.svg.
 Strings findingsIn(const std::string& set, const std::string& entries) {
     const bool isColor = set.ends_with(".colorset");
     CheckedSource source{{"A.xcassets/" + set + "/Contents.json",
                           "{\"" + std::string(isColor ? "colors" : "images") + "\": [\n" + entries + "\n]}"},
                          {"A.xcassets/" + set + "/a.svg", drawing},
-                         // Another colour with and another image without.
+                         // Another colour with a dark variant and another image without.
                          {"A.xcassets/other.colorset/Contents.json",
                           R"({"colors": [{"color": {"platform": "ios", "reference": "systemRedColor"}}, {"color":
                              {"platform": "ios", "reference": "systemRedColor"}, "appearances": [{"appearance": "luminosity", "value": "dark"}]}]})"}};
@@ -44,7 +44,7 @@ TEST(Check, FindsFaultsOfAssets) {
          {"asset-unassigned:3:2  a"}},
         {__LINE__, "a.imageset", "{\"filename\": }", {"unreadable-asset:2:14  a"}},
         {__LINE__, "a.imageset", R"({"filename": "../a.svg"})", {"unreadable-asset:2:1  a"}},
-        // A file that is missing is not a place that is empty; one fault.
+        // A missing file is not an empty slot; one finding.
         {__LINE__,
          "a.imageset",
          "{\"filename\": \"a.svg\"},\n{\"filename\": \"a@2x.png\", \"scale\": \"2x\"}",
@@ -64,7 +64,7 @@ TEST(Check, FindsFaultsOfAssets) {
         {__LINE__,
          "a.colorset",
          R"({"color": {"platform": "ios", "reference": "systemBlueColor"}})",
-         {}}, // has its own
+         {}}, // has its own dark variant
         {__LINE__, "a.colorset", R"({"color": {"components": {"red": "much"}}})", {"unreadable-asset:2:1  a"}},
         {__LINE__, "a.colorset", R"({"color": {"reference": "noColor"}})", {"unreadable-asset:2:1  a"}},
         {__LINE__, "--.imageset", R"({"filename": "a.svg"})", {"unnamed-key:1:1  --"}},

@@ -1,4 +1,4 @@
-// The use of accessors in C++ code.
+// Usage of accessors in C++ code.
 #include "Check/Identifiers.h"
 #include "CheckedSource.h"
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ std::string identifiers(std::string_view code) {
     return all;
 }
 
-TEST(Identifiers, AreThoseOutsideOfCommentsAndLiterals) {
+TEST(Identifiers, AreFoundOutsideOfCommentsAndLiterals) {
     const struct {
         int line;
         const char *code, *expected;

@@ -1,4 +1,4 @@
-// What switches rules off.
+// Settings that disable rules.
 #include "CheckedSource.h"
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@ namespace {
 using Support::CheckedSource;
 using Support::Strings;
 
-TEST(Settings, SwitchRulesOffForASourceAndForLanguages) {
+TEST(Settings, DisableRulesForSourcesAndLanguages) {
     CheckedSource source(
         {{"en.lproj/T.strings", "a = \"Go on.\";\nb = \"Two  spaces\";"},
          {"de.lproj/T.strings", "a = Los;\nb = Zwei;"},
@@ -20,7 +20,7 @@ TEST(Settings, SwitchRulesOffForASourceAndForLanguages) {
     EXPECT_EQ(source.findings(options), Strings());
 }
 
-TEST(Settings, SwitchRulesOffForAnAsset) {
+TEST(Settings, DisableRulesForAssets) {
     const char* const unfinished = R"({"colors": [{"color": {"reference": "systemRedColor"}},
                                                   {"appearances": [{"appearance": "luminosity", "value": "dark"}]}]})";
     CheckedSource source{{"A.xcassets/one.colorset/Contents.json", unfinished},
@@ -29,7 +29,7 @@ TEST(Settings, SwitchRulesOffForAnAsset) {
     EXPECT_EQ(source.findings(), Strings{"asset-missing-dark A.xcassets/two.colorset/Contents.json:2:51  two"});
 }
 
-TEST(Settings, SayWhatIsWrongWithThem) {
+TEST(Settings, ReportErrors) {
     const struct {
         int line;
         const char *json, *message;

@@ -1,4 +1,4 @@
-// Findings about texts: each fault once, at its place, and nothing where languages only differ.
+// Findings about texts: each fault once and at its location, and none for normal differences between languages.
 #include "Check/TextRules.h"
 #include "CheckedSource.h"
 #include <gtest/gtest.h>
@@ -40,7 +40,7 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
         {__LINE__, "de", "Half off", "50 % Rabatt, 50 %", "lone-percent"},
         {__LINE__, "fr", "Half off", "50 % de remise", "lone-percent"}, // "% d" is no placeholder
         {__LINE__, "de", "%@", "%1$@ %1$d", "placeholder-mismatch"},
-        // Spaces at the ends; each language has its own.
+        // Spaces at the ends; rules differ by language.
         {__LINE__, "de", "Name: ", "Name:", "space-mismatch"},
         {__LINE__, "de", " a b", "c d ", "space-mismatch"},
         {__LINE__, "zh-Hans", "Full name: ", "姓名：", ""},
@@ -88,7 +88,7 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
         EXPECT_EQ(rulesFor(one.language, one.development, one.translation), one.rules) << "line " << one.line;
 }
 
-TEST(Check, FindsKeysThatOneSideLacks) {
+TEST(Check, FindsMissingAndUnknownKeys) {
     CheckedSource source(
         {{"en.lproj/T.strings", "a = one;\n/* lumora: allow missing-key */\nb = two;\nc = three;\nd = four;"},
          {"de.lproj/T.strings", "a = eins;\nz = zehn;\nd = vier;\nd = vier;"},
@@ -103,7 +103,7 @@ TEST(Check, FindsKeysThatOneSideLacks) {
     EXPECT_EQ(source.takeMessages(), Strings());
 }
 
-TEST(Check, HasOneFindingForAFaultThatOthersFollowFrom) {
+TEST(Check, ReportsAnErrorOnceIfOthersFollowFromIt) {
     CheckedSource source{{"en.lproj/T.strings", "a = one;\nb = two;"}, {"de.lproj/T.strings", "a = eins;\nb = ;"}};
     EXPECT_EQ(source.findings(), Strings{"unreadable-table de.lproj/T.strings:2:5 de "});
     source.write("en.lproj/T.strings", "a = ");
@@ -127,7 +127,7 @@ TEST(Check, NamesKeysWithoutAccessor) {
                        "placeholder-mismatch Base.lproj/T.strings:4:1 Base m"}));
 }
 
-// "files" with these forms; "%@" in them is a second argument.
+// The plural "files" with these forms; "%@" in them is a second argument.
 std::string plural(std::string_view forms) {
     std::string text = "<plist version=\"1.0\"><dict>\n<key>files</key><dict><key>NSStringLocalizedFormatKey</key>"
                        "<string>%#@n@</string><key>n</key><dict><key>NSStringFormatSpecTypeKey</key>"
@@ -202,7 +202,7 @@ TEST(Check, FindsTwoTranslationsOfOneText) {
     EXPECT_EQ(source.findings(), Strings{"inconsistent-translation de.lproj/T.strings:3:1 de c"});
 }
 
-TEST(Check, CountsWhatALanguageHas) {
+TEST(Check, CountsCoverage) {
     CheckedSource source(
         {{"en.lproj/T.strings", "a = One; b = Two; c = Three;"}, {"de.lproj/T.strings", "a = Eins; b = Two;"}});
     const SourceBundle::Source read = source.read();

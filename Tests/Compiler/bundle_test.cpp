@@ -18,7 +18,7 @@ using StringTables::Form;
 using StringTables::Table;
 
 struct Outcome {
-    std::string failure; // the file system's
+    std::string failure; // of the file system
     std::vector<std::string> diagnostics;
 };
 
@@ -54,7 +54,7 @@ TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "en");
 }
 
-TEST(CompileBundle, KeepsWhatTheBundleSaysOfItself) {
+TEST(CompileBundle, KeepsInfoPlist) {
     const Support::TemporaryFolder folder;
     folder.write("source/de.lproj/T.strings", "a = b;");
     folder.write("source/Info.plist", "CFBundleDevelopmentRegion = de; Other = text;");
@@ -67,7 +67,7 @@ TEST(CompileBundle, KeepsWhatTheBundleSaysOfItself) {
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "de");
     EXPECT_EQ(information->find("Other"), "text");
 
-    // More than texts stays as it is; what is not said is written down.
+    // A file with other values is copied unchanged; missing entries are added.
     const std::string more = "<plist><dict><key>CFBundleDevelopmentRegion</key><string>de</string>"
                              "<key>a</key><array/></dict></plist>";
     folder.write("source/Info.plist", more);
@@ -106,7 +106,7 @@ TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     EXPECT_TRUE(outcome.diagnostics[0].starts_with(damaged.string() + ":2:7: ")) << outcome.diagnostics[0];
     EXPECT_EQ(Support::filesBelow(folder / "out.bundle"),
               (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings"}));
-    // Nothing stays aside.
+    // No staging folder is left.
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
 
     fs::remove(damaged);
@@ -129,7 +129,7 @@ std::vector<std::string> assetsOf(const fs::path& bundle) {
     return names;
 }
 
-TEST(CompileBundle, LeavesOutPicturesThatCannotBeRead) {
+TEST(CompileBundle, LeavesOutUnreadablePictures) {
     const Support::TemporaryFolder folder;
     for (const std::string name : {"good", "bad"})
         folder.write("source/A.xcassets/" + name + ".imageset/Contents.json", R"({"images": [{"filename": "p"}]})");
@@ -142,7 +142,7 @@ TEST(CompileBundle, LeavesOutPicturesThatCannotBeRead) {
     EXPECT_EQ(assetsOf(folder / "out.bundle"), std::vector<std::string>{"good"});
 }
 
-TEST(CompileBundle, PrefersAScalesOwnPictureToThatOfADrawing) {
+TEST(CompileBundle, PrefersPicturesMadeForTheirScale) {
     const Support::TemporaryFolder folder;
     folder.write("source/A.xcassets/p.imageset/Contents.json",
                  R"({"images": [{"filename": "1.svg", "scale": "1x"}, {"filename": "2.svg", "scale": "2x"},
@@ -154,7 +154,7 @@ TEST(CompileBundle, PrefersAScalesOwnPictureToThatOfADrawing) {
     ASSERT_TRUE(catalog);
     const AssetCatalog::Entry entry = (*catalog)[0];
     ASSERT_EQ(entry.variants(), 3U);
-    const std::uint32_t widths[] = {10, 40, 30}; // for three pixels a point the first drawing counts
+    const std::uint32_t widths[] = {10, 40, 30}; // at scale 3 the first drawing is used
     for (std::size_t i = 0; i < 3; ++i)
         EXPECT_EQ(entry.picture(i).width, widths[i]) << i;
 }
@@ -167,8 +167,8 @@ void setLongAgo(const fs::path& folder) {
         fs::last_write_time(folder / file, fs::file_time_type() + std::chrono::hours(1));
 }
 
-// Whatever the last compile left, the result is that of a compile without it, and what stays equal keeps its time.
-TEST(CompileBundle, UsesTheLastCompileWhereNothingChanged) {
+// A compile that reuses the last one gives the same result, and unchanged files keep their modification time.
+TEST(CompileBundle, ReusesUnchangedPictures) {
     const Support::TemporaryFolder folder;
     const fs::path bundle = folder / "out.bundle", catalog = bundle / "Assets.catalog";
     folder.write("source/Base.lproj/A.strings", "a = b;");
@@ -194,13 +194,13 @@ TEST(CompileBundle, UsesTheLastCompileWhereNothingChanged) {
     EXPECT_NE(timeOf(bundle / "Base.lproj/A.strings"), longAgo);
     EXPECT_EQ(fs::hard_link_count(catalog), 1U);
 
-    folder.write("source/A.xcassets/two.imageset/p", svg(3, "blue")); // of one size with the old one
+    folder.write("source/A.xcassets/two.imageset/p", svg(3, "blue")); // of the same size as the old one
     compileAndCompare(__LINE__);
     EXPECT_NE(timeOf(catalog), longAgo);
     folder.write("source/A.xcassets/two.imageset/p", svg(3, "red"));
     compileAndCompare(__LINE__);
 
-    // A catalog or list that was changed is not believed.
+    // A changed catalog or list is not reused.
     std::string bytes = Support::contents(catalog);
     for (std::size_t place = bytes.size() / 4; place < bytes.size(); place += 7)
         bytes[place] = static_cast<char>(~bytes[place]);
@@ -218,7 +218,7 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
     const std::string photos = folder / "photos";
     EXPECT_EQ(compile(folder / "source", photos).failure, photos + ": already exists and is not a compiled bundle");
     EXPECT_EQ(Support::contents(folder / "photos/one"), "dear");
-    // Nor what people edit, though it looks much like one.
+    // Nor a source that looks much like a bundle.
     folder.write("source/Info.plist", "<plist><dict/></plist>");
     for (const fs::path& out : {folder / "source", folder.path()})
         EXPECT_TRUE(compile(folder / "source", out).failure.starts_with(out.string() + ": is or contains the source "));
@@ -229,7 +229,7 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
     EXPECT_NE(compile(folder / "source", folder / "none/out.bundle").failure, "");
 }
 
-TEST(CompileBundle, TakesNothingByLinksThatLeadOut) {
+TEST(CompileBundle, IgnoresLinksThatLeadOut) {
     const Support::TemporaryFolder folder;
     const fs::path secret = folder.write("elsewhere/T.strings", "a = secret;");
     folder.write("source/Base.lproj/T.strings", "a = b;");
@@ -243,7 +243,7 @@ TEST(CompileBundle, TakesNothingByLinksThatLeadOut) {
         EXPECT_FALSE(fs::exists(folder / "out.bundle"));
         fs::remove(place);
     }
-    // One language that is another's is the bundle's own affair.
+    // A link between two languages inside the source is allowed.
     fs::create_symlink("Base.lproj", folder / "source/en.lproj");
     EXPECT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
     EXPECT_EQ(Table::read(Support::contents(folder / "out.bundle/en.lproj/T.strings"))->find("a"), "b");
@@ -257,7 +257,7 @@ std::set<std::string> staged(const fs::path& folder) {
     return names;
 }
 
-TEST(CompileBundle, RemovesWhatAKilledCompileLeftAndNothingElse) {
+TEST(CompileBundle, RemovesOnlyFoldersOfKilledCompiles) {
     const Support::TemporaryFolder folder;
     const fs::path source = folder / "source", bundle = folder / "out.bundle";
     folder.write("source/Base.lproj/A.strings", "a = b;");
@@ -265,8 +265,8 @@ TEST(CompileBundle, RemovesWhatAKilledCompileLeftAndNothingElse) {
                 "");
     ASSERT_EQ(staged(folder.path()).size(), 1U);
 
-    fs::create_directory(folder / "out.bundle.staged-killed"); // before it was marked
-    // A copy, the staged folder of another bundle, one without the mark, and a link to what is dear.
+    fs::create_directory(folder / "out.bundle.staged-killed"); // killed before it was marked
+    // A copy, the staged folder of another bundle, one without the mark, and a link to another folder.
     const std::set<std::string> others = {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef",
                                           "out.bundle.staged-abcdef", "out.bundle.staged-ABCDEF"};
     for (const std::string name : {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef", "dear"})
@@ -274,7 +274,7 @@ TEST(CompileBundle, RemovesWhatAKilledCompileLeftAndNothingElse) {
     folder.write("out.bundle.staged-abcdef/A", "");
     fs::create_directory_symlink("dear", folder / "out.bundle.staged-ABCDEF");
 
-    // Nor that of a compile that is under way.
+    // Nor that of a running compile.
     std::size_t living = 0;
     const Outcome outer = compile(source, bundle, [&](auto, auto, auto) {
         EXPECT_EQ(compile(source, bundle).failure, "");
@@ -287,18 +287,19 @@ TEST(CompileBundle, RemovesWhatAKilledCompileLeftAndNothingElse) {
     EXPECT_EQ(Support::filesBelow(bundle).size(), 3U);
 }
 
-// With few descriptors a compile succeeds or says so, and leaves nothing behind; with more it succeeds.
+// With few descriptors a compile succeeds, or fails with an error and leaves nothing behind; with more it succeeds.
 TEST(CompileBundle, RunsOutOfDescriptors) {
     const Support::TemporaryFolder folder;
     folder.write("source/Base.lproj/A.strings", "a = b;");
     folder.write("source/A.xcassets/p.imageset/Contents.json", R"({"images": [{"filename": "p"}]})");
     folder.write("source/A.xcassets/p.imageset/p", svg(3, "red"));
     const fs::path bundle = folder / "out.bundle";
-    ASSERT_EQ(compile(folder / "source", bundle).diagnostics, std::vector<std::string>()); // whatever is opened once
+    ASSERT_EQ(compile(folder / "source", bundle).diagnostics,
+              std::vector<std::string>()); // opens everything that is opened once
     int highest = 0;
     for (const fs::directory_entry& one : fs::directory_iterator("/proc/self/fd"))
         highest = std::max(highest, std::stoi(one.path().filename()));
-    std::vector<Runtime::Descriptor> gaps; // filled, so that the limit says how many descriptors are free
+    std::vector<Runtime::Descriptor> gaps; // fill the gaps, so that the limit determines the number of free descriptors
     do
         gaps.emplace_back(::open("/dev/null", O_RDONLY | O_CLOEXEC));
     while (gaps.back().number() < highest);
@@ -306,7 +307,8 @@ TEST(CompileBundle, RunsOutOfDescriptors) {
     ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
     std::size_t failures = 0;
     for (rlim_t more = 0; more < 16; ++more) {
-        const rlimit lower{.rlim_cur = static_cast<rlim_t>(gaps.back().number()) + 1 + more, .rlim_max = limit.rlim_max};
+        const rlimit lower{.rlim_cur = static_cast<rlim_t>(gaps.back().number()) + 1 + more,
+                           .rlim_max = limit.rlim_max};
         ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &lower), 0);
         const Outcome outcome = compile(folder / "source", bundle);
         ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &limit), 0);

@@ -1,4 +1,4 @@
-// Translators' files: what is written is read back exactly, and an import changes nothing but texts.
+// Files for translators: they are read back exactly as written, and an import changes only texts.
 #include "../Support/SourceFolder.h"
 #include "Exchange/Export.h"
 #include "Exchange/Import.h"
@@ -54,7 +54,7 @@ TEST(UnitIds, AreReadBack) {
         EXPECT_EQ(Exchange::unitIdOf(wrong), std::nullopt) << wrong;
 }
 
-// Units with every nasty text at every place, states included.
+// Units with every difficult text in every position, and all states.
 Translations nastyTranslations(const std::string& language) {
     Translations translations{.sourceLanguage = "en", .targetLanguage = language};
     constexpr State states[] = {State::translated, State::isNew, State::needsReview};
@@ -75,7 +75,7 @@ Translations nastyTranslations(const std::string& language) {
     return translations;
 }
 
-TEST(ExchangeFiles, HoldEveryText) {
+TEST(ExchangeFiles, RoundTripEveryText) {
     for (const char* language : {"de", "ar", "ja", "ru", "fr", "xx"}) {
         const Translations translations = nastyTranslations(language);
         SourceBundle::Diagnostics diagnostics;
@@ -103,7 +103,7 @@ TEST(ExchangeFiles, HoldEveryText) {
     }
 }
 
-TEST(ExchangeFiles, AreRefusedWithThePlaceOfTheFault) {
+TEST(ExchangeFiles, AreRejectedWithLocations) {
     const std::string head = "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\nLanguage: de\\n\"\n";
     const std::string xml =
         "<xliff version='1.2'><file source-language='en' target-language='de'><body><trans-unit id='T/a'>";
@@ -140,7 +140,7 @@ TEST(ExchangeFiles, AreRefusedWithThePlaceOfTheFault) {
     }
 }
 
-TEST(PluralExpressions, AreThoseOfTheLanguages) {
+TEST(PluralExpressions, MatchTheLanguages) {
     for (const char* language :
          {"ar",  "be", "br", "cs", "cy", "da", "de", "en", "es",    "fr", "ga", "he",  "hi", "is", "ja",
           "ksh", "kw", "lt", "lv", "mk", "mt", "pl", "pt", "pt-PT", "ro", "ru", "shi", "sl", "xx", "zh-Hans"}) {
@@ -193,7 +193,7 @@ struct Edit {
     State state = State::translated;
 };
 
-// What the import of the edits into a source of these files says.
+// Imports the edits into a source and returns the messages.
 struct ImportResult {
     std::size_t texts = 0, files = 0;
     Strings messages;
@@ -229,7 +229,7 @@ TEST(Imports, ChangeNothingButTexts) {
         std::vector<Edit> edits;
         std::string after;
     } cases[] = {
-        // Quoted texts: the literal alone is replaced, whatever is around it.
+        // Text form: only the literal is replaced, whatever surrounds it.
         {__LINE__,
          "T.strings",
          odd,
@@ -293,7 +293,7 @@ TEST(Imports, ChangeNothingButTexts) {
          plist + "<dict/></plist>",
          {{"T/a", "x"}},
          plist + "<dict>\n    <!-- Says a. -->\n    <key>a</key>\n    <string>x</string>\n</dict></plist>"},
-        // Plurals: a form, a form that is missing, a format, and a whole entry.
+        // Plurals: an existing form, a missing form, a format, and a whole entry.
         {__LINE__,
          "T.stringsdict",
          filesEntry("%#@n@!", oneAndOther),
@@ -375,7 +375,7 @@ TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
          catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("%lld k", "new") + "\n      }\n"),
          {{"T/%lld k", "K %lld", State::needsReview}},
          catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("K %lld", "needs_review") + "\n      }\n")},
-        // A text gives way to forms, which are put in the order of the alphabet.
+        // A plain text is replaced by forms in alphabetical order.
         {__LINE__,
          catalogOf(english + plural + ",\n        \"fr\" : " + unit("x") + "\n      }\n"),
          {{"T[plural.other]/%lld k", "%lld K"}, {"T[plural.one]/%lld k", "ein K"}},

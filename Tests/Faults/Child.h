@@ -1,5 +1,5 @@
 // Tests/Faults/Child.h
-// A child process for one case.
+// Runs a test case in a child process.
 #pragma once
 
 #include <cstdio>
@@ -12,8 +12,8 @@ namespace Child {
 
 inline constexpr int thrown = 100;
 
-// What `run()` gives, a number below 100, in a process of its own; `thrown` for an exception, or 200 and the signal
-// that ended it.
+// The result of `run()`, a number below 100, in a child process; `thrown` for an exception, 200 plus the signal number
+// if a signal ended it.
 template <class Run> int exitOf(Run run) {
     std::fflush(nullptr);
     const pid_t child = ::fork();

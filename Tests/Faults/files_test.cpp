@@ -1,4 +1,4 @@
-// A bundle's files that cannot be read, are replaced, are cut short or are not there.
+// Bundle files that are unreadable, replaced, truncated or missing.
 #include <Lumora/Lumora.h>
 
 #include "../Support/TemporaryFolder.h"
@@ -34,7 +34,7 @@ rlim_t setDescriptors(rlim_t most) {
     return old;
 }
 
-TEST(Files, NoDescriptorsGiveNoTextAndKeepNothing) {
+TEST(Files, WithoutDescriptorsNothingIsCached) {
     EXPECT_EQ(Child::exitOf([] {
                   Foundation::Host::setPreferredLanguages({"ru"});
                   const rlim_t old = setDescriptors(0);
@@ -58,7 +58,7 @@ template <class Read> std::exception_ptr thrownBy(Read read) {
     return nullptr;
 }
 
-// Look when there are descriptors again: the sanitizer needs some to check an object.
+// Call this when descriptors are free again: the sanitizer needs some to check an object.
 bool isLackOfDescriptors(const std::exception_ptr& thrown) {
     try {
         if (thrown)
@@ -70,10 +70,10 @@ bool isLackOfDescriptors(const std::exception_ptr& thrown) {
     return false;
 }
 
-// An asset that the module names is not missing because descriptors are: it is no reason to stop. What may be absent
-// is.
-TEST(Files, NoDescriptorsStopNothing) {
-    for (const bool isOpen : {false, true}) // the bundle, not its catalog
+// Missing descriptors do not make an asset of the module missing, so the process is not stopped. Optional resources are
+// absent.
+TEST(Files, WithoutDescriptorsTheProcessContinues) {
+    for (const bool isOpen : {false, true}) // whether the bundle is open; its catalog is not
         EXPECT_EQ(Child::exitOf([isOpen] {
                       if (isOpen)
                           static_cast<void>(Lumora::LumoraResources::bundle());
@@ -95,8 +95,8 @@ TEST(Files, NoDescriptorsStopNothing) {
             << (isOpen ? "with the bundle open" : "at the first use");
 }
 
-// The catalog is open already; the decoders cannot be loaded.
-TEST(Files, NoDescriptorsGiveNoPixelsForTheMoment) {
+// The catalog is already open, but the decoders cannot be loaded.
+TEST(Files, WithoutDescriptorsPixelsAreMissingTemporarily) {
     EXPECT_EQ(Child::exitOf([] {
                   const UIKit::UIImage image = Lumora::LumoraAsset::Images::send.image();
                   const rlim_t old = setDescriptors(0);
@@ -107,8 +107,8 @@ TEST(Files, NoDescriptorsGiveNoPixelsForTheMoment) {
               0);
 }
 
-// The bundle and its tables are read already, so what lacks is the descriptor for the language data.
-TEST(Files, NoDescriptorsGiveNoPoorerFormsForGood) {
+// The bundle and its tables are already read; only the descriptor for the language data is missing.
+TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
     const struct {
         int line;
         const char* language;
@@ -140,8 +140,8 @@ TEST(Files, NoDescriptorsGiveNoPoorerFormsForGood) {
             << "line " << one.line;
 }
 
-// root may read everything, so another user does the reading.
-TEST(Files, WhatMayNotBeReadIsMissing) {
+// root can read everything, so the test reads as another user.
+TEST(Files, UnreadableFilesAreMissing) {
     const Support::TemporaryFolder folder;
     folder.write("open.bundle/Base.lproj/T.strings", "a = text;");
     folder.write("closed.bundle/Base.lproj/T.strings", "a = text;");
@@ -174,8 +174,8 @@ TEST(Files, HalfATableIsMissing) {
     EXPECT_EQ(text(folder / "B.bundle", "a", "U"), "text");
 }
 
-// While one thread replaces the bundle as a compile does, in one step, another opens it: it sees the old one or the new
-// one, whole.
+// While one thread replaces the bundle atomically, like a compile, another opens it and sees either the old or the new
+// one, complete.
 TEST(Files, AnUpgradeByRenamingIsSafe) {
     const Support::TemporaryFolder folder;
     const auto write = [&](const char* bundle, char version) {
@@ -186,7 +186,7 @@ TEST(Files, AnUpgradeByRenamingIsSafe) {
     std::size_t wrong = 0, looks = 0;
     std::thread reader([&] {
         for (; !ends; ++looks) {
-            // What a bundle has read it keeps, so each look is at another spelling of its path.
+            // Bundles keep what they have read, so each iteration uses another spelling of the path.
             std::string path = folder / "B.bundle";
             for (std::size_t rest = looks; rest != 0; rest /= 2)
                 path += rest % 2 != 0 ? "/." : "/";
@@ -198,7 +198,7 @@ TEST(Files, AnUpgradeByRenamingIsSafe) {
     for (int i = 1; i <= 300; ++i) {
         write("New.bundle", i % 2 == 0 ? '0' : '1');
         ASSERT_EQ(::renameat2(AT_FDCWD, made.c_str(), AT_FDCWD, place.c_str(), RENAME_EXCHANGE), 0);
-        fs::remove_all(made); // the old one by now
+        fs::remove_all(made); // now the old one
     }
     ends = true;
     reader.join();
@@ -206,8 +206,8 @@ TEST(Files, AnUpgradeByRenamingIsSafe) {
     EXPECT_GT(looks, 0U);
 }
 
-// A picture whose catalog is emptied in place is a damaged picture; what was read before stays.
-TEST(Files, ACatalogCutShortInPlaceIsDamaged) {
+// A picture whose catalog is truncated in place is damaged; pictures that were read before stay.
+TEST(Files, ACatalogTruncatedInPlaceIsDamaged) {
     const Support::TemporaryFolder folder;
     const fs::path bundle = folder / "B.bundle";
     fs::create_directory(bundle);
@@ -222,13 +222,14 @@ TEST(Files, ACatalogCutShortInPlaceIsDamaged) {
     EXPECT_FALSE(unseen->rgba());
 }
 
-// A program may close descriptors that are not its own and open other files under their numbers.
+// A program may wrongly close our descriptors and reuse their numbers for other files.
 TEST(Files, ClosedDescriptorsDamagePicturesOnly) {
     EXPECT_EQ(Child::exitOf([] {
                   Foundation::Host::setPreferredLanguages({"ru"});
                   const bool hasPicture = Assets::Images::send.image().rgba() != nullptr;
                   ::close_range(3, ~0U, 0);
-                  while (::open("/dev/zero", O_RDONLY) < 64) {}
+                  while (::open("/dev/zero", O_RDONLY) < 64) {
+                  }
                   const auto unseen = UIKit::UIImage::imageNamed("icon_month", Lumora::LumoraResources::bundle());
                   const bool isDamaged = unseen && unseen->rgba() == nullptr;
                   return hasPicture && isDamaged && Texts::continue_() == "Продолжить" ? 0 : 1;

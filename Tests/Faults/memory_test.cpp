@@ -1,4 +1,4 @@
-// No memory: each allocation on the way of a first read fails once, and all from it on fail.
+// Out of memory: for every n, the n-th allocation of a first read fails once, or it and all later ones fail.
 #include <Lumora/Loc.h>
 #include <Lumora/Lumora.h>
 #include <Runtime/Class.h>
@@ -27,8 +27,8 @@
 namespace {
 
 constexpr long never = std::numeric_limits<long>::max();
-long before = never;  // allocations that succeed before one fails
-bool failsOn = false; // and all after it
+long before = never;  // number of allocations before the failing one
+bool failsOn = false; // whether all later ones fail, too
 bool hasFailed = false;
 
 bool isOfIcu(void* code) noexcept {
@@ -36,7 +36,7 @@ bool isOfIcu(void* code) noexcept {
     return ::_dl_find_object(code, &found) == 0 && std::strstr(found.dlfo_link_map->l_name, "libicu") != nullptr;
 }
 
-// ICU's own are spared: where its first steps find no memory it waits for itself for ever.
+// ICU's own allocations do not fail: without memory its initialization deadlocks.
 bool fails(void* caller = nullptr) noexcept {
     if (before == never || isOfIcu(caller) || before-- > 0)
         return false;
@@ -53,8 +53,8 @@ bool fails(void* caller = nullptr) noexcept {
 } // namespace
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-// The sanitizer has taken malloc.
-// GCC takes the pair for mismatched where it sees through one of them only.
+// The sanitizer replaces malloc.
+// GCC reports a mismatch when it inlines only one of the pair.
 #pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 void* operator new(std::size_t size) {
     void* memory = fails() ? nullptr : std::malloc(size == 0 ? 1 : size);
@@ -72,7 +72,7 @@ void operator delete(void* memory, std::size_t) noexcept {
     std::free(memory);
 }
 #else
-// All memory, that of the XML parser and of the dynamic linker too.
+// All allocations, including those of the XML parser and the dynamic linker.
 extern "C" {
 // NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): glibc's own names
 void* __libc_malloc(std::size_t size);
@@ -127,8 +127,8 @@ const std::string longText(100, 'a');
 struct Case {
     const char* name;
     std::string (*read)();
-    const char* otherwise = "";  // besides the right text
-    const char* right = nullptr; // where a poorer text might be kept
+    const char* otherwise = "";  // allowed instead of the right text
+    const char* right = nullptr; // if a degraded text might be cached
 };
 const Case cases[] = {
     {"plain", [] { return Texts::continue_(); }},
@@ -136,10 +136,10 @@ const Case cases[] = {
      [] {
          return Texts::DeleteAccount::activeSubscriptionServer(std::vector<int>{1, 2});
      }},
-    {"phrase", [] { return Texts::locYears(25); }, "25 "}, // without its noun
+    {"phrase", [] { return Texts::locYears(25); }, "25 "}, // the noun may be missing
     {"number",
      [] {
-         Foundation::Host::setCurrentLocale("en_RU@numbers=arab"); // which the build has written nothing down of
+         Foundation::Host::setCurrentLocale("en_RU@numbers=arab"); // not among the precomputed locales
          return Localization::legacyTrNumber(25, true);
      },
      "", "\u061C+\u0662\u0665"},
@@ -161,7 +161,7 @@ const Case cases[] = {
     {"XML table", xmlText, "", "Weiter"},
 };
 
-// Looking for leaks takes long: after some of the failures only.
+// Checking for leaks is slow, so do it only after some of the failures.
 bool leaks([[maybe_unused]] long n) {
 #ifdef __SANITIZE_ADDRESS__
     return n % 25 == 1 && __lsan_do_recoverable_leak_check() != 0;
@@ -170,13 +170,14 @@ bool leaks([[maybe_unused]] long n) {
 #endif
 }
 
-// The reading where its (n+1)-th allocation fails: 0 when it went as it must, 1 when none failed any more.
+// Runs the case with its (n+1)-th allocation failing. Returns 0 when the result is correct, 1 when no allocation
+// failed.
 int attempt(const Case& one, long n, bool on) {
     Foundation::Host::setPreferredLanguages({"ru"});
     std::optional<std::string> first;
     failsOn = on;
     before = n;
-    // What the test itself takes for its answers may throw, and so may the platform below the module.
+    // Allocations of the test itself may throw, and so may the platform.
     try {
         first.emplace(one.read());
     } catch (const std::exception&) {
@@ -184,13 +185,13 @@ int attempt(const Case& one, long n, bool on) {
     before = never;
     const std::string again = one.read();
     if (again.empty() || again != one.read() || (one.right != nullptr && again != one.right))
-        return 2; // with memory back the text must be right
+        return 2; // with memory available again the text must be right
     if (first && !first->empty() && *first != again && *first != one.otherwise)
         return 3;
     return leaks(n) ? 4 : hasFailed ? 0 : 1;
 }
 
-TEST(NoMemory, GivesNoTextAndKeepsNothing) {
+TEST(NoMemory, CachesNothing) {
     const Support::TemporaryFolder folder;
     writeXmlBundle(folder);
     for (const bool on : {false, true})
@@ -198,13 +199,13 @@ TEST(NoMemory, GivesNoTextAndKeepsNothing) {
             long n = 0;
             int code = 0;
             while ((code = Child::exitOf([&] { return attempt(one, n, on); })) == 0)
-                n += n < 60 ? 1 : 7; // the readers take memory in the same way for each of many entries
+                n += n < 60 ? 1 : 7; // later allocations are alike, one for each entry
             EXPECT_EQ(code, 1) << one.name << ", allocation " << n << (on ? " and all after it" : "");
             EXPECT_GT(n, 2) << one.name;
         }
 }
 
-// The library's own share of the above: a plain read throws nothing at all.
+// A plain read never throws.
 TEST(NoMemory, APlainReadNeverThrows) {
     EXPECT_EQ(Child::exitOf([] {
                   failsOn = true;
@@ -217,16 +218,16 @@ TEST(NoMemory, APlainReadNeverThrows) {
               0);
 }
 
-// Bytes of address space in use.
+// The used address space in bytes.
 rlim_t addressSpace() {
     rlim_t pages = 0;
     std::ifstream("/proc/self/statm") >> pages;
     return pages * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
 }
 
-// The address space is too small for the language data, or for some of it, at the first read: mappings fail,
-// allocations may not. Once there is room the text is right.
-TEST(NoMemory, TooLittleAddressSpaceIsNotRemembered) {
+// At the first read the address space is too small for all or some language data: mappings fail, allocations may
+// succeed. With more space the text is right.
+TEST(NoMemory, LackOfAddressSpaceIsNotCached) {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     GTEST_SKIP() << "a sanitizer needs all addresses";
 #endif
@@ -255,7 +256,7 @@ TEST(NoMemory, TooLittleAddressSpaceIsNotRemembered) {
                           const rlim_t old = std::exchange(limit.rlim_cur, addressSpace() + room);
                           ::setrlimit(RLIMIT_AS, &limit);
                           std::optional<std::string> first;
-                          try { // pictures and what the test itself takes may throw
+                          try { // pictures and allocations of the test may throw
                               first = one.read();
                           } catch (const std::exception&) {
                           }

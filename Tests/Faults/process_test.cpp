@@ -1,4 +1,4 @@
-// Many threads at the first use, and a process that forks.
+// First use by many threads, and forked processes.
 #include <Foundation/Host.h>
 #include <Foundation/NSNumberFormatter.h>
 #include <Lumora/Lumora.h>
@@ -50,7 +50,7 @@ TEST(Process, SixteenThreadsAtTheFirstUse) {
               0);
 }
 
-TEST(Process, AChildReadsWhatItsParentHasReadAndWhatNot) {
+TEST(Process, AChildReadsOldAndNewTexts) {
     EXPECT_EQ(Child::exitOf([] {
                   useRussian();
                   if (Texts::continue_() != "Продолжить")
@@ -60,14 +60,15 @@ TEST(Process, AChildReadsWhatItsParentHasReadAndWhatNot) {
               0);
 }
 
-// Runs `work` again and again on another thread until it is destroyed.
+// Runs `work` repeatedly on another thread until destroyed.
 class Busy {
 public:
     template <class Work>
-    explicit Busy(Work work) : thread_([this, work] {
-        while (!ends_)
-            work();
-    }) {}
+    explicit Busy(Work work)
+        : thread_([this, work] {
+              while (!ends_)
+                  work();
+          }) {}
     ~Busy() {
         ends_ = true;
         thread_.join();
@@ -80,23 +81,26 @@ private:
 
 // Reads and sets everything.
 int useAll() {
-    ::alarm(10); // a child that waits for ever is killed
+    ::alarm(10); // kills a child that hangs
     useRussian();
     return readsAll() && Foundation::Locale::current().identifier() == "ru_RU" ? 0 : 1;
 }
 
-// A child is forked while another thread is in the middle of work, whatever that is: it has none of its locks to wait for.
-TEST(Process, AChildForkedInTheMiddleOfWorkReadsAndSetsAll) {
+// Forks a child while another thread is working; the child must not wait for a lock of that thread.
+TEST(Process, AChildForkedDuringWorkReadsAndSetsAll) {
     const struct {
         int line;
         void (*work)();
     } cases[] = {
-        {__LINE__, [] { Foundation::Host::setPreferredLanguages({"de", "fr"}); }},
+        {__LINE__,
+         [] {
+             Foundation::Host::setPreferredLanguages({"de", "fr"});
+         }},
         {__LINE__, [] { Foundation::Host::setCurrentLocale("de_AT"); }},
         {__LINE__, [] { Foundation::Host::reset(); }},
         {__LINE__, [] { static_cast<void>(Lumora::LumoraAsset::Images::send.image().rgba()); }},
         {__LINE__,
-         [] { // in ICU each time
+         [] { // calls ICU each time
              Foundation::NSNumberFormatter formatter;
              formatter.setLocale(Foundation::Locale(std::string(200, 'x') + "@numbers=arab"));
              static_cast<void>(formatter.stringFromNumber(5));
@@ -117,10 +121,10 @@ TEST(Process, AChildForkedDuringAFirstReadReadsAll) {
                       std::thread reader([&] {
                           start.arrive_and_wait();
                           readsAll();
-                          forked.wait(); // the sanitizer would take a thread that has ended for one that the child leaks
+                          forked.wait(); // the sanitizer would report a finished thread as leaked by the child
                       });
                       start.arrive_and_wait();
-                      ::usleep(static_cast<useconds_t>(i * 20)); // to be forked at another moment each time
+                      ::usleep(static_cast<useconds_t>(i * 20)); // vary the moment of the fork
                       const int code = Child::exitOf(useAll);
                       forked.count_down();
                       reader.join();

@@ -1,4 +1,4 @@
-// A program that is not linked with the library, loads it and lets it go again and again.
+// A program that loads and unloads the library repeatedly instead of linking it.
 #include <cstring>
 #include <dlfcn.h>
 #include <filesystem>
@@ -22,7 +22,7 @@ Usage usage() {
     return now;
 }
 
-// Loads the library, reads one text and lets the library go. The text, which stays where it is.
+// Loads the library, reads one text and unloads the library. Returns the text, which stays valid.
 const char* readOnce() {
     void* library = ::dlopen(LUMORA_LIBRARY, RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr)
@@ -48,7 +48,7 @@ TEST(Reload, GrowsNeitherMemoryNorDescriptors) {
         ASSERT_EQ(readOnce(), nullptr);
     const Usage after = usage();
     EXPECT_EQ(after.descriptors, before.descriptors);
-    // Two thousand copies of anything would be seen; what a sanitizer keeps aside of freed memory is not meant.
+    // Two thousand leaked copies of anything would exceed this. Freed memory that a sanitizer retains does not count.
     EXPECT_LT((after.residentPages - before.residentPages) * ::sysconf(_SC_PAGESIZE), 8 << 20);
     EXPECT_NE(::dlopen(LUMORA_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr) << "it was unloaded";
 }

@@ -1,4 +1,4 @@
-// A process that serves many users for a long time.
+// A long-running process that serves many users.
 #include <Foundation/Host.h>
 #include <Foundation/NSBundle.h>
 #include <Lumora/Lumora.h>
@@ -18,8 +18,8 @@ long residentKilobytes() {
     return resident * ::sysconf(_SC_PAGESIZE) / 1024;
 }
 
-// A server that sets each user's languages and locale: bounded memory.
-TEST(Users, AnyNumberTakesBoundedMemory) {
+// A server that sets each user's languages and locale needs bounded memory.
+TEST(Users, AnyNumberNeedsBoundedMemory) {
     const Support::TemporaryFolder folder;
     folder.write("Base.lproj/T.strings", "a = text;");
     const Foundation::NSBundle& bundle = Foundation::NSBundle::bundleWithPath(folder.path());

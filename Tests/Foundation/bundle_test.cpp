@@ -13,7 +13,7 @@ namespace {
 using Foundation::NSBundle;
 namespace Host = Foundation::Host;
 
-// A bundle of its own for each test: what a bundle has read it keeps.
+// Each test has its own bundle, because bundles keep what they have read.
 class Bundle : public ::testing::Test {
 protected:
     ~Bundle() override { Host::reset(); }
@@ -53,7 +53,7 @@ TEST_F(Bundle, ChoosesTheLanguagesThatTheUserReads) {
         {__LINE__, {"en_GB"}, {"en"}},
         {__LINE__, {"no"}, {"nb"}},
         {__LINE__, {"fr", "de", "ru_RU.UTF-8", "de_DE"}, {"de", "ru"}},
-        // What the user did not name is never chosen, however near it is; the development language remains.
+        // A related language that the user did not list is never chosen; the development language is used.
         {__LINE__, {"uk"}, {"en"}},
         {__LINE__, {"ca"}, {"en"}},
         {__LINE__, {"xx", "", "!!"}, {"en"}},
@@ -79,13 +79,13 @@ TEST_F(Bundle, LooksInTheChosenLanguageThenInTheDevelopmentTexts) {
     EXPECT_EQ(bundle().localizedStringForKey("none", &value, "Localizable"), "instead");
     EXPECT_EQ(bundle().localizedStringForKey("key", &value, "Localizable"), "key");
 
-    // A change of the host's languages is seen by the next call.
+    // The next call uses the changed languages of the host.
     Host::setPreferredLanguages({"en"});
     EXPECT_EQ(text("both"), "Base");
 }
 
-// The system would read such a name up to the NUL, and find something else.
-TEST_F(Bundle, RefusesNamesWithANul) {
+// System calls would read such a name only up to the NUL and find another file.
+TEST_F(Bundle, RejectsNamesWithANul) {
     const std::string nul(1, '\0');
     write("Base.lproj/T.strings", "a = text;");
     write("de.lproj/T.strings", "a = deutsch;");
@@ -137,7 +137,7 @@ TEST_F(Bundle, ReadsATableOnce) {
     EXPECT_EQ(text("a"), "first");
 }
 
-TEST_F(Bundle, WithADamagedTableHasTheKeysOnly) {
+TEST_F(Bundle, WithADamagedTableReturnsKeys) {
     write("Base.lproj/Localizable.strings", "a = first; b = ");
     EXPECT_EQ(text("a"), "a");
 }
@@ -151,8 +151,8 @@ TEST_F(Bundle, TakesItsDevelopmentRegionFromInfoPlist) {
     EXPECT_EQ(text("a"), "un");
 }
 
-// `lumora compile` notes the languages; a note that the folder contradicts does not count.
-TEST_F(Bundle, TakesItsLanguagesFromInfoPlistIfTheyAreThere) {
+// `lumora compile` writes the list of languages; a list that contradicts the folder is ignored.
+TEST_F(Bundle, TakesItsLanguagesFromInfoPlistIfTheyExist) {
     const auto write = [](const Support::TemporaryFolder& folder, const char* noted) {
         folder.write("Info.plist", std::string("LumoraLanguages = \"") + noted + "\"; LumoraPlurals = no;");
         folder.write("Base.lproj/T.strings", "a = text;");

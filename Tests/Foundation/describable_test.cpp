@@ -22,7 +22,7 @@ std::string describe(const Price& price) {
     return std::to_string(price.cents) + " ct";
 }
 
-// A text of its own that is also described: the description counts.
+// A type that converts to text and has a description: the description is used.
 struct Label {
     operator std::string_view() const { return "as a text"; }
 };
@@ -79,7 +79,7 @@ TEST(Describable, WholeNumbersAreDecimal) {
     EXPECT_EQ(text(std::numeric_limits<unsigned long long>::max()), "18446744073709551615");
 }
 
-TEST(Describable, FloatingNumbersAreTheFewestDigitsThatGiveThemBack) {
+TEST(Describable, FloatingNumbersHaveTheFewestExactDigits) {
     const struct {
         int line;
         double value;
@@ -112,7 +112,7 @@ TEST(Describable, FloatingNumbersAreTheFewestDigitsThatGiveThemBack) {
     EXPECT_EQ(text(-std::numeric_limits<long double>::max()), "-1.189731495357231765e+4932");
 }
 
-TEST(Describable, OptionalsAndSequencesDescribeWhatTheyHold) {
+TEST(Describable, OptionalsAndSequencesDescribeTheirElements) {
     EXPECT_EQ(text(std::optional<int>()), "nil");
     EXPECT_EQ(text(std::nullopt), "nil");
     EXPECT_EQ(text(std::optional(5)), "Optional(5)");
@@ -141,7 +141,7 @@ TEST(Describable, TypesMayDescribeThemselves) {
               "[5, -7, 2.0, 0.10000000149011612, 18446744073709551615, 1]");
 }
 
-// What has parts of its own type has no end, and a list of wide letters is no text.
+// Types that contain themselves would recurse without end, and wide strings would be printed as lists of letters.
 static_assert(!Foundation::detail::Sequence<std::filesystem::path> && !Foundation::detail::Sequence<std::u16string>);
 
 TEST(Describable, BorrowsTexts) {

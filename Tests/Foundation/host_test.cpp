@@ -29,7 +29,7 @@ void apply(const Environment& environment) {
     Host::reset();
 }
 
-TEST(Host, FollowsTheEnvironmentUntilItIsTold) {
+TEST(Host, FollowsTheEnvironmentUntilSet) {
     const Support::TemporaryFolder folder;
     for (const char* name : {"Base", "ru", "de", "sr-Latn", "fr"})
         folder.write(std::string(name) + ".lproj/Localizable.strings", "");

@@ -29,7 +29,7 @@ std::string percent(const char* locale, NSNumber number) {
     return text(locale, number, NSNumberFormatter::Style::percent);
 }
 
-TEST(Number, KeepsWhatItIsMadeFrom) {
+TEST(Number, KeepsItsValue) {
     EXPECT_EQ(NSNumber(smallest).int64Value(), smallest);
     EXPECT_EQ(NSNumber(largestUnsigned).uint64Value(), largestUnsigned);
     EXPECT_EQ(NSNumber(true).int64Value(), 1);
@@ -66,11 +66,11 @@ TEST(Number, GivesTheNearestValueOfAnotherType) {
     }
 }
 
-TEST(NumberFormatter, WritesDecimalsAndPercentagesOfEveryLanguage) {
+TEST(NumberFormatter, WritesDecimalsAndPercentagesInEveryLanguage) {
     const struct {
         const char* locale;
-        const char* decimal; // of -1234567.8915
-        const char* percent; // of 0.256
+        const char* decimal; // text of -1234567.8915
+        const char* percent; // text of 0.256
     } cases[] = {
         {"ar", "\u061C-١٬٢٣٤٬٥٦٧٫٨٩٢", "٢٦٪\u061C"},
         {"de", "-1.234.567,892", "26\u00A0%"},
@@ -130,7 +130,7 @@ TEST(NumberFormatter, RoundsHalvesToEvenByTheShortestDigits) {
     EXPECT_EQ(percent("en", 0), "0%");
 }
 
-TEST(NumberFormatter, PutsASetPrefixBeforeWhatIsNotNegative) {
+TEST(NumberFormatter, UsesASetPrefixForNonnegativeNumbers) {
     NSNumberFormatter formatter;
     formatter.setLocale(Locale("ar"));
     EXPECT_EQ(formatter.positivePrefix(), "");
@@ -144,7 +144,7 @@ TEST(NumberFormatter, PutsASetPrefixBeforeWhatIsNotNegative) {
     EXPECT_EQ(formatter.stringFromNumber(1500), "1,500");
 }
 
-TEST(NumberFormatter, IsMadeInTheCurrentLocale) {
+TEST(NumberFormatter, StartsWithTheCurrentLocale) {
     Foundation::Host::setCurrentLocale("de_AT");
     EXPECT_EQ(NSNumberFormatter().stringFromNumber(1234567.5), "1\u00A0234\u00A0567,5");
     Foundation::Host::setCurrentLocale("de_CH");

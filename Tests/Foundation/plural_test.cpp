@@ -1,4 +1,4 @@
-// Texts that depend on numbers, as a bundle gives them: which form is chosen, by which argument, and how it is printed.
+// Plural texts of a bundle: which form is chosen, by which argument, and how the number is printed.
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
@@ -99,7 +99,7 @@ TEST_F(Plurals, ChooseFormsByTheRightArgument) {
                                              Foundation::Locale::current(), arguments),
                   expected)
             << "line " << line;
-    // A variable that names itself ends somewhere.
+    // The recursion of a variable that contains itself is limited.
     EXPECT_LE(made("itself", {5}).size(), std::size_t{1} << 20);
 }
 
@@ -112,19 +112,19 @@ TEST_F(Plurals, FollowTheLanguageOfTheirTable) {
                     plural("zero", "%#@n@", variable("n", "ld", text("zero", "none") + all)));
     write("ar", plural("n", "%#@n@", variable("n", "ld", all)));
     Host::setPreferredLanguages({"ru"});
-    Host::setCurrentLocale("de_DE"); // decides how numbers look, not which form they take
+    Host::setCurrentLocale("de_DE"); // affects how numbers are printed, not the plural form
     EXPECT_EQ(made("n", {21}), "21 one");
     EXPECT_EQ(made("n", {3}), "3 few");
     EXPECT_EQ(made("n", {1011}), "1.011 many");
     EXPECT_EQ(made("zero", {0}), "none");
     EXPECT_EQ(made("base", {21}), "21 other"); // found in the English table
     Host::setPreferredLanguages({"ar"});
-    EXPECT_EQ(made("n", {2}), "2 other"); // the form that is missing
+    EXPECT_EQ(made("n", {2}), "2 other"); // the form is missing
     EXPECT_EQ(made("n", {11}), "11 many");
     EXPECT_EQ(made("zero", {0}), "none");
 }
 
-TEST_F(Plurals, LookAtFloatingNumbersAsPrinted) {
+TEST_F(Plurals, UseFloatingNumbersAsPrinted) {
     write("Base",
           plural("f", "%#@n@", variable("n", "f", forms("%.1f mile", "%.1f miles"))) +
               plural("rounded", "%#@n@", variable("n", "f", forms("%.0f mile", "%.0f miles"))) +

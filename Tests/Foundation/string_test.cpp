@@ -45,12 +45,12 @@ TEST(String, FillsPlaceholdersInTheirOrderOrByPosition) {
         {__LINE__, "%2$@ %@ %@", {"a"sv, "b"sv}, "b a b"},
         {__LINE__, "%@%d%%", {"ж"sv, integer(-5)}, "ж-5%"},
         {__LINE__, "%@\xff%@", {"\xfe"sv, "\0"sv}, "\xfe\xff\0"sv},
-        // What is not a placeholder stays.
+        // Everything that is not a placeholder is unchanged.
         {__LINE__, "50%", {"a"sv}, "50%"},
         {__LINE__, "%s %S %-3ls|%.1s", {"a"sv, "b"sv, "c"sv, "ж!"sv}, "a b c  |ж"},
         {__LINE__, "% ", {}, "% "},
         {__LINE__, "%k %@", {"a"sv}, "%k a"},
-        // Arguments of the other kind, and none.
+        // Arguments of another kind, and missing ones.
         {__LINE__, "%d", {"a"sv}, "a"},
         {__LINE__, "%.1d|%x", {"abc"sv, "abc"sv}, "abc|abc"},
         {__LINE__, "%f|%-3e|", {"a"sv, "b"sv}, "a|b  |"},
@@ -90,7 +90,7 @@ TEST(String, HeedsFlagsWidthAndPrecision) {
         {__LINE__, "[%4@] [%-4@] [%.1@]", {"жж"sv, "жж"sv, "жж"sv}, "[  жж] [жж  ] [ж]"},
         {__LINE__, "[%.0@] [%.9@] [%3.1@]", {"a"sv, "ab"sv, "ab"sv}, "[] [ab] [  a]"},
         {__LINE__, "[%3c]", {integer(0x4E2D)}, "[  中]"},
-        // Sizes that are arguments; a text is none, a negative width aligns to the left, a negative precision is none.
+        // Sizes as arguments: a text is ignored, a negative width aligns to the left, a negative precision is ignored.
         {__LINE__, "[%*d]", {integer(4), integer(7)}, "[   7]"},
         {__LINE__, "[%*d]", {integer(-4), integer(7)}, "[7   ]"},
         {__LINE__, "[%.*@]", {integer(2), "abc"sv}, "[ab]"},
@@ -123,7 +123,7 @@ TEST(String, WritesNumbersAsTheLocaleDoes) {
     EXPECT_EQ(format("[%08.1f] [%8.1f]", {-1.5, 2.5}, "ar_EG"), "[\u061C-٠٠٠١٫٥] [     ٢٫٥]");
     EXPECT_EQ(format("%a %f %F", {0.75, std::numeric_limits<double>::infinity(), std::nan("")}, "de_DE"),
               "0x1.8p-1 inf NAN");
-    // Texts and plain conversions have no locale.
+    // Texts and plain conversions do not depend on the locale.
     EXPECT_EQ(format("%@ %x", {integer(1234567), integer(1234567)}, "ar_EG"), "1234567 12d687");
 }
 
@@ -134,7 +134,7 @@ TEST(String, BoundsItsResult) {
     for (int i = 0; i < 100'000; ++i)
         format += "%1$@";
     EXPECT_EQ(::format(format, {std::string_view(longText)}).size(), format.size() + largestGrowth);
-    // Two bytes do not fit where one is left.
+    // A character of two bytes does not fit into one.
     const std::string cut = ::format("%1$@%1$@!", {std::string_view(std::string(largestGrowth + 8, 'x'))});
     EXPECT_EQ(cut, std::string(largestGrowth + 9, 'x'));
     std::string wide = "x";
@@ -146,9 +146,9 @@ TEST(String, BoundsItsResult) {
     EXPECT_EQ(::format(large, {}), large);
 }
 
-// Random placeholders with random arguments print what the C library prints, in the plain English locale. Left out are
-// two faults of glibc's own in placeholders with positions: it reads "q" and "L" as 32 bits, and pads a zero-padded
-// number to a negative width with zeros on its right.
+// Compares random placeholders and arguments with the C library, in the plain English locale. Excluded are two glibc
+// bugs in placeholders with positions: it reads "q" and "L" as 32 bits, and pads zero-padded numbers with a negative
+// width with zeros on the right.
 class RandomFormats {
 public:
     void run(int count) {
@@ -186,7 +186,7 @@ private:
         value(format, conversion);
     }
 
-    // A size that is an argument; the first argument with a position is the first in the list.
+    // Adds a size argument. With positions, it comes first in the argument list.
     std::string size(const std::optional<int>& argument) {
         if (!argument)
             return "";
@@ -225,7 +225,7 @@ private:
         double value = 0;
         switch (below(4)) {
         case 0:
-            std::memcpy(&value, &bits, sizeof value); // any, with infinities, NaN and tiny ones
+            std::memcpy(&value, &bits, sizeof value); // any value, including infinities, NaN and subnormal ones
             return value;
         case 1:
             return pick({0.0,
@@ -276,7 +276,7 @@ private:
 
     std::mt19937_64 random_{20'240'501};
     const Foundation::Locale posix_{"en_US_POSIX"};
-    std::optional<int> width_, precision_; // that are arguments
+    std::optional<int> width_, precision_; // given as arguments
     bool isPositional_ = false;
     Arguments arguments_;
 };

@@ -30,7 +30,7 @@ TEST(YearPhrases, AreInTheWordsOfEveryLanguage) {
         const char* locale;
         const char* one;
         const char* two;
-        const char* many; // of 25
+        const char* many; // the phrase for 25
     } cases[] = {
         {"ar", "سنة", "سنتان", "٢٥ سنة"},         {"de", "1 Jahr", "2 Jahre", "25 Jahre"},
         {"en", "1 year", "2 years", "25 years"},  {"es", "1 año", "2 años", "25 años"},
@@ -50,7 +50,7 @@ TEST(YearPhrases, AreInTheWordsOfEveryLanguage) {
     }
 }
 
-TEST(YearPhrases, HoldEveryCount) {
+TEST(YearPhrases, CoverEveryCount) {
     EXPECT_EQ(years("ru", 21), "21 год");
     EXPECT_EQ(years("ru", -22), "-22 года");
     EXPECT_EQ(years("ru", 1'000'011), "1\u00A0000\u00A0011 лет");
@@ -60,7 +60,7 @@ TEST(YearPhrases, HoldEveryCount) {
     EXPECT_EQ(years("en", std::numeric_limits<std::int64_t>::min()), "-9,223,372,036,854,775,808 years");
 }
 
-TEST(YearPhrases, AreForYearsThatAreAllowedAndGiven) {
+TEST(YearPhrases, NeedAllowedAndGivenYears) {
     EXPECT_EQ(formatterOf("en").stringFromDateComponents(NSDateComponents()), std::nullopt);
     EXPECT_EQ(NSDateComponentsFormatter().stringFromDateComponents({.year = 5}), std::nullopt);
 }

@@ -19,7 +19,7 @@ std::vector<SourceAsset> assets(const std::vector<const char*>& names) {
     return all;
 }
 
-TEST(AssetConstants, AreNamedByTheRule) {
+TEST(AssetConstants, HaveNames) {
     const struct {
         int line;
         const char *asset, *groups, *name;
@@ -73,13 +73,13 @@ TEST(AssetConstants, AreLeftOutWithAReason) {
         ASSERT_EQ(diagnostics.count(SourceBundle::Severity::warning), 1U) << "line " << one.line;
         EXPECT_EQ(diagnostics.all()[0].what.text(), one.report) << "line " << one.line;
     }
-    // The folder is no part of the path.
+    // The folder has no usable name and is dropped.
     SourceBundle::Diagnostics diagnostics;
     const auto source = assets({"--/x"});
     EXPECT_EQ(Generator::assetTreeOf(source, diagnostics).constants.at(0).groups, "Media");
 }
 
-TEST(AssetConstants, OfOneNameAreThereInEveryCatalog) {
+TEST(AssetConstants, WithEqualNamesExistInEveryCatalog) {
     auto source = assets({"x", "x"});
     source[1].catalog = "More";
     SourceBundle::Diagnostics diagnostics;

@@ -1,4 +1,4 @@
-// A small input of odd names and the output it gives, both committed, so that a review shows what a change does.
+// A small input with unusual names and its output, both committed, so that reviews show the effect of a change.
 #include "../Support/SourceFolder.h"
 #include "Generator/Generator.h"
 
@@ -31,7 +31,7 @@ std::map<std::string, std::string> generated(const fs::path& folder, const Gener
     return files;
 }
 
-TEST(Golden, IsWhatIsGenerated) {
+TEST(Golden, MatchesTheGeneratedFiles) {
     const auto expected = golden();
     const Generator::Options options{.module = "Odd", .includes = {"Runtime/Class.h"}, .shards = 2};
     for (int run = 0; run < 2; ++run) {
@@ -53,7 +53,7 @@ std::size_t count(const std::string& text, std::string_view part) {
     return count;
 }
 
-TEST(Golden, TheApplicationsOwnTablesGiveEveryAccessor) {
+TEST(Golden, TheApplicationsTablesGiveAllAccessors) {
     std::size_t plain = 0;
     std::size_t formatted = 0;
     for (const auto& [path, content] : generated(LUMORA_RESOURCES, {.module = "Lumora", .includes = {}})) {

@@ -1,4 +1,4 @@
-// What the generator makes of tables, and what it has to say about them.
+// The accessors and messages that the generator makes from tables.
 #include "Generator/Generator.h"
 
 #include "../Support/SourceFolder.h"
@@ -15,7 +15,7 @@ std::string content(const std::vector<Generator::OutputFile>& files, const std::
     return found == files.end() ? "no file " + path : found->content;
 }
 
-// A source with the development table T, and what the generator makes of it.
+// A source with the development table T, and its generated model.
 class Tree : public Support::SourceFolder {
 public:
     explicit Tree(std::string_view text) { write("Base.lproj/T.strings", text); }
@@ -63,7 +63,7 @@ TEST(Model, MakesParametersOfPlaceholders) {
     }
 }
 
-TEST(Model, LeavesOutKeysThatGiveNoAccessor) {
+TEST(Model, LeavesOutKeysWithoutAccessor) {
     const std::string longName(Generator::maxPathLength + 1, 'a');
     std::string deep;
     for (std::size_t part = 0; part <= Generator::maxPathParts; ++part)
@@ -71,8 +71,8 @@ TEST(Model, LeavesOutKeysThatGiveNoAccessor) {
     const struct {
         int line;
         std::string table;
-        Strings accessors; // "-" before why there is none
-        const char* place; // of the last one left out
+        Strings accessors; // "- REASON" if there is none
+        const char* place; // location of the last key that was left out
     } cases[] = {
         // No name.
         {__LINE__, "ok = a;\n \"\" = \"\";", {"ok", "- it has no letter or digit for a name"}, "2:2"},
@@ -81,7 +81,7 @@ TEST(Model, LeavesOutKeysThatGiveNoAccessor) {
          {"- it has no letter or digit for a name", "- it has no letter or digit for a name"},
          "1:12"},
         {__LINE__, "\"settings.second.%@\" = a; \"%%.x\" = b; \"a.-.b\" = c;", {"Settings::second", "x", "A::b"}, ""},
-        // Names of others: the first keeps it.
+        // Name clashes: the first key keeps the name.
         {__LINE__,
          "\"foo bar\" = a;\n  \"FooBar\" = b;",
          {"fooBar", "- the name fooBar belongs to key \"foo bar\" (line 1)"},
@@ -94,12 +94,12 @@ TEST(Model, LeavesOutKeysThatGiveNoAccessor) {
          "\"1.b\" = b;\n\"1\" = a;",
          {"_1::b", "- the name _1 belongs to a group of key \"1.b\" (line 1)"},
          "2:1"},
-        // One that is left out has no name to keep.
+        // A key without an accessor does not occupy a name.
         {__LINE__,
          "\"A.1\" = \"%2$@\";\n\"A.1.b\" = b;",
          {"A::_1::b", "- its text has no placeholder for argument 1 of 2"},
          "1:1"},
-        // One group may have keys of two spellings, and a group an entry's name in another group.
+        // A group may have keys with different spellings, and a group may have the name of an entry in another group.
         {__LINE__,
          "\"foo bar.x\" = a; \"FooBar.y\" = b; \"Z.FooBar\" = c;",
          {"FooBar::x", "FooBar::y", "Z::fooBar"},
@@ -136,14 +136,14 @@ TEST(Model, NamesTheOtherFileOfAClash) {
                                              (tree / "en.lproj/T.strings").string() + ", line 2)"}));
 }
 
-TEST(Model, TakesTheNamesOfANamesFile) {
+TEST(Model, UsesTheNamesFile) {
     Tree tree("\"Ban %@\" = \"%@\";\nbanUser = a;\nok = b;\nodd = c;");
     const auto names = tree.write("names", "\"T/Ban %@\" = \"Moderation.banUser\";\n"
                                            "\"T/banUser\" = \"ok\";\n"
                                            "\"T/odd\" = \"not a name\";\n"
                                            "\"T/gone\" = \"gone\";\n");
     const Generator::Options options{.module = "M", .names = names};
-    // A given name goes before one that a rule makes.
+    // Names from the names file take precedence.
     EXPECT_EQ(tree.accessors(options),
               (Strings{"Moderation::banUser", "ok", "odd", "- the name ok belongs to key \"banUser\" (line 2)"}));
     EXPECT_EQ(tree.takeMessages(),
@@ -155,7 +155,7 @@ TEST(Model, TakesTheNamesOfANamesFile) {
     EXPECT_TRUE(tree.diagnostics.hasErrors());
 }
 
-TEST(Model, ReportsWhatElseIsOdd) {
+TEST(Model, ReportsOtherProblems) {
     Tree tree("x = y; a = \"%d %\";");
     tree.write("de.lproj/T.strings", "x = y;\nold = a; older = b;");
     tree.write("fr.lproj/T.strings", "old = y;");
@@ -198,7 +198,7 @@ TEST(Emitter, SplitsLargeTablesBetweenGroups) {
               "// Generated from the resources of the module M; do not edit.\n#pragma once\n\n"
               "#include \"T-1.h\"\n#include \"T-2.h\"\n");
     EXPECT_NE(content(files, "MStrings/T-1.h").find("& root249();"), std::string::npos);
-    // Ten of the root, then groups that stay whole.
+    // Ten entries of the root, then complete groups.
     EXPECT_NE(content(files, "MStrings/T-2.h").find("& root250();"), std::string::npos);
     EXPECT_NE(content(files, "MStrings/T-2.h").find("M::MStrings::T::Group2 {"), std::string::npos);
     for (const char* source : {"MStrings-1.cpp", "MStrings-2.cpp", "MStrings-3.cpp"})

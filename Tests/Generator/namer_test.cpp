@@ -12,7 +12,7 @@ struct Pair {
     std::string_view to;
 };
 
-// The entry or group of a whole key as the catalog writes it: "Helpdesk.YourRequestIsSent.weWillContactYouSoon".
+// The dotted path of a key: "Helpdesk.YourRequestIsSent.weWillContactYouSoon".
 std::string path(std::string_view key) {
     std::string path;
     const auto components = Namer::components(key);
@@ -37,15 +37,15 @@ TEST(Namer, NamesEntries) {
         {__LINE__, "You can't set a price that exceeds %@", "youCanTSetAPriceThatExceeds"},
         {__LINE__, "SportFood(shortened)", "sportFoodShortened"},
         {__LINE__, "Invoice №", "invoice№"},
-        // A run of capitals keeps its last one for the next word, unless no word follows.
+        // The last of several capitals begins the next word, if there is one.
         {__LINE__, "URLPath", "urlPath"},
         {__LINE__, "ABC1st", "abc1st"},
-        // Letters of other scripts have cases, or none; a digit is a digit in every script.
+        // Other scripts may or may not have letter case; digits of all scripts count as digits.
         {__LINE__, "ПриветМир", "приветМир"},
         {__LINE__, "日本 語", "日本語"},
         {__LINE__, "٣ days", "_٣Days"},
         {__LINE__, "__private__thing", "privateThing"},
-        // Neither what is invisible nor what is no text can stand in a name.
+        // Invisible characters and invalid bytes are dropped.
         {__LINE__, "one\u200Btwo \u2764\uFE0F", "oneTwo"},
         {__LINE__, "one\xFFtwo", "oneTwo"},
         {__LINE__, "___", ""},
@@ -61,7 +61,7 @@ TEST(Namer, NamesGroups) {
         {__LINE__, "TrainersHQ", "TrainersHQ"},
         {__LINE__, "Сhatlist", "Сhatlist"},
         {__LINE__, "10ExerciseStraight", "_10ExerciseStraight"},
-        // Ten-character identifiers: without a lower-case letter after the first step, they are capitalised anew.
+        // Identifiers without a lower-case letter are capitalized again.
         {__LINE__, "0ie-tn-jCZ", "_0ieTnJCZ"},
         {__LINE__, "9ui-9h-hZp", "_9ui9hHZp"},
         {__LINE__, "1aq-bW-Am5", "_1aqBWAm5"},
@@ -173,7 +173,7 @@ TEST(Namer, KeepsTheNamesOfTables) {
         EXPECT_EQ(Namer::tableSpelling(pair.from), pair.to) << "line " << pair.line;
 }
 
-TEST(Namer, LeavesNamespacesToThoseTheyBelongTo) {
+TEST(Namer, AvoidsReservedNamespaces) {
     for (const char* own : {"Shop", "standard", "std_", "posixShop", "M2", "Магазин"})
         EXPECT_TRUE(Namer::isModuleName(own)) << own;
     for (const char* others :

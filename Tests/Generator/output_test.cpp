@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(OutputFile, ReplacesWhatChangedAndRemovesWhatIsStale) {
+TEST(OutputFile, ReplacesChangedAndRemovesStaleFiles) {
     const Support::TemporaryFolder folder;
     const fs::path out = folder / "new" / "out";
     ASSERT_TRUE(
@@ -31,7 +31,7 @@ TEST(OutputFile, ReplacesWhatChangedAndRemovesWhatIsStale) {
     EXPECT_EQ(Generator::writeFiles(folder / "file", {{"a.h", ""}}).error().file, folder / "file");
 }
 
-TEST(GenerateModule, LeavesNothingOfASourceThatHadMore) {
+TEST(GenerateModule, RemovesFilesOfRemovedTables) {
     Support::SourceFolder folder;
     const auto generate = [&](const char* out) {
         const Generator::Options options{.module = "M"};
@@ -56,12 +56,12 @@ TEST(GenerateModule, LeavesNothingOfASourceThatHadMore) {
     EXPECT_EQ(rest, generate("fresh"));
 }
 
-TEST(CodeWriterDeathTest, StopsAtANameWithoutAValue) {
+TEST(CodeWriterDeathTest, AMissingValueStopsTheProcess) {
     EXPECT_EXIT(Generator::CodeWriter("M").add("{{name}}{{nam}}", {{"name", "a"}}), testing::KilledBySignal(SIGABRT),
                 "No value for \\{\\{nam\\}\\}");
 }
 
-TEST(CodeText, ShowsWhatCannotBeSeen) {
+TEST(CodeText, EscapesInvisibleCharacters) {
     EXPECT_EQ(Generator::visibleText("a\n\r\t\"\\é№"), "a\\n\\r\\t\"\\é№");
     EXPECT_EQ(Generator::visibleText("\u200B\u202E\u00A0\U000E0001\x7F"), "\\u{200B}\\u{202E}\\u{A0}\\u{E0001}\\u{7F}");
     EXPECT_EQ(Generator::visibleText("\xFF\xC3\xE2\x82 "), "\\xFF\\xC3\\xE2\\x82 ");

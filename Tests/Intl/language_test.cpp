@@ -11,7 +11,7 @@ std::string match(std::string_view desired, const Languages& supported) {
     return index ? supported.at(*index) : "none";
 }
 
-TEST(Language, ServesAReaderByTheNearestVariant) {
+TEST(Language, ChoosesTheNearestVariant) {
     const Languages supported = {"ar", "de",    "en",    "es", "es-419", "fr", "id", "it", "ja", "ko",     "nl",
                                  "pl", "pt-BR", "pt-PT", "ru", "th",     "tr", "vi", "nb", "he", "zh-Hans"};
     const struct {
@@ -30,16 +30,16 @@ TEST(Language, ServesAReaderByTheNearestVariant) {
         {__LINE__, "pt_AO", "pt-PT"},
         {__LINE__, "zh_CN", "zh-Hans"},
         {__LINE__, "zh-Hans-SG", "zh-Hans"},
-        // Host spellings, and languages under older or other codes.
+        // POSIX spellings, and outdated or alternative language codes.
         {__LINE__, "de_DE.UTF-8@euro", "de"},
         {__LINE__, "pt_PT@currency=EUR", "pt-PT"},
         {__LINE__, "iw", "he"},
         {__LINE__, "in_ID", "id"},
         {__LINE__, "no", "nb"},
         {__LINE__, "cmn", "zh-Hans"},
-        // Another script is another way of reading.
+        // Readers of one script may not read another.
         {__LINE__, "zh_TW", "none"},
-        // Languages that their readers did not name, though many of them would understand.
+        // Related languages that the user did not list are not chosen.
         {__LINE__, "uk", "none"},
         {__LINE__, "ca", "none"},
         {__LINE__, "nn", "none"},

@@ -13,7 +13,7 @@ std::string valueOf(std::string_view locale) {
     return std::string(locale) + ", and what is known of it";
 }
 
-TEST(LocaleCache, GivesThreadsThatNeedAValueFirstOneAndTheSame) {
+TEST(LocaleCache, GivesConcurrentThreadsTheSameValue) {
     constexpr std::size_t count = 8;
     static constinit Cache cache;
     std::latch ready(count);

@@ -1,4 +1,4 @@
-// Number texts against ICU's own, in every locale that ICU has.
+// Compares formatted numbers with ICU in all of its locales.
 #include "Foundation/internal/NumberText.h"
 #include "Intl/internal/Precomputed.h"
 
@@ -80,7 +80,7 @@ const std::int64_t integers[] = {0,
 
 icu::number::LocalizedNumberFormatter icuFormatter(const icu::Locale& locale, NumberStyle style) {
     auto formatter = icu::number::NumberFormatter::withLocale(locale).roundingMode(UNUM_ROUND_HALFEVEN);
-    // The one locale whose pattern has more places than three.
+    // The only locale whose pattern has more than three fraction digits.
     const bool isPosix = std::string_view(locale.getName()) == "en_US_POSIX";
     if (style == NumberStyle::decimal)
         return formatter.precision(icu::number::Precision::maxFraction(isPosix ? 6 : 3));
@@ -120,12 +120,12 @@ void expectIcuTexts(const icu::Locale& locale) {
     }
 }
 
-TEST(Numbers, AreIcusInEveryLocale) {
+TEST(Numbers, MatchIcuInEveryLocale) {
     int count = 0;
     UErrorCode status = U_ZERO_ERROR;
     const icu::LocalUEnumerationPointer all(uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status));
     for (; const char* name = uenum_next(all.getAlias(), nullptr, &status); ++count) {
-        ASSERT_TRUE(Intl::knownNumberPattern(name, NumberStyle::percent)) << name; // what the next reads
+        ASSERT_TRUE(Intl::knownNumberPattern(name, NumberStyle::percent)) << name; // read by the next line
         expectIcuTexts(icu::Locale(name));
     }
     ASSERT_GT(count, 800);
@@ -134,12 +134,12 @@ TEST(Numbers, AreIcusInEveryLocale) {
         expectIcuTexts(icu::Locale(locale));
 }
 
-TEST(Numbers, OfRandomValuesAreIcus) {
+TEST(Numbers, OfRandomValuesMatchIcu) {
     const auto formatter = icuFormatter("en", NumberStyle::decimal);
     std::uint64_t state = 1;
     for (int i = 0; i < 200'000; ++i) {
         state = state * 6364136223846793005U + 1442695040888963407U;
-        // Decimal fractions of four places, half of them at a half of the third.
+        // Numbers with four fraction digits, half of them exactly between two rounded values.
         const auto whole = static_cast<double>(state >> (20 + i % 40));
         const double value = i % 2 == 0 ? whole / 10'000 : whole / 1'000 + 0.0005;
         UErrorCode status = U_ZERO_ERROR;
@@ -149,7 +149,7 @@ TEST(Numbers, OfRandomValuesAreIcus) {
     }
 }
 
-TEST(Numbers, OfUnknownLocalesAreTheRootsWhateverTheProcessDefault) {
+TEST(Numbers, OfUnknownLocalesFollowTheRootLocale) {
     const icu::Locale before;
     UErrorCode status = U_ZERO_ERROR;
     icu::Locale::setDefault("de_DE", status);
@@ -157,7 +157,7 @@ TEST(Numbers, OfUnknownLocalesAreTheRootsWhateverTheProcessDefault) {
         EXPECT_EQ(numberText(locale, NumberStyle::decimal, 1234.5), "1,234.5") << locale;
     EXPECT_EQ(numberText(std::string(5'000, 'x'), NumberStyle::decimal, 1234.5), "1,234.5");
     EXPECT_EQ(numberText("xx@numbers=arab", NumberStyle::decimal, 1234.5), "١٬٢٣٤٫٥");
-    // Roman numerals are not written digit by digit.
+    // Roman numerals are not positional.
     EXPECT_EQ(numberText("de@numbers=roman", NumberStyle::decimal, 1234.5), "1.234,5");
     icu::Locale::setDefault(before, status);
 }

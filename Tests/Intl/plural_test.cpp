@@ -1,4 +1,4 @@
-// The plural rules that the build writes down, compared with ICU's own.
+// Compares the generated plural rules with ICU.
 #include "Intl/internal/PluralRules.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ std::string ourCategory(std::string_view language, std::string_view number) {
     return std::string(Intl::pluralCategoryNames[indexOf(pluralCategory(language, Intl::pluralOperands(number)))]);
 }
 
-TEST(PluralRules, EqualThoseOfIcuInEveryLanguage) {
+TEST(PluralRules, MatchIcuInEveryLanguage) {
     std::istringstream further("1000 20000 100000 1000000 1000001 1100000 21000000 100000000000021 900000000000000000 "
                                "0.0 0.1 0.01 1.0 1.00 1.1 1.10 1.21 2.0 2.5 5.02 10.0 11.0");
     std::vector<std::string> numbers{std::istream_iterator<std::string>(further), {}};
@@ -63,7 +63,7 @@ TEST(PluralRules, KnowTagsOfAllKinds) {
     EXPECT_EQ(Intl::pluralCategories("xx").all, 0b100000);
 }
 
-TEST(PluralRules, LookAtDigitsAsPrinted) {
+TEST(PluralRules, UseDigitsAsPrinted) {
     EXPECT_EQ(Intl::pluralOperands("12.50"), (PluralOperands{.i = 12, .v = 2, .w = 1, .f = 50, .t = 5}));
     EXPECT_EQ(Intl::pluralOperands("0.05"), (PluralOperands{.i = 0, .v = 2, .w = 2, .f = 5, .t = 5}));
     EXPECT_EQ(Intl::pluralOperands("7"), (PluralOperands{.i = 7}));

@@ -1,4 +1,4 @@
-// Phrases of years against ICU's own, in every locale that ICU has.
+// Compares phrases of years with ICU in all of its locales.
 #include "Foundation/DateComponents.h"
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ std::string years(const char* locale, std::int64_t count) {
     return formatter.stringFromDateComponents({.year = count}).value_or("none");
 }
 
-TEST(Years, AreIcusInEveryLocale) {
+TEST(Years, MatchIcuInEveryLocale) {
     int size = 0;
     const icu::Locale* locales = icu::Locale::getAvailableLocales(size);
     ASSERT_GT(size, 500);

@@ -11,7 +11,7 @@ using namespace Lumora;
 using UIKit::RGBA;
 using UIKit::UITraitCollection;
 
-// Users cannot make records.
+// Users cannot create records.
 template <class Record>
 concept Constructible = requires {
     Record("send");
@@ -43,7 +43,7 @@ TEST(Assets, AreReadByTheirRecords) {
     EXPECT_EQ(NSDataAsset::withAsset(LumoraAsset::Onboarding::countryRegions)->data().data(), data.data().data());
 }
 
-TEST(Assets, FollowTheTraitsInForce) {
+TEST(Assets, FollowTheCurrentTraits) {
     const UIKit::UIColor& color = LumoraAsset::Colors::labelColor.color();
     UITraitCollection::setCurrent({.userInterfaceStyle = UIKit::UserInterfaceStyle::light, .displayScale = 1});
     const auto light = color.rgba();
@@ -56,7 +56,7 @@ TEST(Assets, FollowTheTraitsInForce) {
     UITraitCollection::setCurrent({});
 }
 
-// What a subclass looks up itself is asked of the subclass.
+// Subclasses with their own lookup functions.
 struct PaintedColor : UIKit::UIColor {
     static std::optional<UIKit::UIColor> colorNamed(std::string_view, const Foundation::NSBundle&,
                                                     const UITraitCollection*) {
@@ -72,14 +72,14 @@ struct PaintedImage : UIKit::UIImage {
 struct OlderImage : UIKit::UIImage {
     static int imageNamed(std::string_view, const Foundation::NSBundle&, const UITraitCollection*) { return 5; }
 };
-// What looks nothing up itself is made from what the platform finds, if it can be.
+// Subclasses without one: constructed from the platform's result if possible.
 template <class Base> struct Made : Base {
     explicit Made(const Base& base) : Base(base) {}
 };
 template <class Base> struct Unmade : Base {
     Unmade(const Base& base, int) : Base(base) {}
 };
-TEST(Assets, AskTheClassThatIsMade) {
+TEST(Assets, UseTheLookupsOfSubclasses) {
     EXPECT_EQ(UIImage::withAssetName<OlderImage>("x"), 5);
     const std::optional<Made<UIKit::UIImage>> image = UIImage::withAssetName<Made<UIKit::UIImage>>("send");
     const std::optional<Made<UIKit::UIColor>> color =
@@ -129,7 +129,7 @@ TEST(ProgressColors, RunFromRedThroughYellowToTheBase) {
               UIColor::colorForProgress(0.3));
 }
 
-TEST(RegionalImages, ArePickedByTheEndOfTheirNames) {
+TEST(RegionalImages, AreSelectedByTheEndOfTheirNames) {
     using namespace UIImage;
     const auto name = [](const auto& image) { return std::string(image.name()); };
     const struct {
@@ -189,7 +189,7 @@ TEST(LegacyImages, AreOneObjectUnderBothNames) {
     EXPECT_EQ(Runtime::send<UIKit::UIImage>(cls, "feedArrow").name(), "floatingButtonToBottom");
     EXPECT_EQ(Runtime::send<std::string>(cls, "rightArrowName"), "arrow_right");
     EXPECT_FALSE(Runtime::send<std::optional<UIKit::UIImage>>(cls, "assetNamed:", "none"));
-    // Every one of them is there.
+    // All of them exist.
     for (const std::string& name : cls->classProperties()) {
         const bool isDrawn = name.ends_with("Name") || Runtime::send<UIKit::UIImage>(cls, name).rgba();
         EXPECT_TRUE(isDrawn) << name;

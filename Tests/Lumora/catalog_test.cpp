@@ -10,7 +10,7 @@ namespace {
 namespace Texts = Lumora::LumoraStrings::Localizable;
 namespace Host = Foundation::Host;
 
-// What a wrong call would be does not compile.
+// Wrong calls do not compile.
 template <class... Arguments>
 concept CallsNewComment = requires(const Arguments&... arguments) {
     Texts::newComment(arguments...);
@@ -18,14 +18,14 @@ concept CallsNewComment = requires(const Arguments&... arguments) {
 static_assert(CallsNewComment<int, const char*> && CallsNewComment<std::optional<double>, std::vector<std::string>>);
 static_assert(!CallsNewComment<int> && !CallsNewComment<int, int, int>);
 static_assert(std::is_same_v<decltype(Texts::ExerciseStraight::ofMaxWeight(std::int64_t{1})), std::string>);
-static_assert(std::is_default_constructible_v<Lumora::Localization>); // as every class of the platform
+static_assert(std::is_default_constructible_v<Lumora::Localization>); // like all classes of the platform
 
 class Catalog : public ::testing::Test {
 protected:
     ~Catalog() override { Host::reset(); }
 };
 
-TEST_F(Catalog, KeepsAPlainTextAndMakesAFormattedOneAnew) {
+TEST_F(Catalog, CachesPlainTextsOnly) {
     Host::setPreferredLanguages({"en"});
     Host::setCurrentLocale("en_US");
     const std::string& before = Texts::Diet::allDish();
@@ -46,7 +46,7 @@ TEST_F(Catalog, DescribesUntypedArguments) {
     EXPECT_EQ(Texts::percents("%@ 100%"), "%@ 100%%");
 }
 
-TEST_F(Catalog, SpellsTheNamesThatCppCannotHold) {
+TEST_F(Catalog, SpellsReservedNames) {
     Host::setPreferredLanguages({"en"});
     EXPECT_EQ(Texts::continue_(), "Continue");
     EXPECT_FALSE(Texts::ModalDialog::delete_().empty());
@@ -56,7 +56,7 @@ TEST_F(Catalog, SpellsTheNamesThatCppCannotHold) {
     EXPECT_EQ(Texts::Helpdesk::YourRequestIsSent::weWillContactYouSoon(17).find('%'), std::string::npos);
 }
 
-TEST_F(Catalog, HasItsPluralFormsByTheLastDigits) {
+TEST_F(Catalog, SelectsPluralFormsByTheLastDigits) {
     const Texts::PluralForms forms{.one = "1", .two = "2", .many = "5"};
     const struct {
         std::int64_t count;

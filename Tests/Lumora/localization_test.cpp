@@ -93,7 +93,7 @@ TEST_F(Services, ReadOneLanguagesTable) {
     EXPECT_EQ(Localization::legacyTr(""), "");
 }
 
-TEST_F(Services, CountYearsAsTheLanguageDoes) {
+TEST_F(Services, SpellYearsInEachLanguage) {
     const struct {
         int line;
         const char* language;
@@ -125,7 +125,7 @@ TEST_F(Services, CountYearsAsTheLanguageDoes) {
     };
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     for (const auto& one : cases) {
-        // Texts of the catalog keep their language; their phrases are read by a fresh process of their own.
+        // Cached texts keep their language, so these phrases are read in a new process.
         const bool isKeyed = std::string("en de ko").find(one.language) != std::string::npos;
         if (isKeyed)
             EXPECT_EXIT(
@@ -190,7 +190,7 @@ TEST_F(Services, RoundPercentagesInSinglePrecision) {
         {__LINE__, "en", -0.001, true, "0%"},
         {__LINE__, "en", 0.125, false, "13%"},
         {__LINE__, "en", -0.125, false, "-13%"},
-        // 0.145 is above the half in single precision though it is below it in double.
+        // 0.145 is above the half in single precision but below it in double precision.
         {__LINE__, "en", 0.145, false, "15%"},
         {__LINE__, "ru", 12.34, true, "+1234%"},
         {__LINE__, "en", 1e20, false, "9999999778196308361216%"},

@@ -27,7 +27,7 @@ TEST_F(Messages, ArePublishedInOrder) {
                                         "legacyTrYearWithValue:", "legacyTrAge:"}));
 }
 
-TEST_F(Messages, AnswerAsTheMembersDo) {
+TEST_F(Messages, MatchTheMembers) {
     EXPECT_EQ(Runtime::send<std::string>(cls, "legacyTr:", "Continue"), Localization::legacyTr("Continue"));
     EXPECT_EQ(Runtime::send<std::string>(cls, "legacyTrAge:", 25), "25 лет");
     EXPECT_EQ(Runtime::send<std::string>(cls, "legacyTrYearWithValue:", 1), "1 год");
@@ -47,7 +47,7 @@ std::string taken(NSString* text) {
     return utf8;
 }
 
-TEST_F(Messages, AreBehindTheCFunctions) {
+TEST_F(Messages, ImplementTheCFunctions) {
     NSNumber* seven = NSNumberCreateInteger(7);
     EXPECT_EQ(taken(LocNumber(seven)), "7");
     EXPECT_EQ(taken(LocNumberWithPositivePrefix(seven, true)), "+7");
@@ -58,7 +58,7 @@ TEST_F(Messages, AreBehindTheCFunctions) {
     EXPECT_EQ(taken(LocPercentSigned(0.5, true)), "+50%");
     EXPECT_EQ(taken(LocPercentSigned(0.5, false)), "50%");
 
-    // What is null is harmless.
+    // Null arguments are allowed.
     EXPECT_EQ(taken(Loc(nullptr)), "");
     EXPECT_EQ(taken(LocNumber(nullptr)), "");
     EXPECT_EQ(taken(LocNumberWithPositivePrefix(nullptr, true)), "");

@@ -1,5 +1,5 @@
 // Tests/Pictures/PngFile.h
-// PNG files of every sort, written by the reference library.
+// Writes PNG files of all pixel formats with the reference library.
 #pragma once
 
 #include <cstdint>
@@ -11,17 +11,17 @@ namespace PngFile {
 
 using Bytes = std::vector<std::uint8_t>;
 
-struct Sort {
+struct PixelFormat {
     int colorType = PNG_COLOR_TYPE_RGB_ALPHA;
     int depth = 8;
     bool interlaced = false;
     std::vector<png_color> palette;
     Bytes paletteAlpha;
-    const png_color_16* transparent = nullptr; // the one grey or colour that is not seen
+    const png_color_16* transparent = nullptr; // the transparent gray value or colour
 };
 
-// `rows`: samples packed as a PNG packs them, each row from a new byte.
-inline Bytes write(std::uint32_t width, std::uint32_t height, const Sort& sort, Bytes rows) {
+// `rows`: samples packed as in PNG; each row starts at a byte boundary.
+inline Bytes write(std::uint32_t width, std::uint32_t height, const PixelFormat& format, Bytes rows) {
     Bytes file;
     png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
     png_infop info = png_create_info_struct(png);
@@ -32,13 +32,14 @@ inline Bytes write(std::uint32_t width, std::uint32_t height, const Sort& sort, 
             out->insert(out->end(), bytes, bytes + size);
         },
         nullptr);
-    png_set_IHDR(png, info, width, height, sort.depth, sort.colorType,
-                 sort.interlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
+    png_set_IHDR(png, info, width, height, format.depth, format.colorType,
+                 format.interlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
                  PNG_FILTER_TYPE_DEFAULT);
-    if (!sort.palette.empty())
-        png_set_PLTE(png, info, sort.palette.data(), static_cast<int>(sort.palette.size()));
-    if (!sort.paletteAlpha.empty() || sort.transparent != nullptr)
-        png_set_tRNS(png, info, sort.paletteAlpha.data(), static_cast<int>(sort.paletteAlpha.size()), sort.transparent);
+    if (!format.palette.empty())
+        png_set_PLTE(png, info, format.palette.data(), static_cast<int>(format.palette.size()));
+    if (!format.paletteAlpha.empty() || format.transparent != nullptr)
+        png_set_tRNS(png, info, format.paletteAlpha.data(), static_cast<int>(format.paletteAlpha.size()),
+                     format.transparent);
     png_write_info(png, info);
     std::vector<png_bytep> pointers;
     for (std::size_t row = 0; row < height; ++row)

@@ -12,14 +12,14 @@ using Bytes = std::vector<std::uint8_t>;
 constexpr std::uint32_t width = 21;
 constexpr std::uint32_t height = 10;
 
-struct Sort {
+struct PixelFormat {
     J_COLOR_SPACE from;
-    std::array<std::uint8_t, 4> pixel; // the one colour of the picture, as the file shall hold it
+    std::array<std::uint8_t, 4> pixel; // the colour of all pixels, as stored in the file
     bool progressive = false;
     bool adobe = false;
 };
 
-Bytes write(const Sort& sort) {
+Bytes write(const PixelFormat& format) {
     jpeg_compress_struct jpeg{};
     jpeg_error_mgr errors{};
     jpeg.err = jpeg_std_error(&errors);
@@ -27,20 +27,20 @@ Bytes write(const Sort& sort) {
     unsigned char* bytes = nullptr;
     unsigned long size = 0;
     jpeg_mem_dest(&jpeg, &bytes, &size);
-    const int channels = sort.from == JCS_GRAYSCALE ? 1 : sort.from == JCS_RGB ? 3 : 4;
+    const int channels = format.from == JCS_GRAYSCALE ? 1 : format.from == JCS_RGB ? 3 : 4;
     jpeg.image_width = width;
     jpeg.image_height = height;
     jpeg.input_components = channels;
-    jpeg.in_color_space = sort.from;
+    jpeg.in_color_space = format.from;
     jpeg_set_defaults(&jpeg);
     jpeg_set_quality(&jpeg, 100, TRUE);
-    if (sort.progressive)
+    if (format.progressive)
         jpeg_simple_progression(&jpeg);
-    jpeg.write_Adobe_marker = sort.adobe ? TRUE : FALSE;
+    jpeg.write_Adobe_marker = format.adobe ? TRUE : FALSE;
     jpeg_start_compress(&jpeg, TRUE);
     Bytes row;
     for (std::uint32_t x = 0; x < width; ++x)
-        row.insert(row.end(), sort.pixel.begin(), sort.pixel.begin() + channels);
+        row.insert(row.end(), format.pixel.begin(), format.pixel.begin() + channels);
     JSAMPROW rows[] = {row.data()};
     while (jpeg.next_scanline < height)
         jpeg_write_scanlines(&jpeg, rows, 1);
@@ -51,27 +51,27 @@ Bytes write(const Sort& sort) {
     return file;
 }
 
-const Sort colored{JCS_RGB, {200, 100, 50}};
+const PixelFormat colored{JCS_RGB, {200, 100, 50}};
 
 TEST(Jpeg, EveryColorSpace) {
     struct Case {
         int line;
-        Sort sort;
+        PixelFormat format;
         std::array<int, 3> expected;
     };
     const Case cases[] = {
         {__LINE__, {JCS_GRAYSCALE, {77}}, {77, 77, 77}},
         {__LINE__, colored, {200, 100, 50}},
         {__LINE__, {JCS_RGB, {0, 255, 10}, true}, {0, 255, 10}},
-        // Ink 0 is paper: 255 - ink, darkened by what black leaves.
+        // CMYK: ink 0 is white; black darkens the other inks.
         {__LINE__, {JCS_CMYK, {255, 0, 51, 0}}, {0, 255, 204}},
         {__LINE__, {JCS_CMYK, {0, 51, 255, 51}}, {204, 163, 0}},
-        // Files with the mark hold the inks inverted.
+        // Files with an Adobe marker store inverted inks.
         {__LINE__, {JCS_CMYK, {255, 204, 0, 204}, true, true}, {204, 163, 0}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.line);
-        auto decoded = Pictures::decode(write(c.sort));
+        auto decoded = Pictures::decode(write(c.format));
         ASSERT_TRUE(decoded) << decoded.error().message;
         ASSERT_EQ(decoded->width, width);
         ASSERT_EQ(decoded->height, height);
@@ -85,7 +85,7 @@ TEST(Jpeg, EveryColorSpace) {
 
 TEST(Jpeg, MeasureFindsTheFrame) {
     Bytes file = write(colored);
-    // A segment before the frame, with what looks like a frame inside, and filling before a marker.
+    // A segment that contains something like a frame, and fill bytes before a marker.
     const Bytes segment = {0xFF, 0xE1, 0, 11, 0xFF, 0xC0, 0, 7, 8, 1, 1, 1, 1, 0xFF};
     file.insert(file.begin() + 2, segment.begin(), segment.end());
     const auto size = Pictures::measure(file);
@@ -99,9 +99,9 @@ TEST(Jpeg, MeasureFindsTheFrame) {
 
 TEST(Jpeg, DamageIsAnErrorAndNeverACrash) {
     for (const bool progressive : {false, true}) {
-        Sort sort = colored;
-        sort.progressive = progressive;
-        const Bytes file = write(sort);
+        PixelFormat format = colored;
+        format.progressive = progressive;
+        const Bytes file = write(format);
         for (std::size_t length = 0; length < file.size(); ++length)
             EXPECT_FALSE(Pictures::decode(std::span(file).first(length))) << length;
         for (std::size_t place = 0; place < file.size(); ++place)

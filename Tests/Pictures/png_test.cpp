@@ -7,10 +7,10 @@ namespace {
 
 using PngFile::Bytes;
 
-constexpr std::uint32_t width = 13; // no multiple of 8: rows end within a byte
+constexpr std::uint32_t width = 13; // not a multiple of 8, so rows end within a byte
 constexpr std::uint32_t height = 9;
 
-// The sample of a channel at a place, of `depth` bits; without a pattern that a shift or a swap would keep.
+// A sample of `depth` bits. The pattern changes under shifts and swaps, so that decoding errors show.
 unsigned sample(std::uint32_t x, std::uint32_t y, unsigned channel, int depth) {
     const unsigned value = (x * 7919 + y * 104729 + channel * 1299709 + 17) * 2654435761U;
     return (value >> 13) & ((1U << depth) - 1);
@@ -65,30 +65,30 @@ TEST(Png, EveryColorTypeAndDepth) {
             const bool hasAlpha = (c.colorType & PNG_COLOR_MASK_ALPHA) != 0;
             const unsigned channels = (isColor ? 3U : 1U) + (hasAlpha ? 1U : 0U);
 
-            // What is transparent: the sample, colour or palette entry of the pixel (3, 2).
+            // The transparent value: the sample, colour or palette entry of pixel (3, 2).
             const auto at = [&](unsigned channel) { return sample(3, 2, channel, c.depth); };
             png_color_16 transparent{};
             transparent.gray = transparent.red = static_cast<png_uint_16>(at(0));
             transparent.green = static_cast<png_uint_16>(at(1));
             transparent.blue = static_cast<png_uint_16>(at(2));
-            PngFile::Sort sort{.colorType = c.colorType,
-                               .depth = c.depth,
-                               .interlaced = interlaced,
-                               .palette = {},
-                               .paletteAlpha = {}};
+            PngFile::PixelFormat format{.colorType = c.colorType,
+                                        .depth = c.depth,
+                                        .interlaced = interlaced,
+                                        .palette = {},
+                                        .paletteAlpha = {}};
             if (isPalette) {
                 for (unsigned i = 0; i < 1U << c.depth; ++i)
-                    sort.palette.push_back({static_cast<png_byte>(i * 3), static_cast<png_byte>(255 - i),
-                                            static_cast<png_byte>(i * 5 + 1)});
+                    format.palette.push_back({static_cast<png_byte>(i * 3), static_cast<png_byte>(255 - i),
+                                              static_cast<png_byte>(i * 5 + 1)});
                 if (c.hasTransparency) {
-                    sort.paletteAlpha.assign(at(0) + 1, 255);
-                    sort.paletteAlpha.back() = 77;
+                    format.paletteAlpha.assign(at(0) + 1, 255);
+                    format.paletteAlpha.back() = 77;
                 }
             } else if (c.hasTransparency) {
-                sort.transparent = &transparent;
+                format.transparent = &transparent;
             }
 
-            auto decoded = Pictures::decode(PngFile::write(width, height, sort, packed(channels, c.depth)));
+            auto decoded = Pictures::decode(PngFile::write(width, height, format, packed(channels, c.depth)));
             ASSERT_TRUE(decoded) << decoded.error().message;
             ASSERT_EQ(decoded->pixels.size(), std::size_t{width} * height * 4);
             const std::uint8_t* pixel = decoded->pixels.data();
@@ -125,13 +125,13 @@ TEST(Png, MeasureReadsTheHeadOnly) {
     EXPECT_EQ(Pictures::measure(Bytes{'G', 'I', 'F', '8'}).error().message, "is neither a PNG nor a JPEG file");
 }
 
-TEST(Png, LimitIsCheckedBeforeMemoryIsTaken) {
+TEST(Png, LimitIsCheckedBeforeAllocation) {
     Bytes file = PngFile::plain(8, 8, 1, 2, 3, 4);
     EXPECT_TRUE(Pictures::decode(file, 64));
     EXPECT_EQ(Pictures::decode(file, 63).error().message, "has more than 63 pixels");
 }
 
-// Every part of such a file is needed and is under a checksum.
+// All parts of such a file are required and covered by checksums.
 TEST(Png, DamageIsAnError) {
     const Bytes file = PngFile::plain(5, 3, 200, 100, 50, 25);
     for (std::size_t length = 0; length < file.size(); ++length)
@@ -144,11 +144,11 @@ TEST(Png, DamageIsAnError) {
         }
 }
 
-// An ancillary chunk whose checksum is wrong is left out.
+// An ancillary chunk with a wrong checksum is skipped.
 TEST(Png, TextWithAWrongChecksumIsTolerated) {
     Bytes file = PngFile::plain(2, 2, 9, 8, 7, 6);
     const Bytes text = {0, 0, 0, 3, 't', 'E', 'X', 't', 'a', 0, 'b', 1, 2, 3, 4};
-    file.insert(file.begin() + 33, text.begin(), text.end()); // behind the head
+    file.insert(file.begin() + 33, text.begin(), text.end()); // after the header
     const auto decoded = Pictures::decode(file);
     ASSERT_TRUE(decoded) << decoded.error().message;
     EXPECT_EQ(decoded->pixels[2], 7);

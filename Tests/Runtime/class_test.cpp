@@ -19,19 +19,19 @@ constexpr Runtime::Message methods[] = {Runtime::message<&greeting>("greet:times
 constexpr Runtime::Class door("Test.Door", properties, methods);
 LUMORA_PUBLISH_CLASS(door);
 
-TEST(Class, IsFoundByItsNameOnly) {
+TEST(Class, IsFoundByItsExactName) {
     EXPECT_EQ(Runtime::classNamed("Test.Door"), &door);
     EXPECT_EQ(Runtime::classNamed("Door"), nullptr);
     EXPECT_EQ(Runtime::classNamed("test.door"), nullptr);
     EXPECT_EQ(Runtime::classNamed(""), nullptr);
 }
 
-TEST(Class, ListsWhatItPublishesInOrder) {
+TEST(Class, ListsItsMessagesInOrder) {
     EXPECT_EQ(door.classProperties(), (std::vector<std::string>{"names", "isOpen"}));
     EXPECT_EQ(door.classMethods(), (std::vector<std::string>{"greet:times:factor:loud:"}));
 }
 
-TEST(Class, CarriesArgumentsOfEveryWidth) {
+TEST(Class, PassesArgumentsOfEveryWidth) {
     const char* selector = "greet:times:factor:loud:";
     EXPECT_EQ(Runtime::send<std::string>(&door, selector, "Ann", 3, 0.5F, true), "Ann 3 0.500000!");
     EXPECT_EQ(Runtime::send<std::string>(&door, selector, std::string_view("Bo"), std::uint8_t{200}, 2.0, false),

@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(File, ReadsWhatIsThereAndRefusesTheRest) {
+TEST(File, ReadsRegularFilesOnly) {
     const Support::TemporaryFolder folder;
     const std::string file = folder.write("a", std::string("x\0y", 3));
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
@@ -26,7 +26,7 @@ TEST(File, WritesWholeOrNotAtAll) {
     ASSERT_TRUE(Runtime::writeFile(file, "new text"));
     EXPECT_EQ(Support::contents(file), "new text");
 
-    // A link stays one, and what it leads to is written.
+    // A symbolic link stays, and its target is written.
     std::filesystem::create_symlink("a", folder / "link");
     ASSERT_TRUE(Runtime::writeFile(folder / "link", "by the link"));
     EXPECT_TRUE(std::filesystem::is_symlink(folder / "link"));
@@ -39,11 +39,11 @@ TEST(File, WritesWholeOrNotAtAll) {
               nowhere + ": cannot be written: No such file or directory");
     std::filesystem::create_directory(folder / "in the way");
     EXPECT_FALSE(Runtime::writeFile(folder / "in the way", "x"));
-    // No temporary stays behind.
+    // No temporary file is left.
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 3);
 }
 
-TEST(File, MakesWhatALinkPromises) {
+TEST(File, CreatesTheTargetOfALink) {
     const Support::TemporaryFolder folder;
     std::filesystem::create_symlink("second", folder / "first");
     std::filesystem::create_symlink(folder / "not there", folder / "second");
@@ -56,7 +56,7 @@ TEST(File, MakesWhatALinkPromises) {
               (folder / "round").string() + ": cannot be written: Too many levels of symbolic links");
 }
 
-TEST(File, WritesOnWhereAnOpenDescriptorStands) {
+TEST(File, WritesAtTheOffsetOfAnOpenDescriptor) {
     const Support::TemporaryFolder folder;
     for (const int append : {0, O_APPEND}) {
         const std::string file = folder.write("log", append == 0 ? "" : "earlier ");

@@ -36,17 +36,17 @@ TEST(OnceSlot, IsMadeOnceHoweverManyThreadsReadFirst) {
             EXPECT_EQ(text, seen[0]);
             EXPECT_EQ(*text, "a text that is too long to be held in place");
         }
-        std::destroy_at(const_cast<std::string*>(seen[0])); // the slot itself never does
+        std::destroy_at(const_cast<std::string*>(seen[0])); // a OnceSlot never destroys its value
     }
 }
 
-TEST(OnceSlot, WaitersOfAFailedMakerTryThemselves) {
+TEST(OnceSlot, WaitersRetryAfterAFailure) {
     OnceSlot<int> slot;
     std::latch inside(1);
     std::jthread failing([&] {
         EXPECT_THROW(slot.get([&]() -> int {
             inside.count_down();
-            std::this_thread::sleep_for(std::chrono::milliseconds(20)); // lets the other come and wait
+            std::this_thread::sleep_for(std::chrono::milliseconds(20)); // gives the other thread time to wait
             throw std::runtime_error("no");
         }),
                      std::runtime_error);

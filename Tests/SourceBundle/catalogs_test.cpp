@@ -12,7 +12,7 @@ using SourceBundle::SourceAsset;
 
 class Catalogs : public ::testing::Test {
 protected:
-    // Every file counts as a picture that can be read, but for those whose content is "unreadable".
+    // Every file counts as a valid picture, unless its content is "unreadable".
     std::vector<SourceAsset> read() {
         diagnostics = {};
         const std::filesystem::path folders[] = {folder.path()};
@@ -23,7 +23,7 @@ protected:
                                               return {};
                                           });
     }
-    // "severity path-below-the-folder[:line:column]: message"
+    // "severity relative-path[:line:column]: message"
     std::vector<std::string> said() {
         static constexpr const char* words[] = {"note ", "warning ", "error "};
         std::vector<std::string> lines;
@@ -66,7 +66,7 @@ TEST_F(Catalogs, ReadSetsInFoldersWithAndWithoutANamespace) {
     set("A.xcassets/Plain/x.dataset", one);
     set("A.xcassets/Named", R"({"properties": {"provides-namespace": true}})");
     set("A.xcassets/Named/Deep/y.dataset", one);
-    set("Deep/er/B.xcassets/v2.0", "{}"); // a dot in the name makes no set of a folder
+    set("Deep/er/B.xcassets/v2.0", "{}"); // a folder with a dot in its name is not a set
     set("Deep/er/B.xcassets/v2.0/z.dataset", one);
     for (const char* set : {"A.xcassets/Plain/x", "A.xcassets/Named/Deep/y", "Deep/er/B.xcassets/v2.0/z"})
         folder.write(std::string(set) + ".dataset/f", "data");
@@ -81,7 +81,7 @@ TEST_F(Catalogs, ReadSetsInFoldersWithAndWithoutANamespace) {
     EXPECT_EQ(assets[2].catalog, "B");
 }
 
-TEST_F(Catalogs, TellWhatEachPictureIsFor) {
+TEST_F(Catalogs, ReadTheTraitsOfPictures) {
     set("A.xcassets/p.imageset", R"({"images": [
         {"idiom": "universal", "scale": "1x", "filename": "1.png"},
         {"idiom": "universal", "scale": "2x", "filename": "2.png",
@@ -111,7 +111,7 @@ TEST_F(Catalogs, TellWhatEachPictureIsFor) {
     EXPECT_EQ(assets[0].files[2].language, "pt-BR");
 }
 
-TEST_F(Catalogs, TakeThePicturesOfOneKindOfDevice) {
+TEST_F(Catalogs, UseThePicturesOfOneKindOfDevice) {
     const struct {
         int line;
         const char* entries;
@@ -132,7 +132,7 @@ TEST_F(Catalogs, TakeThePicturesOfOneKindOfDevice) {
          {"warning " + at("1:13") + R"(entry 1 ("missing") is a file that does not exist and is left out)",
           "note " + at("2:13") +
               R"(entry 3 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "iphone" are used)"}},
-        // The only pictures are taken, whatever they are for; of the sizes of a watch those of the widest.
+        // If there are no others, pictures for any device are used; among watch sizes the widest.
         {__LINE__, R"({"idiom": "universal", "display-gamut": "display-P3", "filename": "1"})", {"1"}, {}},
         {__LINE__, R"({"idiom": "universal", "display-gamut": "sRGB", "filename": "1"})", {"1"}, {}},
         {__LINE__,
@@ -144,7 +144,7 @@ TEST_F(Catalogs, TakeThePicturesOfOneKindOfDevice) {
               R"(entry 3 ("3") is for other devices (idiom "watch", screen-width ">161") and is left out: the variants for idiom "watch", screen-width ">183" are used)",
           "note " + at("1:13") +
               R"(entry 1 ("1") is for other devices (idiom "watch", screen-width "<=145") and is left out: the variants for idiom "watch", screen-width ">183" are used)"}},
-        // No reader can want these scales.
+        // These scales are not supported.
         {__LINE__,
          R"({"scale": "10x", "filename": "1"}, {"scale": "2x", "filename": "2"}, {"scale": "2X", "filename": "3"})",
          {"2"},
@@ -161,7 +161,7 @@ TEST_F(Catalogs, TakeThePicturesOfOneKindOfDevice) {
     }
 }
 
-TEST_F(Catalogs, SayOnceWhatIsLeftOut) {
+TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
     const struct {
         int line;
         const char* entries;
@@ -185,10 +185,7 @@ TEST_F(Catalogs, SayOnceWhatIsLeftOut) {
          {},
          {"warning " + at("1:13") +
           R"(entry 1 ("missing") is a file that does not exist and is left out, and with it the set, which has no other variant)"}},
-        {__LINE__,
-         R"({"scale": "1x"})",
-         {},
-         {"warning A.xcassets/p.imageset: has no usable variant and is left out"}},
+        {__LINE__, R"({"scale": "1x"})", {}, {"warning A.xcassets/p.imageset: has no usable variant and is left out"}},
         {__LINE__,
          R"({"filename": "damaged"}, {"filename": "2", "scale": "2x"})",
          {"2"},
@@ -202,7 +199,7 @@ TEST_F(Catalogs, SayOnceWhatIsLeftOut) {
     }
 }
 
-TEST_F(Catalogs, TakeSymbolsForImages) {
+TEST_F(Catalogs, ReadSymbolsAsImages) {
     set("A.xcassets/s.symbolset", R"({"symbols": [{"idiom": "universal", "filename": "s.svg"}]})");
     folder.write("A.xcassets/s.symbolset/s.svg", "");
     const auto assets = read();
@@ -264,7 +261,7 @@ TEST_F(Catalogs, KnowSystemColorsForLightAndDark) {
     EXPECT_EQ(both[0].value.components, (std::array{1.0, 59 / 255.0, 48 / 255.0, 1.0}));
     EXPECT_EQ(both[1].fit.appearance, Appearance::dark);
     EXPECT_EQ(both[1].value.components, (std::array{1.0, 69 / 255.0, 58 / 255.0, 1.0}));
-    // A dark colour of the set's own counts.
+    // A dark colour defined by the set takes precedence.
     const std::string dark = R"("appearances": [{"appearance": "luminosity", "value": "dark"}])";
     const auto own =
         colors(reference + "}, {" + dark + R"(, "color": {"components": {"red": 0, "green": 0, "blue": 0}}})");
@@ -274,7 +271,7 @@ TEST_F(Catalogs, KnowSystemColorsForLightAndDark) {
     EXPECT_EQ(said(), Lines());
 }
 
-TEST_F(Catalogs, LeaveOutSetsThatAreWrong) {
+TEST_F(Catalogs, LeaveOutInvalidSets) {
     const std::string withSet = ", and with it the set, which has no other variant";
     const struct {
         int line;
@@ -327,18 +324,18 @@ TEST_F(Catalogs, LeaveOutSetsThatAreWrong) {
     EXPECT_TRUE(read().empty());
     EXPECT_EQ(said(), Lines{"warning A.xcassets/Named/Contents.json:1:2: invalid JSON: unexpected token; the folder "
                             "does not provide a namespace"});
-    // To the system a name ends at a zero; here it is no name.
+    // A system call would end the name at the NUL; here it is invalid.
     imageSet(R"({"filename": "Contents.json\u0000.png"})", {});
     EXPECT_TRUE(read().empty());
     EXPECT_EQ(said().size(), 1U);
-    // A link that leads out is not read, and nothing of it is shown.
+    // A link that leads out of the source is not read, and its content is not shown.
     std::filesystem::remove(folder / "A.xcassets/p.imageset/Contents.json");
     std::filesystem::create_symlink("/etc/passwd", folder / "A.xcassets/p.imageset/Contents.json");
     EXPECT_TRUE(read().empty());
     EXPECT_EQ(said(), Lines{"warning " + contents + "is a link, which is not followed; the set is left out"});
 }
 
-TEST_F(Catalogs, KeepAssetsOfOneNameTheOuterFirst) {
+TEST_F(Catalogs, KeepAssetsWithEqualNamesTheOuterFirst) {
     const std::string paths[] = {"A.xcassets/x.dataset", "A.xcassets/F/x.dataset", "B.xcassets/F/x.dataset"};
     for (const std::string& path : paths) {
         set(path, R"({"data": [{"filename": "f"}]})");

@@ -1,4 +1,4 @@
-// Pseudo-languages: words change, everything else stays.
+// Pseudo-languages change words and nothing else.
 #include "../Support/SourceFolder.h"
 #include "SourceBundle/PseudoText.h"
 #include "StringTables/internal/PluralPieces.h"
@@ -9,7 +9,7 @@ namespace {
 using SourceBundle::Pseudo;
 using SourceBundle::pseudoText;
 
-// How `word` is shown from right to left.
+// `word` displayed from right to left.
 std::string turned(const std::string& word) {
     return "\u200F\u202E" + word + "\u202C\u200F";
 }

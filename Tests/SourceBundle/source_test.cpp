@@ -1,4 +1,4 @@
-// What a source holds, and what is said about the rest of it.
+// The content of a source, and messages about the rest.
 #include "SourceBundle/Source.h"
 
 #include "../Support/SourceFolder.h"
@@ -49,7 +49,7 @@ TEST(Source, HasTheTablesOfEveryLanguageFolderAtAnyDepth) {
     EXPECT_EQ(entry->error("is odd").text(), (folder / "App/Base.lproj/T.strings").string() + ":2:11: is odd");
 }
 
-TEST(Source, IsReadFromSeveralFoldersThatMayBeInEachOther) {
+TEST(Source, IsReadFromSeveralOverlappingFolders) {
     Support::SourceFolder folder;
     folder.write("One/en.lproj/T.strings", "a = b;");
     folder.write("Two/de.lproj/T.strings", "a = c;");
@@ -60,7 +60,7 @@ TEST(Source, IsReadFromSeveralFoldersThatMayBeInEachOther) {
     EXPECT_EQ(folder.takeMessages(), Strings());
 }
 
-TEST(Source, RefusesTwoTablesOfOneNameAndLanguage) {
+TEST(Source, RejectsTwoTablesWithTheSameNameAndLanguage) {
     Support::SourceFolder folder;
     folder.write("One/en.lproj/T.strings", "a = b;");
     folder.write("Two/English.lproj/T.strings", "a = c;");
@@ -80,7 +80,7 @@ TEST(Source, NamesItsDevelopmentLanguage) {
         {__LINE__, "CFBundleDevelopmentRegion = de;", "", "de", {}},
         {__LINE__, "CFBundleDevelopmentRegion = German;", "", "de", {}},
         {__LINE__, "CFBundleDevelopmentRegion = de;", "French", "fr", {}},
-        {__LINE__, "<plist><dict><key>More</key><array/></dict></plist>", "", "en", {}}, // needs no message
+        {__LINE__, "<plist><dict><key>More</key><array/></dict></plist>", "", "en", {}}, // gives no message
         {__LINE__, "CFBundleDevelopmentRegion = \"$(DEVELOPMENT_LANGUAGE)\";", "de", "de", {}},
         {__LINE__,
          "x = y;\nCFBundleDevelopmentRegion = \"$(DEVELOPMENT_LANGUAGE)\";",
@@ -104,7 +104,7 @@ TEST(Source, NamesItsDevelopmentLanguage) {
     }
 }
 
-// As a user of the development language reads them at run time: its own folder first, then Base.lproj.
+// As at run time for a user of the development language: its own folder first, then Base.lproj.
 TEST(Source, HasDevelopmentTextsOfTheLanguageAndOfBase) {
     Support::SourceFolder folder;
     folder.write("en.lproj/T.strings", "both = english; only = english;");
@@ -152,7 +152,7 @@ TEST(Source, ReportsWhatItLeavesOut) {
         EXPECT_TRUE(messages[i].starts_with(expected[i])) << messages[i];
 }
 
-TEST(Source, RefusesFoldersThatAreNoSources) {
+TEST(Source, RejectsFoldersThatAreNotSources) {
     Support::SourceFolder folder;
     folder.write("notes.txt", "?");
     folder.write("file", "?");
@@ -169,7 +169,7 @@ TEST(Source, RefusesFoldersThatAreNoSources) {
                                              "(*.xcassets)"});
 }
 
-TEST(Source, IsNotReadByLinksThatLeadOut) {
+TEST(Source, DoesNotFollowLinksThatLeadOut) {
     Support::SourceFolder folder;
     const auto secret = folder.write("elsewhere/T.strings", "secret, and no table");
     folder.write("source/en.lproj/A.strings", "a = b;");
@@ -181,7 +181,7 @@ TEST(Source, IsNotReadByLinksThatLeadOut) {
         EXPECT_EQ(folder.takeMessages(), Strings{"error: source/" + name + ": is a link that leads out of the source"});
         std::filesystem::remove(link);
     }
-    // One that stays inside is followed.
+    // A link inside the source is followed.
     std::filesystem::create_directory_symlink("en.lproj", folder / "source/de.lproj");
     const std::filesystem::path folders[] = {folder / "source"};
     EXPECT_EQ(contents(Source::read(folders, {}, folder.diagnostics)), (Strings{"A de a=b", "A en a=b"}));

@@ -28,7 +28,7 @@ std::string quotes(std::string json) {
     return json;
 }
 
-// The entry of the key "k", whose localizations are `localizations`, in English.
+// The English entry of the key "k" with these localizations.
 std::string shownOf(const std::string& localizations) {
     Support::SourceFolder folder;
     folder.write("T.xcstrings", quotes("{'sourceLanguage': 'en', 'strings': {'k': {'localizations': {'en': " +
@@ -75,7 +75,7 @@ TEST(StringCatalog, HasTheTextsOfEveryLanguage) {
     EXPECT_EQ(table.find("en")->find("%@ is here")->text, "%@ is here");
 }
 
-TEST(StringCatalog, NamesTheDevelopmentLanguageWhereNothingElseDoes) {
+TEST(StringCatalog, GivesTheDevelopmentLanguageByDefault) {
     Support::SourceFolder folder;
     folder.write("T.xcstrings", quotes("{'sourceLanguage': 'de', 'strings': {}}"));
     EXPECT_EQ(folder.read().developmentLanguage, "de");
@@ -96,7 +96,7 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
     } cases[] = {
         {__LINE__, "{'variations': " + plural("%lld day", "%lld days") + "}",
          "%#@value@ {value lld one=%lld day other=%lld days}"},
-        // The first number chooses; with more than one argument all have positions.
+        // The first number selects the form; with several arguments all get positions.
         {__LINE__, "{'variations': " + plural("%@ has one file", "%@ has %lld files") + "}",
          "%2$#@value@ {value lld one=%1$@ has one file other=%1$@ has %2$lld files}"},
         {__LINE__, "{'variations': " + plural("%2$@: %1$.1f", "%2$@: %1$.1f s") + "}",
@@ -115,7 +115,7 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              "}, 'folders': {'argNum': 3, 'variations': " + plural("a folder", "%arg folders") + "}}}",
          "%1$@: %2$#@files@ in %3$#@folders@ {files ld one=%2$ld file other=%2$ld files, 100%%arg} "
          "{folders lld one=a folder other=%3$lld folders}"},
-        // Without a number of its own, and named in a form.
+        // Without its own number, and used in a form.
         {__LINE__,
          "{'substitutions': {'a': {'variations': " + plural("%arg egg", "%arg eggs in %#@b@") +
              "}, 'b': {'argNum': 3, "
@@ -124,7 +124,7 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              ", 'other': " + unit("Click %@, %#@a@") + "}}}",
          "Click %1$@, %2$#@a@ {a lld one=%2$lld egg other=%2$lld eggs in %3$#@b@} {b lld one=a box other=%3$lld "
          "boxes}"},
-        // What waits for its translation is no text.
+        // An untranslated placeholder entry is not a text.
         {__LINE__,
          "{'variations': {'plural': {'one': {'stringUnit': {'state': 'new', 'value': ''}}, 'other': " +
              unit("%d eggs") + "}}}",
@@ -139,7 +139,7 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
         EXPECT_EQ(shownOf(one.localization), one.shown) << "line " << one.line;
 }
 
-TEST(StringCatalog, IsRefusedWithThePlaceOfItsFault) {
+TEST(StringCatalog, IsRejectedWithALocation) {
     const struct {
         int line;
         std::string json, message;

@@ -46,7 +46,7 @@ std::uint32_t pixel(const Pictures::Bitmap& bitmap, std::size_t x, std::size_t y
     return color;
 }
 
-TEST(PictureFile, KeepsPngAndJpegAsTheyAre) {
+TEST(PictureFile, KeepsPngAndJpegUnchanged) {
     for (const char* name :
          {"Food/banana.imageset/banana.png", "User/defaultCourseBoy.imageset/defaultCourseBoy.jpg"}) {
         const std::string bytes = resource(name);
@@ -65,13 +65,13 @@ TEST(PictureFile, ConvertsOtherRasterFormats) {
         const Pictures::Bitmap bitmap = decoded(made[0]);
         EXPECT_EQ(bitmap.width, made[0].width) << name;
         EXPECT_EQ(bitmap.width, std::string(name) == "plain.heic" ? 16U : 3U) << name;
-        EXPECT_NEAR(bitmap.pixels[0], 200, 3) << name; // of an animation the first frame
+        EXPECT_NEAR(bitmap.pixels[0], 200, 3) << name; // the first frame of an animation
         EXPECT_NEAR(bitmap.pixels[2], 10, 3) << name;
         EXPECT_FALSE(check(data(name).substr(0, 30), {})) << name;
     }
 }
 
-TEST(PictureFile, DrawsVectorsInTheSizeTheyHave) {
+TEST(PictureFile, DrawsVectorsInTheirSize) {
     const struct {
         int line;
         std::string drawing;
@@ -85,7 +85,7 @@ TEST(PictureFile, DrawsVectorsInTheSizeTheyHave) {
         {__LINE__, svg(R"(height="48" viewBox="0 0 24 12")"), {96, 48}},
         {__LINE__, svg(R"(width="100%" height="100%" viewBox="0 0 10 20")"), {10, 20}},
         {__LINE__, svg(R"(width="10.5" height="7.2")"), {10.5, 7.2}},
-        // Without any size, that of the content.
+        // Without any size, the size of the content.
         {__LINE__, svg("", R"(<rect x="-5" y="3" width="30" height="20"/>)"), {30, 20}},
         {__LINE__, "<!-- a drawing -->" + std::string(5000, ' ') + svg(R"(width="24" height="12")"), {24, 12}},
         {__LINE__,
@@ -145,10 +145,10 @@ TEST(PictureFile, DrawsTheRegularSymbolOfMediumSize) {
     EXPECT_EQ(symbol("")[0].points, (Size{500, 500}));
 }
 
-TEST(PictureFile, RefusesWhatCannotBeRead) {
+TEST(PictureFile, RejectsUnreadableFiles) {
     const std::string png = resource("Food/banana.imageset/banana.png");
     const std::string jpeg = resource("User/defaultCourseBoy.imageset/defaultCourseBoy.jpg");
-    std::string spoiledPng = png; // in the middle of its pixels
+    std::string spoiledPng = png; // damaged in the middle of its pixels
     spoiledPng[png.find("IDAT") + 20] ^= 0x55;
     std::string spoiledJpeg = jpeg;
     spoiledJpeg.replace(jpeg.size() / 2, 200, 200, '\x55');
@@ -181,7 +181,7 @@ TEST(PictureFile, RefusesWhatCannotBeRead) {
     }
 }
 
-// The libraries below are called by several threads.
+// Several threads call the underlying libraries.
 TEST(PictureFile, GivesTheSameInEveryThread) {
     const std::string files[] = {Support::contents(LUMORA_RESOURCES "/Images2.xcassets/card.imageset/card.pdf"),
                                  svg(R"(width="99" height="99")"), data("two-frames.gif"), data("plain.heic")};

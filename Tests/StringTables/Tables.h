@@ -1,4 +1,4 @@
-// What the tests of all three forms share.
+// Shared by the tests of all three table forms.
 #pragma once
 
 #include "StringTables/internal/Table.h"
@@ -18,14 +18,14 @@ inline Pairs pairs(const StringTables::Table& table) {
     return out;
 }
 
-// The entries of a table that must be readable.
+// The entries of a valid table.
 inline Pairs read(std::string bytes) {
     const auto table = StringTables::Table::read(std::move(bytes));
     EXPECT_TRUE(table) << table.error().text();
     return table ? pairs(*table) : Pairs();
 }
 
-// Why a table is refused; empty when it is read.
+// The error of an invalid table; empty if it is valid.
 inline std::string refusal(std::string bytes) {
     const auto table = StringTables::Table::read(std::move(bytes));
     return table ? "" : table.error().text();
@@ -49,8 +49,8 @@ inline std::string wide(std::string_view ascii, bool bigEndian, bool marked) {
     return out;
 }
 
-// Reads every beginning of `bytes`, and `bytes` with each byte changed in turn to each of `edits`. What is read at all
-// must be whole: every entry is found.
+// Reads every prefix of `bytes`, and `bytes` with each byte replaced by each of `edits`. If a table is read
+// successfully, all its entries must be found.
 inline void damage(const std::string& bytes, std::string_view edits) {
     const auto check = [](std::string damaged) {
         const auto table = StringTables::Table::read(std::move(damaged));

@@ -14,7 +14,7 @@ std::string bigEndian(std::uint64_t number, std::size_t size) {
     return out;
 }
 
-// A file of these objects, the first of which is the top one. References in `objects` are of `refSize` bytes.
+// A file of these objects; the first is the top-level object. References have `refSize` bytes.
 std::string file(const std::vector<std::string>& objects, std::size_t offsetSize = 1, std::size_t refSize = 1) {
     std::string out = "bplist00", offsets;
     for (const std::string& object : objects) {
@@ -26,14 +26,14 @@ std::string file(const std::vector<std::string>& objects, std::size_t offsetSize
            bigEndian(objects.size(), 8) + bigEndian(0, 8) + bigEndian(tableAt, 8);
 }
 
-// {"OK": "Ja", "é": "In Ordnung, weiter"}, whose last text has its length in a number object.
+// {"OK": "Ja", "é": "In Ordnung, weiter"}, where the last text has its length in a number object.
 const std::vector<std::string> plain = {"\xD2\1\3\2\4", "\x52OK", "\x52Ja", "\x61\x00\xE9"s,
                                         "\x5F\x10\x12In Ordnung, weiter"};
 const Pairs plainPairs = {{"OK", "Ja"}, {"é", "In Ordnung, weiter"}};
-// Where its parts lie: objects at 8, 13, 16, 19, 22, offsets from 43, trailer from 48.
+// Positions of its parts: objects at 8, 13, 16, 19, 22, offsets from 43, trailer from 48.
 constexpr std::size_t trailerAt = 48;
 
-// The same with the offsets of objects 1 and 2 exchanged: `objects` has them exchanged, too.
+// The same with objects 1 and 2 exchanged in the file, and their offsets as well.
 std::string disordered(std::vector<std::string> objects, std::size_t offsetSize = 1, std::size_t refSize = 1) {
     std::swap(objects[1], objects[2]);
     std::string out = file(objects, offsetSize, refSize);
@@ -44,7 +44,7 @@ std::string disordered(std::vector<std::string> objects, std::size_t offsetSize 
 }
 
 TEST(BinaryTable, ReadsEveryLayout) {
-    // The dictionary's references grow with their size; all else stays.
+    // Only the size of the dictionary's references changes.
     const auto sized = [](std::size_t refSize) {
         auto objects = plain;
         objects[0] = "\xD2";
@@ -75,7 +75,7 @@ TEST(BinaryTable, ReadsEveryLayout) {
     EXPECT_EQ(table->locations()[0].line, 0u);
 }
 
-TEST(BinaryTable, NotesWhatItPassesOver) {
+TEST(BinaryTable, NotesSkippedValues) {
     // Itself, a boolean, a truncated date, a reference, an array without its members.
     const std::string bytes = file({"\xD6\1\2\3\4\5\1\0\6\7\x8\x9\6"s, "\121a", "\121b", "\121c", "\121d", "\121e",
                                     "\x09", "\x33", "\x80", "\xAF"});
@@ -91,7 +91,7 @@ TEST(BinaryTable, NotesWhatItPassesOver) {
               (std::vector<std::string>{"byte 13: the key \"k\" appears again; this text holds"}));
 }
 
-// The last value wins, whether the keys are one object or two with the same characters.
+// The last value wins, whether the keys are the same object or two equal ones.
 TEST(BinaryTable, LetsTheLastValueWin) {
     const std::vector<std::string> tail = {"\121k", "\121k", "\121b", "\121v", "\121w", "\xA0"};
     const struct {
@@ -114,7 +114,7 @@ TEST(BinaryTable, LetsTheLastValueWin) {
     }
 }
 
-TEST(BinaryTable, RefusesWithPlaceAndReason) {
+TEST(BinaryTable, RejectsWithLocationAndReason) {
     const std::string good = file(plain);
     const auto edited = [&good](std::size_t at, std::string_view bytes) {
         return std::string(good).replace(at, bytes.size(), bytes);
@@ -164,7 +164,7 @@ TEST(BinaryTable, SurvivesDamage) {
     Tables::damage(file(plain), every);
 }
 
-// One long string named again and again is read once; strings that reach from everywhere to the end are refused.
+// A long shared string is read once; overlapping strings are rejected.
 TEST(BinaryTable, TakesLinearTime) {
     const std::size_t count = 50000, large = 1 << 20;
     const auto head = [](char marker, std::uint64_t size) { return marker + "\x12"s + bigEndian(size, 4); };

@@ -18,7 +18,8 @@ using StringTables::StoredTable;
 using StringTables::Table;
 using Texts = std::map<std::string, std::string>;
 
-// Entries of every kind of string: ASCII and not, short and long, empty, shared by entries, a key that is also a text.
+// Entries with all kinds of strings: ASCII and others, short and long, empty, shared by entries, a key that is also a
+// text.
 Texts sample(int count) {
     Texts texts = {{"", "empty key"},
                    {"empty", ""},
@@ -46,7 +47,7 @@ std::string compiled(const Texts& texts) {
 class CompiledTable : public testing::Test {
 protected:
     std::string file(std::string_view bytes) { return folder_.write("Table.strings", bytes); }
-    // What a new table at `path` finds; with `before` other look-ups made, the last of which reads the file whole.
+    // Looks up a key in a new table at `path` after `before` other lookups, of which the last one reads the whole file.
     static std::optional<std::string> found(const std::string& path, const std::string& key, int before = 0) {
         StoredTable table(path);
         for (int i = 0; i < before; ++i)
@@ -112,7 +113,7 @@ TEST_F(CompiledTable, ReadsTablesOfOtherFormsWhole) {
     EXPECT_EQ(found(file(*StringTables::write(entries, StringTables::Form::binary)), "Ключ"), "Текст 💪");
 }
 
-// Where the parts of a compiled table are.
+// The parts of a compiled table.
 struct Parts {
     explicit Parts(const std::string& bytes) {
         StringTables::internal::CompiledIndex::recognize(bytes.substr(0, index.headSize), index);
@@ -173,19 +174,19 @@ TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
     }
 }
 
-TEST_F(CompiledTable, FindsAnIndexThatContradictsTheDictionary) {
+TEST_F(CompiledTable, DetectsAnIndexThatContradictsTheDictionary) {
     const std::string one = compiled({{"a", "1"}, {"b", "2"}});
     std::string exchanged = one, marked = one;
-    const std::size_t values = Parts(one).index.front() + 3; // behind the marker and two keys
+    const std::size_t values = Parts(one).index.front() + 3; // after the marker and two keys
     std::swap(exchanged[values], exchanged[values + 1]);
     EXPECT_NE(Tables::refusal(exchanged).find("the table's index contradicts the entry \"a\""), std::string::npos);
-    // A damaged mark is seen, at the index and at the end of the file.
+    // A damaged mark is detected, at the index and at the end of the file.
     marked[15] = 'x';
     EXPECT_EQ(Tables::refusal(marked), "byte 8: the table's index is damaged");
     EXPECT_EQ(Tables::refusal(marked.replace(8, 16, std::string(16, '\1'))), "byte 8: the table's index is damaged");
 }
 
-// Edits and truncations of every kind and place: a text is the key's own, or there is none.
+// After any edit or truncation, a lookup returns the key's own text or none.
 TEST_F(CompiledTable, NeverGivesAnotherKeysText) {
     const Texts texts = sample(60);
     const std::string bytes = compiled(texts);
@@ -197,7 +198,7 @@ TEST_F(CompiledTable, NeverGivesAnotherKeysText) {
     const auto below = [&](std::size_t bound) {
         return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random);
     };
-    // Half of the edits are made where numbers are: in the index, the dictionary, the offsets and the trailer.
+    // Half of the edits are in parts with numbers: the index, the dictionary, the offsets and the trailer.
     const auto place = [&] {
         switch (below(4)) {
         case 0:
@@ -218,7 +219,7 @@ TEST_F(CompiledTable, NeverGivesAnotherKeysText) {
             case 0:
                 damaged[at] = static_cast<char>(below(256));
                 break;
-            case 1: // a part of the file in the place of another
+            case 1: // overwrite a part of the file with another
                 damaged.replace(at, size, bytes, place(), size);
                 break;
             default:
@@ -238,7 +239,7 @@ TEST_F(CompiledTable, NeverGivesAnotherKeysText) {
     }
 }
 
-TEST_F(CompiledTable, NoticesAnotherFileInItsPlace) {
+TEST_F(CompiledTable, DetectsAReplacedFile) {
     const Texts before = sample(500);
     Texts after = before;
     for (auto& [key, text] : after)
@@ -274,7 +275,7 @@ TEST_F(CompiledTable, IsReadByManyThreadsAtOnce) {
     }
 }
 
-// Every slot names one long string: no more than a few times the file is read.
+// All slots refer to one long string: at most a few times the file's size is read.
 TEST_F(CompiledTable, TakesLinearTimeForAHostileIndex) {
     Texts texts;
     for (int i = 0; i < 20'000; ++i)

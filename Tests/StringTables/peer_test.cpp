@@ -1,4 +1,4 @@
-// The XML and binary forms beside another reader and writer of them.
+// Compares the XML and binary forms with another implementation of them.
 #include "StringTables/internal/Writer.h"
 #include "Tables.h"
 #include <algorithm>
@@ -54,7 +54,7 @@ Pairs random(std::mt19937& source) {
     return out;
 }
 
-TEST(Peer, ReadsWhatWeWriteAndWeWhatItWrites) {
+TEST(Peer, AgreesInBothDirections) {
     std::mt19937 source(20240229);
     for (int round = 0; round < 20; ++round) {
         const Pairs expected = sorted(random(source));

@@ -14,7 +14,7 @@ std::string size(const Placeholder::Size& size) {
     return size.from == From::none ? "" : std::to_string(size.value);
 }
 
-// Every placeholder of `format` as "<position$ flags width .precision :bits conversion>", the rest as it stands.
+// Shows every placeholder of `format` as "<position$ flags width .precision :bits conversion>", and the rest unchanged.
 std::string marked(std::string_view format) {
     std::string out;
     std::size_t at = 0;
@@ -68,13 +68,13 @@ TEST(Placeholder, Finds) {
         EXPECT_EQ(marked(format), expected) << "line " << line;
 }
 
-TEST(Placeholder, PassesOverWhatIsNone) {
+TEST(Placeholder, IgnoresInvalidPlaceholders) {
     for (const char* const format :
          {"100%", "% ", "%p %n %Z", "%0$@", "%10000$@", "%99999999999999999999$@", "%$@", "%1$", "%1", "%l", "%.", "%*",
           "%1000000d", "%.0000001d", "%hhhd", "%llld", "%*0$d", "%*1", "%é"})
         EXPECT_EQ(marked(format), format);
     EXPECT_EQ(marked("%p%@"), "%p<@>");
-    EXPECT_EQ(marked("5% %d"), "5% <id>"); // a percent sign that is not doubled takes no conversion of the next
+    EXPECT_EQ(marked("5% %d"), "5% <id>"); // a lone percent sign does not consume part of the next placeholder
     EXPECT_EQ(marked("%1$%@"), "%1$<@>");
     EXPECT_EQ(marked(std::string("%\0@%5\0d%@", 9)), std::string("%\0@%5\0d<@>", 10));
     EXPECT_EQ(StringTables::nextPlaceholder("%@", 1), std::nullopt);
@@ -84,8 +84,8 @@ TEST(Placeholder, PassesOverWhatIsNone) {
     EXPECT_EQ(StringTables::nextPlaceholder(flags, 0), std::nullopt);
 }
 
-TEST(Placeholder, TellsWhatAFormatTakes) {
-    // The kinds as "t i n", '-' for none; then 'm' for a mix of positions and order, '%' for a lone percent sign, and
+TEST(Placeholder, GivesTheSignatureOfAFormat) {
+    // The kinds as "t i n", '-' for none; then 'm' if positions and order are mixed, '%' for a lone percent sign, and
     // the conflict.
     const auto described = [](std::string_view format) {
         const StringTables::FormatSignature signature = StringTables::signatureOf(format);

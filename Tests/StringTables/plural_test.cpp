@@ -1,4 +1,4 @@
-// Plural tables in both forms: what they hold, what is skipped and where, damaged ones, and the writer's way back.
+// Plural tables in both forms: content, notes with locations, damaged tables, and the writer.
 #include "StringTables/internal/PluralPieces.h"
 #include "StringTables/internal/PluralTable.h"
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ std::string notesOf(const PluralTable& table) {
     return all;
 }
 
-TEST(PluralTable, HoldsFormatsVariablesAndForms) {
+TEST(PluralTable, ReadsFormatsVariablesAndForms) {
     const auto table =
         PluralTable::read(list(dict("left", text("NSStringLocalizedFormatKey", "%#@days@ left") + days)));
     ASSERT_TRUE(table) << table.error().text();
@@ -63,7 +63,7 @@ TEST(PluralTable, WrittenTablesReadTheSame) {
     EXPECT_EQ(write(notUtf8).error().message, "the entry \"k\" is not UTF-8");
 }
 
-TEST(PluralTable, SaysWhatIsSkipped) {
+TEST(PluralTable, NotesWhatIsSkipped) {
     const std::string format = text("NSStringLocalizedFormatKey", "%#@v@");
     const struct {
         int line;
@@ -146,7 +146,7 @@ TEST(PluralTable, KnowsTheArgumentsOfAllForms) {
     const auto signature = signatureOf(table->find("k")->plural);
     const std::vector<std::optional<Kind>> expected = {Kind::text, Kind::integer, Kind::number, Kind::text};
     EXPECT_EQ(signature.arguments, expected);
-    ASSERT_TRUE(signature.conflict); // the last "%@" takes the size
+    ASSERT_TRUE(signature.conflict); // the last "%@" uses the size's argument
     EXPECT_EQ(signature.conflict->position, 3U);
 }
 
@@ -178,7 +178,7 @@ TEST(PluralTable, SharedTextsAreBounded) {
     EXPECT_NE(table.error().text().find("the texts of the table are longer than is accepted"), std::string::npos);
 }
 
-// Every byte changed or cut off: never a crash, whatever comes out.
+// Changes or cuts at every byte never cause a crash.
 TEST(PluralTable, SurvivesDamage) {
     const auto good =
         write(PluralTable::read(list(dict("k", text("NSStringLocalizedFormatKey", "%#@days@") + days)))->entries());

@@ -7,7 +7,7 @@ using Tables::Pairs;
 using Tables::read;
 using Tables::refusal;
 
-TEST(TextTable, ReadsWhatRealFilesHold) {
+TEST(TextTable, ReadsRealisticFiles) {
     const struct {
         int line;
         std::string source;
@@ -74,7 +74,7 @@ TEST(TextTable, ReadsEveryEncoding) {
     EXPECT_EQ(read("\xFF\xFEk\0=\0'\0\x3D\xD8\xAA\xDC'\0"s), (Pairs{{"k", "💪"}}));
 }
 
-TEST(TextTable, RefusesWithPlaceAndReason) {
+TEST(TextTable, RejectsWithLocationAndReason) {
     const struct {
         int line;
         std::string source, expected;
@@ -121,7 +121,7 @@ TEST(TextTable, RefusesWithPlaceAndReason) {
     EXPECT_EQ(refusal(std::string(StringTables::Table::maxBytes + 1, ' ')), "the table is larger than 268435456 bytes");
 }
 
-TEST(TextTable, NotesWhatItPassesOver) {
+TEST(TextTable, NotesSkippedValues) {
     EXPECT_EQ(Tables::notes("a = b;\nb = {c = d;};\n a = (1);\na = (2); a = b;\nc = <00>;"),
               (std::vector<std::string>{"2:1: the value of \"b\" is a dictionary, not a text; skipped",
                                         "3:2: the value of \"a\" is an array, not a text; skipped",
@@ -137,7 +137,7 @@ TEST(TextTable, NotesWhatItPassesOver) {
     EXPECT_EQ(notes.back(), "500 more of such notes");
 }
 
-TEST(TextTable, LocatesTheTextThatHolds) {
+TEST(TextTable, LocatesTheLastOfEqualKeys) {
     const auto table = StringTables::Table::read("a = 1;\n b = 2;\na = 3;");
     ASSERT_TRUE(table);
     const auto places = table->locations();
@@ -170,7 +170,7 @@ TEST(TextTable, KeepsTheCommentsDirectlyBeforeAnEntry) {
 }
 
 TEST(TextTable, FindsAndLocatesAfterMoves) {
-    // Short enough for a string to keep it in itself.
+    // Short enough for the small-string optimization.
     auto read = StringTables::Table::read("\nä=b;\n 'C'=\"\";"s.replace(1, 2, "ab"));
     ASSERT_TRUE(read);
     StringTables::Table first = *std::move(read), table;
@@ -180,7 +180,7 @@ TEST(TextTable, FindsAndLocatesAfterMoves) {
     EXPECT_EQ(table.find("c"), std::nullopt);
     EXPECT_EQ(table.locations()[1].line, 3u);
     EXPECT_EQ(table.locations()[1].column, 2u);
-    EXPECT_EQ(first.find("ab"), std::nullopt); // NOLINT: a moved-from table is an empty one
+    EXPECT_EQ(first.find("ab"), std::nullopt); // NOLINT: a moved-from table is empty
     EXPECT_TRUE(StringTables::Table().entries().empty());
 }
 
@@ -208,7 +208,7 @@ TEST(TextTable, TakesLinearTime) {
     }
 }
 
-// As many keys as a table may have, all different: more are refused before they take memory.
+// The maximal number of distinct keys; more are rejected before memory is allocated.
 TEST(TextTable, IsBounded) {
     std::string source;
     for (std::size_t i = 0; i <= StringTables::Table::maxEntries; ++i)

@@ -57,7 +57,7 @@ TEST(Writer, WritesComments) {
     EXPECT_FALSE(StringTables::write(entries, Form::xml, bad));
 }
 
-TEST(Writer, RefusesWhatAFormCannotHold) {
+TEST(Writer, RejectsWhatAFormCannotRepresent) {
     for (const std::string& text : {"\0"s, "\x1F"s, "\uFFFE"s, "a\uFFFF"s}) {
         const std::vector<Entry> entries = {{"k", text}};
         EXPECT_EQ(StringTables::write(entries, Form::xml).error().message,
@@ -71,7 +71,7 @@ TEST(Writer, RefusesWhatAFormCannotHold) {
     }
 }
 
-// A small table whose entries share a long text is a large one in other forms.
+// A small table whose entries share a long text is large in other forms.
 TEST(Writer, IsBounded) {
     const std::string text(1 << 20, 'x');
     std::vector<std::string> keys;
@@ -85,7 +85,7 @@ TEST(Writer, IsBounded) {
     EXPECT_LT(StringTables::write(entries, Form::binary)->size(), text.size() + 10'000);
 }
 
-// Every form through every other, from few and short strings to sizes that need longer references, offsets and counts.
+// Converts every form to every other, from few short strings to sizes that need longer references, offsets and counts.
 TEST(Writer, RoundTrips) {
     for (const std::size_t count : {0u, 1u, 14u, 15u, 127u, 300u, 70000u}) {
         std::vector<std::string> keys;

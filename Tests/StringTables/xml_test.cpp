@@ -15,7 +15,7 @@ std::string plist(const std::string& dict) {
     return "<plist version=\"1.0\"><dict>" + dict + "</dict></plist>";
 }
 
-TEST(XmlTable, ReadsWhatRealFilesHold) {
+TEST(XmlTable, ReadsRealisticFiles) {
     const Pairs ok = {{"OK", "In Ordnung"}};
     const std::string entry = "<key>OK</key>\n\t<string>In Ordnung</string>\n";
     EXPECT_EQ(read(head + plist(entry)), ok);
@@ -44,7 +44,7 @@ TEST(XmlTable, KeepsTheCommentsDirectlyBeforeAnEntry) {
               std::vector<std::string>{"é"});
 }
 
-TEST(XmlTable, NotesWhatItPassesOver) {
+TEST(XmlTable, NotesSkippedValues) {
     const std::string source = head + "<plist><dict>\n<key>n</key><dict><key>one</key><string>%d day</string>\n"
                                       "<key>x</key><array><string>a</string><dict/></array></dict>\n"
                                       "<key>i</key><integer>1</integer><key>a</key><string>1</string>\n"
@@ -59,7 +59,7 @@ TEST(XmlTable, NotesWhatItPassesOver) {
     EXPECT_EQ(table->locations()[0].line, 7u);
 }
 
-TEST(XmlTable, RefusesWithPlaceAndReason) {
+TEST(XmlTable, RejectsWithLocationAndReason) {
     const std::string bomb = "<!DOCTYPE plist [<!ENTITY a \"ha\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;\">]>\n";
     std::string arrays;
     for (int i = 0; i < 1000000; ++i)

@@ -1,5 +1,5 @@
 // Tests/Support/SourceFolder.h
-// A source as tests write it down: files in a temporary folder, read and modelled, and what is said about them.
+// A source in a temporary folder, written by a test, with its model and the messages about it.
 #pragma once
 
 #include "SourceBundle/Source.h"
@@ -17,7 +17,7 @@ public:
         return SourceBundle::Source::read(folders, options, diagnostics);
     }
 
-    // "warning: FILE:LINE:COLUMN: MESSAGE", file names below the folder; forgets them.
+    // Takes the messages: "warning: FILE:LINE:COLUMN: MESSAGE", with file names relative to the folder.
     std::vector<std::string> takeMessages() {
         std::vector<std::string> all;
         for (const auto& [severity, what, topic, subject] : diagnostics.all()) {

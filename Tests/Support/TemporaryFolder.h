@@ -1,5 +1,5 @@
 // Tests/Support/TemporaryFolder.h
-// A folder of a test's own, gone when the test ends.
+// A temporary folder for a test, removed when the test ends.
 #pragma once
 
 #include <cstdlib>
@@ -14,7 +14,7 @@ namespace Support {
 
 class TemporaryFolder {
 public:
-    // The name has a space and letters beyond ASCII: paths of real users do.
+    // The name has a space and non-ASCII letters, as real paths do.
     TemporaryFolder() : path_(std::filesystem::temp_directory_path() / "lumora tést.XXXXXX") {
         std::string name = path_.string();
         if (::mkdtemp(name.data()) == nullptr)
@@ -31,7 +31,7 @@ public:
     const std::filesystem::path& path() const { return path_; }
     std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
 
-    // Makes the file `name` and the folders above it; returns its path.
+    // Writes the file `name`, creating its folders, and returns its path.
     std::filesystem::path write(std::string_view name, std::string_view bytes) const {
         std::filesystem::path file = path_ / name;
         std::filesystem::create_directories(file.parent_path());
@@ -49,7 +49,7 @@ inline std::string contents(const std::filesystem::path& file) {
     return bytes.str();
 }
 
-// The paths of all files below, relative to it.
+// The relative paths of all files below the folder.
 inline std::set<std::string> filesBelow(const std::filesystem::path& folder) {
     std::set<std::string> files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))

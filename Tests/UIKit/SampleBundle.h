@@ -1,5 +1,5 @@
 // Tests/UIKit/SampleBundle.h
-// A bundle with a compiled catalog of its own, and traits that are put back.
+// A bundle with a compiled catalog, and a guard that restores the current traits.
 #pragma once
 
 #include "../Pictures/PngFile.h"
@@ -70,7 +70,7 @@ inline std::vector<Asset> assets() {
     };
 }
 
-// The same bundle in every test of the process: bundles and catalogs are never closed.
+// All tests share this bundle, because bundles and catalogs are never closed.
 inline const Foundation::NSBundle& bundle() {
     static const Foundation::NSBundle& made = [&]() -> const Foundation::NSBundle& {
         static const Support::TemporaryFolder folder;

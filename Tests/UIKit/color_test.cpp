@@ -10,7 +10,7 @@ namespace {
 using namespace UIKit;
 using Sample::bundle;
 
-TEST(UIColor, FixedComponentsAreKeptAsTheyAre) {
+TEST(UIColor, FixedComponentsAreUnchanged) {
     const UIColor color(2.5, -1, std::nan(""), 0.25);
     const RGBA rgba = color.rgba().value();
     EXPECT_EQ(rgba.red, 2.5);
@@ -21,7 +21,7 @@ TEST(UIColor, FixedComponentsAreKeptAsTheyAre) {
     EXPECT_NE(UIColor(1, 2, 3, 4), UIColor(1, 2, 3, 5));
 }
 
-TEST(UIColor, NamedColorFollowsTheTraitsInForce) {
+TEST(UIColor, NamedColorFollowsTheCurrentTraits) {
     const UIColor ink = UIColor::colorNamed("ink", bundle()).value();
     const UIColor darkInk = UIColor::colorNamed("ink", bundle(), &Sample::dark).value();
     const UIColor lightOnce = ink.resolved(UITraitCollection::current());
@@ -34,7 +34,7 @@ TEST(UIColor, NamedColorFollowsTheTraitsInForce) {
         const Sample::Traits scope(
             {.userInterfaceStyle = UserInterfaceStyle::dark, .accessibilityContrast = AccessibilityContrast::high});
         EXPECT_EQ(ink.rgba(), white);
-        EXPECT_EQ(darkInk.rgba(), white); // its contrast is not fixed
+        EXPECT_EQ(darkInk.rgba(), white); // the contrast still follows the current traits
         EXPECT_EQ(lightOnce.rgba(), light);
     }
     EXPECT_EQ(ink.rgba(), light);
@@ -55,7 +55,7 @@ TEST(UIColor, PatternHasNoComponents) {
     EXPECT_EQ(UIColor(0, 0, 0, 1).patternImage(), nullptr);
 }
 
-// Expected values worked out apart from this code, the matrix from the chromaticities in fractions.
+// Expected values were computed independently, the matrix with exact fractions from the chromaticities.
 TEST(ColorSpaces, BecomeExtendedSrgb) {
     using AssetCatalog::ColorSpace;
     struct Case {

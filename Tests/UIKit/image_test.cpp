@@ -11,14 +11,14 @@ namespace {
 using namespace UIKit;
 using Sample::bundle;
 
-TEST(UIImage, FollowsTheTraitsInForce) {
+TEST(UIImage, FollowsTheCurrentTraits) {
     const UIImage send = UIImage::imageNamed("send", bundle()).value();
     const UITraitCollection fixed = Sample::dark;
     const UIImage darkSend = UIImage::imageNamed("send", bundle(), &fixed).value();
     struct Case {
         int line;
         UITraitCollection traits;
-        unsigned pixels, darkPixels; // the side, which tells the variant
+        unsigned pixels, darkPixels; // the side length, which identifies the variant
         double scale;
     };
     const Case cases[] = {
@@ -45,7 +45,7 @@ TEST(UIImage, FollowsTheTraitsInForce) {
 TEST(UIImage, IdentityAndAbsence) {
     const UIImage star = UIImage::imageNamed("star_", bundle()).value();
     EXPECT_EQ(star, UIImage::imageNamedWithConfiguration("star_", bundle()));
-    EXPECT_EQ(star.rgba(), UIImage::imageNamed("star_", bundle())->rgba()); // the same pixels, not equal ones
+    EXPECT_EQ(star.rgba(), UIImage::imageNamed("star_", bundle())->rgba()); // the same object
     EXPECT_NE(star, UIImage::imageNamed("send", bundle()));
     EXPECT_NE(star, UIImage::imageNamed("star_", bundle(), &Sample::dark));
     EXPECT_EQ(star.name(), "star_");
@@ -67,8 +67,8 @@ TEST(UIImage, HasTheInsetsOfItsVariant) {
     EXPECT_EQ(UIImage::imageNamed("star_", bundle())->renderingMode(), RenderingMode::alwaysTemplate);
 }
 
-// The bundle has no texts: its pictures and colours follow the user's languages.
-TEST(UIImage, FollowsTheLanguageInForce) {
+// In a bundle without texts, pictures and colours follow the user's languages.
+TEST(UIImage, FollowsTheCurrentLanguage) {
     const UIImage sign = UIImage::imageNamed("sign", bundle()).value();
     const UIColor flag = UIColor::colorNamed("flag", bundle()).value();
     Foundation::Host::setPreferredLanguages({"ru-RU", "de"});
@@ -80,7 +80,7 @@ TEST(UIImage, FollowsTheLanguageInForce) {
     Foundation::Host::reset();
 }
 
-// A bundle with texts: its pictures are in their language.
+// In a bundle with texts, pictures follow the language of the texts.
 TEST(UIImage, FollowsTheLanguageOfTheTexts) {
     const Support::TemporaryFolder folder;
     folder.write(AssetCatalog::fileName, AssetCatalog::build(Sample::assets())->bytes());
@@ -99,7 +99,7 @@ TEST(UIImage, DamagedPictureHasASizeButNoPixels) {
         const UIImage image = UIImage::imageNamed(name, bundle()).value();
         EXPECT_EQ(image.pixelHeight(), 3U);
         EXPECT_FALSE(image.rgba()) << name;
-        EXPECT_FALSE(image.rgba()) << name; // nor the second time
+        EXPECT_FALSE(image.rgba()) << name; // the second call fails, too
     }
 }
 
@@ -160,7 +160,7 @@ TEST(SwiftUI, ViewsNameAnAssetAndResolveLater) {
     EXPECT_NE(ink, Color(red));
 }
 
-TEST(SwiftUI, UnspecifiedTraitsAreThoseInForce) {
+TEST(SwiftUI, UnspecifiedTraitsAreTheCurrentOnes) {
     const Sample::Traits scope({.userInterfaceStyle = UserInterfaceStyle::dark, .displayScale = 1});
     const UITraitCollection contrast{.accessibilityContrast = AccessibilityContrast::high};
     const UIColor ink = UIColor::colorNamed("ink", bundle()).value();

@@ -15,27 +15,27 @@ Pixels pixels(std::size_t bytes) {
     return std::make_shared<const Pictures::Bitmap>(Pictures::Bitmap{1, 1, std::vector<std::uint8_t>(bytes)});
 }
 
-TEST(PixelCache, KeepsTheLastUsedWithinItsBound) {
+TEST(PixelCache, KeepsTheMostRecentlyUsed) {
     PixelCache cache(100);
     for (const std::uint64_t i : {0U, 1U})
         cache.add(key(i), pixels(40));
-    EXPECT_TRUE(cache.find(key(0))); // now used later than the second
+    EXPECT_TRUE(cache.find(key(0))); // now more recently used than the second
     cache.add(key(2), pixels(40));
     EXPECT_TRUE(cache.find(key(0)));
     EXPECT_FALSE(cache.find(key(1)));
     EXPECT_TRUE(cache.find(key(2)));
-    // Too large to be kept: it neither stays nor drives the others out.
+    // Too large to be cached: it is neither kept nor evicts the others.
     cache.add(key(3), pixels(101));
     EXPECT_FALSE(cache.find(key(3)));
     EXPECT_TRUE(cache.find(key(0)));
 }
 
-TEST(PixelCache, SharesWhatSomebodyHolds) {
+TEST(PixelCache, SharesPixelsInUse) {
     PixelCache cache(100);
     const Pixels held = cache.add(key(0), pixels(60));
-    EXPECT_EQ(cache.add(key(0), pixels(60)), held); // whoever decodes at the same time gets the first one's
+    EXPECT_EQ(cache.add(key(0), pixels(60)), held); // a concurrent decode gets the first result
     cache.add(key(1), pixels(60));
-    EXPECT_EQ(cache.find(key(0)), held); // let go, but alive; kept again
+    EXPECT_EQ(cache.find(key(0)), held); // evicted but alive; cached again
     EXPECT_FALSE(cache.find(key(1)));
 
     const Pixels large = cache.add(key(2), pixels(1000));
@@ -43,7 +43,7 @@ TEST(PixelCache, SharesWhatSomebodyHolds) {
     EXPECT_EQ(cache.find(key(0)), held);
 }
 
-TEST(PixelCache, ForgetsWhatIsGone) {
+TEST(PixelCache, DropsExpiredSlots) {
     PixelCache cache(1000);
     for (std::uint64_t i = 0; i < 10000; ++i)
         cache.add(key(i), pixels(100));

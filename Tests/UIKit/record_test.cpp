@@ -8,7 +8,7 @@
 namespace {
 
 struct Module {
-    // How often the bundle was asked for: each look-up asks once.
+    // Counts calls of bundle(): each lookup calls it once.
     static inline std::atomic<int> asked = 0;
     static const Foundation::NSBundle& bundle() {
         ++asked;
@@ -29,7 +29,7 @@ public:
     static void assign(const Colors& record, const UIKit::UIColor& color) { record.setColor(color); }
 };
 
-// Constants without work at start-up or at the end.
+// Constants without start-up or exit code.
 constinit const Images send = Module::Catalog::image("send");
 constinit const Colors ink = Module::Catalog::color("ink");
 constinit const Colors contested = Module::Catalog::color("ink");
@@ -38,7 +38,7 @@ constinit const DataSets regions = Module::Catalog::data("regions");
 static_assert(std::is_trivially_destructible_v<Images> && std::is_trivially_destructible_v<Colors> &&
               std::is_trivially_destructible_v<DataSets>);
 
-// Users copy images and data and share colours; they make none of them.
+// Users can copy images and data and share colours, but cannot create any of them.
 template <class Record>
 constexpr bool isMadeByTheModuleOnly =
     !std::is_default_constructible_v<Record> && !std::is_constructible_v<Record, const char*> &&
@@ -54,7 +54,7 @@ int askedBy(auto&& read) {
     return Module::asked - before;
 }
 
-TEST(AssetRecord, ImagesAndDataAreAskedForEachTime) {
+TEST(AssetRecord, ImagesAndDataAreLookedUpEachTime) {
     EXPECT_EQ(send.name(), "send");
     EXPECT_EQ(send.image(), UIKit::UIImage::imageNamed("send", Sample::bundle()));
     EXPECT_EQ(send.swiftUIImage(), SwiftUI::Image("send", Sample::bundle()));
@@ -63,7 +63,7 @@ TEST(AssetRecord, ImagesAndDataAreAskedForEachTime) {
     EXPECT_EQ(askedBy([] { static_cast<void>(regions.data()), static_cast<void>(regions.data()); }), 2);
 }
 
-TEST(AssetRecord, ColorIsAskedForOnceAndFollowsTheTraits) {
+TEST(AssetRecord, ColorIsLookedUpOnceAndFollowsTheTraits) {
     EXPECT_EQ(askedBy([] {
                   const UIKit::UIColor& color = ink.color();
                   EXPECT_EQ(&color, &ink.color());
@@ -72,7 +72,7 @@ TEST(AssetRecord, ColorIsAskedForOnceAndFollowsTheTraits) {
                   const Sample::Traits scope(Sample::dark);
                   EXPECT_EQ(color.rgba()->red, 0.875);
               }),
-              2); // once for each of the two
+              2); // once for each
     EXPECT_EQ(ink.swiftUIColor(), SwiftUI::Color("ink", Sample::bundle()));
 
     Module::Catalog::assign(assigned, {3, 2, 1, 0});
@@ -91,7 +91,7 @@ TEST(AssetRecord, ColorReadByManyThreadsFirst) {
 }
 
 TEST(AssetRecordDeathTest, MissingAssetStopsTheProcess) {
-    Sample::bundle(); // made here: a process that is stopped leaves its folders behind
+    Sample::bundle(); // created in this process: a stopped child would leave its folders behind
     static constexpr Images image = Module::Catalog::image("star-big_.");
     static constexpr DataSets data = Module::Catalog::data("send");
     static constinit const Colors color = Module::Catalog::color("");
@@ -103,7 +103,7 @@ TEST(AssetRecordDeathTest, MissingAssetStopsTheProcess) {
                 report("Unable to load image asset named star-big_\\.\\.", "685"));
     EXPECT_EXIT(static_cast<void>(data.data()), aborted, report("Unable to load data asset named send\\.", "645"));
     EXPECT_EXIT(static_cast<void>(color.color()), aborted, report("Unable to load color asset named \\.", "587"));
-    // Views never complain.
+    // Views never stop the process.
     EXPECT_EQ(image.swiftUIImage().asset().name, "star-big_.");
     EXPECT_EQ(color.swiftUIColor().asset()->name, "");
 }

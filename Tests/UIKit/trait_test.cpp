@@ -21,13 +21,13 @@ TEST(Traits, SetAsAWhole) {
     EXPECT_EQ(UITraitCollection::current(), all);
 }
 
-// A scale is judged by one rule, whether it is in force or given with a look-up.
-TEST(Traits, NoScaleIsUnspecifiedAndAnyOtherIsBounded) {
+// The same rule applies to a scale in the current traits and in a lookup.
+TEST(Traits, ScalesAreClamped) {
     const double infinity = std::numeric_limits<double>::infinity();
     const struct {
         int line;
-        double given, taken; // where 3 is what lies below
-        unsigned pixels;     // the side of the variant
+        double given, taken; // with a scale of 3 below
+        unsigned pixels;     // the side length of the variant
     } cases[] = {
         {__LINE__, 0, 3, 30},
         {__LINE__, -2, 3, 30},
@@ -49,18 +49,18 @@ TEST(Traits, NoScaleIsUnspecifiedAndAnyOtherIsBounded) {
         UITraitCollection::setCurrent({.displayScale = 3});
         const UIImage image = UIImage::imageNamed("send", Sample::bundle(), &given).value();
         EXPECT_EQ(image.pixelWidth(), one.pixels);
-        EXPECT_EQ(image, image); // also of no number
+        EXPECT_EQ(image, image); // also for NaN
     }
 }
 
-TEST(Traits, UnspecifiedOnesAreTakenFromBelow) {
+TEST(Traits, UnspecifiedOnesComeFromTheArgument) {
     const UITraitCollection below{.userInterfaceStyle = UserInterfaceStyle::light, .displayScale = 3};
     EXPECT_EQ(UITraitCollection{}.over(below), below);
     EXPECT_EQ(Sample::dark.over(below),
               (UITraitCollection{.userInterfaceStyle = UserInterfaceStyle::dark, .displayScale = 3}));
 }
 
-// A reader sees one of the two settings, never a mixture.
+// Readers see one of the two settings, never a mixture.
 TEST(Traits, ChangeUnderReaders) {
     const UITraitCollection two[] = {
         {.userInterfaceStyle = UserInterfaceStyle::light, .displayScale = 1},

@@ -86,8 +86,7 @@ struct SharedText {
 // The development texts that occur more than once, grouped by text.
 [[nodiscard]] std::vector<std::vector<SharedText>> sharedTexts(std::span<const DevelopedTable> tables);
 // inconsistent-translation.
-void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view
-// language, Report& report);
+void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view language, Report& report);
 
 // coverage.
 void reportCoverage(std::span<const DevelopedTable> tables, std::string_view language, const Coverage& coverage,

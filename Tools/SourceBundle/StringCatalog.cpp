@@ -264,7 +264,7 @@ private:
         return sourceLanguage_;
     }
 
-    // Finds faults outside of what has been read.
+    // Finds errors in the parts of the file that nothing else reads.
     static void checkRest(ondemand::document& document) {
         document.rewind();
         for (auto field : document.get_object())

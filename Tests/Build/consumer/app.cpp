@@ -1,4 +1,4 @@
-// Prints one text, one formatted number and the place of the bundle.
+// Prints a text, a formatted number and the path of the bundle.
 #include <Lumora/Lumora.h>
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-// Opens the library at run time by the relative path it is given, goes elsewhere, then asks it for a text and a number.
+// Opens the library at a relative path, changes the current directory, then reads a text and a number.
 #include <cstdio>
 #include <dlfcn.h>
 #include <unistd.h>
