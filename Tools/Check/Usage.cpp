@@ -2,6 +2,7 @@
 
 #include "Check/Identifiers.h"
 #include "Generator/CodeText.h"
+#include "Generator/CodeWriter.h"
 #include "Runtime/internal/File.h"
 #include "SourceBundle/SetContents.h"
 #include <algorithm>
