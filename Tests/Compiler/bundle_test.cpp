@@ -138,7 +138,7 @@ TEST(CompileBundle, LeavesOutUnreadablePictures) {
     const Outcome outcome = compile(folder / "source", folder / "out.bundle");
     EXPECT_EQ(outcome.failure, "");
     ASSERT_EQ(outcome.diagnostics.size(), 1U);
-    EXPECT_TRUE(outcome.diagnostics[0].starts_with(bad.string() + ": is in no picture format"));
+    EXPECT_TRUE(outcome.diagnostics[0].starts_with(bad.string() + ": has an unknown format"));
     EXPECT_EQ(assetsOf(folder / "out.bundle"), std::vector<std::string>{"good"});
 }
 

@@ -112,7 +112,8 @@ TEST(ExchangeFiles, AreRejectedWithLocations) {
         std::string bytes, error;
     } cases[] = {
         {__LINE__, "", "f: not a PO file: it has no header"},
-        {__LINE__, "msgid \"\"\nmsgstr \"Language: de\\n\"", "f:1: the file is not in UTF-8"},
+        {__LINE__, "msgid \"\"\nmsgstr \"Language: de\\n\"",
+         "f:1: the header field Content-Type must say charset=UTF-8"},
         {__LINE__, "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\n\"",
          "f:1: the header has no field Language"},
         {__LINE__, head + "msgid \"a\nmsgstr \"\"", "f:3:9: the string is not closed"},

@@ -156,9 +156,9 @@ TEST(PictureFile, RejectsUnreadableFiles) {
         int line;
         std::string file, said;
     } cases[] = {
-        {__LINE__, "no picture", "is in no picture format that can be read"},
-        {__LINE__, "", "is in no picture format that can be read"},
-        {__LINE__, "8BPS" + std::string("\0\1", 2) + std::string(40, '\0'), "is in no picture format"},
+        {__LINE__, "no picture", "has an unknown format"},
+        {__LINE__, "", "has an unknown format"},
+        {__LINE__, "8BPS" + std::string("\0\1", 2) + std::string(40, '\0'), "has an unknown format"},
         {__LINE__, png.substr(0, png.size() - 12), "is a damaged PNG"},
         {__LINE__, png.substr(0, png.size() / 2), "is a damaged PNG"},
         {__LINE__, spoiledPng, "is a damaged PNG"},

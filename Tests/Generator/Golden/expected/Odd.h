@@ -1,4 +1,4 @@
-// Made from the resources of the module Odd; do not edit.
+// Generated from the resources of the module Odd; do not edit.
 // The whole module.
 #pragma once
 
@@ -13,7 +13,7 @@
 
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
-#ifdef __cpp_rtti // messages need it; all else works without
+#ifdef __cpp_rtti // only messages need it
 #include "Runtime/Class.h"
 #endif
 

@@ -1,4 +1,4 @@
-// Made from the resources of the module Odd; do not edit.
+// Generated from the resources of the module Odd; do not edit.
 #include "OddAsset.h"
 
 #include "OddAsset/Internal/Catalog.h"

@@ -1,4 +1,4 @@
-// Made from the resources of the module Odd; do not edit.
+// Generated from the resources of the module Odd; do not edit.
 #pragma once
 
 #include "OddResources.h"
@@ -8,7 +8,7 @@
 
 namespace Odd {
 
-// Where the records below look, and what their reports say.
+// The bundle and the name in error reports of the records below.
 struct OddAssetModule {
     static const ::Foundation::NSBundle& bundle() { return OddResources::bundle(); }
     static constexpr std::string_view sourceName = "TuistAssets+Odd";
@@ -19,7 +19,7 @@ using OddImages = ::SwiftUI::ImageRecord<OddAssetModule>;
 using OddColors = ::SwiftUI::ColorRecord<OddAssetModule>;
 using OddData = ::SwiftUI::DataRecord<OddAssetModule>;
 
-// Makes the records and assigns their colours. Only the module's own sources have these functions.
+// Creates records and assigns their colours. Only the module's own sources can use these functions.
 class OddAssetModule::Catalog {
 public:
     // Names are string literals.
@@ -27,7 +27,7 @@ public:
     static constexpr OddColors color(const char* name) noexcept;
     static constexpr OddData data(const char* name) noexcept;
 
-    // Later reads give the assigned value.
+    // Later reads return the assigned value.
     static void setColor(const OddColors& record, const ::UIKit::UIColor& color);
     static void setSwiftUIColor(const OddColors& record, ::SwiftUI::Color color);
 };

@@ -1,5 +1,5 @@
-// Made from the resources of the module Odd; do not edit.
-// What the module adds to the platform's image, colour and data types. SwiftUI/ModuleConveniences.h describes each.
+// Generated from the resources of the module Odd; do not edit.
+// The module's additions to the platform's image, colour and data types. See SwiftUI/ModuleConveniences.h.
 #pragma once
 
 #include "OddAssetRecords.h"

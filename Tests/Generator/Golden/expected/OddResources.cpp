@@ -1,4 +1,4 @@
-// Made from the resources of the module Odd; do not edit.
+// Generated from the resources of the module Odd; do not edit.
 #include "OddResources.h"
 
 #include "Runtime/Class.h"
@@ -8,7 +8,7 @@ namespace Odd {
 
 namespace {
 
-// Lies in the library whose bundle is asked for.
+// Its address identifies the library whose bundle is wanted.
 struct BundleFinder {
     static constexpr char code = 0;
 };

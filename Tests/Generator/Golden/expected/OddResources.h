@@ -1,4 +1,4 @@
-// Made from the resources of the module Odd; do not edit.
+// Generated from the resources of the module Odd; do not edit.
 #pragma once
 
 #include "Foundation/NSBundle.h"
@@ -6,10 +6,10 @@
 
 namespace Odd {
 
-// The module's own resources. Published to messages under this name.
+// The module's resources. The class is published under this name.
 class OddResources {
 public:
-    // The bundle beside the library that holds this code: the same object at every call, from any thread.
+    // The module's bundle: the same object at every call, from any thread.
     [[nodiscard]] LUMORA_EXPORT static const ::Foundation::NSBundle& bundle();
 };
 

@@ -1,9 +1,9 @@
-// Made from the resources of the module Odd; do not edit.
+// Generated from the resources of the module Odd; do not edit.
 #include "OddStrings/Internal/Catalog.h"
 #include "OddStrings/Localizable.h"
 #include "Runtime/OnceSlot.h"
 
-// Tables, and a line for each accessor.
+// Data, and one line for each accessor.
 // clang-format off
 
 namespace Odd::OddStrings::detail {
@@ -46,7 +46,7 @@ inline ::Foundation::LocalizedKey keyAt(std::size_t entry) noexcept {
 
 constinit ::Runtime::OnceSlot<std::string> slots[13];
 
-// Without memory or descriptors this read gives no text, and a later one tries again.
+// While memory or descriptors are out, the text is empty; a later call tries again.
 [[gnu::noinline, gnu::cold]] const std::string& made(std::size_t entry) noexcept {
     try {
         return slots[entry].get([entry] { return tr(keyAt(entry), {}); });

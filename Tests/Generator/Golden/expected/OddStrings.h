@@ -1,4 +1,4 @@
-// Made from the resources of the module Odd; do not edit.
+// Generated from the resources of the module Odd; do not edit.
 #pragma once
 
 #include "OddStrings/Empty.h"
@@ -6,4 +6,4 @@
 #include "OddStrings/OddNames.h"
 #include "Runtime/Class.h"
 
-// Fingerprint of these headers: 7273a3426d26608f
+// Fingerprint of these headers: 6e50d3f31ee406b7

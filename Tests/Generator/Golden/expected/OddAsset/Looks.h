@@ -1,4 +1,4 @@
-// Made from the resources of the module Odd; do not edit.
+// Generated from the resources of the module Odd; do not edit.
 #pragma once
 
 #include "../OddAssetRecords.h"

@@ -1,5 +1,5 @@
-// Made from the resources of the module Odd; do not edit.
-// How records are made and colours assigned; internal.
+// Generated from the resources of the module Odd; do not edit.
+// The functions that create records and assign colours; internal.
 #pragma once
 
 #include "../../OddAssetRecords.h"
