@@ -70,7 +70,7 @@ class Watch(unittest.TestCase):
         # A fault leaves the bundle; the repair is seen.
         table.write_text("a = ")
         self.until(f"{table}:1:")
-        self.until("stays as it is: T.strings changed")
+        self.until("is unchanged: T.strings changed")
         self.assertEqual(self.text("en", "a"), "three")
         table.write_text('a = "five";')
         self.expect("five")
