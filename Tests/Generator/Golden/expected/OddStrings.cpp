@@ -1,4 +1,4 @@
-// Made from the resources of the module Odd; do not edit.
+// Generated from the resources of the module Odd; do not edit.
 #include "OddResources.h"
 #include "OddStrings/Internal/Catalog.h"
 
@@ -7,7 +7,7 @@
 
 namespace Odd::OddStrings {
 
-// A text without arguments is formatted as well: its doubled percent signs become single ones.
+// Texts without arguments are formatted, too, so that "%%" becomes "%".
 std::string tr(const ::Foundation::LocalizedKey& key, std::span<const ::Foundation::FormatArgument> arguments) {
     return ::Odd::OddResources::bundle().formattedText(key, arguments);
 }

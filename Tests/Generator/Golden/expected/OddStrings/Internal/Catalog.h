@@ -1,5 +1,5 @@
-// Made from the resources of the module Odd; do not edit.
-// What the sources of the tree share; internal.
+// Generated from the resources of the module Odd; do not edit.
+// Shared by the sources of the tree; internal.
 #pragma once
 
 #include "Foundation/FormatArgument.h"
@@ -13,24 +13,24 @@
 
 namespace Odd::OddStrings {
 
-// The text of `key`, in the user's language, its placeholders replaced by `arguments`. The only way from the tree to
-// the bundle. Throws when the system is out of memory or descriptors.
+// The text of `key` in the user's language, formatted with `arguments`. All accessors get their texts from here. Throws
+// when memory or descriptors run out.
 std::string tr(const ::Foundation::LocalizedKey& key, std::span<const ::Foundation::FormatArgument> arguments);
 
 namespace detail {
 
-// Of a text that could not be made.
+// The empty text, for errors.
 const std::string& noText() noexcept;
 
-// Where the names of tables and the keys are among the characters of a source. There are no pointers here, so nothing
-// has to be relocated when the library is loaded.
+// The offsets of table names and keys in the characters of their source file. Offsets instead of pointers need no
+// relocation when the library is loaded.
 struct Table {
     std::uint32_t name;
     std::uint32_t size; // of the name
     std::uint64_t hash;
 };
 struct Place {
-    std::uint32_t table; // its number
+    std::uint32_t table; // its index
     std::uint32_t key;   // ends where the next key begins
     std::uint64_t hash;  // of the key
 };
