@@ -87,7 +87,7 @@ TEST(Catalog, FindsEachOfManyAssets) {
     std::vector<Asset> assets;
     for (int i = 0; i < 5000; ++i)
         assets.push_back({.kind = Kind::color, .catalog = "C", .name = std::to_string(i * 7919), .colors = {{}}});
-    const Walk::Exact bytes(build(assets)->bytes());
+    const Walk::ExactAllocation bytes(build(assets)->bytes());
     auto catalog = Catalog::read(bytes.span());
     ASSERT_TRUE(catalog);
     std::set<std::size_t> found;
@@ -109,7 +109,7 @@ TEST(Catalog, SameAssetsGiveTheSameBytes) {
     assets[0].pictures.push_back({.fit = {}, .width = 9, .height = 9, .points = {9, 9}, .bytes = shared("7")});
     EXPECT_EQ(build(assets)->bytes(), bytes);
 
-    EXPECT_EQ(Catalog::read(Walk::Exact(build({})->bytes()).span())->size(), 0U);
+    EXPECT_EQ(Catalog::read(Walk::ExactAllocation(build({})->bytes()).span())->size(), 0U);
 }
 
 TEST(Catalog, BuilderRejectsWhatReadersReject) {
@@ -122,13 +122,13 @@ TEST(Catalog, BuilderRejectsWhatReadersReject) {
         {__LINE__, [](auto& assets) { assets[1].name = "send"; }, "two assets of one kind are named \"send\""},
         {__LINE__, [](auto& assets) { assets[1].name = ""; }, "\"\" has an empty or too long name"},
         {__LINE__, [](auto& assets) { assets[1].pictures.clear(); }, "\"folder/star_\" has no variants or too many"},
-        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = 0; }, "picture without pixels"},
-        {__LINE__, [](auto& assets) { assets[1].pictures[0].bytes = shared(""); }, "picture without pixels"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = 0; }, "picture with no pixels"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].bytes = shared(""); }, "picture with no pixels"},
         {__LINE__, [](auto& assets) { assets[1].pictures[0].points.height = 0; }, "invalid size in points"},
         {__LINE__, [](auto& assets) { assets[1].pictures[0].capInsets.left = HUGE_VAL; }, "invalid insets"},
         {__LINE__, [](auto& assets) { assets[1].catalog.resize(256); }, "in a catalog whose name is too long"},
         {__LINE__, [](auto& assets) { assets[3].data[0].typeIdentifier.resize(256); }, "type identifier is too long"},
-        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = (1U << 26) + 1; }, "or with too many"},
+        {__LINE__, [](auto& assets) { assets[1].pictures[0].width = (1U << 26) + 1; }, "no pixels or too many"},
         {__LINE__, [](auto& assets) { assets[1].rendering = Rendering{3}; }, "unknown rendering mode"},
         {__LINE__, [](auto& assets) { assets[2].colors[0].fit.direction = Direction{3}; },
          "invalid traits or language"},

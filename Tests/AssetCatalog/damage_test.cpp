@@ -13,7 +13,7 @@ using namespace AssetCatalog;
 
 // Whether `bytes` are a valid catalog, which is then read.
 bool isSound(const std::string& bytes) {
-    const Walk::Exact exact(bytes);
+    const Walk::ExactAllocation exact(bytes);
     const auto catalog = Catalog::read(exact.span());
     return catalog && Walk::everything(*catalog) != 0;
 }
@@ -59,7 +59,7 @@ TEST(DamagedCatalog, OtherVersionIsNamed) {
     ASSERT_NE(place, std::string::npos);
     ASSERT_EQ(bytes.find(std::string("\2\0\0\0", 4), place + 1), std::string::npos);
     bytes[place] = 1;
-    EXPECT_EQ(Catalog::read(Walk::Exact(bytes).span()).error().message,
+    EXPECT_EQ(Catalog::read(Walk::ExactAllocation(bytes).span()).error().message,
               "is a catalog of version 1; this program reads version 2");
 }
 
@@ -88,7 +88,7 @@ TEST(DamagedCatalog, SharedPartsAreBounded) {
         Format::CreateCatalog(buffer, Format::version, 0, buffer.CreateVector(hashes), buffer.CreateVector(assets)));
     std::string bytes(reinterpret_cast<const char*>(buffer.GetBufferPointer()), buffer.GetSize());
     bytes.resize(Format::aligned(bytes.size()));
-    EXPECT_EQ(Catalog::read(Walk::Exact(bytes).span()).error().message,
+    EXPECT_EQ(Catalog::read(Walk::ExactAllocation(bytes).span()).error().message,
               "is a damaged catalog: its index is damaged or of another version");
 }
 
