@@ -38,7 +38,7 @@ private:
                 continue;
             out_ += text.substr(done, piece->placeholder.begin - done);
             done = piece->placeholder.end;
-            if (out_.size() >= maxOtherText || depth == maxDepth || variables_ == mostVariables)
+            if (out_.size() >= maxOtherText || depth == maxDepth || variables_ == maxVariables)
                 return;
             ++variables_;
             const std::string_view form = otherForm(*piece->variable);
@@ -48,9 +48,9 @@ private:
         out_ += text.substr(done);
     }
 
-    // Variables may name each other, and each several times.
+    // Variables may refer to each other repeatedly.
     static constexpr int maxDepth = 16;
-    static constexpr std::size_t mostVariables = 256;
+    static constexpr std::size_t maxVariables = 256;
 
     const PluralFormat& plural_;
     std::string out_;
@@ -61,7 +61,7 @@ std::string positionText(std::size_t argument) {
     return argument == 0 ? "" : std::to_string(argument) + "$";
 }
 
-// The text with a position at every placeholder. One with a "*" stays as it is: it has several.
+// The text with a position at every placeholder. Placeholders with a "*" are not changed, because they have several.
 std::string withPositions(const std::string& text) {
     std::string out;
     ArgumentCounter counter;

@@ -46,8 +46,8 @@ struct Localized {
     PluralForms forms;
     std::vector<Substitution> substitutions;
     State state = State::translated;
-    bool hasTooManySubstitutions = false; // further ones are left out
-    bool hasDevices = false;              // for which there were other texts
+    bool hasTooManySubstitutions = false; // the rest is ignored
+    bool hasDevices = false;              // texts for other devices were ignored
 
     bool hasForms() const {
         return std::ranges::any_of(forms, [](const auto& form) { return form.has_value(); });
