@@ -4,6 +4,7 @@
 #include "Foundation/internal/HostState.h"
 #include "Foundation/internal/SharedText.h"
 #include "Runtime/internal/ForkLock.h"
+#include "Runtime/internal/StartData.h"
 #include <algorithm>
 #include <cstdlib>
 #include <initializer_list>
@@ -17,8 +18,9 @@ namespace {
 constexpr std::string_view plainLocale = "en_US"; // when the environment says nothing, or "C"
 constexpr char separator = '\0';                  // cannot be part of a language tag
 
-constinit SharedText<Host::longestLanguages> languages; // most preferred first
-constinit SharedText<Host::longestLocale> locale;
+// The languages come last because they are long and would move the locale to another page.
+LUMORA_START_DATA constinit SharedText<Host::longestLocale> locale;
+LUMORA_START_DATA constinit SharedText<Host::longestLanguages> languages; // most preferred first
 constinit Runtime::ForkLock changing; // guards writes to both; readers always see a consistent text
 
 // Held by setters. An interrupted write of a parent process needs no repair: readers still see the text before it.

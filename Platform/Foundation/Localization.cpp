@@ -34,8 +34,9 @@ template <class Table> std::optional<std::string> damageOf(const std::string& pa
 
 } // namespace
 
-Localization::Localization(std::string_view name, std::string directory, std::string_view language, bool mayHavePlurals)
-    : name_(name), directory_(std::move(directory)), language_(language), mayHavePlurals_(mayHavePlurals) {}
+Localization::Localization(std::string_view name, std::string_view bundle, std::string_view language,
+                           bool mayHavePlurals)
+    : name_(name), bundle_(bundle), language_(language), mayHavePlurals_(mayHavePlurals) {}
 
 // Reads a table that is not known and keeps it. A missing table is kept as an empty one while there is room; after that
 // the result is null.
@@ -47,20 +48,25 @@ LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
     std::string texts = pathOf(name, layout::textsSuffix);
     const std::string plurals = mayHavePlurals_ ? pathOf(name, layout::pluralsSuffix) : std::string();
     const bool exists = ::access(texts.c_str(), F_OK) == 0 || (mayHavePlurals_ && ::access(plurals.c_str(), F_OK) == 0);
-    return tables_.add(exists ? tables_.unlimited : mostMissing, name, std::move(texts), bundle().size(),
-                       mayHavePlurals_ ? readPlurals(plurals, bundle()) : StringTables::PluralTable());
+    return tables_.add(exists ? tables_.unlimited : mostMissing, name, std::move(texts), bundle_.size(),
+                       mayHavePlurals_ ? readPlurals(plurals, bundle_) : StringTables::PluralTable());
 }
 
 std::optional<std::string> Localization::damage(std::string_view table) const {
     if (!layout::isFileName(table))
         return std::nullopt;
-    if (auto damaged = damageOf<StringTables::Table>(pathOf(table, layout::textsSuffix), bundle()))
+    if (auto damaged = damageOf<StringTables::Table>(pathOf(table, layout::textsSuffix), bundle_))
         return damaged;
-    return damageOf<StringTables::PluralTable>(pathOf(table, layout::pluralsSuffix), bundle());
+    return damageOf<StringTables::PluralTable>(pathOf(table, layout::pluralsSuffix), bundle_);
 }
 
 std::string Localization::pathOf(std::string_view table, std::string_view suffix) const {
-    return std::string(directory_).append("/").append(table).append(suffix);
+    return std::string(bundle_)
+        .append("/")
+        .append(layout::folderOfLanguage(name_))
+        .append("/")
+        .append(table)
+        .append(suffix);
 }
 
 } // namespace Foundation::detail

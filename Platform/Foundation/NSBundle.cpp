@@ -9,14 +9,15 @@
 #include "Runtime/internal/Hash.h"
 #include "Runtime/internal/KeyedStore.h"
 #include "Runtime/internal/OpenFile.h"
+#include "Runtime/internal/StartData.h"
 #include "Runtime/internal/TransientError.h"
 #include "StringTables/internal/BundleLayout.h"
 #include <algorithm>
 #include <array>
 #include <atomic>
 #include <deque>
-#include <filesystem>
 #include <memory>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Foundation {
@@ -32,6 +33,11 @@ using Chain = std::array<detail::Localization*, layout::lookupOrder({}, {}).size
 
 bool isEmptyOrFileName(std::string_view name) noexcept {
     return name.empty() || layout::isFileName(name);
+}
+
+bool isDirectory(const std::string& path) noexcept {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
 // "lumora-1" for liblumora.so.1.0.0: the library's own folder, so that several versions can be installed together.
@@ -54,7 +60,7 @@ struct NSBundle::Contents {
         : bundle(*this), path(std::move(bundlePath)), developmentLocalization(found.developmentLanguage) {
         for (const std::string& name : found.languages) {
             const std::string& language = name == layout::baseName ? developmentLocalization : name;
-            folders.emplace_back(name, path + "/" + layout::folderOfLanguage(name), language, found.mayHavePlurals);
+            folders.emplace_back(name, path, language, found.mayHavePlurals);
             localizations.push_back(language);
         }
         std::ranges::sort(localizations);
@@ -141,7 +147,7 @@ LocalizedKey LocalizedKey::of(std::string_view table, std::string_view key) noex
 }
 
 const NSBundle& NSBundle::bundleWithPath(const std::string& path) {
-    static constinit Runtime::KeyedStore<Contents> opened;
+    LUMORA_START_DATA static constinit Runtime::KeyedStore<Contents, 16> opened;
     const Contents* const known = opened.find(path);
     return (known != nullptr ? known : opened.add(opened.unlimited, path, path))->bundle;
 }
@@ -152,8 +158,7 @@ const NSBundle& NSBundle::bundleForCode(const void* code, std::string_view name)
         return mainBundle();
     const std::string bundle = "/" + std::string(name) + ".bundle";
     const std::string versioned = location.directory + "/" + versionedFolder(location.name) + bundle;
-    std::error_code failed;
-    return bundleWithPath(std::filesystem::is_directory(versioned, failed) ? versioned : location.directory + bundle);
+    return bundleWithPath(isDirectory(versioned) ? versioned : location.directory + bundle);
 }
 
 const NSBundle& NSBundle::mainBundle() {

@@ -140,7 +140,8 @@ struct BundleFinder {
     static constexpr char code = 0;
 };
 
-constinit ::Runtime::OnceSlot<const ::Foundation::NSBundle*> found;
+// Among initialized data: the dynamic linker has written to that page, and one of zeroed memory would cost page faults.
+[[gnu::section(".data.start")]] constinit ::Runtime::OnceSlot<const ::Foundation::NSBundle*> found;
 
 const ::Foundation::NSBundle* publishedBundle() {
     return &{{module}}Resources::bundle();

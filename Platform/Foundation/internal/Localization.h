@@ -13,8 +13,9 @@ namespace Foundation::detail {
 
 class Localization {
 public:
-    // `name`: "Base" or a language; `directory`: the path of the folder, which is in the bundle; `language`: the BCP 47 tag of its texts.
-    Localization(std::string_view name, std::string directory, std::string_view language, bool mayHavePlurals);
+    // `name`: "Base" or a language; `bundle`: the bundle's path, which outlives this; `language`: the BCP 47 tag of its
+    // texts.
+    Localization(std::string_view name, std::string_view bundle, std::string_view language, bool mayHavePlurals);
 
     std::string_view name() const noexcept { return name_; }
 
@@ -32,11 +33,10 @@ public:
 
 private:
     LocalizedTable* knownOrLoaded(std::string_view name);
-    std::string_view bundle() const noexcept { return std::string_view(directory_).substr(0, directory_.rfind('/')); }
     std::string pathOf(std::string_view table, std::string_view suffix) const;
 
     std::string name_;
-    std::string directory_;
+    std::string_view bundle_; // its path
     std::string language_;
     bool mayHavePlurals_;
     // All existing tables, and missing ones until there are mostMissing tables: a program may ask for any number of

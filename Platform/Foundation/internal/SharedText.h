@@ -56,7 +56,7 @@ public:
     Read read() const {
         for (;;) {
             Read now{version(), {}};
-            now.text = buffers_[now.version % 2].read();
+            now.text = buffers_[bufferOf(now.version)].read();
             std::atomic_thread_fence(std::memory_order_acquire);
             // The buffer is reused only after the next version was published.
             if (version_.load(std::memory_order_relaxed) == now.version)
@@ -69,11 +69,14 @@ public:
     void write(std::string_view text) noexcept {
         const std::uint64_t next = version_.load(std::memory_order_relaxed) + 1;
         std::atomic_thread_fence(std::memory_order_release);
-        buffers_[next % 2].write(text);
+        buffers_[bufferOf(next)].write(text);
         version_.store(next, std::memory_order_release);
     }
 
 private:
+    // The first text is in the buffer beside the version: most processes touch no other.
+    static constexpr std::size_t bufferOf(std::uint64_t version) noexcept { return (version - 1) % 2; }
+
     std::atomic<std::uint64_t> version_{0};
     std::array<TextBuffer<longest>, 2> buffers_{};
 };
