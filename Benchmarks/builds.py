@@ -1,0 +1,69 @@
+"""Times what developers wait for: compiling the generated source, a source that includes the tree, a bundle after a change.
+Processor time, medians of RUNS runs."""
+import os
+import pathlib
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+
+ROOT = pathlib.Path(__file__).parent.parent
+RUNS = 5
+
+
+def seconds(*command):
+    child = subprocess.Popen(command, stdout=subprocess.DEVNULL)
+    _, status, used = os.wait4(child.pid, 0)
+    child.returncode = os.waitstatus_to_exitcode(status)
+    if child.returncode != 0:
+        sys.exit(f"{' '.join(map(str, command))} failed")
+    return used.ru_utime + used.ru_stime
+
+
+def median(*command, before=lambda run: None):
+    times = []
+    for run in range(RUNS):
+        before(run)
+        times.append(seconds(*command))
+    return statistics.median(times)
+
+
+def compiled_accessors(lumora, folder):
+    includes = [f"-I{folder}", f"-I{ROOT}", f"-I{ROOT}/Platform"]
+    subprocess.run([lumora, "generate", ROOT / "Resources", "--module", "Lumora", "-o", folder / "Lumora", "--shards", "1",
+                    "--include", "Lumora/LumoraStrings+Members.h"], check=True, stdout=subprocess.DEVNULL)
+    compiler = ["c++", "-std=c++20", *includes, "-o", folder / "object.o", "-c"]
+    source = folder / "Lumora/LumoraStrings-1.cpp"
+    whole = median(*compiler, "-O2", "-fvisibility=hidden", source)
+    user = folder / "user.cpp"
+    with_header = {}
+    for header in ("Lumora/LumoraStrings.h", "string"):
+        user.write_text(f"#include <{header}>\nstd::string user() {{ return std::string(); }}\n", encoding="utf-8")
+        with_header[header] = median(*compiler, user)
+    return whole, with_header["Lumora/LumoraStrings.h"] - with_header["string"]
+
+
+def bundle_after_a_change(lumora, folder):
+    source, bundle = folder / "Resources", folder / "Test.bundle"
+    shutil.copytree(ROOT / "Resources", source)
+    table = source / "Base.lproj/Localizable.strings"
+    text = table.read_text(encoding="utf-8")
+    command = (lumora, "compile", source, "-o", bundle)
+    seconds(*command)
+
+    def change(run):
+        table.write_text(text + f'\n"benchmark.changed" = "changed {run}";\n', encoding="utf-8")
+
+    time = median(*command, before=change)
+    read = subprocess.run([lumora, "table", bundle / "Base.lproj/Localizable.strings", "--to", "json"], capture_output=True,
+                          text=True, check=True).stdout
+    if f"changed {RUNS - 1}" not in read:
+        sys.exit("the compiled bundle does not have the changed text")
+    return time
+
+
+def measured(lumora):
+    """Seconds: all accessors compiled, what the tree adds to <string>, a bundle compiled after one text changed."""
+    with tempfile.TemporaryDirectory() as folder:
+        return *compiled_accessors(lumora, pathlib.Path(folder)), bundle_after_a_change(lumora, pathlib.Path(folder))
