@@ -2,5 +2,5 @@
 
 #include <cstddef>
 
-// Reads every text of the tree once. What they hold together, and how many there are.
+// Reads every text of the tree once. Returns their total size and sets `count` to their number.
 std::size_t readAllTexts(int& count);

@@ -1,5 +1,5 @@
 // Benchmarks/border.h
-// A function-local static behind a library border.
+// A function-local static in another library.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// How much the memory of a process grows when it reads all texts: all that is resident, and what is its own and not a
-// page of a file that processes share.
+// How much the memory of a process grows when it reads all texts: the resident memory, and the part of it that is
+// private to the process.
 #include "all_texts.h"
 #include <Foundation/Host.h>
 
@@ -9,7 +9,7 @@
 
 namespace {
 
-// A line of what the kernel knows of this process's memory, in KiB.
+// The value of a line in the kernel's report about this process's memory, in KiB.
 long kilobytes(const std::string& line) {
     std::ifstream file("/proc/self/smaps_rollup");
     for (std::string word; file >> word;)

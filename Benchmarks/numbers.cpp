@@ -1,4 +1,4 @@
-// Number and year texts beside ICU's own formatters, kept and made afresh.
+// Number and year texts compared with ICU's formatters, which are either kept or created for each text.
 #include <Lumora/Lumora.h>
 
 #include <benchmark/benchmark.h>
@@ -29,7 +29,7 @@ icu::number::LocalizedNumberFormatter madeForNumbers() {
     return icu::number::NumberFormatter::withLocale("de_DE").precision(icu::number::Precision::maxFraction(3));
 }
 
-// Times what makes a text of a number, after a look at the text of the first.
+// Times `make`, which makes the text of a number, after checking its first result.
 template <class Number, class Make>
 void timed(benchmark::State& state, Number first, Number last, const char* expected, Make make) {
     if (make(first) != expected) {

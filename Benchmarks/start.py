@@ -9,7 +9,7 @@ import sys
 RUNS = 400
 PROGRAMS = {"start-empty": "Continue\n", "start-loaded": "Continue\n"} | {
     f"start-{name}": "Продолжить\n" for name in ("text", "gettext", "icu", "qt", "boost")}
-# A language of gettext's needs a locale that the machine has; ours is asked for by the same names.
+# gettext needs a locale that is installed; the same names are used for our program.
 ENVIRONMENT = {"start-gettext": {"LC_ALL": "C.UTF-8", "LANGUAGE": "ru"}}
 
 
@@ -25,7 +25,7 @@ def run(folder, program):
 
 
 def medians(folder):
-    """Milliseconds of each program; each first says what it must."""
+    """The milliseconds of each program, after checking its output."""
     for program, text in PROGRAMS.items():
         said = subprocess.run([f"{folder}/{program}"], env=environment(program), capture_output=True, text=True, check=True).stdout
         if said != text:

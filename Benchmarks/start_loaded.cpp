@@ -1,4 +1,4 @@
-// The library is loaded, nothing of it used: what a first text cannot be cheaper than.
+// The library is loaded but not used: the minimum time for a first text.
 #include <Foundation/Host.h>
 
 #include <iostream>

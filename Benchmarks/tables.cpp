@@ -27,7 +27,7 @@ void readTable(benchmark::State& state, const std::string& bytes) {
         return;
     }
     for (auto _ : state) {
-        state.PauseTiming(); // the bytes are the reader's own
+        state.PauseTiming(); // the reader takes the bytes
         std::string copy = bytes;
         state.ResumeTiming();
         benchmark::DoNotOptimize(Table::read(std::move(copy)));
@@ -46,7 +46,7 @@ void tableFromBinary(benchmark::State& state) {
 }
 BENCHMARK(tableFromBinary);
 
-// A compiled table as a bundle has it: of the Russian texts, which are UTF-16 in the file.
+// A compiled table as in a bundle: the Russian texts, which are UTF-16 in the file.
 std::vector<std::string> compiledKeys(const std::string& path) {
     const auto table = Table::readFile(LUMORA_RESOURCES "/ru.lproj/Localizable.strings");
     (void)Runtime::writeFile(path, *StringTables::writeCompiled(table->entries()));
@@ -81,7 +81,7 @@ void compiledAllTexts(benchmark::State& state) {
 }
 BENCHMARK(compiledAllTexts);
 
-// What a plain binary table costs.
+// The cost of a plain binary table.
 void binaryAllTexts(benchmark::State& state) {
     const std::vector<std::string> keys = compiledKeys(compiledPath);
     const auto read = Table::readFile(compiledPath);
@@ -109,7 +109,7 @@ void compiledLookUp(benchmark::State& state) {
 }
 BENCHMARK(compiledLookUp);
 
-// What the machine allows: the file read, and its bytes looked at once.
+// The machine's limit: the file is read and its bytes are scanned once.
 void readAndMemchr(benchmark::State& state) {
     const std::string bytes = textForm();
     for (auto _ : state) {

@@ -1,4 +1,4 @@
-// Reading texts: a plain one beside a function-local static, a formatted one beside a map and fmt.
+// Reading texts: a plain one compared with a function-local static, a formatted one compared with a map and fmt.
 #include "StringTables/internal/Table.h"
 #include "border.h"
 #include <Lumora/Lumora.h>
@@ -12,14 +12,14 @@ namespace {
 
 namespace Texts = Lumora::LumoraStrings::Localizable;
 
-// What a benchmark times it first checks.
+// Every benchmark checks its result before it is timed.
 bool agrees(benchmark::State& state, bool holds) {
     if (!holds)
         state.SkipWithError("the result is wrong");
     return holds;
 }
 
-// The application's own texts, the placeholder of the one that is formatted as fmt has it.
+// The application's texts; the formatted one has a placeholder for fmt.
 std::unordered_map<std::string, std::string> developmentTexts() {
     std::unordered_map<std::string, std::string> texts;
     const auto table = StringTables::Table::readFile(LUMORA_RESOURCES "/Base.lproj/Localizable.strings");
@@ -40,7 +40,7 @@ void plainMap(benchmark::State& state) {
 }
 BENCHMARK(plainMap);
 
-// The text that all sides format, for one day after the other.
+// The text that all libraries format, for different days.
 template <class Make> void formatted(benchmark::State& state, Make make) {
     if (!agrees(state, make(7).find("until 7.") != std::string::npos))
         return;

@@ -1,4 +1,4 @@
-// A screenful of the application's texts in all its languages, a page of its localization services, and one of its
+// Shows some of the application's texts in all its languages, a page of its localization services, and one of its
 // assets.
 #include "demo_assets.h"
 
@@ -17,7 +17,7 @@ using Corvane::LocalizationCode;
 using Foundation::Host::setCurrentLocale;
 using Foundation::Host::setPreferredLanguages;
 
-// How many columns of a terminal a text takes: East Asian letters two, combining marks none.
+// The width of a text in a terminal: East Asian letters take two columns, combining marks none.
 int columns(const std::string& text) {
     int count = 0;
     for (std::size_t i = 0; i < text.size();) {
@@ -60,8 +60,8 @@ void servicesPage() {
     std::printf("\n");
 }
 
-// One line of a page for each language. A plain text keeps the language of its first read, as it does in the
-// application, so each line is printed by a process of its own.
+// Prints one line for each language. A plain text keeps the language of its first read, so each line is printed by a
+// separate process.
 void page(const char* title, void (*line)(), const char* locale) {
     std::printf("\n%s\n", title);
     for (const LocalizationCode code : LocalizationCode::allCases()) {

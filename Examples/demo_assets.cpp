@@ -15,15 +15,15 @@ using UIKit::RGBA;
 
 constexpr const char* regions[] = {"arab", "asia", "europe", "latina", "usa"};
 
-// Pictures side by side, in rows: RGBA, four bytes a pixel, on white.
+// Pictures side by side, in rows, on white: RGBA, four bytes per pixel.
 class Sheet {
 public:
-    static constexpr unsigned cell = 240; // the width and height that a picture may take
+    static constexpr unsigned cell = 240; // the maximum width and height of a picture
 
     Sheet(unsigned columns, unsigned rows)
         : width_(columns * cell), height_(rows * cell), pixels_(std::size_t{4} * width_ * height_, 0xFF) {}
 
-    // Draws the picture into a cell, made smaller where it does not fit.
+    // Draws the picture into a cell, shrunk if it is too large.
     void draw(const Pictures::Bitmap& picture, unsigned column, unsigned row) {
         const double shrink = std::max({1.0, picture.width / (cell - 20.0), picture.height / (cell - 20.0)});
         const auto width = static_cast<unsigned>(picture.width / shrink);
@@ -62,7 +62,7 @@ int byte(double component) {
     return static_cast<int>(std::lround(std::clamp(component, 0.0, 1.0) * 255));
 }
 
-// A block of the colour on a terminal, its hexadecimal notation elsewhere.
+// Prints a block of the colour on a terminal, otherwise its hexadecimal notation.
 void show(const RGBA& color) {
     const int red = byte(color.red);
     const int green = byte(color.green);

@@ -2,5 +2,5 @@
 #pragma once
 
 // Shows the progress colours and the pictures chosen for each region, and writes the pictures into one PNG at `file`.
-// False when the file cannot be written.
+// Returns false if the file cannot be written.
 bool showAssets(const char* file);

@@ -1,4 +1,4 @@
-"""Runs fuzzers, two at a time, each for so many seconds of processor time: run.py FOLDER SECONDS [NAME...].
+"""Runs fuzzers, two at a time, each for SECONDS of processor time: run.py FOLDER SECONDS [NAME...].
 
 FOLDER holds the programs. What a fuzzer adds to its corpus stays in FOLDER/fuzzing/NAME, as do its log and its finding,
 which ends that fuzzer and fails the run.
@@ -33,7 +33,7 @@ class Fuzzer:
         with open(self.log, "wb") as log:
             self.child = subprocess.Popen(command, stdout=log, stderr=log, env=os.environ | {"TMPDIR": str(self.scratch)})
 
-    # Whether it still runs. It is asked to end when its time is over.
+    # Whether it still runs. Sends it a signal to end when its time is over.
     def runs(self):
         if self.child.poll() is not None:
             return False

@@ -1,4 +1,4 @@
-# How every part of the project is built: one language level, one set of warnings, hidden visibility, and one function per
+# Settings for all parts of the project: language standard, warnings, hidden visibility, and one function for each
 # kind of target.
 
 set(CMAKE_CXX_STANDARD 20)
@@ -22,14 +22,14 @@ if(PROJECT_IS_TOP_LEVEL)
     endif()
 endif()
 
-# The libraries, their plug-ins and bundles are together in the build tree as they are when installed. Run paths relative to
-# the files make two builds in different folders equal.
+# In the build tree, the libraries, their plug-ins and bundles are in one folder, like installed ones. Run paths are
+# relative, so that builds in different folders are identical.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
-# Two versions of the platform can be installed together.
+# The version is part of the name, so two versions of the platform can be installed together.
 set(LUMORA_PLUGIN_FOLDER lumora-platform-${PROJECT_VERSION_MAJOR})
-set(LUMORA_ICU_VERSION 72) # the least that the build accepts
+set(LUMORA_ICU_VERSION 72) # the minimum version
 
 include(CheckLinkerFlag)
 check_linker_flag(CXX -Wl,-z,pack-relative-relocs LUMORA_HAS_PACKED_RELOCATIONS)
@@ -38,11 +38,11 @@ check_linker_flag(CXX -Wl,-z,noseparate-code LUMORA_HAS_NOSEPARATE_CODE)
 add_library(lumora-build-rules INTERFACE)
 target_compile_options(lumora-build-rules INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow
                        $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor>)
-# Not -O3: a seventh less code, all of it as fast or faster, and fewer pages to load at a process's start.
+# Not -O3: the code is a seventh smaller and at least as fast, and fewer pages are loaded at the start of a process.
 target_compile_options(lumora-build-rules INTERFACE $<$<CONFIG:Release>:-O2>)
-# Paths of the machine that builds do not get into what it builds.
+# Keeps paths of the build machine out of the binaries.
 target_compile_options(lumora-build-rules INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
-if(LUMORA_FUZZERS) # libraries too: what is not instrumented guides no fuzzer
+if(LUMORA_FUZZERS) # libraries, too, because fuzzers are guided by instrumented code
     target_compile_options(lumora-build-rules INTERFACE -fsanitize=fuzzer-no-link)
     target_link_options(lumora-build-rules INTERFACE -fsanitize=fuzzer-no-link)
 endif()
@@ -53,7 +53,7 @@ if(LUMORA_SANITIZE)
 endif()
 
 # lumora_real_targets(out items...)
-# Sets `out` to the items with every alias replaced by its target, so that the linker meets each library once.
+# Sets `out` to the items with every alias replaced by its target, so that each library is linked once.
 function(lumora_real_targets out)
     set(real "")
     foreach(item IN LISTS ARGN)
@@ -69,8 +69,8 @@ function(lumora_real_targets out)
 endfunction()
 
 # lumora_library(Name SOURCES a.cpp b.cpp LINK Lumora::Other ... [PRIVATE_LINK ...])
-# One folder, one static library of position-independent code: the target lumora-Name, linked as Lumora::Name. Its headers
-# are included as "Name/Header.h". LINK names what its folder may include.
+# One folder, one static library of position-independent code: the target lumora-Name, linked as Lumora::Name. Its
+# headers are included as "Name/Header.h". LINK has the libraries whose headers it may include.
 function(lumora_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;PRIVATE_LINK")
     add_library(lumora-${name} STATIC ${arg_SOURCES})
@@ -82,8 +82,8 @@ function(lumora_library name)
 endfunction()
 
 # lumora_plugin(name SOURCES ... LINK ...)
-# A library that the platform opens itself when its service is first needed: NAME.so in LUMORA_PLUGIN_FOLDER beside it. It exports what
-# the linker script NAME.map names.
+# A library that the platform loads when its service is first needed: NAME.so in LUMORA_PLUGIN_FOLDER beside it. It
+# exports the symbols in the linker script NAME.map.
 function(lumora_plugin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
     set(map ${CMAKE_CURRENT_SOURCE_DIR}/${name}.map)
@@ -91,18 +91,18 @@ function(lumora_plugin name)
     cmake_path(GET CMAKE_CURRENT_SOURCE_DIR PARENT_PATH above)
     target_include_directories(${name} PRIVATE ${above})
     target_link_libraries(${name} PRIVATE ${arg_LINK} lumora-build-rules)
-    # Hidden visibility leaves the templates of the standard library visible; the script hides them, too.
+    # The templates of the standard library remain visible despite hidden visibility; the script hides them, too.
     target_link_options(${name} PRIVATE -Wl,--version-script=${map})
     set_target_properties(${name} PROPERTIES PREFIX "" LINK_DEPENDS ${map}
                           LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${LUMORA_PLUGIN_FOLDER})
 endfunction()
 
 # lumora_shared_library(target map)
-# What both shared libraries have in common: a soname, and only the names in the linker script `map` visible.
+# The common settings of both shared libraries: a soname, and only the symbols in the linker script `map` are visible.
 function(lumora_shared_library target map)
     set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINK_DEPENDS ${map})
     target_compile_features(${target} PUBLIC cxx_std_20)
-    # Never unmapped: views and texts that were read once stay valid. Its functions call each other directly.
+    # Never unloaded, so that texts and views remain valid. Its functions call each other directly.
     target_link_options(${target} PRIVATE -Wl,-z,nodelete -Wl,-Bsymbolic -Wl,--as-needed -Wl,--version-script=${map})
     if(LUMORA_HAS_PACKED_RELOCATIONS)
         target_link_options(${target} PRIVATE -Wl,-z,pack-relative-relocs)
@@ -117,7 +117,7 @@ function(lumora_shared_library target map)
 endfunction()
 
 # lumora_test(name SOURCES ... LINK ... [LABELS ...])
-# A GoogleTest program whose cases are registered one by one; a program without a case fails.
+# A GoogleTest program; without test cases it fails.
 function(lumora_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;LABELS")
     add_executable(${name} ${arg_SOURCES})

@@ -1,5 +1,5 @@
-# What is installed, and the packages that other builds find: CMake's, with the components Platform, Module and Tools, and
-# pkg-config's.
+# Installation, and the packages for other builds: for CMake, with the components Platform, Module and Tools, and for
+# pkg-config.
 include(CMakePackageConfigHelpers)
 
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/Lumora)
@@ -14,7 +14,7 @@ install(EXPORT LumoraModule NAMESPACE Lumora:: DESTINATION ${package} COMPONENT 
 if(LUMORA_TOOLS)
     install(TARGETS lumora-program EXPORT LumoraTools RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
     set(help ${PROJECT_BINARY_DIR}/Tools/Program/help)
-    if(LUMORA_PACKAGES) # Debian's folder, and its rule for man pages
+    if(LUMORA_PACKAGES) # Debian's folder, and man pages compressed as Debian requires
         set(zshFunctions vendor-completions)
         install(CODE "execute_process(COMMAND gzip -9nkf ${help}/lumora.man COMMAND_ERROR_IS_FATAL ANY)" COMPONENT tools)
         install(FILES ${help}/lumora.man.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 RENAME lumora.1.gz COMPONENT tools)
@@ -34,7 +34,7 @@ write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/LumoraConfigVersion
 install(FILES cmake/LumoraConfig.cmake cmake/LumoraModuleFunctions.cmake ${CMAKE_CURRENT_BINARY_DIR}/LumoraConfigVersion.cmake
     DESTINATION ${package} COMPONENT development)
 
-# From the folder of the .pc files to the prefix, so that an installed tree can be moved.
+# The path from the folder of the .pc files to the prefix, so that an installed tree can be moved.
 cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_LIBDIR BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX} NORMALIZE OUTPUT_VARIABLE libdir)
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${libdir}/pkgconfig OUTPUT_VARIABLE LUMORA_PC_PREFIX)
 set(LUMORA_PC_LIBDIR ${CMAKE_INSTALL_LIBDIR})
@@ -49,7 +49,7 @@ foreach(name lumora lumora-platform)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endforeach()
 
-if(NOT LUMORA_PACKAGES) # a Debian package has them in a folder of its own
+if(NOT LUMORA_PACKAGES) # a Debian package has them in another folder
     foreach(component runtime development tools)
         install(FILES LICENSE THIRD-PARTY.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT ${component})
     endforeach()

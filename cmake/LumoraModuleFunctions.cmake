@@ -1,9 +1,9 @@
-# Modules of resources: lumora_add_module makes one from folders of resources, lumora_install_module installs it. Both work in
-# this source tree and, through find_package(Lumora), in any project.
+# Modules of resources: lumora_add_module makes one from folders of resources, lumora_install_module installs it. Both
+# work in this source tree and, with find_package(Lumora), in any project.
 #
-# The program that generates and compiles is Lumora::lumora; a cross build sets LUMORA_PROGRAM to one of the build machine.
+# They run the program Lumora::lumora; in a cross build, set LUMORA_PROGRAM to one for the build machine.
 
-# Sets `out` to what custom commands run.
+# Sets `out` to the program for custom commands.
 function(_lumora_program out)
     if(LUMORA_PROGRAM)
         set(${out} ${LUMORA_PROGRAM} PARENT_SCOPE)
@@ -15,8 +15,8 @@ function(_lumora_program out)
 endfunction()
 
 # _lumora_run(STAMP file COMMENT text ARGUMENTS argument...)
-# Runs the program when a file or folder that it read last time has changed. It leaves files that have their content already
-# untouched, so the stamp is what always gets a new time.
+# Runs the program if a file or folder that it read last time has changed. It does not write unchanged files, so STAMP
+# is touched after every run.
 function(_lumora_run)
     cmake_parse_arguments(PARSE_ARGV 0 arg "" "STAMP;COMMENT" "ARGUMENTS;BYPRODUCTS")
     _lumora_program(program)
@@ -33,14 +33,14 @@ endfunction()
 
 # lumora_add_module(Name SOURCES folder... [NAMES_FILE file] [DEVELOPMENT_LANGUAGE code] [STRICT]
 #                   [INCLUDE header...] [HEADERS header...] [SHARDS n])
-# Makes the shared library target `Name` with the headers <Name/Name.h>, <Name/NameStrings.h> and <Name/NameAsset.h> in the
-# namespace `Name`, and Name.bundle beside the library file. Building a target that links it builds the bundle, too.
+# Makes the shared library target `Name` with the headers <Name/Name.h>, <Name/NameStrings.h> and <Name/NameAsset.h> in
+# the namespace `Name`, and Name.bundle beside the library file. Building a target that links it builds the bundle, too.
 #   NAMES_FILE             a table of names for keys: "TABLE/KEY" = "Group.name";
-#   DEVELOPMENT_LANGUAGE   where no Info.plist says it;
+#   DEVELOPMENT_LANGUAGE   the development language, if no Info.plist has it;
 #   STRICT                 warnings are errors;
-#   INCLUDE                headers of hand-made members that the tree of texts includes;
-#   HEADERS                headers of hand-made parts of the module that <Name/Name.h> includes;
-#   SHARDS                 into how many sources the accessors are split, so that they compile in parallel (default: 1).
+#   INCLUDE                headers of hand-written members that the tree of texts includes;
+#   HEADERS                headers of hand-written parts of the module that <Name/Name.h> includes;
+#   SHARDS                 the number of sources for the accessors, which compile in parallel (default: 1).
 function(lumora_add_module name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "STRICT" "NAMES_FILE;DEVELOPMENT_LANGUAGE;SHARDS" "SOURCES;INCLUDE;HEADERS")
     if(arg_UNPARSED_ARGUMENTS OR NOT arg_SOURCES)
@@ -74,7 +74,7 @@ function(lumora_add_module name)
     foreach(shard RANGE 1 ${arg_SHARDS})
         list(APPEND code ${folder}/${name}Strings-${shard}.cpp)
     endforeach()
-    # They change with every header that they include, so that a build compiles again what uses one.
+    # They are touched if a header that they include changes, so that the sources that use it are compiled again.
     set(known ${folder}/${name}Strings.h ${folder}/${name}Asset.h)
     list(TRANSFORM arg_INCLUDE REPLACE "(.+)" "--include;\\1" OUTPUT_VARIABLE includes)
     list(TRANSFORM arg_HEADERS REPLACE "(.+)" "--header;\\1" OUTPUT_VARIABLE headers)
@@ -94,8 +94,8 @@ function(lumora_add_module name)
 endfunction()
 
 # lumora_install_module(Name [EXPORT set] [VERSIONED])
-# Installs library, headers and bundle of a module. The bundle is beside the library file; with VERSIONED it is in the folder
-# LIBRARY-SOVERSION there, so that two versions can be installed together. Components: runtime, development.
+# Installs library, headers and bundle of a module. The bundle is in the library's folder; with VERSIONED it is in the
+# subfolder LIBRARY-SOVERSION, so that two versions can be installed together. Components: runtime, development.
 function(lumora_install_module name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "VERSIONED" "EXPORT" "")
     include(GNUInstallDirs)

@@ -20,7 +20,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY
 set(runtime liblumora${PROJECT_VERSION_MAJOR})
 set(same_version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime})
-# CPack warns of plug-ins when it writes these.
+# CPack warns about plug-ins when it writes these.
 set(shlibs ${PROJECT_BINARY_DIR}/debian/shlibs)
 file(WRITE ${shlibs} "liblumora ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})
 liblumora-platform ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})
@@ -39,7 +39,7 @@ or make modules of their own.")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "The program lumora generates typed trees from an application's resources,
 compiles, checks, shows and exchanges them.")
 
-# What every package of Debian has.
+# Files that every Debian package has.
 find_program(GZIP gzip REQUIRED)
 set(changelog ${PROJECT_BINARY_DIR}/debian)
 file(WRITE ${changelog}/changelog.Debian "lumora (${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
@@ -54,8 +54,8 @@ foreach(component runtime development tools)
     set(package ${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
     install(FILES cmake/debian/copyright THIRD-PARTY.md ${changelog}/changelog.Debian.gz DESTINATION share/doc/${package}
         COMPONENT ${component})
-    # These packages are not made for Debian's archive, so there is no bug that their first version closes. CPack gives every
-    # package with a library scripts that call ldconfig.
+    # These packages are not for Debian's archive, so their first version closes no bug. CPack adds scripts that call
+    # ldconfig to every package with a library.
     file(WRITE ${changelog}/${package} "${package} binary: initial-upload-closes-no-bugs\n")
     if(component STREQUAL "runtime")
         file(APPEND ${changelog}/${package} "${package} binary: maintscript-calls-ldconfig\n")

@@ -1,7 +1,7 @@
 // growth COMPILED SOURCE EXPECTED LANGUAGE...
-// What a bundle's tables cost a program: loaded from the binary form, checked from the text form, read. Every text of
-// every language is compared with EXPECTED/LANGUAGE (keys and texts in turn, each ended by a NUL) first. Prints "what
-// nanoseconds" per line; ends with 1 when a text is wrong.
+// Measures what a bundle's tables cost a program: loading the binary form, checking the text form, reading. First every
+// text of every language is compared with EXPECTED/LANGUAGE (keys and texts in turn, each NUL-terminated). Prints lines
+// "what nanoseconds"; ends with 1 if a text is wrong.
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
 #include "Runtime/internal/File.h"

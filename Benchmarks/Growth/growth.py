@@ -26,7 +26,7 @@ WORDS = ("All Dish Diet Plan Week Goal Weight Menu Meal Water Sleep Step Coach C
 def key(number):
     group, entry = divmod(number, 25)
     name = [WORDS[(entry * 11 + group) % 64], WORDS[(group * 5 + entry * 3) % 64]]
-    if entry == 0:  # as keys were before there were groups
+    if entry == 0:  # like old keys, without groups
         return "_".join([*name, str(group)]).lower()
     return f"{WORDS[group // 64]}{WORDS[group % 64]}." + "".join(name)
 
@@ -42,7 +42,7 @@ def quoted(string):
 
 
 def make_bundle(folder, keys, languages):
-    """The bundle `folder`/source, and in `folder`/expected what its tables hold; the names of the languages."""
+    """Writes the bundle `folder`/source and the contents of its tables to `folder`/expected; returns the names of the languages."""
     tags = (f"{a}{b}" for a, b in itertools.product("abcdefghijklmnopqrstuvwxyz", repeat=2) if a + b != "en")
     names = ["Base", *itertools.islice(tags, languages - 1)]
     (folder / "expected").mkdir(parents=True)
@@ -58,7 +58,7 @@ def make_bundle(folder, keys, languages):
 
 
 def best(runs, *command):
-    """Seconds of a processor: others may be at work on the machine."""
+    """Seconds of processor time, because other processes may be running."""
     def one():
         child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         _, status, used = os.wait4(child.pid, 0)
@@ -78,14 +78,14 @@ def accessors(out):
 
 
 def measure(folder, keys, languages):
-    """Seconds of each step, after a check of what it makes."""
+    """The seconds of each step, after checking its output."""
     names = make_bundle(folder, keys, languages)
     times = {}
     made = folder / "made"
     done = subprocess.run(generate(folder / "source", made), check=True, capture_output=True, text=True)
     warned = sum(number % 50 == 4 for number in range(keys))
     assert accessors(made) == keys and done.stderr.count("begins no placeholder") == warned, "generated wrongly"
-    # Into a new folder each time: files that are as they should be are not written again.
+    # A new folder each time, because unchanged files are not written again.
     times["generate"] = min(best(1, *generate(folder / "source", folder / f"made{run}")) for run in range(3))
     compiled = folder / "Grown.bundle"
     compile = [BUILD / "bin/lumora", "compile", folder / "source", "-o", compiled]
@@ -119,7 +119,7 @@ def compile_time(source, runs):
 
 
 def statics(folder, keys):
-    """The same texts as they would be written by hand."""
+    """The same texts as a programmer would write them."""
     lines = ["#include <string>", "std::string tr(const char* table, const char* key);"]
     for number in range(keys):
         lines.append(f'const std::string& text{number}() {{\n    static const std::string text = '

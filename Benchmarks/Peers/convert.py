@@ -1,4 +1,4 @@
-"""Writes a table (JSON on standard input, from `lumora table --to json`) as the peers' inputs: FOLDER/LANGUAGE.{po,boost.po,ts,txt}."""
+"""Writes a table (JSON on standard input, from `lumora table --to json`) as inputs for the other libraries: FOLDER/LANGUAGE.{po,boost.po,ts,txt}."""
 import html
 import json
 import re
@@ -33,7 +33,7 @@ def icu(text):
 
 
 def icu_key(key):
-    """Resource bundles take few characters in a key; the others are written as their code points."""
+    """Resource bundles allow few characters in a key; others are written as code points."""
     return re.sub(r"[^A-Za-z0-9 ._%&'()*+,/:;<=>?-]", lambda found: f"_{ord(found[0]):x}", key)
 
 

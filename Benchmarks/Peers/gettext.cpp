@@ -9,7 +9,7 @@
 namespace {
 
 void useCatalog() {
-    setenv("LANGUAGE", "en", 1); // a real look-up needs a locale other than "C"
+    setenv("LANGUAGE", "en", 1); // gettext looks nothing up in the locale "C"
     std::setlocale(LC_ALL, "C.UTF-8");
     bindtextdomain("texts", LUMORA_PEERS);
 }
@@ -19,7 +19,8 @@ std::string text(const char* key) {
 }
 
 std::string formatted(int day) {
-    const char* key = "DeleteAccount.ActiveSubscriptionServer"; // a literal would be checked as the format
+    const char* key =
+        "DeleteAccount.ActiveSubscriptionServer"; // not a literal, which the compiler would check as the format
     char out[256];
     std::snprintf(out, sizeof out, dgettext("texts", key), std::to_string(day).c_str());
     return out;
@@ -27,7 +28,7 @@ std::string formatted(int day) {
 
 void plainGettext(benchmark::State& state) {
     useCatalog();
-    // "Continue" is its own text: another key tells whether the catalog was found
+    // the text of "Continue" equals its key, so another key shows whether the catalog was found
     if (text("access_tab_title") != "Access" || text("Continue") != "Continue")
         return state.SkipWithError("the result is wrong");
     for (auto _ : state)

@@ -1,9 +1,9 @@
-"""Prints a header with its comments as doxygen takes them, and a page with each % that doxygen would drop. Doxygen runs it for
+"""Prints a header with its comments in doxygen's form, or a page with each % escaped that doxygen would drop. Doxygen runs it for
 each file."""
 import re
 import sys
 
-SPECIAL = re.compile(r"(?<!\w)@|[\\#<>%&]")  # behind a letter, doxygen takes @ for itself
+SPECIAL = re.compile(r"(?<!\w)@|[\\#<>%&]")  # after a letter, @ is an ordinary character for doxygen
 CODE = re.compile(r"(`[^`\n]+`)")
 
 
@@ -13,7 +13,7 @@ def code(span):
 
 
 def plain(text):
-    """Words as doxygen prints them; `code` stays code."""
+    """Escapes words for doxygen; `code` remains code."""
     return "".join(code(part) if part.startswith("`") else SPECIAL.sub(r"\\\g<0>", part) for part in CODE.split(text))
 
 
@@ -30,7 +30,7 @@ def documented(line):
 name = sys.argv[1]
 lines = open(name, encoding="utf-8").read().splitlines()
 if name.endswith(".h"):
-    # Line 1 is the header's path: the comment that it begins is about the file.
+    # Line 1 is the header's path: the comment that begins with it is about the file.
     first = 0
     if lines[0].startswith("// "):
         print("/// \\file")

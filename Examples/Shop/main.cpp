@@ -25,7 +25,7 @@ void showTexts() {
     show(Orders::orderIsOnItsWay(4711));
 }
 
-// Each language has its own forms: Arabic has six.
+// Each language has its own plural forms; Arabic has six.
 void showPlurals() {
     for (const std::int64_t count : {0, 1, 2, 5, 11, 100})
         show("  " + Localizable::Cart::articles(count));

@@ -1,4 +1,4 @@
-// Any bytes as a compiled catalog: refused, or everything in it can be read and found.
+// Opens any bytes as a compiled catalog: either it is rejected, or everything in it can be read and found.
 #include "../../Tests/AssetCatalog/Walk.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,5 +1,5 @@
-// Any bytes as a table whose texts are replaced: the first byte chooses the kind. What is read back has the new text,
-// and every other text as it was.
+// Replaces texts in any bytes as a table; the first byte chooses the kind. When it is read again, the table has the new
+// text and no other change.
 #include "Exchange/CatalogDocument.h"
 #include "Exchange/TableDocument.h"
 #include "StringTables/internal/PluralTable.h"

@@ -1,4 +1,5 @@
-// Any bytes as a translated file: refused with a message, or units that are the same after another way through a file.
+// Reads any bytes as a translated file: either it is rejected with a message, or its units are the same after they are
+// written and read again.
 #include "Exchange/Po.h"
 #include "Exchange/Xliff.h"
 #include <algorithm>
@@ -16,7 +17,7 @@ void require(bool holds) {
         std::abort();
 }
 
-// An export has no text twice, and the forms of a plural beside each other.
+// An export has no text twice, and the forms of a plural are adjacent.
 bool isLikeAnExport(const Translations& translations) {
     std::set<std::string> ids;
     return std::ranges::all_of(translations.units, [&ids](const Unit& unit) {
@@ -37,7 +38,7 @@ void requireSame(const Translations& translations) {
         return;
     SourceBundle::Diagnostics diagnostics;
     auto written = translations;
-    written.sourceLanguage = "en"; // an export writes codes only
+    written.sourceLanguage = "en"; // an export writes language codes only
     written.targetLanguage = "de";
     // One table is one <file>.
     std::ranges::stable_sort(written.units, {}, [](const Unit& unit) { return unit.id.table; });

@@ -1,5 +1,5 @@
-// Formats with a text, a locale and arguments made of the input. Its lines are: the locale, the format, the arguments;
-// a line of eight bytes after '#' is a whole number, after '.' a floating one.
+// Formats a text with a locale and arguments from the input. Its lines are the locale, the format and the arguments; a
+// line of eight bytes after '#' is an integer, after '.' a floating-point number.
 #include "Foundation/String.h"
 
 #include <cstring>
@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Foundation::Locale locale{std::string(nextLine())};
     const std::string_view format = nextLine();
     std::vector<Foundation::FormatArgument> arguments;
-    std::size_t longest = 512 + 3 * Foundation::String::largestSize; // a precision's digits, grouped
+    std::size_t longest = 512 + 3 * Foundation::String::largestSize; // digits of the precision, with grouping
     while (!rest.empty()) {
         const std::string_view line = nextLine();
         std::int64_t integer = 0;
@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
     }
     const std::string text = Foundation::String::format(format, locale, arguments);
-    // No digit, separator or padding of any locale has more bytes.
+    // In every locale, digits, separators and padding have at most that many bytes.
     constexpr std::size_t longestSymbol = 16;
     if (text.size() > format.size() * longest * longestSymbol ||
         text.size() > format.size() + Foundation::String::largestGrowth)

@@ -1,4 +1,4 @@
-// Reads the input as the identifier of a locale, and as the languages that a host names and a bundle has.
+// Reads the input as the identifier of a locale, and as the languages of a host and of a bundle.
 #include "Foundation/DateComponents.h"
 #include "Foundation/NSNumberFormatter.h"
 #include "Foundation/internal/HostState.h"
@@ -48,7 +48,7 @@ void chooseLanguages(std::string_view host) {
             const std::array<std::string, 6> supported = {"en", "zh-Hans", "sr", "pt-PT", "es-419", other};
             const auto chosen = Foundation::detail::chooseLanguage(wanted, supported);
             require(!chosen || *chosen < supported.size());
-            if (other == wanted) // what is there to the letter is taken
+            if (other == wanted) // an exact match is chosen
                 require(chosen && supported[*chosen] == wanted);
         }
     }
@@ -60,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string identifier(reinterpret_cast<const char*>(data), size);
     const Foundation::Locale locale(identifier);
     writeNumbers(locale);
-    // Without the plug-in this would be a fuzzer of nothing.
+    // Without the plug-in this fuzzer would test nothing.
     require(Intl::numberPattern("de@numbers=arab", Intl::NumberStyle::decimal).digits[0] != "0");
     writeYears(locale);
     chooseLanguages(identifier);

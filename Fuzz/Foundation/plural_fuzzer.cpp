@@ -1,4 +1,4 @@
-// Any bytes as a table of plural formats, each of which is made into texts.
+// Reads any bytes as a table of plural formats and makes texts of each.
 #include "Foundation/String.h"
 #include "Foundation/internal/PluralText.h"
 

@@ -1,5 +1,5 @@
-// The naming rule on any bytes: what it gives is nothing, or one valid identifier, again and again the same.
-// Validity is asked of ICU here, not of the code under test.
+// Applies the naming rule to any bytes: the result is nothing or a valid identifier, and always the same.
+// Validity is checked by ICU, not by the tested code.
 #include "Generator/Namer.h"
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Any bytes as a picture: refused, or a bitmap of the size that was measured.
+// Decodes any bytes as a picture: either it is rejected, or the bitmap has the measured size.
 #include "Pictures/internal/Decoders.h"
 #include "Pictures/internal/Pictures.h"
 #include <cstdlib>

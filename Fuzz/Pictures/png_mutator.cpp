@@ -1,4 +1,4 @@
-// Changes a picture and, most of the time, makes the checksums of a PNG's chunks right again, which chance never does.
+// Mutates a picture and usually corrects the checksums of a PNG's chunks, which random changes never do.
 #include <cstddef>
 #include <cstdint>
 
@@ -25,7 +25,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
     size = LLVMFuzzerMutate(data, size, maxSize);
     if (seed % 4 == 0 || size < signatureSize || data[1] != 'P')
         return size;
-    // A chunk: the size of what is in it, its name, what is in it, the checksum of the last two.
+    // A chunk consists of the size of its data, its name, its data, and a checksum of name and data.
     for (std::size_t at = signatureSize; at + 12 <= size;) {
         const std::size_t inside = std::size_t{data[at]} << 24 | std::size_t{data[at + 1]} << 16 |
                                    std::size_t{data[at + 2]} << 8 | data[at + 3];

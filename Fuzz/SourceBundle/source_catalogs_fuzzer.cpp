@@ -1,5 +1,5 @@
-// Any bytes as the Contents.json of an image, a colour and a data set and of a folder: refused with the file's name, or
-// an asset whose files lie in its set.
+// Reads any bytes as the Contents.json of an image set, a colour set, a data set and a folder: either they are rejected
+// with the file's name, or the asset's files are in its set.
 #include "SourceBundle/Catalogs.h"
 
 #include "../../Tests/Support/TemporaryFolder.h"
@@ -18,8 +18,8 @@ void require(bool holds) {
         std::abort();
 }
 
-// A source bundle whose every Contents.json is one file under several names. It is made once a process, so that an
-// input costs the writing of one file.
+// A source bundle in which all Contents.json files are links to one file. It is made once per process, so that each
+// input needs only one file to be written.
 class Source {
 public:
     Source() : contents_(folder_.write("contents", "")) {

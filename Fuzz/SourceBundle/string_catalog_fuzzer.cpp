@@ -1,4 +1,5 @@
-// Any bytes as a string catalog: refused, or texts whose plural formats the formatter can list and expand.
+// Reads any bytes as a string catalog: either it is rejected, or the formatter can list and expand the plural formats
+// of its texts.
 #include "SourceBundle/PluralText.h"
 #include "SourceBundle/StringCatalog.h"
 #include "StringTables/internal/PluralPieces.h"

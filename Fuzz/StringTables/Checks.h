@@ -1,5 +1,5 @@
 // Fuzz/StringTables/Checks.h
-// What must hold of every table that was read.
+// Checks for every table that was read.
 #pragma once
 
 #include "StringTables/internal/Table.h"
@@ -22,8 +22,8 @@ inline void require(bool holds) {
         std::abort();
 }
 
-// Whether a reader of `form` is who gets these bytes. Each form has a fuzzer of its own, which leaves the others alone:
-// one for all would spend its time on the form that is the easiest to come by.
+// Whether these bytes are read as `form`. Each form has a separate fuzzer that ignores the other forms, because a
+// common one would spend its time on the form that is easiest to produce.
 inline bool isFor(Form form, std::string_view bytes) {
     if (bytes.starts_with("bplist0"))
         return form == Form::binary;
@@ -36,7 +36,7 @@ inline bool haveSameEntries(const Table& one, const Table& other) {
                               [](const Entry& a, const Entry& b) { return a.key == b.key && a.text == b.text; });
 }
 
-// Entries are found by their keys, and are the same after a way through every form.
+// Entries are found by their keys, and are the same after they are written and read in every form.
 inline void requireWhole(const Table& table) {
     for (const Entry& entry : table.entries())
         require(table.find(entry.key) == entry.text);
@@ -48,7 +48,7 @@ inline void requireWhole(const Table& table) {
     require(comments.size() == table.entries().size());
     for (const Form form : {Form::text, Form::xml, Form::binary}) {
         const auto bytes = StringTables::write(table.entries(), form, comments);
-        require(bytes || form == Form::xml); // the only form that cannot hold every text
+        require(bytes || form == Form::xml); // the only form that cannot represent every text
         if (!bytes)
             continue;
         const auto again = Table::read(*bytes);
@@ -58,7 +58,7 @@ inline void requireWhole(const Table& table) {
     }
 }
 
-// Reads the bytes as a table of that form; no value when they are refused or of another form.
+// Reads the bytes as a table of that form; no value if they are rejected or have another form.
 inline std::optional<Table> read(std::string_view bytes, Form form) {
     if (!isFor(form, bytes))
         return std::nullopt;
@@ -72,7 +72,7 @@ inline std::optional<Table> read(std::string_view bytes, Form form) {
     return *std::move(table);
 }
 
-// `utf8` in another encoding; no value when it is no UTF-8.
+// `utf8` in another encoding; no value if it is not UTF-8.
 inline std::optional<std::string> encoded(std::string_view utf8, const char* encoding) {
     iconv_t converter = iconv_open(encoding, "UTF-8");
     std::string in(utf8), out(4 * utf8.size(), '\0');
@@ -84,7 +84,7 @@ inline std::optional<std::string> encoded(std::string_view utf8, const char* enc
     return isValid ? std::optional(std::move(out)) : std::nullopt;
 }
 
-// The same characters give the same table, the same notes and the same fault at the same place in UTF-8 and in UTF-16.
+// The same characters give the same table, the same notes and the same error at the same place in UTF-8 and UTF-16.
 inline void requireSameInUtf16(std::string_view characters) {
     constexpr std::string_view mark = "\xEF\xBB\xBF";
     while (characters.starts_with(mark))
@@ -105,7 +105,7 @@ inline void requireSameInUtf16(std::string_view characters) {
     }
 }
 
-// All of the above, for a form that is made of characters.
+// All of the above, for a textual form.
 inline void readCharacters(const std::uint8_t* data, std::size_t size, Form form) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     read(bytes, form);

@@ -1,5 +1,5 @@
-// Changes a binary table. Chance keeps the file's end true only while nothing in front of it moves, so half of the time
-// the objects alone are changed, and their offsets and the trailer are made anew for what they have become.
+// Mutates a binary table. Random changes leave the end of the file valid only if nothing before it moves. So half of
+// the time only the objects are changed, and their offsets and the trailer are written again.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -18,7 +18,7 @@ std::uint64_t number(const std::uint8_t* at, std::size_t size) {
     return value;
 }
 
-// How many bytes the object at `at` takes, if its marker is to be believed.
+// The size of the object at `at` according to its marker.
 std::uint64_t sizeOf(const std::uint8_t* at, std::size_t left, std::size_t refSize) {
     const std::size_t type = *at >> 4;
     std::uint64_t count = *at & 0xF, head = 1;

@@ -1,4 +1,4 @@
-// Walks through the placeholders of any text: each lies within it, behind the one before, and between a '%' and its
+// Finds the placeholders of any text: each is within the text and after the previous one, and reaches from a '%' to its
 // conversion.
 #include "StringTables/internal/Placeholder.h"
 #include <cctype>
@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(std::tolower(last) ==
                 (found->kind == Kind::text && last != '@' ? 's' : std::tolower(found->conversion)));
         require(found->position <= 9999 && found->width.value <= 999999 && found->precision.value <= 999999);
-        // What stands between two placeholders begins none.
+        // The text between two placeholders does not begin one.
         require(!StringTables::nextPlaceholder(format.substr(0, found->begin), at));
         at = found->end;
     }

@@ -1,4 +1,4 @@
-// Any bytes as a table of the binary form.
+// Reads any bytes as a table in the binary form.
 #include "Checks.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,4 +1,4 @@
-// Any bytes as the file of a compiled table in a bundle.
+// Reads any bytes as the file of a compiled table in a bundle.
 #include "Checks.h"
 #include "StringTables/internal/CompiledIndex.h"
 #include "StringTables/internal/StoredTable.h"
@@ -10,8 +10,8 @@
 namespace {
 
 using Checks::require;
-using StringTables::Table;
 using StringTables::StoredTable;
+using StringTables::Table;
 
 // A file in memory that has a path.
 class MemoryFile {
@@ -28,7 +28,7 @@ private:
     int descriptor_;
 };
 
-// The text of `key`, read by itself, or once the file was read whole.
+// The text of `key`, read on its own or after the whole file was read.
 std::optional<std::string> found(const MemoryFile& file, std::string_view key, bool whole) {
     StoredTable table(file.path());
     for (int i = 0; i < (whole ? 8 : 0); ++i)
@@ -52,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const std::string& key : keys) {
         const auto part = found(file, key, false), whole = found(file, key, true);
         require(!part || !whole || part == whole);
-        if (table) // an index that contradicts the dictionary is refused
+        if (table) // an index that contradicts the dictionary is rejected
             require(part == table->find(key) && whole == part);
     }
     return 0;

@@ -1,9 +1,9 @@
-// Another reader beside ours: a table that both accept holds the same texts for both, and what we write it reads.
-// Left aside is where the other one is known to differ:
-//  - it hands out C strings, which end at a zero, and stops the process over a key that holds one;
-//  - of equal keys in a binary table it keeps every one, and in XML the last, even where that is no text;
-//  - it takes XML as UTF-8 whatever is declared, and leaves the ends of its lines as they are;
-//  - it takes quotation marks in a processing instruction for a text's, in which the instruction does not end.
+// Compares our reader with another: a table that both accept has the same texts for both, and the other one reads what
+// we write. Known differences of the other one are ignored:
+//  - it returns C strings, which end at a zero, and stops the process if a key contains one;
+//  - if keys are repeated, it keeps all in a binary table, and in XML the last, even if its value is not a text;
+//  - it reads XML as UTF-8 regardless of the declaration, and does not convert line ends;
+//  - in a processing instruction it treats quotation marks as those of a text, in which the instruction cannot end.
 #include "Checks.h"
 #include <map>
 #include <memory>
@@ -13,11 +13,11 @@ namespace {
 
 using Checks::Form;
 using Checks::require;
-using Texts = std::map<std::string, std::optional<std::string>>; // no text: a value that is none
+using Texts = std::map<std::string, std::optional<std::string>>; // no value: not a text
 using Node = std::unique_ptr<std::remove_pointer_t<plist_t>, decltype(&plist_free)>;
 using Chars = std::unique_ptr<char, decltype(&std::free)>;
 
-// The values of a dictionary whose keys are all different.
+// The values of a dictionary whose keys all differ.
 std::optional<Texts> texts(plist_t dict) {
     plist_dict_iter found = nullptr;
     plist_dict_new_iter(dict, &found);
@@ -66,7 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!table)
         return 0;
     if (table->form() == Form::binary && !table->notes().empty())
-        return 0; // keys that were passed over may hold zeros unseen
+        return 0; // skipped keys may contain zeros
     Texts ours;
     for (const Checks::Entry& entry : table->entries()) {
         if (entry.key.find('\0') != entry.key.npos || entry.text.find('\0') != entry.text.npos)

@@ -50,7 +50,7 @@ class Drawing:
         self.items = []
         self.matrix = paths.IDENTITY
         self.ink = ink
-        self.pen = 2            # width of strokes that name none
+        self.pen = 2            # default stroke width
         self.body = None        # when set, fills the closed stroked shapes of the notation
         self.template = False
 

@@ -3,7 +3,7 @@
 
     python3 Resources/Drawings/check.py [--no-redraw]
 
-Prints every fault found and ends with status 1 if there is any. --no-redraw leaves out the
+Prints every error and ends with status 1 if there is any. --no-redraw skips the
 comparison with freshly drawn files, the only slow part.
 """
 
@@ -28,7 +28,7 @@ NOTATION = re.compile(r"^(0x[0-9A-F]{2}|\d{1,3}|-?\d\.\d{3})$")
 
 
 def png_size(data):
-    """Size of a PNG whose chunks, check sums and pixel data are right."""
+    """The size of a PNG with valid chunks, checksums and pixel data."""
     if data[:8] != b"\x89PNG\r\n\x1a\n":
         raise ValueError("no PNG signature")
     at, chunks = 8, []
@@ -57,7 +57,7 @@ def png_pixels(data):
 
 
 def same_pixels(old, new):
-    """Another deflate library may pack the same pixels differently."""
+    """Decompresses the pixels, because another deflate library may compress them differently."""
     try:
         return png_size(old) == png_size(new) and png_pixels(old) == png_pixels(new)
     except (ValueError, struct.error, zlib.error):
@@ -105,7 +105,7 @@ SIZE = {".png": png_size, ".jpg": jpeg_size, ".pdf": pdf_size, ".svg": svg_size}
 
 
 def check_names(faults):
-    """Exactly the listed assets, each in its catalog, once and without a folder namespace."""
+    """Checks that exactly the listed assets exist, each once in its catalog and without a folder namespace."""
     found = {}
     for catalog, kinds in names.CATALOGS.items():
         root = ROOT / f"{catalog}.xcassets"
@@ -163,7 +163,7 @@ def check_set(folder, kind, faults):
 
 
 def check_distinct(faults):
-    """No drawing occurs twice, neither among the files nor among the drawings of any format."""
+    """Checks that no two files and no two drawings are the same."""
     files = [(p.name, p.read_bytes()) for catalog in names.CATALOGS
              for p in sorted((ROOT / f"{catalog}.xcassets").rglob("*")) if p.suffix in SIZE]
     drawn = [(name, svg.encode(function())) for name, function in catalogs.drawings().items()]

@@ -3,8 +3,8 @@
 
     python3 Resources/Drawings/draw.py [folder]
 
-The folder is Resources itself unless another is given. Files that no asset has any more are removed
-from the catalogs. Nothing but the standard library is needed.
+The default folder is Resources. Files that no longer belong to an asset are removed
+from the catalogs. Only the standard library is needed.
 """
 
 import sys

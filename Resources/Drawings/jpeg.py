@@ -1,4 +1,4 @@
-"""Baseline JPEG of a drawing: full colour resolution, the customary tables."""
+"""Baseline JPEG of a drawing with full colour resolution and the usual tables."""
 
 import math
 import struct

@@ -1,6 +1,6 @@
 """Names of every asset, catalog by catalog, in declaration order.
 
-That is the order in which the catalogs are read: by folder, then by name. A line "[Folder]" begins a folder."""
+This is the order in which the catalogs are read: by folder, then by name. A line "[Folder]" begins a folder."""
 
 COLORS = """
 chartAnkle chartBlackColor chartBlueColor chartBodyFat chartBrightBlueColor chartButtocks

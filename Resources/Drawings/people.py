@@ -13,7 +13,7 @@ from palette import COLOURS, REGIONS
 
 @dataclass
 class Look:
-    """Who it is: colours, clothes, hair and build."""
+    """The look of a person: colours, clothes, hair and build."""
     male: bool
     skin: str
     shade: str
@@ -128,7 +128,7 @@ def front(d, who, pose=Pose(), back=False):
 
 
 def head(d, who, x, y, back=False, r=11.5):
-    """A head of radius r; hair, scarf and face belong to the look."""
+    """A head of radius r with the hair, scarf and face of the look."""
     with d.placed(x, y, r / 11.5):
         if back:
             _hair_back(d, who)

@@ -90,7 +90,7 @@ def _avatar(number):
 
 
 def _quill(d, x, y, scale, colour="white", accent="gold"):
-    """The mark of the product: a quill whose nib draws a rising line."""
+    """The product's logo: a quill whose nib draws a rising line."""
     with d.placed(x, y, scale):
         d.draw(f"P:{colour} M6 19C7 11 12 4 21 2C21.5 9 17 15 10 16.5L8.2 19.6Z;p:{accent}~1.1 M7 19C10 14 13 10.5 17 7;"
                f"p:{colour}~1.8 M2 21.8H6.5L8.6 19.8L11 21.8H22")
@@ -227,5 +227,5 @@ def pictures():
 
 
 def dark_pictures():
-    """The pictures that have a version of their own for the dark appearance."""
+    """The pictures that have a separate version for dark mode."""
     return {name: (lambda n=name: _empty(n, True)) for name in sorted(DARK)}

@@ -185,7 +185,7 @@ def _measure(male, view):
 
 
 def _goal(male, aim, region):
-    """Training targets: the run of losing, the lift of gaining, the balance of keeping."""
+    """Training targets: running for losing weight, lifting for gaining, balance for keeping."""
     d = Drawing(200, 220)
     scenery.landscape(d, region, 170)
     who = look(male, region)

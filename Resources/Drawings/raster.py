@@ -11,7 +11,7 @@ SUBLINES = 5
 
 
 def _stroke(lines, width, butt):
-    """Polygons (all turning the same way) that together cover a round-joined stroke."""
+    """Polygons with the same orientation that together cover a stroke with round joins."""
     r = width / 2
     sides = max(8, min(48, int(4 * math.sqrt(r) * 2)))
     disc = [(r * math.cos(2 * math.pi * k / sides), r * math.sin(2 * math.pi * k / sides))

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Everything that can be found without a case of its own: three compilers with their warnings as errors, clang-tidy,
-# cppcheck, valgrind. Ends at the first fault. `./run analyse` installs what it needs.
+# Checks without test cases: three compilers with warnings as errors, clang-tidy, cppcheck, valgrind. Stops at the first
+# error. `./run analyse` installs the tools.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
-written=(Platform Lumora Tools Tests Fuzz Examples) # by hand; build/ holds what is generated
+written=(Platform Lumora Tools Tests Fuzz Examples) # by hand; generated code is in build/
 
 step() { printf '%4ds  %s\n' "$SECONDS" "$1"; }
 
@@ -13,8 +13,8 @@ for preset in gcc-12 clang-14 clang-16; do
     cmake --build --preset "$preset" -- -j2 --quiet
 done
 
-# clang-tidy names every file it reads, and how much it passed over in other people's headers; a fault is an "error:".
-# The golden files are generated ones.
+# clang-tidy prints every file that it reads, and the number of suppressed warnings; a finding has "error:".
+# The golden files are generated.
 step "clang-tidy"
 folders=$(IFS='|'; echo "${written[*]}")
 if ! run-clang-tidy-14 -quiet -j 2 -p build/clang-14 "^$PWD/($folders)/(?!Generator/Golden/)" >build/clang-tidy.log 2>&1; then
@@ -22,17 +22,17 @@ if ! run-clang-tidy-14 -quiet -j 2 -p build/clang-14 "^$PWD/($folders)/(?!Genera
     exit 1
 fi
 
-# cppcheck reads no identifiers beyond ASCII: the golden files have them, and the test of the whole tree.
+# cppcheck cannot read non-ASCII identifiers, which are in the golden files and in the test of the whole tree.
 step "cppcheck"
 cppcheck -q -j2 --std=c++20 --library=googletest --enable=warning,performance,portability,style --inline-suppr \
     --error-exitcode=1 --suppressions-list=Tests/Build/cppcheck-suppressions.txt -I . -I Platform -I Tools \
     -i Tests/Generator/Golden -i Tests/Lumora/catalog_test.cpp "${written[@]}"
 
-# What lives until the process ends is found through pointers and is no leak. Passed over:
+# Objects that live until the process ends are reachable and are not leaks. Not run:
 # - long double, which valgrind computes with 64 bits;
-# - the comparisons with ICU in every locale, minutes there: the same code runs in the other cases of these tests;
-# - death tests, whose processes stop with their memory in hand;
-# - a lack of memory, whose tests put their own allocator where valgrind puts its.
+# - the comparisons with ICU in every locale, which would take minutes; the other test cases run the same code;
+# - death tests, whose processes stop without freeing memory;
+# - tests of a lack of memory, which replace the allocator, as valgrind does.
 passedOver=-*DeathTest*:Describable.FloatingNumbersHaveTheFewestExactDigits:*MatchIcuInEveryLocale:NoMemory.*
 memcheck() {
     step "valgrind ${1##*/}"

@@ -1,5 +1,5 @@
-"""Follows README.md and the pages of Docs/ word by word with the installed package: writes the files that they show, runs their commands,
-and compares what is printed with what the page shows. Fragments of C++ are compiled against the module."""
+"""Runs all examples of README.md and the pages of Docs/ with the installed package: writes the files in them, runs their commands,
+and compares the output with the page. C++ fragments are compiled with the module."""
 import os
 import pathlib
 import re
@@ -11,15 +11,15 @@ import tempfile
 
 from packaging import options, run, source
 
-# The pages, and whether they begin in an empty folder or with the resources of Examples/Shop. Of check.md, only what comes before its
-# rules: check_page.py has those.
+# The pages, and whether they begin in an empty folder or with the resources of Examples/Shop. Only the beginning of
+# check.md is tested here; check_page.py tests the rules.
 EMPTY, SHOP = "empty", "shop"
 PAGES = {"README.md": SHOP, "Docs/own-module.md": EMPTY, "Docs/add-a-text.md": SHOP, "Docs/add-a-language.md": SHOP,
          "Docs/add-a-picture.md": SHOP, "Docs/use-from-c.md": EMPTY, "Docs/check.md": SHOP, "Docs/translate.md": SHOP,
          "Docs/gallery.md": SHOP, "Docs/plurals.md": EMPTY, "Docs/naming.md": EMPTY}
 BLOCK = re.compile(r"^```(\w+)(?: (>>)?(\S+))?\n(.*?)^```$", re.DOTALL | re.MULTILINE)
 INDENTED = re.compile(r"(?:\A|\n)\n    (?! )(.*)")
-BUILDS_LUMORA = re.compile(r"cmake .*\bbuild/own\b")  # as the build of this test was made
+BUILDS_LUMORA = re.compile(r"cmake .*\bbuild/own\b")  # already built for this test
 INSTALLED = "/opt/lumora"  # where the pages install it
 
 
@@ -29,7 +29,7 @@ def text_of(page):
 
 
 def until_interrupted(command, folder, environment):
-    """Of a program that runs until it is interrupted: its status, and what it printed until then."""
+    """The status and output of a program that runs until it is interrupted."""
     process = subprocess.Popen(["bash", "-c", "exec " + command], cwd=folder, env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                                text=True)
     first = process.stdout.readline()
@@ -50,7 +50,7 @@ def status_and_output(command, folder, environment):
 
 
 def commands(kind, text):
-    """Of a block: each command with what it prints, or None where the page does not say."""
+    """The commands of a block, each with its expected output, or None if the page does not show it."""
     if kind == "sh":
         return [(line, None) for line in text.splitlines()]
     steps = (step.partition("\n") for step in text.removeprefix("$ ").split("\n$ "))
@@ -58,7 +58,7 @@ def commands(kind, text):
 
 
 def follow(page, folder, environment):
-    """The faults of a page, and its fragments of C++ and CMake."""
+    """The errors of a page, and its fragments of C++ and CMake."""
     text = text_of(page)
     faults = [f"{page}: a block without a kind: {line}" for line in INDENTED.findall(BLOCK.sub("", text))]
     fragments = {"cpp": [], "cmake": []}
@@ -83,7 +83,7 @@ def follow(page, folder, environment):
 
 
 def compile_fragments(fragments, folder, prefix):
-    """With the accessors of the sources that the page has left behind."""
+    """Compiles fragments with the accessors of the page's resources."""
     (folder / "main.cpp").write_text("#include <Shop/Shop.h>\n#include <cstdio>\n#include <string>\nint main() {\n" + "".join(fragments["cpp"]) + "}\n",
                     encoding="utf-8")
     if fragments["cmake"]:
@@ -94,7 +94,7 @@ def compile_fragments(fragments, folder, prefix):
 
 
 def unknown_tests():
-    """Tests that the pages name, `Suite.Name`, and that there are none of."""
+    """Tests (`Suite.Name`) that are mentioned in the pages but do not exist."""
     tests = {f"{suite}.{name}" for file in (source / "Tests").rglob("*.cpp")
              for suite, name in re.findall(r"^TEST(?:_F|_P)?\((\w+), (\w+)\)", file.read_text(encoding="utf-8"), re.M)}
     for page in ("SECURITY.md", "Docs/reliability.md"):

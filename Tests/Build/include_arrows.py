@@ -1,10 +1,11 @@
-"""Fails on an include line that points against the arrows between the folders, and on an internal header that exports what is not
-a plug-in's function."""
+"""Fails if a file includes a folder that it must not include, or if an internal header exports anything but a plug-in's
+function."""
 import pathlib
 import re
 import sys
 
-# What the files of a folder may include, besides their own folder and what an included folder may include.
+# The folders that the files of a folder may include, besides their own folder and those that an included folder may
+# include.
 ARROWS = {
     "Platform/Runtime": [],
     "Platform/StringTables": ["Platform/Intl"],
@@ -28,7 +29,7 @@ INCLUDE = re.compile(r'\s*#\s*include\s+["<]([^">]+)[">]')
 
 
 def allowed(folder):
-    """`folder` and everything below it."""
+    """`folder` and all folders that it may include."""
     reached, waiting = set(), [folder]
     while waiting:
         one = waiting.pop()
@@ -44,7 +45,7 @@ def main(root):
     for folder in ARROWS:
         may = allowed(folder)
         for file in sorted((root / folder).rglob("*")):
-            # Templates of generated code hold that code's include lines.
+            # Templates of generated code contain that code's include lines.
             if file.suffix not in (".h", ".cpp", ".c") or file.stem.endswith("Templates"):
                 continue
             for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):

@@ -1,4 +1,4 @@
-"""Installs the package, moves it, and uses it as outside programs do."""
+"""Installs the package, moves it, and uses it like other programs."""
 import concurrent.futures
 import os
 import pathlib
@@ -53,7 +53,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
                               library.parent / "pkgconfig")
         expect(f"pkg-config, {option}", run(program, env=environment).splitlines()[:2], [russian("Continue"), NUMBER])
 
-    # Reached through a link to the tree, and through links to the libraries alone.
+    # Used through a link to the tree, and through links to the libraries only.
     (folder / "link").symlink_to(prefix)
     linked = folder / "link" / library.relative_to(prefix)
     expect("linked tree", run(program, env=environment | {"LD_LIBRARY_PATH": str(linked.parent)}).splitlines()[:2],
@@ -68,7 +68,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
            [russian("Continue"), "25 лет"])
     expect("lumora text", run(prefix / "bin/lumora", "text", "--language", "ru", "Continue"), russian("Continue") + "\n")
 
-    # Tables in XML are read by a plug-in. Without it they cannot be read, which is said.
+    # Tables in XML are read by a plug-in. Without it they cannot be read, which is reported.
     tables = folder / "Xml.bundle/Base.lproj"
     tables.mkdir(parents=True)
     (tables / "Localizable.strings").write_text("<plist><dict><key>a</key><string>text</string></dict></plist>")
@@ -79,7 +79,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     done = subprocess.run(read, capture_output=True, text=True)
     expect("without the plug-in", (done.returncode, done.stdout, plugin.name in done.stderr), (2, "", True))
 
-    # Each component has its files, and a package without the program is found by who does not ask for it.
+    # Each component has its files, and a package without the program is found if the program is not requested.
     for component, present, absent in (("runtime", "liblumora.so.1", "*.h"), ("development", "Lumora.h", "liblumora.so.1"),
                                        ("tools", "lumora", "*.h")):
         run(options.cmake, "--install", options.build, "--prefix", folder / component, "--component", component)

@@ -1,9 +1,9 @@
-"""Fails if a shared library runs code when it is loaded, needs a library that it could do without, or shows symbols that are not its own interface."""
+"""Fails if a shared library runs code when it is loaded, needs an unnecessary library, or exports symbols that are not part of its interface."""
 import re
 import subprocess
 import sys
 
-# Namespaces whose names each library may show, and the C functions of the module.
+# The namespaces whose symbols each library may export, and the C functions of the module.
 MODULE, PLATFORM = "Lumora|Corvane", "Foundation|UIKit|SwiftUI|Runtime"
 C_FUNCTIONS = {"Loc", "LocNumber", "LocNumberWithPositivePrefix", "LocAge", "LocPercent", "LocPercentSigned",
                "NSStringCreate", "NSStringUTF8", "NSNumberCreateInteger", "NSNumberCreateDouble", "NSRelease"}
@@ -26,7 +26,7 @@ def faults_of(library, namespaces, others):
     # One entry is the compiler's own frame_dummy; more are constructors.
     if array and int(array.group(1), 16) > 8:
         yield f"{library}: .init_array has {int(array.group(1), 16) // 8} entries"
-    # Each library more costs a process's first text.
+    # Every additional library delays a process's first text.
     for name in re.findall(r"NEEDED.*\[(.*)\]", output("readelf", "-dW", library)):
         if not name.startswith(("liblumora-platform", *SYSTEM)):
             yield f"{library} needs {name}"
@@ -41,7 +41,7 @@ def faults_of(library, namespaces, others):
 def main(module, platform):
     faults = [*faults_of(module, MODULE, C_FUNCTIONS), *faults_of(platform, PLATFORM, set())]
     accessors = [name for name in symbols_of(module) if name.startswith("Lumora::LumoraStrings::")]
-    # 1,401 texts and the six members made by hand.
+    # 1,401 texts and the six hand-written members.
     if len(accessors) != 1407:
         faults.append(f"{len(accessors)} accessors are exported, not 1407")
     print("\n".join(faults) or "both libraries export their interface and run nothing when they are loaded")

@@ -1,5 +1,5 @@
-"""Builds Examples/Shop against the installed package as its users do, runs it in its languages, and checks what a change builds
-again: with Ninja and with Make."""
+"""Builds Examples/Shop with the installed package, runs it in its languages, and checks what is built again after a
+change: with Ninja and with Make."""
 import os
 import pathlib
 import shutil
@@ -54,20 +54,20 @@ def build_and_change(prefix, folder, generator):
     run(*make)
     expect(f"{generator}: nothing to do", (changed(files, times(bundle, "*")), changed(objects, times(build, "*.o"))), ([], []))
 
-    # A translation: its table, and no source.
+    # A changed translation: its table, but no source.
     replace(shop / "Resources/de.lproj/Localizable.strings", "Zum Warenkorb", "Zum Korb")
     run(*make)
     expect(f"{generator}: a translation", (changed(files, times(bundle, "*")), changed(objects, times(build, "*.o"))),
            (["de.lproj/Localizable.strings"], []))
 
-    # A new language and a new folder of catalogs are seen without configuring again.
+    # A new language and a new folder of catalogs are found without configuring again.
     (shop / "Resources/more/fr.lproj").mkdir(parents=True)
     (shop / "Resources/more/fr.lproj/Localizable.strings").write_text('"home.title" = "Bouilloire";\n', encoding="utf-8")
     run(*make)
     expect(f"{generator}: French", shown(program, "fr")[0].split(":")[0], "Bouilloire")
     expect(f"{generator}: a new language compiles no source", changed(objects, times(build, "*.o")), [])
 
-    # A changed placeholder: its accessor, so its caller no longer compiles.
+    # A changed placeholder changes its accessor, so its caller no longer compiles.
     replace(shop / "Resources/en.lproj/Localizable.strings", "Good to see you, %@!", "Good to see you, %@ and %@!")
     try:
         run(*make)
@@ -80,7 +80,7 @@ def build_and_change(prefix, folder, generator):
     replace(shop / "Resources/en.lproj/Localizable.strings", "Good to see you, %@ and %@!", "Good to see you, %@!")
     run(*make)
 
-    # Without its bundle a program stops at its first asset, and names both.
+    # Without its bundle a program stops at its first asset and reports both.
     shutil.rmtree(bundle)
     done = subprocess.run([program], capture_output=True, text=True)
     report = done.stderr.splitlines()

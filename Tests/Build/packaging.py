@@ -1,4 +1,4 @@
-"""What the tests of the installed package and of the source tree in a parent project share."""
+"""Shared by the tests of the installed package and of the source tree in a parent project."""
 import argparse
 import os
 import pathlib
@@ -27,13 +27,13 @@ def expect(what, actual, expected):
 
 
 def russian(key):
-    """The Russian text of a key, read by other means."""
+    """The Russian text of a key, read without Lumora."""
     table = (source / "Resources/ru.lproj/Localizable.strings").read_text(encoding="utf-8")
     return re.search(rf'^"{re.escape(key)}" = "(.*)";$', table, re.M).group(1)
 
 
 def compile_by_pkg_config(package, sources, program, compiler, pkgconfig):
-    """Compiles a client with nothing but the flags of pkg-config."""
+    """Compiles a client with the flags of pkg-config only."""
     environment = os.environ | {"PKG_CONFIG_PATH": str(pkgconfig)}
     flags = subprocess.run(["pkg-config", "--cflags", "--libs", package], check=True, capture_output=True,
                            env=environment).stdout
@@ -42,5 +42,5 @@ def compile_by_pkg_config(package, sources, program, compiler, pkgconfig):
     run(*compiler, *sources, "-o", program, *arguments)
 
 
-# U+00A0 groups Russian digits.
+# Digits are grouped with U+00A0 in Russian.
 NUMBER = "+1\u00a0234\u00a0567"

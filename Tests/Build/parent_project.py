@@ -1,5 +1,5 @@
 """Adds the source tree to a project with targets of the same names, builds that project's own target with the program that
-is built already, runs it, and installs the rest as a distribution does: the same files as the build beside it installs."""
+is already built, runs it, and installs the rest like a distribution: the same files as the other build installs."""
 import filecmp
 import pathlib
 import subprocess
@@ -9,7 +9,7 @@ from packaging import NUMBER, compile_by_pkg_config, expect, options, run, russi
 
 
 def installed(prefix, library):
-    """The relative names of what two installations must have in common, without the packages' own paths."""
+    """The relative paths of the files that two installations must have in common."""
     return {str(path.relative_to(prefix)).replace(f"{library.relative_to(prefix)}/", "LIB/"): path
             for path in prefix.rglob("*") if path.is_file() and path.suffix not in (".cmake", ".pc")}
 
@@ -41,7 +41,7 @@ with tempfile.TemporaryDirectory(prefix="lumora-parent-") as folder:
     [other] = (folder / "other").rglob("liblumora.so")
     mine, theirs = installed(usr, library.parent), installed(folder / "other", other.parent)
     for name in sorted(set(mine) & set(theirs)):
-        # Debug information names folders.
+        # Debug information contains folder names.
         if "BUILD_TYPE:STRING=Release" in cache and not filecmp.cmp(mine[name], theirs[name], shallow=False):
             raise SystemExit(f"{name} differs between two builds in different folders")
     # The parent project builds no program.

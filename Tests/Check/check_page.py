@@ -1,4 +1,4 @@
-"""Runs the examples of Docs/check.md: where the page says so, exactly the rule of its section is found; otherwise nothing is."""
+"""Runs the examples of Docs/check.md: exactly the rule of the section is found where the page says so, otherwise nothing."""
 import base64
 import json
 import pathlib
@@ -7,7 +7,7 @@ import subprocess
 import sys
 import tempfile
 
-# A white pixel: the page cannot show what is in a bitmap.
+# A white pixel, because the page cannot show the contents of a bitmap.
 PIXEL = base64.b64decode("iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAAAAAA6fptVAAAACklEQVR4nGP4DwABAQEAsTj2FAAAAABJRU5ErkJggg==")
 BITMAP = re.compile(r'"filename": "([^"]+\.png)"')
 BLOCK = re.compile(r"```\w+ (\S+)\n(.*?)```", re.DOTALL)
@@ -45,7 +45,7 @@ def main(page, program):
         if set(examples) != {"Found", "Not found"}:
             faults.append(f"{rule}: has {sorted(examples)}")
             continue
-        # What the second example does not show is as in the first.
+        # Files that are not in the second example are as in the first.
         examples["Not found"] = examples["Found"] | examples["Not found"]
         for name, expected in (("Found", [rule]), ("Not found", [])):
             rules, complaint = found(program, rule, examples[name], arguments)

@@ -1,4 +1,4 @@
-"""lumora export and import from outside: with the tools of gettext, over real sources and faulty files."""
+"""Runs lumora export and import with the tools of gettext, on real sources and invalid files."""
 import json
 import os
 import pathlib
@@ -35,7 +35,7 @@ def units(file):
 
 
 def marked(file):
-    """Another tool's work: gives every unit a translation made of its source."""
+    """Acts as a translation tool: gives every unit a translation made from its source."""
     if file.suffix == ".po":
         gettext("msgattrib", "--no-wrap", "--clear-fuzzy", file, "-o", file)
 
@@ -83,7 +83,7 @@ class Exchange(unittest.TestCase):
         return file
 
     def check(self, file):
-        """What the formats demand."""
+        """Checks the requirements of the formats."""
         if file.suffix == ".po":
             gettext("msgfmt", "-c", "-o", os.devnull, file)
             return
@@ -128,11 +128,11 @@ class Exchange(unittest.TestCase):
                         made = unit.find(NAMESPACE + "target").text
                         if format == "xliff":
                             self.assertEqual(made, unit.find(NAMESPACE + "source").text + "»")
-                        else:  # gettext takes the source of a form from the other one
+                        else:  # gettext has one source for all forms
                             self.assertTrue(made.endswith("»"))
                     self.assertEqual(units(self.export(source, language, "xliff", "--missing")), [])
                     self.assertEqual(run("check", source, "--disable", "untranslated", "--level", "error")[0], 0)
-                    if not new:  # the old texts bring the old files back
+                    if not new:  # importing the old texts restores the old files
                         self.assertEqual(run("import", self.folder / "original.xliff", "--into", source)[0], 0)
                         self.assertEqual(contents(source), before)
 
@@ -251,7 +251,7 @@ class Exchange(unittest.TestCase):
         self.assertEqual(run("import", file, "--into", self.folder / "none")[0], 2)
         for arguments in (["--language", "en"], ["--language", "Base"], ["--language", "x/y"], []):
             self.assertEqual(run("export", source, *arguments, "-o", self.folder / "x.po")[0], 2)
-        # One of the files cannot be made: none is changed.
+        # One of the files cannot be created, so none is changed.
         file = self.export(source, "es", "xliff")
         marked(file)
         (source / "es.lproj").write_text("not a folder")

@@ -1,4 +1,4 @@
-"""Fails if generated objects run code when they are loaded, relocate per entry, or show other symbols than their
+"""Fails if generated objects run code when they are loaded, have relocations for each entry, or export symbols other than their
 accessors and constants."""
 import re
 import subprocess
@@ -12,7 +12,7 @@ SHOWN = re.compile(r"\s*\d+: .* GLOBAL +DEFAULT +\d+ (\S+)")
 
 
 def output(*command):
-    # readelf may cut a name in the middle of a letter.
+    # readelf may truncate a name in the middle of a character.
     return subprocess.run(command, check=True, stdout=subprocess.PIPE, text=True, errors="replace").stdout
 
 

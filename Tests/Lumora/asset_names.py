@@ -1,4 +1,4 @@
-"""Compares the assets of the compiled bundle, and the constants in their order, with the list of the drawings' names."""
+"""Compares the assets of the compiled bundle and the order of the constants with the list of drawings."""
 import json
 import pathlib
 import re

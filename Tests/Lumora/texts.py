@@ -1,4 +1,4 @@
-"""Checks the texts of the source bundle: each table against the development texts, key by key."""
+"""Compares the texts of the source bundle with the development texts, key by key."""
 import collections
 import json
 import pathlib
@@ -9,12 +9,12 @@ import sys
 PLACEHOLDER = re.compile(r"%(?:(\d+)\$)?(@|ld)")
 LANGUAGES = ("Base ar de es es-419 fr id it ja ko nl pl pt-BR pt-PT ru th tr vi zh-Hans").split()
 COUNTS = {"Localizable": 1362, "Community": 18, "UserProfile": 17, "ClientProfileCell": 2, "TrainingCourse": 2}
-# Where French wants a no-break space: a plain one, or none after a letter.
+# French needs a no-break space here: finds a plain space, or no space after a letter.
 FRENCH_PLAIN_SPACE = re.compile(r" [;:!?%»]|« |[^\W\d_][;!?](?!\w)")
 
 
 def kinds(text):
-    """The kinds of a text's placeholders by position, or a complaint."""
+    """The kinds of a text's placeholders by position, or an error message."""
     found = PLACEHOLDER.findall(text.replace("%%", ""))
     if "%" in PLACEHOLDER.sub("", text.replace("%%", "")):
         return "a percent sign that begins no placeholder"

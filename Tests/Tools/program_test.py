@@ -1,4 +1,4 @@
-"""The program lumora from outside: what it prints, what it writes, how it ends."""
+"""Tests the program lumora: its output, the files that it writes, its exit status."""
 import json
 import os
 import pathlib
@@ -25,7 +25,7 @@ class Program(unittest.TestCase):
     def setUp(self):
         self.held = tempfile.TemporaryDirectory()
         self.folder = pathlib.Path(self.held.name)
-        os.chdir(self.folder)  # for what is made by mistake
+        os.chdir(self.folder)  # for files that are created by mistake
 
     def tearDown(self):
         os.chdir("/")
@@ -60,7 +60,7 @@ class Program(unittest.TestCase):
         self.write("x.bundle/ru.lproj/T.strings", '"a" = "%2$@ и %1$@";')
         self.assertEqual(run("text", "--bundle", self.folder / "x.bundle", "--language", "ru", "--table", "T", "a", "1", "2")[1]
                          .decode(), "2 и 1\n")
-        # A damaged table is silent in the library. Here it is told, where it may be the one that has the key.
+        # The library ignores damaged tables. The program reports one if the key may be in it.
         self.write("x.bundle/Base.lproj/T.strings", '"base" = "Base";')
         damaged = self.write("x.bundle/ru.lproj/T.strings", '"a" = "b";\n"c" = ;')
         text = ("text", "--bundle", self.folder / "x.bundle", "--language", "ru", "--table", "T")
@@ -81,7 +81,7 @@ class Program(unittest.TestCase):
         for word in ("something else", "x" * 5000):
             self.assertNotIn("did you mean", run(word)[2])
             self.assertNotIn("did you mean", run("text", word)[2])
-        # Each has every command, and is well-formed for the program that reads it, where that is installed.
+        # Each has every command, and is well-formed for the program that reads it, if that is installed.
         commands = re.findall(r"^  ([a-z]+) ", run("help")[1].decode().split("Subcommands:")[1], re.M)
         self.assertIn("check", commands)
         for format, reader in (("man", ["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z"]), ("bash", ["bash", "-n"]),
@@ -154,7 +154,7 @@ class Program(unittest.TestCase):
         self.assertEqual(real.stat().st_mode & 0o777, 0o600)
         self.assertEqual(run("table", file, "--to", "strings", "-o", "-"), (0, b'"a" = "b";\n', ""))
         self.assertEqual(run("asset", "send", "-o", "-")[1][:4], b"\x89PNG")
-        # By a link of our own: the machine's /dev/stdout is not for trying out.
+        # Through a link, so that the test cannot damage /dev/stdout.
         own = self.folder / "stdout"
         own.symlink_to("/proc/self/fd/1")
         self.assertEqual(run("table", file, "-o", own)[1], b'{\n  "a": "b"\n}\n')
@@ -206,7 +206,7 @@ class Program(unittest.TestCase):
         self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle"), (0, b"", ""))
         self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
                          b"Hello, Bo\n")
-        # It has no assets, and so no catalog. Without the bundle nobody can know.
+        # It has no assets and therefore no catalog. Without the bundle this is unknown.
         bundle = self.folder / "Shop.bundle"
         self.assertEqual(run("assets", "--bundle", bundle), (0, b"", ""))
         self.assertEqual(run("asset", "send", "--bundle", bundle, "-o", "-"),
@@ -253,7 +253,7 @@ class Program(unittest.TestCase):
         names = self.write("names.strings", '"Words/a b" = "Pair.second";')
         self.assertNotIn("accessor", run(*generate, "--names", names)[2])
         self.assertIn("namespace Shop::ShopStrings::Words::Pair {", (self.folder / "strict/ShopStrings/Words.h").read_text())
-        # A lone message carries its count: one line for one fault.
+        # A single message contains the count, so that one error gives one line.
         status, out, err = run("generate", self.folder / "none", "--module", "Shop", "-o", self.folder / "tree")
         self.assertEqual((status, out, err), (2, b"", f"{self.folder / 'none'}: error: is not a folder of resources (1 error, 0 warnings)\n"))
 
@@ -282,13 +282,13 @@ class Program(unittest.TestCase):
             f"text\t{tree}Strings::More::files(integer)\tMore\tfiles",
             f"text\t{tree}Strings::Words::Hello::name(text, number)\tWords\thello.name",
             f"text\t-\tWords\t\t{reason}", f"image\t{tree}Asset::Looks::a\tLooks\ta"])
-        # Compiled, the plural text chooses its form.
+        # In the compiled bundle, the plural text chooses its form.
         self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle")[0], 0)
         for count, text in (("1", b"1 file\n"), ("5", b"5 files\n")):
             self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "More", "files", count)[1], text)
 
     def versions(self):
-        """Two source bundles, "1" and "2", of some size; and what the compiled one says in all its tables."""
+        """Two source bundles, "1" and "2"; returns the texts in all tables of the compiled one."""
         for version in "12":
             for table in range(20):
                 self.write(f"{version}/Base.lproj/T{table}.strings",
@@ -299,7 +299,7 @@ class Program(unittest.TestCase):
     def test_compile_without_room_keeps_the_old_bundle(self):
         self.versions()
         self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
-        # Python ignores the signal of a file that grows too large; so does the program then, and its write fails.
+        # Python ignores the signal for a file that grows too large, and so does its child; the write fails.
         done = subprocess.run([PROGRAM, "compile", self.folder / "2", "-o", self.folder / "App.bundle"], capture_output=True,
                               timeout=60, text=True, restore_signals=False,
                               preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (5000, 5000)))
@@ -321,7 +321,7 @@ class Program(unittest.TestCase):
             versions, count = self.versions()
             self.assertEqual((len(versions), count), (1, 20))
         self.assertGreater(killed, 0)
-        # What the killed ones left, the next one takes away.
+        # The next one removes the leftovers of the killed ones.
         self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
         self.assertEqual({path.name for path in self.folder.iterdir() if next(path.iterdir(), None)}, {"1", "2", "App.bundle"})
 

@@ -1,4 +1,4 @@
-"""lumora watch from outside: what it makes after each kind of change, and how it ends."""
+"""Tests lumora watch: its output after each kind of change, and how it ends."""
 import os
 import pathlib
 import queue
@@ -17,7 +17,7 @@ class Watch(unittest.TestCase):
     def setUp(self):
         self.held = tempfile.TemporaryDirectory()
         self.folder = pathlib.Path(self.held.name)
-        self.source, self.bundle = self.folder / "Source", self.folder / "Source/Made.bundle"  # the bundle may be in the source
+        self.source, self.bundle = self.folder / "Source", self.folder / "Source/Made.bundle"  # the bundle may be inside the source
         self.write("en.lproj/T.strings", 'a = "one";')
         self.process = subprocess.Popen([PROGRAM, "watch", self.source, "-o", self.bundle], stdout=subprocess.PIPE,
                                         stderr=subprocess.STDOUT, text=True)
@@ -45,7 +45,7 @@ class Watch(unittest.TestCase):
             pass
 
     def expect(self, text, *, language="en", key="a"):
-        """The next compiles bring the bundle to this text; one change may be seen in two."""
+        """The next compiles give the bundle this text; a change may need two compiles."""
         while self.text(language, key) != text:
             self.assertRegex(self.next(), "compiled in")
 
@@ -56,10 +56,10 @@ class Watch(unittest.TestCase):
     def test_every_kind_of_change(self):
         table = self.write("en.lproj/T.strings", 'a = "two";')
         self.expect("two")
-        # As editors do: a file beside it, renamed.
+        # Like editors: a new file that is renamed.
         self.write("en.lproj/.T.swp", 'a = "three";').rename(table)
         self.expect("three")
-        # A folder that is new, filled at once; one that is renamed; and what happens in it then.
+        # A new folder that is filled at once, a renamed one, and changes in it afterwards.
         self.write("Deep/er/de.lproj/T.strings", 'a = "drei";')
         self.expect("drei", language="de")
         (self.source / "Deep").rename(self.source / "Else")
@@ -67,14 +67,14 @@ class Watch(unittest.TestCase):
         self.expect("vier", language="de")
         shutil.rmtree(self.source / "Else")
         self.expect("three", language="de")
-        # A fault leaves the bundle; the repair is seen.
+        # An error does not change the bundle; the correction is compiled.
         table.write_text("a = ")
         self.until(f"{table}:1:")
         self.until("is unchanged: T.strings changed")
         self.assertEqual(self.text("en", "a"), "three")
         table.write_text('a = "five";')
         self.expect("five")
-        # The whole folder is another one.
+        # The whole folder is replaced.
         self.source.rename(self.folder / "Old")
         shutil.copytree(self.folder / "Old", self.folder / "New", ignore=shutil.ignore_patterns("*.bundle"))
         (self.folder / "New/en.lproj/T.strings").write_text('a = "six";')
