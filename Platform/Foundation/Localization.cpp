@@ -38,7 +38,7 @@ Localization::Localization(std::string_view name, std::string_view bundle, std::
                            bool mayHavePlurals)
     : name_(name), bundle_(bundle), language_(language), mayHavePlurals_(mayHavePlurals) {}
 
-// Reads a table that is not known and keeps it. A missing table is kept as an empty one while there is room; after that
+// Reads and stores a table that has not been read yet. A missing table is stored as an empty one; if the store is full,
 // the result is null.
 LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
     if (LocalizedTable* const known = tables_.find(name))

@@ -1,5 +1,5 @@
 // Foundation/LocalizedKey.h
-// The name of a text: a key in a table, with the hashes that a look-up starts from.
+// The name of a text: a key in a table, with the hashes of both for a look-up.
 // Text: UTF-8. Threads: plain values. Ownership: borrows both texts.
 #pragma once
 
@@ -10,12 +10,12 @@
 namespace Foundation {
 
 struct LocalizedKey {
-    // With the hashes computed. An empty table is "Localizable".
+    // Computes the hashes. An empty table name means "Localizable".
     [[nodiscard]] LUMORA_EXPORT static LocalizedKey of(std::string_view table, std::string_view key) noexcept;
 
     std::string_view table; // not empty
     std::string_view key;   // exact
-    // `lumora generate` writes them into the code of modules. Wrong ones only cost time.
+    // The code of `lumora generate` contains them. Look-ups with wrong hashes only take longer.
     std::uint64_t tableHash;
     std::uint64_t keyHash;
 };

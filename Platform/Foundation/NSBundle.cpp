@@ -107,8 +107,8 @@ struct NSBundle::Contents {
         return number;
     }
 
-    // What `use` makes of what is found: the LocalizedFormat of a plural, or a FoundText, which is none where no table
-    // has the key.
+    // Calls `use` with what was found: the LocalizedFormat of a plural, or a FoundText, which is empty if no table has
+    // the key.
     template <class Use> auto lookUp(const LocalizedKey& key, Use&& use) {
         const Chain& chain = chains[preferred()];
         for (auto at = chain.begin(); *at != nullptr; ++at) {

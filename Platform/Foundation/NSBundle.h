@@ -49,7 +49,7 @@ public:
     [[nodiscard]] std::optional<LocalizedFormat> findLocalized(const LocalizedKey& key) const;
     // The same, but with `key` itself as the text when no table has it.
     [[nodiscard]] LocalizedFormat localizedFormat(std::string_view key, std::string_view table) const;
-    // The finished text: localizedFormat() with its placeholders replaced, in the user's current locale.
+    // The formatted text: localizedFormat() with its placeholders replaced, in the user's current locale.
     [[nodiscard]] std::string formattedText(const LocalizedKey& key, std::span<const FormatArgument> arguments) const;
     // The text of localizedFormat(): a view that lives until the process ends, or `key`.
     [[nodiscard]] std::string_view localizedText(std::string_view key, std::string_view table) const;
@@ -61,7 +61,7 @@ public:
     [[nodiscard]] std::optional<std::string> tableDamage(std::string_view table) const;
     // The path of the file NAME.TYPE (NAME if TYPE is empty) of one localization ("Base" is one), in the subfolder
     // `directory` of the localization's folder unless that is empty. No value when there is no such file or a name
-    // would leave the bundle, or a link leads out of it. Throws std::system_error on transient errors.
+    // would leave the bundle, or if a link leads out of it. Throws std::system_error on transient errors.
     [[nodiscard]] std::optional<std::string> pathForResource(std::string_view name, std::string_view type,
                                                              std::string_view directory,
                                                              std::string_view localization) const;

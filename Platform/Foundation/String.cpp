@@ -36,8 +36,8 @@ std::string_view cut(std::string_view text, std::size_t size) noexcept {
     return text.substr(0, size);
 }
 
-// The beginning of a format that has no other placeholders than "%@" for texts; nearly always the whole format. It is
-// put together on the stack, so that the finished text takes one allocation and nothing is kept for other placeholders.
+// The beginning of a format whose only placeholders are "%@" for texts; usually the whole format. Its pieces are
+// collected on the stack, so that the formatted text needs one allocation and no data for other placeholders.
 class PlainBeginning {
 public:
     PlainBeginning(std::string_view format, StringTables::PercentRange percents,
@@ -57,10 +57,10 @@ public:
             put(format.substr(done_));
     }
 
-    // Whether that is all of the format.
+    // Whether this is the whole format.
     bool isWhole() const noexcept { return isWhole_; }
     std::string_view text() const noexcept { return {buffer_.data(), static_cast<std::size_t>(out_ - buffer_.data())}; }
-    // Of the format; the text up to the next placeholder is not in it unless it is the whole format.
+    // The size in the format. The text before the next placeholder is included only if this is the whole format.
     std::size_t size() const noexcept { return done_; }
     std::size_t arguments() const noexcept { return taken_; }
 
@@ -72,7 +72,7 @@ private:
         return size <= buffer_.size();
     }
     static std::size_t nextPercent(std::string_view format, std::size_t from) noexcept {
-        const bool isThere = from < format.size() && format[from] == '%'; // spares the call
+        const bool isThere = from < format.size() && format[from] == '%'; // avoids the call
         return isThere ? from : format.find('%', from);
     }
     void put(std::string_view text) noexcept { out_ += text.copy(out_, text.size()); }
@@ -83,7 +83,7 @@ private:
     bool isWhole_ = false;
 };
 
-// Appends what follows the plain beginning of a format.
+// Formats the rest after the plain beginning of a format.
 class Formatter {
 public:
     Formatter(std::string_view format, const Locale* locale, std::span<const FormatArgument> arguments) noexcept
@@ -239,14 +239,14 @@ private:
 
     std::string out_;
     std::string_view format_;
-    const Locale* locale_; // null: the user's current one, as it is when the first number needs it
+    const Locale* locale_; // null: the user's current one, read when the first number needs it
     std::span<const FormatArgument> arguments_;
     std::size_t limit_; // of out_
     ArgumentCounter counter_;
     detail::Kept<Intl::NumberPattern> pattern_; // loaded for the first number
 };
 
-// A function of its own, so that a format that is all plain takes no registers for it.
+// A separate function, so that it needs no registers for a plain format.
 [[gnu::noinline]] std::string completed(const PlainBeginning& beginning, std::string_view format, const Locale* locale,
                                         std::span<const FormatArgument> arguments) {
     return Formatter(format, locale, arguments).run(beginning);

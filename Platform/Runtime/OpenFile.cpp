@@ -21,12 +21,12 @@ Error cannotBeRead(const OpenFile& file) {
     return error;
 }
 
-// Without O_NONBLOCK the opening of a pipe would wait for its writer.
+// Without O_NONBLOCK, opening a pipe would wait for its writer.
 constexpr int openFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
 
 constexpr int leadsOut = EXDEV;
 
-// Fails with ELOOP where there is a link on the way.
+// Fails with ELOOP if there is a link on the path.
 int openWithoutLinks(const std::string& path, int flags) noexcept {
     open_how how{};
     how.flags = static_cast<__u64>(flags);
@@ -40,7 +40,7 @@ std::string resolved(const std::string& path) {
     return real == nullptr ? std::string() : std::string(real.get());
 }
 
-// Negative with errno on failure, leadsOut for a link out of the folder.
+// Negative with errno on failure; leadsOut for a link out of the folder.
 int openInside(const std::string& path, std::string_view folder, int flags) {
     const int descriptor = openWithoutLinks(path, flags);
     const bool hasLinks = descriptor < 0 && errno == ELOOP;
@@ -68,7 +68,7 @@ Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit, std:
         return folder.empty() ? ::open(path.c_str(), openFlags) : openInside(path, folder, openFlags);
     };
     file.descriptor_ = Descriptor(tryOpen());
-    // A folder on the way may have been exchanged for another and its files removed while the path was followed.
+    // A folder on the path may have been replaced and its files removed while the path was followed.
     if (file.descriptor_.number() < 0 && errno == ENOENT)
         file.descriptor_ = Descriptor(tryOpen());
     if (file.descriptor_.number() < 0 && errno == leadsOut)

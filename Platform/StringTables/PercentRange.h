@@ -1,5 +1,5 @@
 // StringTables/PercentRange.h
-// Where in a text its percent signs are, so that a formatter need not look through all of it.
+// The part of a text that contains all its percent signs, so that a formatter need not search the whole text.
 // Threads: plain values.
 #pragma once
 
@@ -10,12 +10,12 @@
 
 namespace StringTables {
 
-// No percent sign of the text is outside of the bytes from begin() to end(text).
+// All percent signs of the text are in the bytes from begin() to end(text).
 class PercentRange {
 public:
     // The whole text.
     constexpr PercentRange() noexcept = default;
-    // The smallest one; of a text of 64 KB or more, the whole text.
+    // The smallest range; for a text of 64 KB or more, the whole text.
     static constexpr PercentRange of(std::string_view text) noexcept {
         if (text.size() >= toTheEnd)
             return {};
@@ -27,7 +27,7 @@ public:
     constexpr std::size_t begin() const noexcept { return begin_; }
     constexpr std::size_t end(std::string_view text) const noexcept { return end_ == toTheEnd ? text.size() : end_; }
 
-    // As one number, at most `largestPacked`.
+    // Both ends in one number, at most `largestPacked`.
     constexpr std::uint32_t packed() const noexcept { return std::uint32_t{begin_} << 16 | end_; }
     static constexpr PercentRange unpacked(std::uint32_t packed) noexcept { return {packed >> 16, packed & toTheEnd}; }
     static constexpr std::uint32_t largestPacked = 0xFFFE'FFFF;

@@ -192,7 +192,7 @@ private:
 
     PluralFormat plural_;
     bool hasFormat_ = false;
-    std::size_t variables_ = 0; // of the entry so far
+    std::size_t variables_ = 0; // in the entry so far
     PluralVariable variable_;
     bool isPlural_ = false;
     bool isChoice_ = false; // not a variable, but the texts of `choice_`
@@ -253,7 +253,7 @@ Runtime::Result<PluralTable> PluralTable::read(std::string bytes) {
 }
 
 Runtime::Result<PluralTable> PluralTable::readFile(const std::string& path, std::string_view bundle,
-                                                 Comments comments) {
+                                                   Comments comments) {
     auto bytes = Runtime::readFile(path, Table::maxBytes, bundle);
     if (!bytes)
         return std::move(bytes.error());

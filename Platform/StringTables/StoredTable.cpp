@@ -68,7 +68,7 @@ StoredTable::~StoredTable() {
         std::destroy_at(const_cast<Whole*>(&whole_.value())); // a OnceSlot never destroys its value
 }
 
-// Looks up in a table that is not a compiled one, or again with the right hash if the given one was wrong.
+// Looks up a key in a table that is not compiled, or again with the correct hash if the given one was wrong.
 FoundText StoredTable::Whole::findOther(std::string_view key, std::uint64_t hash) const noexcept {
     if (!compiled) {
         const auto text = other.find(key);

@@ -144,7 +144,7 @@ std::string withArguments(PluralPieces pieces, std::string_view text, const Plur
     return out;
 }
 
-// The form with `placeholder` for each "%arg".
+// The form with each "%arg" replaced by `placeholder`.
 std::string withoutArg(std::string_view form, std::string_view placeholder) {
     constexpr std::string_view arg = "%arg";
     std::string out;

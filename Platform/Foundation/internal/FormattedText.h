@@ -1,5 +1,5 @@
 // Foundation/internal/FormattedText.h
-// Formatting as String::format() does it, for callers that know more of the text; internal.
+// Formatting like String::format(), for callers that know more about the text; internal.
 // Text: UTF-8. Threads: any; no state. Errors: those of String::format().
 #pragma once
 
@@ -12,8 +12,8 @@
 
 namespace Foundation::detail {
 
-// `percents`: where `format` has its percent signs. `locale`: null for the user's current one, which is read only where
-// a number needs it.
+// `percents`: the places of the percent signs in `format`. `locale`: null for the user's current one, which is read
+// only if a number needs it.
 [[nodiscard]] std::string formattedText(std::string_view format, StringTables::PercentRange percents,
                                         const Locale* locale, std::span<const FormatArgument> arguments);
 

@@ -22,8 +22,8 @@ public:
     // BCP 47.
     std::string_view language() const noexcept { return language_; }
 
-    // The table of that name, or null. `hash`: of the name. Throws std::bad_alloc, and std::system_error on transient
-    // errors.
+    // The table with that name, or null. `hash`: the hash of the name. Throws std::bad_alloc, and std::system_error on
+    // transient errors.
     LocalizedTable* table(std::string_view name, std::uint64_t hash) {
         LocalizedTable* const known = tables_.find(name, hash);
         return known != nullptr ? known : knownOrLoaded(name);

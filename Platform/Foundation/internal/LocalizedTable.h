@@ -1,6 +1,6 @@
 // Foundation/internal/LocalizedTable.h
 // The texts and plurals of one table in one language; internal.
-// Threads: any; look-ups of what was read take no lock. Ownership: views live as long as the table.
+// Threads: any; look-ups in a table that was read take no lock. Ownership: views live as long as the table.
 #pragma once
 
 #include "Foundation/LocalizedFormat.h"
@@ -17,20 +17,20 @@ namespace Foundation::detail {
 
 class LocalizedTable {
 public:
-    // `texts`: the path of a table, which is read when it is needed. `bundle`: how many of its characters are the
-    // bundle's path.
+    // `texts`: the path of a table, which is read when it is needed. `bundle`: the length of the bundle's path, with
+    // which it begins.
     LocalizedTable(std::string texts, std::size_t bundle, StringTables::PluralTable plurals);
 
-    // Those of the table TABLE.stringsdict. `language`: whose rules choose plural forms.
+    // From TABLE.stringsdict. `language`: the language whose rules choose plural forms.
     bool hasPlurals() const noexcept { return !plurals_.entries().empty(); }
     std::optional<LocalizedFormat> findPlural(std::string_view key, std::string_view language) const noexcept;
-    // Those of the table TABLE.strings. `hash`: of the key. Throws as StoredTable::find().
+    // From TABLE.strings. `hash`: the hash of the key. Throws like StoredTable::find().
     StringTables::FoundText findText(std::string_view key, std::uint64_t hash) { return texts_.find(key, hash); }
 
 private:
     StringTables::StoredTable texts_;
     StringTables::PluralTable plurals_;
-    std::vector<std::string> pluralTexts_; // of the plurals, where there are no numbers
+    std::vector<std::string> pluralTexts_; // for look-ups of plurals without numbers
 };
 
 } // namespace Foundation::detail

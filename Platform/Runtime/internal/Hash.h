@@ -57,14 +57,14 @@ inline std::uint64_t hashBytes(std::string_view bytes, std::uint64_t seed) noexc
     return mixed(mixed(a ^ first, b ^ second) ^ bytes.size(), hashSpread);
 }
 
-// The hash of a name: of a key in compiled tables and in generated code, of what a KeyedStore keeps. It is written down
-// in files and in the code of modules, so a change needs a new mark of the index of compiled tables. Generated code of
-// another version only costs time.
+// The hash of a name, used for keys in compiled tables, in generated code and in a KeyedStore. Compiled tables contain
+// it, so a change needs a new version of their index. Generated code with other hashes only takes longer.
 [[nodiscard]] inline std::uint64_t keyHash(std::string_view key) noexcept {
     return hashBytes(key, hashSpread);
 }
 
-// Whether two names are equal; without a call for those of 8 to 16 bytes, which takes longer than the comparison.
+// Whether two names are equal. Compares names of 8 to 16 bytes without a call, which would take longer than the
+// comparison.
 [[nodiscard]] inline bool isSameName(std::string_view a, std::string_view b) noexcept {
     static constexpr std::size_t wordSize = sizeof(std::uint64_t);
     if (a.size() != b.size() || a.size() < wordSize || a.size() > 2 * wordSize)

@@ -28,7 +28,7 @@ public:
 
     // The value of `key` (exact), or null.
     T* find(std::string_view key) const noexcept { return find(key, keyHash(key)); }
-    // With `hash`, which is keyHash(key); with a wrong one nothing is found.
+    // The same with `hash`, which is keyHash(key). With a wrong hash nothing is found.
     T* find(std::string_view key, std::uint64_t hash) const noexcept {
         return search(bucket(hash).load(std::memory_order_acquire), hash, key);
     }

@@ -17,10 +17,10 @@ class OpenFile {
 public:
     // Opens the regular file at `path`. Errors name it: the system refused, it is not a regular file, it has more than
     // `limit` bytes. Never blocks on a pipe.
-    // `folder`, if it is not empty, is the beginning of `path`: a link below it that leads out of it is an error, too.
+    // If `folder` is not empty, `path` begins with it, and a link in it that leads out of it is an error, too.
     [[nodiscard]] static Result<OpenFile> open(const std::string& path, std::size_t limit,
                                                std::string_view folder = {});
-    // Whether a file or folder of any kind is at `path`, and is inside of `folder`.
+    // Whether there is a file or folder of any kind at `path` and it is inside `folder`.
     [[nodiscard]] static Result<void> exists(const std::string& path, std::string_view folder);
 
     std::size_t size() const noexcept { return identity_.size; } // at the time of opening

@@ -42,12 +42,13 @@ public:
     }
 
 private:
-    // The states of a slot. An intact one is this number plus the packed range of the text's percent signs.
+    // The states of a slot. The state of an intact slot is this number plus the packed range of the text's percent
+    // signs.
     static constexpr std::uint32_t unknown = 0, damaged = 1, intact = 2;
     static_assert(PercentRange::largestPacked + std::uint64_t{intact} <= 0xFFFF'FFFF);
 
     bool isInside(std::size_t at, std::size_t size) const noexcept { return at + size <= front_.size(); }
-    // The state of a slot that was unknown.
+    // Determines the state of a slot whose state is unknown.
     std::uint32_t check(std::uint32_t number, const CompiledIndex::Slot& slot, std::uint64_t hash,
                         std::string_view text) const noexcept;
 

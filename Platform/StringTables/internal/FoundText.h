@@ -1,7 +1,7 @@
 // StringTables/internal/FoundText.h
-// A text that was found in a table, or none.
-// Threads: plain values. Ownership: borrows the text. Sixteen bytes, which functions return in registers: as an
-// optional view in memory it takes longer than the look-up.
+// The result of a look-up in a table: a text or nothing.
+// Threads: plain values. Ownership: borrows the text. It has 16 bytes, so functions return it in registers; returning
+// an optional view in memory would take longer than the look-up.
 #pragma once
 
 #include "StringTables/PercentRange.h"
@@ -13,7 +13,7 @@ namespace StringTables {
 class FoundText {
 public:
     constexpr FoundText() noexcept = default; // none
-    // Of at most 4 GB. `percents`: where the text has its percent signs.
+    // A text of at most 4 GB. `percents`: the places of its percent signs.
     constexpr explicit FoundText(std::string_view text, PercentRange percents = {}) noexcept
         : begin_(text.empty() ? "" : text.data()), size_(static_cast<std::uint32_t>(text.size())), percents_(percents) {
     }

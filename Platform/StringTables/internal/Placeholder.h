@@ -106,8 +106,8 @@ struct FormatSignature {
         Kind first, later;
     };
 
-    // By position; no value for an argument that no placeholder takes. In a conflict the first kind counts. The last of
-    // mostArguments stands for all behind it: "%9999$d" makes no list of 9,999.
+    // By position; no value for an argument that no placeholder takes. In a conflict it is the first kind. The last of
+    // mostArguments represents all later ones, so that "%9999$d" does not make a list of 9,999.
     static constexpr std::size_t mostArguments = 256;
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one

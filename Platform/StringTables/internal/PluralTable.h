@@ -53,7 +53,7 @@ public:
     [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path, std::string_view bundle = {},
                                                                Comments comments = Comments::areSkipped);
     static constexpr std::size_t maxTextBytes = std::size_t{64} << 20;
-    // Of one entry; further ones are left out with a note.
+    // The limit for one entry; the rest is left out with a note.
     static constexpr std::size_t maxVariables = 256;
 
     // The entry of `key` (exact), or null. Never fails.

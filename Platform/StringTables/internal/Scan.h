@@ -50,8 +50,8 @@ inline const char* skipAscii(const char* at, const char* end) noexcept {
     while (end - at >= 16 && ((word(at) | word(at + 8)) & high) == 0)
         at += 16;
 #endif
-    // A short rest: two possibly overlapping loads are cheaper than a loop of unpredictable length. It is longer only
-    // where one of its first sixteen bytes is not ASCII.
+    // For a short rest, two possibly overlapping loads are faster than a loop of unpredictable length. The rest is
+    // longer only if one of its first sixteen bytes is not ASCII.
     if (end - at >= 8 && end - at <= 16 && ((word(at) | word(end - 8)) & high) == 0)
         return end;
     while (at != end && static_cast<unsigned char>(*at) < 0x80)

@@ -20,10 +20,9 @@ namespace StringTables {
 
 class StoredTable {
 public:
-    // Reads nothing yet. `bundle`: how many characters of the path are the folder that links must not lead out of; 0 for
-    // none.
-    explicit StoredTable(std::string path, std::size_t bundle = 0) noexcept
-        : path_(std::move(path)), bundle_(bundle) {}
+    // Reads nothing yet. `bundle`: the length of the path of the folder that links must not lead out of, with which
+    // `path` begins; 0 for none.
+    explicit StoredTable(std::string path, std::size_t bundle = 0) noexcept : path_(std::move(path)), bundle_(bundle) {}
     StoredTable(const StoredTable&) = delete;
     StoredTable& operator=(const StoredTable&) = delete;
     ~StoredTable();
@@ -36,7 +35,7 @@ public:
         const auto found = find(key, Runtime::keyHash(key));
         return found ? std::optional(found.text()) : std::nullopt;
     }
-    // `hash` is Runtime::keyHash(key). A wrong hash only costs time.
+    // `hash` is Runtime::keyHash(key). With a wrong hash it only takes longer.
     [[nodiscard]] FoundText find(std::string_view key, std::uint64_t hash) {
         if (!whole_.isMade()) [[unlikely]]
             return findInParts(key, hash);
