@@ -103,7 +103,7 @@ TEST(PluralTable, NotesWhatIsSkipped) {
     }
 }
 
-TEST(PluralTable, HasALimitOfVariables) {
+TEST(PluralTable, VariablesAreBounded) {
     std::string variables;
     for (std::size_t i = 0; i <= PluralTable::maxVariables; ++i)
         variables += dict("v" + std::to_string(i), text("other", "x"));
@@ -113,7 +113,7 @@ TEST(PluralTable, HasALimitOfVariables) {
     EXPECT_EQ(notesOf(*table), "2:1: the entry \"k\" has more than 256 variables; those behind are skipped\n");
 }
 
-TEST(PluralTable, ErrorsNameTheirPlace) {
+TEST(PluralTable, ErrorsHaveLocations) {
     const struct {
         int line;
         std::string source, error;
@@ -132,7 +132,7 @@ TEST(PluralTable, ErrorsNameTheirPlace) {
     EXPECT_EQ(PluralTable::read("")->entries().size(), 0U);
 }
 
-TEST(PluralTable, KnowsTheArgumentsOfAllForms) {
+TEST(PluralTable, ListsTheArgumentsOfAllForms) {
     using Kind = StringTables::Placeholder::Kind;
     const auto variable = [](const std::string& name, const std::string& type, const std::string& one,
                              const std::string& other) {

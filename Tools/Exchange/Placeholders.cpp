@@ -41,7 +41,7 @@ Needs pluralNeeds(PluralPieces pieces) {
     return needs;
 }
 
-// Takes every `mark` out of the text; whether there was one.
+// Removes every `mark` from the text. Returns whether there was one.
 bool take(std::string& text, std::string_view mark) {
     std::string rest;
     std::size_t done = 0;

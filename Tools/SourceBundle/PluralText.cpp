@@ -106,7 +106,7 @@ std::optional<Number> firstNumber(std::string_view form) {
     return std::nullopt;
 }
 
-// The form `other` is looked at first: every language has it.
+// The form `other` is searched first, because every language has it.
 Number numberOf(const PluralForms& forms) {
     for (auto form = forms.rbegin(); form != forms.rend(); ++form)
         if (*form)
@@ -127,7 +127,7 @@ std::size_t indexOf(const PluralVariable& variable, const PluralFormat& plural) 
     return static_cast<std::size_t>(&variable - plural.variables.data());
 }
 
-// `text` with the argument of each variable that it names, "%2$#@files@". `pieces` are those of `text`.
+// `text` with the argument of each of its variables, "%2$#@files@". `pieces` are those of `text`.
 std::string withArguments(PluralPieces pieces, std::string_view text, const PluralFormat& plural,
                           const std::vector<std::size_t>& arguments) {
     std::string out;
@@ -179,7 +179,7 @@ PluralFormat pluralOfForms(PluralForms forms) {
 
 PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substitution> substitutions) {
     PluralFormat plural{format, {}};
-    std::vector<std::size_t> arguments; // of the variables; 0 where it is not known
+    std::vector<std::size_t> arguments; // of the variables; 0 if unknown
     for (auto& [variable, argument] : substitutions) {
         plural.variables.push_back(std::move(variable));
         arguments.push_back(argument);

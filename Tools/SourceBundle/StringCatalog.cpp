@@ -53,7 +53,7 @@ struct Localized {
         return std::ranges::any_of(forms, [](const auto& form) { return form.has_value(); });
     }
     bool isEmpty() const { return !text && !hasForms(); }
-    // What the text for one device says.
+    // Uses the text for one device.
     void take(Localized&& device) {
         text = std::move(device.text);
         forms = std::move(device.forms);
@@ -107,7 +107,7 @@ State stateNamed(std::string_view name) {
 }
 
 struct Unit {
-    std::optional<std::string> text; // none while it waits for its translation
+    std::optional<std::string> text; // no value if it is not translated yet
     State state = State::translated;
 };
 
