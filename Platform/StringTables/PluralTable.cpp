@@ -137,7 +137,7 @@ private:
             return noteEntry(std::string(" has no ").append(pluralKeys::format).append("; it is skipped"));
         if (variables_ > PluralTable::maxVariables)
             noteEntry(" has more than " + std::to_string(PluralTable::maxVariables) +
-                      " variables; those behind are skipped");
+                      " variables; the rest is skipped");
         const auto [known, isNew] = numbers_.try_emplace(keys_[0], entries_.size());
         if (isNew) {
             entries_.emplace_back().key = keys_[0];

@@ -29,7 +29,7 @@ Texts sample(int count) {
                    {"the same", "as a text"},
                    {"long", std::string(5000, 'l')},
                    {"percent signs", "50 % of %@, %d%"},
-                   {"percent signs far behind", std::string(70'000, 'l') + "%@"},
+                   {"percent signs far into the text", std::string(70'000, 'l') + "%@"},
                    {"длинный", std::string(3000, '\0')}};
     for (int i = 0; i < count; ++i)
         texts.emplace("Group.key_" + std::to_string(i),

@@ -110,7 +110,7 @@ TEST(PluralTable, VariablesAreBounded) {
     const auto table = PluralTable::read(list(dict("k", text("NSStringLocalizedFormatKey", "%#@v1@") + variables)));
     ASSERT_TRUE(table);
     EXPECT_EQ(table->find("k")->plural.variables.size(), PluralTable::maxVariables);
-    EXPECT_EQ(notesOf(*table), "2:1: the entry \"k\" has more than 256 variables; those behind are skipped\n");
+    EXPECT_EQ(notesOf(*table), "2:1: the entry \"k\" has more than 256 variables; the rest is skipped\n");
 }
 
 TEST(PluralTable, ErrorsHaveLocations) {
