@@ -69,7 +69,7 @@ void formattedMapAndFmt(benchmark::State& state) {
 }
 BENCHMARK(formattedMapAndFmt);
 
-// Of a table that has been read whole, as it is after the first few texts.
+// From a table that was read as a whole, as it is after the first few texts.
 void formattedText(benchmark::State& state) {
     Foundation::Host::setPreferredLanguages({"en"});
     for (const char* key : {"Continue", "access_tab_title", "Diet.AllDish", "Save"})

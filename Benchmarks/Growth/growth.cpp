@@ -37,7 +37,7 @@ bool holds(const Runtime::Result<Table>& table, const Texts& expected) {
            std::ranges::all_of(expected, [&](const auto& one) { return table->find(one.first) == one.second; });
 }
 
-// Processor time, the least of several runs: others may be at work on the machine.
+// Processor time, the minimum of several runs, because other processes may be running.
 double nanoseconds(const auto& work) {
     const auto now = [] {
         timespec time{};
@@ -55,7 +55,7 @@ double nanoseconds(const auto& work) {
 
 struct Language {
     std::string name;
-    std::string bytes; // what `expected` points into
+    std::string bytes; // `expected` refers to them
     Texts expected;
 };
 

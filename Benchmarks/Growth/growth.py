@@ -1,7 +1,7 @@
 """growth.py BUILD: how the cost of each step grows with the keys and with the languages of a bundle.
 
-Makes bundles, checks what each step made of them, times it (processor time, the best of several runs) and writes the tables into
-Docs/performance.md. The exponent of a step between two sizes is 1 where ten times as much takes ten times as long."""
+Creates bundles, checks the output of each step, times it (processor time, the minimum of several runs) and writes the tables into
+Docs/performance.md. The exponent of a step between two sizes is 1 if ten times as much takes ten times as long."""
 import itertools
 import math
 import os

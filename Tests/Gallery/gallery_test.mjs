@@ -1,4 +1,4 @@
-// The page that `lumora gallery` writes, used in a browser as people use it. Durations are printed, never judged.
+// Tests the page that `lumora gallery` writes in a browser. Durations are printed, but not checked.
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { mkdirSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
@@ -26,7 +26,7 @@ after(async () => {
     rmSync(folder, { recursive: true, force: true });
 });
 
-// A case gets the opened page. What the page reports, and any request of it, fails the case.
+// A case gets the opened page. If the page reports an error or makes a request, the case fails.
 function onPage(name, action, { file = () => ownPage, ...options } = {}) {
     test(name, async (context) => {
         const tab = await browser.newPage({ viewport: { width: 1360, height: 900 }, ...options });
@@ -42,7 +42,7 @@ function onPage(name, action, { file = () => ownPage, ...options } = {}) {
     });
 }
 
-// What `lumora` says of its bundle.
+// The output of `lumora` for its bundle.
 const assetLines = () => execFileSync(program, ["assets"], { encoding: "utf8" }).trim().split("\n");
 const textOf = (language, key) => execFileSync(program, ["text", "--language", language, key], { encoding: "utf8" }).trim();
 const keysShown = (tab) => tab.locator("[data-key]").evaluateAll((rows) => rows.map((row) => row.dataset.key));
@@ -58,7 +58,7 @@ onPage("everything is in the document", async (tab, context) => {
 });
 
 onPage("the search finds keys, accessors and words of every language", async (tab) => {
-    const cases = [ // what is typed, a key or asset that it finds, one that it does not
+    const cases = [ // typed text, a key or asset that is found, one that is not
         ["new_comment", "new_comment", "Continue"],
         ["localizable::continue_", "Continue", "new_comment"],
         ["LumoraStrings::Localizable::Diet::allDish", "Diet.AllDish", "Continue"],
@@ -196,7 +196,7 @@ for (const colorScheme of ["light", "dark"])
         assert.deepEqual(violations.map(({ id, nodes }) => [id, nodes[0].html, nodes[0].failureSummary]), []);
     }, { colorScheme });
 
-// A small source, with what a page could stumble over.
+// A small source with difficult contents.
 function hostileSource() {
     const source = join(folder, "Shop & <Co>");
     const table = (language, text, file = "Odd.strings") => {
