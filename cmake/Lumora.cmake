@@ -107,7 +107,8 @@ function(lumora_shared_library target map)
     if(LUMORA_HAS_PACKED_RELOCATIONS)
         target_link_options(${target} PRIVATE -Wl,-z,pack-relative-relocs)
     endif()
-    # Code and constants in one mapping: two fewer to make, and fewer pages to load, at each process's start.
+    # Code and constants share one mapping, so each process creates two mappings less and loads fewer pages when it
+    # starts.
     if(LUMORA_HAS_NOSEPARATE_CODE)
         target_link_options(${target} PRIVATE -Wl,-z,noseparate-code)
     endif()

@@ -16,7 +16,7 @@ namespace Runtime {
 
 namespace {
 
-// A function of its own: its memory on the stack is not needed for an absolute name.
+// A separate function, because an absolute name does not need its stack memory.
 [[gnu::noinline]] std::string absolutePathOf(link_map* object, const std::string& name) {
     std::array<char, std::size_t{2} * PATH_MAX> origin{};
     if (::dlinfo(object, RTLD_DI_ORIGIN, origin.data()) != 0)
@@ -30,8 +30,9 @@ std::string pathOf(link_map* object) {
     return name.starts_with('/') ? name : absolutePathOf(object, name);
 }
 
-// The path of the file, links followed, from the system's name for an open file: three calls instead of one for each
-// folder. Empty where that gives no name: no descriptors, no /proc, a removed file, a very long path.
+// The path of the file without links, from the system's name for an open file, which takes three calls instead of one
+// for each folder. Empty if there is no such name: without descriptors or /proc, or for a removed file or a very long
+// path.
 std::string openedPath(const std::string& path) {
     const Descriptor file(::open(path.c_str(), O_PATH | O_CLOEXEC));
     if (file.number() < 0)

@@ -54,7 +54,7 @@ std::size_t PluralPieces::numberOf(const PluralVariable& variable) const noexcep
     return static_cast<std::size_t>(&variable - plural_.variables.data());
 }
 
-// Of a variable that is named in a form without a position.
+// For a variable in a form without a position.
 std::size_t PluralPieces::argumentOf(const PluralVariable& named) noexcept {
     if (!mostBefore_)
         countMostBefore();

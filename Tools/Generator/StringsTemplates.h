@@ -140,7 +140,7 @@ struct BundleFinder {
     static constexpr char code = 0;
 };
 
-// Among initialized data: the dynamic linker has written to that page, and one of zeroed memory would cost page faults.
+// Initialized data: the dynamic linker writes to that page anyway, whereas zeroed memory would cause page faults.
 [[gnu::section(".data.start")]] constinit ::Runtime::OnceSlot<const ::Foundation::NSBundle*> found;
 
 const ::Foundation::NSBundle* publishedBundle() {

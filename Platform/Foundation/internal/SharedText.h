@@ -74,7 +74,7 @@ public:
     }
 
 private:
-    // The first text is in the buffer beside the version: most processes touch no other.
+    // The first text is in the buffer next to the version; most processes use no other.
     static constexpr std::size_t bufferOf(std::uint64_t version) noexcept { return (version - 1) % 2; }
 
     std::atomic<std::uint64_t> version_{0};

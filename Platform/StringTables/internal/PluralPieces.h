@@ -49,7 +49,8 @@ private:
     std::size_t own_ = 0;
     std::size_t at_ = 0;
     ArgumentCounter counter_;
-    // By variable, how many arguments come before its name in the form where those are most. Counted when first needed.
+    // For each variable, the number of arguments before it in the form with the most arguments before it. Counted when
+    // first needed.
     std::optional<std::array<std::uint32_t, PluralTable::maxVariables>> mostBefore_;
 };
 
