@@ -1,4 +1,4 @@
-"""Times what developers wait for: compiling the generated source, a source that includes the tree, a bundle after a change.
+"""Times the steps of a build: compiling the generated source, a source that includes the tree, and a bundle after a change.
 Processor time, medians of RUNS runs."""
 import os
 import pathlib
@@ -64,6 +64,6 @@ def bundle_after_a_change(lumora, folder):
 
 
 def measured(lumora):
-    """Seconds: all accessors compiled, what the tree adds to <string>, a bundle compiled after one text changed."""
+    """The seconds for compiling all accessors, for including the tree instead of <string>, and for compiling a bundle with one changed text."""
     with tempfile.TemporaryDirectory() as folder:
         return *compiled_accessors(lumora, pathlib.Path(folder)), bundle_after_a_change(lumora, pathlib.Path(folder))

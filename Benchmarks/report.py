@@ -11,24 +11,24 @@ import builds
 import start
 
 PEERS = ("Gettext", "Icu", "Qt", "Boost")
-# what, ours, beside it, the most that ours may take as a part of it
+# description, our benchmark, the benchmarks to compare with, the aim for the ratio
 RATIOS = [
-    ("a later plain read", "plainText", ["plainFunctionLocalStatic"], 1.1),
-    ("the same beside the fastest peer", "plainText", [f"plain{peer}" for peer in PEERS], None),
+    ("a plain read after the first", "plainText", ["plainFunctionLocalStatic"], 1.1),
+    ("the same, compared with the fastest other library", "plainText", [f"plain{peer}" for peer in PEERS], None),
     ("a formatted read", "formattedText", ["formattedMapAndFmt"], 0.5),
-    ("the same beside snprintf alone", "formattedText", ["formattedSnprintf"], None),
-    ("the same beside the fastest peer", "formattedText", [f"formatted{peer}" for peer in PEERS], None),
+    ("the same, compared with snprintf alone", "formattedText", ["formattedSnprintf"], None),
+    ("the same, compared with the fastest other library", "formattedText", [f"formatted{peer}" for peer in PEERS], None),
     ("a number", "numberText", ["numberIcuKept"], 0.2),
-    ("the same beside QLocale", "numberText", ["numberQtKept"], None),
+    ("the same, compared with QLocale", "numberText", ["numberQtKept"], None),
     ("a year phrase", "yearsText", ["yearsIcuKept"], 0.35),
-    ("a compiled table opened, and one text", "compiledOneText", ["tableLoadQt"], 1 / 3),
-    ("a compiled table opened, and all texts", "compiledAllTexts", ["binaryAllTexts"], 1.0),
-    ("a binary table without an index", "tableFromBinary", ["tableLoadQt"], None),
+    ("opening a compiled table and reading one text", "compiledOneText", ["tableLoadQt"], 1 / 3),
+    ("opening a compiled table and reading all texts", "compiledAllTexts", ["binaryAllTexts"], 1.0),
+    ("loading a binary table without an index", "tableFromBinary", ["tableLoadQt"], None),
 ]
-# what, ours, the most that it may take in nanoseconds
+# description, our benchmark, the aim in nanoseconds
 LIMITS = [
-    ("a compiled table opened, and one text", "compiledOneText", 5000),
-    ("a random text of a table that was read", "compiledLookUp", 8),
+    ("opening a compiled table and reading one text", "compiledOneText", 5000),
+    ("reading a random text of a table in memory", "compiledLookUp", 8),
 ]
 
 
@@ -66,7 +66,7 @@ def library_rows(folder):
         one, two = (medians[f"{name}/real_time/threads:{threads}"]["real_time"] for threads in (1, 2))
         rows.append(of_peer(f"{what} reads, two threads at once", two, "one thread", one, "ns", 1 / 1.9))
     speed = medians["tableFromText"]["bytes_per_second"] / 1e9
-    rows.append(row("a table from text", f"{speed:.2f} GB/s", aim="≥ 1 GB/s", reached=speed >= 1))
+    rows.append(row("reading a text table", f"{speed:.2f} GB/s", aim="≥ 1 GB/s", reached=speed >= 1))
     return rows
 
 
@@ -75,9 +75,9 @@ def start_rows(folder):
     empty = starts.pop("start-empty")
     added = {name.removeprefix("start-"): time - empty for name, time in starts.items()}
     ours = added.pop("text")
-    what = f"first text of a process, over an empty one ({empty:.2f} ms)"
+    what = f"first text of a process, minus an empty process ({empty:.2f} ms)"
     aims = {"gettext": 1.15}
-    names = {"loaded": "the library loaded, unused"}
+    names = {"loaded": "the library loaded but unused"}
     return [of_peer(what, ours, names.get(peer, peer), time, "ms", aims.get(peer))
             for peer, time in sorted(added.items(), key=lambda item: item[1])]
 
@@ -88,13 +88,13 @@ def memory_rows(folder):
     if count != 1401:
         sys.exit(f"{count} texts were read, not 1401")
     return [at_most(f"{what} that reading all {count:,} texts adds", grown / 1024, "MiB", 1)
-            for what, grown in (("resident memory", resident), ("memory of the process's own", own))]
+            for what, grown in (("resident memory", resident), ("private memory", own))]
 
 
 def build_rows(folder):
     accessors, header, bundle = builds.measured(f"{folder}/lumora")
-    return [at_most("the source of all 1,401 accessors compiled with -O2", accessors, "s", 1.2),
-            at_most("what including the tree adds to `<string>`", header * 1e3, "ms", 20),
+    return [at_most("compiling the source of all 1,401 accessors with -O2", accessors, "s", 1.2),
+            at_most("including the tree, compared with `<string>`", header * 1e3, "ms", 20),
             at_most("`lumora compile` after one text changed", bundle, "s", 0.1)]
 
 
@@ -102,7 +102,7 @@ def main(folder):
     cpu = re.search(r"model name\s*: (.*)", pathlib.Path("/proc/cpuinfo").read_text())[1]
     compiler = subprocess.run(["c++", "--version"], capture_output=True, text=True, check=True).stdout.splitlines()[0]
     rows = [f"`./run bench`, {datetime.date.today():%-d %B %Y}, {cpu}, {os.cpu_count()} cores, {compiler}. Medians of processor time.\n",
-            "| What | Ours | Beside it | Its time | Ratio | Aim | Reached |", "|---|---|---|---|---|---|---|",
+            "| What | Lumora | Compared with | Its time | Ratio | Aim | Reached |", "|---|---|---|---|---|---|---|",
             *library_rows(folder), *start_rows(folder), *memory_rows(folder), *build_rows(folder)]
     table = "\n".join(rows)
     print(table)

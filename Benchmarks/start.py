@@ -1,5 +1,5 @@
 """Times whole processes in random order: an empty program, one with our library, and programs that print their first text.
-The time is the processor's, of the process and of the system for it, so that other work on the machine counts little."""
+Measures processor time, in the process and in the system, so that other work on the machine has little influence."""
 import os
 import random
 import statistics
