@@ -7,6 +7,12 @@ namespace StringTables::internal {
 
 namespace {
 
+struct Comment {
+    std::size_t begin = 0; // offset of its opening mark
+    std::size_t end = 0;   // one past its closing mark; of a line comment, of its line break
+    std::string_view text; // without marks and outer white space; lines end in LF
+};
+
 constexpr std::string_view blanks = " \t\v\f\r\n";
 
 constexpr bool isLineEnd(char c) noexcept {
@@ -20,10 +26,16 @@ std::string_view trimmed(std::string_view text) noexcept {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-// Trims each line and joins the lines with LF.
-std::string cleaned(std::string_view text) {
-    std::string out;
+std::string_view kept(std::string_view text, Arena& arena) {
+    return arena.keep(std::ranges::copy(text, arena.room(text.size())).out);
+}
+
+// Trims each line and joins the lines with LF. A single line is not copied.
+std::string_view cleaned(std::string_view text, Arena& arena) {
     text = trimmed(text);
+    if (std::ranges::none_of(text, isLineEnd))
+        return text;
+    std::string out;
     while (!text.empty()) {
         const char* const end = text.data() + text.size();
         const auto size = static_cast<std::size_t>(findEither(text.data(), end, '\r', '\n') - text.data());
@@ -34,10 +46,10 @@ std::string cleaned(std::string_view text) {
         out += '\n';
         text.remove_prefix(text.starts_with("\r\n") ? 2 : 1);
     }
-    return out;
+    return kept(out, arena);
 }
 
-std::vector<Comment> textComments(const Contents& contents) {
+std::vector<Comment> textComments(const Contents& contents, Arena& arena) {
     std::vector<Comment> comments;
     const char* const begin = contents.source.data();
     const char* const end = begin + contents.source.size();
@@ -47,7 +59,7 @@ std::vector<Comment> textComments(const Contents& contents) {
             const std::size_t marks = at[1] == '/' ? 2 : 4;
             const std::string_view inside(at + 2, static_cast<std::size_t>(stop - at) - marks);
             comments.push_back(
-                {static_cast<std::size_t>(at - begin), static_cast<std::size_t>(stop - begin), cleaned(inside)});
+                {static_cast<std::size_t>(at - begin), static_cast<std::size_t>(stop - begin), cleaned(inside, arena)});
             at = stop;
         } else if (*at == '"' || *at == '\'') {
             at = quotedEnd(at, end).close + 1;
@@ -59,14 +71,19 @@ std::vector<Comment> textComments(const Contents& contents) {
 
 class XmlComments final : public XmlHandler {
 public:
+    explicit XmlComments(Arena& arena) : arena_(arena) {}
+
     std::string open(const char*, const char* const*, XmlPlace) override { return {}; }
     std::string close(XmlPlace) override { return {}; }
     std::string characters(std::string_view) override { return {}; }
     void comment(std::string_view text, XmlPlace place) override {
-        found.push_back({place.begin, place.end, cleaned(text)});
+        found.push_back({place.begin, place.end, cleaned(kept(text, arena_), arena_)});
     }
 
     std::vector<Comment> found;
+
+private:
+    Arena& arena_;
 };
 
 // Joins the comments of one entry.
@@ -118,19 +135,21 @@ private:
     std::span<const Comment> comments_;
 };
 
-} // namespace
-
-std::vector<Comment> findComments(const Contents& contents) {
+// All comments in source order. The source was read without an error. Empty for a binary table.
+std::vector<Comment> findComments(const Contents& contents, Arena& arena) {
     if (contents.form == Form::binary)
         return {};
     if (contents.form == Form::text)
-        return textComments(contents);
-    XmlComments comments;
+        return textComments(contents, arena);
+    XmlComments comments(arena);
     return parseXml(contents, comments) ? std::move(comments.found) : std::vector<Comment>();
 }
 
+} // namespace
+
 std::vector<std::string> commentsOf(std::span<const std::size_t> entryOffsets, const Contents& contents) {
-    const std::vector<Comment> comments = findComments(contents);
+    Arena arena;
+    const std::vector<Comment> comments = findComments(contents, arena);
     std::vector<std::string> texts;
     texts.reserve(entryOffsets.size());
     std::size_t first = 0, end = 0;

@@ -3,6 +3,7 @@
 #include "Runtime/internal/File.h"
 #include "StringTables/internal/Comments.h"
 #include "StringTables/internal/Contents.h"
+#include "StringTables/internal/Scan.h"
 #include "StringTables/internal/Unicode.h"
 #include <numeric>
 
@@ -24,15 +25,18 @@ std::string quoted(std::string_view text) {
 Location Locator::locate(std::size_t offset) noexcept {
     if (!counts_)
         return {};
-    for (; at_ < offset; ++at_) {
-        const char c = source_[at_];
-        if (c == '\n' || (c == '\r' && (at_ + 1 == source_.size() || source_[at_ + 1] != '\n'))) {
+    const char* at = source_.data() + at_;
+    const char* const end = source_.data() + offset;
+    // The source is followed by a NUL.
+    for (const char* mark = findEither(at, end, '\n', '\r'); mark != end; mark = findEither(mark + 1, end, '\n', '\r'))
+        if (*mark == '\n' || mark[1] != '\n') {
             ++location_.line;
             location_.column = 1;
-        } else if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) {
-            ++location_.column;
+            at = mark + 1;
         }
-    }
+    location_.column += static_cast<std::size_t>(
+        std::count_if(at, end, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+    at_ = std::max(at_, offset);
     return location_;
 }
 
@@ -175,7 +179,8 @@ namespace {
 std::vector<std::size_t> inSourceOrder(std::span<const Entry> entries) {
     std::vector<std::size_t> order(entries.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::sort(order, {}, [&](std::size_t number) { return entries[number].offset; });
+    if (!std::ranges::is_sorted(entries, {}, &Entry::offset)) // a key appears again
+        std::ranges::sort(order, {}, [&](std::size_t number) { return entries[number].offset; });
     return order;
 }
 

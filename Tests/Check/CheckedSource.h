@@ -28,8 +28,9 @@ public:
         for (const Check::Finding& finding : Check::check(source, options, diagnostics))
             if (finding.rule != Check::Rule::coverage)
                 all.push_back(std::string(Check::infoOf(finding.rule).name) + ' ' +
-                              finding.file.lexically_relative(path()).string() + ':' + std::to_string(finding.line) +
-                              ':' + std::to_string(finding.column) + ' ' + finding.language + ' ' + finding.subject);
+                              std::filesystem::path(finding.file).lexically_relative(path()).string() + ':' +
+                              std::to_string(finding.line) + ':' + std::to_string(finding.column) + ' ' +
+                              finding.language + ' ' + finding.subject);
         return all;
     }
 };

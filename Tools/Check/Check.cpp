@@ -63,8 +63,8 @@ void checkTexts(const Source& source, std::span<const DevelopedTable> tables, st
 }
 
 auto placeOf(const Finding& finding) {
-    return std::tie(finding.file.native(), finding.line, finding.column, finding.rule, finding.language,
-                    finding.subject, finding.message);
+    return std::tie(finding.file, finding.line, finding.column, finding.rule, finding.language, finding.subject,
+                    finding.message);
 }
 
 bool areSame(const Finding& one, const Finding& other) {

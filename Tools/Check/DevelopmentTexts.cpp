@@ -10,14 +10,13 @@ using SourceBundle::SourceTable;
 DevelopmentTexts::DevelopmentTexts(const Source& source, const SourceTable& table, const DevelopmentTexts* older) {
     const std::vector<const SourceEntry*> entries = source.developmentEntries(table);
     texts_.reserve(entries.size());
-    numbers_.reserve(entries.size());
     for (const SourceEntry* entry : entries) {
-        DevelopmentText text{.entry = entry, .arguments = argumentsOf(*entry)};
+        DevelopmentText text{.key = entry->key, .entry = entry, .arguments = argumentsOf(*entry)};
         const DevelopmentText* before = older == nullptr ? nullptr : older->find(entry->key);
         if (before != nullptr && !before->arguments.fits(text.arguments))
             text.before = before->arguments;
-        numbers_.emplace(entry->key, static_cast<std::uint32_t>(texts_.size()));
         texts_.push_back(std::move(text));
+        index_.addLast(texts_);
     }
     for (const std::string_view language : {std::string_view(source.developmentLanguage), SourceBundle::baseLanguage})
         if (const LanguageTexts* texts = table.find(language))
@@ -25,13 +24,13 @@ DevelopmentTexts::DevelopmentTexts(const Source& source, const SourceTable& tabl
 }
 
 const DevelopmentText* DevelopmentTexts::find(std::string_view key) const {
-    const auto found = numbers_.find(key);
-    return found == numbers_.end() ? nullptr : &texts_[found->second];
+    const std::size_t number = index_.find(key, texts_);
+    return number == index_.none ? nullptr : &texts_[number];
 }
 
 const DevelopmentText* DevelopmentTexts::findBehind(const DevelopmentText* last, std::string_view key) const {
     const std::size_t next = last == nullptr ? 0 : static_cast<std::size_t>(last - texts_.data()) + 1;
-    return next < texts_.size() && texts_[next].entry->key == key ? &texts_[next] : find(key);
+    return next < texts_.size() && texts_[next].key == key ? &texts_[next] : find(key);
 }
 
 } // namespace Check

@@ -5,15 +5,15 @@
 
 #include "Check/Arguments.h"
 #include "SourceBundle/Source.h"
-#include <cstdint>
+#include "StringTables/internal/Index.h"
 #include <optional>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace Check {
 
 struct DevelopmentText {
+    std::string_view key;
     const SourceBundle::SourceEntry* entry = nullptr;
     Arguments arguments{};
     std::optional<Arguments> before{}; // the arguments in the older source, if they differ
@@ -35,7 +35,7 @@ public:
 
 private:
     std::vector<DevelopmentText> texts_;
-    std::unordered_map<std::string_view, std::uint32_t> numbers_; // by key
+    StringTables::internal::Index index_;
     bool isDamaged_ = false;
 };
 

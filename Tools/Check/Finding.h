@@ -5,14 +5,13 @@
 
 #include "Check/Rules.h"
 #include <cstdint>
-#include <filesystem>
 #include <string>
 
 namespace Check {
 
 struct Finding {
     Rule rule;
-    std::filesystem::path file;
+    std::string file;
     std::uint32_t line = 0;   // counted from 1; 0 if the file has no lines
     std::uint32_t column = 0; // in characters, counted from 1
     std::string language{};   // "de"; empty for an asset

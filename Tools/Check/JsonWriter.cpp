@@ -13,7 +13,7 @@ std::string asJson(std::span<const Finding> findings, Severity lowest) {
         if (rule.severity >= lowest)
             all.push_back({{"rule", rule.name},
                            {"severity", nameOf(rule.severity)},
-                           {"file", finding.file.string()},
+                           {"file", finding.file},
                            {"line", finding.line},
                            {"column", finding.column},
                            {"language", finding.language},

@@ -116,7 +116,7 @@ bool Settings::isOn(const Finding& finding) const {
                                                                     : has(folder.byLanguage, finding.language));
     };
     return !disabled_[number] && std::ranges::none_of(folders_, [&](const Folder& folder) {
-        return finding.file.native().starts_with(folder.prefix) && isOff(folder);
+        return finding.file.starts_with(folder.prefix) && isOff(folder);
     });
 }
 

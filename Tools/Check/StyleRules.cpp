@@ -196,19 +196,23 @@ std::vector<std::vector<SharedText>> sharedTexts(std::span<const DevelopedTable>
 
 namespace {
 
+// The texts of each table in one language; null where it has none.
+using TextsByTable = std::unordered_map<const SourceBundle::SourceTable*, const LanguageTexts*>;
+
 // The translation of a development text, or null.
-const SourceEntry* translationOf(const SharedText& text, std::string_view language) {
-    const LanguageTexts* texts = text.table->find(language);
+const SourceEntry* translationOf(const SharedText& text, const TextsByTable& translations) {
+    const LanguageTexts* texts = translations.at(text.table);
     const SourceEntry* entry = texts == nullptr ? nullptr : texts->find(text.entry->key);
     const bool isOther =
         entry != nullptr && entry->plural == nullptr && !entry->text.empty() && entry->text != text.entry->text;
     return isOther ? entry : nullptr;
 }
 
-void checkConsistency(const std::vector<SharedText>& texts, std::string_view language, Report& report) {
+void checkConsistency(const std::vector<SharedText>& texts, const TextsByTable& translations, std::string_view language,
+                      Report& report) {
     const SourceEntry* first = nullptr;
     for (const SharedText& text : texts) {
-        const SourceEntry* entry = translationOf(text, language);
+        const SourceEntry* entry = translationOf(text, translations);
         if (entry == nullptr || Report::isAllowed(Rule::inconsistentTranslation, *entry) ||
             Report::isAllowed(Rule::inconsistentTranslation, *text.entry))
             continue;
@@ -225,8 +229,13 @@ void checkConsistency(const std::vector<SharedText>& texts, std::string_view lan
 } // namespace
 
 void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view language, Report& report) {
+    TextsByTable translations;
     for (const std::vector<SharedText>& texts : shared)
-        checkConsistency(texts, language, report);
+        for (const SharedText& text : texts)
+            if (const auto [known, isNew] = translations.try_emplace(text.table); isNew)
+                known->second = text.table->find(language);
+    for (const std::vector<SharedText>& texts : shared)
+        checkConsistency(texts, translations, language, report);
 }
 
 } // namespace Check

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "Check/Finding.h"
+#include <filesystem>
 #include <span>
 #include <string>
 

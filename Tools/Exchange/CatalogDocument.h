@@ -6,6 +6,7 @@
 #include "Exchange/TableDocument.h"
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace Exchange {

@@ -61,7 +61,10 @@ std::string faultOf(const std::vector<std::string>& path) {
 class TableBuilder {
 public:
     TableBuilder(const Source& source, const SourceTable& table, NamesFile& given) {
-        for (const SourceEntry* entry : source.developmentEntries(table)) {
+        const std::vector<const SourceEntry*> entries = source.developmentEntries(table);
+        candidates_.reserve(entries.size());
+        names_.reserve(entries.size());
+        for (const SourceEntry* entry : entries) {
             Candidate& candidate = candidates_.emplace_back();
             candidate.entry = entry;
             if (const auto* path = given.find(table.name, entry->key)) {

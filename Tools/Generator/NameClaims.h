@@ -14,6 +14,9 @@ namespace Generator {
 
 class NameClaims {
 public:
+    // Makes room for `count` members.
+    void reserve(std::size_t count) { nodes_.reserve(count); }
+
     struct Owner {
         std::size_t number; // as it was given to claim()
         bool isGroup;

@@ -13,6 +13,7 @@
 #include <iterator>
 #include <map>
 #include <memory_resource>
+#include <unordered_map>
 #include <utility>
 
 namespace SourceBundle {
@@ -227,8 +228,8 @@ Runtime::Error SourceEntry::error(std::string message) const {
 }
 
 const SourceEntry* LanguageTexts::find(std::string_view key) const {
-    const auto found = numbers_.find(key);
-    return found == numbers_.end() ? nullptr : &entries_[found->second];
+    const std::size_t number = index_.find(key, entries_);
+    return number == index_.none ? nullptr : &entries_[number];
 }
 
 const SourceEntry* LanguageTexts::findBehind(const SourceEntry* last, std::string_view key) const {
@@ -237,16 +238,17 @@ const SourceEntry* LanguageTexts::findBehind(const SourceEntry* last, std::strin
 }
 
 bool LanguageTexts::add(const SourceEntry& entry) {
-    const bool isNew = numbers_.try_emplace(entry.key, static_cast<std::uint32_t>(entries_.size())).second;
-    if (isNew)
-        entries_.push_back(entry);
+    entries_.push_back(entry);
+    const bool isNew = index_.addLast(entries_) == index_.none;
+    if (!isNew)
+        entries_.pop_back();
     return isNew;
 }
 
 void LanguageTexts::add(LanguageTexts&& other) {
     if (entries_.empty()) {
         entries_ = std::move(other.entries_);
-        numbers_ = std::move(other.numbers_);
+        index_ = std::move(other.index_);
         return;
     }
     for (const SourceEntry& entry : other.entries_)
@@ -255,12 +257,11 @@ void LanguageTexts::add(LanguageTexts&& other) {
 
 void LanguageTexts::replace(const SourceEntry& entry) {
     if (!add(entry))
-        entries_[numbers_.find(entry.key)->second] = entry;
+        entries_[index_.find(entry.key, entries_)] = entry;
 }
 
 void LanguageTexts::reserve(std::size_t count) {
     entries_.reserve(entries_.size() + count);
-    numbers_.reserve(numbers_.size() + count);
 }
 
 const LanguageTexts* SourceTable::find(std::string_view language) const {

@@ -8,13 +8,13 @@
 #include "SourceBundle/Diagnostics.h"
 #include "SourceBundle/SourceFiles.h"
 #include "StringTables/internal/BundleLayout.h"
+#include "StringTables/internal/Index.h"
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace StringTables {
@@ -70,7 +70,7 @@ public:
 
 private:
     std::vector<SourceEntry> entries_;
-    std::unordered_map<std::string_view, std::uint32_t> numbers_; // of the entries, by key
+    StringTables::internal::Index index_;
 };
 
 struct SourceTable {
