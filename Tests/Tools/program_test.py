@@ -5,6 +5,7 @@ import pathlib
 import plistlib
 import re
 import resource
+import shlex
 import shutil
 import subprocess
 import sys
@@ -82,14 +83,24 @@ class Program(unittest.TestCase):
             self.assertNotIn("did you mean", run(word)[2])
             self.assertNotIn("did you mean", run("text", word)[2])
         # Each has every command, and is well-formed for the program that reads it, if that is installed.
-        commands = re.findall(r"^  ([a-z]+) ", run("help")[1].decode().split("Subcommands:")[1], re.M)
-        self.assertIn("check", commands)
+        commands = re.findall(r"^  ([a-z]+) ", run("help")[1].decode().split("Commands:")[1], re.M)
+        self.assertEqual(set(commands), {*self.CALLS, "watch"})
+        options = set()
+        for command in commands:
+            shown = run(command, "--help")
+            self.assertEqual((shown[0], shown[2]), (0, ""))
+            options |= set(re.findall(r"(?:^  |,)(--?[a-z-]+)", shown[1].decode(), re.M))
+        self.assertLess({"--format", "-o", "--depfile-target"}, options)
         for format, reader in (("man", ["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z"]), ("bash", ["bash", "-n"]),
                                ("zsh", ["zsh", "-n"]), ("fish", ["fish", "-n"])):
             with self.subTest(format):
                 made = self.folder / f"lumora.{format}"
                 made.write_bytes(run("help", "--format", format)[1])
-                self.assertEqual([c for c in commands if not re.search(rf"\b{c}\b", made.read_text())], [])
+                text = re.sub(r"\\f[BIR]|\\(?=-)", "", made.read_text())
+                self.assertEqual([c for c in commands if not re.search(rf"\b{c}\b", text)], [])
+                if format == "fish":
+                    text = re.sub(r" -l (\S+)| -s (\S)", lambda name: f" --{name[1]}" if name[1] else f" -{name[2]}", text)
+                self.assertEqual([o for o in sorted(options) if not re.search(rf"(?<![\w-]){o}(?![\w-])", text)], [])
                 if shutil.which(reader[0]):
                     read = subprocess.run([*reader, made], capture_output=True, timeout=60)
                     self.assertEqual((read.returncode, read.stderr), (0, b""))
@@ -183,20 +194,63 @@ class Program(unittest.TestCase):
                 self.assertIn(said, err)
                 self.assertLess(len(err), 200)
 
+    # A way to call each command so that it succeeds, in a folder with `src`; MADE is a file or folder that it writes.
+    CALLS = {
+        "text": ("text", "Continue"), "table": ("table", "a.strings", "-o", "MADE"), "assets": ("assets",),
+        "generate": ("generate", "src", "--module", "Shop", "-o", "MADE"), "compile": ("compile", "src", "-o", "MADE"),
+        "check": ("check", "src"), "accessors": ("accessors", "src", "--module", "Shop"),
+        "asset": ("asset", "send", "-o", "MADE"), "gallery": ("gallery", "src", "-o", "MADE"),
+        "export": ("export", "src", "--language", "de", "-o", "MADE"), "import": ("import", "de.po", "--into", "src"), "help": ("help", "check")}
+    READS = {"a.strings": "table", "src": "generate compile check accessors gallery export import", "de.po": "import"}
+
+    def test_every_command_ends_with_the_right_status(self):
+        self.write("src/Base.lproj/T.strings", 'a = "%@";')
+        self.write("src/de.lproj/T.strings", 'a = "%@ da";')
+        self.write("a.strings", "a = b;")
+        self.write("file", "")
+        self.assertEqual(run("export", "src", "--language", "de", "-o", "de.po")[0], 0)
+        calls = [(0, call) for call in self.CALLS.values()]
+        for name, call in self.CALLS.items():
+            calls.append((2, (name, "--nonsense=1", *call[1:])))
+            if "MADE" in call:  # into what is no folder
+                calls.append((2, [part.replace("MADE", "file/made") for part in call]))
+        for missing, commands in self.READS.items():
+            calls += [(2, [part.replace(missing, "none") for part in self.CALLS[name]]) for name in commands.split()]
+        for status, call in calls:
+            with self.subTest(call):
+                found, out, err = run(*(part.replace("MADE", f"made.{call[0]}") for part in call))
+                self.assertEqual((found, status == 0 or err.count("\n")), (status, 1), err)
+        faulty = self.write("src/de.lproj/T.strings", 'a = "%ld da";')
+        self.assertEqual(run("check", "src")[0], 1)
+        faulty.write_text('a = "%@ dort";')
+        self.write("de.po", (self.folder / "de.po").read_text().replace("%@ da", "%ld da"))
+        self.assertEqual(run("import", "de.po", "--into", "src")[0], 1)
+
     def test_output_that_cannot_be_written_is_an_error(self):
-        for arguments in (["--help"], ["--version"], ["table", "--help"], ["text", "Continue"], ["assets"]):
+        self.write("src/Base.lproj/T.strings", "a = b;")
+        for arguments in (["--help"], ["--version"], ["table", "--help"], ["text", "Continue"], ["assets"], ["help", "--format", "man"],
+                          ["check", "src", "--format", "sarif"], ["accessors", "src", "--module", "Shop"], ["gallery", "src", "-o", "-"],
+                          ["export", "src", "--language", "de", "-o", "-"], ["asset", "send", "-o", "-"]):
             for redirected in (">/dev/full", ">&-"):
                 with self.subTest((arguments, redirected)):
                     done = subprocess.run(["sh", "-c", f'exec "$0" "$@" {redirected}', PROGRAM, *arguments],
                                           capture_output=True, text=True, timeout=60)
                     self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1), done.stderr)
                     self.assertTrue(done.stderr.startswith("standard output: error: cannot be written: "), done.stderr)
+        # A reader that goes away ends the program as it ends others; one who ignores the signal gets the error.
+        for script, expected in (('"$0" assets | head -1 >/dev/null; echo ${PIPESTATUS[0]}', ("0\n", "141\n")),
+                                 ('trap "" PIPE; "$0" gallery -o - | true; echo ${PIPESTATUS[0]}', ("2\n",))):
+            self.assertIn(subprocess.run(["bash", "-c", script, PROGRAM], capture_output=True, text=True, timeout=60).stdout, expected)
 
-    def test_help_at_every_level(self):
-        for arguments in ([], ["text"], ["table"], ["generate"], ["compile"]):
-            status, out, err = run(*arguments, "--help")
-            self.assertEqual((status, err), (0, ""))
-            self.assertIn(b"lumora", out)
+    def test_only_a_terminal_has_color_and_progress(self):
+        self.write("src/Base.lproj/T.strings", 'a = "%";')
+        for environment, has in (({}, True), ({"NO_COLOR": ""}, True), ({"NO_COLOR": "1"}, False)):
+            script = f"{shlex.quote(PROGRAM)} check src; {shlex.quote(PROGRAM)} compile src/Base.lproj -o none"
+            shown = subprocess.run(["script", "-qec", script, "/dev/null"], capture_output=True, timeout=60,
+                                   env={key: value for key, value in os.environ.items() if key != "NO_COLOR"} | environment).stdout
+            self.assertEqual((b"\x1b[3" in shown, b"%" in shown), (has, True), shown)
+            self.assertNotIn(b"[1/", shown)
+        self.assertNotIn(b"\x1b", run("check", "src")[1])
 
     def test_generate_and_compile(self):
         self.write("src/Base.lproj/Words.strings", '"hello_name" = "Hello, %@";\n"Bye" = "Bye";\n')

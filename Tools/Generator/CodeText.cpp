@@ -20,11 +20,14 @@ constexpr bool isVisibleAscii(char c) {
     return c >= ' ' && c < 0x7F;
 }
 
+// The visible ASCII characters at the start of `text`.
+std::string_view plainFront(std::string_view text) {
+    return {text.begin(), std::ranges::find_if_not(text, isVisibleAscii)};
+}
+
 // The bytes of the first character of `text`; one byte if it is invalid.
 std::string_view firstCharacter(std::string_view text) {
     std::size_t size = 1;
-    if (isVisibleAscii(text[0]))
-        return text.substr(0, size);
     while (size < std::min<std::size_t>(text.size(), 4) && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
         ++size;
     const std::u32string decoded = Unicode::decoded(text.substr(0, size));
@@ -33,8 +36,6 @@ std::string_view firstCharacter(std::string_view text) {
 }
 
 std::string visibleCharacter(std::string_view bytes) {
-    if (isVisibleAscii(bytes[0]))
-        return std::string(bytes);
     const char32_t c = Unicode::decoded(bytes)[0];
     if (Unicode::isVisible(c) && Unicode::encoded({&c, 1}) == bytes)
         return std::string(bytes);
@@ -56,12 +57,14 @@ std::string visibleCharacter(std::string_view bytes) {
 
 std::string visibleText(std::string_view text, std::size_t limit) {
     std::string visible;
-    for (std::size_t count = 0; !text.empty(); ++count) {
-        if (count == limit)
+    while (!text.empty()) {
+        if (limit == 0)
             return visible + "…";
-        const std::string_view character = firstCharacter(text);
-        visible += visibleCharacter(character);
-        text.remove_prefix(character.size());
+        const std::string_view plain = plainFront(text).substr(0, limit);
+        const std::string_view part = plain.empty() ? firstCharacter(text) : plain;
+        visible += plain.empty() ? visibleCharacter(part) : std::string(part);
+        limit -= plain.empty() ? 1 : plain.size();
+        text.remove_prefix(part.size());
     }
     return visible;
 }
@@ -92,6 +95,11 @@ std::size_t columnsOf(std::string_view text) {
 std::string literal(std::string_view bytes) {
     std::string code = "\"";
     while (!bytes.empty()) {
+        const std::string_view plain = plainFront(bytes.substr(0, bytes.find_first_of("\"\\?")));
+        code += plain;
+        bytes.remove_prefix(plain.size());
+        if (bytes.empty())
+            break;
         const std::string_view character = firstCharacter(bytes);
         const bool beginsTrigraph = character == "?" && code.ends_with('?');
         if (character == "\"" || character == "\\" || beginsTrigraph)

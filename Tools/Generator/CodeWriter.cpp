@@ -59,6 +59,7 @@ void CodeWriter::addAssignment(std::string_view head, std::string_view value) {
 void CodeWriter::addComment(std::string_view text) {
     constexpr std::string_view first = "// ", next = "//    ";
     std::string line(first);
+    std::size_t column = first.size();
     const auto end = [&] {
         // A backslash would continue the comment on the next line; some compilers also treat "??/" as one.
         const bool isContinued = line.ends_with('\\') || line.ends_with("?\?/");
@@ -66,12 +67,15 @@ void CodeWriter::addComment(std::string_view text) {
     };
     for (bool isBegin = true; !text.empty(); isBegin = false) {
         const std::string_view word = text.substr(0, text.find(' '));
-        if (!isBegin && columnsOf(line) + 1 + columnsOf(word) > maxWidth) {
+        const std::size_t width = columnsOf(word);
+        if (!isBegin && column + 1 + width > maxWidth) {
             end();
             line = next;
+            column = next.size();
             isBegin = true;
         }
         line.append(isBegin ? "" : " ").append(word);
+        column += width + (isBegin ? 0 : 1);
         text.remove_prefix(std::min(word.size() + 1, text.size()));
     }
     end();

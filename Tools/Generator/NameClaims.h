@@ -37,8 +37,9 @@ private:
 
         bool operator==(const Name&) const = default;
     };
+    // Not noexcept: libstdc++ then keeps each hash instead of computing it again while it searches.
     struct Hash {
-        std::size_t operator()(const Name& name) const noexcept {
+        std::size_t operator()(const Name& name) const {
             return std::hash<std::string>()(name.name) * 31 + name.group;
         }
     };

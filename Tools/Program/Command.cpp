@@ -99,10 +99,6 @@ void say(Severity severity, const Group& group) {
         writeLine(others);
 }
 
-std::string counted(std::size_t count, const char* word) {
-    return std::to_string(count) + ' ' + word + (count == 1 ? "" : "s");
-}
-
 } // namespace
 
 CLI::Validator named() {
@@ -112,6 +108,10 @@ CLI::Validator named() {
 bool hasColor(int stream) {
     const char* const refused = std::getenv("NO_COLOR");
     return ::isatty(stream) == 1 && (refused == nullptr || *refused == '\0');
+}
+
+std::string counted(std::size_t count, const char* word) {
+    return std::to_string(count) + ' ' + word + (count == 1 ? "" : "s");
 }
 
 Exit fail(const Runtime::Error& error) {

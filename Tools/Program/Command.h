@@ -44,6 +44,9 @@ std::vector<std::string> commandNames(const CLI::App& program);
 // set and not empty.
 bool hasColor(int stream);
 
+// "1 text", "2 texts".
+std::string counted(std::size_t count, const char* word);
+
 // Write a message to standard error, on one line: "FILE:LINE:COLUMN: error: WHAT" with the known parts, or "lumora:
 // error: WHAT" without a file; colored on a terminal. Invisible characters are escaped.
 Exit fail(const Runtime::Error& error);

@@ -26,10 +26,10 @@ bool isPo(const ExportOptions& options) {
     return options.format == "po" || (options.format.empty() && options.output.ends_with(".po"));
 }
 
-std::string counted(const Exchange::Translations& translations) {
+std::string summary(const Exchange::Translations& translations) {
     const auto isDone = [](const Exchange::Unit& unit) { return !unit.target.empty(); };
     const auto done = static_cast<std::size_t>(std::ranges::count_if(translations.units, isDone));
-    return std::to_string(translations.units.size()) + " texts, " + std::to_string(translations.units.size() - done) +
+    return counted(translations.units.size(), "text") + ", " + std::to_string(translations.units.size() - done) +
            " without a translation to " + translations.targetLanguage;
 }
 
@@ -52,7 +52,7 @@ Exit runExport(const ExportOptions& options) {
         return reported;
     const Exit written = write(options.output, text);
     if (written == Exit::done)
-        note(counted(translations));
+        note(summary(translations));
     return written;
 }
 

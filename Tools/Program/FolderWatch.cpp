@@ -19,8 +19,9 @@ using std::chrono::milliseconds;
 
 namespace {
 
-constexpr std::uint32_t events =
-    IN_CLOSE_WRITE | IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+// IN_ATTRIB: a change of permissions may make a file readable.
+constexpr std::uint32_t events = IN_CLOSE_WRITE | IN_ATTRIB | IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO |
+                                 IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
 constexpr milliseconds quiet{50};          // without further changes, then the change is complete
 constexpr milliseconds longestBurst{1000}; // of consecutive changes
 constexpr milliseconds pollInterval{500};  // for a folder that is missing

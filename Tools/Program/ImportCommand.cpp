@@ -25,10 +25,6 @@ Exit failWith(SourceBundle::Diagnostics& diagnostics, Runtime::Error error) {
     return report(diagnostics);
 }
 
-std::string counted(std::size_t count, const char* word) {
-    return std::to_string(count) + ' ' + word + (count == 1 ? "" : "s");
-}
-
 Exit runImport(const ImportOptions& options) {
     SourceBundle::Diagnostics diagnostics;
     const SourceBundle::Source source = options.source.read(diagnostics);

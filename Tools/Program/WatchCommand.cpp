@@ -32,6 +32,7 @@ Runtime::Descriptor stopSignals() {
     sigemptyset(&signals);
     sigaddset(&signals, SIGINT);
     sigaddset(&signals, SIGTERM);
+    sigaddset(&signals, SIGHUP); // the terminal is closed
     ::sigprocmask(SIG_BLOCK, &signals, nullptr);
     return Runtime::Descriptor(::signalfd(-1, &signals, SFD_CLOEXEC));
 }

@@ -49,6 +49,9 @@ int main(int argc, char** argv) {
     Tools::addImportCommand(program, exit);
     Tools::addWatchCommand(program, exit);
     Tools::addHelpCommand(program, exit);
+    program.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    for (CLI::App* command : program.get_subcommands([](const CLI::App*) { return true; }))
+        command->group("Commands");
     try {
         program.parse(argc, argv);
         // Checked here, so that an unknown word is reported first.
