@@ -80,6 +80,10 @@ TEST(Source, NamesItsDevelopmentLanguage) {
         {__LINE__, "CFBundleDevelopmentRegion = de;", "", "de", {}},
         {__LINE__, "CFBundleDevelopmentRegion = German;", "", "de", {}},
         {__LINE__, "CFBundleDevelopmentRegion = de;", "French", "fr", {}},
+        {__LINE__, "CFBundleDevelopmentRegion = \"\";", "", "en", {}},
+        {__LINE__, "CFBundleDevelopmentRegion = it_IT;", "", "it", {}}, // as the folder that there is
+        {__LINE__, nullptr, "zh-hans-CN", "zh_Hans", {}},
+        {__LINE__, nullptr, "pt-BR", "pt-BR", {}},
         {__LINE__, "<plist><dict><key>More</key><array/></dict></plist>", "", "en", {}}, // gives no message
         {__LINE__, "CFBundleDevelopmentRegion = \"$(DEVELOPMENT_LANGUAGE)\";", "de", "de", {}},
         {__LINE__,
@@ -94,6 +98,8 @@ TEST(Source, NamesItsDevelopmentLanguage) {
     for (const auto& one : cases) {
         Support::SourceFolder folder;
         folder.write("Base.lproj/T.strings", "a = b;");
+        folder.write("it.lproj/T.strings", "a = c;");
+        folder.write("zh_Hans.lproj/T.strings", "a = d;");
         if (one.info != nullptr)
             folder.write("Info.plist", one.info);
         EXPECT_EQ(folder.read({.developmentLanguage = one.option}).developmentLanguage, one.language) << one.line;

@@ -77,9 +77,9 @@ private:
 };
 
 // A message about a whole set is located in its Contents.json.
-Runtime::Error placeOf(const Runtime::Error& what) {
+Runtime::Error placeOf(const Runtime::Error& what, Topic topic) {
     std::error_code failed;
-    if (what.line != 0 || !fs::is_directory(what.file, failed))
+    if (topic == Topic::unreadableTable || what.line != 0 || !fs::is_directory(what.file, failed))
         return what;
     return {.message = what.message, .file = fs::path(what.file) / SourceBundle::contentsName, .line = 1, .column = 1};
 }
@@ -98,7 +98,7 @@ void takeFindings(const Source& source, const Diagnostics& messages, Report& rep
         const SourceEntry* entry = languages.entryOf(message.what.file, message.subject);
         if (entry != nullptr && Report::isAllowed(*rule, *entry))
             continue;
-        const Runtime::Error place = placeOf(message.what);
+        const Runtime::Error place = placeOf(message.what, message.topic);
         report.add({.rule = *rule,
                     .file = place.file,
                     .line = static_cast<std::uint32_t>(place.line),

@@ -44,8 +44,9 @@ void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
     }
     if (first != nullptr)
         diagnostics.add(Severity::note, first->error(std::to_string(count) +
-                                                     " keys are only in translations and have no accessor; the first "
-                                                     "is " +
+                                                     (count == 1 ? " key is only in translations and has no accessor: "
+                                                                 : " keys are only in translations and have no "
+                                                                   "accessor; the first is ") +
                                                      quote(first->key)));
 }
 

@@ -4,6 +4,7 @@
 #include "StringTables/internal/BundleLayout.h"
 #include "StringTables/internal/Table.h"
 #include <algorithm>
+#include <string_view>
 
 namespace SourceBundle {
 
@@ -27,7 +28,29 @@ Runtime::Error unresolved(const std::filesystem::path& file, const Table& table,
             .column = place.column};
 }
 
+// "de_DE" is "de-de".
+std::string comparable(std::string_view language) {
+    std::string out(language);
+    std::ranges::replace(out, '_', '-');
+    std::ranges::transform(out, out.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    return out;
+}
+
 } // namespace
+
+std::string languageAmong(const std::set<std::string>& languages, const std::string& wanted) {
+    if (languages.contains(wanted))
+        return wanted;
+    for (std::string name = comparable(wanted); !name.empty();) {
+        const auto found = std::ranges::find(languages, name, comparable);
+        if (found != languages.end())
+            return *found;
+        const std::size_t subtag = name.rfind('-');
+        name.resize(subtag == name.npos ? 0 : subtag);
+    }
+    return wanted;
+}
 
 std::optional<std::string> developmentLanguage(std::span<const std::filesystem::path> infos, Diagnostics& diagnostics) {
     for (const std::filesystem::path& file : infos) {
@@ -37,7 +60,7 @@ std::optional<std::string> developmentLanguage(std::span<const std::filesystem::
             continue;
         }
         const auto region = table->find(regionKey);
-        if (!region)
+        if (!region || region->empty())
             continue;
         if (!isBuildSetting(*region))
             return languageOfFolder(std::string(*region));

@@ -21,7 +21,8 @@ using PluralForms = decltype(StringTables::PluralVariable::forms);
 // second argument.
 [[nodiscard]] StringTables::PluralFormat pluralOfForms(PluralForms forms);
 
-// A variable of a format, the argument that it takes (0: that of its place in the format) and its forms, in which "%arg" is that argument.
+// A variable of a format, the argument that it takes (0: that of its place in the format) and its forms, in which
+// "%arg" is that argument.
 struct Substitution {
     StringTables::PluralVariable variable;
     std::size_t argument = 0;

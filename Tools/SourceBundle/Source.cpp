@@ -13,6 +13,8 @@
 #include <iterator>
 #include <map>
 #include <memory_resource>
+#include <set>
+#include <span>
 #include <unordered_map>
 #include <utility>
 
@@ -269,6 +271,18 @@ const LanguageTexts* SourceTable::find(std::string_view language) const {
     return found == languages.end() ? nullptr : &*found;
 }
 
+namespace {
+
+std::set<std::string> languagesOf(std::span<const SourceTable> tables) {
+    std::set<std::string> languages;
+    for (const SourceTable& table : tables)
+        for (const LanguageTexts& texts : table.languages)
+            languages.insert(texts.language);
+    return languages;
+}
+
+} // namespace
+
 Source::Source() : storage_(std::make_unique<Storage>()) {}
 Source::Source(Source&&) noexcept = default;
 Source& Source::operator=(Source&&) noexcept = default;
@@ -345,6 +359,7 @@ Source Source::read(SourceFiles files, const SourceOptions& options, Diagnostics
     source.developmentLanguage = options.developmentLanguage.empty()
                                      ? SourceBundle::developmentLanguage(source.infos, diagnostics).value_or(otherwise)
                                      : languageOfFolder(options.developmentLanguage);
+    source.developmentLanguage = languageAmong(languagesOf(source.tables), source.developmentLanguage);
     if (options.addsPseudoLanguages)
         source.addPseudoLanguages();
     return source;

@@ -87,7 +87,8 @@ private:
     bool mayRead(const fs::directory_entry& entry) {
         if (!entry.is_symlink() || isInside(entry.path()))
             return true;
-        add(Severity::error, entry.path(), "is a link that leads out of the source");
+        diagnostics_.add(Severity::error, {.message = "is a link that leads out of the source", .file = entry.path()},
+                         Topic::unreadableTable);
         return false;
     }
     // One of the folders may contain another: each file counts once.
