@@ -15,10 +15,10 @@ constexpr std::string_view variableMark = "#@";
 // The variable's name in "%#@NAME@", or an empty string when `placeholder` is not its "%#@".
 std::string_view nameBehind(std::string_view text, const Placeholder& placeholder) noexcept {
     const std::string_view read = text.substr(placeholder.begin, placeholder.end - placeholder.begin);
-    const std::size_t end = text.find('@', placeholder.end);
-    if (!read.ends_with(variableMark) || end == text.npos)
+    if (!read.ends_with(variableMark))
         return {};
-    return text.substr(placeholder.end, end - placeholder.end);
+    const std::size_t end = text.find('@', placeholder.end);
+    return end == text.npos ? std::string_view() : text.substr(placeholder.end, end - placeholder.end);
 }
 
 bool isText(std::string_view valueType) noexcept {

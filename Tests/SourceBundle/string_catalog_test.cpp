@@ -156,6 +156,19 @@ TEST(StringCatalog, IsRejectedWithALocation) {
         {__LINE__, "{'sourceLanguage': 'en', 'strings': {}}\n{}", "T.xcstrings:2:"},
         {__LINE__, "{'sourceLanguage': 'en', 'strings': {'\xFF': {}}}", "invalid JSON"},
     };
+    const std::string deep(100'000, '[');
+    std::string devices;
+    for (int i = 0; i < 2000; ++i)
+        devices += "{'variations': {'device': {'other': ";
+    for (const std::string& json :
+         {"{'sourceLanguage': 'en', 'x': " + deep + std::string(deep.size(), ']') + ", 'strings': {}}",
+          "{'sourceLanguage': 'en', 'strings': {'k': {'localizations': {'en': " + devices + "5" +
+              std::string(6000, '}') + "}}}}"}) {
+        Support::SourceFolder folder;
+        folder.write("T.xcstrings", quotes(json));
+        (void)folder.read();
+        EXPECT_TRUE(folder.diagnostics.hasErrors());
+    }
     for (const auto& one : cases) {
         Support::SourceFolder folder;
         folder.write("T.xcstrings", quotes(one.json));

@@ -88,8 +88,8 @@ CatalogDocument::CatalogDocument(JsonDocument json) : json_(std::move(json)) {
     if (const JsonNode* const language = json_.root().find("sourceLanguage"))
         sourceLanguage_ = language->string().value_or("");
     if (JsonNode* const strings = json_.root().find("strings"))
-        for (const std::string& key : strings->names())
-            keys_[key] = strings->find(key);
+        for (JsonMember& member : strings->members())
+            keys_[member.name] = &member.value;
 }
 
 Runtime::Result<CatalogDocument> CatalogDocument::read(std::string bytes) {

@@ -126,6 +126,11 @@ std::vector<std::string> JsonNode::names() {
     return all;
 }
 
+std::list<JsonMember>& JsonNode::members() {
+    expand();
+    return members_;
+}
+
 std::optional<std::string> JsonNode::string() const {
     if (isString_)
         return text_;

@@ -35,6 +35,8 @@ public:
     JsonNode& member(std::string_view name);
     void remove(std::string_view name);
     [[nodiscard]] std::vector<std::string> names();
+    // The last of equal names counts.
+    [[nodiscard]] std::list<JsonMember>& members();
     // The value if this is a string, or no value.
     [[nodiscard]] std::optional<std::string> string() const;
     // Sets it to that string. If it is already equal, its bytes are kept.

@@ -67,8 +67,16 @@ struct Localized {
     }
 };
 
+// Bounds the recursion of the functions below.
+void checkDepth(ondemand::value& value) {
+    constexpr std::int32_t maxDepth = 64;
+    if (value.current_depth() > maxDepth)
+        throw simdjson::simdjson_error(simdjson::DEPTH_ERROR);
+}
+
 // Parses and ignores a value, so that errors in it are found.
 void skip(ondemand::value value) {
+    checkDepth(value);
     switch (value.type()) {
     case ondemand::json_type::array:
         for (auto element : value.get_array())
@@ -96,6 +104,7 @@ void skip(ondemand::value value) {
 
 // Calls `visit(name, value)` for each member; `visit` must consume the value.
 template <class Visit> void forEach(ondemand::value object, Visit&& visit) {
+    checkDepth(object);
     for (auto field : object.get_object()) {
         const std::string_view name = field.unescaped_key();
         visit(name, ondemand::value(field.value()));
