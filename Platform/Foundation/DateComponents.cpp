@@ -8,17 +8,24 @@ namespace Foundation {
 
 namespace {
 
-detail::Kept<Intl::YearForms> yearForms(std::string_view locale) {
-    static constinit detail::LocaleCache<Intl::YearForms> cache;
-    return cache.get(locale, [&] { return Intl::yearForms(locale); });
-}
+struct Years {
+    explicit Years(std::string_view locale)
+        : years(Intl::yearForms(locale)), rules(locale.substr(0, locale.find_first_of(".@"))) {}
 
-// The form for `count` years in the language of `locale`. Negative counts use the form of their absolute value.
-const std::string& formFor(std::int64_t count, const Intl::YearForms& years, std::string_view locale) {
-    const auto magnitude = count < 0 ? -static_cast<std::uint64_t>(count) : static_cast<std::uint64_t>(count);
-    const std::string_view language = locale.substr(0, locale.find_first_of(".@"));
-    const std::string& form = years.forms[indexOf(Intl::pluralCategory(language, {.i = magnitude}))];
-    return form.empty() ? years.forms[indexOf(Intl::PluralCategory::other)] : form;
+    // The form for `count` years. Negative counts use the form of their absolute value.
+    const std::string& formFor(std::int64_t count) const noexcept {
+        const auto magnitude = count < 0 ? -static_cast<std::uint64_t>(count) : static_cast<std::uint64_t>(count);
+        const std::string& form = years.forms[indexOf(rules.category({.i = magnitude}))];
+        return form.empty() ? years.forms[indexOf(Intl::PluralCategory::other)] : form;
+    }
+
+    Intl::YearForms years;
+    Intl::PluralRules rules;
+};
+
+detail::Kept<Years> yearsOf(std::string_view locale) {
+    static constinit detail::LocaleCache<Years> cache;
+    return cache.get(locale, [&] { return Years(locale); });
 }
 
 } // namespace
@@ -28,8 +35,8 @@ NSDateComponentsFormatter::stringFromDateComponents(const NSDateComponents& comp
     if (allowedUnits_ != NSCalendarUnit::year || !components.year)
         return std::nullopt;
     const std::string& locale = calendar_.locale().identifier();
-    const auto years = yearForms(locale);
-    const std::string_view form = formFor(*components.year, *years, locale);
+    const auto years = yearsOf(locale);
+    const std::string_view form = years->formFor(*components.year);
     if (form.empty())
         return std::nullopt;
     static constexpr std::string_view numberPlace = "{0}";

@@ -128,8 +128,14 @@ PluralOperands pluralOperands(std::string_view decimal) noexcept {
     return number;
 }
 
+PluralRules::PluralRules(std::string_view language) noexcept : ruleSet_(ruleSetOf(language)) {}
+
+PluralCategory PluralRules::category(const PluralOperands& number) const noexcept {
+    return select(ruleSet_, number);
+}
+
 PluralCategory pluralCategory(std::string_view language, const PluralOperands& number) noexcept {
-    return select(ruleSetOf(language), number);
+    return PluralRules(language).category(number);
 }
 
 PluralCategories pluralCategories(std::string_view language) noexcept {

@@ -25,6 +25,17 @@ struct PluralOperands {
 // The operands of a number printed in ASCII without its sign: "12.50", "1.25e+01". Stops at any other character.
 [[nodiscard]] PluralOperands pluralOperands(std::string_view decimal) noexcept;
 
+// The rules of one language, found once for many numbers.
+class PluralRules {
+public:
+    // `language` is a tag such as "pt-PT" or "sr_Latn". The category is always `other` for an unknown one.
+    explicit PluralRules(std::string_view language) noexcept;
+    [[nodiscard]] PluralCategory category(const PluralOperands& number) const noexcept;
+
+private:
+    unsigned ruleSet_;
+};
+
 // The category of the number in the language of a tag such as "pt-PT" or "sr_Latn"; `other` for an unknown language.
 [[nodiscard]] PluralCategory pluralCategory(std::string_view language, const PluralOperands& number) noexcept;
 
