@@ -3,6 +3,7 @@
 // Threads: plain values.
 #pragma once
 
+#include "Runtime/Export.h" // C++20
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
