@@ -29,7 +29,20 @@ TEST(PseudoTexts, ChangeWordsAlone) {
         {__LINE__, "<b class=\"x y\">Hi</b> a&amp;b \\n", "[<b class=\"x y\">Ĥî</b> å&amp;ƀ \\n ~~]",
          "<b class=\"x y\">" + turned("Hi") + "</b> " + turned("a") + "&amp;" + turned("b") + " \\n"},
         {__LINE__, "a < b & c", "[å < ƀ & ç ~]", turned("a") + " < " + turned("b") + " & " + turned("c")},
-        {__LINE__, "12:30 – é", "[12:30 – é]", "12:30 – é"},
+        {__LINE__, "12:30 – 5", "[12:30 – 5]", "12:30 – 5"},
+        // Latin letters with accents are unchanged. A decomposed one keeps its mark.
+        {__LINE__, "été e\u0301", "[éţé é\u0301 ~~]", turned("été") + " " + turned("e\u0301")},
+        // Alphabets with capital letters have combining marks, other scripts only padding.
+        {__LINE__, "Да, %@: Ωμ\u00A0ж", "[Д\u0302а\u0302, %@: Ω\u0302μ\u0302\u00A0ж\u0302 ~~]",
+         turned("Да,") + " %@: " + turned("Ωμ") + "\u00A0" + turned("ж")},
+        {__LINE__, "%@さん\u3000保存👍", "[%@さん\u3000保存👍 ~~]", "%@" + turned("さん") + "\u3000" + turned("保存👍")},
+        {__LINE__, "\u2068नमस्ते\u2069 أهلا", "[\u2068नमस्ते\u2069 أهلا ~~~]",
+         "\u2068" + turned("नमस्ते") + "\u2069 " + turned("أهلا")},
+        // Placeholders in tags and after backslashes; escapes with digits; a character after a backslash.
+        {__LINE__, "a<a href=\"%@\" id=%d>b", "[å<a href=\"%@\" id=%d>ƀ ~]",
+         turned("a") + "<a href=\"%@\" id=%d>" + turned("b")},
+        {__LINE__, "\\%d \\u00e9b \\éa <a<b", "[\\%d \\u00e9b \\éå <å<ƀ ~]",
+         "\\%d \\u00e9b \\é" + turned("a") + " " + turned("<a<b")},
     };
     for (const auto& one : cases) {
         EXPECT_EQ(pseudoText(one.text, Pseudo::accented), one.accented) << "line " << one.line;

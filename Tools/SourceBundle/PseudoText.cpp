@@ -1,7 +1,10 @@
 #include "SourceBundle/PseudoText.h"
 
 #include "StringTables/internal/PluralPieces.h"
+#include "StringTables/internal/Unicode.h"
 #include <algorithm>
+#include <unicode/uchar.h>
+#include <unicode/uscript.h>
 
 namespace SourceBundle {
 
@@ -10,54 +13,107 @@ using StringTables::PluralPieces;
 
 namespace {
 
-constexpr std::string_view blanks = " \t\r\n";
+constexpr std::string_view rightToLeftMark = "\u200F", rightToLeftOverride = "\u202E", endOfOverride = "\u202C";
+constexpr std::string_view combiningMark = "\u0302"; // circumflex
+constexpr std::string_view asciiLetters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
 
-bool isLetter(char c) {
+bool isAsciiLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-std::string_view accented(char c) {
-    static constexpr std::array<std::string_view, 26> small = {"å", "ƀ", "ç", "ð", "é", "ƒ", "ĝ", "ĥ", "î",
-                                                               "ĵ", "ķ", "ļ", "ɱ", "ñ", "ö", "þ", "ɋ", "ŕ",
-                                                               "š", "ţ", "û", "ṽ", "ŵ", "ẋ", "ý", "ž"};
-    static constexpr std::array<std::string_view, 26> capital = {"Å", "Ɓ", "Ç", "Ð", "É", "Ƒ", "Ĝ", "Ĥ", "Î",
-                                                                 "Ĵ", "Ķ", "Ļ", "Ṁ", "Ñ", "Ö", "Þ", "Ɋ", "Ŕ",
-                                                                 "Š", "Ţ", "Û", "Ṽ", "Ŵ", "Ẋ", "Ý", "Ž"};
-    return c >= 'a' ? small[static_cast<std::size_t>(c - 'a')] : capital[static_cast<std::size_t>(c - 'A')];
+bool isLetter(char32_t c) {
+    return static_cast<bool>(u_isalpha(static_cast<UChar32>(c)));
 }
 
-// The number of leading bytes that are markup: a tag, an entity, or a backslash with the escaped character.
+// White space or a direction mark.
+bool separatesWords(char32_t c) {
+    const auto code = static_cast<UChar32>(c);
+    return u_isUWhiteSpace(code) || u_hasBinaryProperty(code, UCHAR_BIDI_CONTROL);
+}
+
+// Whether a combining mark suits the letter: it does in alphabets with capital and small letters, such as Cyrillic and
+// Greek. Latin letters outside ASCII have no second mark; most have one already.
+bool takesMark(char32_t c) {
+    const auto code = static_cast<UChar32>(c);
+    return u_hasBinaryProperty(code, UCHAR_CASED) && !uscript_hasScript(code, USCRIPT_LATIN);
+}
+
+std::string_view accented(char letter) {
+    static constexpr std::array<std::string_view, asciiLetters.size()> accents = {
+        "å", "ƀ", "ç", "ð", "é", "ƒ", "ĝ", "ĥ", "î", "ĵ", "ķ", "ļ", "ɱ", "ñ", "ö", "þ", "ɋ", "ŕ",
+        "š", "ţ", "û", "ṽ", "ŵ", "ẋ", "ý", "ž", "Å", "Ɓ", "Ç", "Ð", "É", "Ƒ", "Ĝ", "Ĥ", "Î", "Ĵ",
+        "Ķ", "Ļ", "Ṁ", "Ñ", "Ö", "Þ", "Ɋ", "Ŕ", "Š", "Ţ", "Û", "Ṽ", "Ŵ", "Ẋ", "Ý", "Ž"};
+    return accents[asciiLetters.find(letter)];
+}
+
+struct Character {
+    char32_t code;
+    std::string_view bytes;
+};
+Character firstCharacter(std::string_view text) {
+    std::string_view rest = text;
+    const char32_t code = StringTables::internal::takeCharacter(rest);
+    return {code, text.substr(0, text.size() - rest.size())};
+}
+
+// A backslash, the escaped character, and the hexadecimal digits of "\u" and the like.
+std::size_t escapeSize(std::string_view text) {
+    if (text.size() == 1)
+        return 1;
+    const std::string_view escaped = firstCharacter(text.substr(1)).bytes;
+    const std::size_t end = 1 + escaped.size();
+    if (escaped != "u" && escaped != "U" && escaped != "x")
+        return end;
+    constexpr std::size_t mostDigits = 8;
+    const std::string_view rest = text.substr(end, mostDigits);
+    return end + std::min(rest.find_first_not_of("0123456789abcdefABCDEF"), rest.size());
+}
+
+// The number of leading bytes that are markup: a tag, an entity, or a backslash escape.
 std::size_t markupSize(std::string_view text) {
     if (text[0] == '\\')
-        return std::min<std::size_t>(text.size(), 2);
-    const bool isTag = text[0] == '<' && text.size() > 1 && (isLetter(text[1]) || text[1] == '/');
-    const bool isEntity = text[0] == '&' && text.size() > 1 && (isLetter(text[1]) || text[1] == '#');
-    const std::size_t end = isTag ? text.find('>') : isEntity ? text.find_first_of("; ") : text.npos;
-    return end == text.npos || text[end] == ' ' ? 0 : end + 1;
+        return escapeSize(text);
+    const bool isTag = text[0] == '<' && text.size() > 1 && (isAsciiLetter(text[1]) || text[1] == '/');
+    const bool isEntity = text[0] == '&' && text.size() > 1 && (isAsciiLetter(text[1]) || text[1] == '#');
+    if (!isTag && !isEntity)
+        return 0;
+    const std::size_t end = text.find_first_of(isTag ? "<>" : "; &<", 1);
+    return end == text.npos || text[end] != (isTag ? '>' : ';') ? 0 : end + 1;
+}
+
+// The number of leading bytes that are no part of a word: markup, or one separator.
+std::size_t unchangedSize(std::string_view text) {
+    if (const std::size_t markup = markupSize(text))
+        return markup;
+    const Character first = firstCharacter(text);
+    return separatesWords(first.code) ? first.bytes.size() : 0;
+}
+
+// The end of the word that begins at `at`. Not after `limit`.
+std::size_t wordEnd(std::string_view text, std::size_t at, std::size_t limit) {
+    while (at < limit && unchangedSize(text.substr(at)) == 0)
+        at += firstCharacter(text.substr(at)).bytes.size();
+    return at;
 }
 
 class Writer {
 public:
     explicit Writer(Pseudo kind) : kind_(kind) {}
 
-    // Adds text without placeholders: words and what separates them.
-    void addWords(std::string_view text) {
-        while (!text.empty()) {
-            const std::size_t markup = markupSize(text);
-            std::size_t size = std::max<std::size_t>(markup, 1);
-            if (markup == 0 && blanks.find(text[0]) == blanks.npos)
-                while (size < text.size() && blanks.find(text[size]) == blanks.npos &&
-                       markupSize(text.substr(size)) == 0)
-                    ++size;
-            const std::string_view part = text.substr(0, size);
-            if (markup == 0 && std::ranges::any_of(part, isLetter))
-                addWord(part);
-            else
-                out_ += part;
-            text.remove_prefix(size);
+    void addUnchanged(std::string_view text) { out_ += text; }
+
+    void addWord(std::string_view word) {
+        const std::size_t begin = out_.size(), lettersBefore = letters_;
+        for (std::string_view rest = word; !rest.empty();) {
+            const Character first = firstCharacter(rest);
+            rest.remove_prefix(first.bytes.size());
+            addCharacter(first);
+        }
+        if (kind_ == Pseudo::rightToLeft && letters_ != lettersBefore) {
+            out_.insert(begin, rightToLeftOverride).insert(begin, rightToLeftMark);
+            out_.append(endOfOverride).append(rightToLeftMark);
         }
     }
-    void addUntouched(std::string_view text) { out_ += text; }
 
     // Pads accented texts by a third of their letters.
     std::string finish(bool isWhole) {
@@ -76,20 +132,12 @@ public:
     }
 
 private:
-    void addWord(std::string_view word) {
-        constexpr std::string_view mark = "\u200F", override = "\u202E", pop = "\u202C";
-        if (kind_ == Pseudo::rightToLeft) {
-            out_.append(mark).append(override).append(word).append(pop).append(mark);
-            return;
-        }
-        for (const char c : word) {
-            if (isLetter(c)) {
-                out_ += accented(c);
-                ++letters_;
-            } else {
-                out_ += c;
-            }
-        }
+    void addCharacter(Character character) {
+        const bool isAccented = kind_ == Pseudo::accented && isLetter(character.code);
+        letters_ += isLetter(character.code) ? 1U : 0U;
+        out_ += isAccented && isAsciiLetter(character.bytes[0]) ? accented(character.bytes[0]) : character.bytes;
+        if (isAccented && takesMark(character.code))
+            out_ += combiningMark;
     }
 
     Pseudo kind_;
@@ -100,13 +148,19 @@ private:
 // `next` returns the placeholders of the text in order.
 template <class Next> std::string transformed(std::string_view text, Pseudo kind, bool isWhole, Next next) {
     Writer writer(kind);
-    std::size_t done = 0;
-    while (const auto placeholder = next()) {
-        writer.addWords(text.substr(done, placeholder->begin - done));
-        writer.addUntouched(text.substr(placeholder->begin, placeholder->end - placeholder->begin));
-        done = placeholder->end;
+    auto placeholder = next();
+    for (std::size_t at = 0, end = 0; at < text.size(); at = end) {
+        end = at + unchangedSize(text.substr(at));
+        // The placeholder at this place, or those inside a tag.
+        for (; placeholder && (placeholder->begin == at || placeholder->begin < end); placeholder = next())
+            end = std::max(end, placeholder->end);
+        if (end != at) {
+            writer.addUnchanged(text.substr(at, end - at));
+        } else {
+            end = wordEnd(text, at, placeholder ? placeholder->begin : text.size());
+            writer.addWord(text.substr(at, end - at));
+        }
     }
-    writer.addWords(text.substr(done));
     return writer.finish(isWhole);
 }
 

@@ -1,7 +1,7 @@
 // SourceBundle/PseudoText.h
 // Texts of the pseudo-languages: transformed development texts that show layout problems before anything is translated.
 // Placeholders, "%%", line breaks, tags, entities and backslash escapes are unchanged.
-// Text: UTF-8. Threads: any; no state.
+// Text: well-formed UTF-8, in any script. Threads: any; no state.
 #pragma once
 
 #include "StringTables/internal/PluralTable.h"
@@ -13,7 +13,8 @@
 namespace SourceBundle {
 
 enum class Pseudo : std::uint8_t {
-    accented,   // "[Ŷöûŕ çåŕţ ~~~]": accented letters, a third longer, in brackets
+    accented,   // "[Ŷöûŕ çåŕţ ~~~]": accented letters, a third longer, in brackets. Cyrillic, Greek and the like have
+                // a combining mark on each letter; scripts without capital letters are only made longer.
     rightToLeft // words are displayed from right to left
 };
 
