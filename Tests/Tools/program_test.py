@@ -1,15 +1,19 @@
 """Tests the program lumora: its output, the files that it writes, its exit status."""
+import fcntl
 import json
 import os
 import pathlib
 import plistlib
+import pty
 import re
 import resource
 import shlex
 import shutil
+import struct
 import subprocess
 import sys
 import tempfile
+import termios
 import time
 import unittest
 
@@ -242,7 +246,7 @@ class Program(unittest.TestCase):
                                  ('trap "" PIPE; "$0" gallery -o - | true; echo ${PIPESTATUS[0]}', ("2\n",))):
             self.assertIn(subprocess.run(["bash", "-c", script, PROGRAM], capture_output=True, text=True, timeout=60).stdout, expected)
 
-    def test_only_a_terminal_has_color_and_progress(self):
+    def test_only_a_terminal_has_color(self):
         self.write("src/Base.lproj/T.strings", 'a = "%";')
         for environment, has in (({}, True), ({"NO_COLOR": ""}, True), ({"NO_COLOR": "1"}, False)):
             script = f"{shlex.quote(PROGRAM)} check src; {shlex.quote(PROGRAM)} compile src/Base.lproj -o none"
@@ -251,6 +255,24 @@ class Program(unittest.TestCase):
             self.assertEqual((b"\x1b[3" in shown, b"%" in shown), (has, True), shown)
             self.assertNotIn(b"[1/", shown)
         self.assertNotIn(b"\x1b", run("check", "src")[1])
+
+    def test_long_work_has_a_progress_line_that_is_erased(self):
+        for i in range(16):  # each takes at least a tenth of a second
+            self.write(f"src/A.xcassets/a picture with a long name {i}.imageset/Contents.json",
+                       '{"images": [{"filename": "a.svg"}], "properties": {"preserves-vector-representation": true}}')
+            self.write(f"src/A.xcassets/a picture with a long name {i}.imageset/a.svg", f"""<svg xmlns="http://www.w3.org/2000/svg"
+                width="150" height="150"><filter id="f"><feTurbulence baseFrequency="0.{i + 1}" numOctaves="9"/></filter>
+                <rect width="150" height="150" filter="url(#f)"/></svg>""")
+        terminal, end = pty.openpty()
+        fcntl.ioctl(end, termios.TIOCSWINSZ, struct.pack("HHHH", 24, 20, 0, 0))
+        with subprocess.Popen([PROGRAM, "compile", "src", "-o", "Made.bundle"], stdout=end, stderr=end,
+                              preexec_fn=lambda: os.sched_setaffinity(0, {0})) as process:
+            self.assertEqual(process.wait(timeout=60), 0)
+        self.assertRegex(os.read(terminal, 1 << 16).decode(), r"^(\r\x1b\[K\[\d+/16\] a picture w?…)+\r\x1b\[K$")
+        os.close(end)
+        os.close(terminal)
+        shutil.rmtree("Made.bundle")
+        self.assertEqual(run("compile", "src", "-o", "Made.bundle"), (0, b"", ""))
 
     def test_generate_and_compile(self):
         self.write("src/Base.lproj/Words.strings", '"hello_name" = "Hello, %@";\n"Bye" = "Bye";\n')

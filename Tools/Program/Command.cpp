@@ -10,6 +10,7 @@
 #include <cstring>
 #include <span>
 #include <string>
+#include <sys/ioctl.h>
 #include <unistd.h>
 #include <unordered_map>
 
@@ -54,6 +55,20 @@ void writeLine(std::string_view text) {
     std::string line = isTerminal() ? "\r\033[K" : "";
     line.append(text).append("\n");
     std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+std::size_t terminalColumns() {
+    constexpr std::size_t usual = 80;
+    winsize size{};
+    return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
+}
+
+// The text, escaped and cut to at most `columns` columns.
+std::string fitted(std::string_view text, std::size_t columns) {
+    std::string shown = Generator::visibleText(text, columns);
+    for (std::size_t limit = columns; limit > 0 && Generator::columnsOf(shown) > columns; --limit)
+        shown = Generator::visibleText(text, limit - 1);
+    return shown;
 }
 
 // "FILE:LINE:COLUMN", or the program's name without a file.
@@ -146,10 +161,12 @@ void showProgress(std::string_view what, std::size_t done, std::size_t all) {
     static const auto start = std::chrono::steady_clock::now();
     if (!isTerminal() || std::chrono::steady_clock::now() - start < std::chrono::seconds(1))
         return;
-    if (done == all)
-        std::fputs("\r\033[K", stderr);
-    else
-        std::fprintf(stderr, "\r\033[K[%zu/%zu] %.*s", done + 1, all, static_cast<int>(what.size()), what.data());
+    std::string line = "\r\033[K";
+    // A line that fills the terminal could continue on the next one, which is not erased.
+    if (done != all)
+        line += fitted("[" + std::to_string(done + 1) + "/" + std::to_string(all) + "] " + std::string(what),
+                       terminalColumns() - 1);
+    std::fputs(line.c_str(), stderr);
 }
 
 Exit print(std::string_view bytes) {
