@@ -167,6 +167,11 @@ TEST(Check, ComparesAllPluralForms) {
         const std::string place = " " + file + ":2:1 " + one.language + " files";
         EXPECT_EQ(source.findings(), *one.rule == '\0' ? Strings() : Strings{one.rule + place}) << "line " << one.line;
     }
+    CheckedSource source{{"en.lproj/T.strings", "a = One;"},
+                         {"en.lproj/T.stringsdict", plural("one=One file;other=%d files")},
+                         {"de.lproj/T.strings", "a = Eins;"},
+                         {"de.lproj/T.stringsdict", "<plist version=\"1.0\"><dict/></plist>"}};
+    EXPECT_EQ(source.findings(), Strings{"missing-key de.lproj/T.stringsdict:1:1 de files"});
 }
 
 TEST(Check, ReadsStringCatalogs) {
@@ -176,10 +181,15 @@ TEST(Check, ReadsStringCatalogs) {
         "Open": {"comment": "lumora: allow missing-key, untranslated"},
         "Quillmark": {"shouldTranslate": false},
         "Stale": {"extractionState": "stale"},
-        "Stop": {}
+        "Stop": {},
+        "cats": {"localizations": {
+            "en": {"stringUnit": {"value": "%#@n@ here"}, "substitutions": {"n": {"argNum": 1, "formatSpecifier": "d",
+                "variations": {"plural": {"one": {"stringUnit": {"value": "%arg cat"}}, "other": {"stringUnit": {"value": "%arg cats"}}}}}}},
+            "de": {"stringUnit": {"value": "%#@n@ hier"}, "substitutions": {"n": {"argNum": 1, "formatSpecifier": "d"}}}}}
     }})"}};
     EXPECT_EQ(source.findings(),
-              (Strings{"placeholder-mismatch T.xcstrings:3:9 de Hello %@", "missing-key T.xcstrings:7:9 de Stop"}));
+              (Strings{"placeholder-mismatch T.xcstrings:3:9 de Hello %@", "missing-key T.xcstrings:7:9 de Stop",
+                       "missing-plural-form T.xcstrings:8:9 de cats"}));
 }
 
 TEST(Check, ComparesWithAnOlderSource) {

@@ -58,13 +58,15 @@ NeededForms neededForms(std::string_view language) {
     return needed;
 }
 
-void checkPluralForms(const Text& text, NeededForms needed, Report& report) {
+bool checkPluralForms(const Text& text, NeededForms needed, Report& report) {
     if (text.entry.plural == nullptr)
-        return;
+        return true;
+    bool hasForms = true;
     const auto& variables = text.entry.plural->variables;
     for (const PluralVariable& variable : variables) {
         const std::uint8_t forms = formsOf(variable), all = isFloating(variable) ? needed.ofFloating : needed.ofWhole;
-        if (forms == 0 || (all & ~forms) == 0)
+        hasForms &= forms != 0;
+        if ((all & ~forms) == 0)
             continue;
         const std::string which = variables.size() > 1 ? ", variable " + Generator::quote(variable.name) + "," : "";
         text.report(report, Rule::missingPluralForm,
@@ -72,6 +74,7 @@ void checkPluralForms(const Text& text, NeededForms needed, Report& report) {
                         namesOf(static_cast<std::uint8_t>(all & ~forms)) + "; " + std::string(text.languages.own) +
                         " needs " + namesOf(all));
     }
+    return hasForms;
 }
 
 } // namespace Check

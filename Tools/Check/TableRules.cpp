@@ -123,7 +123,8 @@ private:
         if (isUntranslatedBlank)
             return;
         checkPlaceholders(text, report_);
-        checkPluralForms(text, needed_, report_);
+        if (!checkPluralForms(text, needed_, report_))
+            return;
         checkWording(text, report_);
         if (text.isDevelopment() || !text.development->entry->isTranslatable)
             return;
@@ -147,13 +148,23 @@ private:
                         .language = texts_.language,
                         .subject = std::string(development.key),
                         .message = quote(development.key) + " has no text in " + texts_.language};
-        // A string catalog contains the key; in the file of one language, report it at the preceding key.
-        if (development.file->kind != TableFile::Kind::catalog) {
-            finding.file = before == nullptr ? texts_.files.front()->path : before->file->path;
-            finding.line = before == nullptr ? 1 : before->line;
-            finding.column = 1;
-        }
+        // A string catalog contains the key.
+        if (development.file->kind != TableFile::Kind::catalog)
+            placeInLanguage(finding, development.file->kind, before);
         report_.add(std::move(finding));
+    }
+
+    // Places a missing text behind the preceding key, or at the beginning of the language's file of that kind.
+    void placeInLanguage(Finding& finding, TableFile::Kind kind, const SourceEntry* before) {
+        const auto found = std::ranges::find(texts_.files, kind, &TableFile::kind);
+        const TableFile* own = found == texts_.files.end() ? nullptr : *found;
+        if (before != nullptr && own != nullptr && before->file->kind != kind)
+            before = nullptr;
+        if (before != nullptr)
+            own = before->file;
+        finding.file = (own == nullptr ? texts_.files.front() : own)->path;
+        finding.line = before == nullptr ? 1 : before->line;
+        finding.column = 1;
     }
 
     const DevelopmentTexts& development_;

@@ -46,8 +46,8 @@ struct NeededForms {
 };
 [[nodiscard]] NeededForms neededForms(std::string_view language);
 
-// missing-plural-form.
-void checkPluralForms(const Text& text, NeededForms needed, Report& report);
+// missing-plural-form. False if a variable has no forms at all, so that there is no text to check.
+[[nodiscard]] bool checkPluralForms(const Text& text, NeededForms needed, Report& report);
 
 // double-space, repeated-word. A fault that the development text has, too, is reported only there.
 void checkWording(const Text& text, Report& report);
