@@ -86,6 +86,11 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
     };
     for (const auto& one : cases)
         EXPECT_EQ(rulesFor(one.language, one.development, one.translation), one.rules) << "line " << one.line;
+    CheckedSource japanese{{"Info.plist", "CFBundleDevelopmentRegion = ja;"},
+                           {"ja.lproj/T.strings", entry("氏名：")},
+                           {"de.lproj/T.strings", entry("Name: ")},
+                           {"zh-Hans.lproj/T.strings", entry("姓名： ")}};
+    EXPECT_EQ(japanese.findings(), Strings{"space-mismatch zh-Hans.lproj/T.strings:1:1 zh-Hans key"});
 }
 
 TEST(Check, FindsMissingAndUnknownKeys) {

@@ -6,6 +6,7 @@
 #include "Generator/CodeText.h"
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace Check {
 
@@ -36,8 +37,10 @@ bool endsWithSpace(std::string_view text) {
 
 // "begins with", or an empty string if nothing is wrong.
 std::string differenceOf(const char* verb, bool hasOwn, bool hasOther, const Text& text) {
-    // Languages without spaces between words may omit the space.
-    const bool isFault = hasOwn != hasOther && (hasOwn || !writesWithoutSpaces(text.languages.own));
+    // Of two languages, the one that writes without spaces may omit it.
+    const auto [spaced, other] = hasOwn ? std::pair(text.languages.own, text.languages.development)
+                                        : std::pair(text.languages.development, text.languages.own);
+    const bool isFault = hasOwn != hasOther && (writesWithoutSpaces(spaced) || !writesWithoutSpaces(other));
     return isFault ? std::string(verb) + (hasOwn ? " with" : " without") : "";
 }
 
