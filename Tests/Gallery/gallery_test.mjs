@@ -157,7 +157,14 @@ onPage("everything can be done with the keyboard", async (tab) => {
 }, { permissions: ["clipboard-read", "clipboard-write"] });
 
 onPage("pictures have their pixels, variants and grounds", async (tab) => {
-    await tab.click("nav >> text=Pictures");
+    for (const name of ["Colours", "Regions", "Pictures"]) { // their places are only estimated until they are laid out
+        await tab.click(`nav >> text=${name}`);
+        await tab.waitForFunction((id) => {
+            const bar = document.querySelector("#controls").getBoundingClientRect();
+            const top = document.querySelector(`#${id} h2`).getBoundingClientRect().top;
+            return top > bar.bottom && top < bar.bottom + 100;
+        }, name.toLowerCase(), { timeout: 5000 });
+    }
     const images = tab.locator("[data-asset=action_copy] img");
     await images.first().waitFor();
     await tab.waitForFunction(() => document.querySelector("[data-asset=action_copy] img").naturalWidth > 0);

@@ -37,12 +37,24 @@ function fillLanguageChoices() {
     }
 }
 
+// Parts that were never shown have an estimated size, so the element moves while they are laid out in the next frames.
+function goTo(element) {
+    let frames = 10;
+    const step = () => {
+        element.scrollIntoView();
+        frames -= 1;
+        if (frames > 0)
+            requestAnimationFrame(step);
+    };
+    step();
+}
+
 function showMissing(language, counts) {
     byId("language-b").selectedIndex = language;
     byId("status").value = counts.missing ? "missing" : counts.same ? "same" : "all";
     chooseLanguage("b", language);
     search();
-    byId("texts").scrollIntoView();
+    goTo(byId("texts"));
 }
 
 function fillSections() {
@@ -63,6 +75,7 @@ function fillNavigation() {
     for (const [id, name] of named) {
         const count = make("span", { class: "number" });
         links.set(id, { link: make("a", { href: `#${id}` }, name, " ", count), count });
+        links.get(id).link.addEventListener("click", () => goTo(byId(id)));
         byId("sections").append(links.get(id).link);
     }
 }
@@ -174,5 +187,7 @@ fillNavigation();
 fillSections();
 search();
 connect();
+if (location.hash.length > 1 && byId(location.hash.slice(1)))
+    goTo(byId(location.hash.slice(1)));
 // Prepares the search index, so that the first letter typed is as fast as the others.
 setTimeout(() => sections.flatMap((section) => section.lists).forEach((list) => list.rows.forEach(prepared)), 200);
