@@ -27,6 +27,14 @@ def documented(line):
     return line
 
 
+def anchored(lines):
+    """Gives the headings that the page links to their anchors, which doxygen does not do."""
+    linked = set(re.findall(r"\]\(#([\w-]+)\)", "\n".join(lines)))
+    for line in lines:
+        anchor = re.sub(r"\W+", "-", line.lstrip("# ").lower())
+        yield f"{line} {{#{anchor}}}" if line.startswith("#") and anchor in linked else line
+
+
 name = sys.argv[1]
 lines = open(name, encoding="utf-8").read().splitlines()
 if name.endswith(".h"):
@@ -37,5 +45,5 @@ if name.endswith(".h"):
         first = 1
     lines = [documented(line) for line in lines[first:]]
 else:
-    lines = [line if line.startswith("    ") else CODE.sub(lambda span: code(span[0]), line) for line in lines]
+    lines = [line if line.startswith("    ") else CODE.sub(lambda span: code(span[0]), line) for line in anchored(lines)]
 print("\n".join(lines))
