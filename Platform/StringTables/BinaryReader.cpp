@@ -108,9 +108,9 @@ bool BinaryReader::keep(const Entry& entry, std::uint64_t keyNumber, std::uint64
         replaced_.push_back(key.entry);
         contents_.noteReplaced(contents_.entries[key.entry], entry);
     }
-    key = {.entry = number, .isKey = 1};
+    key = {.entry = number & StringUse::none, .isKey = 1};
     if (text.entry == StringUse::none && hasText(entry))
-        text.entry = number;
+        text.entry = number & StringUse::none;
     return contents_.add(entry.key, entry.text, entry.offset);
 }
 

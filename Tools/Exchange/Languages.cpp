@@ -37,7 +37,7 @@ bool isCode(std::string_view code) {
 std::vector<PluralCategory> categoriesIn(std::uint8_t bits) {
     std::vector<PluralCategory> all;
     for (std::size_t i = 0; i < Intl::pluralCategoryCount; ++i)
-        if ((bits >> i & 1U) != 0)
+        if ((bits & (1U << i)) != 0)
             all.push_back(static_cast<PluralCategory>(i));
     return all;
 }
