@@ -1,5 +1,5 @@
 // Tests/Faults/Child.h
-// Runs a test case in a child process.
+// Runs test cases in child processes.
 #pragma once
 
 #include <cstdio>
@@ -11,6 +11,14 @@
 namespace Child {
 
 inline constexpr int thrown = 100;
+
+// How often each case runs: rare interleavings and limits show only after many. Fewer under a sanitizer, which makes a
+// fork take ten times as long.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+inline constexpr int repetitions = 20;
+#else
+inline constexpr int repetitions = 200;
+#endif
 
 // The result of `run()`, a number below 100, in a child process; `thrown` for an exception, 200 plus the signal number
 // if a signal ended it.
@@ -29,6 +37,15 @@ template <class Run> int exitOf(Run run) {
     int status = 0;
     ::waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : 200 + WTERMSIG(status);
+}
+
+// The first result but 0 of `repetitions` children that call `run(repetition)`, or 0.
+template <class Run> int exitOfEach(Run run) {
+    int code = 0;
+    for (int i = 0; i < repetitions && code == 0; ++i)
+        if (code = exitOf([&] { return run(i); }); code != 0)
+            std::fprintf(stderr, "repetition %d failed\n", i);
+    return code;
 }
 
 } // namespace Child

@@ -35,7 +35,7 @@ rlim_t setDescriptors(rlim_t most) {
 }
 
 TEST(Files, WithoutDescriptorsNothingIsCached) {
-    EXPECT_EQ(Child::exitOf([] {
+    EXPECT_EQ(Child::exitOfEach([](int) {
                   Foundation::Host::setPreferredLanguages({"ru"});
                   const rlim_t old = setDescriptors(0);
                   const bool none = Texts::continue_().empty() && Lumora::Localization::legacyTr("Continue").empty() &&
@@ -74,7 +74,7 @@ bool isLackOfDescriptors(const std::exception_ptr& thrown) {
 // absent.
 TEST(Files, WithoutDescriptorsTheProcessContinues) {
     for (const bool isOpen : {false, true}) // whether the bundle is open; its catalog is not
-        EXPECT_EQ(Child::exitOf([isOpen] {
+        EXPECT_EQ(Child::exitOfEach([isOpen](int) {
                       if (isOpen)
                           static_cast<void>(Lumora::LumoraResources::bundle());
                       const rlim_t old = setDescriptors(0);
@@ -97,7 +97,7 @@ TEST(Files, WithoutDescriptorsTheProcessContinues) {
 
 // The catalog is already open, but the decoders cannot be loaded.
 TEST(Files, WithoutDescriptorsPixelsAreMissingTemporarily) {
-    EXPECT_EQ(Child::exitOf([] {
+    EXPECT_EQ(Child::exitOfEach([](int) {
                   const UIKit::UIImage image = Lumora::LumoraAsset::Images::send.image();
                   const rlim_t old = setDescriptors(0);
                   const bool none = image.rgba() == nullptr && image.pixelWidth() > 0;
@@ -126,7 +126,7 @@ TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
          "\u061C-\u0661\u066C\u0662\u0663\u0664\u066B\u0665"},
     };
     for (const auto& one : cases)
-        EXPECT_EQ(Child::exitOf([&] {
+        EXPECT_EQ(Child::exitOfEach([&](int) {
                       static_cast<void>(Lumora::LumoraResources::bundle());
                       Foundation::Host::setPreferredLanguages({one.language});
                       Foundation::Host::setCurrentLocale(one.locale);
@@ -138,6 +138,29 @@ TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
                   }),
                   0)
             << "line " << one.line;
+}
+
+// With a few free descriptors each read gets its text or none, and later the text. Some reads need several files at
+// once.
+TEST(Files, WithFewDescriptorsNothingIsCached) {
+    EXPECT_EQ(Child::exitOfEach([](int repetition) {
+                  Foundation::Host::setPreferredLanguages({"ru"});
+                  Foundation::Host::setCurrentLocale("ru_RU@numbers=arab");
+                  const int next = ::dup(0);
+                  ::close(next);
+                  const rlim_t old = setDescriptors(static_cast<rlim_t>(next + repetition % 10));
+                  const std::string text = Texts::continue_(), age = Lumora::Localization::legacyTrAge(25);
+                  if (const auto image = Lumora::UIImage::assetNamed("send"))
+                      static_cast<void>(image->rgba());
+                  setDescriptors(old);
+                  const bool isEither =
+                      (text.empty() || text == "Продолжить") && (age.empty() || age == "\u0662\u0665 лет");
+                  const bool isLater = Texts::continue_() == "Продолжить" &&
+                                       Lumora::Localization::legacyTrAge(25) == "\u0662\u0665 лет" &&
+                                       Lumora::UIImage::assetNamed("send").value().rgba() != nullptr;
+                  return isEither ? isLater ? 0 : 2 : 1;
+              }),
+              0);
 }
 
 // root can read everything, so the test reads as another user.

@@ -27,7 +27,7 @@ void useRussian() {
 }
 
 TEST(Process, SixteenThreadsAtTheFirstUse) {
-    EXPECT_EQ(Child::exitOf([] {
+    EXPECT_EQ(Child::exitOfEach([](int) {
                   useRussian();
                   constexpr int count = 16;
                   std::latch start(count);
@@ -51,7 +51,7 @@ TEST(Process, SixteenThreadsAtTheFirstUse) {
 }
 
 TEST(Process, AChildReadsOldAndNewTexts) {
-    EXPECT_EQ(Child::exitOf([] {
+    EXPECT_EQ(Child::exitOfEach([](int) {
                   useRussian();
                   if (Texts::continue_() != "Продолжить")
                       return 1;
