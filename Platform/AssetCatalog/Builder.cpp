@@ -13,6 +13,10 @@ namespace {
 std::uint64_t hashOf(const Asset& asset) {
     return Format::hashOf(asset.kind, asset.name);
 }
+// The order of the assets in the file.
+std::tuple<std::uint64_t, Kind, std::string_view> orderOf(const Asset& asset) {
+    return {hashOf(asset), asset.kind, asset.name};
+}
 
 Format::Fit formatted(const Fit& fit) {
     return {static_cast<std::uint8_t>(fit.appearance), static_cast<std::uint8_t>(fit.contrast),
@@ -58,7 +62,7 @@ public:
 
 private:
     std::vector<Bytes> blobs_;
-    std::unordered_map<std::string_view, std::uint64_t> offsets_;
+    Runtime::NameMap<std::uint64_t, std::string_view> offsets_;
     std::uint64_t size_ = 0;
 };
 
@@ -166,8 +170,8 @@ std::string BuiltCatalog::bytes() const {
 }
 
 Runtime::Result<BuiltCatalog> build(std::vector<Asset> assets) {
-    std::ranges::sort(assets, {}, hashOf);
-    if (const auto same = std::ranges::adjacent_find(assets, {}, hashOf); same != assets.end())
+    std::ranges::sort(assets, {}, orderOf);
+    if (const auto same = std::ranges::adjacent_find(assets, {}, orderOf); same != assets.end())
         return Runtime::Error{.message = "two assets of one kind are named \"" + same->name + "\"", .file = {}};
     Writer writer;
     for (Asset& asset : assets)

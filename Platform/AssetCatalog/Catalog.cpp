@@ -155,12 +155,17 @@ Runtime::Result<Catalog> Catalog::read(std::span<const std::uint8_t> bytes) {
 
 std::optional<std::size_t> Catalog::find(Kind kind, std::string_view name) const noexcept {
     const auto& hashes = *index_->hashes();
-    const std::uint64_t hash = Format::hashOf(kind, name);
-    const auto found = static_cast<std::size_t>(std::lower_bound(hashes.begin(), hashes.end(), hash) - hashes.begin());
-    if (found == size())
-        return std::nullopt;
-    const Entry entry = (*this)[found];
-    return entry.kind() == kind && entry.name() == name ? std::optional(found) : std::nullopt;
+    const auto& assets = *index_->assets();
+    const auto [first, last] = std::equal_range(hashes.begin(), hashes.end(), Format::hashOf(kind, name));
+    const auto assetOf = [&](auto hash) { return assets.begin() + static_cast<Place>(hash - hashes.begin()); };
+    const Format::AssetName wanted(kind, name);
+    const auto precedes = [](const Format::Asset* asset, const Format::AssetName& other) {
+        return Format::nameOf(*asset) < other;
+    };
+    const auto found = std::lower_bound(assetOf(first), assetOf(last), wanted, precedes);
+    return found != assetOf(last) && Format::nameOf(**found) == wanted
+               ? std::optional(static_cast<std::size_t>(found - assets.begin()))
+               : std::nullopt;
 }
 
 std::size_t Catalog::size() const noexcept {

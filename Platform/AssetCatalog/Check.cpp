@@ -104,8 +104,15 @@ private:
     std::uint64_t blobBytes_;
 };
 
-// Ascending hashes that match the names guarantee that no asset occurs twice. `indexBytes` limits the total size of the
-// names, because damaged entries could all share one long name.
+// Whether the asset before number `i` precedes it.
+bool areInOrder(const Format::Catalog& index, flatbuffers::uoffset_t i) {
+    const std::uint64_t before = index.hashes()->Get(i - 1), hash = index.hashes()->Get(i);
+    return before < hash ||
+           (before == hash && Format::nameOf(*index.assets()->Get(i - 1)) < Format::nameOf(*index.assets()->Get(i)));
+}
+
+// Assets in order, whose hashes match their names, guarantee that none occurs twice. `indexBytes` limits the total size
+// of the names, because damaged entries could all share one long name.
 Runtime::Result<void> checkAssets(const Format::Catalog& index, std::size_t indexBytes) {
     const auto& hashes = *index.hashes();
     const auto& assets = *index.assets();
@@ -118,8 +125,8 @@ Runtime::Result<void> checkAssets(const Format::Catalog& index, std::size_t inde
         const Format::Asset& asset = *assets[i];
         if (const char* fault = AssetCheck(asset, index.blob_bytes()).fault())
             return damagedAsset(asset, fault);
-        if ((i != 0 && hashes[i - 1] >= hashes[i]) ||
-            hashes[i] != Format::hashOf(static_cast<Kind>(asset.kind()), asset.name()->string_view()))
+        const auto [kind, name] = Format::nameOf(asset);
+        if (hashes[i] != Format::hashOf(kind, name) || (i != 0 && !areInOrder(index, i)))
             return damagedAsset(asset, "is out of order");
         nameBytes += asset.name()->size();
         if (nameBytes > indexBytes)

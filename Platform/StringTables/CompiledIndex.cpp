@@ -21,8 +21,10 @@ bool resembles(std::string_view found, std::string_view mark) noexcept {
     return same > mark.size() / 2;
 }
 
-// Random keys never reach this size; crafted keys could otherwise cost quadratic time.
+// Random keys need far less. Keys that were made to collide could otherwise cost quadratic time.
 constexpr std::size_t fullestBucket = 32;
+constexpr std::size_t mostTriesPerKey = 64;
+constexpr std::size_t mostTriesBesides = std::size_t{1} << 16; // for the last keys of a small table
 
 // The indices of the keys in each bucket, largest buckets first because they are the hardest to place.
 std::vector<std::vector<std::size_t>> keysByBucket(std::span<const std::uint32_t> bucketOfKey, std::size_t count) {
@@ -89,13 +91,15 @@ std::optional<CompiledIndexWriter> CompiledIndexWriter::make(std::span<const std
         }
         return true;
     };
+    std::size_t tries = mostTriesBesides + mostTriesPerKey * keyHashes.size();
     for (const std::vector<std::size_t>& bucket : keysByBucket(bucketOfKey, index.buckets_)) {
         if (bucket.empty())
             break;
         static constexpr std::uint32_t most = std::numeric_limits<std::uint16_t>::max();
         std::uint32_t displacement = bucket.size() > fullestBucket ? most + 1 : 0;
-        while (displacement <= most && !fits(bucket, static_cast<std::uint16_t>(displacement)))
-            ++displacement;
+        for (; displacement <= most && !fits(bucket, static_cast<std::uint16_t>(displacement)); ++displacement)
+            if (tries-- == 0)
+                return std::nullopt;
         if (displacement > most)
             return std::nullopt;
         for (std::size_t i = 0; i < bucket.size(); ++i) {

@@ -1,6 +1,7 @@
 #include "StringTables/internal/PluralTable.h"
 
 #include "Runtime/internal/File.h"
+#include "Runtime/internal/NameMap.h"
 #include "StringTables/internal/Comments.h"
 #include "StringTables/internal/PluralKeys.h"
 #include "StringTables/internal/PropertyListSink.h"
@@ -8,7 +9,6 @@
 #include <charconv>
 #include <limits>
 #include <numeric>
-#include <unordered_map>
 
 namespace StringTables {
 
@@ -200,7 +200,7 @@ private:
 
     std::vector<PluralEntry> entries_;
     std::vector<std::size_t> places_;
-    std::unordered_map<std::string, std::size_t> numbers_; // of the entries, by key
+    Runtime::NameMap<std::size_t> numbers_; // of the entries, by key
 };
 
 Runtime::Result<void> fill(Contents& contents, internal::PropertyListSink& sink) {

@@ -1,9 +1,9 @@
 #include "Check/MessageFindings.h"
 
+#include "Runtime/internal/NameMap.h"
 #include "SourceBundle/SetContents.h"
 #include <optional>
 #include <string>
-#include <unordered_map>
 
 namespace Check {
 
@@ -73,7 +73,7 @@ private:
         const LanguageTexts* texts;
         TableFile::Kind kind;
     };
-    std::unordered_map<std::string, Known> known_;
+    Runtime::NameMap<Known> known_;
 };
 
 // A message about a whole set is located in its Contents.json.

@@ -5,6 +5,7 @@
 #include "Check/Languages.h"
 #include "Generator/CodeText.h"
 #include "Generator/Unicode.h"
+#include "Runtime/internal/NameMap.h"
 #include "StringTables/internal/PluralTable.h"
 #include <algorithm>
 #include <optional>
@@ -179,7 +180,7 @@ void checkStyle(const Text& text, Report& report) {
 }
 
 std::vector<std::vector<SharedText>> sharedTexts(std::span<const DevelopedTable> tables) {
-    std::unordered_map<std::string_view, std::size_t> numbers;
+    Runtime::NameMap<std::size_t, std::string_view> numbers;
     std::vector<std::vector<SharedText>> all;
     for (const DevelopedTable& table : tables)
         for (const DevelopmentText& text : table.development.all()) {

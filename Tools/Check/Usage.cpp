@@ -4,11 +4,11 @@
 #include "Generator/CodeText.h"
 #include "Generator/CodeWriter.h"
 #include "Runtime/internal/File.h"
+#include "Runtime/internal/NameMap.h"
 #include "SourceBundle/SetContents.h"
 #include <algorithm>
 #include <array>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 namespace Check {
@@ -94,7 +94,7 @@ private:
     }
 
     std::vector<Accessor> all_;
-    std::unordered_map<std::string_view, std::vector<std::size_t>> byName_;
+    Runtime::NameMap<std::vector<std::size_t>, std::string_view> byName_;
 };
 
 bool isSource(const fs::path& file) {

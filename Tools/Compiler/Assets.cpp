@@ -4,6 +4,7 @@
 #include "AssetCatalog/internal/Catalog.h"
 #include "Compiler/PictureCache.h"
 #include "Runtime/internal/File.h"
+#include "Runtime/internal/NameMap.h"
 #include "SourceBundle/Catalogs.h"
 #include "SourceBundle/Parallel.h"
 #include "SourceBundle/SetContents.h" // purposeOf
@@ -13,7 +14,6 @@
 #include <map>
 #include <mutex>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 namespace Compiler {
@@ -94,7 +94,7 @@ private:
     const PictureCache cache_;
     std::mutex lock_;
     std::map<fs::path, Bytes> read_;
-    std::unordered_map<std::string_view, Bytes> contents_;
+    Runtime::NameMap<Bytes, std::string_view> contents_;
     std::size_t total_ = 0;
     MadePictures made_;
 };

@@ -4,9 +4,9 @@
 
 #include "Exchange/Json.h"
 #include "Exchange/TableDocument.h"
+#include "Runtime/internal/NameMap.h"
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace Exchange {
@@ -41,7 +41,7 @@ private:
 
     JsonDocument json_;
     std::string sourceLanguage_;
-    std::unordered_map<std::string, JsonNode*> keys_;
+    Runtime::NameMap<JsonNode*> keys_;
 };
 
 } // namespace Exchange

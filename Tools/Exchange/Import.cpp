@@ -8,9 +8,9 @@
 #include "Exchange/Targets.h"
 #include "Exchange/Xliff.h"
 #include "Runtime/internal/File.h"
+#include "Runtime/internal/NameMap.h"
 #include "StringTables/internal/Table.h"
 #include <algorithm>
-#include <unordered_map>
 
 namespace Exchange {
 
@@ -211,7 +211,7 @@ private:
     SourceBundle::Diagnostics& faults_;
     StoredTexts texts_;
     Targets targets_;
-    std::unordered_map<std::string, ImportedKey> keys_;
+    Runtime::NameMap<ImportedKey> keys_;
     std::vector<std::string> languages_; // with changes
     std::size_t count_ = 0;
 };

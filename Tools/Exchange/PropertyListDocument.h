@@ -6,10 +6,10 @@
 #include "Exchange/TableDocument.h"
 #include "Exchange/TextEdits.h"
 #include "Exchange/Xml.h"
+#include "Runtime/internal/NameMap.h"
 #include "StringTables/internal/PluralTable.h"
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace Exchange {
@@ -47,10 +47,10 @@ private:
 
     DecodedText file_;
     XmlDocument xml_;
-    const XmlNode& root_;                                    // the top-level dictionary
-    std::unordered_map<std::string, const XmlNode*> values_; // by key
-    std::string line_;                                       // line break and indentation of its keys
-    std::string indent_;                                     // per level
+    const XmlNode& root_;                     // the top-level dictionary
+    Runtime::NameMap<const XmlNode*> values_; // by key
+    std::string line_;                        // line break and indentation of its keys
+    std::string indent_;                      // per level
     TextEdits edits_;
     std::string added_; // to the top-level dictionary
 };

@@ -5,8 +5,8 @@
 #include "Exchange/DecodedText.h"
 #include "Exchange/TableDocument.h"
 #include "Exchange/TextEdits.h"
+#include "Runtime/internal/NameMap.h"
 #include "StringTables/internal/Table.h"
-#include <unordered_map>
 
 namespace Exchange {
 
@@ -30,7 +30,7 @@ private:
     std::string withAddedEntries() const;
 
     DecodedText file_;
-    std::unordered_map<std::string, std::size_t> keys_; // their offsets
+    Runtime::NameMap<std::size_t> keys_; // their offsets
     TextEdits edits_;
     std::string added_;
 };

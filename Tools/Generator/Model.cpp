@@ -3,8 +3,8 @@
 #include "Generator/CodeText.h"
 #include "Generator/NameClaims.h"
 #include "Generator/Namer.h"
+#include "Runtime/internal/NameMap.h"
 #include <map>
-#include <unordered_map>
 #include <utility>
 
 namespace Generator {
@@ -45,7 +45,7 @@ private:
         return known->second;
     }
 
-    std::unordered_map<std::string_view, std::string> groups_;
+    Runtime::NameMap<std::string, std::string_view> groups_;
 };
 
 std::string faultOf(const std::vector<std::string>& path) {
@@ -101,11 +101,12 @@ private:
         if (!parameters.fault.empty())
             candidate.fault = "its text " + parameters.fault;
         if (parameters.hasLonePercent)
-            diagnostics.add(Severity::warning,
-                            candidate.entry->error("the text of key " + quote(candidate.entry->key) +
-                                                   " has a % that begins no placeholder and is printed literally (write "
-                                                   "%% for a percent sign)"),
-                            Topic::lonePercent, candidate.entry->key);
+            diagnostics.add(
+                Severity::warning,
+                candidate.entry->error("the text of key " + quote(candidate.entry->key) +
+                                       " has a % that begins no placeholder and is printed literally (write "
+                                       "%% for a percent sign)"),
+                Topic::lonePercent, candidate.entry->key);
     }
 
     void findName(Candidate& candidate) {

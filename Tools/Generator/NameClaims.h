@@ -3,8 +3,8 @@
 // Threads: one at a time.
 #pragma once
 
+#include "Runtime/internal/NameMap.h"
 #include <cstddef>
-#include <functional>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -40,7 +40,7 @@ private:
     // Not noexcept: libstdc++ then keeps each hash instead of computing it again while it searches.
     struct Hash {
         std::size_t operator()(const Name& name) const {
-            return std::hash<std::string>()(name.name) * 31 + name.group;
+            return Runtime::hashBytes(name.name, Runtime::processSeed() + name.group);
         }
     };
     struct Node {

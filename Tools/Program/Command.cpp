@@ -2,6 +2,7 @@
 
 #include "Generator/CodeText.h"
 #include "Runtime/internal/File.h"
+#include "Runtime/internal/NameMap.h"
 #include <CLI/CLI.hpp>
 #include <cerrno>
 #include <chrono>
@@ -12,7 +13,6 @@
 #include <string>
 #include <sys/ioctl.h>
 #include <unistd.h>
-#include <unordered_map>
 
 namespace Tools {
 
@@ -93,7 +93,7 @@ using Group = std::vector<const Runtime::Error*>;
 
 std::vector<Group> grouped(const SourceBundle::Diagnostics& diagnostics, Severity severity) {
     std::vector<Group> groups;
-    std::unordered_map<std::string_view, std::size_t> numbers;
+    Runtime::NameMap<std::size_t, std::string_view> numbers;
     for (const SourceBundle::Diagnostic& diagnostic : diagnostics.all()) {
         if (diagnostic.severity != severity)
             continue;

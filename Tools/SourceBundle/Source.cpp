@@ -1,5 +1,6 @@
 #include "SourceBundle/Source.h"
 
+#include "Runtime/internal/NameMap.h"
 #include "SourceBundle/DevelopmentLanguage.h"
 #include "SourceBundle/Parallel.h"
 #include "SourceBundle/PluralText.h"
@@ -15,7 +16,6 @@
 #include <memory_resource>
 #include <set>
 #include <span>
-#include <unordered_map>
 #include <utility>
 
 namespace SourceBundle {
@@ -170,7 +170,7 @@ private:
     }
 
     void readCatalog(const TableFile& file) {
-        std::unordered_map<std::string, LanguageTexts*> languages;
+        Runtime::NameMap<LanguageTexts*> languages;
         const auto textsIn = [&](std::string_view language) {
             const auto [known, isNew] = languages.try_emplace(std::string(language), nullptr);
             if (isNew)

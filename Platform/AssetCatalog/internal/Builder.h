@@ -4,10 +4,10 @@
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
+#include "Runtime/internal/NameMap.h"
 #include "Runtime/internal/Result.h"
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace AssetCatalog {
@@ -17,7 +17,7 @@ struct BuiltCatalog {
     std::string index;
     std::vector<Bytes> blobs;
     // File offsets by the content of a blob; the keys point into `blobs`.
-    std::unordered_map<std::string_view, std::uint64_t> offsets;
+    Runtime::NameMap<std::uint64_t, std::string_view> offsets;
 
     // The file's content in order.
     [[nodiscard]] std::vector<std::string_view> pieces() const;

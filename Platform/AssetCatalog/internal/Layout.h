@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace AssetCatalog::Format {
 
@@ -18,8 +19,8 @@ constexpr std::size_t aligned(std::size_t size) noexcept {
     return (size + alignment - 1) / alignment * alignment;
 }
 
-// Assets are sorted by this hash. Each step hashes eight bytes, padded with zeros. The steps are invertible, so two
-// names of the same length of at most eight bytes never collide.
+// Assets are sorted by this hash, and those with the same hash by kind and name: names can be made to collide. Each
+// step hashes eight bytes, padded with zeros.
 inline std::uint64_t hashOf(Kind kind, std::string_view name) noexcept {
     constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
     std::uint64_t hash = (static_cast<std::uint64_t>(kind) << 32 | name.size()) * spread;
@@ -31,6 +32,11 @@ inline std::uint64_t hashOf(Kind kind, std::string_view name) noexcept {
         name.remove_prefix(step);
     }
     return hash;
+}
+
+using AssetName = std::pair<Kind, std::string_view>;
+inline AssetName nameOf(const Asset& asset) noexcept {
+    return {static_cast<Kind>(asset.kind()), asset.name()->string_view()};
 }
 
 } // namespace AssetCatalog::Format

@@ -3,7 +3,7 @@
 // Threads: any; lock-free. Ownership: values never move and are never destroyed.
 #pragma once
 
-#include "Runtime/internal/Hash.h"
+#include "Runtime/internal/NameMap.h"
 #include <array>
 #include <atomic>
 #include <cstddef>
@@ -16,7 +16,7 @@
 
 namespace Runtime {
 
-// Separate chaining with a fixed number of buckets.
+// A fixed number of buckets, each a tree: the next bits of a key's hash select the child of a node.
 template <class T, std::size_t buckets = 64> class KeyedStore {
 public:
     static constexpr std::size_t unlimited = std::numeric_limits<std::size_t>::max();
@@ -30,7 +30,13 @@ public:
     T* find(std::string_view key) const noexcept { return find(key, keyHash(key)); }
     // The same with `hash`, which is keyHash(key). With a wrong hash nothing is found.
     T* find(std::string_view key, std::uint64_t hash) const noexcept {
-        return search(bucket(hash).load(std::memory_order_acquire), hash, key);
+        Descent descent(hash, key);
+        for (const Link* link = &bucket(hash);;) {
+            Node* const node = link->load(std::memory_order_acquire);
+            if (node == nullptr || node->isOf(hash, key))
+                return node == nullptr ? nullptr : &node->value;
+            link = &node->children[descent.next()];
+        }
     }
 
     // Constructs the value of `key` from `parts`, or returns the value that another thread added meanwhile. Returns
@@ -39,35 +45,59 @@ public:
         if (size_.load(std::memory_order_relaxed) >= limit)
             return nullptr;
         const std::uint64_t hash = keyHash(key);
-        std::atomic<Node*>& first = bucket(hash);
-        std::unique_ptr<Node> made(new Node{hash, std::string(key), T(std::forward<Parts>(parts)...), nullptr});
-        made->next = first.load(std::memory_order_acquire);
-        do {
-            if (T* const others = search(made->next, hash, key))
-                return others;
-        } while (!first.compare_exchange_weak(made->next, made.get(), std::memory_order_acq_rel));
+        std::unique_ptr<Node> made(new Node{hash, std::string(key), T(std::forward<Parts>(parts)...), {}});
+        Descent descent(hash, key);
+        Node* other = nullptr;
+        for (Link* link = &bucket(hash); !link->compare_exchange_strong(other, made.get(), std::memory_order_acq_rel);
+             other = nullptr) {
+            if (other->isOf(hash, key))
+                return &other->value;
+            link = &other->children[descent.next()];
+        }
         size_.fetch_add(1, std::memory_order_relaxed);
         return &made.release()->value;
     }
 
 private:
+    static constexpr std::size_t branches = 4;
+    struct Node;
+    using Link = std::atomic<Node*>;
     struct Node {
+        bool isOf(std::uint64_t otherHash, std::string_view otherKey) const noexcept {
+            return hash == otherHash && isSameName(key, otherKey);
+        }
         std::uint64_t hash;
         std::string key;
         T value;
-        Node* next;
+        std::array<Link, branches> children{};
     };
 
-    static T* search(Node* node, std::uint64_t hash, std::string_view key) noexcept {
-        while (node != nullptr && (node->hash != hash || !isSameName(node->key, key)))
-            node = node->next;
-        return node == nullptr ? nullptr : &node->value;
-    }
+    // The children on the way to a key. Below the levels that the hash selects are only keys that were made to have
+    // the same hash, so there the key is hashed with a seed that nobody knows.
+    class Descent {
+    public:
+        Descent(std::uint64_t hash, std::string_view key) noexcept : bits_(hash / buckets), key_(key) {}
+        std::size_t next() noexcept {
+            if (level_ == levels) {
+                level_ = 0;
+                bits_ = hashBytes(key_, processSeed() + ++rounds_);
+            }
+            ++level_;
+            return std::exchange(bits_, bits_ / branches) % branches;
+        }
 
-    std::atomic<Node*>& bucket(std::uint64_t hash) noexcept { return buckets_[hash % buckets]; }
-    const std::atomic<Node*>& bucket(std::uint64_t hash) const noexcept { return buckets_[hash % buckets]; }
+    private:
+        static constexpr unsigned levels = 24;
+        std::uint64_t bits_;
+        std::string_view key_;
+        unsigned level_ = 0;
+        std::uint64_t rounds_ = 0;
+    };
 
-    std::array<std::atomic<Node*>, buckets> buckets_{};
+    Link& bucket(std::uint64_t hash) noexcept { return buckets_[hash % buckets]; }
+    const Link& bucket(std::uint64_t hash) const noexcept { return buckets_[hash % buckets]; }
+
+    std::array<Link, buckets> buckets_{};
     std::atomic<std::size_t> size_{0};
 };
 

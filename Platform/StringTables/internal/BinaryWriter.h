@@ -3,6 +3,7 @@
 // Text: takes UTF-8, stores ASCII or UTF-16. Threads: one at a time. Ownership: borrows its strings.
 #pragma once
 
+#include "Runtime/internal/NameMap.h"
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -53,7 +54,7 @@ private:
     std::vector<Object> objects_;
     std::optional<Number> top_;
     std::vector<std::size_t> offsets_;
-    std::unordered_map<std::string_view, Number> strings_;
+    Runtime::NameMap<Number, std::string_view> strings_;
     struct Given {
         std::size_t size;
         Number number;

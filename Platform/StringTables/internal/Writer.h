@@ -18,8 +18,8 @@ namespace StringTables {
 [[nodiscard]] Runtime::Result<std::string> write(std::span<const Entry> entries, Form form,
                                                  std::span<const std::string> comments = {});
 // The same table in binary form with an index (CompiledIndex.h), so that a bundle finds a text without reading the
-// rest. Other readers see a plain dictionary. The index is left out, and the result is that of write(), when two keys
-// have the same hash, or when entries share texts so much that their total size is more than twice that of the file.
+// rest. Other readers see a plain dictionary. The index is left out, and the result is that of write(), when keys
+// were made to collide, or when entries share texts so much that their total size is more than twice that of the file.
 [[nodiscard]] Runtime::Result<std::string> writeCompiled(std::span<const Entry> entries);
 
 // Appends `text` in quotation marks, escaped as in a table in text form.

@@ -1,0 +1,92 @@
+// Tests/Support/CollidingNames.h
+// Names of letters and digits that have the same hash.
+#pragma once
+
+#include "Runtime/internal/Hash.h"
+#include <algorithm>
+#include <cctype>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace CollidingNames {
+
+inline std::string bytesOf(std::uint64_t word) {
+    return std::string(reinterpret_cast<const char*>(&word), sizeof word);
+}
+inline bool isPlain(const std::string& text) {
+    return std::ranges::all_of(text, [](unsigned char byte) { return std::isalnum(byte) && byte < 0x80; });
+}
+// "a0000001".
+inline std::string numbered(std::size_t number) {
+    const std::string digits = std::to_string(number);
+    return "a" + std::string(7 - digits.size(), '0') + digits;
+}
+
+// Equal in Runtime::keyHash(): a word that is equal to the state makes a product zero, whatever the next word is.
+inline std::vector<std::string> inKeyHash(std::size_t count) {
+    const std::uint64_t seed = Runtime::hashSpread, second = seed * Runtime::hashSpread ^ Runtime::hashSpread;
+    std::string begin;
+    for (std::size_t i = 0; begin.size() != 24 || !isPlain(begin); ++i) {
+        begin = numbered(i) + "continue";
+        begin += bytesOf(Runtime::mixed(Runtime::loadLittle<std::uint64_t>(begin.data()) ^ seed,
+                                        Runtime::loadLittle<std::uint64_t>(begin.data() + 8) ^ second));
+    }
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < count; ++i)
+        names.push_back(begin + numbered(i) + "end");
+    return names;
+}
+
+// Equal for a hash that takes a word at a time. `step(state, word)` is the state after a word; `wordFor(state, wanted)`
+// is the word after which it is `wanted`. Each pair of words has an equivalent pair, so 12 pairs make 4,096 names.
+template <class Step, class WordFor>
+std::vector<std::string> chained(std::uint64_t state, std::size_t count, Step step, WordFor wordFor) {
+    const auto loaded = [](const std::string& word) { return Runtime::loadLittle<std::uint64_t>(word.data()); };
+    std::vector<std::string> names = {""};
+    while (names.size() < 4096) {
+        const std::string first = numbered(0) + "continue";
+        const std::uint64_t wanted = step(step(state, loaded(first)), loaded(first.substr(8)));
+        std::string other;
+        for (std::size_t i = 1; !isPlain(other) || other.empty(); ++i)
+            other = numbered(i) + bytesOf(wordFor(step(state, loaded(numbered(i))), wanted));
+        for (std::size_t i = names.size(); i-- > 0; names[i] += first)
+            names.push_back(names[i] + other);
+        state = wanted;
+    }
+    names.resize(count);
+    return names;
+}
+
+// The number whose product with the odd `number` is 1.
+constexpr std::uint64_t inverse(std::uint64_t number) {
+    std::uint64_t result = number;
+    for (int i = 0; i < 6; ++i)
+        result *= 2 - number * result;
+    return result;
+}
+
+// Equal in std::hash<std::string> of GCC's library.
+inline std::vector<std::string> inStandardHash(std::size_t count) {
+    constexpr std::uint64_t factor = 0xC6A4A7935BD1E995, seed = 0xC70F6907, size = 16 * 12;
+    const auto folded = [](std::uint64_t value) { return value ^ value >> 47; };
+    return chained(
+        seed ^ size * factor, count,
+        [&](std::uint64_t state, std::uint64_t word) { return (state ^ folded(word * factor) * factor) * factor; },
+        [&](std::uint64_t state, std::uint64_t wanted) {
+            return folded((wanted * inverse(factor) ^ state) * inverse(factor)) * inverse(factor);
+        });
+}
+
+// Equal in the hash of an image's name in a compiled catalog.
+inline std::vector<std::string> inCatalogHash(std::size_t count) {
+    const std::uint64_t size = 16 * 12, spread = Runtime::hashSpread;
+    const auto folded = [](std::uint64_t value) { return value ^ value >> 32; };
+    return chained(
+        size * spread, count, [&](std::uint64_t state, std::uint64_t word) { return (folded(state) ^ word) * spread; },
+        [&](std::uint64_t state, std::uint64_t wanted) { return folded(state) ^ wanted * inverse(spread); });
+}
+
+} // namespace CollidingNames
