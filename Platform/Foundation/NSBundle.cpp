@@ -1,6 +1,7 @@
 #include "Foundation/NSBundle.h"
 
 #include "Foundation/internal/BundleFolders.h"
+#include "Foundation/internal/BundleState.h"
 #include "Foundation/internal/FormattedText.h"
 #include "Foundation/internal/HostState.h"
 #include "Foundation/internal/LanguageChoice.h"
@@ -126,8 +127,9 @@ struct NSBundle::Contents {
 
     using Choice = std::optional<std::size_t>;
 
-    NSBundle bundle;              // used only in the first contents; a reload leaves it in place
-    Contents* previous = nullptr; // before the last reload
+    NSBundle bundle;                    // used only in the first contents; a reload leaves it in place
+    Contents* previous = nullptr;       // before the last reload
+    std::optional<std::uint64_t> state; // of the files before this was read; only after a reload
     std::string path;
     std::string developmentLocalization;
     std::deque<detail::Localization> folders;
@@ -268,7 +270,11 @@ std::optional<std::string> NSBundle::pathForResource(std::string_view name, std:
 }
 
 void NSBundle::reload() const {
+    const auto state = detail::bundleState(bundlePath());
+    if (state && state == contents().state)
+        return;
     auto fresh = std::make_unique<Contents>(bundlePath());
+    fresh->state = state;
     fresh->previous = contents_.load(std::memory_order_relaxed);
     while (!contents_.compare_exchange_weak(fresh->previous, fresh.get(), std::memory_order_acq_rel))
         continue;

@@ -4,6 +4,7 @@
 #include "Foundation/NSNumberFormatter.h"
 
 #include "../Support/TemporaryFolder.h"
+#include <chrono>
 #include <gtest/gtest.h>
 #include <latch>
 #include <thread>
@@ -196,6 +197,21 @@ TEST_F(Bundle, SeesNewTextsAfterAReload) {
     EXPECT_EQ(text("b", "Other"), "neuf");
     EXPECT_EQ(bundle().localizations(), (Languages{"en", "fr"}));
     EXPECT_EQ(before, "old");
+}
+
+TEST_F(Bundle, KeepsItsContentIfAReloadFindsNoChange) {
+    const auto reloaded = [this] {
+        bundle().reload();
+        return &bundle().localizations();
+    };
+    write("Base.lproj/Localizable.strings", "a = old;");
+    EXPECT_NE(reloaded(), reloaded()); // a further change might have the same time
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    EXPECT_EQ(reloaded(), reloaded());
+    EXPECT_EQ(text("a"), "old");
+    write("Base.lproj/Localizable.strings", "a = new;");
+    bundle().reload();
+    EXPECT_EQ(text("a"), "new");
 }
 
 TEST(BundleThreads, SeeOneStateOrTheOther) {

@@ -1,0 +1,83 @@
+#include "Foundation/internal/BundleState.h"
+
+#include "Runtime/internal/Hash.h"
+#include <algorithm>
+#include <cerrno>
+#include <ctime>
+#include <dirent.h>
+#include <memory>
+#include <string_view>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Foundation::detail {
+
+namespace {
+
+constexpr std::int64_t perSecond = 1'000'000'000;
+
+std::int64_t nanoseconds(const timespec& time) noexcept {
+    return time.tv_sec * perSecond + time.tv_nsec;
+}
+
+class StateHash {
+public:
+    // Adds what is at the path, and the entries of a folder down to that depth. False on failure.
+    bool add(const std::string& path, int depth) {
+        struct stat found {};
+        if (::stat(path.c_str(), &found) != 0)
+            return false;
+        addTimes(path, found);
+        return !S_ISDIR(found.st_mode) || depth == 0 || addEntries(path, depth - 1);
+    }
+
+    std::optional<std::uint64_t> value() const {
+        constexpr std::int64_t coarsest = perSecond / 10; // of the clocks that file systems use
+        timespec now{};
+        ::clock_gettime(CLOCK_REALTIME, &now);
+        return latest_ < nanoseconds(now) - coarsest ? std::optional(hash_) : std::nullopt;
+    }
+
+private:
+    // A sum, because the order of a folder's entries does not matter.
+    void addTimes(const std::string& path, const struct stat& found) {
+        const std::int64_t modified = nanoseconds(found.st_mtim), changed = nanoseconds(found.st_ctim);
+        latest_ = std::max({latest_, modified, changed});
+        std::uint64_t own = Runtime::keyHash(path);
+        for (const std::uint64_t field :
+             {std::uint64_t{found.st_dev}, std::uint64_t{found.st_ino}, static_cast<std::uint64_t>(found.st_size),
+              static_cast<std::uint64_t>(modified), static_cast<std::uint64_t>(changed)})
+            own = Runtime::mixed(own ^ field, Runtime::hashSpread);
+        hash_ += own;
+    }
+
+    bool addEntries(const std::string& folder, int depth) {
+        const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(folder.c_str()), &::closedir);
+        if (directory == nullptr)
+            return false;
+        // readdir() returns null at the end and on failure; only errno tells them apart.
+        errno = 0;
+        while (const dirent* entry = ::readdir(directory.get())) {
+            const std::string_view name = entry->d_name;
+            if (name != "." && name != ".." && !add(std::string(folder).append("/").append(name), depth))
+                return false;
+            errno = 0;
+        }
+        return errno == 0;
+    }
+
+    std::uint64_t hash_ = 0;
+    std::int64_t latest_ = 0;
+};
+
+} // namespace
+
+std::optional<std::uint64_t> bundleState(const std::string& bundle) {
+    constexpr int depth = 2; // language folders and their files
+    if (::access(bundle.c_str(), F_OK) != 0 && errno == ENOENT)
+        return 0;
+    StateHash hash;
+    return hash.add(bundle, depth) ? hash.value() : std::nullopt;
+}
+
+} // namespace Foundation::detail
