@@ -295,7 +295,7 @@ TEST_F(Catalogs, LeaveOutInvalidSets) {
          R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 is the unknown system colour "noColor" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "much"}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "red": ""much"" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "red": "much" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "1", "green": "1"}}}]})",
          R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "blue" and is left out)" +
@@ -304,7 +304,7 @@ TEST_F(Catalogs, LeaveOutInvalidSets) {
          R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "red": "255" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"components": {"red": "0xFFFFFFFF"}}}]})",
-         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "red": ""0xFFFFFFFF"" and is left out)" +
+         R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has no valid colour component "red": "0xFFFFFFFF" and is left out)" +
              withSet},
         {__LINE__, "a.colorset", R"({"colors": [{"color": {"color-space": "cmyk", "components": {}}}]})",
          R"(warning A.xcassets/a.colorset/Contents.json:1:13: entry 1 has the unknown colour space "cmyk" and is left out)" +

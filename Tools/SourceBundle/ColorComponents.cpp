@@ -65,6 +65,11 @@ std::optional<double> componentValue(const Json& component, bool isAlpha) {
     return value && *value >= smallest && *value <= largest ? value : std::nullopt;
 }
 
+std::string textOf(const Json& component) {
+    return component.is_string() ? component.get<std::string>()
+                                 : component.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
 } // namespace
 
 Runtime::Result<ColorValue> colorValue(const Json& json) {
@@ -79,11 +84,8 @@ Runtime::Result<ColorValue> colorValue(const Json& json) {
         const Json& component = member(member(json, "components"), names[i]);
         const std::optional<double> value = componentValue(component, i == 3);
         if (!value)
-            return Runtime::Error{
-                .message = std::string("has no valid colour component ") + quotedName(names[i]) +
-                           (component.is_null()
-                                ? ""
-                                : ": " + quotedName(component.dump(-1, ' ', false, Json::error_handler_t::replace)))};
+            return Runtime::Error{.message = std::string("has no valid colour component ") + quotedName(names[i]) +
+                                             (component.is_null() ? "" : ": " + quotedName(textOf(component)))};
         color.components[i] = *value;
     }
     return color;
