@@ -73,13 +73,13 @@ constexpr std::array<LocalizationCode, 7> keyedAgeCodes = {
 
 std::string Localization::legacyTrYear(std::int64_t value) {
     return Runtime::attempt([&]() -> std::string {
-        Foundation::NSCalendar calendar = Foundation::NSCalendar::current();
-        calendar.setLocale(detail::currentLocale());
         Foundation::NSDateComponentsFormatter formatter;
+        Foundation::NSCalendar calendar = formatter.calendar();
+        calendar.setLocale(detail::currentLocale());
         formatter.setAllowedUnits(Foundation::NSCalendarUnit::year);
         formatter.setUnitsStyle(Foundation::NSDateComponentsFormatter::UnitsStyle::full);
         formatter.setMaximumUnitCount(1);
-        formatter.setCalendar(calendar);
+        formatter.setCalendar(std::move(calendar));
         Foundation::NSDateComponents components;
         components.year = value;
         return formatter.stringFromDateComponents(components).value_or("");

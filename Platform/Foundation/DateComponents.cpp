@@ -2,25 +2,48 @@
 
 #include "Foundation/internal/NumberText.h"
 #include "Intl/internal/PluralRules.h"
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace Foundation {
 
 namespace {
 
+constexpr std::string_view numberPlace = "{0}";
+
+// A form, divided at the place of its number.
+struct Form {
+    explicit Form(std::string_view form)
+        : before(form.substr(0, form.find(numberPlace))), hasNumber(before.size() < form.size()),
+          after(hasNumber ? form.substr(before.size() + numberPlace.size()) : "") {}
+
+    bool empty() const noexcept { return before.empty() && !hasNumber; }
+
+    std::string before;
+    bool hasNumber;
+    std::string after;
+};
+
+// What a locale needs for its years.
 struct Years {
     explicit Years(std::string_view locale)
-        : years(Intl::yearForms(locale)), rules(locale.substr(0, locale.find_first_of(".@"))) {}
-
-    // The form for `count` years. Negative counts use the form of their absolute value.
-    const std::string& formFor(std::int64_t count) const noexcept {
-        const auto magnitude = count < 0 ? -static_cast<std::uint64_t>(count) : static_cast<std::uint64_t>(count);
-        const std::string& form = years.forms[indexOf(rules.category({.i = magnitude}))];
-        return form.empty() ? years.forms[indexOf(Intl::PluralCategory::other)] : form;
+        : rules(locale.substr(0, locale.find_first_of(".@"))),
+          pattern(detail::numberPattern(locale, Intl::NumberStyle::decimal)) {
+        for (const std::string& form : Intl::yearForms(locale).forms)
+            forms.emplace_back(form);
     }
 
-    Intl::YearForms years;
+    // The form for `count` years. Negative counts use the form of their absolute value.
+    const Form& formFor(std::int64_t count) const noexcept {
+        const auto magnitude = count < 0 ? -static_cast<std::uint64_t>(count) : static_cast<std::uint64_t>(count);
+        const Form& form = forms[indexOf(rules.category({.i = magnitude}))];
+        return form.empty() ? forms[indexOf(Intl::PluralCategory::other)] : form;
+    }
+
     Intl::PluralRules rules;
+    detail::Kept<Intl::NumberPattern> pattern;
+    std::vector<Form> forms; // by PluralCategory
 };
 
 detail::Kept<Years> yearsOf(std::string_view locale) {
@@ -34,19 +57,14 @@ std::optional<std::string>
 NSDateComponentsFormatter::stringFromDateComponents(const NSDateComponents& components) const {
     if (allowedUnits_ != NSCalendarUnit::year || !components.year)
         return std::nullopt;
-    const std::string& locale = calendar_.locale().identifier();
-    const auto years = yearsOf(locale);
-    const std::string_view form = years->formFor(*components.year);
+    const auto years = yearsOf(calendar_.locale().identifier());
+    const Form& form = years->formFor(*components.year);
     if (form.empty())
         return std::nullopt;
-    static constexpr std::string_view numberPlace = "{0}";
-    const std::size_t at = form.find(numberPlace);
-    std::string text(form.substr(0, at));
-    if (at != std::string_view::npos) {
-        const auto pattern = detail::numberPattern(locale, Intl::NumberStyle::decimal);
-        detail::appendNumber(text, *pattern, pattern->positivePrefix, *components.year);
-        text += form.substr(at + numberPlace.size());
-    }
+    std::string text = form.before;
+    if (form.hasNumber)
+        detail::appendNumber(text, *years->pattern, years->pattern->positivePrefix, *components.year);
+    text += form.after;
     return text;
 }
 

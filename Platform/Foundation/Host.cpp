@@ -126,8 +126,9 @@ std::uint64_t hostVersion() {
 
 HostLanguages hostLanguages() {
     static_cast<void>(hostVersion());
-    const auto now = languages.read();
-    return {now.version, splitLanguages(now.text)};
+    return languages.read([](std::uint64_t version, std::string_view list) {
+        return HostLanguages{version, splitLanguages(list)};
+    });
 }
 
 std::string languageTag(std::string_view hostName) {
@@ -149,7 +150,7 @@ std::string languageTag(std::string_view hostName) {
 Locale Locale::current() {
     if (detail::locale.version() == 0) [[unlikely]]
         detail::initialize();
-    return Locale(detail::locale.read().text);
+    return detail::locale.read([](std::uint64_t, std::string_view identifier) { return Locale(identifier); });
 }
 
 namespace Host {

@@ -5,13 +5,14 @@
 
 #include "Runtime/Export.h"
 #include <string>
+#include <string_view>
 
 namespace Foundation {
 
 class LUMORA_EXPORT Locale {
 public:
     // Accepts any string; an unknown identifier formats as the root locale.
-    explicit Locale(std::string identifier) : identifier_(std::move(identifier)) {}
+    explicit Locale(std::string_view identifier) : identifier_(identifier) {}
 
     // The user's locale according to the host settings, read at every call.
     [[nodiscard]] static Locale current();

@@ -13,13 +13,22 @@ namespace {
 using Intl::NumberPattern;
 using Intl::NumberStyle;
 
-// A nonnegative decimal number: 0.DIGITS times ten to the power of `point`, without trailing zeros. Zero has no digits.
+// A nonnegative decimal number: 0.DIGITS times ten to the power of `point`. Zero has no digits.
 struct Decimal {
     std::array<char, std::numeric_limits<std::uint64_t>::digits10 + 1> digits;
     int count = 0;
     int point = 0;
 
-    // `magnitude`, finite and not negative, times ten to the power of `power`, rounded to `places` fraction digits.
+    // `magnitude` times ten to the power of `power`.
+    Decimal(std::uint64_t magnitude, int power) noexcept {
+        if (magnitude == 0)
+            return;
+        readInteger(magnitude);
+        point = count + power;
+    }
+
+    // `magnitude`, finite and not negative, times ten to the power of `power`, rounded to `places` fraction digits;
+    // without trailing zeros.
     Decimal(double magnitude, int power, int places) noexcept {
         if (readScaled(magnitude, power + places)) {
             point = count - places;
@@ -34,9 +43,17 @@ struct Decimal {
             point = 0;
     }
 
-    char at(int place) const noexcept { return digits[static_cast<std::size_t>(place)]; }
+    // The digit at a place; 0 outside of the digits.
+    char at(int place) const noexcept {
+        return place < 0 || place >= count ? '0' : digits[static_cast<std::size_t>(place)];
+    }
+    int wholeDigits() const noexcept { return std::max(point, 1); }
+    char wholeDigit(int place) const noexcept { return point < 1 ? '0' : at(place); }
 
 private:
+    void readInteger(std::uint64_t integer) noexcept {
+        count = static_cast<int>(std::to_chars(digits.begin(), digits.end(), integer).ptr - digits.begin());
+    }
     // Fast path for nearly all numbers: the magnitude times ten to the power of `power`, rounded to an integer. Returns
     // false when the result might be wrong. The product is far below 2^53, so neither its rounding error nor the
     // difference between the value and its shortest digits can move it across a half unless it is near one.
@@ -49,13 +66,13 @@ private:
         const double scaled = magnitude * powers[static_cast<std::size_t>(power)];
         if (!(scaled < largest))
             return false;
-        const auto below = static_cast<std::uint64_t>(scaled);
+        const auto below = static_cast<std::int64_t>(scaled);
         const double rest = scaled - static_cast<double>(below);
         if (std::fabs(rest - 0.5) < nearHalf)
             return false;
-        const std::uint64_t rounded = below + (rest > 0.5 ? 1 : 0);
+        const auto rounded = static_cast<std::uint64_t>(below + (rest > 0.5 ? 1 : 0));
         if (rounded != 0)
-            count = static_cast<int>(std::to_chars(digits.begin(), digits.end(), rounded).ptr - digits.begin());
+            readInteger(rounded);
         return true;
     }
 
@@ -97,34 +114,82 @@ private:
     }
 };
 
-void appendMagnitude(std::string& out, const NumberPattern& pattern, double magnitude) {
-    if (!std::isfinite(magnitude)) {
-        out += std::isnan(magnitude) ? pattern.notANumber : pattern.infinity;
-        return;
-    }
-    const Decimal number(magnitude, static_cast<int>(pattern.powerOfTen), static_cast<int>(pattern.maximumFraction));
-    std::array<char, std::numeric_limits<double>::max_exponent10 + 16> whole;
-    const int wholeDigits = std::max(number.point, 1);
-    std::fill_n(whole.begin(), wholeDigits, '0');
-    std::copy_n(number.digits.begin(), std::clamp(number.point, 0, number.count), whole.begin());
-    appendWhole(out, pattern, {whole.data(), static_cast<std::size_t>(wholeDigits)});
+// Writes the pieces of a number one after the other into a buffer that has room for all. Appending each to a string
+// would take twice as long.
+class NumberWriter {
+public:
+    NumberWriter(const NumberPattern& pattern, char* out) noexcept : pattern_(pattern), out_(out) {}
 
-    const int places = std::max(number.count - number.point, static_cast<int>(pattern.minimumFraction));
-    if (places <= 0)
-        return;
-    out += pattern.decimalSeparator;
-    for (int place = number.point; place < number.point + places; ++place) {
-        const char digit = place < 0 || place >= number.count ? '0' : number.at(place);
-        appendDigits(out, pattern, {&digit, 1});
+    char* end() const noexcept { return out_; }
+
+    void put(std::string_view piece) noexcept {
+        for (const char c : piece) // faster than a call, as nearly all pieces have a few bytes
+            *out_++ = c;
     }
+    void putDigit(char digit) noexcept {
+        if (isAscii_)
+            *out_++ = digit;
+        else
+            put(pattern_.digits[static_cast<std::size_t>(digit - '0')]);
+    }
+    // Puts `count` digits and the separators between their groups.
+    template <class DigitAt> void putWhole(std::size_t count, DigitAt digitAt) noexcept {
+        std::size_t separators = separatorsOf(pattern_, count);
+        std::size_t groupEnd =
+            separators == 0 ? count : count - pattern_.primaryGrouping - (separators - 1) * pattern_.secondaryGrouping;
+        for (std::size_t i = 0; i < count; ++i) {
+            if (i == groupEnd) {
+                put(pattern_.groupingSeparator);
+                groupEnd += --separators == 0 ? pattern_.primaryGrouping : pattern_.secondaryGrouping;
+            }
+            putDigit(digitAt(i));
+        }
+    }
+
+    // The number of separators between the groups of `digits` whole digits.
+    static std::size_t separatorsOf(const NumberPattern& pattern, std::size_t digits) noexcept {
+        if (pattern.primaryGrouping == 0 || digits < pattern.primaryGrouping + pattern.minimumGrouping)
+            return 0;
+        return (digits - pattern.primaryGrouping - 1) / pattern.secondaryGrouping + 1;
+    }
+    // The room that is enough for `digits` digits, of which `whole` are whole.
+    static std::size_t roomFor(const NumberPattern& pattern, std::size_t digits, std::size_t whole) noexcept {
+        const std::size_t ofDigits = isAscii(pattern) ? digits : digits * longestDigit(pattern);
+        return ofDigits + separatorsOf(pattern, whole) * pattern.groupingSeparator.size();
+    }
+
+private:
+    static bool isAscii(const NumberPattern& pattern) noexcept {
+        const std::string& zero = pattern.digits[0];
+        return zero.size() == 1 && zero[0] == '0';
+    }
+    static std::size_t longestDigit(const NumberPattern& pattern) noexcept {
+        return std::ranges::max_element(pattern.digits, {}, [](const std::string& digit) { return digit.size(); })
+            ->size();
+    }
+
+    const NumberPattern& pattern_;
+    const bool isAscii_ = isAscii(pattern_);
+    char* out_;
+};
+
+// Appends what `write` writes, at most `room` bytes. It gets a NumberWriter.
+template <class Write>
+void appendWritten(std::string& out, const NumberPattern& pattern, std::size_t room, Write write) {
+    const std::size_t size = out.size();
+    out.resize(size + room);
+    NumberWriter writer(pattern, out.data() + size);
+    write(writer);
+    out.resize(static_cast<std::size_t>(writer.end() - out.data()));
 }
 
-void appendMagnitude(std::string& out, const NumberPattern& pattern, std::uint64_t magnitude) {
-    std::array<char, std::numeric_limits<std::uint64_t>::digits10 + 1 + 8> digits;
-    char* end = std::to_chars(digits.data(), digits.data() + digits.size(), magnitude).ptr;
-    if (magnitude != 0)
-        end = std::fill_n(end, pattern.powerOfTen, '0');
-    appendWhole(out, pattern, {digits.data(), end});
+Decimal decimalOf(const NumberPattern& pattern, const NSNumber& number) noexcept {
+    const int power = static_cast<int>(pattern.powerOfTen);
+    if (number.isFloating())
+        return {std::fabs(number.doubleValue()), power, static_cast<int>(pattern.maximumFraction)};
+    if (number.isNegative())
+        return {-static_cast<std::uint64_t>(number.int64Value()), power};
+    return {number.uint64Value(), power};
 }
 
 } // namespace
@@ -136,40 +201,44 @@ Kept<NumberPattern> numberPattern(std::string_view locale, NumberStyle style) {
 }
 
 void appendDigits(std::string& out, const NumberPattern& pattern, std::string_view digits) {
-    if (pattern.digits[0] == "0") {
-        out += digits;
-        return;
-    }
-    for (const char digit : digits)
-        out += pattern.digits[static_cast<std::size_t>(digit - '0')];
+    appendWritten(out, pattern, NumberWriter::roomFor(pattern, digits.size(), 0), [&](NumberWriter& writer) {
+        for (const char digit : digits)
+            writer.putDigit(digit);
+    });
 }
 
 void appendWhole(std::string& out, const NumberPattern& pattern, std::string_view digits) {
-    const std::size_t primary = pattern.primaryGrouping;
-    const std::size_t secondary = pattern.secondaryGrouping;
-    if (primary == 0 || digits.size() < primary + pattern.minimumGrouping) {
-        appendDigits(out, pattern, digits);
-        return;
-    }
-    const std::size_t last = digits.size() - primary; // the start of the last group
-    std::size_t begin = 0;
-    for (std::size_t end = (last - 1) % secondary + 1; begin != last; begin = end, end += secondary) {
-        appendDigits(out, pattern, digits.substr(begin, end - begin));
-        out += pattern.groupingSeparator;
-    }
-    appendDigits(out, pattern, digits.substr(last));
+    appendWritten(
+        out, pattern, NumberWriter::roomFor(pattern, digits.size(), digits.size()),
+        [&](NumberWriter& writer) { writer.putWhole(digits.size(), [&](std::size_t i) { return digits[i]; }); });
 }
 
-void appendNumber(std::string& out, const NumberPattern& pattern, std::string_view positivePrefix, NSNumber number) {
+void appendNumber(std::string& out, const NumberPattern& pattern, std::string_view positivePrefix,
+                  const NSNumber& number) {
     const bool isNegative = number.isNegative();
-    out += isNegative ? std::string_view(pattern.negativePrefix) : positivePrefix;
-    if (number.isFloating())
-        appendMagnitude(out, pattern, std::fabs(number.doubleValue()));
-    else if (isNegative)
-        appendMagnitude(out, pattern, -static_cast<std::uint64_t>(number.int64Value()));
-    else
-        appendMagnitude(out, pattern, number.uint64Value());
-    out += isNegative ? pattern.negativeSuffix : pattern.positiveSuffix;
+    const std::string_view prefix = isNegative ? std::string_view(pattern.negativePrefix) : positivePrefix;
+    const std::string_view suffix = isNegative ? pattern.negativeSuffix : pattern.positiveSuffix;
+    if (number.isFloating() && !std::isfinite(number.doubleValue())) {
+        (out += prefix) += std::isnan(number.doubleValue()) ? pattern.notANumber : pattern.infinity;
+        out += suffix;
+        return;
+    }
+    const Decimal decimal = decimalOf(pattern, number);
+    const int whole = decimal.wholeDigits();
+    const int fraction = std::max({decimal.count - decimal.point, static_cast<int>(pattern.minimumFraction), 0});
+    const std::size_t room =
+        prefix.size() + suffix.size() + pattern.decimalSeparator.size() +
+        NumberWriter::roomFor(pattern, static_cast<std::size_t>(whole + fraction), static_cast<std::size_t>(whole));
+    appendWritten(out, pattern, room, [&](NumberWriter& writer) {
+        writer.put(prefix);
+        writer.putWhole(static_cast<std::size_t>(whole),
+                        [&](std::size_t i) { return decimal.wholeDigit(static_cast<int>(i)); });
+        if (fraction > 0)
+            writer.put(pattern.decimalSeparator);
+        for (int place = decimal.point; place < decimal.point + fraction; ++place)
+            writer.putDigit(decimal.at(place));
+        writer.put(suffix);
+    });
 }
 
 } // namespace Foundation::detail

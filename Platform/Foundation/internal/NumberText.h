@@ -23,6 +23,6 @@ void appendWhole(std::string& out, const Intl::NumberPattern& pattern, std::stri
 // Appends a number with its prefix and suffix; `positivePrefix` is the prefix of nonnegative numbers. Floating-point
 // values are rounded to the pattern's fraction digits, halves to even, based on their shortest decimal digits.
 void appendNumber(std::string& out, const Intl::NumberPattern& pattern, std::string_view positivePrefix,
-                  NSNumber number);
+                  const NSNumber& number);
 
 } // namespace Foundation::detail

@@ -10,14 +10,17 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <string>
 #include <string_view>
+#include <tuple> // std::tuple_size_v
 
 namespace Foundation::detail {
 
 // One of the two buffers; SharedText writes the one that is not being read.
 template <std::size_t longest> class TextBuffer {
 public:
+    using Word = std::uint64_t;
+    using Words = std::array<Word, (longest + sizeof(Word) - 1) / sizeof(Word)>;
+
     void write(std::string_view text) noexcept {
         size_.store(text.size(), std::memory_order_relaxed);
         for (std::size_t i = 0; i * sizeof(Word) < text.size(); ++i) {
@@ -27,40 +30,36 @@ public:
             words_[i].store(word, std::memory_order_relaxed);
         }
     }
-    std::string read() const {
-        std::string text(std::min(size_.load(std::memory_order_relaxed), longest), '\0');
-        for (std::size_t i = 0; i * sizeof(Word) < text.size(); ++i) {
-            const Word word = words_[i].load(std::memory_order_relaxed);
-            std::memcpy(text.data() + i * sizeof word, &word, std::min(text.size() - i * sizeof word, sizeof word));
-        }
-        return text;
+    // Copies whole words, so `out` has room for the longest text. Returns the size of the text.
+    std::size_t read(Words& out) const noexcept {
+        const std::size_t size = std::min(size_.load(std::memory_order_relaxed), longest);
+        for (std::size_t i = 0; i * sizeof(Word) < size; ++i)
+            out[i] = words_[i].load(std::memory_order_relaxed);
+        return size;
     }
 
 private:
-    using Word = std::uint64_t;
     std::atomic<std::size_t> size_{0};
-    std::array<std::atomic<Word>, (longest + sizeof(Word) - 1) / sizeof(Word)> words_{};
+    std::array<std::atomic<Word>, std::tuple_size_v<Words>> words_{};
 };
 
 // A string of at most `longest` bytes, with a version number.
 template <std::size_t longest> class SharedText {
 public:
-    struct Read {
-        std::uint64_t version;
-        std::string text;
-    };
-
     // 0 before the first write.
     std::uint64_t version() const noexcept { return version_.load(std::memory_order_acquire); }
 
-    Read read() const {
+    // Returns `make(version, text)`, where `text` is a view of a consistent copy. Making the result in place saves the
+    // moves of a string, each of which would have to wait for the copy before it.
+    template <class Make> auto read(Make make) const {
+        typename TextBuffer<longest>::Words words; // not initialized: only the words of the text are used
         for (;;) {
-            Read now{version(), {}};
-            now.text = buffers_[bufferOf(now.version)].read();
+            const std::uint64_t before = version();
+            const std::size_t size = buffers_[bufferOf(before)].read(words);
             std::atomic_thread_fence(std::memory_order_acquire);
             // The buffer is reused only after the next version was published.
-            if (version_.load(std::memory_order_relaxed) == now.version)
-                return now;
+            if (version_.load(std::memory_order_relaxed) == before)
+                return make(before, std::string_view(reinterpret_cast<const char*>(words.data()), size));
         }
     }
 

@@ -63,16 +63,22 @@ inline std::uint64_t hashBytes(std::string_view bytes, std::uint64_t seed) noexc
     return hashBytes(key, hashSpread);
 }
 
-// Whether two names are equal. Compares names of 8 to 16 bytes without a call, which would take longer than the
+// Whether the first and the last `Word` of two names of the same size are equal. Requires a.size() >= sizeof(Word).
+template <class Word> bool haveSameEnds(std::string_view a, std::string_view b) noexcept {
+    const auto same = [&](std::size_t at) {
+        return loadLittle<Word>(a.data() + at) == loadLittle<Word>(b.data() + at);
+    };
+    return same(0) && same(a.size() - sizeof(Word));
+}
+
+// Whether two names are equal. Compares names of 4 to 16 bytes without a call, which would take longer than the
 // comparison.
 [[nodiscard]] inline bool isSameName(std::string_view a, std::string_view b) noexcept {
-    static constexpr std::size_t wordSize = sizeof(std::uint64_t);
-    if (a.size() != b.size() || a.size() < wordSize || a.size() > 2 * wordSize)
+    if (a.size() != b.size())
+        return false;
+    if (a.size() < 4 || a.size() > 16)
         return a == b;
-    const auto differ = [&](std::size_t at) {
-        return loadLittle<std::uint64_t>(a.data() + at) != loadLittle<std::uint64_t>(b.data() + at);
-    };
-    return !differ(0) && !differ(a.size() - wordSize);
+    return a.size() < 8 ? haveSameEnds<std::uint32_t>(a, b) : haveSameEnds<std::uint64_t>(a, b);
 }
 
 } // namespace Runtime
