@@ -95,6 +95,21 @@ class Watch(unittest.TestCase):
         self.assertEqual(self.process.wait(timeout=60), 0)
         self.assertEqual({path.name for path in self.source.iterdir()}, {"en.lproj", "Made.bundle"})
 
+    def test_an_interruption_ends_a_compile(self):
+        folder = self.folder / "Slow"
+        for i in range(20):  # all of them take many seconds
+            drawing = folder / f"Source/A.xcassets/{i}.imageset/a.svg"
+            drawing.parent.mkdir(parents=True)
+            (drawing.parent / "Contents.json").write_text('{"images": [{"filename": "a.svg"}]}')
+            drawing.write_text(f"""<svg xmlns="http://www.w3.org/2000/svg" width="300" height="300"><filter id="f">
+                <feTurbulence baseFrequency="0.{i + 1}" numOctaves="9"/></filter><rect width="300" height="300" filter="url(#f)"/></svg>""")
+        process = subprocess.Popen([PROGRAM, "watch", folder / "Source", "-o", folder / "Made.bundle"])
+        while len(list(folder.iterdir())) == 1:  # until the compile has begun
+            self.assertIsNone(process.poll())
+        process.send_signal(signal.SIGTERM)
+        self.assertEqual(process.wait(timeout=60), 0)
+        self.assertEqual([path.name for path in folder.iterdir()], ["Source"])
+
     def test_wrong_use(self):
         done = subprocess.run([PROGRAM, "watch", self.folder / "none", "-o", self.bundle], capture_output=True, text=True, timeout=60)
         self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1))

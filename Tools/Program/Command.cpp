@@ -5,7 +5,6 @@
 #include "Runtime/internal/NameMap.h"
 #include <CLI/CLI.hpp>
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -24,6 +23,8 @@ bool isTerminal() {
     static const bool is = ::isatty(STDERR_FILENO) == 1;
     return is;
 }
+
+constexpr const char* eraseLine = "\r\033[K";
 
 constexpr Severity severities[] = {Severity::note, Severity::warning, Severity::error};
 
@@ -52,7 +53,7 @@ const char* colorFor(Severity severity) {
 }
 
 void writeLine(std::string_view text) {
-    std::string line = isTerminal() ? "\r\033[K" : "";
+    std::string line = isTerminal() ? eraseLine : "";
     line.append(text).append("\n");
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
@@ -157,16 +158,20 @@ Exit report(const SourceBundle::Diagnostics& diagnostics) {
     return diagnostics.hasErrors() ? Exit::wrongUse : Exit::done;
 }
 
-void showProgress(std::string_view what, std::size_t done, std::size_t all) {
-    static const auto start = std::chrono::steady_clock::now();
-    if (!isTerminal() || std::chrono::steady_clock::now() - start < std::chrono::seconds(1))
+void ProgressLine::operator()(std::string_view what, std::size_t done, std::size_t all) {
+    if (!isTerminal() || std::chrono::steady_clock::now() - start_ < std::chrono::seconds(1))
         return;
-    std::string line = "\r\033[K";
     // A line that fills the terminal could continue on the next one, which is not erased.
-    if (done != all)
-        line += fitted("[" + std::to_string(done + 1) + "/" + std::to_string(all) + "] " + std::string(what),
-                       terminalColumns() - 1);
+    const std::string step = "[" + std::to_string(done + 1) + "/" + std::to_string(all) + "] " + std::string(what);
+    const std::string line = eraseLine + fitted(step, terminalColumns() - 1);
     std::fputs(line.c_str(), stderr);
+    isShown_ = true;
+}
+
+void ProgressLine::erase() {
+    if (isShown_)
+        std::fputs(eraseLine, stderr);
+    isShown_ = false;
 }
 
 Exit print(std::string_view bytes) {

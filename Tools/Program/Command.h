@@ -4,6 +4,7 @@
 
 #include "Runtime/internal/Result.h"
 #include "SourceBundle/Diagnostics.h"
+#include <chrono>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -55,9 +56,21 @@ void note(std::string_view what);
 // Writes all diagnostics, errors last, with equal messages grouped, and a line with their numbers. A single diagnostic
 // has the numbers on its own line. Returns Exit::wrongUse if there are errors.
 Exit report(const SourceBundle::Diagnostics& diagnostics);
-// Shows a progress line that the next call overwrites. Only on a terminal, and only after the first second. Calling it
-// with `done` equal to `all` removes the line.
-void showProgress(std::string_view what, std::size_t done, std::size_t all);
+// A line on the terminal that shows the current step of work that lasts for more than a second.
+class ProgressLine {
+public:
+    ProgressLine() = default;
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
+    ~ProgressLine() { erase(); }
+    // Shows `what`, the step after the first `done` of `all` steps, in place of the step before.
+    void operator()(std::string_view what, std::size_t done, std::size_t all);
+    void erase();
+
+private:
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+    bool isShown_ = false;
+};
 // Writes to standard output; reports an error when that fails.
 Exit print(std::string_view bytes);
 // Writes to the file given by the option -o, or to standard output for "-".

@@ -5,6 +5,7 @@
 #include "Compiler/Bundle.h"
 #include "Program/SourceArguments.h"
 #include <CLI/CLI.hpp>
+#include <functional>
 #include <memory>
 
 namespace Tools {
@@ -19,12 +20,14 @@ struct CompileOptions {
 };
 
 Exit runCompile(const CompileOptions& options) {
+    ProgressLine progress;
     SourceBundle::Diagnostics diagnostics;
     if (options.isStrict)
         diagnostics.beStrict();
     const SourceBundle::Source source = options.source.read(diagnostics);
-    auto done = Compiler::compileBundle(source, options.source.paths(), options.output, diagnostics, showProgress);
-    showProgress("", 0, 0);
+    auto done =
+        Compiler::compileBundle(source, options.source.paths(), options.output, diagnostics, std::ref(progress));
+    progress.erase();
     if (!done)
         diagnostics.add(SourceBundle::Severity::error, std::move(done.error()));
     else if (auto noted = options.depfile.write(options.source.inputs()); !noted)

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <system_error>
 #include <utility>
@@ -70,13 +71,14 @@ Exit showSource(const GalleryOptions& options) {
     if (!folder)
         return fail(folder.error());
     const fs::path bundle = folder->path() / "Gallery.bundle";
+    ProgressLine progress;
     SourceBundle::Diagnostics diagnostics;
     const SourceBundle::Source source = options.source.read(diagnostics);
     Generator::NamesFile names;
     if (!options.source.names.empty())
         names = Generator::NamesFile::read(options.source.names, diagnostics);
-    auto compiled = Compiler::compileBundle(source, options.source.paths(), bundle, diagnostics, showProgress);
-    showProgress("", 0, 0);
+    auto compiled = Compiler::compileBundle(source, options.source.paths(), bundle, diagnostics, std::ref(progress));
+    progress.erase();
     if (!compiled)
         diagnostics.add(SourceBundle::Severity::error, std::move(compiled.error()));
     if (const Exit reported = report(diagnostics); reported != Exit::done)

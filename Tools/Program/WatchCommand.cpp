@@ -10,6 +10,7 @@
 #include <csignal>
 #include <ctime>
 #include <memory>
+#include <poll.h>
 #include <set>
 #include <sys/signalfd.h>
 #include <utility>
@@ -55,12 +56,27 @@ std::string summary(const Paths& changed) {
     return ": " + std::to_string(changed.size()) + " files changed";
 }
 
+bool isReadable(const Runtime::Descriptor& descriptor) {
+    pollfd one{descriptor.number(), POLLIN, 0};
+    return ::poll(&one, 1, 0) == 1;
+}
+
+struct Interrupted {};
+
 class Watcher {
 public:
     explicit Watcher(const WatchOptions& options) : options_(options) {}
 
     Exit run() {
-        const Runtime::Descriptor stop = stopSignals();
+        try {
+            return watch();
+        } catch (const Interrupted&) {
+            return Exit::done;
+        }
+    }
+
+private:
+    Exit watch() {
         for (const std::string& folder : options_.source.folders)
             if (std::error_code failed; !fs::is_directory(folder, failed))
                 return fail({.message = "is not a folder of resources", .file = folder});
@@ -70,7 +86,7 @@ public:
         for (Paths changed;;) {
             if (const Exit compiled = compile(changed); compiled != Exit::done)
                 return compiled;
-            auto next = watch->wait(stop.number());
+            auto next = watch->wait(stop_.number());
             if (!next)
                 return fail(next.error());
             if (!*next)
@@ -79,14 +95,19 @@ public:
         }
     }
 
-private:
     // A source with errors leaves the bundle unchanged; the next change may fix them.
     Exit compile(const Paths& changed) {
         const auto begin = std::chrono::steady_clock::now();
+        ProgressLine progress;
         SourceBundle::Diagnostics diagnostics;
         const SourceBundle::Source source = options_.source.read(diagnostics);
         auto done = Compiler::compileBundle(source, options_.source.paths(), options_.output, diagnostics,
-                                            [](std::string_view, std::size_t, std::size_t) {});
+                                            [&](std::string_view what, std::size_t step, std::size_t all) {
+                                                if (isReadable(stop_))
+                                                    throw Interrupted();
+                                                progress(what, step, all);
+                                            });
+        progress.erase();
         if (!done)
             diagnostics.add(SourceBundle::Severity::error, std::move(done.error()));
         const auto time =
@@ -112,6 +133,7 @@ private:
     }
 
     const WatchOptions& options_;
+    const Runtime::Descriptor stop_ = stopSignals();
     std::string lastReport_;
 };
 
