@@ -15,26 +15,27 @@
 
 namespace Foundation::detail {
 
-// One of the two buffers; SharedText writes the one that is not being read.
+// One of the two buffers; SharedText writes the one that is not being read. A reader that gets a part of a later text
+// also sees all that the writer did before.
 template <std::size_t longest> class TextBuffer {
 public:
     using Word = std::uint64_t;
     using Words = std::array<Word, (longest + sizeof(Word) - 1) / sizeof(Word)>;
 
     void write(std::string_view text) noexcept {
-        size_.store(text.size(), std::memory_order_relaxed);
+        size_.store(text.size(), std::memory_order_release);
         for (std::size_t i = 0; i * sizeof(Word) < text.size(); ++i) {
             Word word = 0;
             const std::string_view part = text.substr(i * sizeof word, sizeof word);
             std::memcpy(&word, part.data(), part.size());
-            words_[i].store(word, std::memory_order_relaxed);
+            words_[i].store(word, std::memory_order_release);
         }
     }
     // Copies whole words, so `out` has room for the longest text. Returns the size of the text.
     std::size_t read(Words& out) const noexcept {
-        const std::size_t size = std::min(size_.load(std::memory_order_relaxed), longest);
+        const std::size_t size = std::min(size_.load(std::memory_order_acquire), longest);
         for (std::size_t i = 0; i * sizeof(Word) < size; ++i)
-            out[i] = words_[i].load(std::memory_order_relaxed);
+            out[i] = words_[i].load(std::memory_order_acquire);
         return size;
     }
 
@@ -56,8 +57,7 @@ public:
         for (;;) {
             const std::uint64_t before = version();
             const std::size_t size = buffers_[bufferOf(before)].read(words);
-            std::atomic_thread_fence(std::memory_order_acquire);
-            // The buffer is reused only after the next version was published.
+            // A buffer is written again only after the next version was published.
             if (version_.load(std::memory_order_relaxed) == before)
                 return make(before, std::string_view(reinterpret_cast<const char*>(words.data()), size));
         }
@@ -67,7 +67,6 @@ public:
     // text stays valid.
     void write(std::string_view text) noexcept {
         const std::uint64_t next = version_.load(std::memory_order_relaxed) + 1;
-        std::atomic_thread_fence(std::memory_order_release);
         buffers_[bufferOf(next)].write(text);
         version_.store(next, std::memory_order_release);
     }
