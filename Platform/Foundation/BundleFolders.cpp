@@ -48,10 +48,10 @@ std::optional<std::vector<std::string>> listedFolders(const std::string& bundle)
 }
 
 std::vector<std::string> listed(const std::string& bundle) {
-    constexpr int mostUpgrades = 16; // replacements of the bundle while it is listed
+    constexpr int maxTries = 16;
     if (bundle.find('\0') != bundle.npos)
         return {};
-    for (int upgrades = 0; upgrades < mostUpgrades; ++upgrades)
+    for (int tries = 0; tries < maxTries; ++tries)
         if (auto names = listedFolders(bundle)) {
             std::ranges::sort(*names);
             return *std::move(names);
@@ -61,9 +61,13 @@ std::vector<std::string> listed(const std::string& bundle) {
 
 std::vector<std::string> split(std::string_view list) {
     std::vector<std::string> names;
-    for (std::size_t end = 0; (end = list.find(layout::languageSeparator)) != list.npos; list.remove_prefix(end + 1))
+    for (;;) {
+        const std::size_t end = list.find(layout::languageSeparator);
+        if (end == list.npos)
+            return names;
         names.emplace_back(list.substr(0, end));
-    return names;
+        list.remove_prefix(end + 1);
+    }
 }
 
 // Whether the directory has that number of folders. Most file systems count them in st_nlink; the others report 1.

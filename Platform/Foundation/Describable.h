@@ -1,7 +1,7 @@
 // Foundation/Describable.h
 // The platform's default description of a value, as a parameter type: a function with a `const Describable&` parameter
-// accepts any value that can be described. Text: UTF-8; the bytes of strings are passed through unchanged. Threads:
-// plain values. Every header of generated texts includes this one, so it includes little.
+// accepts any value that can be described. Every header of generated texts includes this one, so it includes little.
+// Text: UTF-8; the bytes of strings are passed through unchanged. Threads: plain values.
 #pragma once
 
 #include "Runtime/Export.h"

@@ -36,10 +36,12 @@ std::string_view flaggedSign(const Placeholder& placeholder, std::string_view pl
 }
 
 void appendPrefix(std::string& out, const Placeholder& placeholder, const NumberPattern& pattern, bool isNegative) {
-    if (isNegative)
+    if (isNegative) {
         out += pattern.negativePrefix;
-    else
-        (out += flaggedSign(placeholder, pattern.plusSign)) += pattern.positivePrefix;
+    } else {
+        out += flaggedSign(placeholder, pattern.plusSign);
+        out += pattern.positivePrefix;
+    }
 }
 
 // Zero padding at the current end of `out`, if the flags require it.

@@ -67,10 +67,10 @@ public:
                                                              std::string_view localization) const;
 
     // For development: makes later lookups read the bundle's files again, for example after a compile while the program
-    // runs. There is no automatic reload. Affected are the languages, all texts looked up through this bundle, and the
-    // accessors of formatted texts. Not affected are texts that accessors of plain texts have already cached, and
-    // pictures, colours and data. Views and references to the old content stay valid, because it is never freed; but if
-    // no file has changed since the last reload, it is kept and no memory is used. Throws std::bad_alloc, or
+    // runs. There is no automatic reload. The languages, all texts looked up through this bundle and the accessors of
+    // formatted texts then use the new files. Texts that accessors of plain texts have already cached, pictures,
+    // colours and data stay the same. Views and references to the old content stay valid, because it is never freed; but
+    // if no file has changed since the last reload, it is kept and no memory is used. Throws std::bad_alloc, or
     // std::system_error when descriptors run out; the bundle is then unchanged.
     void reload() const;
 

@@ -134,12 +134,14 @@ private:
         out_ += '%';
         appendPosition(piece.arguments.value);
         std::size_t at = piece.placeholder.position == 0 ? 1 : text.find('$') + 1;
-        const bool hasWidth = piece.placeholder.width.from == Placeholder::Size::From::argument;
-        for (bool isWidth = hasWidth; at < text.size(); ++at) {
+        // The first '*' is the width's unless only the precision is an argument.
+        bool isWidth = piece.placeholder.width.from == Placeholder::Size::From::argument;
+        for (; at < text.size(); ++at) {
             out_ += text[at];
             if (text[at] != '*')
                 continue;
-            appendPosition(std::exchange(isWidth, false) ? piece.arguments.width : piece.arguments.precision);
+            appendPosition(isWidth ? piece.arguments.width : piece.arguments.precision);
+            isWidth = false;
             const std::size_t digits = text.find_first_not_of("0123456789", at + 1);
             if (digits > at + 1 && text[digits] == '$') // an explicit position, which was just written
                 at = digits;

@@ -5,6 +5,7 @@
 #include "Foundation/internal/FormattedText.h"
 #include "Foundation/internal/NumberText.h"
 #include "StringTables/internal/Placeholder.h"
+#include "StringTables/internal/Unicode.h"
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -15,11 +16,8 @@ namespace {
 
 using StringTables::ArgumentCounter;
 using StringTables::Placeholder;
+using StringTables::internal::beginsCharacter;
 using Kind = FormatArgument::Kind;
-
-bool beginsCharacter(char byte) noexcept {
-    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-}
 
 // The first `limit` characters of a text.
 std::string_view firstCharacters(std::string_view text, std::size_t limit) noexcept {
@@ -27,13 +25,6 @@ std::string_view firstCharacters(std::string_view text, std::size_t limit) noexc
         if (beginsCharacter(text[i]) && limit-- == 0)
             return text.substr(0, i);
     return text;
-}
-
-// The complete characters in the first `size` bytes of a longer text.
-std::string_view cut(std::string_view text, std::size_t size) noexcept {
-    while (size > 0 && !beginsCharacter(text[size]))
-        --size;
-    return text.substr(0, size);
 }
 
 // The beginning of a format whose only placeholders are "%@" for texts; usually the whole format. Its pieces are
@@ -95,7 +86,7 @@ public:
         counter_ = ArgumentCounter(beginning.arguments());
         fill(beginning.size());
         if (out_.size() > limit_)
-            out_.resize(cut(out_, limit_).size());
+            out_.resize(StringTables::internal::cutToSize(out_, limit_).size());
         return std::move(out_);
     }
 
@@ -224,7 +215,7 @@ private:
     // Pads the text appended since `begin` to `width` characters.
     void pad(std::size_t begin, std::size_t width, bool leftAligned, const detail::Padding& padding) {
         const auto written = std::string_view(out_).substr(begin);
-        const auto characters = static_cast<std::size_t>(std::ranges::count_if(written, beginsCharacter));
+        const std::size_t characters = StringTables::internal::countCharacters(written);
         if (characters >= width)
             return;
         if (leftAligned) {

@@ -145,10 +145,11 @@ YearForms icuYearForms(std::string_view identifier) {
     return years;
 }
 
+constexpr std::size_t plentyForIcu = std::size_t{8} << 20;
+
 // Calls ICU only when enough memory is free for its initialization: without memory, one part of it deadlocks and others
 // cache the failure permanently. If ICU fails twice although memory was free, it has cached a failure, and `otherwise`
 // is returned.
-constexpr std::size_t plentyForIcu = std::size_t{8} << 20;
 template <class Make, class Value> Value withMemory(Make make, Value otherwise) {
     for (int attempt = 0; attempt < 2; ++attempt) {
         Runtime::demandMemory(plentyForIcu);

@@ -65,7 +65,8 @@ unsigned ruleSetOf(std::string_view tag) noexcept {
 
 constexpr std::uint64_t longest = 1'000'000'000'000'000'000; // smaller numbers keep all their digits
 
-// Appends a digit. Of a long number only the last digits are kept, and that it is not zero.
+// Appends a digit. A number that would become too long loses its first digits; `longest` replaces them, so that the
+// number does not become zero.
 std::uint64_t withDigit(std::uint64_t number, char digit) noexcept {
     const bool isLong = number >= longest / 10;
     const std::uint64_t last = number % (longest / 10) * 10 + static_cast<std::uint64_t>(digit - '0');

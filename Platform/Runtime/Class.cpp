@@ -22,7 +22,7 @@ const Message* findIn(std::span<const Message> messages, std::string_view select
     return found == messages.end() ? nullptr : &*found;
 }
 
-[[noreturn]] void refuse(std::string_view subject, std::string_view selector, std::string_view complaint) {
+[[noreturn]] void reject(std::string_view subject, std::string_view selector, std::string_view complaint) {
     fatalError({subject, " ", complaint, " \"", selector, "\""}, "Runtime/Class", 0);
 }
 
@@ -50,15 +50,15 @@ namespace detail {
 const Message& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
                        TypeTag result) noexcept {
     if (cls == nullptr)
-        refuse("An unknown class", selector, "was sent");
+        reject("An unknown class", selector, "was sent");
     const Message* message = cls->find(selector);
     if (message == nullptr)
-        refuse(cls->name(), selector, "does not answer");
+        reject(cls->name(), selector, "does not respond to");
     if (!std::ranges::equal(message->arguments, arguments,
                             [](TypeTag published, const Argument& given) { return *published == *given.type; }))
-        refuse(cls->name(), selector, "was sent arguments of other types with");
+        reject(cls->name(), selector, "was sent arguments of other types with");
     if (*message->result != *result)
-        refuse(cls->name(), selector, "was asked for a result of another type with");
+        reject(cls->name(), selector, "returns a result of another type for");
     return *message;
 }
 

@@ -1,15 +1,12 @@
 #include "Runtime/internal/CodeLocation.h"
 
 #include "Runtime/internal/Descriptor.h"
+#include "Runtime/internal/RealPath.h"
 #include <array>
-#include <cerrno>
 #include <climits>
-#include <cstdlib>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <link.h>
-#include <memory>
-#include <new> // std::bad_alloc
 #include <unistd.h>
 
 namespace Runtime {
@@ -43,13 +40,6 @@ std::string openedPath(const std::string& path) {
     const std::string_view read(name.data(), size < 0 ? 0 : static_cast<std::size_t>(size));
     const bool isName = read.starts_with('/') && read.size() < name.size() && !read.ends_with(" (deleted)");
     return std::string(isName ? read : std::string_view());
-}
-
-std::string realPath(const std::string& path) {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
-    if (real == nullptr && errno == ENOMEM)
-        throw std::bad_alloc();
-    return real == nullptr ? std::string() : std::string(real.get());
 }
 
 CodeLocation locationOf(const std::string& path, bool isMainProgram) {

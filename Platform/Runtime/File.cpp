@@ -2,16 +2,15 @@
 
 #include "Runtime/internal/Descriptor.h"
 #include "Runtime/internal/OpenFile.h"
+#include "Runtime/internal/RealPath.h"
 #include <array>
 #include <cerrno>
 #include <charconv>
 #include <climits> // PATH_MAX
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <linux/magic.h>
-#include <memory>
 #include <optional>
 #include <sys/random.h>
 #include <sys/stat.h>
@@ -53,13 +52,8 @@ std::optional<std::string> linkAt(const std::string& path) {
     return size < 0 ? std::nullopt : std::optional(std::string(text.data(), static_cast<std::size_t>(size)));
 }
 
-std::string realPath(const std::string& path) {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
-    return real == nullptr ? std::string() : std::string(real.get());
-}
-
 // Links below /proc refer to a process's open files; the link text is only a name and may be outdated.
-bool isOfProcesses(const std::string& folder) noexcept {
+bool isInProc(const std::string& folder) noexcept {
     struct statfs system {};
     return ::statfs(folder.c_str(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
 }
@@ -157,7 +151,7 @@ Result<void> writeFile(const std::string& path, std::string_view bytes, WriteSaf
             return isThere && !S_ISREG(status.st_mode) ? writeThrough(place, bytes) : replace(place, bytes, safety);
         }
         const std::string folder = folderOf(place);
-        if (isOfProcesses(folder))
+        if (isInProc(folder))
             return writeOpened(place, bytes);
         place = link->starts_with('/') ? *link : folder + *link;
     }

@@ -1,11 +1,10 @@
 #include "Runtime/internal/OpenFile.h"
 
+#include "Runtime/internal/RealPath.h"
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <linux/openat2.h>
-#include <memory>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -34,12 +33,6 @@ int openWithoutLinks(const std::string& path, int flags) noexcept {
     return static_cast<int>(::syscall(SYS_openat2, AT_FDCWD, path.c_str(), &how, sizeof how));
 }
 
-// The path without links; empty with errno on failure.
-std::string resolved(const std::string& path) {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
-    return real == nullptr ? std::string() : std::string(real.get());
-}
-
 // Negative with errno on failure; leadsOut for a link out of the folder.
 int openInside(const std::string& path, std::string_view folder, int flags) {
     const int descriptor = openWithoutLinks(path, flags);
@@ -47,10 +40,10 @@ int openInside(const std::string& path, std::string_view folder, int flags) {
     const bool isUnknownCall = descriptor < 0 && (errno == ENOSYS || errno == EPERM); // old kernels, some containers
     if (!hasLinks && !isUnknownCall)
         return descriptor;
-    const std::string real = resolved(path);
+    const std::string real = realPath(path);
     if (real.empty())
         return -1;
-    if (real.starts_with(resolved(std::string(folder)) + "/"))
+    if (real.starts_with(realPath(std::string(folder)) + "/"))
         return ::open(real.c_str(), flags);
     errno = leadsOut;
     return -1;

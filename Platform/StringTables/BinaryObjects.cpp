@@ -47,10 +47,10 @@ bool BinaryObjects::top(Object& out) {
     return true;
 }
 
-// Object `number`; errors about the reference point at `namedAt`.
-bool BinaryObjects::object(std::uint64_t number, std::size_t namedAt, Object& out) {
+// Object `number`; errors about the reference point at `referenceAt`.
+bool BinaryObjects::object(std::uint64_t number, std::size_t referenceAt, Object& out) {
     if (number >= objects_)
-        return fail(namedAt, "there is no object " + std::to_string(number));
+        return fail(referenceAt, "there is no object " + std::to_string(number));
     const std::uint64_t at = offset(number);
     if (at < headerSize || at >= tableAt_)
         return fail(tableAt_ + static_cast<std::size_t>(number) * offsetSize_,
@@ -127,9 +127,8 @@ bool BinaryObjects::decode(const Object& object, std::string_view& out) {
 
 // Whether the objects are in the file in the order of their numbers.
 bool BinaryObjects::isOrdered() const noexcept {
-    std::uint64_t before = 0;
-    for (std::uint64_t i = 0; i < objects_; ++i)
-        if (const std::uint64_t at = offset(i); std::exchange(before, at) >= at)
+    for (std::uint64_t i = 1; i < objects_; ++i)
+        if (offset(i - 1) >= offset(i))
             return false;
     return true;
 }

@@ -33,25 +33,25 @@ private:
         return true;
     }
 
-    bool key(std::size_t namedAt) {
+    bool key(std::size_t referenceAt) {
         Object object;
         std::string_view text;
-        const std::uint64_t number = objects_.reference(namedAt);
-        if (!objects_.object(number, namedAt, object))
+        const std::uint64_t number = objects_.reference(referenceAt);
+        if (!objects_.object(number, referenceAt, object))
             return false;
         if (!object.isString())
             return objects_.fail(object.at, "expected a string as key");
-        return string(number, object, text) && goesOn(sink_.key(text, object.at), object);
+        return string(number, object, text) && accepted(sink_.key(text, object.at), object);
     }
 
-    bool value(std::size_t namedAt) {
+    bool value(std::size_t referenceAt) {
         Object object;
         std::string_view text;
-        const std::uint64_t number = objects_.reference(namedAt);
-        if (!objects_.object(number, namedAt, object))
+        const std::uint64_t number = objects_.reference(referenceAt);
+        if (!objects_.object(number, referenceAt, object))
             return false;
         if (object.isString())
-            return string(number, object, text) && goesOn(sink_.string(text), object);
+            return string(number, object, text) && accepted(sink_.string(text), object);
         if (object.type == BinaryObjects::dictionary)
             return objects_.members(object) && entries(object);
         const char* const what = BinaryObjects::describe(object.type);
@@ -72,7 +72,10 @@ private:
         return true;
     }
 
-    bool goesOn(const char* stop, const Object& object) { return stop == nullptr || objects_.fail(object.at, stop); }
+    // `error`: what the sink returned.
+    bool accepted(const char* error, const Object& object) {
+        return error == nullptr || objects_.fail(object.at, error);
+    }
 
     BinaryObjects objects_;
     PropertyListSink& sink_;

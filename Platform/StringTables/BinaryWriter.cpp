@@ -37,8 +37,8 @@ BinaryWriter::Number BinaryWriter::dictionary() {
     return objects_.size() - 1;
 }
 
-BinaryWriter::Number BinaryWriter::room() {
-    objects_.push_back({.kind = Object::Kind::room});
+BinaryWriter::Number BinaryWriter::reserve() {
+    objects_.push_back({.kind = Object::Kind::reserved});
     return objects_.size() - 1;
 }
 
@@ -46,7 +46,7 @@ BinaryWriter::Number BinaryWriter::string(std::string_view text) {
     const auto given = given_.find(text.data());
     if (given != given_.end() && given->second.size == text.size())
         return given->second.number;
-    isUtf8_ = isUtf8_ && firstInvalidUtf8(text) == text.npos;
+    isUtf8_ = isUtf8_ && internal::isUtf8(text);
     const auto [at, isNew] = strings_.try_emplace(text, objects_.size());
     if (isNew)
         objects_.push_back({.kind = Object::Kind::string, .text = text});
@@ -72,7 +72,7 @@ std::string BinaryWriter::write() {
         case Object::Kind::string:
             putString(object.text);
             break;
-        case Object::Kind::room:
+        case Object::Kind::reserved:
             out_.append(object.size, '\0');
             break;
         }
@@ -115,8 +115,7 @@ void BinaryWriter::putDictionary(const Object& object, std::size_t referenceSize
 }
 
 void BinaryWriter::putString(std::string_view text) {
-    const char* const end = text.data() + text.size();
-    if (skipAscii(text.data(), end) == end) {
+    if (isAscii(text)) {
         putMarker(0x5, text.size());
         out_ += text;
         return;

@@ -26,10 +26,6 @@ std::string_view trimmed(std::string_view text) noexcept {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-std::string_view kept(std::string_view text, Arena& arena) {
-    return arena.keep(std::ranges::copy(text, arena.room(text.size())).out);
-}
-
 // Trims each line and joins the lines with LF. A single line is not copied.
 std::string_view cleaned(std::string_view text, Arena& arena) {
     text = trimmed(text);
@@ -46,7 +42,7 @@ std::string_view cleaned(std::string_view text, Arena& arena) {
         out += '\n';
         text.remove_prefix(text.starts_with("\r\n") ? 2 : 1);
     }
-    return kept(out, arena);
+    return arena.copy(out);
 }
 
 std::vector<Comment> textComments(const Contents& contents, Arena& arena) {
@@ -77,7 +73,7 @@ public:
     std::string close(XmlPlace) override { return {}; }
     std::string characters(std::string_view) override { return {}; }
     void comment(std::string_view text, XmlPlace place) override {
-        found.push_back({place.begin, place.end, cleaned(kept(text, arena_), arena_)});
+        found.push_back({place.begin, place.end, cleaned(arena_.copy(text), arena_)});
     }
 
     std::vector<Comment> found;

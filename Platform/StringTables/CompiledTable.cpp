@@ -23,7 +23,7 @@ std::uint32_t CompiledTable::check(std::uint32_t number, const CompiledIndex::Sl
 }
 
 bool isIntact(const CompiledIndex::Slot& slot, std::uint64_t hash, std::string_view text) noexcept {
-    return slot.check == CompiledIndex::check(hash, text) && firstInvalidUtf8(text) == text.npos;
+    return slot.check == CompiledIndex::check(hash, text) && isUtf8(text);
 }
 
 } // namespace StringTables::internal

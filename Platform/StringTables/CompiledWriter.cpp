@@ -10,11 +10,7 @@ namespace {
 using internal::BinaryWriter;
 using internal::CompiledIndex;
 using internal::CompiledIndexWriter;
-
-bool isAscii(std::string_view text) noexcept {
-    const char* const end = text.data() + text.size();
-    return internal::skipAscii(text.data(), end) == end;
-}
+using internal::isAscii;
 
 // The strings that are not ASCII, each stored once.
 class Utf8Strings {
@@ -40,16 +36,16 @@ private:
 std::string writeIndexed(std::span<const Entry> entries, std::span<const std::uint64_t> hashes,
                          const CompiledIndexWriter& index) {
     BinaryWriter list;
-    const auto room = list.room();
-    const auto numbered = [&](bool ascii) {
+    const auto indexObject = list.reserve();
+    const auto addStrings = [&](bool ascii) {
         for (const Entry& entry : entries)
             for (const std::string_view string : {entry.key, entry.text})
                 if (isAscii(string) == ascii)
                     list.string(string);
     };
-    numbered(true);
+    addStrings(true);
     const auto dictionary = list.dictionary();
-    numbered(false);
+    addStrings(false);
     Utf8Strings utf8(index.stringsAt());
     for (const Entry& entry : entries) {
         list.add(dictionary, list.string(entry.key), list.string(entry.text));
@@ -57,19 +53,19 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
             if (!isAscii(string))
                 utf8.at(list.string(string), string);
     }
-    list.setRoom(room, index.objectSize(utf8.bytes().size()));
+    list.setReserved(indexObject, index.objectSize(utf8.bytes().size()));
     std::string bytes = list.write();
 
-    const auto place = [&](std::string_view string) {
+    const auto offsetOf = [&](std::string_view string) {
         const auto number = list.string(string);
         return static_cast<std::uint32_t>(isAscii(string) ? list.charactersAt(number) : utf8.at(number, string));
     };
     std::vector<CompiledIndex::Slot> slots;
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const auto& [key, text, offset] = entries[i];
-        slots.push_back({.keyAt = place(key),
+        slots.push_back({.keyAt = offsetOf(key),
                          .keySize = static_cast<std::uint32_t>(key.size()),
-                         .textAt = place(text),
+                         .textAt = offsetOf(text),
                          .textSize = static_cast<std::uint32_t>(text.size()),
                          .check = CompiledIndex::check(hashes[i], text)});
     }

@@ -16,15 +16,16 @@ namespace {
 
 using internal::Contents;
 
-// Selects the text of an entry with a `widthRule` or `deviceRule`: the widest, or that for the best device.
+// Selects the text of an entry with a `widthRule` or `deviceRule`: that for the greatest width, or that for the device
+// with the lowest rank.
 class TextChoice {
 public:
     void begin(std::string_view rule) { isByWidth_ = rule == pluralKeys::widthRule; }
-    void offer(std::string_view of, std::string_view text) {
-        std::size_t rank = pluralKeys::deviceRank(of);
+    void offer(std::string_view widthOrDevice, std::string_view text) {
+        std::size_t rank = pluralKeys::deviceRank(widthOrDevice);
         if (isByWidth_) {
             std::size_t width = 0;
-            std::from_chars(of.data(), of.data() + of.size(), width);
+            std::from_chars(widthOrDevice.data(), widthOrDevice.data() + widthOrDevice.size(), width);
             rank = std::numeric_limits<std::size_t>::max() - width;
         }
         if (count_++ == 0 || rank < rank_) {
@@ -34,8 +35,8 @@ public:
     }
     bool isMade() const noexcept { return count_ > 0; }
     const std::string& text() const noexcept { return text_; }
-    // A note about the texts that are not used, or null.
-    const char* loss() const noexcept {
+    // What to note about the texts that are not used, or null.
+    const char* unusedNote() const noexcept {
         if (count_ < 2)
             return nullptr;
         return isByWidth_
@@ -96,8 +97,8 @@ public:
     void other(const char* what) override { skip(std::string(" is ").append(what).append("; it is skipped")); }
 
     std::vector<PluralEntry> takeEntries() { return std::move(entries_); }
-    // The offsets of the entries' keys.
-    const std::vector<std::size_t>& places() const noexcept { return places_; }
+    // By entry.
+    const std::vector<std::size_t>& keyOffsets() const noexcept { return keyOffsets_; }
 
 private:
     // The depth of each kind of key.
@@ -130,8 +131,8 @@ private:
         if (!hasFormat_ && choice_.isMade()) {
             plural_.format = choice_.text();
             hasFormat_ = true;
-            if (const char* const loss = choice_.loss())
-                noteEntry(loss);
+            if (const char* const unused = choice_.unusedNote())
+                noteEntry(unused);
         }
         if (!hasFormat_)
             return noteEntry(std::string(" has no ").append(pluralKeys::format).append("; it is skipped"));
@@ -141,12 +142,12 @@ private:
         const auto [known, isNew] = numbers_.try_emplace(keys_[0], entries_.size());
         if (isNew) {
             entries_.emplace_back().key = keys_[0];
-            places_.emplace_back();
+            keyOffsets_.emplace_back();
         } else {
             contents_.noteRepeated(keys_[0], "this entry holds", offsets_[0]);
         }
         entries_[known->second].plural = std::move(plural_);
-        places_[known->second] = offsets_[0];
+        keyOffsets_[known->second] = offsets_[0];
     }
 
     void beginVariable() {
@@ -199,7 +200,7 @@ private:
     TextChoice choice_;
 
     std::vector<PluralEntry> entries_;
-    std::vector<std::size_t> places_;
+    std::vector<std::size_t> keyOffsets_;
     Runtime::NameMap<std::size_t> numbers_; // of the entries, by key
 };
 
@@ -221,26 +222,26 @@ Runtime::Result<void> fill(Contents& contents, internal::PropertyListSink& sink)
 }
 
 // The indices of the entries in the order of their offsets.
-std::vector<std::size_t> inOrder(std::span<const std::size_t> places) {
-    std::vector<std::size_t> order(places.size());
+std::vector<std::size_t> inOrder(std::span<const std::size_t> keyOffsets) {
+    std::vector<std::size_t> order(keyOffsets.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::sort(order, {}, [&](std::size_t number) { return places[number]; });
+    std::ranges::sort(order, {}, [&](std::size_t number) { return keyOffsets[number]; });
     return order;
 }
 
 // Sets the locations of the entries, given the offsets of their keys.
-void locate(const Contents& contents, std::span<const std::size_t> places, std::span<PluralEntry> entries) {
-    const std::vector<std::size_t> order = inOrder(places);
+void locate(const Contents& contents, std::span<const std::size_t> keyOffsets, std::span<PluralEntry> entries) {
+    const std::vector<std::size_t> order = inOrder(keyOffsets);
     internal::Locator locator(contents);
     for (const std::size_t number : order)
-        entries[number].location = locator.locate(places[number]);
+        entries[number].location = locator.locate(keyOffsets[number]);
 }
 
-void readComments(const Contents& contents, std::span<const std::size_t> places, std::span<PluralEntry> entries) {
-    const std::vector<std::size_t> order = inOrder(places);
+void readComments(const Contents& contents, std::span<const std::size_t> keyOffsets, std::span<PluralEntry> entries) {
+    const std::vector<std::size_t> order = inOrder(keyOffsets);
     std::vector<std::size_t> offsets;
     for (const std::size_t number : order)
-        offsets.push_back(places[number]);
+        offsets.push_back(keyOffsets[number]);
     std::vector<std::string> comments = internal::commentsOf(offsets, contents);
     for (std::size_t i = 0; i < order.size(); ++i)
         entries[order[i]].comment = std::move(comments[i]);
@@ -275,9 +276,9 @@ Runtime::Result<PluralTable> PluralTable::read(std::string bytes, const std::str
     table.notes_ = std::move(contents.notes);
     for (Runtime::Error& note : table.notes_)
         note.file = file;
-    locate(contents, sink.places(), table.entries_);
+    locate(contents, sink.keyOffsets(), table.entries_);
     if (comments == Comments::areRead)
-        readComments(contents, sink.places(), table.entries_);
+        readComments(contents, sink.keyOffsets(), table.entries_);
     table.byKey_.resize(table.entries_.size());
     std::iota(table.byKey_.begin(), table.byKey_.end(), std::size_t{0});
     std::ranges::sort(table.byKey_, {},

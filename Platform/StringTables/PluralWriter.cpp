@@ -11,10 +11,7 @@ namespace StringTables {
 namespace {
 
 using internal::BinaryWriter;
-
-bool isUtf8(std::string_view text) {
-    return internal::firstInvalidUtf8(text) == std::string_view::npos;
-}
+using internal::isUtf8;
 
 bool isUtf8(const PluralVariable& variable) {
     return isUtf8(variable.name) && isUtf8(variable.valueType) &&

@@ -13,13 +13,11 @@ namespace internal {
 
 std::string quoted(std::string_view text) {
     constexpr std::size_t longest = 60;
-    std::size_t size = std::min(text.size(), longest);
-    while (size < text.size() && size > 0 && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
-        --size; // do not cut a character
+    const std::string_view shown = cutToSize(text, longest);
     std::string out = "\"";
-    for (const char c : text.substr(0, size))
+    for (const char c : shown)
         out += static_cast<unsigned char>(c) < ' ' ? ' ' : c;
-    return out + (size < text.size() ? "…\"" : "\"");
+    return out + (shown.size() < text.size() ? "…\"" : "\"");
 }
 
 Location Locator::locate(std::size_t offset) noexcept {
@@ -34,8 +32,7 @@ Location Locator::locate(std::size_t offset) noexcept {
             location_.column = 1;
             at = mark + 1;
         }
-    location_.column += static_cast<std::size_t>(
-        std::count_if(at, end, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+    location_.column += countCharacters({at, end});
     at_ = std::max(at_, offset);
     return location_;
 }

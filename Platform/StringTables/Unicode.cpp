@@ -11,24 +11,47 @@ namespace StringTables::internal {
 namespace {
 
 constexpr bool isTail(unsigned char byte) noexcept {
-    return (byte & 0xC0) == 0x80;
+    return !beginsCharacter(static_cast<char>(byte));
 }
 
-// The length of the well-formed multi-byte character at `at`, or 0. The bounds of the second byte exclude surrogates,
-// overlong forms and code points above U+10FFFF.
+// The bounds of the second byte of a character of three or four bytes. They exclude surrogates, overlong forms and code
+// points above U+10FFFF.
+constexpr bool isSecond(unsigned char lead, unsigned char byte) noexcept {
+    switch (lead) {
+    case 0xE0:
+        return byte >= 0xA0 && byte <= 0xBF;
+    case 0xED:
+        return byte >= 0x80 && byte <= 0x9F;
+    case 0xF0:
+        return byte >= 0x90 && byte <= 0xBF;
+    case 0xF4:
+        return byte >= 0x80 && byte <= 0x8F;
+    default:
+        return isTail(byte);
+    }
+}
+
+// The length of the well-formed multi-byte character at `at`, or 0.
 std::size_t characterLength(const unsigned char* at, std::size_t left) noexcept {
     const unsigned char lead = at[0];
     if (lead < 0xC2 || lead > 0xF4 || left < 2)
         return 0;
     if (lead < 0xE0)
         return isTail(at[1]) ? 2 : 0;
-    const unsigned char low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-    const unsigned char high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-    if (at[1] < low || at[1] > high || left < 3 || !isTail(at[2]))
+    if (!isSecond(lead, at[1]) || left < 3 || !isTail(at[2]))
         return 0;
     if (lead < 0xF0)
         return 3;
     return left >= 4 && isTail(at[3]) ? 4 : 0;
+}
+
+// The length of a well-formed character by its first byte.
+constexpr std::size_t characterLength(unsigned char lead) noexcept {
+    if (lead < 0x80)
+        return 1;
+    if (lead < 0xE0)
+        return 2;
+    return lead < 0xF0 ? 3 : 4;
 }
 
 // Whether the next eight bytes are four characters of two bytes, as in words of Cyrillic, Greek, Hebrew and Arabic.
@@ -140,7 +163,7 @@ Decoded decodeUtf16(std::string_view bytes, ByteOrder order, char* out) noexcept
 char32_t takeCharacter(std::string_view& utf8) noexcept {
     const auto at = [&utf8](std::size_t i) { return static_cast<char32_t>(static_cast<unsigned char>(utf8[i])); };
     char32_t code = at(0);
-    const std::size_t length = code < 0x80 ? 1 : code < 0xE0 ? 2 : code < 0xF0 ? 3 : 4;
+    const std::size_t length = characterLength(static_cast<unsigned char>(utf8[0]));
     if (length > 1)
         code &= 0x7Fu >> length;
     for (std::size_t i = 1; i < length; ++i)

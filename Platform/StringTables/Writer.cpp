@@ -33,8 +33,7 @@ std::string withoutMark(std::string_view text, std::string_view mark) {
 
 // Checks what no form can store: text that is not UTF-8, a comment with a NUL.
 Runtime::Result<void> check(const Entry& entry, std::string_view comment) {
-    const auto isUtf8 = [](std::string_view text) { return internal::firstInvalidUtf8(text) == text.npos; };
-    if (!isUtf8(entry.key) || !isUtf8(entry.text) || !isUtf8(comment))
+    if (!internal::isUtf8(entry.key) || !internal::isUtf8(entry.text) || !internal::isUtf8(comment))
         return notUtf8(entry);
     if (comment.find('\0') != comment.npos)
         return Runtime::Error{"the comment of " + internal::quoted(entry.key) + " holds a NUL character", {}};

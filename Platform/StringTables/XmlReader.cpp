@@ -43,7 +43,7 @@ private:
     };
 
     bool isWanted(Kind kind) const noexcept;
-    std::string faultOfPlace(const Element& element);
+    std::string checkPlacement(const Element& element);
 
     PropertyListSink& sink_;
     std::vector<Level> levels_;
@@ -51,23 +51,23 @@ private:
 };
 
 // Validates `element` against its parent. Returns an error message, or an empty string.
-std::string XmlReader::faultOfPlace(const Element& element) {
+std::string XmlReader::checkPlacement(const Element& element) {
     const auto tag = [&element] { return std::string("<").append(element.name).append(">"); };
     if (levels_.empty())
         return element.kind == Kind::plist ? "" : "expected <plist>, not " + tag();
     if (levels_.size() == Table::maxDepth)
         return nestedTooDeeply;
-    Level& around = levels_.back();
-    switch (element.kind == Kind::plist ? Kind::leaf : around.kind) {
+    Level& parent = levels_.back();
+    switch (element.kind == Kind::plist ? Kind::leaf : parent.kind) {
     case Kind::plist:
-        if (around.filled || element.kind != Kind::dict)
-            return around.filled ? "a second value in <plist>" : "expected <dict>, not " + tag();
-        around.filled = true;
+        if (parent.filled || element.kind != Kind::dict)
+            return parent.filled ? "a second value in <plist>" : "expected <dict>, not " + tag();
+        parent.filled = true;
         return {};
     case Kind::dict:
-        if (around.hasKey == (element.kind == Kind::key))
-            return (around.hasKey ? "expected a value, not " : "expected <key>, not ") + tag();
-        around.hasKey = !around.hasKey;
+        if (parent.hasKey == (element.kind == Kind::key))
+            return (parent.hasKey ? "expected a value, not " : "expected <key>, not ") + tag();
+        parent.hasKey = !parent.hasKey;
         return {};
     case Kind::array:
         return element.kind == Kind::key ? "<key> outside of a dictionary" : "";
@@ -81,7 +81,7 @@ std::string XmlReader::open(const char* name, const char* const*, XmlPlace place
         std::ranges::find_if(elements, [name](const Element& known) { return std::string_view(known.name) == name; });
     if (element == std::end(elements))
         return "the unknown element <" + std::string(name) + ">";
-    if (std::string wrong = faultOfPlace(*element); !wrong.empty())
+    if (std::string wrong = checkPlacement(*element); !wrong.empty())
         return wrong;
     Level level{.kind = element->kind, .isWanted = isWanted(element->kind), .offset = place.begin};
     if (level.isWanted && level.kind == Kind::dict)

@@ -1,5 +1,4 @@
 #include "StringTables/internal/PropertyListSink.h"
-#include <algorithm>
 
 namespace StringTables::internal {
 
@@ -18,20 +17,16 @@ public:
     }
     void endDictionary() override {}
     const char* key(std::string_view text, std::size_t offset) override {
-        key_ = kept(text);
+        key_ = contents_.arena.copy(text);
         offset_ = offset;
         return nullptr;
     }
     const char* string(std::string_view text) override {
-        return contents_.add(key_, kept(text), offset_) ? nullptr : tooManyEntries;
+        return contents_.add(key_, contents_.arena.copy(text), offset_) ? nullptr : tooManyEntries;
     }
     void other(const char* what) override { contents_.addSkipped(key_, what, offset_); }
 
 private:
-    std::string_view kept(std::string_view text) {
-        return contents_.arena.keep(std::ranges::copy(text, contents_.arena.room(text.size())).out);
-    }
-
     Contents& contents_;
     bool inTable_ = false;
     std::string_view key_;

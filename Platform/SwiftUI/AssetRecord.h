@@ -20,9 +20,9 @@
 //     constinit const LumoraImages LumoraAsset::Images::send = AssetModule::Catalog::image("send");
 //
 // Records are constants: no code runs to create or destroy them.
-// Text: UTF-8. Threads: any. Ownership: names are
-// string literals; returned references are valid until the process ends. Errors: reading a missing asset stops the
-// process; while memory or descriptors are out, it throws std::bad_alloc or std::system_error and caches nothing.
+// Text: UTF-8. Threads: any. Ownership: names are string literals; returned references are valid until the process
+// ends. Errors: reading a missing asset stops the process; when memory or descriptors run out, it throws std::bad_alloc
+// or std::system_error and caches nothing.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -41,6 +41,10 @@ namespace SwiftUI {
 namespace detail {
 
 enum class AssetKind : std::uint8_t { image, color, data };
+
+// The source line that the report of a missing asset names for each kind. The numbers stay the same in all versions, so
+// that their crash reports can be compared.
+inline constexpr std::uint32_t colorReportLine = 587, dataReportLine = 645, imageReportLine = 685;
 
 // Stops the process, because a module without one of its assets was built incorrectly. If the asset is unreadable
 // because of a transient error, throws std::bad_alloc or std::system_error instead.
@@ -80,7 +84,8 @@ public:
     UIKit::UIImage image() const {
         if (const auto found = UIKit::UIImage::imageNamed(name_, Module::bundle()))
             return *found;
-        detail::missingAsset(detail::AssetKind::image, name_, Module::bundle(), Module::sourceName, 685);
+        detail::missingAsset(detail::AssetKind::image, name_, Module::bundle(), Module::sourceName,
+                             detail::imageReportLine);
     }
     // Never reports a missing asset.
     Image swiftUIImage() const { return Image(name_, Module::bundle()); }
@@ -120,7 +125,8 @@ private:
     [[gnu::noinline, gnu::cold]] const UIKit::UIColor& load() const {
         if (const auto found = UIKit::UIColor::colorNamed(name_, Module::bundle()))
             return color_.keep(*found);
-        detail::missingAsset(detail::AssetKind::color, name_, Module::bundle(), Module::sourceName, 587);
+        detail::missingAsset(detail::AssetKind::color, name_, Module::bundle(), Module::sourceName,
+                             detail::colorReportLine);
     }
     // For use in the module: later reads return the assigned value.
     void setColor(const UIKit::UIColor& color) const { color_.replace(color); }
@@ -140,7 +146,8 @@ public:
     UIKit::NSDataAsset data() const {
         if (const auto found = UIKit::NSDataAsset::assetWithName(name_, Module::bundle()))
             return *found;
-        detail::missingAsset(detail::AssetKind::data, name_, Module::bundle(), Module::sourceName, 645);
+        detail::missingAsset(detail::AssetKind::data, name_, Module::bundle(), Module::sourceName,
+                             detail::dataReportLine);
     }
 
 private:

@@ -1,6 +1,6 @@
 // SwiftUI/Color.h
-// A colour view. It refers to a colour by name; the asset is looked up when the view is drawn. Text: UTF-8. Threads:
-// plain values.
+// A colour view. It refers to a colour by name; the asset is looked up when the view is drawn.
+// Text: UTF-8. Threads: plain values.
 #pragma once
 
 #include "Foundation/NSBundle.h"

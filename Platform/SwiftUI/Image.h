@@ -1,6 +1,6 @@
 // SwiftUI/Image.h
-// An image view. It refers to a picture by name; the asset is looked up when the view is drawn. Text: UTF-8. Threads:
-// plain values.
+// An image view. It refers to a picture by name; the asset is looked up when the view is drawn.
+// Text: UTF-8. Threads: plain values.
 #pragma once
 
 #include "Foundation/NSBundle.h"

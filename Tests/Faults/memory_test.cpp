@@ -293,7 +293,7 @@ TEST(NoMemory, AReportIsWritten) {
             before = 0;
             Runtime::send<std::string>(Runtime::classNamed("Lumora.Localization"), "noSuchMessage");
         },
-        testing::KilledBySignal(SIGABRT), "Fatal error: Lumora.Localization does not answer \"noSuchMessage\"");
+        testing::KilledBySignal(SIGABRT), "Fatal error: Lumora.Localization does not respond to \"noSuchMessage\"");
 }
 
 } // namespace

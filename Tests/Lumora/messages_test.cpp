@@ -38,7 +38,7 @@ TEST_F(Messages, MatchTheMembers) {
     EXPECT_EQ(Runtime::send<std::vector<std::string>>(cls, "allSupportedLocalizations"),
               Localization::allSupportedLocalizations());
     EXPECT_DEATH(Runtime::send<std::string>(cls, "localizationFileTranslation:key:", "ru", "Continue"),
-                 "does not answer");
+                 "does not respond to");
 }
 
 std::string taken(NSString* text) {

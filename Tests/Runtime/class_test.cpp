@@ -44,7 +44,7 @@ TEST(Class, PassesArgumentsOfEveryWidth) {
 }
 
 TEST(ClassDeathTest, StopsWithAReportThatNamesClassAndSelector) {
-    EXPECT_DEATH(Runtime::send<bool>(&door, "isShut"), "Fatal error: Test.Door does not answer \"isShut\"");
+    EXPECT_DEATH(Runtime::send<bool>(&door, "isShut"), "Fatal error: Test.Door does not respond to \"isShut\"");
     EXPECT_DEATH(Runtime::send<bool>(nullptr, "isOpen"), "An unknown class was sent \"isOpen\"");
     EXPECT_DEATH(Runtime::send<bool>(&door, "isOpen", 1),
                  "Test.Door was sent arguments of other types with \"isOpen\"");

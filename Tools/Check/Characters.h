@@ -14,7 +14,7 @@ namespace Check {
     if (text.empty())
         return 0;
     std::size_t begin = text.size() - 1;
-    while (begin > 0 && (static_cast<unsigned char>(text[begin]) & 0xC0) == 0x80)
+    while (begin > 0 && !StringTables::internal::beginsCharacter(text[begin]))
         --begin;
     std::string_view last = text.substr(begin);
     text = text.substr(0, begin);

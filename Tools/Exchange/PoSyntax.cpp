@@ -2,7 +2,6 @@
 
 #include "StringTables/internal/TextEscapes.h"
 #include "StringTables/internal/Unicode.h"
-#include <algorithm>
 #include <utility>
 
 namespace Exchange {
@@ -47,9 +46,8 @@ private:
     }
 
     void fail(std::string message) {
-        const auto isFirst = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
         const std::string_view before = all_.substr(0, all_.size() - line_.size());
-        const auto column = static_cast<std::size_t>(std::ranges::count_if(before, isFirst)) + 1;
+        const std::size_t column = StringTables::internal::countCharacters(before) + 1;
         if (!error_)
             error_ = {.message = std::move(message), .line = number_, .column = column};
     }

@@ -1,6 +1,7 @@
 #include "Generator/CodeText.h"
 
 #include "Generator/Unicode.h"
+#include "StringTables/internal/Unicode.h"
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
@@ -28,7 +29,7 @@ std::string_view plainFront(std::string_view text) {
 // The bytes of the first character of `text`; one byte if it is invalid.
 std::string_view firstCharacter(std::string_view text) {
     std::size_t size = 1;
-    while (size < std::min<std::size_t>(text.size(), 4) && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
+    while (size < std::min<std::size_t>(text.size(), 4) && !StringTables::internal::beginsCharacter(text[size]))
         ++size;
     const std::u32string decoded = Unicode::decoded(text.substr(0, size));
     const bool isOne = decoded.size() == 1 && Unicode::encoded(decoded) == text.substr(0, size);

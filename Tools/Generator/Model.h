@@ -1,6 +1,6 @@
 // Generator/Model.h
-// The tree of texts for the emitters: every accessor with its namespaces, its C++ name and its parameters. Ownership:
-// entries point into the source, which must outlive the model. Threads: plain values.
+// The tree of texts for the emitters: every accessor with its namespaces, its C++ name and its parameters.
+// Ownership: entries point into the source, which must outlive the model. Threads: plain values.
 #pragma once
 
 #include "Generator/NamesFile.h"

@@ -3,6 +3,7 @@
 #include "Runtime/internal/File.h"
 #include "SourceBundle/PluralText.h"
 #include "StringTables/internal/PluralKeys.h"
+#include "StringTables/internal/Unicode.h"
 #include <algorithm>
 #include <iterator>
 #include <simdjson.h>
@@ -27,7 +28,7 @@ public:
             if (text_[at_] == '\n') {
                 ++line_;
                 column_ = 1;
-            } else if ((static_cast<unsigned char>(text_[at_]) & 0xC0) != 0x80) {
+            } else if (StringTables::internal::beginsCharacter(text_[at_])) {
                 ++column_;
             }
         }

@@ -1,5 +1,6 @@
 // Foundation/internal/LocaleCache.h
-// Caches expensive values by locale identifier; internal. Threads: any; lock-free.
+// Caches expensive values by locale identifier; internal.
+// Threads: any; lock-free.
 // Ownership: cached values live until the process ends. Their number is limited: when the cache is full, values for
 // further identifiers are created at each call.
 #pragma once

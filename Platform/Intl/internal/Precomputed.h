@@ -1,7 +1,7 @@
 // Intl/internal/Precomputed.h
 // The number patterns and year forms of all locales that ICU lists, generated at build time. Most processes then need
-// neither the plug-in nor ICU's data, which would cost a millisecond and megabytes at start-up. Text: UTF-8. Threads:
-// any; constant data.
+// neither the plug-in nor ICU's data, which would cost a millisecond and megabytes at start-up.
+// Text: UTF-8. Threads: any; constant data.
 #pragma once
 
 #include "Intl/internal/NumberPattern.h"

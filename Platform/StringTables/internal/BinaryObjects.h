@@ -35,9 +35,9 @@ public:
     std::uint64_t size() const noexcept { return objects_; }
     // The top-level dictionary, with its size.
     bool top(Object& out);
-    // Object `number`; errors about the reference point at `namedAt`. string() and members() read the size of strings
-    // and dictionaries.
-    bool object(std::uint64_t number, std::size_t namedAt, Object& out);
+    // Object `number`; errors about the reference point at `referenceAt`. string() and members() read the size of
+    // strings and dictionaries.
+    bool object(std::uint64_t number, std::size_t referenceAt, Object& out);
     // Reads the size of a dictionary and checks that its members are in the file.
     bool members(Object& object);
     // The offsets of the references to the key and value of entry `i`, and the reference at an offset.

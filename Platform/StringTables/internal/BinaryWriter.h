@@ -22,9 +22,9 @@ public:
 
     // A new, empty dictionary. The first one is the top-level object.
     Number dictionary();
-    // An object of zero bytes that the caller fills in after write(), and its size.
-    Number room();
-    void setRoom(Number number, std::size_t size) { objects_[number].size = size; }
+    // Reserves space for an object that the caller writes after write(): until then it has only zeros.
+    Number reserve();
+    void setReserved(Number number, std::size_t size) { objects_[number].size = size; }
     // The string `text`; equal strings share one object. Repeated calls with the same memory do not read it again.
     Number string(std::string_view text);
     // Whether all strings are UTF-8. If not, do not call write().
@@ -40,9 +40,9 @@ public:
 
 private:
     struct Object {
-        enum class Kind { dictionary, string, room } kind;
+        enum class Kind { dictionary, string, reserved } kind;
         std::string_view text{};
-        std::size_t size = 0; // of room
+        std::size_t size = 0; // of a reserved object
         std::vector<std::pair<Number, Number>> entries{};
     };
 

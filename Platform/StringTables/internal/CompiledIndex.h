@@ -102,7 +102,7 @@ public:
         return stringsAt() + strings - CompiledIndex::objectAt;
     }
     std::size_t stringsAt() const noexcept { return index_.slotsEnd(); }
-    // Writes the index into the room that `file` has for it. `slots` are in the order of the hashes given to make().
+    // Writes the index into the space reserved in `file`. `slots` are in the order of the hashes given to make().
     void write(std::string& file, std::size_t front, std::string_view strings,
                std::span<const CompiledIndex::Slot> slots) const;
 

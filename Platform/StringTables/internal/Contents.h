@@ -27,6 +27,8 @@ public:
         return kept;
     }
 
+    std::string_view copy(std::string_view text) { return keep(std::ranges::copy(text, room(text.size())).out); }
+
 private:
     static constexpr std::size_t smallest = 4096, largest = 65536;
     std::vector<std::unique_ptr<char[]>> chunks_;

@@ -18,7 +18,9 @@ inline constexpr std::string_view deviceRule = "NSStringDeviceSpecificRuleType";
 // Of texts for several kinds of device that with the lowest rank is used.
 inline constexpr std::size_t lastDeviceRank = 2;
 constexpr std::size_t deviceRank(std::string_view device) noexcept {
-    return device == "other" ? 0 : device == "iphone" ? 1 : lastDeviceRank;
+    if (device == "other")
+        return 0;
+    return device == "iphone" ? 1 : lastDeviceRank;
 }
 
 } // namespace StringTables::pluralKeys

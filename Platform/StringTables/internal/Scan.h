@@ -59,4 +59,9 @@ inline const char* skipAscii(const char* at, const char* end) noexcept {
     return at;
 }
 
+inline bool isAscii(std::string_view text) noexcept {
+    const char* const end = text.data() + text.size();
+    return skipAscii(text.data(), end) == end;
+}
+
 } // namespace StringTables::internal

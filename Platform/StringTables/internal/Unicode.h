@@ -1,7 +1,8 @@
 // StringTables/internal/Unicode.h
-// Validates and encodes UTF-8. Threads: any; no state.
+// Validates, encodes and cuts UTF-8. Threads: any; no state.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -9,6 +10,28 @@ namespace StringTables::internal {
 
 // The offset of the first byte that is not part of a well-formed character, or npos.
 [[nodiscard]] std::size_t firstInvalidUtf8(std::string_view bytes) noexcept;
+
+[[nodiscard]] inline bool isUtf8(std::string_view bytes) noexcept {
+    return firstInvalidUtf8(bytes) == bytes.npos;
+}
+
+// Whether `byte` is the first byte of a character, in well-formed UTF-8.
+constexpr bool beginsCharacter(char byte) noexcept {
+    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+}
+
+constexpr std::size_t countCharacters(std::string_view utf8) noexcept {
+    return static_cast<std::size_t>(std::ranges::count_if(utf8, beginsCharacter));
+}
+
+// The complete characters in the first `size` bytes of `utf8`.
+constexpr std::string_view cutToSize(std::string_view utf8, std::size_t size) noexcept {
+    if (size >= utf8.size())
+        return utf8;
+    while (size > 0 && !beginsCharacter(utf8[size]))
+        --size;
+    return utf8.substr(0, size);
+}
 
 // Writes `code`, a scalar value, at `out` (at most 4 bytes) and returns the end.
 [[nodiscard]] char* putUtf8(char* out, char32_t code) noexcept;

@@ -11,10 +11,9 @@ namespace StringTables {
 
 // The bytes of a table with these entries, in this order. `form` text gives `"key" = "text";` lines. `comments`, one
 // for each entry or none at all, are written before their entries in the forms text and xml; "--" becomes "- -" in XML
-// and
-// "*/" becomes "* /" in text, where they would end the comment. The form binary has no comments.
-// Errors: an entry or a comment is not UTF-8, or holds a control character that XML has no way to write (form xml); the
-// table would be larger than Table::maxBytes, as one of few bytes may be whose entries share a long text.
+// and "*/" becomes "* /" in text, where they would end the comment. The form binary has no comments.
+// Errors: an entry or a comment is not UTF-8, or contains a control character that XML cannot express (form xml); the
+// table would be larger than Table::maxBytes. A small binary table may become that large when its entries share a text.
 [[nodiscard]] Runtime::Result<std::string> write(std::span<const Entry> entries, Form form,
                                                  std::span<const std::string> comments = {});
 // The same table in binary form with an index (CompiledIndex.h), so that a bundle finds a text without reading the
