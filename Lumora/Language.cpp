@@ -18,7 +18,7 @@ namespace {
 constexpr std::array<LocalizationCode, 3> asianLocalizationCodes = {LocalizationCode::ko, LocalizationCode::ja,
                                                                     LocalizationCode::zhHans};
 
-// A list that is created at its first use; an empty one while memory is out.
+// A list that is created at its first use; an empty one when memory runs out.
 template <class Make>
 const std::vector<std::string>& listed(Runtime::OnceSlot<std::vector<std::string>>& slot, Make make) noexcept {
     static constinit Runtime::OnceSlot<std::vector<std::string>> none;

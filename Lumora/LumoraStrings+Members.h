@@ -1,6 +1,6 @@
 // Lumora/LumoraStrings+Members.h
-// The hand-written members of LumoraStrings::Localizable: plural forms, quantity phrases, signed numbers. Text: UTF-8.
-// Threads: any. The words come from the main table and are cached at their first use.
+// The hand-written members of LumoraStrings::Localizable: plural forms, quantity phrases, signed numbers. The words
+// come from the main table and are cached at their first use. Text: UTF-8. Threads: any.
 #pragma once
 
 #include "Runtime/Export.h"

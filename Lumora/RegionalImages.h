@@ -2,8 +2,8 @@
 // Pictures that come in variants for a market region and for the user's sex.
 // A region is "arab", "asia", "europe", "latina" or "usa". It is compared with the end of a picture's name: an empty
 // region selects the first variant, an unknown one the default. For the training targets the regions are "ru" and "ar"
-// and the genders "male" and "female", compared exactly. Text: UTF-8. Threads: any. A missing picture stops the
-// process.
+// and the genders "male" and "female", compared exactly.
+// Text: UTF-8. Threads: any. Errors: a missing picture stops the process.
 #pragma once
 
 #include "Runtime/Export.h"

@@ -9,11 +9,11 @@ namespace AssetCatalog {
 
 namespace {
 
-Runtime::Error fault(std::string message) {
+Runtime::Error failure(std::string message) {
     return {.message = std::move(message), .file = {}};
 }
 Runtime::Error damaged(std::string_view what) {
-    return fault(std::string("is a damaged catalog: ").append(what));
+    return failure(std::string("is a damaged catalog: ").append(what));
 }
 Runtime::Error damagedAsset(const Format::Asset& asset, std::string_view what) {
     const std::string_view name = asset.name()->string_view().substr(0, maxNameBytes);
@@ -139,7 +139,7 @@ Runtime::Result<void> checkAssets(const Format::Catalog& index, std::size_t inde
 
 Runtime::Result<std::size_t> indexBytes(std::span<const std::uint8_t> head, std::uint64_t total) {
     if (head.size() < headBytes || !Format::SizePrefixedCatalogBufferHasIdentifier(head.data()))
-        return fault("is not a compiled catalog");
+        return failure("is not a compiled catalog");
     const std::size_t size =
         Format::aligned(flatbuffers::GetPrefixedSize(head.data()) + sizeof(flatbuffers::uoffset_t));
     if (size > maxIndexBytes || size > total)
@@ -158,8 +158,8 @@ Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> byte
         return damaged("its index is damaged or of another version");
     const Format::Catalog& index = *Format::GetSizePrefixedCatalog(bytes.data());
     if (index.version() != Format::version)
-        return fault("is a catalog of version " + std::to_string(index.version()) + "; this program reads version " +
-                     std::to_string(Format::version));
+        return failure("is a catalog of version " + std::to_string(index.version()) + "; this program reads version " +
+                       std::to_string(Format::version));
     if (index.blob_bytes() != total - bytes.size())
         return damaged("it is truncated");
     if (auto sound = checkAssets(index, bytes.size()); !sound)

@@ -22,17 +22,10 @@ const std::optional<std::string>& formOf(const PluralVariable& variable, PluralC
     return variable.forms[indexOf(category)];
 }
 
-// The form `other`, else the last existing one, else an empty text.
-std::string_view generalForm(const PluralVariable& variable) noexcept {
-    const auto last =
-        std::find_if(variable.forms.rbegin(), variable.forms.rend(), [](const auto& form) { return form.has_value(); });
-    return last == variable.forms.rend() ? std::string_view() : std::string_view(**last);
-}
-
 // The placeholder, without its position, that prints the variable's number, argument `own`. It is taken from the form
 // `other`, which every language has; if that form does not print the number, the variable's value type is used.
 std::string numberFormat(const PluralFormat& plural, const PluralVariable& variable, std::size_t own) {
-    const std::string_view form = generalForm(variable);
+    const std::string_view form = otherForm(variable);
     PluralPieces pieces(plural, form, variable, own);
     while (const auto piece = pieces.next()) {
         const Placeholder& found = piece->placeholder;
@@ -81,7 +74,7 @@ std::string_view chosenForm(const PluralFormat& plural, const PluralVariable& va
     if (const auto& zero = formOf(variable, PluralCategory::zero); isZero && zero)
         return *zero;
     const auto& form = formOf(variable, pluralCategory(language, number));
-    return form ? std::string_view(*form) : generalForm(variable);
+    return form ? std::string_view(*form) : otherForm(variable);
 }
 
 // Replaces the variables of a plural format. The result is a format whose placeholders all have positions.
@@ -160,13 +153,12 @@ std::string chosenFormat(const PluralFormat& plural, std::string_view language,
     return Flattener::flatten(plural, [&](const PluralVariable& variable, std::size_t position) {
         const bool isGiven = position >= 1 && position <= arguments.size();
         return isGiven ? chosenForm(plural, variable, language, position, arguments[position - 1])
-                       : generalForm(variable);
+                       : otherForm(variable);
     });
 }
 
 std::string generalFormat(const PluralFormat& plural) {
-    return Flattener::flatten(plural,
-                              [](const PluralVariable& variable, std::size_t) { return generalForm(variable); });
+    return Flattener::flatten(plural, [](const PluralVariable& variable, std::size_t) { return otherForm(variable); });
 }
 
 } // namespace Foundation::detail

@@ -3,12 +3,12 @@
 #include "Runtime/internal/Descriptor.h"
 #include "Runtime/internal/OpenFile.h"
 #include "Runtime/internal/RealPath.h"
+#include "Runtime/internal/SystemError.h"
 #include <array>
 #include <cerrno>
 #include <charconv>
 #include <climits> // PATH_MAX
 #include <cstdint>
-#include <cstring>
 #include <fcntl.h>
 #include <linux/magic.h>
 #include <optional>
@@ -23,21 +23,6 @@ namespace Runtime {
 namespace {
 
 constexpr int maxLinks = 40; // on the way to a file; the system's own limit
-
-Error systemError(const std::string& path, const char* doing) {
-    return {.message = std::string(doing) + ": " + std::strerror(errno), .file = path};
-}
-
-bool writeAll(int file, std::string_view bytes) noexcept {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(file, bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR)
-            return false;
-        if (written > 0)
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
 
 // With a slash at its end.
 std::string folderOf(const std::string& path) {
@@ -70,7 +55,7 @@ int ownDescriptor(const std::string& path) {
 
 Result<void> writeInto(int opened, const std::string& path, std::string_view bytes) {
     Descriptor file(opened);
-    if (file.number() < 0 || !writeAll(file.number(), bytes) || !file.close())
+    if (file.number() < 0 || !file.write(bytes) || !file.close())
         return systemError(path, "cannot be written");
     return {};
 }
@@ -112,7 +97,7 @@ Result<void> replace(const std::string& path, std::string_view bytes, WriteSafet
     auto [file, temporary] = createBeside(path);
     if (file.number() < 0)
         return systemError(path, "cannot be written");
-    const bool written = copyPermissions(path, file) && writeAll(file.number(), bytes) &&
+    const bool written = copyPermissions(path, file) && file.write(bytes) &&
                          (safety == WriteSafety::unsynced || ::fsync(file.number()) == 0) && file.close() &&
                          ::rename(temporary.c_str(), path.c_str()) == 0;
     if (written)

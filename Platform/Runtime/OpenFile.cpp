@@ -1,8 +1,8 @@
 #include "Runtime/internal/OpenFile.h"
 
 #include "Runtime/internal/RealPath.h"
+#include "Runtime/internal/SystemError.h"
 #include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <linux/openat2.h>
 #include <sys/stat.h>
@@ -12,13 +12,6 @@
 namespace Runtime {
 
 namespace {
-
-Error cannotBeRead(const OpenFile& file) {
-    const int cause = errno;
-    Error error = file.error(std::string("cannot be read: ") + std::strerror(cause));
-    error.cause = cause;
-    return error;
-}
 
 // Without O_NONBLOCK, opening a pipe would wait for its writer.
 constexpr int openFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
@@ -55,7 +48,7 @@ Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit, std:
     OpenFile file(path);
     if (path.find('\0') != path.npos) { // the system would read only the part before the NUL
         errno = ENOENT;
-        return cannotBeRead(file);
+        return systemError(path, "cannot be read");
     }
     const auto tryOpen = [&] {
         return folder.empty() ? ::open(path.c_str(), openFlags) : openInside(path, folder, openFlags);
@@ -68,7 +61,7 @@ Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit, std:
         return file.error("is a link that leads out of " + std::string(folder));
     struct stat status {};
     if (file.descriptor_.number() < 0 || ::fstat(file.descriptor_.number(), &status) != 0)
-        return cannotBeRead(file);
+        return systemError(path, "cannot be read");
     if (!S_ISREG(status.st_mode))
         return file.error("is not a regular file");
     if (static_cast<std::uintmax_t>(status.st_size) > limit)
@@ -87,7 +80,7 @@ Result<std::size_t> OpenFile::read(void* out, std::size_t size, std::uint64_t of
         const ssize_t count = ::pread(descriptor_.number(), static_cast<char*>(out) + filled, size - filled,
                                       static_cast<off_t>(offset + filled));
         if (count < 0 && errno != EINTR)
-            return cannotBeRead(*this);
+            return systemError(path_, "cannot be read");
         if (count == 0)
             break;
         if (count > 0)
@@ -98,7 +91,7 @@ Result<std::size_t> OpenFile::read(void* out, std::size_t size, std::uint64_t of
 
 Result<void> OpenFile::exists(const std::string& path, std::string_view folder) {
     if (Descriptor(openInside(path, folder, O_PATH | O_CLOEXEC)).number() < 0)
-        return cannotBeRead(OpenFile(path));
+        return systemError(path, "cannot be read");
     return {};
 }
 

@@ -15,20 +15,6 @@ std::size_t bytesFor(std::size_t number) noexcept {
     return std::bit_ceil(std::max<std::size_t>((bits + 7) / 8, 1));
 }
 
-std::u16string utf16(std::string_view text) {
-    std::u16string units;
-    while (!text.empty()) {
-        const char32_t code = takeCharacter(text);
-        if (code >= 0x10000) {
-            units += static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10));
-            units += static_cast<char16_t>(0xDC00 + ((code - 0x10000) & 0x3FF));
-        } else {
-            units += static_cast<char16_t>(code);
-        }
-    }
-    return units;
-}
-
 } // namespace
 
 BinaryWriter::Number BinaryWriter::dictionary() {
@@ -120,7 +106,7 @@ void BinaryWriter::putString(std::string_view text) {
         out_ += text;
         return;
     }
-    const std::u16string units = utf16(text);
+    const std::u16string units = toUtf16(text);
     putMarker(0x6, units.size());
     for (const char16_t unit : units)
         put(unit, 2);

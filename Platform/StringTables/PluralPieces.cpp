@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view variableMark = "#@";
 
 // The variable's name in "%#@NAME@", or an empty string when `placeholder` is not its "%#@".
-std::string_view nameBehind(std::string_view text, const Placeholder& placeholder) noexcept {
+std::string_view nameAfter(std::string_view text, const Placeholder& placeholder) noexcept {
     const std::string_view read = text.substr(placeholder.begin, placeholder.end - placeholder.begin);
     if (!read.ends_with(variableMark))
         return {};
@@ -45,7 +45,7 @@ std::optional<PluralPiece> PluralPieces::next() noexcept {
 }
 
 const PluralVariable* PluralPieces::variableAt(std::string_view text, const Placeholder& placeholder) const noexcept {
-    const std::string_view name = nameBehind(text, placeholder);
+    const std::string_view name = nameAfter(text, placeholder);
     const auto found = std::ranges::find(plural_.variables, name, &PluralVariable::name);
     return found == plural_.variables.end() || name.empty() ? nullptr : &*found;
 }

@@ -249,6 +249,12 @@ void readComments(const Contents& contents, std::span<const std::size_t> keyOffs
 
 } // namespace
 
+std::string_view otherForm(const PluralVariable& variable) noexcept {
+    const auto last =
+        std::find_if(variable.forms.rbegin(), variable.forms.rend(), [](const auto& form) { return form.has_value(); });
+    return last == variable.forms.rend() ? std::string_view() : std::string_view(**last);
+}
+
 Runtime::Result<PluralTable> PluralTable::read(std::string bytes) {
     return read(std::move(bytes), {}, Comments::areSkipped);
 }

@@ -172,4 +172,18 @@ char32_t takeCharacter(std::string_view& utf8) noexcept {
     return code;
 }
 
+std::u16string toUtf16(std::string_view utf8) {
+    std::u16string units;
+    while (!utf8.empty()) {
+        const char32_t code = takeCharacter(utf8);
+        if (code >= 0x10000) {
+            units += static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10));
+            units += static_cast<char16_t>(0xDC00 + ((code - 0x10000) & 0x3FF));
+        } else {
+            units += static_cast<char16_t>(code);
+        }
+    }
+    return units;
+}
+
 } // namespace StringTables::internal

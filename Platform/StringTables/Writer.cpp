@@ -3,6 +3,7 @@
 #include "StringTables/internal/BinaryWriter.h"
 #include "StringTables/internal/Contents.h"
 #include "StringTables/internal/Unicode.h"
+#include "StringTables/internal/XmlText.h"
 
 namespace StringTables {
 
@@ -20,23 +21,12 @@ Runtime::Error notUtf8(const Entry& entry) {
     return {"the entry " + internal::quoted(entry.key) + " is not UTF-8", {}};
 }
 
-// `text` with a space in every `mark` of two characters.
-std::string withoutMark(std::string_view text, std::string_view mark) {
-    std::string out;
-    for (const char c : text) {
-        if (out.ends_with(mark[0]) && c == mark[1])
-            out += ' ';
-        out += c;
-    }
-    return out;
-}
-
 // Checks what no form can store: text that is not UTF-8, a comment with a NUL.
 Runtime::Result<void> check(const Entry& entry, std::string_view comment) {
     if (!internal::isUtf8(entry.key) || !internal::isUtf8(entry.text) || !internal::isUtf8(comment))
         return notUtf8(entry);
     if (comment.find('\0') != comment.npos)
-        return Runtime::Error{"the comment of " + internal::quoted(entry.key) + " holds a NUL character", {}};
+        return Runtime::Error{"the comment of " + internal::quoted(entry.key) + " contains a NUL character", {}};
     return {};
 }
 
@@ -46,7 +36,7 @@ Runtime::Result<std::string> writeText(Entries entries, Comments comments) {
         if (auto checked = check(entries[i], commentOf(comments, i)); !checked)
             return std::move(checked.error());
         if (const std::string_view comment = commentOf(comments, i); !comment.empty())
-            out.append("/* ").append(withoutMark(comment, "*/")).append(" */\n");
+            out.append("/* ").append(internal::withoutMark(comment, "*/")).append(" */\n");
         appendQuoted(out, entries[i].key);
         out += " = ";
         appendQuoted(out, entries[i].text);
@@ -57,33 +47,9 @@ Runtime::Result<std::string> writeText(Entries entries, Comments comments) {
     return out;
 }
 
-bool xmlHolds(std::string_view text) noexcept {
-    for (const char c : text)
-        if (static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n' && c != '\r')
-            return false;
-    return text.find("\uFFFE") == text.npos && text.find("\uFFFF") == text.npos;
-}
-
 void appendElement(std::string& out, std::string_view name, std::string_view text) {
     out += "\t<";
-    out.append(name).append(">");
-    for (const char c : text)
-        switch (c) {
-        case '&':
-            out += "&amp;";
-            break;
-        case '<':
-            out += "&lt;";
-            break;
-        case '>':
-            out += "&gt;";
-            break;
-        case '\r': // would be read back as a line feed
-            out += "&#13;";
-            break;
-        default:
-            out += c;
-        }
+    out.append(name).append(">").append(internal::xmlText(text));
     out += "</";
     out.append(name).append(">\n");
 }
@@ -98,10 +64,11 @@ Runtime::Result<std::string> writeXml(Entries entries, Comments comments) {
         const std::string_view comment = commentOf(comments, i);
         if (auto checked = check(entries[i], comment); !checked)
             return std::move(checked.error());
-        if (!xmlHolds(key) || !xmlHolds(text) || !xmlHolds(comment))
-            return Runtime::Error{"the entry " + internal::quoted(key) + " holds a character that XML cannot", {}};
+        if (!internal::canBeXml(key) || !internal::canBeXml(text) || !internal::canBeXml(comment))
+            return Runtime::Error{
+                "the entry " + internal::quoted(key) + " contains a character that XML cannot represent", {}};
         if (!comment.empty())
-            out.append("\t<!-- ").append(withoutMark(comment, "--")).append(" -->\n");
+            out.append("\t<!-- ").append(internal::withoutMark(comment, "--")).append(" -->\n");
         appendElement(out, "key", key);
         appendElement(out, "string", text);
         if (auto fits = checkWrittenSize(out.size()); !fits)

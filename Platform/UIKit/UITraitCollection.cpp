@@ -17,7 +17,7 @@ struct Packed {
     std::uint8_t unused = 0; // bit_cast needs a value instead of padding
 };
 
-constinit std::atomic<std::uint64_t> inForce{std::bit_cast<std::uint64_t>(Packed{})};
+constinit std::atomic<std::uint64_t> currentTraits{std::bit_cast<std::uint64_t>(Packed{})};
 
 template <class Trait> Trait either(Trait own, Trait other) noexcept {
     return own == Trait{} ? other : own;
@@ -32,14 +32,14 @@ double bounded(double scale) noexcept {
 } // namespace
 
 UITraitCollection UITraitCollection::current() noexcept {
-    const auto packed = std::bit_cast<Packed>(inForce.load(std::memory_order_relaxed));
+    const auto packed = std::bit_cast<Packed>(currentTraits.load(std::memory_order_relaxed));
     return {packed.style, packed.contrast, packed.displayScale, packed.direction};
 }
 
 void UITraitCollection::setCurrent(const UITraitCollection& traits) noexcept {
     const Packed packed{static_cast<float>(bounded(traits.displayScale)), traits.userInterfaceStyle,
                         traits.accessibilityContrast, traits.layoutDirection};
-    inForce.store(std::bit_cast<std::uint64_t>(packed), std::memory_order_relaxed);
+    currentTraits.store(std::bit_cast<std::uint64_t>(packed), std::memory_order_relaxed);
 }
 
 UITraitCollection UITraitCollection::over(const UITraitCollection& under) const noexcept {

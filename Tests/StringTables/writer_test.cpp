@@ -61,7 +61,7 @@ TEST(Writer, RejectsWhatAFormCannotRepresent) {
     for (const std::string& text : {"\0"s, "\x1F"s, "\uFFFE"s, "a\uFFFF"s}) {
         const std::vector<Entry> entries = {{"k", text}};
         EXPECT_EQ(StringTables::write(entries, Form::xml).error().message,
-                  "the entry \"k\" holds a character that XML cannot");
+                  "the entry \"k\" contains a character that XML cannot represent");
         EXPECT_TRUE(StringTables::write(entries, Form::text));
     }
     for (const Form form : {Form::text, Form::xml, Form::binary}) {

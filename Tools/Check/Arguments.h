@@ -12,8 +12,8 @@ namespace Check {
 
 struct Arguments {
     StringTables::FormatSignature signature;
-    std::string_view
-        lonePercent; // the first '%' that is not written "%%", with the placeholder that it seems to begin; or empty
+    // The first '%' that is not written "%%", with the placeholder that it seems to begin; or empty.
+    std::string_view lonePercent;
 
     // Whether both take arguments of the same kinds at the same positions.
     [[nodiscard]] bool fits(const Arguments& other) const { return signature.arguments == other.signature.arguments; }

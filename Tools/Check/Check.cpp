@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <future>
 #include <iterator>
-#include <set>
 #include <tuple>
 
 namespace Check {
@@ -20,31 +19,24 @@ using SourceBundle::SourceTable;
 
 namespace {
 
-std::vector<DevelopedTable> developedTables(const Source& source, std::span<const DevelopedTable> older) {
+std::vector<CheckedTable> checkedTables(const Source& source, std::span<const CheckedTable> older) {
     std::vector<const SourceTable*> tables;
     for (const SourceTable& table : source.tables)
-        if (source.isDeveloped(table))
+        if (source.hasDevelopmentLanguage(table))
             tables.push_back(&table);
-    std::vector<DevelopedTable> developed;
+    std::vector<CheckedTable> checked;
     for (const SourceTable* table : tables) {
         const auto before =
-            std::ranges::find_if(older, [&](const DevelopedTable& other) { return other.table->name == table->name; });
-        developed.push_back({table, {source, *table, before == older.end() ? nullptr : &before->development}});
+            std::ranges::find_if(older, [&](const CheckedTable& other) { return other.table->name == table->name; });
+        checked.push_back({table, {source, *table, before == older.end() ? nullptr : &before->development}});
     }
-    return developed;
-}
-
-std::vector<std::string> languagesOf(const Source& source) {
-    std::set<std::string> languages;
-    for (const SourceTable& table : source.tables)
-        for (const auto& texts : table.languages)
-            languages.insert(texts.language);
-    return {languages.begin(), languages.end()};
+    return checked;
 }
 
 // Checks the texts, each language in a separate step.
-void checkTexts(const Source& source, std::span<const DevelopedTable> tables, std::vector<Report>& reports) {
-    const std::vector<std::string> languages = languagesOf(source);
+void checkTexts(const Source& source, std::span<const CheckedTable> tables, std::vector<Report>& reports) {
+    const std::set<std::string> sorted = source.languages();
+    const std::vector<std::string> languages(sorted.begin(), sorted.end());
     const auto shared = sharedTexts(tables);
     const std::size_t first = reports.size();
     for (std::size_t i = 0; i < languages.size(); ++i)
@@ -53,7 +45,7 @@ void checkTexts(const Source& source, std::span<const DevelopedTable> tables, st
         const std::string& language = languages[number];
         Report& report = reports[first + number];
         Coverage coverage;
-        for (const DevelopedTable& table : tables)
+        for (const CheckedTable& table : tables)
             coverage += checkTable(source, table, language, report);
         if (!isTranslation(language, source))
             return;
@@ -98,9 +90,9 @@ std::vector<Finding> check(const Source& source, const Options& options, Diagnos
     auto modelling = std::async(std::launch::async, [&] {
         return Generator::modelOf(source, {.module = "Module", .names = options.names}, diagnostics);
     });
-    const std::vector<DevelopedTable> older =
-        options.older == nullptr ? std::vector<DevelopedTable>() : developedTables(*options.older, {});
-    const std::vector<DevelopedTable> tables = developedTables(source, older);
+    const std::vector<CheckedTable> older =
+        options.older == nullptr ? std::vector<CheckedTable>() : checkedTables(*options.older, {});
+    const std::vector<CheckedTable> tables = checkedTables(source, older);
     std::vector<Report> reports(1, Report(settings));
     checkTexts(source, tables, reports);
     const Generator::Model model = modelling.get();

@@ -28,7 +28,7 @@ const DevelopmentText* DevelopmentTexts::find(std::string_view key) const {
     return number == index_.none ? nullptr : &texts_[number];
 }
 
-const DevelopmentText* DevelopmentTexts::findBehind(const DevelopmentText* last, std::string_view key) const {
+const DevelopmentText* DevelopmentTexts::findAfter(const DevelopmentText* last, std::string_view key) const {
     const std::size_t next = last == nullptr ? 0 : static_cast<std::size_t>(last - texts_.data()) + 1;
     return next < texts_.size() && texts_[next].key == key ? &texts_[next] : find(key);
 }

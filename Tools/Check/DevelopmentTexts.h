@@ -28,7 +28,7 @@ public:
     [[nodiscard]] const std::vector<DevelopmentText>& all() const noexcept { return texts_; }
     [[nodiscard]] const DevelopmentText* find(std::string_view key) const;
     // The same, but first looks at the text after `last`, because most languages have their keys in the same order.
-    [[nodiscard]] const DevelopmentText* findBehind(const DevelopmentText* last, std::string_view key) const;
+    [[nodiscard]] const DevelopmentText* findAfter(const DevelopmentText* last, std::string_view key) const;
 
     // Whether a file of the development texts is unreadable, so texts may be missing.
     [[nodiscard]] bool isDamaged() const noexcept { return isDamaged_; }

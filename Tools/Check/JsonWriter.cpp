@@ -1,5 +1,6 @@
 #include "Check/Writers.h"
 
+#include "SourceBundle/MessageText.h"
 #include <nlohmann/json.hpp>
 
 namespace Check {

@@ -89,16 +89,4 @@ std::optional<Rule> ruleNamed(std::string_view name) noexcept {
     return found == rules.end() ? std::nullopt : std::optional(found->rule);
 }
 
-std::string_view nameOf(Severity severity) noexcept {
-    switch (severity) {
-    case Severity::note:
-        return "note";
-    case Severity::warning:
-        return "warning";
-    case Severity::error:
-        break;
-    }
-    return "error";
-}
-
 } // namespace Check

@@ -57,7 +57,4 @@ struct RuleInfo {
 [[nodiscard]] const RuleInfo& infoOf(Rule rule) noexcept;
 [[nodiscard]] std::optional<Rule> ruleNamed(std::string_view name) noexcept;
 
-// "error", "warning", "note".
-[[nodiscard]] std::string_view nameOf(Severity severity) noexcept;
-
 } // namespace Check

@@ -1,6 +1,7 @@
 #include "Check/Writers.h"
 
-#include <cstdint>
+#include "Generator/CodeText.h"
+#include "SourceBundle/MessageText.h"
 #include <cstdio>
 #include <map>
 #include <nlohmann/json.hpp>
@@ -30,16 +31,6 @@ std::string uriOf(const fs::path& file, const fs::path& folder) {
     const fs::path relative = whole.lexically_relative(folder);
     const bool isInside = !relative.empty() && *relative.begin() != "..";
     return isInside ? percentEncoded(relative.generic_string()) : "file://" + percentEncoded(whole.generic_string());
-}
-
-// 64-bit FNV-1a, the same in every version.
-std::string hashOf(std::string_view text) {
-    std::uint64_t hash = 0xCBF29CE484222325;
-    for (const char c : text)
-        hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3;
-    char digits[17];
-    std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hash));
-    return digits;
 }
 
 Json rulesJson() {
@@ -77,7 +68,8 @@ private:
         std::string identity(rule.name);
         for (const std::string& part : {uri, finding.language, finding.subject})
             identity.append(1, '\0').append(part);
-        std::string hash = hashOf(identity);
+        const std::string_view text = identity;
+        std::string hash = Generator::fingerprint({&text, 1});
         return hash + ":" + std::to_string(++seen_[hash]);
     }
 

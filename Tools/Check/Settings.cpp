@@ -38,12 +38,12 @@ public:
         }
         Json json = Json::parse(*text, nullptr, false);
         if (!json.is_object()) {
-            say(Severity::error, json.is_discarded() ? "invalid JSON" : "is not an object");
+            report(Severity::error, json.is_discarded() ? "invalid JSON" : "is not an object");
             return {};
         }
         for (const auto& [name, value] : json.items())
             if (name != "disable" && name != "languages" && name != "assets")
-                say(Severity::warning, "unknown member \"" + name + "\"");
+                report(Severity::warning, "unknown member \"" + name + "\"");
         return json;
     }
 
@@ -51,15 +51,15 @@ public:
     RuleSet rules(const Json& json) {
         RuleSet rules;
         if (!json.is_array())
-            say(Severity::error, "expected a list of rule names");
+            report(Severity::error, "expected a list of rule names");
         else
             for (const Json& name : json)
                 if (!name.is_string())
-                    say(Severity::error, "expected a list of rule names");
+                    report(Severity::error, "expected a list of rule names");
                 else if (const auto rule = ruleNamed(name.get_ref<const std::string&>()))
                     add(rules, *rule);
                 else
-                    say(Severity::warning, "unknown rule \"" + name.get<std::string>() + "\"");
+                    report(Severity::warning, "unknown rule \"" + name.get<std::string>() + "\"");
         return rules;
     }
 
@@ -69,14 +69,14 @@ public:
         if (!json.contains(name))
             return all;
         if (!json[name].is_object())
-            say(Severity::error, "\"" + std::string(name) + "\" is not an object");
+            report(Severity::error, "\"" + std::string(name) + "\" is not an object");
         else
             for (const auto& [member, list] : json[name].items())
                 all[member] = rules(list);
         return all;
     }
 
-    void say(Severity severity, std::string message) {
+    void report(Severity severity, std::string message) {
         diagnostics_.add(severity, {.message = std::move(message), .file = file_});
     }
 
@@ -126,8 +126,8 @@ RuleSet allowedBy(std::string_view comment, std::vector<std::string_view>* unkno
     for (std::size_t mark = findPart(comment, allowMark); mark != comment.npos;
          mark = findPart(comment, allowMark, mark)) {
         mark += allowMark.size();
-        bool isListed =
-            true; // the next word must be a rule: it is the first or follows a comma; other words may be prose
+        // Whether the next word must be a rule: it is the first or follows a comma. Other words may be prose.
+        bool isListed = true;
         for (std::string_view rest = comment.substr(mark); !rest.empty();) {
             const std::size_t begin = std::min(rest.find_first_not_of(separators), rest.size());
             isListed |= rest.substr(0, begin).find(',') != rest.npos;

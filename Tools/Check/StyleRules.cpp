@@ -179,10 +179,10 @@ void checkStyle(const Text& text, Report& report) {
     }
 }
 
-std::vector<std::vector<SharedText>> sharedTexts(std::span<const DevelopedTable> tables) {
+std::vector<std::vector<SharedText>> sharedTexts(std::span<const CheckedTable> tables) {
     Runtime::NameMap<std::size_t, std::string_view> numbers;
     std::vector<std::vector<SharedText>> all;
-    for (const DevelopedTable& table : tables)
+    for (const CheckedTable& table : tables)
         for (const DevelopmentText& text : table.development.all()) {
             if (text.entry->plural != nullptr || text.entry->text.empty())
                 continue;

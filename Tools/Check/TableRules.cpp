@@ -78,7 +78,7 @@ bool needsTranslation(const SourceEntry& development) {
 // Checks one table in one language.
 class TableCheck {
 public:
-    TableCheck(const Source& source, const DevelopedTable& table, const LanguageTexts& texts, Report& report)
+    TableCheck(const Source& source, const CheckedTable& table, const LanguageTexts& texts, Report& report)
         : development_(table.development), texts_(texts), report_(report) {
         languages_.development = source.developmentLanguage;
         languages_.own = texts.language == SourceBundle::baseLanguage ? languages_.development : texts.language;
@@ -89,7 +89,7 @@ public:
     void checkTexts() {
         const DevelopmentText* last = nullptr;
         for (const SourceEntry& entry : texts_.entries()) {
-            const DevelopmentText* development = development_.findBehind(last, entry.key);
+            const DevelopmentText* development = development_.findAfter(last, entry.key);
             report_.checkComment(entry);
             checkText({entry, texts_.language, development, languages_});
             if (development != nullptr)
@@ -104,7 +104,7 @@ public:
         for (const DevelopmentText& text : development_.all()) {
             if (!needsTranslation(*text.entry))
                 continue;
-            const SourceEntry* entry = texts_.findBehind(before, text.entry->key);
+            const SourceEntry* entry = texts_.findAfter(before, text.entry->key);
             ++coverage.all;
             if (entry == nullptr)
                 reportMissing(*text.entry, before);
@@ -178,7 +178,7 @@ private:
 };
 
 // A missing table is reported once.
-Coverage reportMissingTable(const DevelopedTable& table, std::string_view language, Report& report) {
+Coverage reportMissingTable(const CheckedTable& table, std::string_view language, Report& report) {
     Coverage coverage;
     const SourceEntry* first = nullptr;
     for (const DevelopmentText& text : table.development.all())
@@ -204,7 +204,7 @@ bool isTranslation(std::string_view language, const Source& source) noexcept {
     return language != SourceBundle::baseLanguage && !areVariants(language, source.developmentLanguage);
 }
 
-Coverage checkTable(const Source& source, const DevelopedTable& table, std::string_view language, Report& report) {
+Coverage checkTable(const Source& source, const CheckedTable& table, std::string_view language, Report& report) {
     const LanguageTexts* texts = table.table->find(language);
     if (texts == nullptr || texts->files.empty())
         return isTranslation(language, source) ? reportMissingTable(table, language, report) : Coverage();
@@ -213,11 +213,11 @@ Coverage checkTable(const Source& source, const DevelopedTable& table, std::stri
     return isTranslation(language, source) && !texts->isDamaged ? check.checkKeys() : Coverage();
 }
 
-void reportCoverage(std::span<const DevelopedTable> tables, std::string_view language, const Coverage& coverage,
+void reportCoverage(std::span<const CheckedTable> tables, std::string_view language, const Coverage& coverage,
                     Report& report) {
     if (coverage.all == 0)
         return;
-    for (const DevelopedTable& table : tables)
+    for (const CheckedTable& table : tables)
         if (const LanguageTexts* texts = table.table->find(language); texts != nullptr && !texts->files.empty())
             return report.add({.rule = Rule::coverage,
                                .file = texts->files.front()->path,

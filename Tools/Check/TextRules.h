@@ -68,14 +68,14 @@ struct Coverage {
 };
 
 // A table with its development texts.
-struct DevelopedTable {
+struct CheckedTable {
     const SourceBundle::SourceTable* table;
     DevelopmentTexts development;
 };
 
 // missing-key, unknown-key, space-mismatch, newline-mismatch, and all rules above, for the texts of a table in one
 // language. Returns the coverage.
-Coverage checkTable(const SourceBundle::Source& source, const DevelopedTable& table, std::string_view language,
+Coverage checkTable(const SourceBundle::Source& source, const CheckedTable& table, std::string_view language,
                     Report& report);
 
 // A development text that occurs several times, with its table.
@@ -84,12 +84,12 @@ struct SharedText {
     const SourceBundle::SourceEntry* entry;
 };
 // The development texts that occur more than once, grouped by text.
-[[nodiscard]] std::vector<std::vector<SharedText>> sharedTexts(std::span<const DevelopedTable> tables);
+[[nodiscard]] std::vector<std::vector<SharedText>> sharedTexts(std::span<const CheckedTable> tables);
 // inconsistent-translation.
 void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view language, Report& report);
 
 // coverage.
-void reportCoverage(std::span<const DevelopedTable> tables, std::string_view language, const Coverage& coverage,
+void reportCoverage(std::span<const CheckedTable> tables, std::string_view language, const Coverage& coverage,
                     Report& report);
 
 // Whether texts in `language` are translations. Those of Base are not, nor those of "en-GB" if the development language

@@ -1,6 +1,8 @@
 #include "Check/Writers.h"
 
 #include "Generator/CodeText.h"
+#include "Runtime/internal/Result.h"
+#include "SourceBundle/MessageText.h"
 #include <array>
 #include <vector>
 
@@ -8,41 +10,21 @@ namespace Check {
 
 namespace {
 
-std::string_view colorOf(Severity severity) noexcept {
-    switch (severity) {
-    case Severity::note:
-        return "\033[36m";
-    case Severity::warning:
-        return "\033[33m";
-    case Severity::error:
-        break;
-    }
-    return "\033[31m";
-}
-
 std::string visible(const std::string& text) {
     return Generator::visibleText(text, std::string::npos);
 }
 
-std::string counted(std::size_t count, std::string_view word) {
-    return std::to_string(count).append(" ").append(word).append(count == 1 ? "" : "s");
-}
-
 std::string placeOf(const Finding& finding) {
-    std::string place = visible(finding.file);
-    for (const std::uint32_t number : {finding.line, finding.line != 0 ? finding.column : 0})
-        if (number != 0)
-            place.append(":").append(std::to_string(number));
-    return place;
+    return Runtime::Error{.file = visible(finding.file), .line = finding.line, .column = finding.column}.place();
 }
 
-std::string styled(std::string_view text, std::string_view style, bool isColored) {
-    return isColored ? std::string(style).append(text).append("\033[0m") : std::string(text);
+std::string bold(std::string_view text) {
+    return std::string("\033[1m").append(text).append("\033[0m");
 }
 
 std::string summary(const std::array<std::size_t, 3>& counts, Severity lowest) {
     const auto count = [&](Severity severity) {
-        return counted(counts[static_cast<std::size_t>(severity)], nameOf(severity));
+        return SourceBundle::counted(counts[static_cast<std::size_t>(severity)], nameOf(severity));
     };
     std::string line = "lumora: " + count(Severity::error) + ", " + count(Severity::warning);
     if (counts[static_cast<std::size_t>(Severity::note)] != 0)
@@ -66,9 +48,14 @@ std::string asText(std::span<const Finding> findings, Severity lowest, bool isCo
         const auto& its = byRule[static_cast<std::size_t>(rule.rule)];
         if (its.empty() || rule.severity < lowest)
             continue;
-        text += styled(rule.name, "\033[1m", isColored);
-        text.append(": ").append(rule.summary).append(" (").append(std::to_string(its.size())).append(")\n");
-        const std::string label = styled(std::string(nameOf(rule.severity)) + ":", colorOf(rule.severity), isColored);
+        text.append(isColored ? bold(rule.name) : rule.name)
+            .append(": ")
+            .append(rule.summary)
+            .append(" (")
+            .append(std::to_string(its.size()))
+            .append(")\n");
+        const std::string severity = std::string(nameOf(rule.severity)) + ":";
+        const std::string label = isColored ? SourceBundle::colored(severity, rule.severity) : severity;
         for (const Finding* finding : its)
             text.append("  ")
                 .append(placeOf(*finding))

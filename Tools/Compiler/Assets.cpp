@@ -201,7 +201,7 @@ Runtime::Result<void> compileAssets(std::span<const fs::path> catalogs, StagedFo
         return written;
     const std::string list = cacheList(files.made(), *catalog);
     const std::array<std::string_view, 2> mark = {markText, list};
-    return out.write(markName, mark);
+    return out.write(SourceBundle::compiledMark, mark);
 }
 
 } // namespace Compiler

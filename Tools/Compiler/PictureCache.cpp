@@ -60,7 +60,7 @@ std::string decimal(double number) {
 
 PictureCache PictureCache::of(const fs::path& bundle) {
     auto catalog = Runtime::OpenFile::open(bundle / AssetCatalog::fileName, AssetCatalog::maxBytes);
-    const auto list = Runtime::readFile(bundle / markName, maxListBytes);
+    const auto list = Runtime::readFile(bundle / SourceBundle::compiledMark, maxListBytes);
     if (!catalog || !list)
         return PictureCache(std::nullopt);
     PictureCache cache(*std::move(catalog));

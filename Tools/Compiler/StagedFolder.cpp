@@ -1,11 +1,11 @@
 #include "Compiler/StagedFolder.h"
 
 #include "Runtime/internal/OpenFile.h"
+#include "Runtime/internal/SystemError.h"
 #include <algorithm>
 #include <cerrno>
 #include <cstdio> // renameat2
 #include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
 #include <string>
 #include <sys/file.h> // flock
@@ -24,13 +24,9 @@ Runtime::Descriptor reserved() noexcept {
     return Runtime::Descriptor(::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
-Runtime::Error systemError(const fs::path& path, const char* doing) {
-    return {.message = std::string(doing) + ": " + std::strerror(errno), .file = path, .cause = errno};
-}
-
 bool isMarked(const fs::path& folder) {
     std::error_code failed;
-    return fs::is_regular_file(fs::symlink_status(folder / markName, failed));
+    return fs::is_regular_file(fs::symlink_status(folder / SourceBundle::compiledMark, failed));
 }
 
 // The part between the bundle's name and the six random characters of a staged folder's name.
@@ -58,7 +54,7 @@ int lock(const fs::path& folder) noexcept {
 void discard(const fs::path& folder) {
     std::error_code ignored, failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
-        if (entry->path().filename() != markName)
+        if (entry->path().filename() != SourceBundle::compiledMark)
             fs::remove_all(entry->path(), ignored);
     fs::remove_all(folder, ignored);
 }
@@ -112,17 +108,6 @@ bool hasContent(const fs::path& path, std::span<const std::string_view> pieces) 
     return true;
 }
 
-bool writeAll(int descriptor, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-        if (written >= 0)
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        else if (errno != EINTR)
-            return false;
-    }
-    return true;
-}
-
 // Returns false and sets errno on failure. Not synced to the disk: an output damaged by a power failure can be compiled
 // again.
 bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
@@ -131,7 +116,7 @@ bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
     if (file.number() < 0)
         return false;
     for (const std::string_view piece : pieces)
-        if (!writeAll(file.number(), piece))
+        if (!file.write(piece))
             return false;
     return file.close();
 }
@@ -148,16 +133,16 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
     // Reserve these first: removing the folder must never fail for lack of descriptors.
     Reserve reserve{reserved(), reserved(), reserved()};
     if (reserve.back().number() < 0)
-        return systemError(target, "cannot be created");
+        return Runtime::systemError(target, "cannot be created");
     std::string path = target.string().append(stagedMiddle).append("XXXXXX");
     if (::mkdtemp(path.data()) == nullptr)
-        return systemError(target, "cannot be created");
+        return Runtime::systemError(target, "cannot be created");
     StagedFolder folder(target, path, std::move(reserve));
-    if (auto written = folder.write(markName, markText); !written)
+    if (auto written = folder.write(SourceBundle::compiledMark, markText); !written)
         return std::move(written.error());
     // mkdtemp creates a folder that only its owner can read.
     if (::chmod(path.c_str(), 0755) != 0)
-        return systemError(target, "cannot be created");
+        return Runtime::systemError(target, "cannot be created");
     return folder;
 }
 
@@ -183,7 +168,7 @@ Runtime::Result<void> StagedFolder::write(const fs::path& name, std::span<const 
     if (hasContent(target_ / name, pieces) && (::unlink(path.c_str()) == 0 || errno == ENOENT) &&
         ::link((target_ / name).c_str(), path.c_str()) == 0)
         return {};
-    return writeNew(path, pieces) ? Runtime::Result<void>() : systemError(target_ / name, "cannot be written");
+    return writeNew(path, pieces) ? Runtime::Result<void>() : Runtime::systemError(target_ / name, "cannot be written");
 }
 
 Runtime::Result<void> StagedFolder::putInPlace() {
@@ -191,7 +176,7 @@ Runtime::Result<void> StagedFolder::putInPlace() {
     const bool replaces = fs::exists(fs::symlink_status(target_, failed));
     const unsigned flags = replaces ? RENAME_EXCHANGE : RENAME_NOREPLACE;
     if (::renameat2(AT_FDCWD, staged_.c_str(), AT_FDCWD, target_.c_str(), flags) != 0)
-        return systemError(target_, "cannot be put in place");
+        return Runtime::systemError(target_, "cannot be put in place");
     if (!replaces)
         staged_.clear();
     return {};

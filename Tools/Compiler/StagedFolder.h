@@ -4,6 +4,7 @@
 
 #include "Runtime/internal/Descriptor.h"
 #include "Runtime/internal/Result.h"
+#include "SourceBundle/SourceFiles.h" // compiledMark
 #include <array>
 #include <filesystem>
 #include <span>
@@ -11,8 +12,7 @@
 
 namespace Compiler {
 
-// The file that marks a folder as a compiled bundle, which may be replaced, and its first line.
-inline constexpr const char* markName = ".lumora-bundle";
+// The first line of the file SourceBundle::compiledMark.
 inline constexpr std::string_view markText = "Made by lumora compile.\n";
 
 class StagedFolder {

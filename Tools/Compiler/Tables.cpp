@@ -5,7 +5,6 @@
 #include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/Table.h"
 #include "StringTables/internal/Writer.h"
-#include <set>
 #include <vector>
 
 namespace Compiler {
@@ -25,12 +24,8 @@ constexpr std::string_view regionKey = layout::developmentRegionKey;
 
 // The language folders of the bundle, in the form of bundleLayout::languagesKey.
 std::string languagesOf(const Source& source) {
-    std::set<std::string> names;
-    for (const SourceTable& table : source.tables)
-        for (const LanguageTexts& texts : table.languages)
-            names.insert(texts.language);
     std::string list;
-    for (const std::string& name : names)
+    for (const std::string& name : source.languages())
         list.append(name) += layout::languageSeparator;
     return list;
 }

@@ -8,7 +8,7 @@ using StringTables::internal::ByteOrder;
 
 namespace {
 
-void appendUnit(std::string& out, char32_t unit, ByteOrder order) {
+void appendUnit(std::string& out, char16_t unit, ByteOrder order) {
     const char high = static_cast<char>(unit >> 8), low = static_cast<char>(unit & 0xFF);
     out += order == ByteOrder::big ? high : low;
     out += order == ByteOrder::big ? low : high;
@@ -35,16 +35,9 @@ std::string DecodedText::encoded(std::string_view edited) const {
         return std::string(edited);
     std::string out;
     if (hasMark)
-        appendUnit(out, 0xFEFF, *utf16);
-    while (!edited.empty()) {
-        const char32_t c = StringTables::internal::takeCharacter(edited);
-        if (c < 0x10000) {
-            appendUnit(out, c, *utf16);
-        } else {
-            appendUnit(out, 0xD800 + ((c - 0x10000) >> 10), *utf16);
-            appendUnit(out, 0xDC00 + ((c - 0x10000) & 0x3FF), *utf16);
-        }
-    }
+        appendUnit(out, u'\uFEFF', *utf16);
+    for (const char16_t unit : StringTables::internal::toUtf16(edited))
+        appendUnit(out, unit, *utf16);
     return out;
 }
 

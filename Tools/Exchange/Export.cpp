@@ -22,10 +22,6 @@ std::string placeOf(const SourceEntry& entry, std::span<const fs::path> folders)
     return shown.string() + ":" + std::to_string(entry.line);
 }
 
-bool isSamePart(const Unit& one, const Unit& other) {
-    return one.id.part == other.id.part;
-}
-
 // Removes the parts of a key that are completely translated.
 void keepMissing(std::vector<Unit>& units, const std::string& language) {
     std::vector<Unit> kept;

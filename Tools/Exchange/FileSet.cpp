@@ -1,6 +1,7 @@
 #include "Exchange/FileSet.h"
 
 #include "Runtime/internal/File.h"
+#include "Runtime/internal/SystemError.h"
 #include <system_error>
 #include <unistd.h>
 
@@ -10,8 +11,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-Runtime::Error systemError(const fs::path& path, const std::error_code& reason) {
-    return {.message = "cannot be written: " + reason.message(), .file = path};
+Runtime::Error cannotBeWritten(const fs::path& path, const std::error_code& reason) {
+    return Runtime::systemError(path, "cannot be written", reason.value());
 }
 
 // A name beside `path` that is unique to this process.
@@ -40,7 +41,7 @@ Runtime::Result<void> FileSet::stage(const fs::path& path, std::string_view byte
     if (!folder.empty() && fs::create_directory(folder, failed))
         folders_.push_back(folder);
     if (failed)
-        return systemError(folder, failed);
+        return cannotBeWritten(folder, failed);
     fs::path target = path;
     if (const fs::path real = fs::canonical(path, failed); !failed)
         target = real;
@@ -62,12 +63,12 @@ Runtime::Result<void> FileSet::replace(File& file) {
         if (failed) // the file system has no hard links
             fs::copy_file(file.target, old, fs::copy_options::overwrite_existing, failed);
         if (failed)
-            return systemError(file.target, failed);
+            return cannotBeWritten(file.target, failed);
         file.old = old;
     }
     fs::rename(file.staged, file.target, failed);
     if (failed)
-        return systemError(file.target, failed);
+        return cannotBeWritten(file.target, failed);
     file.isInPlace = true;
     return {};
 }

@@ -105,9 +105,9 @@ private:
         const auto table = std::ranges::find(source_.tables, id.table, &SourceTable::name);
         if (table == source_.tables.end())
             return nullptr;
-        for (const std::string_view developed :
+        for (const std::string_view developmentLanguage :
              {std::string_view(source_.developmentLanguage), SourceBundle::baseLanguage}) {
-            const auto* const texts = table->find(developed);
+            const auto* const texts = table->find(developmentLanguage);
             const SourceEntry* const development = texts == nullptr ? nullptr : texts->find(id.key);
             if (development == nullptr)
                 continue;
@@ -115,7 +115,7 @@ private:
             Key key{.table = &*table,
                     .development = development,
                     .translated = translated == nullptr ? nullptr : translated->find(id.key),
-                    .developmentLanguage = std::string(developed),
+                    .developmentLanguage = std::string(developmentLanguage),
                     .language = language};
             ImportedKey imported{.key = std::move(key), .expected = {}, .seen = {}};
             imported.expected = unitsOf(imported.key, texts_);

@@ -47,7 +47,7 @@ std::string valueOf(std::string_view literal) {
 std::string literalOf(std::string_view text, const JsonLayout& layout) {
     std::string literal = nlohmann::json(text).dump();
     if (layout.escapesSlashes)
-        for (std::size_t at = 0; (at = literal.find('/', at)) != literal.npos; at += 2)
+        for (std::size_t at = literal.find('/'); at != literal.npos; at = literal.find('/', at + 2))
             literal.insert(at, 1, '\\');
     return literal;
 }

@@ -1,6 +1,7 @@
 #include "Exchange/Languages.h"
 
 #include "Intl/internal/PluralRules.h"
+#include "SourceBundle/LowerCase.h"
 #include <algorithm>
 #include <cstdint>
 
@@ -8,14 +9,8 @@ namespace Exchange {
 
 namespace {
 
-char folded(char c) {
-    if (c == '_')
-        return '-';
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-
 bool isLetter(char c) {
-    return folded(c) >= 'a' && folded(c) <= 'z';
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
 // Whether this is a language code: two or three letters, then parts of up to eight letters and digits.
@@ -45,7 +40,7 @@ std::vector<PluralCategory> categoriesIn(std::uint8_t bits) {
 } // namespace
 
 bool isSameLanguage(std::string_view one, std::string_view other) {
-    return std::ranges::equal(one, other, {}, folded, folded);
+    return SourceBundle::comparableCode(std::string(one)) == SourceBundle::comparableCode(std::string(other));
 }
 
 bool hasLanguage(const SourceBundle::Source& source, std::string_view language) {

@@ -45,8 +45,10 @@ Needs pluralNeeds(PluralPieces pieces) {
 bool take(std::string& text, std::string_view mark) {
     std::string rest;
     std::size_t done = 0;
-    for (std::size_t at = 0; (at = text.find(mark, done)) != text.npos; done = at + mark.size())
+    for (std::size_t at = text.find(mark); at != text.npos; at = text.find(mark, done)) {
         rest.append(text, done, at - done);
+        done = at + mark.size();
+    }
     const bool found = done != 0;
     text = rest.append(text, done);
     return found;

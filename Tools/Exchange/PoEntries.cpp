@@ -8,10 +8,6 @@ namespace Exchange {
 
 namespace {
 
-bool isSamePart(const Unit& one, const Unit& other) {
-    return one.id.key == other.id.key && one.id.part == other.id.part && one.id.table == other.id.table;
-}
-
 // The index of the unit with the category in [begin, end), or `otherwise`.
 std::size_t numberOf(std::span<const Unit> units, std::size_t begin, std::size_t end, PluralCategory category,
                      std::size_t otherwise) {

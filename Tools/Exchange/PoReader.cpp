@@ -2,6 +2,7 @@
 #include "Exchange/PluralExpression.h"
 #include "Exchange/Po.h"
 #include "Exchange/PoSyntax.h"
+#include "SourceBundle/LowerCase.h"
 #include <algorithm>
 #include <charconv>
 
@@ -10,11 +11,6 @@ namespace Exchange {
 using SourceBundle::Severity;
 
 namespace {
-
-std::string_view trimmed(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t\r"), text.size()));
-    return text.substr(0, text.find_last_not_of(" \t\r") + 1);
-}
 
 // The value of a header field, or an empty string.
 std::string_view field(std::string_view header, std::string_view name) {
@@ -31,10 +27,9 @@ std::string_view field(std::string_view header, std::string_view name) {
 bool isUtf8(std::string_view contentType) {
     constexpr std::string_view charset = "charset=";
     const std::size_t at = contentType.find(charset);
-    std::string name(at == contentType.npos ? "" : trimmed(contentType.substr(at + charset.size())));
-    std::ranges::transform(name, name.begin(),
-                           [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
-    return name == "UTF-8" || name == "UTF8" || name == "ASCII" || name == "US-ASCII";
+    const std::string_view charsetName = at == contentType.npos ? "" : trimmed(contentType.substr(at + charset.size()));
+    const std::string name = SourceBundle::lowerCase(std::string(charsetName));
+    return name == "utf-8" || name == "utf8" || name == "ascii" || name == "us-ascii";
 }
 
 struct PluralRule {

@@ -79,10 +79,7 @@ private:
             return;
         while (!line_.empty()) {
             const std::size_t size = std::min(line_.find(','), line_.size());
-            std::string_view flag = line_.substr(0, size);
-            flag.remove_prefix(std::min(flag.find_first_not_of(" \t\r"), flag.size()));
-            flag = flag.substr(0, flag.find_last_not_of(" \t\r") + 1);
-            current_.isFuzzy |= flag == "fuzzy";
+            current_.isFuzzy |= trimmed(line_.substr(0, size)) == "fuzzy";
             line_.remove_prefix(std::min(size + 1, line_.size()));
         }
     }
@@ -185,12 +182,11 @@ private:
     }
 
     bool readEscape(std::string& out) {
-        constexpr std::string_view letters = "\"\\ntrabfv", characters = "\"\\\n\t\r\a\b\f\v";
         line_.remove_prefix(1);
         if (line_.empty())
             return false;
-        if (const std::size_t letter = letters.find(line_[0]); letter != letters.npos) {
-            out += characters[letter];
+        if (const std::size_t letter = poEscapeLetters.find(line_[0]); letter != poEscapeLetters.npos) {
+            out += poEscapedCharacters[letter];
             line_.remove_prefix(1);
             return true;
         }

@@ -11,6 +11,16 @@
 
 namespace Exchange {
 
+// `text` without blanks at its ends.
+[[nodiscard]] inline std::string_view trimmed(std::string_view text) {
+    constexpr std::string_view blanks = " \t\r";
+    const std::size_t begin = text.find_first_not_of(blanks);
+    return begin == text.npos ? std::string_view() : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+}
+
+// The characters that PO files escape with a letter, and the letters.
+inline constexpr std::string_view poEscapedCharacters = "\"\\\n\t\r\a\b\f\v", poEscapeLetters = "\"\\ntrabfv";
+
 struct PoText {
     std::optional<std::string> context, plural; // msgctxt, msgid_plural
     std::string source;                         // msgid

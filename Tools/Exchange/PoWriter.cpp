@@ -1,6 +1,7 @@
 #include "Exchange/Languages.h"
 #include "Exchange/Po.h"
 #include "Exchange/PoEntries.h"
+#include "Exchange/PoSyntax.h"
 #include "Intl/internal/PluralRules.h"
 #include <algorithm>
 
@@ -9,11 +10,10 @@ namespace Exchange {
 namespace {
 
 void appendEscaped(std::string& out, char c) {
-    constexpr std::string_view characters = "\"\\\n\t\r\a\b\f\v", letters = "\"\\ntrabfv";
     const auto octal = [](unsigned digit) { return static_cast<char>('0' + digit); };
     const auto byte = static_cast<unsigned char>(c);
-    if (const std::size_t found = characters.find(c); found != characters.npos)
-        out.append({'\\', letters[found]});
+    if (const std::size_t found = poEscapedCharacters.find(c); found != poEscapedCharacters.npos)
+        out.append({'\\', poEscapeLetters[found]});
     else if (byte < ' ' || byte == 0x7F)
         out.append({'\\', octal(byte >> 6), octal(byte >> 3 & 7U), octal(byte & 7U)});
     else

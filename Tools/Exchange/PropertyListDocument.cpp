@@ -2,6 +2,7 @@
 
 #include "Exchange/PluralChange.h"
 #include "StringTables/internal/PluralKeys.h"
+#include "StringTables/internal/XmlText.h"
 #include <algorithm>
 #include <utility>
 
@@ -10,21 +11,12 @@ namespace Exchange {
 namespace pluralKeys = StringTables::pluralKeys;
 using StringTables::PluralFormat;
 using StringTables::PluralVariable;
+using StringTables::internal::canBeXml;
+using StringTables::internal::xmlText;
 
 namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
-
-// Separates "--", which is not allowed in comments.
-std::string commentText(std::string_view text) {
-    std::string out;
-    for (const char c : text) {
-        if (c == '-' && out.ends_with('-'))
-            out += ' ';
-        out += c;
-    }
-    return out;
-}
 
 // The last line of white space, with its line break.
 std::string lastLine(std::string white) {
@@ -110,7 +102,7 @@ void PropertyListDocument::setText(const XmlNode& string, std::string_view text)
 
 Runtime::Result<void> PropertyListDocument::apply(const Change& change) {
     for (const Unit* unit : change.all)
-        if (!xmlHolds(unit->target) || !xmlHolds(unit->id.key))
+        if (!canBeXml(unit->target) || !canBeXml(unit->id.key))
             return Runtime::Error{.message = "the table is XML, which cannot represent control characters"};
     const Unit& first = *change.changed.front();
     const auto known = values_.find(first.id.key);
@@ -129,10 +121,10 @@ Runtime::Result<void> PropertyListDocument::apply(const Change& change) {
 
 void PropertyListDocument::add(const Change& change, const std::string& value) {
     const std::string_view comment = change.development->comment;
-    if (!comment.empty() && xmlHolds(comment))
+    if (!comment.empty() && canBeXml(comment))
         added_.append(line_)
             .append("<!-- ")
-            .append(xmlText(commentText(comment), xml_.hasOtherEncoding()))
+            .append(xmlText(StringTables::internal::withoutMark(comment, "--"), xml_.hasOtherEncoding()))
             .append(" -->");
     added_.append(line_).append(element("key", change.changed.front()->id.key)).append(line_).append(value);
 }

@@ -17,9 +17,7 @@ bool isHidden(char32_t c) {
 void appendEscaped(std::string& out, std::string_view text, std::string_view special) {
     constexpr int hexadecimal = 16;
     while (!text.empty()) {
-        const std::string_view before = text;
-        const char32_t c = StringTables::internal::takeCharacter(text);
-        const std::string_view bytes = before.substr(0, before.size() - text.size());
+        const auto [c, bytes] = StringTables::internal::takeCharacterWithBytes(text);
         if (c == '\\') {
             out += "\\\\";
         } else if (isHidden(c) || special.find(bytes) != special.npos) {

@@ -45,6 +45,11 @@ struct Unit {
     std::size_t line = 0; // in the file that was read
 };
 
+// Whether both units belong to the same text or plural.
+[[nodiscard]] inline bool isSamePart(const Unit& one, const Unit& other) {
+    return one.id.key == other.id.key && one.id.part == other.id.part && one.id.table == other.id.table;
+}
+
 // The units of one language.
 struct Translations {
     std::string sourceLanguage{};

@@ -2,6 +2,7 @@
 
 #include "Exchange/Xml.h"
 #include "StringTables/internal/Unicode.h"
+#include "StringTables/internal/XmlText.h"
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -9,20 +10,17 @@
 
 namespace Exchange {
 
-namespace {
+using StringTables::internal::canBeXml;
+using StringTables::internal::xmlText;
 
-bool isSamePart(const Unit& one, const Unit& other) {
-    return one.id.key == other.id.key && one.id.part == other.id.part;
-}
+namespace {
 
 // A readable form: characters that XML cannot represent, and control characters not in `kept`, become spaces.
 std::string visible(std::string_view text, std::string_view kept = "") {
     std::string out;
     while (!text.empty()) {
-        const std::string_view before = text;
-        const char32_t c = StringTables::internal::takeCharacter(text);
-        const std::string_view bytes = before.substr(0, before.size() - text.size());
-        const bool isShown = c < ' ' ? kept.find(static_cast<char>(c)) != kept.npos : xmlHolds(bytes);
+        const auto [c, bytes] = StringTables::internal::takeCharacterWithBytes(text);
+        const bool isShown = c < ' ' ? kept.find(static_cast<char>(c)) != kept.npos : canBeXml(bytes);
         out += isShown ? bytes : " ";
     }
     return out;
@@ -109,15 +107,13 @@ private:
     }
 
     void writeText(std::string_view text) {
-        if (xmlHolds(text)) {
+        if (canBeXml(text)) {
             out_ += xmlText(text);
             return;
         }
         for (std::size_t number = 1; !text.empty();) {
-            const std::string_view before = text;
-            const char32_t c = StringTables::internal::takeCharacter(text);
-            const std::string_view bytes = before.substr(0, before.size() - text.size());
-            if (xmlHolds(bytes))
+            const auto [c, bytes] = StringTables::internal::takeCharacterWithBytes(text);
+            if (canBeXml(bytes))
                 out_ += xmlText(bytes);
             else
                 writeCharacter(number++, c);

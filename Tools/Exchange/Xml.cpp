@@ -1,8 +1,9 @@
 #include "Exchange/Xml.h"
 
+#include "SourceBundle/LowerCase.h"
 #include "StringTables/internal/Contents.h"
-#include "StringTables/internal/Unicode.h"
 #include "StringTables/internal/XmlParser.h"
+#include "StringTables/internal/XmlText.h"
 #include <algorithm>
 #include <optional>
 
@@ -97,10 +98,8 @@ Runtime::Result<XmlDocument> XmlDocument::read(std::string bytes) {
     if (auto parsed = parseXml(contents, reader); !parsed)
         return std::move(parsed.error());
     document.root_ = std::move(reader.root);
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; };
-    std::ranges::transform(reader.declaredEncoding, reader.declaredEncoding.begin(), lower);
-    document.hasOtherEncoding_ =
-        !contents.isUtf8 && !reader.declaredEncoding.empty() && reader.declaredEncoding != "utf-8";
+    document.hasOtherEncoding_ = !contents.isUtf8 && !reader.declaredEncoding.empty() &&
+                                 SourceBundle::lowerCase(reader.declaredEncoding) != "utf-8";
     document.source_->locator.emplace(contents);
     return document;
 }
@@ -109,35 +108,9 @@ std::size_t XmlDocument::lineOf(std::size_t offset) {
     return source_->locator->locate(offset).line;
 }
 
-bool xmlHolds(std::string_view text) noexcept {
-    return std::ranges::none_of(
-               text,
-               [](char c) { return static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n' && c != '\r'; }) &&
-           text.find("\uFFFE") == text.npos && text.find("\uFFFF") == text.npos;
-}
-
-std::string xmlText(std::string_view text, bool inAscii) {
-    std::string out;
-    while (!text.empty()) {
-        const std::string_view before = text;
-        const char32_t c = StringTables::internal::takeCharacter(text);
-        if (c == '&')
-            out += "&amp;";
-        else if (c == '<')
-            out += "&lt;";
-        else if (c == '>')
-            out += "&gt;";
-        else if (c == '\r' || (inAscii && c > 0x7F)) // a carriage return would be read as a line end
-            out.append("&#").append(std::to_string(std::uint32_t{c})).append(";");
-        else
-            out += before.substr(0, before.size() - text.size());
-    }
-    return out;
-}
-
 std::string xmlAttribute(std::string_view text) {
     std::string out;
-    for (const char c : xmlText(text))
+    for (const char c : StringTables::internal::xmlText(text))
         if (c == '"')
             out += "&quot;";
         else if (c == '\t' || c == '\n')

@@ -35,8 +35,8 @@ struct XmlNode {
 
 class XmlDocument {
 public:
-    // Reads a document in UTF-8, in UTF-16 or in the encoding that it declares; UTF-16 is made UTF-8, and places refer
-    // to that. Errors: not well-formed, an entity declaration, nested deeper than maxDepth, larger than
+    // Reads a document in UTF-8, in UTF-16 or in the encoding that it declares; UTF-16 is converted to UTF-8, and
+    // offsets refer to that. Errors: not well-formed, an entity declaration, nested deeper than maxDepth, larger than
     // Table::maxBytes.
     [[nodiscard]] static Runtime::Result<XmlDocument> read(std::string bytes);
     static constexpr std::size_t maxDepth = 128;
@@ -61,10 +61,7 @@ private:
     bool hasOtherEncoding_ = false;
 };
 
-// Whether XML can represent the text.
-[[nodiscard]] bool xmlHolds(std::string_view text) noexcept;
-// Escapes `text` as element content or attribute value. `inAscii` writes other characters as numeric references.
-[[nodiscard]] std::string xmlText(std::string_view text, bool inAscii = false);
+// Escapes `text` as an attribute value.
 [[nodiscard]] std::string xmlAttribute(std::string_view text);
 
 } // namespace Exchange

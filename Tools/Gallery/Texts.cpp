@@ -21,10 +21,7 @@ namespace {
 
 // The development language, then the others in alphabetical order.
 std::vector<std::string> languagesOf(const Source& source) {
-    std::set<std::string> others;
-    for (const SourceTable& table : source.tables)
-        for (const LanguageTexts& texts : table.languages)
-            others.insert(texts.language);
+    std::set<std::string> others = source.languages();
     others.erase(source.developmentLanguage);
     others.erase(std::string(SourceBundle::baseLanguage));
     std::vector<std::string> languages = {source.developmentLanguage};

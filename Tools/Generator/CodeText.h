@@ -17,7 +17,7 @@ namespace Generator {
 // The same in quotation marks.
 [[nodiscard]] std::string quote(std::string_view text);
 
-// A hash of the texts in hexadecimal, the same on every machine.
+// A hash of the texts in hexadecimal, the same on every machine and in every version.
 [[nodiscard]] std::string fingerprint(std::span<const std::string_view> texts);
 
 // The width of the text in terminal columns.

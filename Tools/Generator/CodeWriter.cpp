@@ -11,7 +11,7 @@ CodeWriter::CodeWriter(std::string_view module) : module_(module) {
 }
 
 void CodeWriter::add(std::string_view pattern, Values values) {
-    for (std::size_t open; (open = pattern.find("{{")) != std::string_view::npos;) {
+    for (std::size_t open = pattern.find("{{"); open != pattern.npos; open = pattern.find("{{")) {
         const std::size_t close = pattern.find("}}", open);
         const std::string_view name = pattern.substr(open + 2, close - open - 2);
         code_.append(pattern.substr(0, open)).append(valueOf(name, values));

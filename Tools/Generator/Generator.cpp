@@ -33,7 +33,7 @@ void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
                 continue;
             const SourceEntry* last = nullptr; // of own
             for (const SourceEntry& entry : texts.entries()) {
-                const SourceEntry* known = own == nullptr ? nullptr : own->findBehind(last, entry.key);
+                const SourceEntry* known = own == nullptr ? nullptr : own->findAfter(last, entry.key);
                 last = known == nullptr ? last : known;
                 if (known == nullptr && (base == nullptr || base->find(entry.key) == nullptr) &&
                     keys.insert(entry.key).second)

@@ -170,7 +170,7 @@ std::vector<CatalogTable> catalogOf(const Source& source, NamesFile& names, Diag
     std::vector<CatalogTable> catalog;
     std::map<std::string, const SourceTable*> spelled;
     for (const SourceTable& table : source.tables) {
-        if (!source.isDeveloped(table))
+        if (!source.hasDevelopmentLanguage(table))
             continue;
         std::string spelling = Namer::tableSpelling(table.name);
         const auto [known, isNew] = spelled.emplace(spelling, &table);

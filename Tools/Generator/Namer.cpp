@@ -13,7 +13,7 @@ using namespace Unicode;
 using Words = std::vector<std::u32string>;
 
 // Names in generated code that table namespaces would clash with.
-constexpr std::string_view namesTakenBeforeTables[] = {"detail", "std", "tr"};
+constexpr std::string_view clashingTableNames[] = {"detail", "std", "tr"};
 
 // A macro of <cinttypes>: "PRId64", "SCNxFAST8".
 bool isNumberFormat(std::string_view word) {
@@ -159,7 +159,7 @@ std::string spelling(std::string_view name) {
 
 std::string tableSpelling(std::string_view table) {
     const std::string spelled = isIdentifier(table) ? spelling(table) : spelling(groupName(table));
-    return std::ranges::find(namesTakenBeforeTables, spelled) == std::end(namesTakenBeforeTables) ? spelled : spelled + '_';
+    return std::ranges::find(clashingTableNames, spelled) == std::end(clashingTableNames) ? spelled : spelled + '_';
 }
 
 bool isSpelled(std::string_view name) {

@@ -1,6 +1,7 @@
 #include "Generator/OutputFile.h"
 
 #include "Runtime/internal/File.h"
+#include "Runtime/internal/SystemError.h"
 #include <fstream>
 #include <set>
 #include <system_error>
@@ -17,17 +18,13 @@ std::string firstLine(std::istream& text) {
     return line;
 }
 
-Runtime::Error systemError(const fs::path& path, const char* doing, const std::error_code& reason) {
-    return {.message = std::string(doing) + ": " + reason.message(), .file = path};
-}
-
 Runtime::Result<void> writeChanged(const fs::path& path, const std::string& content) {
     if (const auto there = Runtime::readFile(path, content.size()); there && *there == content)
         return {};
     std::error_code failed;
     fs::create_directories(path.parent_path(), failed);
     if (failed)
-        return systemError(path.parent_path(), "cannot be created", failed);
+        return Runtime::systemError(path.parent_path(), "cannot be created", failed.value());
     return Runtime::writeFile(path, content, Runtime::WriteSafety::unsynced); // it can be generated again
 }
 
@@ -40,9 +37,9 @@ Runtime::Result<void> removeStale(const fs::path& folder, const std::set<fs::pat
             continue;
         std::ifstream file(path);
         if (marks.contains(firstLine(file)) && !fs::remove(path, failed) && failed)
-            return systemError(path, "cannot be removed", failed);
+            return Runtime::systemError(path, "cannot be removed", failed.value());
     }
-    return failed ? systemError(folder, "cannot be read", failed) : Runtime::Result<void>();
+    return failed ? Runtime::systemError(folder, "cannot be read", failed.value()) : Runtime::Result<void>();
 }
 
 } // namespace

@@ -237,8 +237,10 @@ std::vector<std::string> includesOf(std::span<const Placed> entries, const Optio
     std::vector<std::string> includes = {"Runtime/OnceSlot.h", folder + "Internal/Catalog.h"};
     const CatalogTable* included = nullptr;
     for (const Placed& placed : entries)
-        if (std::exchange(included, placed.table) != placed.table)
-            includes.push_back(folder + placed.table->spelling + ".h");
+        if (placed.table != included) {
+            included = placed.table;
+            includes.push_back(folder + included->spelling + ".h");
+        }
     return includes;
 }
 

@@ -27,7 +27,7 @@ inline ::Foundation::LocalizedKey keyAt(std::size_t entry) noexcept {
 inline constexpr std::string_view plainDefinition = R"(
 constinit ::Runtime::OnceSlot<std::string> slots[{{count}}];
 
-// While memory or descriptors are out, the text is empty; a later call tries again.
+// When memory or descriptors run out, the text is empty, and a later call tries again.
 [[gnu::noinline, gnu::cold]] const std::string& made(std::size_t entry) noexcept {
     try {
         return slots[entry].get([entry] { return tr(keyAt(entry), {}); });

@@ -101,7 +101,7 @@ void addAssetCommand(CLI::App& program, Exit& exit) {
     command->add_option("--language", options->languages, "The variant for this language, such as pt-BR");
     command->add_option("-o,--output", options->output, "Where to write; - is standard output")
         ->required()
-        ->check(named());
+        ->check(notEmpty());
     command->callback([options, &exit] { exit = writeAsset(*options); });
 }
 

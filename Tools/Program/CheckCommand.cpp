@@ -4,6 +4,7 @@
 #include "Check/Check.h"
 #include "Check/Writers.h"
 #include "Program/SourceArguments.h"
+#include "SourceBundle/MessageText.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
@@ -30,7 +31,7 @@ struct CheckOptions {
 
 Severity lowestOf(const CheckOptions& options) {
     for (const Severity severity : {Severity::error, Severity::warning, Severity::note})
-        if (options.level == Check::nameOf(severity))
+        if (options.level == nameOf(severity))
             return severity;
     return options.format == "text" ? Severity::warning : Severity::note;
 }
@@ -83,8 +84,7 @@ CLI::Validator ruleName() {
 
 void addCheckCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<CheckOptions>();
-    CLI::App* command =
-        program.add_subcommand("check", "Find faults in a source: texts, plural forms, names, assets.");
+    CLI::App* command = program.add_subcommand("check", "Find faults in a source: texts, plural forms, names, assets.");
     options->source.addTo(*command)->required();
     options->source.addNamesTo(*command);
     command->add_option("--format", options->format, "text (default), json or sarif")
@@ -100,9 +100,9 @@ void addCheckCommand(CLI::App& program, Exit& exit) {
         ->add_option("--used-in", options->usedIn,
                      "A folder of C++ sources: accessors that are used in none are found (may be repeated)")
         ->allow_extra_args(false)
-        ->check(named());
+        ->check(notEmpty());
     command->add_option("--since", options->since, "An older source: development texts with other arguments are found")
-        ->check(named());
+        ->check(notEmpty());
     command->callback([options, &exit] { exit = runCheck(*options); });
 }
 

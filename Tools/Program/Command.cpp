@@ -3,6 +3,7 @@
 #include "Generator/CodeText.h"
 #include "Runtime/internal/File.h"
 #include "Runtime/internal/NameMap.h"
+#include "SourceBundle/MessageText.h"
 #include <CLI/CLI.hpp>
 #include <cerrno>
 #include <cstdio>
@@ -28,30 +29,6 @@ constexpr const char* eraseLine = "\r\033[K";
 
 constexpr Severity severities[] = {Severity::note, Severity::warning, Severity::error};
 
-const char* wordFor(Severity severity) {
-    switch (severity) {
-    case Severity::note:
-        return "note";
-    case Severity::warning:
-        return "warning";
-    case Severity::error:
-        return "error";
-    }
-    return "";
-}
-
-const char* colorFor(Severity severity) {
-    switch (severity) {
-    case Severity::note:
-        return "\033[36m";
-    case Severity::warning:
-        return "\033[33m";
-    case Severity::error:
-        return "\033[31m";
-    }
-    return "";
-}
-
 void writeLine(std::string_view text) {
     std::string line = isTerminal() ? eraseLine : "";
     line.append(text).append("\n");
@@ -74,17 +51,14 @@ std::string fitted(std::string_view text, std::size_t columns) {
 
 // "FILE:LINE:COLUMN", or the program's name without a file.
 std::string placeOf(const Runtime::Error& what) {
-    std::string place = what.text();
-    place.resize(place.size() - what.message.size());
-    if (place.ends_with(": "))
-        place.resize(place.size() - 2);
+    const std::string place = what.place();
     return place.empty() ? "lumora" : Generator::visibleText(place, std::string::npos);
 }
 
-void say(Severity severity, const Runtime::Error& what, std::string_view suffix = {}) {
-    const std::string label = std::string(wordFor(severity)) + ":";
+void writeMessage(Severity severity, const Runtime::Error& what, std::string_view suffix = {}) {
+    const std::string label = std::string(nameOf(severity)) + ":";
     std::string line = placeOf(what) + ": ";
-    line += hasColor(STDERR_FILENO) ? colorFor(severity) + label + "\033[0m" : label;
+    line += hasColor(STDERR_FILENO) ? SourceBundle::colored(label, severity) : label;
     line.append(" ").append(Generator::visibleText(what.message, std::string::npos)).append(suffix);
     writeLine(line);
 }
@@ -106,8 +80,8 @@ std::vector<Group> grouped(const SourceBundle::Diagnostics& diagnostics, Severit
     return groups;
 }
 
-void say(Severity severity, const Group& group) {
-    say(severity, *group.front());
+void writeMessage(Severity severity, const Group& group) {
+    writeMessage(severity, *group.front());
     std::string others;
     for (const Runtime::Error* what : std::span(group).subspan(1))
         others.append(others.empty() ? "    also " : ", ").append(placeOf(*what));
@@ -117,7 +91,7 @@ void say(Severity severity, const Group& group) {
 
 } // namespace
 
-CLI::Validator named() {
+CLI::Validator notEmpty() {
     return {[](const std::string& path) { return path.empty() ? "the name is empty" : ""; }, ""};
 }
 
@@ -126,17 +100,13 @@ bool hasColor(int stream) {
     return ::isatty(stream) == 1 && (refused == nullptr || *refused == '\0');
 }
 
-std::string counted(std::size_t count, const char* word) {
-    return std::to_string(count) + ' ' + word + (count == 1 ? "" : "s");
-}
-
 Exit fail(const Runtime::Error& error) {
-    say(Severity::error, error);
+    writeMessage(Severity::error, error);
     return Exit::wrongUse;
 }
 
 void note(const Runtime::Error& what) {
-    say(Severity::note, what);
+    writeMessage(Severity::note, what);
 }
 
 void note(std::string_view what) {
@@ -145,14 +115,14 @@ void note(std::string_view what) {
 
 Exit report(const SourceBundle::Diagnostics& diagnostics) {
     const auto& all = diagnostics.all();
-    const std::string count = counted(diagnostics.count(Severity::error), "error") + ", " +
-                              counted(diagnostics.count(Severity::warning), "warning");
+    const std::string count = SourceBundle::counted(diagnostics.count(Severity::error), "error") + ", " +
+                              SourceBundle::counted(diagnostics.count(Severity::warning), "warning");
     if (all.size() == 1) {
-        say(all.front().severity, all.front().what, " (" + count + ")");
+        writeMessage(all.front().severity, all.front().what, " (" + count + ")");
     } else if (!all.empty()) {
         for (const Severity severity : severities)
             for (const Group& group : grouped(diagnostics, severity))
-                say(severity, group);
+                writeMessage(severity, group);
         writeLine("lumora: " + count);
     }
     return diagnostics.hasErrors() ? Exit::wrongUse : Exit::done;

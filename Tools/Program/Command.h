@@ -17,8 +17,8 @@ class Validator;
 
 namespace Tools {
 
-// Rejects an empty path on the command line, because messages could not name it.
-CLI::Validator named();
+// Rejects an empty path on the command line, which messages could not name.
+CLI::Validator notEmpty();
 
 // The exit status of the program.
 enum class Exit : int { done = 0, faultsFound = 1, wrongUse = 2 };
@@ -44,9 +44,6 @@ std::vector<std::string> commandNames(const CLI::App& program);
 // Whether output to the file descriptor `stream` is colored: on a terminal, unless the environment variable NO_COLOR is
 // set and not empty.
 bool hasColor(int stream);
-
-// "1 text", "2 texts".
-std::string counted(std::size_t count, const char* word);
 
 // Write a message to standard error, on one line: "FILE:LINE:COLUMN: error: WHAT" with the known parts, or "lumora:
 // error: WHAT" without a file; colored on a terminal. Invisible characters are escaped.

@@ -42,7 +42,9 @@ void addCompileCommand(CLI::App& program, Exit& exit) {
     CLI::App* command =
         program.add_subcommand("compile", "Compile the bundle that ships: binary tables, compiled assets.");
     options->source.addTo(*command)->required();
-    command->add_option("-o,--output", options->output, "The bundle to write, NAME.bundle")->required()->check(named());
+    command->add_option("-o,--output", options->output, "The bundle to write, NAME.bundle")
+        ->required()
+        ->check(notEmpty());
     options->source.addNamesTo(*command); // ignored; for callers that pass the same options to generate and compile
     options->source.addPseudoTo(*command);
     command->add_flag("--strict", options->isStrict, "Treat warnings as errors");

@@ -33,8 +33,8 @@ void appendPrerequisite(std::string& rule, const fs::path& path) {
 } // namespace
 
 void Depfile::addOptions(CLI::App& command) {
-    auto* file =
-        command.add_option("--depfile", path, "Write a makefile rule with the files that this command reads")->check(named());
+    auto* file = command.add_option("--depfile", path, "Write a makefile rule with the files that this command reads")
+                     ->check(notEmpty());
     command.add_option("--depfile-target", target, "The target of the makefile's rule")->needs(file);
 }
 

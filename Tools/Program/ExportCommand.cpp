@@ -6,6 +6,7 @@
 #include "Exchange/Po.h"
 #include "Exchange/Xliff.h"
 #include "Program/SourceArguments.h"
+#include "SourceBundle/MessageText.h"
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
@@ -29,8 +30,9 @@ bool isPo(const ExportOptions& options) {
 std::string summary(const Exchange::Translations& translations) {
     const auto isDone = [](const Exchange::Unit& unit) { return !unit.target.empty(); };
     const auto done = static_cast<std::size_t>(std::ranges::count_if(translations.units, isDone));
-    return counted(translations.units.size(), "text") + ", " + std::to_string(translations.units.size() - done) +
-           " without a translation to " + translations.targetLanguage;
+    return SourceBundle::counted(translations.units.size(), "text") + ", " +
+           std::to_string(translations.units.size() - done) + " without a translation to " +
+           translations.targetLanguage;
 }
 
 Exit runExport(const ExportOptions& options) {
@@ -68,7 +70,7 @@ void addExportCommand(CLI::App& program, Exit& exit) {
         ->check(CLI::IsMember({"xliff", "po"}));
     command->add_option("-o,--output", options->output, "The file to write; - is standard output")
         ->required()
-        ->check(named());
+        ->check(notEmpty());
     command->callback([options, &exit] { exit = runExport(*options); });
 }
 

@@ -1,5 +1,6 @@
 #include "Program/FolderWatch.h"
 
+#include "Runtime/internal/SystemError.h"
 #include "SourceBundle/SourceFiles.h"
 #include <algorithm>
 #include <array>
@@ -26,10 +27,6 @@ constexpr milliseconds quiet{50};          // without further changes, then the 
 constexpr milliseconds longestBurst{1000}; // of consecutive changes
 constexpr milliseconds pollInterval{500};  // for a folder that is missing
 
-Runtime::Error systemError(const fs::path& path, const std::string& doing) {
-    return {.message = doing + ": " + std::strerror(errno), .file = path};
-}
-
 fs::path normal(const fs::path& path) {
     const fs::path whole = fs::absolute(path).lexically_normal();
     return whole.has_filename() ? whole : whole.parent_path();
@@ -53,7 +50,7 @@ Runtime::Result<FolderWatch> FolderWatch::create(const std::vector<fs::path>& fo
     std::ranges::transform(folders, std::back_inserter(whole), normal);
     FolderWatch watch(std::move(whole), normal(output), ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
     if (watch.inotify_.number() < 0)
-        return systemError(folders.front(), "cannot be watched");
+        return Runtime::systemError(folders.front(), "cannot be watched");
     if (auto watched = watch.watchAll(); !watched)
         return std::move(watched.error());
     return watch;
@@ -85,9 +82,10 @@ Runtime::Result<void> FolderWatch::watchAll() {
 Runtime::Result<void> FolderWatch::watchBelow(const fs::path& folder, int depth) {
     const int number = ::inotify_add_watch(inotify_.number(), folder.c_str(), events);
     if (number < 0 && errno == ENOSPC)
-        return systemError(folder, "cannot be watched: all watches are in use (raise fs.inotify.max_user_watches)");
+        return Runtime::systemError(folder,
+                                    "cannot be watched: all watches are in use (raise fs.inotify.max_user_watches)");
     if (number < 0 && errno == ENOMEM)
-        return systemError(folder, "cannot be watched");
+        return Runtime::systemError(folder, "cannot be watched");
     if (number < 0) { // deleted meanwhile, or unreadable
         if (depth == 0)
             missing_.insert(folder);

@@ -113,7 +113,7 @@ void addGalleryCommand(CLI::App& program, Exit& exit) {
                         "The module's name, the first part of accessors (default: the bundle's name)");
     command->add_option("-o,--output", options->output, "The page to write, FILE.html; - is standard output")
         ->required()
-        ->check(named());
+        ->check(notEmpty());
     command->callback(
         [options, &exit] { exit = options->source.folders.empty() ? showBundle(*options) : showSource(*options); });
 }

@@ -42,7 +42,7 @@ void addGenerateCommand(CLI::App& program, Exit& exit) {
     CLI::App* command = program.add_subcommand("generate", "Write the typed trees of a source as C++.");
     options->source.addTo(*command)->required();
     command->add_option("--module", options->generator.module, "The module's name, a C++ identifier")->required();
-    command->add_option("-o,--output", options->output, "The folder to write into")->required()->check(named());
+    command->add_option("-o,--output", options->output, "The folder to write into")->required()->check(notEmpty());
     options->source.addNamesTo(*command);
     command->add_flag("--strict", options->isStrict, "Treat warnings as errors");
     command

@@ -3,6 +3,7 @@
 
 #include "Exchange/Import.h"
 #include "Program/SourceArguments.h"
+#include "SourceBundle/MessageText.h"
 #include <CLI/CLI.hpp>
 #include <iterator>
 #include <memory>
@@ -45,7 +46,8 @@ Exit runImport(const ImportOptions& options) {
     if (hasFaults && !options.import.keepGoing)
         note("nothing was changed; --keep-going imports the valid texts");
     else
-        note(counted(imported->texts, "text") + " changed in " + counted(imported->files, "file"));
+        note(SourceBundle::counted(imported->texts, "text") + " changed in " +
+             SourceBundle::counted(imported->files, "file"));
     return hasFaults ? Exit::faultsFound : Exit::done;
 }
 
@@ -57,7 +59,7 @@ void addImportCommand(CLI::App& program, Exit& exit) {
         program.add_subcommand("import", "Write translated files (XLIFF, PO) back into the tables of a source.");
     command->add_option("FILE", options->files, "A file written by lumora export and edited by translators")
         ->required()
-        ->check(named());
+        ->check(notEmpty());
     options->source.addTo(*command, "--into")->required();
     command->add_flag("--keep-going", options->import.keepGoing,
                       "Import all valid texts even if some are not valid; the exit status is still 1");

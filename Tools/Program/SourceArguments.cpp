@@ -11,18 +11,17 @@ CLI::Option* SourceArguments::addTo(CLI::App& command, const std::string& name) 
     return command
         .add_option(name, folders,
                     "Folders of resources, searched at any depth for *.lproj, *.xcstrings and *.xcassets")
-        ->check(named());
+        ->check(notEmpty());
 }
 
 void SourceArguments::addNamesTo(CLI::App& command) {
     command.add_option("--names", names, "A table that maps TABLE/KEY to the dotted path of an accessor")
-        ->check(named());
+        ->check(notEmpty());
 }
 
 void SourceArguments::addPseudoTo(CLI::App& command) {
-    command.add_flag(
-        "--pseudo", options.addsPseudoLanguages,
-        "Add the pseudo languages en-XA (accented, longer) and ar-XB (right to left)");
+    command.add_flag("--pseudo", options.addsPseudoLanguages,
+                     "Add the pseudo languages en-XA (accented, longer) and ar-XB (right to left)");
 }
 
 std::vector<std::filesystem::path> SourceArguments::paths() const {

@@ -118,12 +118,12 @@ void addTableCommand(CLI::App& program, Exit& exit) {
         ->add_option("FILE", options->file,
                      "The table: quoted text, XML or binary, detected from its content; - is standard input")
         ->required()
-        ->check(named());
+        ->check(notEmpty());
     command->add_option("--to", options->form, "The form to write")
         ->check(CLI::IsMember({"json", "strings", "xml", "binary"}))
         ->capture_default_str();
     command->add_option("-o,--output", options->output, "Where to write; - is standard output")
-        ->check(named())
+        ->check(notEmpty())
         ->capture_default_str();
     command->callback([options, &exit] { exit = runTable(*options); });
 }

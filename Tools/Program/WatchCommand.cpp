@@ -143,7 +143,9 @@ void addWatchCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<WatchOptions>();
     CLI::App* command = program.add_subcommand("watch", "Compile a bundle, and again whenever its source changes.");
     options->source.addTo(*command)->required();
-    command->add_option("-o,--output", options->output, "The bundle to write, NAME.bundle")->required()->check(named());
+    command->add_option("-o,--output", options->output, "The bundle to write, NAME.bundle")
+        ->required()
+        ->check(notEmpty());
     options->source.addPseudoTo(*command);
     command->callback([options, &exit] { exit = Watcher(*options).run(); });
 }

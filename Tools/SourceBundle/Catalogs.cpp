@@ -21,28 +21,6 @@ using AssetCatalog::Kind;
 
 namespace {
 
-std::vector<fs::path> sortedEntries(const fs::path& folder, Diagnostics& diagnostics) {
-    std::vector<fs::path> entries;
-    std::error_code failed;
-    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
-        entries.push_back(entry->path());
-    if (failed)
-        diagnostics.add(Severity::error, {.message = "cannot be read: " + failed.message(), .file = folder});
-    std::ranges::sort(entries);
-    return entries;
-}
-
-// False for links to folders, which could lead out of the source.
-bool isFolder(const fs::path& path) {
-    std::error_code failed;
-    return fs::is_directory(fs::symlink_status(path, failed));
-}
-
-bool isLinkedFolder(const fs::path& path) {
-    std::error_code failed;
-    return fs::is_symlink(fs::symlink_status(path, failed)) && fs::is_directory(path, failed);
-}
-
 // Whether the folder is a set of an unsupported kind. All other folders only group sets, whatever their names.
 bool isOtherSet(const fs::path& folder) {
     static constexpr std::array<std::string_view, 20> extensions = {
@@ -96,17 +74,20 @@ private:
     void findInFolder(const fs::path& folder, const std::string& prefix, int depth) {
         if (depth > maxFolderDepth)
             return diagnostics_.add(Severity::error, {.message = "is nested too deeply", .file = folder});
-        std::vector<fs::path> entries = sortedEntries(folder, diagnostics_);
+        std::vector<fs::directory_entry> entries = sortedEntries(folder, diagnostics_);
         // Not std::ranges::stable_partition: clang 14 cannot compile it with this standard library.
         std::stable_partition(entries.begin(), entries.end(),
-                              [](const fs::path& entry) { return kindOf(entry).has_value(); });
-        for (const fs::path& entry : entries) {
-            if (entry.filename().native().starts_with('.'))
+                              [](const fs::directory_entry& entry) { return kindOf(entry.path()).has_value(); });
+        for (const fs::directory_entry& entry : entries) {
+            std::error_code failed;
+            if (!entry.is_directory(failed))
                 continue;
-            if (isLinkedFolder(entry))
-                diagnostics_.add(Severity::note, {.message = "is a link to a folder and is left out", .file = entry});
-            else if (isFolder(entry))
-                findFolder(entry, prefix, depth);
+            // Links to folders could lead out of the source.
+            if (entry.is_symlink(failed))
+                diagnostics_.add(Severity::note,
+                                 {.message = "is a link to a folder and is left out", .file = entry.path()});
+            else
+                findFolder(entry.path(), prefix, depth);
         }
     }
 

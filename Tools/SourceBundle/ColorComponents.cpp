@@ -1,9 +1,9 @@
 #include "SourceBundle/ColorComponents.h"
 
-#include "SourceBundle/QuotedName.h"
+#include "SourceBundle/LowerCase.h"
+#include "SourceBundle/MessageText.h"
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
 #include <cstdint>
 #include <optional>
@@ -20,7 +20,7 @@ namespace {
 // Components in extended colour spaces may exceed 0 to 1; no screen reaches this limit.
 constexpr double largestComponent = 16;
 
-std::optional<ColorSpace> colorSpaceNamed(std::string name) {
+std::optional<ColorSpace> colorSpaceNamed(const std::string& name) {
     static constexpr std::array<std::pair<std::string_view, ColorSpace>, 6> spaces = {
         {{"srgb", ColorSpace::srgb},
          {"", ColorSpace::srgb},
@@ -28,9 +28,8 @@ std::optional<ColorSpace> colorSpaceNamed(std::string name) {
          {"display-p3", ColorSpace::displayP3},
          {"gray-gamma-22", ColorSpace::gray},
          {"extended-gray", ColorSpace::gray}}};
-    std::ranges::transform(name, name.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     for (const auto& [known, space] : spaces)
-        if (known == name)
+        if (known == lowerCase(name))
             return space;
     return std::nullopt;
 }

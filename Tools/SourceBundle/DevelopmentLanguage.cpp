@@ -1,5 +1,6 @@
 #include "SourceBundle/DevelopmentLanguage.h"
 
+#include "SourceBundle/LowerCase.h"
 #include "SourceBundle/SourceFiles.h"
 #include "StringTables/internal/BundleLayout.h"
 #include "StringTables/internal/Table.h"
@@ -28,22 +29,13 @@ Runtime::Error unresolved(const std::filesystem::path& file, const Table& table,
             .column = place.column};
 }
 
-// "de_DE" is "de-de".
-std::string comparable(std::string_view language) {
-    std::string out(language);
-    std::ranges::replace(out, '_', '-');
-    std::ranges::transform(out, out.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
-    return out;
-}
-
 } // namespace
 
 std::string languageAmong(const std::set<std::string>& languages, const std::string& wanted) {
     if (languages.contains(wanted))
         return wanted;
-    for (std::string name = comparable(wanted); !name.empty();) {
-        const auto found = std::ranges::find(languages, name, comparable);
+    for (std::string name = comparableCode(wanted); !name.empty();) {
+        const auto found = std::ranges::find(languages, name, comparableCode);
         if (found != languages.end())
             return *found;
         const std::size_t subtag = name.rfind('-');

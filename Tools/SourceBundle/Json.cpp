@@ -1,6 +1,7 @@
 #include "SourceBundle/Json.h"
 
 #include "Runtime/internal/File.h"
+#include "StringTables/internal/Unicode.h"
 #include <algorithm>
 
 namespace SourceBundle {
@@ -10,8 +11,12 @@ namespace fs = std::filesystem;
 Runtime::Error errorAt(const fs::path& file, std::string_view text, std::size_t byte, std::string message) {
     const std::string_view before = text.substr(0, std::min(byte, text.size()));
     const auto lines = static_cast<std::size_t>(std::ranges::count(before, '\n'));
-    const std::size_t lineBegin = before.find_last_of('\n') == std::string_view::npos ? 0 : before.rfind('\n') + 1;
-    return {.message = std::move(message), .file = file, .line = lines + 1, .column = before.size() - lineBegin + 1};
+    const std::size_t lineFeed = before.rfind('\n');
+    const std::string_view line = lineFeed == before.npos ? before : before.substr(lineFeed + 1);
+    return {.message = std::move(message),
+            .file = file,
+            .line = lines + 1,
+            .column = StringTables::internal::countCharacters(line) + 1};
 }
 
 Runtime::Result<Json> readJsonObject(const fs::path& file) {

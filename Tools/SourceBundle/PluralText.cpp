@@ -1,6 +1,7 @@
 #include "SourceBundle/PluralText.h"
 
 #include "StringTables/internal/PluralPieces.h"
+#include "StringTables/internal/Unicode.h"
 #include <algorithm>
 #include <optional>
 
@@ -15,18 +16,11 @@ using StringTables::PluralVariable;
 
 namespace {
 
-std::string_view otherForm(const PluralVariable& variable) {
-    const auto last =
-        std::find_if(variable.forms.rbegin(), variable.forms.rend(), [](const auto& form) { return form.has_value(); });
-    return last == variable.forms.rend() ? std::string_view() : std::string_view(**last);
-}
-
 class OtherText {
 public:
     explicit OtherText(const PluralFormat& plural) : plural_(plural) {
         append(plural.format, PluralPieces(plural), 0);
-        if (out_.size() > maxOtherText)
-            out_.resize(maxOtherText);
+        out_.resize(StringTables::internal::cutToSize(out_, maxOtherText).size());
     }
     std::string take() { return std::move(out_); }
 
@@ -73,9 +67,9 @@ std::string withPositions(const std::string& text) {
             continue;
         if (taken.width != 0 || taken.precision != 0)
             return text;
-        const std::size_t behindPercent = found->begin + 1;
-        out.append(text, done, behindPercent - done).append(positionText(taken.value));
-        done = behindPercent;
+        const std::size_t afterPercent = found->begin + 1;
+        out.append(text, done, afterPercent - done).append(positionText(taken.value));
+        done = afterPercent;
     }
     return out.append(text, done);
 }
@@ -152,7 +146,8 @@ std::string withoutArg(std::string_view form, std::string_view placeholder) {
     for (std::size_t at = form.find('%'); at != form.npos; at = form.find('%', at)) {
         if (form.substr(at).starts_with(arg)) {
             out.append(form.substr(done, at - done)).append(placeholder);
-            done = at += arg.size();
+            at += arg.size();
+            done = at;
         } else {
             at += form.substr(at).starts_with("%%") ? 2U : 1U;
         }

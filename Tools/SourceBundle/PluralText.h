@@ -11,7 +11,7 @@
 namespace SourceBundle {
 
 // The format with every variable replaced by its form `other`, or its last form: for display, not for formatting. Cut
-// at maxOtherText bytes.
+// after at most maxOtherText bytes.
 [[nodiscard]] std::string otherText(const StringTables::PluralFormat& plural);
 inline constexpr std::size_t maxOtherText = 4096;
 

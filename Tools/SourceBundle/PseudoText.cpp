@@ -46,14 +46,9 @@ std::string_view accented(char letter) {
     return accents[asciiLetters.find(letter)];
 }
 
-struct Character {
-    char32_t code;
-    std::string_view bytes;
-};
+using StringTables::internal::Character;
 Character firstCharacter(std::string_view text) {
-    std::string_view rest = text;
-    const char32_t code = StringTables::internal::takeCharacter(rest);
-    return {code, text.substr(0, text.size() - rest.size())};
+    return StringTables::internal::takeCharacterWithBytes(text);
 }
 
 // A backslash, the escaped character, and the hexadecimal digits of "\u" and the like.

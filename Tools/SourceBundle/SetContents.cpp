@@ -5,7 +5,7 @@
 #include "SourceBundle/ImageLayout.h"
 #include "SourceBundle/Json.h"
 #include "SourceBundle/KnownProperties.h"
-#include "SourceBundle/QuotedName.h"
+#include "SourceBundle/MessageText.h"
 #include "SourceBundle/SetEntry.h"
 #include "SourceBundle/SystemColors.h"
 #include <algorithm>
@@ -69,9 +69,9 @@ public:
             chosen_ = device;
         }
         for (const SetEntry& entry : std::span(rest, entries.end()))
-            say(Severity::note, entry,
-                "is for other devices (" + entry.device.text() + ") and is left out: the variants for " +
-                    chosen_.text() + " are used");
+            report(Severity::note, entry,
+                   "is for other devices (" + entry.device.text() + ") and is left out: the variants for " +
+                       chosen_.text() + " are used");
         addSystemColorVariants();
     }
 
@@ -90,7 +90,8 @@ private:
                 continue;
             reportUnknownProperties(json, KnownProperties::ofEntry, entry.label());
             if (member(json, "unassigned") == Json(true))
-                say(Severity::note, entry, "is not assigned to any variant and is left out", Topic::unassignedVariant);
+                report(Severity::note, entry, "is not assigned to any variant and is left out",
+                       Topic::unassignedVariant);
             else
                 entries.push_back(std::move(entry));
         }
@@ -99,7 +100,7 @@ private:
 
     void reportUnknownProperties(const Json& object, KnownProperties known, const std::string& owner) {
         for (const std::string& name : unknownProperties(object, known))
-            say(Severity::note, owner + " has the property " + quotedName(name) + ", which is ignored");
+            report(Severity::note, owner + " has the property " + quotedName(name) + ", which is ignored");
     }
 
     void add(const SetEntry& entry) {
@@ -115,8 +116,8 @@ private:
         const auto isSame = [&](const auto& variant) { return hasSameTraits(variant, entry); };
         if (std::ranges::none_of(asset_.files, isSame) && std::ranges::none_of(asset_.colors, isSame))
             return false;
-        say(Severity::warning, entry, "is for the same traits as an earlier entry and is left out",
-            Topic::duplicateVariant);
+        report(Severity::warning, entry, "is for the same traits as an earlier entry and is left out",
+               Topic::duplicateVariant);
         return true;
     }
 
@@ -142,18 +143,20 @@ private:
         std::error_code failed;
         // A name must be a single path component, so that no file outside of the set gets into a catalog.
         if (name == "." || name == ".." || name.find_first_of(std::string_view("/\0", 2)) != std::string::npos) {
-            say(Severity::warning, entry, "is a file outside of its set and is left out", Topic::unreadableAsset);
+            report(Severity::warning, entry, "is a file outside of its set and is left out", Topic::unreadableAsset);
             return std::nullopt;
         }
         const fs::path file = asset_.path / name;
         const fs::file_status status = fs::symlink_status(file, failed);
         if (fs::is_regular_file(status))
             return file;
-        const char* fault = fs::is_symlink(status) ? "is a link, which is not followed,"
-                            : fs::exists(status)   ? "is not a regular file"
-                                                   : "is a file that does not exist";
-        say(Severity::warning, entry, std::string(fault) + " and is left out",
-            fs::exists(status) ? Topic::unreadableAsset : Topic::missingFile);
+        if (!fs::exists(status))
+            report(Severity::warning, entry, "is a file that does not exist and is left out", Topic::missingFile);
+        else if (fs::is_symlink(status))
+            report(Severity::warning, entry, "is a link, which is not followed, and is left out",
+                   Topic::unreadableAsset);
+        else
+            report(Severity::warning, entry, "is not a regular file and is left out", Topic::unreadableAsset);
         return std::nullopt;
     }
 
@@ -163,16 +166,16 @@ private:
             return addSystemColor(entry, reference);
         const auto value = colorValue(color);
         if (!value)
-            return say(Severity::warning, entry, value.error().message + " and is left out", Topic::unreadableAsset);
+            return report(Severity::warning, entry, value.error().message + " and is left out", Topic::unreadableAsset);
         asset_.colors.push_back({entry.fit, entry.language, *value});
     }
 
     void addSystemColor(const SetEntry& entry, const std::string& reference) {
         const std::optional<SystemColor> color = systemColor(reference);
         if (!color)
-            return say(Severity::warning, entry,
-                       "is the unknown system colour " + quotedName(reference) + " and is left out",
-                       Topic::unreadableAsset);
+            return report(Severity::warning, entry,
+                          "is the unknown system colour " + quotedName(reference) + " and is left out",
+                          Topic::unreadableAsset);
         const bool isDark = entry.fit.appearance == AssetCatalog::Appearance::dark;
         asset_.colors.push_back({entry.fit, entry.language, isDark ? color->dark : color->light});
         if (entry.fit.appearance != AssetCatalog::Appearance::any)
@@ -203,12 +206,12 @@ private:
         return error;
     }
     // Adds a message located at the entry.
-    void say(Severity severity, const SetEntry& entry, std::string_view what, Topic topic = Topic::other) {
+    void report(Severity severity, const SetEntry& entry, std::string_view what, Topic topic = Topic::other) {
         Runtime::Error error = entryPlace(contents_, listName(asset_), entry.number);
         error.message = entry.label().append(" ").append(what);
         diagnostics_.add(severity, std::move(error), topic, asset_.name);
     }
-    void say(Severity severity, std::string message) {
+    void report(Severity severity, std::string message) {
         diagnostics_.add(severity, {.message = std::move(message), .file = contents_});
     }
 
@@ -234,8 +237,7 @@ void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagn
         diagnostics.add(message);
     }
     if (warnings == 0 && std::ranges::none_of(messages.all(), isError))
-        diagnostics.add(Severity::warning,
-                        {.message = "has no usable variant and is left out", .file = asset.path});
+        diagnostics.add(Severity::warning, {.message = "has no usable variant and is left out", .file = asset.path});
 }
 
 } // namespace

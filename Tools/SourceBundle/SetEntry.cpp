@@ -1,6 +1,6 @@
 #include "SourceBundle/SetEntry.h"
 
-#include "SourceBundle/QuotedName.h"
+#include "SourceBundle/MessageText.h"
 #include <algorithm>
 #include <array>
 #include <cctype>

@@ -14,7 +14,6 @@
 #include <iterator>
 #include <map>
 #include <memory_resource>
-#include <set>
 #include <span>
 #include <utility>
 
@@ -234,7 +233,7 @@ const SourceEntry* LanguageTexts::find(std::string_view key) const {
     return number == index_.none ? nullptr : &entries_[number];
 }
 
-const SourceEntry* LanguageTexts::findBehind(const SourceEntry* last, std::string_view key) const {
+const SourceEntry* LanguageTexts::findAfter(const SourceEntry* last, std::string_view key) const {
     const std::size_t next = last == nullptr ? 0 : static_cast<std::size_t>(last - entries_.data()) + 1;
     return next < entries_.size() && entries_[next].key == key ? &entries_[next] : find(key);
 }
@@ -271,24 +270,22 @@ const LanguageTexts* SourceTable::find(std::string_view language) const {
     return found == languages.end() ? nullptr : &*found;
 }
 
-namespace {
-
-std::set<std::string> languagesOf(std::span<const SourceTable> tables) {
-    std::set<std::string> languages;
-    for (const SourceTable& table : tables)
-        for (const LanguageTexts& texts : table.languages)
-            languages.insert(texts.language);
-    return languages;
-}
-
-} // namespace
+namespace {} // namespace
 
 Source::Source() : storage_(std::make_unique<Storage>()) {}
 Source::Source(Source&&) noexcept = default;
 Source& Source::operator=(Source&&) noexcept = default;
 Source::~Source() = default;
 
-bool Source::isDeveloped(const SourceTable& table) const {
+std::set<std::string> Source::languages() const {
+    std::set<std::string> all;
+    for (const SourceTable& table : tables)
+        for (const LanguageTexts& texts : table.languages)
+            all.insert(texts.language);
+    return all;
+}
+
+bool Source::hasDevelopmentLanguage(const SourceTable& table) const {
     return table.find(developmentLanguage) != nullptr || table.find(baseLanguage) != nullptr;
 }
 
@@ -334,8 +331,9 @@ void Source::addPseudoLanguages() {
 
 Source Source::read(std::span<const fs::path> folders, const SourceOptions& options, Diagnostics& diagnostics) {
     Source source = read(findFiles(folders, diagnostics), options, diagnostics);
-    if (!source.tables.empty() &&
-        std::ranges::none_of(source.tables, [&](const SourceTable& table) { return source.isDeveloped(table); }))
+    if (!source.tables.empty() && std::ranges::none_of(source.tables, [&](const SourceTable& table) {
+            return source.hasDevelopmentLanguage(table);
+        }))
         diagnostics.add(Severity::warning, {.message = "has no development texts: neither in the language " +
                                                        source.developmentLanguage + " nor in Base.lproj",
                                             .file = folders.front()});
@@ -359,7 +357,7 @@ Source Source::read(SourceFiles files, const SourceOptions& options, Diagnostics
     source.developmentLanguage = options.developmentLanguage.empty()
                                      ? SourceBundle::developmentLanguage(source.infos, diagnostics).value_or(otherwise)
                                      : languageOfFolder(options.developmentLanguage);
-    source.developmentLanguage = languageAmong(languagesOf(source.tables), source.developmentLanguage);
+    source.developmentLanguage = languageAmong(source.languages(), source.developmentLanguage);
     if (options.addsPseudoLanguages)
         source.addPseudoLanguages();
     return source;

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -52,7 +53,7 @@ public:
     [[nodiscard]] const SourceEntry* find(std::string_view key) const;
     // The same, but first looks at the entry after `last` (an entry of this language, or null), because most languages
     // have their keys in the same order.
-    [[nodiscard]] const SourceEntry* findBehind(const SourceEntry* last, std::string_view key) const;
+    [[nodiscard]] const SourceEntry* findAfter(const SourceEntry* last, std::string_view key) const;
     // Adds an entry; false if the key already exists.
     bool add(const SourceEntry& entry);
     // Adds the entries of `other` with new keys; moves all of them if there are none yet.
@@ -111,8 +112,10 @@ public:
     // The texts of `table` that determine which accessors exist: those of the development language, then those of Base
     // with other keys. Points into the source. Empty for a table without either.
     [[nodiscard]] std::vector<const SourceEntry*> developmentEntries(const SourceTable& table) const;
+    // The languages of all tables, including Base.
+    [[nodiscard]] std::set<std::string> languages() const;
     // Whether the table exists in the development language or Base, even without texts.
-    [[nodiscard]] bool isDeveloped(const SourceTable& table) const;
+    [[nodiscard]] bool hasDevelopmentLanguage(const SourceTable& table) const;
 
     struct Storage; // internal
 

@@ -15,9 +15,6 @@ namespace layout = StringTables::bundleLayout;
 
 namespace {
 
-// lumora compile writes this file into every bundle.
-constexpr const char* compiledMark = ".lumora-bundle";
-
 std::optional<TableFile::Kind> kindOf(const fs::path& file) {
     const fs::path extension = file.extension();
     if (extension == layout::textsSuffix)
@@ -65,18 +62,6 @@ private:
         diagnostics_.add(severity, {.message = std::move(message), .file = file});
     }
 
-    std::vector<fs::directory_entry> entriesOf(const fs::path& folder) {
-        std::vector<fs::directory_entry> entries;
-        std::error_code failed;
-        for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
-            if (!entry->path().filename().native().starts_with('.'))
-                entries.push_back(*entry);
-        if (failed)
-            add(Severity::error, folder, "cannot be read: " + failed.message());
-        std::ranges::sort(entries);
-        return entries;
-    }
-
     // Whether the path is inside the source. Links that lead out of it are refused, so that no other content is
     // disclosed.
     bool isInside(const fs::path& path) const {
@@ -103,7 +88,7 @@ private:
     void findInFolder(const fs::path& folder, int depth) {
         if (depth > maxFolderDepth)
             return add(Severity::error, folder, "is nested too deeply");
-        for (const fs::directory_entry& entry : entriesOf(folder)) {
+        for (const fs::directory_entry& entry : sortedEntries(folder, diagnostics_)) {
             const fs::path& path = entry.path();
             std::error_code failed;
             if (!entry.is_directory(failed))
@@ -136,7 +121,7 @@ private:
         if (!mayRead(folder))
             return;
         const std::string language = languageOfFolder(folder.path().stem());
-        for (const fs::directory_entry& entry : entriesOf(folder.path())) {
+        for (const fs::directory_entry& entry : sortedEntries(folder.path(), diagnostics_)) {
             std::error_code failed;
             const std::optional<TableFile::Kind> kind = kindOf(entry.path());
             if (kind)
@@ -168,6 +153,18 @@ private:
 };
 
 } // namespace
+
+std::vector<fs::directory_entry> sortedEntries(const fs::path& folder, Diagnostics& diagnostics) {
+    std::vector<fs::directory_entry> entries;
+    std::error_code failed;
+    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
+        if (!entry->path().filename().native().starts_with('.'))
+            entries.push_back(*entry);
+    if (failed)
+        diagnostics.add(Severity::error, {.message = "cannot be read: " + failed.message(), .file = folder});
+    std::ranges::sort(entries);
+    return entries;
+}
 
 SourceFiles findFiles(std::span<const fs::path> folders, Diagnostics& diagnostics) {
     Finder finder(diagnostics);

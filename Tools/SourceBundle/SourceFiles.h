@@ -43,6 +43,13 @@ struct SourceFiles {
 
 inline constexpr int maxFolderDepth = 64;
 
+// The file that `lumora compile` writes into every bundle, which marks it as one that may be replaced.
+inline constexpr const char* compiledMark = ".lumora-bundle";
+
+// The entries of a folder, without hidden ones, sorted by path. An unreadable folder is an error.
+[[nodiscard]] std::vector<std::filesystem::directory_entry> sortedEntries(const std::filesystem::path& folder,
+                                                                          Diagnostics& diagnostics);
+
 // The language of a folder name without ".lproj". Old folders have English names: "German" gives "de".
 [[nodiscard]] std::string languageOfFolder(const std::string& name);
 

@@ -113,7 +113,9 @@ template <class Visit> void forEach(ondemand::value object, Visit&& visit) {
 }
 
 State stateNamed(std::string_view name) {
-    return name == "new" ? State::isNew : name == "needs_review" ? State::needsReview : State::translated;
+    if (name == "new")
+        return State::isNew;
+    return name == "needs_review" ? State::needsReview : State::translated;
 }
 
 struct Unit {
@@ -172,6 +174,17 @@ void readDevices(ondemand::value object, Localized& out) {
     out.take(std::move(chosen));
 }
 
+void readVariations(ondemand::value object, Localized& out) {
+    forEach(object, [&](std::string_view kind, ondemand::value variation) {
+        if (kind == "plural")
+            readPlural(variation, out);
+        else if (kind == "device")
+            readDevices(variation, out);
+        else
+            skip(variation);
+    });
+}
+
 void readSubstitutions(ondemand::value object, Localized& out) {
     forEach(object, [&](std::string_view name, ondemand::value value) {
         Substitution substitution{{std::string(name), "lld", {}}, 0};
@@ -182,11 +195,7 @@ void readSubstitutions(ondemand::value object, Localized& out) {
             else if (member == "formatSpecifier")
                 substitution.variable.valueType = std::string(std::string_view(inner.get_string()));
             else if (member == "variations")
-                forEach(inner, [&](std::string_view kind, ondemand::value variation) {
-                    kind == "plural"   ? readPlural(variation, forms)
-                    : kind == "device" ? readDevices(variation, forms)
-                                       : skip(variation);
-                });
+                readVariations(inner, forms);
             else
                 skip(inner);
         });
@@ -207,11 +216,7 @@ void readLocalized(ondemand::value object, Localized& out) {
             out.text = std::move(unit.text);
             out.note(unit.state);
         } else if (name == "variations") {
-            forEach(value, [&](std::string_view kind, ondemand::value variation) {
-                kind == "plural"   ? readPlural(variation, out)
-                : kind == "device" ? readDevices(variation, out)
-                                   : skip(variation);
-            });
+            readVariations(value, out);
         } else if (name == "substitutions") {
             readSubstitutions(value, out);
         } else {
@@ -322,7 +327,7 @@ private:
         if (localized.hasTooManySubstitutions)
             diagnostics_.add(Severity::warning, {.message = "a text has more than " +
                                                             std::to_string(StringTables::PluralTable::maxVariables) +
-                                                            " substitutions; those behind are left out",
+                                                            " substitutions; the rest is left out",
                                                  .file = file_,
                                                  .line = text.line,
                                                  .column = text.column});

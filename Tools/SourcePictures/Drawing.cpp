@@ -30,11 +30,11 @@ Runtime::Error cannotBeDrawn(cairo_status_t status) {
 }
 
 // Draws on a new surface of that size, which the drawing fills.
-Runtime::Result<Owned<cairo_surface_t>> drawn(const DrawingForm& form, PixelSize pixels) {
+Runtime::Result<Owned<cairo_surface_t>> drawn(const VectorImage& image, PixelSize pixels) {
     Owned<cairo_surface_t> surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels.columns, pixels.rows));
     const Owned<cairo_t> context(cairo_create(surface.get()));
-    cairo_scale(context.get(), pixels.columns / form.size().width, pixels.rows / form.size().height);
-    if (auto done = form.draw(context.get()); !done)
+    cairo_scale(context.get(), pixels.columns / image.size().width, pixels.rows / image.size().height);
+    if (auto done = image.draw(context.get()); !done)
         return std::move(done.error());
     if (const cairo_status_t status = cairo_status(context.get()); status != CAIRO_STATUS_SUCCESS)
         return cannotBeDrawn(status);
@@ -46,7 +46,7 @@ Runtime::Result<Owned<cairo_surface_t>> drawn(const DrawingForm& form, PixelSize
 Runtime::Result<void> Drawing::check(double scale) const {
     if (const auto pixels = pixelSize(size(), scale); !pixels)
         return pixels.error();
-    if (const auto pixel = drawn(*form_, {1, 1}); !pixel)
+    if (const auto pixel = drawn(*image_, {1, 1}); !pixel)
         return pixel.error();
     return {};
 }
@@ -55,7 +55,7 @@ Runtime::Result<AssetCatalog::Picture> Drawing::picture(double scale) const {
     const auto pixels = pixelSize(size(), scale);
     if (!pixels)
         return pixels.error();
-    const auto surface = drawn(*form_, *pixels);
+    const auto surface = drawn(*image_, *pixels);
     if (!surface)
         return surface.error();
     std::string png;

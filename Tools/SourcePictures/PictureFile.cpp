@@ -38,7 +38,7 @@ bool isXml(std::string_view bytes) {
     return begin != std::string_view::npos && bytes[begin] == '<';
 }
 
-DrawingResult readDrawing(std::string_view bytes, Format format, const Purpose& purpose) {
+VectorImageResult readDrawing(std::string_view bytes, Format format, const Purpose& purpose) {
     if (format == Format::pdf)
         return readPdf(bytes);
     return purpose.isSymbol ? readSymbol(bytes) : readSvg(bytes);
@@ -66,17 +66,17 @@ double pixelsPerUnit(std::uint8_t scale, const Purpose& purpose) {
 }
 
 Runtime::Result<void> checkDrawing(std::string_view bytes, Format format, const Purpose& purpose) {
-    auto form = readDrawing(bytes, format, purpose);
-    if (!form)
-        return std::move(form.error());
-    return Drawing(*std::move(form)).check(pixelsPerUnit(std::ranges::max(scalesOf(purpose)), purpose));
+    auto image = readDrawing(bytes, format, purpose);
+    if (!image)
+        return std::move(image.error());
+    return Drawing(*std::move(image)).check(pixelsPerUnit(std::ranges::max(scalesOf(purpose)), purpose));
 }
 
 Runtime::Result<PictureList> drawn(std::string_view bytes, Format format, const Purpose& purpose) {
-    auto form = readDrawing(bytes, format, purpose);
-    if (!form)
-        return std::move(form.error());
-    const Drawing drawing(*std::move(form));
+    auto image = readDrawing(bytes, format, purpose);
+    if (!image)
+        return std::move(image.error());
+    const Drawing drawing(*std::move(image));
     const double made = std::max<std::uint8_t>(purpose.scale, 1);
     PictureList pictures;
     for (const std::uint8_t scale : scalesOf(purpose)) {

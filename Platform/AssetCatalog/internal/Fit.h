@@ -13,10 +13,10 @@
 namespace AssetCatalog {
 
 // The distance of `offered` from `wanted`: 0 is an exact match, smaller is better. The criteria, most important first:
-// 1. direction, 2. appearance: the wanted one, then a variant for any, then another (if none is wanted: any,
-//    then left to right or light, then the rest);
-// 3. contrast: the wanted one, then the other;
-// 4. scale: the wanted one, then a variant for any, then the next larger, then the largest of the smaller ones.
+// - direction: the wanted one, then a variant for any, then the other (if none is wanted: any, then left to right);
+// - appearance: the wanted one, then a variant for any, then the other (if none is wanted: any, then light);
+// - contrast: the wanted one, then the other;
+// - scale: the wanted one, then a variant for any, then the next larger, then the largest of the smaller ones.
 [[nodiscard]] std::uint32_t distance(Fit offered, Fit wanted) noexcept;
 
 // The same for the language of a variant (empty: for all languages). Best is a match with an early one of `wanted`,

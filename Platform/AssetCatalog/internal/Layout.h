@@ -4,6 +4,7 @@
 
 #include "AssetCatalog/internal/Model.h"
 #include "Catalog_generated.h" // made from Catalog.fbs
+#include "Runtime/internal/Hash.h"
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -22,13 +23,12 @@ constexpr std::size_t aligned(std::size_t size) noexcept {
 // Assets are sorted by this hash, and those with the same hash by kind and name: names can be made to collide. Each
 // step hashes eight bytes, padded with zeros.
 inline std::uint64_t hashOf(Kind kind, std::string_view name) noexcept {
-    constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
-    std::uint64_t hash = (static_cast<std::uint64_t>(kind) << 32 | name.size()) * spread;
+    std::uint64_t hash = (static_cast<std::uint64_t>(kind) << 32 | name.size()) * Runtime::hashSpread;
     while (!name.empty()) {
         const std::size_t step = name.size() < 8 ? name.size() : 8;
         std::uint64_t word = 0;
         std::memcpy(&word, name.data(), step);
-        hash = (hash ^ hash >> 32 ^ flatbuffers::EndianScalar(word)) * spread;
+        hash = (hash ^ hash >> 32 ^ flatbuffers::EndianScalar(word)) * Runtime::hashSpread;
         name.remove_prefix(step);
     }
     return hash;

@@ -1,6 +1,7 @@
 // Pictures/internal/Pictures.h
 // Decodes PNG and JPEG files. The decoders are in the plug-in lumora-pictures.so, which is loaded when the first
-// picture is decoded, because many processes need none. Threads: any. Ownership: results own their memory.
+// picture is decoded, because many processes need none.
+// Threads: any. Ownership: results own their memory.
 //
 // Tolerated, as in most viewers: ancillary PNG chunks with a wrong checksum, which are skipped, and bytes between JPEG
 // segments. Any other error, including a missing end, makes the picture damaged. Colours are returned as stored: gamma,

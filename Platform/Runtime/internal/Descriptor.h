@@ -3,6 +3,9 @@
 // Threads: as thread-safe as the raw descriptor.
 #pragma once
 
+#include <cerrno>
+#include <cstddef>
+#include <string_view>
 #include <unistd.h>
 #include <utility>
 
@@ -22,6 +25,17 @@ public:
             ::close(number_);
     }
     int number() const noexcept { return number_; }
+    // Writes all bytes. False on failure, with errno.
+    bool write(std::string_view bytes) const noexcept {
+        while (!bytes.empty()) {
+            const ssize_t written = ::write(number_, bytes.data(), bytes.size());
+            if (written < 0 && errno != EINTR)
+                return false;
+            if (written > 0)
+                bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return true;
+    }
     // Closes now, for writers that must detect a failed close. False on failure.
     bool close() noexcept { return ::close(std::exchange(number_, -1)) == 0; }
 

@@ -25,13 +25,18 @@ struct Error {
     bool isTransient() const noexcept {
         return cause == ENOMEM || cause == EMFILE || cause == ENFILE || cause == EINTR || cause == EIO;
     }
-    // "file:line:column: message", with the parts that are known.
-    std::string text() const {
+    // "file:line:column", with the parts that are known.
+    std::string place() const {
         std::string out = file;
         for (const std::size_t number : {line, line != 0 ? column : 0})
             if (number != 0)
                 out.append(out.empty() ? "" : ":").append(std::to_string(number));
-        return out.empty() ? message : out.append(": ").append(message);
+        return out;
+    }
+    // "file:line:column: message", with the parts that are known.
+    std::string text() const {
+        const std::string where = place();
+        return where.empty() ? message : where + ": " + message;
     }
 };
 

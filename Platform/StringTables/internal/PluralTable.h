@@ -27,6 +27,9 @@ struct PluralVariable {
     friend bool operator==(const PluralVariable&, const PluralVariable&) = default;
 };
 
+// The form `other`, which every language has; if the table lacks it, the last existing form, else an empty text.
+[[nodiscard]] std::string_view otherForm(const PluralVariable& variable) noexcept;
+
 struct PluralFormat {
     std::string format; // "%#@days@ left"
     std::vector<PluralVariable> variables;

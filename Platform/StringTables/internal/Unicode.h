@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace StringTables::internal {
@@ -57,5 +58,20 @@ struct Decoded {
 
 // Removes the first character of `utf8`, which must be well-formed and not empty, and returns it.
 [[nodiscard]] char32_t takeCharacter(std::string_view& utf8) noexcept;
+
+struct Character {
+    char32_t code;
+    std::string_view bytes;
+};
+
+// The same, but also returns the bytes of the character.
+[[nodiscard]] inline Character takeCharacterWithBytes(std::string_view& utf8) noexcept {
+    const std::string_view before = utf8;
+    const char32_t code = takeCharacter(utf8);
+    return {code, before.substr(0, before.size() - utf8.size())};
+}
+
+// `utf8` must be well-formed.
+[[nodiscard]] std::u16string toUtf16(std::string_view utf8);
 
 } // namespace StringTables::internal

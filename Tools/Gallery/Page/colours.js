@@ -29,7 +29,13 @@ function contrastRatio(colour, ground) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-const grade = (ratio) => (ratio >= 7 ? "AAA" : ratio >= 4.5 ? "AA" : ratio >= 3 ? "AA large" : "–");
+function grade(ratio) {
+    if (ratio >= 7)
+        return "AAA";
+    if (ratio >= 4.5)
+        return "AA";
+    return ratio >= 3 ? "AA large" : "–";
+}
 
 function contrastLine(colour, ground, groundName) {
     const ratio = Math.floor(contrastRatio(colour, ground) * 100) / 100; // rounded down, so that the ratio never suggests a higher grade

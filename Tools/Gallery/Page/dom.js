@@ -13,7 +13,9 @@ const numbers = new Intl.NumberFormat("en");
 const counted = (count, one, many) => `${numbers.format(count)} ${count === 1 ? one : many}`;
 
 function fileSize(bytes) {
-    return bytes < 1000 ? `${bytes} B` : bytes < 1e6 ? `${(bytes / 1e3).toFixed(1)} kB` : `${(bytes / 1e6).toFixed(1)} MB`;
+    if (bytes < 1000)
+        return `${bytes} B`;
+    return bytes < 1e6 ? `${(bytes / 1e3).toFixed(1)} kB` : `${(bytes / 1e6).toFixed(1)} MB`;
 }
 
 // A button that shows `shown` and copies `full`.

@@ -51,7 +51,8 @@ function goTo(element) {
 
 function showMissing(language, counts) {
     byId("language-b").selectedIndex = language;
-    byId("status").value = counts.missing ? "missing" : counts.same ? "same" : "all";
+    const untranslated = counts.same ? "same" : "all";
+    byId("status").value = counts.missing ? "missing" : untranslated;
     chooseLanguage("b", language);
     search();
     goTo(byId("texts"));

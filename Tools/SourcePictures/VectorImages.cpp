@@ -1,4 +1,4 @@
-#include "SourcePictures/DrawingForms.h"
+#include "SourcePictures/VectorImages.h"
 
 #include "SourcePictures/GlibPointers.h"
 #include <cmath>
@@ -86,7 +86,7 @@ Runtime::Result<Owned<RsvgHandle>> svgHandle(std::string_view bytes) {
     return drawing;
 }
 
-class SvgDrawing final : public DrawingForm {
+class SvgDrawing final : public VectorImage {
 public:
     SvgDrawing(Owned<RsvgHandle> drawing, Size size) : drawing_(std::move(drawing)), size_(size) {}
 
@@ -105,7 +105,7 @@ private:
 };
 
 // An element of a drawing, or the content of a drawing without a declared size.
-class SvgElement final : public DrawingForm {
+class SvgElement final : public VectorImage {
 public:
     // `id`: "#Regular-M", or null for the whole content.
     SvgElement(Owned<RsvgHandle> drawing, const char* id, Size size)
@@ -126,16 +126,16 @@ private:
     Size size_;
 };
 
-DrawingResult elementOf(Owned<RsvgHandle> drawing, const char* id) {
+VectorImageResult elementOf(Owned<RsvgHandle> drawing, const char* id) {
     const auto size = contentSize(drawing.get(), id);
     if (!size)
         return size.error();
-    return DrawingResult(std::make_unique<SvgElement>(std::move(drawing), id, *size));
+    return VectorImageResult(std::make_unique<SvgElement>(std::move(drawing), id, *size));
 }
 
-DrawingResult wholeDrawing(Owned<RsvgHandle> drawing) {
+VectorImageResult wholeDrawing(Owned<RsvgHandle> drawing) {
     if (const std::optional<Size> size = declaredSize(drawing.get()))
-        return DrawingResult(std::make_unique<SvgDrawing>(std::move(drawing), *size));
+        return VectorImageResult(std::make_unique<SvgDrawing>(std::move(drawing), *size));
     return elementOf(std::move(drawing), nullptr);
 }
 
@@ -148,7 +148,7 @@ PopplerLock lockPoppler() {
     return PopplerLock(mutex);
 }
 
-class PdfPage final : public DrawingForm {
+class PdfPage final : public VectorImage {
 public:
     PdfPage(PopplerLock lock, Owned<PopplerDocument> document, Owned<PopplerPage> page)
         : lock_(std::move(lock)), document_(std::move(document)), page_(std::move(page)) {}
@@ -171,14 +171,14 @@ private:
 
 } // namespace
 
-DrawingResult readSvg(std::string_view bytes) {
+VectorImageResult readSvg(std::string_view bytes) {
     auto drawing = svgHandle(bytes);
     if (!drawing)
         return std::move(drawing.error());
     return wholeDrawing(*std::move(drawing));
 }
 
-DrawingResult readSymbol(std::string_view bytes) {
+VectorImageResult readSymbol(std::string_view bytes) {
     auto drawing = svgHandle(bytes);
     if (!drawing)
         return std::move(drawing.error());
@@ -188,7 +188,7 @@ DrawingResult readSymbol(std::string_view bytes) {
     return wholeDrawing(*std::move(drawing));
 }
 
-DrawingResult readPdf(std::string_view bytes) {
+VectorImageResult readPdf(std::string_view bytes) {
     PopplerLock lock = lockPoppler();
     GError* error = nullptr;
     const Owned<GBytes> data(g_bytes_new_static(bytes.data(), bytes.size()));
@@ -198,7 +198,7 @@ DrawingResult readPdf(std::string_view bytes) {
     Owned<PopplerPage> page(poppler_document_get_page(document.get(), 0));
     if (page == nullptr)
         return damaged("drawing", nullptr);
-    return DrawingResult(std::make_unique<PdfPage>(std::move(lock), std::move(document), std::move(page)));
+    return VectorImageResult(std::make_unique<PdfPage>(std::move(lock), std::move(document), std::move(page)));
 }
 
 } // namespace SourcePictures

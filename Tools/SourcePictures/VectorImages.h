@@ -1,4 +1,4 @@
-// SourcePictures/DrawingForms.h
+// SourcePictures/VectorImages.h
 // Reads vector formats; internal.
 #pragma once
 
@@ -10,10 +10,10 @@
 
 namespace SourcePictures {
 
-// A drawing that was read.
-class DrawingForm {
+// A drawing in one of these formats.
+class VectorImage {
 public:
-    virtual ~DrawingForm() = default;
+    virtual ~VectorImage() = default;
 
     // The size in the drawing's units, which are points if it was made for one pixel per point. 0 if it has no size.
     [[nodiscard]] virtual AssetCatalog::Size size() const = 0;
@@ -21,14 +21,14 @@ public:
     [[nodiscard]] virtual Runtime::Result<void> draw(cairo_t* context) const = 0;
 };
 
-using DrawingResult = Runtime::Result<std::unique_ptr<const DrawingForm>>;
+using VectorImageResult = Runtime::Result<std::unique_ptr<const VectorImage>>;
 
 // References to other files are not followed. `bytes` must outlive the drawing. Errors: damaged.
-[[nodiscard]] DrawingResult readSvg(std::string_view bytes);
+[[nodiscard]] VectorImageResult readSvg(std::string_view bytes);
 // The regular drawing of a symbol's template: the medium size, else small, else large, else the whole drawing.
-[[nodiscard]] DrawingResult readSymbol(std::string_view bytes);
+[[nodiscard]] VectorImageResult readSymbol(std::string_view bytes);
 // The first page. While a thread has a page, other threads wait here. A page must be destroyed by the thread that read
 // it.
-[[nodiscard]] DrawingResult readPdf(std::string_view bytes);
+[[nodiscard]] VectorImageResult readPdf(std::string_view bytes);
 
 } // namespace SourcePictures

@@ -1,0 +1,20 @@
+// StringTables/internal/XmlText.h
+// Writes texts as XML.
+// Text: UTF-8. Threads: any; no state.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace StringTables::internal {
+
+// Whether XML can represent the text: it has no control characters except tabs and line breaks.
+[[nodiscard]] bool canBeXml(std::string_view text) noexcept;
+
+// Escapes `text` as element content. `inAscii` writes other characters as numeric references.
+[[nodiscard]] std::string xmlText(std::string_view text, bool inAscii = false);
+
+// `text` with a space in every `mark` of two characters, so that it can be in a comment that `mark` would end.
+[[nodiscard]] std::string withoutMark(std::string_view text, std::string_view mark);
+
+} // namespace StringTables::internal

@@ -1,0 +1,24 @@
+// SourceBundle/LowerCase.h
+// Compares names without regard to case; internal.
+// Text: only ASCII letters change. Threads: any; no state.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace SourceBundle {
+
+[[nodiscard]] inline std::string lowerCase(std::string text) {
+    std::ranges::transform(text, text.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return text;
+}
+
+// A language code in a form that can be compared: "de-de" for "de_DE".
+[[nodiscard]] inline std::string comparableCode(std::string code) {
+    std::ranges::replace(code, '_', '-');
+    return lowerCase(std::move(code));
+}
+
+} // namespace SourceBundle
