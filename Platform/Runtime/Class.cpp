@@ -58,7 +58,7 @@ const Message& resolve(const Class* cls, std::string_view selector, std::span<co
                             [](TypeTag published, const Argument& given) { return *published == *given.type; }))
         reject(cls->name(), selector, "was sent arguments of other types with");
     if (*message->result != *result)
-        reject(cls->name(), selector, "was asked for a result of another type with");
+        reject(cls->name(), selector, "returns a result of another type for");
     return *message;
 }
 

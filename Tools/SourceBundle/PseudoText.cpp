@@ -10,6 +10,7 @@ namespace SourceBundle {
 
 using StringTables::PluralFormat;
 using StringTables::PluralPieces;
+using StringTables::internal::Character;
 
 namespace {
 
@@ -46,7 +47,6 @@ std::string_view accented(char letter) {
     return accents[asciiLetters.find(letter)];
 }
 
-using StringTables::internal::Character;
 Character firstCharacter(std::string_view text) {
     return StringTables::internal::takeCharacterWithBytes(text);
 }
