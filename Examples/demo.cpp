@@ -22,8 +22,14 @@ int columns(const std::string& text) {
     int count = 0;
     for (std::size_t i = 0; i < text.size();) {
         const auto lead = static_cast<unsigned char>(text[i]);
-        const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-        char32_t code = lead & (length == 1 ? 0x7FU : 0x7FU >> length);
+        std::size_t length = 1;
+        if (lead >= 0xF0)
+            length = 4;
+        else if (lead >= 0xE0)
+            length = 3;
+        else if (lead >= 0xC0)
+            length = 2;
+        char32_t code = length == 1 ? lead : lead & (0x7FU >> length);
         for (std::size_t k = 1; k < length && i + k < text.size(); ++k)
             code = code << 6 | (static_cast<unsigned char>(text[i + k]) & 0x3F);
         const bool isMark = (code >= 0x300 && code < 0x370) || (code >= 0x610 && code < 0x61B) ||
@@ -31,7 +37,8 @@ int columns(const std::string& text) {
                             (code >= 0xE47 && code < 0xE4F) || (code >= 0x200B && code < 0x2010);
         const bool isWide =
             (code >= 0x1100 && code < 0x1160) || (code >= 0x2E80 && code < 0xD7A4) || (code >= 0xFF00 && code < 0xFF61);
-        count += isMark ? 0 : isWide ? 2 : 1;
+        if (!isMark)
+            count += isWide ? 2 : 1;
         i += length;
     }
     return count;

@@ -43,14 +43,15 @@ class Fuzzer:
             self.child.send_signal(signal.SIGUSR1)
         return True
 
-    def tell(self):
-        said = self.log.read_text(errors="replace")
+    # Prints what it did; the result is a message if it found something.
+    def report(self):
+        output = self.log.read_text(errors="replace")
         if self.child.returncode != 0:
             findings = [str(path) for path in self.scratch.glob("finding-*")]
-            print(said[-4000:])
+            print(output[-4000:])
             return f"{self.name} found something: {' '.join(findings) or self.log}"
-        executions = re.findall(r"number_of_executed_units: *(\d+)", said)
-        coverage = re.findall(r"cov: (\d+) ft: (\d+)", said)
+        executions = re.findall(r"number_of_executed_units: *(\d+)", output)
+        coverage = re.findall(r"cov: (\d+) ft: (\d+)", output)
         print(f"{self.name:16} {self.seconds:6.0f} s  {executions[-1]:>10} executions  "
               f"{coverage[-1][0]:>5} edges  {coverage[-1][1]:>6} features", flush=True)
         return None
@@ -69,5 +70,5 @@ while waiting or running:
     time.sleep(0.5)
     for ended in [one for one in running if not one.runs()]:
         running.remove(ended)
-        failures += filter(None, [ended.tell()])
+        failures += filter(None, [ended.report()])
 sys.exit("\n".join(failures) or None)

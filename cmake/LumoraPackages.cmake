@@ -32,7 +32,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime} ${same_version}")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME lumora)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS "${runtime} ${same_version}")
-set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The platform that modules of texts, images, colours and data stand on,
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The platform that modules of texts, images, colours and data are built on,
 and the fitness module with its bundle.")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake and pkg-config packages for programs that use the module
 or make modules of their own.")

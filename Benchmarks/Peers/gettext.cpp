@@ -19,8 +19,8 @@ std::string text(const char* key) {
 }
 
 std::string formatted(int day) {
-    const char* key =
-        "DeleteAccount.ActiveSubscriptionServer"; // not a literal, which the compiler would check as the format
+    // A variable, because the compiler would check a literal as the format.
+    const char* key = "DeleteAccount.ActiveSubscriptionServer";
     char out[256];
     std::snprintf(out, sizeof out, dgettext("texts", key), std::to_string(day).c_str());
     return out;

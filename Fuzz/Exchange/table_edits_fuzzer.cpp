@@ -7,8 +7,8 @@
 #include "StringTables/internal/Unicode.h"
 
 #include "../../Tests/Support/TemporaryFolder.h"
+#include "../Require.h"
 #include <cstdint>
-#include <cstdlib>
 
 namespace {
 
@@ -18,11 +18,6 @@ using SourceBundle::SourceEntry;
 using SourceBundle::TableFile;
 using StringTables::PluralTable;
 using StringTables::Table;
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 const std::string newText = "n\xC3\xA9w \"<&>\\ \n";
 

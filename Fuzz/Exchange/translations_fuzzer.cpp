@@ -2,20 +2,16 @@
 // written and read again.
 #include "Exchange/Po.h"
 #include "Exchange/Xliff.h"
+
+#include "../Require.h"
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <set>
 
 namespace {
 
 using Exchange::Translations;
 using Exchange::Unit;
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 // An export has no text twice, and the forms of a plural are adjacent.
 bool isLikeAnExport(const Translations& translations) {

@@ -5,17 +5,12 @@
 #include "Foundation/internal/LanguageChoice.h"
 #include "Intl/internal/Intl.h"
 
+#include "../Require.h"
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdlib>
 
 namespace {
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 void writeNumbers(const Foundation::Locale& locale) {
     using Style = Foundation::NSNumberFormatter::Style;

@@ -2,19 +2,14 @@
 #include "Foundation/String.h"
 #include "Foundation/internal/PluralText.h"
 
+#include "../Require.h"
 #include <algorithm>
-#include <cstdlib>
 #include <vector>
 
 namespace {
 
 using Foundation::FormatArgument;
 using StringTables::PluralEntry;
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 bool areEqual(const PluralEntry& one, const PluralEntry& other) {
     return one.key == other.key && one.plural == other.plural;

@@ -2,8 +2,8 @@
 // Validity is checked by ICU, not by the tested code.
 #include "Generator/Namer.h"
 
+#include "../Require.h"
 #include <cstdint>
-#include <cstdlib>
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
@@ -11,11 +11,6 @@
 namespace {
 
 namespace Namer = Generator::Namer;
-
-void require(bool condition) {
-    if (!condition)
-        std::abort();
-}
 
 void requireIdentifier(const std::string& spelled) {
     const auto text = icu::UnicodeString::fromUTF8(spelled);

@@ -3,6 +3,7 @@
 #include "SourceBundle/Catalogs.h"
 
 #include "../../Tests/Support/TemporaryFolder.h"
+#include "../Require.h"
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -12,11 +13,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 // A source bundle in which all Contents.json files are links to one file. It is made once per process, so that each
 // input needs only one file to be written.

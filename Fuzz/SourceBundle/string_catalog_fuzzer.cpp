@@ -3,17 +3,9 @@
 #include "SourceBundle/PluralText.h"
 #include "SourceBundle/StringCatalog.h"
 #include "StringTables/internal/PluralPieces.h"
+
+#include "../Require.h"
 #include <cstdint>
-#include <cstdlib>
-
-namespace {
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     SourceBundle::Diagnostics diagnostics;

@@ -4,8 +4,9 @@
 
 #include "StringTables/internal/Table.h"
 #include "StringTables/internal/Writer.h"
+
+#include "../Require.h"
 #include <algorithm>
-#include <cstdlib>
 #include <iconv.h>
 #include <optional>
 #include <string>
@@ -16,11 +17,6 @@ namespace Checks {
 using StringTables::Entry;
 using StringTables::Form;
 using StringTables::Table;
-
-inline void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 // Whether these bytes are read as `form`. Each form has a separate fuzzer that ignores the other forms, because a
 // common one would spend its time on the form that is easiest to produce.
@@ -77,10 +73,10 @@ inline std::optional<std::string> encoded(std::string_view utf8, const char* enc
     iconv_t converter = iconv_open(encoding, "UTF-8");
     std::string in(utf8), out(4 * utf8.size(), '\0');
     char *from = in.data(), *to = out.data();
-    std::size_t left = in.size(), room = out.size();
-    const bool isValid = iconv(converter, &from, &left, &to, &room) == 0;
+    std::size_t left = in.size(), unused = out.size();
+    const bool isValid = iconv(converter, &from, &left, &to, &unused) == 0;
     iconv_close(converter);
-    out.resize(out.size() - room);
+    out.resize(out.size() - unused);
     return isValid ? std::optional(std::move(out)) : std::nullopt;
 }
 

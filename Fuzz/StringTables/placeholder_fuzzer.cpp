@@ -1,17 +1,9 @@
 // Finds the placeholders of any text: each is within the text and after the previous one, and reaches from a '%' to its
 // conversion.
 #include "StringTables/internal/Placeholder.h"
+
+#include "../Require.h"
 #include <cctype>
-#include <cstdlib>
-
-namespace {
-
-void require(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using Kind = StringTables::Placeholder::Kind;

@@ -9,7 +9,6 @@
 
 namespace {
 
-using Checks::require;
 using StringTables::StoredTable;
 using StringTables::Table;
 

@@ -12,7 +12,6 @@
 namespace {
 
 using Checks::Form;
-using Checks::require;
 using Texts = std::map<std::string, std::optional<std::string>>; // no value: not a text
 using Node = std::unique_ptr<std::remove_pointer_t<plist_t>, decltype(&plist_free)>;
 using Chars = std::unique_ptr<char, decltype(&std::free)>;

@@ -108,10 +108,10 @@ TEST_F(Bundle, RejectsNamesWithANul) {
 // What a bundle shows comes out of the bundle, by whatever way the bundle itself was reached.
 TEST_F(Bundle, FollowsNoLinkOutOfIt) {
     write("Base.lproj/T.strings", "a = text;");
-    write("shared/S.strings", "a = shared;");
+    write("common/S.strings", "a = common;");
     const Support::TemporaryFolder elsewhere;
     const std::string secret = elsewhere.write("X.strings", "a = secret;");
-    std::filesystem::create_symlink("../shared/S.strings", folder_ / "Base.lproj/S.strings");
+    std::filesystem::create_symlink("../common/S.strings", folder_ / "Base.lproj/S.strings");
     std::filesystem::create_symlink(secret, folder_ / "Base.lproj/X.strings");
     std::filesystem::create_symlink(elsewhere / "none", folder_ / "Base.lproj/N.strings");
     std::filesystem::create_directory_symlink(elsewhere.path(), folder_ / "de.lproj");
@@ -120,7 +120,7 @@ TEST_F(Bundle, FollowsNoLinkOutOfIt) {
     for (const NSBundle* one : {&bundle(), &NSBundle::bundleWithPath(elsewhere / "B.bundle")}) {
         const auto text = [&](std::string_view table) { return one->localizedStringForKey("a", nullptr, table); };
         EXPECT_EQ(text("T"), "text");
-        EXPECT_EQ(text("S"), "shared");
+        EXPECT_EQ(text("S"), "common");
         EXPECT_EQ(text("X"), "a");
         EXPECT_EQ(text("N"), "a");
         EXPECT_EQ(one->tableDamage("X"),

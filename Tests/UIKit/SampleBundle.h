@@ -28,8 +28,8 @@ inline Picture picture(const Fit& fit, std::uint32_t side, std::uint8_t red) {
 }
 
 // Images "send" (light at 1x and 3x, dark at 2x), "star_" (no scale, template) and the damaged "broken" and "liar";
-// "sign" (3
-// pixels, 5 in Russian); colours "ink" (dark on light, light on dark) and "flag" (German, Russian); data "regions".
+// "sign" (3 pixels, 5 in Russian); colours "ink" (dark on light, light on dark) and "flag" (German, Russian); data
+// "regions".
 inline std::vector<Asset> assets() {
     const auto image = [](const char* name, std::vector<Picture> pictures) {
         const bool isTemplate = std::string_view(name) == "star_";

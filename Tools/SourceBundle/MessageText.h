@@ -35,7 +35,7 @@ namespace SourceBundle {
     return "error";
 }
 
-// The text in the terminal's color for the severity.
+// The text in the terminal's colour for the severity.
 [[nodiscard]] inline std::string colored(std::string_view text, Severity severity) {
     constexpr std::string_view colors[] = {"\033[36m", "\033[33m", "\033[31m"}; // by severity
     return std::string(colors[static_cast<std::size_t>(severity)]).append(text).append("\033[0m");

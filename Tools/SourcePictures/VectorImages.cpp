@@ -139,7 +139,7 @@ VectorImageResult wholeDrawing(Owned<RsvgHandle> drawing) {
     return elementOf(std::move(drawing), nullptr);
 }
 
-// Poppler shares color profiles and fonts between documents without a lock, so only one thread at a time may have
+// Poppler shares colour profiles and fonts between documents without a lock, so only one thread at a time may have
 // pages, from before they are read until they are destroyed. Recursive, because a thread may have several pages.
 using PopplerLock = std::unique_lock<std::recursive_mutex>;
 
