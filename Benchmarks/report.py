@@ -83,8 +83,8 @@ def start_rows(folder):
 
 
 def memory_rows(folder):
-    said = subprocess.run([f"{folder}/memory"], capture_output=True, check=True).stdout
-    count, _, resident, own = map(int, said.split())
+    output = subprocess.run([f"{folder}/memory"], capture_output=True, check=True).stdout
+    count, _, resident, own = map(int, output.split())
     if count != 1401:
         sys.exit(f"{count} texts were read, not 1401")
     return [at_most(f"{what} that reading all {count:,} texts adds", grown / 1024, "MiB", 1)

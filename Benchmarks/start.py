@@ -27,9 +27,9 @@ def run(folder, program):
 def medians(folder):
     """The milliseconds of each program, after checking its output."""
     for program, text in PROGRAMS.items():
-        said = subprocess.run([f"{folder}/{program}"], env=environment(program), capture_output=True, text=True, check=True).stdout
-        if said != text:
-            sys.exit(f"{program} says {said!r}")
+        output = subprocess.run([f"{folder}/{program}"], env=environment(program), capture_output=True, text=True, check=True).stdout
+        if output != text:
+            sys.exit(f"{program} prints {output!r}")
     times = {program: [] for program in PROGRAMS}
     for _ in range(RUNS):
         for program in random.sample(list(PROGRAMS), len(PROGRAMS)):

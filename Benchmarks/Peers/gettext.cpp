@@ -28,7 +28,7 @@ std::string formatted(int day) {
 
 void plainGettext(benchmark::State& state) {
     useCatalog();
-    // the text of "Continue" equals its key, so another key shows whether the catalog was found
+    // The text of "Continue" equals its key, so another key shows whether the catalog was found.
     if (text("access_tab_title") != "Access" || text("Continue") != "Continue")
         return state.SkipWithError("the result is wrong");
     for (auto _ : state)

@@ -71,7 +71,7 @@ void editPlurals(const TableFile& file, const std::string& bytes) {
     if (made.empty())
         return;
     const auto again = PluralTable::read(made);
-    require(again.operator bool());
+    require(static_cast<bool>(again));
     for (const auto& entry : table->entries())
         if (entry.key != unit.id.key)
             require(again->find(entry.key) != nullptr && again->find(entry.key)->plural == entry.plural);
@@ -90,7 +90,7 @@ void editCatalog(const TableFile& file, const std::string& bytes) {
     if (made.empty())
         return;
     auto again = Exchange::CatalogDocument::read(made);
-    require(again.operator bool());
+    require(static_cast<bool>(again));
     const auto texts = again->texts("k", "de");
     require(std::ranges::any_of(texts, [](const auto& text) { return text.text == newText; }));
 }

@@ -6,9 +6,9 @@
 #include "Intl/internal/Intl.h"
 
 #include "../Require.h"
-#include <algorithm>
 #include <array>
 #include <cmath>
+#include <sstream>
 
 namespace {
 
@@ -35,11 +35,12 @@ void writeYears(const Foundation::Locale& locale) {
         require(!years.stringFromDateComponents({.year = count}).value_or("").empty());
 }
 
-// `host` is a list as LANGUAGE has it.
-void chooseLanguages(std::string_view host) {
-    for (std::size_t at = 0; at <= host.size(); at = std::min(host.find(':', at), host.size()) + 1) {
-        const std::string wanted = Foundation::detail::languageTag(host.substr(at, host.find(':', at) - at));
-        for (const std::string& other : {wanted, std::string(host)}) {
+// `host` is a list in the form of LANGUAGE.
+void chooseLanguages(const std::string& host) {
+    std::istringstream languages(host);
+    for (std::string language; std::getline(languages, language, ':');) {
+        const std::string wanted = Foundation::detail::languageTag(language);
+        for (const std::string& other : {wanted, host}) {
             const std::array<std::string, 6> supported = {"en", "zh-Hans", "sr", "pt-PT", "es-419", other};
             const auto chosen = Foundation::detail::chooseLanguage(wanted, supported);
             require(!chosen || *chosen < supported.size());

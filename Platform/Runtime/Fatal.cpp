@@ -27,7 +27,8 @@ void fatalError(std::initializer_list<std::string_view> message, std::string_vie
     const auto end = std::to_chars(digits, digits + sizeof digits, line).ptr;
     // One system call without allocation: other threads' output cannot split the report, and it works without free
     // memory.
-    iovec report[2 * maxPieces + 7] = {piece("Fatal error: ")};
+    constexpr std::size_t ownPieces = 7; // the beginning, the place in five pieces, the second line break
+    iovec report[2 * maxPieces + ownPieces] = {piece("Fatal error: ")};
     iovec* next = report + 1;
     const auto add = [&next](std::initializer_list<std::string_view> pieces) {
         next = std::transform(pieces.begin(), pieces.begin() + std::min(pieces.size(), maxPieces), next, piece);

@@ -36,7 +36,10 @@ int openInside(const std::string& path, std::string_view folder, int flags) {
     const std::string real = realPath(path);
     if (real.empty())
         return -1;
-    if (real.starts_with(realPath(std::string(folder)) + "/"))
+    const std::string realFolder = realPath(std::string(folder));
+    if (realFolder.empty())
+        return -1;
+    if (real.starts_with(realFolder + "/"))
         return ::open(real.c_str(), flags);
     errno = leadsOut;
     return -1;

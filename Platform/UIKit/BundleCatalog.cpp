@@ -77,8 +77,10 @@ std::size_t BundleCatalog::bestVariant(std::size_t index, const UITraitCollectio
     try {
         if (const std::string* const language = bundle_.preferredLocalization())
             return found.best(fit, {language, 1});
-        return found.best(fit, Foundation::detail::hostLanguages().languages); // the bundle has no texts
-    } catch (...) {                                                            // out of memory: ignore the languages
+        // The bundle has no texts.
+        return found.best(fit, Foundation::detail::hostLanguages().languages);
+    } catch (...) {
+        // Memory has run out, so the languages are ignored.
         return found.best(fit);
     }
 }

@@ -103,5 +103,6 @@ def pictures():
     result = {f"diet_category_{n}_icon": lambda t=text: _dish(t, 48)
               for n, (_, text) in CATEGORIES.items()}
     for name, text in DISHES.items():
-        result[name] = lambda t=text, s=64 if "_image" not in name else 96: _dish(t, s)
+        size = 96 if name.endswith("_image") else 64
+        result[name] = lambda t=text, s=size: _dish(t, s)
     return result

@@ -133,7 +133,9 @@ def _bare(male, region):
 def _cover(male, region):
     d = Drawing(320, 200)
     arab = bool(region)
-    first, last = ("#1E6E66", "#F0C987") if arab else ("#2747A8", "#8EC5FF") if male else ("#8B3FA8", "#FFB3C9")
+    first, last = ("#2747A8", "#8EC5FF") if male else ("#8B3FA8", "#FFB3C9")
+    if arab:
+        first, last = "#1E6E66", "#F0C987"
     d.fade(first, last, line=(0, 0, 320, 200))
     for n in range(5):
         d.add(f"M{20 + n * 70} 200L{110 + n * 70} 0", None, "#FFFFFF", 16, 0.07)

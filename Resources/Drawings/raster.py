@@ -84,7 +84,7 @@ def _shader(paint):
 
     def shade(x, y):
         t = ((x - x0) * dx + (y - y0) * dy) / length
-        t = 0 if t < 0 else 1 if t > 1 else t
+        t = min(max(t, 0), 1)
         return r + dr * t, g + dg * t, b + db * t
     return shade
 

@@ -238,8 +238,8 @@ TEST(CompileBundle, IgnoresLinksThatLeadOut) {
         const fs::path place = folder.path() / link;
         fs::create_symlink(link.extension() == ".lproj" ? secret.parent_path() : secret, place);
         const Outcome outcome = compile(folder / "source", folder / "out.bundle");
-        const std::string said = outcome.failure + (outcome.diagnostics.empty() ? "" : outcome.diagnostics[0]);
-        EXPECT_TRUE(said.ends_with(": is a link that leads out of the source")) << link << said;
+        const std::string message = outcome.failure + (outcome.diagnostics.empty() ? "" : outcome.diagnostics[0]);
+        EXPECT_TRUE(message.ends_with(": is a link that leads out of the source")) << link << message;
         EXPECT_FALSE(fs::exists(folder / "out.bundle"));
         fs::remove(place);
     }

@@ -189,7 +189,7 @@ class Exchange(unittest.TestCase):
             return edited(pattern, lambda found: found[1] + text + found[3])
 
         unit = re.search(r"<trans-unit.*?</trans-unit>", good, re.DOTALL)[0]
-        for said, text in (
+        for message, text in (
                 ("no translatable text with the id Localizable/home.nothing", good.replace('id="Localizable/home.title"', 'id="Localizable/home.nothing"')),
                 ("no translatable text with the id Nowhere/home.title", good.replace('id="Localizable/home.title"', 'id="Nowhere/home.title"')),
                 ('"home.title" is not the id of a text', good.replace('id="Localizable/home.title"', 'id="home.title"')),
@@ -207,20 +207,20 @@ class Exchange(unittest.TestCase):
                 ('is in "en"', good.replace('target-language="de"', 'target-language="en"')),
                 ('is in "../x"', good.replace('target-language="de"', 'target-language="../x"')),
                 ("was translated from fr", good.replace('source-language="en"', 'source-language="fr"'))):
-            with self.subTest(said):
+            with self.subTest(message):
                 self.assertNotEqual(text, good)
                 text = text.replace(">Dein Warenkorb<", ">Der Warenkorb<")
                 file = self.folder / "bad.xliff"
                 file.write_text(text)
                 status, out, err = run("import", file, "--into", source)
                 self.assertEqual((status, out), (1, ""))
-                self.assertIn(said, err)
+                self.assertIn(message, err)
                 self.assertIn(f"{file}:", err)
                 self.assertIn("nothing was changed", err)
                 self.assertEqual(contents(source), before)
                 status, out, err = run("import", file, "--into", source, "--keep-going")
-                self.assertEqual((status, said in err), (1, True), err)
-                if "is in" not in said and "translated from" not in said:
+                self.assertEqual((status, message in err), (1, True), err)
+                if "is in" not in message and "translated from" not in message:
                     self.assertIn("Der Warenkorb", (source / "de.lproj/Localizable.strings").read_text())
                     self.assertIn('"home.title" = "Kettle & Leaf";', (source / "de.lproj/Localizable.strings").read_text())
                     self.copy("Shop")
@@ -243,10 +243,10 @@ class Exchange(unittest.TestCase):
         marked(file)
         broken = self.folder / "broken.po"
         broken.write_text('msgid "a')
-        for arguments, said in (([file, broken], f"{broken}:1:9: error: the string is not closed"), ([file, "none.po"], "none.po"),
+        for arguments, message in (([file, broken], f"{broken}:1:9: error: the string is not closed"), ([file, "none.po"], "none.po"),
                                 ([file, file.parent], "")):
             status, out, err = run("import", *arguments, "--into", source, "--keep-going")
-            self.assertEqual((status, out, said in err), (2, "", True), err)
+            self.assertEqual((status, out, message in err), (2, "", True), err)
             self.assertEqual(contents(source), before)
         self.assertEqual(run("import", file, "--into", self.folder / "none")[0], 2)
         for arguments in (["--language", "en"], ["--language", "Base"], ["--language", "x/y"], []):

@@ -134,7 +134,9 @@ TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
                       const std::string first = one.read();
                       setDescriptors(old);
                       const std::string then = one.read();
-                      return first != one.otherwise ? 1 : then != one.right ? 2 : 0;
+                      if (first != one.otherwise)
+                          return 1;
+                      return then != one.right ? 2 : 0;
                   }),
                   0)
             << "line " << one.line;

@@ -188,7 +188,9 @@ int attempt(const Case& one, long n, bool on) {
         return 2; // with memory available again the text must be right
     if (first && !first->empty() && *first != again && *first != one.otherwise)
         return 3;
-    return leaks(n) ? 4 : hasFailed ? 0 : 1;
+    if (leaks(n))
+        return 4;
+    return hasFailed ? 0 : 1;
 }
 
 TEST(NoMemory, CachesNothing) {

@@ -178,7 +178,9 @@ private:
         const bool isNegativeAtPosition = isPositional_ && width_ && *width_ < 0;
         for (std::size_t flags = below(4); flags > 0; --flags)
             format += conversion == 'c' || conversion == 's' ? '-' : "-+ #'0"[below(isNegativeAtPosition ? 5 : 6)];
-        format += !width.empty() ? width : below(2) == 0 ? std::to_string(1 + below(30)) : "";
+        format += width;
+        if (width.empty() && below(2) == 0)
+            format += std::to_string(1 + below(30));
         if (!precision.empty())
             format += "." + precision;
         else if (conversion != 'c' && below(3) == 0)
@@ -213,11 +215,10 @@ private:
             const std::string modifier = pick<const char*>({"", "h", "hh"});
             return compare(format + modifier + end, modifier.empty() && !isSigned ? small & 0x7FFFFFFF : small);
         }
-        compare(
-            format +
-                pick<const char*>({"l", "ll", "z", "t", "j", isPositional_ ? "l" : "q", isPositional_ ? "l" : "L"}) +
-                end,
-            static_cast<long long>(whole));
+        const char* modifier = pick<const char*>({"l", "ll", "z", "t", "j", "q", "L"});
+        if (isPositional_ && (*modifier == 'q' || *modifier == 'L'))
+            modifier = "l";
+        compare(format + modifier + end, static_cast<long long>(whole));
     }
 
     double floating() {

@@ -27,7 +27,11 @@ Bytes write(const PixelFormat& format) {
     unsigned char* bytes = nullptr;
     unsigned long size = 0;
     jpeg_mem_dest(&jpeg, &bytes, &size);
-    const int channels = format.from == JCS_GRAYSCALE ? 1 : format.from == JCS_RGB ? 3 : 4;
+    int channels = 4;
+    if (format.from == JCS_GRAYSCALE)
+        channels = 1;
+    else if (format.from == JCS_RGB)
+        channels = 3;
     jpeg.image_width = width;
     jpeg.image_height = height;
     jpeg.input_components = channels;

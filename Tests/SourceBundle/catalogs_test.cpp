@@ -24,7 +24,7 @@ protected:
                                           });
     }
     // "severity relative-path[:line:column]: message"
-    std::vector<std::string> said() {
+    std::vector<std::string> messages() {
         static constexpr const char* words[] = {"note ", "warning ", "error "};
         std::vector<std::string> lines;
         for (const auto& one : diagnostics.all()) {
@@ -72,7 +72,7 @@ TEST_F(Catalogs, ReadSetsInFoldersWithAndWithoutANamespace) {
         folder.write(std::string(set) + ".dataset/f", "data");
 
     const auto assets = read();
-    EXPECT_EQ(said(), std::vector<std::string>());
+    EXPECT_EQ(messages(), std::vector<std::string>());
     ASSERT_EQ(assets.size(), 3U);
     EXPECT_EQ(assets[0].name, "Named/y");
     EXPECT_EQ(assets[1].name, "x");
@@ -96,7 +96,7 @@ TEST_F(Catalogs, ReadTheTraitsOfPictures) {
         folder.write("A.xcassets/p.imageset/" + std::string(file) + ".png", "");
 
     const auto assets = read();
-    EXPECT_EQ(said(), Lines());
+    EXPECT_EQ(messages(), Lines());
     ASSERT_EQ(assets.size(), 1U);
     EXPECT_EQ(assets[0].rendering, Rendering::asTemplate);
     ASSERT_EQ(assets[0].files.size(), 3U);
@@ -115,7 +115,7 @@ TEST_F(Catalogs, UseThePicturesOfOneKindOfDevice) {
     const struct {
         int line;
         const char* entries;
-        Lines files, said;
+        Lines files, messages;
     } cases[] = {
         {__LINE__,
          R"({"idiom": "ipad", "filename": "2"}, {"idiom": "universal", "subtype": "retina4", "filename": "3"},
@@ -157,7 +157,7 @@ TEST_F(Catalogs, UseThePicturesOfOneKindOfDevice) {
     for (const auto& one : cases) {
         imageSet(one.entries, {"1", "2", "3"});
         EXPECT_EQ(files(), one.files) << "line " << one.line;
-        EXPECT_EQ(said(), one.said) << "line " << one.line;
+        EXPECT_EQ(messages(), one.messages) << "line " << one.line;
     }
 }
 
@@ -165,7 +165,7 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
     const struct {
         int line;
         const char* entries;
-        Lines files, said;
+        Lines files, messages;
     } cases[] = {
         {__LINE__,
          R"({"filename": "1", "unassigned": true}, {"filename": "2"})",
@@ -195,7 +195,7 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
         imageSet(one.entries, {"1", "2", "3"});
         folder.write("A.xcassets/p.imageset/damaged", "unreadable");
         EXPECT_EQ(files(), one.files) << "line " << one.line;
-        EXPECT_EQ(said(), one.said) << "line " << one.line;
+        EXPECT_EQ(messages(), one.messages) << "line " << one.line;
     }
 }
 
@@ -268,7 +268,7 @@ TEST_F(Catalogs, KnowSystemColorsForLightAndDark) {
     ASSERT_EQ(own.size(), 2U);
     EXPECT_EQ(own[1].value.components, (std::array{0.0, 0.0, 0.0, 1.0}));
     EXPECT_EQ(colors(reference + ", " + dark + "}").at(0).value.components[1], 69 / 255.0);
-    EXPECT_EQ(said(), Lines());
+    EXPECT_EQ(messages(), Lines());
 }
 
 TEST_F(Catalogs, LeaveOutInvalidSets) {
@@ -317,22 +317,23 @@ TEST_F(Catalogs, LeaveOutInvalidSets) {
         folder.write(set + "/Contents.json", one.contents);
         std::filesystem::create_symlink("/etc/passwd", folder / (set + "/link"));
         EXPECT_EQ(read().size(), 0U) << "line " << one.line;
-        EXPECT_EQ(said(), Lines{one.report}) << "line " << one.line;
+        EXPECT_EQ(messages(), Lines{one.report}) << "line " << one.line;
         std::filesystem::remove_all(folder / "A.xcassets");
     }
     set("A.xcassets/Named", "{");
     EXPECT_TRUE(read().empty());
-    EXPECT_EQ(said(), Lines{"warning A.xcassets/Named/Contents.json:1:2: invalid JSON: unexpected token; the folder "
-                            "does not provide a namespace"});
+    EXPECT_EQ(messages(),
+              Lines{"warning A.xcassets/Named/Contents.json:1:2: invalid JSON: unexpected token; the folder "
+                    "does not provide a namespace"});
     // A system call would end the name at the NUL; here it is invalid.
     imageSet(R"({"filename": "Contents.json\u0000.png"})", {});
     EXPECT_TRUE(read().empty());
-    EXPECT_EQ(said().size(), 1U);
+    EXPECT_EQ(messages().size(), 1U);
     // A link that leads out of the source is not read, and its content is not shown.
     std::filesystem::remove(folder / "A.xcassets/p.imageset/Contents.json");
     std::filesystem::create_symlink("/etc/passwd", folder / "A.xcassets/p.imageset/Contents.json");
     EXPECT_TRUE(read().empty());
-    EXPECT_EQ(said(), Lines{"warning " + contents + "is a link, which is not followed; the set is left out"});
+    EXPECT_EQ(messages(), Lines{"warning " + contents + "is a link, which is not followed; the set is left out"});
 }
 
 TEST_F(Catalogs, KeepAssetsWithEqualNamesTheOuterFirst) {
@@ -347,7 +348,7 @@ TEST_F(Catalogs, KeepAssetsWithEqualNamesTheOuterFirst) {
         EXPECT_EQ(assets[i].path, folder / paths[i]);
         EXPECT_EQ(assets[i].name, "x");
     }
-    EXPECT_EQ(said(), std::vector<std::string>());
+    EXPECT_EQ(messages(), std::vector<std::string>());
 }
 
 } // namespace

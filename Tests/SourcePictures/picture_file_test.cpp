@@ -154,7 +154,7 @@ TEST(PictureFile, RejectsUnreadableFiles) {
     spoiledJpeg.replace(jpeg.size() / 2, 200, 200, '\x55');
     const struct {
         int line;
-        std::string file, said;
+        std::string file, message;
     } cases[] = {
         {__LINE__, "no picture", "has an unknown format"},
         {__LINE__, "", "has an unknown format"},
@@ -175,7 +175,7 @@ TEST(PictureFile, RejectsUnreadableFiles) {
     for (const auto& one : cases) {
         const auto checked = check(one.file, {});
         ASSERT_FALSE(checked) << "line " << one.line;
-        EXPECT_TRUE(checked.error().message.starts_with(one.said))
+        EXPECT_TRUE(checked.error().message.starts_with(one.message))
             << "line " << one.line << ": " << checked.error().message;
         EXPECT_EQ(checked.error().message.find('\n'), std::string::npos) << "line " << one.line;
     }

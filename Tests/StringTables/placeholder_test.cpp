@@ -30,9 +30,11 @@ std::string marked(std::string_view format) {
             out.append(".").append(size(found->precision));
         if (found->bits != 64)
             out.append(":").append(std::to_string(found->bits));
-        const bool isInteger = found->kind == Placeholder::Kind::integer;
-        const bool isNumber = found->kind == Placeholder::Kind::number;
-        out.append(isInteger ? "i" : isNumber ? "n" : "").append(1, found->conversion).append(">");
+        if (found->kind == Placeholder::Kind::integer)
+            out += 'i';
+        else if (found->kind == Placeholder::Kind::number)
+            out += 'n';
+        out.append(1, found->conversion).append(">");
         EXPECT_EQ(format[found->begin], '%');
         EXPECT_GT(found->end, found->begin + 1);
         at = found->end;

@@ -182,7 +182,7 @@ class Program(unittest.TestCase):
     def test_wrong_use_is_one_line(self):
         self.write("src/Base.lproj/T.strings", "a = b;")
         file, source = self.write("a.strings", "a = b;"), self.folder / "src"
-        for said, *arguments in (
+        for message, *arguments in (
                 ("bogus", "bogus", "--help"), ("verify", "verify", "--help"), ("verify", "verify", "--version"),
                 ("--output: the name is empty", "table", file, "-o", ""), ("FILE: the name is empty", "table", ""),
                 ("--output: the name is empty", "asset", "send", "-o", ""), ("SOURCE: the name is empty", "compile", "", "-o", "x"),
@@ -195,7 +195,7 @@ class Program(unittest.TestCase):
             with self.subTest(arguments):
                 status, out, err = run(*arguments)
                 self.assertEqual((status, out, err.count("\n")), (2, b"", 1), err)
-                self.assertIn(said, err)
+                self.assertIn(message, err)
                 self.assertLess(len(err), 200)
 
     # A way to call each command so that it succeeds, in a folder with `src`; MADE is a file or folder that it writes.

@@ -40,8 +40,8 @@ class Watch(unittest.TestCase):
     def next(self):
         return self.lines.get(timeout=60)
 
-    def until(self, said):
-        while said not in self.next():
+    def until(self, message):
+        while message not in self.next():
             pass
 
     def expect(self, text, *, language="en", key="a"):

@@ -10,11 +10,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-bool holds(const fs::path& folder, const fs::path& other) {
+bool contains(const fs::path& folder, const fs::path& other) {
     std::error_code failed;
-    const fs::path inside =
+    const fs::path relative =
         fs::weakly_canonical(other, failed).lexically_relative(fs::weakly_canonical(folder, failed));
-    return !inside.empty() && *inside.begin() != "..";
+    return !relative.empty() && *relative.begin() != "..";
 }
 
 } // namespace
@@ -23,7 +23,7 @@ Runtime::Result<void> compileBundle(const SourceBundle::Source& source, std::spa
                                     const fs::path& bundle, SourceBundle::Diagnostics& diagnostics,
                                     const Progress& progress) {
     for (const fs::path& folder : folders)
-        if (holds(bundle, folder))
+        if (contains(bundle, folder))
             return Runtime::Error{.message = "is or contains the source " + folder.string(), .file = bundle};
     auto staged = StagedFolder::create(bundle);
     if (!staged)

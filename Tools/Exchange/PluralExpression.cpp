@@ -25,8 +25,8 @@ private:
         int level; // precedence; higher levels bind more tightly
         std::uint64_t (*apply)(std::uint64_t left, std::uint64_t right);
     };
-    // Longer signs come before their prefixes.
     using Number = std::uint64_t;
+    // Longer signs come before their prefixes.
     static constexpr std::array<Operator, 13> operators = {{
         {"||", 0, [](Number a, Number b) -> Number { return a != 0 || b != 0; }},
         {"&&", 1, [](Number a, Number b) -> Number { return a != 0 && b != 0; }},
@@ -93,11 +93,14 @@ private:
     }
 
     std::uint64_t unary() {
-        bool isNegated = false, isInverted = false;
-        for (; take("!"); isInverted = !isInverted)
-            isNegated = true;
+        std::size_t negations = 0;
+        while (take("!"))
+            ++negations;
         const std::uint64_t value = operand();
-        return !isNegated ? value : std::uint64_t{(value == 0) == isInverted};
+        if (negations == 0)
+            return value;
+        const bool isEven = negations % 2 == 0;
+        return (value != 0) == isEven ? 1 : 0;
     }
 
     std::uint64_t operand() {

@@ -3,12 +3,11 @@
 #include "Generator/CodeText.h"
 #include "Runtime/internal/File.h"
 #include "Runtime/internal/NameMap.h"
+#include "Runtime/internal/SystemError.h"
 #include "SourceBundle/MessageText.h"
 #include <CLI/CLI.hpp>
-#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <span>
 #include <string>
 #include <sys/ioctl.h>
@@ -147,7 +146,7 @@ void ProgressLine::erase() {
 Exit print(std::string_view bytes) {
     if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size() && std::fflush(stdout) == 0)
         return Exit::done;
-    return fail({.message = std::string("cannot be written: ") + std::strerror(errno), .file = "standard output"});
+    return fail(Runtime::systemError("standard output", "cannot be written"));
 }
 
 Exit write(const std::string& output, std::string_view bytes) {

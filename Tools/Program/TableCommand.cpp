@@ -1,13 +1,12 @@
 // lumora table: converts a string table from any form to another.
 #include "Program/Command.h"
 
+#include "Runtime/internal/SystemError.h"
 #include "StringTables/internal/Table.h"
 #include "StringTables/internal/Writer.h"
 #include <CLI/CLI.hpp>
 #include <array>
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -72,7 +71,7 @@ Runtime::Result<std::string> readToEnd(std::FILE* stream) {
                                   .file = {}};
     }
     if (std::ferror(stream) != 0)
-        return Runtime::Error{.message = std::string("cannot be read: ") + std::strerror(errno), .file = {}};
+        return Runtime::systemError({}, "cannot be read");
     return bytes;
 }
 
@@ -85,7 +84,7 @@ Runtime::Result<Table> readTable(const std::string& file) {
     const std::unique_ptr<std::FILE, decltype(&std::fclose)> stream(isInput ? stdin : std::fopen(file.c_str(), "rb"),
                                                                     &std::fclose);
     if (stream == nullptr)
-        return Runtime::Error{.message = std::string("cannot be read: ") + std::strerror(errno), .file = {}};
+        return Runtime::systemError({}, "cannot be read");
     auto bytes = readToEnd(stream.get());
     return bytes ? Table::read(*std::move(bytes)) : std::move(bytes.error());
 }

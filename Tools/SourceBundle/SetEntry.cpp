@@ -3,7 +3,6 @@
 #include "SourceBundle/MessageText.h"
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
 #include <string_view>
 
@@ -71,16 +70,12 @@ std::string withHyphens(std::string language) {
     return language;
 }
 
-// The number in ">161", or 0. Among watch sizes the widest is closest to other screens.
-int screenWidth(const SetEntry::Device& device) {
-    for (const std::string& condition : device.conditions)
-        if (condition.starts_with("screen-width ")) {
-            const std::size_t digits = std::min(condition.find_first_of("0123456789"), condition.size());
-            int width = 0;
-            std::from_chars(condition.data() + digits, condition.data() + condition.size(), width);
-            return condition.find('>') != std::string::npos ? width + 1 : width;
-        }
-    return 0;
+// The width that a condition requires: 145 for "<=145", 162 for ">161", 0 without a number.
+int screenWidth(std::string_view condition) {
+    const std::size_t digits = std::min(condition.find_first_of("0123456789"), condition.size());
+    int width = 0;
+    std::from_chars(condition.data() + digits, condition.data() + condition.size(), width);
+    return condition.starts_with('>') ? width + 1 : width;
 }
 
 } // namespace
@@ -108,13 +103,14 @@ bool isPreferred(const SetEntry::Device& one, const SetEntry::Device& other) {
         return one.rank < other.rank;
     if (one.conditions.size() != other.conditions.size())
         return one.conditions.size() < other.conditions.size();
-    return screenWidth(one) > screenWidth(other);
+    return one.screenWidth > other.screenWidth; // among watch sizes the widest is closest to other screens
 }
 
 SetEntry readEntry(const Json& json, std::size_t number) {
     SetEntry entry{.json = &json, .number = number};
     entry.language = withHyphens(text(json, "locale"));
     entry.device.conditions = conditionsOf(json);
+    entry.device.screenWidth = screenWidth(text(json, "screen-width"));
     entry.device.idiom = text(json, "idiom");
     if (entry.device.idiom.empty())
         entry.device.idiom = "universal";

@@ -18,11 +18,12 @@ struct SetEntry {
     // The kind of device and screen that the variant is for. Only the variants of one kind are used: preferably those
     // without conditions, then those for any device, then those for a phone.
     struct Device {
-        std::vector<std::string> conditions{}; // "subtype retina4", sorted
+        std::vector<std::string> conditions{}; // `subtype "retina4"`, sorted
         std::size_t rank = 0;                  // of the idiom
+        int screenWidth = 0;                   // that the conditions require, or 0
         std::string idiom{};
         friend bool operator==(const Device&, const Device&) = default;
-        // "idiom ipad, subtype retina4"
+        // `idiom "ipad", subtype "retina4"`
         [[nodiscard]] std::string text() const;
     } device{};
 
