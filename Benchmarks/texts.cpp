@@ -1,6 +1,6 @@
 // Reading texts: a plain one compared with a function-local static, a formatted one compared with a map and fmt.
 #include "StringTables/internal/Table.h"
-#include "border.h"
+#include "other_library.h"
 #include <Lumora/Lumora.h>
 
 #include <benchmark/benchmark.h>

@@ -108,8 +108,8 @@ class Program(unittest.TestCase):
                 if shutil.which(reader[0]):
                     read = subprocess.run([*reader, made], capture_output=True, timeout=60)
                     self.assertEqual((read.returncode, read.stderr), (0, b""))
-        asked = "COMP_WORDS=(lumora check --format s); COMP_CWORD=3; _lumora; echo ${COMPREPLY[@]}"
-        self.assertEqual(subprocess.run(["bash", "-c", f"source ./lumora.bash; {asked}"], capture_output=True).stdout, b"sarif\n")
+        completion = "COMP_WORDS=(lumora check --format s); COMP_CWORD=3; _lumora; echo ${COMPREPLY[@]}"
+        self.assertEqual(subprocess.run(["bash", "-c", f"source ./lumora.bash; {completion}"], capture_output=True).stdout, b"sarif\n")
 
     def test_assets_as_json(self):
         lines = [line.split("\t") for line in run("assets")[1].decode().splitlines()]

@@ -9,9 +9,9 @@ namespace {
 
 struct Module {
     // Counts calls of bundle(): each lookup calls it once.
-    static inline std::atomic<int> asked = 0;
+    static inline std::atomic<int> lookups = 0;
     static const Foundation::NSBundle& bundle() {
-        ++asked;
+        ++lookups;
         return Sample::bundle();
     }
     static constexpr std::string_view sourceName = "TuistAssets+Lumora";
@@ -48,10 +48,10 @@ static_assert(std::is_trivially_copyable_v<Images> && std::is_trivially_copyable
 static_assert(!std::is_copy_constructible_v<Colors> && !std::is_move_constructible_v<Colors> &&
               !std::is_copy_assignable_v<Colors>);
 
-int askedBy(auto&& read) {
-    const int before = Module::asked;
+int lookupsBy(auto&& read) {
+    const int before = Module::lookups;
     read();
-    return Module::asked - before;
+    return Module::lookups - before;
 }
 
 TEST(AssetRecord, ImagesAndDataAreLookedUpEachTime) {
@@ -59,12 +59,20 @@ TEST(AssetRecord, ImagesAndDataAreLookedUpEachTime) {
     EXPECT_EQ(send.image(), UIKit::UIImage::imageNamed("send", Sample::bundle()));
     EXPECT_EQ(send.swiftUIImage(), SwiftUI::Image("send", Sample::bundle()));
     EXPECT_EQ(regions.data().typeIdentifier(), "public.json");
-    EXPECT_EQ(askedBy([] { static_cast<void>(send.image()), static_cast<void>(send.image()); }), 2);
-    EXPECT_EQ(askedBy([] { static_cast<void>(regions.data()), static_cast<void>(regions.data()); }), 2);
+    EXPECT_EQ(lookupsBy([] {
+                  static_cast<void>(send.image());
+                  static_cast<void>(send.image());
+              }),
+              2);
+    EXPECT_EQ(lookupsBy([] {
+                  static_cast<void>(regions.data());
+                  static_cast<void>(regions.data());
+              }),
+              2);
 }
 
 TEST(AssetRecord, ColorIsLookedUpOnceAndFollowsTheTraits) {
-    EXPECT_EQ(askedBy([] {
+    EXPECT_EQ(lookupsBy([] {
                   const UIKit::UIColor& color = ink.color();
                   EXPECT_EQ(&color, &ink.color());
                   EXPECT_EQ(&ink.swiftUIColor(), &ink.swiftUIColor());

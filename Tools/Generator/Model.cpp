@@ -25,8 +25,10 @@ public:
     std::vector<std::string> pathOf(std::string_view key) {
         std::vector<std::string_view> parts = Namer::components(key);
         std::string name;
-        for (; name.empty() && !parts.empty(); parts.pop_back())
+        while (name.empty() && !parts.empty()) {
             name = Namer::spelling(Namer::entryName(parts.back()));
+            parts.pop_back();
+        }
         std::vector<std::string> path;
         for (const std::string_view part : parts)
             if (const std::string& group = groupName(part); !group.empty())

@@ -57,11 +57,11 @@ int main(int argc, char** argv) {
         // Checked here, so that an unknown word is reported first.
         if (program.get_subcommands().empty())
             throw CLI::RequiredError("A command");
-    } catch (const CLI::Success& asked) { // --help, --version
+    } catch (const CLI::Success& success) { // --help, --version
         // The parser handles these options before it reports an unknown command.
         const std::vector<std::string> unknown = program.remaining();
         std::ostringstream text;
-        program.exit(asked, text, text);
+        program.exit(success, text, text);
         exit = unknown.empty() ? Tools::print(text.str()) : failWith(CLI::ExtrasError(unknown), program);
     } catch (const CLI::Error& wrong) {
         exit = failWith(wrong, program);

@@ -1,4 +1,4 @@
-// Benchmarks/border.h
+// Benchmarks/other_library.h
 // A function-local static in another library.
 #pragma once
 
