@@ -33,14 +33,11 @@ std::size_t stringEnd(const std::string& text, std::size_t at) {
     if (text[at] == '"' || text[at] == '\'')
         return static_cast<std::size_t>(StringTables::internal::quotedEnd(begin + at, begin + text.size()).close -
                                         begin + 1);
+    constexpr char firstOfSeparator = '\xE2'; // U+2028 or U+2029; a string without quotation marks is ASCII
     while (at < text.size() && !StringTables::internal::beginsComment(begin + at) &&
-           std::string_view(" \t\v\f\r\n=;}").find(text[at]) == std::string_view::npos && text[at] != '\xE2')
+           std::string_view(" \t\v\f\r\n=;}").find(text[at]) == std::string_view::npos && text[at] != firstOfSeparator)
         ++at;
     return at;
-}
-
-bool hasBraces(const std::string& text) {
-    return text[blanksEnd(text, text.starts_with(mark) ? mark.size() : 0)] == '{';
 }
 
 } // namespace
@@ -84,19 +81,17 @@ Runtime::Result<void> StringsDocument::apply(const Change& change) {
 
 StringsDocument::End StringsDocument::findEnd() const {
     const std::string& text = file_.text;
-    const bool braces = hasBraces(text);
+    const std::size_t begin = text.starts_with(mark) ? mark.size() : 0;
+    const bool hasBraces = text[blanksEnd(text, begin)] == '{';
     std::size_t last = 0, lastButOne = 0; // the ends of the last two tokens
-    std::size_t at = text.starts_with(mark) ? mark.size() : 0;
-    const std::size_t begin = at;
-    while ((at = blanksEnd(text, at)) < text.size()) {
+    for (std::size_t at = blanksEnd(text, begin); at < text.size(); at = blanksEnd(text, last)) {
         lastButOne = last;
         const bool isQuoted = text[at] == '"' || text[at] == '\'';
-        at = isQuoted ? stringEnd(text, at) : at + 1;
-        last = at;
+        last = isQuoted ? stringEnd(text, at) : at + 1;
     }
-    const std::size_t entryEnd = braces ? lastButOne : last;
-    const std::size_t empty = braces ? blanksEnd(text, begin) + 1 : 0;
-    return {.at = braces ? last - 1 : text.size(),
+    const std::size_t entryEnd = hasBraces ? lastButOne : last;
+    const std::size_t empty = hasBraces ? blanksEnd(text, begin) + 1 : 0;
+    return {.at = hasBraces ? last - 1 : text.size(),
             .lacksSemicolon = entryEnd > empty && text[entryEnd - 1] != ';',
             .entryEnd = entryEnd};
 }
