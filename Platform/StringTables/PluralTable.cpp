@@ -144,7 +144,7 @@ private:
             entries_.emplace_back().key = keys_[0];
             keyOffsets_.emplace_back();
         } else {
-            contents_.noteRepeated(keys_[0], "this entry holds", offsets_[0]);
+            contents_.noteRepeated(keys_[0], "this entry is used", offsets_[0]);
         }
         entries_[known->second].plural = std::move(plural_);
         keyOffsets_[known->second] = offsets_[0];

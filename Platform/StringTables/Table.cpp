@@ -75,7 +75,7 @@ void Contents::addSkipped(std::string_view key, std::string_view what, std::size
 
 void Contents::noteReplaced(const Entry& entry, const Entry& later) {
     if (hasText(later))
-        noteRepeated(later.key, "this text holds", later.offset);
+        noteRepeated(later.key, "this text is used", later.offset);
     else if (hasText(entry))
         note("the key ", later.key, " appears again without a text; the earlier text is dropped", later.offset);
 }

@@ -105,7 +105,7 @@ TEST_F(Bundle, RejectsNamesWithANul) {
     EXPECT_EQ(Foundation::NSNumberFormatter().stringFromNumber(1234.5), "1,234.5"); // as the root locale
 }
 
-// What a bundle shows comes out of the bundle, by whatever way the bundle itself was reached.
+// A bundle shows only files inside it, even if a link leads to the bundle itself.
 TEST_F(Bundle, FollowsNoLinkOutOfIt) {
     write("Base.lproj/T.strings", "a = text;");
     write("common/S.strings", "a = common;");

@@ -88,7 +88,7 @@ TEST(BinaryTable, NotesSkippedValues) {
                                         "byte 27: the value of \"d\" is a reference, not a text; skipped",
                                         "byte 29: the value of \"e\" is an array, not a text; skipped"}));
     EXPECT_EQ(Tables::notes(file({"\xD2\1\1\2\2", "\x51k", "\x51v"})),
-              (std::vector<std::string>{"byte 13: the key \"k\" appears again; this text holds"}));
+              (std::vector<std::string>{"byte 13: the key \"k\" appears again; this text is used"}));
 }
 
 // The last value wins, whether the keys are the same object or two equal ones.

@@ -91,7 +91,7 @@ TEST(PluralTable, NotesWhatIsSkipped) {
          "i"},
         {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m"))), "", "m"},
         {__LINE__, dict("k", format) + "\n" + dict("k", format),
-         "3:1: the key \"k\" appears again; this entry holds\n"},
+         "3:1: the key \"k\" appears again; this entry is used\n"},
     };
     for (const auto& [line, entries, notes, chosen] : cases) {
         const auto table = PluralTable::read(list(entries));

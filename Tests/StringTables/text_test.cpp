@@ -127,7 +127,7 @@ TEST(TextTable, NotesSkippedValues) {
                                         "3:2: the value of \"a\" is an array, not a text; skipped",
                                         "3:2: the key \"a\" appears again without a text; the earlier text is dropped",
                                         "4:1: the value of \"a\" is an array, not a text; skipped",
-                                        "4:10: the key \"a\" appears again; this text holds",
+                                        "4:10: the key \"a\" appears again; this text is used",
                                         "5:1: the value of \"c\" is data, not a text; skipped"}));
     std::string many;
     for (int i = 0; i < 1500; ++i)

@@ -53,7 +53,7 @@ TEST(XmlTable, NotesSkippedValues) {
     EXPECT_EQ(Tables::notes(source),
               (std::vector<std::string>{"4:1: the value of \"n\" is a dictionary, not a text; skipped",
                                         "6:1: the value of \"i\" is a number, not a text; skipped",
-                                        "7:2: the key \"a\" appears again; this text holds",
+                                        "7:2: the key \"a\" appears again; this text is used",
                                         "7:32: the value of \"t\" is a boolean, not a text; skipped"}));
     const auto table = StringTables::Table::read(source);
     EXPECT_EQ(table->locations()[0].line, 7u);
