@@ -1,12 +1,11 @@
 #include "Foundation/internal/BundleFolders.h"
 
+#include "Runtime/internal/Directory.h"
 #include "Runtime/internal/TransientError.h"
 #include "StringTables/internal/BundleLayout.h"
 #include "StringTables/internal/Table.h"
 #include <algorithm>
 #include <cerrno>
-#include <dirent.h>
-#include <memory>
 #include <optional>
 #include <string_view>
 #include <sys/stat.h>
@@ -27,23 +26,20 @@ bool isAt(DIR* directory, const std::string& path) noexcept {
            opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
 }
 
-// The language folders, unsorted. No value when another bundle took the place of this one meanwhile: then the list may
-// be incomplete.
+// The language folders, unsorted. No value when another bundle took the place of this one in the meantime: then the
+// list may be incomplete.
 std::optional<std::vector<std::string>> listedFolders(const std::string& bundle) {
     std::vector<std::string> names;
-    const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(bundle.c_str()), &::closedir);
+    const Runtime::Directory directory = Runtime::openDirectory(bundle);
     if (directory == nullptr) {
         Runtime::throwIfTransient({.cause = errno});
         return names;
     }
-    // readdir() returns null at the end and on failure; only errno tells them apart.
-    errno = 0;
-    while (const dirent* entry = ::readdir(directory.get())) {
-        if (const std::string_view language = layout::languageOfFolder(entry->d_name); !language.empty())
+    const int failed = Runtime::forEachEntry(directory, [&names](std::string_view name) {
+        if (const std::string_view language = layout::languageOfFolder(name); !language.empty())
             names.emplace_back(language);
-        errno = 0;
-    }
-    Runtime::throwIfTransient({.cause = errno});
+    });
+    Runtime::throwIfTransient({.cause = failed});
     return isAt(directory.get(), bundle) ? std::optional(std::move(names)) : std::nullopt;
 }
 

@@ -1,11 +1,10 @@
 #include "Foundation/internal/BundleState.h"
 
+#include "Runtime/internal/Directory.h"
 #include "Runtime/internal/Hash.h"
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
-#include <dirent.h>
-#include <memory>
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -52,18 +51,15 @@ private:
     }
 
     bool addEntries(const std::string& folder, int depth) {
-        const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(folder.c_str()), &::closedir);
+        const Runtime::Directory directory = Runtime::openDirectory(folder);
         if (directory == nullptr)
             return false;
-        // readdir() returns null at the end and on failure; only errno tells them apart.
-        errno = 0;
-        while (const dirent* entry = ::readdir(directory.get())) {
-            const std::string_view name = entry->d_name;
-            if (name != "." && name != ".." && !add(std::string(folder).append("/").append(name), depth))
-                return false;
-            errno = 0;
-        }
-        return errno == 0;
+        bool isComplete = true;
+        const int failed = Runtime::forEachEntry(directory, [&](std::string_view name) {
+            if (name != "." && name != "..")
+                isComplete = isComplete && add(std::string(folder).append("/").append(name), depth);
+        });
+        return failed == 0 && isComplete;
     }
 
     std::uint64_t hash_ = 0;
