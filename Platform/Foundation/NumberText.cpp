@@ -152,8 +152,8 @@ public:
             return 0;
         return (digits - pattern.primaryGrouping - 1) / pattern.secondaryGrouping + 1;
     }
-    // The room that is enough for `digits` digits, of which `whole` are whole.
-    static std::size_t roomFor(const NumberPattern& pattern, std::size_t digits, std::size_t whole) noexcept {
+    // The most bytes that `digits` digits need, of which `whole` are whole.
+    static std::size_t longestOf(const NumberPattern& pattern, std::size_t digits, std::size_t whole) noexcept {
         const std::size_t ofDigits = isAscii(pattern) ? digits : digits * longestDigit(pattern);
         return ofDigits + separatorsOf(pattern, whole) * pattern.groupingSeparator.size();
     }
@@ -173,11 +173,11 @@ private:
     char* out_;
 };
 
-// Appends what `write` writes, at most `room` bytes. It gets a NumberWriter.
+// Appends what `write` writes, at most `longest` bytes. It gets a NumberWriter.
 template <class Write>
-void appendWritten(std::string& out, const NumberPattern& pattern, std::size_t room, Write write) {
+void appendWritten(std::string& out, const NumberPattern& pattern, std::size_t longest, Write write) {
     const std::size_t size = out.size();
-    out.resize(size + room);
+    out.resize(size + longest);
     NumberWriter writer(pattern, out.data() + size);
     write(writer);
     out.resize(static_cast<std::size_t>(writer.end() - out.data()));
@@ -201,7 +201,7 @@ Kept<NumberPattern> numberPattern(std::string_view locale, NumberStyle style) {
 }
 
 void appendDigits(std::string& out, const NumberPattern& pattern, std::string_view digits) {
-    appendWritten(out, pattern, NumberWriter::roomFor(pattern, digits.size(), 0), [&](NumberWriter& writer) {
+    appendWritten(out, pattern, NumberWriter::longestOf(pattern, digits.size(), 0), [&](NumberWriter& writer) {
         for (const char digit : digits)
             writer.putDigit(digit);
     });
@@ -209,7 +209,7 @@ void appendDigits(std::string& out, const NumberPattern& pattern, std::string_vi
 
 void appendWhole(std::string& out, const NumberPattern& pattern, std::string_view digits) {
     appendWritten(
-        out, pattern, NumberWriter::roomFor(pattern, digits.size(), digits.size()),
+        out, pattern, NumberWriter::longestOf(pattern, digits.size(), digits.size()),
         [&](NumberWriter& writer) { writer.putWhole(digits.size(), [&](std::size_t i) { return digits[i]; }); });
 }
 
@@ -219,17 +219,18 @@ void appendNumber(std::string& out, const NumberPattern& pattern, std::string_vi
     const std::string_view prefix = isNegative ? std::string_view(pattern.negativePrefix) : positivePrefix;
     const std::string_view suffix = isNegative ? pattern.negativeSuffix : pattern.positiveSuffix;
     if (number.isFloating() && !std::isfinite(number.doubleValue())) {
-        (out += prefix) += std::isnan(number.doubleValue()) ? pattern.notANumber : pattern.infinity;
+        out += prefix;
+        out += std::isnan(number.doubleValue()) ? pattern.notANumber : pattern.infinity;
         out += suffix;
         return;
     }
     const Decimal decimal = decimalOf(pattern, number);
     const int whole = decimal.wholeDigits();
     const int fraction = std::max({decimal.count - decimal.point, static_cast<int>(pattern.minimumFraction), 0});
-    const std::size_t room =
+    const std::size_t longest =
         prefix.size() + suffix.size() + pattern.decimalSeparator.size() +
-        NumberWriter::roomFor(pattern, static_cast<std::size_t>(whole + fraction), static_cast<std::size_t>(whole));
-    appendWritten(out, pattern, room, [&](NumberWriter& writer) {
+        NumberWriter::longestOf(pattern, static_cast<std::size_t>(whole + fraction), static_cast<std::size_t>(whole));
+    appendWritten(out, pattern, longest, [&](NumberWriter& writer) {
         writer.put(prefix);
         writer.putWhole(static_cast<std::size_t>(whole),
                         [&](std::size_t i) { return decimal.wholeDigit(static_cast<int>(i)); });

@@ -111,11 +111,11 @@ bool BinaryObjects::string(std::uint64_t number, Object& object, std::string_vie
 // UTF-16 to UTF-8. If the UTF-8 is not longer and no other object can overlap, it overwrites the UTF-16: touching fresh
 // memory costs more than a copy.
 bool BinaryObjects::decode(const Object& object, std::string_view& out) {
-    char* const room = contents_.arena.room(out.size() / 2 * 3);
-    const Decoded decoded = decodeUtf16(out, ByteOrder::big, room);
+    char* const bytes = contents_.arena.reserve(out.size() / 2 * 3);
+    const Decoded decoded = decodeUtf16(out, ByteOrder::big, bytes);
     if (decoded.read != out.size())
         return fail(object.begin + decoded.read, "a lone surrogate in UTF-16");
-    const std::string_view text(room, static_cast<std::size_t>(decoded.end - room));
+    const std::string_view text(bytes, static_cast<std::size_t>(decoded.end - bytes));
     if (!isOrdered_ || text.size() > out.size()) {
         out = contents_.arena.keep(decoded.end);
         return true;

@@ -206,7 +206,7 @@ bool TextReader::quotedString(std::string_view& out) {
     at_ = close + 1;
     if (first == close)
         return true;
-    const Unescaped unescaped = unescape(out, contents_.arena.room(out.size()));
+    const Unescaped unescaped = unescape(out, contents_.arena.reserve(out.size()));
     if (unescaped.message)
         return fail(unescaped.at, unescaped.message);
     out = contents_.arena.keep(unescaped.end);

@@ -78,7 +78,7 @@ def follow(page, folder, environment):
         elif kind in fragments:
             fragments[kind].append(text)
         else:
-            faults.append(f"{page}: a block of {kind} that no test looks at")
+            faults.append(f"{page}: a block of {kind}, which is not tested")
     return faults, fragments
 
 
@@ -114,9 +114,14 @@ with tempfile.TemporaryDirectory() as held:
     faults += [f"{page}: no test follows it" for page in sorted(shown - set(PAGES))]
     for page, begins in PAGES.items():
         folder = pathlib.Path(held, pathlib.Path(page).stem)
-        shutil.copytree(source / "Examples/Shop", folder) if begins == SHOP else folder.mkdir()
+        if begins == SHOP:
+            shutil.copytree(source / "Examples/Shop", folder)
+        else:
+            folder.mkdir()
         found, fragments = follow(page, folder, environment)
         faults += found
         if any(fragments.values()) and not found:
             compile_fragments(fragments, folder, prefix)
-    sys.exit("\n".join(faults)) if faults else print(f"{len(PAGES)} pages show what happens")
+    if faults:
+        sys.exit("\n".join(faults))
+    print(f"{len(PAGES)} pages show what happens")

@@ -86,14 +86,14 @@ struct XmlDocument::Reader final : StringTables::internal::XmlHandler {
 
 Runtime::Result<XmlDocument> XmlDocument::read(std::string bytes) {
     if (bytes.size() > StringTables::Table::maxBytes)
-        return Runtime::Error{"larger than " + std::to_string(StringTables::Table::maxBytes) + " bytes", {}};
+        return Runtime::Error{"is larger than " + std::to_string(StringTables::Table::maxBytes) + " bytes", {}};
     XmlDocument document;
     document.source_ = std::make_unique<Source>(std::move(bytes));
     Contents& contents = document.source_->contents;
     if (auto recognized = StringTables::internal::recognize(contents); !recognized)
         return std::move(recognized.error());
     if (contents.form != StringTables::Form::xml)
-        return contents.errorAt(contents.begin, "not XML");
+        return contents.errorAt(contents.begin, "is not XML");
     Reader reader;
     if (auto parsed = parseXml(contents, reader); !parsed)
         return std::move(parsed.error());

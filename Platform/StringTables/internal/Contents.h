@@ -13,7 +13,7 @@ namespace StringTables::internal {
 class Arena {
 public:
     // Space for `size` bytes; keep() then allocates the part up to `end`.
-    char* room(std::size_t size) {
+    char* reserve(std::size_t size) {
         if (static_cast<std::size_t>(end_ - next_) < size) {
             const std::size_t chunk = std::max(size, chunks_.empty() ? smallest : largest);
             next_ = chunks_.emplace_back(new char[chunk]).get();
@@ -27,7 +27,7 @@ public:
         return kept;
     }
 
-    std::string_view copy(std::string_view text) { return keep(std::ranges::copy(text, room(text.size())).out); }
+    std::string_view copy(std::string_view text) { return keep(std::ranges::copy(text, reserve(text.size())).out); }
 
 private:
     static constexpr std::size_t smallest = 4096, largest = 65536;
