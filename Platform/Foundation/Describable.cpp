@@ -52,6 +52,11 @@ std::string_view floatingText(long double value, char* buffer) noexcept {
     return shortestText(value, buffer);
 }
 
+std::string_view byteText(char byte, char* buffer) noexcept {
+    *buffer = byte;
+    return {buffer, 1};
+}
+
 std::string_view characterText(std::uint32_t codePoint, char* buffer) noexcept {
     const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
     const char32_t code = codePoint > 0x10FFFF || isSurrogate ? U'\uFFFD' : static_cast<char32_t>(codePoint);

@@ -9,9 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
-#include <new>      // std::bad_alloc
-#include <optional> // std::nullopt_t
-#include <span>
+#include <new> // std::bad_alloc
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -29,6 +27,7 @@ LUMORA_EXPORT std::string_view unsignedText(std::uint64_t value, char* buffer) n
 LUMORA_EXPORT std::string_view floatingText(float value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view floatingText(double value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view floatingText(long double value, char* buffer) noexcept;
+LUMORA_EXPORT std::string_view byteText(char byte, char* buffer) noexcept;
 // UTF-8; U+FFFD for an invalid code point.
 LUMORA_EXPORT std::string_view characterText(std::uint32_t codePoint, char* buffer) noexcept;
 // Appends `text` in quotation marks, with quotation marks, backslashes and control characters escaped.
@@ -57,6 +56,10 @@ concept OptionalLike = requires(const T& value) {
     *value;
 };
 
+// std::nullopt_t and its like are recognized by their shape: <optional> takes as long to compile as this header.
+template <class T>
+concept NoValueTag = std::is_empty_v<T> && std::is_trivially_copyable_v<T> && !std::is_default_constructible_v<T>;
+
 template <class T> using ElementOf = std::remove_cvref_t<decltype(*std::begin(std::declval<const T&>()))>;
 // Wide strings are excluded, because they would be printed as a list of letters, and so are types that contain
 // themselves.
@@ -74,20 +77,14 @@ concept Sequence = requires(const T& value) {
 // - a floating number: the fewest digits that give the same value back, with a point or an exponent: "2.0", "0.1",
 // "1e+16";
 // - a type with `std::string describe(const T&)` in its namespace: what that returns;
-// - std::nullopt: "nil"; an optional: "nil" or "Optional(5)"; a sequence: "[1, 2]". Texts inside are quoted: ["a"].
+// - an optional: "nil" or "Optional(5)"; a sequence: "[1, 2]". Texts inside are quoted: ["a"];
+// - std::nullopt, or another empty type without a default constructor: "nil".
 // Borrows strings, which must outlive it. Only results of describe(), optionals and sequences allocate memory. If that
 // fails, the description is empty; any other exception of a describe() propagates.
 class Describable {
 public:
-    template <class T> Describable(const T& value) {
-        try {
-            describeValue(value);
-        } catch (const std::bad_alloc&) {
-            text_ = {};
-        }
-    }
-    template <class T>
-    Describable(std::initializer_list<T> values) : Describable(std::span(values.begin(), values.end())) {}
+    template <class T> Describable(const T& value) { describeGiven(value); }
+    template <class T> Describable(std::initializer_list<T> values) { describeGiven(values); }
 
     Describable(const Describable&) = delete;
     Describable& operator=(const Describable&) = delete;
@@ -98,6 +95,13 @@ public:
 private:
     Describable() = default;
 
+    template <class T> void describeGiven(const T& value) {
+        try {
+            describeValue(value);
+        } catch (const std::bad_alloc&) {
+            text_ = {};
+        }
+    }
     template <class Given> void describeValue(const Given& value) {
         using T = std::remove_cv_t<Given>; // `value` may be volatile
         if constexpr (std::same_as<T, bool>)
@@ -105,7 +109,7 @@ private:
         else if constexpr (detail::BoolProxy<T> && !detail::DescribesItself<T>)
             describeValue(static_cast<bool>(value));
         else if constexpr (detail::NarrowCharacter<T>)
-            borrowCharacter(static_cast<char>(value));
+            borrow(detail::byteText(static_cast<char>(value), buffer_));
         else if constexpr (detail::WideCharacter<T>)
             borrow(detail::characterText(static_cast<std::uint32_t>(value), buffer_));
         else if constexpr (std::signed_integral<T> && sizeof(T) <= sizeof(std::int64_t))
@@ -116,7 +120,7 @@ private:
             text_ = detail::floatingText(value, buffer_);
         else if constexpr (std::is_pointer_v<T> && std::convertible_to<T, const char*>)
             borrowOrNil(value);
-        else if constexpr (std::is_null_pointer_v<T> || std::same_as<T, std::nullopt_t>)
+        else if constexpr (std::is_null_pointer_v<T>)
             text_ = "nil";
         else if constexpr (detail::DescribesItself<T>)
             text_ = owned_ = describe(value);
@@ -125,7 +129,9 @@ private:
         else if constexpr (detail::OptionalLike<T> || detail::Sequence<T>) {
             appendParts(value);
             text_ = owned_;
-        } else
+        } else if constexpr (detail::NoValueTag<T>)
+            text_ = "nil";
+        else
             static_assert(!sizeof(T*), "a value of this type has no description: declare "
                                        "`std::string describe(const T&)` in the namespace of the type");
     }
@@ -138,10 +144,6 @@ private:
             text_ = "nil";
         else
             borrow(text);
-    }
-    void borrowCharacter(char character) noexcept {
-        buffer_[0] = character;
-        borrow({buffer_, 1});
     }
 
     template <class T> void appendParts(const T& value) {
