@@ -99,7 +99,7 @@ void declare(CodeWriter& code, const CatalogEntry& entry) {
 
 void define(CodeWriter& code, const CatalogEntry& entry, std::size_t number) {
     if (entry.parameters.empty()) {
-        code.add("const std::string& {{name}}() { return detail::text({{number}}); }",
+        code.add("const std::string& {{name}}() { return detail::text(detail::slots[{{number}}]); }",
                  {{"name", entry.name}, {"number", std::to_string(number)}});
         return;
     }

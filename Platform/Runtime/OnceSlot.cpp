@@ -1,0 +1,29 @@
+#include "Runtime/OnceSlot.h"
+
+#include <atomic>
+#include <unistd.h>
+
+namespace Runtime::detail {
+
+bool OnceState::enter() noexcept {
+    const std::atomic_ref state(state_);
+    const std::uint32_t mine = static_cast<std::uint32_t>(::getpid()) << 1;
+    std::uint32_t seen = empty;
+    while (!state.compare_exchange_strong(seen, mine, std::memory_order_acquire)) {
+        if (seen == made)
+            return false;
+        if (seen != mine) // a thread of the process that this one was forked from
+            continue;
+        state.wait(mine, std::memory_order_acquire);
+        seen = empty;
+    }
+    return true;
+}
+
+void OnceState::leave(bool isMade) noexcept {
+    const std::atomic_ref state(state_);
+    state.store(isMade ? made : empty, std::memory_order_release);
+    state.notify_all();
+}
+
+} // namespace Runtime::detail
