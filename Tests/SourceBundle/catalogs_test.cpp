@@ -199,6 +199,21 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
     }
 }
 
+// A compiled catalog has limits, too.
+TEST_F(Catalogs, LeaveOutVariantsBeyondLimits) {
+    const std::string german = R"({"filename": "1", "locale": "de)";
+    std::string entries;
+    for (int i = 0; i < 258; ++i)
+        entries += german + std::to_string(i) + "\"},\n";
+    imageSet(entries + german + std::string(300, 'e') + "\"}", {"1"});
+    EXPECT_EQ(files().size(), 256U);
+    EXPECT_EQ(messages(),
+              (Lines{"warning " + at("257:1") + R"(entry 257 ("1") is left out: a set has at most 256 variants)",
+                     "warning " + at("258:1") + R"(entry 258 ("1") is left out: a set has at most 256 variants)",
+                     "warning " + at("259:1") +
+                         R"(entry 259 ("1") has a language or type identifier that is too long and is left out)"}));
+}
+
 TEST_F(Catalogs, ReadSymbolsAsImages) {
     set("A.xcassets/s.symbolset", R"({"symbols": [{"idiom": "universal", "filename": "s.svg"}]})");
     folder.write("A.xcassets/s.symbolset/s.svg", "");

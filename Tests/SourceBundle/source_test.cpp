@@ -136,6 +136,9 @@ TEST(Source, ReportsWhatItLeavesOut) {
     folder.write("Base.lproj/Twice.strings", "a = b;\na = c;");
     folder.write("Base.lproj/Broken.strings", "a = b;\nc = ;");
     folder.write("loose.strings", "a = b;");
+    folder.write("loose.colorset/Contents.json", "{}");
+    folder.write("sub/Capital.XCStrings", "{}");
+    folder.write("sub/de.LPROJ/T.strings", "a = b;");
     folder.write("file.lproj", "?");
     std::filesystem::create_directory(folder / "Base.lproj/Folder.strings");
     std::filesystem::create_directory_symlink(".", folder / "loop");
@@ -147,7 +150,10 @@ TEST(Source, ReportsWhatItLeavesOut) {
     const Strings expected = {"note: Base.lproj/Layout.xib: is not a table and is left out",
                               "warning: file.lproj: is not a folder of tables and is left out",
                               "note: loop: is a link to a folder and is left out",
+                              "warning: loose.colorset: is not in an asset catalog (*.xcassets) and is left out",
                               "warning: loose.strings: is not in a language folder (*.lproj) and is left out",
+                              "warning: sub/Capital.XCStrings: is left out: its extension must be .xcstrings",
+                              "warning: sub/de.LPROJ: is left out: its extension must be .lproj",
                               "error: Base.lproj/Broken.strings:2:",
                               "error: Base.lproj/Folder.strings: is not a regular file",
                               "error: Base.lproj/Gone.strings: ",

@@ -155,6 +155,7 @@ TEST(StringCatalog, IsRejectedWithALocation) {
         {__LINE__, "{'a': [tru], 'sourceLanguage': 'en', 'strings': {}}", "T.xcstrings:1:"},
         {__LINE__, "{'sourceLanguage': 'en', 'strings': {}}\n{}", "T.xcstrings:2:"},
         {__LINE__, "{'sourceLanguage': 'en', 'strings': {'\xFF': {}}}", "invalid JSON"},
+        {__LINE__, "{'sourceLanguage': '../en', 'strings': {}}", "\"../en\" is not the name of a language"},
     };
     const std::string deep(100'000, '[');
     std::string devices;
@@ -177,6 +178,19 @@ TEST(StringCatalog, IsRejectedWithALocation) {
         ASSERT_GE(messages.size(), 1U) << "line " << one.line;
         EXPECT_TRUE(messages[0].starts_with("error: T.xcstrings")) << "line " << one.line << messages[0];
         EXPECT_NE(messages[0].find(one.message), std::string::npos) << "line " << one.line << messages[0];
+    }
+}
+
+// A language is the name of a folder that is written.
+TEST(StringCatalog, RejectsLanguagesThatCannotBeFolders) {
+    for (const std::string name : {"../../outside", "/outside", "a/b", "..", "", "de\\u0000"}) {
+        Support::SourceFolder folder;
+        folder.write("T.xcstrings", quotes("{'sourceLanguage': 'en', 'strings': {\n'k': {'localizations': {'" + name +
+                                           "': {'stringUnit': {'value': 'x'}}}}}}"));
+        EXPECT_EQ(folder.read().tables.at(0).languages.size(), 1U) << name;
+        const Strings messages = folder.takeMessages();
+        ASSERT_EQ(messages.size(), 1U) << name;
+        EXPECT_TRUE(messages[0].starts_with("warning: T.xcstrings:2:1: \"")) << messages[0];
     }
 }
 

@@ -11,6 +11,7 @@
 #include <deque>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -35,6 +36,7 @@ struct Set {
     const SourceAsset* asset;
     Json contents;
     std::vector<SetEntry> entries; // point into `contents`
+    SourceBundle::EntryPlaces places;
 };
 
 bool isUnassigned(const SetEntry& entry) {
@@ -115,9 +117,9 @@ public:
 
     void run() {
         const bool needsSingle = isSingleScaleUsual();
-        const std::vector<std::string_view> darkCatalogs = catalogsWithDarkColors();
-        for (const Set& set : sets_) {
-            const bool isInDarkCatalog = std::ranges::find(darkCatalogs, set.asset->catalog) != darkCatalogs.end();
+        const std::set<std::string_view> darkCatalogs = catalogsWithDarkColors();
+        for (Set& set : sets_) {
+            const bool isInDarkCatalog = darkCatalogs.contains(set.asset->catalog);
             if (set.asset->kind == Kind::image)
                 checkScales(set, needsSingle);
             checkDark(set, set.asset->kind == Kind::color && isInDarkCatalog);
@@ -129,7 +131,8 @@ private:
         auto json = SourceBundle::readJsonObject(asset.path / SourceBundle::contentsName);
         if (!json)
             return; // deleted since it was read
-        Set& set = sets_.emplace_back(Set{&asset, *std::move(json), {}});
+        Set& set = sets_.emplace_back(
+            Set{&asset, *std::move(json), {}, {asset.path / SourceBundle::contentsName, listOf(asset)}});
         std::size_t number = 0;
         for (const Json& entry : SourceBundle::member(set.contents, listOf(asset)))
             if (++number; entry.is_object())
@@ -150,18 +153,17 @@ private:
         return withSingle * 2 > all;
     }
 
-    std::vector<std::string_view> catalogsWithDarkColors() const {
-        std::vector<std::string_view> catalogs;
+    std::set<std::string_view> catalogsWithDarkColors() const {
+        std::set<std::string_view> catalogs;
         for (const Set& set : sets_)
-            if (set.asset->kind == Kind::color && std::ranges::any_of(set.entries, isFilledDark) &&
-                std::ranges::find(catalogs, set.asset->catalog) == catalogs.end())
-                catalogs.push_back(set.asset->catalog);
+            if (set.asset->kind == Kind::color && std::ranges::any_of(set.entries, isFilledDark))
+                catalogs.insert(set.asset->catalog);
         return catalogs;
     }
 
     static bool isFilledDark(const SetEntry& entry) { return isDark(entry) && entry.isFilled(); }
 
-    void checkScales(const Set& set, bool needsSingle) {
+    void checkScales(Set& set, bool needsSingle) {
         for (const Variant& variant : variantsOf(set)) {
             if (variant.isForEveryScale || variant.filled.none())
                 continue;
@@ -174,7 +176,7 @@ private:
     }
 
     // Reports an empty slot for dark mode, or a colour without a dark variant in a catalog that has some.
-    void checkDark(const Set& set, bool isExpected) {
+    void checkDark(Set& set, bool isExpected) {
         if (std::ranges::any_of(set.entries, isFilledDark))
             return;
         const auto place = std::ranges::find_if(set.entries, isDark);
@@ -188,11 +190,10 @@ private:
                    " has no colour for dark mode, but others in its catalog have");
     }
 
-    void report(const Set& set, const SetEntry& entry, Rule rule, const std::string& what) {
-        const fs::path file = set.asset->path / SourceBundle::contentsName;
-        const Runtime::Error place = SourceBundle::entryPlace(file, listOf(*set.asset), entry.number);
+    void report(Set& set, const SetEntry& entry, Rule rule, const std::string& what) {
+        const Runtime::Error place = set.places.of(entry.number);
         report_.add({.rule = rule,
-                     .file = file,
+                     .file = place.file,
                      .line = static_cast<std::uint32_t>(place.line),
                      .column = static_cast<std::uint32_t>(place.column),
                      .language = {},

@@ -2,35 +2,41 @@
 
 #include "Runtime/internal/File.h"
 #include "SourceBundle/Json.h"
+#include <algorithm>
 #include <simdjson.h>
 #include <string_view>
 
 namespace SourceBundle {
 
-namespace {
-
-// The byte offset of the element; throws if it does not exist.
-std::size_t elementOffset(simdjson::padded_string& text, const std::string& list, std::size_t number) {
-    simdjson::ondemand::parser parser;
-    simdjson::ondemand::document document = parser.iterate(text);
-    for (auto element : document.find_field_unordered(list).get_array())
-        if (--number == 0)
-            return static_cast<std::size_t>(std::string_view(element.raw_json_token()).data() - text.data());
-    throw simdjson::simdjson_error(simdjson::INDEX_OUT_OF_BOUNDS);
+std::vector<Runtime::Error> EntryPlaces::find() const {
+    const auto bytes = Runtime::readFile(file_, maxJsonBytes);
+    if (!bytes)
+        return {};
+    std::vector<Runtime::Error> places;
+    try {
+        simdjson::padded_string text(*bytes);
+        simdjson::ondemand::parser parser;
+        simdjson::ondemand::document document = parser.iterate(text);
+        std::size_t at = 0, line = 1, lineBegin = 0;
+        for (auto element : document.find_field_unordered(list_).get_array()) {
+            const auto begin = static_cast<std::size_t>(element.raw_json_token().value().data() - text.data());
+            const std::string_view between(text.data() + at, begin - at);
+            line += static_cast<std::size_t>(std::ranges::count(between, '\n'));
+            if (const std::size_t last = between.rfind('\n'); last != between.npos)
+                lineBegin = at + last + 1;
+            at = begin;
+            places.push_back({.message = "", .file = file_, .line = line, .column = begin - lineBegin + 1});
+        }
+    } catch (const simdjson::simdjson_error&) { // the places before the fault are right
+    }
+    return places;
 }
 
-} // namespace
-
-Runtime::Error entryPlace(const std::filesystem::path& file, const std::string& list, std::size_t number) {
-    auto bytes = Runtime::readFile(file, maxJsonBytes);
-    if (!bytes)
-        return {.message = "", .file = file, .line = 1, .column = 1};
-    simdjson::padded_string text(*bytes);
-    try {
-        return errorAt(file, *bytes, elementOffset(text, list, number), "");
-    } catch (const simdjson::simdjson_error&) {
-        return {.message = "", .file = file, .line = 1, .column = 1};
-    }
+Runtime::Error EntryPlaces::of(std::size_t number) {
+    if (!places_)
+        places_ = find();
+    return number <= places_->size() ? (*places_)[number - 1]
+                                     : Runtime::Error{.message = "", .file = file_, .line = 1, .column = 1};
 }
 
 } // namespace SourceBundle

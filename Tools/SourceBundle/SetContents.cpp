@@ -1,5 +1,6 @@
 #include "SourceBundle/SetContents.h"
 
+#include "AssetCatalog/internal/Catalog.h" // limits
 #include "SourceBundle/ColorComponents.h"
 #include "SourceBundle/ContentsPlace.h"
 #include "SourceBundle/ImageLayout.h"
@@ -44,6 +45,9 @@ AssetCatalog::Rendering renderingOf(const SourceAsset& asset, const Json& proper
                                                      : AssetCatalog::Rendering::automatic;
 }
 
+// Each becomes at most four variants in the compiled catalog: a drawing has a picture for each scale.
+constexpr std::size_t maxEntries = AssetCatalog::maxVariants / 4;
+
 // Whether both variants are for the same traits and language.
 template <class Variant> bool hasSameTraits(const Variant& one, const SetEntry& other) {
     return one.fit == other.fit && one.language == other.language;
@@ -52,7 +56,8 @@ template <class Variant> bool hasSameTraits(const Variant& one, const SetEntry& 
 class SetReader {
 public:
     SetReader(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics)
-        : asset_(asset), check_(check), diagnostics_(diagnostics), contents_(asset.path / contentsName) {}
+        : asset_(asset), check_(check), diagnostics_(diagnostics), places_(asset.path / contentsName, listName(asset)) {
+    }
 
     void read(const Json& json) {
         properties_ = member(json, "properties");
@@ -104,13 +109,27 @@ private:
     }
 
     void add(const SetEntry& entry) {
-        if (!isDuplicate(entry)) {
-            if (asset_.kind == Kind::color)
-                addColor(entry);
-            else
-                addFile(entry);
-        }
+        if (isBeyondLimits(entry) || isDuplicate(entry))
+            return;
+        if (asset_.kind == Kind::color)
+            addColor(entry);
+        else
+            addFile(entry);
     }
+
+    // Whether a compiled catalog could not hold the variant.
+    bool isBeyondLimits(const SetEntry& entry) {
+        const bool hasLongText =
+            std::max(entry.language.size(), typeOf(entry).size()) > AssetCatalog::maxOtherTextBytes;
+        if (!hasLongText && asset_.files.size() + asset_.colors.size() < maxEntries)
+            return false;
+        report(Severity::warning, entry,
+               hasLongText ? "has a language or type identifier that is too long and is left out"
+                           : "is left out: a set has at most " + std::to_string(maxEntries) + " variants",
+               Topic::unreadableAsset);
+        return true;
+    }
+    static std::string typeOf(const SetEntry& entry) { return text(*entry.json, "universal-type-identifier"); }
 
     bool isDuplicate(const SetEntry& entry) {
         const auto isSame = [&](const auto& variant) { return hasSameTraits(variant, entry); };
@@ -126,7 +145,7 @@ private:
         if (!path)
             return;
         SourceFile file{.fit = entry.fit, .language = entry.language, .path = *path};
-        file.typeIdentifier = text(*entry.json, "universal-type-identifier");
+        file.typeIdentifier = typeOf(entry);
         file.isSymbol = asset_.path.extension() == symbolExtension;
         file.preservesVector = member(properties_, "preserves-vector-representation") == Json(true);
         if (asset_.kind == Kind::image) {
@@ -207,18 +226,18 @@ private:
     }
     // Adds a message located at the entry.
     void report(Severity severity, const SetEntry& entry, std::string_view what, Topic topic = Topic::other) {
-        Runtime::Error error = entryPlace(contents_, listName(asset_), entry.number);
+        Runtime::Error error = places_.of(entry.number);
         error.message = entry.label().append(" ").append(what);
         diagnostics_.add(severity, std::move(error), topic, asset_.name);
     }
     void report(Severity severity, std::string message) {
-        diagnostics_.add(severity, {.message = std::move(message), .file = contents_});
+        diagnostics_.add(severity, {.message = std::move(message), .file = places_.file()});
     }
 
     SourceAsset& asset_;
     const PictureCheck& check_;
     Diagnostics& diagnostics_;
-    fs::path contents_;
+    EntryPlaces places_;
     Json properties_;
     SetEntry::Device chosen_;
     std::vector<AssetCatalog::Color> systemColorVariants_;
@@ -243,6 +262,10 @@ void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagn
 } // namespace
 
 void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics) {
+    if (asset.name.size() > AssetCatalog::maxNameBytes)
+        return diagnostics.add(Severity::warning,
+                               {.message = "is left out: its name with its folders is too long", .file = asset.path},
+                               Topic::unreadableAsset);
     auto json = readJsonObject(asset.path / contentsName);
     if (!json && json.error().isTransient())
         return diagnostics.add(Severity::error, std::move(json.error()), Topic::unreadableAsset, asset.name);

@@ -1,7 +1,10 @@
 #include "SourceBundle/SourceFiles.h"
 
+#include "SourceBundle/LowerCase.h"
 #include "StringTables/internal/BundleLayout.h"
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <optional>
 #include <set>
 #include <string_view>
@@ -15,13 +18,16 @@ namespace layout = StringTables::bundleLayout;
 
 namespace {
 
+constexpr std::string_view catalogSuffix = ".xcassets";
+constexpr std::string_view stringCatalogSuffix = ".xcstrings";
+
 std::optional<TableFile::Kind> kindOf(const fs::path& file) {
     const fs::path extension = file.extension();
     if (extension == layout::textsSuffix)
         return TableFile::Kind::texts;
     if (extension == layout::pluralsSuffix)
         return TableFile::Kind::plurals;
-    if (extension == ".xcstrings")
+    if (extension == stringCatalogSuffix)
         return TableFile::Kind::catalog;
     return std::nullopt;
 }
@@ -88,22 +94,36 @@ private:
     void findInFolder(const fs::path& folder, int depth) {
         if (depth > maxFolderDepth)
             return add(Severity::error, folder, "is nested too deeply");
-        for (const fs::directory_entry& entry : sortedEntries(folder, diagnostics_)) {
-            const fs::path& path = entry.path();
-            std::error_code failed;
-            if (!entry.is_directory(failed))
-                findFile(entry);
-            else if (path.extension() == layout::languageSuffix)
-                findInLanguageFolder(entry, depth);
-            else if (entry.is_symlink())
-                add(Severity::note, path, "is a link to a folder and is left out");
-            else if (path.extension() == ".xcassets")
-                addCatalog(path);
-            else if (fs::exists(path / compiledMark, failed))
-                add(Severity::note, path, "is a compiled bundle and is left out");
+        for (const fs::directory_entry& entry : sortedEntries(folder, diagnostics_))
+            if (std::error_code failed; entry.is_directory(failed))
+                findFolder(entry, depth);
             else
-                findInFolder(path, depth + 1);
-        }
+                findFile(entry);
+    }
+
+    void findFolder(const fs::directory_entry& entry, int depth) {
+        const fs::path& path = entry.path();
+        if (path.extension() == layout::languageSuffix)
+            findInLanguageFolder(entry, depth);
+        else if (entry.is_symlink())
+            add(Severity::note, path, "is a link to a folder and is left out");
+        else if (path.extension() == catalogSuffix)
+            addCatalog(path);
+        else if (std::error_code failed; fs::exists(path / compiledMark, failed))
+            add(Severity::note, path, "is a compiled bundle and is left out");
+        else if (!hasCapitalExtension(path))
+            findInFolder(path, depth + 1);
+    }
+
+    // Reports an extension that is only spelled differently: other systems ignore case in file names.
+    bool hasCapitalExtension(const fs::path& path) {
+        const std::string extension = lowerCase(path.extension());
+        static constexpr std::string_view read[] = {layout::languageSuffix, catalogSuffix, layout::textsSuffix,
+                                                    layout::pluralsSuffix, stringCatalogSuffix};
+        if (extension == path.extension() || std::ranges::find(read, extension) == std::end(read))
+            return false;
+        add(Severity::warning, path, "is left out: its extension must be " + extension);
+        return true;
     }
 
     void findFile(const fs::directory_entry& entry) {
@@ -115,6 +135,10 @@ private:
             addTable(entry, *kind, "");
         else if (kind)
             add(Severity::warning, path, "is not in a language folder (*.lproj) and is left out");
+        else if (path.filename() == "Contents.json")
+            add(Severity::warning, path.parent_path(), "is not in an asset catalog (*.xcassets) and is left out");
+        else
+            hasCapitalExtension(path);
     }
 
     void findInLanguageFolder(const fs::directory_entry& folder, int depth) {
@@ -126,8 +150,8 @@ private:
             const std::optional<TableFile::Kind> kind = kindOf(entry.path());
             if (kind)
                 addTable(entry, *kind, kind == TableFile::Kind::catalog ? "" : language);
-            else if (entry.is_directory(failed) && !entry.is_symlink())
-                findInFolder(entry.path(), depth + 1);
+            else if (entry.is_directory(failed))
+                findFolder(entry, depth + 1);
             else
                 add(Severity::note, entry.path(), "is not a table and is left out");
         }

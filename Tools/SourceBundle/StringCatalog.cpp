@@ -1,7 +1,9 @@
 #include "SourceBundle/StringCatalog.h"
 
 #include "Runtime/internal/File.h"
+#include "SourceBundle/MessageText.h"
 #include "SourceBundle/PluralText.h"
+#include "StringTables/internal/BundleLayout.h"
 #include "StringTables/internal/PluralKeys.h"
 #include "StringTables/internal/Unicode.h"
 #include <algorithm>
@@ -17,6 +19,12 @@ namespace ondemand = simdjson::ondemand;
 using Intl::pluralCategoryNamed;
 
 namespace {
+
+namespace layout = StringTables::bundleLayout;
+
+std::string noLanguage(std::string_view name) {
+    return quotedName(name) + " is not the name of a language";
+}
 
 // Counts lines and columns. Offsets must not decrease between calls.
 class Lines {
@@ -265,9 +273,11 @@ private:
         return found;
     }
 
-    std::string readCatalog(ondemand::document& document) {
+    Runtime::Result<std::string> readCatalog(ondemand::document& document) {
         ondemand::object catalog = document.get_object();
         sourceLanguage_ = std::string(std::string_view(catalog.find_field_unordered("sourceLanguage").get_string()));
+        if (!layout::isLanguage(sourceLanguage_))
+            return Runtime::Error{.message = noLanguage(sourceLanguage_), .file = file_};
         ondemand::object strings = catalog.find_field_unordered("strings").get_object();
         for (auto field : strings) {
             const char* const place = field.key().value().raw();
@@ -305,6 +315,13 @@ private:
                 forEach(value, [&](std::string_view language, ondemand::value localization) {
                     auto& [code, localized] = localizations.emplace_back(std::string(language), Localized());
                     readLocalized(localization, localized);
+                    if (!layout::isLanguage(code)) {
+                        diagnostics_.add(Severity::warning, {.message = noLanguage(code) + "; its text is left out",
+                                                             .file = file_,
+                                                             .line = line,
+                                                             .column = column});
+                        localizations.pop_back();
+                    }
                 });
             else
                 skip(value);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -54,6 +55,12 @@ constexpr std::array<std::string_view, 3> lookupOrder(std::string_view chosen, s
 // Whether `name` is a single path component, so that it cannot leave its folder.
 constexpr bool isFileName(std::string_view name) noexcept {
     return !name.empty() && name != "." && name != ".." && name.find_first_of(std::string_view("/\0", 2)) == name.npos;
+}
+
+// Whether a language can have a folder in a bundle. Names come from files that others wrote, too.
+constexpr bool isLanguage(std::string_view name) noexcept {
+    constexpr std::size_t longestName = 255;
+    return isFileName(name) && name.size() + languageSuffix.size() <= longestName;
 }
 
 } // namespace StringTables::bundleLayout
