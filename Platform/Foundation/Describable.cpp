@@ -58,8 +58,7 @@ std::string_view byteText(char byte, char* buffer) noexcept {
 }
 
 std::string_view characterText(std::uint32_t codePoint, char* buffer) noexcept {
-    const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    const char32_t code = codePoint > 0x10FFFF || isSurrogate ? U'\uFFFD' : static_cast<char32_t>(codePoint);
+    const char32_t code = StringTables::internal::isScalar(codePoint) ? char32_t{codePoint} : U'\uFFFD';
     return {buffer, static_cast<std::size_t>(StringTables::internal::putUtf8(buffer, code) - buffer)};
 }
 

@@ -52,7 +52,7 @@ Fault unicodeEscape(const char*& in, char*& out) noexcept {
             code = joinSurrogates(code, low);
             end += length;
         }
-    if (isHighSurrogate(code) || isLowSurrogate(code))
+    if (isSurrogate(code))
         return "bad escape: a surrogate without its other half";
     out = putUtf8(out, code);
     in = end;

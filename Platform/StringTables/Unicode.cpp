@@ -151,7 +151,7 @@ Decoded decodeUtf16(std::string_view bytes, ByteOrder order, char* out) noexcept
         if (isHighSurrogate(code) && bytes.size() - at >= 4 && isLowSurrogate(unitAt(at + 2))) {
             code = joinSurrogates(code, unitAt(at + 2));
             length = 4;
-        } else if (isHighSurrogate(code) || isLowSurrogate(code)) {
+        } else if (isSurrogate(code)) {
             break;
         }
         out = putUtf8(out, code);

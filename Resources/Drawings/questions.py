@@ -72,8 +72,10 @@ def _weight(male):
 def _gym(male, region):
     d = Drawing(160)
     arab = bool(region)
-    scenery.gym(d, 132, *(("#FBEFD8", "#E3C58F") if arab else ("#E3EBFB", "#C3D2F2") if male
-                          else ("#FDE7F0", "#F3C3D7")))
+    colours = ("#E3EBFB", "#C3D2F2") if male else ("#FDE7F0", "#F3C3D7")
+    if arab:
+        colours = "#FBEFD8", "#E3C58F"
+    scenery.gym(d, 132, *colours)
     scenery.shadow(d, 80, 151, 38)
     with d.placed(80, 151, 0.78):
         if male:
@@ -88,8 +90,12 @@ def _gym(male, region):
 
 def _home(male, region):
     d = Drawing(160)
-    scenery.room(d, 122, *(("#EAF1FF", "#C79A6B") if male else ("#FBE6BE", "#B98752", True) if region
-                           else ("#FFE9E2", "#D8A878")))
+    if male:
+        scenery.room(d, 122, "#EAF1FF", "#C79A6B")
+    elif region:
+        scenery.room(d, 122, "#FBE6BE", "#B98752", True)
+    else:
+        scenery.room(d, 122, "#FFE9E2", "#D8A878")
     if male:
         scenery.mat(d, 78, 148, 58, "blue")
         with d.placed(72, 112, 0.74):

@@ -33,7 +33,6 @@ void appendEscaped(std::string& out, std::string_view text, std::string_view spe
 std::optional<std::string> unescaped(std::string_view text) {
     constexpr int hexadecimal = 16;
     constexpr std::string_view opening = "\\u{";
-    constexpr std::uint32_t last = 0x10FFFF;
     std::string out;
     while (!text.empty()) {
         if (text[0] != '\\') {
@@ -49,7 +48,7 @@ std::optional<std::string> unescaped(std::string_view text) {
             std::uint32_t code = 0;
             const char* const stop = text.data() + end;
             const auto read = std::from_chars(text.data() + opening.size(), stop, code, hexadecimal);
-            if (read.ec != std::errc() || read.ptr != stop || code > last || (code >= 0xD800 && code < 0xE000))
+            if (read.ec != std::errc() || read.ptr != stop || !StringTables::internal::isScalar(code))
                 return std::nullopt;
             std::array<char, 4> utf8;
             out.append(utf8.data(), StringTables::internal::putUtf8(utf8.data(), char32_t{code}));

@@ -43,6 +43,13 @@ constexpr bool isHighSurrogate(char32_t unit) noexcept {
 constexpr bool isLowSurrogate(char32_t unit) noexcept {
     return unit >= 0xDC00 && unit < 0xE000;
 }
+constexpr bool isSurrogate(char32_t unit) noexcept {
+    return isHighSurrogate(unit) || isLowSurrogate(unit);
+}
+// Whether `code` is a scalar value: the code of a character.
+constexpr bool isScalar(char32_t code) noexcept {
+    return code <= 0x10FFFF && !isSurrogate(code);
+}
 constexpr char32_t joinSurrogates(char32_t high, char32_t low) noexcept {
     return 0x10000 + ((high - 0xD800) << 10) + (low - 0xDC00);
 }
