@@ -86,7 +86,7 @@ public:
 
     const char* string(std::string_view text) override {
         if (depth_ == entryLevel)
-            skip(" is a text, not a plural format; it is skipped");
+            skipEntry(" is a text, not a plural format; it is skipped");
         else if (depth_ == variableLevel)
             takeFormat(text);
         else
@@ -94,9 +94,22 @@ public:
         return count(text);
     }
 
-    void other(const char* what) override { skip(std::string(" is ").append(what).append("; it is skipped")); }
+    void other(const char* what) override {
+        const std::string why = std::string(" is ").append(what).append("; it is skipped");
+        depth_ == entryLevel ? skipEntry(why) : skip(why);
+    }
 
-    std::vector<PluralEntry> takeEntries() { return std::move(entries_); }
+    std::vector<PluralEntry> takeEntries() {
+        std::size_t kept = 0;
+        for (std::size_t i = 0; i < entries_.size(); ++i)
+            if (keyOffsets_[i] != dropped) {
+                std::swap(entries_[kept], entries_[i]);
+                std::swap(keyOffsets_[kept++], keyOffsets_[i]);
+            }
+        entries_.resize(kept);
+        keyOffsets_.resize(kept);
+        return std::move(entries_);
+    }
     // By entry.
     const std::vector<std::size_t>& keyOffsets() const noexcept { return keyOffsets_; }
 
@@ -112,6 +125,18 @@ private:
     const std::string& key() const noexcept { return keys_[depth_ - 1]; }
     // Adds a note about the value of the current key.
     void skip(std::string_view what) { contents_.note("the value of ", key(), what, offsets_[depth_ - 1]); }
+    // The last value of a key counts, even if it is no plural.
+    void skipEntry(std::string_view what) {
+        skip(what);
+        drop();
+    }
+    void drop() {
+        const auto known = numbers_.find(keys_[0]);
+        if (known == numbers_.end() || keyOffsets_[known->second] == dropped)
+            return;
+        keyOffsets_[known->second] = dropped;
+        noteEntry(" appears again without a plural; the earlier one is dropped");
+    }
     // Adds a note about the current entry.
     void noteEntry(std::string_view why) { contents_.note("the entry ", keys_[0], why, offsets_[0]); }
 
@@ -134,8 +159,10 @@ private:
             if (const char* const unused = choice_.unusedNote())
                 noteEntry(unused);
         }
-        if (!hasFormat_)
-            return noteEntry(std::string(" has no ").append(pluralKeys::format).append("; it is skipped"));
+        if (!hasFormat_) {
+            noteEntry(std::string(" has no ").append(pluralKeys::format).append("; it is skipped"));
+            return drop();
+        }
         if (variables_ > PluralTable::maxVariables)
             noteEntry(" has more than " + std::to_string(PluralTable::maxVariables) +
                       " variables; the rest is skipped");
@@ -143,7 +170,7 @@ private:
         if (isNew) {
             entries_.emplace_back().key = keys_[0];
             keyOffsets_.emplace_back();
-        } else {
+        } else if (keyOffsets_[known->second] != dropped) {
             contents_.noteRepeated(keys_[0], "this entry is used", offsets_[0]);
         }
         entries_[known->second].plural = std::move(plural_);
@@ -200,7 +227,8 @@ private:
     TextChoice choice_;
 
     std::vector<PluralEntry> entries_;
-    std::vector<std::size_t> keyOffsets_;
+    std::vector<std::size_t> keyOffsets_; // of the entries; `dropped` for one that a later value replaced
+    static constexpr std::size_t dropped = ~std::size_t{0};
     Runtime::NameMap<std::size_t> numbers_; // of the entries, by key
 };
 

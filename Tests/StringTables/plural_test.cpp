@@ -103,6 +103,31 @@ TEST(PluralTable, NotesWhatIsSkipped) {
     }
 }
 
+TEST(PluralTable, TheLastValueOfAKeyCounts) {
+    const std::string plural = dict("k", text("NSStringLocalizedFormatKey", "%d"));
+    const struct {
+        int line;
+        std::string entries;
+        std::size_t count;
+    } cases[] = {
+        {__LINE__, plural + "\n" + text("k", "text"), 1},
+        {__LINE__, plural + "\n<key>k</key><array/>", 1},
+        {__LINE__, plural + "\n" + dict("k", ""), 1},
+        {__LINE__, plural + "\n<key>k</key><true/>" + text("k", "text") + plural, 2},
+    };
+    for (const auto& [line, entries, count] : cases) {
+        const auto table = PluralTable::read(list(entries + dict("other", text("NSStringLocalizedFormatKey", "%d"))));
+        ASSERT_TRUE(table) << "line " << line;
+        EXPECT_EQ(table->entries().size(), count) << "line " << line;
+        EXPECT_EQ(table->find("k") != nullptr, count == 2) << "line " << line;
+        EXPECT_EQ(table->entries().back().key, "other") << "line " << line;
+        EXPECT_NE(
+            notesOf(*table).find("3:1: the entry \"k\" appears again without a plural; the earlier one is dropped\n"),
+            std::string::npos)
+            << "line " << line << notesOf(*table);
+    }
+}
+
 TEST(PluralTable, VariablesAreBounded) {
     std::string variables;
     for (std::size_t i = 0; i <= PluralTable::maxVariables; ++i)

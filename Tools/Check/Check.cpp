@@ -87,7 +87,7 @@ std::vector<Finding> check(const Source& source, const Options& options, Diagnos
     Diagnostics others;
     const Settings settings = Settings::read(options.folders, options.disabled, others);
     // Runs in parallel, because names and assets take as long as all texts.
-    auto modelling = std::async(std::launch::async, [&] {
+    auto modelling = std::async(std::launch::async | std::launch::deferred, [&] {
         return Generator::modelOf(source, {.module = "Module", .names = options.names}, diagnostics);
     });
     const std::vector<CheckedTable> older =

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <exception>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -31,8 +32,11 @@ template <class Step> void inParallel(std::size_t count, const Step& step) {
     {
         const std::size_t threads = std::min<std::size_t>(std::max(std::thread::hardware_concurrency(), 1U), count);
         std::vector<std::jthread> helpers;
-        for (std::size_t i = 1; i < threads; ++i)
-            helpers.emplace_back(work);
+        try {
+            for (std::size_t i = 1; i < threads; ++i)
+                helpers.emplace_back(work);
+        } catch (const std::system_error&) { // no resources for more threads: those that run do all steps
+        }
         work();
     }
     if (failure)
