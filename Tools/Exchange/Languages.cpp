@@ -55,8 +55,7 @@ std::optional<std::string> targetLanguage(const SourceBundle::Source& source, st
         for (const SourceBundle::LanguageTexts& texts : table.languages)
             if (isSameLanguage(texts.language, code))
                 return texts.language;
-    std::string language(code);
-    std::ranges::replace(language, '_', '-');
+    std::string language = SourceBundle::withHyphens(std::string(code));
     return isCode(language) ? std::optional(language) : std::nullopt;
 }
 

@@ -1,5 +1,5 @@
 // SourceBundle/LowerCase.h
-// Compares names without regard to case; internal.
+// Converts names and language codes to comparable forms; internal.
 // Text: only ASCII letters change. Threads: any; no state.
 #pragma once
 
@@ -15,10 +15,15 @@ namespace SourceBundle {
     return text;
 }
 
+// "de-DE" for "de_DE".
+[[nodiscard]] inline std::string withHyphens(std::string code) {
+    std::ranges::replace(code, '_', '-');
+    return code;
+}
+
 // A language code in a form that can be compared: "de-de" for "de_DE".
 [[nodiscard]] inline std::string comparableCode(std::string code) {
-    std::ranges::replace(code, '_', '-');
-    return lowerCase(std::move(code));
+    return lowerCase(withHyphens(std::move(code)));
 }
 
 } // namespace SourceBundle

@@ -1,5 +1,6 @@
 #include "SourceBundle/SetEntry.h"
 
+#include "SourceBundle/LowerCase.h"
 #include "SourceBundle/MessageText.h"
 #include <algorithm>
 #include <array>
@@ -63,11 +64,6 @@ std::vector<std::string> conditionsOf(const Json& entry) {
         if (const std::string value = text(entry, name); !value.empty() && value != "sRGB" && value != "any")
             conditions.push_back(std::string(name) + " " + quotedName(value));
     return conditions;
-}
-
-std::string withHyphens(std::string language) {
-    std::ranges::replace(language, '_', '-');
-    return language;
 }
 
 // The width that a condition requires: 145 for "<=145", 162 for ">161", 0 without a number.
