@@ -8,6 +8,7 @@
 #include "StringTables/internal/Unicode.h"
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <optional>
 
 namespace Foundation::String {
@@ -25,6 +26,24 @@ std::string_view firstCharacters(std::string_view text, std::size_t limit) noexc
         if (beginsCharacter(text[i]) && limit-- == 0)
             return text.substr(0, i);
     return text;
+}
+
+// Whether a format's only placeholder is a "%@" for a text, as in nearly all texts with placeholders.
+bool hasOneText(std::string_view format, StringTables::PercentRange percents,
+                std::span<const FormatArgument> arguments) noexcept {
+    const std::size_t at = percents.begin();
+    return percents.end(format) == at + 1 && at + 1 < format.size() && format[at] == '%' && format[at + 1] == '@' &&
+           !arguments.empty() && arguments[0].kind() == Kind::text && arguments[0].text().size() <= largestGrowth;
+}
+
+// The three texts one after the other, with one allocation.
+std::string joined(std::string_view before, std::string_view text, std::string_view after) {
+    std::string all(before.size() + text.size() + after.size(), '\0');
+    char* const out = all.data();
+    std::memcpy(out, before.data(), before.size());
+    std::memcpy(out + before.size(), text.data(), text.size());
+    std::memcpy(out + before.size() + text.size(), after.data(), after.size());
+    return all;
 }
 
 // The beginning of a format whose only placeholders are "%@" for texts; usually the whole format. Its pieces are
@@ -255,6 +274,9 @@ namespace Foundation {
 
 std::string detail::formattedText(std::string_view format, StringTables::PercentRange percents, const Locale* locale,
                                   std::span<const FormatArgument> arguments) {
+    if (String::hasOneText(format, percents, arguments)) [[likely]]
+        return String::joined(format.substr(0, percents.begin()), arguments[0].text(),
+                              format.substr(percents.begin() + 2));
     const String::PlainBeginning beginning(format, percents, arguments);
     if (beginning.isWhole()) [[likely]]
         return std::string(beginning.text());
