@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <unordered_map>
 #include <utility>
 
 namespace Generator {
@@ -183,9 +184,8 @@ class Keys {
 public:
     explicit Keys(std::span<const Placed> entries) {
         for (const Placed& placed : entries)
-            if (std::ranges::find(tables_, placed.table) == tables_.end()) {
+            if (tables_.try_emplace(placed.table, tables_.size()).second) {
                 const std::string_view name = placed.table->name;
-                tables_.push_back(placed.table);
                 tableRows_.push_back(row({size_, name.size()}, name));
                 add(name);
             }
@@ -193,8 +193,7 @@ public:
             for (const Placed& placed : entries)
                 if (placed.entry->parameters.empty() == plain) {
                     const std::string_view key = placed.entry->source->key;
-                    const auto table = std::ranges::find(tables_, placed.table) - tables_.begin();
-                    places_.push_back(row({static_cast<std::size_t>(table), size_}, key));
+                    places_.push_back(row({tables_.at(placed.table), size_}, key));
                     add(key);
                 }
         places_.push_back("{0, " + std::to_string(size_) + ", 0}");
@@ -225,7 +224,7 @@ private:
         size_ += text.size();
     }
 
-    std::vector<const CatalogTable*> tables_;
+    std::unordered_map<const CatalogTable*, std::size_t> tables_; // their numbers
     std::vector<std::string> literals_;
     std::vector<std::string> tableRows_;
     std::vector<std::string> places_;
