@@ -76,7 +76,7 @@ void formattedText(benchmark::State& state) {
         benchmark::DoNotOptimize(Lumora::Localization::legacyTr(key));
     formatted(state, [](int day) { return Texts::DeleteAccount::activeSubscriptionServer(day); });
 }
-BENCHMARK(formattedText)->ThreadRange(1, 2)->UseRealTime();
+BENCHMARK(formattedText)->ThreadRange(1, 16)->UseRealTime();
 
 void plainFunctionLocalStatic(benchmark::State& state) {
     if (!agrees(state, functionLocalStatic() == "All new dishes of the day"))
