@@ -94,16 +94,23 @@ bool hasContent(const fs::path& path, std::span<const std::string_view> pieces) 
     const auto file = Runtime::OpenFile::open(path, total);
     if (!file || file->size() != total)
         return false;
-    std::string part(partBytes, '\0');
+    std::string part(std::min(partBytes, total), '\0');
+    std::string_view unread; // the rest of `part`
     std::uint64_t offset = 0;
     for (std::string_view piece : pieces)
         while (!piece.empty()) {
-            const std::size_t size = std::min(piece.size(), partBytes);
-            const auto filled = file->read(part.data(), size, offset);
-            if (!filled || *filled != size || part.compare(0, size, piece.substr(0, size)) != 0)
+            if (unread.empty()) {
+                const auto filled = file->read(part.data(), std::min<std::uint64_t>(partBytes, total - offset), offset);
+                if (!filled || *filled == 0)
+                    return false;
+                unread = std::string_view(part).substr(0, *filled);
+                offset += *filled;
+            }
+            const std::size_t size = std::min(piece.size(), unread.size());
+            if (piece.substr(0, size) != unread.substr(0, size))
                 return false;
             piece.remove_prefix(size);
-            offset += size;
+            unread.remove_prefix(size);
         }
     return true;
 }
