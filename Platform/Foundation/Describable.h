@@ -56,9 +56,10 @@ concept OptionalLike = requires(const T& value) {
     *value;
 };
 
-// std::nullopt_t and its like are recognized by their shape: <optional> takes as long to compile as this header.
-template <class T>
-concept NoValueTag = std::is_empty_v<T> && std::is_trivially_copyable_v<T> && !std::is_default_constructible_v<T>;
+// Whether T is std::nullopt_t, by its name: <optional> takes as long to compile as this header.
+template <class T> consteval bool isNullopt() {
+    return std::string_view(__PRETTY_FUNCTION__).ends_with("T = std::nullopt_t]");
+}
 
 template <class T> using ElementOf = std::remove_cvref_t<decltype(*std::begin(std::declval<const T&>()))>;
 // Wide strings are excluded, because they would be printed as a list of letters, and so are types that contain
@@ -77,8 +78,7 @@ concept Sequence = requires(const T& value) {
 // - a floating number: the fewest digits that give the same value back, with a point or an exponent: "2.0", "0.1",
 // "1e+16";
 // - a type with `std::string describe(const T&)` in its namespace: what that returns;
-// - an optional: "nil" or "Optional(5)"; a sequence: "[1, 2]". Texts inside are quoted: ["a"];
-// - std::nullopt, or another empty type without a default constructor: "nil".
+// - an optional: "nil" or "Optional(5)", and std::nullopt: "nil"; a sequence: "[1, 2]". Texts inside are quoted: ["a"];
 // Borrows strings, which must outlive it. Only results of describe(), optionals and sequences allocate memory. If that
 // fails, the description is empty; any other exception of a describe() propagates.
 class Describable {
@@ -129,7 +129,7 @@ private:
         else if constexpr (detail::OptionalLike<T> || detail::Sequence<T>) {
             appendParts(value);
             text_ = owned_;
-        } else if constexpr (detail::NoValueTag<T>)
+        } else if constexpr (detail::isNullopt<T>())
             text_ = "nil";
         else
             static_assert(!sizeof(T*), "a value of this type has no description: declare "
