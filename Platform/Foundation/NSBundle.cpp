@@ -28,6 +28,8 @@ namespace {
 namespace layout = StringTables::bundleLayout;
 
 template <class... Functions> struct Overloaded : Functions... { using Functions::operator()...; };
+// Clang needs the guide, as it does not yet deduce the arguments of aggregates.
+template <class... Functions> Overloaded(Functions...) -> Overloaded<Functions...>;
 
 // The language folders in which texts are looked up, in order; null after the last.
 using Chain = std::array<detail::Localization*, layout::lookupOrder({}, {}).size() + 1>;
