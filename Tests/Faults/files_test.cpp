@@ -145,6 +145,9 @@ TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
 // With a few free descriptors each read gets its text or none, and later the text. Some reads need several files at
 // once.
 TEST(Files, WithFewDescriptorsNothingIsCached) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer takes an object for damaged if it has no descriptor for a pipe to look at it";
+#endif
     EXPECT_EQ(Child::exitOfEach([](int repetition) {
                   Foundation::Host::setPreferredLanguages({"ru"});
                   Foundation::Host::setCurrentLocale("ru_RU@numbers=arab");
