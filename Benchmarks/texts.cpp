@@ -67,7 +67,7 @@ void formattedMapAndFmt(benchmark::State& state) {
         return fmt::format(fmt::runtime(texts.find("DeleteAccount.ActiveSubscriptionServer")->second), day);
     });
 }
-BENCHMARK(formattedMapAndFmt);
+BENCHMARK(formattedMapAndFmt)->ThreadRange(1, 16)->UseRealTime();
 
 // From a table that was read as a whole, as it is after the first few texts.
 void formattedText(benchmark::State& state) {
@@ -84,7 +84,7 @@ void plainFunctionLocalStatic(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(functionLocalStatic().data());
 }
-BENCHMARK(plainFunctionLocalStatic);
+BENCHMARK(plainFunctionLocalStatic)->ThreadRange(1, 2)->UseRealTime();
 
 void plainText(benchmark::State& state) {
     Foundation::Host::setPreferredLanguages({"en"});
