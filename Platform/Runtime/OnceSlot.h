@@ -15,7 +15,7 @@ namespace Runtime {
 
 namespace detail {
 
-// Whether a value has been created, and by whom it is being created.
+// Whether a value exists, and which process is creating it.
 class OnceState {
 public:
     // A compiler's built-in function, because <atomic> takes a third of the time that it takes to compile <string>.

@@ -125,7 +125,7 @@ private:
     const std::string& key() const noexcept { return keys_[depth_ - 1]; }
     // Adds a note about the value of the current key.
     void skip(std::string_view what) { contents_.note("the value of ", key(), what, offsets_[depth_ - 1]); }
-    // The last value of a key counts, even if it is no plural.
+    // The last value of a key counts, even if it is not a plural.
     void skipEntry(std::string_view what) {
         skip(what);
         drop();

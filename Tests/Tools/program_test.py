@@ -216,7 +216,7 @@ class Program(unittest.TestCase):
         calls = [(0, call) for call in self.CALLS.values()]
         for name, call in self.CALLS.items():
             calls.append((2, (name, "--nonsense=1", *call[1:])))
-            if "MADE" in call:  # into what is no folder
+            if "MADE" in call:  # into a path that is not a folder
                 calls.append((2, [part.replace("MADE", "file/made") for part in call]))
         for missing, commands in self.READS.items():
             calls += [(2, [part.replace(missing, "none") for part in self.CALLS[name]]) for name in commands.split()]
