@@ -3,6 +3,8 @@
 #include <Lumora/Lumora.h>
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <png.h>
 #include <string>
@@ -18,14 +20,15 @@ constexpr const char* regions[] = {"arab", "asia", "europe", "latina", "usa"};
 // Pictures side by side, in rows, on white: RGBA, four bytes per pixel.
 class Sheet {
 public:
-    static constexpr unsigned cell = 240; // the maximum width and height of a picture
+    static constexpr unsigned cell = 240;              // width and height
+    static constexpr unsigned largest = cell - 2 * 10; // width or height of a picture, with a margin on each side
 
     Sheet(unsigned columns, unsigned rows)
         : width_(columns * cell), height_(rows * cell), pixels_(std::size_t{4} * width_ * height_, 0xFF) {}
 
     // Draws the picture into a cell, shrunk if it is too large.
     void draw(const Pictures::Bitmap& picture, unsigned column, unsigned row) {
-        const double shrink = std::max({1.0, picture.width / (cell - 20.0), picture.height / (cell - 20.0)});
+        const double shrink = std::max({1.0, picture.width / double{largest}, picture.height / double{largest}});
         const auto width = static_cast<unsigned>(picture.width / shrink);
         const auto height = static_cast<unsigned>(picture.height / shrink);
         for (unsigned y = 0; y < height; ++y)
@@ -89,7 +92,7 @@ bool showAssets(const char* file) {
         const UIKit::UIImage pictures[] = {
             UIImage::assetOnboardingStep1(region),      UIImage::assetSubscriptionWoman(region),
             UIImage::assetSubscriptionMan(region),      UIImage::assetGym(true, region),
-            UIImage::assetDefaultCourse(false, region), UIImage::trainingTagetLossImage("male", region),
+            UIImage::assetDefaultCourse(false, region), UIImage::assetHome(false, region),
         };
         std::printf("%-8s", region);
         unsigned row = 0;

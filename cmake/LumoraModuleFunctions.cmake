@@ -36,7 +36,7 @@ endfunction()
 # Makes the shared library target `Name` with the headers <Name/Name.h>, <Name/NameStrings.h> and <Name/NameAsset.h> in
 # the namespace `Name`, and Name.bundle beside the library file. Building a target that links it builds the bundle, too.
 #   NAMES_FILE             a table of names for keys: "TABLE/KEY" = "Group.name";
-#   DEVELOPMENT_LANGUAGE   the development language, if no Info.plist has it;
+#   DEVELOPMENT_LANGUAGE   the development language; without it, that of Info.plist, or English;
 #   STRICT                 warnings are errors;
 #   INCLUDE                headers of hand-written members that the tree of texts includes;
 #   HEADERS                headers of hand-written parts of the module that <Name/Name.h> includes;

@@ -19,7 +19,7 @@ void show(const std::string& text) {
 void showTexts() {
     show(Localizable::Home::title() + ": " + Localizable::Home::subtitle());
     show(Localizable::Home::welcome("Ann"));
-    show(Localizable::Article::price("Darjeeling", "€12.50"));
+    show(Localizable::Article::price("Darjeeling", "€12.50")); // the shop writes its prices itself
     show(Localizable::Article::weight(1.5));
     show(Localizable::Article::rating(4.6));
     show(Orders::orderIsOnItsWay(4711));
@@ -34,6 +34,7 @@ void showPlurals() {
     show("  " + Orders::arrivesInDays(3));
 }
 
+// In the light and in the dark style.
 void showColor(const char* name, const UIKit::UIColor& color) {
     for (const auto style : {UIKit::UserInterfaceStyle::light, UIKit::UserInterfaceStyle::dark}) {
         UIKit::UITraitCollection::setCurrent({.userInterfaceStyle = style});
@@ -41,6 +42,7 @@ void showColor(const char* name, const UIKit::UIColor& color) {
             std::printf("    %-6s #%02X%02X%02X", name, static_cast<unsigned>(rgba->red * 255 + 0.5),
                         static_cast<unsigned>(rgba->green * 255 + 0.5), static_cast<unsigned>(rgba->blue * 255 + 0.5));
     }
+    UIKit::UITraitCollection::setCurrent({});
     std::printf("\n");
 }
 

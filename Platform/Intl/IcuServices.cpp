@@ -69,7 +69,8 @@ unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     return before;
 }
 
-// Removes affixes and multiplier from the format, because affixes may contain digits and separators, too.
+// Reads the sizes of the groups. Removes affixes and multiplier from the format, because affixes may contain digits and
+// separators, too.
 void readGrouping(NumberPattern& pattern, icu::DecimalFormat& format) {
     format.setMultiplier(1);
     format.setPositivePrefix(icu::UnicodeString());
@@ -147,9 +148,9 @@ YearForms icuYearForms(std::string_view identifier) {
 
 constexpr std::size_t plentyForIcu = std::size_t{8} << 20;
 
-// Calls ICU only when enough memory is free for its initialization: without memory, one part of it deadlocks and others
-// cache the failure permanently. If ICU fails twice although memory was free, it has cached a failure, and `otherwise`
-// is returned.
+// Calls ICU only when enough memory is free for its initialization: without memory, one part of ICU deadlocks and
+// others cache the failure permanently. If ICU fails twice although memory was free, it has cached a failure, and
+// `otherwise` is returned.
 template <class Make, class Value> Value withMemory(Make make, Value otherwise) {
     for (int attempt = 0; attempt < 2; ++attempt) {
         Runtime::demandMemory(plentyForIcu);

@@ -1,5 +1,5 @@
 // Check/Report.h
-// Collects the findings of one step and drops those of disabled rules.
+// Collects the findings of a group of rules and drops those of disabled rules.
 // Threads: one thread per report; several reports may share their settings.
 #pragma once
 
@@ -21,7 +21,7 @@ public:
         if (settings_.isOn(finding))
             findings_.push_back(std::move(finding));
     }
-    // Adds a finding about a text, unless its comment or that of its `development` text allows it.
+    // Adds a finding about a text, unless the comment of the text or of the `development` text allows the rule.
     void add(Rule rule, const SourceBundle::SourceEntry& entry, std::string_view language, std::string message,
              const SourceBundle::SourceEntry* development = nullptr) {
         if (isAllowed(rule, entry) || (development != nullptr && isAllowed(rule, *development)))

@@ -19,7 +19,7 @@ struct SourceArguments {
     SourceBundle::SourceOptions options;
     std::string names; // the names file, or empty
 
-    // Adds SOURCE... (or the option `name`), which is returned, and --development-language.
+    // Adds the arguments SOURCE..., or the option `name`, and --development-language. Returns the first.
     CLI::Option* addTo(CLI::App& command, const std::string& name = "SOURCE");
     // Adds --names.
     void addNamesTo(CLI::App& command);
