@@ -17,6 +17,12 @@ std::size_t bytesFor(std::size_t number) noexcept {
 
 } // namespace
 
+BinaryWriter::BinaryWriter(std::size_t strings) {
+    objects_.reserve(strings);
+    strings_.reserve(strings);
+    given_.reserve(strings);
+}
+
 BinaryWriter::Number BinaryWriter::dictionary() {
     objects_.push_back({.kind = Object::Kind::dictionary});
     top_ = top_.value_or(objects_.size() - 1);

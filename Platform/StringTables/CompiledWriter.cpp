@@ -35,37 +35,43 @@ private:
 // `index` was made from `hashes`, the key hashes of the entries.
 std::string writeIndexed(std::span<const Entry> entries, std::span<const std::uint64_t> hashes,
                          const CompiledIndexWriter& index) {
-    BinaryWriter list;
+    BinaryWriter list(2 * entries.size());
     const auto indexObject = list.reserve();
+    struct Numbers {
+        BinaryWriter::Number key, text;
+    };
+    std::vector<Numbers> numbers(entries.size());
     const auto addStrings = [&](bool ascii) {
-        for (const Entry& entry : entries)
-            for (const std::string_view string : {entry.key, entry.text})
-                if (isAscii(string) == ascii)
-                    list.string(string);
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            if (isAscii(entries[i].key) == ascii)
+                numbers[i].key = list.string(entries[i].key);
+            if (isAscii(entries[i].text) == ascii)
+                numbers[i].text = list.string(entries[i].text);
+        }
     };
     addStrings(true);
     const auto dictionary = list.dictionary();
     addStrings(false);
     Utf8Strings utf8(index.stringsAt());
-    for (const Entry& entry : entries) {
-        list.add(dictionary, list.string(entry.key), list.string(entry.text));
-        for (const std::string_view string : {entry.key, entry.text})
-            if (!isAscii(string))
-                utf8.at(list.string(string), string);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        list.add(dictionary, numbers[i].key, numbers[i].text);
+        if (!isAscii(entries[i].key))
+            utf8.at(numbers[i].key, entries[i].key);
+        if (!isAscii(entries[i].text))
+            utf8.at(numbers[i].text, entries[i].text);
     }
     list.setReserved(indexObject, index.objectSize(utf8.bytes().size()));
     std::string bytes = list.write();
 
-    const auto offsetOf = [&](std::string_view string) {
-        const auto number = list.string(string);
+    const auto offsetOf = [&](BinaryWriter::Number number, std::string_view string) {
         return static_cast<std::uint32_t>(isAscii(string) ? list.charactersAt(number) : utf8.at(number, string));
     };
     std::vector<CompiledIndex::Slot> slots;
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const auto& [key, text, offset] = entries[i];
-        slots.push_back({.keyAt = offsetOf(key),
+        slots.push_back({.keyAt = offsetOf(numbers[i].key, key),
                          .keySize = static_cast<std::uint32_t>(key.size()),
-                         .textAt = offsetOf(text),
+                         .textAt = offsetOf(numbers[i].text, text),
                          .textSize = static_cast<std::uint32_t>(text.size()),
                          .check = CompiledIndex::check(hashes[i], text)});
     }

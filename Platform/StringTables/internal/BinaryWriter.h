@@ -20,6 +20,9 @@ public:
     // Objects are numbered and stored in the order in which they are created.
     using Number = std::size_t;
 
+    // `strings`: how many are expected, which saves rehashing.
+    explicit BinaryWriter(std::size_t strings = 0);
+
     // A new, empty dictionary. The first one is the top-level object.
     Number dictionary();
     // Reserves space for an object that the caller writes after write(): until then it has only zeros.
