@@ -1,7 +1,6 @@
 #include "Runtime/internal/ForkGuard.h"
 
 #include "Runtime/OnceSlot.h"
-#include <memory>
 #include <new>
 #include <pthread.h>
 

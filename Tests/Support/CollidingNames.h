@@ -7,7 +7,6 @@
 #include <cctype>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <vector>
 
