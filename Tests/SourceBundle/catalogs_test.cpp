@@ -181,6 +181,11 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
          {"note " + contents + R"(entry 1 ("1") has the property "glow", which is ignored)",
           "note " + contents + R"(entry 2 ("2") has the property "scale", which is ignored)"}},
         {__LINE__,
+         R"(], "images": [{"filename": "1"}, {"filename": "2"})",
+         {"1"},
+         {"warning " + contents + R"(the member "images" appears again; the last one is used)",
+          "warning " + at("1:46") + R"(entry 2 ("2") is for the same traits as an earlier entry and is left out)"}},
+        {__LINE__,
          R"({"filename": "missing"})",
          {},
          {"warning " + at("1:13") +

@@ -128,7 +128,8 @@ public:
 
 private:
     void readSet(const SourceAsset& asset) {
-        auto json = SourceBundle::readJsonObject(asset.path / SourceBundle::contentsName);
+        SourceBundle::Diagnostics reported; // when the source was read
+        auto json = SourceBundle::readJsonObject(asset.path / SourceBundle::contentsName, reported);
         if (!json)
             return; // deleted since it was read
         Set& set = sets_.emplace_back(

@@ -51,7 +51,7 @@ bool providesNamespace(const fs::path& folder, Diagnostics& diagnostics) {
     std::error_code failed;
     if (!fs::exists(fs::symlink_status(file, failed)))
         return false;
-    auto contents = readJsonObject(file);
+    auto contents = readJsonObject(file, diagnostics);
     if (contents)
         return member(member(*contents, "properties"), "provides-namespace") == Json(true);
     contents.error().message += "; the folder does not provide a namespace";

@@ -18,14 +18,19 @@ std::vector<Runtime::Error> EntryPlaces::find() const {
         simdjson::ondemand::parser parser;
         simdjson::ondemand::document document = parser.iterate(text);
         std::size_t at = 0, line = 1, lineBegin = 0;
-        for (auto element : document.find_field_unordered(list_).get_array()) {
-            const auto begin = static_cast<std::size_t>(element.raw_json_token().value().data() - text.data());
-            const std::string_view between(text.data() + at, begin - at);
-            line += static_cast<std::size_t>(std::ranges::count(between, '\n'));
-            if (const std::size_t last = between.rfind('\n'); last != between.npos)
-                lineBegin = at + last + 1;
-            at = begin;
-            places.push_back({.message = "", .file = file_, .line = line, .column = begin - lineBegin + 1});
+        for (auto member : document.get_object()) {
+            if (member.unescaped_key().value() != list_)
+                continue;
+            places.clear(); // of a list that appears again, the last one is used
+            for (auto element : member.value().get_array()) {
+                const auto begin = static_cast<std::size_t>(element.raw_json_token().value().data() - text.data());
+                const std::string_view between(text.data() + at, begin - at);
+                line += static_cast<std::size_t>(std::ranges::count(between, '\n'));
+                if (const std::size_t last = between.rfind('\n'); last != between.npos)
+                    lineBegin = at + last + 1;
+                at = begin;
+                places.push_back({.message = "", .file = file_, .line = line, .column = begin - lineBegin + 1});
+            }
         }
     } catch (const simdjson::simdjson_error&) { // the places before the fault are right
     }

@@ -1,8 +1,12 @@
 #include "SourceBundle/Json.h"
 
 #include "Runtime/internal/File.h"
+#include "SourceBundle/MessageText.h"
 #include "StringTables/internal/Unicode.h"
 #include <algorithm>
+#include <set>
+#include <utility>
+#include <vector>
 
 namespace SourceBundle {
 
@@ -19,14 +23,45 @@ Runtime::Error errorAt(const fs::path& file, std::string_view text, std::size_t 
             .column = StringTables::internal::countCharacters(line) + 1};
 }
 
-Runtime::Result<Json> readJsonObject(const fs::path& file) {
+namespace {
+
+// Follows the parser and warns of members that appear again in the same object.
+class RepeatedMembers {
+public:
+    RepeatedMembers(const fs::path& file, Diagnostics& diagnostics) : file_(file), diagnostics_(diagnostics) {}
+
+    void follow(Json::parse_event_t event, const Json& parsed) {
+        if (event == Json::parse_event_t::object_start)
+            open_.emplace_back();
+        else if (event == Json::parse_event_t::object_end)
+            open_.pop_back();
+        else if (event == Json::parse_event_t::key)
+            if (const auto& name = parsed.get_ref<const std::string&>(); !open_.back().insert(name).second)
+                diagnostics_.add(Severity::warning,
+                                 {.message = "the member " + quotedName(name) + " appears again; the last one is used",
+                                  .file = file_});
+    }
+
+private:
+    const fs::path& file_;
+    Diagnostics& diagnostics_;
+    std::vector<std::set<std::string>> open_; // the names of the members of each object that is being read
+};
+
+} // namespace
+
+Runtime::Result<Json> readJsonObject(const fs::path& file, Diagnostics& diagnostics) {
     if (std::error_code failed; fs::is_symlink(fs::symlink_status(file, failed)))
         return Runtime::Error{.message = "is a link, which is not followed", .file = file};
     const auto text = Runtime::readFile(file, maxJsonBytes);
     if (!text)
         return text.error();
+    RepeatedMembers members(file, diagnostics);
     try {
-        Json json = Json::parse(*text);
+        Json json = Json::parse(*text, [&](int /*depth*/, Json::parse_event_t event, const Json& parsed) {
+            members.follow(event, parsed);
+            return true;
+        });
         if (json.is_object())
             return json;
         return errorAt(file, *text, 0, "is not a JSON object");

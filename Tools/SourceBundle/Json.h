@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Runtime/internal/Result.h"
+#include "SourceBundle/Diagnostics.h"
 #include <cstddef>
 #include <filesystem>
 #include <nlohmann/json.hpp>
@@ -14,8 +15,9 @@ namespace SourceBundle {
 using Json = nlohmann::json;
 
 // Reads the object in the file. Errors: an unreadable file, a link, more than 4 MiB, invalid JSON, not an object. They
-// have line and column and do not quote the file.
-[[nodiscard]] Runtime::Result<Json> readJsonObject(const std::filesystem::path& file);
+// have line and column and do not quote the file. If a member appears again in its object, the last one is read, and
+// `diagnostics` gets a warning.
+[[nodiscard]] Runtime::Result<Json> readJsonObject(const std::filesystem::path& file, Diagnostics& diagnostics);
 
 inline constexpr std::size_t maxJsonBytes = std::size_t{4} << 20;
 

@@ -266,7 +266,7 @@ void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnos
         return diagnostics.add(Severity::warning,
                                {.message = "is left out: its name with its folders is too long", .file = asset.path},
                                Topic::unreadableAsset);
-    auto json = readJsonObject(asset.path / contentsName);
+    auto json = readJsonObject(asset.path / contentsName, diagnostics);
     if (!json && json.error().isTransient())
         return diagnostics.add(Severity::error, std::move(json.error()), Topic::unreadableAsset, asset.name);
     if (!json) {
