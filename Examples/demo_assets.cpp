@@ -83,7 +83,7 @@ bool showAssets(const char* file) {
     std::printf("\nProgress, from nothing to all\n");
     for (int tenth = 0; tenth <= 10; ++tenth)
         show(UIColor::colorForProgress(tenth / 10.0).rgba().value_or(RGBA{}));
-    std::printf("\n\nPictures chosen by region and sex (all of them in %s)\n", file);
+    std::printf("\n\nPictures chosen by region and sex\n");
 
     UIKit::UITraitCollection::setCurrent({.displayScale = 2});
     Sheet sheet(std::size(regions), 6);
@@ -105,5 +105,8 @@ bool showAssets(const char* file) {
         std::printf("\n");
         ++column;
     }
-    return sheet.write(file);
+    if (!sheet.write(file))
+        return false;
+    std::printf("All of them are in %s\n", file);
+    return true;
 }

@@ -3,7 +3,7 @@
 #
 # They run the program Lumora::lumora; in a cross build, set LUMORA_PROGRAM to one for the build machine.
 
-# Sets `out` to the program for custom commands.
+# Sets the variable named by `out` to the program that custom commands run.
 function(_lumora_program out)
     if(LUMORA_PROGRAM)
         set(${out} ${LUMORA_PROGRAM} PARENT_SCOPE)
@@ -33,13 +33,14 @@ endfunction()
 
 # lumora_add_module(Name SOURCES folder... [NAMES_FILE file] [DEVELOPMENT_LANGUAGE code] [STRICT]
 #                   [INCLUDE header...] [HEADERS header...] [SHARDS n])
-# Makes the shared library target `Name` with the headers <Name/Name.h>, <Name/NameStrings.h> and <Name/NameAsset.h> in
-# the namespace `Name`, and Name.bundle beside the library file. Building a target that links it builds the bundle, too.
+# Makes the shared library target `Name` with the headers <Name/Name.h>, <Name/NameStrings.h> (accessors of texts) and
+# <Name/NameAsset.h> (constants of pictures, colours and data) in the namespace `Name`, and Name.bundle beside the
+# library file. Building a target that links it builds the bundle, too.
 #   NAMES_FILE             a table of names for keys: "TABLE/KEY" = "Group.name";
 #   DEVELOPMENT_LANGUAGE   the development language; without it, that of Info.plist, or English;
 #   STRICT                 warnings are errors;
-#   INCLUDE                headers of hand-written members that the tree of texts includes;
-#   HEADERS                headers of hand-written parts of the module that <Name/Name.h> includes;
+#   INCLUDE                your headers that <Name/NameStrings.h> includes: functions added to the namespaces of the texts;
+#   HEADERS                your headers that <Name/Name.h> includes: everything else that the module offers;
 #   SHARDS                 the number of sources for the accessors, which compile in parallel (default: 1).
 function(lumora_add_module name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "STRICT" "NAMES_FILE;DEVELOPMENT_LANGUAGE;SHARDS" "SOURCES;INCLUDE;HEADERS")
@@ -74,7 +75,8 @@ function(lumora_add_module name)
     foreach(shard RANGE 1 ${arg_SHARDS})
         list(APPEND code ${folder}/${name}Strings-${shard}.cpp)
     endforeach()
-    # They are touched if a header that they include changes, so that the sources that use it are compiled again.
+    # Of the generated headers, the build system knows only these. Each has a fingerprint of the others, so it changes when
+    # one of them does, and the files that include it are compiled again.
     set(known ${folder}/${name}Strings.h ${folder}/${name}Asset.h)
     list(TRANSFORM arg_INCLUDE REPLACE "(.+)" "--include;\\1" OUTPUT_VARIABLE includes)
     list(TRANSFORM arg_HEADERS REPLACE "(.+)" "--header;\\1" OUTPUT_VARIABLE headers)
@@ -95,7 +97,7 @@ endfunction()
 
 # lumora_install_module(Name [EXPORT set] [VERSIONED])
 # Installs library, headers and bundle of a module. The bundle is in the library's folder; with VERSIONED it is in the
-# subfolder LIBRARY-SOVERSION, so that two versions can be installed together. Components: runtime, development.
+# subfolder Name-SOVERSION, so that two versions can be installed together. Components: runtime, development.
 function(lumora_install_module name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "VERSIONED" "EXPORT" "")
     include(GNUInstallDirs)

@@ -109,7 +109,7 @@ void readAffixes(NumberPattern& pattern, const icu::DecimalFormat& format) {
 
 // ICU's text for `count` years, with "{0}" instead of the number.
 std::string yearForm(const icu::number::LocalizedNumberFormatter& formatter, std::int64_t count) {
-    UErrorCode status = U_ZERO_ERROR;
+    UErrorCode status = U_ZERO_ERROR; // after an error, ICU's functions do nothing, so it is checked once, at the end
     const icu::number::FormattedNumber formatted = formatter.formatInt(count, status);
     icu::UnicodeString text = formatted.toString(status);
     icu::ConstrainedFieldPosition number;
@@ -127,17 +127,16 @@ YearForms icuYearForms(std::string_view identifier) {
     const icu::Locale locale = knownLocale(identifier);
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::PluralRules> rules(icu::PluralRules::forLocale(locale, status));
+    YearForms years;
+    if (!succeeded(status))
+        return years;
     const auto formatter = icu::number::NumberFormatter::withLocale(locale)
                                .unit(icu::MeasureUnit::getYear())
                                .unitWidth(UNUM_UNIT_WIDTH_FULL_NAME);
-    YearForms years;
     const auto fill = [&](std::int32_t count) {
-        const PluralCategory category = rules ? categoryOf(*rules, count) : PluralCategory::other;
-        if (std::string& form = years.forms[indexOf(category)]; form.empty())
+        if (std::string& form = years.forms[indexOf(categoryOf(*rules, count))]; form.empty())
             form = yearForm(formatter, count);
     };
-    if (!succeeded(status))
-        return years;
     // Every category of integers occurs among the small or the round numbers.
     for (std::int32_t count = 0; count <= 200; ++count)
         fill(count);
@@ -146,6 +145,7 @@ YearForms icuYearForms(std::string_view identifier) {
     return years;
 }
 
+// ICU allocates less than 1 MiB when it is first used. The rest is a margin, because other threads allocate, too.
 constexpr std::size_t plentyForIcu = std::size_t{8} << 20;
 
 // Calls ICU only when enough memory is free for its initialization: without memory, one part of ICU deadlocks and
