@@ -168,10 +168,11 @@ void setLongAgo(const fs::path& folder) {
 }
 
 // A compile that reuses the last one gives the same result, and unchanged files keep their modification time.
-TEST(CompileBundle, ReusesUnchangedPictures) {
+TEST(CompileBundle, ReusesTheLastCompile) {
     const Support::TemporaryFolder folder;
     const fs::path bundle = folder / "out.bundle", catalog = bundle / "Assets.catalog";
     folder.write("source/Base.lproj/A.strings", "a = b;");
+    folder.write("source/de.lproj/A.strings", "a = ü;");
     for (const std::string name : {"one", "two"}) {
         folder.write("source/A.xcassets/" + name + ".imageset/Contents.json", R"({"images": [{"filename": "p"}]})");
         folder.write("source/A.xcassets/" + name + ".imageset/p", svg(3, "red"));
@@ -191,6 +192,7 @@ TEST(CompileBundle, ReusesUnchangedPictures) {
     compileAndCompare(__LINE__);
     EXPECT_EQ(timeOf(catalog), longAgo);
     EXPECT_EQ(timeOf(bundle / "Info.plist"), longAgo);
+    EXPECT_EQ(timeOf(bundle / "de.lproj/A.strings"), longAgo);
     EXPECT_NE(timeOf(bundle / "Base.lproj/A.strings"), longAgo);
     EXPECT_EQ(fs::hard_link_count(catalog), 1U);
 
@@ -200,14 +202,17 @@ TEST(CompileBundle, ReusesUnchangedPictures) {
     folder.write("source/A.xcassets/two.imageset/p", svg(3, "red"));
     compileAndCompare(__LINE__);
 
-    // A changed catalog or list is not reused.
+    // A changed table, catalog or list is not reused.
+    std::string table = Support::contents(bundle / "de.lproj/A.strings");
+    table.back() = static_cast<char>(~table.back());
+    folder.write("out.bundle/de.lproj/A.strings", table);
     std::string bytes = Support::contents(catalog);
     for (std::size_t place = bytes.size() / 4; place < bytes.size(); place += 7)
         bytes[place] = static_cast<char>(~bytes[place]);
     folder.write("out.bundle/Assets.catalog", bytes);
     compileAndCompare(__LINE__);
-    folder.write("out.bundle/.lumora-bundle",
-                 "Made by lumora compile.\n0 1 2\n\n" + std::string(40, '0') + " 1 1 1 1 1 99999999999999999999 1 0\n");
+    folder.write("out.bundle/.lumora-bundle", "Made by lumora compile.\n0 1 2\n\n" + std::string(40, '0') +
+                                                  " 1 1 1 1 1 99999999999999999999 1 0\ntable 0 g\n");
     compileAndCompare(__LINE__);
 }
 

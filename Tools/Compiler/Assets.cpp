@@ -9,7 +9,6 @@
 #include "SourceBundle/Parallel.h"
 #include "SourceBundle/SetContents.h" // purposeOf
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <map>
 #include <mutex>
@@ -33,7 +32,7 @@ namespace {
 // Threads: any.
 class Files {
 public:
-    explicit Files(const fs::path& lastBundle) : cache_(PictureCache::of(lastBundle)) {}
+    explicit Files(PictureCache cache) : cache_(std::move(cache)) {}
 
     // Errors: the file cannot be read or has more than 256 MiB, all files together have more than a catalog may hold.
     Runtime::Result<Bytes> bytes(const fs::path& path) {
@@ -188,20 +187,19 @@ std::vector<Asset> compiledAssets(std::span<const fs::path> catalogs, Files& fil
 
 } // namespace
 
-Runtime::Result<void> compileAssets(std::span<const fs::path> catalogs, StagedFolder& out, Diagnostics& diagnostics,
-                                    const Progress& progress) {
-    Files files(out.target());
+Runtime::Result<std::string> compileAssets(std::span<const fs::path> catalogs, const StagedFolder& out,
+                                           std::string_view lastMark, Diagnostics& diagnostics,
+                                           const Progress& progress) {
+    Files files(PictureCache::of(out.target(), lastMark));
     std::vector<Asset> assets = compiledAssets(catalogs, files, diagnostics, progress);
     if (assets.empty() || diagnostics.hasErrors())
-        return {};
+        return std::string();
     const auto catalog = AssetCatalog::build(std::move(assets));
     if (!catalog)
         return catalog.error();
     if (auto written = out.write(AssetCatalog::fileName, catalog->pieces()); !written)
-        return written;
-    const std::string list = cacheList(files.made(), *catalog);
-    const std::array<std::string_view, 2> mark = {markText, list};
-    return out.write(SourceBundle::compiledMark, mark);
+        return std::move(written.error());
+    return cacheList(files.made(), *catalog);
 }
 
 } // namespace Compiler

@@ -6,12 +6,17 @@
 #include "Compiler/StagedFolder.h"
 #include <filesystem>
 #include <span>
+#include <string>
+#include <string_view>
 
 namespace Compiler {
 
-// Writes Assets.catalog if the catalogs have assets, and the bundle's mark file, which lists its pictures for the next
-// compile. Reuses pictures of the last compile; the result is the same as without them.
-[[nodiscard]] Runtime::Result<void> compileAssets(std::span<const std::filesystem::path> catalogs, StagedFolder& out,
-                                                  SourceBundle::Diagnostics& diagnostics, const Progress& progress);
+// Writes Assets.catalog if the catalogs have assets. Returns the lines of the mark file that list its pictures for the
+// next compile. Reuses pictures that `lastMark`, the mark file of the last compile, lists; the result is the same as
+// without them.
+[[nodiscard]] Runtime::Result<std::string> compileAssets(std::span<const std::filesystem::path> catalogs,
+                                                         const StagedFolder& out, std::string_view lastMark,
+                                                         SourceBundle::Diagnostics& diagnostics,
+                                                         const Progress& progress);
 
 } // namespace Compiler

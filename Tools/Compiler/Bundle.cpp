@@ -3,6 +3,9 @@
 #include "Compiler/Assets.h"
 #include "Compiler/StagedFolder.h"
 #include "Compiler/Tables.h"
+#include "Runtime/internal/File.h"
+#include <array>
+#include <string>
 
 namespace Compiler {
 
@@ -17,6 +20,13 @@ bool contains(const fs::path& folder, const fs::path& other) {
     return !relative.empty() && *relative.begin() != "..";
 }
 
+// What the last compile noted in the bundle; empty if there is none.
+std::string contentOfMark(const fs::path& bundle) {
+    constexpr std::size_t maxMarkBytes = std::size_t{256} << 20;
+    auto mark = Runtime::readFile(bundle / SourceBundle::compiledMark, maxMarkBytes);
+    return mark ? *std::move(mark) : "";
+}
+
 } // namespace
 
 Runtime::Result<void> compileBundle(const SourceBundle::Source& source, std::span<const fs::path> folders,
@@ -28,12 +38,18 @@ Runtime::Result<void> compileBundle(const SourceBundle::Source& source, std::spa
     auto staged = StagedFolder::create(bundle);
     if (!staged)
         return std::move(staged.error());
-    if (auto written = compileTables(source, *staged, progress); !written)
-        return written;
-    if (auto written = compileAssets(source.catalogs, *staged, diagnostics, progress); !written)
-        return written;
+    const std::string lastMark = contentOfMark(staged->target());
+    const auto tables = compileTables(source, *staged, lastMark, progress);
+    if (!tables)
+        return tables.error();
+    const auto pictures = compileAssets(source.catalogs, *staged, lastMark, diagnostics, progress);
+    if (!pictures)
+        return pictures.error();
     if (diagnostics.hasErrors())
         return {};
+    const std::array<std::string_view, 3> mark = {markText, *tables, *pictures};
+    if (auto written = staged->write(SourceBundle::compiledMark, mark); !written)
+        return written;
     return staged->putInPlace();
 }
 

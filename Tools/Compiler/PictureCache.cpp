@@ -1,8 +1,7 @@
 #include "Compiler/PictureCache.h"
 
 #include "AssetCatalog/internal/Catalog.h"
-#include "Compiler/StagedFolder.h"
-#include "Runtime/internal/File.h"
+#include "Compiler/Records.h"
 #include <algorithm>
 #include <charconv>
 #include <iterator>
@@ -15,42 +14,6 @@ using AssetCatalog::Picture;
 
 namespace {
 
-constexpr std::size_t maxListBytes = std::size_t{256} << 20;
-
-std::string hex(std::uint64_t number) {
-    char digits[16];
-    const auto written = std::to_chars(std::begin(digits), std::end(digits), number, 16);
-    const std::string text(digits, written.ptr);
-    return std::string(16 - text.size(), '0') + text;
-}
-
-std::uint64_t hashOf(std::string_view bytes) {
-    return XXH3_64bits(bytes.data(), bytes.size());
-}
-
-// Reads the fields of a line in order.
-class Fields {
-public:
-    explicit Fields(std::string_view line) : rest_(line) {}
-
-    std::string_view word() {
-        const std::size_t end = std::min(rest_.find(' '), rest_.size());
-        const std::string_view word = rest_.substr(0, end);
-        rest_.remove_prefix(std::min(end + 1, rest_.size()));
-        return word;
-    }
-    template <class Number, class... Base> void read(Number& number, Base... base) {
-        const std::string_view text = word();
-        const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number, base...);
-        isSound_ = isSound_ && failure == std::errc() && end == text.data() + text.size();
-    }
-    bool isSound() const { return isSound_ && rest_.empty(); }
-
-private:
-    std::string_view rest_;
-    bool isSound_ = true;
-};
-
 std::string decimal(double number) {
     char digits[32];
     return {digits, std::to_chars(std::begin(digits), std::end(digits), number).ptr};
@@ -58,18 +21,12 @@ std::string decimal(double number) {
 
 } // namespace
 
-PictureCache PictureCache::of(const fs::path& bundle) {
+PictureCache PictureCache::of(const fs::path& bundle, std::string_view markFile) {
     auto catalog = Runtime::OpenFile::open(bundle / AssetCatalog::fileName, AssetCatalog::maxBytes);
-    const auto list = Runtime::readFile(bundle / SourceBundle::compiledMark, maxListBytes);
-    if (!catalog || !list)
+    if (!catalog)
         return PictureCache(std::nullopt);
     PictureCache cache(*std::move(catalog));
-    std::string_view rest = *list;
-    while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find('\n'), rest.size());
-        cache.readRecord(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
+    eachLine(markFile, [&cache](std::string_view line) { cache.readRecord(line); });
     return cache;
 }
 

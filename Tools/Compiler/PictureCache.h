@@ -19,8 +19,8 @@ namespace Compiler {
 
 class PictureCache {
 public:
-    // The cache of the bundle at that path; empty if there is none or it is unreadable.
-    static PictureCache of(const std::filesystem::path& bundle);
+    // The cache of the bundle at that path, whose mark file has that content; empty if its catalog is unreadable.
+    static PictureCache of(const std::filesystem::path& bundle, std::string_view markFile);
 
     // A hash of everything that the result depends on: the file, its purpose and the versions of the converters.
     [[nodiscard]] static std::string keyOf(std::string_view bytes, const SourcePictures::Purpose& purpose);
@@ -47,7 +47,7 @@ private:
 // The pictures of this compile, by key.
 using MadePictures = std::map<std::string, std::vector<AssetCatalog::Picture>>;
 
-// The list for the mark file of the bundle with `catalog`.
+// The lines of the mark file for the bundle with `catalog`.
 [[nodiscard]] std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog& catalog);
 
 } // namespace Compiler

@@ -115,6 +115,13 @@ bool hasContent(const fs::path& path, std::span<const std::string_view> pieces) 
     return true;
 }
 
+// Creates the folder of a file, unless there is one.
+bool createdFolderOf(const fs::path& file) {
+    std::error_code failed;
+    fs::create_directories(file.parent_path(), failed);
+    return !failed;
+}
+
 // Returns false and sets errno on failure. Not synced to the disk: an output damaged by a power failure can be compiled
 // again.
 bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
@@ -169,13 +176,19 @@ StagedFolder::~StagedFolder() {
 }
 
 Runtime::Result<void> StagedFolder::write(const fs::path& name, std::span<const std::string_view> pieces) const {
-    const fs::path path = staged_ / name;
-    std::error_code failed;
-    fs::create_directories(path.parent_path(), failed); // if this fails, writing fails, too
-    if (hasContent(target_ / name, pieces) && (::unlink(path.c_str()) == 0 || errno == ENOENT) &&
-        ::link((target_ / name).c_str(), path.c_str()) == 0)
+    if (hasContent(target_ / name, pieces) && keep(name))
         return {};
-    return writeNew(path, pieces) ? Runtime::Result<void>() : Runtime::systemError(target_ / name, "cannot be written");
+    const fs::path path = staged_ / name;
+    if (writeNew(path, pieces) || (errno == ENOENT && createdFolderOf(path) && writeNew(path, pieces)))
+        return {};
+    return Runtime::systemError(target_ / name, "cannot be written");
+}
+
+bool StagedFolder::keep(const fs::path& name) const {
+    const fs::path path = staged_ / name;
+    const auto link = [&] { return ::link((target_ / name).c_str(), path.c_str()) == 0; };
+    return link() || (errno == ENOENT && createdFolderOf(path) && link()) ||
+           (errno == EEXIST && ::unlink(path.c_str()) == 0 && link());
 }
 
 Runtime::Result<void> StagedFolder::putInPlace() {

@@ -1,5 +1,6 @@
 // Compiler/StagedFolder.h
 // A folder that is built beside its target and then replaces it atomically.
+// Threads: different files may be written at the same time.
 #pragma once
 
 #include "Runtime/internal/Descriptor.h"
@@ -30,12 +31,14 @@ public:
     [[nodiscard]] const std::filesystem::path& target() const noexcept { return target_; }
 
     // Writes a file below the folder; its content is the concatenation of `pieces`. If the target has the same file, it
-    // is hard-linked, so that it keeps its modification time.
+    // is kept.
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name,
                                               std::span<const std::string_view> pieces) const;
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name, std::string_view bytes) const {
         return write(name, {&bytes, 1});
     }
+    // Hard-links the target's file `name`, so that it keeps its modification time. Returns false if that is impossible.
+    [[nodiscard]] bool keep(const std::filesystem::path& name) const;
     // Moves the folder to the target; an older target is exchanged atomically.
     [[nodiscard]] Runtime::Result<void> putInPlace();
 

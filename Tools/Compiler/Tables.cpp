@@ -1,10 +1,16 @@
 #include "Compiler/Tables.h"
 
+#include "Compiler/TableCache.h"
 #include "Runtime/internal/File.h"
+#include "SourceBundle/Parallel.h"
 #include "StringTables/internal/BundleLayout.h"
 #include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/Table.h"
 #include "StringTables/internal/Writer.h"
+#include <mutex>
+#include <optional>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace Compiler {
@@ -75,9 +81,22 @@ Runtime::Result<void> place(const StagedFolder& out, const fs::path& file, Runti
     return std::move(bytes.error());
 }
 
-// Writes plain texts to TABLE.strings and plurals to TABLE.stringsdict.
-Runtime::Result<void> compileTexts(const LanguageTexts& texts, const StagedFolder& out, const fs::path& folder,
-                                   std::string_view table) {
+// Returns the table's line for the mark file.
+Runtime::Result<std::string> writeTexts(std::span<const Entry> entries, const StagedFolder& out, const fs::path& file,
+                                        const TableCache& last) {
+    const std::string key = TableCache::keyOf(entries);
+    if (const std::optional<std::string> record = last.find(key, out.target() / file); record && out.keep(file))
+        return *record;
+    auto table = StringTables::writeCompiled(entries);
+    std::string record = table ? TableCache::record(key, *table) : "";
+    if (auto written = place(out, file, std::move(table)); !written)
+        return std::move(written.error());
+    return record;
+}
+
+// Writes plain texts to TABLE.strings and plurals to TABLE.stringsdict. Returns the lines for the mark file.
+Runtime::Result<std::string> compileTexts(const LanguageTexts& texts, const StagedFolder& out, const fs::path& folder,
+                                          std::string_view table, const TableCache& last) {
     std::vector<Entry> entries;
     std::vector<StringTables::PluralEntry> plurals;
     for (const SourceBundle::SourceEntry& entry : texts.entries())
@@ -87,28 +106,46 @@ Runtime::Result<void> compileTexts(const LanguageTexts& texts, const StagedFolde
             plurals.push_back({std::string(entry.key), *entry.plural, {}});
     if (!plurals.empty())
         if (auto written = place(out, folder / layout::pluralsFile(table), StringTables::write(plurals)); !written)
-            return written;
-    return entries.empty() && !plurals.empty()
-               ? Runtime::Result<void>()
-               : place(out, folder / layout::textsFile(table), StringTables::writeCompiled(entries));
+            return std::move(written.error());
+    if (entries.empty() && !plurals.empty())
+        return std::string();
+    return writeTexts(entries, out, folder / layout::textsFile(table), last);
 }
 
 } // namespace
 
-Runtime::Result<void> compileTables(const Source& source, const StagedFolder& out, const Progress& progress) {
+Runtime::Result<std::string> compileTables(const Source& source, const StagedFolder& out, std::string_view lastMark,
+                                           const Progress& progress) {
     if (auto written = place(out, layout::informationFile, info(source)); !written)
-        return written;
-    std::size_t all = 0, done = 0;
+        return std::move(written.error());
+    struct Job {
+        std::string_view table;
+        const LanguageTexts& texts;
+        fs::path folder;
+    };
+    std::vector<Job> jobs;
     for (const SourceTable& table : source.tables)
-        all += table.languages.size();
-    for (const SourceTable& table : source.tables)
-        for (const LanguageTexts& texts : table.languages) {
-            const fs::path folder = layout::folderOfLanguage(texts.language);
-            progress((folder / layout::textsFile(table.name)).native(), done++, all);
-            if (auto written = compileTexts(texts, out, folder, table.name); !written)
-                return written;
+        for (const LanguageTexts& texts : table.languages)
+            jobs.push_back({table.name, texts, layout::folderOfLanguage(texts.language)});
+    const TableCache last(lastMark);
+    std::vector<Runtime::Result<std::string>> records(jobs.size(), std::string());
+    std::mutex lock;
+    std::size_t done = 0;
+    SourceBundle::inParallel(jobs.size(), [&](std::size_t i) {
+        const Job& job = jobs[i];
+        {
+            const std::lock_guard guard(lock);
+            progress((job.folder / layout::textsFile(job.table)).native(), done++, jobs.size());
         }
-    return {};
+        records[i] = compileTexts(job.texts, out, job.folder, job.table, last);
+    });
+    std::string all;
+    for (Runtime::Result<std::string>& record : records) {
+        if (!record)
+            return std::move(record.error());
+        all += *record;
+    }
+    return all;
 }
 
 } // namespace Compiler

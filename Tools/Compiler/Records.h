@@ -1,0 +1,53 @@
+// Compiler/Records.h
+// The lines of the mark file, which tell the next compile what it may reuse; internal to the compiler.
+// Threads: pure functions.
+#pragma once
+
+#include <algorithm>
+#include <charconv>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace Compiler {
+
+// 16 lower-case digits.
+[[nodiscard]] std::string hex(std::uint64_t number);
+// The hash by which the next compile finds out whether bytes in the bundle are still the same.
+[[nodiscard]] std::uint64_t hashOf(std::string_view bytes) noexcept;
+
+// Calls use(line) for each line of `list`.
+template <class Use> void eachLine(std::string_view list, const Use& use) {
+    while (!list.empty()) {
+        const std::size_t end = std::min(list.find('\n'), list.size());
+        use(list.substr(0, end));
+        list.remove_prefix(std::min(end + 1, list.size()));
+    }
+}
+
+// Reads the fields of a line in order.
+class Fields {
+public:
+    explicit Fields(std::string_view line) : rest_(line) {}
+
+    std::string_view word() {
+        const std::size_t end = std::min(rest_.find(' '), rest_.size());
+        const std::string_view word = rest_.substr(0, end);
+        rest_.remove_prefix(std::min(end + 1, rest_.size()));
+        return word;
+    }
+    template <class Number, class... Base> void read(Number& number, Base... base) {
+        const std::string_view text = word();
+        const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number, base...);
+        isSound_ = isSound_ && failure == std::errc() && end == text.data() + text.size();
+    }
+    bool isSound() const { return isSound_ && rest_.empty(); }
+
+private:
+    std::string_view rest_;
+    bool isSound_ = true;
+};
+
+} // namespace Compiler

@@ -1,0 +1,102 @@
+#include "Compiler/TableCache.h"
+
+#include "Compiler/Records.h"
+#include "Runtime/internal/File.h"
+#include <cstddef>
+#include <link.h>
+#include <xxhash.h>
+
+namespace Compiler {
+
+namespace {
+
+constexpr std::string_view recordName = "table";
+
+std::size_t aligned(std::size_t size) {
+    return (size + 3) / 4 * 4;
+}
+
+// The build id among the notes of an object, or an empty string.
+std::string_view buildIdIn(std::string_view notes) {
+    while (notes.size() >= sizeof(ElfW(Nhdr))) {
+        const auto* const note = reinterpret_cast<const ElfW(Nhdr)*>(notes.data());
+        notes.remove_prefix(sizeof *note);
+        const std::size_t name = aligned(note->n_namesz);
+        const std::size_t size = name + aligned(note->n_descsz);
+        if (size > notes.size())
+            break;
+        if (note->n_type == NT_GNU_BUILD_ID && notes.substr(0, note->n_namesz) == std::string_view("GNU", 4))
+            return notes.substr(name, note->n_descsz);
+        notes.remove_prefix(size);
+    }
+    return {};
+}
+
+// Takes the build id of the first object, which is the main program.
+int takeBuildId(dl_phdr_info* program, std::size_t, void* out) {
+    for (std::size_t i = 0; i < program->dlpi_phnum; ++i) {
+        const ElfW(Phdr)& header = program->dlpi_phdr[i];
+        if (header.p_type != PT_NOTE)
+            continue;
+        const auto* const begin = reinterpret_cast<const char*>(program->dlpi_addr + header.p_vaddr);
+        if (const auto found = buildIdIn({begin, header.p_memsz}); !found.empty())
+            *static_cast<std::string_view*>(out) = found;
+    }
+    return 1; // stops
+}
+
+// A hash of the program's code, which the linker computed. Another version of the compiler may write other tables.
+std::string_view buildId() {
+    static const std::string_view id = [] {
+        std::string_view found;
+        ::dl_iterate_phdr(takeBuildId, &found);
+        return found;
+    }();
+    return id;
+}
+
+void append(std::string& all, std::string_view text) {
+    const std::size_t size = text.size();
+    all.append(reinterpret_cast<const char*>(&size), sizeof size).append(text);
+}
+
+} // namespace
+
+TableCache::TableCache(std::string_view markFile) {
+    eachLine(markFile, [this](std::string_view line) {
+        Fields fields(line);
+        if (fields.word() != recordName)
+            return;
+        std::string key(fields.word());
+        std::uint64_t hash = 0;
+        fields.read(hash, 16);
+        if (fields.isSound())
+            hashes_.insert_or_assign(std::move(key), hash);
+    });
+}
+
+std::string TableCache::keyOf(std::span<const StringTables::Entry> entries) {
+    std::string all(buildId());
+    if (all.empty())
+        return {};
+    for (const StringTables::Entry& entry : entries) {
+        append(all, entry.key);
+        append(all, entry.text);
+    }
+    const XXH128_hash_t key = XXH3_128bits(all.data(), all.size());
+    return hex(key.high64) + hex(key.low64);
+}
+
+std::string TableCache::record(const std::string& key, std::string_view table) {
+    return key.empty() ? "" : std::string(recordName) + " " + key + " " + hex(hashOf(table)) + "\n";
+}
+
+std::optional<std::string> TableCache::find(const std::string& key, const std::filesystem::path& file) const {
+    const auto known = hashes_.find(key);
+    if (known == hashes_.end())
+        return std::nullopt;
+    const auto bytes = Runtime::readFile(file, StringTables::Table::maxBytes);
+    return bytes && hashOf(*bytes) == known->second ? std::optional(record(key, *bytes)) : std::nullopt;
+}
+
+} // namespace Compiler

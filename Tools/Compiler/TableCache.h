@@ -1,0 +1,35 @@
+// Compiler/TableCache.h
+// Which tables of the last compile may stay as they are; internal to the compiler.
+// Threads: any, after construction.
+#pragma once
+
+#include "StringTables/internal/Table.h"
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Compiler {
+
+class TableCache {
+public:
+    // Reads the list in the content of a mark file. Other lines are skipped.
+    explicit TableCache(std::string_view markFile);
+
+    // A hash of everything that a compiled table depends on: its texts and the code of this program. Empty, which means
+    // that no table is reused, if the program was linked without a build id.
+    [[nodiscard]] static std::string keyOf(std::span<const StringTables::Entry> entries);
+
+    // The line of the mark file for the compiled table.
+    [[nodiscard]] static std::string record(const std::string& key, std::string_view table);
+    // The same for the table at `file`, if it is the one that the last compile made for the key.
+    [[nodiscard]] std::optional<std::string> find(const std::string& key, const std::filesystem::path& file) const;
+
+private:
+    std::map<std::string, std::uint64_t, std::less<>> hashes_; // of the tables, by key
+};
+
+} // namespace Compiler
