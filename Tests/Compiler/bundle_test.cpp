@@ -172,7 +172,7 @@ TEST(CompileBundle, ReusesTheLastCompile) {
     const Support::TemporaryFolder folder;
     const fs::path bundle = folder / "out.bundle", catalog = bundle / "Assets.catalog";
     folder.write("source/Base.lproj/A.strings", "a = b;");
-    folder.write("source/de.lproj/A.strings", "a = ü;");
+    folder.write("source/de.lproj/A.strings", "a = \"ü\";");
     for (const std::string name : {"one", "two"}) {
         folder.write("source/A.xcassets/" + name + ".imageset/Contents.json", R"({"images": [{"filename": "p"}]})");
         folder.write("source/A.xcassets/" + name + ".imageset/p", svg(3, "red"));
