@@ -12,7 +12,7 @@ std::optional<UIKit::UIImage> assetNamed(const std::string& name) {
     return UIImage::assetNamed(name);
 }
 
-// In published order.
+// Callers see them in this order.
 #define LEGACY_IMAGE(name, olderName, asset) Runtime::message<&UIImage::olderName>(#olderName),
 #define LEGACY_NAME(name, olderName, asset) Runtime::message<&UIImage::olderName>(#olderName),
 constexpr Runtime::Message imageProperties[] = {

@@ -1,9 +1,9 @@
 // Lumora/LegacyImages.h
-// The pictures that older screens use by fixed names. Each picture has two functions: legacyAddDiet() and addDiet().
-// They are in the order in which the message properties are published. Callers rely on names that do not match their
-// picture, such as legacyIconOnce() for "icon_month". Threads: any. A picture is looked up once, at the first call of
-// either function; later calls return the same object. Ownership: the pictures live until the process ends. A missing
-// picture stops the process.
+// The pictures that older screens use by fixed names. Each picture has two functions: legacyAddDiet(), and addDiet()
+// for callers of the name that is also published to messages (Runtime/Class.h). Their order is that of the published
+// names. Some names do not match their picture, such as legacyIconOnce() for "icon_month", but callers rely on them.
+// Threads: any. A picture is looked up once, at the first call of either function; later calls return the same object.
+// Ownership: the pictures live until the process ends. A missing picture stops the process.
 #pragma once
 
 #include "Runtime/Export.h"

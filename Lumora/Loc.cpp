@@ -38,6 +38,7 @@ template <class Make> auto createForC(Make make) noexcept -> decltype(make()) {
     }
 }
 
+// The C functions are messages to the same class that older screens use, and add only a fixed flag.
 template <class... Arguments>
 NSString* sendToLocalization(std::string_view selector, const Arguments&... arguments) noexcept {
     return createForC([&] {

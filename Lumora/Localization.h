@@ -33,15 +33,15 @@ public:
     // Whether the current language is Korean, Japanese or Chinese.
     [[nodiscard]] static bool isAsianLocale();
     [[nodiscard]] static bool isCurrentLocalizationRu();
-    [[nodiscard]] static bool isLegacyCurrentLocalizationRu();
+    [[nodiscard]] static bool isLegacyCurrentLocalizationRu(); // the same, for older callers
     // The ids of all languages, in the order of LocalizationCode::allCases().
     [[nodiscard]] static const std::vector<std::string>& allSupportedLocalizations();
     // The languages without region or script, each once, in no particular order.
     [[nodiscard]] static const std::vector<std::string>& allSupportedHandbookLocalizations();
 
-    // The text of `key` in the main table of the language `code` ("ru", "es-419"; "en" and "Base" are the development
-    // texts), without formatting. Empty when the key is empty or anything is missing. Reads the table's file at every
-    // call.
+    // The text of `key` in the main table, Localizable, of the language `code` ("ru", "es-419"; "en" and "Base" are the
+    // development texts), without formatting. Empty when the key is empty or anything is missing. Reads the table's
+    // file at every call.
     [[nodiscard]] static std::string localizationFileTranslation(std::string_view code, std::string_view key);
     // The text of `key` in the main table of the current language, without formatting; `key` itself when it has none.
     [[nodiscard]] static std::string legacyTr(std::string_view key);
@@ -57,7 +57,7 @@ public:
     [[nodiscard]] static std::string legacyTrPercent(double value, bool showPlus);
     // A number of years as currentLocale() spells it: "25 лет". Empty when the language data is missing.
     [[nodiscard]] static std::string legacyTrYear(std::int64_t value);
-    // The same; in some languages a phrase of the main table instead.
+    // The same; but in seven languages, such as English, locYears(), whose words are in the main table.
     [[nodiscard]] static std::string legacyTrAge(std::int64_t age);
 };
 

@@ -1,5 +1,6 @@
 // Lumora/LocalizationCode.h
-// The languages that the application supports.
+// The languages that the application supports. The namespace is that of the library in which the application's code
+// expects this type.
 // Text: ASCII. Threads: values and constants.
 #pragma once
 
@@ -14,6 +15,7 @@ namespace Corvane {
 
 class LUMORA_EXPORT LocalizationCode {
 public:
+    // `id_` is Indonesian; id() has its name.
     enum Case : std::uint8_t { ar, de, en, es, es419, fr, id_, it, ja, ko, nl, pl, ptBR, ptPT, ru, th, tr, vi, zhHans };
 
     constexpr LocalizationCode(Case code) noexcept : case_(code) {}

@@ -17,7 +17,7 @@ std::string legacyTr(const std::string& key) {
     return Localization::legacyTr(key);
 }
 
-// In published order.
+// Callers see them in this order.
 constexpr Runtime::Message properties[] = {
     Runtime::message<&Localization::currentLocale>("currentLocale"),
     Runtime::message<&Localization::isAsianLocale>("isAsianLocale"),

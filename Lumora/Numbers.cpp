@@ -53,7 +53,7 @@ std::string Localization::legacyTrNumber(const NSNumber& number, bool needSign) 
         if (needSign)
             formatter.setPositivePrefix(formatter.plusSign());
         std::optional<std::string> text = formatter.stringFromNumber(number);
-        // Older screens rely on this difference: only a signed number without a text is fatal.
+        // Older screens rely on this difference: without a text, only a signed number stops the process.
         if (!text && needSign)
             Runtime::fatalError("Unable to format a signed number", "Localization+Lumora", __LINE__);
         return std::move(text).value_or("");

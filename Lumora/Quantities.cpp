@@ -1,4 +1,4 @@
-// Plural forms, quantity phrases and ages.
+// Plural forms, numbers with a noun, and ages.
 #include "Lumora/LumoraStrings+Members.h"
 
 #include "Foundation/DateComponents.h"
@@ -64,7 +64,8 @@ std::string locWeeks(std::int64_t count) {
 
 namespace {
 
-// Languages whose ages are phrases of the table. Russian is left out on purpose, although the plural rule is Russian.
+// Languages whose ages are locYears(); the others use legacyTrYear(). Russian is one of the others on purpose, although
+// the rule of getSuffix() is the Russian one.
 constexpr std::array<LocalizationCode, 7> keyedAgeCodes = {
     LocalizationCode::en, LocalizationCode::de, LocalizationCode::tr,    LocalizationCode::ko,
     LocalizationCode::vi, LocalizationCode::ja, LocalizationCode::zhHans};

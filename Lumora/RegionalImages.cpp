@@ -7,7 +7,8 @@ namespace Lumora::UIImage {
 
 namespace {
 
-// Unused, but sources of older screens expect this name. Pictures come from LumoraResources::bundle().
+// The type by which this file's code could find its bundle. It stays empty and unused, because there is only one way to
+// the bundle: LumoraResources::bundle().
 class ResourceBundleClass {};
 
 using Candidates = std::initializer_list<const char*>;

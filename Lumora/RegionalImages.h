@@ -32,8 +32,8 @@ namespace Lumora::UIImage {
 [[nodiscard]] LUMORA_EXPORT std::optional<UIKit::UIImage> assetOnboardingStep3(std::string_view region);
 [[nodiscard]] LUMORA_EXPORT std::optional<UIKit::UIImage> assetOnboardingStep4(std::string_view region);
 
-// There are pictures of Russian men and women and of Arab men; all others get the picture of an Arab woman. "Taget" is a
-// misspelled "target"; existing callers use these names.
+// There are pictures of Russian men and women and of Arab men; all others get the picture of an Arab woman. "Taget" is
+// a misspelled "target"; existing callers use these names.
 [[nodiscard]] LUMORA_EXPORT UIKit::UIImage trainingTagetLossImage(std::string_view gender, std::string_view region);
 [[nodiscard]] LUMORA_EXPORT UIKit::UIImage trainingTagetGainImage(std::string_view gender, std::string_view region);
 [[nodiscard]] LUMORA_EXPORT UIKit::UIImage trainingTagetMaintainImage(std::string_view gender, std::string_view region);

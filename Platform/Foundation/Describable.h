@@ -75,8 +75,7 @@ concept Sequence = requires(const T& value) {
 // The description of a value:
 // - a string (std::string, std::string_view, const char*; a null pointer is "nil") or a character: itself;
 // - a bool, or an element of a std::vector<bool>: "true" or "false"; an integer: its decimal digits;
-// - a floating number: the fewest digits that give the same value back, with a point or an exponent: "2.0", "0.1",
-// "1e+16";
+// - a floating-point number: the fewest digits that give the same value, with a point or an exponent: "0.1", "1e+16";
 // - a type with `std::string describe(const T&)` in its namespace: what that returns;
 // - an optional: "nil" or "Optional(5)", and std::nullopt: "nil"; a sequence: "[1, 2]". Texts inside are quoted: ["a"];
 // Borrows strings, which must outlive it. Only results of describe(), optionals and sequences allocate memory. If that

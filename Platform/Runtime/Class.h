@@ -1,6 +1,7 @@
 // Runtime/Class.h
-// Message dispatch by name, for callers that know classes and selectors only as strings. A class publishes constant
-// tables; nothing is registered before the first look-up.
+// Calls of static functions by name, for callers that know class and function only as strings: a caller sends a message
+// with a selector, such as "legacyTrAge:", and its arguments; the class finds the function that it has published under
+// that selector. A class publishes constant tables; nothing is registered before the first look-up.
 // Threads: any. Ownership: classes live as long as the library; results belong to the caller.
 #pragma once
 
@@ -38,7 +39,7 @@ using Carried = std::conditional_t<
                                           std::conditional_t<std::convertible_to<T, std::string_view>, std::string,
                                                              std::remove_cvref_t<T>>>>>;
 
-// A message's argument as the receiver sees it.
+// An argument of a message: a value in its Carried type.
 struct Argument {
     TypeTag type;
     const void* value;

@@ -7,7 +7,7 @@ namespace Runtime::detail {
 
 bool OnceState::enter() noexcept {
     const std::atomic_ref state(state_);
-    const std::uint32_t mine = static_cast<std::uint32_t>(::getpid()) << 1;
+    const std::uint32_t mine = static_cast<std::uint32_t>(::getpid()) << 1; // even, so it never equals `made`
     std::uint32_t seen = empty;
     while (!state.compare_exchange_strong(seen, mine, std::memory_order_acquire)) {
         if (seen == made)

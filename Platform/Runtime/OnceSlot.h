@@ -25,7 +25,7 @@ public:
     LUMORA_EXPORT void leave(bool isMade) noexcept;
 
 private:
-    // Any other state is the id of the process in which a thread is creating the value.
+    // Any other state is twice the id of the process in which a thread is creating the value.
     static constexpr std::uint32_t empty = 0, made = 1;
 
     std::uint32_t state_ = empty;

@@ -3,7 +3,7 @@
 //
 //     struct AssetModule {
 //         static const Foundation::NSBundle& bundle();
-//         static constexpr std::string_view sourceName = "TuistAssets+Lumora"; // for error reports
+//         static constexpr std::string_view sourceName = "TuistAssets+Lumora"; // the file that error reports name
 //         class Catalog; // the only class that can create records
 //     };
 //     using LumoraImages = SwiftUI::ImageRecord<AssetModule>;
@@ -42,8 +42,8 @@ namespace detail {
 
 enum class AssetKind : std::uint8_t { image, color, data };
 
-// The source line that the report of a missing asset names for each kind. The numbers stay the same in all versions, so
-// that their crash reports can be compared.
+// The line that the report of a missing asset names for each kind. File and line are those that existing crash reports
+// name, so that reports of all versions can be compared.
 inline constexpr std::uint32_t colorReportLine = 587, dataReportLine = 645, imageReportLine = 685;
 
 // Stops the process, because a module without one of its assets was built incorrectly. If the asset is unreadable

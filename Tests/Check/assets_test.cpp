@@ -44,7 +44,7 @@ TEST(Check, FindsFaultsOfAssets) {
          {"asset-unassigned:3:2  a"}},
         {__LINE__, "a.imageset", "{\"filename\": }", {"unreadable-asset:2:14  a"}},
         {__LINE__, "a.imageset", R"({"filename": "../a.svg"})", {"unreadable-asset:2:1  a"}},
-        // A missing file is not an empty slot; one finding.
+        // For a missing file there is one finding; its scale does not count as missing, too.
         {__LINE__,
          "a.imageset",
          "{\"filename\": \"a.svg\"},\n{\"filename\": \"a@2x.png\", \"scale\": \"2x\"}",

@@ -27,8 +27,8 @@
 namespace {
 
 constexpr long never = std::numeric_limits<long>::max();
-long before = never;  // number of allocations before the failing one
-bool failsOn = false; // whether all later ones fail, too
+long before = never;        // number of allocations before the failing one
+bool laterOnesFail = false; // all allocations after the failing one
 bool hasFailed = false;
 
 bool isOfIcu(void* code) noexcept {
@@ -41,7 +41,7 @@ bool fails(void* caller = nullptr) noexcept {
     if (before == never || isOfIcu(caller) || before-- > 0)
         return false;
     hasFailed = true;
-    before = failsOn ? 0 : never;
+    before = laterOnesFail ? 0 : never;
     return true;
 }
 
@@ -172,10 +172,10 @@ bool leaks([[maybe_unused]] long n) {
 
 // Runs the case with its (n+1)-th allocation failing. Returns 0 when the result is correct, 1 when no allocation
 // failed.
-int attempt(const Case& one, long n, bool on) {
+int attempt(const Case& one, long n, bool laterToo) {
     Foundation::Host::setPreferredLanguages({"ru"});
     std::optional<std::string> first;
-    failsOn = on;
+    laterOnesFail = laterToo;
     before = n;
     // Allocations of the test itself may throw, and so may the platform.
     try {
@@ -196,13 +196,13 @@ int attempt(const Case& one, long n, bool on) {
 TEST(NoMemory, CachesNothing) {
     const Support::TemporaryFolder folder;
     writeXmlBundle(folder);
-    for (const bool on : {false, true})
+    for (const bool laterToo : {false, true})
         for (const Case& one : cases) {
             for (int children = 0, code = 0; children < Child::repetitions && code <= 1;) { // 1: the read has no more
                 long n = 0;
-                for (; (code = Child::exitOf([&] { return attempt(one, n, on); })) == 0; ++children)
+                for (; (code = Child::exitOf([&] { return attempt(one, n, laterToo); })) == 0; ++children)
                     n += n < Child::repetitions ? 1 : 7; // later allocations are alike, one for each entry
-                EXPECT_EQ(code, 1) << one.name << ", allocation " << n << (on ? " and all after it" : "");
+                EXPECT_EQ(code, 1) << one.name << ", allocation " << n << (laterToo ? " and all after it" : "");
                 ASSERT_GT(n, 2) << one.name;
             }
         }
@@ -211,7 +211,7 @@ TEST(NoMemory, CachesNothing) {
 // A plain read never throws.
 TEST(NoMemory, APlainReadNeverThrows) {
     EXPECT_EQ(Child::exitOf([] {
-                  failsOn = true;
+                  laterOnesFail = true;
                   before = 0;
                   const std::string& text = Texts::continue_();
                   const bool isEmpty = text.empty() && &text == &Texts::continue_();
@@ -277,7 +277,7 @@ TEST(NoMemory, ADescriptionIsEmpty) {
     EXPECT_EQ(Child::exitOf([] {
                   const std::vector<std::string> list = {longText, longText};
                   const std::vector<std::vector<std::string>> lists = {list, list};
-                  failsOn = true;
+                  laterOnesFail = true;
                   for (const long n : {0, 1, 2, 3}) {
                       before = n;
                       if (!Foundation::Describable(lists).text().empty())
@@ -291,7 +291,7 @@ TEST(NoMemory, ADescriptionIsEmpty) {
 TEST(NoMemory, AReportIsWritten) {
     EXPECT_EXIT(
         {
-            failsOn = true;
+            laterOnesFail = true;
             before = 0;
             Runtime::send<std::string>(Runtime::classNamed("Lumora.Localization"), "noSuchMessage");
         },

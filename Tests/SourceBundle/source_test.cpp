@@ -81,7 +81,7 @@ TEST(Source, NamesItsDevelopmentLanguage) {
         {__LINE__, "CFBundleDevelopmentRegion = German;", "", "de", {}},
         {__LINE__, "CFBundleDevelopmentRegion = de;", "French", "fr", {}},
         {__LINE__, "CFBundleDevelopmentRegion = \"\";", "", "en", {}},
-        {__LINE__, "CFBundleDevelopmentRegion = it_IT;", "", "it", {}}, // as the folder that there is
+        {__LINE__, "CFBundleDevelopmentRegion = it_IT;", "", "it", {}}, // the nearest language with a folder
         {__LINE__, nullptr, "zh-hans-CN", "zh_Hans", {}},
         {__LINE__, nullptr, "pt-BR", "pt-BR", {}},
         {__LINE__, "<plist><dict><key>More</key><array/></dict></plist>", "", "en", {}}, // gives no message

@@ -26,7 +26,7 @@ inline Pairs read(std::string bytes) {
 }
 
 // The error of an invalid table; empty if it is valid.
-inline std::string refusal(std::string bytes) {
+inline std::string errorOf(std::string bytes) {
     const auto table = StringTables::Table::read(std::move(bytes));
     return table ? "" : table.error().text();
 }

@@ -3,9 +3,9 @@
 namespace {
 
 using namespace std::string_literals;
+using Tables::errorOf;
 using Tables::Pairs;
 using Tables::read;
-using Tables::refusal;
 
 std::string bigEndian(std::uint64_t number, std::size_t size) {
     std::string out;
@@ -152,9 +152,9 @@ TEST(BinaryTable, RejectsWithLocationAndReason) {
         {__LINE__, edited(23, "\x13\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF"), "byte 22: a string reaches beyond the objects"},
     };
     for (const auto& [line, source, expected] : cases)
-        EXPECT_EQ(refusal(source), expected) << "line " << line;
-    EXPECT_EQ(refusal(file({"\xD1\1\2", "\x51k", "\x5F"})), "byte 13: an object without its size");
-    EXPECT_EQ(refusal(file({"\xD1\1\2", "\x51k", "\x5F\x13\0\0"s})), "byte 13: an object without its size");
+        EXPECT_EQ(errorOf(source), expected) << "line " << line;
+    EXPECT_EQ(errorOf(file({"\xD1\1\2", "\x51k", "\x5F"})), "byte 13: an object without its size");
+    EXPECT_EQ(errorOf(file({"\xD1\1\2", "\x51k", "\x5F\x13\0\0"s})), "byte 13: an object without its size");
 }
 
 TEST(BinaryTable, SurvivesDamage) {
@@ -196,8 +196,8 @@ TEST(BinaryTable, TakesLinearTime) {
         objects[i] = head('\x5F', ((count - i) * 10 + 4) & 0x7F7F7F7F) + "    ";
     objects[0] = head('\xDF', count) + own + own;
     objects.pop_back();
-    EXPECT_NE(refusal(file(objects, 4, 4)).find("a string reaches into the next object"), std::string::npos);
-    EXPECT_NE(refusal(disordered(objects, 4, 4)).find("the strings together are longer than the file"),
+    EXPECT_NE(errorOf(file(objects, 4, 4)).find("a string reaches into the next object"), std::string::npos);
+    EXPECT_NE(errorOf(disordered(objects, 4, 4)).find("the strings together are longer than the file"),
               std::string::npos);
 }
 

@@ -146,9 +146,9 @@ TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
         std::string damaged = bytes;
         for (std::size_t i = at; i < at + size; ++i)
             damaged[i] = static_cast<char>(damaged[i] ^ 0x04);
-        const std::string refusal = Tables::refusal(damaged);
-        EXPECT_NE(refusal, "") << "line " << line;
-        EXPECT_NE(refusal.find(error), std::string::npos) << "line " << line << ": " << refusal;
+        const std::string errorOf = Tables::errorOf(damaged);
+        EXPECT_NE(errorOf, "") << "line " << line;
+        EXPECT_NE(errorOf.find(error), std::string::npos) << "line " << line << ": " << errorOf;
         const std::string path = file(damaged);
         for (const int before : {0, 8}) {
             std::size_t missing = 0;
@@ -179,11 +179,11 @@ TEST_F(CompiledTable, DetectsAnIndexThatContradictsTheDictionary) {
     std::string exchanged = one, marked = one;
     const std::size_t values = Parts(one).index.front() + 3; // after the marker and two keys
     std::swap(exchanged[values], exchanged[values + 1]);
-    EXPECT_NE(Tables::refusal(exchanged).find("the table's index contradicts the entry \"a\""), std::string::npos);
+    EXPECT_NE(Tables::errorOf(exchanged).find("the table's index contradicts the entry \"a\""), std::string::npos);
     // A damaged mark is detected, at the index and at the end of the file.
     marked[15] = 'x';
-    EXPECT_EQ(Tables::refusal(marked), "byte 8: the table's index is damaged");
-    EXPECT_EQ(Tables::refusal(marked.replace(8, 16, std::string(16, '\1'))), "byte 8: the table's index is damaged");
+    EXPECT_EQ(Tables::errorOf(marked), "byte 8: the table's index is damaged");
+    EXPECT_EQ(Tables::errorOf(marked.replace(8, 16, std::string(16, '\1'))), "byte 8: the table's index is damaged");
 }
 
 // After any edit or truncation, a lookup returns the key's own text or none.

@@ -115,7 +115,7 @@ TEST(Placeholder, GivesTheSignatureOfAFormat) {
         {__LINE__, "%1$@ %2$d %1$d %2$f", "ti 1ti"},
         {__LINE__, "%*.*f %", "iin %"},
         {__LINE__, "%2$*1$f %@", "in m 1it"},
-        {__LINE__, "%9999$@ %9998$d", std::string(255, '-') + "t"}, // those behind the last are one
+        {__LINE__, "%9999$@ %9998$d", std::string(255, '-') + "t"}, // all from the 256th on count as one
     };
     for (const auto& [line, format, expected] : cases)
         EXPECT_EQ(described(format), expected) << "line " << line;

@@ -3,9 +3,9 @@
 namespace {
 
 using namespace std::string_literals;
+using Tables::errorOf;
 using Tables::Pairs;
 using Tables::read;
-using Tables::refusal;
 
 TEST(TextTable, ReadsRealisticFiles) {
     const struct {
@@ -117,8 +117,8 @@ TEST(TextTable, RejectsWithLocationAndReason) {
         {__LINE__, "a = " + std::string(200, '(') + std::string(200, ')'), "1:133: nested too deeply"},
     };
     for (const auto& [line, source, expected] : cases)
-        EXPECT_EQ(refusal(source), expected) << "line " << line;
-    EXPECT_EQ(refusal(std::string(StringTables::Table::maxBytes + 1, ' ')), "the table is larger than 268435456 bytes");
+        EXPECT_EQ(errorOf(source), expected) << "line " << line;
+    EXPECT_EQ(errorOf(std::string(StringTables::Table::maxBytes + 1, ' ')), "the table is larger than 268435456 bytes");
 }
 
 TEST(TextTable, NotesSkippedValues) {
@@ -201,10 +201,10 @@ TEST(TextTable, TakesLinearTime) {
         std::string hostile;
         while (hostile.size() < large / 16)
             hostile += piece;
-        (void)refusal(hostile);
+        (void)errorOf(hostile);
         if (const auto table = StringTables::Table::read(hostile))
             (void)table->comments();
-        (void)refusal("a=" + hostile);
+        (void)errorOf("a=" + hostile);
     }
 }
 
@@ -213,7 +213,7 @@ TEST(TextTable, IsBounded) {
     std::string source;
     for (std::size_t i = 0; i <= StringTables::Table::maxEntries; ++i)
         source += std::to_string(i) + ";";
-    EXPECT_EQ(refusal(source),
+    EXPECT_EQ(errorOf(source),
               "1:" + std::to_string(source.rfind(';', source.size() - 2) + 2) + ": the table has too many entries");
 }
 

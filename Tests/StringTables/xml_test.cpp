@@ -3,9 +3,9 @@
 namespace {
 
 using namespace std::string_literals;
+using Tables::errorOf;
 using Tables::Pairs;
 using Tables::read;
-using Tables::refusal;
 
 const std::string head = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                          "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
@@ -95,7 +95,7 @@ TEST(XmlTable, RejectsWithLocationAndReason) {
         {__LINE__, plist("<key>a</key>" + arrays), "1:922: nested too deeply"},
     };
     for (const auto& [line, source, expected] : cases)
-        EXPECT_EQ(refusal(source), expected) << "line " << line;
+        EXPECT_EQ(errorOf(source), expected) << "line " << line;
 }
 
 TEST(XmlTable, SurvivesDamage) {
@@ -108,8 +108,8 @@ TEST(XmlTable, SurvivesDamage) {
 TEST(XmlTable, TakesLinearTime) {
     const std::size_t large = 10 << 20;
     EXPECT_EQ(read(plist("<key>k</key><string>" + std::string(large, 'x') + "</string>"))[0].second.size(), large);
-    EXPECT_NE(refusal("<plist a='" + std::string(large, 'x')), "");
-    EXPECT_NE(refusal("<!DOCTYPE plist [" + std::string(large, ' ')), "");
+    EXPECT_NE(errorOf("<plist a='" + std::string(large, 'x')), "");
+    EXPECT_NE(errorOf("<!DOCTYPE plist [" + std::string(large, ' ')), "");
 }
 
 } // namespace

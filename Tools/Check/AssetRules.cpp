@@ -176,7 +176,7 @@ private:
         }
     }
 
-    // Reports an empty slot for dark mode, or a colour without a dark variant in a catalog that has some.
+    // Reports an empty entry for dark mode, or a colour without a dark variant in a catalog that has some.
     void checkDark(Set& set, bool isExpected) {
         if (std::ranges::any_of(set.entries, isFilledDark))
             return;

@@ -9,7 +9,7 @@
 
 namespace Check {
 
-// Reads the Contents.json of each asset again, because SourceAsset does not include empty slots.
+// Reads the Contents.json of each asset again, because SourceAsset does not have entries without a file or colour.
 void checkAssets(std::span<const SourceBundle::SourceAsset> assets, Report& report);
 
 } // namespace Check

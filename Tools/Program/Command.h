@@ -53,6 +53,7 @@ void note(std::string_view what);
 // Writes all diagnostics, errors last, with equal messages grouped, and a line with their numbers. A single diagnostic
 // has the numbers on its own line. Returns Exit::wrongUse if there are errors.
 Exit report(const SourceBundle::Diagnostics& diagnostics);
+
 // A line on the terminal that shows the current step of work that lasts for more than a second.
 class ProgressLine {
 public:
@@ -68,6 +69,7 @@ private:
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
     bool isShown_ = false;
 };
+
 // Writes to standard output; reports an error when that fails.
 Exit print(std::string_view bytes);
 // Writes to the file given by the option -o, or to standard output for "-".

@@ -27,7 +27,7 @@ struct SetEntry {
         [[nodiscard]] std::string text() const;
     } device{};
 
-    // Whether the entry has a file or a colour; others are empty slots of the editor.
+    // Whether the entry has a file or a colour. Editors of catalogs also write entries that nobody has filled.
     [[nodiscard]] bool isFilled() const;
     // `entry 3 ("picture.png")`; without a name if it has no file.
     [[nodiscard]] std::string label() const;

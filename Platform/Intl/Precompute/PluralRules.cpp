@@ -168,11 +168,17 @@ std::string integerExpression(const std::vector<std::string>& conditions) {
 }
 
 struct RuleSet {
-    std::string code;
+    std::string code{};
     unsigned categories = 0;        // one bit per category
     unsigned integerCategories = 0; // those that occur for integers
     std::string expression = never;
 };
+
+// For languages without rules: every number has the category `other`.
+RuleSet onlyOther() {
+    constexpr unsigned other = 1U << indexOf(PluralCategory::other);
+    return {.categories = other, .integerCategories = other};
+}
 
 RuleSet ruleSet(const std::map<std::string, std::string>& rules) {
     RuleSet set;
@@ -209,8 +215,7 @@ std::string pluralRules() {
     for (const auto& [language, name] : texts(child(all, "locales"))) {
         const auto [number, isNew] = numbers.emplace(name, std::to_string(numbers.size()));
         if (isNew) {
-            const RuleSet set =
-                name.empty() ? RuleSet{"", 0x20, 0x20, never} : ruleSet(texts(child(rules, name.c_str())));
+            const RuleSet set = name.empty() ? onlyOther() : ruleSet(texts(child(rules, name.c_str())));
             code += "    case " + number->second + ":\n" + set.code + "        break;\n";
             categories +=
                 "    {" + std::to_string(set.categories) + ", " + std::to_string(set.integerCategories) + "},\n";

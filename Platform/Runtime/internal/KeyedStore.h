@@ -87,7 +87,7 @@ private:
         }
 
     private:
-        static constexpr unsigned levels = 24;
+        static constexpr unsigned levels = 24; // of two bits each, fewer than a hash has
         std::uint64_t bits_;
         std::string_view key_;
         unsigned level_ = 0;

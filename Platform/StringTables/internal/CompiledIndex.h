@@ -74,7 +74,7 @@ public:
 private:
     friend class CompiledIndexWriter;
     static constexpr std::size_t markAt = 14;
-    static constexpr std::string_view mark = "\x1Flumix\x01\x1E";
+    static constexpr std::string_view mark = "\x1Flumix\x01\x1E"; // a name ("Lumora index") and its version, 1
     static constexpr std::size_t trailerSize = 32;
     static constexpr std::string_view trailerMark = "lumix"; // in the unused bytes of the trailer
 
