@@ -1,4 +1,4 @@
-// Assets: opening the compiled catalog, looking up a name, reading a colour record, decoding a picture.
+// Assets: opening the compiled catalog, looking up a name, reading a colour record.
 #include "AssetCatalog/internal/Catalog.h"
 #include <Lumora/Lumora.h>
 

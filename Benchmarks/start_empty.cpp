@@ -1,3 +1,4 @@
+// Starts, prints a text without any library for texts, and ends.
 #include <iostream>
 
 int main() {

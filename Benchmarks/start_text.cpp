@@ -1,3 +1,4 @@
+// Starts, prints one text of Lumora, and ends.
 #include <Lumora/LumoraStrings.h>
 
 #include <iostream>

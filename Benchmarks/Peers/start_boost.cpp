@@ -1,3 +1,4 @@
+// Starts, prints one text of a gettext catalog with Boost.Locale, and ends.
 #include <boost/locale.hpp>
 #include <iostream>
 

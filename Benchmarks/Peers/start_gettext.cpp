@@ -1,3 +1,4 @@
+// Starts, prints one text of a gettext catalog, and ends.
 #include <clocale>
 #include <iostream>
 #include <libintl.h>

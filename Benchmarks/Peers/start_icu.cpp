@@ -1,3 +1,4 @@
+// Starts, prints one text of an ICU resource bundle, and ends.
 #include <iostream>
 #include <unicode/resbund.h>
 

@@ -1,3 +1,4 @@
+// Starts, prints one text of a Qt catalog, and ends.
 #include <QTranslator>
 
 #include <iostream>

@@ -1,3 +1,4 @@
+// The names of enumerators in source catalogs and messages.
 #include "AssetCatalog/internal/Model.h"
 
 namespace AssetCatalog {

@@ -1,3 +1,4 @@
+// Decodes JPEG files with libjpeg-turbo.
 #include "Pictures/internal/Decoders.h"
 #include "Pictures/internal/LongjmpScope.h"
 

@@ -1,3 +1,4 @@
+// The decoders for programs and the plug-in, which link them.
 #include "Pictures/internal/Decoders.h"
 
 namespace Pictures {

@@ -1,3 +1,4 @@
+// Decodes PNG files with libpng.
 #include "Pictures/internal/Decoders.h"
 #include "Pictures/internal/LongjmpScope.h"
 

@@ -1,3 +1,4 @@
+// Reads a table of texts from a binary property list, in one pass over its dictionary.
 #include "StringTables/internal/BinaryObjects.h"
 #include "StringTables/internal/CompiledTable.h"
 

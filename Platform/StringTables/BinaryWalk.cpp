@@ -1,3 +1,4 @@
+// Reads any binary property list into a sink, nested dictionaries included.
 #include "StringTables/internal/BinaryObjects.h"
 #include "StringTables/internal/PropertyListSink.h"
 #include <unordered_map>

@@ -1,3 +1,4 @@
+// Writes compiled tables: a binary property list with an index.
 #include "StringTables/internal/BinaryWriter.h"
 #include "StringTables/internal/CompiledIndex.h"
 #include "StringTables/internal/Scan.h"

@@ -1,3 +1,4 @@
+// Parses XML with expat; part of the plug-in, and of programs that link it.
 #include "StringTables/internal/XmlParser.h"
 
 #include <algorithm>

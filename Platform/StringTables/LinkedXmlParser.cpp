@@ -1,3 +1,4 @@
+// xmlParser() of programs that link the parser.
 #include "StringTables/internal/XmlParser.h"
 
 namespace StringTables::internal {

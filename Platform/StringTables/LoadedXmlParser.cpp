@@ -1,3 +1,4 @@
+// xmlParser() of the platform, which loads the plug-in.
 #include "StringTables/internal/XmlParser.h"
 
 #include "Runtime/internal/Plugin.h"

@@ -1,3 +1,4 @@
+// Writes plural tables.
 #include "StringTables/internal/PluralTable.h"
 
 #include "StringTables/internal/BinaryWriter.h"

@@ -1,3 +1,4 @@
+// Reads the text form of tables: "key" = "text";
 #include "StringTables/internal/Contents.h"
 #include "StringTables/internal/TextEscapes.h"
 #include "StringTables/internal/TextSyntax.h"

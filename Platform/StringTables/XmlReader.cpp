@@ -1,3 +1,4 @@
+// Reads XML property lists into a sink.
 #include "StringTables/internal/PropertyListSink.h"
 #include "StringTables/internal/XmlParser.h"
 

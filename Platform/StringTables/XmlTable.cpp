@@ -1,3 +1,4 @@
+// Reads a table of texts from an XML property list.
 #include "StringTables/internal/PropertyListSink.h"
 
 namespace StringTables::internal {

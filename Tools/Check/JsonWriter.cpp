@@ -1,3 +1,4 @@
+// Writes findings as JSON.
 #include "Check/Writers.h"
 
 #include "SourceBundle/MessageText.h"

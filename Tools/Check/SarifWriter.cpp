@@ -1,3 +1,4 @@
+// Writes findings as SARIF.
 #include "Check/Writers.h"
 
 #include "Generator/CodeText.h"

@@ -1,3 +1,4 @@
+// Writes findings as text for a terminal.
 #include "Check/Writers.h"
 
 #include "Generator/CodeText.h"

@@ -1,3 +1,4 @@
+// Reads PO files.
 #include "Exchange/Languages.h"
 #include "Exchange/PluralExpression.h"
 #include "Exchange/Po.h"

@@ -1,3 +1,4 @@
+// Writes PO files.
 #include "Exchange/Languages.h"
 #include "Exchange/Po.h"
 #include "Exchange/PoEntries.h"

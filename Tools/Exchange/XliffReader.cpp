@@ -1,3 +1,4 @@
+// Reads XLIFF files.
 #include "Exchange/Xliff.h"
 
 #include "Exchange/Xml.h"
@@ -27,8 +28,8 @@ bool isOneOf(std::string_view name, std::initializer_list<std::string_view> name
 // The character of <ph ctype="x-character" equiv-text="1F"/>.
 std::optional<std::string> character(const XmlNode& node) {
     constexpr int hexadecimal = 16;
-    constexpr std::uint32_t end =
-        0xD800; // the characters that XML cannot represent are below it, except U+FFFE and U+FFFF
+    // XML cannot represent some characters below this one, and U+FFFE and U+FFFF.
+    constexpr std::uint32_t end = 0xD800;
     const std::string* const type = node.attribute("ctype");
     const std::string* const digits = node.attribute("equiv-text");
     if (node.name != "ph" || type == nullptr || *type != "x-character" || digits == nullptr)
@@ -50,6 +51,7 @@ public:
     Runtime::Result<std::vector<Translations>> read() {
         const XmlNode& root = document_.root();
         const std::string* const version = root.attribute("version");
+        // The elements that are read are the same in older versions.
         if (root.name != "xliff" || version == nullptr || !version->starts_with("1."))
             return error(root, "not XLIFF 1.2");
         for (const XmlNode& child : root.children)

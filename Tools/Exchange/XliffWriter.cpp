@@ -1,3 +1,4 @@
+// Writes XLIFF files.
 #include "Exchange/Xliff.h"
 
 #include "Exchange/Xml.h"

@@ -1,5 +1,5 @@
 // Intl/internal/ScriptVariants.h
-// Knows which languages are written in several scripts.
+// The languages that are written in several scripts.
 // Text: ASCII. Threads: any; constant data.
 #pragma once
 
