@@ -1,4 +1,4 @@
-// Looks up texts of the main table by key.
+// Looks up texts of the main table, Localizable, by key.
 #include "Lumora/Localization.h"
 
 #include "Foundation/NSDictionary.h"

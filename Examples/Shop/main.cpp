@@ -34,7 +34,7 @@ void showPlurals() {
     show("  " + Orders::arrivesInDays(3));
 }
 
-// In the light and in the dark style.
+// Shows a colour as it is in light and in dark mode.
 void showColor(const char* name, const UIKit::UIColor& color) {
     for (const auto style : {UIKit::UserInterfaceStyle::light, UIKit::UserInterfaceStyle::dark}) {
         UIKit::UITraitCollection::setCurrent({.userInterfaceStyle = style});

@@ -2,6 +2,7 @@
 // line of eight bytes after '#' is an integer, after '.' a floating-point number.
 #include "Foundation/String.h"
 
+#include "../Require.h"
 #include <cstring>
 #include <vector>
 
@@ -34,10 +35,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string text = Foundation::String::format(format, locale, arguments);
     // In every locale, digits, separators and padding have at most that many bytes.
     constexpr std::size_t longestSymbol = 16;
-    if (text.size() > format.size() * longest * longestSymbol ||
-        text.size() > format.size() + Foundation::String::largestGrowth)
-        __builtin_trap();
-    if (format.find('%') == std::string_view::npos && text != format)
-        __builtin_trap();
+    require(text.size() <= format.size() * longest * longestSymbol);
+    require(text.size() <= format.size() + Foundation::String::largestGrowth);
+    require(format.find('%') != std::string_view::npos || text == format);
     return 0;
 }

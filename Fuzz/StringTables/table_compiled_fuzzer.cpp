@@ -30,7 +30,8 @@ private:
 // The text of `key`, read on its own or after the whole file was read.
 std::optional<std::string> found(const MemoryFile& file, std::string_view key, bool whole) {
     StoredTable table(file.path());
-    for (int i = 0; i < (whole ? 8 : 0); ++i)
+    constexpr int moreThanParts = 8; // so many look-ups read the whole file
+    for (int i = 0; i < (whole ? moreThanParts : 0); ++i)
         (void)table.find(std::string(static_cast<std::size_t>(i + 1), '\1'));
     const auto text = table.find(key);
     return text ? std::optional(std::string(*text)) : std::nullopt;

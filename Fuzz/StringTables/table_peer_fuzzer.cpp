@@ -1,6 +1,6 @@
-// Compares our reader with another: a table that both accept has the same texts for both, and the other one reads what
-// we write. Known differences of the other one are ignored:
-//  - it returns C strings, which end at a zero, and stops the process if a key contains one;
+// Compares our reader with libplist: a table that both accept has the same texts for both, and libplist reads what we
+// write. Known differences are ignored:
+//  - libplist returns C strings, which end at a zero, and stops the process if a key contains one;
 //  - if keys are repeated, it keeps all in a binary table, and in XML the last, even if its value is not a text;
 //  - it reads XML as UTF-8 regardless of the declaration, and does not convert line ends;
 //  - in a processing instruction it treats quotation marks as those of a text, in which the instruction cannot end.
@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <plist/plist.h>
+#include <set>
 
 namespace {
 
@@ -22,7 +23,7 @@ std::optional<Texts> texts(plist_t dict) {
     plist_dict_new_iter(dict, &found);
     const std::unique_ptr<void, decltype(&std::free)> iterator(found, std::free);
     Texts out;
-    std::map<std::string, bool> keys;
+    std::set<std::string> keys;
     for (;;) {
         char *key = nullptr, *text = nullptr;
         plist_t value = nullptr;
@@ -30,7 +31,7 @@ std::optional<Texts> texts(plist_t dict) {
         const Chars keptKey(key, std::free);
         if (!value)
             return out;
-        if (!keys.emplace(key, true).second)
+        if (!keys.emplace(key).second)
             return std::nullopt;
         if (plist_get_node_type(value) != PLIST_STRING) {
             out.emplace(key, std::nullopt);

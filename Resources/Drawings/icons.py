@@ -1,4 +1,4 @@
-"""Line icons of the Images catalog: a table of names and glyph operations.
+"""Line icons of all catalogs: a table of names and glyph operations in the notation of canvas.py.
 
 Each line reads "NAME [SIZE] [FRAME[=colour]] | operations" on a 24 x 24 grid. Frames: tile (soft
 square behind), disc (filled circle, white glyph), soft (pale circle), plain (coloured glyph),
@@ -245,9 +245,6 @@ welcome_apple disc=red | u apple;p~1.6 M11.5 5.5C9.5 5.5 8.5 4.2 8.3 2.8;C 12 14
 welcome_fb disc=deep | u users
 welcome_instagram disc=pink | u image
 welcome_vk disc=blue | u talk
-"""
-
-TABLE2 = """
 arrow_left | u arrow_l 2.4 2.4 .8;l~1.6 2 4 2 20
 button_delete_pic disc=night | u cross
 button_filter_close disc=slate | l 5 15 12 8 19 15
@@ -274,9 +271,6 @@ navbar_help | c 12 12 9.3;u ask
 navbar_menu | u menu
 navbar_write | u quill
 vkontakte disc=deep | u round_bubble
-"""
-
-TABLE3 = """
 icon_alt 40 soft=violet | u loop
 icon_cup 40 soft=gold | u cup
 icon_dumbbell 40 soft=blue | u dumbbell
@@ -326,9 +320,7 @@ def _icon(size, frame, colour, operations):
 def icons():
     """name -> function giving its drawing."""
     result = {}
-    for line in (TABLE + TABLE2 + TABLE3).strip().split("\n"):
-        if not line:
-            continue
+    for line in TABLE.strip().split("\n"):
         head, operations = line.split(" | ")
         name, *options = head.split()
         size, frame, colour = 24, None, None

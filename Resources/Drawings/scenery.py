@@ -5,12 +5,12 @@ import paths
 from people import _darker as darker
 from palette import REGIONS
 
-# Landscapes are drawn for a 320 wide picture with the horizon at y = 0.
+# Landscapes, in the notation of canvas.py, for a picture of width 320 with the horizon at y = 0.
 MOTIFS = {
     # domes and pointed arches between palms
     "arab": """P:{far} M20 0V-70H28V-96L33 -110L38 -96V-70H60C60 -100 78 -112 92 -126C106 -112 124 -100 124 -70H300V0Z
         P:{near} M150 0V-92H302V0H282V-36C282 -54 268 -62 262 -70C256 -62 242 -54 242 -36V0H214V-36C214 -54 200 -62 194 -70C188 -62 174 -54 174 -36V0Z
-        P:{far} M76 0V-34C76 -50 86 -56 92 -64C98 -56 108 -50 108 -34V0Z/
+        P:{far} M76 0V-34C76 -50 86 -56 92 -64C98 -56 108 -50 108 -34V0Z
         p:{ground}~7 M30 10C34 -24 32 -50 40 -78;p:{ground}~6 M40 -78C28 -90 14 -86 6 -74;p:{ground}~6 M40 -78C34 -98 20 -104 8 -98
         p:{ground}~6 M40 -78C52 -96 66 -94 74 -84;p:{ground}~6 M40 -78C50 -84 64 -76 68 -62;p:{ground}~6 M40 -78C28 -78 20 -68 18 -56""",
     # layered roofs and a blossoming branch
@@ -45,13 +45,12 @@ MOTIFS = {
         l:slate~3 50 -92 55 -92;l:slate~3 46 -60 51 -60;l:slate~3 50 -30 55 -30;l:white~9 84 10 84 -130;l:slate~3 81 -96 85 -96;l:slate~3 84 -50 88 -50
         P:{near} M230 0L262 -54H246L268 -92H254L274 -126L294 -92H280L302 -54H286L318 0Z;P:white M274 -126L264 -108L274 -112L284 -108Z""",
 }
-MOTIFS["arab"] = MOTIFS["arab"].replace("V0Z/", "V0Z")
-MOTIFS["ar"] = MOTIFS["arab"]
 
 
 def landscape(d, region, horizon=None, sun=True):
-    """Sky, sun, the region's motif and the ground over the whole drawing."""
-    c = REGIONS["arab" if region == "ar" else region]
+    """Sky, sun, the region's motif and the ground over the whole drawing. The region "ar" is "arab" in the names of training targets."""
+    region = "arab" if region == "ar" else region
+    c = REGIONS[region]
     horizon = horizon or d.height * 0.78
     k = d.width / 320
     d.fade(c["sky"][0], c["sky"][1])

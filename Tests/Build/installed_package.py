@@ -42,10 +42,10 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
 
     # Messages need run-time types; they say so, and everything else works without.
     expect("messages without RTTI", ["-frtti" in line for line in errors("-std=c++20", "#include <Runtime/Class.h>", "-fno-rtti")], [True])
-    # The maker of records is a class of the module, which no client can define again.
-    maker = errors("-std=c++20", """#include <Lumora/Lumora.h>
+    # Only the module's class Catalog can create records, and no client can define it again.
+    catalog = errors("-std=c++20", """#include <Lumora/Lumora.h>
         class Lumora::LumoraAssetModule::Catalog { public: static LumoraImages image() { return LumoraImages("a"); } };""")
-    expect("a maker of one's own", "redefinition" in maker[0], True)
+    expect("another class Catalog", "redefinition" in catalog[0], True)
 
     program = folder / "by pkg-config"
     for option in ("-frtti", "-fno-rtti"):
@@ -64,7 +64,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     expect("linked libraries", run(program, env=environment | {"LD_LIBRARY_PATH": str(folder / "alone")}).splitlines()[:2],
            [russian("Continue"), NUMBER])
 
-    expect("plug-in host", run(folder / "app/host", os.path.relpath(library, folder), cwd=folder, env=environment).splitlines(),
+    expect("a program that loads the library by its path", run(folder / "app/host", os.path.relpath(library, folder), cwd=folder, env=environment).splitlines(),
            [russian("Continue"), "25 лет"])
     expect("lumora text", run(prefix / "bin/lumora", "text", "--language", "ru", "Continue"), russian("Continue") + "\n")
 

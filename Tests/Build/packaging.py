@@ -37,7 +37,7 @@ def compile_by_pkg_config(package, sources, program, compiler, pkgconfig):
     environment = os.environ | {"PKG_CONFIG_PATH": str(pkgconfig)}
     flags = subprocess.run(["pkg-config", "--cflags", "--libs", package], check=True, capture_output=True,
                            env=environment).stdout
-    # It escapes byte by byte.
+    # pkg-config escapes a path byte by byte.
     arguments = [os.fsdecode(part.encode("latin-1")) for part in shlex.split(flags.decode("latin-1"))]
     run(*compiler, *sources, "-o", program, *arguments)
 

@@ -22,7 +22,7 @@ Usage usage() {
     return now;
 }
 
-// Loads the library, reads one text and unloads the library. Returns the text, which stays valid.
+// Loads the library, reads one text and unloads the library. Returns null, or what went wrong.
 const char* readOnce() {
     void* library = ::dlopen(LUMORA_LIBRARY, RTLD_NOW | RTLD_LOCAL);
     if (library == nullptr)

@@ -1,4 +1,4 @@
-// Compares the XML and binary forms with another implementation of them.
+// Compares our reader and writer of the XML and binary forms with those of libplist.
 #include "StringTables/internal/Writer.h"
 #include "Tables.h"
 #include <algorithm>

@@ -27,9 +27,9 @@ inline Picture picture(const Fit& fit, std::uint32_t side, std::uint8_t red) {
             .bytes = shared({bytes.begin(), bytes.end()})};
 }
 
-// Images "send" (light at 1x and 3x, dark at 2x), "star_" (no scale, template) and the damaged "broken" and "liar";
-// "sign" (3 pixels, 5 in Russian); colours "ink" (dark on light, light on dark) and "flag" (German, Russian); data
-// "regions".
+// Images "send" (light at 1x and 3x, dark at 2x), "star_" (no scale, template), "sign" (3 pixels, 5 in Russian), and
+// two damaged ones: "broken" (half a file) and "liar" (the catalog says another width than the file); colours "ink"
+// (dark on light, light on dark) and "flag" (German, Russian); data "regions".
 inline std::vector<Asset> assets() {
     const auto image = [](const char* name, std::vector<Picture> pictures) {
         const bool isTemplate = std::string_view(name) == "star_";

@@ -12,6 +12,7 @@
 
 namespace Generator {
 
+// A key with an accessor.
 struct CatalogEntry {
     const SourceBundle::SourceEntry* source;
     std::string groups; // the enclosing namespaces below the table's, outermost first: "Settings::Profile"
@@ -25,6 +26,7 @@ struct LeftOutEntry {
     std::string reason;
 };
 
+// The accessors of a table of texts.
 struct CatalogTable {
     std::string name;                  // as used in lookups
     std::string spelling;              // its namespace; empty if it has none and therefore no accessors

@@ -10,7 +10,8 @@
 
 namespace Generator::Namer {
 
-// Splits a key at its dots and drops empty components. The last component names the entry, the others name groups.
+// Splits a key at its dots and drops empty components. The last component names the entry, which is
+// the accessor of a text; the others name groups, which are namespaces.
 [[nodiscard]] std::vector<std::string_view> components(std::string_view key);
 
 // The name for a component; empty when no character of it is allowed in a name.

@@ -110,7 +110,8 @@ public:
         }
     }
 
-    // Pads accented texts by a third of their letters.
+    // Pads accented texts by a third of their letters, in words of `word` characters. With `isWhole` the text gets
+    // brackets, too; a plural form gets none.
     std::string finish(bool isWhole) {
         if (kind_ == Pseudo::rightToLeft)
             return out_;

@@ -27,9 +27,9 @@ struct CatalogText {
 };
 
 // Calls `add` for each text, in the order of the file; a key without a text in the source language has itself as its
-// text there. Returns the source language. Of texts for single devices that for `other` is taken, else that for
-// iPhone; the others are notes. Errors: the file cannot be read, is larger than maxCatalogBytes, or is not a string
-// catalog.
+// text there. Returns the source language. Of texts for several kinds of device, the one for `other` is taken, else the
+// one for `iphone`; the others are notes. Errors: the file cannot be read, is larger than maxCatalogBytes, or is not a
+// string catalog.
 [[nodiscard]] Runtime::Result<std::string> readStringCatalog(const std::filesystem::path& file,
                                                              const std::function<void(CatalogText&&)>& add,
                                                              Diagnostics& diagnostics);
