@@ -66,6 +66,6 @@ def bundle_after_a_change(lumora, folder):
 
 
 def measured(lumora):
-    """The seconds for compiling all accessors, for including the tree instead of <string>, and for compiling a bundle with one changed text."""
+    """The seconds for compiling all accessors, for including their header instead of <string>, and for compiling a bundle with one changed text."""
     with tempfile.TemporaryDirectory() as folder:
         return *compiled_accessors(lumora, pathlib.Path(folder)), bundle_after_a_change(lumora, pathlib.Path(folder))

@@ -101,7 +101,7 @@ def memory_rows(folder):
 def build_rows(folder):
     accessors, header, bundle = builds.measured(f"{folder}/lumora")
     return [at_most("compiling the source of all 1,401 accessors with -O2", accessors, "s", 1.2),
-            at_most("including the tree, compared with `<string>`", header * 1e3, "ms", 20),
+            at_most("including the header of all accessors, compared with `<string>`", header * 1e3, "ms", 20),
             at_most("`lumora compile` after one text changed", bundle, "s", 0.1)]
 
 

@@ -6,7 +6,8 @@
 
 namespace Tools {
 
-// The path of the bundle: the first existing candidate, else the first candidate.
+// The path of the bundle beside the running program, in an installation or in a build tree; where it would be installed
+// if there is none.
 std::string ownBundle();
 
 } // namespace Tools
