@@ -82,7 +82,7 @@ function(lumora_library name)
 endfunction()
 
 # lumora_plugin(name SOURCES ... LINK ...)
-# A library that the platform loads when its service is first needed: NAME.so in LUMORA_PLUGIN_FOLDER beside it. It
+# A library that the platform or a program loads when its service is first needed: NAME.so in LUMORA_PLUGIN_FOLDER beside it. It
 # exports the symbols in the linker script NAME.map.
 function(lumora_plugin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")

@@ -13,6 +13,8 @@ install(EXPORT LumoraPlatform NAMESPACE Lumora:: DESTINATION ${package} COMPONEN
 install(EXPORT LumoraModule NAMESPACE Lumora:: DESTINATION ${package} COMPONENT development)
 if(LUMORA_TOOLS)
     install(TARGETS lumora-program EXPORT LumoraTools RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+    install(TARGETS lumora-drawing
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${LUMORA_PLUGIN_FOLDER} COMPONENT tools)
     set(help ${PROJECT_BINARY_DIR}/Tools/Program/help)
     if(LUMORA_PACKAGES) # Debian's folder, and man pages compressed as Debian requires
         set(zshFunctions vendor-completions)

@@ -57,7 +57,7 @@ foreach(component runtime development tools)
     # These packages are not for Debian's archive, so their first version closes no bug. CPack adds scripts that call
     # ldconfig to every package with a library.
     file(WRITE ${changelog}/${package} "${package} binary: initial-upload-closes-no-bugs\n")
-    if(component STREQUAL "runtime")
+    if(NOT component STREQUAL "development")
         file(APPEND ${changelog}/${package} "${package} binary: maintscript-calls-ldconfig\n")
     endif()
     install(FILES ${changelog}/${package} DESTINATION share/lintian/overrides COMPONENT ${component})

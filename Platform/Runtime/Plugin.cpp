@@ -30,9 +30,13 @@ Result<void*> symbolOf(void* library, const std::string& path, const char* symbo
 
 } // namespace
 
-Result<void*> pluginSymbol(const ForkGuard&, const char* file, const char* symbol) {
+Result<void*> pluginSymbol(const ForkGuard& guard, const char* file, const char* symbol) {
     static constexpr char here = 0;
-    const std::string path = codeLocation(&here).directory + "/" LUMORA_PLUGIN_FOLDER "/" + file;
+    return pluginSymbol(guard, codeLocation(&here).directory + "/" LUMORA_PLUGIN_FOLDER, file, symbol);
+}
+
+Result<void*> pluginSymbol(const ForkGuard&, const std::string& folder, const char* file, const char* symbol) {
+    const std::string path = folder + "/" + file;
     // Other threads open and close files at the same time, so a single check after a failure may miss its cause.
     for (int tries = 0; tries < 3; ++tries) {
         if (void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL))

@@ -79,9 +79,23 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     done = subprocess.run(read, capture_output=True, text=True)
     expect("without the plug-in", (done.returncode, done.stdout, plugin.name in done.stderr), (2, "", True))
 
+    # Drawings are drawn by another plug-in. Without it a compile fails, but texts and pictures that are drawn already need none.
+    picture = folder / "Drawn/A.xcassets/p.imageset"
+    picture.mkdir(parents=True)
+    (picture / "Contents.json").write_text('{"images": [{"filename": "p.svg"}]}')
+    (picture / "p.svg").write_text('<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9"/>')
+    compiled = [prefix / "bin/lumora", "compile", folder / "Drawn", "-o", folder / "Drawn.bundle"]
+    run(*compiled)
+    [plugin] = prefix.rglob("lumora-drawing.so")
+    plugin.unlink()
+    run(*compiled)
+    (picture / "p.svg").write_text('<svg xmlns="http://www.w3.org/2000/svg" width="8" height="9"/>')
+    done = subprocess.run(compiled, capture_output=True, text=True)
+    expect("without the plug-in", (done.returncode, f"pictures cannot be drawn: {plugin.resolve()}: " in done.stderr), (2, True))
+
     # Each component has its files, and a package without the program is found if the program is not requested.
     for component, present, absent in (("runtime", "liblumora.so.1", "*.h"), ("development", "Lumora.h", "liblumora.so.1"),
-                                       ("tools", "lumora", "*.h")):
+                                       ("tools", "lumora-drawing.so", "*.h")):
         run(options.cmake, "--install", options.build, "--prefix", folder / component, "--component", component)
         expect(component, ([] != [*(folder / component).rglob(present)], [*(folder / component).rglob(absent)]), (True, []))
 print("the installed package works where it was moved")

@@ -1,5 +1,5 @@
 // SourcePictures/Converted.h
-// Converts raster formats that catalogs do not store to PNG; internal.
+// Converts raster formats that catalogs do not store to PNG; internal to the plug-in.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -9,8 +9,7 @@
 
 namespace SourcePictures {
 
-// Converts the picture, or the first frame of an animation, to PNG. Precondition: `format` is gif, tiff, webp or heif.
-// Errors: damaged, more pixels than a catalog may contain, no loader installed for the format.
+// Implements Converters::converted().
 [[nodiscard]] Runtime::Result<AssetCatalog::Picture> converted(std::string_view bytes, Format format);
 
 } // namespace SourcePictures

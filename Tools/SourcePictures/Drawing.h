@@ -1,29 +1,25 @@
 // SourcePictures/Drawing.h
-// Rasterizes vector drawings; internal.
+// A vector drawing that was read from a file; internal.
 // Threads: different drawings may be used at the same time.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
 #include "Runtime/internal/Result.h"
-#include "SourcePictures/VectorImages.h"
-#include <memory>
 
 namespace SourcePictures {
 
 class Drawing {
 public:
-    explicit Drawing(std::unique_ptr<const VectorImage> image) : image_(std::move(image)) {}
+    virtual ~Drawing() = default;
 
+    // The size in the drawing's units, which are points if it was made for one pixel per point. 0 if it has no size.
+    [[nodiscard]] virtual AssetCatalog::Size size() const = 0;
     // Checks that picture() will succeed at that scale, by drawing into a single pixel. Errors: damaged, no size, more
     // pixels than a catalog may contain.
-    [[nodiscard]] Runtime::Result<void> check(double scale) const;
+    [[nodiscard]] virtual Runtime::Result<void> check(double scale) const = 0;
     // Rasterizes the drawing to a PNG with `scale` pixels per unit. The drawing fills the picture, whose sides are
     // rounded up to whole pixels.
-    [[nodiscard]] Runtime::Result<AssetCatalog::Picture> picture(double scale) const;
-    [[nodiscard]] AssetCatalog::Size size() const { return image_->size(); }
-
-private:
-    std::unique_ptr<const VectorImage> image_;
+    [[nodiscard]] virtual Runtime::Result<AssetCatalog::Picture> picture(double scale) const = 0;
 };
 
 } // namespace SourcePictures

@@ -3,14 +3,10 @@
 #include "AssetCatalog/internal/Catalog.h" // maxPixels
 #include "Pictures/internal/Decoders.h"
 #include "Pictures/internal/Pictures.h"
-#include "SourcePictures/Converted.h"
+#include "SourcePictures/Converters.h"
 #include "SourcePictures/Drawing.h"
 #include "SourcePictures/Formats.h"
 #include <algorithm>
-#include <cairo.h>
-#include <gdk-pixbuf/gdk-pixbuf.h>
-#include <librsvg/rsvg.h>
-#include <poppler.h>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -38,12 +34,6 @@ bool isXml(std::string_view bytes) {
     return begin != std::string_view::npos && bytes[begin] == '<';
 }
 
-VectorImageResult readDrawing(std::string_view bytes, Format format, const Purpose& purpose) {
-    if (format == Format::pdf)
-        return readPdf(bytes);
-    return purpose.isSymbol ? readSymbol(bytes) : readSvg(bytes);
-}
-
 bool isForOneScale(const Purpose& purpose) {
     return purpose.scale != 0 && !purpose.preservesVector;
 }
@@ -66,17 +56,17 @@ double pixelsPerUnit(std::uint8_t scale, const Purpose& purpose) {
 }
 
 Runtime::Result<void> checkDrawing(std::string_view bytes, Format format, const Purpose& purpose) {
-    auto image = readDrawing(bytes, format, purpose);
-    if (!image)
-        return std::move(image.error());
-    return Drawing(*std::move(image)).check(pixelsPerUnit(std::ranges::max(scalesOf(purpose)), purpose));
+    const auto drawing = converters().drawing(bytes, format, purpose.isSymbol);
+    if (!drawing)
+        return drawing.error();
+    return (*drawing)->check(pixelsPerUnit(std::ranges::max(scalesOf(purpose)), purpose));
 }
 
 Runtime::Result<PictureList> drawn(std::string_view bytes, Format format, const Purpose& purpose) {
-    auto image = readDrawing(bytes, format, purpose);
-    if (!image)
-        return std::move(image.error());
-    const Drawing drawing(*std::move(image));
+    const auto read = converters().drawing(bytes, format, purpose.isSymbol);
+    if (!read)
+        return read.error();
+    const Drawing& drawing = **read;
     const double made = std::max<std::uint8_t>(purpose.scale, 1);
     PictureList pictures;
     for (const std::uint8_t scale : scalesOf(purpose)) {
@@ -148,7 +138,7 @@ Runtime::Result<void> check(const std::string& bytes, const Purpose& purpose) {
     case Format::heif:
         break;
     }
-    if (const auto made = converted(bytes, *format); !made)
+    if (const auto made = converters().converted(bytes, *format); !made)
         return made.error();
     return {};
 }
@@ -160,7 +150,7 @@ Runtime::Result<PictureList> picturesOf(const AssetCatalog::Bytes& bytes, const 
     if (*format == Format::svg || *format == Format::pdf)
         return drawn(*bytes, *format, purpose);
     const bool isKept = *format == Format::png || *format == Format::jpeg;
-    auto picture = isKept ? raster(bytes) : converted(*bytes, *format);
+    auto picture = isKept ? raster(bytes) : converters().converted(*bytes, *format);
     if (!picture)
         return std::move(picture.error());
     picture->fit.scale = purpose.scale;
@@ -172,12 +162,7 @@ Runtime::Result<PictureList> picturesOf(const AssetCatalog::Bytes& bytes, const 
 }
 
 std::string converterVersion() {
-    std::string version = "1"; // of this code
-    version.append(" cairo ").append(cairo_version_string());
-    version.append(" rsvg ").append(LIBRSVG_VERSION);
-    version.append(" poppler ").append(poppler_get_version());
-    version.append(" gdk-pixbuf ").append(gdk_pixbuf_version);
-    return version;
+    return "1" LUMORA_DRAWING_VERSIONS; // 1: of this code
 }
 
 } // namespace SourcePictures

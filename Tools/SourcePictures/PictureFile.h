@@ -1,6 +1,7 @@
 // SourcePictures/PictureFile.h
 // Reads and converts the picture files of source catalogs.
 // Threads: any; different files may be read at the same time.
+// Functions that draw or convert throw std::runtime_error if the plug-in for that cannot be loaded (Converters.h).
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
@@ -35,8 +36,8 @@ struct Purpose {
 [[nodiscard]] Runtime::Result<std::vector<AssetCatalog::Picture>> picturesOf(const AssetCatalog::Bytes& bytes,
                                                                              const Purpose& purpose);
 
-// Identifies the versions of this code and of the libraries: it changes whenever picturesOf() may give other bytes for
-// the same file.
+// Identifies the version of this code and those of the libraries that it was built with: it changes whenever
+// picturesOf() of another build may give other bytes for the same file.
 [[nodiscard]] std::string converterVersion();
 
 } // namespace SourcePictures

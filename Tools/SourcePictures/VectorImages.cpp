@@ -1,6 +1,7 @@
 #include "SourcePictures/VectorImages.h"
 
 #include "SourcePictures/GlibPointers.h"
+#include "SourcePictures/VectorImage.h"
 #include <cmath>
 #include <librsvg/rsvg.h>
 #include <mutex>
@@ -126,16 +127,16 @@ private:
     Size size_;
 };
 
-VectorImageResult elementOf(Owned<RsvgHandle> drawing, const char* id) {
+DrawingResult elementOf(Owned<RsvgHandle> drawing, const char* id) {
     const auto size = contentSize(drawing.get(), id);
     if (!size)
         return size.error();
-    return VectorImageResult(std::make_unique<SvgElement>(std::move(drawing), id, *size));
+    return DrawingResult(std::make_unique<SvgElement>(std::move(drawing), id, *size));
 }
 
-VectorImageResult wholeDrawing(Owned<RsvgHandle> drawing) {
+DrawingResult wholeDrawing(Owned<RsvgHandle> drawing) {
     if (const std::optional<Size> size = declaredSize(drawing.get()))
-        return VectorImageResult(std::make_unique<SvgDrawing>(std::move(drawing), *size));
+        return DrawingResult(std::make_unique<SvgDrawing>(std::move(drawing), *size));
     return elementOf(std::move(drawing), nullptr);
 }
 
@@ -171,14 +172,14 @@ private:
 
 } // namespace
 
-VectorImageResult readSvg(std::string_view bytes) {
+DrawingResult readSvg(std::string_view bytes) {
     auto drawing = svgHandle(bytes);
     if (!drawing)
         return std::move(drawing.error());
     return wholeDrawing(*std::move(drawing));
 }
 
-VectorImageResult readSymbol(std::string_view bytes) {
+DrawingResult readSymbol(std::string_view bytes) {
     auto drawing = svgHandle(bytes);
     if (!drawing)
         return std::move(drawing.error());
@@ -188,7 +189,7 @@ VectorImageResult readSymbol(std::string_view bytes) {
     return wholeDrawing(*std::move(drawing));
 }
 
-VectorImageResult readPdf(std::string_view bytes) {
+DrawingResult readPdf(std::string_view bytes) {
     PopplerLock lock = lockPoppler();
     GError* error = nullptr;
     const Owned<GBytes> data(g_bytes_new_static(bytes.data(), bytes.size()));
@@ -198,7 +199,7 @@ VectorImageResult readPdf(std::string_view bytes) {
     Owned<PopplerPage> page(poppler_document_get_page(document.get(), 0));
     if (page == nullptr)
         return damaged("drawing", nullptr);
-    return VectorImageResult(std::make_unique<PdfPage>(std::move(lock), std::move(document), std::move(page)));
+    return DrawingResult(std::make_unique<PdfPage>(std::move(lock), std::move(document), std::move(page)));
 }
 
 } // namespace SourcePictures

@@ -5,6 +5,7 @@
 
 #include "Runtime/internal/ForkGuard.h"
 #include "Runtime/internal/Result.h"
+#include <string>
 
 namespace Runtime {
 
@@ -15,5 +16,8 @@ namespace Runtime {
 // Errors: the plug-in is absent, cannot be loaded, or has no such function; transient errors when descriptors, memory
 // or address space ran out. Throws std::bad_alloc. Any thread.
 [[nodiscard]] Result<void*> pluginSymbol(const ForkGuard& guard, const char* file, const char* symbol);
+// The same for a plug-in in another folder.
+[[nodiscard]] Result<void*> pluginSymbol(const ForkGuard& guard, const std::string& folder, const char* file,
+                                         const char* symbol);
 
 } // namespace Runtime

@@ -1,4 +1,4 @@
-#include "SourcePictures/Drawing.h"
+#include "SourcePictures/VectorImage.h"
 
 #include "AssetCatalog/internal/Catalog.h" // maxPixels
 #include "SourcePictures/GlibPointers.h"
@@ -43,19 +43,19 @@ Runtime::Result<Owned<cairo_surface_t>> drawn(const VectorImage& image, PixelSiz
 
 } // namespace
 
-Runtime::Result<void> Drawing::check(double scale) const {
+Runtime::Result<void> VectorImage::check(double scale) const {
     if (const auto pixels = pixelSize(size(), scale); !pixels)
         return pixels.error();
-    if (const auto pixel = drawn(*image_, {1, 1}); !pixel)
+    if (const auto pixel = drawn(*this, {1, 1}); !pixel)
         return pixel.error();
     return {};
 }
 
-Runtime::Result<AssetCatalog::Picture> Drawing::picture(double scale) const {
+Runtime::Result<AssetCatalog::Picture> VectorImage::picture(double scale) const {
     const auto pixels = pixelSize(size(), scale);
     if (!pixels)
         return pixels.error();
-    const auto surface = drawn(*image_, *pixels);
+    const auto surface = drawn(*this, *pixels);
     if (!surface)
         return surface.error();
     std::string png;

@@ -1,0 +1,30 @@
+// The only function that the plug-in exports.
+#include "SourcePictures/Converters.h"
+
+#include "SourcePictures/Converted.h"
+#include "SourcePictures/VectorImages.h"
+
+namespace SourcePictures {
+
+namespace {
+
+class Linked final : public Converters {
+    DrawingResult drawing(std::string_view bytes, Format format, bool isSymbol) const override {
+        if (format == Format::pdf)
+            return readPdf(bytes);
+        return isSymbol ? readSymbol(bytes) : readSvg(bytes);
+    }
+    Runtime::Result<AssetCatalog::Picture> converted(std::string_view bytes, Format format) const override {
+        return SourcePictures::converted(bytes, format);
+    }
+};
+
+constinit const Linked linked;
+
+} // namespace
+
+} // namespace SourcePictures
+
+const SourcePictures::Converters* lumoraDrawing() noexcept {
+    return &SourcePictures::linked;
+}

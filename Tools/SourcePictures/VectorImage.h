@@ -1,0 +1,19 @@
+// SourcePictures/VectorImage.h
+// Rasterizes drawings of any vector format; internal to the plug-in.
+#pragma once
+
+#include "SourcePictures/Drawing.h"
+#include <cairo.h>
+
+namespace SourcePictures {
+
+// The readers of the formats derive from it.
+class VectorImage : public Drawing {
+public:
+    Runtime::Result<void> check(double scale) const final;
+    Runtime::Result<AssetCatalog::Picture> picture(double scale) const final;
+    // Draws into the area from the origin to size(). Errors: damaged.
+    [[nodiscard]] virtual Runtime::Result<void> draw(cairo_t* context) const = 0;
+};
+
+} // namespace SourcePictures
