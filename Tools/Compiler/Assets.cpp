@@ -38,7 +38,7 @@ public:
     Runtime::Result<Bytes> bytes(const fs::path& path) {
         {
             const std::lock_guard guard(lock_);
-            if (const auto known = read_.find(path); known != read_.end())
+            if (const auto known = read_.find(path.native()); known != read_.end())
                 return known->second;
         }
         auto text = Runtime::readFile(path, SourcePictures::maxFileBytes);
@@ -51,7 +51,7 @@ public:
         if (total_ > AssetCatalog::maxBytes)
             return Runtime::Error{.message = "together with the files before it exceeds the size limit of a catalog",
                                   .file = path};
-        return read_.try_emplace(path, same->second).first->second;
+        return read_.try_emplace(path.native(), same->second).first->second;
     }
 
     Runtime::Result<void> check(const SourceFile& file) {
@@ -92,7 +92,7 @@ public:
 private:
     const PictureCache cache_;
     std::mutex lock_;
-    std::map<fs::path, Bytes> read_;
+    Runtime::NameMap<Bytes> read_; // by path
     Runtime::NameMap<Bytes, std::string_view> contents_;
     std::size_t total_ = 0;
     MadePictures made_;

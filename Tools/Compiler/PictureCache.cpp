@@ -2,7 +2,6 @@
 
 #include "AssetCatalog/internal/Catalog.h"
 #include "Compiler/Records.h"
-#include <algorithm>
 #include <charconv>
 #include <iterator>
 #include <xxhash.h>
@@ -77,18 +76,21 @@ std::optional<std::vector<Picture>> PictureCache::find(const std::string& key) c
 
 std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog& catalog) {
     std::string list;
-    const auto isStored = [&](const Picture& picture) { return catalog.offsets.contains(*picture.bytes); };
     for (const auto& [key, pictures] : made) {
-        if (!std::ranges::all_of(pictures, isStored)) // for some scale the catalog uses the picture of another file
-            continue;
+        const std::size_t begin = list.size();
         for (const Picture& picture : pictures) {
+            const auto stored = catalog.offsets.find(*picture.bytes);
+            if (stored == catalog.offsets.end()) { // for this scale the catalog uses the picture of another file
+                list.resize(begin);
+                break;
+            }
             list.append(key);
             list.append(" ").append(std::to_string(picture.fit.scale));
             list.append(" ").append(std::to_string(picture.width));
             list.append(" ").append(std::to_string(picture.height));
             list.append(" ").append(decimal(picture.points.width));
             list.append(" ").append(decimal(picture.points.height));
-            list.append(" ").append(std::to_string(catalog.offsets.at(*picture.bytes)));
+            list.append(" ").append(std::to_string(stored->second));
             list.append(" ").append(std::to_string(picture.bytes->size()));
             list.append(" ").append(hex(hashOf(*picture.bytes))).append("\n");
         }
