@@ -94,7 +94,7 @@ private:
         bool isNamed = false; // by the names file
         std::vector<Parameter> parameters{};
         std::string fault{};
-        bool isClash = false; // the fault
+        bool isClash = false; // whether the fault is a name that another key has
     };
 
     static void readText(Candidate& candidate, Diagnostics& diagnostics) {

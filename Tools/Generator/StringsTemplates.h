@@ -120,7 +120,7 @@ inline constexpr std::string_view resourcesHeader = R"(#pragma once
 
 namespace {{module}} {
 
-// The module's resources. The class is published under this name.
+// The module's resources. Messages (Runtime/Class.h) find the class as "{{module}}.{{module}}Resources".
 class {{module}}Resources {
 public:
     // The module's bundle: the same object at every call, from any thread.

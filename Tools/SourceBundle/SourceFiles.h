@@ -43,7 +43,8 @@ struct SourceFiles {
 
 inline constexpr int maxFolderDepth = 64;
 
-// The file that `lumora compile` writes into every bundle, which marks it as one that may be replaced.
+// The mark file, which `lumora compile` writes into every bundle: it shows that the bundle may be replaced, and lists
+// the tables and pictures that the next compile may keep.
 inline constexpr const char* compiledMark = ".lumora-bundle";
 
 // The entries of a folder, without hidden ones, sorted by path. An unreadable folder is an error.

@@ -6,7 +6,7 @@
 
 namespace Odd {
 
-// The module's resources. The class is published under this name.
+// The module's resources. Messages (Runtime/Class.h) find the class as "Odd.OddResources".
 class OddResources {
 public:
     // The module's bundle: the same object at every call, from any thread.
