@@ -1,8 +1,8 @@
 // Lumora/RegionalImages.h
 // Pictures that come in variants for a market region and for the user's sex.
-// A region is "arab", "asia", "europe", "latina" or "usa". It is compared with the end of a picture's name: an empty
-// region selects the first variant, an unknown one the default. For the training targets the regions are "ru" and "ar"
-// and the genders "male" and "female", compared exactly.
+// A region is "arab", "asia", "europe", "latina" or "usa". Each function returns its first picture whose name ends with
+// the region, so an empty region gives the first one; a region without a picture gives the default picture. For the
+// training targets the regions are "ru" and "ar" and the genders "male" and "female", compared exactly.
 // Text: UTF-8. Threads: any. Errors: a missing picture stops the process.
 #pragma once
 

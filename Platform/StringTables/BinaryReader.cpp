@@ -30,7 +30,7 @@ private:
     BinaryObjects objects_;
     // An entry that has an object's string as its key or text, so that a shared string is read once.
     struct StringUse {
-        static constexpr std::uint32_t none = 0x7FFFFFFF;
+        static constexpr std::uint32_t none = 0x7FFFFFFF; // the largest in 31 bits, and their mask
         std::uint32_t entry : 31 = none;
         std::uint32_t isKey : 1 = 0;
     };
