@@ -15,7 +15,7 @@ Strings findingsIn(const std::string& set, const std::string& entries) {
     CheckedSource source{{"A.xcassets/" + set + "/Contents.json",
                           "{\"" + std::string(isColor ? "colors" : "images") + "\": [\n" + entries + "\n]}"},
                          {"A.xcassets/" + set + "/a.svg", drawing},
-                         // Another colour with a dark variant and another image without.
+                         // With a dark variant, so that every colour of the catalog should have one.
                          {"A.xcassets/other.colorset/Contents.json",
                           R"({"colors": [{"color": {"platform": "ios", "reference": "systemRedColor"}}, {"color":
                              {"platform": "ios", "reference": "systemRedColor"}, "appearances": [{"appearance": "luminosity", "value": "dark"}]}]})"}};

@@ -21,17 +21,17 @@ using Exchange::Unit;
 using Intl::PluralCategory;
 using Strings = std::vector<std::string>;
 
-const std::string nasty[] = {"plain",
-                             " leading and trailing ",
-                             "quotes \" ' \\ and \\\" \\n",
-                             "\nlines\r\nof\rtext\n",
-                             "tab\t bell\a \x01 \x1f \x7f",
-                             "100%% %@ %1$@ %#@n@",
-                             "<b>&amp;</b> ]]> <![CDATA[x]]>",
-                             "\u2028 \u2029 \u200F\u202Bעברית\u202C \u0085 \uFEFF \uFFFE \U0001F600",
-                             "/* comment */ // \"=\"; #, fuzzy",
-                             "\\u{41} \\\\ [a.b]/c",
-                             "e\u0301 \u00e9"};
+const std::string difficult[] = {"plain",
+                                 " leading and trailing ",
+                                 "quotes \" ' \\ and \\\" \\n",
+                                 "\nlines\r\nof\rtext\n",
+                                 "tab\t bell\a \x01 \x1f \x7f",
+                                 "100%% %@ %1$@ %#@n@",
+                                 "<b>&amp;</b> ]]> <![CDATA[x]]>",
+                                 "\u2028 \u2029 \u200F\u202Bעברית\u202C \u0085 \uFEFF \uFFFE \U0001F600",
+                                 "/* comment */ // \"=\"; #, fuzzy",
+                                 "\\u{41} \\\\ [a.b]/c",
+                                 "e\u0301 \u00e9"};
 
 std::string idText(const std::string& key, Strings part, std::optional<PluralCategory> category) {
     return Exchange::textOf({"T", key, std::move(part), category});
@@ -41,7 +41,7 @@ TEST(UnitIds, AreReadBack) {
     EXPECT_EQ(idText("cart.title", {}, {}), "T/cart.title");
     EXPECT_EQ(idText("a/b [c]", {"variables", "d.e"}, PluralCategory::one),
               "T[variables.d\\u{2e}e.plural.one]/a/b [c]");
-    for (const std::string& key : nasty)
+    for (const std::string& key : difficult)
         for (const Exchange::UnitId& id : {Exchange::UnitId{key, key, {}, {}},
                                            {key, key, {"device", key}, {}},
                                            {key, key, {"substitutions", key}, PluralCategory::few},
@@ -55,17 +55,19 @@ TEST(UnitIds, AreReadBack) {
 }
 
 // Units with every difficult text in every position, and all states.
-Translations nastyTranslations(const std::string& language) {
+Translations difficultTranslations(const std::string& language) {
     Translations translations{.sourceLanguage = "en", .targetLanguage = language};
     constexpr State states[] = {State::translated, State::isNew, State::needsReview};
-    for (std::size_t i = 0; i < std::size(nasty); ++i) {
-        Unit unit{.id = {"T", nasty[i], {}, {}}, .source = nasty[i], .target = nasty[(i + 1) % std::size(nasty)]};
+    for (std::size_t i = 0; i < std::size(difficult); ++i) {
+        Unit unit{.id = {"T", difficult[i], {}, {}},
+                  .source = difficult[i],
+                  .target = difficult[(i + 1) % std::size(difficult)]};
         unit.state = states[i % 3];
-        unit.comment = nasty[i];
+        unit.comment = difficult[i];
         unit.place = "a b.strings:5";
         translations.units.push_back(unit);
         for (const PluralCategory category : Exchange::categoriesOf(language)) {
-            unit.id.part = {"variables", nasty[i]};
+            unit.id.part = {"variables", difficult[i]};
             unit.id.category = unit.sourceCategory = category;
             unit.source = category == PluralCategory::one ? "one" : "other";
             translations.units.push_back(unit);
@@ -77,7 +79,7 @@ Translations nastyTranslations(const std::string& language) {
 
 TEST(ExchangeFiles, RoundTripEveryText) {
     for (const char* language : {"de", "ar", "ja", "ru", "fr", "xx"}) {
-        const Translations translations = nastyTranslations(language);
+        const Translations translations = difficultTranslations(language);
         SourceBundle::Diagnostics diagnostics;
         const auto xliff = Exchange::readXliff(Exchange::writeXliff(translations, "1"), "f", diagnostics);
         ASSERT_TRUE(xliff) << xliff.error().text();

@@ -136,11 +136,11 @@ class Exchange(unittest.TestCase):
                         self.assertEqual(run("import", self.folder / "original.xliff", "--into", source)[0], 0)
                         self.assertEqual(contents(source), before)
 
-    def test_nasty_texts(self):
+    def test_difficult_texts(self):
         texts = [" x ", "\nx", "x\n", "\t\"\\\\", "\a\b\v\f\r", "\u0001\u007f", "100%% %@", "\u2028\u200f", "<&>]]>", "/* */ //", "#, fuzzy"]
         table = "".join(f"{{}} = {json.dumps(text)};\n".format(json.dumps(text)).replace("\\u", "\\U") for text in texts)
         turned = "".join(f"{json.dumps(key)} = {json.dumps(text)};\n".replace("\\u", "\\U") for key, text in zip(texts, texts[1:] + texts[:1]))
-        source = self.folder / "Nasty"
+        source = self.folder / "Difficult"
         for language, text in (("en", table), ("de", turned)):
             (source / f"{language}.lproj").mkdir(parents=True)
             (source / f"{language}.lproj/T.strings").write_bytes(text.encode("utf-16"))
