@@ -32,9 +32,9 @@ std::optional<std::string> found(const MemoryFile& file, std::string_view key, b
     StoredTable table(file.path());
     constexpr int moreThanParts = 8; // so many look-ups read the whole file
     for (int i = 0; i < (whole ? moreThanParts : 0); ++i)
-        (void)table.find(std::string(static_cast<std::size_t>(i + 1), '\1'));
-    const auto text = table.find(key);
-    return text ? std::optional(std::string(*text)) : std::nullopt;
+        (void)table.find(std::string(static_cast<std::size_t>(i + 1), '\1'), 0);
+    const StringTables::FoundText text = table.find(key, Runtime::keyHash(key));
+    return text ? std::optional(std::string(text.text())) : std::nullopt;
 }
 
 } // namespace

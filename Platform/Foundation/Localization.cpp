@@ -48,7 +48,7 @@ LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
     std::string texts = pathOf(name, layout::textsSuffix);
     const std::string plurals = mayHavePlurals_ ? pathOf(name, layout::pluralsSuffix) : std::string();
     const bool exists = ::access(texts.c_str(), F_OK) == 0 || (mayHavePlurals_ && ::access(plurals.c_str(), F_OK) == 0);
-    return tables_.add(exists ? tables_.unlimited : mostMissing, name, std::move(texts), bundle_.size(),
+    return tables_.add(exists ? tables_.unlimited : mostMissing, name, *this, name, std::move(texts), bundle_.size(),
                        mayHavePlurals_ ? readPlurals(plurals, bundle_) : StringTables::PluralTable());
 }
 

@@ -110,12 +110,29 @@ struct NSBundle::Contents {
         return number;
     }
 
+    // The table of the user's first language folder. Nearly always a recent one, which is compared by name, so that the
+    // look-up need not wait for the folder and the hash.
+    detail::LocalizedTable* firstTable(detail::Localization& folder, const LocalizedKey& key) {
+        for (std::atomic<detail::LocalizedTable*>& recent : recents) {
+            detail::LocalizedTable* const known = recent.load(std::memory_order_acquire);
+            if (known == nullptr || &known->owner() != &folder) {
+                detail::LocalizedTable* const table = folder.table(key.table, key.tableHash);
+                recent.store(table, std::memory_order_release);
+                return table;
+            }
+            if (known->name() == key.table) [[likely]]
+                return known;
+        }
+        return folder.table(key.table, key.tableHash);
+    }
+
     // Calls `use` with what was found: the LocalizedFormat of a plural, or a FoundText, which is empty if no table has
     // the key.
     template <class Use> auto lookUp(const LocalizedKey& key, Use&& use) {
         const Chain& chain = chains[preferred()];
         for (auto at = chain.begin(); *at != nullptr; ++at) {
-            detail::LocalizedTable* const table = (*at)->table(key.table, key.tableHash);
+            detail::LocalizedTable* const table =
+                at == chain.begin() ? firstTable(**at, key) : (*at)->table(key.table, key.tableHash);
             if (table == nullptr)
                 continue;
             if (table->hasPlurals()) [[unlikely]]
@@ -138,6 +155,8 @@ struct NSBundle::Contents {
     std::vector<std::string> localizations;
     std::vector<Chain> chains; // by localization, then one for users who read none of them
 
+    // The first tables that were used since the user's language changed; see firstTable().
+    std::array<std::atomic<detail::LocalizedTable*>, 8> recents{};
     Runtime::KeyedStore<Choice, 16> choices; // by the user's language
     static constexpr std::size_t mostChoices = 256;
     // The version of the host's languages times versionUnit, plus preferred() for that version.
@@ -217,7 +236,8 @@ std::optional<LocalizedFormat> NSBundle::findLocalized(std::string_view key, std
     return findLocalized(LocalizedKey::of(table, key));
 }
 
-std::string NSBundle::formattedText(const LocalizedKey& key, std::span<const FormatArgument> arguments) const {
+[[gnu::flatten]] std::string NSBundle::formattedText(const LocalizedKey& key,
+                                                     std::span<const FormatArgument> arguments) const {
     return contents().lookUp(
         key, Overloaded{[&](const LocalizedFormat& plural) { return String::format(plural, arguments); },
                         [&](StringTables::FoundText found) {

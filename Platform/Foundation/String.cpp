@@ -8,7 +8,6 @@
 #include "StringTables/internal/Unicode.h"
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <optional>
 
 namespace Foundation::String {
@@ -26,24 +25,6 @@ std::string_view firstCharacters(std::string_view text, std::size_t limit) noexc
         if (beginsCharacter(text[i]) && limit-- == 0)
             return text.substr(0, i);
     return text;
-}
-
-// Whether a format's only placeholder is a "%@" for a text, as in nearly all texts with placeholders.
-bool hasOneText(std::string_view format, StringTables::PercentRange percents,
-                std::span<const FormatArgument> arguments) noexcept {
-    const std::size_t at = percents.begin();
-    return percents.end(format) == at + 1 && at + 1 < format.size() && format[at] == '%' && format[at + 1] == '@' &&
-           !arguments.empty() && arguments[0].kind() == Kind::text && arguments[0].text().size() <= largestGrowth;
-}
-
-// The three texts one after the other, with one allocation.
-std::string joined(std::string_view before, std::string_view text, std::string_view after) {
-    std::string all(before.size() + text.size() + after.size(), '\0');
-    char* const out = all.data();
-    std::memcpy(out, before.data(), before.size());
-    std::memcpy(out + before.size(), text.data(), text.size());
-    std::memcpy(out + before.size() + text.size(), after.data(), after.size());
-    return all;
 }
 
 // The beginning of a format whose only placeholders are "%@" for texts; usually the whole format. Its pieces are
@@ -85,7 +66,7 @@ private:
         const bool isThere = from < format.size() && format[from] == '%'; // avoids the call
         return isThere ? from : format.find('%', from);
     }
-    void put(std::string_view text) noexcept { out_ += text.copy(out_, text.size()); }
+    void put(std::string_view text) noexcept { out_ = detail::copy(text, out_); }
 
     std::array<char, 512> buffer_;
     char* out_ = buffer_.data();
@@ -256,12 +237,6 @@ private:
     detail::Kept<Intl::NumberPattern> pattern_; // loaded for the first number
 };
 
-// A separate function, so that it needs no registers for a plain format.
-[[gnu::noinline]] std::string completed(const PlainBeginning& beginning, std::string_view format, const Locale* locale,
-                                        std::span<const FormatArgument> arguments) {
-    return Formatter(format, locale, arguments).run(beginning);
-}
-
 } // namespace
 
 std::string format(std::string_view format, const Locale& locale, std::span<const FormatArgument> arguments) {
@@ -272,15 +247,12 @@ std::string format(std::string_view format, const Locale& locale, std::span<cons
 
 namespace Foundation {
 
-std::string detail::formattedText(std::string_view format, StringTables::PercentRange percents, const Locale* locale,
-                                  std::span<const FormatArgument> arguments) {
-    if (String::hasOneText(format, percents, arguments)) [[likely]]
-        return String::joined(format.substr(0, percents.begin()), arguments[0].text(),
-                              format.substr(percents.begin() + 2));
+std::string detail::formattedPieces(std::string_view format, StringTables::PercentRange percents, const Locale* locale,
+                                    std::span<const FormatArgument> arguments) {
     const String::PlainBeginning beginning(format, percents, arguments);
-    if (beginning.isWhole()) [[likely]]
+    if (beginning.isWhole())
         return std::string(beginning.text());
-    return String::completed(beginning, format, locale, arguments);
+    return String::Formatter(format, locale, arguments).run(beginning);
 }
 
 } // namespace Foundation

@@ -22,25 +22,27 @@ public:
             return {};
         const std::size_t first = std::min(text.find('%'), text.size());
         const std::size_t last = text.rfind('%');
-        return {first, last == text.npos ? text.size() : last + 1};
+        const std::size_t end = last == text.npos ? text.size() : last + 1;
+        return PercentRange(static_cast<std::uint32_t>(first << 16 | end));
     }
 
-    constexpr std::size_t begin() const noexcept { return begin_; }
-    constexpr std::size_t end(std::string_view text) const noexcept { return end_ == toTheEnd ? text.size() : end_; }
+    constexpr std::size_t begin() const noexcept { return packed_ >> 16; }
+    constexpr std::size_t end(std::string_view text) const noexcept {
+        const std::size_t end = packed_ & toTheEnd;
+        return end == toTheEnd ? text.size() : end;
+    }
 
     // Both ends in one number, at most `largestPacked`.
-    constexpr std::uint32_t packed() const noexcept { return std::uint32_t{begin_} << 16 | end_; }
-    static constexpr PercentRange unpacked(std::uint32_t packed) noexcept { return {packed >> 16, packed & toTheEnd}; }
+    constexpr std::uint32_t packed() const noexcept { return packed_; }
+    static constexpr PercentRange unpacked(std::uint32_t packed) noexcept { return PercentRange(packed); }
     static constexpr std::uint32_t largestPacked = 0xFFFE'FFFF;
 
 private:
-    static constexpr std::uint16_t toTheEnd = 0xFFFF;
+    static constexpr std::uint32_t toTheEnd = 0xFFFF;
 
-    constexpr PercentRange(std::size_t begin, std::size_t end) noexcept
-        : begin_(static_cast<std::uint16_t>(begin)), end_(static_cast<std::uint16_t>(end)) {}
+    constexpr explicit PercentRange(std::uint32_t packed) noexcept : packed_(packed) {}
 
-    std::uint16_t begin_ = 0;
-    std::uint16_t end_ = toTheEnd;
+    std::uint32_t packed_ = toTheEnd; // the beginning in the upper half, the end in the lower
 };
 
 } // namespace StringTables

@@ -70,12 +70,10 @@ StoredTable::~StoredTable() {
 
 // Looks up a key in a table that is not compiled, or again with the correct hash if the given one was wrong.
 FoundText StoredTable::Whole::findOther(std::string_view key, std::uint64_t hash) const noexcept {
-    if (!compiled) {
-        const auto text = other.find(key);
-        return text ? FoundText(*text) : FoundText();
-    }
+    if (const auto text = other.find(key))
+        return FoundText(*text);
     const std::uint64_t right = Runtime::keyHash(key);
-    return hash == right ? FoundText() : compiled->find(key, right);
+    return hash == right ? FoundText() : compiled.find(key, right);
 }
 
 // Threads may read the same part at the same time; one result is kept.
@@ -89,7 +87,7 @@ FoundText StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
             break;
         if (part == nullptr && slot.compare_exchange_strong(part, made.get(), std::memory_order_acq_rel))
             part = made.release();
-        if (Runtime::isSameName(part->key, key))
+        if (part->key == key)
             return part->found;
     }
     return whole_.get([this] { return readWhole(); }).find(key, hash);

@@ -15,12 +15,17 @@
 
 namespace Foundation::detail {
 
+class Localization;
+
 class LocalizedTable {
 public:
-    // `texts`: the path of a table, which is read when it is needed. `bundle`: the length of the bundle's path, with
-    // which it begins.
-    LocalizedTable(std::string texts, std::size_t bundle, StringTables::PluralTable plurals);
+    // `owner`: the language folder of the table. `texts`: the path of the table, which is read when it is needed.
+    // `bundle`: the length of the bundle's path, with which it begins.
+    LocalizedTable(const Localization& owner, std::string_view name, std::string texts, std::size_t bundle,
+                   StringTables::PluralTable plurals);
 
+    const Localization& owner() const noexcept { return owner_; }
+    std::string_view name() const noexcept { return name_; }
     // From TABLE.stringsdict. `language`: the language whose rules choose plural forms.
     bool hasPlurals() const noexcept { return !plurals_.entries().empty(); }
     std::optional<LocalizedFormat> findPlural(std::string_view key, std::string_view language) const noexcept;
@@ -28,6 +33,8 @@ public:
     StringTables::FoundText findText(std::string_view key, std::uint64_t hash) { return texts_.find(key, hash); }
 
 private:
+    const Localization& owner_;
+    std::string name_;
     StringTables::StoredTable texts_;
     StringTables::PluralTable plurals_;
     std::vector<std::string> pluralTexts_; // for look-ups of plurals without numbers

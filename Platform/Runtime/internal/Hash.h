@@ -63,22 +63,4 @@ inline std::uint64_t hashBytes(std::string_view bytes, std::uint64_t seed) noexc
     return hashBytes(key, hashSpread);
 }
 
-// Whether the first and the last `Word` of two names of the same size are equal. Requires a.size() >= sizeof(Word).
-template <class Word> bool haveSameEnds(std::string_view a, std::string_view b) noexcept {
-    const auto same = [&](std::size_t at) {
-        return loadLittle<Word>(a.data() + at) == loadLittle<Word>(b.data() + at);
-    };
-    return same(0) && same(a.size() - sizeof(Word));
-}
-
-// Whether two names are equal. Compares names of 4 to 16 bytes without a call, which would take longer than the
-// comparison.
-[[nodiscard]] inline bool isSameName(std::string_view a, std::string_view b) noexcept {
-    if (a.size() != b.size())
-        return false;
-    if (a.size() < 4 || a.size() > 16)
-        return a == b;
-    return a.size() < 8 ? haveSameEnds<std::uint32_t>(a, b) : haveSameEnds<std::uint64_t>(a, b);
-}
-
 } // namespace Runtime

@@ -30,13 +30,10 @@ public:
     T* find(std::string_view key) const noexcept { return find(key, keyHash(key)); }
     // The same with `hash`, which is keyHash(key). With a wrong hash nothing is found.
     T* find(std::string_view key, std::uint64_t hash) const noexcept {
-        Descent descent(hash, key);
-        for (const Link* link = &bucket(hash);;) {
-            Node* const node = link->load(std::memory_order_acquire);
-            if (node == nullptr || node->isOf(hash, key))
-                return node == nullptr ? nullptr : &node->value;
-            link = &node->children[descent.next()];
-        }
+        Node* const root = bucket(hash).load(std::memory_order_acquire);
+        if (root != nullptr && root->isOf(hash, key)) [[likely]]
+            return &root->value;
+        return root == nullptr ? nullptr : findBelow(*root, key, hash);
     }
 
     // Constructs the value of `key` from `parts`, or returns the value that another thread added meanwhile. Returns
@@ -64,13 +61,23 @@ private:
     using Link = std::atomic<Node*>;
     struct Node {
         bool isOf(std::uint64_t otherHash, std::string_view otherKey) const noexcept {
-            return hash == otherHash && isSameName(key, otherKey);
+            return hash == otherHash && key == otherKey;
         }
         std::uint64_t hash;
         std::string key;
         T value;
         std::array<Link, branches> children{};
     };
+
+    // A separate function, so that a look-up that ends at the root needs few registers.
+    [[gnu::noinline]] T* findBelow(Node& root, std::string_view key, std::uint64_t hash) const noexcept {
+        Descent descent(hash, key);
+        for (Node* node = &root;;) {
+            node = node->children[descent.next()].load(std::memory_order_acquire);
+            if (node == nullptr || node->isOf(hash, key))
+                return node == nullptr ? nullptr : &node->value;
+        }
+    }
 
     // The children on the way to a key. Below the levels that the hash selects are only keys that were made to have
     // the same hash, so there the key is hashed with a seed that nobody knows.

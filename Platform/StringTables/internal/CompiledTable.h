@@ -18,6 +18,7 @@ namespace StringTables::internal {
 // The front of a compiled table in memory.
 class CompiledTable {
 public:
+    CompiledTable() = default; // without entries
     // `front`: the first index.front() bytes of the file, or all if it is shorter.
     CompiledTable(std::string front, const CompiledIndex& index);
 
@@ -27,30 +28,36 @@ public:
             return {};
         const auto displacement = Runtime::loadLittle<std::uint16_t>(front_.data() + index_.displacementAt(hash));
         const std::uint32_t number = index_.slot(hash, displacement);
-        const CompiledIndex::Slot slot = CompiledIndex::slotFrom(front_.data() + index_.slotAt(number));
-        if (slot.keySize != key.size() || !isInside(slot.keyAt, slot.keySize) ||
-            !Runtime::isSameName({front_.data() + slot.keyAt, slot.keySize}, key) ||
-            !isInside(slot.textAt, slot.textSize))
-            return {};
-        const std::string_view text(front_.data() + slot.textAt, slot.textSize);
+        const CompiledIndex::Slot slot = slotAt(number);
         std::uint32_t state = states_[number].load(std::memory_order_relaxed);
         if (state == unknown) [[unlikely]]
-            state = check(number, slot, hash, text);
-        if (state == damaged)
+            state = check(number, key, hash);
+        if (state == damaged || keyOf(slot) != key)
             return {};
-        return FoundText(text, PercentRange::unpacked(state - intact));
+        return FoundText(textOf(slot), PercentRange::unpacked(state - intact));
     }
 
 private:
+    CompiledIndex::Slot slotAt(std::uint32_t number) const noexcept {
+        return CompiledIndex::slotFrom(front_.data() + index_.slotAt(number));
+    }
+    // For a slot whose places are inside the front.
+    std::string_view keyOf(const CompiledIndex::Slot& slot) const noexcept {
+        return {front_.data() + slot.keyAt, slot.keySize};
+    }
+    std::string_view textOf(const CompiledIndex::Slot& slot) const noexcept {
+        return {front_.data() + slot.textAt, slot.textSize};
+    }
+
     // The states of a slot. The state of an intact slot is this number plus the packed range of the text's percent
     // signs.
     static constexpr std::uint32_t unknown = 0, damaged = 1, intact = 2;
     static_assert(PercentRange::largestPacked + std::uint64_t{intact} <= 0xFFFF'FFFF);
 
     bool isInside(std::size_t at, std::size_t size) const noexcept { return at + size <= front_.size(); }
-    // Determines the state of a slot whose state is unknown.
-    std::uint32_t check(std::uint32_t number, const CompiledIndex::Slot& slot, std::uint64_t hash,
-                        std::string_view text) const noexcept;
+    // Determines the state of a slot whose state is unknown, if it is the key's.
+    [[gnu::noinline]] std::uint32_t check(std::uint32_t number, std::string_view key,
+                                          std::uint64_t hash) const noexcept;
 
     std::string front_; // empty if the file ends within the slots
     CompiledIndex index_;

@@ -13,10 +13,9 @@ namespace StringTables {
 class FoundText {
 public:
     constexpr FoundText() noexcept = default; // none
-    // A text of at most 4 GB. `percents`: the places of its percent signs.
+    // A text of at most 4 GB, which is not null even if it is empty. `percents`: the places of its percent signs.
     constexpr explicit FoundText(std::string_view text, PercentRange percents = {}) noexcept
-        : begin_(text.empty() ? "" : text.data()), size_(static_cast<std::uint32_t>(text.size())), percents_(percents) {
-    }
+        : begin_(text.data()), size_(static_cast<std::uint32_t>(text.size())), percents_(percents) {}
 
     constexpr explicit operator bool() const noexcept { return begin_ != nullptr; }
     constexpr std::string_view text() const noexcept { return {begin_, size_}; }

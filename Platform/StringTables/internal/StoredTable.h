@@ -27,15 +27,10 @@ public:
     StoredTable& operator=(const StoredTable&) = delete;
     ~StoredTable();
 
-    // The text of `key` (exact), or no value. A missing table has no keys. A damaged one has none either, except for
-    // the intact entries of a compiled table. When the file is replaced after the first texts were read, those texts
-    // stay, and the rest comes from the new file.
+    // The text of `key` (exact), whose hash is `hash`, or none; with a wrong hash it only takes longer. A missing table
+    // has no keys. A damaged one has none either, except for the intact entries of a compiled table. When the file is
+    // replaced after the first texts were read, those texts stay, and the rest comes from the new file.
     // Throws std::bad_alloc, and std::system_error for transient errors; the next lookup tries again.
-    [[nodiscard]] std::optional<std::string_view> find(std::string_view key) {
-        const auto found = find(key, Runtime::keyHash(key));
-        return found ? std::optional(found.text()) : std::nullopt;
-    }
-    // `hash` is Runtime::keyHash(key). With a wrong hash it only takes longer.
     [[nodiscard]] FoundText find(std::string_view key, std::uint64_t hash) {
         if (!whole_.isMade()) [[unlikely]]
             return findInParts(key, hash);
@@ -62,17 +57,14 @@ private:
     // The whole file, after it was read.
     struct Whole {
         explicit Whole(Table table = {}) noexcept : other(std::move(table)) {}
-        Whole(std::string front, const internal::CompiledIndex& index)
-            : compiled(std::in_place, std::move(front), index) {}
+        Whole(std::string front, const internal::CompiledIndex& index) : compiled(std::move(front), index) {}
 
-        std::optional<internal::CompiledTable> compiled;
+        internal::CompiledTable compiled;
         Table other; // if it is not a compiled table
 
         FoundText find(std::string_view key, std::uint64_t hash) const noexcept {
-            if (compiled) [[likely]]
-                if (const FoundText found = compiled->find(key, hash)) [[likely]]
-                    return found;
-            return findOther(key, hash);
+            const FoundText found = compiled.find(key, hash);
+            return found ? found : findOther(key, hash);
         }
         FoundText findOther(std::string_view key, std::uint64_t hash) const noexcept;
     };
