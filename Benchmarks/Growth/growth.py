@@ -1,7 +1,7 @@
 """growth.py BUILD: how the cost of each step grows with the keys and with the languages of a bundle.
 
-Creates bundles, checks the output of each step, times it (processor time, the minimum of several runs) and writes the tables into
-Docs/performance.md. The exponent of a step between two sizes is 1 if ten times as much takes ten times as long."""
+Writes source folders, checks the output of each step, times it (processor time, the minimum of several runs) and writes the tables
+into Docs/performance.md. The exponent of a step between two sizes is 1 if ten times as much takes ten times as long."""
 import itertools
 import math
 import os
@@ -41,8 +41,8 @@ def quoted(string):
     return '"' + string.replace("\\", "\\\\").replace('"', '\\"').replace("\n", "\\n") + '"'
 
 
-def make_bundle(folder, keys, languages):
-    """Writes the bundle `folder`/source and the contents of its tables to `folder`/expected; returns the names of the languages."""
+def make_source(folder, keys, languages):
+    """Writes the source `folder`/source and the contents of its tables to `folder`/expected; returns the names of the languages."""
     tags = (f"{a}{b}" for a, b in itertools.product("abcdefghijklmnopqrstuvwxyz", repeat=2) if a + b != "en")
     names = ["Base", *itertools.islice(tags, languages - 1)]
     (folder / "expected").mkdir(parents=True)
@@ -57,20 +57,22 @@ def make_bundle(folder, keys, languages):
     return names
 
 
-def best(runs, *command):
-    """Seconds of processor time, because other processes may be running."""
-    def one():
-        child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        _, status, used = os.wait4(child.pid, 0)
-        child.returncode = os.waitstatus_to_exitcode(status)
-        if child.returncode != 0:
-            sys.exit(f"failed: {command}")
-        return used.ru_utime + used.ru_stime
-    return min(one() for _ in range(runs))
+def seconds(*command):
+    """Processor time of one run, because other processes may be running."""
+    child = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    _, status, used = os.wait4(child.pid, 0)
+    child.returncode = os.waitstatus_to_exitcode(status)
+    if child.returncode != 0:
+        sys.exit(f"failed: {command}")
+    return used.ru_utime + used.ru_stime
 
 
 def generate(source, out, shards="8"):
     return [BUILD / "bin/lumora", "generate", source, "--module", "Grown", "--shards", shards, "-o", out]
+
+
+def compile(source, bundle):
+    return [BUILD / "bin/lumora", "compile", source, "-o", bundle]
 
 
 def accessors(out):
@@ -79,20 +81,19 @@ def accessors(out):
 
 def measure(folder, keys, languages):
     """The seconds of each step, after checking its output."""
-    names = make_bundle(folder, keys, languages)
+    names = make_source(folder, keys, languages)
     times = {}
     made = folder / "made"
     done = subprocess.run(generate(folder / "source", made), check=True, capture_output=True, text=True)
     warned = sum(number % 50 == 4 for number in range(keys))
     assert accessors(made) == keys and done.stderr.count("begins no placeholder") == warned, "generated wrongly"
-    # A new folder each time, because unchanged files are not written again.
-    times["generate"] = min(best(1, *generate(folder / "source", folder / f"made{run}")) for run in range(3))
     compiled = folder / "Grown.bundle"
-    compile = [BUILD / "bin/lumora", "compile", folder / "source", "-o", compiled]
-    subprocess.run(compile, check=True)
+    subprocess.run(compile(folder / "source", compiled), check=True)
     out = subprocess.run([BUILD / "bin/growth", compiled, folder / "source", folder / "expected", *names],
                          check=True, capture_output=True, text=True).stdout
-    times["compile"] = best(3, *compile)
+    # A new output each time, because unchanged files of the last one would be kept.
+    times["generate"] = min(seconds(*generate(folder / "source", folder / f"made{run}")) for run in range(3))
+    times["compile"] = min(seconds(*compile(folder / "source", folder / f"Grown{run}.bundle")) for run in range(3))
     return times | {what: float(value) / 1e9 for what, value in (line.split() for line in out.splitlines())}
 
 
@@ -104,7 +105,7 @@ def shown(seconds):
 def table(head, sizes, runs):
     lines = [f"| {head} | " + " | ".join(f"{size:,}" for size in sizes) + " | exponent |", "|---" * (len(sizes) + 2) + "|"]
     labels = {"generate": "`lumora generate`", "compile": "`lumora compile`", "load": "binary tables loaded",
-              "check": "text tables read, every key looked up", "read": "one later `localizedText`"}
+              "check": "text tables read, every key looked up", "read": "one `localizedText` of a loaded table"}
     for step, label in labels.items():
         slopes = [math.log(b[step] / a[step]) / math.log(m / n)
                   for (n, a), (m, b) in itertools.pairwise(zip(sizes, runs))]
@@ -115,7 +116,8 @@ def table(head, sizes, runs):
 
 def compile_time(source, runs):
     flags = ["-std=c++20", "-O2", "-fPIC", "-fvisibility=hidden", "-I", ROOT, "-I", ROOT / "Platform"]
-    return best(runs, os.environ.get("CXX", "g++"), *flags, "-I", source.parent, "-c", source, "-o", "/dev/null")
+    command = [os.environ.get("CXX", "g++"), *flags, "-I", source.parent, "-c", source, "-o", "/dev/null"]
+    return min(seconds(*command) for _ in range(runs))
 
 
 def statics(folder, keys):
@@ -130,11 +132,11 @@ def statics(folder, keys):
 
 
 def compilations(folder):
-    lines = ["| Accessors | sources | all sources compiled | the slowest of them | as function-local statics, in one source |",
+    lines = ["| Accessors | generated .cpp files | all compiled | the slowest of them | as function-local statics, in one file |",
              "|---|---|---|---|---|"]
     for keys, shards, runs in ((1401, 1, 3), (1401, 8, 1), (10000, 8, 1)):
         at = folder / f"{keys}-{shards}"
-        make_bundle(at, keys, 1)
+        make_source(at, keys, 1)
         subprocess.run(generate(at / "source", at / "made", str(shards)), check=True, stderr=subprocess.DEVNULL)
         assert accessors(at / "made") == keys
         each = [compile_time(source, runs) for source in (at / "made").glob("GrownStrings-*.cpp")]
