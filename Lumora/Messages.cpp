@@ -6,32 +6,21 @@ namespace Lumora {
 
 namespace {
 
-// Messages cannot pass references and views, so these return and take copies.
-std::vector<std::string> allSupportedLocalizations() {
-    return Localization::allSupportedLocalizations();
-}
-std::vector<std::string> allSupportedHandbookLocalizations() {
-    return Localization::allSupportedHandbookLocalizations();
-}
-std::string legacyTr(const std::string& key) {
-    return Localization::legacyTr(key);
-}
-
 // Callers see them in this order.
-constexpr Runtime::Message properties[] = {
-    Runtime::message<&Localization::currentLocale>("currentLocale"),
-    Runtime::message<&Localization::isAsianLocale>("isAsianLocale"),
-    Runtime::message<&Localization::currentLanguage>("currentLanguage"),
-    Runtime::message<&Localization::isCurrentLocalizationRu>("isCurrentLocalizationRu"),
-    Runtime::message<&allSupportedLocalizations>("allSupportedLocalizations"),
-    Runtime::message<&allSupportedHandbookLocalizations>("allSupportedHandbookLocalizations"),
+constexpr Runtime::Method properties[] = {
+    Runtime::method<&Localization::currentLocale>("currentLocale"),
+    Runtime::method<&Localization::isAsianLocale>("isAsianLocale"),
+    Runtime::method<&Localization::currentLanguage>("currentLanguage"),
+    Runtime::method<&Localization::isCurrentLocalizationRu>("isCurrentLocalizationRu"),
+    Runtime::method<&Localization::allSupportedLocalizations>("allSupportedLocalizations"),
+    Runtime::method<&Localization::allSupportedHandbookLocalizations>("allSupportedHandbookLocalizations"),
 };
-constexpr Runtime::Message methods[] = {
-    Runtime::message<&legacyTr>("legacyTr:"),
-    Runtime::message<&Localization::legacyTrNumber>("legacyTrNumber:needSign:"),
-    Runtime::message<&Localization::legacyTrPercent>("legacyTrPercent:showPlus:"),
-    Runtime::message<&Localization::legacyTrYear>("legacyTrYearWithValue:"),
-    Runtime::message<&Localization::legacyTrAge>("legacyTrAge:"),
+constexpr Runtime::Method methods[] = {
+    Runtime::method<&Localization::legacyTr>("legacyTr:"),
+    Runtime::method<&Localization::legacyTrNumber>("legacyTrNumber:needSign:"),
+    Runtime::method<&Localization::legacyTrPercent>("legacyTrPercent:showPlus:"),
+    Runtime::method<&Localization::legacyTrYear>("legacyTrYearWithValue:"),
+    Runtime::method<&Localization::legacyTrAge>("legacyTrAge:"),
 };
 constexpr Runtime::Class localization("Lumora.Localization", properties, methods);
 LUMORA_PUBLISH_CLASS(localization);

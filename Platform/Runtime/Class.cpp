@@ -8,18 +8,18 @@ namespace Runtime {
 
 namespace {
 
-std::vector<std::string> namesOf(std::span<const Message> messages) {
+std::vector<std::string> namesOf(std::span<const Method> methods) {
     std::vector<std::string> names;
-    names.reserve(messages.size());
-    for (const Message& message : messages)
-        names.emplace_back(message.selector);
+    names.reserve(methods.size());
+    for (const Method& method : methods)
+        names.emplace_back(method.selector);
     return names;
 }
 
-const Message* findIn(std::span<const Message> messages, std::string_view selector) noexcept {
+const Method* findIn(std::span<const Method> methods, std::string_view selector) noexcept {
     const auto found =
-        std::ranges::find(messages, selector, [](const Message& m) { return std::string_view(m.selector); });
-    return found == messages.end() ? nullptr : &*found;
+        std::ranges::find(methods, selector, [](const Method& method) { return std::string_view(method.selector); });
+    return found == methods.end() ? nullptr : &*found;
 }
 
 [[noreturn]] void reject(std::string_view subject, std::string_view selector, std::string_view complaint) {
@@ -36,8 +36,8 @@ std::vector<std::string> Class::classMethods() const {
     return namesOf(methods_);
 }
 
-const Message* Class::find(std::string_view selector) const noexcept {
-    const Message* method = findIn(methods_, selector);
+const Method* Class::find(std::string_view selector) const noexcept {
+    const Method* method = findIn(methods_, selector);
     return method != nullptr ? method : findIn(properties_, selector);
 }
 
@@ -47,19 +47,19 @@ const Class* classNamed(std::string_view name) noexcept {
 
 namespace detail {
 
-const Message& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
-                       TypeTag result) noexcept {
+const Method& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
+                      TypeTag result) noexcept {
     if (cls == nullptr)
         reject("An unknown class", selector, "was sent");
-    const Message* message = cls->find(selector);
-    if (message == nullptr)
+    const Method* method = cls->find(selector);
+    if (method == nullptr)
         reject(cls->name(), selector, "does not respond to");
-    if (!std::ranges::equal(message->arguments, arguments,
+    if (!std::ranges::equal(method->arguments, arguments,
                             [](TypeTag published, const Argument& given) { return *published == *given.type; }))
         reject(cls->name(), selector, "was sent arguments of other types with");
-    if (*message->result != *result)
+    if (*method->result != *result)
         reject(cls->name(), selector, "returns a result of another type for");
-    return *message;
+    return *method;
 }
 
 } // namespace detail

@@ -1,7 +1,7 @@
 // Runtime/Class.h
-// Calls of static functions by name, for callers that know class and function only as strings: a caller sends a message
-// with a selector, such as "legacyTrAge:", and its arguments; the class finds the function that it has published under
-// that selector. A class publishes constant tables; nothing is registered before the first look-up.
+// Calls of static functions by name, for callers that know class and function only as strings: a caller sends a
+// message, which is a selector, such as "legacyTrAge:", and arguments; the class answers with the method that it has
+// published under that selector. Classes are constant data; a look-up finds them in the loaded libraries.
 // Threads: any. Ownership: classes live as long as the library; results belong to the caller.
 #pragma once
 
@@ -29,8 +29,9 @@ namespace Runtime {
 // The type of an argument or result. Compare the type_infos, not the pointers: each library may have its own copy.
 using TypeTag = const std::type_info*;
 
-// The type in which an argument or a result is passed: every integer as std::int64_t, every floating-point number as
-// double, every string as std::string (a null C string as an empty one), any other type unchanged.
+// The type in which an argument or a result is passed: bool as bool, every other integer as std::int64_t, every
+// floating-point number as double, every string as std::string (a null C string as an empty one), any other type as a
+// copy.
 template <class T>
 using Carried = std::conditional_t<
     std::same_as<std::remove_cvref_t<T>, bool>, bool,
@@ -45,33 +46,34 @@ struct Argument {
     const void* value;
 };
 
-// One property or method that a class publishes. `invoke` constructs the result at `result`, raw memory of the right
-// size and alignment.
-struct Message {
+// A function that a class publishes. `invoke` constructs the result at `result`, raw memory of the right size and
+// alignment.
+struct Method {
     const char* selector;
     TypeTag result;
     std::span<const TypeTag> arguments;
     void (*invoke)(const Argument* arguments, void* result);
 };
 
-// A class as messages see it. `name` is qualified by its module: "Lumora.Localization".
+// What is published under a class's name: "Lumora.Localization", or just "UIImage" for what a module adds to the
+// platform. Properties are methods without arguments, listed separately.
 class LUMORA_EXPORT Class {
 public:
-    constexpr Class(const char* name, std::span<const Message> properties, std::span<const Message> methods) noexcept
+    constexpr Class(const char* name, std::span<const Method> properties, std::span<const Method> methods) noexcept
         : name_(name), properties_(properties), methods_(methods) {}
 
     std::string_view name() const noexcept { return name_; }
-    // The names of what the class publishes, in published order.
+    // The selectors, in published order.
     std::vector<std::string> classProperties() const;
     std::vector<std::string> classMethods() const;
 
-    // The message with that selector, or null.
-    const Message* find(std::string_view selector) const noexcept;
+    // The method or property with that selector, or null.
+    const Method* find(std::string_view selector) const noexcept;
 
 private:
     const char* name_;
-    std::span<const Message> properties_;
-    std::span<const Message> methods_;
+    std::span<const Method> properties_;
+    std::span<const Method> methods_;
 };
 
 // The class of that name in any loaded library or in the program, or null. Each call searches all loaded libraries
@@ -80,9 +82,9 @@ private:
 
 namespace detail {
 
-// Finds the message of `cls` for `selector`. Stops the process if there is none or if its types differ from these.
-LUMORA_EXPORT const Message& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
-                                     TypeTag result) noexcept;
+// Finds the method of `cls` for `selector`. Stops the process if there is none or if its types differ from these.
+LUMORA_EXPORT const Method& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
+                                    TypeTag result) noexcept;
 
 template <class T> Carried<T> carried(const T& value) {
     if constexpr (std::is_pointer_v<T> || std::is_null_pointer_v<T>)
@@ -91,9 +93,13 @@ template <class T> Carried<T> carried(const T& value) {
     return static_cast<Carried<T>>(value);
 }
 
-template <class Function, Function* function> struct Bridge;
-template <class Result, class... Arguments, Result (*function)(Arguments...)>
-struct Bridge<Result(Arguments...), function> {
+template <class Parameter>
+inline constexpr bool isPassedUnchanged = !std::is_arithmetic_v<std::remove_cvref_t<Parameter>> ||
+                                          std::same_as<std::remove_cvref_t<Parameter>, Carried<Parameter>>;
+
+template <auto* function, class Result, class... Arguments> struct Bridge {
+    static_assert((isPassedUnchanged<Arguments> && ...), "take numbers as bool, std::int64_t or double");
+
     static constexpr TypeTag arguments[sizeof...(Arguments) + 1] = {&typeid(Carried<Arguments>)..., nullptr};
 
     static void invoke(const Argument* given, void* result) {
@@ -107,13 +113,14 @@ struct Bridge<Result(Arguments...), function> {
 
 } // namespace detail
 
-// Publishes the static function `function` under `selector`.
-template <auto* function> constexpr Message message(const char* selector) noexcept {
-    using Function = std::remove_pointer_t<decltype(function)>;
-    using Bridge = detail::Bridge<Function, function>;
+// Publishes the static function `function` under `selector`. It returns a value, and takes numbers as bool,
+// std::int64_t or double, strings as std::string or std::string_view, and any other type as a value or a constant
+// reference.
+template <auto* function> constexpr Method method(const char* selector) noexcept {
     return []<class Result, class... Arguments>(const char* name, Result (*)(Arguments...)) {
-        return Message{name, &typeid(Carried<Result>), std::span(Bridge::arguments, sizeof...(Arguments)),
-                       &Bridge::invoke};
+        using Bridge = detail::Bridge<function, Result, Arguments...>;
+        return Method{name, &typeid(Carried<Result>), std::span(Bridge::arguments, sizeof...(Arguments)),
+                      &Bridge::invoke};
     }(selector, function);
 }
 
@@ -135,7 +142,7 @@ template <class Result, class... Arguments>
 Carried<Result> send(const Class* cls, std::string_view selector, const Arguments&... arguments) {
     return [&](const Carried<Arguments>&... carried) {
         const Argument given[] = {{&typeid(Carried<Arguments>), &carried}..., {nullptr, nullptr}};
-        const Message& found =
+        const Method& found =
             detail::resolve(cls, selector, std::span(given, sizeof...(Arguments)), &typeid(Carried<Result>));
         alignas(Carried<Result>) std::byte place[sizeof(Carried<Result>)];
         found.invoke(given, place);

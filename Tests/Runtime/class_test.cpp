@@ -1,5 +1,7 @@
 #include "Runtime/Class.h"
 
+#include "Runtime/internal/ElfNotes.h"
+#include <bit>
 #include <gtest/gtest.h>
 
 namespace {
@@ -7,15 +9,20 @@ namespace {
 std::string greeting(const std::string& name, std::int64_t times, double factor, bool loud) {
     return name + " " + std::to_string(times) + " " + std::to_string(factor) + (loud ? "!" : ".");
 }
-std::vector<std::string> names() {
-    return {"a", "b"};
+std::string size(std::string_view text) noexcept {
+    return std::to_string(text.size());
+}
+const std::vector<std::string>& names() {
+    static const std::vector<std::string> both = {"a", "b"};
+    return both;
 }
 bool isOpen() {
     return true;
 }
 
-constexpr Runtime::Message properties[] = {Runtime::message<&names>("names"), Runtime::message<&isOpen>("isOpen")};
-constexpr Runtime::Message methods[] = {Runtime::message<&greeting>("greet:times:factor:loud:")};
+constexpr Runtime::Method properties[] = {Runtime::method<&names>("names"), Runtime::method<&isOpen>("isOpen")};
+constexpr Runtime::Method methods[] = {Runtime::method<&greeting>("greet:times:factor:loud:"),
+                                       Runtime::method<&size>("sizeOf:")};
 constexpr Runtime::Class door("Test.Door", properties, methods);
 LUMORA_PUBLISH_CLASS(door);
 
@@ -26,9 +33,40 @@ TEST(Class, IsFoundByItsExactName) {
     EXPECT_EQ(Runtime::classNamed(""), nullptr);
 }
 
-TEST(Class, ListsItsMessagesInOrder) {
+TEST(Class, ListsItsSelectorsInOrder) {
     EXPECT_EQ(door.classProperties(), (std::vector<std::string>{"names", "isOpen"}));
-    EXPECT_EQ(door.classMethods(), (std::vector<std::string>{"greet:times:factor:loud:"}));
+    EXPECT_EQ(door.classMethods(), (std::vector<std::string>{"greet:times:factor:loud:", "sizeOf:"}));
+}
+
+TEST(ElfNotes, AreReadUpToTheEndOfTheirSegment) {
+    const auto note = [](ElfW(Word) ownerSize, ElfW(Word) contentSize, const char* bytes) {
+        const ElfW(Nhdr) header = {.n_namesz = ownerSize, .n_descsz = contentSize, .n_type = 7};
+        return std::string(reinterpret_cast<const char*>(&header), sizeof header) + bytes;
+    };
+    const std::string first = note(2, 5, "us--12345---");
+    const std::pair<std::string, std::string> cases[] = {
+        {first + note(2, 3, "us--678"), "12345 678 "}, // the last note without padding
+        {first + note(2, 4, "us--678"), "12345 "},
+        {first + note(9, 0, "us--"), "12345 "},
+        {first + note(0xFFFFFFFF, 0xFFFFFFFF, "us--"), "12345 "},
+        {first + "header", "12345 "}};
+    for (const auto& [bytes, expected] : cases) {
+        ElfW(Phdr) segment{};
+        segment.p_type = PT_NOTE;
+        segment.p_vaddr = std::bit_cast<ElfW(Addr)>(bytes.data());
+        segment.p_memsz = bytes.size();
+        segment.p_align = 4;
+        dl_phdr_info object{};
+        object.dlpi_phdr = &segment;
+        object.dlpi_phnum = 1;
+        std::string found;
+        const bool stopped = Runtime::visitNotes(object, [&](const Runtime::ElfNote& one) {
+            found.append(one.owner == "us" && one.type == 7 ? one.content : "?") += ' ';
+            return false;
+        });
+        EXPECT_EQ(found, expected);
+        EXPECT_FALSE(stopped);
+    }
 }
 
 TEST(Class, PassesArgumentsOfEveryWidth) {
@@ -40,6 +78,7 @@ TEST(Class, PassesArgumentsOfEveryWidth) {
               " 1 1.000000!");
     EXPECT_EQ(Runtime::send<std::string>(&door, selector, nullptr, 1, 1.0, true), " 1 1.000000!");
     EXPECT_EQ(Runtime::send<std::vector<std::string>>(&door, "names"), (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(Runtime::send<std::string>(&door, "sizeOf:", "four"), "4");
     EXPECT_TRUE(Runtime::send<bool>(&door, "isOpen"));
 }
 

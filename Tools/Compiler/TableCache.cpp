@@ -1,9 +1,8 @@
 #include "Compiler/TableCache.h"
 
 #include "Compiler/Records.h"
+#include "Runtime/internal/ElfNotes.h"
 #include "Runtime/internal/File.h"
-#include <cstddef>
-#include <link.h>
 #include <xxhash.h>
 
 namespace Compiler {
@@ -12,36 +11,14 @@ namespace {
 
 constexpr std::string_view recordName = "table";
 
-std::size_t aligned(std::size_t size) {
-    return (size + 3) / 4 * 4;
-}
-
-// The build id among the notes of an object, or an empty string.
-std::string_view buildIdIn(std::string_view notes) {
-    while (notes.size() >= sizeof(ElfW(Nhdr))) {
-        const auto* const note = reinterpret_cast<const ElfW(Nhdr)*>(notes.data());
-        notes.remove_prefix(sizeof *note);
-        const std::size_t name = aligned(note->n_namesz);
-        const std::size_t size = name + aligned(note->n_descsz);
-        if (size > notes.size())
-            break;
-        if (note->n_type == NT_GNU_BUILD_ID && notes.substr(0, note->n_namesz) == std::string_view("GNU", 4))
-            return notes.substr(name, note->n_descsz);
-        notes.remove_prefix(size);
-    }
-    return {};
-}
-
 // Takes the build id of the first object, which is the main program.
 int takeBuildId(dl_phdr_info* program, std::size_t, void* out) {
-    for (std::size_t i = 0; i < program->dlpi_phnum; ++i) {
-        const ElfW(Phdr)& header = program->dlpi_phdr[i];
-        if (header.p_type != PT_NOTE)
-            continue;
-        const auto* const begin = reinterpret_cast<const char*>(program->dlpi_addr + header.p_vaddr);
-        if (const auto found = buildIdIn({begin, header.p_memsz}); !found.empty())
-            *static_cast<std::string_view*>(out) = found;
-    }
+    Runtime::visitNotes(*program, [out](const Runtime::ElfNote& note) {
+        const bool isBuildId = note.type == NT_GNU_BUILD_ID && note.owner == std::string_view("GNU", 4);
+        if (isBuildId)
+            *static_cast<std::string_view*>(out) = note.content;
+        return isBuildId;
+    });
     return 1; // stops
 }
 

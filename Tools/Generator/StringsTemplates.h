@@ -149,8 +149,8 @@ struct BundleFinder {
 const ::Foundation::NSBundle* publishedBundle() {
     return &{{module}}Resources::bundle();
 }
-constexpr ::Runtime::Message bundleMessage[] = {::Runtime::message<&publishedBundle>("bundle")};
-constexpr ::Runtime::Class resources("{{module}}.{{module}}Resources", bundleMessage, bundleMessage);
+constexpr ::Runtime::Method bundleMethod[] = {::Runtime::method<&publishedBundle>("bundle")};
+constexpr ::Runtime::Class resources("{{module}}.{{module}}Resources", bundleMethod, bundleMethod);
 LUMORA_PUBLISH_CLASS(resources);
 
 } // namespace

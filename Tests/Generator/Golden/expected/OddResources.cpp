@@ -19,8 +19,8 @@ struct BundleFinder {
 const ::Foundation::NSBundle* publishedBundle() {
     return &OddResources::bundle();
 }
-constexpr ::Runtime::Message bundleMessage[] = {::Runtime::message<&publishedBundle>("bundle")};
-constexpr ::Runtime::Class resources("Odd.OddResources", bundleMessage, bundleMessage);
+constexpr ::Runtime::Method bundleMethod[] = {::Runtime::method<&publishedBundle>("bundle")};
+constexpr ::Runtime::Class resources("Odd.OddResources", bundleMethod, bundleMethod);
 LUMORA_PUBLISH_CLASS(resources);
 
 } // namespace
