@@ -1,9 +1,10 @@
 #include "Foundation/internal/BundleFolders.h"
 
 #include "Runtime/internal/Directory.h"
+#include "Runtime/internal/Hash.h"
 #include "Runtime/internal/TransientError.h"
 #include "StringTables/internal/BundleLayout.h"
-#include "StringTables/internal/Table.h"
+#include "StringTables/internal/StoredTable.h"
 #include <algorithm>
 #include <cerrno>
 #include <optional>
@@ -57,6 +58,7 @@ std::vector<std::string> listed(const std::string& bundle) {
 
 std::vector<std::string> split(std::string_view list) {
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(std::ranges::count(list, layout::languageSeparator)));
     for (;;) {
         const std::size_t end = list.find(layout::languageSeparator);
         if (end == list.npos)
@@ -76,15 +78,15 @@ bool hasAsManyFolders(const std::string& bundle, std::size_t names) noexcept {
 } // namespace
 
 BundleFolders bundleFolders(const std::string& bundle) {
-    const std::string path = std::string(bundle).append("/").append(layout::informationFile);
-    const auto read = StringTables::Table::readFile(path, bundle);
-    if (!read)
-        Runtime::throwIfTransient(read.error());
-    const auto find = [&](std::string_view key) { return read ? read->find(key) : std::nullopt; };
-    BundleFolders folders{.developmentLanguage =
-                              std::string(find(layout::developmentRegionKey).value_or(layout::defaultRegion)),
-                          .languages = split(find(layout::languagesKey).value_or("")),
-                          .mayHavePlurals = find(layout::pluralsKey) != "no"};
+    StringTables::StoredTable information(std::string(bundle).append("/").append(layout::informationFile),
+                                          bundle.size());
+    const auto find = [&](std::string_view key, std::string_view otherwise) {
+        const StringTables::FoundText found = information.find(key, Runtime::keyHash(key));
+        return found ? found.text() : otherwise;
+    };
+    BundleFolders folders{.developmentLanguage = std::string(find(layout::developmentRegionKey, layout::defaultRegion)),
+                          .languages = split(find(layout::languagesKey, "")),
+                          .mayHavePlurals = find(layout::pluralsKey, "") != "no"};
     if (folders.languages.empty() || !hasAsManyFolders(bundle, folders.languages.size())) {
         folders.languages = listed(bundle);
         folders.mayHavePlurals = true;

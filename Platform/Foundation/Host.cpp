@@ -18,10 +18,10 @@ namespace {
 constexpr std::string_view plainLocale = "en_US"; // when the environment says nothing, or "C"
 constexpr char separator = '\0';                  // cannot be part of a language tag
 
-// The languages come last, because they are long and would move the locale to another page.
+// The languages come last, because they are long and would move the others to another page.
+LUMORA_START_DATA constinit Runtime::ForkLock changing; // guards writes; readers always see a consistent text
 LUMORA_START_DATA constinit SharedText<Host::longestLocale> locale;
 LUMORA_START_DATA constinit SharedText<Host::longestLanguages> languages; // most preferred first
-constinit Runtime::ForkLock changing; // guards writes to both; readers always see a consistent text
 
 // Held by setters. An interrupted write of a parent process needs no repair: readers still see the text before it.
 class Change {

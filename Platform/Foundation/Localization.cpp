@@ -47,8 +47,10 @@ LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
         return nullptr;
     std::string texts = pathOf(name, layout::textsSuffix);
     const std::string plurals = mayHavePlurals_ ? pathOf(name, layout::pluralsSuffix) : std::string();
-    const bool exists = ::access(texts.c_str(), F_OK) == 0 || (mayHavePlurals_ && ::access(plurals.c_str(), F_OK) == 0);
-    return tables_.add(exists ? tables_.unlimited : mostMissing, name, *this, name, std::move(texts), bundle_.size(),
+    const auto exists = [](const std::string& path) { return !path.empty() && ::access(path.c_str(), F_OK) == 0; };
+    if (tables_.size() >= mostMissing && !exists(texts) && !exists(plurals))
+        return nullptr;
+    return tables_.add(tables_.unlimited, name, *this, name, std::move(texts), bundle_.size(),
                        mayHavePlurals_ ? readPlurals(plurals, bundle_) : StringTables::PluralTable());
 }
 

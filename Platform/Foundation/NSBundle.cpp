@@ -61,6 +61,7 @@ struct NSBundle::Contents {
 
     Contents(std::string bundlePath, const detail::BundleFolders& found)
         : bundle(*this), path(std::move(bundlePath)), developmentLocalization(found.developmentLanguage) {
+        localizations.reserve(found.languages.size());
         for (const std::string& name : found.languages) {
             const std::string& language = name == layout::baseName ? developmentLocalization : name;
             folders.emplace_back(name, path, language, found.mayHavePlurals);
@@ -68,6 +69,7 @@ struct NSBundle::Contents {
         }
         std::ranges::sort(localizations);
         localizations.erase(std::unique(localizations.begin(), localizations.end()), localizations.end());
+        chains.reserve(localizations.size() + 1);
         for (const std::string& language : localizations)
             chains.push_back(chainOf(language));
         chains.push_back(chainOf(developmentLocalization));

@@ -36,7 +36,8 @@ private:
         return std::string_view(long_).substr(0, read(long_.data(), long_.size()));
     }
     std::size_t read(char* out, std::size_t size) const {
-        const auto filled = file_.read(out, size, begin_);
+        const std::size_t left = file_.size() - std::min(begin_, file_.size()); // asking for more takes another call
+        const auto filled = file_.read(out, std::min(size, left), begin_);
         if (!filled)
             Runtime::throwIfTransient(filled.error());
         return filled ? *filled : 0;
@@ -50,13 +51,17 @@ private:
     std::string long_;
 };
 
-Runtime::Result<std::string> readFront(const Runtime::OpenFile& file, const CompiledIndex& index) {
-    std::string front(std::min(index.front(), file.size()), '\0');
-    const auto filled = file.read(front.data(), front.size(), 0);
+// A smaller file is read in one go.
+constexpr std::size_t smallFile = 8192;
+
+// Reads on until `bytes` are the first `size` bytes of the file, or all if it is shorter or unreadable.
+void readOn(const Runtime::OpenFile& file, std::string& bytes, std::size_t size) {
+    const std::size_t before = bytes.size();
+    bytes.resize(std::max(before, std::min(size, file.size())));
+    const auto filled = file.read(bytes.data() + before, bytes.size() - before, before);
     if (!filled)
-        return filled.error();
-    front.resize(*filled);
-    return front;
+        Runtime::throwIfTransient(filled.error());
+    bytes.resize(before + (filled ? *filled : 0));
 }
 
 } // namespace
@@ -70,19 +75,24 @@ StoredTable::~StoredTable() {
 
 // Looks up a key in a table that is not compiled, or again with the correct hash if the given one was wrong.
 FoundText StoredTable::Whole::findOther(std::string_view key, std::uint64_t hash) const noexcept {
-    if (const auto text = other.find(key))
-        return FoundText(*text);
+    if (other) {
+        const auto text = other->find(key);
+        return text ? FoundText(*text) : FoundText();
+    }
     const std::uint64_t right = Runtime::keyHash(key);
     return hash == right ? FoundText() : compiled.find(key, right);
 }
 
 // Threads may read the same part at the same time; one result is kept.
 FoundText StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
+    std::optional<Runtime::OpenFile> file;
     std::unique_ptr<const Part> made;
     for (std::atomic<const Part*>& slot : parts_) {
         const Part* part = slot.load(std::memory_order_acquire);
-        if (part == nullptr && !made)
-            made = readPart(key);
+        if (part == nullptr && !made) {
+            file = opened();
+            made = file ? readPart(*file, key) : nullptr;
+        }
         if (part == nullptr && !made)
             break;
         if (part == nullptr && slot.compare_exchange_strong(part, made.get(), std::memory_order_acq_rel))
@@ -90,43 +100,45 @@ FoundText StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
         if (part->key == key)
             return part->found;
     }
-    return whole_.get([this] { return readWhole(); }).find(key, hash);
+    return whole_.get([&] { return readWhole(file ? std::move(file) : opened()); }).find(key, hash);
+}
+
+// No value for a file that is missing or cannot be a table.
+std::optional<Runtime::OpenFile> StoredTable::opened() const {
+    auto file = Runtime::OpenFile::open(path_, Table::maxBytes, bundle());
+    if (file)
+        return *std::move(file);
+    Runtime::throwIfTransient(file.error());
+    return std::nullopt;
 }
 
 // Null when the file must be read whole: it has no index, is small, or has changed since the other parts were read.
-std::unique_ptr<const StoredTable::Part> StoredTable::readPart(std::string_view key) const {
-    static constexpr std::size_t smallFile = 8192;
-    const auto file = Runtime::OpenFile::open(path_, Table::maxBytes, bundle());
-    if (!file)
-        Runtime::throwIfTransient(file.error());
+std::unique_ptr<const StoredTable::Part> StoredTable::readPart(const Runtime::OpenFile& file,
+                                                               std::string_view key) const {
     const Part* const first = parts_.front().load(std::memory_order_acquire);
-    if (!file || file->size() < smallFile || (first != nullptr && first->file != file->identity()))
+    if (file.size() < smallFile || (first != nullptr && first->file != file.identity()))
         return nullptr;
-    FileParts source(*file);
+    FileParts source(file);
     CompiledIndex index;
     if (CompiledIndex::recognize(source.bytes(0, CompiledIndex::headSize), index) != CompiledIndex::State::present)
         return nullptr;
-    return std::make_unique<Part>(key, findIn(source, index, key, Runtime::keyHash(key)), file->identity());
+    return std::make_unique<Part>(key, findIn(source, index, key, Runtime::keyHash(key)), file.identity());
 }
 
-StoredTable::Whole StoredTable::readWhole() const {
-    const auto file = Runtime::OpenFile::open(path_, Table::maxBytes, bundle());
-    if (!file) {
-        Runtime::throwIfTransient(file.error());
+StoredTable::Whole StoredTable::readWhole(std::optional<Runtime::OpenFile> file) {
+    if (!file)
         return Whole();
-    }
-    FileParts source(*file);
+    std::string bytes;
+    readOn(*file, bytes, smallFile);
     CompiledIndex index;
-    if (CompiledIndex::recognize(source.bytes(0, CompiledIndex::headSize), index) == CompiledIndex::State::present) {
-        auto front = readFront(*file, index);
-        if (!front)
-            Runtime::throwIfTransient(front.error());
-        return Whole(front ? *std::move(front) : std::string(), index);
-    }
-    auto table = Table::readFile(path_, bundle());
-    if (!table)
-        Runtime::throwIfTransient(table.error());
-    return Whole(table ? *std::move(table) : Table());
+    const bool isCompiled = CompiledIndex::recognize(std::string_view(bytes).substr(0, CompiledIndex::headSize),
+                                                     index) == CompiledIndex::State::present;
+    const std::size_t needed = isCompiled ? index.front() : file->size();
+    readOn(*file, bytes, needed);
+    if (isCompiled)
+        return Whole(bytes.size() > needed ? bytes.substr(0, needed) : std::move(bytes), index);
+    auto table = Table::read(std::move(bytes));
+    return table ? Whole(*std::move(table)) : Whole();
 }
 
 } // namespace StringTables

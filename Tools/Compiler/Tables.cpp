@@ -45,7 +45,7 @@ bool hasPlurals(const Source& source) {
     return false;
 }
 
-// Adds the entries about the source. Binary, because a program reads Info.plist before its first text.
+// Adds the entries about the source. With an index, because a program reads Info.plist before its first text.
 Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source& source) {
     const std::string languages = languagesOf(source);
     const Entry own[] = {{regionKey, source.developmentLanguage},
@@ -55,7 +55,7 @@ Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source&
         std::erase_if(entries, [&one](const Entry& entry) { return entry.key == one.key; });
         entries.push_back(one);
     }
-    return StringTables::write(entries, Form::binary);
+    return StringTables::writeCompiled(entries);
 }
 
 // The source's Info.plist with additional entries. One that contains other values than strings is copied unchanged,

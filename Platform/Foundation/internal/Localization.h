@@ -41,7 +41,7 @@ private:
     bool mayHavePlurals_;
     // All existing tables, and missing ones until there are mostMissing tables: a program may ask for any number of
     // names.
-    Runtime::KeyedStore<LocalizedTable, 16> tables_;
+    Runtime::KeyedStore<LocalizedTable, 4> tables_;
     static constexpr std::size_t mostMissing = 64;
 };
 

@@ -36,10 +36,12 @@ public:
         return root == nullptr ? nullptr : findBelow(*root, key, hash);
     }
 
+    std::size_t size() const noexcept { return size_.load(std::memory_order_relaxed); }
+
     // Constructs the value of `key` from `parts`, or returns the value that another thread added meanwhile. Returns
     // null and keeps nothing when the store already holds `limit` values.
     template <class... Parts> T* add(std::size_t limit, std::string_view key, Parts&&... parts) {
-        if (size_.load(std::memory_order_relaxed) >= limit)
+        if (size() >= limit)
             return nullptr;
         const std::uint64_t hash = keyHash(key);
         std::unique_ptr<Node> made(new Node{hash, std::string(key), T(std::forward<Parts>(parts)...), {}});

@@ -56,11 +56,12 @@ private:
 
     // The whole file, after it was read.
     struct Whole {
-        explicit Whole(Table table = {}) noexcept : other(std::move(table)) {}
+        Whole() = default; // without texts
+        explicit Whole(Table table) noexcept : other(std::move(table)) {}
         Whole(std::string front, const internal::CompiledIndex& index) : compiled(std::move(front), index) {}
 
         internal::CompiledTable compiled;
-        Table other; // if it is not a compiled table
+        std::optional<Table> other; // if it is not a compiled table
 
         FoundText find(std::string_view key, std::uint64_t hash) const noexcept {
             const FoundText found = compiled.find(key, hash);
@@ -70,8 +71,9 @@ private:
     };
 
     FoundText findInParts(std::string_view key, std::uint64_t hash);
-    std::unique_ptr<const Part> readPart(std::string_view key) const;
-    Whole readWhole() const;
+    std::optional<Runtime::OpenFile> opened() const;
+    std::unique_ptr<const Part> readPart(const Runtime::OpenFile& file, std::string_view key) const;
+    static Whole readWhole(std::optional<Runtime::OpenFile> file);
 
     std::string_view bundle() const noexcept { return std::string_view(path_).substr(0, bundle_); }
 
