@@ -1,7 +1,7 @@
 #include "UIKit/UIColor.h"
 
+#include "AssetCatalog/internal/ColorSpaces.h"
 #include "UIKit/internal/BundleCatalog.h"
-#include "UIKit/internal/ColorSpaces.h"
 
 namespace UIKit {
 
@@ -25,7 +25,9 @@ UIColor UIColor::resolved(const UITraitCollection& traits) const noexcept {
     if (asset == nullptr)
         return *this;
     const std::size_t variant = asset->catalog->bestVariant(asset->index, asset->traits.over(traits));
-    return UIColor(State(detail::toExtendedSrgb(asset->catalog->entry(asset->index).color(variant))));
+    const auto [red, green, blue, alpha] =
+        AssetCatalog::toExtendedSrgb(asset->catalog->entry(asset->index).color(variant));
+    return {red, green, blue, alpha};
 }
 
 } // namespace UIKit

@@ -21,9 +21,9 @@ ARROWS = {
     "Tools/Generator": ["Tools/SourceBundle"],
     "Tools/Compiler": ["Tools/SourceBundle"],
     "Tools/Exchange": ["Tools/SourceBundle"],
-    "Tools/Gallery": ["Tools/Generator", "Platform/UIKit"],
+    "Tools/Gallery": ["Tools/Generator"],
     "Tools/Check": ["Tools/Generator"],
-    "Tools/Program": ["Tools/Check", "Tools/Generator", "Tools/Compiler", "Tools/Exchange", "Tools/Gallery"],
+    "Tools/Program": ["Platform/Foundation", "Tools/Check", "Tools/Generator", "Tools/Compiler", "Tools/Exchange", "Tools/Gallery"],
 }
 INCLUDE = re.compile(r'\s*#\s*include\s+["<]([^">]+)[">]')
 

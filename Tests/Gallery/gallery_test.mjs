@@ -217,6 +217,12 @@ function hostileSource() {
         <key>NSStringFormatValueTypeKey</key><string>ld</string>
         <key>one</key><string>%ld day</string><key>other</key><string>%ld days</string></dict></dict></dict></plist>`, "Odd.stringsdict");
     table("he", '"end" = "<img src=x onerror=alert(2)>"; "same" = "Same";');
+    const variants = [["0.5", null], ["1.0", "de"]].map(([red, locale]) => ({
+        idiom: "universal", ...(locale && { locale }),
+        color: { "color-space": "srgb", components: { red, green: "0", blue: "0", alpha: "1" } },
+    }));
+    mkdirSync(join(source, "Colors.xcassets/flag.colorset"), { recursive: true });
+    writeFileSync(join(source, "Colors.xcassets/flag.colorset/Contents.json"), JSON.stringify({ colors: variants }));
     const page = join(folder, "hostile.html");
     execFileSync(program, ["gallery", source, "--module", "Shop", "-o", page]);
     return page;
@@ -230,6 +236,7 @@ onPage("texts of any content are only shown", async (tab) => {
     assert.equal(await row(tab, "same").locator(".tag").innerText(), "Untranslated");
     assert.equal(await row(tab, "same").locator(".comment").innerText(), "Of two things");
     assert.match(await row(tab, "days").innerText(), /%#@n@ left\s+one\s+%ld day\s+other\s+%ld days/);
+    assert.deepEqual(await tab.locator('[data-asset="flag"] figcaption').allInnerTexts(), ["any #800000", "de #FF0000"]);
     for (const [status, shown] of [["missing", 4], ["plural", 1], ["comment", 1], ["same", 1]]) {
         await tab.selectOption("#status", status);
         assert.equal((await keysShown(tab)).length, shown, status);

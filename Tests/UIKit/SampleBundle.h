@@ -1,5 +1,5 @@
 // Tests/UIKit/SampleBundle.h
-// A bundle with a compiled catalog, and a guard that restores the current traits.
+// A bundle with a compiled catalog, and traits that are current in a scope.
 #pragma once
 
 #include "../Pictures/PngFile.h"
@@ -27,9 +27,14 @@ inline Picture picture(const Fit& fit, std::uint32_t side, std::uint8_t red) {
             .bytes = shared({bytes.begin(), bytes.end()})};
 }
 
-// Images "send" (light at 1x and 3x, dark at 2x), "star_" (no scale, template), "sign" (3 pixels, 5 in Russian), and
-// two damaged ones: "broken" (half a file) and "liar" (the catalog says another width than the file); colours "ink"
-// (dark on light, light on dark) and "flag" (German, Russian); data "regions".
+// Images:  "send"     at 1x and 3x for any appearance, at 2x for dark
+//          "star_"    at any scale, a template
+//          "sign"     3 pixels wide with insets, 5 pixels wide in Russian
+//          "broken"   half a file
+//          "liar"     the catalog says another width than the file
+// Colours: "ink"      for any appearance, for dark, for dark with high contrast
+//          "flag"     for German, for Russian
+// Data:    "regions"
 inline std::vector<Asset> assets() {
     const auto image = [](const char* name, std::vector<Picture> pictures) {
         const bool isTemplate = std::string_view(name) == "star_";
@@ -80,12 +85,16 @@ inline const Foundation::NSBundle& bundle() {
     return made;
 }
 
-class Traits {
+// Makes traits the current ones until the end of the scope.
+class TraitsScope {
 public:
-    explicit Traits(const UIKit::UITraitCollection& traits) { UIKit::UITraitCollection::setCurrent(traits); }
-    Traits(const Traits&) = delete;
-    Traits& operator=(const Traits&) = delete;
-    ~Traits() { UIKit::UITraitCollection::setCurrent({}); }
+    explicit TraitsScope(const UIKit::UITraitCollection& traits) { UIKit::UITraitCollection::setCurrent(traits); }
+    TraitsScope(const TraitsScope&) = delete;
+    TraitsScope& operator=(const TraitsScope&) = delete;
+    ~TraitsScope() { UIKit::UITraitCollection::setCurrent(before_); }
+
+private:
+    UIKit::UITraitCollection before_ = UIKit::UITraitCollection::current();
 };
 inline constexpr UIKit::UITraitCollection dark{.userInterfaceStyle = UIKit::UserInterfaceStyle::dark};
 

@@ -29,7 +29,7 @@ TEST(UIImage, FollowsTheCurrentTraits) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.line);
-        const Sample::Traits scope(c.traits);
+        const Sample::TraitsScope scope(c.traits);
         EXPECT_EQ(send.scale(), c.scale);
         EXPECT_EQ(send.pixelWidth(), c.pixels);
         EXPECT_EQ(send.pixelHeight(), c.pixels);
@@ -161,7 +161,7 @@ TEST(SwiftUI, ViewsNameAnAssetAndResolveLater) {
 }
 
 TEST(SwiftUI, UnspecifiedTraitsAreTheCurrentOnes) {
-    const Sample::Traits scope({.userInterfaceStyle = UserInterfaceStyle::dark, .displayScale = 1});
+    const Sample::TraitsScope scope({.userInterfaceStyle = UserInterfaceStyle::dark, .displayScale = 1});
     const UITraitCollection contrast{.accessibilityContrast = AccessibilityContrast::high};
     const UIColor ink = UIColor::colorNamed("ink", bundle()).value();
     const RGBA dark{0.875, 0.75, 0.5, 1}, white{1, 1, 1, 1};

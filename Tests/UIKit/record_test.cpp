@@ -77,7 +77,7 @@ TEST(AssetRecord, ColorIsLookedUpOnceAndFollowsTheTraits) {
                   EXPECT_EQ(&color, &ink.color());
                   EXPECT_EQ(&ink.swiftUIColor(), &ink.swiftUIColor());
                   EXPECT_EQ(color.rgba()->red, 0.125);
-                  const Sample::Traits scope(Sample::dark);
+                  const Sample::TraitsScope scope(Sample::dark);
                   EXPECT_EQ(color.rgba()->red, 0.875);
               }),
               2); // once for each

@@ -17,7 +17,7 @@ TEST(Traits, SetAsAWhole) {
                                 .accessibilityContrast = AccessibilityContrast::high,
                                 .displayScale = 2.625,
                                 .layoutDirection = LayoutDirection::rightToLeft};
-    const Sample::Traits scope(all);
+    const Sample::TraitsScope scope(all);
     EXPECT_EQ(UITraitCollection::current(), all);
 }
 
@@ -44,7 +44,7 @@ TEST(Traits, ScalesAreClamped) {
         const UITraitCollection given{.displayScale = one.given};
         EXPECT_EQ(given.over({.displayScale = 3}).displayScale, one.taken);
         EXPECT_EQ(UITraitCollection{}.over(given).displayScale, one.taken == 3 ? 0 : one.taken);
-        const Sample::Traits scope(given);
+        const Sample::TraitsScope scope(given);
         EXPECT_EQ(UITraitCollection::current().displayScale, one.taken == 3 ? 0 : static_cast<float>(one.taken));
         UITraitCollection::setCurrent({.displayScale = 3});
         const UIImage image = UIImage::imageNamed("send", Sample::bundle(), &given).value();
@@ -66,7 +66,7 @@ TEST(Traits, ChangeUnderReaders) {
         {.userInterfaceStyle = UserInterfaceStyle::light, .displayScale = 1},
         {.userInterfaceStyle = UserInterfaceStyle::dark, .displayScale = 2},
     };
-    const Sample::Traits scope(two[0]);
+    const Sample::TraitsScope scope(two[0]);
     std::atomic<bool> isOver = false;
     std::thread writer([&] {
         for (int i = 0; i < 20000; ++i)

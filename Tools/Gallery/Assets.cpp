@@ -1,10 +1,10 @@
 #include "Gallery/Assets.h"
 
 #include "AssetCatalog/internal/Catalog.h"
+#include "AssetCatalog/internal/ColorSpaces.h"
 #include "Gallery/Base64.h"
 #include "Generator/AssetsModel.h"
 #include "Pictures/internal/Pictures.h"
-#include "UIKit/UIColor.h"
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -31,8 +31,9 @@ std::string_view named(Enumeration value, const std::array<std::string_view, siz
     return names[static_cast<std::size_t>(value)];
 }
 
-// The specified traits of a variant.
-ordered_json traitsOf(const Fit& fit) {
+// The conditions of a variant, without those that anything meets.
+ordered_json traitsOf(const Entry& entry, std::size_t variant) {
+    const Fit fit = entry.fit(variant);
     ordered_json traits = ordered_json::object();
     if (fit.scale != 0)
         traits["scale"] = fit.scale;
@@ -40,38 +41,29 @@ ordered_json traitsOf(const Fit& fit) {
         traits["appearance"] = named(fit.appearance, std::array<std::string_view, 3>{"", "light", "dark"});
     if (fit.contrast != AssetCatalog::Contrast::any)
         traits["contrast"] = "high";
+    if (!entry.language(variant).empty())
+        traits["language"] = entry.language(variant);
     if (fit.direction != AssetCatalog::Direction::any)
         traits["direction"] =
             named(fit.direction, std::array<std::string_view, 3>{"", "left to right", "right to left"});
     return traits;
 }
 
-// Traits for which the variant is the best match.
-UIKit::UITraitCollection readerOf(const Fit& fit) {
-    const bool isDark = fit.appearance == AssetCatalog::Appearance::dark;
-    const bool isHigh = fit.contrast == AssetCatalog::Contrast::high;
-    const bool isRightToLeft = fit.direction == AssetCatalog::Direction::rightToLeft;
-    return {.userInterfaceStyle = isDark ? UIKit::UserInterfaceStyle::dark : UIKit::UserInterfaceStyle::light,
-            .accessibilityContrast = isHigh ? UIKit::AccessibilityContrast::high : UIKit::AccessibilityContrast::normal,
-            .layoutDirection =
-                isRightToLeft ? UIKit::LayoutDirection::rightToLeft : UIKit::LayoutDirection::leftToRight};
-}
-
 // Reads the variants of a catalog's entries.
 class VariantReader {
 public:
-    VariantReader(const fs::path& bundle, Assets& assets)
-        : bundle_(Foundation::NSBundle::bundleWithPath(bundle.string())), assets_(assets) {}
+    explicit VariantReader(Assets& assets) : assets_(assets) {}
 
     Runtime::Result<ordered_json> read(const Entry& entry, std::size_t variant) {
-        ordered_json json = {{"traits", traitsOf(entry.fit(variant))}};
+        ordered_json json = {{"traits", traitsOf(entry, variant)}};
         switch (entry.kind()) {
         case Kind::image:
             if (auto done = addPicture(entry.picture(variant), json); !done)
                 return std::move(done.error());
             break;
         case Kind::color:
-            addColor(entry, variant, json);
+            json["space"] = AssetCatalog::nameOf(entry.color(variant).space);
+            json["srgb"] = AssetCatalog::toExtendedSrgb(entry.color(variant));
             break;
         case Kind::data:
             json["type"] = entry.data(variant).typeIdentifier;
@@ -97,15 +89,6 @@ private:
         return {};
     }
 
-    void addColor(const Entry& entry, std::size_t variant, ordered_json& json) {
-        json["space"] = AssetCatalog::nameOf(entry.color(variant).space);
-        const auto color = UIKit::UIColor::colorNamed(entry.name(), bundle_);
-        const auto rgba = color ? color->resolved(readerOf(entry.fit(variant))).rgba() : std::nullopt;
-        const UIKit::RGBA value = rgba.value_or(UIKit::RGBA{});
-        json["srgb"] = {value.red, value.green, value.blue, value.alpha};
-    }
-
-    const Foundation::NSBundle& bundle_;
     Assets& assets_;
 };
 
@@ -147,7 +130,7 @@ Runtime::Result<Assets> assetsOf(const fs::path& bundle) {
         return std::move(catalog.error());
     static constexpr std::array<std::string_view, 3> kinds = {"image", "color", "data"};
     Assets assets;
-    VariantReader reader(bundle, assets);
+    VariantReader reader(assets);
     const std::vector<Entry> entries = entriesOf(*catalog);
     const std::map<AssetKey, std::string> accessors = accessorsOf(entries);
     for (const Entry& entry : entries) {

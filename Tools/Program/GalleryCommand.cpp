@@ -109,8 +109,9 @@ void addGalleryCommand(CLI::App& program, Exit& exit) {
     options->source.addNamesTo(*command);
     options->source.addPseudoTo(*command);
     command->add_option("--bundle", options->bundle, "A compiled bundle (default: the module's own)")->excludes(source);
-    command->add_option("--module", options->module,
-                        "The module's name, the first part of accessors (default: the bundle's name)");
+    command->add_option(
+        "--module", options->module,
+        "The module's name, the first part of accessors (default: the bundle's name; none for a source)");
     command->add_option("-o,--output", options->output, "The page to write, FILE.html; - is standard output")
         ->required()
         ->check(notEmpty());

@@ -5,7 +5,6 @@ const traitTexts = {
     scale: (value) => `${value}×`,
     appearance: String,
     contrast: (value) => `${value} contrast`,
-    idiom: String,
     language: String,
     direction: String,
 };

@@ -1,9 +1,8 @@
-#include "UIKit/internal/ColorSpaces.h"
+#include "AssetCatalog/internal/ColorSpaces.h"
 
-#include <array>
 #include <cmath>
 
-namespace UIKit::detail {
+namespace AssetCatalog {
 
 namespace {
 
@@ -30,7 +29,7 @@ constexpr std::array<Components, 3> displayP3ToSrgb = {{
     {-0.019637554590334432, -0.078636045550631889, 1.0982736001409663},
 }};
 
-RGBA fromDisplayP3(const std::array<double, 4>& color) noexcept {
+std::array<double, 4> fromDisplayP3(const std::array<double, 4>& color) noexcept {
     const Components from = {linear(color[0]), linear(color[1]), linear(color[2])};
     Components to{};
     for (std::size_t i = 0; i < 3; ++i)
@@ -41,20 +40,20 @@ RGBA fromDisplayP3(const std::array<double, 4>& color) noexcept {
 
 } // namespace
 
-RGBA toExtendedSrgb(const AssetCatalog::ColorValue& color) noexcept {
+std::array<double, 4> toExtendedSrgb(const ColorValue& color) noexcept {
     const auto& c = color.components;
     switch (color.space) {
-    case AssetCatalog::ColorSpace::displayP3:
+    case ColorSpace::displayP3:
         return fromDisplayP3(c);
-    case AssetCatalog::ColorSpace::gray: {
+    case ColorSpace::gray: {
         const double gray = curved(mirrored(c[0], [](double white) { return std::pow(white, 2.2); }));
         return {gray, gray, gray, c[3]};
     }
-    case AssetCatalog::ColorSpace::srgb:
-    case AssetCatalog::ColorSpace::extendedSrgb:
+    case ColorSpace::srgb:
+    case ColorSpace::extendedSrgb:
         break;
     }
-    return {c[0], c[1], c[2], c[3]};
+    return c;
 }
 
-} // namespace UIKit::detail
+} // namespace AssetCatalog

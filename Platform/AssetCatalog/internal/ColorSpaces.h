@@ -1,18 +1,19 @@
-// UIKit/internal/ColorSpaces.h
+// AssetCatalog/internal/ColorSpaces.h
 // Converts colours to extended sRGB; internal.
 // Threads: pure functions.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
-#include "UIKit/UIColor.h"
+#include <array>
 
-namespace UIKit::detail {
+namespace AssetCatalog {
 
-// Extended sRGB is sRGB with components outside of 0 to 1; its transfer curve is mirrored below 0:
+// Red, green, blue and alpha in extended sRGB, which is sRGB with components outside of 0 to 1; its transfer curve is
+// mirrored below 0:
 //     linear(c) = c / 12.92 for c <= 0.04045, else ((c + 0.055) / 1.055)^2.4;  linear(-c) = -linear(c)
 // sRGB and extended sRGB are used unchanged. Display P3 has the same curve and white point: its linear components are
 // multiplied by the matrix from its primaries to those of sRGB, and the curve is applied again. Gray has gamma 2.2:
 // each component is the curve of white^2.2, also mirrored below 0. Alpha is unchanged.
-[[nodiscard]] RGBA toExtendedSrgb(const AssetCatalog::ColorValue& color) noexcept;
+[[nodiscard]] std::array<double, 4> toExtendedSrgb(const ColorValue& color) noexcept;
 
-} // namespace UIKit::detail
+} // namespace AssetCatalog
