@@ -97,6 +97,13 @@ function(lumora_plugin name)
                           LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${LUMORA_PLUGIN_FOLDER})
 endfunction()
 
+# lumora_place_beside_plugins(programs...)
+# For programs that link parts of the platform statically. They look for plug-ins in LUMORA_PLUGIN_FOLDER beside
+# themselves, as the platform does beside its library, so they are built into the libraries' folder.
+function(lumora_place_beside_plugins)
+    set_target_properties(${ARGN} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+endfunction()
+
 # lumora_shared_library(target map)
 # The common settings of both shared libraries: a soname, and only the symbols in the linker script `map` are visible.
 function(lumora_shared_library target map)

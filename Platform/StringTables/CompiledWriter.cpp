@@ -61,7 +61,7 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
         if (!isAscii(entries[i].text))
             utf8.at(numbers[i].text, entries[i].text);
     }
-    list.setReserved(indexObject, index.objectSize(utf8.bytes().size()));
+    list.setReservedSize(indexObject, index.objectSize(utf8.bytes().size()));
     std::string bytes = list.write();
 
     const auto offsetOf = [&](BinaryWriter::Number number, std::string_view string) {

@@ -13,7 +13,8 @@
 
 namespace Compiler {
 
-// Called before each step with its name, the number of finished steps and the number of all steps.
+// Called before each step with its name, the number of steps that have begun before it and the number of all steps. The
+// tables are counted first, then the assets. Calls come from several threads, but one at a time.
 using Progress = std::function<void(std::string_view what, std::size_t done, std::size_t all)>;
 
 // Compiles `source`, which was read from `folders`, into `bundle`. The bundle is built in a staging folder and replaced

@@ -39,8 +39,8 @@ void append(std::string& all, std::string_view text) {
 
 } // namespace
 
-TableCache::TableCache(std::string_view markFile) {
-    eachLine(markFile, [this](std::string_view line) {
+TableCache::TableCache(std::string_view mark) {
+    eachLine(mark, [this](std::string_view line) {
         Fields fields(line);
         if (fields.word() != recordName)
             return;

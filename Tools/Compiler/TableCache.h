@@ -16,14 +16,14 @@ namespace Compiler {
 
 class TableCache {
 public:
-    // Reads the list in the content of a mark file. Other lines are skipped.
-    explicit TableCache(std::string_view markFile);
+    // Reads the lines about tables in `mark`, the content of a mark file (SourceBundle::compiledMark).
+    explicit TableCache(std::string_view mark);
 
-    // A hash of everything that a compiled table depends on: its texts and the code of this program. Empty, which means
-    // that no table is reused, if the program was linked without a build id.
+    // A hash of everything that a compiled table depends on: its texts and the code of this program. Empty if the
+    // program was linked without a build id: then nothing tells two versions of its code apart, and no table is kept.
     [[nodiscard]] static std::string keyOf(std::span<const StringTables::Entry> entries);
 
-    // The line of the mark file for the compiled table.
+    // The line of the mark file for the compiled table; empty for an empty key.
     [[nodiscard]] static std::string record(const std::string& key, std::string_view table);
     // The same for the table at `file`, if it is the one that the last compile made for the key.
     [[nodiscard]] std::optional<std::string> find(const std::string& key, const std::filesystem::path& file) const;

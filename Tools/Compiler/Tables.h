@@ -9,9 +9,10 @@
 
 namespace Compiler {
 
-// Writes Info.plist and every table of `source` into `out`, one file for each table and language. Returns the lines of
-// the mark file that list the tables for the next compile. Keeps tables that `lastMark`, the mark file of the last
-// compile, lists; the result is the same as without them.
+// Writes Info.plist and every table of `source` into `out`: for each language one file of plain texts and one of
+// plurals, if it has any. Instead of compiling a table again it keeps the file of the last compile if `lastMark`, the
+// content of the old mark file (SourceBundle::compiledMark), lists it with the same texts. Returns the lines of the new
+// mark file that list the tables.
 [[nodiscard]] Runtime::Result<std::string> compileTables(const SourceBundle::Source& source, const StagedFolder& out,
                                                          std::string_view lastMark, const Progress& progress);
 

@@ -61,7 +61,7 @@ public:
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
     ~ProgressLine() { erase(); }
-    // Shows `what`, the step after the first `done` of `all` steps, in place of the step before.
+    // Shows `what`, the step after `done` of `all` steps, in place of the step before.
     void operator()(std::string_view what, std::size_t done, std::size_t all);
     void erase();
 

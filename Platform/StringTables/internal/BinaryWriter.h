@@ -1,6 +1,7 @@
 // StringTables/internal/BinaryWriter.h
 // Builds a binary property list of dictionaries and strings.
-// Text: takes UTF-8, stores ASCII or UTF-16. Threads: one at a time. Ownership: borrows its strings.
+// Text: takes UTF-8, stores ASCII or UTF-16. Threads: one at a time. Ownership: borrows its strings until write()
+// returns.
 #pragma once
 
 #include "Runtime/internal/NameMap.h"
@@ -25,9 +26,10 @@ public:
 
     // A new, empty dictionary. The first one is the top-level object.
     Number dictionary();
-    // Reserves space for an object that the caller writes after write(): until then it has only zeros.
+    // An object whose bytes the caller fills in: write() leaves zeros in its place, as many as setReservedSize() was
+    // told.
     Number reserve();
-    void setReserved(Number number, std::size_t size) { objects_[number].size = size; }
+    void setReservedSize(Number reserved, std::size_t size) { objects_[reserved].size = size; }
     // The string `text`; equal strings share one object. Repeated calls with the same memory do not read it again.
     Number string(std::string_view text);
     // Whether all strings are UTF-8. If not, do not call write().
@@ -35,7 +37,7 @@ public:
     // Adds an entry to a dictionary. Each key may be added once.
     void add(Number dictionary, Number key, Number value) { objects_[dictionary].entries.emplace_back(key, value); }
 
-    // The bytes of the list.
+    // The bytes of the property list. Call it once.
     [[nodiscard]] std::string write();
     // After write(): the offset of an object, and that of the characters of an ASCII string.
     std::size_t offset(Number number) const noexcept { return offsets_[number]; }
