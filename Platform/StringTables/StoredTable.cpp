@@ -77,7 +77,7 @@ StoredTable::~StoredTable() {
 FoundText StoredTable::Whole::findOther(std::string_view key, std::uint64_t hash) const noexcept {
     if (other) {
         const auto text = other->find(key);
-        return text ? FoundText(*text) : FoundText();
+        return text ? FoundText(text->empty() ? "" : *text) : FoundText(); // an empty view may be null
     }
     const std::uint64_t right = Runtime::keyHash(key);
     return hash == right ? FoundText() : compiled.find(key, right);
