@@ -1,5 +1,5 @@
-"""Times whole processes in random order: an empty program, one with our library, and programs that print their first text.
-Measures processor time, in the process and in the system, so that other work on the machine has little influence."""
+"""Times whole processes in random order: an empty program, one that links our library, and one for each library that prints a text.
+Measures processor time, of the process and of the kernel for it, because other processes may be running."""
 import os
 import random
 import shutil
@@ -11,7 +11,7 @@ import tempfile
 RUNS = 400
 PROGRAMS = {"start-empty": "Continue\n", "start-loaded": "Continue\n"} | {
     f"start-{name}": "Продолжить\n" for name in ("text", "gettext", "icu", "qt", "boost")}
-# gettext needs a locale that is installed; the same names are used for our program.
+# gettext needs a locale that is installed.
 ENVIRONMENT = {"start-gettext": {"LC_ALL": "C.UTF-8", "LANGUAGE": "ru"}}
 
 

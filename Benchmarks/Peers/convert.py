@@ -8,18 +8,18 @@ folder, language = sys.argv[1:]
 texts = json.load(sys.stdin)
 
 
-def placed(text, placeholder, literal=lambda part: part):
-    """The text with each of its placeholders written as placeholder(position, letter)."""
-    out, end, following = "", 0, 0
+def placed(text, placeholder, escaped=lambda part: part):
+    """The text with each placeholder written as placeholder(position, letter), and the parts between as escaped(part)."""
+    out, end, last = "", 0, 0
     for found in re.finditer(r"%(?:(\d+)\$)?(?:ll|l)?([@diusf%])", text):
-        out += literal(text[end:found.start()])
+        out += escaped(text[end:found.start()])
         end = found.end()
         if found[2] == "%":
-            out += literal("%")
+            out += escaped("%")
             continue
-        following += 1
-        out += placeholder(int(found[1] or following), found[2])
-    return out + literal(text[end:])
+        last += 1
+        out += placeholder(int(found[1] or last), found[2])
+    return out + escaped(text[end:])
 
 
 def po(convert):

@@ -1,5 +1,5 @@
 // Mutates a binary table. Random changes leave the end of the file valid only if nothing before it moves. So half of
-// the time only the objects are changed, and their offsets and the trailer are written again.
+// the time only the objects are changed, and their offsets and the numbers in the trailer are written again.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -55,15 +55,17 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
                                                unsigned seed) {
     if (seed % 2 == 0 || size < headerSize + trailerSize || maxSize < size || std::memcmp(data, "bplist00", 8) != 0)
         return LLVMFuzzerMutate(data, size, maxSize);
-    const std::uint8_t* const trailer = data + size - trailerSize;
-    const std::uint64_t tableAt = number(trailer + 24, 8);
+    const std::vector<std::uint8_t> trailer(data + size - trailerSize, data + size);
+    const std::uint64_t top = number(trailer.data() + 16, 8), tableAt = number(trailer.data() + 24, 8);
     const std::size_t refSize = trailer[7];
     if (tableAt <= headerSize || tableAt > size - trailerSize || refSize < 1 || refSize > 8)
         return LLVMFuzzerMutate(data, size, maxSize);
 
     std::vector<std::uint8_t> out(data, data + tableAt);
     out.resize(maxSize);
-    out.resize(headerSize + LLVMFuzzerMutate(out.data() + headerSize, tableAt - headerSize, maxSize - headerSize));
+    // As much room as before stays for what follows the objects.
+    const std::size_t room = maxSize - headerSize - (size - tableAt);
+    out.resize(headerSize + LLVMFuzzerMutate(out.data() + headerSize, tableAt - headerSize, room));
     const std::size_t end = out.size();
     std::vector<std::size_t> offsets;
     for (std::uint64_t at = headerSize; at < end; at += sizeOf(out.data() + at, end - at, refSize))
@@ -74,11 +76,11 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
     };
     for (const std::size_t offset : offsets)
         put(offset, 2);
-    put(0, 6);
+    out.insert(out.end(), trailer.begin(), trailer.begin() + 6); // unused, or the mark of a compiled table
     put(2, 1);
     put(refSize, 1);
     put(offsets.size(), 8);
-    put(0, 8); // the first object is the dictionary
+    put(top < offsets.size() ? top : 0, 8);
     put(end, 8);
     if (out.size() > maxSize || end > 0xFFFF)
         return LLVMFuzzerMutate(data, size, maxSize);

@@ -15,6 +15,7 @@ namespace Exchange {
 [[nodiscard]] std::optional<std::string> targetLanguage(const SourceBundle::Source& source, std::string_view code);
 // Whether the source has texts in the language.
 [[nodiscard]] bool hasLanguage(const SourceBundle::Source& source, std::string_view language);
+// Whether both codes mean the same language: "pt_BR" and "pt-br" do.
 [[nodiscard]] bool isSameLanguage(std::string_view one, std::string_view other);
 
 // The plural categories of a language, including those for fractions only, and `other`.

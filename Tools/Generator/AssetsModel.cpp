@@ -50,7 +50,7 @@ AssetTree assetTreeOf(std::span<const SourceAsset> assets, Diagnostics& diagnost
         if (fault.empty())
             if (const auto conflict = names.claim(path, number)) {
                 topic = Topic::nameClash;
-                fault = "the name " + conflict->name + " belongs to " + assets[conflict->owner.number].path.string();
+                fault = "the name " + conflict->name + " belongs to " + assets[conflict->owner.member].path.string();
             }
         if (!fault.empty()) {
             diagnostics.add(

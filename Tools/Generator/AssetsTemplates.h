@@ -88,9 +88,11 @@ using ::SwiftUI::Conveniences::NSDataAsset::withAsset;
 } // namespace NSDataAsset
 
 namespace UIImage {
+// The picture with that name as a Class, or no value.
 template <class Class = ::UIKit::UIImage> [[nodiscard]] auto withAssetName(std::string_view name) {
     return ::SwiftUI::Conveniences::UIImage::withAssetName<Class, {{module}}AssetModule>(name);
 }
+// The same as the platform's own class.
 [[nodiscard]] inline std::optional<::UIKit::UIImage> assetNamed(std::string_view name) {
     return withAssetName(name);
 }

@@ -127,7 +127,7 @@ private:
 
     // Describes the owner in a message about `entry`.
     std::string describe(const NameClaims::Owner& owner, const SourceEntry& entry) const {
-        const SourceEntry& other = *candidates_[owner.number].entry;
+        const SourceEntry& other = *candidates_[owner.member].entry;
         std::string place = other.file == entry.file ? "" : other.file->path.string();
         if (other.line != 0)
             place.append(place.empty() ? "line " : ", line ").append(std::to_string(other.line));

@@ -4,7 +4,7 @@
 
 namespace Generator {
 
-std::optional<NameClaims::Conflict> NameClaims::claim(const std::vector<std::string>& path, std::size_t number) {
+std::optional<NameClaims::Conflict> NameClaims::claim(const std::vector<std::string>& path, std::size_t member) {
     std::size_t group = 0, known = 0; // number of leading parts that already exist
     for (; known < path.size(); ++known) {
         const bool isGroup = known + 1 < path.size();
@@ -14,12 +14,12 @@ std::optional<NameClaims::Conflict> NameClaims::claim(const std::vector<std::str
         if (!isGroup || !found->second.owner.isGroup)
             return Conflict{qualified({path.begin(), path.begin() + static_cast<std::ptrdiff_t>(known) + 1}),
                             found->second.owner};
-        group = found->second.number;
+        group = found->second.id;
     }
     for (; known < path.size(); ++known) {
-        const Node node{nodes_.size() + 1, {number, known + 1 < path.size()}};
+        const Node node{nodes_.size() + 1, {member, known + 1 < path.size()}};
         nodes_.try_emplace({group, path[known]}, node);
-        group = node.number;
+        group = node.id;
     }
     return std::nullopt;
 }

@@ -1,5 +1,5 @@
 // Generator/NameClaims.h
-// Tracks the names of a tree to detect clashes: each name belongs to one member or is a group.
+// Tracks the names of a tree to detect clashes: each name belongs to one member (an accessor) or is a group of names.
 // Threads: one at a time.
 #pragma once
 
@@ -18,21 +18,22 @@ public:
     void reserve(std::size_t count) { nodes_.reserve(count); }
 
     struct Owner {
-        std::size_t number; // as it was given to claim()
-        bool isGroup;
+        std::size_t member; // the one that claimed the name first
+        bool isGroup;       // the name is a group on that member's path
     };
     struct Conflict {
         std::string name; // "Settings::title"
-        Owner owner;      // the member or group that has the name
+        Owner owner;
     };
 
-    // Claims the names of `path`, groups first, for the member `number`. Claims nothing if one of them is taken.
-    std::optional<Conflict> claim(const std::vector<std::string>& path, std::size_t number);
+    // Claims `path`, the names of the groups and last that of the member, for the member with the caller's number
+    // `member`. Claims nothing if the last name exists or another one is a member's.
+    std::optional<Conflict> claim(const std::vector<std::string>& path, std::size_t member);
 
 private:
     // A name within its group. Looking up one part at a time avoids hashing a long path once per part.
     struct Name {
-        std::size_t group; // the number of its node; 0 for the root
+        std::size_t group; // its node's id; 0 for the root
         std::string name;
 
         bool operator==(const Name&) const = default;
@@ -44,7 +45,7 @@ private:
         }
     };
     struct Node {
-        std::size_t number;
+        std::size_t id;
         Owner owner;
     };
 

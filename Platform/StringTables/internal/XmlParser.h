@@ -1,6 +1,7 @@
 // StringTables/internal/XmlParser.h
-// Parses XML with expat. The parser is in the plug-in lumora-xml.so, because compiled bundles contain no XML; tools
-// link the parser directly instead. Library and plug-in are always built together.
+// Parses XML with expat. The platform loads expat with the plug-in lumora-xml.so, because a compiled bundle has no XML,
+// except perhaps an Info.plist that was copied from the source; tools link expat directly. Library and plug-in are
+// always built together.
 // Text: handlers get UTF-8, whatever the encoding of the source; it is valid during the call only.
 // Threads: any; no shared state.
 #pragma once
@@ -15,7 +16,7 @@ namespace StringTables::internal {
 
 struct Contents;
 
-// The byte range of the current tag or comment in the source.
+// The byte range of the current tag or comment in the source. For `<a/>`, close() gets the empty range after the tag.
 struct XmlPlace {
     std::size_t begin;
     std::size_t end;
@@ -30,21 +31,22 @@ public:
     // A text may be passed in several pieces.
     virtual std::string characters(std::string_view piece) = 0;
     virtual void comment(std::string_view, XmlPlace) {}
-    virtual void encoding(std::string_view /*declared*/) {}
+    // The encoding in the XML declaration, or an empty text if it has none. Not called without a declaration.
+    virtual void encoding(std::string_view) {}
 
 protected:
     ~XmlHandler() = default;
 };
 
 // Errors with line and column: not well-formed; an entity declaration (refused to prevent entity expansion and external
-// references) or an unknown entity; errors of the handler. Error without a location: no plug-in (names its file; may be
-// transient). Throws std::bad_alloc and exceptions of the handler.
+// references) or an unknown entity; errors of the handler. A plug-in that cannot be loaded is an error without line and
+// column that names the plug-in's file, and may be transient. Throws std::bad_alloc and exceptions of the handler.
 [[nodiscard]] Runtime::Result<void> parseXml(const Contents& contents, XmlHandler& handler);
 
 struct XmlFault {
     std::string message; // empty on success
     std::size_t offset = 0;
-    std::string entity{}; // the entity's name, if the message is about one
+    std::string entity{}; // if not empty, the name of an entity that follows the message
 };
 // Parses `source` from `begin` on. With `isUtf8` the source is UTF-8, otherwise it has the encoding that it declares.
 using XmlParser = XmlFault(std::string_view source, std::size_t begin, bool isUtf8, XmlHandler& handler);
