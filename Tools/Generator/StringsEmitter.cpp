@@ -258,6 +258,8 @@ std::string definitions(std::span<const Placed> entries, const Options& options)
         if (plain != entries.size())
             code.add(formattedDefinition);
         code.add("\n} // namespace");
+        code.leave();
+        code.add(fewerOptimizations);
     }
     std::size_t nextPlain = 0;
     std::size_t nextFormatted = plain;
