@@ -1,5 +1,5 @@
-"""Times the steps of a build: compiling the generated source, a source that includes the tree, and a bundle after a change.
-Processor time, medians of RUNS runs."""
+"""Times the steps of a build: compiling the generated source of all accessors, including their header, and compiling the bundle
+after one text changed. Processor time, medians of RUNS runs."""
 import os
 import pathlib
 import shutil

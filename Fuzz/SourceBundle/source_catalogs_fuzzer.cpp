@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A source bundle in which all Contents.json files are links to one file. It is made once per process, so that each
+// A source in which all Contents.json files are links to one file. It is made once per process, so that each
 // input needs only one file to be written.
 class Source {
 public:

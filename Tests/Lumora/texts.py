@@ -1,4 +1,4 @@
-"""Compares the texts of the source bundle with the development texts, key by key."""
+"""Compares the texts of the source with the development texts, key by key."""
 import collections
 import json
 import pathlib

@@ -366,7 +366,7 @@ class Program(unittest.TestCase):
             self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "More", "files", count)[1], text)
 
     def versions(self):
-        """Two source bundles, "1" and "2"; returns the texts in all tables of the compiled one."""
+        """Two sources, "1" and "2"; returns the texts in all tables of the compiled one."""
         for version in "12":
             for table in range(20):
                 self.write(f"{version}/Base.lproj/T{table}.strings",

@@ -3,10 +3,10 @@
 #include "AssetCatalog/internal/Catalog.h"
 #include "AssetCatalog/internal/ColorSpaces.h"
 #include "Gallery/Base64.h"
+#include "Gallery/Traits.h"
 #include "Generator/AssetsModel.h"
 #include "Pictures/internal/Pictures.h"
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <map>
 #include <string>
@@ -20,34 +20,10 @@ namespace Gallery {
 namespace fs = std::filesystem;
 using AssetCatalog::Catalog;
 using AssetCatalog::Entry;
-using AssetCatalog::Fit;
 using AssetCatalog::Kind;
 using nlohmann::ordered_json;
 
 namespace {
-
-template <class Enumeration, std::size_t size>
-std::string_view named(Enumeration value, const std::array<std::string_view, size>& names) {
-    return names[static_cast<std::size_t>(value)];
-}
-
-// The conditions of a variant, without those that anything meets.
-ordered_json traitsOf(const Entry& entry, std::size_t variant) {
-    const Fit fit = entry.fit(variant);
-    ordered_json traits = ordered_json::object();
-    if (fit.scale != 0)
-        traits["scale"] = fit.scale;
-    if (fit.appearance != AssetCatalog::Appearance::any)
-        traits["appearance"] = named(fit.appearance, std::array<std::string_view, 3>{"", "light", "dark"});
-    if (fit.contrast != AssetCatalog::Contrast::any)
-        traits["contrast"] = "high";
-    if (!entry.language(variant).empty())
-        traits["language"] = entry.language(variant);
-    if (fit.direction != AssetCatalog::Direction::any)
-        traits["direction"] =
-            named(fit.direction, std::array<std::string_view, 3>{"", "left to right", "right to left"});
-    return traits;
-}
 
 // Reads the variants of a catalog's entries.
 class VariantReader {
@@ -128,14 +104,13 @@ Runtime::Result<Assets> assetsOf(const fs::path& bundle) {
         return Assets{};
     if (!catalog)
         return std::move(catalog.error());
-    static constexpr std::array<std::string_view, 3> kinds = {"image", "color", "data"};
     Assets assets;
     VariantReader reader(assets);
     const std::vector<Entry> entries = entriesOf(*catalog);
     const std::map<AssetKey, std::string> accessors = accessorsOf(entries);
     for (const Entry& entry : entries) {
         const auto accessor = accessors.find(AssetKey(entry.kind(), entry.name()));
-        ordered_json asset = {{"kind", named(entry.kind(), kinds)},
+        ordered_json asset = {{"kind", AssetCatalog::nameOf(entry.kind())},
                               {"catalog", entry.catalog()},
                               {"name", entry.name()},
                               {"accessor", nullptr},

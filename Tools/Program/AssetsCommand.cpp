@@ -2,6 +2,7 @@
 #include "Program/Command.h"
 
 #include "AssetCatalog/internal/Catalog.h"
+#include "Gallery/Traits.h"
 #include "Generator/CodeText.h"
 #include "Program/AssetCatalogs.h"
 #include <CLI/CLI.hpp>
@@ -17,7 +18,6 @@ namespace {
 
 using AssetCatalog::Catalog;
 using AssetCatalog::Entry;
-using AssetCatalog::Fit;
 using AssetCatalog::Kind;
 using nlohmann::ordered_json;
 
@@ -34,25 +34,8 @@ std::string lineOf(const Entry& entry) {
     return line.append("\n");
 }
 
-// The traits and language that the variant is for, without unspecified ones.
-ordered_json traitsOf(const Entry& entry, std::size_t variant) {
-    const Fit fit = entry.fit(variant);
-    ordered_json json = ordered_json::object();
-    if (fit.scale != 0)
-        json["scale"] = fit.scale;
-    if (fit.appearance != AssetCatalog::Appearance::any)
-        json["appearance"] = fit.appearance == AssetCatalog::Appearance::dark ? "dark" : "light";
-    if (fit.contrast != AssetCatalog::Contrast::any)
-        json["contrast"] = "high";
-    if (fit.direction != AssetCatalog::Direction::any)
-        json["direction"] = fit.direction == AssetCatalog::Direction::rightToLeft ? "right-to-left" : "left-to-right";
-    if (!entry.language(variant).empty())
-        json["language"] = entry.language(variant);
-    return json;
-}
-
 ordered_json variantOf(const Entry& entry, std::size_t variant) {
-    ordered_json json = traitsOf(entry, variant);
+    ordered_json json = Gallery::traitsOf(entry, variant);
     switch (entry.kind()) {
     case Kind::image: {
         const AssetCatalog::PictureView picture = entry.picture(variant);

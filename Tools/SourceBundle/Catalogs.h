@@ -1,5 +1,5 @@
 // SourceBundle/Catalogs.h
-// Reads the asset catalogs of a source bundle, *.xcassets.
+// Reads the asset catalogs of a source, *.xcassets.
 // Text: UTF-8; paths are raw bytes.
 #pragma once
 
