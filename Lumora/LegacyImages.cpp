@@ -1,6 +1,6 @@
 #include "Lumora/LegacyImages.h"
 
-#include "Lumora/LumoraAsset/Internal/Catalog.h"
+#include "Lumora/LumoraAsset/Internal/RecordFactory.h"
 #include "Runtime/OnceSlot.h"
 
 namespace Lumora::UIImage {
@@ -8,7 +8,7 @@ namespace Lumora::UIImage {
 #define LEGACY_IMAGE(name, olderName, asset)                                                                           \
     const UIKit::UIImage& name() {                                                                                     \
         static constinit Runtime::OnceSlot<UIKit::UIImage> slot;                                                       \
-        return slot.get([] { return LumoraAssetModule::Catalog::image(asset).image(); });                              \
+        return slot.get([] { return LumoraAssetModule::RecordFactory::image(asset).image(); });                        \
     }                                                                                                                  \
     const UIKit::UIImage& olderName() {                                                                                \
         return name();                                                                                                 \

@@ -1,6 +1,6 @@
 #include "Lumora/RegionalImages.h"
 
-#include "Lumora/LumoraAsset/Internal/Catalog.h"
+#include "Lumora/LumoraAsset/Internal/RecordFactory.h"
 #include <initializer_list>
 
 namespace Lumora::UIImage {
@@ -14,7 +14,7 @@ class ResourceBundleClass {};
 using Candidates = std::initializer_list<const char*>;
 
 UIKit::UIImage load(const char* name) {
-    return LumoraAssetModule::Catalog::image(name).image();
+    return LumoraAssetModule::RecordFactory::image(name).image();
 }
 
 // The first candidate that ends with the region, or the fallback.

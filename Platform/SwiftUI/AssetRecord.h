@@ -4,20 +4,20 @@
 //     struct AssetModule {
 //         static const Foundation::NSBundle& bundle();
 //         static constexpr std::string_view sourceName = "TuistAssets+Lumora"; // the file that error reports name
-//         class Catalog; // the only class that can create records
+//         class RecordFactory; // the only class that can create records
 //     };
 //     using LumoraImages = SwiftUI::ImageRecord<AssetModule>;
 //
-// and defines the class Catalog in the same header, so that users cannot define it themselves,
+// and defines the class RecordFactory in the same header, so that users cannot define it themselves,
 //
-//     class AssetModule::Catalog {
+//     class AssetModule::RecordFactory {
 //     public:
 //         static constexpr LumoraImages image(const char* name) noexcept;
 //     };
 //
 // but defines its functions in a separate header, for the sources that define records or assign colours:
 //
-//     constinit const LumoraImages LumoraAsset::Images::send = AssetModule::Catalog::image("send");
+//     constinit const LumoraImages LumoraAsset::Images::send = AssetModule::RecordFactory::image("send");
 //
 // Records are constants: no code runs to create or destroy them.
 // Text: UTF-8. Threads: any. Ownership: names are string literals; returned references are valid until the process
@@ -91,7 +91,7 @@ public:
     Image swiftUIImage() const { return Image(name_, Module::bundle()); }
 
 private:
-    friend typename Module::Catalog;
+    friend typename Module::RecordFactory;
     constexpr explicit ImageRecord(const char* name) noexcept : name_(name) {}
 
     const char* name_;
@@ -118,7 +118,7 @@ public:
     }
 
 private:
-    friend typename Module::Catalog;
+    friend typename Module::RecordFactory;
     constexpr explicit ColorRecord(const char* name) noexcept : name_(name) {}
 
     // Kept out of line, so that the fast path is one load and one branch.
@@ -151,7 +151,7 @@ public:
     }
 
 private:
-    friend typename Module::Catalog;
+    friend typename Module::RecordFactory;
     constexpr explicit DataRecord(const char* name) noexcept : name_(name) {}
 
     const char* name_;

@@ -44,7 +44,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     expect("messages without RTTI", ["-frtti" in line for line in errors("-std=c++20", "#include <Runtime/Class.h>", "-fno-rtti")], [True])
     # Only the module's class Catalog can create records, and no client can define it again.
     catalog = errors("-std=c++20", """#include <Lumora/Lumora.h>
-        class Lumora::LumoraAssetModule::Catalog { public: static LumoraImages image() { return LumoraImages("a"); } };""")
+        class Lumora::LumoraAssetModule::RecordFactory { public: static LumoraImages image() { return LumoraImages("a"); } };""")
     expect("another class Catalog", "redefinition" in catalog[0], True)
 
     program = folder / "by pkg-config"

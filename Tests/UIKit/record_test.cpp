@@ -15,13 +15,13 @@ struct Module {
         return Sample::bundle();
     }
     static constexpr std::string_view sourceName = "TuistAssets+Lumora";
-    class Catalog;
+    class RecordFactory;
 };
 using Images = SwiftUI::ImageRecord<Module>;
 using Colors = SwiftUI::ColorRecord<Module>;
 using DataSets = SwiftUI::DataRecord<Module>;
 
-class Module::Catalog {
+class Module::RecordFactory {
 public:
     static constexpr Images image(const char* name) { return Images(name); }
     static constexpr Colors color(const char* name) { return Colors(name); }
@@ -30,11 +30,11 @@ public:
 };
 
 // Constants without start-up or exit code.
-constinit const Images send = Module::Catalog::image("send");
-constinit const Colors ink = Module::Catalog::color("ink");
-constinit const Colors contested = Module::Catalog::color("ink");
-constinit const Colors assigned = Module::Catalog::color("ink");
-constinit const DataSets regions = Module::Catalog::data("regions");
+constinit const Images send = Module::RecordFactory::image("send");
+constinit const Colors ink = Module::RecordFactory::color("ink");
+constinit const Colors contested = Module::RecordFactory::color("ink");
+constinit const Colors assigned = Module::RecordFactory::color("ink");
+constinit const DataSets regions = Module::RecordFactory::data("regions");
 static_assert(std::is_trivially_destructible_v<Images> && std::is_trivially_destructible_v<Colors> &&
               std::is_trivially_destructible_v<DataSets>);
 
@@ -83,7 +83,7 @@ TEST(AssetRecord, ColorIsLookedUpOnceAndFollowsTheTraits) {
               2); // once for each
     EXPECT_EQ(ink.swiftUIColor(), SwiftUI::Color("ink", Sample::bundle()));
 
-    Module::Catalog::assign(assigned, {3, 2, 1, 0});
+    Module::RecordFactory::assign(assigned, {3, 2, 1, 0});
     EXPECT_EQ(assigned.color(), UIKit::UIColor(3, 2, 1, 0));
 }
 
@@ -100,9 +100,9 @@ TEST(AssetRecord, ColorReadByManyThreadsFirst) {
 
 TEST(AssetRecordDeathTest, MissingAssetStopsTheProcess) {
     Sample::bundle(); // created in this process: a stopped child would leave its folders behind
-    static constexpr Images image = Module::Catalog::image("star-big_.");
-    static constexpr DataSets data = Module::Catalog::data("send");
-    static constinit const Colors color = Module::Catalog::color("");
+    static constexpr Images image = Module::RecordFactory::image("star-big_.");
+    static constexpr DataSets data = Module::RecordFactory::data("send");
+    static constinit const Colors color = Module::RecordFactory::color("");
     const auto report = [](const std::string& message, const char* line) {
         return "^Fatal error: " + message + ": file TuistAssets\\+Lumora, line " + line + "\n$";
     };

@@ -37,8 +37,8 @@ std::string_view innermost(std::string_view groups) {
 class Accessors {
 public:
     explicit Accessors(const Model& model, std::string_view language) {
-        for (const Generator::CatalogTable& table : model.tables)
-            for (const Generator::CatalogEntry& entry : table.entries)
+        for (const Generator::AccessorTable& table : model.tables)
+            for (const Generator::NamedEntry& entry : table.entries)
                 add(table, entry, language);
         for (const Generator::AssetConstant& constant : model.assetTree.constants)
             add(constant);
@@ -65,7 +65,7 @@ public:
     }
 
 private:
-    void add(const Generator::CatalogTable& table, const Generator::CatalogEntry& entry, std::string_view language) {
+    void add(const Generator::AccessorTable& table, const Generator::NamedEntry& entry, std::string_view language) {
         const SourceBundle::SourceEntry& text = *entry.source;
         const std::string groups = table.spelling + (entry.groups.empty() ? "" : "::") + entry.groups;
         all_.push_back(

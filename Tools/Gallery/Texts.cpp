@@ -35,8 +35,8 @@ using Accessors = std::unordered_map<const SourceEntry*, ordered_json>;
 Accessors accessorsOf(const Source& source, Generator::NamesFile names) {
     Accessors accessors;
     SourceBundle::Diagnostics known; // `lumora generate` reports them
-    for (const Generator::CatalogTable& table : Generator::catalogOf(source, names, known)) {
-        for (const Generator::CatalogEntry& entry : table.entries) {
+    for (const Generator::AccessorTable& table : Generator::accessorTables(source, names, known)) {
+        for (const Generator::NamedEntry& entry : table.entries) {
             const std::string groups = entry.groups.empty() ? "" : entry.groups + "::";
             accessors[entry.source] = {{"accessor", table.spelling + "::" + groups + entry.name}};
         }

@@ -42,7 +42,7 @@ void define(CodeWriter& code, const AssetConstant& constant, const Options& opti
     const std::string module = "::" + options.module + "::" + options.module;
     const auto [record, factory] = wordsOf(constant);
     code.addAssignment("constinit const " + module + record + ' ' + constant.name,
-                       module + "AssetModule::Catalog::" + factory + '(' + literal(constant.asset->name) + ");");
+                       module + "AssetModule::RecordFactory::" + factory + '(' + literal(constant.asset->name) + ");");
 }
 
 } // namespace
@@ -51,7 +51,7 @@ std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, con
     const std::string tree = options.module + "Asset";
     std::map<std::string, CodeWriter> headers; // by the catalog's namespace
     CodeWriter source(options.module);
-    source.add("#include \"{{module}}Asset.h\"\n\n#include \"{{module}}Asset/Internal/Catalog.h\"");
+    source.add("#include \"{{module}}Asset.h\"\n\n#include \"{{module}}Asset/Internal/RecordFactory.h\"");
     for (const AssetConstant& constant : constants) {
         const auto [header, isNew] = headers.try_emplace(headerOf(constant), options.module);
         if (isNew)
@@ -73,7 +73,7 @@ std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, con
     files.push_back({tree + ".h", umbrella.take()});
     files.push_back({tree + ".cpp", source.take()});
     files.push_back({tree + "Records.h", filled(recordsHeader, options.module)});
-    files.push_back({tree + "/Internal/Catalog.h", filled(assetCatalogHeader, options.module)});
+    files.push_back({tree + "/Internal/RecordFactory.h", filled(recordFactoryHeader, options.module)});
     files.push_back({options.module + "Conveniences.h", filled(conveniencesHeader, options.module)});
     return files;
 }

@@ -20,7 +20,7 @@ namespace {{module}} {
 struct {{module}}AssetModule {
     static const ::Foundation::NSBundle& bundle() { return {{module}}Resources::bundle(); }
     static constexpr std::string_view sourceName = "TuistAssets+{{module}}";
-    class Catalog;
+    class RecordFactory;
 };
 
 using {{module}}Images = ::SwiftUI::ImageRecord<{{module}}AssetModule>;
@@ -28,7 +28,7 @@ using {{module}}Colors = ::SwiftUI::ColorRecord<{{module}}AssetModule>;
 using {{module}}Data = ::SwiftUI::DataRecord<{{module}}AssetModule>;
 
 // Creates records and assigns their colours. Only the module's own sources can use these functions.
-class {{module}}AssetModule::Catalog {
+class {{module}}AssetModule::RecordFactory {
 public:
     // Names are string literals.
     static constexpr {{module}}Images image(const char* name) noexcept;
@@ -42,7 +42,8 @@ public:
 
 } // namespace {{module}})";
 
-inline constexpr std::string_view assetCatalogHeader = R"(// The functions that create records and assign colours; internal.
+inline constexpr std::string_view recordFactoryHeader =
+    R"(// The functions that create records and assign colours; internal.
 #pragma once
 
 #include "../../{{module}}AssetRecords.h"
@@ -50,20 +51,20 @@ inline constexpr std::string_view assetCatalogHeader = R"(// The functions that 
 
 namespace {{module}} {
 
-constexpr {{module}}Images {{module}}AssetModule::Catalog::image(const char* name) noexcept {
+constexpr {{module}}Images {{module}}AssetModule::RecordFactory::image(const char* name) noexcept {
     return {{module}}Images(name);
 }
-constexpr {{module}}Colors {{module}}AssetModule::Catalog::color(const char* name) noexcept {
+constexpr {{module}}Colors {{module}}AssetModule::RecordFactory::color(const char* name) noexcept {
     return {{module}}Colors(name);
 }
-constexpr {{module}}Data {{module}}AssetModule::Catalog::data(const char* name) noexcept {
+constexpr {{module}}Data {{module}}AssetModule::RecordFactory::data(const char* name) noexcept {
     return {{module}}Data(name);
 }
 
-inline void {{module}}AssetModule::Catalog::setColor(const {{module}}Colors& record, const ::UIKit::UIColor& color) {
+inline void {{module}}AssetModule::RecordFactory::setColor(const {{module}}Colors& record, const ::UIKit::UIColor& color) {
     record.setColor(color);
 }
-inline void {{module}}AssetModule::Catalog::setSwiftUIColor(const {{module}}Colors& record, ::SwiftUI::Color color) {
+inline void {{module}}AssetModule::RecordFactory::setSwiftUIColor(const {{module}}Colors& record, ::SwiftUI::Color color) {
     record.setSwiftUIColor(std::move(color));
 }
 

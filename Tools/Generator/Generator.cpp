@@ -89,7 +89,7 @@ void check(const Options& options, Diagnostics& diagnostics) {
 Model modelOf(const Source& source, const Options& options, Diagnostics& diagnostics) {
     Model model;
     NamesFile names = options.names.empty() ? NamesFile() : NamesFile::read(options.names, diagnostics);
-    model.tables = catalogOf(source, names, diagnostics);
+    model.tables = accessorTables(source, names, diagnostics);
     reportTranslatedOnly(source, diagnostics);
     model.assets = SourceBundle::sourceAssets(source.catalogs, diagnostics);
     model.assetTree = assetTreeOf(model.assets, diagnostics);

@@ -19,7 +19,7 @@ namespace Generator {
 inline constexpr std::size_t maxShards = 1000;
 
 struct Options {
-    std::string module; // a C++ identifier: the namespace of the trees and the prefix of file names
+    std::string module;                  // a C++ identifier: the namespace of the trees and the prefix of file names
     std::vector<std::string> includes{}; // headers with hand-written members, included by the tree's header
     std::vector<std::string> headers{};  // headers with hand-written parts of the module, included by NAME.h
     std::size_t shards = 1;              // number of source files for the accessors; 1 to maxShards
@@ -28,7 +28,7 @@ struct Options {
 
 // The content of both trees, and what they leave out. Points into its source, which must outlive it.
 struct Model {
-    std::vector<CatalogTable> tables;
+    std::vector<AccessorTable> tables;
     std::vector<SourceBundle::SourceAsset> assets;
     AssetTree assetTree; // of these assets
 };

@@ -76,7 +76,7 @@ public:
         }
     }
 
-    void build(CatalogTable& out, Diagnostics& diagnostics) {
+    void build(AccessorTable& out, Diagnostics& diagnostics) {
         for (Candidate& candidate : candidates_)
             readText(candidate, diagnostics);
         for (const bool isNamed : {true, false})
@@ -135,7 +135,7 @@ private:
                (place.empty() ? "" : " (" + place + ")");
     }
 
-    static void add(Candidate& candidate, CatalogTable& out, Diagnostics& diagnostics) {
+    static void add(Candidate& candidate, AccessorTable& out, Diagnostics& diagnostics) {
         const SourceEntry& entry = *candidate.entry;
         if (!candidate.fault.empty()) {
             diagnostics.add(Severity::warning,
@@ -159,8 +159,8 @@ const std::filesystem::path& fileOf(const SourceTable& table) {
 }
 
 // A table without a namespace; none of its keys gets an accessor.
-CatalogTable leftOut(const Source& source, const SourceTable& table, const std::string& reason) {
-    CatalogTable out{table.name, {}, {}, {}};
+AccessorTable leftOut(const Source& source, const SourceTable& table, const std::string& reason) {
+    AccessorTable out{table.name, {}, {}, {}};
     for (const SourceEntry* entry : source.developmentEntries(table))
         out.leftOut.push_back({entry, "its table has no namespace: " + reason});
     return out;
@@ -168,8 +168,8 @@ CatalogTable leftOut(const Source& source, const SourceTable& table, const std::
 
 } // namespace
 
-std::vector<CatalogTable> catalogOf(const Source& source, NamesFile& names, Diagnostics& diagnostics) {
-    std::vector<CatalogTable> catalog;
+std::vector<AccessorTable> accessorTables(const Source& source, NamesFile& names, Diagnostics& diagnostics) {
+    std::vector<AccessorTable> tables;
     std::map<std::string, const SourceTable*> spelled;
     for (const SourceTable& table : source.tables) {
         if (!source.hasDevelopmentLanguage(table))
@@ -177,7 +177,7 @@ std::vector<CatalogTable> catalogOf(const Source& source, NamesFile& names, Diag
         std::string spelling = Namer::tableSpelling(table.name);
         const auto [known, isNew] = spelled.emplace(spelling, &table);
         if (!spelling.empty() && isNew) {
-            CatalogTable& out = catalog.emplace_back(CatalogTable{table.name, std::move(spelling), {}, {}});
+            AccessorTable& out = tables.emplace_back(AccessorTable{table.name, std::move(spelling), {}, {}});
             TableBuilder(source, table, names).build(out, diagnostics);
             continue;
         }
@@ -186,10 +186,10 @@ std::vector<CatalogTable> catalogOf(const Source& source, NamesFile& names, Diag
                                        : "the name " + spelling + " belongs to " + fileOf(*known->second).string();
         diagnostics.add(Severity::warning, {.message = "the table has no accessors: " + reason, .file = fileOf(table)},
                         spelling.empty() ? Topic::noAccessor : Topic::nameClash);
-        catalog.push_back(leftOut(source, table, reason));
+        tables.push_back(leftOut(source, table, reason));
     }
     names.reportUnused(diagnostics);
-    return catalog;
+    return tables;
 }
 
 } // namespace Generator

@@ -13,7 +13,7 @@
 namespace Generator {
 
 // A key with an accessor.
-struct CatalogEntry {
+struct NamedEntry {
     const SourceBundle::SourceEntry* source;
     std::string groups; // the enclosing namespaces below the table's, outermost first: "Settings::Profile"
     std::string name;
@@ -27,10 +27,10 @@ struct LeftOutEntry {
 };
 
 // The accessors of a table of texts.
-struct CatalogTable {
+struct AccessorTable {
     std::string name;                  // as used in lookups
     std::string spelling;              // its namespace; empty if it has none and therefore no accessors
-    std::vector<CatalogEntry> entries; // in the order of the development texts
+    std::vector<NamedEntry> entries;   // in the order of the development texts
     std::vector<LeftOutEntry> leftOut; // likewise
 };
 
@@ -41,7 +41,7 @@ inline constexpr std::size_t maxPathParts = 64;
 // The tables with development texts, sorted by name. Warns about every key that cannot have an accessor. If names
 // clash, the first key keeps the name, unless `names` assigns it to another. A table whose file name gives no
 // namespace, or that of another table, is left out with a warning.
-[[nodiscard]] std::vector<CatalogTable> catalogOf(const SourceBundle::Source& source, NamesFile& names,
-                                                  SourceBundle::Diagnostics& diagnostics);
+[[nodiscard]] std::vector<AccessorTable> accessorTables(const SourceBundle::Source& source, NamesFile& names,
+                                                        SourceBundle::Diagnostics& diagnostics);
 
 } // namespace Generator

@@ -24,11 +24,11 @@ constexpr std::size_t maxComment = 1000;
 constexpr std::size_t maxLiteral = 65536;
 
 struct Placed {
-    const CatalogTable* table;
-    const CatalogEntry* entry;
+    const AccessorTable* table;
+    const NamedEntry* entry;
 };
 
-std::string nameSpaceOf(const Options& options, const CatalogTable& table, std::string_view groups = {}) {
+std::string nameSpaceOf(const Options& options, const AccessorTable& table, std::string_view groups = {}) {
     std::string name = options.module + "::" + options.module + "Strings::" + table.spelling;
     return groups.empty() ? name : name.append("::").append(groups);
 }
@@ -52,14 +52,14 @@ const char* typeOf(Parameter parameter) {
     return "";
 }
 
-std::vector<std::string> parameters(const CatalogEntry& entry) {
+std::vector<std::string> parameters(const NamedEntry& entry) {
     std::vector<std::string> all;
     for (const Parameter parameter : entry.parameters)
         all.push_back(typeOf(parameter) + parameterName(all.size(), entry.parameters.size()));
     return all;
 }
 
-std::vector<std::string> arguments(const CatalogEntry& entry) {
+std::vector<std::string> arguments(const NamedEntry& entry) {
     std::vector<std::string> all;
     for (const Parameter parameter : entry.parameters)
         all.push_back(parameterName(all.size(), entry.parameters.size()) +
@@ -88,7 +88,7 @@ void addLines(CodeWriter& code, std::string_view comment) {
 }
 
 // The comment for translators, the key and the text.
-void declare(CodeWriter& code, const CatalogEntry& entry) {
+void declare(CodeWriter& code, const NamedEntry& entry) {
     addLines(code, entry.source->comment);
     code.addComment(quote(entry.source->key) + " = " + quote(entry.source->text));
     const std::vector<std::string> all = parameters(entry);
@@ -98,7 +98,7 @@ void declare(CodeWriter& code, const CatalogEntry& entry) {
         code.addList(declarator("LUMORA_EXPORT std::string", entry.name, all.front() + ","), all, ");");
 }
 
-void define(CodeWriter& code, const CatalogEntry& entry, std::size_t number) {
+void define(CodeWriter& code, const NamedEntry& entry, std::size_t number) {
     if (entry.parameters.empty()) {
         code.add("const std::string& {{name}}() { return detail::text(detail::slots[{{number}}]); }",
                  {{"name", entry.name}, {"number", std::to_string(number)}});
@@ -111,11 +111,11 @@ void define(CodeWriter& code, const CatalogEntry& entry, std::size_t number) {
 
 // Headers.
 
-std::string declarations(const CatalogTable& table, std::span<const CatalogEntry> entries, const Options& options) {
+std::string declarations(const AccessorTable& table, std::span<const NamedEntry> entries, const Options& options) {
     CodeWriter code(options.module);
     code.add(declarationsBegin);
-    const CatalogEntry* previous = nullptr;
-    for (const CatalogEntry& entry : entries) {
+    const NamedEntry* previous = nullptr;
+    for (const NamedEntry& entry : entries) {
         if (previous != nullptr && previous->groups == entry.groups)
             code.add("");
         code.enter(nameSpaceOf(options, table, entry.groups));
@@ -127,15 +127,15 @@ std::string declarations(const CatalogTable& table, std::span<const CatalogEntry
     return code.take();
 }
 
-std::string_view outermost(const CatalogEntry& entry) {
+std::string_view outermost(const NamedEntry& entry) {
     const std::string_view groups = entry.groups;
     return groups.substr(0, groups.find("::"));
 }
 
-std::vector<std::span<const CatalogEntry>> parts(std::span<const CatalogEntry> entries) {
+std::vector<std::span<const NamedEntry>> parts(std::span<const NamedEntry> entries) {
     const std::size_t most = std::max(minEntriesPerHeader, entries.size() / maxHeaders + 1);
     const std::size_t wanted = most * 4 / 5;
-    std::vector<std::span<const CatalogEntry>> all;
+    std::vector<std::span<const NamedEntry>> all;
     std::size_t begin = 0;
     for (std::size_t at = 1; at < entries.size(); ++at) {
         const bool beginsGroup = outermost(entries[at]) != outermost(entries[at - 1]);
@@ -148,7 +148,7 @@ std::vector<std::span<const CatalogEntry>> parts(std::span<const CatalogEntry> e
     return all;
 }
 
-void emitHeaders(const CatalogTable& table, const Options& options, std::vector<OutputFile>& files) {
+void emitHeaders(const AccessorTable& table, const Options& options, std::vector<OutputFile>& files) {
     const std::filesystem::path folder = options.module + "Strings";
     const auto split = parts(table.entries);
     if (split.size() == 1) {
@@ -165,11 +165,11 @@ void emitHeaders(const CatalogTable& table, const Options& options, std::vector<
     files.push_back({folder / (table.spelling + ".h"), whole.take()});
 }
 
-std::string umbrella(std::span<const CatalogTable> catalog, const Options& options) {
+std::string umbrella(std::span<const AccessorTable> tables, const Options& options) {
     CodeWriter code(options.module);
     code.add("#pragma once\n");
     std::vector<std::string> includes = options.includes;
-    for (const CatalogTable& table : catalog)
+    for (const AccessorTable& table : tables)
         if (!table.spelling.empty())
             includes.push_back(options.module + "Strings/" + table.spelling + ".h");
     code.addIncludes(std::move(includes));
@@ -224,7 +224,7 @@ private:
         size_ += text.size();
     }
 
-    std::unordered_map<const CatalogTable*, std::size_t> tables_; // their numbers
+    std::unordered_map<const AccessorTable*, std::size_t> tables_; // their numbers
     std::vector<std::string> literals_;
     std::vector<std::string> tableRows_;
     std::vector<std::string> places_;
@@ -233,8 +233,8 @@ private:
 
 std::vector<std::string> includesOf(std::span<const Placed> entries, const Options& options) {
     const std::string folder = options.module + "Strings/";
-    std::vector<std::string> includes = {"Runtime/OnceSlot.h", folder + "Internal/Catalog.h"};
-    const CatalogTable* included = nullptr;
+    std::vector<std::string> includes = {"Runtime/OnceSlot.h", folder + "Internal/Lookup.h"};
+    const AccessorTable* included = nullptr;
     for (const Placed& placed : entries)
         if (placed.table != included) {
             included = placed.table;
@@ -270,10 +270,10 @@ std::string definitions(std::span<const Placed> entries, const Options& options)
     return code.take();
 }
 
-void emitSources(std::span<const CatalogTable> catalog, const Options& options, std::vector<OutputFile>& files) {
+void emitSources(std::span<const AccessorTable> tables, const Options& options, std::vector<OutputFile>& files) {
     std::vector<Placed> all;
-    for (const CatalogTable& table : catalog)
-        for (const CatalogEntry& entry : table.entries)
+    for (const AccessorTable& table : tables)
+        for (const NamedEntry& entry : table.entries)
             all.push_back({&table, &entry});
     for (std::size_t shard = 0; shard != options.shards; ++shard) {
         const std::size_t begin = all.size() * shard / options.shards;
@@ -285,15 +285,15 @@ void emitSources(std::span<const CatalogTable> catalog, const Options& options, 
 
 } // namespace
 
-std::vector<OutputFile> emitStrings(std::span<const CatalogTable> catalog, const Options& options) {
+std::vector<OutputFile> emitStrings(std::span<const AccessorTable> tables, const Options& options) {
     std::vector<OutputFile> files;
-    for (const CatalogTable& table : catalog)
+    for (const AccessorTable& table : tables)
         if (!table.spelling.empty())
             emitHeaders(table, options, files);
-    files.push_back({options.module + "Strings.h", umbrella(catalog, options)});
-    files.push_back({options.module + "Strings/Internal/Catalog.h", filled(catalogHeader, options.module)});
+    files.push_back({options.module + "Strings.h", umbrella(tables, options)});
+    files.push_back({options.module + "Strings/Internal/Lookup.h", filled(lookupHeader, options.module)});
     files.push_back({options.module + "Strings.cpp", filled(lookupSource, options.module)});
-    emitSources(catalog, options, files);
+    emitSources(tables, options, files);
     files.push_back({options.module + "Resources.h", filled(resourcesHeader, options.module)});
     files.push_back({options.module + "Resources.cpp", filled(resourcesSource, options.module)});
     return files;

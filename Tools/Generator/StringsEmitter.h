@@ -10,6 +10,6 @@
 namespace Generator {
 
 // Requires valid options; see check().
-[[nodiscard]] std::vector<OutputFile> emitStrings(std::span<const CatalogTable> catalog, const Options& options);
+[[nodiscard]] std::vector<OutputFile> emitStrings(std::span<const AccessorTable> tables, const Options& options);
 
 } // namespace Generator

@@ -60,7 +60,7 @@ inline constexpr std::string_view fewerOptimizations = R"(
 #pragma GCC optimize("O1", "optimize-sibling-calls")
 #endif)";
 
-inline constexpr std::string_view catalogHeader = R"(// Shared by the sources of the tree; internal.
+inline constexpr std::string_view lookupHeader = R"(// Shared by the sources of the tree; internal.
 #pragma once
 
 #include "Foundation/FormatArgument.h"
@@ -101,7 +101,7 @@ struct Place {
 } // namespace {{module}}::{{module}}Strings)";
 
 inline constexpr std::string_view lookupSource = R"(#include "{{module}}Resources.h"
-#include "{{module}}Strings/Internal/Catalog.h"
+#include "{{module}}Strings/Internal/Lookup.h"
 
 #include "Foundation/NSBundle.h"
 #include "Runtime/OnceSlot.h"

@@ -12,7 +12,7 @@ namespace Tools {
 
 namespace {
 
-using Generator::CatalogTable;
+using Generator::AccessorTable;
 using Generator::Model;
 using Generator::Parameter;
 using nlohmann::ordered_json;
@@ -43,7 +43,7 @@ public:
     explicit Lister(const std::string& module) : tree_(module + "::" + module) {}
 
     ordered_json list(const Model& model) {
-        for (const CatalogTable& table : model.tables) {
+        for (const AccessorTable& table : model.tables) {
             for (const auto& entry : table.entries)
                 add(table, entry);
             for (const auto& [source, reason] : table.leftOut)
@@ -57,13 +57,13 @@ public:
     }
 
 private:
-    void add(const CatalogTable& table, const Generator::CatalogEntry& entry) {
+    void add(const AccessorTable& table, const Generator::NamedEntry& entry) {
         const std::string groups = entry.groups.empty() ? "" : entry.groups + "::";
         add(table, *entry.source, tree_ + "Strings::" + table.spelling + "::" + groups + entry.name, entry.parameters,
             {});
     }
 
-    void add(const CatalogTable& table, const SourceEntry& entry, const ordered_json& accessor,
+    void add(const AccessorTable& table, const SourceEntry& entry, const ordered_json& accessor,
              const std::vector<Parameter>& parameters, const std::string& reason) {
         ordered_json json = {{"kind", "text"},
                              {"accessor", accessor},

@@ -12,7 +12,7 @@ namespace Odd {
 struct OddAssetModule {
     static const ::Foundation::NSBundle& bundle() { return OddResources::bundle(); }
     static constexpr std::string_view sourceName = "TuistAssets+Odd";
-    class Catalog;
+    class RecordFactory;
 };
 
 using OddImages = ::SwiftUI::ImageRecord<OddAssetModule>;
@@ -20,7 +20,7 @@ using OddColors = ::SwiftUI::ColorRecord<OddAssetModule>;
 using OddData = ::SwiftUI::DataRecord<OddAssetModule>;
 
 // Creates records and assigns their colours. Only the module's own sources can use these functions.
-class OddAssetModule::Catalog {
+class OddAssetModule::RecordFactory {
 public:
     // Names are string literals.
     static constexpr OddImages image(const char* name) noexcept;

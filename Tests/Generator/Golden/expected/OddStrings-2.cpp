@@ -1,5 +1,5 @@
 // Generated from the resources of the module Odd; do not edit.
-#include "OddStrings/Internal/Catalog.h"
+#include "OddStrings/Internal/Lookup.h"
 #include "OddStrings/Localizable.h"
 #include "OddStrings/OddNames.h"
 #include "Runtime/OnceSlot.h"

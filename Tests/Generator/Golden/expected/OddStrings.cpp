@@ -1,6 +1,6 @@
 // Generated from the resources of the module Odd; do not edit.
 #include "OddResources.h"
-#include "OddStrings/Internal/Catalog.h"
+#include "OddStrings/Internal/Lookup.h"
 
 #include "Foundation/NSBundle.h"
 #include "Runtime/OnceSlot.h"
