@@ -58,7 +58,7 @@ class Fuzzer:
 
 
 if len(sys.argv) < 3 or not sys.argv[2].isdigit():
-    sys.exit("how many seconds of processor time for each fuzzer?")
+    sys.exit(__doc__.splitlines()[0])
 programs, limit = pathlib.Path(sys.argv[1]).resolve(), int(sys.argv[2])
 waiting = sys.argv[3:] or [name for name in corpora if (programs / f"fuzz-{name}").exists()]
 if unknown := [name for name in waiting if name not in corpora]:

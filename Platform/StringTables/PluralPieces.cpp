@@ -54,7 +54,7 @@ std::size_t PluralPieces::numberOf(const PluralVariable& variable) const noexcep
     return static_cast<std::size_t>(&variable - plural_.variables.data());
 }
 
-// For a variable in a form without a position.
+// The argument of `named`, a variable in this form, if its placeholder has no position.
 std::size_t PluralPieces::argumentOf(const PluralVariable& named) noexcept {
     if (!mostBefore_)
         countMostBefore();

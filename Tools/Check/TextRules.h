@@ -41,8 +41,8 @@ void checkPlaceholders(const Text& text, Report& report);
 // The plural forms that a language needs, as bit sets of categories. Categories for large numbers only, such as whole
 // millions in French, are not required, because `other` is acceptable for them.
 struct NeededForms {
-    std::uint8_t ofWhole;
-    std::uint8_t ofFloating;
+    std::uint8_t ofWhole;    // of a variable that takes an integer
+    std::uint8_t ofFloating; // of a variable that takes a floating-point number
 };
 [[nodiscard]] NeededForms neededForms(std::string_view language);
 

@@ -11,7 +11,7 @@
 
 namespace Exchange {
 
-// The parts of a key in a string catalog.
+// How UnitId::part begins for a text that varies by device, and for a variable of a text.
 inline constexpr std::string_view devicePart = "device", substitutionsPart = "substitutions";
 
 // A text of a key in one language.

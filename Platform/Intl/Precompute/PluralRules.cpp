@@ -104,7 +104,7 @@ Relation parsed(const std::string& text) {
     return relation;
 }
 
-// The relation as C++ code with the operands `o`.
+// The relation as a C++ condition on `o`, the PluralOperands of a number.
 std::string relation(const std::string& text) {
     const auto [operand, modulus, isEqual, ranges] = parsed(text);
     // Compact notation is not supported, so the exponents e and c are always 0.

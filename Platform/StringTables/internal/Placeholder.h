@@ -64,7 +64,7 @@ public:
             return {width, precision, 0};
         return {width, precision, placeholder.position != 0 ? placeholder.position : next()};
     }
-    // The next argument, for a placeholder that is known to be a plain "%@".
+    // Takes the next argument, as a plain "%@" does.
     std::size_t next() noexcept { return ++taken_; }
     std::size_t taken() const noexcept { return taken_; }
 
