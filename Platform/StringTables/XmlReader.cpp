@@ -59,6 +59,7 @@ std::string XmlReader::checkPlacement(const Element& element) {
     if (levels_.size() == Table::maxDepth)
         return nestedTooDeeply;
     Level& parent = levels_.back();
+    // A <plist> has no parent: inside of anything it is rejected like a child of a leaf.
     switch (element.kind == Kind::plist ? Kind::leaf : parent.kind) {
     case Kind::plist:
         if (parent.filled || element.kind != Kind::dict)

@@ -27,7 +27,7 @@ struct WatchOptions {
     std::string output;
 };
 
-// A descriptor that becomes readable on SIGINT and SIGTERM.
+// A descriptor that becomes readable when a signal asks the program to end.
 Runtime::Descriptor stopSignals() {
     sigset_t signals;
     sigemptyset(&signals);
