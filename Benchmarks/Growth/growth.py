@@ -1,4 +1,4 @@
-"""growth.py BUILD: how the cost of each step grows with the keys and with the languages of a bundle.
+"""growth.py BUILD: how the cost of each step grows with the keys and with the languages of a source.
 
 Writes source folders, checks the output of each step, times it (processor time, the minimum of several runs) and writes the tables
 into Docs/performance.md. The exponent of a step between two sizes is 1 if ten times as much takes ten times as long."""

@@ -2,7 +2,6 @@
 
 #include "Exchange/PluralChange.h"
 #include "StringTables/internal/Writer.h"
-#include <algorithm>
 
 namespace Exchange {
 
@@ -23,18 +22,20 @@ Runtime::Result<BinaryTexts> BinaryTexts::read(std::string bytes) {
     if (!table->notes().empty())
         return wouldLose(table->notes().front());
     BinaryTexts document;
-    for (const StringTables::Entry& entry : table->entries())
+    for (const StringTables::Entry& entry : table->entries()) {
+        document.places_.emplace(entry.key, document.texts_.size());
         document.texts_.emplace_back(entry.key, entry.text);
+    }
     return document;
 }
 
 Runtime::Result<void> BinaryTexts::apply(const Change& change) {
     const Unit& unit = *change.changed.front();
-    const auto found = std::ranges::find(texts_, unit.id.key, &std::pair<std::string, std::string>::first);
-    if (found != texts_.end())
-        found->second = unit.target;
-    else
+    const auto [place, isNew] = places_.try_emplace(unit.id.key, texts_.size());
+    if (isNew)
         texts_.emplace_back(unit.id.key, unit.target);
+    else
+        texts_[place->second].second = unit.target;
     return {};
 }
 
@@ -52,17 +53,20 @@ Runtime::Result<BinaryPlurals> BinaryPlurals::read(std::string bytes) {
     if (!table->notes().empty())
         return wouldLose(table->notes().front());
     BinaryPlurals document;
-    document.entries_.assign(table->entries().begin(), table->entries().end());
+    for (const PluralEntry& entry : table->entries()) {
+        document.places_.emplace(entry.key, document.entries_.size());
+        document.entries_.push_back(entry);
+    }
     return document;
 }
 
 Runtime::Result<void> BinaryPlurals::apply(const Change& change) {
     const std::string& key = change.changed.front()->id.key;
-    const auto found = std::ranges::find(entries_, key, &PluralEntry::key);
-    if (found != entries_.end())
-        applyTo(found->plural, change.changed, *change.development);
-    else
+    const auto [place, isNew] = places_.try_emplace(key, entries_.size());
+    if (isNew)
         entries_.push_back({key, newPlural(change), {}});
+    else
+        applyTo(entries_[place->second].plural, change.changed, *change.development);
     return {};
 }
 

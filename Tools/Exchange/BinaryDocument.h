@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Exchange/TableDocument.h"
+#include "Runtime/internal/NameMap.h"
 #include "StringTables/internal/PluralTable.h"
 #include <string>
 #include <utility>
@@ -23,6 +24,7 @@ public:
 private:
     BinaryTexts() = default;
     std::vector<std::pair<std::string, std::string>> texts_;
+    Runtime::NameMap<std::size_t> places_; // of the keys in texts_
 };
 
 class BinaryPlurals final : public TableDocument {
@@ -36,6 +38,7 @@ public:
 private:
     BinaryPlurals() = default;
     std::vector<StringTables::PluralEntry> entries_;
+    Runtime::NameMap<std::size_t> places_; // of the keys in entries_
 };
 
 } // namespace Exchange
