@@ -26,9 +26,10 @@ std::vector<CheckedTable> checkedTables(const Source& source, std::span<const Ch
             tables.push_back(&table);
     std::vector<CheckedTable> checked;
     for (const SourceTable* table : tables) {
-        const auto before =
-            std::ranges::find_if(older, [&](const CheckedTable& other) { return other.table->name == table->name; });
-        checked.push_back({table, {source, *table, before == older.end() ? nullptr : &before->development}});
+        const auto before = std::ranges::lower_bound(
+            older, table->name, {}, [](const CheckedTable& other) -> std::string_view { return other.table->name; });
+        const bool isOld = before != older.end() && before->table->name == table->name;
+        checked.push_back({table, {source, *table, isOld ? &before->development : nullptr}});
     }
     return checked;
 }

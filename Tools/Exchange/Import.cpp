@@ -102,8 +102,8 @@ private:
         const std::string name = nameOf(language, id.table, id.key);
         if (const auto known = keys_.find(name); known != keys_.end())
             return &known->second;
-        const auto table = std::ranges::find(source_.tables, id.table, &SourceTable::name);
-        if (table == source_.tables.end())
+        const auto table = std::ranges::lower_bound(source_.tables, id.table, {}, &SourceTable::name);
+        if (table == source_.tables.end() || table->name != id.table)
             return nullptr;
         for (const std::string_view developmentLanguage :
              {std::string_view(source_.developmentLanguage), SourceBundle::baseLanguage}) {

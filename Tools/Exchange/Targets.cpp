@@ -31,15 +31,18 @@ const TableFile* presentFile(const Key& key) {
 } // namespace
 
 // The path of a new file, in the language folder beside that of the development language.
-fs::path Targets::newFile(const Key& key) const {
+fs::path Targets::newFile(const Key& key) {
+    const auto [folders, isNew] = folders_.try_emplace(key.language);
+    if (isNew)
+        for (const SourceTable& table : source_.tables)
+            if (const LanguageTexts* const texts = table.find(key.language))
+                for (const TableFile* file : texts->files)
+                    if (const fs::path folder = file->path.parent_path(); file->kind != TableFile::Kind::catalog)
+                        folders->second.insert_or_assign(folder.parent_path(), folder);
     const fs::path& development = key.development->file->path;
     const fs::path above = development.parent_path().parent_path();
-    fs::path folder = above / (key.language + ".lproj");
-    for (const SourceTable& table : source_.tables)
-        if (const LanguageTexts* const texts = table.find(key.language))
-            for (const TableFile* file : texts->files)
-                if (file->kind != TableFile::Kind::catalog && file->path.parent_path().parent_path() == above)
-                    folder = file->path.parent_path();
+    const auto present = folders->second.find(above);
+    const fs::path folder = present == folders->second.end() ? above / (key.language + ".lproj") : present->second;
     return folder / development.filename();
 }
 

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <string>
 
 namespace Exchange {
 
@@ -27,12 +28,14 @@ private:
         TableDocument* document = nullptr;
         bool isChanged = false;
     };
-    std::filesystem::path newFile(const Key& key) const;
+    std::filesystem::path newFile(const Key& key);
     Runtime::Result<Target*> targetOf(const Key& key);
 
     const SourceBundle::Source& source_;
     StoredTexts& texts_;
     std::map<std::filesystem::path, Target> targets_;
+    // The folder of each language, by the folder that contains it.
+    std::map<std::string, std::map<std::filesystem::path, std::filesystem::path>> folders_;
 };
 
 } // namespace Exchange

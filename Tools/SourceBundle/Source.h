@@ -105,7 +105,7 @@ public:
     ~Source();
 
     std::string developmentLanguage;
-    std::vector<SourceTable> tables;             // by name
+    std::vector<SourceTable> tables;             // sorted by name
     std::vector<std::filesystem::path> catalogs; // *.xcassets
     std::vector<std::filesystem::path> infos;    // Info.plist of the folders that have one
 
