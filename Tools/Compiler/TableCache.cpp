@@ -14,7 +14,7 @@ constexpr std::string_view recordName = "table";
 // Takes the build id of the first object, which is the main program.
 int takeBuildId(dl_phdr_info* program, std::size_t, void* out) {
     Runtime::visitNotes(*program, [out](const Runtime::ElfNote& note) {
-        const bool isBuildId = note.type == NT_GNU_BUILD_ID && note.owner == std::string_view("GNU", 4);
+        const bool isBuildId = note.type == NT_GNU_BUILD_ID && note.owner == std::string_view("GNU\0", 4);
         if (isBuildId)
             *static_cast<std::string_view*>(out) = note.content;
         return isBuildId;

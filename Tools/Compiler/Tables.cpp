@@ -20,7 +20,6 @@ using SourceBundle::LanguageTexts;
 using SourceBundle::Source;
 using SourceBundle::SourceTable;
 using StringTables::Entry;
-using StringTables::Form;
 using StringTables::Table;
 
 namespace {
