@@ -257,9 +257,10 @@ std::string definitions(std::span<const Placed> entries, const Options& options)
             code.add(plainDefinition, {{"count", std::to_string(plain)}});
         if (plain != entries.size())
             code.add(formattedDefinition);
-        code.add("\n} // namespace");
-        code.leave();
         code.add(fewerOptimizations);
+        if (plain != 0)
+            code.add(testDefinition);
+        code.add("\n} // namespace");
     }
     std::size_t nextPlain = 0;
     std::size_t nextFormatted = plain;
