@@ -11,6 +11,8 @@
 #include "Runtime/internal/NameMap.h"
 #include "StringTables/internal/Table.h"
 #include <algorithm>
+#include <set>
+#include <string>
 
 namespace Exchange {
 
@@ -150,8 +152,7 @@ private:
                     placeholderFault(unit.target, *expected, imported->expected, *imported->key.development))
                 return fault(translations, unit.line, id + " " + *wrong);
         accept(translations, *imported, unit, state);
-        if (std::ranges::find(languages_, language) == languages_.end())
-            languages_.push_back(language);
+        languages_.insert(language);
     }
 
     static std::string whyUnknown(ImportedKey& imported, const Unit& unit) {
@@ -212,7 +213,7 @@ private:
     StoredTexts texts_;
     Targets targets_;
     Runtime::NameMap<ImportedKey> keys_;
-    std::vector<std::string> languages_; // with changes
+    std::set<std::string> languages_; // with changes
     std::size_t count_ = 0;
 };
 

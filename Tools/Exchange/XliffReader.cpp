@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <map>
 #include <utility>
 
 namespace Exchange {
@@ -76,13 +77,10 @@ private:
         const std::string* const target = file.attribute("target-language");
         if (source == nullptr || target == nullptr)
             return fail(file, "<file> has no source-language or no target-language");
-        const auto isSame = [&](const Translations& translations) {
-            return translations.sourceLanguage == *source && translations.targetLanguage == *target;
-        };
-        auto found = std::ranges::find_if(all_, isSame);
-        if (found == all_.end())
-            found = all_.insert(found, {.sourceLanguage = *source, .targetLanguage = *target, .file = file_});
-        readUnits(file, *found);
+        const auto [place, isNew] = places_.try_emplace({*source, *target}, all_.size());
+        if (isNew)
+            all_.push_back({.sourceLanguage = *source, .targetLanguage = *target, .file = file_});
+        readUnits(file, all_[place->second]);
     }
 
     void readUnits(const XmlNode& node, Translations& translations) {
@@ -132,6 +130,7 @@ private:
     const std::string& file_;
     SourceBundle::Diagnostics& faults_;
     std::vector<Translations> all_;
+    std::map<std::pair<std::string, std::string>, std::size_t> places_; // in all_, by source and target language
     std::optional<Runtime::Error> error_;
 };
 
