@@ -1,7 +1,7 @@
 // StringTables/internal/BundleLayout.h
-// The layout of a bundle: Info.plist, and for each language a folder LANGUAGE.lproj with its tables, TABLE.strings and
-// TABLE.stringsdict. Info.plist names the development language. Its texts are in Base.lproj, in the folder of that
-// language, or in both.
+// The layout of a bundle's texts: Info.plist, and for each language a folder LANGUAGE.lproj with its tables,
+// TABLE.strings and TABLE.stringsdict. Info.plist names the development language. Its texts are in Base.lproj, in the
+// folder of that language, or in both.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 
@@ -22,8 +22,9 @@ inline constexpr std::string_view informationFile = "Info.plist";
 inline constexpr std::string_view developmentRegionKey = "CFBundleDevelopmentRegion";
 inline constexpr std::string_view defaultRegion = "en";
 
-// `lumora compile` adds these to Info.plist, so that readers need not list the directory: the names of the language
-// folders, each followed by the separator, and whether any of them has plurals ("yes", "no").
+// `lumora compile` adds these to Info.plist, so that readers need not list the directory: the languages, "Base"
+// included, each followed by the separator ("Base/de/"), and whether any of them has plurals ("yes", "no"). An
+// Info.plist that is copied unchanged, because it has other values than texts, lacks them.
 inline constexpr std::string_view languagesKey = "LumoraLanguages";
 inline constexpr std::string_view pluralsKey = "LumoraPlurals";
 inline constexpr char languageSeparator = '/'; // cannot be part of a folder's name

@@ -1,7 +1,6 @@
 // StringTables/internal/FoundText.h
 // The result of a look-up in a table: a text or nothing.
-// Threads: plain values. Ownership: borrows the text. It has 16 bytes, so functions return it in registers; returning
-// an optional view in memory would take longer than the look-up.
+// Threads: plain values. Ownership: borrows the text. It has 16 bytes, so functions return it in registers.
 #pragma once
 
 #include "StringTables/PercentRange.h"
