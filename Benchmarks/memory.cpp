@@ -1,5 +1,5 @@
-// How much the memory of a process grows when it reads all texts: the resident memory, and the part of it that is
-// private to the process.
+// How much the memory of a process grows when it reads all texts: the resident memory, and the anonymous part of it,
+// which other processes cannot share. Unchanged pages of files are not part of it.
 #include "all_texts.h"
 #include <Foundation/Host.h>
 
@@ -22,8 +22,8 @@ long kilobytes(const std::string& line) {
 
 int main() {
     Foundation::Host::setPreferredLanguages({"ru"});
-    const long resident = kilobytes("Rss:"), own = kilobytes("Anonymous:");
+    const long resident = kilobytes("Rss:"), anonymous = kilobytes("Anonymous:");
     int count = 0;
     const std::size_t size = readAllTexts(count);
-    std::printf("%d %zu %ld %ld\n", count, size, kilobytes("Rss:") - resident, kilobytes("Anonymous:") - own);
+    std::printf("%d %zu %ld %ld\n", count, size, kilobytes("Rss:") - resident, kilobytes("Anonymous:") - anonymous);
 }

@@ -1,6 +1,7 @@
 // The colours: each value in light, dark and high contrast, its contrast ratios, and the strip of progress colours.
 
-// Colours are [red, green, blue, alpha] of sRGB, 0 to 1.
+// Colours are [red, green, blue, alpha] of extended sRGB: components of colours outside of sRGB are below 0 or above 1,
+// and clamped when shown.
 const clamped = (component) => Math.min(Math.max(component, 0), 1);
 const white = [1, 1, 1, 1];
 const black = [0, 0, 0, 1];
@@ -59,7 +60,7 @@ function colourRow(asset) {
 
 const colourLists = assetLists(assetsOf("color").map(colourRow), "colours");
 
-// The colour for progress towards a goal: from red through yellow to `base`.
+// The colour for progress towards a goal, as watchProgress() in Lumora/ProgressColors.cpp computes it.
 function progressColour([red, green, blue], progress) {
     return [Math.max(red, 2 * (1 - progress)), Math.min(green, 2 * progress), progress * blue, 1];
 }
