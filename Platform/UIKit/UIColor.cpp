@@ -10,6 +10,7 @@ std::optional<UIColor> UIColor::colorNamed(std::string_view name, const Foundati
     const auto found = detail::findAsset(AssetCatalog::Kind::color, name, bundle);
     if (!found)
         return std::nullopt;
+    // over({}) bounds the scale, so that equal traits compare equal.
     return UIColor(
         State(Asset{found->catalog, found->index, traits == nullptr ? UITraitCollection{} : traits->over({})}));
 }
@@ -24,6 +25,7 @@ UIColor UIColor::resolved(const UITraitCollection& traits) const noexcept {
     const Asset* asset = std::get_if<Asset>(&state_);
     if (asset == nullptr)
         return *this;
+    // The traits given to colorNamed() win over `traits`, and both over the current ones.
     const std::size_t variant = asset->catalog->bestVariant(asset->index, asset->traits.over(traits));
     const auto [red, green, blue, alpha] =
         AssetCatalog::toExtendedSrgb(asset->catalog->entry(asset->index).color(variant));
