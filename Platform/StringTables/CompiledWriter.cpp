@@ -93,9 +93,7 @@ Runtime::Result<std::string> writeCompiled(std::span<const Entry> entries) {
     if (!index)
         return plain;
     std::string bytes = writeIndexed(entries, hashes, *index);
-    if (auto fits = checkWrittenSize(bytes.size()); !fits)
-        return std::move(fits.error());
-    return bytes;
+    return checkWrittenSize(bytes.size()) ? std::move(bytes) : std::move(plain);
 }
 
 } // namespace StringTables

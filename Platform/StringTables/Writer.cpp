@@ -93,7 +93,10 @@ Runtime::Result<std::string> writeBinary(Entries entries) {
         if (!writer.isUtf8())
             return notUtf8(entries[i]);
     }
-    return writer.write();
+    std::string bytes = writer.write();
+    if (auto fits = checkWrittenSize(bytes.size()); !fits)
+        return std::move(fits.error());
+    return bytes;
 }
 
 } // namespace

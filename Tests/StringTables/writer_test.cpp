@@ -83,6 +83,9 @@ TEST(Writer, IsBounded) {
     for (const Form form : {Form::text, Form::xml})
         EXPECT_EQ(StringTables::write(entries, form).error().message, "the table would be larger than 268435456 bytes");
     EXPECT_LT(StringTables::write(entries, Form::binary)->size(), text.size() + 10'000);
+    const std::string doubled = std::string(StringTables::Table::maxBytes / 2, 'x') + "é"; // as UTF-16
+    entries = {{"key", doubled}};
+    EXPECT_EQ(StringTables::writeCompiled(entries).error().message, "the table would be larger than 268435456 bytes");
 }
 
 // Converts every form to every other, from few short strings to sizes that need longer references, offsets and counts.

@@ -38,9 +38,10 @@ protected:
     ~XmlHandler() = default;
 };
 
-// Errors with line and column: not well-formed; an entity declaration (refused to prevent entity expansion and external
-// references) or an unknown entity; errors of the handler. A plug-in that cannot be loaded is an error without line and
-// column that names the plug-in's file, and may be transient. Throws std::bad_alloc and exceptions of the handler.
+// Requires contents that recognize() found to be XML. Errors with line and column: not well-formed; an entity
+// declaration (refused to prevent entity expansion and external references) or an unknown entity; errors of the
+// handler. A plug-in that cannot be loaded is an error without line and column that names the plug-in's file, and may
+// be transient. Throws std::bad_alloc and exceptions of the handler.
 [[nodiscard]] Runtime::Result<void> parseXml(const Contents& contents, XmlHandler& handler);
 
 struct XmlFault {
