@@ -41,13 +41,10 @@ bool BinaryObjects::top(Object& out) {
         return false;
     if (out.type != dictionary)
         return fail(out.at, "expected a dictionary at the top of the table");
-    if (!members(out))
-        return false;
-    isOrdered_ = isOrdered() && keyAt(out, 2 * static_cast<std::size_t>(out.count)) <= next(top_);
-    return true;
+    isOrdered_ = isOrdered();
+    return members(top_, out);
 }
 
-// Object `number`; errors about the reference point at `referenceAt`.
 bool BinaryObjects::object(std::uint64_t number, std::size_t referenceAt, Object& out) {
     if (number >= objects_)
         return fail(referenceAt, "there is no object " + std::to_string(number));
@@ -62,11 +59,13 @@ bool BinaryObjects::object(std::uint64_t number, std::size_t referenceAt, Object
     return true;
 }
 
-bool BinaryObjects::members(Object& object) {
+bool BinaryObjects::members(std::uint64_t number, Object& object) {
     if (!count(object))
         return false;
     if (object.count > (tableAt_ - object.begin) / referenceSize_ / 2)
         return fail(object.at, std::to_string(object.count) + " entries do not fit into the file");
+    if (isOrdered_ && valueAt(object, static_cast<std::size_t>(object.count)) > next(number))
+        return fail(object.at, "a dictionary reaches into the next object");
     return object.count <= Table::maxEntries || fail(object.at, tooManyEntries);
 }
 

@@ -54,7 +54,7 @@ private:
         if (object.isString())
             return string(number, object, text) && accepted(sink_.string(text), object);
         if (object.type == BinaryObjects::dictionary)
-            return objects_.members(object) && entries(object);
+            return objects_.members(number, object) && entries(object);
         const char* const what = BinaryObjects::describe(object.type);
         if (what == nullptr)
             return objects_.fail(object.at, "an object of an unknown type");

@@ -143,6 +143,7 @@ TEST(BinaryTable, RejectsWithLocationAndReason) {
         {__LINE__, edited(8, "\xDF\x13\x80\0\0\0\0\0\0\1"s),
          "byte 8: 9223372036854775809 entries do not fit into the file"},
         {__LINE__, edited(8, "\xDF\x14"), "byte 9: expected the size of an object"},
+        {__LINE__, edited(8, "\xD3"), "byte 8: a dictionary reaches into the next object"},
         {__LINE__, edited(9, "\0"s), "byte 8: expected a string as key"},
         {__LINE__, edited(16, "\x72"), "byte 16: an object of an unknown type"},
         {__LINE__, edited(14, "\xC3"), "byte 14: a byte above 0x7F in an ASCII string"},

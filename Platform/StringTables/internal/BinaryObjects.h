@@ -35,11 +35,11 @@ public:
     std::uint64_t size() const noexcept { return objects_; }
     // The top-level dictionary, with its size.
     bool top(Object& out);
-    // Object `number`; errors about the reference point at `referenceAt`. string() and members() read the size of
+    // Object `number`; if there is none, the error's place is `referenceAt`. string() and members() read the size of
     // strings and dictionaries.
     bool object(std::uint64_t number, std::size_t referenceAt, Object& out);
-    // Reads the size of a dictionary and checks that its members are in the file.
-    bool members(Object& object);
+    // Reads the size of object `number`, a dictionary, and checks that its references are in the file.
+    bool members(std::uint64_t number, Object& object);
     // The offsets of the references to the key and value of entry `i`, and the reference at an offset.
     std::size_t keyAt(const Object& list, std::size_t i) const noexcept { return list.begin + i * referenceSize_; }
     std::size_t valueAt(const Object& list, std::size_t i) const noexcept {
@@ -54,7 +54,7 @@ public:
         error_ = contents_.errorAt(at, std::move(message));
         return false;
     }
-    // The name of a value's type for notes; null for an unknown type.
+    // What a value is that is not a string, for notes; null for an unknown type.
     static const char* describe(std::uint8_t type) noexcept;
 
 private:
@@ -92,7 +92,9 @@ private:
     // In a valid file objects do not overlap, so all strings together are shorter than the file. This budget bounds
     // time and memory for files whose strings do overlap.
     std::size_t unread_;
-    bool isOrdered_ = false; // the objects are in the order of their numbers, as all known writers store them
+    // The objects are in the order of their numbers, as all known writers store them. Then no string or dictionary may
+    // reach into the next object.
+    bool isOrdered_ = false;
     Runtime::Error error_;
 };
 
