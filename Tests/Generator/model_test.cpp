@@ -140,17 +140,19 @@ TEST(Model, UsesTheNamesFile) {
     Tree tree("\"Ban %@\" = \"%@\";\nbanUser = a;\nok = b;\nodd = c;");
     const auto names = tree.write("names", "\"T/Ban %@\" = \"Moderation.banUser\";\n"
                                            "\"T/banUser\" = \"ok\";\n"
-                                           "\"T/odd\" = \"not a name\";\n"
+                                           "\"T/odd\" = \"Group.EMAIL\";\n"
                                            "\"T/gone\" = \"gone\";\n");
     const Generator::Options options{.module = "M", .names = names};
     // Names from the names file take precedence.
     EXPECT_EQ(tree.accessors(options),
               (Strings{"Moderation::banUser", "ok", "odd", "- the name ok belongs to key \"banUser\" (line 2)"}));
-    EXPECT_EQ(tree.takeMessages(),
-              (Strings{"warning: names:3:1: \"not a name\" is not a dotted path of C++ names",
-                       "warning: Base.lproj/T.strings:3:1: key \"ok\" has no accessor: the name ok belongs to key "
-                       "\"banUser\" (line 2)",
-                       "warning: names:4:1: names \"T/gone\", which no table has"}));
+    EXPECT_EQ(
+        tree.takeMessages(),
+        (Strings{
+            "warning: names:3:1: the part \"EMAIL\" is not a C++ identifier that the naming rules leave unchanged",
+            "warning: Base.lproj/T.strings:3:1: key \"ok\" has no accessor: the name ok belongs to key "
+            "\"banUser\" (line 2)",
+            "warning: names:4:1: names \"T/gone\", which is not in the development texts of a table with accessors"}));
     (void)tree.accessors({.module = "M", .names = tree / "none"});
     EXPECT_TRUE(tree.diagnostics.hasErrors());
 }

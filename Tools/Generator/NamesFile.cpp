@@ -43,10 +43,13 @@ NamesFile NamesFile::read(const std::filesystem::path& file, SourceBundle::Diagn
         const StringTables::Entry& entry = table->entries()[i];
         const Runtime::Error place{.file = file, .line = places[i].line, .column = places[i].column};
         std::vector<std::string> path = splitAtDots(entry.text);
-        if (std::ranges::all_of(path, Namer::isSpelled))
+        const auto odd = std::ranges::find_if_not(path, Namer::isSpelled);
+        if (odd == path.end())
             names.names_.emplace(entry.key, Name{std::move(path), place});
         else
-            diagnostics.add(Severity::warning, with(place, quote(entry.text) + " is not a dotted path of C++ names"));
+            diagnostics.add(Severity::warning,
+                            with(place, "the part " + quote(*odd) +
+                                            " is not a C++ identifier that the naming rules leave unchanged"));
     }
     return names;
 }
@@ -64,7 +67,9 @@ const std::vector<std::string>* NamesFile::find(std::string_view table, std::str
 void NamesFile::reportUnused(SourceBundle::Diagnostics& diagnostics) const {
     for (const auto& [key, name] : names_)
         if (!name.isUsed)
-            diagnostics.add(Severity::warning, with(name.place, "names " + quote(key) + ", which no table has"));
+            diagnostics.add(Severity::warning,
+                            with(name.place, "names " + quote(key) +
+                                                 ", which is not in the development texts of a table with accessors"));
 }
 
 } // namespace Generator

@@ -19,13 +19,14 @@ class NamesFile {
 public:
     // No names.
     NamesFile() = default;
-    // An unreadable file is an error. A path that does not consist of C++ names is a warning, and the key gets its
-    // default name.
+    // An unreadable file is an error. A path with a part that Namer::isSpelled() rejects is a warning, and the key gets
+    // its default name.
     [[nodiscard]] static NamesFile read(const std::filesystem::path& file, SourceBundle::Diagnostics& diagnostics);
 
     // The parts of the path, groups first; null if the file does not mention the key.
     [[nodiscard]] const std::vector<std::string>* find(std::string_view table, std::string_view key);
-    // Warns about keys for which find() was never called, because no table has them.
+    // Warns about keys for which find() was never called, because they are not in the development texts of a table with
+    // accessors.
     void reportUnused(SourceBundle::Diagnostics& diagnostics) const;
 
 private:
