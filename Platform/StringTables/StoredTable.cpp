@@ -129,6 +129,7 @@ StoredTable::Whole StoredTable::readWhole(std::optional<Runtime::OpenFile> file)
     if (!file)
         return Whole();
     std::string bytes;
+    bytes.reserve(file->size()); // once, because a second allocation would take new pages
     readOn(*file, bytes, smallFile);
     CompiledIndex index;
     const bool isCompiled = CompiledIndex::recognize(std::string_view(bytes).substr(0, CompiledIndex::headSize),
