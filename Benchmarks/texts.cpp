@@ -1,4 +1,5 @@
-// Reading texts: a plain one compared with a function-local static, a formatted one compared with a map and fmt.
+// Reading texts: a plain one compared with a function-local static, a formatted one with snprintf and with a map and fmt.
+// Also the current language.
 #include "StringTables/internal/Table.h"
 #include "other_library.h"
 #include <Lumora/Lumora.h>
@@ -29,16 +30,6 @@ std::unordered_map<std::string, std::string> developmentTexts() {
     text.replace(text.find("%@"), 2, "{}");
     return texts;
 }
-
-void plainMap(benchmark::State& state) {
-    static const auto texts = developmentTexts();
-    const auto make = [] { return texts.find("Continue")->second; };
-    if (!agrees(state, make() == "Continue"))
-        return;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(make());
-}
-BENCHMARK(plainMap);
 
 // The text that all libraries format, for different days.
 template <class Make> void formatted(benchmark::State& state, Make make) {

@@ -6,5 +6,5 @@
 int main() {
     std::setlocale(LC_ALL, "");
     bindtextdomain("texts", LUMORA_PEERS);
-    std::cout << std::string(dgettext("texts", "Continue")) << '\n';
+    std::cout << std::string(dgettext("texts", "Continue")) << '\n'; // a std::string, as in the other programs
 }

@@ -1,5 +1,5 @@
 // UIKit/UITraitCollection.h
-// The traits that pictures and colours adapt to.
+// The traits that pictures, colours and data assets adapt to.
 // Threads: setCurrent() and current() from any thread at any time; a reader sees the traits either before or after a
 // change.
 #pragma once
@@ -20,10 +20,10 @@ struct LUMORA_EXPORT UITraitCollection {
     double displayScale = 0; // pixels per point; 0 or less means unspecified
     LayoutDirection layoutDirection = LayoutDirection::unspecified;
 
-    // The current traits of the process. Initially all are unspecified, which means a light screen with one pixel per
-    // point.
+    // The current traits of the process. Initially all are unspecified: variants for any appearance are preferred, then
+    // light ones, and the scale is 1.
     [[nodiscard]] static UITraitCollection current() noexcept;
-    // `displayScale` is kept in single precision.
+    // `displayScale` is clamped as in over() and kept in single precision.
     static void setCurrent(const UITraitCollection& traits) noexcept;
 
     // These traits, with unspecified ones taken from `under`. The scale is 0 if neither specifies one, else clamped to

@@ -54,13 +54,13 @@ def build_and_change(prefix, folder, generator):
     run(*make)
     expect(f"{generator}: nothing to do", (changed(files, times(bundle, "*")), changed(objects, times(build, "*.o"))), ([], []))
 
-    # A changed translation: its table and the list of tables, but no source.
+    # A changed translation: its table and the mark file, but no source.
     replace(shop / "Resources/de.lproj/Localizable.strings", "Zum Warenkorb", "Zum Korb")
     run(*make)
     expect(f"{generator}: a translation", (changed(files, times(bundle, "*")), changed(objects, times(build, "*.o"))),
            ([".lumora-bundle", "de.lproj/Localizable.strings"], []))
 
-    # A new language and a new folder of catalogs are found without configuring again.
+    # A new language in a new folder is found without configuring again.
     (shop / "Resources/more/fr.lproj").mkdir(parents=True)
     (shop / "Resources/more/fr.lproj/Localizable.strings").write_text('"home.title" = "Bouilloire";\n', encoding="utf-8")
     run(*make)

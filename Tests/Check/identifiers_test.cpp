@@ -31,6 +31,7 @@ TEST(Identifiers, AreFoundOutsideOfCommentsAndLiterals) {
         {__LINE__, "\"open", ""},
         {__LINE__, "a /* open", "a"},
         {__LINE__, "R\"(open", ""},
+        {__LINE__, "PRIuPTR\"(\" c", "PRIuPTR c"},
         {__LINE__, "\"\\", ""},
     };
     for (const auto& one : cases)

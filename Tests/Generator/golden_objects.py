@@ -1,5 +1,5 @@
-"""Fails if generated objects run code when they are loaded, have relocations for each entry, or export symbols other than their
-accessors and constants."""
+"""Fails if generated objects run code when they are loaded, if those of the texts have data that must be relocated, or if the exported
+symbols are not exactly the accessors, the constants and bundle()."""
 import re
 import subprocess
 import sys
@@ -7,7 +7,7 @@ import sys
 ACCESSORS, CONSTANTS = 30, 5  # of Golden/input.bundle
 BUNDLE = "_ZN3Odd12OddResources6bundleEv"
 SECTIONS = re.compile(r" (\.(?:init_array|ctors)\S*)")
-TREE_SECTIONS = re.compile(r" (\.(?:init_array|ctors|data\.rel\.ro)\S*)")
+STRINGS_SECTIONS = re.compile(r" (\.(?:init_array|ctors|data\.rel\.ro)\S*)")
 SHOWN = re.compile(r"\s*\d+: .* GLOBAL +DEFAULT +\d+ (\S+)")
 
 
@@ -20,7 +20,7 @@ def main(objects):
     faults = []
     shown = []
     for file in objects:
-        sections = TREE_SECTIONS if "OddStrings" in file else SECTIONS
+        sections = STRINGS_SECTIONS if "OddStrings" in file else SECTIONS
         faults += [f"{file}: has {name}" for name in sections.findall(output("readelf", "-SW", file))]
         shown += [found.group(1) for found in map(SHOWN.match, output("readelf", "-sW", file).splitlines()) if found]
     accessors = [name for name in shown if name.startswith("_ZN3Odd10OddStrings")]

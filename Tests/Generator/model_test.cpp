@@ -109,7 +109,7 @@ TEST(Model, LeavesOutKeysWithoutAccessor) {
         {__LINE__, "a = \"%1$@ %1$d\";", {"- its text takes argument 1 both as text and as an integer"}, "1:1"},
         {__LINE__, "a = \"%1$@ %d\";", {"- its text mixes placeholders with and without a position"}, "1:1"},
         // Limits.
-        {__LINE__, longName + " = a;", {"- its name is longer than 1000 characters"}, "1:1"},
+        {__LINE__, longName + " = a;", {"- its name is longer than 1000 bytes"}, "1:1"},
         {__LINE__, "a = \"%65$@\";", {"- its text takes more than 64 arguments"}, "1:1"},
         {__LINE__, "\"" + deep + "\" = a;", {"- it has more than 64 parts"}, "1:1"},
     };

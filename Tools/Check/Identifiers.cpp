@@ -42,12 +42,16 @@ public:
     }
 
 private:
+    static bool isRawPrefix(std::string_view name) {
+        return name == "R" || name == "LR" || name == "uR" || name == "UR" || name == "u8R";
+    }
+
     void takeName() {
         const std::size_t begin = at_;
         while (at_ < code_.size() && isInName(code_[at_]))
             ++at_;
         const std::string_view name = code_.substr(begin, at_ - begin);
-        if (at_ < code_.size() && code_[at_] == '"' && name.ends_with('R'))
+        if (at_ < code_.size() && code_[at_] == '"' && isRawPrefix(name))
             return takeRawLiteral();
         visit_(name, isQualified_ ? last_ : std::string_view());
         last_ = name;

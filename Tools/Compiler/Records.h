@@ -1,6 +1,6 @@
 // Compiler/Records.h
 // The lines of the mark file, which tell the next compile what it may reuse; internal to the compiler.
-// Threads: pure functions.
+// Threads: pure functions; a Fields by one thread at a time.
 #pragma once
 
 #include <algorithm>

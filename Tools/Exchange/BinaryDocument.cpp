@@ -10,7 +10,7 @@ using StringTables::PluralEntry;
 namespace {
 
 Runtime::Error wouldLose(const Runtime::Error& note) {
-    return {.message = "a binary table with other values than texts cannot be edited: " + note.message};
+    return {.message = "a binary table that is not read completely cannot be edited, because the rest would be lost: " + note.message};
 }
 
 } // namespace

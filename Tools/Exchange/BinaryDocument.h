@@ -14,7 +14,7 @@ namespace Exchange {
 
 class BinaryTexts final : public TableDocument {
 public:
-    // Fails if the table has values that are not texts, because writing would lose them.
+    // Fails if anything in the table was not read (Table::notes()), because writing would lose it.
     [[nodiscard]] static Runtime::Result<BinaryTexts> read(std::string bytes);
     BinaryTexts(BinaryTexts&&) = default;
 

@@ -142,6 +142,8 @@ void JsonNode::set(std::string_view text) {
         return;
     text_ = text;
     isString_ = true;
+    isExpanded_ = true; // it has no members any more
+    members_.clear();
 }
 
 void JsonNode::copyMembers(JsonNode& other, std::string_view without) {

@@ -41,7 +41,8 @@ public:
     [[nodiscard]] std::optional<std::string> string() const;
     // Sets it to that string. If it is already equal, its bytes are kept.
     void set(std::string_view text);
-    // Adds copies of all members of `other` except `without`.
+    // Adds all members of `other` except `without`, with the bytes that they have in the document, without later
+    // changes. `other` belongs to the same document.
     void copyMembers(JsonNode& other, std::string_view without);
 
 private:

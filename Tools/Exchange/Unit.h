@@ -27,8 +27,8 @@ struct UnitId {
     friend bool operator==(const UnitId&, const UnitId&) = default;
 };
 
-// "Localizable/cart.title", "Localizable[variables.days.plural.one]/days left". Characters that XML cannot represent,
-// and those that separate the parts of an id, are escaped as \u{HEX}; backslashes are doubled.
+// "Localizable/cart.title", "Localizable[variables.days.plural.one]/days left". Control characters
+// and noncharacters, and those that separate the parts of an id, are escaped as \u{HEX}; backslashes are doubled.
 [[nodiscard]] std::string textOf(const UnitId& id);
 // Parses the result of textOf(); no value if it is invalid.
 [[nodiscard]] std::optional<UnitId> unitIdOf(std::string_view text);

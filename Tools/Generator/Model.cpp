@@ -56,7 +56,7 @@ std::string faultOf(const std::vector<std::string>& path) {
     if (path.size() > maxPathParts)
         return "it has more than " + std::to_string(maxPathParts) + " parts";
     if (qualified(path).size() > maxPathLength)
-        return "its name is longer than " + std::to_string(maxPathLength) + " characters";
+        return "its name is longer than " + std::to_string(maxPathLength) + " bytes";
     return "";
 }
 

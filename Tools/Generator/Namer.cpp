@@ -41,8 +41,8 @@ bool isReserved(std::string_view word) {
            (word.starts_with('E') || word.starts_with("SIG") || std::ranges::find(macros, word) != std::end(macros));
 }
 
-// Whether the name is an identifier that is not reserved for the implementation: those with two adjacent underscores,
-// and many that begin with one.
+// Whether the name is an identifier without an underscore at its beginning and without two adjacent ones: C++ reserves
+// the latter and many of the former.
 bool isIdentifier(std::string_view name) {
     const std::u32string text = decoded(name);
     return !text.empty() && text[0] != '_' && beginsIdentifier(text[0]) &&

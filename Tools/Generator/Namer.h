@@ -14,7 +14,7 @@ namespace Generator::Namer {
 // the accessor of a text; the others name groups, which are namespaces.
 [[nodiscard]] std::vector<std::string_view> components(std::string_view key);
 
-// The name for a component; empty when no character of it is allowed in a name.
+// The name for a component; empty when no character of it but `_` is allowed in a name.
 [[nodiscard]] std::string groupName(std::string_view component);
 [[nodiscard]] std::string entryName(std::string_view component);
 

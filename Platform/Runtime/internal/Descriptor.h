@@ -1,6 +1,6 @@
 // Runtime/internal/Descriptor.h
 // RAII owner of a file descriptor.
-// Threads: as thread-safe as the raw descriptor.
+// Threads: number() and write() from any; close() and moves need exclusive access.
 #pragma once
 
 #include <cerrno>
