@@ -5,6 +5,7 @@
 #include "StringTables/internal/Contents.h"
 #include "StringTables/internal/PluralKeys.h"
 #include "StringTables/internal/Unicode.h"
+#include "StringTables/internal/Writer.h"
 #include <algorithm>
 
 namespace StringTables {
@@ -65,7 +66,10 @@ Runtime::Result<std::string> write(std::span<const PluralEntry> entries) {
     for (const PluralEntry& entry : entries)
         if (!isUtf8(entry))
             return Runtime::Error{"the entry " + internal::quoted(entry.key) + " is not UTF-8", {}};
-    return Writer().write(entries);
+    std::string bytes = Writer().write(entries);
+    if (auto fits = checkWrittenSize(bytes.size()); !fits)
+        return std::move(fits.error());
+    return bytes;
 }
 
 } // namespace StringTables

@@ -61,6 +61,10 @@ TEST(PluralTable, WrittenTablesReadTheSame) {
     const StringTables::PluralEntry notUtf8[] = {
         {.key = "k", .plural = {.format = "\xFF", .variables = {}}, .location = {}}};
     EXPECT_EQ(write(notUtf8).error().message, "the entry \"k\" is not UTF-8");
+    const std::string doubled = std::string(StringTables::Table::maxBytes / 2, 'x') + "é"; // as UTF-16
+    const StringTables::PluralEntry large[] = {
+        {.key = "k", .plural = {.format = doubled, .variables = {}}, .location = {}}};
+    EXPECT_EQ(write(large).error().message, "the table would be larger than 268435456 bytes");
 }
 
 TEST(PluralTable, NotesWhatIsSkipped) {
