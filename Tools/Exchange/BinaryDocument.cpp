@@ -10,7 +10,8 @@ using StringTables::PluralEntry;
 namespace {
 
 Runtime::Error wouldLose(const Runtime::Error& note) {
-    return {.message = "a binary table that is not read completely cannot be edited, because the rest would be lost: " + note.message};
+    return {.message = "a binary table that is not read completely cannot be edited, because the rest would be lost: " +
+                       note.message};
 }
 
 } // namespace
