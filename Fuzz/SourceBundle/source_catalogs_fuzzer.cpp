@@ -47,8 +47,9 @@ void requireSound(const SourceBundle::SourceAsset& asset) {
     for (const SourceBundle::SourceFile& file : asset.files) {
         require(std::isfinite(file.capInsets.top) && std::isfinite(file.alignmentInsets.right));
         require(file.path == asset.path / "1.png" || file.path == asset.path / "Contents.json");
-        require(file.fit.scale <= 9);
+        require(file.fit.scale <= 9); // "9x"
     }
+    // The limits that Docs/catalogs.md states.
     for (const AssetCatalog::Color& color : asset.colors) {
         const auto& components = color.value.components;
         require(std::ranges::all_of(components, [](double component) { return std::abs(component) <= 16; }));

@@ -103,8 +103,8 @@ def unknown_tests():
                 yield f"{page}: there is no test {test}"
 
 
-with tempfile.TemporaryDirectory() as held:
-    prefix = pathlib.Path(held, "prefix")
+with tempfile.TemporaryDirectory() as temporary:
+    prefix = pathlib.Path(temporary, "prefix")
     run(options.cmake, "--install", options.build, "--prefix", prefix)
     [library] = prefix.rglob("liblumora.so")
     environment = os.environ | {"PATH": f"{prefix / 'bin'}:{os.environ['PATH']}", "LD_LIBRARY_PATH": str(library.parent),
@@ -113,7 +113,7 @@ with tempfile.TemporaryDirectory() as held:
     shown = {f"Docs/{page.name}" for page in (source / "Docs").glob("*.md") if BLOCK.search(page.read_text(encoding="utf-8"))}
     faults += [f"{page}: no test follows it" for page in sorted(shown - set(PAGES))]
     for page, begins in PAGES.items():
-        folder = pathlib.Path(held, pathlib.Path(page).stem)
+        folder = pathlib.Path(temporary, pathlib.Path(page).stem)
         if begins == SHOP:
             shutil.copytree(source / "Examples/Shop", folder)
         else:

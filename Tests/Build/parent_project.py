@@ -32,10 +32,10 @@ with tempfile.TemporaryDirectory(prefix="lumora-parent-") as folder:
     multiarch = subprocess.run(["cc", "-print-multiarch"], capture_output=True, text=True).stdout.strip()
     expect("library folder", library.parent, usr / "lib" / multiarch)
     environment = {"LD_LIBRARY_PATH": str(library.parent), "LANG": "ru_RU.UTF-8"}
-    for name, client, compiler in (("cpp", source / "Tests/Build/consumer/app.cpp", ["c++", "-std=c++20"]),
-                                   ("c", source / "Examples/loc.c", ["cc", "-std=c11"])):
-        compile_by_pkg_config("lumora", [client], folder / name, compiler, library.parent / "pkgconfig")
-        expect(f"{name} client", russian("Continue") in run(folder / name, env=environment) or name == "c", True)
+    for key, client, compiler in (("Continue", source / "Tests/Build/consumer/app.cpp", ["c++", "-std=c++20"]),
+                                  ("SportFeed", source / "Examples/loc.c", ["cc", "-std=c11"])):
+        compile_by_pkg_config("lumora", [client], folder / client.stem, compiler, library.parent / "pkgconfig")
+        expect(client.name, russian(key) in run(folder / client.stem, env=environment), True)
 
     run(options.cmake, "--install", options.build, "--prefix", folder / "other")
     [other] = (folder / "other").rglob("liblumora.so")
