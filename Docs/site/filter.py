@@ -31,7 +31,7 @@ def anchored(lines):
     """Gives the headings that the page links to their anchors, which doxygen does not do."""
     linked = set(re.findall(r"\]\(#([\w-]+)\)", "\n".join(lines)))
     for line in lines:
-        anchor = re.sub(r"\W+", "-", line.lstrip("# ").lower())
+        anchor = re.sub(r"\W+", "-", line.lstrip("# ").lower()).strip("-")
         yield f"{line} {{#{anchor}}}" if line.startswith("#") and anchor in linked else line
 
 
