@@ -14,7 +14,9 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 std::string keyOf(const AssetCatalog::Blob& blob) {
-    return std::to_string(reinterpret_cast<std::uintptr_t>(blob.blobs)) + ":" + std::to_string(blob.offset);
+    // An empty blob has the offset of the next one.
+    return std::to_string(reinterpret_cast<std::uintptr_t>(blob.blobs)) + ":" + std::to_string(blob.offset) + ":" +
+           std::to_string(blob.size);
 }
 
 // Null when the bytes cannot be read. Never freed, because callers hold spans into them; there are few data assets.

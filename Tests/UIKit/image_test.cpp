@@ -13,8 +13,7 @@ using Sample::bundle;
 
 TEST(UIImage, FollowsTheCurrentTraits) {
     const UIImage send = UIImage::imageNamed("send", bundle()).value();
-    const UITraitCollection fixed = Sample::dark;
-    const UIImage darkSend = UIImage::imageNamed("send", bundle(), &fixed).value();
+    const UIImage darkSend = UIImage::imageNamed("send", bundle(), &Sample::dark).value();
     struct Case {
         int line;
         UITraitCollection traits;
@@ -37,7 +36,7 @@ TEST(UIImage, FollowsTheCurrentTraits) {
         const auto rgba = send.rgba();
         ASSERT_TRUE(rgba);
         EXPECT_EQ(rgba->width, c.pixels);
-        EXPECT_EQ(rgba->pixels[0], c.pixels / 10 * 11);
+        EXPECT_EQ(rgba->pixels[0], c.pixels / 10 * 11); // the variant's red
         EXPECT_EQ(darkSend.pixelWidth(), c.darkPixels);
     }
 }
@@ -139,6 +138,23 @@ TEST(NSDataAsset, ShowsTheCatalogsBytes) {
     EXPECT_EQ(regions.typeIdentifier(), "public.json");
     EXPECT_EQ(std::string(regions.data().begin(), regions.data().end()), "{}");
     EXPECT_FALSE(NSDataAsset::assetWithName("send", bundle()));
+}
+
+// An empty file is at the place of the next one in the catalog.
+TEST(NSDataAsset, TellsEmptyFilesFromTheNext) {
+    const Support::TemporaryFolder folder;
+    std::vector<AssetCatalog::Asset> assets;
+    for (const std::string text : {"", "a", "b", "c"})
+        assets.push_back({.kind = AssetCatalog::Kind::data,
+                          .catalog = "C",
+                          .name = "text " + text,
+                          .data = {{.fit = {}, .bytes = AssetCatalog::shared(text)}}});
+    folder.write(AssetCatalog::fileName, AssetCatalog::build(assets)->bytes());
+    const auto& fresh = Foundation::NSBundle::bundleWithPath(folder.path());
+    for (const std::string text : {"", "a", "b", "c"}) {
+        const auto data = NSDataAsset::assetWithName("text " + text, fresh)->data();
+        EXPECT_EQ(std::string(data.begin(), data.end()), text);
+    }
 }
 
 TEST(SwiftUI, ViewsNameAnAssetAndResolveLater) {
