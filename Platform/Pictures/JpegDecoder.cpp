@@ -17,6 +17,7 @@ public:
         jpeg_.err = jpeg_std_error(&errors_);
         errors_.error_exit = [](j_common_ptr jpeg) { of(*jpeg).fail(); };
         errors_.emit_message = [](j_common_ptr jpeg, int level) {
+            // A negative level is a warning: data is damaged. Bytes between segments are tolerated.
             if (level < 0 && jpeg->err->msg_code != JWRN_EXTRANEOUS_DATA)
                 of(*jpeg).fail();
         };
@@ -56,6 +57,8 @@ public:
     }
 
     std::string reason() const {
+        if (hasTooManyScans_)
+            return "more than " + std::to_string(maxScans) + " scans";
         char text[JMSG_LENGTH_MAX] = "";
         errors_.format_message(reinterpret_cast<j_common_ptr>(const_cast<jpeg_decompress_struct*>(&jpeg_)), text);
         return text;
@@ -64,11 +67,13 @@ public:
 private:
     static JpegReader& of(const jpeg_common_struct& jpeg) { return *static_cast<JpegReader*>(jpeg.client_data); }
 
-    // A small file can require thousands of passes over a large picture.
+    // A small file can require thousands of scans, passes over a large picture.
+    static constexpr int maxScans = 200;
     static void limitScans(jpeg_common_struct& jpeg) {
-        constexpr int maxScans = 200;
-        if (jpeg.is_decompressor && reinterpret_cast<jpeg_decompress_struct&>(jpeg).input_scan_number > maxScans)
-            of(jpeg).fail();
+        JpegReader& self = of(jpeg);
+        self.hasTooManyScans_ = self.jpeg_.input_scan_number > maxScans;
+        if (self.hasTooManyScans_)
+            self.fail();
     }
 
     // Converts CMYK in place. Files with an Adobe marker store inverted values.
@@ -86,6 +91,7 @@ private:
     jpeg_error_mgr errors_{};
     jpeg_progress_mgr progress_{};
     bool isCmyk_ = false;
+    bool hasTooManyScans_ = false;
 };
 
 } // namespace

@@ -1,9 +1,12 @@
 #include "Pictures/internal/Pictures.h"
 
+#include <algorithm>
 #include <cstdio> // jpeglib.h needs it
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <jpeglib.h>
+#include <span>
+#include <utility>
 
 namespace {
 
@@ -13,10 +16,11 @@ constexpr std::uint32_t width = 21;
 constexpr std::uint32_t height = 10;
 
 struct PixelFormat {
-    J_COLOR_SPACE from;
-    std::array<std::uint8_t, 4> pixel; // the colour of all pixels, as stored in the file
+    J_COLOR_SPACE space;
+    std::array<std::uint8_t, 4> pixel; // the colour of all pixels, in that space
     bool progressive = false;
     bool adobe = false;
+    std::span<const jpeg_scan_info> scans{}; // empty: the usual ones
 };
 
 Bytes write(const PixelFormat& format) {
@@ -28,18 +32,22 @@ Bytes write(const PixelFormat& format) {
     unsigned long size = 0;
     jpeg_mem_dest(&jpeg, &bytes, &size);
     int channels = 4;
-    if (format.from == JCS_GRAYSCALE)
+    if (format.space == JCS_GRAYSCALE)
         channels = 1;
-    else if (format.from == JCS_RGB)
+    else if (format.space == JCS_RGB)
         channels = 3;
     jpeg.image_width = width;
     jpeg.image_height = height;
     jpeg.input_components = channels;
-    jpeg.in_color_space = format.from;
+    jpeg.in_color_space = format.space;
     jpeg_set_defaults(&jpeg);
     jpeg_set_quality(&jpeg, 100, TRUE);
     if (format.progressive)
         jpeg_simple_progression(&jpeg);
+    if (!format.scans.empty()) {
+        jpeg.scan_info = format.scans.data();
+        jpeg.num_scans = static_cast<int>(format.scans.size());
+    }
     jpeg.write_Adobe_marker = format.adobe ? TRUE : FALSE;
     jpeg_start_compress(&jpeg, TRUE);
     Bytes row;
@@ -89,7 +97,7 @@ TEST(Jpeg, EveryColorSpace) {
 
 TEST(Jpeg, MeasureFindsTheFrame) {
     Bytes file = write(colored);
-    // A segment that contains something like a frame, and fill bytes before a marker.
+    // A segment that contains something like a frame, and a fill byte before a marker.
     const Bytes segment = {0xFF, 0xE1, 0, 11, 0xFF, 0xC0, 0, 7, 8, 1, 1, 1, 1, 0xFF};
     file.insert(file.begin() + 2, segment.begin(), segment.end());
     const auto size = Pictures::measure(file);
@@ -98,7 +106,24 @@ TEST(Jpeg, MeasureFindsTheFrame) {
     EXPECT_EQ(size->width, width);
     EXPECT_EQ(size->height, height);
     EXPECT_TRUE(Pictures::decode(file));
-    EXPECT_EQ(Pictures::decode(file, 209).error().message, "has more than 209 pixels");
+    EXPECT_EQ(Pictures::decode(file, width * height - 1).error().message, "has more than 209 pixels");
+}
+
+TEST(Jpeg, ScansAreLimited) {
+    const jpeg_scan_info scans[] = {{1, {0}, 0, 0, 0, 0}, {1, {0}, 1, 63, 0, 0}};
+    const Bytes file = write({.space = JCS_GRAYSCALE, .pixel = {77}, .scans = scans});
+    // The first scan gives its coefficients all bits, so a decoder accepts it again.
+    const auto first = std::ranges::search(file, Bytes{0xFF, 0xDA}).begin();
+    const auto next =
+        std::find_if(first + 2, file.end(),
+                     [last = 0](int byte) mutable { return std::exchange(last, byte) == 0xFF && byte != 0; }) -
+        1;
+    Bytes repeated = file;
+    for (int count = 2; count < 200; ++count)
+        repeated.insert(repeated.begin() + (next - file.begin()), first, next);
+    EXPECT_TRUE(Pictures::decode(repeated));
+    repeated.insert(repeated.begin() + (next - file.begin()), first, next);
+    EXPECT_EQ(Pictures::decode(repeated).error().message, "is a damaged JPEG: more than 200 scans");
 }
 
 TEST(Jpeg, DamageIsAnErrorAndNeverACrash) {
