@@ -26,8 +26,8 @@ Format::Insets formatted(const Insets& insets) {
     return {insets.top, insets.left, insets.bottom, insets.right};
 }
 
-// Sorts the variants by what they are for and keeps the first of equal ones.
-template <class Variant> void order(std::vector<Variant>& variants) {
+// Sorts the variants by language and traits. Keeps the first of those that have the same.
+template <class Variant> void sortDistinct(std::vector<Variant>& variants) {
     const auto key = [](const Variant& variant) {
         const Fit& fit = variant.fit;
         return std::tuple(std::string_view(variant.language), fit.direction, fit.appearance, fit.contrast, fit.scale);
@@ -52,7 +52,7 @@ public:
     }
 
     std::uint64_t size() const { return size_; }
-    // Moves the blobs into `built`, whose index is complete.
+    // Moves the blobs into `built`, whose index is complete, so that their offsets in the file are known.
     void moveTo(BuiltCatalog& built) {
         for (auto& [bytes, offset] : offsets_)
             offset += built.index.size();
@@ -108,7 +108,7 @@ private:
     template <class Table> using List = flatbuffers::Offset<flatbuffers::Vector<flatbuffers::Offset<Table>>>;
 
     template <class Table, class Variant> List<Table> list(std::vector<Variant>& variants) {
-        order(variants);
+        sortDistinct(variants);
         std::vector<flatbuffers::Offset<Table>> tables;
         for (const Variant& variant : variants)
             tables.push_back(add(variant));

@@ -39,7 +39,7 @@ class AssetCheck {
 public:
     AssetCheck(const Format::Asset& asset, std::uint64_t blobBytes) : asset_(asset), blobBytes_(blobBytes) {}
 
-    // An error message, or null.
+    // What is wrong with the asset, or null.
     const char* fault() const {
         if (asset_.name()->size() == 0 || asset_.name()->size() > maxNameBytes)
             return "has an empty or too long name";
@@ -104,7 +104,7 @@ private:
     std::uint64_t blobBytes_;
 };
 
-// Whether the asset before number `i` precedes it.
+// Whether the assets `i - 1` and `i` are ordered by hash, kind and name, and are not the same.
 bool areInOrder(const Format::Catalog& index, flatbuffers::uoffset_t i) {
     const std::uint64_t before = index.hashes()->Get(i - 1), hash = index.hashes()->Get(i);
     return before < hash ||
@@ -112,14 +112,16 @@ bool areInOrder(const Format::Catalog& index, flatbuffers::uoffset_t i) {
 }
 
 // Assets in order, whose hashes match their names, guarantee that none occurs twice. `indexBytes` limits the total size
-// of the names, because damaged entries could all share one long name.
+// of the names, because the names of damaged entries could overlap.
 Runtime::Result<void> checkAssets(const Format::Catalog& index, std::size_t indexBytes) {
     const auto& hashes = *index.hashes();
     const auto& assets = *index.assets();
     // The FlatBuffers verifier does not check the alignment of vector elements.
     const bool isAligned = reinterpret_cast<std::uintptr_t>(hashes.Data()) % alignof(std::uint64_t) == 0;
-    if (!isAligned || hashes.size() != assets.size() || assets.size() > maxAssets)
-        return damaged("its lists of hashes and assets do not match");
+    if (!isAligned || hashes.size() != assets.size())
+        return damaged("its list of hashes does not fit its assets");
+    if (assets.size() > maxAssets)
+        return damaged("it has too many assets");
     std::size_t nameBytes = 0;
     for (flatbuffers::uoffset_t i = 0; i < assets.size(); ++i) {
         const Format::Asset& asset = *assets[i];
@@ -150,8 +152,9 @@ Runtime::Result<std::size_t> indexBytes(std::span<const std::uint8_t> head, std:
 Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> bytes, std::uint64_t total) {
     // Each table that is not shared takes at least twelve bytes. This limit rejects files in which many assets share
     // one list of variants, which would take quadratic time; our builder never shares lists.
-    const flatbuffers::Verifier::Options limits{
-        .max_depth = 3, .max_tables = static_cast<flatbuffers::uoffset_t>(bytes.size() / 12 + 1)};
+    const flatbuffers::Verifier::Options limits{.max_depth = 3, // catalog, asset, variant
+                                                .max_tables =
+                                                    static_cast<flatbuffers::uoffset_t>(bytes.size() / 12 + 1)};
     flatbuffers::Verifier verifier(bytes.data(),
                                    flatbuffers::GetPrefixedSize(bytes.data()) + sizeof(flatbuffers::uoffset_t), limits);
     if (!Format::VerifySizePrefixedCatalogBuffer(verifier))
@@ -161,7 +164,7 @@ Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> byte
         return failure("is a catalog of version " + std::to_string(index.version()) + "; this program reads version " +
                        std::to_string(Format::version));
     if (index.blob_bytes() != total - bytes.size())
-        return damaged("it is truncated");
+        return damaged("its size is not the one that its index gives");
     if (auto sound = checkAssets(index, bytes.size()); !sound)
         return std::move(sound.error());
     return &index;

@@ -6,7 +6,8 @@ namespace AssetCatalog {
 
 namespace {
 
-// The distance, 0 to 2, for a trait with three values: 0 is "any", 1 is the more common one.
+// The distance, 0 to 2, for a trait whose enumerators are `any`, the more common value and the other one, in this
+// order.
 template <class Quality> std::uint32_t threeWay(Quality offered, Quality wanted) noexcept {
     if (offered == wanted)
         return 0;
@@ -20,7 +21,7 @@ bool isTagOrItsBeginning(std::string_view part, std::string_view tag) noexcept {
     return tag.starts_with(part) && (tag.size() == part.size() || tag[part.size()] == '-');
 }
 
-// Below 1024.
+// Below 1024. Scales are below 256, so 512 puts all smaller ones after all larger ones.
 std::uint32_t scaleDistance(std::uint32_t offered, std::uint32_t wanted) noexcept {
     if (offered == wanted)
         return 0;
@@ -39,6 +40,7 @@ std::uint32_t distance(Fit offered, Fit wanted) noexcept {
 }
 
 std::uint32_t languageDistance(std::string_view offered, std::span<const std::string> wanted) noexcept {
+    // A match has the place of its language times 256, plus the number of characters that it lacks.
     constexpr std::uint32_t forAll = std::uint32_t{1} << 24;
     if (offered.empty())
         return forAll;

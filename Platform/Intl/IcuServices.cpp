@@ -1,5 +1,5 @@
-// The plug-in: implements the services with ICU. When ICU reports an error, the plain form is returned; only
-// std::bad_alloc is thrown.
+// Implements Intl::Services with ICU, for the plug-in and for lumora-precompute. When ICU reports an error, the result
+// is no language, the plain number pattern or empty year forms; only std::bad_alloc is thrown.
 #include "Intl/internal/Intl.h"
 
 #include "Intl/internal/IcuText.h"
@@ -23,7 +23,7 @@ namespace Intl {
 namespace {
 
 // The locale of an identifier if ICU has data for its language. For other identifiers ICU would use the process's
-// default locale; this returns the root locale, with the requested digits.
+// default locale; this returns the root locale, with the digits that the identifier asks for ("xx@numbers=arab").
 icu::Locale knownLocale(std::string_view identifier) {
     icu::Locale locale = icuLocale(identifier);
     if (locale.isBogus())
@@ -47,11 +47,12 @@ std::unique_ptr<icu::DecimalFormat> decimalFormat(const icu::Locale& locale, Num
     if (decimal == nullptr)
         return nullptr;
     static_cast<void>(format.release());
-    decimal->setMinimumGroupingDigits(UNUM_MINIMUM_GROUPING_DIGITS_AUTO); // the locale's own, as in "1234" but "12.345"
+    decimal->setMinimumGroupingDigits(UNUM_MINIMUM_GROUPING_DIGITS_AUTO); // the locale's number: in Spanish 2
     return std::unique_ptr<icu::DecimalFormat>(decimal);
 }
 
-// The smallest number of digits before the first separator.
+// The smallest number of digits before the first separator, at most 4: 2 if "1234" has no separator and "12.345" has
+// one. ICU does not report the number of its data, so this formats values to find it.
 unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     const icu::UnicodeString separator =
         format.getDecimalFormatSymbols()->getConstSymbol(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol);
@@ -69,13 +70,13 @@ unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     return before;
 }
 
-// Reads the sizes of the groups. Removes affixes and multiplier from the format, because affixes may contain digits and
-// separators, too.
+// Reads the sizes of the groups. Removes the multiplier and the affixes from the format, because the former would add
+// digits to the values of minimumGrouping() and the latter may contain separators.
 void readGrouping(NumberPattern& pattern, icu::DecimalFormat& format) {
     format.setMultiplier(1);
     format.setPositivePrefix(icu::UnicodeString());
     format.setPositiveSuffix(icu::UnicodeString());
-    // A larger group size, which no language has, would overflow the value in minimumGrouping().
+    // No language has groups of more than 9 digits; far larger ones would overflow the value in minimumGrouping().
     const int primary = format.isGroupingUsed() ? std::clamp(format.getGroupingSize(), 0, 9) : 0;
     const int secondary = format.getSecondaryGroupingSize();
     pattern.primaryGrouping = static_cast<unsigned>(primary);
@@ -116,7 +117,7 @@ std::string yearForm(const icu::number::LocalizedNumberFormatter& formatter, std
     number.constrainField(UFIELD_CATEGORY_NUMBER, UNUM_INTEGER_FIELD);
     if (formatted.nextPosition(number, status))
         text.replaceBetween(number.getStart(), number.getLimit(), u"{0}");
-    return succeeded(status) ? utf8(text) : std::string("{0}");
+    return succeeded(status) ? utf8(text) : std::string();
 }
 
 PluralCategory categoryOf(const icu::PluralRules& rules, std::int32_t count) {
@@ -137,7 +138,7 @@ YearForms icuYearForms(std::string_view identifier) {
         if (std::string& form = years.forms[indexOf(categoryOf(*rules, count))]; form.empty())
             form = yearForm(formatter, count);
     };
-    // Every category of integers occurs among the small or the round numbers.
+    // Every category that integers can have occurs among 0 to 200 and the powers of ten.
     for (std::int32_t count = 0; count <= 200; ++count)
         fill(count);
     for (std::int32_t count = 1'000; count < 1'000'000'000; count *= 10)
@@ -145,12 +146,32 @@ YearForms icuYearForms(std::string_view identifier) {
     return years;
 }
 
+NumberPattern icuNumberPattern(std::string_view identifier, NumberStyle style) {
+    NumberPattern pattern = plainNumberPattern(style);
+    const icu::Locale locale = knownLocale(identifier);
+    std::unique_ptr<icu::DecimalFormat> format = decimalFormat(locale, style);
+    if (!format)
+        format = decimalFormat(icu::Locale(locale.getBaseName()), style); // without "@numbers="
+    if (!format)
+        return pattern;
+    readSymbols(pattern, *format->getDecimalFormatSymbols());
+    readAffixes(pattern, *format);
+    pattern.maximumFraction = static_cast<unsigned>(std::max(format->getMaximumFractionDigits(), 0));
+    pattern.minimumFraction = static_cast<unsigned>(std::max(format->getMinimumFractionDigits(), 0));
+    readGrouping(pattern, *format);
+    // A format that runs out of memory during a change returns default sizes from then on, and a bogus prefix, for
+    // which utf8() throws.
+    icu::UnicodeString prefix;
+    static_cast<void>(utf8(format->getPositivePrefix(prefix)));
+    return pattern;
+}
+
 // ICU allocates less than 1 MiB when it is first used. The rest is a margin, because other threads allocate, too.
 constexpr std::size_t plentyForIcu = std::size_t{8} << 20;
 
 // Calls ICU only when enough memory is free for its initialization: without memory, one part of ICU deadlocks and
-// others cache the failure permanently. If ICU fails twice although memory was free, it has cached a failure, and
-// `otherwise` is returned.
+// others cache the failure permanently. If ICU reports twice that memory ran out although enough was free, it has
+// cached a failure, and `otherwise` is returned.
 template <class Make, class Value> Value withMemory(Make make, Value otherwise) {
     for (int attempt = 0; attempt < 2; ++attempt) {
         Runtime::demandMemory(plentyForIcu);
@@ -160,25 +181,6 @@ template <class Make, class Value> Value withMemory(Make make, Value otherwise) 
         }
     }
     return otherwise;
-}
-
-NumberPattern icuNumberPattern(std::string_view identifier, NumberStyle style) {
-    NumberPattern pattern = plainNumberPattern(style);
-    const icu::Locale locale = knownLocale(identifier);
-    std::unique_ptr<icu::DecimalFormat> format = decimalFormat(locale, style);
-    if (!format)
-        format = decimalFormat(icu::Locale(locale.getBaseName()), style);
-    if (!format)
-        return pattern;
-    readSymbols(pattern, *format->getDecimalFormatSymbols());
-    readAffixes(pattern, *format);
-    pattern.maximumFraction = static_cast<unsigned>(std::max(format->getMaximumFractionDigits(), 0));
-    pattern.minimumFraction = static_cast<unsigned>(std::max(format->getMinimumFractionDigits(), 0));
-    readGrouping(pattern, *format);
-    // A format that runs out of memory during a change becomes bogus and returns defaults. utf8() throws in that case.
-    icu::UnicodeString prefix;
-    static_cast<void>(utf8(format->getPositivePrefix(prefix)));
-    return pattern;
 }
 
 class IcuServices final : public Services {

@@ -11,7 +11,7 @@ namespace Intl {
 
 namespace {
 
-// Null when the plug-in is absent.
+// The plug-in's services; null when it is absent or unusable. Throws on transient errors.
 const Services* services(const Runtime::ForkGuard& guard) {
     static constinit Runtime::OnceSlot<const Services*> slot;
     return slot.get([&guard]() -> const Services* {
@@ -30,7 +30,7 @@ template <class Use, class Plain> auto withServices(Use use, Plain plain) {
     return all != nullptr ? use(*all) : plain();
 }
 
-// The longest supported prefix of the tag.
+// The index of the longest supported prefix of the tag that ends before a '-' or '_', or of the whole tag.
 std::optional<std::size_t> matchByTruncation(std::string_view desired, std::span<const std::string> supported) {
     for (;;) {
         if (const auto found = std::ranges::find(supported, desired); found != supported.end())

@@ -10,7 +10,7 @@ namespace {
 
 // Replaces outdated language codes: "iw" becomes "he".
 icu::Locale canonical(std::string_view identifier) {
-    // Modifiers and keywords do not affect the language.
+    // A modifier such as "@euro" does not affect the match; callers have replaced "@latin" by the script's code.
     icu::Locale locale = icuLocale(identifier.substr(0, identifier.find('@')));
     UErrorCode status = U_ZERO_ERROR;
     locale.canonicalize(status);
@@ -29,7 +29,7 @@ std::optional<std::size_t> bestLanguage(std::string_view desired, std::span<cons
     const icu::Locale reader = canonical(desired);
     if (languageOf(reader).empty())
         return std::nullopt;
-    // ICU's matcher may also select related languages that many readers understand. We never do that, so it only sees
+    // ICU's matcher may also select related languages that many readers understand. We never do that, so it gets only
     // the variants of the reader's language.
     UErrorCode status = U_ZERO_ERROR;
     icu::LocaleMatcher::Builder builder;

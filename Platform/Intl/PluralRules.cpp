@@ -14,17 +14,16 @@ struct Language {
     std::uint16_t name; // offset in `names`, NUL-terminated: "pt_PT"
     std::uint8_t ruleSet;
 };
-using Categories = PluralCategories;
 
 constexpr bool isBetween(std::uint64_t value, std::uint64_t first, std::uint64_t last) noexcept {
     return first <= value && value <= last;
 }
 
-// Generated. Defines `select`; `categories` and `expressions` (offsets in `expressionTexts`) by rule set; `names`;
-// `languages`, sorted by name.
+// Generated. Defines `select`; `categories` and `expressions` (offsets in `expressionTexts`), both indexed by rule set;
+// `names`; `languages`, sorted by name.
 #include "PluralRules.inc"
 
-constexpr std::size_t longestName = 16;
+constexpr std::size_t longestName = 16; // longer than all of `names`; the rest of a tag is ignored
 constexpr unsigned unknownLanguage = ~0U;
 
 const Language* findLanguage(std::string_view name) noexcept {
@@ -33,7 +32,8 @@ const Language* findLanguage(std::string_view name) noexcept {
     return found != std::end(languages) && nameOf(*found) == name ? found : nullptr;
 }
 
-// Converts "PT-pt" to ICU's spelling, "pt_PT". Only languages and regions have rules.
+// Writes "PT-pt" in ICU's spelling, "pt_PT", and returns its end. Scripts become "LATN", which does not matter: no
+// rules depend on them.
 char* spellTag(std::string_view tag, char* out) noexcept {
     const auto within = [](char c, char first, char last) { return first <= c && c <= last; };
     bool isLanguage = true;
@@ -49,7 +49,7 @@ char* spellTag(std::string_view tag, char* out) noexcept {
     return out;
 }
 
-// The rule set of the longest prefix of the tag that has one.
+// The rule set of the longest prefix of the tag that has one, or `unknownLanguage`.
 unsigned ruleSetOf(std::string_view tag) noexcept {
     std::array<char, longestName> buffer;
     const char* const end = spellTag(tag.substr(0, longestName), buffer.data());
@@ -63,14 +63,14 @@ unsigned ruleSetOf(std::string_view tag) noexcept {
     }
 }
 
-constexpr std::uint64_t longest = 1'000'000'000'000'000'000; // smaller numbers keep all their digits
+constexpr std::uint64_t exactLimit = 1'000'000'000'000'000'000; // smaller numbers keep all their digits
 
-// Appends a digit. A number that would become too long loses its first digits; `longest` replaces them, so that the
-// number does not become zero.
+// Appends a digit. A number that would become too long loses its first digits; `exactLimit` replaces them, so
+// that the number does not become zero.
 std::uint64_t withDigit(std::uint64_t number, char digit) noexcept {
-    const bool isLong = number >= longest / 10;
-    const std::uint64_t last = number % (longest / 10) * 10 + static_cast<std::uint64_t>(digit - '0');
-    return isLong ? last + longest : last;
+    const bool isLong = number >= exactLimit / 10;
+    const std::uint64_t last = number % (exactLimit / 10) * 10 + static_cast<std::uint64_t>(digit - '0');
+    return isLong ? last + exactLimit : last;
 }
 
 bool isDigit(char c) noexcept {
@@ -86,9 +86,9 @@ void addFraction(PluralOperands& number, char digit) noexcept {
     }
 }
 
-// Parses an exponent such as "e+06", clamped to what a double can have.
+// Parses an exponent such as "e+06"; 0 if there is none or it is too large for an int.
 int exponentOf(std::string_view text) noexcept {
-    constexpr int most = 400;
+    constexpr int most = 400; // more than that of any double
     if (!text.starts_with('e') && !text.starts_with('E'))
         return 0;
     text.remove_prefix(text.substr(1).starts_with('+') ? 2 : 1);

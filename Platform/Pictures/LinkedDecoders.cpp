@@ -1,4 +1,4 @@
-// The decoders for programs and the plug-in, which link them.
+// The decoders, for the plug-in and for programs that link them instead of loading it.
 #include "Pictures/internal/Decoders.h"
 
 namespace Pictures {

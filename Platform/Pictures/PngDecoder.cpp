@@ -36,7 +36,8 @@ public:
             png_set_read_fn(png_, this, [](png_structp png, png_bytep to, std::size_t size) {
                 static_cast<PngReader*>(png_get_io_ptr(png))->give(to, size);
             });
-            // Skip ancillary chunks, even damaged ones; treat any error in critical chunks as fatal.
+            // Skip ancillary chunks except for tRNS (transparency), and that, too, if its checksum is wrong. Any other
+            // error is fatal.
             png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
             png_set_crc_action(png_, PNG_CRC_ERROR_QUIT, PNG_CRC_WARN_DISCARD);
             png_set_benign_errors(png_, 0);

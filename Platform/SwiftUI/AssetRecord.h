@@ -53,13 +53,14 @@ inline constexpr std::uint32_t colorReportLine = 587, dataReportLine = 645, imag
 
 // A cached value that can be replaced, unlike a Runtime::OnceSlot. Lock-free: several threads may create the first
 // value at the same time, and all of them use the one that was stored first. Replaced values are never freed, because
-// callers hold references to them.
+// callers hold references to them. All members are const, because records are constants.
 template <class Value> class ReplaceableCache {
 public:
     constexpr ReplaceableCache() noexcept = default;
 
     // Null before the first value.
     const Value* find() const noexcept { return value_.load(std::memory_order_acquire); }
+    // Stores the value if there is none yet. Returns the stored one.
     const Value& keep(Value value) const {
         auto made = std::make_unique<const Value>(std::move(value));
         const Value* others = nullptr;

@@ -1,5 +1,5 @@
 // SwiftUI/Color.h
-// A colour view. It refers to a colour by name; the asset is looked up when the view is drawn.
+// A colour view. It has a UIColor, or the name of a colour asset, which is looked up when the view is drawn.
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
@@ -25,7 +25,7 @@ public:
     Color(std::string name, const Foundation::NSBundle& bundle) : state_(NamedAsset{std::move(name), &bundle}) {}
     explicit Color(const UIKit::UIColor& color) : state_(color) {}
 
-    // The asset it refers to, or null.
+    // The named asset, or null when the view has a UIColor.
     [[nodiscard]] const NamedAsset* asset() const noexcept { return std::get_if<NamedAsset>(&state_); }
     // The colour to draw for these traits, completed by the current ones; no value when the asset is missing.
     [[nodiscard]] std::optional<UIKit::UIColor> resolve(const UIKit::UITraitCollection& traits) const;

@@ -53,13 +53,13 @@ namespace UIColor {
 // The record's colour, or no value when the catalog does not contain it.
 template <class Class = UIKit::UIColor, class Module> [[nodiscard]] auto withAsset(const ColorRecord<Module>& record) {
     using Platform = UIKit::UIColor;
-    constexpr bool hasOwn = requires {
+    constexpr bool canLookUp = requires {
         Class::colorNamed(record.name(), Module::bundle(), nullptr);
     };
-    constexpr bool isInherited = requires {
+    constexpr bool inheritsLookUp = requires {
         requires detail::Same<&Class::colorNamed, &Platform::colorNamed>;
     };
-    if constexpr (hasOwn && !isInherited)
+    if constexpr (canLookUp && !inheritsLookUp)
         return Class::colorNamed(record.name(), Module::bundle(), nullptr);
     else
         return detail::madeFrom<Class>(detail::found<Module>(
@@ -74,13 +74,13 @@ namespace NSDataAsset {
 template <class Class = UIKit::NSDataAsset, class Module>
 [[nodiscard]] auto withAsset(const DataRecord<Module>& record) {
     using Platform = UIKit::NSDataAsset;
-    constexpr bool hasOwn = requires {
+    constexpr bool canLookUp = requires {
         Class::assetWithName(record.name(), Module::bundle());
     };
-    constexpr bool isInherited = requires {
+    constexpr bool inheritsLookUp = requires {
         requires detail::Same<&Class::assetWithName, &Platform::assetWithName>;
     };
-    if constexpr (hasOwn && !isInherited)
+    if constexpr (canLookUp && !inheritsLookUp)
         return Class::assetWithName(record.name(), Module::bundle());
     else
         return detail::madeFrom<Class>(detail::found<Module>(
@@ -94,21 +94,21 @@ namespace UIImage {
 // The picture of that name in the module's bundle, or no value.
 template <class Class = UIKit::UIImage, class Module> [[nodiscard]] auto withAssetName(std::string_view name) {
     using Platform = UIKit::UIImage;
-    constexpr bool hasOwn = requires {
+    constexpr bool hasNewer = requires {
         Class::imageNamedWithConfiguration(name, Module::bundle(), nullptr);
     };
     constexpr bool hasOlder = requires {
         Class::imageNamed(name, Module::bundle(), nullptr);
     };
-    constexpr bool isInherited = requires {
+    constexpr bool inheritsNewer = requires {
         requires detail::Same<&Class::imageNamedWithConfiguration, &Platform::imageNamedWithConfiguration>;
     };
-    constexpr bool isInheritedOlder = requires {
+    constexpr bool inheritsOlder = requires {
         requires detail::Same<&Class::imageNamed, &Platform::imageNamed>;
     };
-    if constexpr (hasOwn && !isInherited)
+    if constexpr (hasNewer && !inheritsNewer)
         return Class::imageNamedWithConfiguration(name, Module::bundle(), nullptr);
-    else if constexpr (hasOlder && !isInheritedOlder)
+    else if constexpr (hasOlder && !inheritsOlder)
         return Class::imageNamed(name, Module::bundle(), nullptr);
     else
         return detail::madeFrom<Class>(detail::found<Module>([&](const Foundation::NSBundle& bundle) {

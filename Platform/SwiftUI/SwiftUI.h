@@ -1,5 +1,5 @@
 // SwiftUI/SwiftUI.h
-// All public headers of this folder.
+// The views. The headers for modules are not included: AssetRecord.h and ModuleConveniences.h.
 #pragma once
 
 #include "SwiftUI/Color.h"

@@ -3,7 +3,6 @@
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
-#include "Runtime/Export.h"
 #include <string>
 #include <utility>
 

@@ -11,19 +11,20 @@ namespace UIKit::detail {
 
 namespace {
 
-// Throws std::bad_alloc, and std::system_error when a transient error prevents opening the catalog.
+// The bundle's catalog, which is opened at the first call. Throws std::bad_alloc, and std::system_error when a
+// transient error prevents opening it.
 const BundleCatalog& openedFor(const Foundation::NSBundle& bundle) {
     static constinit Runtime::KeyedStore<BundleCatalog, 16> all;
-    if (const BundleCatalog* const known = all.find(bundle.bundlePath()))
-        return *known;
     const std::string& folder = bundle.bundlePath();
+    if (const BundleCatalog* const known = all.find(folder))
+        return *known;
     auto opened = AssetCatalog::Catalog::open(folder + "/" + std::string(AssetCatalog::fileName), folder);
     std::optional<AssetCatalog::Catalog> catalog;
     if (opened)
         catalog.emplace(*std::move(opened));
     else
         Runtime::throwIfTransient(opened.error());
-    return *all.add(all.unlimited, bundle.bundlePath(), BundleCatalog(bundle, std::move(catalog)));
+    return *all.add(all.unlimited, folder, BundleCatalog(bundle, std::move(catalog)));
 }
 
 std::optional<Found> findIn(const BundleCatalog& catalog, AssetCatalog::Kind kind, std::string_view name) noexcept {
@@ -55,6 +56,7 @@ AssetCatalog::Direction directionOf(LayoutDirection direction) noexcept {
     return AssetCatalog::Direction::any;
 }
 
+// Requires traits that over() has returned: their scale is at most 255.
 AssetCatalog::Fit fitFor(const UITraitCollection& traits) noexcept {
     const double scale = traits.displayScale == 0 ? 1 : std::ceil(traits.displayScale);
     return {appearanceOf(traits.userInterfaceStyle),
@@ -80,7 +82,7 @@ std::size_t BundleCatalog::bestVariant(std::size_t index, const UITraitCollectio
         // The bundle has no texts.
         return found.best(fit, Foundation::detail::hostLanguages().languages);
     } catch (...) {
-        // Memory has run out, so the languages are ignored.
+        // Memory or descriptors have run out, so the languages are ignored.
         return found.best(fit);
     }
 }

@@ -12,16 +12,16 @@
 
 namespace UIKit {
 
-// A derived class may define its own static assetWithName(); `withAsset<Derived>()` calls it.
+// A derived class may define its own static assetWithName(); a module's `withAsset<Derived>()` calls it.
 class LUMORA_EXPORT NSDataAsset {
 public:
-    // The data asset with that name (exact) in the catalog of `bundle`, in the best variant for the current traits, or
-    // no value.
+    // The data asset with that name (exact) in the catalog of `bundle`, in the best variant for the current traits and
+    // the language of the bundle's texts, or no value, also when memory or descriptors run out.
     [[nodiscard]] static std::optional<NSDataAsset> assetWithName(std::string_view name,
                                                                   const Foundation::NSBundle& bundle);
 
     [[nodiscard]] std::string_view name() const noexcept { return name_; }
-    // "public.json", or empty
+    // "public.json", or empty.
     [[nodiscard]] std::string_view typeIdentifier() const noexcept { return typeIdentifier_; }
     [[nodiscard]] std::span<const std::uint8_t> data() const noexcept { return data_; }
 

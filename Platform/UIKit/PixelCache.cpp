@@ -8,7 +8,7 @@ namespace UIKit::detail {
 class PixelCache::Access {
 public:
     explicit Access(PixelCache& cache) : cache_(cache) {
-        // A thread of the parent process was changing the table at the fork. It may be inconsistent, so leak it.
+        // A thread of the parent process was changing the table at the fork. The table may be inconsistent: leak it.
         if (cache_.lock_.lock())
             static_cast<void>(cache_.table_.release());
         try {

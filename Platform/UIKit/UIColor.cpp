@@ -25,7 +25,7 @@ UIColor UIColor::resolved(const UITraitCollection& traits) const noexcept {
     const Asset* asset = std::get_if<Asset>(&state_);
     if (asset == nullptr)
         return *this;
-    // The traits given to colorNamed() win over `traits`, and both over the current ones.
+    // The traits given to colorNamed() take precedence over `traits`, and both over the current ones.
     const std::size_t variant = asset->catalog->bestVariant(asset->index, asset->traits.over(traits));
     const auto [red, green, blue, alpha] =
         AssetCatalog::toExtendedSrgb(asset->catalog->entry(asset->index).color(variant));

@@ -23,23 +23,24 @@ struct RGBA {
     friend bool operator==(const RGBA&, const RGBA&) = default;
 };
 
-// A derived class may define its own static colorNamed(); `withAsset<Derived>()` calls it.
+// A derived class may define its own static colorNamed(); a module's `withAsset<Derived>()` calls it.
 class LUMORA_EXPORT UIColor {
 public:
     // Any numbers, including NaN, are kept unchanged.
     constexpr UIColor(double red, double green, double blue, double alpha) noexcept
         : state_(RGBA{red, green, blue, alpha}) {}
-    // A colour without components.
+    // A colour that has a picture instead of components.
     [[nodiscard]] static UIColor patternColor(const UIImage& image) noexcept { return UIColor(State(image)); }
-    // The colour with that name (exact) in the catalog of `bundle`, or no value. Traits that `traits` leaves
-    // unspecified (all, if it is null) are taken from the current traits each time the colour is read, and so is the
+    // The colour with that name (exact) in the catalog of `bundle`, or no value, also when memory or descriptors run
+    // out. It follows the current traits, except for those that `traits` specifies (null specifies none), and the
     // language of the bundle's texts.
     [[nodiscard]] static std::optional<UIColor> colorNamed(std::string_view name, const Foundation::NSBundle& bundle,
                                                            const UITraitCollection* traits = nullptr);
 
     // The components for the current traits; no value for a pattern.
     [[nodiscard]] std::optional<RGBA> rgba() const noexcept;
-    // The fixed colour for these traits, completed by the current ones.
+    // The colour for these traits, completed by the current ones, as fixed components. Traits given to colorNamed()
+    // take precedence. Other colours are returned unchanged.
     [[nodiscard]] UIColor resolved(const UITraitCollection& traits) const noexcept;
     // The picture of a pattern, or null.
     [[nodiscard]] const UIImage* patternImage() const noexcept { return std::get_if<UIImage>(&state_); }

@@ -41,12 +41,13 @@ enum class RenderingMode : std::uint8_t { automatic, alwaysOriginal, alwaysTempl
 // How the part inside the cap insets fills a larger area.
 enum class ResizingMode : std::uint8_t { stretch, tile };
 
-// A derived class may define its own static lookups with these names; `withAssetName<Derived>()` calls them.
+// A derived class may define its own static imageNamedWithConfiguration() or imageNamed(); a module's
+// `withAssetName<Derived>()` calls it.
 class LUMORA_EXPORT UIImage {
 public:
-    // The image with that name (exact) in the catalog of `bundle`, or no value. Traits that `traits` leaves unspecified
-    // (all, if it is null) are taken from the current traits each time the image is read, and so is the language of the
-    // bundle's texts.
+    // The image with that name (exact) in the catalog of `bundle`, or no value, also when memory or descriptors run
+    // out. It follows the current traits, except for those that `traits` specifies (null specifies none), and the
+    // language of the bundle's texts.
     [[nodiscard]] static std::optional<UIImage> imageNamed(std::string_view name, const Foundation::NSBundle& bundle,
                                                            const UITraitCollection* traits = nullptr);
     // The same lookup under its newer name.
@@ -60,7 +61,7 @@ public:
     // Whether the rendering mode is `alwaysTemplate`.
     [[nodiscard]] bool isTemplate() const noexcept;
 
-    // The following describe the best variant for the traits.
+    // The following describe the best variant for the traits and the language of the moment.
     [[nodiscard]] Size size() const noexcept;
     [[nodiscard]] double scale() const noexcept; // pixels per point
     [[nodiscard]] std::uint32_t pixelWidth() const noexcept;
@@ -70,8 +71,8 @@ public:
     [[nodiscard]] ResizingMode resizingMode() const noexcept;
     // The edges that are ignored when the image is aligned, such as a shadow.
     [[nodiscard]] EdgeInsets alignmentRectInsets() const noexcept;
-    // The decoded pixels, or null when the picture is damaged. Calls return the same object as long as it is referenced
-    // or in the cache of recently used pictures.
+    // The decoded pixels, or null when the picture is damaged or cannot be read. Calls return the same object as long
+    // as it is referenced or in the cache of recently used pictures.
     [[nodiscard]] std::shared_ptr<const Pictures::Bitmap> rgba() const;
 
     // Whether both are the same asset for the same traits.

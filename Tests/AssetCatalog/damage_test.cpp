@@ -41,7 +41,7 @@ TEST(DamagedCatalog, EveryByteAltered) {
     EXPECT_GT(refused, sound.size() * 2);
 }
 
-// Exchanges every four bytes of the index with every other four, because offsets, sizes and counts have that size.
+// Exchanges every four bytes with every other four, because offsets and counts in the index have that size.
 TEST(DamagedCatalog, WordsExchanged) {
     const std::string sound = build(Sample::assets())->bytes();
     for (std::size_t a = 0; a + 4 <= sound.size(); a += 4)
@@ -63,8 +63,8 @@ TEST(DamagedCatalog, OtherVersionIsNamed) {
               "is a catalog of version 1; this program reads version 2");
 }
 
-// Many assets that share one long name or one list of variants still take linear time.
-TEST(DamagedCatalog, SharedPartsAreBounded) {
+// Checking many assets that all share one long list of variants would take quadratic time.
+TEST(DamagedCatalog, SharedListsAreRejected) {
     flatbuffers::FlatBufferBuilder buffer;
     const Format::Fit fit(0, 0, 0, 0);
     const Format::Components components(0, 0, 0, 1);

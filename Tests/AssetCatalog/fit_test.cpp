@@ -9,7 +9,7 @@ namespace {
 
 using namespace AssetCatalog;
 
-// Two or three letters: direction (l, r), appearance (l, d), contrast (h), scale; '-' is any.
+// Four characters: direction (l, r), appearance (l, d), contrast (h), scale; '-' is any.
 Fit fit(const char* text) {
     Fit fit;
     fit.direction = text[0] == 'l' ? Direction::leftToRight : text[0] == 'r' ? Direction::rightToLeft : Direction::any;
@@ -48,7 +48,7 @@ TEST(Fit, BestVariant) {
         {__LINE__, "rdh3", {"-dh3", "r--1"}, "r--1"},
         {__LINE__, "-dh3", {"--h3", "-d-1"}, "-d-1"},
         {__LINE__, "--h3", {"---3", "--h1"}, "--h1"},
-        // A mismatch is better than nothing; the first of equal variants wins.
+        // A mismatch is better than nothing.
         {__LINE__, "rdh9", {"ll-1"}, "ll-1"},
     };
     for (const Case& c : cases) {

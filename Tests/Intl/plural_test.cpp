@@ -58,7 +58,7 @@ TEST(PluralRules, KnowTagsOfAllKinds) {
     EXPECT_EQ(ourCategory("zh-Hans", "1"), "other");
     for (const char* tag : {"", "xx", "-", "en-a-very-long-tag-of-a-language", "_en"})
         EXPECT_EQ(ourCategory(tag, "5"), "other") << tag;
-    EXPECT_EQ(Intl::pluralCategories("ru").all, 0b111010);
+    EXPECT_EQ(Intl::pluralCategories("ru").all, 0b111010); // other, many, few, one
     EXPECT_EQ(Intl::pluralCategories("ru").ofIntegers, 0b011010);
     EXPECT_EQ(Intl::pluralCategories("xx").all, 0b100000);
 }

@@ -1,5 +1,5 @@
 // Tests/Pictures/PngFile.h
-// Writes PNG files of all pixel formats with the reference library.
+// Writes PNG files of all pixel formats with libpng.
 #pragma once
 
 #include <cstdint>

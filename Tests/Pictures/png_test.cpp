@@ -131,7 +131,7 @@ TEST(Png, LimitIsCheckedBeforeAllocation) {
     EXPECT_EQ(Pictures::decode(file, 63).error().message, "has more than 63 pixels");
 }
 
-// All parts of such a file are required and covered by checksums.
+// In a file without ancillary chunks every changed or missing byte is detected.
 TEST(Png, DamageIsAnError) {
     const Bytes file = PngFile::plain(5, 3, 200, 100, 50, 25);
     for (std::size_t length = 0; length < file.size(); ++length)

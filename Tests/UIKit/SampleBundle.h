@@ -8,6 +8,7 @@
 #include "AssetCatalog/internal/Catalog.h"
 #include "Foundation/NSBundle.h"
 #include "UIKit/UITraitCollection.h"
+#include <algorithm>
 
 namespace Sample {
 
@@ -77,7 +78,7 @@ inline std::vector<Asset> assets() {
 
 // All tests share this bundle, because bundles and catalogs are never closed.
 inline const Foundation::NSBundle& bundle() {
-    static const Foundation::NSBundle& made = [&]() -> const Foundation::NSBundle& {
+    static const Foundation::NSBundle& made = []() -> const Foundation::NSBundle& {
         static const Support::TemporaryFolder folder;
         folder.write(fileName, build(assets())->bytes());
         return Foundation::NSBundle::bundleWithPath(folder.path());

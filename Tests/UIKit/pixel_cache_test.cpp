@@ -19,7 +19,7 @@ TEST(PixelCache, KeepsTheMostRecentlyUsed) {
     PixelCache cache(100);
     for (const std::uint64_t i : {0U, 1U})
         cache.add(key(i), pixels(40));
-    EXPECT_TRUE(cache.find(key(0))); // now more recently used than the second
+    EXPECT_TRUE(cache.find(key(0))); // now more recently used than 1
     cache.add(key(2), pixels(40));
     EXPECT_TRUE(cache.find(key(0)));
     EXPECT_FALSE(cache.find(key(1)));

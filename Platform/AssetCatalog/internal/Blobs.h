@@ -15,14 +15,15 @@ namespace AssetCatalog {
 
 class Blobs;
 
+// One picture or data file.
 struct Blob {
     const Blobs* blobs;
-    std::uint64_t offset;
+    std::uint64_t offset; // from the first blob
     std::uint64_t size;
 
-    // Errors: the file was truncated after the catalog was opened, or cannot be read any more.
+    // Errors: the catalog's file was truncated after it was opened, or cannot be read any more.
     [[nodiscard]] Runtime::Result<std::vector<std::uint8_t>> read() const;
-    // Compares the location, which implies equal bytes.
+    // Compares the locations; equal locations have equal bytes.
     // NOLINTNEXTLINE(modernize-use-nullptr): a false positive in the defaulted comparison
     friend auto operator<=>(const Blob&, const Blob&) = default;
 };

@@ -16,7 +16,7 @@ namespace AssetCatalog {
 struct BuiltCatalog {
     std::string index;
     std::vector<Bytes> blobs;
-    // File offsets by the content of a blob; the keys point into `blobs`.
+    // The offset in the file of each blob, by the blob's content; the keys point into `blobs`.
     Runtime::NameMap<std::uint64_t, std::string_view> offsets;
 
     // The file's content in order.
@@ -25,8 +25,8 @@ struct BuiltCatalog {
 };
 
 // Builds a catalog of these assets. Their order does not affect the result. Of several variants for the same traits the
-// first is used; equal blobs are stored once. Errors name the asset: two with the same kind and name, no variant, an
-// invalid number, a limit of Catalog.h exceeded.
+// first is used; equal blobs are stored once. Errors: two assets with the same kind and name, no variant, an invalid
+// value, a limit of Catalog.h exceeded; they name the asset unless the whole catalog exceeds the limit.
 [[nodiscard]] Runtime::Result<BuiltCatalog> build(std::vector<Asset> assets);
 
 } // namespace AssetCatalog

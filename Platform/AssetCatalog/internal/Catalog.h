@@ -34,7 +34,7 @@ inline constexpr std::size_t maxNameBytes = 1024;     // of an asset, including 
 inline constexpr std::size_t maxOtherTextBytes = 255; // of a catalog's name, a language, a type identifier
 inline constexpr std::uint64_t maxPixels = std::uint64_t{64} << 20; // of one picture
 
-// Variants in an open catalog. See Picture and Data.
+// Variants in an open catalog. Model.h explains their members at Picture and Data.
 struct PictureView {
     Fit fit;
     std::uint32_t width, height; // in pixels, at least 1
@@ -58,14 +58,15 @@ public:
     std::string_view name() const noexcept;
     Rendering rendering() const noexcept;
 
-    std::size_t variants() const noexcept; // at least 1
+    // The number of variants, at least 1. All parameters `variant` are below it.
+    std::size_t variants() const noexcept;
     Fit fit(std::size_t variant) const noexcept;
     std::string_view language(std::size_t variant) const noexcept; // empty: for all languages
     // Whether any variant is for one language.
     bool isLocalized() const noexcept;
-    // The best variant for `wanted` and `languages` (BCP 47 tags, most preferred first). The language decides first: an
-    // exact match or one with fewer subtags ("pt" for "pt-BR"), then a variant for all languages, then any other.
-    // distance() decides between the rest.
+    // The number of the best variant for `wanted` and `languages` (BCP 47 tags, most preferred first). The language
+    // decides first: an exact match or one with fewer subtags ("pt" for "pt-BR"), then a variant for all languages,
+    // then any other. Among variants that are equal in this, distance() decides.
     std::size_t best(Fit wanted, std::span<const std::string> languages = {}) const noexcept;
 
     // Precondition: the entry is of that kind.
@@ -85,7 +86,7 @@ class Catalog {
 public:
     // Opens the catalog at `path` and validates its whole index. Pictures are read later from the open file, so
     // replacing it by renaming another file does not affect an open catalog. Errors: no such regular file, not a
-    // catalog, another version, truncated, damaged (the message says where). The content of pictures and data is not
+    // catalog, another version, truncated, damaged (the message says what). The content of pictures and data is not
     // validated.
     // If `bundle` is not empty, links must not lead out of that folder.
     [[nodiscard]] static Runtime::Result<Catalog> open(const std::string& path, std::string_view bundle = {});
@@ -101,11 +102,11 @@ public:
     Entry operator[](std::size_t index) const noexcept; // below size()
 
 private:
-    using Bytes = std::unique_ptr<const std::uint8_t[]>;
-    Catalog(Bytes bytes, const Format::Catalog* index, std::unique_ptr<const Blobs> blobs) noexcept
+    using IndexBytes = std::unique_ptr<const std::uint8_t[]>;
+    Catalog(IndexBytes bytes, const Format::Catalog* index, std::unique_ptr<const Blobs> blobs) noexcept
         : bytes_(std::move(bytes)), index_(index), blobs_(std::move(blobs)) {}
 
-    Bytes bytes_; // of the index; null if the caller of read() owns it
+    IndexBytes bytes_; // null if the caller of read() owns them
     const Format::Catalog* index_;
     std::unique_ptr<const Blobs> blobs_;
 };

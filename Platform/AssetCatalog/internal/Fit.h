@@ -19,7 +19,7 @@ namespace AssetCatalog {
 // - scale: the wanted one, then a variant for any, then the next larger, then the largest of the smaller ones.
 [[nodiscard]] std::uint32_t distance(Fit offered, Fit wanted) noexcept;
 
-// The same for the language of a variant (empty: for all languages). Best is a match with an early one of `wanted`,
+// The same for the language of a variant (empty: for all languages). Best is a match with the earliest of `wanted`,
 // exact or with fewer subtags ("pt" for "pt-BR"); then a variant for all languages; then any other.
 [[nodiscard]] std::uint32_t languageDistance(std::string_view offered, std::span<const std::string> wanted) noexcept;
 

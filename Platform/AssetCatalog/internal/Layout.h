@@ -21,7 +21,7 @@ constexpr std::size_t aligned(std::size_t size) noexcept {
 }
 
 // Assets are sorted by this hash, and those with the same hash by kind and name: names can be made to collide. Each
-// step hashes eight bytes, padded with zeros.
+// step hashes eight bytes, the last one padded with zeros.
 inline std::uint64_t hashOf(Kind kind, std::string_view name) noexcept {
     std::uint64_t hash = (static_cast<std::uint64_t>(kind) << 32 | name.size()) * Runtime::hashSpread;
     while (!name.empty()) {

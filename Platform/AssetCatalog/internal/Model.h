@@ -66,9 +66,9 @@ struct Picture {
     std::uint32_t height = 0;
     Size points{};
     Resizing resizing = Resizing::stretch;
-    Insets capInsets{};
-    Insets alignmentInsets{};
-    Bytes bytes{}; // a PNG or JPEG file
+    Insets capInsets{};       // the borders that keep their size when the picture is resized
+    Insets alignmentInsets{}; // the borders that layout does not count as part of the picture
+    Bytes bytes{};            // a PNG or JPEG file
 };
 
 struct ColorValue {

@@ -1,4 +1,4 @@
-// The number patterns and year forms of all locales that ICU lists.
+// Generates the table of the number patterns and year forms of all locales that ICU lists.
 #include "Precompute/Precompute.h"
 
 #include "Intl/internal/Intl.h"
@@ -27,7 +27,8 @@ std::set<std::string> localeNames() {
     return names;
 }
 
-template <class Value> std::string written(const Value& value) {
+// The fields of a pattern or of year forms, as readAt() in Intl/Precomputed.cpp reads them.
+template <class Value> std::string stored(const Value& value) {
     std::string out;
     Intl::detail::forEachField(value, [&out](const auto& part) {
         if constexpr (std::is_same_v<decltype(part), const unsigned&>)
@@ -47,8 +48,8 @@ std::string locales() {
     for (const std::string& name : localeNames()) {
         known += "    {" + std::to_string(names.offsetOf(name));
         for (const std::string& text :
-             {written(icu.numberPattern(name, NumberStyle::decimal)),
-              written(icu.numberPattern(name, NumberStyle::percent)), written(icu.yearForms(name))})
+             {stored(icu.numberPattern(name, NumberStyle::decimal)),
+              stored(icu.numberPattern(name, NumberStyle::percent)), stored(icu.yearForms(name))})
             known += ", " + std::to_string(texts.offsetOf(text));
         known += "},\n";
     }

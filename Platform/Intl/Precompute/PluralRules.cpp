@@ -3,7 +3,6 @@
 
 #include "Intl/internal/PluralCategory.h"
 #include <algorithm>
-#include <array>
 #include <sstream>
 #include <unicode/localpointer.h>
 #include <unicode/unistr.h>
@@ -107,7 +106,7 @@ Relation parsed(const std::string& text) {
 // The relation as a C++ condition on `o`, the PluralOperands of a number.
 std::string relation(const std::string& text) {
     const auto [operand, modulus, isEqual, ranges] = parsed(text);
-    // Compact notation is not supported, so the exponents e and c are always 0.
+    // Compact notation ("1.2M") is not supported, so its exponents e and c are always 0.
     const bool isExponent = operand == 'e' || operand == 'c';
     const std::string value = isExponent ? "0U" : std::string("o.") + (operand == 'n' ? 'i' : operand) + modulus;
     std::string any = joined(ranges, " || ", [&](const std::string& range) { return inRange(value, range); });
@@ -122,12 +121,12 @@ std::string condition(const std::string& rule) {
     });
 }
 
-// Rules for integers as in gettext: a C expression in `n` whose value is the index of the form.
+// From here on: rules for integers as in gettext, C expressions in `n` whose value is the index of the form.
 
 constexpr const char* always = "1";
 constexpr const char* never = "0";
 
-// The fraction operands of an integer are 0, so relations on them are constant.
+// The fraction and exponent operands of an integer are 0, so relations on them are constant.
 std::string integerRelation(const std::string& text) {
     const auto [operand, modulus, isEqual, ranges] = parsed(text);
     if (operand != 'n' && operand != 'i') {
@@ -171,7 +170,7 @@ struct RuleSet {
     std::string code{};
     unsigned categories = 0;        // one bit per category
     unsigned integerCategories = 0; // those that occur for integers
-    std::string expression = never;
+    std::string expression = "0";   // for integers
 };
 
 // For languages without rules: every number has the category `other`.
@@ -189,6 +188,7 @@ RuleSet ruleSet(const std::map<std::string, std::string>& rules) {
         if (rule == rules.end())
             continue;
         set.categories |= 1U << category;
+        // A rule is a condition (none for `other`), then samples: "n = 1 @integer 1 @decimal 1.0, 1.00".
         std::string text = before(rule->second, "@");
         text.erase(text.find_last_not_of(' ') + 1);
         if (rule->second.find("@integer") != std::string::npos) {
@@ -224,7 +224,7 @@ std::string pluralRules() {
         languages += "    {" + std::to_string(names.offsetOf(language)) + ", " + number->second + "},\n";
     }
     return "PluralCategory select(unsigned ruleSet, const PluralOperands& o) noexcept {\n    switch (ruleSet) {\n" +
-           code + "    }\n    return PluralCategory::other;\n}\n" + "constexpr Categories categories[] = {\n" +
+           code + "    }\n    return PluralCategory::other;\n}\n" + "constexpr PluralCategories categories[] = {\n" +
            categories + "};\n" + names.definition("names") + "constexpr Language languages[] = {\n" + languages +
            "};\n" + expressionTexts.definition("expressionTexts") + "constexpr std::uint16_t expressions[] = {\n" +
            expressions + "};\n";

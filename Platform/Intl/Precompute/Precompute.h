@@ -9,18 +9,19 @@
 
 namespace Intl::Precompute {
 
-// Each returns the text of a file, or stops the program with a message.
-std::string locales();
-std::string pluralRules();
-std::string scriptVariants();
+// Each returns the text of a file, or calls fail().
+std::string locales();        // Precomputed.inc
+std::string pluralRules();    // PluralRules.inc
+std::string scriptVariants(); // ScriptVariants.inc
 
+// Prints the message and stops the program.
 [[noreturn]] void fail(const std::string& message);
 
 // Concatenates distinct NUL-terminated strings.
 class Pool {
 public:
     std::size_t offsetOf(const std::string& text);
-    // The C++ definition of the constant `name` with all strings. Fails when offsets do not fit into 16 bits.
+    // The C++ definition of the constant `name` with all strings. Calls fail() when offsets do not fit into 16 bits.
     std::string definition(const std::string& name) const;
 
 private:

@@ -1,5 +1,6 @@
-// Runs during the build: writes one of the generated tables to standard output.
+// Runs during the build: writes one of the generated files to standard output.
 #include "Precompute/Precompute.h"
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <limits>

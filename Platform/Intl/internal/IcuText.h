@@ -1,5 +1,5 @@
 // Intl/internal/IcuText.h
-// Converts between ICU's strings and identifiers and ours; part of the plug-in.
+// Converts ICU's strings to ours, and our locale identifiers to ICU's locales; part of the plug-in.
 // Text: UTF-8 on our side. Threads: any; no state.
 #pragma once
 
@@ -30,7 +30,7 @@ namespace Intl {
 }
 
 // The locale of an identifier in any common form ("de_AT", "zh-Hans", "pt_PT.UTF-8@euro", "ar_EG@numbers=latn"),
-// without its character set. Bogus when ICU cannot parse it or it is too long for ICU.
+// without its character set. Bogus when ICU cannot parse it, or when it is too long for ICU or contains a NUL.
 [[nodiscard]] inline icu::Locale icuLocale(std::string_view identifier) {
     std::string name(identifier);
     if (name.find('\0') != name.npos) { // ICU would read only the part before the NUL
@@ -41,7 +41,7 @@ namespace Intl {
     if (const std::size_t dot = name.find('.'); dot != std::string::npos)
         name.erase(dot, name.find('@', dot) - dot);
     icu::Locale locale = icu::Locale::createFromName(name.c_str());
-    // ICU copies names into buffers of this size, not always with a check. Either name may be the longer one.
+    // ICU copies names into buffers of this size, not always with a check. Either name may be longer than the other.
     if (!locale.isBogus() &&
         std::max(std::strlen(locale.getName()), std::strlen(locale.getBaseName())) >= ULOC_FULLNAME_CAPACITY)
         locale.setToBogus();

@@ -1,10 +1,10 @@
 // Intl/internal/Intl.h
-// Language data: which language fits a user, how numbers are written, how years are counted. Most of it is generated
-// from ICU at build time. The rest is computed by ICU at run time, in the plug-in lumora-intl.so, because loading ICU
-// takes longer than the first text of a process and most processes never need it.
+// Language data: which language fits a user, how numbers are written, how years are counted. The number patterns and
+// year forms of all locales that ICU lists are generated at build time. The rest is left to ICU at run time, in the
+// plug-in lumora-intl.so: loading ICU takes longer than the first text of a process, and most processes never need it.
 // Text: UTF-8. Threads: any. Errors: transient failures throw std::bad_alloc or std::system_error, so that callers
-// never cache a degraded result; the next call tries again. When the plug-in is not installed, plain forms are
-// returned.
+// never cache a degraded result; the next call tries again. Without the plug-in, languages are matched by their tags
+// only, the number pattern is plainNumberPattern(), and the year forms are empty.
 #pragma once
 
 #include "Intl/internal/NumberPattern.h"
@@ -17,17 +17,17 @@
 
 namespace Intl {
 
-// The index in `supported` of the best match for `desired` by CLDR's rules, or no value when none is of the same
-// language. Identifiers are BCP 47 or use '_'.
+// The index in `supported` of the best match for `desired` by CLDR's rules, or no value when none has the same language
+// in a script that its readers can read. Identifiers are BCP 47 or use '_'.
 [[nodiscard]] std::optional<std::size_t> matchLanguage(std::string_view desired,
                                                        std::span<const std::string> supported);
 // How a locale writes numbers. An unknown identifier gives the root locale's pattern. Keywords such as "@numbers=" are
 // respected.
 [[nodiscard]] NumberPattern numberPattern(std::string_view locale, NumberStyle style);
-// How a locale writes years; the forms are empty when it has none.
+// How a locale counts years. An unknown identifier gives the root locale's forms.
 [[nodiscard]] YearForms yearForms(std::string_view locale);
 
-// The interface of the plug-in.
+// The interface of the plug-in: the same functions, computed by ICU. Throws only std::bad_alloc.
 class Services {
 public:
     virtual std::optional<std::size_t> matchLanguage(std::string_view desired,

@@ -1,6 +1,6 @@
 // Intl/internal/LanguageMatch.h
-// Selects the language for a reader with ICU; part of the plug-in.
-// Text: identifiers in any common form. Threads: any; no state.
+// Uses ICU to select the language for a reader; part of the plug-in.
+// Text: identifiers as for icuLocale(). Threads: any; no state.
 #pragma once
 
 #include <cstddef>

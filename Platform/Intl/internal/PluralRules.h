@@ -10,8 +10,8 @@
 
 namespace Intl {
 
-// The operands of CLDR's rules. They describe the number as it is printed, so 1 and 1.0 differ. Only the last digits of
-// each part are kept, which suffices for all rules.
+// The operands of CLDR's rules. They describe the number as it is printed, so 1 and 1.0 differ. Of the values
+// i, f and t only the last 18 digits are kept, which suffices for all rules.
 struct PluralOperands {
     std::uint64_t i = 0; // whole part
     std::uint64_t v = 0; // number of digits after the point
@@ -22,7 +22,8 @@ struct PluralOperands {
     friend bool operator==(const PluralOperands&, const PluralOperands&) = default;
 };
 
-// The operands of a number printed in ASCII without its sign: "12.50", "1.25e+01". Stops at any other character.
+// The operands of a number printed in ASCII without its sign: "12.50", "1.25e+01". Whatever follows
+// such a number is ignored.
 [[nodiscard]] PluralOperands pluralOperands(std::string_view decimal) noexcept;
 
 // The rules of one language, found once for many numbers.
@@ -39,15 +40,16 @@ private:
 // The category of the number in the language of a tag such as "pt-PT" or "sr_Latn"; `other` for an unknown language.
 [[nodiscard]] PluralCategory pluralCategory(std::string_view language, const PluralOperands& number) noexcept;
 
-// The categories of a language as bit sets by index: those of all numbers, and those of integers.
+// The categories that a language has for all numbers, and those that it has for integers; each is a set of bits
+// `1 << indexOf(category)`. An unknown language has only `other`.
 struct PluralCategories {
     std::uint8_t all;
     std::uint8_t ofIntegers;
 };
 [[nodiscard]] PluralCategories pluralCategories(std::string_view language) noexcept;
 
-// The rule for integers as a C expression in `n`, whose value is the index of the category within `ofIntegers`: "n == 1
-// ? 0 : 1". "0" for an unknown language.
+// The rule for integers as a C expression in `n`: "n == 1 ? 0 : 1". Its value is the index of the category among those
+// in `ofIntegers`. "0" for an unknown language.
 [[nodiscard]] std::string_view integerPluralExpression(std::string_view language) noexcept;
 
 } // namespace Intl

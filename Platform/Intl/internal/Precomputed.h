@@ -1,6 +1,6 @@
 // Intl/internal/Precomputed.h
 // The number patterns and year forms of all locales that ICU lists, generated at build time. Most processes then need
-// neither the plug-in nor ICU's data, which would cost a millisecond and megabytes at start-up.
+// neither the plug-in nor ICU's data, whose loading takes a millisecond and megabytes.
 // Text: UTF-8. Threads: any; constant data.
 #pragma once
 
@@ -18,7 +18,7 @@ namespace Intl {
 
 namespace detail {
 
-// Visits all fields in storage order. Strings are stored with a NUL, numbers as one digit.
+// Visits all fields in the order in which lumora-precompute stores them: strings with a NUL, numbers as one digit.
 template <class Visit, class Forms>
 requires std::is_same_v<std::remove_const_t<Forms>, YearForms>
 void forEachField(Forms& years, Visit&& visit) {

@@ -10,11 +10,9 @@
 namespace Intl {
 
 // By PluralCategory: "{0} year", where "{0}" stands for the number; a form such as "a year" may lack it. Empty for a
-// category that the language does not have; all are empty when the language data is missing.
+// category that no integer has in the language; all are empty when the language data is missing.
 struct YearForms {
     std::array<std::string, pluralCategoryCount> forms;
-
-    friend bool operator==(const YearForms&, const YearForms&) = default;
 };
 
 } // namespace Intl

@@ -1,6 +1,6 @@
 // Pictures/internal/Decoders.h
-// The interface of the plug-in; internal. Library and plug-in are always built together. Tools link the decoders
-// directly instead.
+// The interface of the plug-in; internal. It passes C++ types, because library and plug-in are always built together.
+// Tools link the decoders directly instead.
 #pragma once
 
 #include "Pictures/Bitmap.h"
@@ -11,6 +11,7 @@
 
 namespace Pictures {
 
+// As Pictures::decode(), for bytes that measure() has found to be of that encoding.
 class Decoders {
 public:
     virtual Runtime::Result<Bitmap> png(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) const = 0;
@@ -23,7 +24,7 @@ protected:
 // The decoders linked into this program or plug-in.
 [[nodiscard]] const Decoders& linkedDecoders() noexcept;
 
-// Each checks `maxPixels` against the size that its decoder uses.
+// Each checks `maxPixels` itself, because its library may find another size than measure().
 Runtime::Result<Bitmap> decodePng(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
 Runtime::Result<Bitmap> decodeJpeg(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
 

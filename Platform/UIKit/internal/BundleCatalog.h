@@ -18,13 +18,12 @@ public:
     BundleCatalog(const Foundation::NSBundle& bundle, std::optional<AssetCatalog::Catalog> catalog)
         : bundle_(bundle), catalog_(std::move(catalog)) {}
 
-    const Foundation::NSBundle& bundle() const noexcept { return bundle_; }
     // The index of the asset with that kind and name, or no value.
     std::optional<std::size_t> find(AssetCatalog::Kind kind, std::string_view name) const noexcept;
     // Precondition for both: find() returned `index`.
     AssetCatalog::Entry entry(std::size_t index) const noexcept { return (*catalog_)[index]; }
-    // The best variant of an asset for these traits, completed by the current ones, and for the language of the
-    // bundle's texts. Fractional screen scales are rounded up.
+    // The number of the best variant of an asset for these traits, completed by the current ones, and for the language
+    // of the bundle's texts, or the user's languages if it has none. Fractional scales are rounded up.
     std::size_t bestVariant(std::size_t index, const UITraitCollection& traits) const noexcept;
 
 private:
@@ -38,9 +37,9 @@ struct Found {
     std::size_t index;
 };
 
-// The asset with that kind and name in the catalog of `bundle`, or no value. A bundle's catalog is opened once, at the
-// first call; a bundle with a missing or damaged catalog has no assets. After a transient error the next call tries
-// again. Lock-free.
+// The asset with that kind and name in the catalog of `bundle`, or no value. A bundle's catalog is opened at the first
+// call and kept; a bundle with a missing or damaged catalog has no assets. After a transient error there is no value,
+// and the next call tries again. Lock-free.
 [[nodiscard]] std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name,
                                              const Foundation::NSBundle& bundle) noexcept;
 

@@ -12,7 +12,6 @@
 #include <list>
 #include <map>
 #include <memory>
-#include <span>
 
 namespace UIKit::detail {
 
@@ -37,7 +36,7 @@ private:
         Pixels pixels;
     };
     struct Slot {
-        std::weak_ptr<const Pictures::Bitmap> pixels; // expired when no caller holds them
+        std::weak_ptr<const Pictures::Bitmap> pixels; // expired when neither a caller nor `kept` has them
         std::list<Kept>::iterator kept;               // or the end of the list
     };
 
