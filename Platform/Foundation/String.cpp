@@ -37,7 +37,7 @@ public:
             return;
         const std::string_view withPercents = format.substr(0, percents.end(format));
         std::size_t at = nextPercent(withPercents, percents.begin());
-        for (; at + 1 < format.size() && format[at + 1] == '@' && taken_ < arguments.size();
+        for (; at != format.npos && at + 1 < format.size() && format[at + 1] == '@' && taken_ < arguments.size();
              at = nextPercent(withPercents, done_)) {
             put(format.substr(done_, at - done_));
             put(arguments[taken_++].text());

@@ -39,6 +39,8 @@ TEST(String, FillsPlaceholdersInTheirOrderOrByPosition) {
     expectTexts({
         {__LINE__, "", {}, ""},
         {__LINE__, "plain", {"unused"sv}, "plain"},
+        {__LINE__, "@plain", {"unused"sv}, "@plain"},
+        {__LINE__, "@ %@", {"a"sv, "unused"sv}, "@ a"},
         {__LINE__, "100%%", {}, "100%"},
         {__LINE__, "%@ and %@", {"a"sv, "b"sv}, "a and b"},
         {__LINE__, "%2$@ %1$@", {"a"sv, "b"sv}, "b a"},
