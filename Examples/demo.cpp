@@ -1,5 +1,5 @@
-// Shows some of the application's texts in all its languages, a page of its localization services, and one of its
-// assets.
+// Shows some of the application's texts in all its languages, results of its localization services, its progress
+// colours, and its pictures by region and sex, which it also writes into one PNG.
 #include "demo_assets.h"
 
 #include <Lumora/Lumora.h>
@@ -44,11 +44,12 @@ int columns(const std::string& text) {
     return count;
 }
 
+// Prints the text and spaces after it, at least one, up to `width` columns.
 void cell(const std::string& text, int width) {
     std::printf("%s%*s", text.c_str(), std::max(1, width - columns(text)), "");
 }
 
-void textsPage() {
+void printTexts() {
     namespace Texts = LumoraStrings::Localizable;
     cell(Localization::currentLanguageCode().rawValue(), 9);
     cell(Texts::continue_(), 20);
@@ -57,7 +58,7 @@ void textsPage() {
     std::printf("\n");
 }
 
-void servicesPage() {
+void printServices() {
     cell(Localization::currentLanguageCode().rawValue(), 9);
     cell(Localization::currentLocale().identifier(), 9);
     cell(Localization::legacyTrAge(25), 14);
@@ -67,9 +68,9 @@ void servicesPage() {
     std::printf("\n");
 }
 
-// Prints one line for each language. A plain text keeps the language of its first read, so each line is printed by a
-// separate process.
-void page(const char* title, void (*line)(), const char* locale) {
+// Prints one line for each language, in the locale of that language or in `locale` if it is not null. A plain text
+// keeps the language of its first read, so each line is printed by a separate process.
+void page(const char* title, void (*printLine)(), const char* locale) {
     std::printf("\n%s\n", title);
     for (const LocalizationCode code : LocalizationCode::allCases()) {
         std::fflush(stdout);
@@ -77,7 +78,7 @@ void page(const char* title, void (*line)(), const char* locale) {
         if (child == 0) {
             setPreferredLanguages({code.rawValue()});
             setCurrentLocale(locale != nullptr ? locale : code.rawValue());
-            line();
+            printLine();
             std::fflush(stdout);
             ::_exit(0);
         }
@@ -88,8 +89,8 @@ void page(const char* title, void (*line)(), const char* locale) {
 } // namespace
 
 int main(int argc, char** argv) {
-    page("Texts", textsPage, nullptr);
-    page("Services, for a user whose region is Switzerland", servicesPage, "de_CH");
+    page("Texts", printTexts, nullptr);
+    page("Services, for a user whose region is Switzerland", printServices, "de_CH");
     const char* sheet = argc > 1 ? argv[1] : "contact-sheet.png";
     if (!showAssets(sheet)) {
         std::fprintf(stderr, "%s: cannot be written\n", sheet);

@@ -21,7 +21,7 @@ constexpr const char* regions[] = {"arab", "asia", "europe", "latina", "usa"};
 class Sheet {
 public:
     static constexpr unsigned cell = 240;              // width and height
-    static constexpr unsigned largest = cell - 2 * 10; // width or height of a picture, with a margin on each side
+    static constexpr unsigned largest = cell - 2 * 10; // width or height of a picture; 10 is the margin on each side
 
     Sheet(unsigned columns, unsigned rows)
         : width_(columns * cell), height_(rows * cell), pixels_(std::size_t{4} * width_ * height_, 0xFF) {}

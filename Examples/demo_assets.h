@@ -1,6 +1,7 @@
 // The demo's page of colours and pictures.
 #pragma once
 
-// Shows the progress colours and the pictures chosen for each region, and writes the pictures into one PNG at `file`.
+// Prints the progress colours and the names of the pictures for each region, and writes the pictures into one PNG at
+// `file`.
 // Returns false if the file cannot be written.
 bool showAssets(const char* file);

@@ -70,7 +70,8 @@ endfunction()
 
 # lumora_library(Name SOURCES a.cpp b.cpp LINK Lumora::Other ... [PRIVATE_LINK ...])
 # One folder, one static library of position-independent code: the target lumora-Name, linked as Lumora::Name. Its
-# headers are included as "Name/Header.h". LINK has the libraries whose headers it may include.
+# headers are included as "Name/Header.h". LINK has the libraries whose headers the folder includes, PRIVATE_LINK those
+# that only its sources need.
 function(lumora_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;PRIVATE_LINK")
     add_library(lumora-${name} STATIC ${arg_SOURCES})
@@ -82,8 +83,8 @@ function(lumora_library name)
 endfunction()
 
 # lumora_plugin(name SOURCES ... LINK ...)
-# A library that the platform or a program loads when its service is first needed: NAME.so in LUMORA_PLUGIN_FOLDER beside it. It
-# exports the symbols in the linker script NAME.map.
+# A library that is loaded when it is first needed: NAME.so in the folder LUMORA_PLUGIN_FOLDER beside the library or program
+# that loads it. It exports the symbols in the linker script NAME.map.
 function(lumora_plugin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
     set(map ${CMAKE_CURRENT_SOURCE_DIR}/${name}.map)
@@ -114,22 +115,22 @@ function(lumora_shared_library target map)
     if(LUMORA_HAS_PACKED_RELOCATIONS)
         target_link_options(${target} PRIVATE -Wl,-z,pack-relative-relocs)
     endif()
-    # Code and constants share one mapping, so each process creates two mappings less and loads fewer pages when it
+    # Code and constants share one mapping, so each process creates two mappings fewer and loads fewer pages when it
     # starts.
     if(LUMORA_HAS_NOSEPARATE_CODE)
         target_link_options(${target} PRIVATE -Wl,-z,noseparate-code)
     endif()
-    if(NOT LUMORA_SANITIZE)
+    if(NOT LUMORA_SANITIZE) # a program has the sanitizer's functions
         target_link_options(${target} PRIVATE -Wl,-z,defs)
     endif()
 endfunction()
 
 # lumora_test(name SOURCES ... LINK ... [LABELS ...])
-# A GoogleTest program; without test cases it fails.
+# A GoogleTest program. The test fails if the program has no test cases.
 function(lumora_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;LABELS")
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest_main lumora-build-rules)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300)
+    set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300 FAIL_REGULAR_EXPRESSION "Running 0 tests")
 endfunction()

@@ -14,9 +14,9 @@ function(_lumora_program out)
     endif()
 endfunction()
 
-# _lumora_run(STAMP file COMMENT text ARGUMENTS argument...)
-# Runs the program if a file or folder that it read last time has changed. It does not write unchanged files, so STAMP
-# is touched after every run.
+# _lumora_run(STAMP file COMMENT text ARGUMENTS argument... [BYPRODUCTS file...])
+# Runs the program if a file or folder that it read last time has changed. The program does not write unchanged files,
+# so STAMP is touched after every run. BYPRODUCTS has the files that it may write.
 function(_lumora_run)
     cmake_parse_arguments(PARSE_ARGV 0 arg "" "STAMP;COMMENT" "ARGUMENTS;BYPRODUCTS")
     _lumora_program(program)
@@ -37,7 +37,7 @@ endfunction()
 # <Name/NameAsset.h> (constants of pictures, colours and data) in the namespace `Name`, and Name.bundle beside the
 # library file. Building a target that links it builds the bundle, too.
 #   NAMES_FILE             a table of names for keys: "TABLE/KEY" = "Group.name";
-#   DEVELOPMENT_LANGUAGE   the development language; without it, that of Info.plist, or English;
+#   DEVELOPMENT_LANGUAGE   the development language; without it, that of Info.plist or of a string catalog, or English;
 #   STRICT                 warnings are errors;
 #   INCLUDE                your headers that <Name/NameStrings.h> includes: functions added to the namespaces of the texts;
 #   HEADERS                your headers that <Name/Name.h> includes: everything else that the module offers;
