@@ -1,10 +1,10 @@
-"""Fails if generated objects run code when they are loaded, if those of the texts have data that must be relocated, or if the exported
-symbols are not exactly the accessors, the constants and bundle()."""
+"""Fails if generated objects run code when they are loaded, if those of the texts have data that must be relocated, or if they export
+other symbols than accessors, constants and bundle(), or another number of them."""
 import re
 import subprocess
 import sys
 
-ACCESSORS, CONSTANTS = 30, 5  # of Golden/input.bundle
+ACCESSORS, CONSTANTS = 30, 5  # in Golden/expected
 BUNDLE = "_ZN3Odd12OddResources6bundleEv"
 SECTIONS = re.compile(r" (\.(?:init_array|ctors)\S*)")
 STRINGS_SECTIONS = re.compile(r" (\.(?:init_array|ctors|data\.rel\.ro)\S*)")

@@ -1,4 +1,4 @@
-// The accessors and messages that the generator makes from tables.
+// The accessors that the generator makes from tables, and its messages about them.
 #include "Generator/Generator.h"
 
 #include "../Support/SourceFolder.h"
@@ -175,6 +175,14 @@ TEST(Model, ReportsOtherProblems) {
                  "is printed literally (write %% for a percent sign)",
                  "note: de.lproj/T.strings:2:1: 3 keys are only in translations and have no accessor; the first "
                  "is \"old\""}));
+    // The pseudo-language ar-XB is before "de" and has no file.
+    Support::SourceFolder folder;
+    folder.write("de.lproj/---.strings", "k = a;");
+    const auto source = folder.read({.developmentLanguage = "de", .addsPseudoLanguages = true});
+    Generator::NamesFile none;
+    (void)Generator::accessorTables(source, none, folder.diagnostics);
+    EXPECT_EQ(folder.takeMessages(),
+              Strings{"warning: de.lproj/---.strings: the table has no accessors: its name has no letter or digit"});
 }
 
 TEST(Model, ChecksItsOptions) {
@@ -183,8 +191,15 @@ TEST(Model, ChecksItsOptions) {
     Strings messages;
     for (const SourceBundle::Diagnostic& diagnostic : diagnostics.all())
         messages.push_back(diagnostic.what.text());
-    EXPECT_EQ(messages, (Strings{"the module's name is not a C++ identifier, or is reserved: \"class\"",
+    EXPECT_EQ(messages, (Strings{"the module's name must be a C++ identifier that is not reserved and not in capitals, "
+                                 "like macros: \"class\"",
                                  "cannot be included: \"a\"b\"", "the accessors are split into 1 to 1000 sources"}));
+}
+
+TEST(Emitter, CutsLongCommentsBetweenCharacters) {
+    const std::string dots(999, '.');
+    const std::string header = content(Tree("/* " + dots + "é */ a = b;").files(), "MStrings/T.h");
+    EXPECT_NE(header.find("// " + dots + "\n"), std::string::npos) << header;
 }
 
 TEST(Emitter, SplitsLargeTablesBetweenGroups) {

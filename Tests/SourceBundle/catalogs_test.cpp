@@ -137,13 +137,13 @@ TEST_F(Catalogs, UseThePicturesOfOneKindOfDevice) {
         {__LINE__, R"({"idiom": "universal", "display-gamut": "sRGB", "filename": "1"})", {"1"}, {}},
         {__LINE__,
          R"({"idiom": "watch", "screen-width": "<=145", "scale": "2x", "filename": "1"},
-            {"idiom": "watch", "screen-width": ">183", "scale": "2x", "filename": "2"},
+            {"idiom": "watch", "screen-width": ">2147483647", "scale": "2x", "filename": "2"},
             {"idiom": "watch", "screen-width": ">161", "scale": "2x", "filename": "3"})",
          {"2"},
          {"note " + at("3:13") +
-              R"(entry 3 ("3") is for other devices (idiom "watch", screen-width ">161") and is left out: the variants for idiom "watch", screen-width ">183" are used)",
+              R"(entry 3 ("3") is for other devices (idiom "watch", screen-width ">161") and is left out: the variants for idiom "watch", screen-width ">2147483647" are used)",
           "note " + at("1:13") +
-              R"(entry 1 ("1") is for other devices (idiom "watch", screen-width "<=145") and is left out: the variants for idiom "watch", screen-width ">183" are used)"}},
+              R"(entry 1 ("1") is for other devices (idiom "watch", screen-width "<=145") and is left out: the variants for idiom "watch", screen-width ">2147483647" are used)"}},
         // These scales are not supported.
         {__LINE__,
          R"({"scale": "10x", "filename": "1"}, {"scale": "2x", "filename": "2"}, {"scale": "2X", "filename": "3"})",
@@ -172,9 +172,9 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
          {"2"},
          {"note " + at("1:13") + R"(entry 1 ("1") is not assigned to any variant and is left out)"}},
         {__LINE__,
-         R"({"filename": "1"}, {"filename": "2"}, {"filename": "3", "locale": "de"})",
+         R"({"filename": "1", "idiom": "é"}, {"filename": "2", "idiom": "é"}, {"filename": "3", "idiom": "é", "locale": "de"})",
          {"1", "3"},
-         {"warning " + at("1:32") + R"(entry 2 ("2") is for the same traits as an earlier entry and is left out)"}},
+         {"warning " + at("1:46") + R"(entry 2 ("2") is for the same traits as an earlier entry and is left out)"}},
         {__LINE__,
          R"({"filename": "1", "glow": 3}, {"filename": "2", "scale": 2, "locale": "de"})",
          {"1", "2"},
@@ -340,6 +340,13 @@ TEST_F(Catalogs, LeaveOutInvalidSets) {
         EXPECT_EQ(messages(), Lines{one.report}) << "line " << one.line;
         std::filesystem::remove_all(folder / "A.xcassets");
     }
+    // The JSON library would copy and write it recursively.
+    const std::string deep(1'000'000, '[');
+    set("A.xcassets/a.imageset", R"({"properties": )" + deep + std::string(deep.size(), ']') + "}");
+    EXPECT_TRUE(read().empty());
+    EXPECT_EQ(messages(), Lines{"warning A.xcassets/a.imageset/Contents.json: has JSON that is nested too deeply; the "
+                                "set is left out"});
+    std::filesystem::remove_all(folder / "A.xcassets");
     set("A.xcassets/Named", "{");
     EXPECT_TRUE(read().empty());
     EXPECT_EQ(messages(),

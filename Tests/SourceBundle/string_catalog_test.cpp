@@ -1,4 +1,4 @@
-// String catalogs and plural tables as sources.
+// Texts and plurals of string catalogs, and plural tables beside tables of texts.
 #include "../Support/SourceFolder.h"
 #include "StringTables/internal/PluralTable.h"
 #include <gtest/gtest.h>
@@ -113,7 +113,8 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
          "{'stringUnit': {'state': 'translated', 'value': '%@: %#@files@ in %#@folders@'}, 'substitutions': {"
          "'files': {'argNum': 2, 'formatSpecifier': 'ld', 'variations': " +
              plural("%arg file", "%arg files, 100%%arg") +
-             "}, 'folders': {'argNum': 3, 'variations': " + plural("a folder", "%arg folders") + "}}}",
+             "}, 'folders': {'argNum': 3, 'formatSpecifier': '', 'variations': " + plural("a folder", "%arg folders") +
+             "}}}",
          "%1$@: %2$#@files@ in %3$#@folders@ {files ld one=%2$ld file other=%2$ld files, 100%%arg} "
          "{folders lld one=a folder other=%3$lld folders}"},
         // Without its own number, and used in a form.
@@ -147,7 +148,7 @@ TEST(StringCatalog, IsRejectedWithALocation) {
     } cases[] = {
         {__LINE__, "", "T.xcstrings: invalid JSON"},
         {__LINE__, "[]", "T.xcstrings:1:1: is not a string catalog"},
-        {__LINE__, "{'strings': {}}", "is not a string catalog"},
+        {__LINE__, "{'strings': {}}", "is not a string catalog: has no \"sourceLanguage\""},
         {__LINE__, "{'sourceLanguage': 'en'}", "is not a string catalog"},
         {__LINE__, "{'sourceLanguage': 'en', 'strings': {'a': 5}}", "is not a string catalog"},
         {__LINE__, "{'sourceLanguage': 'en',\n'strings': {'a': {'x': nul}}}", "T.xcstrings:2:"},
@@ -230,7 +231,7 @@ TEST(PluralTables, WinOverEqualKeysOfTexts) {
     EXPECT_EQ(files.text, "Found %d files here");
     EXPECT_EQ(files.comment, "why");
     EXPECT_EQ(files.line, 2U);
-    // Forms that name each other hundreds of times end soon.
+    // A form that refers to itself hundreds of times is cut.
     std::string names;
     for (int i = 0; i < 500; ++i)
         names += "%#@n@";

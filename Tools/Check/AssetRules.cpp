@@ -2,7 +2,7 @@
 
 #include "AssetCatalog/internal/Model.h"
 #include "Generator/CodeText.h"
-#include "SourceBundle/ContentsPlace.h"
+#include "SourceBundle/EntryPlaces.h"
 #include "SourceBundle/SetContents.h"
 #include "SourceBundle/SetEntry.h"
 #include <algorithm>

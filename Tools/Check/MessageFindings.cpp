@@ -59,7 +59,7 @@ public:
         const auto found = known_.find(file.native());
         if (found == known_.end())
             return file.parent_path().extension() == ".lproj"
-                       ? SourceBundle::languageOfFolder(file.parent_path().stem().string())
+                       ? SourceBundle::languageNamed(file.parent_path().stem().string())
                        : "";
         return found->second.kind == TableFile::Kind::catalog ? "" : found->second.texts->language;
     }

@@ -12,9 +12,10 @@ namespace Generator {
 namespace {
 
 struct KindWords {
-    const char* record; // suffix of the record type
-    const char* factory;
+    const char* record;  // suffix of the record type
+    const char* factory; // function of RecordFactory
 };
+// By AssetCatalog::Kind.
 constexpr std::array<KindWords, 3> kindWords = {{{"Images", "image"}, {"Colors", "color"}, {"Data", "data"}}};
 
 const KindWords& wordsOf(const AssetConstant& constant) {

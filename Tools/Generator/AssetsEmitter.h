@@ -1,5 +1,5 @@
 // Generator/AssetsEmitter.h
-// Writes the tree of assets as headers and sources.
+// Makes the headers and the source of the tree of assets.
 #pragma once
 
 #include "Generator/AssetsModel.h"
@@ -9,7 +9,7 @@
 
 namespace Generator {
 
-// Constants of the same namespace must be adjacent.
+// Requires valid options; see check(). Each run of constants in the same namespace opens that namespace.
 [[nodiscard]] std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, const Options& options);
 
 } // namespace Generator

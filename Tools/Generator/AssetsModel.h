@@ -1,5 +1,5 @@
 // Generator/AssetsModel.h
-// The tree of assets for the emitter.
+// The tree of assets for the emitter: every constant with its namespaces and its C++ name.
 // Ownership: the constants point to the assets, which must outlive them. Threads: plain values.
 #pragma once
 
@@ -12,7 +12,7 @@ namespace Generator {
 
 struct AssetConstant {
     std::string groups; // the enclosing namespaces, outermost first: "Images::Icons"
-    std::string name;   // in C++
+    std::string name;
     const SourceBundle::SourceAsset* asset;
 };
 

@@ -16,7 +16,7 @@ template <class... Values> std::string printed(const char* format, Values... val
     return buffer;
 }
 
-// The most common case.
+// Most texts consist of these, which need no decoding.
 constexpr bool isVisibleAscii(char c) {
     return c >= ' ' && c < 0x7F;
 }
@@ -96,7 +96,9 @@ std::size_t columnsOf(std::string_view text) {
 std::string literal(std::string_view bytes) {
     std::string code = "\"";
     while (!bytes.empty()) {
-        const std::string_view plain = plainFront(bytes.substr(0, bytes.find_first_of("\"\\?")));
+        const std::string_view plain(bytes.begin(), std::ranges::find_if_not(bytes, [](char c) {
+                                         return isVisibleAscii(c) && c != '"' && c != '\\' && c != '?';
+                                     }));
         code += plain;
         bytes.remove_prefix(plain.size());
         if (bytes.empty())

@@ -10,8 +10,8 @@
 
 namespace Generator {
 
-// The text on one line for comments and messages. Invisible characters are escaped as "\n", "\t", "\u{200B}", "\xFF". A
-// text of more than `limit` characters is cut and ends in "…".
+// The text on one line for comments and messages. Invisible characters and bytes that are not UTF-8 are escaped as
+// "\n", "\t", "\u{200B}", "\xFF". A text of more than `limit` characters is cut and ends in "…".
 [[nodiscard]] std::string visibleText(std::string_view text, std::size_t limit = 100);
 
 // The same in quotation marks.
@@ -23,7 +23,8 @@ namespace Generator {
 // The width of the text in terminal columns.
 [[nodiscard]] std::size_t columnsOf(std::string_view text);
 
-// A C++ string literal with exactly these bytes, including the quotation marks, on one line.
+// The code of a C++ string literal, from quotation mark to quotation mark, whose characters are these bytes. On one
+// line; only invisible and special characters are escaped.
 [[nodiscard]] std::string literal(std::string_view bytes);
 
 } // namespace Generator

@@ -11,7 +11,7 @@
 
 namespace Generator {
 
-// The beginning of the first line of every generated source.
+// The beginning of the first line of every generated file.
 inline constexpr std::string_view generatedMark = "// Generated from the resources of the module ";
 
 class CodeWriter {
@@ -24,9 +24,10 @@ public:
     // Adds `pattern` and a line feed. Replaces every {{name}} with its value; an unknown name stops the process.
     // Placeholders in values are not replaced.
     void add(std::string_view pattern, Values values = {});
-    // Adds "HEAD ITEM, ITEM, ... TAIL", wrapped between items; continuation lines are aligned with the first item.
+    // Adds `head`, the items (at least one) with ", " between them, `tail` and a line feed. Wraps between items;
+    // continuation lines are aligned with the first item.
     void addList(std::string_view head, const std::vector<std::string>& items, std::string_view tail);
-    // Adds "HEAD = VALUE", wrapped after the sign if the line would be too long.
+    // Adds "HEAD = VALUE" and a line feed, wrapped after the sign if the line would be too long.
     void addAssignment(std::string_view head, std::string_view value);
     // Adds the text as a comment, wrapped between words; continuation lines are indented.
     void addComment(std::string_view text);
@@ -35,6 +36,7 @@ public:
 
     // Opens the namespace with that qualified name and closes another one if open. Does nothing if it is already open.
     void enter(const std::string& nameSpace);
+    // Closes the open namespace, if there is one.
     void leave();
 
     // Closes the open namespace and returns the code.
@@ -50,7 +52,7 @@ private:
     std::string nameSpace_; // the open one
 };
 
-// A file made from one pattern with the placeholder {{module}}.
+// A whole file made from one pattern, in which only {{module}} is replaced; it begins with the do-not-edit line.
 [[nodiscard]] std::string filled(std::string_view pattern, std::string_view module);
 
 } // namespace Generator

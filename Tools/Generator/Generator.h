@@ -26,23 +26,24 @@ struct Options {
     std::filesystem::path names{};       // see NamesFile; empty: none
 };
 
-// The content of both trees, and what they leave out. Points into its source, which must outlive it.
+// The content of both trees, and what they leave out. Points into its source, which must outlive it. Can be moved.
 struct Model {
     std::vector<AccessorTable> tables;
     std::vector<SourceBundle::SourceAsset> assets;
-    AssetTree assetTree; // of these assets
+    AssetTree assetTree; // points into `assets`
 };
 
 // Warns about everything that is left out. Keys that exist only in translations give one note.
 [[nodiscard]] Model modelOf(const SourceBundle::Source& source, const Options& options,
                             SourceBundle::Diagnostics& diagnostics);
 
-// The files of the module: NAME.h, which includes all other headers; for texts NAMEStrings.h with the headers it
-// includes, NAMEStrings.cpp, and NAMEStrings-1.cpp to NAMEStrings-SHARDS.cpp; for assets NAMEAsset.h with the headers
-// it includes, NAMEAsset.cpp and NAMEConveniences.h; NAMEResources.h and .cpp.
+// The files of the module: NAME.h, which includes all other headers but the internal ones; for texts NAMEStrings.h with
+// the headers it includes, NAMEStrings.cpp, and NAMEStrings-1.cpp to NAMEStrings-SHARDS.cpp; for assets NAMEAsset.h
+// with the headers it includes, NAMEAsset.cpp and NAMEConveniences.h; NAMEResources.h and .cpp. The internal headers
+// are in NAMEStrings/Internal and NAMEAsset/Internal.
 [[nodiscard]] std::vector<OutputFile> filesOf(const Model& model, const Options& options);
 
-// Reports options that violate their comments as errors.
+// Reports each option that its comment in Options does not allow as an error.
 void check(const Options& options, SourceBundle::Diagnostics& diagnostics);
 
 // Writes the files into `folder` and removes files of earlier runs that are no longer generated.

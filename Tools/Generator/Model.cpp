@@ -4,6 +4,7 @@
 #include "Generator/NameClaims.h"
 #include "Generator/Namer.h"
 #include "Runtime/internal/NameMap.h"
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -50,6 +51,7 @@ private:
     Runtime::NameMap<std::string, std::string_view> groups_;
 };
 
+// Why the path is not usable, or an empty string.
 std::string faultOf(const std::vector<std::string>& path) {
     if (path.empty())
         return "it has no letter or digit for a name";
@@ -155,7 +157,9 @@ private:
 };
 
 const std::filesystem::path& fileOf(const SourceTable& table) {
-    return table.languages.front().files.front()->path;
+    // Pseudo-languages have no files.
+    const auto texts = std::ranges::find_if_not(table.languages, [](const auto& each) { return each.files.empty(); });
+    return texts->files.front()->path;
 }
 
 // A table without a namespace; none of its keys gets an accessor.

@@ -38,9 +38,10 @@ struct AccessorTable {
 inline constexpr std::size_t maxPathLength = 1000;
 inline constexpr std::size_t maxPathParts = 64;
 
-// The tables with development texts, sorted by name. Warns about every key that cannot have an accessor. If names
-// clash, the first key keeps the name, unless `names` assigns it to another. A table whose file name gives no
-// namespace, or that of another table, is left out with a warning.
+// The tables that exist in the development language or in Base, sorted by name. Warns about every key that cannot have
+// an accessor. If names clash, the first key keeps the name, unless `names` assigns it to another. A table whose name
+// gives no namespace, or that of another table, has no accessors, with one warning. Reports the unused names of
+// `names`.
 [[nodiscard]] std::vector<AccessorTable> accessorTables(const SourceBundle::Source& source, NamesFile& names,
                                                         SourceBundle::Diagnostics& diagnostics);
 

@@ -1,12 +1,12 @@
 // Generator/ModuleTemplates.h
-// The first part of the header that includes a whole module; internal.
+// The constant first part of NAME.h, the header that includes a whole module; internal.
 #pragma once
 
 #include <string_view>
 
 namespace Generator {
 
-// The emitter adds the headers of hand-written parts and "#endif // C++20".
+// Generator.cpp adds the headers of hand-written parts and "#endif // C++20".
 inline constexpr std::string_view moduleHeaderBegin = R"(// The whole module.
 #pragma once
 

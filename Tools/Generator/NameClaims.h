@@ -1,5 +1,6 @@
 // Generator/NameClaims.h
-// Tracks the names of a tree to detect clashes: each name belongs to one member (an accessor) or is a group of names.
+// Tracks the names of a tree to detect clashes: each name belongs to one member (an accessor or a constant) or is a
+// group of names.
 // Threads: one at a time.
 #pragma once
 
@@ -27,7 +28,7 @@ public:
     };
 
     // Claims `path`, the names of the groups and last that of the member, for the member with the caller's number
-    // `member`. Claims nothing if the last name exists or another one is a member's.
+    // `member`. Claims nothing and returns the conflict if the last name exists or a group has the name of a member.
     std::optional<Conflict> claim(const std::vector<std::string>& path, std::size_t member);
 
 private:

@@ -15,7 +15,14 @@ using Words = std::vector<std::u32string>;
 // Names in generated code that table namespaces would clash with.
 constexpr std::string_view clashingTableNames[] = {"detail", "std", "tr"};
 
-// A macro of <cinttypes>: "PRId64", "SCNxFAST8".
+constexpr bool isAsciiCapital(char c) {
+    return c >= 'A' && c <= 'Z';
+}
+constexpr bool isAsciiDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// Whether the name is a macro of <cinttypes>: "PRId64", "SCNxFAST8".
 bool isNumberFormat(std::string_view word) {
     if (word.size() < 5 || !(word.starts_with("PRI") || word.starts_with("SCN")) ||
         std::string_view("diouxX").find(word[3]) == std::string_view::npos)
@@ -30,15 +37,15 @@ bool isNumberFormat(std::string_view word) {
     return std::ranges::find(sizes, word) != std::end(sizes);
 }
 
+// Whether the name is spelled as macros usually are: "EOF", "WNOHANG", "PATH_MAX". C, POSIX and the C library have
+// thousands of them, whereas few keys and assets have such a name.
+bool isInCapitals(std::string_view word) {
+    return word.size() > 2 && isAsciiCapital(word.front()) && word.back() != '_' &&
+           std::ranges::all_of(word, [](char c) { return isAsciiCapital(c) || isAsciiDigit(c) || c == '_'; });
+}
+
 bool isReserved(std::string_view word) {
-    if (std::ranges::binary_search(reservedNames, word) || isNumberFormat(word))
-        return true;
-    const bool capitals =
-        std::ranges::all_of(word, [](char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); });
-    // Error numbers, signals and the like: the C standard reserves whole families of such names for macros.
-    constexpr std::string_view macros[] = {"BUFSIZ", "INFINITY", "NAN", "NULL", "WEOF"};
-    return capitals && word.size() > 2 &&
-           (word.starts_with('E') || word.starts_with("SIG") || std::ranges::find(macros, word) != std::end(macros));
+    return std::ranges::binary_search(reservedNames, word) || isNumberFormat(word) || isInCapitals(word);
 }
 
 // Whether the name is an identifier without an underscore at its beginning and without two adjacent ones: C++ reserves
@@ -86,6 +93,7 @@ void capitalise(std::u32string& word) {
     }
 }
 
+// The name by the rule of Docs/naming.md for groups; for accessors, lowerFirstWord() is one more step.
 std::u32string name(std::string_view component) {
     Words chunks = split(decoded(component), [](char32_t c) { return !continuesIdentifier(c) && !isLetterLike(c); });
     for (std::u32string& chunk : chunks)
@@ -162,13 +170,13 @@ std::string tableSpelling(std::string_view table) {
     return std::ranges::find(clashingTableNames, spelled) == std::end(clashingTableNames) ? spelled : spelled + '_';
 }
 
-bool isSpelled(std::string_view name) {
+bool isCppSpelling(std::string_view name) {
     return isIdentifier(name) && spelling(name) == name;
 }
 
 bool isModuleName(std::string_view name) {
-    const bool isStandards = name.starts_with("std") && name.find_first_not_of("0123456789", 3) == name.npos;
-    return isSpelled(name) && !isStandards && name != "posix" && name != "main";
+    const bool isStdNamespace = name.starts_with("std") && name.find_first_not_of("0123456789", 3) == name.npos;
+    return isCppSpelling(name) && !isStdNamespace && name != "posix" && name != "main";
 }
 
 } // namespace Generator::Namer

@@ -1,7 +1,7 @@
 // Generator/Namer.h
-// Derives C++ names from keys. All names in generated code come from here, with all exceptions; Docs/naming.md lists
-// them. A component of a key first gets a name ("continue", "invoice№"), and each name has one C++ spelling
-// ("continue_", "invoiceNo"). Text: UTF-8; invalid bytes separate words. Threads: any; no state.
+// Derives the names of accessors, constants and their namespaces; Docs/naming.md has the rules and the exceptions. A
+// component of a key first gets a name ("continue", "invoice№"), and each name has one C++ spelling ("continue_",
+// "invoiceNo"). Text: UTF-8; invalid bytes separate words. Threads: any; no state.
 #pragma once
 
 #include <string>
@@ -10,11 +10,11 @@
 
 namespace Generator::Namer {
 
-// Splits a key at its dots and drops empty components. The last component names the entry, which is
-// the accessor of a text; the others name groups, which are namespaces.
+// Splits a key at its dots and drops empty components. The last component that gives a name names the entry, which is
+// the accessor of a text; those before it name groups, which are namespaces.
 [[nodiscard]] std::vector<std::string_view> components(std::string_view key);
 
-// The name for a component; empty when no character of it but `_` is allowed in a name.
+// The name for a component; empty if it has no character that is allowed in a name, other than '_'.
 [[nodiscard]] std::string groupName(std::string_view component);
 [[nodiscard]] std::string entryName(std::string_view component);
 
@@ -29,10 +29,11 @@ namespace Generator::Namer {
 // The C++ spelling of a table's name: the name itself if it is an identifier, otherwise derived like a group's.
 [[nodiscard]] std::string tableSpelling(std::string_view table);
 
-// Whether `name` is usable in C++ unchanged.
-[[nodiscard]] bool isSpelled(std::string_view name);
+// Whether `name` is an identifier without an underscore at its beginning that spelling() returns unchanged.
+[[nodiscard]] bool isCppSpelling(std::string_view name);
 
-// Whether `name` is usable for the module's namespace.
+// Whether `name` is usable for the module's namespace: a C++ spelling, neither "main" nor a namespace that C++
+// reserves.
 [[nodiscard]] bool isModuleName(std::string_view name);
 
 } // namespace Generator::Namer

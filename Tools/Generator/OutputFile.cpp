@@ -25,7 +25,7 @@ Runtime::Result<void> writeChanged(const fs::path& path, const std::string& cont
     fs::create_directories(path.parent_path(), failed);
     if (failed)
         return Runtime::systemError(path.parent_path(), "cannot be created", failed.value());
-    return Runtime::writeFile(path, content, Runtime::WriteSafety::unsynced); // it can be generated again
+    return Runtime::writeFile(path, content, Runtime::WriteSafety::unsynced); // a lost file can be generated again
 }
 
 Runtime::Result<void> removeStale(const fs::path& folder, const std::set<fs::path>& made,
@@ -45,7 +45,7 @@ Runtime::Result<void> removeStale(const fs::path& folder, const std::set<fs::pat
 } // namespace
 
 Runtime::Result<void> writeFiles(const fs::path& folder, const std::vector<OutputFile>& files,
-                                 const std::vector<fs::path>& own) {
+                                 const std::vector<fs::path>& ownFolders) {
     std::set<fs::path> made, folders;
     std::set<std::string> marks;
     for (const OutputFile& file : files) {
@@ -56,7 +56,7 @@ Runtime::Result<void> writeFiles(const fs::path& folder, const std::vector<Outpu
         folders.insert(path.parent_path());
         marks.insert(file.content.substr(0, file.content.find('\n')));
     }
-    for (const fs::path& each : own)
+    for (const fs::path& each : ownFolders)
         if (std::error_code failed; fs::is_directory(folder / each, failed))
             folders.insert(folder / each);
     for (const fs::path& each : folders)

@@ -17,10 +17,10 @@ struct OutputFile {
 };
 
 // Writes the files below `folder`, which is created if necessary. Each file is replaced atomically; unchanged files are
-// not touched. Stale files of earlier runs are removed: those beside the new files, or in the folders `own` below
-// `folder`, that begin with the same first line.
+// not touched. Stale files of earlier runs are removed: other files that begin with the same first line and are in the
+// folder of a written file or in one of `ownFolders` (below `folder`).
 [[nodiscard]] Runtime::Result<void> writeFiles(const std::filesystem::path& folder,
                                                const std::vector<OutputFile>& files,
-                                               const std::vector<std::filesystem::path>& own = {});
+                                               const std::vector<std::filesystem::path>& ownFolders = {});
 
 } // namespace Generator

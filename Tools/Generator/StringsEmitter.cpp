@@ -4,6 +4,7 @@
 #include "Generator/CodeWriter.h"
 #include "Generator/StringsTemplates.h"
 #include "Runtime/internal/Hash.h"
+#include "StringTables/internal/Unicode.h"
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -15,12 +16,13 @@ namespace Generator {
 
 namespace {
 
-// A header with more entries is split, preferably where another group begins, into at most maxHeaders headers.
-constexpr std::size_t minEntriesPerHeader = 250;
+// A table's header ends where another group begins after this many entries, or else after a quarter more. Larger tables
+// have more entries per header, so that there are at most maxHeaders.
+constexpr std::size_t minEntriesPerHeader = 200;
 constexpr std::size_t maxHeaders = 64;
 // The longest comment for translators, in bytes; longer ones are cut.
 constexpr std::size_t maxComment = 1000;
-// The longest string literal that every compiler accepts.
+// The size of a string literal, in bytes, from which compilers warn that it is too long.
 constexpr std::size_t maxLiteral = 65536;
 
 struct Placed {
@@ -67,7 +69,7 @@ std::vector<std::string> arguments(const NamedEntry& entry) {
     return all;
 }
 
-// "TYPE NAME(", with the type on a separate line if `rest` would not fit on the same line.
+// "TYPE NAME(", with a line feed after the type if the line would be too long together with `rest`.
 std::string declarator(const std::string& type, const std::string& name, std::string_view rest) {
     const bool fits = columnsOf(type) + 1 + columnsOf(name) + 1 + columnsOf(rest) <= CodeWriter::maxWidth;
     return type + (fits ? ' ' : '\n') + name + '(';
@@ -76,7 +78,7 @@ std::string declarator(const std::string& type, const std::string& name, std::st
 // Adds each line without leading and trailing white space.
 void addLines(CodeWriter& code, std::string_view comment) {
     constexpr std::string_view space = " \t\r";
-    comment = comment.substr(0, maxComment);
+    comment = StringTables::internal::cutToSize(comment, maxComment);
     while (!comment.empty()) {
         std::string_view line = comment.substr(0, comment.find('\n'));
         comment.remove_prefix(std::min(line.size() + 1, comment.size()));
@@ -87,7 +89,7 @@ void addLines(CodeWriter& code, std::string_view comment) {
     }
 }
 
-// The comment for translators, the key and the text.
+// The accessor's declaration, after a comment with the comment for translators, the key and the text.
 void declare(CodeWriter& code, const NamedEntry& entry) {
     addLines(code, entry.source->comment);
     code.addComment(quote(entry.source->key) + " = " + quote(entry.source->text));
@@ -133,8 +135,8 @@ std::string_view outermost(const NamedEntry& entry) {
 }
 
 std::vector<std::span<const NamedEntry>> parts(std::span<const NamedEntry> entries) {
-    const std::size_t most = std::max(minEntriesPerHeader, entries.size() / maxHeaders + 1);
-    const std::size_t wanted = most * 4 / 5;
+    const std::size_t wanted = std::max(minEntriesPerHeader, entries.size() / maxHeaders + 1);
+    const std::size_t most = wanted * 5 / 4;
     std::vector<std::span<const NamedEntry>> all;
     std::size_t begin = 0;
     for (std::size_t at = 1; at < entries.size(); ++at) {
@@ -196,7 +198,7 @@ public:
                     places_.push_back(row({tables_.at(placed.table), size_}, key));
                     add(key);
                 }
-        places_.push_back("{0, " + std::to_string(size_) + ", 0}");
+        places_.push_back("{0, " + std::to_string(size_) + ", 0}"); // where the last key ends
     }
 
     void emit(CodeWriter& code) const {
@@ -246,7 +248,7 @@ std::vector<std::string> includesOf(std::span<const Placed> entries, const Optio
 std::string definitions(std::span<const Placed> entries, const Options& options) {
     CodeWriter code(options.module);
     code.addIncludes(includesOf(entries, options));
-    code.add("\n// Data, and one line for each accessor.\n// clang-format off");
+    code.add("\n// The keys, and the accessors that look them up.\n// clang-format off");
     const auto plain = static_cast<std::size_t>(
         std::ranges::count_if(entries, [](const Placed& placed) { return placed.entry->parameters.empty(); }));
     if (!entries.empty()) {

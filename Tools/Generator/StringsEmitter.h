@@ -1,5 +1,5 @@
 // Generator/StringsEmitter.h
-// Writes the tree of texts as headers and sources.
+// Makes the headers and sources of the tree of texts.
 #pragma once
 
 #include "Generator/Generator.h"

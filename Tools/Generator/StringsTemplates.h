@@ -48,10 +48,11 @@ inline constexpr std::string_view formattedDefinition = R"(
     }
 })";
 
-// Before the accessors, and what is inlined into them: a function is not inlined into one with fewer optimizations.
+// Placed before the accessors and the function that is inlined into them: GCC does not inline a function into one with
+// fewer optimizations.
 inline constexpr std::string_view fewerOptimizations = R"(
-// The optimizations that are switched off take GCC almost half of the time and do not change a plain accessor. Aligned, it
-// is in one cache line.
+// The optimizations that are switched off take almost half of GCC's time and do not change a plain accessor. The
+// alignment keeps an accessor in one cache line.
 #if defined(__OPTIMIZE__) && !defined(__clang__)
 #pragma GCC optimize("O1", "optimize-sibling-calls", "align-functions=32", "no-tree-pta", "no-tree-sra", "no-tree-dce", \
                      "no-tree-dse", "no-tree-dominator-opts", "no-tree-fre", "no-tree-ccp", "no-tree-bit-ccp", "no-if-conversion", \
@@ -149,7 +150,7 @@ namespace {{module}} {
 
 namespace {
 
-// Its address identifies the library whose bundle is wanted.
+// The address of `code` identifies the library whose bundle is wanted.
 struct BundleFinder {
     static constexpr char code = 0;
 };

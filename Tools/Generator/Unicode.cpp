@@ -41,7 +41,7 @@ constexpr bool isAsciiDigit(char32_t c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-// The oldest supported compilers know the characters of Unicode 13.
+// Whether the character is in Unicode 13 and not invisible by definition.
 bool isSettled(UChar32 c) noexcept {
     UVersionInfo age;
     u_charAge(c, age);
@@ -50,7 +50,7 @@ bool isSettled(UChar32 c) noexcept {
 
 } // namespace
 
-// Fast path: nearly all names are ASCII.
+// The functions below begin with ASCII, because nearly all names are.
 
 std::u32string decoded(std::string_view utf8) {
     if (std::ranges::all_of(utf8, [](unsigned char byte) { return isAscii(byte); }))

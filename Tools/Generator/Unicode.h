@@ -24,14 +24,15 @@ namespace Generator::Unicode {
 [[nodiscard]] bool isDigit(char32_t c) noexcept;
 
 // Whether the character may begin or continue a C++ identifier. False for invisible characters and those that are newer
-// than the oldest compilers.
+// than Unicode 13, which the oldest supported compilers know.
 [[nodiscard]] bool beginsIdentifier(char32_t c) noexcept;
 [[nodiscard]] bool continuesIdentifier(char32_t c) noexcept;
 
 // The width of the character in terminal columns: 0, 1 or 2.
 [[nodiscard]] std::size_t columnsOf(char32_t c) noexcept;
 
-// Whether the character is visible: not a control, direction mark or separator other than the space.
+// Whether the character is visible: no control, direction mark or separator other than the space, and not newer than
+// Unicode 13.
 [[nodiscard]] bool isVisible(char32_t c) noexcept;
 
 } // namespace Generator::Unicode

@@ -21,8 +21,8 @@ using AssetCatalog::Kind;
 
 namespace {
 
-// Whether the folder is a set of an unsupported kind. All other folders only group sets, whatever their names.
-bool isOtherSet(const fs::path& folder) {
+// Whether the folder is a set of an unsupported kind. Folders with unknown extensions only group sets.
+bool isUnsupportedSet(const fs::path& folder) {
     static constexpr std::array<std::string_view, 20> extensions = {
         ".appiconset",      ".arreferenceimage", ".arreferenceobject", ".arresourcegroup", ".brandassets",
         ".complicationset", ".cubetextureset",   ".gcdashboardimage",  ".gcleaderboard",   ".gcleaderboardset",
@@ -95,7 +95,7 @@ private:
         if (const std::optional<Kind> kind = kindOf(folder))
             sets_.push_back(
                 {.kind = *kind, .catalog = catalog_, .name = prefix + folder.stem().string(), .path = folder});
-        else if (isOtherSet(folder))
+        else if (isUnsupportedSet(folder))
             diagnostics_.add(Severity::note,
                              {.message = "is a set of an unsupported kind and is left out", .file = folder});
         else

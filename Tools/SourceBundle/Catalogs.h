@@ -16,14 +16,14 @@ namespace SourceBundle {
 // A file of an image, symbol or data set, with the traits and language that it is for.
 struct SourceFile {
     AssetCatalog::Fit fit{};
-    std::string language{};
+    std::string language{}; // "pt-BR"; empty: for all languages
     std::filesystem::path path{};
-    std::string typeIdentifier{}; // of data, or empty
-    // For pictures:
-    bool isSymbol = false; // see SourcePictures::Purpose
+    std::string typeIdentifier{}; // of data: "public.json", or empty
+    // For pictures. The first two are explained in SourcePictures::Purpose; the insets are in points.
+    bool isSymbol = false;
     bool preservesVector = false;
     AssetCatalog::Resizing resizing = AssetCatalog::Resizing::stretch;
-    AssetCatalog::Insets capInsets{}; // in points
+    AssetCatalog::Insets capInsets{};
     AssetCatalog::Insets alignmentInsets{};
 };
 
@@ -47,8 +47,9 @@ using PictureCheck = std::function<Runtime::Result<void>(const SourceFile& file)
 // Reads the assets of the catalogs. They are ordered by catalog, then by path, with those of a folder before those of
 // its subfolders. Several may have the same kind and name; the first one counts. Docs/catalogs.md describes what is
 // read. Unusable parts are left out with a warning: a set with a broken Contents.json, a file that is missing or
-// outside of its set, a picture that `check` rejects, an invalid colour. Unsupported features are notes. Errors: an
-// unreadable folder.
+// outside of its set, a picture that `check` rejects, an invalid colour. Unsupported features are notes. Errors: a
+// folder that is unreadable or below more than maxFolderDepth others; a picture that cannot be read because of a system
+// error; a Contents.json with a transient one (see Runtime::Error).
 [[nodiscard]] std::vector<SourceAsset> sourceAssets(std::span<const std::filesystem::path> catalogs,
                                                     Diagnostics& diagnostics, const PictureCheck& check = checkPicture);
 

@@ -17,7 +17,7 @@ using AssetCatalog::ColorValue;
 
 namespace {
 
-// Components in extended colour spaces may exceed 0 to 1; no screen reaches this limit.
+// Components outside 0 to 1 are colours outside of the space; no screen reaches this limit.
 constexpr double largestComponent = 16;
 
 std::optional<ColorSpace> colorSpaceNamed(const std::string& name) {
@@ -34,7 +34,7 @@ std::optional<ColorSpace> colorSpaceNamed(const std::string& name) {
     return std::nullopt;
 }
 
-// Parses the whole text as a number; `format` is an argument of std::from_chars.
+// Parses the whole text as a number; `format` is the base of an integer, or a std::chars_format.
 template <class Number, class Format> std::optional<double> parsed(std::string_view text, Format format) {
     Number value{};
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), value, format);

@@ -55,7 +55,7 @@ std::optional<std::string> developmentLanguage(std::span<const std::filesystem::
         if (!region || region->empty())
             continue;
         if (!isBuildSetting(*region))
-            return languageOfFolder(std::string(*region));
+            return languageNamed(std::string(*region));
         diagnostics.add(Severity::warning, unresolved(file, *table, *region));
     }
     return std::nullopt;

@@ -11,13 +11,14 @@
 
 namespace SourceBundle {
 
-// CFBundleDevelopmentRegion of the first of `infos` that contains it. An unreadable file is an error. A value that is a
-// build setting, such as "$(DEVELOPMENT_LANGUAGE)", is ignored with a warning.
+// CFBundleDevelopmentRegion of the first of `infos` that contains it, "de" for "German". An unreadable file is an
+// error. A value that is a build setting, such as "$(DEVELOPMENT_LANGUAGE)", is ignored with a warning.
 [[nodiscard]] std::optional<std::string> developmentLanguage(std::span<const std::filesystem::path> infos,
                                                              Diagnostics& diagnostics);
 
-// Which of `languages` is meant by `wanted`: itself, or else the nearest one with fewer subtags, without regard to case
-// and to "_" or "-" ("de_DE" may mean "de"). `wanted` where there is none.
+// The one of `languages` that `wanted` means: the same tag or, if there is none, the tag that remains when as few
+// subtags as possible are removed from its end ("de" for "de_DE"). Case and "_" or "-" make no difference. `wanted` if
+// there is no such language.
 [[nodiscard]] std::string languageAmong(const std::set<std::string>& languages, const std::string& wanted);
 
 } // namespace SourceBundle

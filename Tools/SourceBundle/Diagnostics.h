@@ -21,8 +21,8 @@ enum class Topic : std::uint8_t {
     unreadableTable,
     duplicateKey,
     lonePercent,
-    nameClash,  // a key or asset has no accessor because its name is taken
-    noAccessor, // a key or asset has no accessor for another reason
+    nameClash,  // a key, table or asset has no accessors because its name is taken
+    noAccessor, // a key, table or asset has no accessors for another reason
     missingFile,
     unreadableAsset,
     unassignedVariant,

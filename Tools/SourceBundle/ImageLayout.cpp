@@ -1,7 +1,6 @@
 #include "SourceBundle/ImageLayout.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace SourceBundle {
 
@@ -11,10 +10,7 @@ namespace {
 
 Insets insetsOf(const Json& insets, std::uint8_t scale) {
     const double pixelsPerPoint = std::max<std::uint8_t>(scale, 1);
-    const auto points = [&](const char* edge) {
-        const double pixels = number(insets, edge);
-        return std::isfinite(pixels) ? pixels / pixelsPerPoint : 0;
-    };
+    const auto points = [&](const char* edge) { return number(insets, edge) / pixelsPerPoint; };
     return {points("top"), points("left"), points("bottom"), points("right")};
 }
 

@@ -7,7 +7,7 @@
 
 namespace SourceBundle {
 
-// Reads the entry's "resizing" and "alignment-insets" and converts them from pixels to points.
+// Reads the entry's "resizing" and "alignment-insets" and converts them from pixels to points at `file.fit.scale`.
 void readLayout(const Json& entry, SourceFile& file);
 
 } // namespace SourceBundle

@@ -48,6 +48,8 @@ private:
     std::vector<std::set<std::string>> open_; // the names of the members of each object that is being read
 };
 
+struct TooDeep {};
+
 } // namespace
 
 Runtime::Result<Json> readJsonObject(const fs::path& file, Diagnostics& diagnostics) {
@@ -58,16 +60,20 @@ Runtime::Result<Json> readJsonObject(const fs::path& file, Diagnostics& diagnost
         return text.error();
     RepeatedMembers members(file, diagnostics);
     try {
-        Json json = Json::parse(*text, [&](int /*depth*/, Json::parse_event_t event, const Json& parsed) {
+        Json json = Json::parse(*text, [&](int depth, Json::parse_event_t event, const Json& parsed) {
+            if (depth > maxJsonDepth)
+                throw TooDeep();
             members.follow(event, parsed);
             return true;
         });
         if (json.is_object())
             return json;
         return errorAt(file, *text, 0, "is not a JSON object");
+    } catch (const TooDeep&) {
+        return Runtime::Error{.message = "has JSON that is nested too deeply", .file = file};
     } catch (const Json::out_of_range&) {
-        return errorAt(file, *text, 0, "has a number that is too large");
-    } catch (const Json::parse_error& wrong) {
+        return Runtime::Error{.message = "has a number that is too large", .file = file};
+    } catch (const Json::parse_error& wrong) { // its `byte` is counted from 1
         return errorAt(file, *text, wrong.byte == 0 ? 0 : wrong.byte - 1, "invalid JSON: unexpected token");
     }
 }

@@ -14,12 +14,13 @@ namespace SourceBundle {
 
 using Json = nlohmann::json;
 
-// Reads the object in the file. Errors: an unreadable file, a link, more than 4 MiB, invalid JSON, not an object. They
-// have line and column and do not quote the file. If a member appears again in its object, the last one is read, and
-// `diagnostics` gets a warning.
+// Reads the object in the file. Errors: an unreadable file, a link, more than maxJsonBytes, invalid JSON (with line and
+// column), more than maxJsonDepth levels, not an object. They do not quote the file. If a member appears again in its
+// object, the last one is read, and `diagnostics` gets a warning.
 [[nodiscard]] Runtime::Result<Json> readJsonObject(const std::filesystem::path& file, Diagnostics& diagnostics);
 
 inline constexpr std::size_t maxJsonBytes = std::size_t{4} << 20;
+inline constexpr int maxJsonDepth = 64; // some functions of the JSON library are recursive
 
 // An error located at a byte of `text`, the content of the file.
 [[nodiscard]] Runtime::Error errorAt(const std::filesystem::path& file, std::string_view text, std::size_t byte,

@@ -10,7 +10,7 @@
 
 namespace SourceBundle {
 
-// The name in quotation marks, cut after 100 bytes.
+// The name in quotation marks, cut after at most 100 bytes.
 [[nodiscard]] inline std::string quotedName(std::string_view name) {
     constexpr std::size_t longest = 100;
     const std::string_view shown = StringTables::internal::cutToSize(name, longest);

@@ -36,13 +36,12 @@ private:
                 return;
             ++variables_;
             const std::string_view form = otherForm(*piece->variable);
-            const std::size_t own = std::max<std::size_t>(piece->arguments.value, 1);
-            append(form, PluralPieces(plural_, form, *piece->variable, own), depth + 1);
+            append(form, PluralPieces(plural_, form, *piece->variable, piece->arguments.value), depth + 1);
         }
         out_ += text.substr(done);
     }
 
-    // Variables may refer to each other repeatedly.
+    // Variables may refer to each other without end.
     static constexpr int maxDepth = 16;
     static constexpr std::size_t maxVariables = 256;
 
@@ -51,11 +50,13 @@ private:
     std::size_t variables_ = 0; // replaced so far
 };
 
+// "2$"; empty for 0.
 std::string positionText(std::size_t argument) {
     return argument == 0 ? "" : std::to_string(argument) + "$";
 }
 
-// The text with a position at every placeholder. Placeholders with a "*" are not changed, because they have several.
+// The text with a position at every placeholder. A text with a "*" is not changed: such a placeholder takes several
+// arguments.
 std::string withPositions(const std::string& text) {
     std::string out;
     ArgumentCounter counter;
@@ -78,9 +79,10 @@ bool isNumber(const Placeholder& placeholder) {
     return placeholder.kind == Placeholder::Kind::integer || placeholder.kind == Placeholder::Kind::number;
 }
 
+// The number that selects the form.
 struct Number {
     std::size_t argument = 1;
-    std::string valueType = "lld";
+    std::string valueType = "lld"; // as in PluralVariable
 };
 
 // The first placeholder of a form that prints a number.
@@ -121,7 +123,7 @@ std::size_t indexOf(const PluralVariable& variable, const PluralFormat& plural) 
     return static_cast<std::size_t>(&variable - plural.variables.data());
 }
 
-// `text` with the argument of each of its variables, "%2$#@files@". `pieces` are those of `text`.
+// `text` with the position of the argument at each of its variables, "%2$#@files@". `pieces` are those of `text`.
 std::string withArguments(PluralPieces pieces, std::string_view text, const PluralFormat& plural,
                           const std::vector<std::size_t>& arguments) {
     std::string out;
@@ -129,10 +131,10 @@ std::string withArguments(PluralPieces pieces, std::string_view text, const Plur
     while (const auto piece = pieces.next()) {
         if (piece->variable == nullptr || piece->placeholder.position != 0)
             continue;
-        const std::size_t name = piece->placeholder.begin + 1;
-        out += text.substr(done, name - done);
+        const std::size_t afterPercent = piece->placeholder.begin + 1;
+        out += text.substr(done, afterPercent - done);
         out += positionText(arguments[indexOf(*piece->variable, plural)]);
-        done = name;
+        done = afterPercent;
     }
     out += text.substr(done);
     return out;
@@ -174,7 +176,7 @@ PluralFormat pluralOfForms(PluralForms forms) {
 
 PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substitution> substitutions) {
     PluralFormat plural{format, {}};
-    std::vector<std::size_t> arguments; // of the variables; 0 if unknown
+    std::vector<std::size_t> arguments; // of the variables; 0 if neither given nor found in the format
     for (auto& [variable, argument] : substitutions) {
         plural.variables.push_back(std::move(variable));
         arguments.push_back(argument);
@@ -184,14 +186,15 @@ PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substi
         if (piece->variable != nullptr && arguments[indexOf(*piece->variable, plural)] == 0)
             arguments[indexOf(*piece->variable, plural)] = piece->arguments.value;
 
-    const PluralFormat named = plural;
-    plural.format = withPositions(withArguments(PluralPieces(named), format, named, arguments));
+    const PluralFormat original = plural;
+    plural.format = withPositions(withArguments(PluralPieces(original), format, original, arguments));
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         PluralVariable& variable = plural.variables[i];
         for (auto& form : variable.forms)
             if (form) {
-                const PluralPieces inForm(named, *form, named.variables[i], std::max<std::size_t>(arguments[i], 1));
-                form = withoutArg(withArguments(inForm, *form, named, arguments),
+                const PluralPieces inForm(original, *form, original.variables[i],
+                                          std::max<std::size_t>(arguments[i], 1));
+                form = withoutArg(withArguments(inForm, *form, original, arguments),
                                   "%" + positionText(arguments[i]) + variable.valueType);
             }
     }

@@ -10,23 +10,23 @@
 
 namespace SourceBundle {
 
-// The format with every variable replaced by its form `other`, or its last form: for display, not for formatting. Cut
-// after at most maxOtherText bytes.
+// The format with every variable replaced by its StringTables::otherForm(): for display, not for formatting. It is cut
+// after at most maxOtherText bytes, and earlier if variables refer to each other without end.
 [[nodiscard]] std::string otherText(const StringTables::PluralFormat& plural);
 inline constexpr std::size_t maxOtherText = 4096;
 
 using PluralForms = decltype(StringTables::PluralVariable::forms);
 
-// The plural format of a text whose forms depend on its first number: the forms of "%@ has %lld files" depend on the
-// second argument.
+// The plural format of a text with these forms. The first placeholder for a number tells which argument selects the
+// form: the second one for "%@ has %lld files". Without such a placeholder it is the first argument.
 [[nodiscard]] StringTables::PluralFormat pluralOfForms(PluralForms forms);
 
-// A variable of a format, the argument that it takes (0: that of its place in the format) and its forms, in which
-// "%arg" is that argument.
+// A variable of a string catalog. In its forms "%arg" prints the number that selects the form.
 struct Substitution {
     StringTables::PluralVariable variable;
-    std::size_t argument = 0;
+    std::size_t argument = 0; // the position of the number; 0: that of the variable's placeholder in the format
 };
+// The plural format of a text whose variables ("%#@files@") are substitutions.
 [[nodiscard]] StringTables::PluralFormat pluralOfSubstitutions(const std::string& format,
                                                                std::vector<Substitution> substitutions);
 

@@ -51,7 +51,8 @@ Character firstCharacter(std::string_view text) {
     return StringTables::internal::takeCharacterWithBytes(text);
 }
 
-// A backslash, the escaped character, and the hexadecimal digits of "\u" and the like.
+// The number of leading bytes that are a backslash escape: the backslash, the escaped character, and the hexadecimal
+// digits after "\u" and the like.
 std::size_t escapeSize(std::string_view text) {
     if (text.size() == 1)
         return 1;
@@ -110,14 +111,14 @@ public:
         }
     }
 
-    // Pads accented texts by a third of their letters, in words of `word` characters. With `isWhole` the text gets
-    // brackets, too; a plural form gets none.
+    // Pads an accented text by a third of its letters, in words of `word` characters, before the line breaks at its
+    // end. With `isWhole` it gets brackets, too; a plural form gets none.
     std::string finish(bool isWhole) {
         if (kind_ == Pseudo::rightToLeft)
             return out_;
         constexpr std::size_t part = 3, word = 6;
         const std::size_t padding = (letters_ + part - 1) / part;
-        const std::size_t end = out_.find_last_not_of("\r\n") + 1; // of the last line
+        const std::size_t end = out_.find_last_not_of("\r\n") + 1; // npos + 1 is 0
         std::string tail;
         for (std::size_t i = 0; i < padding; ++i)
             tail += i % word == 0 ? " ~" : "~";
@@ -183,9 +184,10 @@ PluralFormat pseudoPlural(const PluralFormat& plural, Pseudo kind) {
     out.format = transformed(plural.format, kind, true, PluralPieces(plural));
     for (std::size_t i = 0; i < plural.variables.size(); ++i)
         for (std::size_t category = 0; category < Intl::pluralCategoryCount; ++category)
-            if (const auto& form = plural.variables[i].forms[category])
-                out.variables[i].forms[category] =
-                    transformed(*form, kind, false, PluralPieces(plural, *form, plural.variables[i], 1));
+            if (const auto& form = plural.variables[i].forms[category]) {
+                const PluralPieces pieces(plural, *form, plural.variables[i], 1); // only their places are used
+                out.variables[i].forms[category] = transformed(*form, kind, false, pieces);
+            }
     return out;
 }
 

@@ -1,6 +1,6 @@
 // SourceBundle/PseudoText.h
 // Texts of the pseudo-languages: transformed development texts that show layout problems before anything is translated.
-// Placeholders, "%%", line breaks, tags, entities and backslash escapes are unchanged.
+// Placeholders, "%%", white space, tags, entities and backslash escapes are unchanged.
 // Text: well-formed UTF-8, in any script. Threads: any; no state.
 #pragma once
 
@@ -14,7 +14,7 @@ namespace SourceBundle {
 
 enum class Pseudo : std::uint8_t {
     accented,   // "[Ŷöûŕ çåŕţ ~~~]": accented letters, a third longer, in brackets. Cyrillic, Greek and the like have
-                // a combining mark on each letter; scripts without capital letters are only made longer.
+                // a combining mark on each letter; in scripts without capital letters the letters are unchanged.
     rightToLeft // words are displayed from right to left
 };
 

@@ -2,13 +2,14 @@
 
 #include "AssetCatalog/internal/Catalog.h" // limits
 #include "SourceBundle/ColorComponents.h"
-#include "SourceBundle/ContentsPlace.h"
+#include "SourceBundle/EntryPlaces.h"
 #include "SourceBundle/ImageLayout.h"
 #include "SourceBundle/Json.h"
 #include "SourceBundle/KnownProperties.h"
 #include "SourceBundle/MessageText.h"
 #include "SourceBundle/SetEntry.h"
 #include "SourceBundle/SystemColors.h"
+#include "StringTables/internal/BundleLayout.h"
 #include <algorithm>
 #include <optional>
 #include <span>
@@ -22,6 +23,7 @@ using AssetCatalog::Kind;
 
 namespace {
 
+// The name of the list of entries.
 const char* listName(const SourceAsset& asset) {
     switch (asset.kind) {
     case Kind::image:
@@ -45,7 +47,7 @@ AssetCatalog::Rendering renderingOf(const SourceAsset& asset, const Json& proper
                                                      : AssetCatalog::Rendering::automatic;
 }
 
-// Each becomes at most four variants in the compiled catalog: a drawing has a picture for each scale.
+// Each becomes at most four variants in the compiled catalog: a drawing has pictures for its own scale and for 1, 2, 3.
 constexpr std::size_t maxEntries = AssetCatalog::maxVariants / 4;
 
 // Whether both variants are for the same traits and language.
@@ -160,8 +162,8 @@ private:
     std::optional<fs::path> pathOf(const SetEntry& entry) {
         const std::string name = text(*entry.json, "filename");
         std::error_code failed;
-        // A name must be a single path component, so that no file outside of the set gets into a catalog.
-        if (name == "." || name == ".." || name.find_first_of(std::string_view("/\0", 2)) != std::string::npos) {
+        // No file outside of the set may get into a catalog.
+        if (!name.empty() && !StringTables::bundleLayout::isFileName(name)) {
             report(Severity::warning, entry, "is a file outside of its set and is left out", Topic::unreadableAsset);
             return std::nullopt;
         }
@@ -213,7 +215,7 @@ private:
                 asset_.colors.push_back(variant);
     }
 
-    // A file that is unreadable because of a system error is an error, not left out: a retry may succeed.
+    // After a system error the picture may still be usable, so that is an error and no reason to leave it out.
     void reportUnusable(Runtime::Error error) {
         if (error.cause != 0)
             diagnostics_.add(Severity::error, std::move(error), Topic::unreadableAsset, asset_.name);
@@ -243,7 +245,8 @@ private:
     std::vector<AssetCatalog::Color> systemColorVariants_;
 };
 
-// Reports an empty set exactly once: with its last warning, or with a separate one.
+// Adds `messages`, those about a set without a usable variant, so that one of them says so: the last warning, or a
+// separate one if there is neither a warning nor an error.
 void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagnostics& diagnostics) {
     const auto isWarning = [](const Diagnostic& one) { return one.severity == Severity::warning; };
     const auto isError = [](const Diagnostic& one) { return one.severity == Severity::error; };

@@ -11,11 +11,12 @@ namespace SourceBundle {
 inline constexpr const char* contentsName = "Contents.json";
 inline constexpr std::string_view symbolExtension = ".symbolset";
 
-// Reads the set with the folder, kind and name of `asset` and fills in the other members. A set without a usable
-// variant stays empty and gives exactly one warning that says so.
+// Reads the set in the folder `asset.path` and fills in `rendering`, `files` and `colors`; the other members are set
+// already. A set without a usable variant stays empty, and one message says so: a warning, or the error that kept a
+// variant from being read.
 void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics);
 
-// How the file of a picture is used.
+// What SourcePictures must know about a picture's file.
 [[nodiscard]] SourcePictures::Purpose purposeOf(const SourceFile& file);
 
 } // namespace SourceBundle

@@ -6,6 +6,7 @@
 #include <array>
 #include <charconv>
 #include <string_view>
+#include <utility>
 
 namespace SourceBundle {
 
@@ -13,7 +14,6 @@ using AssetCatalog::Fit;
 
 namespace {
 
-// The priority of a kind of device; 0 is the highest.
 std::size_t rankOf(std::string_view idiom) {
     static constexpr std::array<std::string_view, 9> idioms = {"universal", "iphone", "ipad",  "mac", "vision",
                                                                "reality",   "tv",     "watch", "car"};
@@ -55,7 +55,7 @@ bool readScale(std::string_view scale, Fit& fit) {
     return true;
 }
 
-// Conditions that are not supported; an entry with conditions is used only if there is no other.
+// The conditions that never hold here; an entry with conditions is used only if no other is usable.
 std::vector<std::string> conditionsOf(const Json& entry) {
     static constexpr std::array names = {"subtype", "screen-width",         "width-class",  "height-class",
                                          "memory",  "graphics-feature-set", "display-gamut"};
@@ -67,20 +67,20 @@ std::vector<std::string> conditionsOf(const Json& entry) {
 }
 
 // The width that a condition requires: 145 for "<=145", 162 for ">161", 0 without a number.
-int screenWidth(std::string_view condition) {
+std::int64_t screenWidth(std::string_view condition) {
     const std::size_t digits = std::min(condition.find_first_of("0123456789"), condition.size());
     int width = 0;
     std::from_chars(condition.data() + digits, condition.data() + condition.size(), width);
-    return condition.starts_with('>') ? width + 1 : width;
+    return std::int64_t{width} + (condition.starts_with('>') ? 1 : 0);
 }
 
 } // namespace
 
 std::string SetEntry::Device::text() const {
-    std::string all = idiom.empty() ? "" : "idiom " + quotedName(idiom);
+    std::string all = "idiom " + quotedName(idiom);
     for (const std::string& condition : conditions)
-        all.append(all.empty() ? "" : ", ").append(condition);
-    return all.empty() ? "any device" : all;
+        all.append(", ").append(condition);
+    return all;
 }
 
 bool SetEntry::isFilled() const {
@@ -107,9 +107,8 @@ SetEntry readEntry(const Json& json, std::size_t number) {
     entry.language = withHyphens(text(json, "locale"));
     entry.device.conditions = conditionsOf(json);
     entry.device.screenWidth = screenWidth(text(json, "screen-width"));
-    entry.device.idiom = text(json, "idiom");
-    if (entry.device.idiom.empty())
-        entry.device.idiom = "universal";
+    if (std::string idiom = text(json, "idiom"); !idiom.empty())
+        entry.device.idiom = std::move(idiom);
     entry.device.rank = rankOf(entry.device.idiom);
     const auto addCondition = [&](const char* name, const std::string& value) {
         entry.device.conditions.push_back(std::string(name) + " " + quotedName(value));

@@ -5,6 +5,7 @@
 #include "AssetCatalog/internal/Model.h"
 #include "SourceBundle/Json.h"
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -15,13 +16,12 @@ struct SetEntry {
     std::size_t number; // in its list, counted from 1
     AssetCatalog::Fit fit{};
     std::string language{};
-    // The kind of device and screen that the variant is for. Only the variants of one kind are used: preferably those
-    // without conditions, then those for any device, then those for a phone.
+    // The kind of device and screen that the variant is for. Only the variants of one kind are used, see isPreferred().
     struct Device {
         std::vector<std::string> conditions{}; // `subtype "retina4"`, sorted
-        std::size_t rank = 0;                  // of the idiom
-        int screenWidth = 0;                   // that the conditions require, or 0
-        std::string idiom{};
+        std::string idiom = "universal";
+        std::size_t rank = 0;         // of the idiom; 0 is used first
+        std::int64_t screenWidth = 0; // that the conditions require, or 0
         friend bool operator==(const Device&, const Device&) = default;
         // `idiom "ipad", subtype "retina4"`
         [[nodiscard]] std::string text() const;
@@ -33,7 +33,8 @@ struct SetEntry {
     [[nodiscard]] std::string label() const;
 };
 
-// Whether `one` is preferred to `other`.
+// Whether `one` is preferred to `other`: no conditions, then the lower rank, then fewer conditions, then the widest
+// screen.
 [[nodiscard]] bool isPreferred(const SetEntry::Device& one, const SetEntry::Device& other);
 
 // Precondition: `entry` is a JSON object that outlives the result.

@@ -43,6 +43,7 @@ namespace {
 
 using Languages = std::map<std::string, LanguageTexts>;
 
+// Whether files of these kinds may be one table in one language: TABLE.strings and TABLE.stringsdict.
 bool areOneTable(TableFile::Kind one, TableFile::Kind other) {
     return one != other && one != TableFile::Kind::catalog && other != TableFile::Kind::catalog;
 }
@@ -113,7 +114,7 @@ private:
         }
     }
 
-    // The destination of the texts of `file` in `language`, or null after an error.
+    // Where to add the texts of `file` in `language`; null after an error.
     LanguageTexts* textsFor(const TableFile& file, const std::string& language) {
         LanguageTexts& texts = byName_[file.table].try_emplace(language, language).first->second;
         for (const TableFile* other : texts.files)
@@ -270,8 +271,6 @@ const LanguageTexts* SourceTable::find(std::string_view language) const {
     return found == languages.end() ? nullptr : &*found;
 }
 
-namespace {} // namespace
-
 Source::Source() : storage_(std::make_unique<Storage>()) {}
 Source::Source(Source&&) noexcept = default;
 Source& Source::operator=(Source&&) noexcept = default;
@@ -356,7 +355,7 @@ Source Source::read(SourceFiles files, const SourceOptions& options, Diagnostics
     const std::string otherwise = reader.catalogLanguage().empty() ? "en" : reader.catalogLanguage();
     source.developmentLanguage = options.developmentLanguage.empty()
                                      ? SourceBundle::developmentLanguage(source.infos, diagnostics).value_or(otherwise)
-                                     : languageOfFolder(options.developmentLanguage);
+                                     : languageNamed(options.developmentLanguage);
     source.developmentLanguage = languageAmong(source.languages(), source.developmentLanguage);
     if (options.addsPseudoLanguages)
         source.addPseudoLanguages();

@@ -1,6 +1,6 @@
 // SourceBundle/Source.h
 // A module's resources as people edit them, from one or more folders: the texts of all tables and languages, and the
-// paths of the asset catalogs. All tools read sources through this class.
+// paths of the asset catalogs (see Catalogs.h). All tools read sources through this class.
 // Text: UTF-8. Threads: immutable after reading. Ownership: the source owns everything that its entries refer to;
 // entries stay valid when it is moved.
 #pragma once
@@ -34,7 +34,7 @@ struct SourceEntry {
     const StringTables::PluralFormat* plural = nullptr;
     std::string_view comment{}; // for translators
     const TableFile* file = nullptr;
-    std::uint32_t line = 0; // of the key, counted from 1; 0 in a binary table
+    std::uint32_t line = 0; // of the key, counted from 1, like the column; both are 0 in a binary table
     std::uint32_t column = 0;
     State state = State::translated;
     bool isStale = false;       // the string catalog marks the key as no longer used in code
@@ -51,20 +51,20 @@ public:
 
     // The key's entry, or null.
     [[nodiscard]] const SourceEntry* find(std::string_view key) const;
-    // The same, but first looks at the entry after `last` (an entry of this language, or null), because most languages
-    // have their keys in the same order.
+    // The same, but first looks at the entry after `last` (one of entries(); null: the first entry), because most
+    // languages have their keys in the same order.
     [[nodiscard]] const SourceEntry* findAfter(const SourceEntry* last, std::string_view key) const;
     // Adds an entry; false if the key already exists.
     bool add(const SourceEntry& entry);
-    // Adds the entries of `other` with new keys; moves all of them if there are none yet.
+    // Adds the entries of `other` whose keys do not exist yet; takes over its memory if this has no entries.
     void add(LanguageTexts&& other);
     // Adds an entry or replaces the one with the same key.
     void replace(const SourceEntry& entry);
     void reserve(std::size_t count);
 
     std::string language;                // "de", "pt-BR", "Base"
-    std::vector<const TableFile*> files; // the sources of the texts
-    bool isDamaged = false;              // a file of the table is unreadable, so keys may be missing
+    std::vector<const TableFile*> files; // that were read for the texts; none for a pseudo-language
+    bool isDamaged = false;              // keys may be missing: a file is unreadable, or its table exists already
 
     // Every key once, in file order.
     [[nodiscard]] const std::vector<SourceEntry>& entries() const noexcept { return entries_; }
@@ -76,14 +76,14 @@ private:
 
 struct SourceTable {
     std::string name;                     // "Localizable"
-    std::vector<LanguageTexts> languages; // by name
+    std::vector<LanguageTexts> languages; // sorted by name
 
     // The texts in `language`, or null.
     [[nodiscard]] const LanguageTexts* find(std::string_view language) const;
 };
 
 struct SourceOptions {
-    // Empty: CFBundleDevelopmentRegion of Info.plist, else the language of a string catalog, else "en".
+    // Empty: CFBundleDevelopmentRegion of Info.plist, else the source language of the first string catalog, else "en".
     std::string developmentLanguage{};
     // Adds the pseudo-languages (SourceBundle/PseudoText.h) to every table that does not have them.
     bool addsPseudoLanguages = false;
@@ -98,7 +98,7 @@ public:
     // and TABLE.stringsdict: if a key is in both, the plural is used.
     [[nodiscard]] static Source read(std::span<const std::filesystem::path> folders, const SourceOptions& options,
                                      Diagnostics& diagnostics);
-    // Reads the tables of a compiled bundle.
+    // Reads the tables and the Info.plist of a compiled bundle.
     [[nodiscard]] static Source readBundle(const std::filesystem::path& bundle, Diagnostics& diagnostics);
     Source(Source&&) noexcept;
     Source& operator=(Source&&) noexcept;
@@ -128,7 +128,7 @@ private:
     std::unique_ptr<Storage> storage_;
 };
 
-// The folder of the texts that are used when the user's language is missing.
+// The name of Base.lproj, whose texts are used where the user's language has none.
 inline constexpr std::string_view baseLanguage = StringTables::bundleLayout::baseName;
 
 } // namespace SourceBundle

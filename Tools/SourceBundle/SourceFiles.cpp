@@ -68,8 +68,8 @@ private:
         diagnostics_.add(severity, {.message = std::move(message), .file = file});
     }
 
-    // Whether the path is inside the source. Links that lead out of it are refused, so that no other content is
-    // disclosed.
+    // Whether the path is inside the folder that is searched. Links that lead out of it are refused, so that no other
+    // content is disclosed.
     bool isInside(const fs::path& path) const {
         std::error_code failed;
         const fs::path inside = fs::weakly_canonical(path, failed).lexically_relative(source_);
@@ -82,7 +82,7 @@ private:
                          Topic::unreadableTable);
         return false;
     }
-    // One of the folders may contain another: each file counts once.
+    // One of the folders may contain another: each table and catalog counts once.
     bool isNew(const fs::path& path) { return known_.insert(source_ / path.lexically_relative(given_)).second; }
 
     void findInfo(const fs::path& file) {
@@ -115,7 +115,8 @@ private:
             findInFolder(path, depth + 1);
     }
 
-    // Reports an extension that is only spelled differently: other systems ignore case in file names.
+    // Whether the extension has capitals where it must have none, which is reported: other systems ignore case in file
+    // names.
     bool hasCapitalExtension(const fs::path& path) {
         const std::string extension = lowerCase(path.extension());
         static constexpr std::string_view read[] = {layout::languageSuffix, catalogSuffix, layout::textsSuffix,
@@ -144,7 +145,7 @@ private:
     void findInLanguageFolder(const fs::directory_entry& folder, int depth) {
         if (!mayRead(folder))
             return;
-        const std::string language = languageOfFolder(folder.path().stem());
+        const std::string language = languageNamed(folder.path().stem());
         for (const fs::directory_entry& entry : sortedEntries(folder.path(), diagnostics_)) {
             std::error_code failed;
             const std::optional<TableFile::Kind> kind = kindOf(entry.path());
@@ -170,10 +171,10 @@ private:
 
     Diagnostics& diagnostics_;
     SourceFiles found_;
-    fs::path given_;
-    fs::path source_; // the same, canonical
-    std::set<fs::path> known_;
-    bool isEmpty_ = true; // nothing was found in the folder so far
+    fs::path given_;           // the folder that is searched, as the caller named it
+    fs::path source_;          // its canonical path
+    std::set<fs::path> known_; // the tables and catalogs found so far, below canonical paths
+    bool isEmpty_ = true;      // the folder has no table or catalog so far
 };
 
 } // namespace
@@ -203,7 +204,7 @@ SourceFiles findBundleFiles(const fs::path& bundle, Diagnostics& diagnostics) {
     return finder.take();
 }
 
-std::string languageOfFolder(const std::string& name) {
+std::string languageNamed(const std::string& name) {
     static constexpr auto languages = std::to_array<std::pair<std::string_view, std::string_view>>(
         {{"Arabic", "ar"},    {"Catalan", "ca"},    {"Chinese", "zh-Hans"}, {"Croatian", "hr"},  {"Czech", "cs"},
          {"Danish", "da"},    {"Dutch", "nl"},      {"English", "en"},      {"Finnish", "fi"},   {"French", "fr"},

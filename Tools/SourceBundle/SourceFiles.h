@@ -27,18 +27,19 @@ struct TableFile {
 };
 
 struct SourceFiles {
-    std::vector<TableFile> tables;               // in the order of folders and paths
-    std::vector<std::filesystem::path> catalogs; // *.xcassets, by name, then in the same order
-    std::vector<std::filesystem::path> infos;    // Info.plist directly in a folder
+    std::vector<TableFile> tables;               // in the order of the given folders, in each sorted by path
+    std::vector<std::filesystem::path> catalogs; // *.xcassets, sorted by name, then like the tables
+    std::vector<std::filesystem::path> infos;    // Info.plist directly in one of the given folders
 };
 
-// Searches the folders up to maxFolderDepth. Hidden files and folders are skipped; a file that is in several of the
-// folders is found once. Errors: a folder that is unreadable, is a compiled bundle or contains neither tables nor
-// catalogs; a link of a table or language folder that leads out of the source. Notes: other links to folders, compiled
-// bundles inside a folder, and files of a language folder that are not tables.
+// Searches the folders and their subfolders. Hidden files and folders are skipped; a table or catalog that is in
+// several of the folders is found once. Errors: a folder that is unreadable or below more than maxFolderDepth others; a
+// given folder that is a compiled bundle or contains neither tables nor catalogs; a table, language folder or
+// Info.plist that is a link out of its given folder. Warnings: tables and sets in the wrong place, and extensions with
+// capitals. Notes: links to other folders, compiled bundles inside a folder, and other files in a language folder.
 [[nodiscard]] SourceFiles findFiles(std::span<const std::filesystem::path> folders, Diagnostics& diagnostics);
 
-// The same for a compiled bundle, which has the same layout.
+// The same for a compiled bundle, which has the same layout and may be empty.
 [[nodiscard]] SourceFiles findBundleFiles(const std::filesystem::path& bundle, Diagnostics& diagnostics);
 
 inline constexpr int maxFolderDepth = 64;
@@ -51,7 +52,8 @@ inline constexpr const char* compiledMark = ".lumora-bundle";
 [[nodiscard]] std::vector<std::filesystem::directory_entry> sortedEntries(const std::filesystem::path& folder,
                                                                           Diagnostics& diagnostics);
 
-// The language of a folder name without ".lproj". Old folders have English names: "German" gives "de".
-[[nodiscard]] std::string languageOfFolder(const std::string& name);
+// The language code for the name of a language folder (without ".lproj") or of Info.plist. Old ones are English:
+// "German" gives "de". Other names are returned unchanged.
+[[nodiscard]] std::string languageNamed(const std::string& name);
 
 } // namespace SourceBundle

@@ -62,7 +62,7 @@ struct Localized {
         return std::ranges::any_of(forms, [](const auto& form) { return form.has_value(); });
     }
     bool isEmpty() const { return !text && !hasForms(); }
-    // Uses the text for one device.
+    // Uses the text for one kind of device.
     void take(Localized&& device) {
         text = std::move(device.text);
         forms = std::move(device.forms);
@@ -70,6 +70,7 @@ struct Localized {
         hasTooManySubstitutions |= device.hasTooManySubstitutions;
         note(device.state);
     }
+    // Keeps the state that is furthest from translated.
     void note(State other) {
         if (state == State::translated || other == State::isNew)
             state = other;
@@ -195,11 +196,11 @@ void readVariations(ondemand::value object, Localized& out) {
 
 void readSubstitutions(ondemand::value object, Localized& out) {
     forEach(object, [&](std::string_view name, ondemand::value value) {
-        Substitution substitution{{std::string(name), "lld", {}}, 0};
+        Substitution substitution{{std::string(name), "", {}}, 0};
         Localized forms;
         forEach(value, [&](std::string_view member, ondemand::value inner) {
             if (member == "argNum")
-                substitution.argument = std::min<std::uint64_t>(inner.get_uint64(), 9999);
+                substitution.argument = std::min<std::uint64_t>(inner.get_uint64(), 9999); // the last position
             else if (member == "formatSpecifier")
                 substitution.variable.valueType = std::string(std::string_view(inner.get_string()));
             else if (member == "variations")
@@ -207,6 +208,8 @@ void readSubstitutions(ondemand::value object, Localized& out) {
             else
                 skip(inner);
         });
+        if (substitution.variable.valueType.empty())
+            substitution.variable.valueType = "lld";
         substitution.variable.forms = std::move(forms.forms);
         out.note(forms.state);
         out.hasDevices |= forms.hasDevices;
@@ -259,10 +262,11 @@ public:
 
 private:
     Runtime::Error error(simdjson::error_code code) const {
-        const bool isStructure = code == simdjson::INCORRECT_TYPE || code == simdjson::NO_SUCH_FIELD;
-        return {.message = isStructure ? "is not a string catalog: unexpected type"
-                                       : std::string("invalid JSON: ") + simdjson::error_message(code),
-                .file = file_};
+        if (code == simdjson::NO_SUCH_FIELD)
+            return {.message = "is not a string catalog: has no \"sourceLanguage\" or no \"strings\"", .file = file_};
+        if (code == simdjson::INCORRECT_TYPE)
+            return {.message = "is not a string catalog: unexpected type", .file = file_};
+        return {.message = std::string("invalid JSON: ") + simdjson::error_message(code), .file = file_};
     }
 
     Runtime::Error errorAt(ondemand::document& document, simdjson::error_code code) const {
@@ -280,8 +284,8 @@ private:
             return Runtime::Error{.message = noLanguage(sourceLanguage_), .file = file_};
         ondemand::object strings = catalog.find_field_unordered("strings").get_object();
         for (auto field : strings) {
-            const char* const place = field.key().value().raw();
-            const auto [line, column] = lines_.locate(static_cast<std::size_t>(place - 1 - text_.data()));
+            const char* const quotationMark = field.key().value().raw() - 1;
+            const auto [line, column] = lines_.locate(static_cast<std::size_t>(quotationMark - text_.data()));
             const std::string key(std::string_view(field.unescaped_key()));
             readKey(key, field.value(), line, column);
         }
@@ -289,7 +293,7 @@ private:
         return sourceLanguage_;
     }
 
-    // Finds errors in the parts of the file that nothing else reads.
+    // Finds errors outside of "strings": the parser checks a value only when it is read.
     static void checkRest(ondemand::document& document) {
         document.rewind();
         for (auto field : document.get_object())

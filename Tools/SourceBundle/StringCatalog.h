@@ -1,6 +1,6 @@
 // SourceBundle/StringCatalog.h
 // String catalogs (TABLE.xcstrings): one table in any number of languages, in JSON; internal.
-// Text: UTF-8. Threads: pure functions of the file system.
+// Text: UTF-8. Threads: any; no state.
 #pragma once
 
 #include "SourceBundle/Source.h"
@@ -12,7 +12,8 @@
 
 namespace SourceBundle {
 
-// A key's text in one language. Views are valid during the call.
+// A key's text in one language. The views are valid during the call of `add`. The other members are those of
+// SourceEntry.
 struct CatalogText {
     std::string_view language;
     std::string_view key;
@@ -28,12 +29,12 @@ struct CatalogText {
 
 // Calls `add` for each text, in the order of the file; a key without a text in the source language has itself as its
 // text there. Returns the source language. Of texts for several kinds of device, the one for `other` is taken, else the
-// one for `iphone`; the others are notes. Errors: the file cannot be read, is larger than maxCatalogBytes, or is not a
-// string catalog.
+// one for `iphone`, else the first; the others are left out with a note. Warnings: an invalid name of a language, too
+// many substitutions. Errors: the file cannot be read, is larger than maxCatalogBytes, or is not a string catalog.
 [[nodiscard]] Runtime::Result<std::string> readStringCatalog(const std::filesystem::path& file,
                                                              const std::function<void(CatalogText&&)>& add,
                                                              Diagnostics& diagnostics);
-// The same from the content of a file, which messages name.
+// The same from `bytes`, the content of `file`, which is not read.
 [[nodiscard]] Runtime::Result<std::string> parseStringCatalog(std::string bytes, const std::filesystem::path& file,
                                                               const std::function<void(CatalogText&&)>& add,
                                                               Diagnostics& diagnostics);

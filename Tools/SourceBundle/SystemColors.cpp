@@ -7,7 +7,7 @@ namespace SourceBundle {
 
 namespace {
 
-using Components = std::array<double, 4>; // red, green and blue of 255, alpha of 1
+using Components = std::array<double, 4>; // red, green and blue from 0 to 255, alpha from 0 to 1
 
 struct NamedColor {
     std::string_view name;
@@ -78,15 +78,17 @@ constexpr NamedColor colors[] = {
     {"yellow", {255, 255, 0, 1}, {255, 255, 0, 1}},
 };
 
-AssetCatalog::ColorValue valueOf(const Components& of255) {
-    return {AssetCatalog::ColorSpace::srgb, {of255[0] / 255, of255[1] / 255, of255[2] / 255, of255[3]}};
+AssetCatalog::ColorValue valueOf(const Components& components) {
+    const auto& [red, green, blue, alpha] = components;
+    return {AssetCatalog::ColorSpace::srgb, {red / 255, green / 255, blue / 255, alpha}};
 }
 
 } // namespace
 
 std::optional<SystemColor> systemColor(std::string_view name) {
-    if (name.ends_with("Color"))
-        name.remove_suffix(5);
+    constexpr std::string_view ending = "Color";
+    if (name.ends_with(ending))
+        name.remove_suffix(ending.size());
     const auto* const found = std::ranges::find(colors, name, &NamedColor::name);
     if (found == std::end(colors))
         return std::nullopt;

@@ -13,7 +13,8 @@ struct SystemColor {
     AssetCatalog::ColorValue dark;
 };
 
-// The colour that catalogs call "systemRedColor", "labelColor" and so on; Docs/catalogs.md lists them.
+// The colour that catalogs call "systemRedColor", "labelColor" and so on; no value if the name is unknown. "Color" at
+// the end may be missing. Docs/catalogs.md lists the colours.
 [[nodiscard]] std::optional<SystemColor> systemColor(std::string_view name);
 
 } // namespace SourceBundle

@@ -8,7 +8,7 @@ namespace Odd {
 
 namespace {
 
-// Its address identifies the library whose bundle is wanted.
+// The address of `code` identifies the library whose bundle is wanted.
 struct BundleFinder {
     static constexpr char code = 0;
 };

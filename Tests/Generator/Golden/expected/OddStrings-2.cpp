@@ -4,7 +4,7 @@
 #include "OddStrings/OddNames.h"
 #include "Runtime/OnceSlot.h"
 
-// Data, and one line for each accessor.
+// The keys, and the accessors that look them up.
 // clang-format off
 
 namespace Odd::OddStrings::detail {
@@ -68,8 +68,8 @@ constinit Slot slots[9];
     }
 }
 
-// The optimizations that are switched off take GCC almost half of the time and do not change a plain accessor. Aligned, it
-// is in one cache line.
+// The optimizations that are switched off take almost half of GCC's time and do not change a plain accessor. The
+// alignment keeps an accessor in one cache line.
 #if defined(__OPTIMIZE__) && !defined(__clang__)
 #pragma GCC optimize("O1", "optimize-sibling-calls", "align-functions=32", "no-tree-pta", "no-tree-sra", "no-tree-dce", \
                      "no-tree-dse", "no-tree-dominator-opts", "no-tree-fre", "no-tree-ccp", "no-tree-bit-ccp", "no-if-conversion", \

@@ -6,4 +6,4 @@
 #include "OddStrings/OddNames.h"
 #include "Runtime/Class.h"
 
-// Fingerprint of these headers: 6e50d3f31ee406b7
+// Fingerprint of these headers: 0bfe15c5ea8d6737

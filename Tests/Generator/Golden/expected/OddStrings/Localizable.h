@@ -8,7 +8,7 @@
 
 namespace Odd::OddStrings::Localizable {
 
-// Names that are odd in one way each.
+// Each of these names is unusual in another way.
 // "continue" = "Continue"
 LUMORA_EXPORT const std::string& continue_();
 
@@ -30,10 +30,10 @@ LUMORA_EXPORT const std::string& invoiceNo();
 // "日本" = "Japan"
 LUMORA_EXPORT const std::string& 日本();
 
-// "plain" = "Named as nothing in the code around it may be"
+// "plain" = "Must not clash with a name in the generated code"
 LUMORA_EXPORT const std::string& plain();
 
-// "detail" = "This neither"
+// "detail" = "Nor must this one"
 LUMORA_EXPORT const std::string& detail();
 
 } // namespace Odd::OddStrings::Localizable
@@ -54,14 +54,14 @@ LUMORA_EXPORT const std::string& delete_();
 
 namespace Odd::OddStrings::Localizable::Foundation {
 
-// "Foundation.Describable" = "A group that is called as the platform is"
+// "Foundation.Describable" = "The group has the name of a namespace of the platform"
 LUMORA_EXPORT const std::string& describable();
 
 } // namespace Odd::OddStrings::Localizable::Foundation
 
 namespace Odd::OddStrings::Localizable::Runtime {
 
-// "Runtime.std" = "And another"
+// "Runtime.std" = "So has this one, and the accessor that of the standard library"
 LUMORA_EXPORT const std::string& std();
 
 } // namespace Odd::OddStrings::Localizable::Runtime
@@ -85,7 +85,7 @@ LUMORA_EXPORT const std::string& errno_();
 // "commented" = "C:\ and D:\"
 LUMORA_EXPORT const std::string& commented();
 
-// Texts that are dangerous in a comment, keys that are in a literal.
+// Texts that are dangerous in a comment, and keys that are dangerous in a literal.
 // "ends in a backslash" = "C:\"
 LUMORA_EXPORT const std::string& endsInABackslash();
 
@@ -101,7 +101,7 @@ LUMORA_EXPORT const std::string& hides();
 // "key "quoted" \ é 1" = "on\ntwo lines"
 LUMORA_EXPORT const std::string& keyQuotedÉ1();
 
-// "long" = "A text of more than a hundred characters is cut in the comment, where it is there to be recognised, …"
+// "long" = "A text of more than a hundred characters is cut in the comment, which only has to help readers to re…"
 LUMORA_EXPORT const std::string& long_();
 
 // Placeholders.

@@ -1,5 +1,5 @@
-// SourceBundle/ContentsPlace.h
-// Locates the entries of a set in its Contents.json; internal.
+// SourceBundle/EntryPlaces.h
+// Locates the entries of a set of an asset catalog in its Contents.json; internal.
 #pragma once
 
 #include "Runtime/internal/Result.h"
