@@ -5,9 +5,9 @@
 
 namespace Foundation::detail {
 
-LocalizedTable::LocalizedTable(const Localization& owner, std::string_view name, std::string texts, std::size_t bundle,
-                               StringTables::PluralTable plurals)
-    : owner_(owner), name_(name), texts_(std::move(texts), bundle), plurals_(std::move(plurals)) {
+LocalizedTable::LocalizedTable(const Localization& owner, std::string_view name, std::string textsPath,
+                               std::size_t bundlePathSize, StringTables::PluralTable plurals)
+    : owner_(owner), name_(name), texts_(std::move(textsPath), bundlePathSize), plurals_(std::move(plurals)) {
     for (const StringTables::PluralEntry& entry : plurals_.entries())
         pluralTexts_.push_back(generalFormat(entry.plural));
 }

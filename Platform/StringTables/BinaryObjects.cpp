@@ -13,14 +13,14 @@ const char* BinaryObjects::describe(std::uint8_t type) noexcept {
 }
 
 bool BinaryObjects::open() {
-    if (!bytes_.starts_with("bplist00"))
+    if (!bytes_.starts_with("bplist00")) // the version is the two digits
         return fail(headerSize - 2, "a binary property list of an unknown version");
     if (bytes_.size() < headerSize + trailerSize)
         return fail(bytes_.size(), "the file ends before its trailer");
     const std::size_t at = bytes_.size() - trailerSize;
     offsetSize_ = byte(at + 6);
     referenceSize_ = byte(at + 7);
-    objects_ = number(at + 8, 8);
+    objectCount_ = number(at + 8, 8);
     top_ = number(at + 16, 8);
     const std::uint64_t tableAt = number(at + 24, 8);
     if (offsetSize_ < 1 || offsetSize_ > 8)
@@ -31,9 +31,9 @@ bool BinaryObjects::open() {
         return fail(at + 24, "the offset table is outside of the file");
     tableAt_ = static_cast<std::size_t>(tableAt);
     // Each object takes a byte at least, and an offset in the table.
-    if (objects_ > tableAt_ - headerSize || objects_ > (at - tableAt_) / offsetSize_)
-        return fail(at + 8, std::to_string(objects_) + " objects do not fit into the file");
-    return top_ < objects_ || fail(at + 16, "there is no object " + std::to_string(top_));
+    if (objectCount_ > tableAt_ - headerSize || objectCount_ > (at - tableAt_) / offsetSize_)
+        return fail(at + 8, std::to_string(objectCount_) + " objects do not fit into the file");
+    return top_ < objectCount_ || fail(at + 16, "there is no object " + std::to_string(top_));
 }
 
 bool BinaryObjects::top(Object& out) {
@@ -46,7 +46,7 @@ bool BinaryObjects::top(Object& out) {
 }
 
 bool BinaryObjects::object(std::uint64_t number, std::size_t referenceAt, Object& out) {
-    if (number >= objects_)
+    if (number >= objectCount_)
         return fail(referenceAt, "there is no object " + std::to_string(number));
     const std::uint64_t at = offset(number);
     if (at < headerSize || at >= tableAt_)
@@ -60,7 +60,7 @@ bool BinaryObjects::object(std::uint64_t number, std::size_t referenceAt, Object
 }
 
 bool BinaryObjects::members(std::uint64_t number, Object& object) {
-    if (!count(object))
+    if (!readCount(object))
         return false;
     if (object.count > (tableAt_ - object.begin) / referenceSize_ / 2)
         return fail(object.at, std::to_string(object.count) + " entries do not fit into the file");
@@ -70,7 +70,7 @@ bool BinaryObjects::members(std::uint64_t number, Object& object) {
 }
 
 // A count of 15 or more is stored in a number object after the marker.
-bool BinaryObjects::count(Object& object) {
+bool BinaryObjects::readCount(Object& object) {
     if (object.count < 0xF)
         return true;
     if (object.begin == tableAt_)
@@ -87,7 +87,7 @@ bool BinaryObjects::count(Object& object) {
 }
 
 bool BinaryObjects::string(std::uint64_t number, Object& object, std::string_view& out) {
-    if (!count(object))
+    if (!readCount(object))
         return false;
     const std::size_t unit = object.type == utf16 ? 2 : 1;
     if (object.count > (tableAt_ - object.begin) / unit)
@@ -107,8 +107,8 @@ bool BinaryObjects::string(std::uint64_t number, Object& object, std::string_vie
     return decode(object, out);
 }
 
-// UTF-16 to UTF-8. If the UTF-8 is not longer and no other object can overlap, it overwrites the UTF-16: touching fresh
-// memory costs more than a copy.
+// Decodes UTF-16 into free space of the arena. If the UTF-8 is not longer and no other object can overlap, it is then
+// copied over the UTF-16, so that the next string uses the same space: touching fresh memory costs more than a copy.
 bool BinaryObjects::decode(const Object& object, std::string_view& out) {
     char* const bytes = contents_.arena.reserve(out.size() / 2 * 3);
     const Decoded decoded = decodeUtf16(out, ByteOrder::big, bytes);
@@ -126,7 +126,7 @@ bool BinaryObjects::decode(const Object& object, std::string_view& out) {
 
 // Whether the objects are in the file in the order of their numbers.
 bool BinaryObjects::isOrdered() const noexcept {
-    for (std::uint64_t i = 1; i < objects_; ++i)
+    for (std::uint64_t i = 1; i < objectCount_; ++i)
         if (offset(i - 1) >= offset(i))
             return false;
     return true;

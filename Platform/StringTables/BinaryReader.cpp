@@ -30,7 +30,7 @@ private:
     BinaryObjects objects_;
     // An entry that has an object's string as its key or text, so that a shared string is read once.
     struct StringUse {
-        static constexpr std::uint32_t none = 0x7FFFFFFF; // the largest in 31 bits, and their mask
+        static constexpr std::uint32_t none = 0x7FFFFFFF; // the largest in 31 bits; also their mask
         std::uint32_t entry : 31 = none;
         std::uint32_t isKey : 1 = 0;
     };
@@ -64,9 +64,9 @@ bool BinaryReader::checkIndex() {
     case CompiledIndex::State::present:
         break;
     }
-    if (index.front() > contents_.source.size() || index.entries() != contents_.entries.size())
+    if (index.frontSize() > contents_.source.size() || index.entryCount() != contents_.entries.size())
         return objects_.fail(at, "the table's index belongs to another table");
-    const CompiledTable table(contents_.source.substr(0, index.front()), index);
+    const CompiledTable table(contents_.source.substr(0, index.frontSize()), index);
     for (const Entry& entry : contents_.entries)
         if (const auto found = table.find(entry.key, Runtime::keyHash(entry.key)); !found || found.text() != entry.text)
             return objects_.fail(entry.offset, "the table's index contradicts the entry " + quoted(entry.key));
@@ -125,7 +125,7 @@ void BinaryReader::removeReplaced() {
     std::erase_if(contents_.entries, [&](const Entry&) { return isReplaced[number++]; });
 }
 
-// Reads object `number`, a string.
+// The text of object `number`, a string, which is read if no entry has it yet.
 bool BinaryReader::string(std::uint64_t number, Object& object, std::string_view& out) {
     const StringUse use = uses_[static_cast<std::size_t>(number)];
     if (use.entry != StringUse::none) {

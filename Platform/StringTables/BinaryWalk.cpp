@@ -1,4 +1,4 @@
-// Reads any binary property list into a sink, nested dictionaries included.
+// Reads binary property lists into a sink.
 #include "StringTables/internal/BinaryObjects.h"
 #include "StringTables/internal/PropertyListSink.h"
 #include <unordered_map>
@@ -7,8 +7,8 @@ namespace StringTables::internal {
 
 namespace {
 
-// Reports the entries of a binary property list to a sink. Entries may share objects, even recursively; the sink limits
-// the depth.
+// Reports the entries of a binary property list to a sink. A dictionary may be the value of several entries, even of
+// its own: the sink limits the depth and the number of entries.
 class BinaryWalk {
 public:
     BinaryWalk(Contents& contents, PropertyListSink& sink) : objects_(contents), sink_(sink) {}
@@ -23,7 +23,7 @@ public:
 private:
     using Object = BinaryObjects::Object;
 
-    // Reports the entries of a dictionary whose size was read.
+    // Reports the entries of a dictionary whose count was read.
     bool entries(const Object& dictionary) {
         if (!sink_.beginDictionary())
             return true;

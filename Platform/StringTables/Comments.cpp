@@ -9,21 +9,21 @@ namespace {
 
 struct Comment {
     std::size_t begin = 0; // offset of its opening mark
-    std::size_t end = 0;   // one past its closing mark; of a line comment, of its line break
-    std::string_view text; // without marks and outer white space; lines end in LF
+    std::size_t end = 0;   // one past its last character, the closing mark included
+    std::string_view text; // without marks; each line is trimmed, and the lines are joined with LF
 };
 
-constexpr std::string_view blanks = " \t\v\f\r\n";
+constexpr std::string_view whiteSpace = " \t\v\f\r\n";
 
 constexpr bool isLineEnd(char c) noexcept {
     return c == '\n' || c == '\r';
 }
 
 std::string_view trimmed(std::string_view text) noexcept {
-    const std::size_t first = text.find_first_not_of(blanks);
+    const std::size_t first = text.find_first_not_of(whiteSpace);
     if (first == text.npos)
         return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+    return text.substr(first, text.find_last_not_of(whiteSpace) - first + 1);
 }
 
 // Trims each line and joins the lines with LF. A single line is not copied.
@@ -82,16 +82,16 @@ private:
     Arena& arena_;
 };
 
-// Joins the comments of one entry.
-class Attachment {
+// The comments between an entry and the key of the entry before it.
+class CommentsBefore {
 public:
-    Attachment(const Contents& contents, std::span<const Comment> comments)
+    CommentsBefore(const Contents& contents, std::span<const Comment> comments)
         : source_(contents.source), begin_(contents.begin), comments_(comments) {}
 
-    // The comment of the entry at `offset`.
-    std::string text(std::size_t offset) const {
+    // Those that belong to the entry at `offset`, joined.
+    std::string joined(std::size_t offset) const {
         std::size_t first = comments_.size();
-        for (std::size_t next = offset; first > 0 && leadsTo(comments_[first - 1], next, first - 1); --first)
+        for (std::size_t next = offset; first > 0 && leadsTo(first - 1, next); --first)
             next = comments_[first - 1].begin;
         std::string out;
         for (const Comment& comment : comments_.subspan(first))
@@ -101,10 +101,12 @@ public:
     }
 
 private:
-    // Whether the comment belongs to what begins at `next`: at most one line break is between them.
-    bool leadsTo(const Comment& comment, std::size_t next, std::size_t number) const {
-        const std::string_view between = source_.substr(comment.end, next - comment.end);
-        if (between.find_first_not_of(blanks) != between.npos)
+    // Whether comment `number` belongs to what begins at `next`: only white space is between them, with at most one
+    // line break, and before a line break the comment is not at the end of another entry's line.
+    bool leadsTo(std::size_t number, std::size_t next) const {
+        const std::size_t begin = comments_[number].end;
+        const std::string_view between = source_.substr(begin, next - begin);
+        if (between.find_first_not_of(whiteSpace) != between.npos)
             return false;
         const std::size_t end = between.find_first_of("\r\n");
         if (end == between.npos)
@@ -113,11 +115,11 @@ private:
         return rest.find_first_of("\r\n") == rest.npos && beginsLine(number);
     }
 
-    // Whether only comments precede comment `number` on its line.
+    // Whether only comments and white space precede comment `number` on its line.
     bool beginsLine(std::size_t number) const {
         for (;; --number) {
             std::size_t at = comments_[number].begin;
-            while (at > begin_ && !isLineEnd(source_[at - 1]) && blanks.find(source_[at - 1]) != blanks.npos)
+            while (at > begin_ && !isLineEnd(source_[at - 1]) && whiteSpace.find(source_[at - 1]) != whiteSpace.npos)
                 --at;
             if (at == begin_ || isLineEnd(source_[at - 1]))
                 return true;
@@ -148,11 +150,12 @@ std::vector<std::string> commentsOf(std::span<const std::size_t> entryOffsets, c
     const std::vector<Comment> comments = findComments(contents, arena);
     std::vector<std::string> texts;
     texts.reserve(entryOffsets.size());
-    std::size_t first = 0, end = 0;
+    std::size_t end = 0;
     for (const std::size_t offset : entryOffsets) {
-        for (first = end; end != comments.size() && comments[end].begin < offset; ++end)
-            continue;
-        texts.push_back(Attachment(contents, std::span(comments).subspan(first, end - first)).text(offset));
+        const std::size_t first = end;
+        while (end != comments.size() && comments[end].begin < offset)
+            ++end;
+        texts.push_back(CommentsBefore(contents, std::span(comments).subspan(first, end - first)).joined(offset));
     }
     return texts;
 }

@@ -21,10 +21,11 @@ bool resembles(std::string_view found, std::string_view mark) noexcept {
     return same > mark.size() / 2;
 }
 
-// Random keys need far less. Keys that were made to collide could otherwise cost quadratic time.
+// Limits of the search for displacements. Random keys need far less; keys that were made to collide could otherwise
+// cost quadratic time.
 constexpr std::size_t fullestBucket = 32;
 constexpr std::size_t mostTriesPerKey = 64;
-constexpr std::size_t mostTriesBesides = std::size_t{1} << 16; // for the last keys of a small table
+constexpr std::size_t mostExtraTries = std::size_t{1} << 16; // for the last keys of a small table
 
 // The indices of the keys in each bucket, largest buckets first because they are the hardest to place.
 std::vector<std::vector<std::size_t>> keysByBucket(std::span<const std::uint32_t> bucketOfKey, std::size_t count) {
@@ -43,12 +44,12 @@ CompiledIndex::State CompiledIndex::recognize(std::string_view head, CompiledInd
         return State::none;
     const char* const numbers = head.data() + markAt + mark.size();
     const auto number = [numbers](std::size_t i) { return Runtime::loadLittle<std::uint32_t>(numbers + 4 * i); };
-    out.slots_ = number(0);
-    out.buckets_ = number(1);
-    out.entries_ = number(2);
-    out.front_ = number(3);
+    out.slotCount_ = number(0);
+    out.bucketCount_ = number(1);
+    out.entryCount_ = number(2);
+    out.frontSize_ = number(3);
     const bool isWhole = head.substr(markAt, mark.size()) == mark && number(4) == out.numbersCheck() &&
-                         out.entries_ < out.slots_ && out.buckets_ > 0 && out.slotsEnd() <= out.front_;
+                         out.entryCount_ < out.slotCount_ && out.bucketCount_ > 0 && out.slotsEnd() <= out.frontSize_;
     return isWhole ? State::present : State::damaged;
 }
 
@@ -62,7 +63,7 @@ CompiledIndex::State CompiledIndex::recognizeFile(std::string_view file, Compile
 
 std::uint32_t CompiledIndex::numbersCheck() const noexcept {
     std::uint64_t check = Runtime::keyHash(mark);
-    for (const std::uint32_t number : {slots_, buckets_, entries_, front_})
+    for (const std::uint32_t number : {slotCount_, bucketCount_, entryCount_, frontSize_})
         check = Runtime::mixed(check ^ number, Runtime::hashSpread);
     return static_cast<std::uint32_t>(check ^ check >> 32);
 }
@@ -70,17 +71,18 @@ std::uint32_t CompiledIndex::numbersCheck() const noexcept {
 std::optional<CompiledIndexWriter> CompiledIndexWriter::make(std::span<const std::uint64_t> keyHashes) {
     CompiledIndexWriter writer;
     CompiledIndex& index = writer.index_;
-    index.entries_ = static_cast<std::uint32_t>(keyHashes.size());
-    index.slots_ = index.entries_ + index.entries_ / 8 + 1;
-    index.buckets_ = index.entries_ / 4 + 1;
-    writer.displacements_.resize(index.buckets_);
+    index.entryCount_ = static_cast<std::uint32_t>(keyHashes.size());
+    index.slotCount_ = index.entryCount_ + index.entryCount_ / 8 + 1;
+    index.bucketCount_ = index.entryCount_ / 4 + 1;
+    writer.displacements_.resize(index.bucketCount_);
     writer.slotOfEntry_.resize(keyHashes.size());
     std::vector<std::uint32_t> bucketOfKey;
     for (const std::uint64_t hash : keyHashes)
         bucketOfKey.push_back(index.bucket(hash));
 
-    std::vector<bool> isTaken(index.slots_);
+    std::vector<bool> isTaken(index.slotCount_);
     std::vector<std::uint32_t> places;
+    // Whether the slots of the bucket's keys are free and different; `places` are these slots.
     const auto fits = [&](const std::vector<std::size_t>& bucket, std::uint16_t displacement) {
         places.clear();
         for (const std::size_t key : bucket) {
@@ -91,12 +93,14 @@ std::optional<CompiledIndexWriter> CompiledIndexWriter::make(std::span<const std
         }
         return true;
     };
-    std::size_t tries = mostTriesBesides + mostTriesPerKey * keyHashes.size();
-    for (const std::vector<std::size_t>& bucket : keysByBucket(bucketOfKey, index.buckets_)) {
+    std::size_t tries = mostExtraTries + mostTriesPerKey * keyHashes.size();
+    for (const std::vector<std::size_t>& bucket : keysByBucket(bucketOfKey, index.bucketCount_)) {
         if (bucket.empty())
             break;
+        if (bucket.size() > fullestBucket)
+            return std::nullopt;
         static constexpr std::uint32_t most = std::numeric_limits<std::uint16_t>::max();
-        std::uint32_t displacement = bucket.size() > fullestBucket ? most + 1 : 0;
+        std::uint32_t displacement = 0;
         for (; displacement <= most && !fits(bucket, static_cast<std::uint16_t>(displacement)); ++displacement)
             if (tries-- == 0)
                 return std::nullopt;
@@ -111,27 +115,27 @@ std::optional<CompiledIndexWriter> CompiledIndexWriter::make(std::span<const std
     return writer;
 }
 
-void CompiledIndexWriter::write(std::string& file, std::size_t front, std::string_view strings,
+void CompiledIndexWriter::write(std::string& file, std::size_t frontSize, std::string_view copy,
                                 std::span<const CompiledIndex::Slot> slots) const {
     CompiledIndex index = index_;
-    index.front_ = static_cast<std::uint32_t>(front);
-    std::string bytes = "\x4F\x12"; // data with a size of four bytes
-    const std::size_t size = stringsAt() + strings.size() - CompiledIndex::markAt;
+    index.frontSize_ = static_cast<std::uint32_t>(frontSize);
+    std::string bytes = "\x4F\x12"; // the markers of a data object and of its size, a number of four bytes
+    const std::size_t size = copyAt() + copy.size() - CompiledIndex::markAt;
     for (int shift = 24; shift >= 0; shift -= 8)
         bytes += static_cast<char>(size >> shift & 0xFF);
     bytes += CompiledIndex::mark;
     for (const std::uint32_t number :
-         {index.slots_, index.buckets_, index.entries_, index.front_, index.numbersCheck()})
+         {index.slotCount_, index.bucketCount_, index.entryCount_, index.frontSize_, index.numbersCheck()})
         appendLittle(bytes, number);
     for (const std::uint16_t displacement : displacements_)
         appendLittle(bytes, displacement);
-    std::vector<CompiledIndex::Slot> all(index.slots_);
+    std::vector<CompiledIndex::Slot> all(index.slotCount_);
     for (std::size_t i = 0; i < slots.size(); ++i)
         all[slotOfEntry_[i]] = slots[i];
     for (const CompiledIndex::Slot& slot : all)
         for (const std::uint32_t number : {slot.keyAt, slot.keySize, slot.textAt, slot.textSize, slot.check})
             appendLittle(bytes, number);
-    bytes += strings;
+    bytes += copy;
     file.replace(CompiledIndex::objectAt, bytes.size(), bytes);
     file.replace(file.size() - CompiledIndex::trailerSize, CompiledIndex::trailerMark.size(),
                  CompiledIndex::trailerMark);

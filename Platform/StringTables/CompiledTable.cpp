@@ -6,13 +6,13 @@ namespace StringTables::internal {
 
 CompiledTable::CompiledTable(std::string front, const CompiledIndex& index)
     : front_(front.size() < index.slotsEnd() ? std::string() : std::move(front)), index_(index),
-      states_(new std::atomic<std::uint32_t>[front_.empty() ? 0 : index.slots()] {}),
+      states_(new std::atomic<std::uint32_t>[front_.empty() ? 0 : index.slotCount()] {}),
       left_(static_cast<std::ptrdiff_t>(mostTextPerFront * front_.size())) {}
 
 std::uint32_t CompiledTable::check(std::uint32_t number, std::string_view key, std::uint64_t hash) const noexcept {
-    const CompiledIndex::Slot slot = slotAt(number);
+    const CompiledIndex::Slot slot = readSlot(number);
     if (!isInside(slot.keyAt, slot.keySize) || keyOf(slot) != key || !isInside(slot.textAt, slot.textSize))
-        return damaged; // or another key's slot, whose state stays unknown
+        return damaged; // or another key's; the stored state stays unknown
     const std::string_view text = textOf(slot);
     const auto size = static_cast<std::ptrdiff_t>(text.size());
     const bool isRight = left_.load(std::memory_order_relaxed) >= size && isIntact(slot, hash, text);

@@ -13,12 +13,12 @@ using internal::CompiledIndex;
 using internal::CompiledIndexWriter;
 using internal::isAscii;
 
-// The strings that are not ASCII, each stored once.
-class Utf8Strings {
+// The UTF-8 copy of the strings that are not ASCII, each stored once.
+class Utf8Copy {
 public:
-    explicit Utf8Strings(std::size_t begin) : begin_(begin) {}
+    explicit Utf8Copy(std::size_t begin) : begin_(begin) {}
 
-    // The offset in the file of string `number` in UTF-8.
+    // The offset in the file of the copy of string `number`, which is made by the first call.
     std::size_t at(BinaryWriter::Number number, std::string_view text) {
         const auto [known, isNew] = places_.try_emplace(number, begin_ + bytes_.size());
         if (isNew)
@@ -42,7 +42,7 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
         BinaryWriter::Number key, text;
     };
     std::vector<Numbers> numbers(entries.size());
-    const auto addStrings = [&](bool ascii) {
+    const auto addStrings = [&](bool ascii) { // those that are ASCII, or the others
         for (std::size_t i = 0; i < entries.size(); ++i) {
             if (isAscii(entries[i].key) == ascii)
                 numbers[i].key = list.string(entries[i].key);
@@ -53,19 +53,19 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
     addStrings(true);
     const auto dictionary = list.dictionary();
     addStrings(false);
-    Utf8Strings utf8(index.stringsAt());
+    Utf8Copy copy(index.copyAt());
     for (std::size_t i = 0; i < entries.size(); ++i) {
         list.add(dictionary, numbers[i].key, numbers[i].text);
         if (!isAscii(entries[i].key))
-            utf8.at(numbers[i].key, entries[i].key);
+            copy.at(numbers[i].key, entries[i].key);
         if (!isAscii(entries[i].text))
-            utf8.at(numbers[i].text, entries[i].text);
+            copy.at(numbers[i].text, entries[i].text);
     }
-    list.setReservedSize(indexObject, index.objectSize(utf8.bytes().size()));
+    list.setReservedSize(indexObject, index.objectSize(copy.bytes().size()));
     std::string bytes = list.write();
 
     const auto offsetOf = [&](BinaryWriter::Number number, std::string_view string) {
-        return static_cast<std::uint32_t>(isAscii(string) ? list.charactersAt(number) : utf8.at(number, string));
+        return static_cast<std::uint32_t>(isAscii(string) ? list.charactersAt(number) : copy.at(number, string));
     };
     std::vector<CompiledIndex::Slot> slots;
     for (std::size_t i = 0; i < entries.size(); ++i) {
@@ -76,7 +76,7 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
                          .textSize = static_cast<std::uint32_t>(text.size()),
                          .check = CompiledIndex::check(hashes[i], text)});
     }
-    index.write(bytes, list.offset(dictionary), utf8.bytes(), slots);
+    index.write(bytes, list.offset(dictionary), copy.bytes(), slots);
     return bytes;
 }
 

@@ -16,7 +16,7 @@ class PercentRange {
 public:
     // The whole text.
     constexpr PercentRange() noexcept = default;
-    // The smallest range; for a text of 64 KB or more, the whole text.
+    // The smallest range; for a text of 65,535 bytes or more, the whole text.
     static constexpr PercentRange of(std::string_view text) noexcept {
         if (text.size() >= toTheEnd)
             return {};

@@ -6,7 +6,7 @@ namespace StringTables {
 
 namespace {
 
-// Reads the parts of a placeholder in order. Functions return false when there is no placeholder.
+// Reads the parts of a placeholder in order. A function that reads a part returns false if this is no placeholder.
 class Reader {
 public:
     Reader(std::string_view format, std::size_t percent) noexcept : format_(format), at_(percent + 1) {
@@ -18,7 +18,7 @@ public:
             out_.end = at_;
             return true;
         }
-        if (next() == '@') // nearly all of them
+        if (next() == '@') // "%@", the most frequent one
             return conversion();
         int position = 0;
         if (!this->position(position))
@@ -34,8 +34,9 @@ public:
 
 private:
     char next() const noexcept { return at_ < format_.size() ? format_[at_] : '\0'; }
+    // Consumes `c`, which is not NUL, if it is next.
     bool take(char c) noexcept {
-        const bool is = next() == c && at_ < format_.size();
+        const bool is = next() == c;
         at_ += is;
         return is;
     }
@@ -51,7 +52,8 @@ private:
         return true;
     }
 
-    // Reads a position such as "12$". Digits without the '$' are not consumed. False for a position outside 1 to 9999.
+    // Reads a position such as "12$". Digits without the '$' are not consumed and leave `out` as it is. False for a
+    // position of 0 or of more than four digits.
     bool position(int& out) noexcept {
         const std::size_t begin = at_;
         int number = 0;
@@ -91,6 +93,7 @@ private:
             }
     }
 
+    // Reads a width, or a precision without its point.
     bool size(Placeholder::Size& out) noexcept {
         using From = Placeholder::Size::From;
         const std::size_t begin = at_;
@@ -120,7 +123,7 @@ private:
         } else if (take('l')) {
             take('l');
         } else {
-            constexpr std::string_view others = "qztjL"; // arguments have 64 bits
+            constexpr std::string_view others = "qztjL"; // without effect: arguments have 64 bits
             if (next() != '\0' && others.find(next()) != others.npos)
                 ++at_;
         }

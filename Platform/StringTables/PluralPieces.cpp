@@ -36,7 +36,7 @@ std::optional<PluralPiece> PluralPieces::next() noexcept {
         piece.placeholder.end += piece.variable->name.size() + 1;
         if (variable_ != nullptr && placeholder->position == 0)
             counter_ = ArgumentCounter(argumentOf(*piece.variable) - 1);
-    } else if (skipsOwn(*placeholder)) {
+    } else if (skipsOwn(*placeholder, counter_.taken())) {
         counter_.next();
     }
     piece.arguments = counter_.take(*placeholder);
@@ -60,14 +60,14 @@ std::size_t PluralPieces::argumentOf(const PluralVariable& named) noexcept {
         countMostBefore();
     const std::size_t number = numberOf(named);
     const std::size_t most = number < mostBefore_->size() ? (*mostBefore_)[number] : 0;
-    return std::max(own_ + most, counter_.taken() + 1);
+    return std::max(most, counter_.taken()) + 1;
 }
 
 void PluralPieces::countMostBefore() noexcept {
     auto& most = mostBefore_.emplace();
     for (const auto& form : variable_->forms) {
         std::bitset<PluralTable::maxVariables> isNamed;
-        ArgumentCounter counter;
+        ArgumentCounter counter(own_ - 1);
         std::size_t at = 0;
         while (const auto placeholder = form ? nextPlaceholder(*form, at) : std::nullopt) {
             const PluralVariable* const named = variableAt(*form, *placeholder);
@@ -75,6 +75,8 @@ void PluralPieces::countMostBefore() noexcept {
                 number < isNamed.size() && !isNamed[number]) {
                 isNamed.set(number);
                 most[number] = std::max(most[number], static_cast<std::uint32_t>(counter.taken()));
+            } else if (named == nullptr && skipsOwn(*placeholder, counter.taken())) {
+                counter.next();
             }
             counter.take(*placeholder);
             at = placeholder->end;
@@ -82,8 +84,9 @@ void PluralPieces::countMostBefore() noexcept {
     }
 }
 
-bool PluralPieces::skipsOwn(const Placeholder& placeholder) const noexcept {
-    return variable_ != nullptr && counter_.taken() + 1 == own_ && placeholder.position == 0 &&
+// Whether a placeholder in a form leaves out the variable's own number, which is next after `taken` arguments.
+bool PluralPieces::skipsOwn(const Placeholder& placeholder, std::size_t taken) const noexcept {
+    return variable_ != nullptr && taken + 1 == own_ && placeholder.position == 0 &&
            placeholder.kind == Placeholder::Kind::text && !isText(variable_->valueType);
 }
 
@@ -100,8 +103,8 @@ public:
     FormatSignature signature;
 
 private:
-    // One text: the format (`own` is 0), or a form of the variable that the argument `own` chooses. Its own number
-    // has no position and needs none, whatever the others have.
+    // One text: the format (`own` is 0), or a form of the variable that the argument `own` chooses. A placeholder for
+    // this argument needs no position, even if the others have one.
     void add(PluralPieces pieces, std::size_t own) {
         ArgumentStyle style;
         while (const auto piece = pieces.next()) {
@@ -118,15 +121,15 @@ private:
     // Adds the forms of a variable, once for each argument that selects them.
     void add(const PluralVariable& variable, std::size_t argument) {
         signature.add(argument, kindOf(variable));
-        if (argument > mostArguments || seen_.size() == mostVisits || !seen_.emplace(&variable, argument).second)
+        if (argument > lastSelecting || seen_.size() == mostVisits || !seen_.emplace(&variable, argument).second)
             return;
         for (const auto& form : variable.forms)
             if (form)
                 add(PluralPieces(plural_, *form, variable, argument), argument);
     }
 
-    // Variables that refer to each other could increase the argument number without end.
-    static constexpr std::size_t mostArguments = 64;
+    // Variables whose forms contain each other could increase the argument without end.
+    static constexpr std::size_t lastSelecting = 64; // the last argument whose forms are read
     static constexpr std::size_t mostVisits = 256;
 
     const PluralFormat& plural_;

@@ -110,11 +110,11 @@ public:
         keyOffsets_.resize(kept);
         return std::move(entries_);
     }
-    // By entry.
+    // Of the entries that takeEntries() returned.
     const std::vector<std::size_t>& keyOffsets() const noexcept { return keyOffsets_; }
 
 private:
-    // The depth of each kind of key.
+    // The level of a key is the number of dictionaries around it.
     static constexpr std::size_t entryLevel = 1, variableLevel = 2, levels = 3;
 
     const char* count(std::string_view text) noexcept {
@@ -130,6 +130,7 @@ private:
         skip(what);
         drop();
     }
+    // Drops the earlier entry with the current key, if there is one.
     void drop() {
         const auto known = numbers_.find(keys_[0]);
         if (known == numbers_.end() || keyOffsets_[known->second] == dropped)
@@ -212,11 +213,11 @@ private:
     }
 
     Contents& contents_;
-    std::size_t depth_ = 0;
+    std::size_t depth_ = 0;                // of open dictionaries
     std::array<std::string, levels> keys_; // the current ones, by level
     std::array<std::size_t, levels> offsets_{};
-    std::size_t values_ = 0;
-    std::size_t bytes_ = 0;
+    std::size_t values_ = 0; // of all levels so far
+    std::size_t bytes_ = 0;  // of all keys and texts so far
 
     PluralFormat plural_;
     bool hasFormat_ = false;

@@ -9,7 +9,7 @@ namespace {
 
 using internal::CompiledIndex;
 
-// Reads parts of an open file through a buffer of one block.
+// The source of findIn(): reads parts of an open file through a buffer of one block.
 class FileParts {
 public:
     explicit FileParts(const Runtime::OpenFile& file) noexcept : file_(file) {}
@@ -18,7 +18,7 @@ public:
         if (const auto there = inBlock(at); there.size() >= size)
             return there.substr(0, size);
         if (size > block_.size())
-            return inLongBlock(at, size);
+            return longPart(at, size);
         begin_ = at;
         size_ = read(block_.data(), block_.size());
         return inBlock(at).substr(0, size);
@@ -29,14 +29,15 @@ private:
         return at >= begin_ && at - begin_ <= size_ ? std::string_view(block_.data(), size_).substr(at - begin_)
                                                     : std::string_view();
     }
-    std::string_view inLongBlock(std::size_t at, std::size_t size) {
+    std::string_view longPart(std::size_t at, std::size_t size) {
         begin_ = at;
         size_ = 0;
         long_.resize(std::min(size, file_.size()));
         return std::string_view(long_).substr(0, read(long_.data(), long_.size()));
     }
     std::size_t read(char* out, std::size_t size) const {
-        const std::size_t left = file_.size() - std::min(begin_, file_.size()); // asking for more takes another call
+        // Asking for more than is left would take another system call.
+        const std::size_t left = file_.size() - std::min(begin_, file_.size());
         const auto filled = file_.read(out, std::min(size, left), begin_);
         if (!filled)
             Runtime::throwIfTransient(filled.error());
@@ -44,7 +45,7 @@ private:
     }
 
     const Runtime::OpenFile& file_;
-    // Large enough for the index's head and displacements in a table of 2,000 entries, and for nearly every key or
+    // Large enough for the index's head and displacements in a table of 1,900 entries, and for nearly every key or
     // text.
     std::array<char, 1024> block_;
     std::size_t begin_ = 0, size_ = 0; // of the block's content
@@ -54,7 +55,7 @@ private:
 // A smaller file is read in one go.
 constexpr std::size_t smallFile = 8192;
 
-// Reads on until `bytes` are the first `size` bytes of the file, or all if it is shorter or unreadable.
+// Reads on until `bytes` are the first `size` bytes of the file, or as many as can be read.
 void readOn(const Runtime::OpenFile& file, std::string& bytes, std::size_t size) {
     const std::size_t before = bytes.size();
     bytes.resize(std::max(before, std::min(size, file.size())));
@@ -103,16 +104,17 @@ FoundText StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
     return whole_.get([&] { return readWhole(file ? std::move(file) : opened()); }).find(key, hash);
 }
 
-// No value for a file that is missing or cannot be a table.
+// No value if the file is missing, cannot be opened, or cannot be a table.
 std::optional<Runtime::OpenFile> StoredTable::opened() const {
-    auto file = Runtime::OpenFile::open(path_, Table::maxBytes, bundle());
+    auto file = Runtime::OpenFile::open(path_, Table::maxBytes, bundlePath());
     if (file)
         return *std::move(file);
     Runtime::throwIfTransient(file.error());
     return std::nullopt;
 }
 
-// Null when the file must be read whole: it has no index, is small, or has changed since the other parts were read.
+// Null when the table must be read as a whole: it has no index, its file is small or has changed since the other parts
+// were read.
 std::unique_ptr<const StoredTable::Part> StoredTable::readPart(const Runtime::OpenFile& file,
                                                                std::string_view key) const {
     const Part* const first = parts_.front().load(std::memory_order_acquire);
@@ -134,7 +136,7 @@ StoredTable::Whole StoredTable::readWhole(std::optional<Runtime::OpenFile> file)
     CompiledIndex index;
     const bool isCompiled = CompiledIndex::recognize(std::string_view(bytes).substr(0, CompiledIndex::headSize),
                                                      index) == CompiledIndex::State::present;
-    const std::size_t needed = isCompiled ? index.front() : file->size();
+    const std::size_t needed = isCompiled ? index.frontSize() : file->size();
     readOn(*file, bytes, needed);
     if (isCompiled)
         return Whole(bytes.size() > needed ? bytes.substr(0, needed) : std::move(bytes), index);

@@ -25,7 +25,7 @@ Location Locator::locate(std::size_t offset) noexcept {
         return {};
     const char* at = source_.data() + at_;
     const char* const end = source_.data() + offset;
-    // The source is followed by a NUL.
+    // mark[1] may be the NUL that follows the source.
     for (const char* mark = findEither(at, end, '\n', '\r'); mark != end; mark = findEither(mark + 1, end, '\n', '\r'))
         if (*mark == '\n' || mark[1] != '\n') {
             ++location_.line;
@@ -33,7 +33,7 @@ Location Locator::locate(std::size_t offset) noexcept {
             at = mark + 1;
         }
     location_.column += countCharacters({at, end});
-    at_ = std::max(at_, offset);
+    at_ = offset;
     return location_;
 }
 
@@ -49,17 +49,18 @@ Runtime::Error Contents::errorAt(std::size_t offset, std::string message) const 
 }
 
 void Contents::note(std::string_view before, std::string_view key, std::string_view after, std::size_t offset) {
-    if (found.size() == Table::maxNotes)
-        ++more;
+    if (foundNotes.size() == Table::maxNotes)
+        ++notesLeftOut;
     else
-        found.push_back({static_cast<std::uint32_t>(offset), std::string(before).append(quoted(key)).append(after)});
+        foundNotes.push_back(
+            {static_cast<std::uint32_t>(offset), std::string(before).append(quoted(key)).append(after)});
 }
 
 void Contents::noteRepeated(std::string_view key, std::string_view what, std::size_t offset) {
-    const std::size_t before = found.size();
+    const std::size_t before = foundNotes.size();
     note("the key ", key, std::string(" appears again; ").append(what), offset);
-    if (found.size() != before)
-        found.back().repeatedKey.emplace(key);
+    if (foundNotes.size() != before)
+        foundNotes.back().repeatedKey.emplace(key);
 }
 
 void Contents::noteSkipped(std::string_view key, std::string_view what, std::size_t offset) {
@@ -69,8 +70,8 @@ void Contents::noteSkipped(std::string_view key, std::string_view what, std::siz
 void Contents::addSkipped(std::string_view key, std::string_view what, std::size_t offset) {
     noteSkipped(key, what, offset);
     hasSkipped = true;
-    if (!add(key, noText, offset))
-        skippedAtEnd = static_cast<std::uint32_t>(offset);
+    if (!add(key, noText, offset) && !skippedWhenFull)
+        skippedWhenFull = static_cast<std::uint32_t>(offset);
 }
 
 void Contents::noteReplaced(const Entry& entry, const Entry& later) {
@@ -87,20 +88,20 @@ void Contents::finish() {
     });
     if (hasSkipped && std::erase_if(entries, [](const Entry& entry) { return !hasText(entry); }) != 0)
         index.build(entries, [](Entry&, const Entry&) {});
-    std::ranges::stable_sort(found, {}, &Note::offset);
+    std::ranges::stable_sort(foundNotes, {}, &FoundNote::offset);
     Locator locator(*this);
-    for (Note& kept : found)
-        notes.push_back({locator.error(kept.offset, std::move(kept.message)), std::move(kept.repeatedKey)});
-    if (more != 0)
-        notes.push_back({{.message = std::to_string(more) + " more of such notes"}});
-    found = {};
+    for (FoundNote& found : foundNotes)
+        notes.push_back({locator.error(found.offset, std::move(found.message)), std::move(found.repeatedKey)});
+    if (notesLeftOut != 0)
+        notes.push_back({{.message = std::to_string(notesLeftOut) + " more of such notes"}});
+    foundNotes = {};
 }
 
 namespace {
 
 constexpr std::string_view markLittle = "\xFF\xFE", markBig = "\xFE\xFF";
 
-// UTF-16 is recognized by its byte-order mark, or by a zero byte beside the ASCII character that begins every table.
+// UTF-16 is recognized by its byte-order mark, or by a zero byte beside the ASCII character with which tables begin.
 std::optional<ByteOrder> utf16Order(std::string_view bytes) {
     if (bytes.starts_with(markLittle))
         return ByteOrder::little;
@@ -142,8 +143,8 @@ Runtime::Result<void> fill(Contents& contents) {
     auto done = recognize(contents);
     if (done)
         done = readForm(contents);
-    if (done && contents.skippedAtEnd)
-        return contents.errorAt(*contents.skippedAtEnd, tooManyEntries);
+    if (done && contents.skippedWhenFull)
+        return contents.errorAt(*contents.skippedWhenFull, tooManyEntries);
     return done;
 }
 
@@ -176,7 +177,7 @@ namespace {
 std::vector<std::size_t> inSourceOrder(std::span<const Entry> entries) {
     std::vector<std::size_t> order(entries.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    if (!std::ranges::is_sorted(entries, {}, &Entry::offset)) // a key appears again
+    if (!std::ranges::is_sorted(entries, {}, &Entry::offset)) // a key is repeated, or the table is binary
         std::ranges::sort(order, {}, [&](std::size_t number) { return entries[number].offset; });
     return order;
 }

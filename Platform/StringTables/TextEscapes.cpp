@@ -22,8 +22,8 @@ constexpr char16_t nextstep[0x7E] = {
     0x00ED, 0x00AA, 0x00EE, 0x00EF, 0x00F0, 0x00F1, 0x0141, 0x00D8, 0x0152, 0x00BA, 0x00F2, 0x00F3, 0x00F4, 0x00F5,
     0x00F6, 0x00E6, 0x00F9, 0x00FA, 0x00FB, 0x0131, 0x00FC, 0x00FD, 0x0142, 0x00F8, 0x0153, 0x00DF, 0x00FE, 0x00FF};
 
-// The escape functions are called with `in` at a backslash (never the last character) and move it past the escape. They
-// return what is wrong with the escape, or null.
+// The escape functions are called with `in` at a backslash. They move it past the escape, write its character at `out`
+// and return null; or they change nothing and return what is wrong with the escape.
 using Fault = const char*;
 
 // The UTF-16 unit written as \U and four digits at `at`, or -1. Reads no further than the first other character.

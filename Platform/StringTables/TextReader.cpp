@@ -9,7 +9,7 @@ namespace StringTables::internal {
 
 namespace {
 
-enum CharacterClass : std::uint8_t { other, space, bare };
+enum CharacterClass : std::uint8_t { other, space, bare }; // bare: can be in a string without quotation marks
 
 constexpr auto classes = [] {
     std::array<std::uint8_t, 256> of{};
@@ -26,9 +26,9 @@ constexpr bool is(CharacterClass wanted, char c) noexcept {
 
 // table := entries | '{' entries '}'       entry := string ['=' value] ';'; the last ';' may be missing
 // value := string | '{' entries '}' | '(' value, ... ')' | '<' hexadecimal digits '>'
-// Recursive descent. Each function starts at the first character of its construct and stops after the last; it returns
-// false after setting `error_`. The source ends in the NUL of std::string and contains no other, so one character can
-// be read without a check for the end.
+// An entry without a value has its key as text. Recursive descent: each function starts at the first character of its
+// construct and stops after the last; it returns false after setting `error_`. The source ends in the NUL of
+// std::string and contains no other, so one character can be read without a check for the end.
 class TextReader {
 public:
     explicit TextReader(Contents& contents)
@@ -45,7 +45,7 @@ private:
     bool isText();
     bool table();
     bool entries(std::size_t depth, const char* open);
-    bool entry(std::size_t depth, bool braces);
+    bool entry(std::size_t depth, bool isInBraces);
     bool value(std::string_view& text, std::size_t depth, const char*& skipped);
     bool array(std::size_t depth);
     bool data();
@@ -79,7 +79,7 @@ bool TextReader::isText() {
 }
 
 bool TextReader::table() {
-    constexpr std::size_t shortEntry = 48, fewest = 8, most = 65536;
+    constexpr std::size_t shortEntry = 48, fewest = 8, most = 65536; // an estimate; a table may have more entries
     contents_.entries.reserve(std::clamp(contents_.source.size() / shortEntry, fewest, most));
     if (!blanks())
         return false;
@@ -91,7 +91,7 @@ bool TextReader::table() {
     return at_ == end_ || fail(at_, "text after the table's closing brace");
 }
 
-// Reads entries up to the brace that closes `open`, or to the end of the file.
+// Reads entries up to the brace that closes the one at `open`, or to the end of the file if `open` is null.
 bool TextReader::entries(std::size_t depth, const char* open) {
     for (;;) {
         if (!blanks())
@@ -102,12 +102,12 @@ bool TextReader::entries(std::size_t depth, const char* open) {
             ++at_;
             return true;
         }
-        if (!entry(depth, open))
+        if (!entry(depth, open != nullptr))
             return false;
     }
 }
 
-bool TextReader::entry(std::size_t depth, bool braces) {
+bool TextReader::entry(std::size_t depth, bool isInBraces) {
     const char* const begin = at_;
     std::string_view key;
     if (!string(key, "a key") || !blanks())
@@ -122,11 +122,11 @@ bool TextReader::entry(std::size_t depth, bool braces) {
     }
     if (*at_ == ';')
         ++at_;
-    else if (at_ != end_ && !(braces && *at_ == '}'))
+    else if (at_ != end_ && !(isInBraces && *at_ == '}'))
         return fail(at_,
                     alone ? "expected '=' or ';' after the key " + quoted(key)
                           : "expected ';' after the " + std::string(skipped ? "value" : "text") + " of " + quoted(key));
-    if (depth > 0)
+    if (depth > 0) // in a dictionary that is skipped
         return true;
     if (skipped)
         contents_.addSkipped(key, skipped, offset(begin));
@@ -149,8 +149,6 @@ bool TextReader::value(std::string_view& text, std::size_t depth, const char*& s
     case '<':
         skipped = "data";
         return data();
-    case '"':
-        return quotedString(text);
     default:
         return string(text, "a value");
     }
@@ -200,12 +198,12 @@ bool TextReader::string(std::string_view& out, const char* wanted) {
 }
 
 bool TextReader::quotedString(std::string_view& out) {
-    const auto [first, close] = quotedEnd(at_, end_);
+    const auto [close, firstEscape] = quotedEnd(at_, end_);
     if (close == end_)
         return fail(at_, "the string is never closed");
     out = between(at_ + 1, close);
     at_ = close + 1;
-    if (first == close)
+    if (firstEscape == close)
         return true;
     const Unescaped unescaped = unescape(out, contents_.arena.reserve(out.size()));
     if (unescaped.message)
@@ -214,7 +212,7 @@ bool TextReader::quotedString(std::string_view& out) {
     return true;
 }
 
-// Skips white space and comments.
+// Skips white space, including Unicode's line and paragraph separators, and comments.
 bool TextReader::blanks() {
     for (;;) {
         while (is(space, *at_))

@@ -21,7 +21,7 @@ Runtime::Error notUtf8(const Entry& entry) {
     return {"the entry " + internal::quoted(entry.key) + " is not UTF-8", {}};
 }
 
-// Checks what no form can store: text that is not UTF-8, a comment with a NUL.
+// Fails for what neither text nor XML can represent: an entry or a comment that is not UTF-8, a comment with a NUL.
 Runtime::Result<void> check(const Entry& entry, std::string_view comment) {
     if (!internal::isUtf8(entry.key) || !internal::isUtf8(entry.text) || !internal::isUtf8(comment))
         return notUtf8(entry);
@@ -124,7 +124,7 @@ void appendQuoted(std::string& out, std::string_view text) {
 Runtime::Result<std::string> write(Entries entries, Form form, Comments comments) {
     if (form == Form::binary)
         return writeBinary(entries);
-    if (auto fits = checkWrittenSize(sizeOf(entries)); !fits)
+    if (auto fits = checkWrittenSize(sizeOf(entries)); !fits) // before memory is used for them
         return std::move(fits.error());
     return form == Form::text ? writeText(entries, comments) : writeXml(entries, comments);
 }

@@ -8,7 +8,7 @@ Runtime::Result<void> parseXml(const Contents& contents, XmlHandler& handler) {
     const auto parser = xmlParser();
     if (!parser) {
         const Runtime::Error& error = parser.error();
-        // Drop ENOENT, so that a missing plug-in is not mistaken for a missing table.
+        // Keeps only transient causes: with ENOENT, a missing plug-in would be mistaken for a missing table.
         return Runtime::Error{.message = error.text(), .cause = error.isTransient() ? error.cause : 0};
     }
     const std::size_t begin = contents.source.find('<', contents.begin);

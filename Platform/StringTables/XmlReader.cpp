@@ -39,7 +39,7 @@ private:
         Kind kind;
         bool hasKey = false;    // dict: a key without its value so far
         bool filled = false;    // plist: its one value was read
-        bool isWanted = false;  // dict: the sink wants its entries; key or value: of such a dict
+        bool isWanted = false;  // dict: the sink wants its entries; key or value: it is in such a dict
         std::size_t offset = 0; // key: where it begins
     };
 
@@ -51,7 +51,8 @@ private:
     std::string text_; // of the key or string that is open
 };
 
-// Validates `element` against its parent. Returns an error message, or an empty string.
+// Checks that the innermost open element may contain `element` now, and records there that it does. Returns an error
+// message, or an empty string.
 std::string XmlReader::checkPlacement(const Element& element) {
     const auto tag = [&element] { return std::string("<").append(element.name).append(">"); };
     if (levels_.empty())
@@ -59,7 +60,7 @@ std::string XmlReader::checkPlacement(const Element& element) {
     if (levels_.size() == Table::maxDepth)
         return nestedTooDeeply;
     Level& parent = levels_.back();
-    // A <plist> has no parent: inside of anything it is rejected like a child of a leaf.
+    // A <plist> inside of another element is rejected like a child of a leaf.
     switch (element.kind == Kind::plist ? Kind::leaf : parent.kind) {
     case Kind::plist:
         if (parent.filled || element.kind != Kind::dict)

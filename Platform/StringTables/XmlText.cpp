@@ -24,7 +24,7 @@ std::string xmlText(std::string_view text, bool inAscii) {
             out += "&lt;";
         else if (code == '>')
             out += "&gt;";
-        else if (code == '\r' || (inAscii && code > 0x7F)) // a carriage return would be read as a line end
+        else if (code == '\r' || (inAscii && code > 0x7F)) // a carriage return would be read as a line feed
             out.append("&#").append(std::to_string(std::uint32_t{code})).append(";");
         else
             out += bytes;

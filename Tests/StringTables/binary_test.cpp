@@ -14,7 +14,7 @@ std::string bigEndian(std::uint64_t number, std::size_t size) {
     return out;
 }
 
-// A file of these objects; the first is the top-level object. References have `refSize` bytes.
+// A file of these objects, in whose dictionaries references have `refSize` bytes; the first is the top-level object.
 std::string file(const std::vector<std::string>& objects, std::size_t offsetSize = 1, std::size_t refSize = 1) {
     std::string out = "bplist00", offsets;
     for (const std::string& object : objects) {
@@ -33,7 +33,7 @@ const Pairs plainPairs = {{"OK", "Ja"}, {"é", "In Ordnung, weiter"}};
 // Positions of its parts: objects at 8, 13, 16, 19, 22, offsets from 43, trailer from 48.
 constexpr std::size_t trailerAt = 48;
 
-// The same with objects 1 and 2 exchanged in the file, and their offsets as well.
+// As file(), but objects 1 and 2 are exchanged in the file: the offsets are not in the order of the objects' numbers.
 std::string disordered(std::vector<std::string> objects, std::size_t offsetSize = 1, std::size_t refSize = 1) {
     std::swap(objects[1], objects[2]);
     std::string out = file(objects, offsetSize, refSize);
@@ -178,7 +178,7 @@ TEST(BinaryTable, TakesLinearTime) {
     }
     for (std::size_t i = 1; i <= count; ++i)
         for (char& byte : objects[i])
-            byte &= 0x7F;
+            byte &= 0x7F; // ASCII; at most four keys become equal
     objects[0] = head('\xDF', count) + own + shared;
     objects[count + 1] = head('\x6F', large) + std::string(2 * large, '\1');
     const auto table = StringTables::Table::read(file(objects, 4, 4));
@@ -193,7 +193,7 @@ TEST(BinaryTable, TakesLinearTime) {
     objects[0] = head('\xDF', count) + longKey + own;
     EXPECT_EQ(read(file(objects, 4, 4)).size(), 1u);
 
-    for (std::size_t i = 1; i <= count; ++i) // lengths without a byte above 0x7F
+    for (std::size_t i = 1; i <= count; ++i) // the bytes of the lengths are ASCII, because strings contain them
         objects[i] = head('\x5F', ((count - i) * 10 + 4) & 0x7F7F7F7F) + "    ";
     objects[0] = head('\xDF', count) + own + own;
     objects.pop_back();

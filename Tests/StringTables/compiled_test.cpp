@@ -52,7 +52,8 @@ std::optional<std::string_view> find(StoredTable& table, std::string_view key) {
 class CompiledTable : public testing::Test {
 protected:
     std::string file(std::string_view bytes) { return folder_.write("Table.strings", bytes); }
-    // Looks up a key in a new table at `path` after `before` other lookups, of which the last one reads the whole file.
+    // Looks up a key in a new table at `path` after `before` other lookups. The fourth lookup reads the table as a
+    // whole.
     static std::optional<std::string> found(const std::string& path, const std::string& key, int before = 0) {
         StoredTable table(path);
         for (int i = 0; i < before; ++i)
@@ -118,7 +119,7 @@ TEST_F(CompiledTable, ReadsTablesOfOtherFormsWhole) {
     EXPECT_EQ(found(file(*StringTables::write(entries, StringTables::Form::binary)), "Ключ"), "Текст 💪");
 }
 
-// The parts of a compiled table.
+// Where the parts of a compiled table are.
 struct Parts {
     explicit Parts(const std::string& bytes) {
         StringTables::internal::CompiledIndex::recognize(bytes.substr(0, index.headSize), index);
@@ -126,7 +127,7 @@ struct Parts {
             offsets = offsets << 8 | static_cast<unsigned char>(bytes[bytes.size() - 8 + i]);
     }
     StringTables::internal::CompiledIndex index;
-    std::size_t offsets = 0;
+    std::size_t offsets = 0; // the offset of the table of offsets
 };
 
 TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
@@ -135,12 +136,13 @@ TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
     const Parts parts(bytes);
     const struct {
         int line;
-        std::size_t at, size, mostMissing;
-        std::string error;
+        std::size_t at, size;    // the damaged bytes
+        std::size_t mostMissing; // texts that are not found
+        std::string error;       // part of the error of reading all entries
     } cases[] = {
         {__LINE__, bytes.find("Text number 1") + 3, 1, 1, "the table's index contradicts the entry"},
         {__LINE__, bytes.find("Текст номер") + 3, 1, 1, "the table's index contradicts the entry"},
-        {__LINE__, parts.index.front(), 40, 0, ""},
+        {__LINE__, parts.index.frontSize(), 40, 0, ""},
         {__LINE__, parts.offsets - 20, 1, 0, "the table's index contradicts the entry"},
         {__LINE__, parts.offsets, 100, 0, ""},
         {__LINE__, bytes.size() - 32, 32, 0, ""},
@@ -166,7 +168,7 @@ TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
             EXPECT_EQ(missing == 0, mostMissing == 0) << "line " << line;
         }
     }
-    const std::string path = file(bytes.substr(0, parts.index.front() * 3 / 4));
+    const std::string path = file(bytes.substr(0, parts.index.frontSize() * 3 / 4));
     for (const int before : {0, 8}) {
         std::size_t there = 0;
         for (const auto& [key, text] : texts)
@@ -182,7 +184,7 @@ TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
 TEST_F(CompiledTable, DetectsAnIndexThatContradictsTheDictionary) {
     const std::string one = compiled({{"a", "1"}, {"b", "2"}});
     std::string exchanged = one, marked = one;
-    const std::size_t values = Parts(one).index.front() + 3; // after the marker and two keys
+    const std::size_t values = Parts(one).index.frontSize() + 3; // after the marker and two keys
     std::swap(exchanged[values], exchanged[values + 1]);
     EXPECT_NE(Tables::errorOf(exchanged).find("the table's index contradicts the entry \"a\""), std::string::npos);
     // A damaged mark is detected, at the index and at the end of the file.
@@ -203,7 +205,7 @@ TEST_F(CompiledTable, NeverGivesAnotherKeysText) {
     const auto below = [&](std::size_t bound) {
         return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random);
     };
-    // Half of the edits are in parts with numbers: the index, the dictionary, the offsets and the trailer.
+    // Most of the edits are in parts with numbers: the index, the dictionary, the offsets and the trailer.
     const auto place = [&] {
         switch (below(4)) {
         case 0:
@@ -211,7 +213,7 @@ TEST_F(CompiledTable, NeverGivesAnotherKeysText) {
         case 1:
             return parts.offsets + below(bytes.size() - parts.offsets);
         case 2:
-            return std::min(parts.index.front() + below(300), bytes.size() - 1);
+            return std::min(parts.index.frontSize() + below(300), bytes.size() - 1);
         default:
             return below(bytes.size());
         }
@@ -289,7 +291,7 @@ TEST_F(CompiledTable, TakesLinearTimeForAHostileIndex) {
     std::string bytes = compiled(texts);
     const Parts parts(bytes);
     const std::size_t place[] = {bytes.find("llllllll"), 1 << 20};
-    for (std::uint32_t i = 0; i < parts.index.slots(); ++i)
+    for (std::uint32_t i = 0; i < parts.index.slotCount(); ++i)
         for (std::size_t byte = 0; byte < 8; ++byte)
             bytes[parts.index.slotAt(i) + 8 + byte] = static_cast<char>(place[byte / 4] >> 8 * (byte % 4) & 0xFF);
     StoredTable table(file(bytes));

@@ -1,7 +1,8 @@
-// The scan of processors without SSE2, under names of its own.
+// The functions of Scan.h as on processors without SSE2, under names of their own.
 #undef __SSE2__
 #define findEither findEitherPlain
 #define skipAscii skipAsciiPlain
+#define isAscii isAsciiPlain
 #include "StringTables/internal/Scan.h"
 
 namespace PlainScan {

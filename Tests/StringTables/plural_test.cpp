@@ -89,9 +89,8 @@ TEST(PluralTable, NotesWhatIsSkipped) {
          dict("k", dict("NSStringVariableWidthRuleType", text("9", "9") + text("60", "60") + text("20", "20"))),
          "2:1: the entry \"k\" has texts for several widths; the widest is used\n", "60"},
         {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m") + text("iphone", "i"))),
-         "2:1: the entry \"k\" has texts for several kinds of device; that for \"other\", \"iphone\" or else the first "
-         "is "
-         "used\n",
+         "2:1: the entry \"k\" has texts for several kinds of device; "
+         "that for \"other\", \"iphone\" or else the first is used\n",
          "i"},
         {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m"))), "", "m"},
         {__LINE__, dict("k", format) + "\n" + dict("k", format),
@@ -167,16 +166,21 @@ TEST(PluralTable, ListsTheArgumentsOfAllForms) {
                              const std::string& other) {
         return dict(name, rule + text("NSStringFormatValueTypeKey", type) + text("one", one) + text("other", other));
     };
-    const auto table =
-        PluralTable::read(list(dict("k", text("NSStringLocalizedFormatKey", "%@: %#@files@ %@") +
-                                             variable("files", "lu", "one in %#@size@", "%lu in %#@size@ by %4$@") +
-                                             variable("size", "f", "a byte", "%.1f bytes"))));
+    const std::string size = variable("size", "f", "a byte", "%.1f bytes");
+    const auto table = PluralTable::read(
+        list(dict("k", text("NSStringLocalizedFormatKey", "%@: %#@files@ %@") +
+                           variable("files", "lu", "one in %#@size@", "%lu in %#@size@ by %4$@") + size) +
+             dict("no number", text("NSStringLocalizedFormatKey", "%#@files@") +
+                                   variable("files", "lu", "by %@ in %#@size@", "in %#@size@") + size)));
     ASSERT_TRUE(table);
     const auto signature = signatureOf(table->find("k")->plural);
     const std::vector<std::optional<Kind>> expected = {Kind::text, Kind::integer, Kind::number, Kind::text};
     EXPECT_EQ(signature.arguments, expected);
     ASSERT_TRUE(signature.conflict); // the last "%@" uses the size's argument
     EXPECT_EQ(signature.conflict->position, 3U);
+    const auto withoutNumber = signatureOf(table->find("no number")->plural);
+    EXPECT_EQ(withoutNumber.arguments, (std::vector<std::optional<Kind>>{Kind::integer, Kind::text, Kind::number}));
+    EXPECT_FALSE(withoutNumber.conflict);
 }
 
 TEST(PluralTable, EndsWhereFormsNameEachOther) {

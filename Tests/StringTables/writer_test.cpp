@@ -71,7 +71,7 @@ TEST(Writer, RejectsWhatAFormCannotRepresent) {
     }
 }
 
-// A small table whose entries share a long text is large in other forms.
+// A binary table whose entries share a long text is small, but would be too large in other forms.
 TEST(Writer, IsBounded) {
     const std::string text(1 << 20, 'x');
     std::vector<std::string> keys;

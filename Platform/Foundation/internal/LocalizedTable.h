@@ -19,9 +19,9 @@ class Localization;
 
 class LocalizedTable {
 public:
-    // `owner`: the language folder of the table. `texts`: the path of the table, which is read when it is needed.
-    // `bundle`: the length of the bundle's path, with which it begins.
-    LocalizedTable(const Localization& owner, std::string_view name, std::string texts, std::size_t bundle,
+    // `owner`: the language folder of the table. `textsPath`: the path of its texts, which are read when they are
+    // needed; its first `bundlePathSize` bytes are the bundle's path.
+    LocalizedTable(const Localization& owner, std::string_view name, std::string textsPath, std::size_t bundlePathSize,
                    StringTables::PluralTable plurals);
 
     const Localization& owner() const noexcept { return owner_; }

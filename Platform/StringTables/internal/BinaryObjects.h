@@ -17,10 +17,10 @@ public:
     enum Type : std::uint8_t { ascii = 0x5, utf16 = 0x6, dictionary = 0xD };
 
     struct Object {
-        std::size_t at = 0;
+        std::size_t at = 0;      // of the marker byte
         std::uint8_t type = 0;   // the upper four bits of the marker byte
-        std::uint64_t count = 0; // of the characters or members, which begin at `begin`
-        std::size_t begin = 0;
+        std::uint64_t count = 0; // of the bytes, UTF-16 units or entries; until it is read, the lower four bits
+        std::size_t begin = 0;   // where they begin
 
         bool isString() const noexcept { return type == ascii || type == utf16; }
     };
@@ -28,22 +28,24 @@ public:
     explicit BinaryObjects(Contents& contents)
         : contents_(contents), bytes_(contents.source), unread_(contents.source.size()) {}
 
-    // Reads the trailer; call this first. All functions that return bool return false after an error; see error().
+    // Reads the trailer; call this first. After an error, this and the other functions that return bool return false;
+    // see error().
     bool open();
     Runtime::Error& error() noexcept { return error_; }
 
-    std::uint64_t size() const noexcept { return objects_; }
-    // The top-level dictionary, with its size.
+    std::uint64_t size() const noexcept { return objectCount_; } // the number of objects
+    // The top-level dictionary, with its count.
     bool top(Object& out);
-    // Object `number`; if there is none, the error's place is `referenceAt`. string() and members() read the size of
-    // strings and dictionaries.
+    // Object `number`; if there is none, the error's place is `referenceAt`. The count of a string or dictionary is
+    // read by string() and members().
     bool object(std::uint64_t number, std::size_t referenceAt, Object& out);
-    // Reads the size of object `number`, a dictionary, and checks that its references are in the file.
+    // Reads the count of object `number`, a dictionary, and checks that its references are in the file and that it has
+    // at most Table::maxEntries entries.
     bool members(std::uint64_t number, Object& object);
     // The offsets of the references to the key and value of entry `i`, and the reference at an offset.
-    std::size_t keyAt(const Object& list, std::size_t i) const noexcept { return list.begin + i * referenceSize_; }
-    std::size_t valueAt(const Object& list, std::size_t i) const noexcept {
-        return keyAt(list, static_cast<std::size_t>(list.count) + i);
+    std::size_t keyAt(const Object& object, std::size_t i) const noexcept { return object.begin + i * referenceSize_; }
+    std::size_t valueAt(const Object& object, std::size_t i) const noexcept {
+        return keyAt(object, static_cast<std::size_t>(object.count) + i);
     }
     std::uint64_t reference(std::size_t at) const noexcept { return number(at, referenceSize_); }
     // Reads object `number`, a string, as UTF-8 that lives as long as the contents. Callers read each object at most
@@ -54,19 +56,19 @@ public:
         error_ = contents_.errorAt(at, std::move(message));
         return false;
     }
-    // What a value is that is not a string, for notes; null for an unknown type.
+    // What a value that is not a string is, for notes; null for an unknown type.
     static const char* describe(std::uint8_t type) noexcept;
 
 private:
-    bool count(Object& object);
+    bool readCount(Object& object);
     bool decode(const Object& object, std::string_view& out);
     bool isOrdered() const noexcept;
     std::uint64_t offset(std::uint64_t number) const noexcept {
         return this->number(tableAt_ + static_cast<std::size_t>(number) * offsetSize_, offsetSize_);
     }
-    // The offset of the following object, in a file whose objects are in order.
+    // The offset of what follows the object, in a file whose objects are in order.
     std::uint64_t next(std::uint64_t number) const noexcept {
-        return number + 1 < objects_ ? offset(number + 1) : tableAt_;
+        return number + 1 < objectCount_ ? offset(number + 1) : tableAt_;
     }
     std::uint8_t byte(std::size_t at) const noexcept { return static_cast<std::uint8_t>(bytes_[at]); }
     // `size` is 1 to 8. Reading eight bytes is always safe: the file ends with the trailer, whose last number has
@@ -86,14 +88,14 @@ private:
     std::string_view bytes_;
     std::size_t offsetSize_ = 0;    // bytes of an offset
     std::size_t referenceSize_ = 0; // bytes of a reference to an object
-    std::uint64_t objects_ = 0;
-    std::uint64_t top_ = 0;
+    std::uint64_t objectCount_ = 0;
+    std::uint64_t top_ = 0;   // the number of the top-level object
     std::size_t tableAt_ = 0; // of the offset table, where the objects end
-    // In a valid file objects do not overlap, so all strings together are shorter than the file. This budget bounds
-    // time and memory for files whose strings do overlap.
+    // How many bytes of strings may still be read. In a valid file objects do not overlap, so all strings together are
+    // shorter than the file; this limits time and memory for files whose strings do overlap.
     std::size_t unread_;
-    // The objects are in the order of their numbers, as all known writers store them. Then no string or dictionary may
-    // reach into the next object.
+    // Whether the objects are in the order of their numbers, as usual writers store them. Then no string or dictionary
+    // may reach into the next object.
     bool isOrdered_ = false;
     Runtime::Error error_;
 };

@@ -1,5 +1,5 @@
 // StringTables/internal/BinaryWriter.h
-// Builds a binary property list of dictionaries and strings.
+// Builds a binary property list of dictionaries, strings and objects that the caller writes.
 // Text: takes UTF-8, stores ASCII or UTF-16. Threads: one at a time. Ownership: borrows its strings until write()
 // returns.
 #pragma once
@@ -51,7 +51,7 @@ private:
         std::vector<std::pair<Number, Number>> entries{};
     };
 
-    void put(std::uint64_t number, std::size_t size);
+    void put(std::uint64_t number, std::size_t size); // big-endian
     void putMarker(unsigned type, std::size_t count);
     void putDictionary(const Object& object, std::size_t referenceSize);
     void putString(std::string_view text);

@@ -13,14 +13,14 @@
 namespace StringTables::bundleLayout {
 
 inline constexpr std::string_view languageSuffix = ".lproj";
-inline constexpr std::string_view baseName = "Base"; // the folder of the development texts
+inline constexpr std::string_view baseName = "Base"; // takes the place of the language in Base.lproj
 inline constexpr std::string_view textsSuffix = ".strings";
 inline constexpr std::string_view pluralsSuffix = ".stringsdict";
 inline constexpr std::string_view defaultTable = "Localizable";
 
 inline constexpr std::string_view informationFile = "Info.plist";
 inline constexpr std::string_view developmentRegionKey = "CFBundleDevelopmentRegion";
-inline constexpr std::string_view defaultRegion = "en";
+inline constexpr std::string_view defaultRegion = "en"; // if there is no such key
 
 // `lumora compile` adds these to Info.plist, so that readers need not list the directory: the languages, "Base"
 // included, each followed by the separator ("Base/de/"), and whether any of them has plurals ("yes", "no"). An
@@ -47,8 +47,8 @@ inline std::string pluralsFile(std::string_view table) {
     return std::string(table).append(pluralsSuffix);
 }
 
-// The folders in which a text is looked up, in this order, for a user of the language `chosen`. May contain a name
-// twice.
+// The folders in which a text is looked up, without their suffix and in this order, for a user of the language
+// `chosen`. May contain a name twice.
 constexpr std::array<std::string_view, 3> lookupOrder(std::string_view chosen, std::string_view development) noexcept {
     return {chosen, baseName, development};
 }
@@ -58,9 +58,9 @@ constexpr bool isFileName(std::string_view name) noexcept {
     return !name.empty() && name != "." && name != ".." && name.find_first_of(std::string_view("/\0", 2)) == name.npos;
 }
 
-// Whether a language can have a folder in a bundle. Names come from files that others wrote, too.
+// Whether `name` with languageSuffix can be the name of a folder. Names come from files that others wrote, too.
 constexpr bool isLanguage(std::string_view name) noexcept {
-    constexpr std::size_t longestName = 255;
+    constexpr std::size_t longestName = 255; // NAME_MAX
     return isFileName(name) && name.size() + languageSuffix.size() <= longestName;
 }
 

@@ -6,10 +6,11 @@
 //
 // The file: "bplist00"; the index; the ASCII strings; the dictionary; the UTF-16 strings; the offsets; the trailer. The
 // part that a bundle's reader needs comes first and is called the front.
-// The index, all numbers little-endian: the mark; the numbers of slots, buckets and entries and the size of the front;
-// a checksum of these; a 16-bit displacement for each bucket; the slots; the strings. It is a perfect hash: the hash of
-// a key selects a bucket, and the hash with the bucket's displacement selects the only slot where the entry can be. A
-// slot holds the positions of the key and the text in the front.
+// The index: the object's marker and size; `mark`; the numbers of slots, buckets and entries and the size of the front;
+// a checksum of these; a displacement of 16 bits for each bucket; the slots; the UTF-8 copy. After `mark`, numbers are
+// little-endian and have 32 bits. The index is a perfect hash: the hash of a key (Runtime::keyHash) selects a bucket,
+// and the hash with the bucket's displacement selects the only slot where the entry can be. A slot holds the places of
+// key and text in the front.
 #pragma once
 
 #include "Runtime/internal/Hash.h"
@@ -38,26 +39,27 @@ public:
 
     // Whether a file has an index.
     enum class State { none, damaged, present };
-    // `head`: the first headSize bytes of the file, or all if it is shorter. Sets `out` if the state is `present`; the
-    // rest of the file may still be damaged.
+    // `head`: the first headSize bytes of the file, or all if it is shorter. `out` is the index if the state is
+    // `present`; the rest of the file may still be damaged.
     static State recognize(std::string_view head, CompiledIndex& out) noexcept;
-    // The same for a whole file. Its trailer has a mark, too, so that a compiled table whose index is destroyed counts
-    // as damaged.
+    // The same for a whole file. Its trailer has a mark, too, so that a compiled table whose index has no mark any more
+    // counts as damaged.
     static State recognizeFile(std::string_view file, CompiledIndex& out) noexcept;
 
-    std::uint32_t slots() const noexcept { return slots_; }
-    std::uint32_t entries() const noexcept { return entries_; }
-    std::size_t front() const noexcept { return front_; }
+    std::uint32_t slotCount() const noexcept { return slotCount_; }
+    std::uint32_t entryCount() const noexcept { return entryCount_; }
+    std::size_t frontSize() const noexcept { return frontSize_; }
     // The offset one past the slots.
-    std::size_t slotsEnd() const noexcept { return slotAt(slots_); }
+    std::size_t slotsEnd() const noexcept { return slotAt(slotCount_); }
 
     // The offset of the displacement of the key's bucket, and the key's slot for that displacement.
     std::size_t displacementAt(std::uint64_t hash) const noexcept { return headSize + 2 * std::size_t{bucket(hash)}; }
     std::uint32_t slot(std::uint64_t hash, std::uint16_t displacement) const noexcept {
-        return reduced((hash ^ (displacement + std::uint64_t{1}) * Runtime::hashSpread) * Runtime::hashSpread, slots_);
+        return reduced((hash ^ (displacement + std::uint64_t{1}) * Runtime::hashSpread) * Runtime::hashSpread,
+                       slotCount_);
     }
     std::size_t slotAt(std::uint32_t slot) const noexcept {
-        return headSize + 2 * std::size_t{buckets_} + slotSize * slot;
+        return headSize + 2 * std::size_t{bucketCount_} + slotSize * slot;
     }
     static Slot slotFrom(const char* bytes) noexcept {
         const auto number = [bytes](std::size_t i) { return Runtime::loadLittle<std::uint32_t>(bytes + 4 * i); };
@@ -74,21 +76,22 @@ public:
 private:
     friend class CompiledIndexWriter;
     static constexpr std::size_t markAt = 14;
-    static constexpr std::string_view mark = "\x1Flumix\x01\x1E"; // a name ("Lumora index") and its version, 1
+    // "Lumora index", shortened, and its version, 1, between bytes that texts do not have.
+    static constexpr std::string_view mark = "\x1Flumix\x01\x1E";
     static constexpr std::size_t trailerSize = 32;
     static constexpr std::string_view trailerMark = "lumix"; // in the unused bytes of the trailer
 
-    // Maps the upper bits of `hash` to a number below `bound`.
+    // Maps the upper half of `hash` to a number below `bound`.
     static std::uint32_t reduced(std::uint64_t hash, std::uint32_t bound) noexcept {
         return static_cast<std::uint32_t>((hash >> 32) * bound >> 32);
     }
-    std::uint32_t bucket(std::uint64_t hash) const noexcept { return reduced(hash << 32, buckets_); }
+    std::uint32_t bucket(std::uint64_t hash) const noexcept { return reduced(hash << 32, bucketCount_); }
     std::uint32_t numbersCheck() const noexcept;
 
-    std::uint32_t slots_ = 0;
-    std::uint32_t buckets_ = 0;
-    std::uint32_t entries_ = 0;
-    std::uint32_t front_ = 0;
+    std::uint32_t slotCount_ = 0;
+    std::uint32_t bucketCount_ = 0;
+    std::uint32_t entryCount_ = 0;
+    std::uint32_t frontSize_ = 0;
 };
 
 // Builds the index of a table.
@@ -97,13 +100,14 @@ public:
     // No value when no perfect hash is found, for example because two keys have the same hash.
     static std::optional<CompiledIndexWriter> make(std::span<const std::uint64_t> keyHashes);
 
-    // The size of the index object with `strings` bytes of strings, which begin at stringsAt().
-    std::size_t objectSize(std::size_t strings) const noexcept {
-        return stringsAt() + strings - CompiledIndex::objectAt;
+    // The size of the index object with `copySize` bytes of UTF-8 copy, which begins at the offset copyAt().
+    std::size_t objectSize(std::size_t copySize) const noexcept {
+        return copyAt() + copySize - CompiledIndex::objectAt;
     }
-    std::size_t stringsAt() const noexcept { return index_.slotsEnd(); }
-    // Writes the index into the space reserved in `file`. `slots` are in the order of the hashes given to make().
-    void write(std::string& file, std::size_t front, std::string_view strings,
+    std::size_t copyAt() const noexcept { return index_.slotsEnd(); }
+    // Writes the index with `copy` into the space reserved in `file`, and the mark into the trailer. `slots` are in the
+    // order of the hashes given to make().
+    void write(std::string& file, std::size_t frontSize, std::string_view copy,
                std::span<const CompiledIndex::Slot> slots) const;
 
 private:

@@ -1,7 +1,7 @@
 // StringTables/internal/CompiledTable.h
-// Lookups in a compiled table. Everything is validated on use: whatever the bytes are, a lookup returns the text that
-// was compiled for the key, or none. Text: UTF-8. Threads: any; lookups are lock-free. Ownership: views live as long as
-// the table.
+// Lookups in a compiled table. Each entry is validated when it is used: whatever the bytes are, nothing outside of them
+// is read, and a text is found only if it is UTF-8 and its checksum with the key is right. Text: UTF-8. Threads: any;
+// lookups are lock-free. Ownership: views live as long as the table.
 #pragma once
 
 #include "StringTables/internal/CompiledIndex.h"
@@ -19,7 +19,7 @@ namespace StringTables::internal {
 class CompiledTable {
 public:
     CompiledTable() = default; // without entries
-    // `front`: the first index.front() bytes of the file, or all if it is shorter.
+    // `front`: the first index.frontSize() bytes of the file, or all if it is shorter.
     CompiledTable(std::string front, const CompiledIndex& index);
 
     // The text of `key`, whose hash is `hash`, or none.
@@ -28,7 +28,7 @@ public:
             return {};
         const auto displacement = Runtime::loadLittle<std::uint16_t>(front_.data() + index_.displacementAt(hash));
         const std::uint32_t number = index_.slot(hash, displacement);
-        const CompiledIndex::Slot slot = slotAt(number);
+        const CompiledIndex::Slot slot = readSlot(number);
         std::uint32_t state = states_[number].load(std::memory_order_relaxed);
         if (state == unknown) [[unlikely]]
             state = check(number, key, hash);
@@ -38,7 +38,7 @@ public:
     }
 
 private:
-    CompiledIndex::Slot slotAt(std::uint32_t number) const noexcept {
+    CompiledIndex::Slot readSlot(std::uint32_t number) const noexcept {
         return CompiledIndex::slotFrom(front_.data() + index_.slotAt(number));
     }
     // For a slot whose places are inside the front.
@@ -49,17 +49,17 @@ private:
         return {front_.data() + slot.textAt, slot.textSize};
     }
 
-    // The states of a slot. The state of an intact slot is this number plus the packed range of the text's percent
-    // signs.
+    // The states of a slot. That of an intact slot is `intact` plus the packed range of the text's percent signs.
     static constexpr std::uint32_t unknown = 0, damaged = 1, intact = 2;
     static_assert(PercentRange::largestPacked + std::uint64_t{intact} <= 0xFFFF'FFFF);
 
     bool isInside(std::size_t at, std::size_t size) const noexcept { return at + size <= front_.size(); }
-    // Determines the state of a slot whose state is unknown, if it is the key's.
+    // The state of slot `number`, which is unknown, for a lookup of `key`: `damaged` if the slot is another key's, else
+    // its true state, which is stored.
     [[gnu::noinline]] std::uint32_t check(std::uint32_t number, std::string_view key,
                                           std::uint64_t hash) const noexcept;
 
-    std::string front_; // empty if the file ends within the slots
+    std::string front_; // empty if the file ends before the slots do
     CompiledIndex index_;
     std::unique_ptr<std::atomic<std::uint32_t>[]> states_; // of the slots
     // The bytes of text that may still be checked. This keeps the cost linear for an index whose slots all refer to one
@@ -70,10 +70,10 @@ private:
 // Limits all checked texts to this multiple of the front's size. Our writer stays below it.
 inline constexpr std::size_t mostTextPerFront = 8;
 
-// Whether the text is UTF-8 and belongs to the key.
+// Whether the text is UTF-8 and, by the slot's checksum, that of the key with this hash.
 [[nodiscard]] bool isIntact(const CompiledIndex::Slot& slot, std::uint64_t hash, std::string_view text) noexcept;
 
-// One lookup in a file of which only parts are read. Source: a class with
+// The text of `key`, whose hash is `hash`, or no value, from a file of which only parts are read. Source: a class with
 //   // That part of the file, valid until the next call; shorter at the end of the file.
 //   std::string_view bytes(std::size_t at, std::size_t size);
 template <class Source>
@@ -87,7 +87,8 @@ std::optional<std::string> findIn(Source& source, const CompiledIndex& index, st
     if (bytes.size() < CompiledIndex::slotSize)
         return std::nullopt;
     const CompiledIndex::Slot slot = CompiledIndex::slotFrom(bytes.data());
-    if (slot.keySize != key.size() || source.bytes(slot.keyAt, slot.keySize) != key || slot.textSize > index.front())
+    if (slot.keySize != key.size() || source.bytes(slot.keyAt, slot.keySize) != key ||
+        slot.textSize > index.frontSize())
         return std::nullopt;
     const std::string_view text = source.bytes(slot.textAt, slot.textSize);
     const bool isThere = text.size() == slot.textSize && isIntact(slot, hash, text);

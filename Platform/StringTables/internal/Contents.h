@@ -1,6 +1,6 @@
 // StringTables/internal/Contents.h
 // The content of a table, during and after reading.
-// Ownership: never moved once its bytes are in place; every view points into `source` or `arena`.
+// Ownership: cannot be moved, because keys and texts are views of `source` and `arena`.
 #pragma once
 
 #include "StringTables/internal/Index.h"
@@ -9,13 +9,13 @@
 
 namespace StringTables::internal {
 
-// Memory for texts that differ from their form in the source. Never moves, freed as a whole.
+// Memory for texts that are not views of the source. It never moves and is freed as a whole.
 class Arena {
 public:
-    // Space for `size` bytes; keep() then allocates the part up to `end`.
+    // Free space for `size` bytes; keep() then takes the part of it before `end`.
     char* reserve(std::size_t size) {
         if (static_cast<std::size_t>(end_ - next_) < size) {
-            const std::size_t chunk = std::max(size, chunks_.empty() ? smallest : largest);
+            const std::size_t chunk = std::max(size, chunks_.empty() ? firstChunk : laterChunk);
             next_ = chunks_.emplace_back(new char[chunk]).get();
             end_ = next_ + chunk;
         }
@@ -30,13 +30,13 @@ public:
     std::string_view copy(std::string_view text) { return keep(std::ranges::copy(text, reserve(text.size())).out); }
 
 private:
-    static constexpr std::size_t smallest = 4096, largest = 65536;
+    static constexpr std::size_t firstChunk = 4096, laterChunk = 65536; // the sizes, if not more is needed
     std::vector<std::unique_ptr<char[]>> chunks_;
     char* next_ = nullptr;
     char* end_ = nullptr;
 };
 
-// Its address marks a value that is not a text, until finish() removes the entry.
+// This address marks an entry whose value is not a text, until finish() removes the entry.
 inline constexpr char noTextMark[] = "";
 inline constexpr std::string_view noText(noTextMark, 0);
 inline bool hasText(const Entry& entry) noexcept {
@@ -50,41 +50,48 @@ struct Contents {
 
     std::string source;    // converted to UTF-8 if it was UTF-16 text
     std::size_t begin = 0; // offset after the byte-order mark
-    bool isUtf8 = false;   // known from the first bytes, whatever an XML declaration says
+    bool isUtf8 = false;   // whether the first bytes show it, whatever an XML declaration says
     Form form = Form::text;
     Arena arena;
     std::vector<Entry> entries;
-    bool hasSkipped = false;                   // entries without a text are possible
-    std::optional<std::uint32_t> skippedAtEnd; // offset of a skipped value in a full table
-    std::vector<TableNote> notes;
+    bool hasSkipped = false; // whether a value was not a text, so that an entry may have none
+    // The offset of the first key whose value was skipped when the table was full.
+    std::optional<std::uint32_t> skippedWhenFull;
+    std::vector<TableNote> notes; // made by finish()
     Index index;
 
-    struct Note {
+    // A note that finish() has not located yet.
+    struct FoundNote {
         std::uint32_t offset;
         std::string message;
         std::optional<std::string> repeatedKey{};
     };
-    std::vector<Note> found; // unfinished notes, at most Table::maxNotes
-    std::size_t more = 0;    // notes that were not kept
+    std::vector<FoundNote> foundNotes; // at most Table::maxNotes
+    std::size_t notesLeftOut = 0;
 
-    // Called by readers in source order. False when the table is full.
+    // The readers call these functions in the order of the entries, with the offsets of the keys.
+
+    // False when the table is full.
     [[nodiscard]] bool add(std::string_view key, std::string_view text, std::size_t offset) {
         if (entries.size() == Table::maxEntries)
             return false;
         entries.push_back({key, text, static_cast<std::uint32_t>(offset)});
         return true;
     }
-    // Notes that the value of `key` is `what` ("an array") and not a text, and adds an entry without a text because the
-    // last value of a key wins.
-    void addSkipped(std::string_view key, std::string_view what, std::size_t offset);
+    // Notes that the value of `key` is `what` ("an array"), not a text.
     void noteSkipped(std::string_view key, std::string_view what, std::size_t offset);
-    // Notes that `later` has the key of `entry` and replaces it: the last value wins.
+    // The same, and adds an entry without a text, because the last value of a key wins.
+    void addSkipped(std::string_view key, std::string_view what, std::size_t offset);
+    // Notes that `later` has the key of `entry` and replaces it, unless neither has a text.
     void noteReplaced(const Entry& entry, const Entry& later);
     // Notes a repeated key; `what` says which value wins.
     void noteRepeated(std::string_view key, std::string_view what, std::size_t offset);
+    // Adds a note: `before`, the key in quotation marks, `after`.
     void note(std::string_view before, std::string_view key, std::string_view after, std::size_t offset);
+    // As Locator::error().
     [[nodiscard]] Runtime::Error errorAt(std::size_t offset, std::string message) const;
-    // Prepares the table for lookups once its entries are complete.
+    // To be called once all entries are added: merges repeated keys, removes entries without a text, builds the index
+    // and locates the notes.
     void finish();
 };
 
@@ -110,7 +117,7 @@ private:
 
 // Detects the form of the source and where its content begins, and converts UTF-16 text to UTF-8.
 [[nodiscard]] Runtime::Result<void> recognize(Contents& contents);
-// Each reads the entries of the source from `contents.begin` on; finish() does the rest.
+// Each adds the entries of the source from `contents.begin` on; finish() does the rest.
 [[nodiscard]] Runtime::Result<void> readText(Contents& contents);
 [[nodiscard]] Runtime::Result<void> readXml(Contents& contents);
 [[nodiscard]] Runtime::Result<void> readBinary(Contents& contents);

@@ -12,7 +12,7 @@ namespace StringTables {
 class FoundText {
 public:
     constexpr FoundText() noexcept = default; // none
-    // A text of at most 4 GB, which is not null even if it is empty. `percents`: the places of its percent signs.
+    // A text of less than 4 GiB, which is not null even if it is empty. `percents`: where its percent signs are.
     constexpr explicit FoundText(std::string_view text, PercentRange percents = {}) noexcept
         : begin_(text.data()), size_(static_cast<std::uint32_t>(text.size())), percents_(percents) {}
 

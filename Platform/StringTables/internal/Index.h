@@ -15,12 +15,12 @@ namespace StringTables::internal {
 
 class Index {
 public:
-    // Adds the entries in order. For a repeated key, `replace(entry, later)` merges the later entry into the earlier
-    // one, and the later one is removed.
+    // Makes the index of these entries. For a repeated key, `replace(entry, later)` merges the later entry into the
+    // earlier one, and the later one is removed from `entries`.
     template <class Entry, class Replace> void build(std::vector<Entry>& entries, Replace&& replace);
 
-    // Adds the last of the entries; the others are in the index already. Returns `none`, or, if another entry has its
-    // key, the number of that entry.
+    // Adds the last of the entries; the others are in the index already. Returns `none`. If another entry has its key,
+    // adds nothing and returns the number of that entry.
     template <class Entry> std::size_t addLast(const std::vector<Entry>& entries);
 
     // The number of the key's entry, or `none`.
@@ -91,7 +91,7 @@ template <class Entry> std::size_t Index::addLast(const std::vector<Entry>& entr
 template <class Entry, class Replace> void Index::build(std::vector<Entry>& entries, Replace&& replace) {
     clear(entries.size());
     std::size_t kept = 0;
-    for (const Entry entry : entries) {
+    for (const Entry& entry : entries) {
         const std::uint64_t hashed = hash(entry.key);
         std::uint64_t& slot = slotOf(hashed, entry.key, entries);
         if (slot != 0) {

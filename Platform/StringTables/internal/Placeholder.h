@@ -42,7 +42,8 @@ struct Placeholder {
 
 // The first placeholder of `format` that begins at or after `from`: "%%", or % [position$] [flags] [width] [.precision]
 // [length] conversion. Any other '%' is ordinary text: one before an unknown conversion or the end of the text, with a
-// position outside 1 to 9999, or with a width or precision of more than six digits. Never fails, allocates nothing.
+// position of 0 or of more than four digits, or with a width or precision of more than six digits. Never fails,
+// allocates nothing.
 [[nodiscard]] std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t from) noexcept;
 
 // Counts the arguments that the placeholders of one format take, in the order of the format.
@@ -107,11 +108,12 @@ struct FormatSignature {
     };
 
     // By position; no value for an argument that no placeholder takes. In a conflict it is the first kind. The last of
-    // mostArguments represents all later ones, so that "%9999$d" does not make a list of 9,999.
+    // mostArguments also represents all later ones, so that "%9999$d" does not make a list of 9,999; conflicts of these
+    // are not reported.
     static constexpr std::size_t mostArguments = 256;
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one
-    bool mixesPositions = false;      // one text takes arguments both by position and in order
+    bool mixesPositions = false;      // one text takes arguments both by position and in order (ArgumentStyle)
     bool hasLonePercent = false;      // some '%' does not begin a placeholder
 
     // Adds the arguments that a placeholder takes.

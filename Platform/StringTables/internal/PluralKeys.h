@@ -1,5 +1,5 @@
 // StringTables/internal/PluralKeys.h
-// The fixed keys of a plural table.
+// The fixed keys of a plural table, and `pluralRule`, the value that `ruleType` has for a plural.
 #pragma once
 
 #include <cstddef>
@@ -11,11 +11,11 @@ inline constexpr std::string_view format = "NSStringLocalizedFormatKey";
 inline constexpr std::string_view ruleType = "NSStringFormatSpecTypeKey";
 inline constexpr std::string_view pluralRule = "NSStringPluralRuleType";
 inline constexpr std::string_view valueType = "NSStringFormatValueTypeKey";
-// An entry's texts by the width of their place, and by kind of device.
+// Keys of dictionaries that have an entry's texts by the width of their place, and by the kind of device.
 inline constexpr std::string_view widthRule = "NSStringVariableWidthRuleType";
 inline constexpr std::string_view deviceRule = "NSStringDeviceSpecificRuleType";
 
-// Of texts for several kinds of device that with the lowest rank is used.
+// If an entry has texts for several kinds of device, that with the lowest rank is used, the first of equal ones.
 inline constexpr std::size_t lastDeviceRank = 2;
 constexpr std::size_t deviceRank(std::string_view device) noexcept {
     if (device == "other")

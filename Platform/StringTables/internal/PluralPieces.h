@@ -23,9 +23,10 @@ struct PluralPiece {
 };
 
 // The placeholders of one text in order. In the format itself each takes the next argument, as in any text. In a form
-// the first placeholder takes the variable's own number, unless it prints a text and the number is not one: then a form
-// without its number, such as "One file by %@", takes the same arguments as the other forms. A variable inside a form
-// takes the same argument in all forms: the one after the largest number of placeholders that precede it in any form.
+// the first placeholder takes the variable's own number. It takes the argument after that if it prints a text and the
+// value type is not "@", so that a form without its number, such as "One file by %@", takes the same arguments as the
+// other forms. A variable inside a form takes the argument that it takes in the form with the most arguments before it,
+// so that the argument is the same in all forms.
 class PluralPieces {
 public:
     explicit PluralPieces(const PluralFormat& plural) noexcept : plural_(plural), text_(plural.format) {}
@@ -41,16 +42,16 @@ private:
     std::size_t numberOf(const PluralVariable& variable) const noexcept;
     std::size_t argumentOf(const PluralVariable& named) noexcept;
     void countMostBefore() noexcept;
-    bool skipsOwn(const Placeholder& placeholder) const noexcept;
+    bool skipsOwn(const Placeholder& placeholder, std::size_t taken) const noexcept;
 
     const PluralFormat& plural_;
     std::string_view text_;
     const PluralVariable* variable_ = nullptr; // whose form this is; null in the format itself
-    std::size_t own_ = 0;
+    std::size_t own_ = 0;                      // the argument that is the variable's number
     std::size_t at_ = 0;
     ArgumentCounter counter_;
-    // For each variable, the number of arguments before it in the form with the most arguments before it. Counted when
-    // first needed.
+    // For each variable, the last argument before it in the form with the most arguments before it. Counted when first
+    // needed.
     std::optional<std::array<std::uint32_t, PluralTable::maxVariables>> mostBefore_;
 };
 

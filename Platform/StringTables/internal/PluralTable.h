@@ -47,21 +47,21 @@ struct PluralEntry {
 class PluralTable {
 public:
     // Reads a table from a property list, XML or binary. Errors as in Table; an empty source is an empty table. Limits:
-    // those of Table, and maxTextBytes for all texts together (entries may share texts in the file). Throws
-    // std::bad_alloc when memory runs out.
+    // those of Table, where maxEntries is for the keys of all levels, and maxTextBytes for all keys and texts together,
+    // each counted as often as entries share it. Throws std::bad_alloc when memory runs out.
     [[nodiscard]] static Runtime::Result<PluralTable> read(std::string bytes);
-    // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, links must not
-    // lead out of that folder. Reading comments takes a separate pass.
+    // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, `path` begins
+    // with it, and links must not lead out of that folder. Reading comments takes a separate pass.
     enum class Comments { areSkipped, areRead };
     [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path, std::string_view bundle = {},
                                                                Comments comments = Comments::areSkipped);
     static constexpr std::size_t maxTextBytes = std::size_t{64} << 20;
-    // The limit for one entry; the rest is left out with a note.
+    // The limit for one entry; further variables are left out with a note.
     static constexpr std::size_t maxVariables = 256;
 
     // The entry of `key` (exact), or null. Never fails.
     [[nodiscard]] const PluralEntry* find(std::string_view key) const noexcept;
-    // Every key once, in source order; the last of equal keys wins.
+    // Every key once, in the order of their first values; the last value of equal keys wins.
     [[nodiscard]] std::span<const PluralEntry> entries() const noexcept { return entries_; }
     // What was skipped and why, with its location, in source order.
     [[nodiscard]] std::span<const TableNote> notes() const noexcept { return notes_; }
@@ -75,7 +75,7 @@ private:
 };
 
 // Writes a binary property list with these entries, in this order. The same entries give the same bytes.
-// Fails when a text is not UTF-8.
+// Fails when a text is not UTF-8 or the table would be larger than Table::maxBytes.
 [[nodiscard]] Runtime::Result<std::string> write(std::span<const PluralEntry> entries);
 
 } // namespace StringTables

@@ -1,5 +1,5 @@
 // StringTables/internal/PropertyListSink.h
-// Receives the content of a property list in order, from either reader.
+// Receives the content of a property list in order, from the reader of either form.
 // Text: UTF-8, valid during the call only.
 #pragma once
 
@@ -11,11 +11,12 @@ namespace StringTables::internal {
 
 class PropertyListSink {
 public:
-    // Called for the list itself and for every value that is a dictionary. Returns whether to report its entries.
+    // Called for the top-level dictionary and for every value that is a dictionary. Returns whether to report its
+    // entries.
     virtual bool beginDictionary() = 0;
     // Called after the entries of a dictionary for which beginDictionary() returned true.
     virtual void endDictionary() = 0;
-    // Each key is followed by its value. Both return null, or an error message that stops the reader.
+    // Each key is followed by its value. key() and string() return null, or an error message that stops the reader.
     virtual const char* key(std::string_view text, std::size_t offset) = 0;
     virtual const char* string(std::string_view text) = 0;
     // A value of another type: "an array". Nothing inside it is reported.
@@ -25,7 +26,7 @@ protected:
     ~PropertyListSink() = default;
 };
 
-// Read the source of `contents` from `contents.begin` on. Fail when it is damaged or the sink stops the reader.
+// Each reads the source of `contents` from `contents.begin` on. Fails if it is damaged or the sink stops the reader.
 [[nodiscard]] Runtime::Result<void> readBinary(Contents& contents, PropertyListSink& sink);
 [[nodiscard]] Runtime::Result<void> readXml(Contents& contents, PropertyListSink& sink);
 

@@ -1,5 +1,5 @@
 // StringTables/internal/Scan.h
-// Searches for bytes, sixteen at a time with SSE2.
+// Searches for bytes, with SSE2 in blocks of sixteen or more.
 // Text: any bytes. Nothing outside [at, end) is read.
 #pragma once
 
@@ -51,8 +51,8 @@ inline const char* skipAscii(const char* at, const char* end) noexcept {
     while (end - at >= 16 && ((word(at) | word(at + 8)) & high) == 0)
         at += 16;
 #endif
-    // For a short rest, two possibly overlapping loads are faster than a loop of unpredictable length. The rest is
-    // longer only if one of its first sixteen bytes is not ASCII.
+    // For a short rest, two possibly overlapping loads are faster than a loop of unpredictable length. Without SSE2 the
+    // rest may be longer, if one of its first sixteen bytes is not ASCII.
     if (end - at >= 8 && end - at <= 16 && ((word(at) | word(end - 8)) & high) == 0)
         return end;
     while (at != end && static_cast<unsigned char>(*at) < 0x80)

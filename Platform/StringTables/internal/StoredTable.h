@@ -1,7 +1,8 @@
 // StringTables/internal/StoredTable.h
-// A table in a bundle, read lazily: the first few texts of a compiled table are read one by one, then the whole file is
-// read once. Nothing is memory-mapped, and no descriptor stays open. Text: UTF-8; the path is raw bytes. Threads: any;
-// lookups are lock-free once the file is read. Ownership: views live as long as the table.
+// A table in a bundle, read lazily: the first few texts of a large compiled table are read one by one, then its whole
+// front is read once; any other table is read as a whole. Nothing is memory-mapped, and no descriptor stays open. Text:
+// UTF-8; the path is raw bytes. Threads: any; lookups are lock-free once the table was read as a whole. Ownership:
+// views live as long as the table.
 #pragma once
 
 #include "Runtime/OnceSlot.h"
@@ -20,9 +21,10 @@ namespace StringTables {
 
 class StoredTable {
 public:
-    // Reads nothing yet. `bundle`: the length of the path of the folder that links must not lead out of, with which
-    // `path` begins; 0 for none.
-    explicit StoredTable(std::string path, std::size_t bundle = 0) noexcept : path_(std::move(path)), bundle_(bundle) {}
+    // Reads nothing yet. The first `bundlePathSize` bytes of `path` are the folder that links must not lead out of;
+    // with 0, links are not checked.
+    explicit StoredTable(std::string path, std::size_t bundlePathSize = 0) noexcept
+        : path_(std::move(path)), bundlePathSize_(bundlePathSize) {}
     StoredTable(const StoredTable&) = delete;
     StoredTable& operator=(const StoredTable&) = delete;
     ~StoredTable();
@@ -38,7 +40,7 @@ public:
     }
 
 private:
-    // The result of a lookup that did not read the whole file.
+    // The result of a lookup that read only this text.
     struct Part {
         Part(std::string_view askedFor, std::optional<std::string> read, const Runtime::OpenFile::Identity& from)
             : key(askedFor), text(std::move(read)),
@@ -51,10 +53,10 @@ private:
         const FoundText found; // a view of `text`
         const Runtime::OpenFile::Identity file;
     };
-    // Up to this number, single reads are cheaper than reading the whole file.
+    // Up to this number, reading single texts is cheaper than reading the whole table.
     static constexpr std::size_t mostParts = 3;
 
-    // The whole file, after it was read.
+    // The table, read as a whole: the front of a compiled table, or all of another.
     struct Whole {
         Whole() = default; // without texts
         explicit Whole(Table table) noexcept : other(std::move(table)) {}
@@ -75,10 +77,10 @@ private:
     std::unique_ptr<const Part> readPart(const Runtime::OpenFile& file, std::string_view key) const;
     static Whole readWhole(std::optional<Runtime::OpenFile> file);
 
-    std::string_view bundle() const noexcept { return std::string_view(path_).substr(0, bundle_); }
+    std::string_view bundlePath() const noexcept { return std::string_view(path_).substr(0, bundlePathSize_); }
 
     std::string path_;
-    std::size_t bundle_;
+    std::size_t bundlePathSize_;
     std::array<std::atomic<const Part*>, mostParts> parts_{}; // filled from the front
     Runtime::OnceSlot<Whole> whole_;
 };

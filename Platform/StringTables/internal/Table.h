@@ -19,7 +19,8 @@ namespace StringTables {
 // How a table is stored. Detected from the content, never from the file's name.
 enum class Form { text, xml, binary };
 
-// A position in a text or XML table. Both numbers count from 1; columns count characters. {0, 0} in a binary table.
+// A position in a text or XML table. Both numbers count from 1; columns count characters, except that in XML with an
+// 8-bit encoding they may leave some out. {0, 0} in a binary table.
 struct Location {
     std::size_t line = 0;
     std::size_t column = 0;
@@ -28,12 +29,12 @@ struct Location {
 struct Entry {
     std::string_view key;
     std::string_view text;
-    std::uint32_t offset = 0; // of the key in the source: its first byte, its quotation mark or its tag
+    std::uint32_t offset = 0; // where the key begins in the source, with its quotation mark, tag or binary marker
 };
 
 // What was skipped in a table: one sentence with its location.
 struct TableNote : Runtime::Error {
-    std::optional<std::string> repeatedKey{}; // set when the note is about a repeated key
+    std::optional<std::string> repeatedKey{}; // set when the note is that the last text of a repeated key is used
 };
 
 namespace internal {
@@ -42,13 +43,14 @@ struct Contents;
 
 class Table {
 public:
-    // Reads a table. Errors name line, column and reason (text, XML) or the byte offset (binary). An empty source, or
-    // one with only a byte-order mark or comments, is an empty table.
-    // Limits, checked before memory is allocated: maxBytes of source, maxEntries entries, maxDepth levels of nesting.
-    // Both overloads throw std::bad_alloc when memory runs out.
+    // Reads a table. Errors name the reason and its place: line and column (text, XML) or the byte offset (binary).
+    // They have no place if the source is too large or the XML parser cannot be loaded. A source with only a byte-order
+    // mark, white space and comments of the text form, or with nothing, is an empty table. Limits: maxBytes of source,
+    // maxEntries entries including repeated keys, maxDepth levels of nesting. Both functions throw std::bad_alloc when
+    // memory runs out.
     [[nodiscard]] static Runtime::Result<Table> read(std::string bytes);
-    // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, links must not
-    // lead out of that folder.
+    // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, `path` begins
+    // with it, and links must not lead out of that folder.
     [[nodiscard]] static Runtime::Result<Table> readFile(const std::string& path, std::string_view bundle = {});
     static constexpr std::size_t maxBytes = std::size_t{256} << 20;
     static constexpr std::size_t maxEntries = std::size_t{1} << 22;
@@ -62,20 +64,20 @@ public:
     // The text of `key` (exact, case-sensitive), or no value. Never fails, allocates nothing.
     [[nodiscard]] std::optional<std::string_view> find(std::string_view key) const noexcept;
 
-    // Every key once, in source order, with its text. The last value of equal keys wins; a key whose last value is not
-    // a text has no entry.
+    // Every key once, in source order, with its text. The last value of equal keys wins, and its entry may be in the
+    // place of an earlier one; a key whose last value is not a text has no entry.
     [[nodiscard]] std::span<const Entry> entries() const noexcept;
-    // What was skipped: values that are not texts, repeated keys. One sentence each, with its location, in source
-    // order. After maxNotes notes, one more says how many were left out.
+    // What was skipped: values that are not texts, and values of repeated keys. One sentence each, with its location,
+    // in the order of the locations. After maxNotes notes, one more without a location says how many were left out.
     static constexpr std::size_t maxNotes = 1000;
     [[nodiscard]] std::span<const TableNote> notes() const noexcept;
     // The location of every entry's key, in the order of the entries; found in one pass.
     [[nodiscard]] std::vector<Location> locations() const;
     // The comment of every entry, in the order of the entries; found in one pass. It is made of the comments directly
-    // before the key, without a blank line between them, joined with LF. Empty when there is none, and in a binary
-    // table.
+    // before the key, without a blank line between them, joined with LF; a comment at the end of another entry's line
+    // is not part of it. Empty when there is none, and in a binary table.
     [[nodiscard]] std::vector<std::string> comments() const;
-    [[nodiscard]] Form form() const noexcept;
+    [[nodiscard]] Form form() const noexcept; // text for a default-constructed table
 
 private:
     static Runtime::Result<Table> read(std::string bytes, const std::string& file);

@@ -7,7 +7,7 @@
 
 namespace StringTables::internal {
 
-// -1 if `c` is not a hexadecimal digit.
+// The value of the hexadecimal digit `c`, or -1 if it is none.
 constexpr int hexDigit(char c) noexcept {
     if (c >= '0' && c <= '9')
         return c - '0';
@@ -16,13 +16,14 @@ constexpr int hexDigit(char c) noexcept {
 }
 
 struct Unescaped {
-    char* end;                // of what was written
-    const char* at = nullptr; // of a bad escape, or null
-    const char* message = nullptr;
+    char* end;                     // of what was written
+    const char* at = nullptr;      // where a bad escape is, or null
+    const char* message = nullptr; // what is wrong with it, or null
 };
 
 // Decodes `raw`, the inside of a quoted string, into `out`, which has room for raw.size() bytes (no escape is shorter
-// than its character). The byte after `raw` must be readable and not a hexadecimal digit.
+// than its character). A character must follow each backslash in `raw`, and the byte after `raw` must be readable and
+// not a hexadecimal digit.
 [[nodiscard]] Unescaped unescape(std::string_view raw, char* out) noexcept;
 
 } // namespace StringTables::internal

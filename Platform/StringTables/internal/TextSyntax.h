@@ -23,18 +23,17 @@ inline const char* commentEnd(const char* at, const char* end) noexcept {
     return close == std::string_view::npos ? nullptr : at + close + 4;
 }
 
-// The quotation mark that closes the string whose opening mark is at `at`, or `end`. `first`: the first mark or
-// backslash of the string.
 struct QuotedEnd {
-    const char* first;
-    const char* close;
+    const char* close;       // the closing quotation mark, or `end` if it is missing
+    const char* firstEscape; // the first backslash of the string, or `close` if it has none
 };
+// Where the string ends whose opening quotation mark is at `at`.
 inline QuotedEnd quotedEnd(const char* at, const char* end) noexcept {
     const char* const first = findEither(at + 1, end, *at, '\\');
     const char* close = first;
     while (*close == '\\') // skip the escaped character
         close = findEither(std::min(close + 2, end), end, *at, '\\');
-    return {first, close};
+    return {close, first};
 }
 
 } // namespace StringTables::internal

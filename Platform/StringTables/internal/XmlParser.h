@@ -1,7 +1,7 @@
 // StringTables/internal/XmlParser.h
 // Parses XML with expat. The platform loads expat with the plug-in lumora-xml.so, because a compiled bundle has no XML,
 // except perhaps an Info.plist that was copied from the source; tools link expat directly. Library and plug-in are
-// always built together.
+// always built together, so they can share C++ classes.
 // Text: handlers get UTF-8, whatever the encoding of the source; it is valid during the call only.
 // Threads: any; no shared state.
 #pragma once
@@ -47,7 +47,7 @@ protected:
 struct XmlFault {
     std::string message; // empty on success
     std::size_t offset = 0;
-    std::string entity{}; // if not empty, the name of an entity that follows the message
+    std::string entity{}; // if not empty, the name of an entity that parseXml() appends to the message
 };
 // Parses `source` from `begin` on. With `isUtf8` the source is UTF-8, otherwise it has the encoding that it declares.
 using XmlParser = XmlFault(std::string_view source, std::size_t begin, bool isUtf8, XmlHandler& handler);

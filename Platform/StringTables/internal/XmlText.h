@@ -8,10 +8,11 @@
 
 namespace StringTables::internal {
 
-// Whether XML can represent the text: it has no control characters except tabs and line breaks.
+// Whether XML can represent the text, which is UTF-8: it has neither control characters, except tabs and line breaks,
+// nor U+FFFE or U+FFFF.
 [[nodiscard]] bool canBeXml(std::string_view text) noexcept;
 
-// Escapes `text` as element content. `inAscii` writes other characters as numeric references.
+// Escapes `text` as element content. With `inAscii`, characters that are not ASCII become numeric references.
 [[nodiscard]] std::string xmlText(std::string_view text, bool inAscii = false);
 
 // `text` with a space in every `mark` of two characters, so that it can be in a comment that `mark` would end.
