@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 #include <jpeglib.h>
 #include <span>
-#include <utility>
 
 namespace {
 
@@ -113,11 +112,10 @@ TEST(Jpeg, ScansAreLimited) {
     const jpeg_scan_info scans[] = {{1, {0}, 0, 0, 0, 0}, {1, {0}, 1, 63, 0, 0}};
     const Bytes file = write({.space = JCS_GRAYSCALE, .pixel = {77}, .scans = scans});
     // The first scan gives its coefficients all bits, so a decoder accepts it again.
-    const auto first = std::ranges::search(file, Bytes{0xFF, 0xDA}).begin();
-    const auto next =
-        std::find_if(first + 2, file.end(),
-                     [last = 0](int byte) mutable { return std::exchange(last, byte) == 0xFF && byte != 0; }) -
-        1;
+    const auto isMarker = [](int byte, int next) { return byte == 0xFF && next != 0; };
+    const Bytes scanMarker = {0xFF, 0xDA};
+    const auto first = std::search(file.begin(), file.end(), scanMarker.begin(), scanMarker.end());
+    const auto next = std::adjacent_find(first + 2, file.end(), isMarker);
     Bytes repeated = file;
     for (int count = 2; count < 200; ++count)
         repeated.insert(repeated.begin() + (next - file.begin()), first, next);
