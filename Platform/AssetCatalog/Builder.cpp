@@ -4,7 +4,9 @@
 #include "AssetCatalog/internal/Check.h"
 #include "AssetCatalog/internal/Layout.h"
 #include <algorithm>
+#include <string>
 #include <tuple>
+#include <utility>
 
 namespace AssetCatalog {
 
@@ -16,6 +18,10 @@ std::uint64_t hashOf(const Asset& asset) {
 // The order of the assets in the file.
 std::tuple<std::uint64_t, Kind, std::string_view> orderOf(const Asset& asset) {
     return {hashOf(asset), asset.kind, asset.name};
+}
+
+Runtime::Error failure(std::string message) {
+    return {.message = std::move(message), .file = std::string(fileName)};
 }
 
 Format::Fit formatted(const Fit& fit) {
@@ -172,7 +178,9 @@ std::string BuiltCatalog::bytes() const {
 Runtime::Result<BuiltCatalog> build(std::vector<Asset> assets) {
     std::ranges::sort(assets, {}, orderOf);
     if (const auto same = std::ranges::adjacent_find(assets, {}, orderOf); same != assets.end())
-        return Runtime::Error{.message = "two assets of one kind are named \"" + same->name + "\"", .file = {}};
+        return failure("two assets of one kind are named \"" + same->name + "\"");
+    if (assets.size() > maxAssets)
+        return failure("has more than " + std::to_string(maxAssets) + " assets");
     Writer writer;
     for (Asset& asset : assets)
         writer.add(asset);
@@ -182,12 +190,12 @@ Runtime::Result<BuiltCatalog> build(std::vector<Asset> assets) {
     for (const std::string_view piece : built.pieces())
         total += piece.size();
     if (total > maxBytes)
-        return Runtime::Error{.message = "has more than " + std::to_string(maxBytes) + " bytes", .file = {}};
+        return failure("has more than " + std::to_string(maxBytes) + " bytes");
     const std::span index(reinterpret_cast<const std::uint8_t*>(built.index.data()), built.index.size());
     if (const auto size = indexBytes(index, total); !size)
-        return size.error();
+        return failure(size.error().message);
     if (const auto checked = check(index, total); !checked)
-        return checked.error();
+        return failure(checked.error().message);
     return built;
 }
 

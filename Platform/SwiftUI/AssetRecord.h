@@ -15,14 +15,14 @@
 //         static constexpr LumoraImages image(const char* name) noexcept;
 //     };
 //
-// but defines its functions in a separate header, for the sources that define records or assign colours:
+// but defines its functions in a separate header, which only the sources that define records or assign colours include:
 //
 //     constinit const LumoraImages LumoraAsset::Images::send = AssetModule::RecordFactory::image("send");
 //
 // Records are constants: no code runs to create or destroy them.
 // Text: UTF-8. Threads: any. Ownership: names are string literals; returned references are valid until the process
-// ends. Errors: reading a missing asset stops the process; when memory or descriptors run out, it throws std::bad_alloc
-// or std::system_error and caches nothing.
+// ends. Errors: reading a missing asset stops the process; reading when memory or descriptors run out throws
+// std::bad_alloc or std::system_error, and nothing is cached.
 #pragma once
 
 #include "Runtime/Export.h"

@@ -1,5 +1,5 @@
 // SwiftUI/Color.h
-// A colour view. It has a UIColor, or the name of a colour asset, which is looked up when the view is drawn.
+// A colour view. It has a UIColor, or the name of a colour asset, which resolve() looks up when the view is drawn.
 // Text: UTF-8. Threads: plain values.
 #pragma once
 

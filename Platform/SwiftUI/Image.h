@@ -1,5 +1,5 @@
 // SwiftUI/Image.h
-// An image view. It refers to a picture by name; the asset is looked up when the view is drawn.
+// An image view. It has the name of an image asset, which resolve() looks up when the view is drawn.
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
@@ -29,6 +29,7 @@ public:
     }
 
     [[nodiscard]] const NamedAsset& asset() const noexcept { return asset_; }
+    // The accessibility label; no value means the asset name, unless the image is decorative.
     [[nodiscard]] const std::optional<Text>& label() const noexcept { return label_; }
     [[nodiscard]] bool isDecorative() const noexcept { return isDecorative_; }
     // The image to draw for these traits, completed by the current ones; no value when the asset is missing.

@@ -142,6 +142,7 @@ TEST(Catalog, BuilderRejectsWhatReadersReject) {
         c.edit(assets);
         auto built = build(assets);
         ASSERT_FALSE(built);
+        EXPECT_EQ(built.error().file, fileName);
         EXPECT_NE(built.error().message.find(c.message), std::string::npos) << built.error().message;
     }
 }

@@ -159,6 +159,7 @@ std::string integerCondition(const std::string& rule) {
                : joined(alternatives, " || ", [](const std::string& one) { return inBrackets(one, " && "); });
 }
 
+// "A ? 0 : B ? 1 : 2": integers that meet no condition have the last category.
 std::string integerExpression(const std::vector<std::string>& conditions) {
     std::string out;
     for (std::size_t i = 0; i + 1 < conditions.size(); ++i)

@@ -10,8 +10,8 @@ namespace Intl {
 
 enum class NumberStyle { decimal, percent };
 
-// How one locale writes numbers of one style. The affixes include the sign. The default is the plain decimal form:
-// ASCII digits without grouping.
+// How one locale writes numbers of one style. The negative affixes include the sign. The default is the plain
+// decimal form: ASCII digits without grouping.
 struct NumberPattern {
     std::array<std::string, 10> digits = {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"};
     std::string positivePrefix, positiveSuffix;
