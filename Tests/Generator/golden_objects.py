@@ -8,7 +8,7 @@ ACCESSORS, CONSTANTS = 30, 5  # in Golden/expected
 BUNDLE = "_ZN3Odd12OddResources6bundleEv"
 SECTIONS = re.compile(r" (\.(?:init_array|ctors)\S*)")
 STRINGS_SECTIONS = re.compile(r" (\.(?:init_array|ctors|data\.rel\.ro)\S*)")
-SHOWN = re.compile(r"\s*\d+: .* GLOBAL +DEFAULT +\d+ (\S+)")
+EXPORTED = re.compile(r"\s*\d+: .* GLOBAL +DEFAULT +\d+ (\S+)")
 
 
 def output(*command):
@@ -18,21 +18,21 @@ def output(*command):
 
 def main(objects):
     faults = []
-    shown = []
+    exported = []
     for file in objects:
         sections = STRINGS_SECTIONS if "OddStrings" in file else SECTIONS
         faults += [f"{file}: has {name}" for name in sections.findall(output("readelf", "-SW", file))]
-        shown += [found.group(1) for found in map(SHOWN.match, output("readelf", "-sW", file).splitlines()) if found]
-    accessors = [name for name in shown if name.startswith("_ZN3Odd10OddStrings")]
-    constants = [name for name in shown if name.startswith("_ZN3Odd8OddAsset")]
-    faults += [f"shows {name}" for name in shown if name not in accessors + constants and name != BUNDLE]
-    if BUNDLE not in shown:
-        faults.append(f"hides {BUNDLE}")
+        exported += [found.group(1) for found in map(EXPORTED.match, output("readelf", "-sW", file).splitlines()) if found]
+    accessors = [name for name in exported if name.startswith("_ZN3Odd10OddStrings")]
+    constants = [name for name in exported if name.startswith("_ZN3Odd8OddAsset")]
+    faults += [f"exports {name}" for name in exported if name not in accessors + constants and name != BUNDLE]
+    if BUNDLE not in exported:
+        faults.append(f"does not export {BUNDLE}")
     if len(accessors) != ACCESSORS:
-        faults.append(f"shows {len(accessors)} accessors, not {ACCESSORS}")
+        faults.append(f"exports {len(accessors)} accessors, not {ACCESSORS}")
     if len(constants) != CONSTANTS:
-        faults.append(f"shows {len(constants)} constants, not {CONSTANTS}")
-    print("\n".join(faults) or f"{len(shown)} symbols, no code at load")
+        faults.append(f"exports {len(constants)} constants, not {CONSTANTS}")
+    print("\n".join(faults) or f"{len(exported)} symbols, no code at load")
     return 1 if faults else 0
 
 

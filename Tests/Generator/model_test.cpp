@@ -141,7 +141,8 @@ TEST(Model, UsesTheNamesFile) {
     const auto names = tree.write("names", "\"T/Ban %@\" = \"Moderation.banUser\";\n"
                                            "\"T/banUser\" = \"ok\";\n"
                                            "\"T/odd\" = \"Group.EMAIL\";\n"
-                                           "\"T/gone\" = \"gone\";\n");
+                                           "\"T/gone\" = \"gone\";\n"
+                                           "\"T/ok\" = \"std.ok\";\n");
     const Generator::Options options{.module = "M", .names = names};
     // Names from the names file take precedence.
     EXPECT_EQ(tree.accessors(options),
@@ -150,6 +151,7 @@ TEST(Model, UsesTheNamesFile) {
         tree.takeMessages(),
         (Strings{
             "warning: names:3:1: the part \"EMAIL\" is not a C++ identifier that the naming rules leave unchanged",
+            "warning: names:5:1: the part \"std\" is not a C++ identifier that the naming rules leave unchanged",
             "warning: Base.lproj/T.strings:3:1: key \"ok\" has no accessor: the name ok belongs to key "
             "\"banUser\" (line 2)",
             "warning: names:4:1: names \"T/gone\", which is not in the development texts of a table with accessors"}));

@@ -101,7 +101,7 @@ std::vector<OutputFile> filesOf(const Model& model, const Options& options) {
     std::vector<OutputFile> files = emitStrings(model.tables, options);
     std::ranges::move(emitAssets(model.assetTree.constants, options), std::back_inserter(files));
     files.push_back({options.module + ".h", moduleHeader(options)});
-    // A build system tracks only these headers by name: this makes them change with the headers that they include.
+    // Build systems know only NAMEStrings.h and NAMEAsset.h, so these must change when a header that they include does.
     for (const std::string tree : {"Strings", "Asset"})
         addFingerprint(options.module + tree, files);
     return files;

@@ -12,8 +12,10 @@ namespace {
 using namespace Unicode;
 using Words = std::vector<std::u32string>;
 
-// Names in generated code that table namespaces would clash with.
-constexpr std::string_view clashingTableNames[] = {"detail", "std", "tr"};
+// Names in generated code that a namespace in the tree would hide or clash with.
+bool clashes(std::string_view nameSpace) {
+    return nameSpace == "detail" || nameSpace == "std" || nameSpace == "tr";
+}
 
 constexpr bool isAsciiCapital(char c) {
     return c >= 'A' && c <= 'Z';
@@ -167,11 +169,15 @@ std::string spelling(std::string_view name) {
 
 std::string tableSpelling(std::string_view table) {
     const std::string spelled = isIdentifier(table) ? spelling(table) : spelling(groupName(table));
-    return std::ranges::find(clashingTableNames, spelled) == std::end(clashingTableNames) ? spelled : spelled + '_';
+    return clashes(spelled) ? spelled + '_' : spelled;
 }
 
 bool isCppSpelling(std::string_view name) {
     return isIdentifier(name) && spelling(name) == name;
+}
+
+bool isNamespaceSpelling(std::string_view name) {
+    return isCppSpelling(name) && !clashes(name);
 }
 
 bool isModuleName(std::string_view name) {

@@ -26,11 +26,14 @@ namespace Generator::Namer {
 // an empty name.
 [[nodiscard]] std::string spelling(std::string_view name);
 
-// The C++ spelling of a table's name: the name itself if it is an identifier, otherwise derived like a group's.
+// The C++ spelling for a table or an asset catalog: that of its name if that is an identifier, otherwise that of the
+// name for a group. A name that would clash with generated code gets an underscore at the end.
 [[nodiscard]] std::string tableSpelling(std::string_view table);
 
 // Whether `name` is an identifier without an underscore at its beginning that spelling() returns unchanged.
 [[nodiscard]] bool isCppSpelling(std::string_view name);
+// Whether `name` is such a spelling and also usable for a namespace in the tree.
+[[nodiscard]] bool isNamespaceSpelling(std::string_view name);
 
 // Whether `name` is usable for the module's namespace: a C++ spelling, neither "main" nor a namespace that C++
 // reserves.

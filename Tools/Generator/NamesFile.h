@@ -19,8 +19,8 @@ class NamesFile {
 public:
     // No names.
     NamesFile() = default;
-    // An unreadable file is an error. A path with a part that Namer::isCppSpelling() rejects is a warning, and the key
-    // gets the name by the rule.
+    // An unreadable file is an error. A path with a part that Namer rejects as a C++ spelling (the last one) or as a
+    // namespace is a warning, and the key gets the name by the rule.
     [[nodiscard]] static NamesFile read(const std::filesystem::path& file, SourceBundle::Diagnostics& diagnostics);
 
     // The parts of the path, groups first; null if the file does not mention the key.

@@ -48,8 +48,8 @@ using PictureCheck = std::function<Runtime::Result<void>(const SourceFile& file)
 // its subfolders. Several may have the same kind and name; the first one counts. Docs/catalogs.md describes what is
 // read. Unusable parts are left out with a warning: a set with a broken Contents.json, a file that is missing or
 // outside of its set, a picture that `check` rejects, an invalid colour. Unsupported features are notes. Errors: a
-// folder that is unreadable or below more than maxFolderDepth others; a picture that cannot be read because of a system
-// error; a Contents.json with a transient one (see Runtime::Error).
+// folder that is unreadable, or nested more than maxFolderDepth (SourceFiles.h) deep; a picture that cannot be read
+// because of a system error; a Contents.json with a transient one (see Runtime::Error).
 [[nodiscard]] std::vector<SourceAsset> sourceAssets(std::span<const std::filesystem::path> catalogs,
                                                     Diagnostics& diagnostics, const PictureCheck& check = checkPicture);
 

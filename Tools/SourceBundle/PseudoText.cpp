@@ -33,7 +33,7 @@ bool separatesWords(char32_t c) {
 }
 
 // Whether a combining mark suits the letter: it does in alphabets with capital and small letters, such as Cyrillic and
-// Greek. Latin letters outside ASCII have no second mark; most have one already.
+// Greek. Latin letters outside ASCII get none, because most have one already.
 bool takesMark(char32_t c) {
     const auto code = static_cast<UChar32>(c);
     return u_hasBinaryProperty(code, UCHAR_CASED) && !uscript_hasScript(code, USCRIPT_LATIN);

@@ -15,7 +15,7 @@ struct SetEntry {
     const Json* json;
     std::size_t number; // in its list, counted from 1
     AssetCatalog::Fit fit{};
-    std::string language{};
+    std::string language{}; // "pt-BR"; empty: for all languages
     // The kind of device and screen that the variant is for. Only the variants of one kind are used, see isPreferred().
     struct Device {
         std::vector<std::string> conditions{}; // `subtype "retina4"`, sorted
