@@ -18,15 +18,16 @@ using StringTables::Form;
 using StringTables::Table;
 
 struct Outcome {
-    std::string failure; // of the file system
+    std::string failure; // the error of compileBundle(), or empty
     std::vector<std::string> diagnostics;
 };
 
 Outcome compile(
-    const fs::path& source, const fs::path& bundle, const Compiler::Progress& progress = [](auto, auto, auto) {}) {
+    const fs::path& source, const fs::path& bundle, const Compiler::Progress& progress = [](auto, auto, auto) {},
+    const SourceBundle::SourceOptions& options = {}) {
     SourceBundle::Diagnostics diagnostics;
     const fs::path folders[] = {source};
-    const auto read = SourceBundle::Source::read(folders, {}, diagnostics);
+    const auto read = SourceBundle::Source::read(folders, options, diagnostics);
     const auto done = Compiler::compileBundle(read, folders, bundle, diagnostics, progress);
     Outcome outcome{.failure = done ? "" : done.error().text(), .diagnostics = {}};
     for (const auto& one : diagnostics.all())
@@ -54,7 +55,7 @@ TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "en");
 }
 
-TEST(CompileBundle, KeepsInfoPlist) {
+TEST(CompileBundle, CompletesInfoPlist) {
     const Support::TemporaryFolder folder;
     folder.write("source/de.lproj/T.strings", "a = b;");
     folder.write("source/Info.plist", "CFBundleDevelopmentRegion = de; Other = text;");
@@ -67,7 +68,7 @@ TEST(CompileBundle, KeepsInfoPlist) {
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "de");
     EXPECT_EQ(information->find("Other"), "text");
 
-    // A file with other values is copied unchanged; missing entries are added.
+    // A file with other values than texts is copied unchanged. A build setting is replaced.
     const std::string more = "<plist><dict><key>CFBundleDevelopmentRegion</key><string>de</string>"
                              "<key>a</key><array/></dict></plist>";
     folder.write("source/Info.plist", more);
@@ -77,6 +78,11 @@ TEST(CompileBundle, KeepsInfoPlist) {
     ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
     EXPECT_EQ(Table::read(Support::contents(folder / "out.bundle/Info.plist"))->find("CFBundleDevelopmentRegion"),
               "en");
+    // A damaged file is an error, even if its development language is not needed.
+    const fs::path damaged = folder.write("source/Info.plist", "Other = text; }");
+    const Outcome outcome =
+        compile(folder / "source", folder / "out.bundle", [](auto, auto, auto) {}, {.developmentLanguage = "de"});
+    EXPECT_TRUE(outcome.failure.starts_with(damaged.string() + ":1:15: ")) << outcome.failure;
 }
 
 TEST(CompileBundle, ChoosesTheFirstOfAssetsOfOneName) {
@@ -223,7 +229,7 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
     const std::string photos = folder / "photos";
     EXPECT_EQ(compile(folder / "source", photos).failure, photos + ": already exists and is not a compiled bundle");
     EXPECT_EQ(Support::contents(folder / "photos/one"), "dear");
-    // Nor a source that looks much like a bundle.
+    // A source that looks like a bundle is not replaced either.
     folder.write("source/Info.plist", "<plist><dict/></plist>");
     for (const fs::path& out : {folder / "source", folder.path()})
         EXPECT_TRUE(compile(folder / "source", out).failure.starts_with(out.string() + ": is or contains the source "));
@@ -271,7 +277,7 @@ TEST(CompileBundle, RemovesOnlyFoldersOfKilledCompiles) {
     ASSERT_EQ(staged(folder.path()).size(), 1U);
 
     fs::create_directory(folder / "out.bundle.staged-killed"); // killed before it was marked
-    // A copy, the staged folder of another bundle, one without the mark, and a link to another folder.
+    // What is kept: a copy, the staged folder of another bundle, one without the mark, and a link to another folder.
     const std::set<std::string> others = {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef",
                                           "out.bundle.staged-abcdef", "out.bundle.staged-ABCDEF"};
     for (const std::string name : {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef", "dear"})
@@ -279,7 +285,7 @@ TEST(CompileBundle, RemovesOnlyFoldersOfKilledCompiles) {
     folder.write("out.bundle.staged-abcdef/A", "");
     fs::create_directory_symlink("dear", folder / "out.bundle.staged-ABCDEF");
 
-    // Nor that of a running compile.
+    // The staged folder of a running compile is not removed either.
     std::size_t living = 0;
     const Outcome outer = compile(source, bundle, [&](auto, auto, auto) {
         EXPECT_EQ(compile(source, bundle).failure, "");
@@ -292,7 +298,7 @@ TEST(CompileBundle, RemovesOnlyFoldersOfKilledCompiles) {
     EXPECT_EQ(Support::filesBelow(bundle).size(), 3U);
 }
 
-// With few descriptors a compile succeeds, or fails with an error and leaves nothing behind; with more it succeeds.
+// With few free descriptors a compile succeeds, or fails with an error and leaves nothing behind; with 12 it succeeds.
 TEST(CompileBundle, RunsOutOfDescriptors) {
     const Support::TemporaryFolder folder;
     folder.write("source/Base.lproj/A.strings", "a = b;");
@@ -304,7 +310,7 @@ TEST(CompileBundle, RunsOutOfDescriptors) {
     int highest = 0;
     for (const fs::directory_entry& one : fs::directory_iterator("/proc/self/fd"))
         highest = std::max(highest, std::stoi(one.path().filename()));
-    std::vector<Runtime::Descriptor> gaps; // fill the gaps, so that the limit determines the number of free descriptors
+    std::vector<Runtime::Descriptor> gaps; // filled, so that the limit determines the number of free descriptors
     do
         gaps.emplace_back(::open("/dev/null", O_RDONLY | O_CLOEXEC));
     while (gaps.back().number() < highest);

@@ -28,13 +28,14 @@ using SourceBundle::SourceFile;
 
 namespace {
 
-// Reads the files of the source, each once, and converts pictures. Equal contents are stored once.
+// Reads the files of the source and converts pictures. Keeps both; files with equal contents share them.
 // Threads: any.
 class Files {
 public:
     explicit Files(PictureCache cache) : cache_(std::move(cache)) {}
 
-    // Errors: the file cannot be read or has more than 256 MiB, all files together have more than a catalog may hold.
+    // Errors: the file cannot be read, it has more than SourcePictures::maxFileBytes, all files together have more than
+    // a catalog may contain.
     Runtime::Result<Bytes> bytes(const fs::path& path) {
         {
             const std::lock_guard guard(lock_);
@@ -92,13 +93,14 @@ public:
 private:
     const PictureCache cache_;
     std::mutex lock_;
-    Runtime::NameMap<Bytes> read_; // by path
-    Runtime::NameMap<Bytes, std::string_view> contents_;
-    std::size_t total_ = 0;
+    Runtime::NameMap<Bytes> read_;                       // by path
+    Runtime::NameMap<Bytes, std::string_view> contents_; // by content; keys point into values
+    std::size_t total_ = 0;                              // the size of contents_
     MadePictures made_;
 };
 
-// Pictures made for their scale come before those that were derived from a drawing for another scale.
+// Pictures made for their scale come before those that were derived from a drawing for another scale, because the
+// catalog uses the first of several for the same traits.
 void addPictures(const SourceAsset& source, Files& files, Asset& asset, Diagnostics& diagnostics) {
     std::vector<Picture> derived;
     for (const SourceFile& file : source.files) {
@@ -151,7 +153,7 @@ Asset compiled(const SourceAsset& source, Files& files, Diagnostics& diagnostics
     return asset;
 }
 
-// A catalog has only one asset per kind and name: the first.
+// Keeps the first asset of each kind and name; a catalog cannot have several.
 void removeDuplicates(std::vector<SourceAsset>& assets, Diagnostics& diagnostics) {
     std::map<std::pair<AssetCatalog::Kind, std::string>, fs::path> taken;
     std::erase_if(assets, [&](const SourceAsset& asset) {

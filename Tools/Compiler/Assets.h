@@ -11,9 +11,9 @@
 
 namespace Compiler {
 
-// Writes Assets.catalog if the catalogs have assets. Returns the lines of the mark file that list its pictures for the
-// next compile. Reuses pictures that `lastMark`, the mark file of the last compile, lists; the result is the same as
-// without them.
+// Writes Assets.catalog to `out` if the catalogs have assets and `diagnostics` has no errors. Returns the lines of the
+// mark file that list its pictures for the next compile. Reuses pictures that `lastMark` lists, the content of the last
+// compile's mark file (SourceBundle::compiledMark); the catalog is the same as without them.
 [[nodiscard]] Runtime::Result<std::string> compileAssets(std::span<const std::filesystem::path> catalogs,
                                                          const StagedFolder& out, std::string_view lastMark,
                                                          SourceBundle::Diagnostics& diagnostics,

@@ -13,6 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Whether `other` is `folder` or below it.
 bool contains(const fs::path& folder, const fs::path& other) {
     std::error_code failed;
     const fs::path relative =
@@ -20,7 +21,7 @@ bool contains(const fs::path& folder, const fs::path& other) {
     return !relative.empty() && *relative.begin() != "..";
 }
 
-// What the last compile noted in the bundle; empty if there is none.
+// The mark file of the last compile; empty if there is no readable one.
 std::string contentOfMark(const fs::path& bundle) {
     constexpr std::size_t maxMarkBytes = std::size_t{256} << 20;
     auto mark = Runtime::readFile(bundle / SourceBundle::compiledMark, maxMarkBytes);

@@ -9,18 +9,22 @@
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <string_view>
 
 namespace Compiler {
 
-// Called before each step with its name, the number of steps that have begun before it and the number of all steps. The
-// tables are counted first, then the assets. Calls come from several threads, but one at a time.
-using Progress = std::function<void(std::string_view what, std::size_t done, std::size_t all)>;
+// Called before each table in a language and before each asset is compiled: its name, how many have begun before it,
+// and how many there are. Assets come after all tables and are counted from 0 again. Calls come from several threads,
+// but one at a time.
+using Progress = std::function<void(std::string_view what, std::size_t begun, std::size_t all)>;
 
 // Compiles `source`, which was read from `folders`, into `bundle`. The bundle is built in a staging folder and replaced
 // atomically: readers, also after a killed compile, find either the old bundle or the new one. Problems in the source
-// are added to `diagnostics`; if there are errors, the bundle is unchanged. The result reports file system errors.
-// Replaces only compiled bundles, never other folders or a folder that contains a source.
+// are added to `diagnostics`; if it contains errors, the bundle is unchanged. The result reports other errors: a file
+// cannot be written, the bundle must not be replaced, a file would exceed its size limit. Replaces only compiled
+// bundles and empty folders, and nothing that is or contains one of `folders`. Throws std::runtime_error if the plug-in
+// that draws pictures cannot be loaded.
 [[nodiscard]] Runtime::Result<void> compileBundle(const SourceBundle::Source& source,
                                                   std::span<const std::filesystem::path> folders,
                                                   const std::filesystem::path& bundle,

@@ -4,7 +4,6 @@
 #include "Compiler/Records.h"
 #include <charconv>
 #include <iterator>
-#include <xxhash.h>
 
 namespace Compiler {
 
@@ -20,16 +19,16 @@ std::string decimal(double number) {
 
 } // namespace
 
-PictureCache PictureCache::of(const fs::path& bundle, std::string_view markFile) {
+PictureCache PictureCache::of(const fs::path& bundle, std::string_view mark) {
     auto catalog = Runtime::OpenFile::open(bundle / AssetCatalog::fileName, AssetCatalog::maxBytes);
     if (!catalog)
         return PictureCache(std::nullopt);
     PictureCache cache(*std::move(catalog));
-    eachLine(markFile, [&cache](std::string_view line) { cache.readRecord(line); });
+    eachLine(mark, [&cache](std::string_view line) { cache.readRecord(line); });
     return cache;
 }
 
-// Invalid lines are skipped.
+// Skips lines that are not about pictures or are invalid.
 void PictureCache::readRecord(std::string_view line) {
     Fields fields(line);
     const std::string key(fields.word());
@@ -43,17 +42,14 @@ void PictureCache::readRecord(std::string_view line) {
     fields.read(record.offset);
     fields.read(record.size);
     fields.read(record.hash, 16);
-    if (fields.isSound() && record.size <= AssetCatalog::maxBytes)
+    if (fields.isSound())
         pictures_[key].push_back(std::move(record));
 }
 
 std::string PictureCache::keyOf(std::string_view bytes, const SourcePictures::Purpose& purpose) {
     static const std::string version = SourcePictures::converterVersion();
-    const std::string context = version + (purpose.isSymbol ? " symbol " : " ") + std::to_string(purpose.scale) +
-                                (purpose.preservesVector ? " preserved" : "");
-    const XXH128_hash_t content = XXH3_128bits(bytes.data(), bytes.size());
-    const XXH128_hash_t key = XXH3_128bits_withSeed(context.data(), context.size(), content.low64);
-    return hex(key.high64 ^ content.high64) + hex(key.low64);
+    return longHashOf(version + (purpose.isSymbol ? " symbol " : " ") + std::to_string(purpose.scale) +
+                      (purpose.preservesVector ? " preserved " : " ") + longHashOf(bytes));
 }
 
 std::optional<std::vector<Picture>> PictureCache::find(const std::string& key) const {
@@ -80,7 +76,7 @@ std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog
         const std::size_t begin = list.size();
         for (const Picture& picture : pictures) {
             const auto stored = catalog.offsets.find(*picture.bytes);
-            if (stored == catalog.offsets.end()) { // for this scale the catalog uses the picture of another file
+            if (stored == catalog.offsets.end()) { // for this scale the catalog has the picture of another file
                 list.resize(begin);
                 break;
             }

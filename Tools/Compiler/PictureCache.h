@@ -1,6 +1,6 @@
 // Compiler/PictureCache.h
 // A cache of the pictures converted by the last compile; internal to the compiler.
-// The list of pictures is in the bundle's mark file, their bytes are in its catalog.
+// The list of pictures is in the bundle's mark file, their bytes are in the bundle's catalog.
 // Threads: find() and has() from any thread.
 #pragma once
 
@@ -19,10 +19,12 @@ namespace Compiler {
 
 class PictureCache {
 public:
-    // The cache of the bundle at that path, whose mark file has that content; empty if its catalog is unreadable.
-    static PictureCache of(const std::filesystem::path& bundle, std::string_view markFile);
+    // The pictures of the last compile to `bundle`; none if its catalog is unreadable. `mark` is the content of its
+    // mark file (SourceBundle::compiledMark).
+    static PictureCache of(const std::filesystem::path& bundle, std::string_view mark);
 
-    // A hash of everything that the result depends on: the file, its purpose and the versions of the converters.
+    // A hash of everything that the pictures made from a file depend on: its bytes, its purpose and the versions of the
+    // converters.
     [[nodiscard]] static std::string keyOf(std::string_view bytes, const SourcePictures::Purpose& purpose);
 
     [[nodiscard]] bool has(const std::string& key) const { return pictures_.contains(key); }
@@ -32,6 +34,7 @@ public:
 private:
     struct Record {
         AssetCatalog::Picture picture; // without its bytes
+        // Where the catalog had its bytes, and their hash.
         std::uint64_t offset = 0;
         std::uint64_t size = 0;
         std::uint64_t hash = 0;
@@ -40,14 +43,14 @@ private:
 
     void readRecord(std::string_view line);
 
-    std::optional<Runtime::OpenFile> catalog_;
+    std::optional<Runtime::OpenFile> catalog_;                         // no value: there are no pictures
     std::map<std::string, std::vector<Record>, std::less<>> pictures_; // by key
 };
 
-// The pictures of this compile, by key.
+// The pictures of this compile, by key; those of one file are together.
 using MadePictures = std::map<std::string, std::vector<AssetCatalog::Picture>>;
 
-// The lines of the mark file for the bundle with `catalog`.
+// The lines of the mark file for the pictures of files whose pictures are all in `catalog`.
 [[nodiscard]] std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog& catalog);
 
 } // namespace Compiler

@@ -16,4 +16,9 @@ std::uint64_t hashOf(std::string_view bytes) noexcept {
     return XXH3_64bits(bytes.data(), bytes.size());
 }
 
+std::string longHashOf(std::string_view bytes) {
+    const XXH128_hash_t hash = XXH3_128bits(bytes.data(), bytes.size());
+    return hex(hash.high64) + hex(hash.low64);
+}
+
 } // namespace Compiler

@@ -13,10 +13,12 @@
 
 namespace Compiler {
 
-// 16 lower-case digits.
+// 16 lower-case hexadecimal digits.
 [[nodiscard]] std::string hex(std::uint64_t number);
 // The hash by which the next compile finds out whether bytes in the bundle are still the same.
 [[nodiscard]] std::uint64_t hashOf(std::string_view bytes) noexcept;
+// A 128-bit hash, for which collisions are not expected: 32 lower-case hexadecimal digits.
+[[nodiscard]] std::string longHashOf(std::string_view bytes);
 
 // Calls use(line) for each line of `list`.
 template <class Use> void eachLine(std::string_view list, const Use& use) {
@@ -27,7 +29,7 @@ template <class Use> void eachLine(std::string_view list, const Use& use) {
     }
 }
 
-// Reads the fields of a line in order.
+// Reads the fields of a line, which are separated by spaces, in order.
 class Fields {
 public:
     explicit Fields(std::string_view line) : rest_(line) {}
@@ -38,11 +40,13 @@ public:
         rest_.remove_prefix(std::min(end + 1, rest_.size()));
         return word;
     }
+    // Reads the next field as a number. `base`: as for std::from_chars.
     template <class Number, class... Base> void read(Number& number, Base... base) {
         const std::string_view text = word();
         const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number, base...);
         isSound_ = isSound_ && failure == std::errc() && end == text.data() + text.size();
     }
+    // Whether all numbers were valid and no field is left.
     bool isSound() const { return isSound_ && rest_.empty(); }
 
 private:

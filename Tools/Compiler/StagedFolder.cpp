@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// A spare descriptor, so that folders can be removed when none is free.
+// A spare descriptor, which is closed when another one is needed.
 Runtime::Descriptor reserved() noexcept {
     return Runtime::Descriptor(::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
@@ -41,7 +41,8 @@ bool isStagedName(std::string_view name, std::string_view target) {
            });
 }
 
-// Negative if another compile holds the lock or the file system has no locks.
+// Returns a descriptor that holds the folder's lock as long as it is open. Negative if another compile holds the lock
+// or it cannot be taken.
 int lock(const fs::path& folder) noexcept {
     const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
     if (descriptor < 0 || ::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
@@ -115,7 +116,7 @@ bool hasContent(const fs::path& path, std::span<const std::string_view> pieces) 
     return true;
 }
 
-// Creates the folder of a file, unless there is one.
+// Creates the folder of a file, unless there is one. False on failure.
 bool createdFolderOf(const fs::path& file) {
     std::error_code failed;
     fs::create_directories(file.parent_path(), failed);
@@ -146,7 +147,7 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
     removeAbandoned(target);
     // Reserve these first: removing the folder must never fail for lack of descriptors.
     Reserve reserve{reserved(), reserved(), reserved()};
-    if (reserve.back().number() < 0)
+    if (std::ranges::any_of(reserve, [](const Runtime::Descriptor& one) { return one.number() < 0; }))
         return Runtime::systemError(target, "cannot be created");
     std::string path = target.string().append(stagedMiddle).append("XXXXXX");
     if (::mkdtemp(path.data()) == nullptr)

@@ -18,8 +18,9 @@ inline constexpr std::string_view markText = "Made by lumora compile.\n";
 
 class StagedFolder {
 public:
-    // Creates an empty folder beside `target`, NAME.staged-XXXXXX, and removes such folders of killed compiles. Errors:
-    // `target` exists and is neither empty nor marked, or its parent folder is not writable.
+    // Creates the folder NAME.staged-XXXXXX beside `target`, with a mark file, and removes such folders of killed
+    // compiles. Errors: `target` exists and is neither an empty folder nor a compiled bundle; the folder cannot be
+    // created.
     [[nodiscard]] static Runtime::Result<StagedFolder> create(const std::filesystem::path& target);
 
     StagedFolder(StagedFolder&& other) noexcept;
@@ -30,26 +31,27 @@ public:
     [[nodiscard]] const std::filesystem::path& path() const noexcept { return staged_; }
     [[nodiscard]] const std::filesystem::path& target() const noexcept { return target_; }
 
-    // Writes a file below the folder; its content is the concatenation of `pieces`. If the target has the same file, it
-    // is kept.
+    // Writes the file `name` below the folder, the concatenation of `pieces`. If the target's file `name` has the same
+    // content, it is kept instead.
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name,
                                               std::span<const std::string_view> pieces) const;
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name, std::string_view bytes) const {
         return write(name, {&bytes, 1});
     }
-    // Hard-links the target's file `name`, so that it keeps its modification time. Returns false if that is impossible.
+    // Hard-links the target's file `name` into the folder, so that it keeps its modification time. Returns false if
+    // that is impossible.
     [[nodiscard]] bool keep(const std::filesystem::path& name) const;
     // Moves the folder to the target; an older target is exchanged atomically.
     [[nodiscard]] Runtime::Result<void> putInPlace();
 
 private:
-    using Reserve = std::array<Runtime::Descriptor, 3>; // what the destructor needs
+    using Reserve = std::array<Runtime::Descriptor, 3>; // as many as the destructor needs to remove a bundle
 
     StagedFolder(std::filesystem::path target, std::filesystem::path staged, Reserve reserve);
 
     std::filesystem::path target_;
     std::filesystem::path staged_; // empty when there is nothing to remove
-    // Held as long as the compile runs; -1 if the file system has no locks.
+    // The folder's lock, which shows other compiles that this one is running; negative if the file system has no locks.
     Runtime::Descriptor lock_;
     Reserve reserve_;
 };

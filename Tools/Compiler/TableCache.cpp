@@ -3,7 +3,6 @@
 #include "Compiler/Records.h"
 #include "Runtime/internal/ElfNotes.h"
 #include "Runtime/internal/File.h"
-#include <xxhash.h>
 
 namespace Compiler {
 
@@ -22,7 +21,8 @@ int takeBuildId(dl_phdr_info* program, std::size_t, void* out) {
     return 1; // stops
 }
 
-// A hash of the program's code, which the linker computed. Another version of the compiler may write other tables.
+// A hash of the program, which the linker computed; empty if it did not. Another version of the compiler may write
+// other tables.
 std::string_view buildId() {
     static const std::string_view id = [] {
         std::string_view found;
@@ -32,6 +32,7 @@ std::string_view buildId() {
     return id;
 }
 
+// With its size, so that texts with other borders between them give another key.
 void append(std::string& all, std::string_view text) {
     const std::size_t size = text.size();
     all.append(reinterpret_cast<const char*>(&size), sizeof size).append(text);
@@ -60,8 +61,7 @@ std::string TableCache::keyOf(std::span<const StringTables::Entry> entries) {
         append(all, entry.key);
         append(all, entry.text);
     }
-    const XXH128_hash_t key = XXH3_128bits(all.data(), all.size());
-    return hex(key.high64) + hex(key.low64);
+    return longHashOf(all);
 }
 
 std::string TableCache::record(const std::string& key, std::string_view table) {

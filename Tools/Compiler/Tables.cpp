@@ -44,7 +44,8 @@ bool hasPlurals(const Source& source) {
     return false;
 }
 
-// Adds the entries about the source. With an index, because a program reads Info.plist before its first text.
+// Info.plist with these entries and those about the source. It is written with an index, because a program reads it
+// before its first text.
 Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source& source) {
     const std::string languages = languagesOf(source);
     const Entry own[] = {{regionKey, source.developmentLanguage},
@@ -57,30 +58,35 @@ Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source&
     return StringTables::writeCompiled(entries);
 }
 
-// The source's Info.plist with additional entries. One that contains other values than strings is copied unchanged,
-// unless its development language must be changed.
+// The source's first Info.plist with the entries about the source. One that cannot be read completely, such as one with
+// other values than texts, is copied unchanged, unless its development language must be changed.
 Runtime::Result<std::string> info(const Source& source) {
     if (source.infos.empty())
         return completed({}, source);
-    auto bytes = Runtime::readFile(source.infos.front(), Table::maxBytes);
+    const fs::path& file = source.infos.front();
+    auto bytes = Runtime::readFile(file, Table::maxBytes);
     if (!bytes)
         return bytes;
-    const auto table = Table::read(*bytes);
-    if (!table)
-        return completed({}, source);
+    auto table = Table::read(*bytes);
+    if (!table) {
+        table.error().file = file;
+        return std::move(table.error());
+    }
     if (table->find(regionKey) == source.developmentLanguage && !table->notes().empty())
         return bytes;
     return completed({table->entries().begin(), table->entries().end()}, source);
 }
 
-Runtime::Result<void> place(const StagedFolder& out, const fs::path& file, Runtime::Result<std::string> bytes) {
+// Writes `bytes`, or returns their error, which names a file in any case.
+Runtime::Result<void> writeFile(const StagedFolder& out, const fs::path& file, Runtime::Result<std::string> bytes) {
     if (bytes)
         return out.write(file, *bytes);
-    bytes.error().file = out.target() / file;
+    if (bytes.error().file.empty())
+        bytes.error().file = out.target() / file;
     return std::move(bytes.error());
 }
 
-// Returns the table's line for the mark file.
+// Writes a table of plain texts. Returns its line for the mark file.
 Runtime::Result<std::string> writeTexts(std::span<const Entry> entries, const StagedFolder& out, const fs::path& file,
                                         const TableCache& last) {
     const std::string key = TableCache::keyOf(entries);
@@ -88,12 +94,13 @@ Runtime::Result<std::string> writeTexts(std::span<const Entry> entries, const St
         return *record;
     auto table = StringTables::writeCompiled(entries);
     std::string record = table ? TableCache::record(key, *table) : "";
-    if (auto written = place(out, file, std::move(table)); !written)
+    if (auto written = writeFile(out, file, std::move(table)); !written)
         return std::move(written.error());
     return record;
 }
 
-// Writes plain texts to TABLE.strings and plurals to TABLE.stringsdict. Returns the lines for the mark file.
+// Writes the files of a table in one language. Returns the lines for the mark file. A table without any texts has an
+// empty TABLE.strings.
 Runtime::Result<std::string> compileTexts(const LanguageTexts& texts, const StagedFolder& out, const fs::path& folder,
                                           std::string_view table, const TableCache& last) {
     std::vector<Entry> entries;
@@ -104,7 +111,7 @@ Runtime::Result<std::string> compileTexts(const LanguageTexts& texts, const Stag
         else
             plurals.push_back({std::string(entry.key), *entry.plural, {}});
     if (!plurals.empty())
-        if (auto written = place(out, folder / layout::pluralsFile(table), StringTables::write(plurals)); !written)
+        if (auto written = writeFile(out, folder / layout::pluralsFile(table), StringTables::write(plurals)); !written)
             return std::move(written.error());
     if (entries.empty() && !plurals.empty())
         return std::string();
@@ -115,7 +122,7 @@ Runtime::Result<std::string> compileTexts(const LanguageTexts& texts, const Stag
 
 Runtime::Result<std::string> compileTables(const Source& source, const StagedFolder& out, std::string_view lastMark,
                                            const Progress& progress) {
-    if (auto written = place(out, layout::informationFile, info(source)); !written)
+    if (auto written = writeFile(out, layout::informationFile, info(source)); !written)
         return std::move(written.error());
     struct Job {
         std::string_view table;

@@ -9,10 +9,10 @@
 
 namespace Compiler {
 
-// Writes Info.plist and every table of `source` into `out`: for each language one file of plain texts and one of
-// plurals, if it has any. Instead of compiling a table again it keeps the file of the last compile if `lastMark`, the
-// content of the old mark file (SourceBundle::compiledMark), lists it with the same texts. Returns the lines of the new
-// mark file that list the tables.
+// Writes Info.plist and every table of `source` into `out`: for each language plain texts to TABLE.strings, plurals to
+// TABLE.stringsdict. Instead of compiling plain texts again it keeps the file of the last compile if `lastMark`, the
+// content of that compile's mark file (SourceBundle::compiledMark), lists it with the same texts. Returns the lines of
+// the new mark file that list the files of plain texts.
 [[nodiscard]] Runtime::Result<std::string> compileTables(const SourceBundle::Source& source, const StagedFolder& out,
                                                          std::string_view lastMark, const Progress& progress);
 
