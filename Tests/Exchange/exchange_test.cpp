@@ -403,4 +403,25 @@ TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
     }
 }
 
+// The translation is in a file that cannot contain the plural forms of the development text.
+TEST(Exports, LeaveOutTextsThatAnImportCannotWrite) {
+    StringTables::PluralEntry entry{.key = "%lld k", .plural = {"%#@n@", {{"n", "lld", {}}}}, .location = {}};
+    entry.plural.variables[0].forms.back() = "%lld K";
+    const std::pair<std::string, std::string> files[] = {{"de.lproj/T.strings", "\"%lld k\" = \"%lld K\";"},
+                                                         {"de.lproj/T.stringsdict", *StringTables::write({&entry, 1})}};
+    const std::string forms = "{ \"plural\" : { \"one\" : " + unit("a k") + ", \"other\" : " + unit("%lld k") + " } }";
+    for (const auto& [name, content] : files) {
+        Support::SourceFolder folder;
+        folder.write("T.xcstrings", catalogOf("\"localizations\" : { \"en\" : { \"variations\" : " + forms + " } }"));
+        folder.write(name, content);
+        const std::filesystem::path folders[] = {folder.path()};
+        const auto source = folder.read();
+        EXPECT_TRUE(Exchange::translationsOf(source, folders, "de", false, folder.diagnostics).units.empty()) << name;
+        const Strings messages = folder.takeMessages();
+        ASSERT_EQ(messages.size(), 1U) << name;
+        EXPECT_TRUE(messages[0].starts_with("warning: " + name) && messages[0].find("is left out") != std::string::npos)
+            << messages[0];
+    }
+}
+
 } // namespace

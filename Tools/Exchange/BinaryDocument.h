@@ -29,6 +29,7 @@ private:
 
 class BinaryPlurals final : public TableDocument {
 public:
+    // As BinaryTexts::read().
     [[nodiscard]] static Runtime::Result<BinaryPlurals> read(std::string bytes);
     BinaryPlurals(BinaryPlurals&&) = default;
 

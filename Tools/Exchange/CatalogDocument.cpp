@@ -15,20 +15,21 @@ constexpr std::array<std::pair<std::string_view, State>, 3> states = {
 State stateOf(JsonNode& unit) {
     const JsonNode* const found = unit.find("state");
     const auto name = found == nullptr ? std::nullopt : found->string();
-    for (const auto& [each, state] : states)
-        if (name == each)
+    for (const auto& [known, state] : states)
+        if (name == known)
             return state;
     return State::translated;
 }
 
 std::string_view nameOf(State state) {
-    for (const auto& [name, each] : states)
-        if (each == state)
+    for (const auto& [name, known] : states)
+        if (known == state)
             return name;
     return {};
 }
 
-// Collects the texts of a localization: the plain text and those for devices, categories and substitutions.
+// Collects the texts of a localization: the plain text and those for devices, plural categories and substitutions.
+// Ignores variations of a plural category, and devices within a device.
 class Collector {
 public:
     explicit Collector(JsonNode& localization) { collect(localization); }
@@ -72,7 +73,7 @@ private:
     std::optional<PluralCategory> category_;
 };
 
-// The variations of a node, which cannot also have a plain text.
+// The variations of a node. Removes its plain text, because a node cannot have both.
 JsonNode& variationsOf(JsonNode& node) {
     node.remove(stringUnit);
     return node.member(variations);
@@ -113,8 +114,7 @@ std::vector<StoredText> CatalogDocument::texts(std::string_view key, std::string
     return texts;
 }
 
-// The node of the unit's text, created if necessary.
-JsonNode& CatalogDocument::place(JsonNode& localization, const Unit& unit) {
+JsonNode& CatalogDocument::nodeOf(const Unit& unit, JsonNode& localization) {
     JsonNode* node = &localization;
     for (std::size_t i = 0; i + 1 < unit.id.part.size(); i += 2) {
         const std::string& name = unit.id.part[i + 1];
@@ -123,7 +123,7 @@ JsonNode& CatalogDocument::place(JsonNode& localization, const Unit& unit) {
             continue;
         }
         JsonNode& substitution = node->member(substitutionsPart).member(name);
-        if (substitution.names().empty()) {
+        if (substitution.names().empty()) { // new: it has the same arguments as in the source language
             JsonNode* const source = this->localization(unit.id.key, sourceLanguage_);
             JsonNode* const all = source == nullptr ? nullptr : source->find(substitutionsPart);
             if (JsonNode* const model = all == nullptr ? nullptr : all->find(name))
@@ -141,10 +141,13 @@ Runtime::Result<void> CatalogDocument::apply(const Change& change) {
     const auto known = keys_.find(key);
     if (known == keys_.end())
         return Runtime::Error{.message = "the string catalog has no key " + key};
+    for (const Unit* unit : change.changed)
+        if (const auto& part = unit->id.part; !part.empty() && part[0] != devicePart && part[0] != substitutionsPart)
+            return Runtime::Error{.message = "a string catalog cannot contain the forms of a .stringsdict file"};
     JsonNode& localization = known->second->member("localizations").member(change.language);
     // If a plain text is replaced by forms, all forms must be written.
     for (const Unit* unit : isPlain(localization) ? change.all : change.changed) {
-        JsonNode& stored = place(localization, *unit);
+        JsonNode& stored = nodeOf(*unit, localization);
         if (stored.find("value") == nullptr || stateOf(stored) != unit->state)
             stored.member("state").set(nameOf(unit->state));
         stored.member("value").set(unit->target);

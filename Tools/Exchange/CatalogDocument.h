@@ -5,16 +5,18 @@
 #include "Exchange/Json.h"
 #include "Exchange/TableDocument.h"
 #include "Runtime/internal/NameMap.h"
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace Exchange {
 
-// How UnitId::part begins for a text that varies by device, and for a variable of a text.
+// How UnitId::part begins for a text that varies by device, and for a variable of a text in a string catalog; spelled
+// as in its JSON.
 inline constexpr std::string_view devicePart = "device", substitutionsPart = "substitutions";
 
-// A text of a key in one language.
+// A text of a key in one language; `part` and `category` as in UnitId.
 struct StoredText {
     std::vector<std::string> part;
     std::optional<PluralCategory> category;
@@ -36,8 +38,10 @@ public:
 
 private:
     explicit CatalogDocument(JsonDocument json);
+    // The node with all texts of the key in the language, or null.
     JsonNode* localization(std::string_view key, std::string_view language);
-    JsonNode& place(JsonNode& localization, const Unit& unit);
+    // The node of the unit's text, created if necessary.
+    JsonNode& nodeOf(const Unit& unit, JsonNode& localization);
 
     JsonDocument json_;
     std::string sourceLanguage_;

@@ -21,7 +21,7 @@ Runtime::Result<DecodedText> DecodedText::of(std::string bytes) {
     if (auto recognized = StringTables::internal::recognize(contents); !recognized)
         return std::move(recognized.error());
     DecodedText decoded;
-    if (contents.source != bytes) {
+    if (contents.source != bytes) { // it was converted
         decoded.hasMark = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
         const bool isBig = decoded.hasMark ? bytes[0] == '\xFE' : bytes[0] == '\0';
         decoded.utf16 = isBig ? ByteOrder::big : ByteOrder::little;

@@ -58,10 +58,11 @@ Translations translationsOf(const Source& source, std::span<const fs::path> fold
     StoredTexts texts(source, diagnostics);
     for (const SourceTable& table : source.tables)
         forEachKey(source, table, language, [&](const Key& key) {
-            if (!isExchanged(key))
-                diagnostics.add(Severity::warning,
-                                key.translated->error("has plural forms, but the development text does not; it "
-                                                      "is left out"));
+            if (!isExchanged(key, texts))
+                diagnostics.add(
+                    Severity::warning,
+                    key.translated->error(
+                        "is left out, because its file cannot contain the same forms as the development text"));
             std::vector<Unit> units = unitsOf(key, texts);
             if (onlyMissing)
                 keepMissing(units, language);

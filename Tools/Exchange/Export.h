@@ -17,7 +17,8 @@ namespace Exchange {
                                           std::span<const std::filesystem::path> folders, const std::string& language,
                                           bool onlyMissing, SourceBundle::Diagnostics& diagnostics);
 
-// Calls `visit` for each key of the table with a development text.
+// Calls `visit` for each key of the table that has a development text, in the order of those texts. `language`: that of
+// the translations.
 void forEachKey(const SourceBundle::Source& source, const SourceBundle::SourceTable& table, const std::string& language,
                 const std::function<void(const Key&)>& visit);
 

@@ -74,14 +74,14 @@ Runtime::Result<void> FileSet::replace(File& file) {
 }
 
 void FileSet::rollBack() {
-    std::error_code ignored;
-    for (const File& file : files_) {
+    std::error_code failed;
+    for (File& file : files_) {
         if (!file.isInPlace)
             continue;
         if (file.old.empty())
-            fs::remove(file.target, ignored);
-        else
-            fs::rename(file.old, file.target, ignored);
+            fs::remove(file.target, failed);
+        else if (fs::rename(file.old, file.target, failed); failed)
+            file.old.clear(); // so that the destructor does not remove the only copy
     }
 }
 

@@ -20,22 +20,23 @@ public:
     ~FileSet();
 
     // Writes the new content of `path` to a temporary file beside it, with the permissions of the existing file.
-    // Creates the folder if necessary. If `path` is a symbolic link, its target is replaced.
+    // Creates the folder of `path` if necessary, but none above it. If `path` is a symbolic link, its target is
+    // replaced.
     [[nodiscard]] Runtime::Result<void> stage(const std::filesystem::path& path, std::string_view bytes);
-    // Renames all temporary files to their targets. After a failure all files are restored.
+    // Renames all temporary files to their targets. After a failure the files that were replaced are restored.
     [[nodiscard]] Runtime::Result<void> commit();
 
 private:
     struct File {
         std::filesystem::path target, staged;
-        std::filesystem::path old{}; // the old content; empty if the target is new
-        bool isInPlace = false;
+        std::filesystem::path old{}; // a file with the old content; empty if the target is new
+        bool isInPlace = false;      // `staged` has been renamed to `target`
     };
     Runtime::Result<void> replace(File& file);
     void rollBack();
 
     std::vector<File> files_;
-    std::vector<std::filesystem::path> folders_; // that were created
+    std::vector<std::filesystem::path> folders_; // those that were created
 };
 
 } // namespace Exchange

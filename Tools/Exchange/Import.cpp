@@ -28,10 +28,11 @@ namespace {
 struct ImportedKey {
     Key key;
     std::vector<Unit> expected;          // the key's units in the source
-    std::vector<const Unit*> seen;       // those of them that occurred in a file
-    std::vector<const Unit*> accepted{}; // those of `merged` that change
+    std::vector<const Unit*> seen;       // those of `expected` that occurred in a file
     std::vector<Unit> merged{};          // the units after the import
-    std::string file{};                  // for messages
+    std::vector<const Unit*> accepted{}; // those of `merged` that change
+    // The place of the first accepted translation, for messages.
+    std::string file{};
     std::size_t line = 0;
 };
 
@@ -41,8 +42,8 @@ Unit* find(std::vector<Unit>& units, const std::vector<std::string>& part, std::
     return found == units.end() ? nullptr : &*found;
 }
 
-// The state of an imported translation. The fuzzy flag of a PO file counts only if it differs from what an export
-// writes.
+// The state of an imported translation. In a PO file the fuzzy flag determines it, but only if the flag or the text
+// differs from what an export writes: an export also sets the flag for other reasons.
 State stateOf(const Unit& unit, const Unit& expected, bool hasStates) {
     if (hasStates)
         return unit.state;
@@ -59,19 +60,19 @@ public:
     void read(const Translations& translations) {
         const auto language = targetLanguage(source_, translations.targetLanguage);
         if (!language)
-            return fault(translations, 0,
+            return fault(translations.file, 0,
                          "is in \"" + translations.targetLanguage +
-                             "\", which is not a language that the source is translated to");
+                             "\", which is not a language that the source can be translated to");
         if (!translations.sourceLanguage.empty() &&
             !isSameLanguage(translations.sourceLanguage, source_.developmentLanguage))
-            return fault(translations, 0,
+            return fault(translations.file, 0,
                          "was translated from " + translations.sourceLanguage + ", the source's language is " +
                              source_.developmentLanguage);
         for (const Unit& unit : translations.units)
             read(translations, unit, *language);
     }
 
-    // Changes the documents in memory.
+    // Changes the documents in memory, in the order of the development texts.
     void apply() {
         for (const std::string& language : languages_)
             for (const SourceTable& table : source_.tables)
@@ -90,16 +91,17 @@ public:
     }
 
 private:
-    void fault(const Translations& translations, std::size_t line, std::string message) {
-        faults_.add(Severity::error, {.message = std::move(message), .file = translations.file, .line = line});
+    void fault(const std::string& file, std::size_t line, std::string message) {
+        faults_.add(Severity::error, {.message = std::move(message), .file = file, .line = line});
     }
 
+    // The name of a key in `keys_`. It is unique, because names of languages and tables contain no slash.
     static std::string nameOf(std::string_view language, std::string_view table, std::string_view key) {
         std::string name(language);
         return name.append("/").append(table).append("/").append(key);
     }
 
-    // The key of a unit, or null if the source does not have it.
+    // The key of the unit with this id, or null if the source does not have it.
     ImportedKey* importedKeyFor(const UnitId& id, const std::string& language) {
         const std::string name = nameOf(language, id.table, id.key);
         if (const auto known = keys_.find(name); known != keys_.end())
@@ -131,31 +133,34 @@ private:
         const std::string id = textOf(unit.id);
         ImportedKey* const imported = importedKeyFor(unit.id, language);
         if (imported == nullptr || imported->expected.empty())
-            return fault(translations, unit.line, "the source has no translatable text with the id " + id);
+            return fault(translations.file, unit.line, "the source has no translatable text with the id " + id);
         Unit* const expected = find(imported->expected, unit.id.part, unit.id.category);
         if (expected == nullptr)
-            return fault(translations, unit.line, whyUnknown(*imported, unit));
+            return fault(translations.file, unit.line, whyUnknown(*imported, unit));
         if (std::ranges::find(imported->seen, expected) != imported->seen.end())
-            return fault(translations, unit.line, id + " appears again");
+            return fault(translations.file, unit.line, id + " appears again");
         imported->seen.push_back(expected);
         if (unit.target.empty())
             return;
-        const Unit* const model = find(imported->expected, unit.id.part, unit.sourceCategory);
-        if (unit.source != (model == nullptr ? expected : model)->source)
-            return fault(translations, unit.line, "the development text of " + id + " has changed since the export");
+        // A PO file shows the development text of another form for most forms.
+        const Unit* const shown = find(imported->expected, unit.id.part, unit.sourceCategory);
+        if (unit.source != (shown == nullptr ? expected : shown)->source)
+            return fault(translations.file, unit.line,
+                         "the development text of " + id + " has changed since the export");
         const State state = stateOf(unit, *expected, translations.hasStates);
-        const bool holdsStates = imported->key.development->file->kind == TableFile::Kind::catalog;
-        if (unit.target == expected->target && (!holdsStates || state == expected->state))
+        const bool storesStates = imported->key.development->file->kind == TableFile::Kind::catalog;
+        if (unit.target == expected->target && (!storesStates || state == expected->state))
             return;
         if (unit.target != expected->target)
             if (const auto wrong =
                     placeholderFault(unit.target, *expected, imported->expected, *imported->key.development))
-                return fault(translations, unit.line, id + " " + *wrong);
-        accept(translations, *imported, unit, state);
+                return fault(translations.file, unit.line, id + " " + *wrong);
+        accept(translations.file, *imported, unit, state);
         languages_.insert(language);
     }
 
-    static std::string whyUnknown(ImportedKey& imported, const Unit& unit) {
+    // The message for a unit that is not among those of its key.
+    static std::string whyUnknown(const ImportedKey& imported, const Unit& unit) {
         const bool hasPart = std::ranges::any_of(
             imported.expected, [&unit](const Unit& each) { return each.id.part == unit.id.part && each.id.category; });
         if (unit.id.category && hasPart)
@@ -164,19 +169,20 @@ private:
         return "the key has no text with the id " + textOf(unit.id);
     }
 
-    void accept(const Translations& translations, ImportedKey& imported, const Unit& unit, State state) {
+    void accept(const std::string& file, ImportedKey& imported, const Unit& unit, State state) {
         Unit& merged = *find(imported.merged, unit.id.part, unit.id.category);
         merged.target = unit.target;
         merged.state = state;
         merged.line = unit.line;
         imported.accepted.push_back(&merged);
         if (imported.file.empty()) {
-            imported.file = translations.file;
+            imported.file = file;
             imported.line = unit.line;
         }
     }
 
-    // For a key that is new in the language: a required text that is missing, or null.
+    // For a key that is new in the language, or whose plain translation becomes a plural: a required text that is
+    // missing, or null.
     static const Unit* lacking(const ImportedKey& imported) {
         const auto isLacking = [](const Unit& unit) {
             const bool isForDevice = !unit.id.part.empty() && unit.id.part.front() == devicePart;
@@ -191,9 +197,8 @@ private:
     }
 
     void apply(const ImportedKey& imported) {
-        const Translations place{.sourceLanguage = {}, .targetLanguage = {}, .file = imported.file};
         if (const Unit* const missing = lacking(imported))
-            return fault(place, imported.line,
+            return fault(imported.file, imported.line,
                          textOf(missing->id) + " is missing; it is required by the other texts of the key");
         Change change{.development = imported.key.development,
                       .language = imported.key.language,
@@ -204,7 +209,8 @@ private:
                 change.all.push_back(&unit);
         auto applied = targets_.apply(imported.key, change);
         if (!applied)
-            return fault(place, imported.line, textOf(change.changed.front()->id) + ": " + applied.error().text());
+            return fault(imported.file, imported.line,
+                         textOf(change.changed.front()->id) + ": " + applied.error().text());
         count_ += change.changed.size();
     }
 
@@ -213,8 +219,8 @@ private:
     StoredTexts texts_;
     Targets targets_;
     Runtime::NameMap<ImportedKey> keys_;
-    std::set<std::string> languages_; // with changes
-    std::size_t count_ = 0;
+    std::set<std::string> languages_; // those with accepted translations
+    std::size_t count_ = 0;           // of changed texts
 };
 
 } // namespace
@@ -225,6 +231,7 @@ Runtime::Result<std::vector<Translations>> readTranslations(const std::string& f
     if (!bytes)
         return std::move(bytes.error());
     const std::size_t first = bytes->find_first_not_of("\xEF\xBB\xBF \t\r\n");
+    // UTF-16: PO files are UTF-8.
     const bool isWide = bytes->starts_with("\xFF\xFE") || bytes->starts_with("\xFE\xFF");
     if (isWide || (first != std::string::npos && (*bytes)[first] == '<'))
         return readXliff(*std::move(bytes), file, faults);

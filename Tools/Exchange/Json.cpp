@@ -40,11 +40,11 @@ std::size_t valueEnd(std::string_view text, std::size_t at) {
     return at;
 }
 
-std::string valueOf(std::string_view literal) {
+std::string unquoted(std::string_view literal) {
     return nlohmann::json::parse(literal).get<std::string>();
 }
 
-std::string literalOf(std::string_view text, const JsonLayout& layout) {
+std::string quoted(std::string_view text, const JsonLayout& layout) {
     std::string literal = nlohmann::json(text).dump();
     if (layout.escapesSlashes)
         for (std::size_t at = literal.find('/'); at != literal.npos; at = literal.find('/', at + 2))
@@ -79,7 +79,7 @@ void JsonNode::expand() {
         member.before = raw_.substr(at, key - at);
         member.literal = raw_.substr(key, keyEnd - key);
         member.separator = raw_.substr(keyEnd, value - keyEnd);
-        member.name = valueOf(member.literal);
+        member.name = unquoted(member.literal);
         member.value.raw_ = raw_.substr(value, end - value);
         at = blanksEnd(raw_, end);
         if (raw_[at] == '}') {
@@ -134,7 +134,7 @@ std::list<JsonMember>& JsonNode::members() {
 std::optional<std::string> JsonNode::string() const {
     if (isString_)
         return text_;
-    return raw_.starts_with('"') ? std::optional(valueOf(raw_)) : std::nullopt;
+    return raw_.starts_with('"') ? std::optional(unquoted(raw_)) : std::nullopt;
 }
 
 void JsonNode::set(std::string_view text) {
@@ -155,7 +155,7 @@ void JsonNode::copyMembers(JsonNode& other, std::string_view without) {
 
 void JsonNode::write(std::string& out, const JsonLayout& layout, std::size_t depth) const {
     if (isString_) {
-        out += literalOf(text_, layout);
+        out += quoted(text_, layout);
         return;
     }
     if (!isObject() || (!isExpanded_ && !raw_.empty())) {
@@ -168,7 +168,7 @@ void JsonNode::write(std::string& out, const JsonLayout& layout, std::size_t dep
             out += ',';
         if (member.literal.empty()) {
             appendLine(out, layout, depth + 1);
-            out.append(literalOf(member.name, layout)).append(layout.separator);
+            out.append(quoted(member.name, layout)).append(layout.separator);
         } else {
             out.append(member.before).append(member.literal).append(member.separator);
         }

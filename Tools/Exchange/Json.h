@@ -17,7 +17,7 @@ namespace Exchange {
 
 struct JsonMember;
 
-// The layout of a document, derived from its first member.
+// How the members of a document are written, so that added members are written in the same way.
 struct JsonLayout {
     std::string lineBreak;        // empty in a single-line document
     std::string indent;           // per level
@@ -34,15 +34,16 @@ public:
     // A node that is not an object becomes one.
     JsonNode& member(std::string_view name);
     void remove(std::string_view name);
+    // The names of all members in order.
     [[nodiscard]] std::vector<std::string> names();
-    // The last of equal names counts.
+    // All members in order; the last of equal names counts.
     [[nodiscard]] std::list<JsonMember>& members();
     // The value if this is a string, or no value.
     [[nodiscard]] std::optional<std::string> string() const;
-    // Sets it to that string. If it is already equal, its bytes are kept.
+    // Replaces the value by that string. If the value already is that string, its bytes are kept.
     void set(std::string_view text);
-    // Adds all members of `other` except `without`, with the bytes that they have in the document, without later
-    // changes. `other` belongs to the same document.
+    // Adds copies of all members of `other` except `without` to this node, which has no members. The copies lack later
+    // changes of `other`, a node of the same document.
     void copyMembers(JsonNode& other, std::string_view without);
 
 private:
@@ -53,7 +54,7 @@ private:
 
     std::string_view raw_; // its bytes in the document; empty for an added node
     bool isExpanded_ = false;
-    bool isString_ = false; // set to `text_`
+    bool isString_ = false; // the value was set to `text_`
     std::string text_;
     std::string_view end_; // white space before the closing brace
     std::list<JsonMember> members_;
@@ -61,8 +62,8 @@ private:
 
 struct JsonMember {
     std::string name;
-    // Parts of the document: white space, the quoted name, the separator, and the white space after the value. Empty
-    // for an added member.
+    // Parts of the document: the white space before the name, the quoted name, the colon with the white space around
+    // it, and the white space after the value. Empty for an added member.
     std::string_view before, literal, separator, after;
     JsonNode value;
 };
@@ -77,7 +78,8 @@ public:
     [[nodiscard]] std::string text() const;
 
 private:
-    std::unique_ptr<const std::string> text_; // never moves
+    // On the heap, so that they stay in place when the document is moved.
+    std::unique_ptr<const std::string> text_;
     std::unique_ptr<JsonNode> root_;
     std::size_t begin_ = 0, end_ = 0; // of the root
     JsonLayout layout_;

@@ -39,7 +39,7 @@ const StoredText* find(const std::vector<const StoredText*>& texts, std::optiona
     return found == texts.end() ? nullptr : *found;
 }
 
-// The development text for a category, or for `other` if the development language does not have the category.
+// The development text for a category, or else that for `other`, or else the last one; null if there are none.
 const StoredText* developmentText(const std::vector<const StoredText*>& texts, std::optional<PluralCategory> category) {
     if (const StoredText* const same = find(texts, category))
         return same;
@@ -154,7 +154,7 @@ StoredTexts::StoredTexts(const SourceBundle::Source& source, SourceBundle::Diagn
                 if (file->kind != TableFile::Kind::catalog || catalogs_.contains(file->path))
                     continue;
                 auto document = TableDocument::read(*file);
-                if (document)
+                if (document) // of a string catalog, as the kind says
                     catalogs_[file->path].reset(static_cast<CatalogDocument*>(document->release()));
                 else
                     diagnostics.add(SourceBundle::Severity::error, std::move(document.error()));
@@ -174,13 +174,23 @@ std::vector<StoredText> StoredTexts::of(const SourceEntry& entry, std::string_vi
     return {{{}, std::nullopt, std::string(entry.text), State::translated}};
 }
 
-bool isExchanged(const Key& key) {
-    return key.translated == nullptr || key.development->file->kind != TableFile::Kind::texts ||
-           key.translated->file->kind != TableFile::Kind::plurals;
+bool isExchanged(const Key& key, StoredTexts& texts) {
+    using Kind = TableFile::Kind;
+    if (key.translated == nullptr)
+        return true;
+    const Kind development = key.development->file->kind, translated = key.translated->file->kind;
+    if (translated == Kind::catalog)
+        return development != Kind::plurals;
+    if (translated == Kind::plurals)
+        return development == Kind::plurals;
+    if (development != Kind::catalog)
+        return true;
+    const std::vector<StoredText> all = texts.of(*key.development, key.developmentLanguage);
+    return all.size() == 1 && all.front().part.empty() && !all.front().category;
 }
 
 std::vector<Unit> unitsOf(const Key& key, StoredTexts& texts) {
-    if (!key.development->isTranslatable || !isExchanged(key))
+    if (!key.development->isTranslatable || !isExchanged(key, texts))
         return {};
     const std::vector<StoredText> development = texts.of(*key.development, key.developmentLanguage);
     std::vector<StoredText> translated;

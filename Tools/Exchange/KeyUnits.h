@@ -17,6 +17,7 @@ public:
     // Reads the string catalogs of the source. Reports unreadable ones as errors.
     StoredTexts(const SourceBundle::Source& source, SourceBundle::Diagnostics& diagnostics);
 
+    // The texts of `entry`, an entry of `language`.
     [[nodiscard]] std::vector<StoredText> of(const SourceBundle::SourceEntry& entry, std::string_view language);
     // The catalog at that path, or null.
     [[nodiscard]] CatalogDocument* catalog(const std::filesystem::path& path);
@@ -25,7 +26,7 @@ private:
     std::map<std::filesystem::path, std::unique_ptr<CatalogDocument>> catalogs_;
 };
 
-// A key of a table, with its development text and its translation.
+// A key of a table, with its development text and its translation to `language`.
 struct Key {
     const SourceBundle::SourceTable* table = nullptr;
     const SourceBundle::SourceEntry* development = nullptr;
@@ -34,15 +35,17 @@ struct Key {
     std::string language{};
 };
 
-// The key's units in the order of its parts and categories. Plurals have a unit for each form that the language needs,
-// that the translation has, or that the development text has for `zero`. Empty if nothing can be translated.
+// The key's units in the order of its parts and categories. A plural has a unit for each form of the language, for each
+// other form that the translation has, and for `zero` if the development text has it. Empty if nothing can be
+// translated.
 [[nodiscard]] std::vector<Unit> unitsOf(const Key& key, StoredTexts& texts);
 
-// Whether the key can be exchanged. False if the translation has plural forms in a .stringsdict file but the
-// development text is plain.
-[[nodiscard]] bool isExchanged(const Key& key);
+// Whether the key can be exchanged. False if the translation is in a kind of file that cannot contain the same forms as
+// the development text, such as a .stringsdict file for a plain development text.
+[[nodiscard]] bool isExchanged(const Key& key, StoredTexts& texts);
 
-// Whether the unit's translation is missing, or marked as new in a string catalog.
+// Whether the unit has no translation although the language needs one (needsCategory()), or has one that a string
+// catalog marks as new.
 [[nodiscard]] bool isMissing(const Unit& unit, std::string_view language);
 
 } // namespace Exchange

@@ -13,7 +13,7 @@ bool isLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-// Whether this is a language code: two or three letters, then parts of up to eight letters and digits.
+// Whether this is a language code: two or three letters, then parts of up to eight letters and digits after hyphens.
 bool isCode(std::string_view code) {
     constexpr std::size_t longest = 8;
     for (bool isFirst = true;; isFirst = false) {
@@ -43,11 +43,6 @@ bool isSameLanguage(std::string_view one, std::string_view other) {
     return SourceBundle::comparableCode(std::string(one)) == SourceBundle::comparableCode(std::string(other));
 }
 
-bool hasLanguage(const SourceBundle::Source& source, std::string_view language) {
-    return std::ranges::any_of(
-        source.tables, [language](const SourceBundle::SourceTable& table) { return table.find(language) != nullptr; });
-}
-
 std::optional<std::string> targetLanguage(const SourceBundle::Source& source, std::string_view code) {
     if (isSameLanguage(code, source.developmentLanguage) || isSameLanguage(code, SourceBundle::baseLanguage))
         return std::nullopt;
@@ -72,8 +67,9 @@ bool needsCategory(std::string_view language, PluralCategory category) {
     constexpr std::uint64_t most = 1000;
     if (category == PluralCategory::other)
         return true;
+    const Intl::PluralRules rules(language);
     for (std::uint64_t i = 0; i <= most; ++i)
-        if (Intl::pluralCategory(language, {.i = i}) == category)
+        if (rules.category({.i = i}) == category)
             return true;
     return false;
 }

@@ -13,8 +13,6 @@ namespace Exchange {
 // The language for a code such as "pt_BR" or "pt-br", as the source spells it; if the source does not have it, the code
 // with hyphens. No value if it is not a language code or is the development language.
 [[nodiscard]] std::optional<std::string> targetLanguage(const SourceBundle::Source& source, std::string_view code);
-// Whether the source has texts in the language.
-[[nodiscard]] bool hasLanguage(const SourceBundle::Source& source, std::string_view language);
 // Whether both codes mean the same language: "pt_BR" and "pt-br" do.
 [[nodiscard]] bool isSameLanguage(std::string_view one, std::string_view other);
 

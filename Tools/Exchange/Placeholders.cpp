@@ -80,6 +80,7 @@ std::size_t argumentOf(const PluralFormat& plural, const PluralVariable& variabl
     return 1;
 }
 
+// Finds the arguments of one unit's development text and of its translations.
 class Comparison {
 public:
     Comparison(const Unit& unit, const SourceBundle::SourceEntry& development)
@@ -113,7 +114,7 @@ public:
             together.variables.insert(needs.variables.begin(), needs.variables.end());
             together.number = needs.number;
         }
-        if (isPlural_ && !together.number)
+        if (isPlural_ && !together.number) // in a string catalog the first number selects the form
             for (const auto& [position, kind] : together.arguments)
                 if (kind != Placeholder::Kind::text && !together.number)
                     together.number = position;

@@ -9,6 +9,7 @@ using StringTables::PluralVariable;
 
 namespace {
 
+// The variable of that name, added if necessary.
 PluralVariable& variableNamed(PluralFormat& plural, const std::string& name, const PluralFormat* development) {
     auto found = std::ranges::find(plural.variables, name, &PluralVariable::name);
     if (found != plural.variables.end())

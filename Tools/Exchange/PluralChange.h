@@ -9,13 +9,13 @@
 
 namespace Exchange {
 
-// The parts of a key in a .stringsdict file.
+// How UnitId::part begins for the format and for a variable of a .stringsdict entry.
 inline constexpr std::string_view formatPart = "format", variablesPart = "variables";
 
 // Writes the units' texts into `plural`. A new variable gets its value type from `development`.
 void applyTo(StringTables::PluralFormat& plural, std::span<const Unit* const> units,
              const SourceBundle::SourceEntry& development);
-// A new plural with all texts of the change. Without a unit for the format, it has that of the development text.
+// A new plural with all texts of the change. Without a unit for the format, it has the format of the development text.
 [[nodiscard]] StringTables::PluralFormat newPlural(const Change& change);
 
 } // namespace Exchange

@@ -132,13 +132,14 @@ std::optional<std::uint64_t> evaluated(std::string_view expression, std::uint64_
 
 std::optional<std::vector<std::optional<Intl::PluralCategory>>>
 categoriesOfForms(std::string_view expression, std::size_t count, std::string_view language) {
-    constexpr std::uint64_t most = 200;
+    constexpr std::uint64_t most = 200; // most rules depend on the last two digits only
+    const Intl::PluralRules rules(language);
     std::vector<std::optional<Intl::PluralCategory>> categories(count);
     for (std::uint64_t n = 0; n <= most; ++n) {
         const auto form = evaluated(expression, n);
         if (!form || *form >= count)
             return std::nullopt;
-        const Intl::PluralCategory category = Intl::pluralCategory(language, {.i = n});
+        const Intl::PluralCategory category = rules.category({.i = n});
         if (categories[*form].value_or(category) != category)
             return std::nullopt;
         categories[*form] = category;
@@ -146,7 +147,7 @@ categoriesOfForms(std::string_view expression, std::size_t count, std::string_vi
     // Some languages have separate forms for thousands and millions.
     for (const std::uint64_t n : {std::uint64_t{1000}, std::uint64_t{100'000}, std::uint64_t{1'000'000}})
         if (const auto form = evaluated(expression, n); form && *form < count && !categories[*form])
-            categories[*form] = Intl::pluralCategory(language, {.i = n});
+            categories[*form] = rules.category({.i = n});
     return categories;
 }
 

@@ -13,12 +13,12 @@
 namespace Exchange {
 
 // The value for `n`; no value for an invalid expression or a division by zero. Supported are integers, n, ! * / % + - <
-// <= > >= == != && || ?: and brackets, nested up to maxExpressionDepth.
+// <= > >= == != && || ?: and parentheses, nested up to maxExpressionDepth.
 [[nodiscard]] std::optional<std::uint64_t> evaluated(std::string_view expression, std::uint64_t n);
 inline constexpr int maxExpressionDepth = 64;
 
-// The plural category of each of `count` forms, where the expression maps numbers to forms. No value if the expression
-// groups numbers differently than the language. A form that no number selects has no category.
+// The plural category of each of `count` forms, where the expression maps integers to forms. No value if the expression
+// is invalid or gives integers of different categories the same form. A form that no integer selects has no category.
 [[nodiscard]] std::optional<std::vector<std::optional<Intl::PluralCategory>>>
 categoriesOfForms(std::string_view expression, std::size_t count, std::string_view language);
 

@@ -8,13 +8,14 @@
 
 namespace Exchange {
 
-// One text, or the plural forms for integers in order.
+// One text, or the plural forms for integers in order. Contains indices of units.
 struct PoEntry {
-    std::vector<std::size_t> units{}; // indices
+    std::vector<std::size_t> units{};
     bool isPlural = false;
-    std::size_t singular = 0, plural = 0; // indices of the units whose sources are msgid and msgid_plural
+    std::size_t singular = 0, plural = 0; // the units whose sources are msgid and msgid_plural
 };
 
+// The entries for all units, in their order.
 [[nodiscard]] std::vector<PoEntry> poEntries(std::span<const Unit> units, std::string_view language);
 
 } // namespace Exchange

@@ -73,7 +73,7 @@ private:
     }
 
     void readComment() {
-        if (!line_.starts_with("#~") && part_ == Part::target)
+        if (!line_.starts_with("#~") && part_ == Part::target) // a comment is before its entry
             finish();
         if (!take("#,"))
             return;
@@ -142,6 +142,7 @@ private:
         }
     }
 
+    // Where the strings of the current part belong.
     std::string& text() {
         switch (part_) {
         case Part::context:

@@ -21,6 +21,7 @@ namespace Exchange {
 // The characters that PO files escape with a letter, and the letters.
 inline constexpr std::string_view poEscapedCharacters = "\"\\\n\t\r\a\b\f\v", poEscapeLetters = "\"\\ntrabfv";
 
+// An entry of a PO file.
 struct PoText {
     std::optional<std::string> context, plural; // msgctxt, msgid_plural
     std::string source;                         // msgid

@@ -175,7 +175,7 @@ Runtime::Result<void> PropertyListDocument::editPlural(const XmlNode& entry, con
     return {};
 }
 
-// Adds a form, before those of later categories.
+// A new form is added before those of later categories.
 void PropertyListDocument::editForm(const XmlNode& variable, const Unit& unit) {
     const std::vector<Pair> pairs = pairsOf(variable);
     const std::string_view name = Intl::pluralCategoryNames[indexOf(*unit.id.category)];

@@ -28,6 +28,7 @@ private:
         const XmlNode* key;
         const XmlNode* value;
     };
+    // Skips what is not a key followed by a value.
     static std::vector<Pair> pairsOf(const XmlNode& dictionary);
     // The value of the last `key`, or null.
     static const XmlNode* find(const std::vector<Pair>& pairs, std::string_view key);
@@ -43,12 +44,13 @@ private:
     std::string variable(const StringTables::PluralVariable& variable, const std::string& line) const;
     std::string pair(std::string_view key, std::string_view text, const std::string& line) const;
     std::string element(std::string_view name, std::string_view text) const;
+    // The white space before the node in the file.
     std::string blanksBefore(const XmlNode& node) const;
 
     DecodedText file_;
     XmlDocument xml_;
-    const XmlNode& root_;                     // the top-level dictionary
-    Runtime::NameMap<const XmlNode*> values_; // by key
+    const XmlNode& root_;                     // the top-level dictionary in xml_
+    Runtime::NameMap<const XmlNode*> values_; // the values of root_ by key
     std::string line_;                        // line break and indentation of its keys
     std::string indent_;                      // per level
     TextEdits edits_;

@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::string_view mark = "\xEF\xBB\xBF"; // the byte-order mark in UTF-8
 
-// Each takes an offset in the NUL-terminated text of a valid table and returns the end of the construct that begins
-// there.
+// Both take an offset in the text of a valid table and return the end of what begins there: blanksEnd() of white space
+// and comments, stringEnd() of a string.
 std::size_t blanksEnd(const std::string& text, std::size_t at) {
     constexpr std::array<std::string_view, 2> separators = {"\u2028", "\u2029"};
     const std::string_view all = text;
@@ -83,16 +83,16 @@ StringsDocument::End StringsDocument::findEnd() const {
     const std::string& text = file_.text;
     const std::size_t begin = text.starts_with(mark) ? mark.size() : 0;
     const bool hasBraces = text[blanksEnd(text, begin)] == '{';
-    std::size_t last = 0, lastButOne = 0; // the ends of the last two tokens
+    std::size_t last = 0, lastButOne = 0; // the ends of the last two quoted strings or other characters
     for (std::size_t at = blanksEnd(text, begin); at < text.size(); at = blanksEnd(text, last)) {
         lastButOne = last;
         const bool isQuoted = text[at] == '"' || text[at] == '\'';
         last = isQuoted ? stringEnd(text, at) : at + 1;
     }
     const std::size_t entryEnd = hasBraces ? lastButOne : last;
-    const std::size_t empty = hasBraces ? blanksEnd(text, begin) + 1 : 0;
+    const std::size_t endOfEmpty = hasBraces ? blanksEnd(text, begin) + 1 : 0; // `entryEnd` of a table without entries
     return {.at = hasBraces ? last - 1 : text.size(),
-            .lacksSemicolon = entryEnd > empty && text[entryEnd - 1] != ';',
+            .lacksSemicolon = entryEnd > endOfEmpty && text[entryEnd - 1] != ';',
             .entryEnd = entryEnd};
 }
 

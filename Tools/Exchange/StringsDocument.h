@@ -22,17 +22,17 @@ private:
     StringsDocument() = default;
     // The end of the table: after its last entry, before a closing brace.
     struct End {
-        std::size_t at = 0;          // position of new entries
-        bool lacksSemicolon = false; // of the last entry
-        std::size_t entryEnd = 0;    // after its last character
+        std::size_t at = 0;          // offset of new entries
+        bool lacksSemicolon = false; // the last entry has none
+        std::size_t entryEnd = 0;    // after the last character of the last entry
     };
     End findEnd() const;
     std::string withAddedEntries() const;
 
     DecodedText file_;
-    Runtime::NameMap<std::size_t> keys_; // their offsets
+    Runtime::NameMap<std::size_t> keys_; // the keys with their offsets
     TextEdits edits_;
-    std::string added_;
+    std::string added_; // the new entries
 };
 
 } // namespace Exchange

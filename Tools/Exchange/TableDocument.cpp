@@ -5,6 +5,7 @@
 #include "Exchange/PropertyListDocument.h"
 #include "Exchange/StringsDocument.h"
 #include "Runtime/internal/File.h"
+#include "SourceBundle/StringCatalog.h" // maxCatalogBytes
 #include <utility>
 
 namespace Exchange {
@@ -36,13 +37,13 @@ Read readBytes(Kind kind, std::string bytes) {
         return asDocument(PropertyListDocument::read(bytes));
     if (kind == Kind::texts)
         return asDocument(StringsDocument::read(*std::move(decoded)));
-    return TableDocument::make(kind); // an empty file of plurals
+    return TableDocument::make(kind); // plurals are a property list, so this file is empty
 }
 
 } // namespace
 
 Read TableDocument::read(const SourceBundle::TableFile& file) {
-    auto bytes = Runtime::readFile(file.path, maxBytes);
+    auto bytes = Runtime::readFile(file.path, SourceBundle::maxCatalogBytes);
     if (!bytes)
         return std::move(bytes.error());
     auto document = readBytes(file.kind, *std::move(bytes));

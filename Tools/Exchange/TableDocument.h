@@ -1,5 +1,5 @@
 // Exchange/TableDocument.h
-// Edits the texts of a table file in place: everything else keeps its bytes.
+// Edits the texts of a table file in place: everything else keeps its bytes. Only a binary table is written as a whole.
 // Text: UTF-8. Threads: one at a time.
 #pragma once
 
@@ -13,7 +13,7 @@ namespace Exchange {
 struct Change {
     const SourceBundle::SourceEntry* development = nullptr; // the key's development text
     std::string_view language;
-    std::vector<const Unit*> changed; // the units whose target differs from the file
+    std::vector<const Unit*> changed; // the units whose target or state differs from the file; not empty
     std::vector<const Unit*> all;     // all units with a target, changed or not
 };
 
@@ -21,17 +21,16 @@ class TableDocument {
 public:
     virtual ~TableDocument() = default;
 
-    // Sets the texts of the key; adds it at the end if it is new. Call it at most once per key and language. Fails
-    // without a change if the file cannot represent one of the texts.
+    // Sets the texts of the key. A new key is added at the end; a string catalog must have the key. Call it at most
+    // once per key and language. Fails without a change if the file cannot represent one of the texts.
     [[nodiscard]] virtual Runtime::Result<void> apply(const Change& change) = 0;
-    // The edited file.
+    // The edited file. Errors: a binary table would be larger than Table::maxBytes.
     [[nodiscard]] virtual Runtime::Result<std::string> bytes() const = 0;
 
     // Reads the file.
     [[nodiscard]] static Runtime::Result<std::unique_ptr<TableDocument>> read(const SourceBundle::TableFile& file);
     // A new, empty file of texts or plurals.
     [[nodiscard]] static std::unique_ptr<TableDocument> make(SourceBundle::TableFile::Kind kind);
-    static constexpr std::size_t maxBytes = std::size_t{512} << 20;
 
 protected:
     TableDocument() = default;

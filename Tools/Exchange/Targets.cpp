@@ -30,7 +30,6 @@ const TableFile* presentFile(const Key& key) {
 
 } // namespace
 
-// The path of a new file, in the language folder beside that of the development language.
 fs::path Targets::newFile(const Key& key) {
     const auto [folders, isNew] = folders_.try_emplace(key.language);
     if (isNew)

@@ -24,17 +24,18 @@ public:
 
 private:
     struct Target {
-        std::unique_ptr<TableDocument> own; // null for a string catalog
+        std::unique_ptr<TableDocument> own; // null for a string catalog, which is in `texts_`
         TableDocument* document = nullptr;
         bool isChanged = false;
     };
+    // The path of a new file, in the language folder beside that of the development language.
     std::filesystem::path newFile(const Key& key);
     Runtime::Result<Target*> targetOf(const Key& key);
 
     const SourceBundle::Source& source_;
     StoredTexts& texts_;
     std::map<std::filesystem::path, Target> targets_;
-    // The folder of each language, by the folder that contains it.
+    // For each language: its folders, by the folder that contains them.
     std::map<std::string, std::map<std::filesystem::path, std::filesystem::path>> folders_;
 };
 

@@ -18,7 +18,6 @@ public:
         edits_.push_back({begin, end, std::move(with)});
     }
     void insert(std::size_t at, std::string what) { replace(at, at, std::move(what)); }
-    bool empty() const noexcept { return edits_.empty(); }
 
     std::string applied(std::string_view text) const {
         std::vector<Edit> ordered = edits_;

@@ -27,8 +27,9 @@ struct UnitId {
     friend bool operator==(const UnitId&, const UnitId&) = default;
 };
 
-// "Localizable/cart.title", "Localizable[variables.days.plural.one]/days left". Control characters
-// and noncharacters, and those that separate the parts of an id, are escaped as \u{HEX}; backslashes are doubled.
+// "Localizable/cart.title", "Localizable[variables.days.plural.one]/days left". Control characters, U+FFFE and U+FFFF
+// are escaped as \u{HEX}, before the key also the characters [ ] / and . that separate the parts of an id; backslashes
+// are doubled.
 [[nodiscard]] std::string textOf(const UnitId& id);
 // Parses the result of textOf(); no value if it is invalid.
 [[nodiscard]] std::optional<UnitId> unitIdOf(std::string_view text);
@@ -39,10 +40,10 @@ struct Unit {
     std::optional<PluralCategory> sourceCategory{}; // the development form that `source` is
     std::string target{};                           // the translation; empty if there is none
     State state = State::isNew;                     // of the translation
-    bool isFuzzy = false; // the flag of its PO entry, which may be due to another form of the plural
-    std::string comment{};
-    std::string place{};  // of the development text, "en.lproj/Localizable.strings:12"
-    std::size_t line = 0; // in the file that was read
+    bool isFuzzy = false;  // the flag of its PO entry, which may be due to another form of the plural
+    std::string comment{}; // for translators
+    std::string place{};   // of the development text, "en.lproj/Localizable.strings:12"
+    std::size_t line = 0;  // in the file that was read
 };
 
 // Whether both units belong to the same text or plural.
@@ -55,7 +56,7 @@ struct Translations {
     std::string sourceLanguage{};
     std::string targetLanguage{};
     std::vector<Unit> units{};
-    std::string file{};    // the file that it was read from
+    std::string file{};    // the file that they were read from
     bool hasStates = true; // false if only `isFuzzy` is known, as in PO files
 };
 

@@ -11,11 +11,12 @@
 namespace Exchange {
 
 // Writes a <file> for each table, a <trans-unit> for each unit, and a <group> around the forms of a plural. A character
-// that XML cannot represent is written as <ph ctype="x-character" equiv-text="HEX"/>.
+// that XML cannot represent is written as <ph ctype="x-character" equiv-text="HEX"/>. `version`: of this program.
 [[nodiscard]] std::string writeXliff(const Translations& translations, std::string_view version);
 
-// Reads a document in any encoding that XML declares. Units are grouped by the languages of their <file>. Units with an
-// invalid id are errors in `faults`. Errors: not XLIFF 1.2, an unknown inline element, a <file> without its languages.
+// Reads a document in any encoding that XML declares; `file` is its name, for messages. Units are grouped by the
+// languages of their <file>. Units with an invalid id or without a source are errors in `faults`. Errors: not XLIFF 1.2
+// or an older 1.x, an inline element other than <g>, <mrk> and that <ph>, a <file> without its languages.
 [[nodiscard]] Runtime::Result<std::vector<Translations>> readXliff(std::string bytes, const std::string& file,
                                                                    SourceBundle::Diagnostics& faults);
 

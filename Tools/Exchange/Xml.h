@@ -14,14 +14,14 @@
 
 namespace Exchange {
 
-// An element, or a text between elements, which has an empty name.
+// An element, or a text inside an element; a text has an empty name.
 struct XmlNode {
     std::string name; // without a namespace's prefix
     std::vector<std::pair<std::string, std::string>> attributes;
     std::vector<XmlNode> children;
-    std::string text; // for a text
+    std::string text; // empty for an element
 
-    // Offsets in the document: of the element with its tags, and of its content.
+    // Offsets in the document: of the element with its tags, and of its content. 0 for a text.
     std::size_t begin = 0, contentBegin = 0, contentEnd = 0, end = 0;
 
     bool isElement() const noexcept { return !name.empty(); }
@@ -36,8 +36,8 @@ struct XmlNode {
 class XmlDocument {
 public:
     // Reads a document in UTF-8, in UTF-16 or in the encoding that it declares; UTF-16 is converted to UTF-8, and
-    // offsets refer to that. Errors: not well-formed, an entity declaration, nested deeper than maxDepth, larger than
-    // Table::maxBytes.
+    // offsets refer to the converted document. Errors: not well-formed, an entity declaration, nested deeper than
+    // maxDepth, larger than Table::maxBytes.
     [[nodiscard]] static Runtime::Result<XmlDocument> read(std::string bytes);
     static constexpr std::size_t maxDepth = 128;
 
@@ -48,7 +48,7 @@ public:
     [[nodiscard]] const XmlNode& root() const noexcept { return root_; }
     // The line of an offset, counted from 1. Offsets must not decrease between calls.
     [[nodiscard]] std::size_t lineOf(std::size_t offset);
-    // Whether the document declares another encoding than UTF-8.
+    // Whether the document has another encoding than UTF-8 and UTF-16. Then offsets refer to its bytes as they are.
     [[nodiscard]] bool hasOtherEncoding() const noexcept { return hasOtherEncoding_; }
 
 private:
