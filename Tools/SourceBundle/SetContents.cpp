@@ -47,7 +47,7 @@ AssetCatalog::Rendering renderingOf(const SourceAsset& asset, const Json& proper
                                                      : AssetCatalog::Rendering::automatic;
 }
 
-// Each becomes at most four variants in the compiled catalog: a drawing has pictures for its own scale and for 1, 2, 3.
+// An entry becomes at most four variants in the compiled catalog: a drawing has pictures for its scale and for 1, 2, 3.
 constexpr std::size_t maxEntries = AssetCatalog::maxVariants / 4;
 
 // Whether both variants are for the same traits and language.

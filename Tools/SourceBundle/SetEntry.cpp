@@ -113,9 +113,10 @@ SetEntry readEntry(const Json& json, std::size_t number) {
     const auto addCondition = [&](const char* name, const std::string& value) {
         entry.device.conditions.push_back(std::string(name) + " " + quotedName(value));
     };
-    for (const Json& appearance : member(json, "appearances"))
-        if (!readAppearance(appearance, entry.fit))
-            addCondition("appearance", text(appearance, "value"));
+    if (const Json& appearances = member(json, "appearances"); appearances.is_array())
+        for (const Json& appearance : appearances)
+            if (!readAppearance(appearance, entry.fit))
+                addCondition("appearance", text(appearance, "value"));
     if (const std::string direction = text(json, "language-direction"); !readDirection(direction, entry.fit))
         addCondition("language-direction", direction);
     if (const std::string scale = text(json, "scale"); !readScale(scale, entry.fit))
