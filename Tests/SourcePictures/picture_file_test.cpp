@@ -65,7 +65,9 @@ TEST(PictureFile, ConvertsOtherRasterFormats) {
         const Pictures::Bitmap bitmap = decoded(made[0]);
         EXPECT_EQ(bitmap.width, made[0].width) << name;
         EXPECT_EQ(bitmap.width, std::string(name) == "plain.heic" ? 16U : 3U) << name;
-        EXPECT_NEAR(bitmap.pixels[0], 200, 3) << name; // the first frame of an animation
+        // The first pixel of each file, in an animation that of the first frame, is (200, 30, 10).
+        EXPECT_NEAR(bitmap.pixels[0], 200, 3) << name;
+        EXPECT_NEAR(bitmap.pixels[1], 30, 3) << name;
         EXPECT_NEAR(bitmap.pixels[2], 10, 3) << name;
         EXPECT_FALSE(check(data(name).substr(0, 30), {})) << name;
     }
@@ -169,7 +171,8 @@ TEST(PictureFile, RejectsUnreadableFiles) {
         {__LINE__, "<html/>", "is a damaged drawing"},
         {__LINE__, svg("", ""), "is a drawing without a size"},
         {__LINE__, svg(R"(width="0" height="5")"), "is a drawing without a size"},
-        {__LINE__, svg(R"(width="20000" height="5")"), "is a drawing with more pixels than a catalog may contain"},
+        {__LINE__, svg(R"(width="20000" height="5000")"), "is a drawing with more pixels than a catalog may contain"},
+        {__LINE__, svg(R"(width="20000" height="5")"), "is a drawing with a side of more than 32767 pixels"},
         {__LINE__, "%PDF-1.7 and no more", "is a damaged drawing"},
     };
     for (const auto& one : cases) {
@@ -181,7 +184,6 @@ TEST(PictureFile, RejectsUnreadableFiles) {
     }
 }
 
-// Several threads call the underlying libraries.
 TEST(PictureFile, GivesTheSameInEveryThread) {
     const std::string files[] = {Support::contents(LUMORA_RESOURCES "/Images2.xcassets/card.imageset/card.pdf"),
                                  svg(R"(width="99" height="99")"), data("two-frames.gif"), data("plain.heic")};

@@ -8,6 +8,7 @@ namespace SourcePictures {
 
 namespace {
 
+// The name of gdk-pixbuf's loader for the format.
 const char* loaderNameOf(Format format) {
     switch (format) {
     case Format::gif:
@@ -35,12 +36,12 @@ void limitSize(GdkPixbufLoader* loader, gint width, gint height, gpointer isTooL
     gdk_pixbuf_loader_set_size(loader, 1, 1);
 }
 
-// The loader would accept a truncated file.
+// The loader would accept a truncated file. The number at byte 4 of the header counts the bytes that follow it.
 bool isCutOffWebp(std::string_view bytes) {
-    std::uint64_t size = 8; // of what comes before the size
+    std::uint64_t fullSize = 8;
     for (std::size_t i = 0; i < 4; ++i)
-        size += static_cast<std::uint64_t>(static_cast<unsigned char>(bytes[4 + i])) << (8 * i);
-    return size > bytes.size();
+        fullSize += static_cast<std::uint64_t>(static_cast<unsigned char>(bytes[4 + i])) << (8 * i);
+    return fullSize > bytes.size();
 }
 
 // The libraries print warnings to standard error; their errors contain the same information.
@@ -57,8 +58,10 @@ Runtime::Result<AssetCatalog::Picture> asPng(GdkPixbuf* pixels) {
     gchar* buffer = nullptr;
     gsize size = 0;
     GError* error = nullptr;
-    if (gdk_pixbuf_save_to_buffer(pixels, &buffer, &size, "png", &error, nullptr) == FALSE)
-        return damaged("picture", error);
+    if (gdk_pixbuf_save_to_buffer(pixels, &buffer, &size, "png", &error, nullptr) == FALSE) {
+        const Owned<GError> owned(error);
+        return Runtime::Error{.message = std::string("cannot be converted to PNG: ") + error->message};
+    }
     const Owned<gchar> owned(buffer);
     AssetCatalog::Picture picture;
     picture.width = static_cast<std::uint32_t>(gdk_pixbuf_get_width(pixels));
@@ -86,10 +89,11 @@ Runtime::Result<AssetCatalog::Picture> converted(std::string_view bytes, Format 
         gdk_pixbuf_loader_write(loader.get(), reinterpret_cast<const guchar*>(bytes.data()), bytes.size(), &error);
     // Close the loader in any case; the first of two errors is reported.
     const bool isClosed = gdk_pixbuf_loader_close(loader.get(), isWritten ? &error : nullptr);
+    Owned<GError> ownedError(error);
     if (isTooLarge)
         return Runtime::Error{.message = "is a picture with more pixels than a catalog may contain"};
     GdkPixbuf* pixels = isWritten && isClosed ? gdk_pixbuf_loader_get_pixbuf(loader.get()) : nullptr;
-    return pixels == nullptr ? damaged(name + " picture", error) : asPng(pixels);
+    return pixels == nullptr ? damaged(name + " picture", ownedError.release()) : asPng(pixels);
 }
 
 } // namespace SourcePictures

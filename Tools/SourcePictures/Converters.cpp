@@ -10,8 +10,9 @@ namespace SourcePictures {
 namespace {
 
 const Converters& load() {
+    // Where it is when installed, and where it is in the build folder.
     const std::string folder = Runtime::folderFromProgram(
-        {LUMORA_LIBRARIES_FROM_PROGRAM "/" LUMORA_PLUGIN_FOLDER, "../lib/" LUMORA_PLUGIN_FOLDER}); // installed, built
+        {LUMORA_LIBRARIES_FROM_PROGRAM "/" LUMORA_PLUGIN_FOLDER, "../lib/" LUMORA_PLUGIN_FOLDER});
     const Runtime::ForkGuard guard;
     const auto entry = Runtime::pluginSymbol(guard, folder, "lumora-drawing.so", "lumoraDrawing");
     if (!entry)

@@ -1,7 +1,7 @@
 // SourcePictures/Converters.h
 // The interface of the plug-in lumora-drawing.so, which draws and converts pictures; internal. It is loaded for the
-// first picture that is neither PNG nor JPEG, because its libraries need many others. Program and plug-in are always
-// built together.
+// first picture that is neither PNG nor JPEG, because its libraries load many others. Program and plug-in are always
+// built together, so the interface has no version.
 // Threads: any.
 #pragma once
 
@@ -17,8 +17,9 @@ namespace SourcePictures {
 
 class Converters {
 public:
-    // Reads a drawing, or with `isSymbol` the regular drawing of a symbol's template. `bytes` must outlive the result,
-    // which must be destroyed by the same thread. Precondition: `format` is svg or pdf. Errors: damaged.
+    // Reads a drawing, or with `isSymbol` the regular drawing of a symbol's template (see Purpose in PictureFile.h).
+    // `bytes` must outlive the result, which must be destroyed by the same thread. Precondition: `format` is svg or
+    // pdf. Errors: damaged.
     [[nodiscard]] virtual Runtime::Result<std::unique_ptr<const Drawing>> drawing(std::string_view bytes, Format format,
                                                                                   bool isSymbol) const = 0;
     // Converts the picture, or the first frame of an animation, to PNG. Precondition: `format` is gif, tiff, webp or

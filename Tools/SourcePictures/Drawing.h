@@ -15,7 +15,7 @@ public:
     // The size in the drawing's units, which are points if it was made for one pixel per point. 0 if it has no size.
     [[nodiscard]] virtual AssetCatalog::Size size() const = 0;
     // Checks that picture() will succeed at that scale, by drawing into a single pixel. Errors: damaged, no size, more
-    // pixels than a catalog may contain.
+    // pixels than a catalog may contain or cairo can draw.
     [[nodiscard]] virtual Runtime::Result<void> check(double scale) const = 0;
     // Rasterizes the drawing to a PNG with `scale` pixels per unit. The drawing fills the picture, whose sides are
     // rounded up to whole pixels.

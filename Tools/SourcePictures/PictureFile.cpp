@@ -28,7 +28,7 @@ bool isHeif(std::string_view bytes) {
     return bytes.size() >= 12 && bytes.substr(4, 4) == "ftyp" && std::ranges::count(brands, bytes.substr(8, 4)) != 0;
 }
 
-// Treats everything that begins like XML, in any encoding, as SVG.
+// Treats everything that begins like XML, in UTF-8, UTF-16 or UTF-32, as SVG.
 bool isXml(std::string_view bytes) {
     const std::size_t begin = bytes.find_first_not_of(std::string_view("\xEF\xBB\xBF\xFE\xFF\0 \t\r\n", 10));
     return begin != std::string_view::npos && bytes[begin] == '<';
@@ -67,28 +67,28 @@ Runtime::Result<PictureList> drawn(std::string_view bytes, Format format, const 
     if (!read)
         return read.error();
     const Drawing& drawing = **read;
-    const double made = std::max<std::uint8_t>(purpose.scale, 1);
+    const double ownScale = std::max<std::uint8_t>(purpose.scale, 1);
     PictureList pictures;
     for (const std::uint8_t scale : scalesOf(purpose)) {
         auto picture = drawing.picture(pixelsPerUnit(scale, purpose));
         if (!picture)
             return std::move(picture.error());
         picture->fit.scale = scale;
-        picture->points = {drawing.size().width / made, drawing.size().height / made};
+        picture->points = {drawing.size().width / ownScale, drawing.size().height / ownScale};
         pictures.push_back(*std::move(picture));
     }
     return pictures;
 }
 
 Runtime::Result<void> checkRaster(std::string_view bytes) {
-    const auto bitmap = ::Pictures::decode(unsignedBytes(bytes), AssetCatalog::maxPixels, ::Pictures::linkedDecoders());
+    const auto bitmap = Pictures::decode(unsignedBytes(bytes), AssetCatalog::maxPixels, Pictures::linkedDecoders());
     if (!bitmap)
         return bitmap.error();
     return {};
 }
 
 Runtime::Result<Picture> raster(const AssetCatalog::Bytes& bytes) {
-    const auto size = ::Pictures::measure(unsignedBytes(*bytes));
+    const auto size = Pictures::measure(unsignedBytes(*bytes));
     if (!size)
         return size.error();
     Picture picture;
@@ -162,7 +162,7 @@ Runtime::Result<PictureList> picturesOf(const AssetCatalog::Bytes& bytes, const 
 }
 
 std::string converterVersion() {
-    return "1" LUMORA_DRAWING_VERSIONS; // 1: of this code
+    return "1" LUMORA_DRAWING_VERSIONS; // increase the number when this code gives other bytes
 }
 
 } // namespace SourcePictures

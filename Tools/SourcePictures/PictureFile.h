@@ -13,11 +13,13 @@
 
 namespace SourcePictures {
 
+// The size of the largest picture file that is read.
 inline constexpr std::size_t maxFileBytes = std::size_t{256} << 20;
 
 // How a file is used.
 struct Purpose {
-    // Whether the file is a symbol's template, of which only the regular drawing in medium size is used.
+    // Whether the file is a symbol's template: an SVG with a drawing for each weight and size of the symbol, of which
+    // one of regular weight is used, if possible in medium size.
     bool isSymbol = false;
     std::uint8_t scale = 0; // the pixels per point that the file was made for; 0 means any
     // Whether a drawing made for one scale is also rasterized for the others.
@@ -27,12 +29,13 @@ struct Purpose {
 
 // Checks that picturesOf() will succeed, without rasterizing drawings at full size. The format (PNG, JPEG, GIF, TIFF,
 // WebP, HEIF, SVG, PDF) is detected from the content, not the file name. Errors: another format, damaged, no size, more
-// pixels than a catalog may contain.
+// pixels than a catalog may contain, no converter installed for the format.
 [[nodiscard]] Runtime::Result<void> check(const std::string& bytes, const Purpose& purpose);
 
 // The pictures that a catalog stores for the file: a PNG or JPEG unchanged; other raster formats converted to PNG; a
 // drawing (or the first page of a PDF) as one PNG for each of the scales 1, 2 and 3, or only for the scale that it was
-// made for. Its own scale comes first. Only the scale of each fit is set.
+// made for. Its own scale comes first. In Picture::fit only the scale is set. Errors: those of check(), but of a PNG or
+// JPEG only the header is read.
 [[nodiscard]] Runtime::Result<std::vector<AssetCatalog::Picture>> picturesOf(const AssetCatalog::Bytes& bytes,
                                                                              const Purpose& purpose);
 

@@ -1,4 +1,4 @@
-// The only function that the plug-in exports.
+// The plug-in's implementation of Converters.
 #include "SourcePictures/Converters.h"
 
 #include "SourcePictures/Converted.h"
@@ -8,7 +8,7 @@ namespace SourcePictures {
 
 namespace {
 
-class Linked final : public Converters {
+class LinkedConverters final : public Converters {
     DrawingResult drawing(std::string_view bytes, Format format, bool isSymbol) const override {
         if (format == Format::pdf)
             return readPdf(bytes);
@@ -19,12 +19,12 @@ class Linked final : public Converters {
     }
 };
 
-constinit const Linked linked;
+constinit const LinkedConverters linkedConverters;
 
 } // namespace
 
 } // namespace SourcePictures
 
 const SourcePictures::Converters* lumoraDrawing() noexcept {
-    return &SourcePictures::linked;
+    return &SourcePictures::linkedConverters;
 }

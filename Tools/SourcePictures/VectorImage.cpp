@@ -20,8 +20,10 @@ Runtime::Result<PixelSize> pixelSize(AssetCatalog::Size size, double scale) {
     const double rows = std::ceil(size.height * scale);
     if (!(columns >= 1 && rows >= 1))
         return Runtime::Error{.message = "is a drawing without a size"};
-    if (!(columns * rows <= static_cast<double>(AssetCatalog::maxPixels) && columns <= maxSide && rows <= maxSide))
+    if (!(columns * rows <= static_cast<double>(AssetCatalog::maxPixels)))
         return Runtime::Error{.message = "is a drawing with more pixels than a catalog may contain"};
+    if (columns > maxSide || rows > maxSide)
+        return Runtime::Error{.message = "is a drawing with a side of more than 32767 pixels"};
     return PixelSize{static_cast<int>(columns), static_cast<int>(rows)};
 }
 

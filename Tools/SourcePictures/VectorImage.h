@@ -7,7 +7,7 @@
 
 namespace SourcePictures {
 
-// The readers of the formats derive from it.
+// The drawings of each format derive from it.
 class VectorImage : public Drawing {
 public:
     Runtime::Result<void> check(double scale) const final;

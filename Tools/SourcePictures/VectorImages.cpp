@@ -17,7 +17,8 @@ using AssetCatalog::Size;
 
 constexpr double pixelsPerInch = 96; // as in CSS
 
-// The length in points; no value for a percentage or a missing length.
+// The length in points, which are pixels of CSS, with the usual font size of 16; no value for a percentage or a missing
+// length.
 std::optional<double> pointsOf(gboolean isGiven, RsvgLength length) {
     if (isGiven == FALSE)
         return std::nullopt;
@@ -108,7 +109,7 @@ private:
 // An element of a drawing, or the content of a drawing without a declared size.
 class SvgElement final : public VectorImage {
 public:
-    // `id`: "#Regular-M", or null for the whole content.
+    // `id`: a string literal, "#Regular-M", or null for the whole content.
     SvgElement(Owned<RsvgHandle> drawing, const char* id, Size size)
         : drawing_(std::move(drawing)), id_(id), size_(size) {}
 
