@@ -70,7 +70,7 @@ private:
 
 using AssetKey = std::pair<Kind, std::string>;
 
-// The accessors of the assets, relative to the tree.
+// The accessors of the assets, relative to the tree: "Images::send".
 std::map<AssetKey, std::string> accessorsOf(const std::vector<Entry>& entries) {
     std::vector<SourceBundle::SourceAsset> assets;
     assets.reserve(entries.size());
@@ -79,9 +79,9 @@ std::map<AssetKey, std::string> accessorsOf(const std::vector<Entry>& entries) {
                           .catalog = std::string(entry.catalog()),
                           .name = std::string(entry.name()),
                           .path = {}});
-    SourceBundle::Diagnostics unnamed; // reported by the generator
+    SourceBundle::Diagnostics ignored; // `lumora generate` reports them
     std::map<AssetKey, std::string> accessors;
-    const Generator::AssetTree tree = Generator::assetTreeOf(assets, unnamed);
+    const Generator::AssetTree tree = Generator::assetTreeOf(assets, ignored);
     for (const Generator::AssetConstant& constant : tree.constants)
         accessors.emplace(AssetKey(constant.asset->kind, constant.asset->name), constant.groups + "::" + constant.name);
     return accessors;

@@ -1,6 +1,6 @@
 # cmake -D TEMPLATE=index.html -D STYLE=style.css -D SCRIPTS=a.js;b.js -D OUTPUT=PageTemplate.cpp -P EmbedPage.cmake
-# Writes the page with its style and scripts as a C++ source. The page's content security policy allows only these, by
-# their hashes.
+# Writes the page with its style and scripts as a C++ source. The page's content security policy has the hashes of both, so
+# that a browser runs no other script and applies no other style.
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -19,7 +19,7 @@ function(policy_hash out content)
             string(APPEND encoded ${digit})
         endforeach()
     endforeach()
-    string(REGEX REPLACE "A$" "=" encoded ${encoded})
+    string(REGEX REPLACE "A$" "=" encoded ${encoded}) # the last digit has only padding
     set(${out} "sha256-${encoded}" PARENT_SCOPE)
 endfunction()
 

@@ -24,6 +24,7 @@ std::string embedded(const nlohmann::ordered_json& json) {
     return safe;
 }
 
+// The page with both instead of its placeholders.
 std::string filled(const std::string& resources, const std::string& pictures) {
     static constexpr std::string_view resourcesMark = "@RESOURCES@", picturesMark = "@PICTURES@";
     const std::size_t first = pageTemplate.find(resourcesMark);
@@ -42,9 +43,9 @@ Runtime::Result<std::string> pageOf(const SourceBundle::Source& source, const st
     if (!assets)
         return std::move(assets.error());
     nlohmann::ordered_json resources = {{"title", options.title}};
-    const std::string tree = options.module.empty() ? "" : options.module + "::" + options.module;
-    resources["trees"] = {{"texts", tree.empty() ? "" : tree + "Strings::"},
-                          {"assets", tree.empty() ? "" : tree + "Asset::"}};
+    const std::string prefix = options.module.empty() ? "" : options.module + "::" + options.module; // "Shop::Shop"
+    resources["trees"] = {{"texts", prefix.empty() ? "" : prefix + "Strings::"},
+                          {"assets", prefix.empty() ? "" : prefix + "Asset::"}};
     resources.update(textsOf(source, options.names));
     resources["assets"] = std::move(assets->list);
     return filled(embedded(resources), embedded(assets->pictures));

@@ -1,7 +1,7 @@
 // Gallery/Gallery.h
 // Creates a web page that shows the resources of a bundle: texts, pictures, colours, data and the coverage of each
 // language. Docs/gallery.md describes the page and its data.
-// Text: UTF-8; paths are raw bytes. Threads: one page at a time.
+// Text: UTF-8; paths are raw bytes. Threads: any; no state.
 #pragma once
 
 #include "Generator/NamesFile.h"
@@ -19,7 +19,7 @@ struct Options {
 };
 
 // A self-contained page with the texts of `source` and the assets of the compiled bundle at `bundle`. Texts and assets
-// without an accessor are included. Error: a damaged catalog.
+// without an accessor are included. Errors: a catalog that is damaged or cannot be read.
 [[nodiscard]] Runtime::Result<std::string> pageOf(const SourceBundle::Source& source,
                                                   const std::filesystem::path& bundle, const Options& options);
 

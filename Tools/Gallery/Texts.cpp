@@ -19,7 +19,8 @@ using SourceBundle::SourceTable;
 
 namespace {
 
-// The development language, then the others in alphabetical order.
+// The development language, then the others in alphabetical order. Base is not a language of its own: its texts count
+// as the development language's.
 std::vector<std::string> languagesOf(const Source& source) {
     std::set<std::string> others = source.languages();
     others.erase(source.developmentLanguage);
@@ -34,8 +35,8 @@ using Accessors = std::unordered_map<const SourceEntry*, ordered_json>;
 
 Accessors accessorsOf(const Source& source, Generator::NamesFile names) {
     Accessors accessors;
-    SourceBundle::Diagnostics known; // `lumora generate` reports them
-    for (const Generator::AccessorTable& table : Generator::accessorTables(source, names, known)) {
+    SourceBundle::Diagnostics ignored; // `lumora generate` reports them
+    for (const Generator::AccessorTable& table : Generator::accessorTables(source, names, ignored)) {
         for (const Generator::NamedEntry& entry : table.entries) {
             const std::string groups = entry.groups.empty() ? "" : entry.groups + "::";
             accessors[entry.source] = {{"accessor", table.spelling + "::" + groups + entry.name}};

@@ -1,6 +1,6 @@
-// Shared by pictures, colours and data: the traits of a variant, and the name with the accessor.
+// Shared by pictures, colours and data: the traits of a variant, the name with the accessor, the row.
 
-// In display order.
+// The label of each trait, in display order.
 const traitTexts = {
     scale: (value) => `${value}×`,
     appearance: String,
@@ -21,19 +21,19 @@ function assetName(asset) {
     const last = asset.accessor?.split("::").pop();
     const name = make("div", { class: "name" });
     if (asset.accessor)
-        name.append(copyButton(resources.trees.assets + asset.accessor, last));
+        name.append(copyButton(fullAccessor("assets", asset), last));
     if (asset.name !== last)
         name.append(make("code", { class: "key", dir: "auto" }, asset.name));
     return name;
 }
 
-// A row of a list whose element shows `asset` with `children` after its name.
+// A row of a SearchableList for `asset`. The element of the row has `children`.
 function assetRow(asset, className, ...children) {
     return {
         asset,
         element: make("div", { class: className, role: "listitem", "data-asset": asset.name }, ...children),
-        strings: () => [asset.name, resources.trees.assets + (asset.accessor ?? "")],
-        accepts: (status) => status === "all",
+        strings: () => [asset.name, fullAccessor("assets", asset)],
+        accepts: (status) => status === "all", // the other choices are for texts
     };
 }
 

@@ -15,10 +15,12 @@ function hexOf([red, green, blue, alpha]) {
     return "#" + parts.map((c) => Math.round(clamped(c) * 255).toString(16).padStart(2, "0").toUpperCase()).join("");
 }
 
+// The colour as it looks on an opaque ground.
 function over(colour, ground) {
     return colour.slice(0, 3).map((component, i) => clamped(component) * colour[3] + ground[i] * (1 - colour[3]));
 }
 
+// The relative luminance, 0 to 1.
 function luminance(colour) {
     const [red, green, blue] = colour.map((c) => (c <= 0.04045 ? c / 12.92 : ((c + 0.055) / 1.055) ** 2.4));
     return 0.2126 * red + 0.7152 * green + 0.0722 * blue;
@@ -75,6 +77,7 @@ function progressStrip(variant, asset) {
         make("div", { class: "percents" }, ...percents));
 }
 
+// The strips for "progressGreen", in which Lumora's application draws progress; null without a colour of that name.
 function progressStrips() {
     const asset = assetsOf("color").find((colour) => colour.name.split("/").pop() === "progressGreen");
     if (!asset)

@@ -1,4 +1,5 @@
-// Highlights the search words, in browsers that support it.
+// Highlights the search words, in browsers that support it. Unlike the search, it does not ignore accents in the text,
+// because a folded text has other offsets.
 const foundWords = "Highlight" in window ? new Highlight() : null;
 if (foundWords)
     CSS.highlights.set("found", foundWords);

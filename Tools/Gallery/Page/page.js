@@ -1,16 +1,17 @@
 // Assembles the page and connects its controls.
 
-// The sections with their names and lists. A section without resources is hidden.
+// The sections with searchable lists. A section is hidden while its lists show no rows.
 const sections = [
-    { id: "texts", name: "Texts", lists: textLists },
-    { id: "pictures", name: "Pictures", lists: pictureLists },
-    { id: "colours", name: "Colours", lists: colourLists },
-    { id: "data", name: "Data", lists: dataLists },
+    { id: "texts", lists: textLists },
+    { id: "pictures", lists: pictureLists },
+    { id: "colours", lists: colourLists },
+    { id: "data", lists: dataLists },
 ];
 const shownCount = (lists) => lists.reduce((sum, list) => sum + list.shown.length, 0);
 const rowCount = (lists) => lists.reduce((sum, list) => sum + list.rows.length, 0);
 
-function describe() {
+// The title, and the number of resources of each kind.
+function fillHead() {
     const kinds = [
         [textLists, "text", "texts"], [pictureLists, "picture", "pictures"], [colourLists, "colour", "colours"],
         [dataLists, "data asset", "data assets"],
@@ -37,7 +38,8 @@ function fillLanguageChoices() {
     }
 }
 
-// Parts that were never shown have an estimated size, so the element moves while they are laid out in the next frames.
+// Scrolls again in the next frames: parts that were never shown have an estimated size, so the element moves while they are
+// laid out.
 function goTo(element) {
     let frames = 10;
     const step = () => {
@@ -49,6 +51,7 @@ function goTo(element) {
     step();
 }
 
+// Lists the missing texts of a language or, if there are none, the untranslated ones.
 function showMissing(language, counts) {
     byId("language-b").selectedIndex = language;
     const untranslated = counts.same ? "same" : "all";
@@ -97,7 +100,8 @@ function searchFromTop() {
         byId("results").scrollIntoView();
 }
 
-// Shows the numbers of results and hides sections without any. Parts that are not searched are hidden during a search.
+// Shows the numbers of results and hides sections without any. Parts that are not searched (coverage, regions, progress) are
+// hidden during a search.
 function showFound(isNarrowed) {
     for (const { id, lists } of sections) {
         byId(id).hidden = shownCount(lists) === 0;
@@ -116,9 +120,7 @@ function showFound(isNarrowed) {
     byId("count").textContent = `${counted(texts, "text", "texts")}, ${counted(assets, "asset", "assets")}`;
 }
 
-// Copying
-
-let announcementEnd = 0;
+let announcementEnd = 0; // the timer that hides the announcement
 
 function announce(message) {
     const announcement = byId("announcement");
@@ -182,7 +184,7 @@ function connect() {
     connectChoice("size", (size) => (byId("pictures").dataset.size = size));
 }
 
-describe();
+fillHead();
 fillLanguageChoices();
 fillNavigation();
 fillSections();
@@ -190,5 +192,5 @@ search();
 connect();
 if (location.hash.length > 1 && byId(location.hash.slice(1)))
     goTo(byId(location.hash.slice(1)));
-// Prepares the search index, so that the first letter typed is as fast as the others.
+// Prepares the search once the page is visible, so that the first letter typed is as fast as the others.
 setTimeout(() => sections.flatMap((section) => section.lists).forEach((list) => list.rows.forEach(prepared)), 200);

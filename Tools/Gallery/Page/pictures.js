@@ -1,5 +1,6 @@
 // The pictures with all their variants, and the data assets.
 
+// The element with the pictures is after the scripts, so it is read only when the document is complete.
 const documentLoaded = new Promise((resolve) => document.addEventListener("DOMContentLoaded", resolve));
 let pictureList = null;
 

@@ -1,6 +1,6 @@
-// The pictures that depend on a region or sex, recognized by their names: "sexGirl.arab" is the picture "sex" of women
-// in the region "arab", "male_training_target_maintain_ru" that of men in "ru". Two letters after an underscore are a
-// region only if the name also has a sex: "arrow_up" has no region.
+// The pictures that depend on a region or sex, recognized by their names: "sexGirl.arab" has the subject "sex…", the sex
+// women and the region "arab"; "male_training_target_maintain_ru" has the subject "…_training_target_maintain", the sex men
+// and the region "ru". Two letters after an underscore are a region only if the name also has a sex: "arrow_up" has none.
 const sexes = [
     ["men", /(?<![A-Za-z])(male|man|boy)(?![a-z])|(?<=[a-z])(Male|Man|Boy)(?![a-z])/],
     ["women", /(?<![A-Za-z])(female|woman|girl)(?![a-z])|(?<=[a-z])(Female|Woman|Girl)(?![a-z])/],
@@ -13,8 +13,8 @@ function regionalParts(name) {
     return { subject: sex ? stem.replace(pattern, "…") : stem, sex, region: ending?.[1] ?? ending?.[2] ?? "" };
 }
 
-// Maps subject to sex to region to picture. Only subjects with several pictures are included, those with regions
-// first.
+// A map from subject to a map from sex to a map from region to picture. Subjects with only one picture are left out;
+// those with regions come first.
 function regionalPictures(assets) {
     const subjects = new Map();
     for (const asset of assets) {
@@ -45,7 +45,7 @@ function regionTable() {
         ...(i === 0 ? [make("th", { scope: "rowgroup", rowspan: bySex.size }, subject)] : []),
         make("td", {}, sex || "any"),
         ...regions.map((region) => regionCell(byRegion.get(region))))));
-    const table = make("table", {}, make("caption", { class: "quiet" }, "Pictures by region and sex"),
+    const table = make("table", {}, make("caption", { class: "visually-hidden" }, "Pictures by region and sex"),
         make("thead", {}, head), make("tbody", {}, ...body));
     whenNear(table, () => loadPictures(table));
     return table;

@@ -5,7 +5,7 @@ function folded(text) {
     return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase();
 }
 
-// Caches the folded strings of the row, separately and joined.
+// Caches the folded strings of the row, joined and separately. The separator is in no string and in no search word.
 function prepared(row) {
     row.haystack ??= folded(row.strings().map((text) => text.replaceAll("\0", "")).join("\n\0"));
     row.folded ??= row.haystack.split("\n\0");
@@ -15,25 +15,26 @@ function prepared(row) {
 // Rows are grouped in chunks, which the browser neither styles nor lays out while they are far off-screen.
 const chunkRows = 24; // divisible by 1, 2, 3 and 4 columns
 
-// Runs the action of a chunk once it comes near the window.
-const chunkActions = new WeakMap();
+// The actions of elements; each runs once, when its element comes near the window.
+const nearActions = new WeakMap();
 const nearWindow = new IntersectionObserver((entries) => {
     for (const { isIntersecting, target } of entries) {
         if (!isIntersecting)
             continue;
         nearWindow.unobserve(target);
-        chunkActions.get(target)();
+        nearActions.get(target)();
     }
 }, { rootMargin: "800px" });
 
 function whenNear(element, action) {
-    chunkActions.set(element, action);
+    nearActions.set(element, action);
     nearWindow.observe(element);
 }
 
 class SearchableList {
     // `rows`: { element, strings: () => [string], accepts: (status) => boolean, show?: () => void, explain?: (words) =>
-    // void }. `show` runs when the row comes near the window, `explain` when a search found it.
+    // void }. A search finds a row if it accepts the choice in "Show" and each word is in one of its strings. `show` runs
+    // when the row comes near the window, `explain` when a search found it.
     constructor(heading, rows, className) {
         this.rows = rows;
         this.className = className;

@@ -1,7 +1,9 @@
 // The texts, two languages side by side.
+
+// The indexes of the first and second language.
 const chosen = { a: development, b: development };
 
-// The text with its placeholders marked up.
+// The text as a list of strings and elements; the elements are its placeholders.
 function marked(text) {
     if (!text.includes("%"))
         return [text];
@@ -46,12 +48,10 @@ function fillCell(cell, text, index) {
     cell.replaceChildren(...parts);
 }
 
-const fullAccessor = (text) => (text.accessor ? resources.trees.texts + text.accessor : "");
-
 function textRow(text) {
     const name = make("div", { class: "name" });
     if (text.accessor)
-        name.append(copyButton(fullAccessor(text), text.accessor));
+        name.append(copyButton(fullAccessor("texts", text), text.accessor));
     name.append(make("code", { class: "key", dir: "auto" }, text.key));
     if (!text.accessor)
         name.append(make("p", { class: "reason" }, make("span", { class: "tag missing" }, "No accessor"), " ", text.reason ?? ""));
@@ -62,7 +62,7 @@ function textRow(text) {
         text,
         cells,
         element: make("div", { class: "text columns", role: "listitem", "data-key": text.key }, name, cells.a, cells.b),
-        strings: () => [`${text.key}\n${fullAccessor(text)}`, ...text.values.map((value) => stringsOf(value).join("\n"))],
+        strings: () => [`${text.key}\n${fullAccessor("texts", text)}`, ...text.values.map((value) => stringsOf(value).join("\n"))],
         accepts: (status) => status === "all" || status === statusOf(text, chosen.b) ||
             (status === "plural" && text.values.some(isPlural)) || (status === "comment" && Boolean(text.comment)),
     };
