@@ -8,9 +8,9 @@ namespace Lumora {
 
 namespace {
 
-// Callers see them in this order.
-#define LEGACY_IMAGE(name, olderName, asset) Runtime::method<&UIImage::olderName>(#olderName),
-#define LEGACY_NAME(name, olderName, asset) Runtime::method<&UIImage::olderName>(#olderName),
+// Callers see the properties in the order of this list.
+#define LEGACY_IMAGE(name, publishedName, asset) Runtime::method<&UIImage::publishedName>(#publishedName),
+#define LEGACY_NAME(name, publishedName, asset) Runtime::method<&UIImage::publishedName>(#publishedName),
 constexpr Runtime::Method imageProperties[] = {
 #include "Lumora/internal/LegacyImages.inc"
 };

@@ -18,12 +18,12 @@ namespace {
 constexpr std::array<LocalizationCode, 3> asianLocalizationCodes = {LocalizationCode::ko, LocalizationCode::ja,
                                                                     LocalizationCode::zhHans};
 
-// A list that is created at its first use; an empty one when memory runs out.
+// The list in the slot, which `make` creates at the first use; an empty list when memory runs out.
 template <class Make>
-const std::vector<std::string>& listed(Runtime::OnceSlot<std::vector<std::string>>& slot, Make make) noexcept {
-    static constinit Runtime::OnceSlot<std::vector<std::string>> none;
+const std::vector<std::string>& listIn(Runtime::OnceSlot<std::vector<std::string>>& slot, Make make) noexcept {
+    static constinit Runtime::OnceSlot<std::vector<std::string>> empty;
     const std::vector<std::string>* list = Runtime::attempt([&] { return &slot.get(make); });
-    return list != nullptr ? *list : none.get([] { return std::vector<std::string>(); });
+    return list != nullptr ? *list : empty.get([] { return std::vector<std::string>(); });
 }
 
 } // namespace
@@ -64,8 +64,8 @@ bool Localization::isLegacyCurrentLocalizationRu() {
 }
 
 const std::vector<std::string>& Localization::allSupportedLocalizations() {
-    static constinit Runtime::OnceSlot<std::vector<std::string>> list;
-    return listed(list, [] {
+    static constinit Runtime::OnceSlot<std::vector<std::string>> slot;
+    return listIn(slot, [] {
         std::vector<std::string> ids;
         for (const LocalizationCode code : LocalizationCode::allCases())
             ids.push_back(code.id());
@@ -74,8 +74,8 @@ const std::vector<std::string>& Localization::allSupportedLocalizations() {
 }
 
 const std::vector<std::string>& Localization::allSupportedHandbookLocalizations() {
-    static constinit Runtime::OnceSlot<std::vector<std::string>> list;
-    return listed(list, [] {
+    static constinit Runtime::OnceSlot<std::vector<std::string>> slot;
+    return listIn(slot, [] {
         std::unordered_set<std::string> languages;
         for (const LocalizationCode code : LocalizationCode::allCases())
             languages.insert(code.shortId());

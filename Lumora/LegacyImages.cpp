@@ -5,19 +5,19 @@
 
 namespace Lumora::UIImage {
 
-#define LEGACY_IMAGE(name, olderName, asset)                                                                           \
+#define LEGACY_IMAGE(name, publishedName, asset)                                                                       \
     const UIKit::UIImage& name() {                                                                                     \
         static constinit Runtime::OnceSlot<UIKit::UIImage> slot;                                                       \
         return slot.get([] { return LumoraAssetModule::RecordFactory::image(asset).image(); });                        \
     }                                                                                                                  \
-    const UIKit::UIImage& olderName() {                                                                                \
+    const UIKit::UIImage& publishedName() {                                                                            \
         return name();                                                                                                 \
     }
-#define LEGACY_NAME(name, olderName, asset)                                                                            \
+#define LEGACY_NAME(name, publishedName, asset)                                                                        \
     std::string name() {                                                                                               \
         return asset;                                                                                                  \
     }                                                                                                                  \
-    std::string olderName() {                                                                                          \
+    std::string publishedName() {                                                                                      \
         return name();                                                                                                 \
     }
 #include "Lumora/internal/LegacyImages.inc"

@@ -21,7 +21,7 @@ constexpr std::size_t headerSize = alignof(std::max_align_t);
 static_assert(sizeof(Header) <= headerSize);
 
 template <class T> struct Object : Header {
-    alignas(headerSize) T value; // at headerSize
+    alignas(headerSize) T value; // at the offset headerSize
 };
 
 template <class T, class... Parts> T* create(Parts&&... parts) {
@@ -38,7 +38,7 @@ template <class Make> auto createForC(Make make) noexcept -> decltype(make()) {
     }
 }
 
-// The C functions are messages to the same class that older screens use, and add only a fixed flag.
+// Sends a message to the class Lumora.Localization, as older screens do. Null when memory runs out.
 template <class... Arguments>
 NSString* sendToLocalization(std::string_view selector, const Arguments&... arguments) noexcept {
     return createForC([&] {

@@ -1,8 +1,9 @@
 /* Lumora/Loc.h
  * The localization services for C: C11 and C++.
  * Text: UTF-8. Threads: every function from any thread.
- * Ownership: the caller releases every result with NSRelease(); arguments still belong to the
- * caller. Null arguments are allowed. A function returns null only when memory runs out. */
+ * Ownership: the caller releases every NSString and NSNumber that a function returns with
+ * NSRelease(); arguments still belong to the caller. Null arguments are allowed. A function
+ * returns null only when memory runs out. */
 #ifndef LUMORA_LOC_H
 #define LUMORA_LOC_H
 
@@ -32,7 +33,7 @@ LUMORA_C_EXPORT NSString* NSStringCreate(const char* utf8);
 LUMORA_C_EXPORT const char* NSStringUTF8(const NSString* string);
 LUMORA_C_EXPORT NSNumber* NSNumberCreateInteger(int64_t value);
 LUMORA_C_EXPORT NSNumber* NSNumberCreateDouble(double value);
-/* Releases a result of one of these functions. Call it once for each. Null is allowed. */
+/* Releases an NSString or NSNumber that a function of this header returned. Call it once for each. */
 LUMORA_C_EXPORT void NSRelease(const void* object);
 
 /* The text of `key` in the current language, without formatting; the key itself when it has no text; the empty string
@@ -40,11 +41,11 @@ LUMORA_C_EXPORT void NSRelease(const void* object);
 LUMORA_C_EXPORT NSString* Loc(const NSString* key);
 /* The number in the user's locale, without a plus sign; the empty string for null. */
 LUMORA_C_EXPORT NSString* LocNumber(const NSNumber* number);
-/* The same; with `needSign`, nonnegative numbers have a plus sign. */
+/* The same; with `needSign`, numbers without a minus sign have a plus sign. */
 LUMORA_C_EXPORT NSString* LocNumberWithPositivePrefix(const NSNumber* number, bool needSign);
 /* An age in years as a phrase: "25 years". */
 LUMORA_C_EXPORT NSString* LocAge(NSInteger age);
-/* A fraction as a percentage: 0.25 is "25%". */
+/* A fraction as a percentage: 0.25 is "25%". legacyTrPercent() in Lumora/Localization.h tells how it is rounded. */
 LUMORA_C_EXPORT NSString* LocPercent(CGFloat value);
 /* The same; with `showPlus`, positive values have a plus sign. */
 LUMORA_C_EXPORT NSString* LocPercentSigned(CGFloat value, bool showPlus);

@@ -1,7 +1,8 @@
 // Lumora/Localization.h
 // The localization services: the current language, texts of a chosen language, signed numbers, percentages and ages.
-// Text: UTF-8. Threads: any; each call uses the host's current languages and locale. Ownership: results belong to the
-// caller. Errors: none, except for legacyTrNumber().
+// Text: UTF-8. Threads: any; each call uses the host's current languages and locale. Ownership: the two lists live
+// until the process ends; other results are values. Errors: none, except for legacyTrNumber(). When memory or
+// descriptors run out, texts and lists are empty and the language is English.
 #pragma once
 
 #include "Foundation/Locale.h"
@@ -15,12 +16,9 @@
 
 namespace Lumora {
 
-// Published to messages as "Lumora.Localization".
+// All members are static. Published to messages (Runtime/Class.h) as "Lumora.Localization".
 class LUMORA_EXPORT Localization {
 public:
-    // All members are static; objects have no use.
-    Localization() = default;
-
     // The current language: the bundle's first preferred localization, or English when the application does not support
     // it. Later preferences are ignored.
     [[nodiscard]] static Corvane::LocalizationCode currentLanguageCode();
@@ -46,9 +44,9 @@ public:
     // The text of `key` in the main table of the current language, without formatting; `key` itself when it has none.
     [[nodiscard]] static std::string legacyTr(std::string_view key);
 
-    // A decimal number in the user's locale. With `needSign`, nonnegative numbers begin with the locale's plus sign.
-    // Infinities and NaN are written as in the locale, 64-bit integers exactly. With `needSign`, a formatter without a
-    // result stops the process.
+    // The number as the user's locale writes it, also infinities and NaN; at most three fraction digits, integers
+    // exactly. With `needSign`, numbers without a minus sign begin with the locale's plus sign, and the process stops
+    // if the formatter has no text for the number.
     [[nodiscard]] static std::string legacyTrNumber(const Foundation::NSNumber& number, bool needSign);
     // A fraction as a percentage: 0.25 is "25%". Rounded in single precision, halves away from zero, and written with
     // all its digits in ASCII. NaN is "NaN%"; infinities, and values too large for single precision, are "∞%" and
@@ -57,7 +55,7 @@ public:
     [[nodiscard]] static std::string legacyTrPercent(double value, bool showPlus);
     // A number of years as currentLocale() spells it: "25 лет". Empty when the language data is missing.
     [[nodiscard]] static std::string legacyTrYear(std::int64_t value);
-    // The same; but in seven languages, such as English, locYears(), whose words are in the main table.
+    // The same, but in seven languages, such as English, locYears(), whose nouns are texts of the main table.
     [[nodiscard]] static std::string legacyTrAge(std::int64_t age);
 };
 

@@ -1,7 +1,7 @@
 // Lumora/LocalizationCode.h
 // The languages that the application supports. The namespace is that of the library in which the application's code
 // expects this type.
-// Text: ASCII. Threads: values and constants.
+// Text: ASCII. Threads: any; no state that changes.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -15,17 +15,17 @@ namespace Corvane {
 
 class LUMORA_EXPORT LocalizationCode {
 public:
-    // `id_` is Indonesian; id() has its name.
+    // `id_` is Indonesian, "id"; the function id() has that name.
     enum Case : std::uint8_t { ar, de, en, es, es419, fr, id_, it, ja, ko, nl, pl, ptBR, ptPT, ru, th, tr, vi, zhHans };
 
     constexpr LocalizationCode(Case code) noexcept : case_(code) {}
 
     // Every case, in declaration order.
     [[nodiscard]] static std::span<const LocalizationCode> allCases() noexcept;
-    // The case with that raw value (exact), or no value.
+    // The case whose raw value is `text` (exact), or no value.
     [[nodiscard]] static std::optional<LocalizationCode> fromRawValue(std::string_view text) noexcept;
 
-    // "es-419"
+    // The BCP 47 tag: "es-419".
     [[nodiscard]] std::string rawValue() const;
     // The raw value.
     [[nodiscard]] std::string id() const { return rawValue(); }

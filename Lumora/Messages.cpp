@@ -6,7 +6,7 @@ namespace Lumora {
 
 namespace {
 
-// Callers see them in this order.
+// Callers see the names in the order of these lists.
 constexpr Runtime::Method properties[] = {
     Runtime::method<&Localization::currentLocale>("currentLocale"),
     Runtime::method<&Localization::isAsianLocale>("isAsianLocale"),

@@ -20,7 +20,7 @@ using Foundation::NSNumberFormatter;
 
 namespace {
 
-// Languages whose percentages are formatted by the platform, because they place the percent sign differently.
+// Languages whose percentages the platform formats: Turkish writes "%25".
 constexpr std::array<LocalizationCode, 2> localePercentCodes = {LocalizationCode::ar, LocalizationCode::tr};
 
 std::string localePercent(double value) {
@@ -37,7 +37,8 @@ std::string plainPercent(double value) {
         return "NaN%";
     if (std::isinf(percent))
         return percent > 0 ? "∞%" : "-∞%";
-    std::array<char, std::numeric_limits<float>::max_exponent10 + 4> digits; // sign, all digits of the largest, and "%"
+    // The sign, all digits of the largest number, and "%".
+    std::array<char, 1 + (std::numeric_limits<float>::max_exponent10 + 1) + 1> digits;
     char* end =
         std::to_chars(digits.data(), digits.data() + digits.size() - 1, percent, std::chars_format::fixed, 0).ptr;
     *end++ = '%';
@@ -53,7 +54,8 @@ std::string Localization::legacyTrNumber(const NSNumber& number, bool needSign) 
         if (needSign)
             formatter.setPositivePrefix(formatter.plusSign());
         std::optional<std::string> text = formatter.stringFromNumber(number);
-        // Older screens rely on this difference: without a text, only a signed number stops the process.
+        // Older screens rely on this difference: without a text, only a signed number stops the process. The report
+        // names the file that existing crash reports name.
         if (!text && needSign)
             Runtime::fatalError("Unable to format a signed number", "Localization+Lumora", __LINE__);
         return std::move(text).value_or("");

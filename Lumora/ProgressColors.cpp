@@ -8,9 +8,9 @@ UIKit::UIColor UIColor::watchProgress(double progress, const UIKit::UIColor& bas
     const std::optional<UIKit::RGBA> end = base.rgba();
     if (!end)
         return base;
+    // The comparisons are written so that NaN reaches the components.
     double done = progress > 1.0 ? 1.0 : progress;
     done = done <= 0.0 ? 0.0 : done;
-    // These comparisons propagate NaN to the components.
     const double missing = 1.0 - done;
     const double red = missing + missing <= end->red ? end->red : missing + missing;
     const double green = end->green < done + done ? end->green : done + done;

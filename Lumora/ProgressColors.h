@@ -1,6 +1,7 @@
 // Lumora/ProgressColors.h
-// A colour for progress towards a goal: from red (none) through yellow (half) to a base colour (reached).
-// Threads: any; no state.
+// A colour for progress towards a goal: from red (no progress) to a base colour (goal reached). With a green base, the
+// colour of half the progress is yellow.
+// Threads: any.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -11,10 +12,11 @@ namespace Lumora {
 
 namespace UIColor {
 
-// The colour for `progress`, clamped to 0 to 1, with the catalog's "progressGreen" as base. Opaque. Below one half its
-// red component is above 1, up to 2 at progress 0. NaN gives NaN components.
+// The colour for `progress`, clamped to 0 to 1, with the catalog's colour "progressGreen" as base; stops the process if
+// that is missing. Opaque; below one half its red component is above 1, up to 2 at progress 0. NaN gives NaN
+// components.
 [[nodiscard]] LUMORA_EXPORT UIKit::UIColor colorForProgress(double progress);
-// The same with another base colour. Returns the base itself if it has no RGB components.
+// The same with another base colour, under two names. Both return the base itself if it has no RGB components.
 [[nodiscard]] LUMORA_EXPORT UIKit::UIColor watchProgress(double progress, const UIKit::UIColor& base);
 [[nodiscard]] LUMORA_EXPORT UIKit::UIColor color(const UIKit::UIColor& base, double progress);
 
@@ -22,6 +24,7 @@ namespace UIColor {
 
 namespace Color {
 
+// UIColor::colorForProgress() as a SwiftUI colour.
 [[nodiscard]] LUMORA_EXPORT SwiftUI::Color colorForProgress(double progress);
 
 } // namespace Color

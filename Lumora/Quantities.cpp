@@ -66,7 +66,7 @@ namespace {
 
 // Languages whose ages are locYears(); the others use legacyTrYear(). Russian is one of the others on purpose, although
 // the rule of getSuffix() is the Russian one.
-constexpr std::array<LocalizationCode, 7> keyedAgeCodes = {
+constexpr std::array<LocalizationCode, 7> locYearsCodes = {
     LocalizationCode::en, LocalizationCode::de, LocalizationCode::tr,    LocalizationCode::ko,
     LocalizationCode::vi, LocalizationCode::ja, LocalizationCode::zhHans};
 
@@ -89,8 +89,8 @@ std::string Localization::legacyTrYear(std::int64_t value) {
 
 std::string Localization::legacyTrAge(std::int64_t age) {
     return Runtime::attempt([&] {
-        const bool isKeyed = std::ranges::find(keyedAgeCodes, detail::currentCode()) != keyedAgeCodes.end();
-        return isKeyed ? LumoraStrings::Localizable::locYears(age) : legacyTrYear(age);
+        const bool usesLocYears = std::ranges::find(locYearsCodes, detail::currentCode()) != locYearsCodes.end();
+        return usesLocYears ? LumoraStrings::Localizable::locYears(age) : legacyTrYear(age);
     });
 }
 

@@ -7,8 +7,8 @@ namespace Lumora::UIImage {
 
 namespace {
 
-// The type by which this file's code could find its bundle. It stays empty and unused, because there is only one way to
-// the bundle: LumoraResources::bundle().
+// Reserves this name and stays empty and unused, so that nobody adds a second way to the bundle under it: the only way
+// is LumoraResources::bundle().
 class ResourceBundleClass {};
 
 using Candidates = std::initializer_list<const char*>;
@@ -30,6 +30,7 @@ UIKit::UIImage bySex(bool isMale, Candidates male, Candidates female, std::strin
     return regional(candidates, *candidates.begin(), region);
 }
 
+// The pictures for one training target.
 struct Target {
     const char *maleRu, *femaleRu, *maleAr, *others;
 };

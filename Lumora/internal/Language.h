@@ -21,7 +21,8 @@ pickLocalizationCode(std::span<const std::string> preferred,
     const bool isSupported = code && std::ranges::find(supported, *code) != supported.end();
     return isSupported ? *code : LocalizationCode::en;
 }
-// The current language and its locale. Throw when memory or descriptors run out.
+
+// As in Localization, but they throw std::bad_alloc or std::system_error when memory or descriptors run out.
 [[nodiscard]] Corvane::LocalizationCode currentCode();
 [[nodiscard]] Foundation::Locale currentLocale();
 

@@ -72,7 +72,8 @@ struct PaintedImage : UIKit::UIImage {
 struct OlderImage : UIKit::UIImage {
     static int imageNamed(std::string_view, const Foundation::NSBundle&, const UITraitCollection*) { return 5; }
 };
-// Subclasses without one: constructed from the platform's result if possible.
+// Subclasses without one. Made is constructed from the platform's result; Unmade cannot be, so the platform's result is
+// returned.
 template <class Base> struct Made : Base {
     explicit Made(const Base& base) : Base(base) {}
 };
@@ -189,10 +190,10 @@ TEST(LegacyImages, AreOneObjectUnderBothNames) {
     EXPECT_EQ(Runtime::send<UIKit::UIImage>(cls, "feedArrow").name(), "floatingButtonToBottom");
     EXPECT_EQ(Runtime::send<std::string>(cls, "rightArrowName"), "arrow_right");
     EXPECT_FALSE(Runtime::send<std::optional<UIKit::UIImage>>(cls, "assetNamed:", "none"));
-    // All of them exist.
+    // All pictures exist; the properties that end in "Name" are texts.
     for (const std::string& name : cls->classProperties()) {
-        const bool isDrawn = name.ends_with("Name") || Runtime::send<UIKit::UIImage>(cls, name).rgba();
-        EXPECT_TRUE(isDrawn) << name;
+        const bool exists = name.ends_with("Name") || Runtime::send<UIKit::UIImage>(cls, name).rgba();
+        EXPECT_TRUE(exists) << name;
     }
 }
 

@@ -125,9 +125,9 @@ TEST_F(Services, SpellYearsInEachLanguage) {
     };
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     for (const auto& one : cases) {
-        // Cached texts keep their language, so these phrases are read in a new process.
-        const bool isKeyed = std::string("en de ko").find(one.language) != std::string::npos;
-        if (isKeyed)
+        // Accessors keep the first language that they return, so phrases of the tables are read in a new process.
+        const bool isFromTables = std::string("en de ko").find(one.language) != std::string::npos;
+        if (isFromTables)
             EXPECT_EXIT(
                 {
                     user(one.language, one.language);

@@ -1,4 +1,4 @@
-"""Compares the texts of the source with the development texts, key by key."""
+"""Checks that every language has each development text, with the same placeholders."""
 import collections
 import json
 import pathlib
@@ -9,12 +9,12 @@ import sys
 PLACEHOLDER = re.compile(r"%(?:(\d+)\$)?(@|ld)")
 LANGUAGES = ("Base ar de es es-419 fr id it ja ko nl pl pt-BR pt-PT ru th tr vi zh-Hans").split()
 COUNTS = {"Localizable": 1362, "Community": 18, "UserProfile": 17, "ClientProfileCell": 2, "TrainingCourse": 2}
-# French needs a no-break space here: finds a plain space, or no space after a letter.
-FRENCH_PLAIN_SPACE = re.compile(r" [;:!?%»]|« |[^\W\d_][;!?](?!\w)")
+# French has a no-break space inside « » and before the other marks. Finds a plain space there, or a mark after a letter.
+FRENCH_FAULT = re.compile(r" [;:!?%»]|« |[^\W\d_][;!?](?!\w)")
 
 
 def kinds(text):
-    """The kinds of a text's placeholders by position, or an error message."""
+    """The kinds of a text's placeholders by position; if its percent signs are wrong, an error message instead."""
     found = PLACEHOLDER.findall(text.replace("%%", ""))
     if "%" in PLACEHOLDER.sub("", text.replace("%%", "")):
         return "a percent sign that begins no placeholder"
@@ -40,13 +40,16 @@ def main(resources, program):
             faults += [f"{language}/{name}: no text for {key!r}" for key in base[name] if key not in texts]
             for key, text in texts.items():
                 checked += 1
+                own_kinds = kinds(text)
                 expected = kinds(base[name][key]) if key in base[name] else "no such key"
-                if kinds(text) != expected or not text.strip():
-                    faults.append(f"{language}/{name}: {key!r}: {kinds(text)}, expected {expected}")
-                if language == "fr" and FRENCH_PLAIN_SPACE.search(PLACEHOLDER.sub("1", text)):
-                    faults.append(f"fr/{name}: {key!r}: a space before double punctuation is not a no-break space")
+                if own_kinds != expected or isinstance(own_kinds, str):
+                    faults.append(f"{language}/{name}: {key!r}: {own_kinds}, expected {expected}")
+                if not text.strip():
+                    faults.append(f"{language}/{name}: {key!r}: empty")
+                if language == "fr" and FRENCH_FAULT.search(PLACEHOLDER.sub("1", text)):
+                    faults.append(f"fr/{name}: {key!r}: no no-break space beside a punctuation mark that needs one")
     print("\n".join(faults) or f"{checked} texts fit their keys")
-    return 1 if faults or checked < 26000 else 0
+    return 1 if faults else 0
 
 
 if __name__ == "__main__":
