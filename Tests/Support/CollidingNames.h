@@ -1,5 +1,5 @@
 // Tests/Support/CollidingNames.h
-// Names of letters and digits that have the same hash.
+// Names of ASCII letters and digits that have the same hash: many for each of three hash functions.
 #pragma once
 
 #include "Runtime/internal/Hash.h"
@@ -18,13 +18,14 @@ inline std::string bytesOf(std::uint64_t word) {
 inline bool isPlain(const std::string& text) {
     return std::ranges::all_of(text, [](unsigned char byte) { return std::isalnum(byte) && byte < 0x80; });
 }
-// "a0000001".
+// Eight bytes, a word for the hashes: "a0000001".
 inline std::string numbered(std::size_t number) {
     const std::string digits = std::to_string(number);
     return "a" + std::string(7 - digits.size(), '0') + digits;
 }
 
-// Equal in Runtime::keyHash(): a word that is equal to the state makes a product zero, whatever the next word is.
+// Names with the same Runtime::keyHash(). It multiplies two words at a time, each combined with a state. A first word
+// that is equal to its state makes the product zero, whatever the second word is.
 inline std::vector<std::string> inKeyHash(std::size_t count) {
     const std::uint64_t seed = Runtime::hashSpread, second = seed * Runtime::hashSpread ^ Runtime::hashSpread;
     std::string begin;
@@ -39,8 +40,12 @@ inline std::vector<std::string> inKeyHash(std::size_t count) {
     return names;
 }
 
-// Equal for a hash that takes a word at a time. `step(state, word)` is the state after a word; `wordFor(state, wanted)`
-// is the word after which it is `wanted`. Each pair of words has an equivalent pair, so 12 pairs make 4,096 names.
+// The length in bytes of each name of chained(): twelve pairs of words.
+constexpr std::uint64_t chainedSize = 12 * 16;
+
+// Names with the same hash, at most 4,096, for a hash that takes a word at a time and begins with `state`.
+// `step(state, word)` is the state after `word`; `wordFor(state, wanted)` is the word that changes `state` to `wanted`.
+// For each pair of words there is another pair with the same final state, so 12 pairs make 2^12 names.
 template <class Step, class WordFor>
 std::vector<std::string> chained(std::uint64_t state, std::size_t count, Step step, WordFor wordFor) {
     const auto loaded = [](const std::string& word) { return Runtime::loadLittle<std::uint64_t>(word.data()); };
@@ -59,7 +64,7 @@ std::vector<std::string> chained(std::uint64_t state, std::size_t count, Step st
     return names;
 }
 
-// The number whose product with the odd `number` is 1.
+// The number whose product with the odd `number` is 1 modulo 2^64. Each step doubles the number of correct bits.
 constexpr std::uint64_t inverse(std::uint64_t number) {
     std::uint64_t result = number;
     for (int i = 0; i < 6; ++i)
@@ -67,24 +72,25 @@ constexpr std::uint64_t inverse(std::uint64_t number) {
     return result;
 }
 
-// Equal in std::hash<std::string> of GCC's library.
+// Names with the same std::hash<std::string> in GCC's library.
 inline std::vector<std::string> inStandardHash(std::size_t count) {
-    constexpr std::uint64_t factor = 0xC6A4A7935BD1E995, seed = 0xC70F6907, size = 16 * 12;
+    constexpr std::uint64_t factor = 0xC6A4A7935BD1E995, seed = 0xC70F6907;
     const auto folded = [](std::uint64_t value) { return value ^ value >> 47; };
     return chained(
-        seed ^ size * factor, count,
+        seed ^ chainedSize * factor, count,
         [&](std::uint64_t state, std::uint64_t word) { return (state ^ folded(word * factor) * factor) * factor; },
         [&](std::uint64_t state, std::uint64_t wanted) {
             return folded((wanted * inverse(factor) ^ state) * inverse(factor)) * inverse(factor);
         });
 }
 
-// Equal in the hash of an image's name in a compiled catalog.
+// Names of images with the same hash in a compiled catalog.
 inline std::vector<std::string> inCatalogHash(std::size_t count) {
-    const std::uint64_t size = 16 * 12, spread = Runtime::hashSpread;
+    const std::uint64_t spread = Runtime::hashSpread;
     const auto folded = [](std::uint64_t value) { return value ^ value >> 32; };
     return chained(
-        size * spread, count, [&](std::uint64_t state, std::uint64_t word) { return (folded(state) ^ word) * spread; },
+        chainedSize * spread, count,
+        [&](std::uint64_t state, std::uint64_t word) { return (folded(state) ^ word) * spread; },
         [&](std::uint64_t state, std::uint64_t wanted) { return folded(state) ^ wanted * inverse(spread); });
 }
 

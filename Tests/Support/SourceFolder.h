@@ -1,5 +1,5 @@
 // Tests/Support/SourceFolder.h
-// A source in a temporary folder, written by a test, with its model and the messages about it.
+// A source in a temporary folder, written by a test: reads it and keeps the messages about it.
 #pragma once
 
 #include "SourceBundle/Source.h"
@@ -17,12 +17,13 @@ public:
         return SourceBundle::Source::read(folders, options, diagnostics);
     }
 
-    // Takes the messages: "warning: FILE:LINE:COLUMN: MESSAGE", with file names relative to the folder.
+    // Returns the messages so far and removes them: "warning: FILE:LINE:COLUMN: MESSAGE", with file names relative to
+    // the folder.
     std::vector<std::string> takeMessages() {
         std::vector<std::string> all;
-        for (const auto& [severity, what, topic, subject] : diagnostics.all()) {
-            constexpr const char* words[] = {"note: ", "warning: ", "error: "};
-            all.push_back(words[static_cast<int>(severity)] + withoutFolder(what.text()));
+        for (const SourceBundle::Diagnostic& one : diagnostics.all()) {
+            constexpr const char* words[] = {"note: ", "warning: ", "error: "}; // by severity
+            all.push_back(words[static_cast<int>(one.severity)] + withoutFolder(one.what.text()));
         }
         diagnostics = {};
         return all;

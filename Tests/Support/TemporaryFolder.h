@@ -1,5 +1,5 @@
 // Tests/Support/TemporaryFolder.h
-// A temporary folder for a test, removed when the test ends.
+// A temporary folder for a test, removed by the destructor; helpers that read files.
 #pragma once
 
 #include <cstdlib>
