@@ -16,7 +16,7 @@ namespace {
 // Without O_NONBLOCK, opening a pipe would wait for its writer.
 constexpr int openFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
 
-constexpr int leadsOut = EXDEV;
+constexpr int leadsOut = EXDEV; // the errno for a link out of the folder, as in openat2()
 
 // Fails with ELOOP if there is a link on the path.
 int openWithoutLinks(const std::string& path, int flags) noexcept {
@@ -26,8 +26,14 @@ int openWithoutLinks(const std::string& path, int flags) noexcept {
     return static_cast<int>(::syscall(SYS_openat2, AT_FDCWD, path.c_str(), &how, sizeof how));
 }
 
-// Negative with errno on failure; leadsOut for a link out of the folder.
+// Opens what is at `path`, which must be inside `folder` unless that is empty. Negative with errno on failure.
 int openInside(const std::string& path, std::string_view folder, int flags) {
+    if (path.find('\0') != path.npos) { // the system would read only the part before the NUL
+        errno = ENOENT;
+        return -1;
+    }
+    if (folder.empty())
+        return ::open(path.c_str(), flags);
     const int descriptor = openWithoutLinks(path, flags);
     const bool hasLinks = descriptor < 0 && errno == ELOOP;
     const bool isUnknownCall = descriptor < 0 && (errno == ENOSYS || errno == EPERM); // old kernels, some containers
@@ -49,17 +55,10 @@ int openInside(const std::string& path, std::string_view folder, int flags) {
 
 Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit, std::string_view folder) {
     OpenFile file(path);
-    if (path.find('\0') != path.npos) { // the system would read only the part before the NUL
-        errno = ENOENT;
-        return systemError(path, "cannot be read");
-    }
-    const auto tryOpen = [&] {
-        return folder.empty() ? ::open(path.c_str(), openFlags) : openInside(path, folder, openFlags);
-    };
-    file.descriptor_ = Descriptor(tryOpen());
+    file.descriptor_ = Descriptor(openInside(path, folder, openFlags));
     // A folder on the path may have been replaced and its files removed while the path was followed.
     if (file.descriptor_.number() < 0 && errno == ENOENT)
-        file.descriptor_ = Descriptor(tryOpen());
+        file.descriptor_ = Descriptor(openInside(path, folder, openFlags));
     if (file.descriptor_.number() < 0 && errno == leadsOut)
         return file.error("is a link that leads out of " + std::string(folder));
     struct stat status {};

@@ -97,7 +97,9 @@ TEST_F(Bundle, RejectsNamesWithANul) {
     EXPECT_EQ(bundle().pathForResource("T" + nul, "strings", "", "de"), std::nullopt);
     EXPECT_EQ(bundle().pathForResource("T.strings" + nul, "", "", "de"), std::nullopt);
     EXPECT_EQ(bundle().pathForResource("T", "strings", "", "de.lproj" + nul), std::nullopt);
-    EXPECT_TRUE(NSBundle::bundleWithPath(folder_.path().string() + nul).localizations().empty());
+    const NSBundle& none = NSBundle::bundleWithPath(folder_.path().string() + nul);
+    EXPECT_TRUE(none.localizations().empty());
+    EXPECT_EQ(none.pathForResource("T", "strings", "", "de"), std::nullopt);
     EXPECT_FALSE(Foundation::NSDictionary::dictionaryWithContentsOfFile(folder_ / ("de.lproj/T.strings" + nul)));
 
     Host::setCurrentLocale("de_DE" + nul);
@@ -105,7 +107,7 @@ TEST_F(Bundle, RejectsNamesWithANul) {
     EXPECT_EQ(Foundation::NSNumberFormatter().stringFromNumber(1234.5), "1,234.5"); // as the root locale
 }
 
-// A bundle shows only files inside it, even if a link leads to the bundle itself.
+// A bundle shows only files inside it; it may itself be opened through a link.
 TEST_F(Bundle, FollowsNoLinkOutOfIt) {
     write("Base.lproj/T.strings", "a = text;");
     write("common/S.strings", "a = common;");
