@@ -27,9 +27,9 @@ bool isAt(DIR* directory, const std::string& path) noexcept {
            opened.st_dev == there.st_dev && opened.st_ino == there.st_ino;
 }
 
-// The language folders, unsorted. No value when another bundle took the place of this one in the meantime: then the
-// list may be incomplete.
-std::optional<std::vector<std::string>> listedFolders(const std::string& bundle) {
+// The languages of the folders. No value when another bundle took the place of this one in the meantime: then the list
+// may be incomplete.
+std::optional<std::vector<std::string>> listedOnce(const std::string& bundle) {
     std::vector<std::string> names;
     const Runtime::Directory directory = Runtime::openDirectory(bundle);
     if (directory == nullptr) {
@@ -44,18 +44,17 @@ std::optional<std::vector<std::string>> listedFolders(const std::string& bundle)
     return isAt(directory.get(), bundle) ? std::optional(std::move(names)) : std::nullopt;
 }
 
-std::vector<std::string> listed(const std::string& bundle) {
+std::vector<std::string> listedLanguages(const std::string& bundle) {
     constexpr int maxTries = 16;
-    if (bundle.find('\0') != bundle.npos)
+    if (bundle.find('\0') != bundle.npos) // the system would list the folder named before the NUL
         return {};
     for (int tries = 0; tries < maxTries; ++tries)
-        if (auto names = listedFolders(bundle)) {
-            std::ranges::sort(*names);
+        if (auto names = listedOnce(bundle))
             return *std::move(names);
-        }
     throw std::system_error(EAGAIN, std::generic_category());
 }
 
+// The languages in a list from Info.plist, such as "Base/de/".
 std::vector<std::string> split(std::string_view list) {
     std::vector<std::string> names;
     names.reserve(static_cast<std::size_t>(std::ranges::count(list, layout::languageSeparator)));
@@ -68,11 +67,12 @@ std::vector<std::string> split(std::string_view list) {
     }
 }
 
-// Whether the directory has that number of folders. Most file systems count them in st_nlink; the others report 1.
-bool hasAsManyFolders(const std::string& bundle, std::size_t names) noexcept {
+// Whether the directory has that number of folders, as far as the file system tells: most count folders in st_nlink,
+// the others report 1.
+bool mayHaveFolders(const std::string& bundle, std::size_t count) noexcept {
     struct stat status {};
     constexpr nlink_t ownLinks = 2; // its name in its parent, and "."
-    return ::stat(bundle.c_str(), &status) == 0 && (status.st_nlink == 1 || status.st_nlink == ownLinks + names);
+    return ::stat(bundle.c_str(), &status) == 0 && (status.st_nlink == 1 || status.st_nlink == ownLinks + count);
 }
 
 } // namespace
@@ -87,8 +87,8 @@ BundleFolders bundleFolders(const std::string& bundle) {
     BundleFolders folders{.developmentLanguage = std::string(find(layout::developmentRegionKey, layout::defaultRegion)),
                           .languages = split(find(layout::languagesKey, "")),
                           .mayHavePlurals = find(layout::pluralsKey, "") != "no"};
-    if (folders.languages.empty() || !hasAsManyFolders(bundle, folders.languages.size())) {
-        folders.languages = listed(bundle);
+    if (folders.languages.empty() || !mayHaveFolders(bundle, folders.languages.size())) {
+        folders.languages = listedLanguages(bundle);
         folders.mayHavePlurals = true;
     }
     return folders;

@@ -21,25 +21,25 @@ std::int64_t nanoseconds(const timespec& time) noexcept {
 
 class StateHash {
 public:
-    // Adds what is at the path, and the entries of a folder down to that depth. False on failure.
+    // Adds the file or folder at the path, and of a folder also its entries, down to that depth. False on failure.
     bool add(const std::string& path, int depth) {
         struct stat found {};
         if (::stat(path.c_str(), &found) != 0)
             return false;
-        addTimes(path, found);
+        addState(path, found);
         return !S_ISDIR(found.st_mode) || depth == 0 || addEntries(path, depth - 1);
     }
 
     std::optional<std::uint64_t> value() const {
-        constexpr std::int64_t coarsest = perSecond / 10; // of the clocks that file systems use
+        constexpr std::int64_t tick = perSecond / 10; // longer than the clock ticks of Linux's own file systems
         timespec now{};
         ::clock_gettime(CLOCK_REALTIME, &now);
-        return latest_ < nanoseconds(now) - coarsest ? std::optional(hash_) : std::nullopt;
+        return latest_ < nanoseconds(now) - tick ? std::optional(hash_) : std::nullopt;
     }
 
 private:
     // A sum, because the order of a folder's entries does not matter.
-    void addTimes(const std::string& path, const struct stat& found) {
+    void addState(const std::string& path, const struct stat& found) {
         const std::int64_t modified = nanoseconds(found.st_mtim), changed = nanoseconds(found.st_ctim);
         latest_ = std::max({latest_, modified, changed});
         std::uint64_t own = Runtime::keyHash(path);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view numberPlace = "{0}";
 
-// A form, divided at the place of its number.
+// A locale's form for years ("{0} years"), divided at the place of its number.
 struct Form {
     explicit Form(std::string_view form)
         : before(form.substr(0, form.find(numberPlace))), hasNumber(before.size() < form.size()),
@@ -25,10 +25,10 @@ struct Form {
     std::string after;
 };
 
-// What a locale needs for its years.
+// What is needed to write years in a locale.
 struct Years {
     explicit Years(std::string_view locale)
-        : rules(locale.substr(0, locale.find_first_of(".@"))),
+        : rules(locale.substr(0, locale.find_first_of(".@"))), // without character set and keywords
           pattern(detail::numberPattern(locale, Intl::NumberStyle::decimal)) {
         for (const std::string& form : Intl::yearForms(locale).forms)
             forms.emplace_back(form);

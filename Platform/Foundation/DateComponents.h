@@ -11,7 +11,7 @@
 
 namespace Foundation {
 
-// The units that a formatter may use; a bit set.
+// The units that a formatter may use, each a bit.
 enum class NSCalendarUnit : std::uint32_t { none = 0, year = 1U << 2 };
 
 class LUMORA_EXPORT NSCalendar {
@@ -41,7 +41,7 @@ public:
     void setAllowedUnits(NSCalendarUnit units) noexcept { allowedUnits_ = units; }
     [[nodiscard]] UnitsStyle unitsStyle() const noexcept { return unitsStyle_; }
     void setUnitsStyle(UnitsStyle style) noexcept { unitsStyle_ = style; }
-    // The largest number of units in a text; 0 means no limit.
+    // The largest number of units in a text; 0 means no limit. Has no effect, as years are the only unit.
     [[nodiscard]] int maximumUnitCount() const noexcept { return maximumUnitCount_; }
     void setMaximumUnitCount(int count) noexcept { maximumUnitCount_ = count; }
     [[nodiscard]] const NSCalendar& calendar() const noexcept { return calendar_; }

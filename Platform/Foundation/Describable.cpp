@@ -14,10 +14,10 @@ template <class T> std::string_view shortestText(T value, char* buffer) noexcept
         return "nan";
     if (std::isinf(value))
         return value < 0 ? "-inf" : "inf";
-    // Beyond these limits the type cannot represent every integer, so full digits would suggest a precision that it
-    // does not have.
+    // 2^digits: the type cannot represent every integer above it, so full digits would suggest a precision that it does
+    // not have. Doubled in T, because a 64-bit integer cannot hold 2^64, the limit of long double.
     static constexpr T largestInFull = static_cast<T>(std::uint64_t{1} << (std::numeric_limits<T>::digits - 1)) * 2;
-    static constexpr T smallestInFull = static_cast<T>(1e-4L);
+    static constexpr T smallestInFull = static_cast<T>(1e-4L); // smaller numbers are shorter with an exponent
     const T magnitude = std::fabs(value);
     const bool inFull = magnitude == 0 || (magnitude >= smallestInFull && magnitude <= largestInFull);
     const auto form = inFull ? std::chars_format::fixed : std::chars_format::scientific;

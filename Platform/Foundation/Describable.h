@@ -21,14 +21,14 @@ namespace detail {
 
 inline constexpr std::size_t scalarTextSize = 32; // enough for the longest number
 
-// Each writes into `buffer`, which has scalarTextSize bytes, and returns the written part.
+// Each returns a text, which may be in `buffer`, a buffer of scalarTextSize bytes.
 LUMORA_EXPORT std::string_view integerText(std::int64_t value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view unsignedText(std::uint64_t value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view floatingText(float value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view floatingText(double value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view floatingText(long double value, char* buffer) noexcept;
 LUMORA_EXPORT std::string_view byteText(char byte, char* buffer) noexcept;
-// UTF-8; U+FFFD for an invalid code point.
+// The character in UTF-8; U+FFFD for an invalid code point.
 LUMORA_EXPORT std::string_view characterText(std::uint32_t codePoint, char* buffer) noexcept;
 // Appends `text` in quotation marks, with quotation marks, backslashes and control characters escaped.
 LUMORA_EXPORT void appendQuoted(std::string& out, std::string_view text);
@@ -62,8 +62,8 @@ template <class T> consteval bool isNullopt() {
 }
 
 template <class T> using ElementOf = std::remove_cvref_t<decltype(*std::begin(std::declval<const T&>()))>;
-// Wide strings are excluded, because they would be printed as a list of letters, and so are types that contain
-// themselves.
+// Strings of other characters than char are excluded, because they would be printed as a list of letters, and so are
+// types whose elements have the same type, such as std::filesystem::path.
 template <class T>
 concept Sequence = requires(const T& value) {
     std::begin(value) != std::end(value);
@@ -74,12 +74,13 @@ concept Sequence = requires(const T& value) {
 
 // The description of a value:
 // - a string (std::string, std::string_view, const char*; a null pointer is "nil") or a character: itself;
-// - a bool, or an element of a std::vector<bool>: "true" or "false"; an integer: its decimal digits;
+// - a bool, or an element of a std::vector<bool> or std::bitset: "true" or "false"; an integer: its decimal digits;
 // - a floating-point number: the fewest digits that give the same value, with a point or an exponent: "0.1", "1e+16";
+//   "inf", "-inf" or "nan";
 // - a type with `std::string describe(const T&)` in its namespace: what that returns;
-// - an optional: "nil" or "Optional(5)", and std::nullopt: "nil"; a sequence: "[1, 2]". Texts inside are quoted: ["a"];
-// Borrows strings, which must outlive it. Only results of describe(), optionals and sequences allocate memory. If that
-// fails, the description is empty; any other exception of a describe() propagates.
+// - an optional: "nil" or "Optional(5)", and std::nullopt: "nil"; a sequence: "[1, 2]". Texts inside are quoted: ["a"].
+// A Describable borrows strings, which must outlive it. Only results of describe(), optionals and sequences allocate
+// memory. If that fails, the description is empty; any other exception of a describe() propagates.
 class Describable {
 public:
     template <class T> Describable(const T& value) { describeGiven(value); }
@@ -174,7 +175,7 @@ private:
     }
 
     std::string_view text_;
-    bool isText_ = false;
+    bool isText_ = false; // a string or a character, which is quoted inside another description
     char buffer_[detail::scalarTextSize];
     std::string owned_;
 };

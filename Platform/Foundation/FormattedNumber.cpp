@@ -61,7 +61,7 @@ std::string precise(std::string_view digits, std::optional<std::size_t> precisio
     return out.append(digits);
 }
 
-// A magnitude as snprintf() formats it, without a sign. The process may have any C locale.
+// A magnitude as snprintf() formats it, without a sign, with the decimal separator of the process's C locale.
 class LibraryText {
 public:
     LibraryText(const Conversion& conversion, double magnitude) {
@@ -76,8 +76,9 @@ public:
     std::string_view text() const noexcept { return text_; }
 
 private:
-    static constexpr std::size_t marks = 16; // a decimal point of up to four bytes, an exponent, a NUL
-    std::array<char, std::numeric_limits<double>::max_exponent10 + String::largestSize + marks> buffer_;
+    static constexpr std::size_t wholeDigits = std::numeric_limits<double>::max_exponent10 + 1;
+    static constexpr std::size_t marks = 16; // a decimal separator of up to four bytes, an exponent, a NUL
+    std::array<char, wholeDigits + String::largestSize + marks> buffer_;
     std::string_view text_;
 };
 
@@ -131,7 +132,7 @@ Padding appendHexadecimal(std::string& out, const Conversion& conversion, double
                                c == 'p' || c == 'P';
         if (isPrinted)
             out += c;
-        else if (!out.ends_with('.')) // the C locale's separator, which may have several bytes
+        else if (!out.ends_with('.')) // the C locale's separator, whose bytes together become one point
             out += '.';
     }
     return padding;

@@ -16,7 +16,7 @@ namespace detail {
 namespace {
 
 constexpr std::string_view plainLocale = "en_US"; // when the environment says nothing, or "C"
-constexpr char separator = '\0';                  // cannot be part of a language tag
+constexpr char separator = '\0';                  // between languages, as it cannot be part of a language tag
 
 // The languages come last, because they are long and would move the others to another page.
 LUMORA_START_DATA constinit Runtime::ForkLock changing; // guards writes; readers always see a consistent text
@@ -41,6 +41,7 @@ std::string_view withoutSuffix(std::string_view name, char mark) {
     return name.substr(0, name.find(mark));
 }
 
+// Whether a locale name names no language.
 bool isPlain(std::string_view name) {
     const std::string_view language = withoutSuffix(name, '.');
     return language.empty() || language == "C" || language == "POSIX";
@@ -70,19 +71,21 @@ std::vector<std::string> splitLanguages(std::string_view list) {
     return tags;
 }
 
-std::string environmentLanguages(std::string_view own) {
+// `messages`: the locale of messages, empty if there is none.
+std::string environmentLanguages(std::string_view messages) {
     std::string list;
     // As in gettext, the locale "C" overrides LANGUAGE.
-    std::string_view wanted = own.empty() || !isPlain(own) ? environment("LANGUAGE") : std::string_view();
+    std::string_view wanted = messages.empty() || !isPlain(messages) ? environment("LANGUAGE") : std::string_view();
     while (!wanted.empty()) {
         const std::string_view one = withoutSuffix(wanted, ':');
         wanted.remove_prefix(std::min(one.size() + 1, wanted.size()));
         addLanguage(list, languageTag(one));
     }
-    addLanguage(list, isPlain(own) ? "en" : languageTag(own));
+    addLanguage(list, isPlain(messages) ? "en" : languageTag(messages));
     return list;
 }
 
+// The identifier, or an empty one if it is too long.
 std::string_view accepted(std::string_view identifier) noexcept {
     return identifier.size() <= Host::longestLocale ? identifier : std::string_view();
 }
@@ -97,9 +100,8 @@ std::string_view firstNonEmpty(std::initializer_list<std::string_view> values) n
 Settings environmentSettings() {
     const std::string_view all = environment("LC_ALL"), messages = environment("LC_MESSAGES"),
                            rest = environment("LANG");
-    const std::string_view language = firstNonEmpty({all, messages, rest});
     const std::string_view identifier = firstNonEmpty({all, isPlain(rest) ? messages : rest});
-    return {.languages = environmentLanguages(language),
+    return {.languages = environmentLanguages(firstNonEmpty({all, messages, rest})),
             .locale = std::string(isPlain(identifier) ? plainLocale
                                                       : accepted(withoutSuffix(withoutSuffix(identifier, '@'), '.')))};
 }
@@ -125,17 +127,16 @@ std::uint64_t hostVersion() {
 }
 
 HostLanguages hostLanguages() {
-    static_cast<void>(hostVersion());
+    static_cast<void>(hostVersion()); // reads the environment if needed
     return languages.read([](std::uint64_t version, std::string_view list) {
         return HostLanguages{version, splitLanguages(list)};
     });
 }
 
-std::string languageTag(std::string_view hostName) {
-    const std::string_view name = withoutSuffix(withoutSuffix(hostName, '@'), '.');
-    const std::size_t at = hostName.find('@');
-    const std::string_view modifier = at == std::string_view::npos ? std::string_view() : hostName.substr(at + 1);
-    std::string tag(name);
+std::string languageTag(std::string_view localeName) {
+    const std::size_t at = localeName.find('@');
+    const std::string_view modifier = at == std::string_view::npos ? std::string_view() : localeName.substr(at + 1);
+    std::string tag(withoutSuffix(withoutSuffix(localeName, '@'), '.'));
     std::ranges::replace(tag, '_', '-');
     std::string_view script;
     if (modifier == "latin")

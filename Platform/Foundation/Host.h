@@ -13,17 +13,19 @@
 
 namespace Foundation::Host {
 
-// Sets the languages that the user reads, most preferred first: "ru", "pt-PT", "zh_CN". Overrides the environment. A
-// name with a NUL matches nothing; names that exceed longestLanguages bytes in total are ignored.
+// Sets the languages that the user reads, most preferred first: "ru", "pt-PT", "zh_CN". Overrides the environment.
+// Names with a NUL are ignored, and so are those that do not fit into longestLanguages bytes together with the names
+// before them.
 LUMORA_EXPORT void setPreferredLanguages(const std::vector<std::string>& languages);
 inline constexpr std::size_t longestLanguages = 2048;
-// Sets the identifier of the user's locale: "de_AT". Overrides the environment. One of more than longestLocale bytes is
-// treated as empty, which formats as the root locale.
+// Sets the identifier of the user's locale: "de_AT". Overrides the environment. An identifier of more than
+// longestLocale bytes is treated as an empty one, which formats as the root locale.
 LUMORA_EXPORT void setCurrentLocale(std::string_view identifier);
 inline constexpr std::size_t longestLocale = 256;
-// Resets both to the environment, which is read at this call and at the first use. Languages: those of LANGUAGE, then
-// that of the first non-empty one of LC_ALL, LC_MESSAGES and LANG; if that is "C", only English. Locale: LC_ALL, else
-// LANG, or LC_MESSAGES if LANG is empty or "C". The defaults are English and "en_US".
+// Resets both to the environment, which is read at this call; for what was never set it is read at the first use.
+// Languages: those of LANGUAGE, then that of the first non-empty one of LC_ALL, LC_MESSAGES and LANG; if that is "C" or
+// "POSIX", only English. Locale: LC_ALL, else LANG, or LC_MESSAGES if LANG is empty, "C" or "POSIX". The defaults are
+// English and "en_US".
 LUMORA_EXPORT void reset();
 
 } // namespace Foundation::Host

@@ -21,8 +21,8 @@ bool namesRegionOnly(std::string_view tag) {
            (region.size() == 3 && region.find_first_not_of("0123456789") == std::string_view::npos);
 }
 
-// The common cases, which need no language data: the exact tag, or the only variant of the language. Most processes
-// then never load ICU.
+// The common cases, which do not need ICU: the exact tag, or for a tag with a region ("de-AT") the language itself
+// ("de") if no other variant of it is supported.
 std::optional<std::size_t> chooseByTag(std::string_view wanted, std::span<const std::string> supported) {
     if (const auto same = std::ranges::find(supported, wanted); same != supported.end())
         return same - supported.begin();

@@ -19,7 +19,7 @@ public:
 
     [[nodiscard]] const std::string& identifier() const noexcept { return identifier_; }
     friend bool operator==(const Locale&, const Locale&) = default;
-    // The identifier.
+    // For Describable.
     friend std::string describe(const Locale& locale) { return locale.identifier_; }
 
 private:

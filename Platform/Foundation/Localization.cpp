@@ -38,8 +38,8 @@ Localization::Localization(std::string_view name, std::string_view bundle, std::
                            bool mayHavePlurals)
     : name_(name), bundle_(bundle), language_(language), mayHavePlurals_(mayHavePlurals) {}
 
-// Reads and stores a table that has not been read yet. A missing table is stored as an empty one; if the store is full,
-// the result is null.
+// The table with that name, which is stored if it is not known yet. A missing table is stored as an empty one, unless
+// there are already mostMissing tables.
 LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
     if (LocalizedTable* const known = tables_.find(name))
         return known;

@@ -1,6 +1,7 @@
 // Foundation/LocalizedFormat.h
 // A bundle's entry for a key: a text, or a plural, whose words depend on numbers.
-// Text: UTF-8. Threads: plain values. Ownership: views into the bundle, which lives until the process ends.
+// Text: UTF-8. Threads: plain values. Ownership: a view of the bundle, which lives until the process ends, or of the
+// text from which it was made.
 #pragma once
 
 #include "Foundation/FormatArgument.h"
@@ -31,6 +32,7 @@ public:
     StringTables::PercentRange percents() const noexcept { return percents_; }
     // Null for a text.
     const StringTables::PluralFormat* plural() const noexcept { return plural_; }
+    // Empty for a text.
     std::string_view language() const noexcept { return language_; }
 
 private:
@@ -42,8 +44,8 @@ private:
 
 namespace String {
 
-// Like format() of a text. The arguments select the forms of a plural by the rules of its language; `locale` determines
-// how numbers are written. Without it, the user's current locale does.
+// Like format() in Foundation/String.h. The arguments select the forms of a plural by the rules of its language;
+// `locale`, by default the user's current one, determines how numbers are written.
 [[nodiscard]] LUMORA_EXPORT std::string format(const LocalizedFormat& format, const Locale& locale,
                                                std::span<const FormatArgument> arguments);
 [[nodiscard]] LUMORA_EXPORT std::string format(const LocalizedFormat& format,

@@ -17,8 +17,8 @@ std::optional<LocalizedFormat> LocalizedTable::findPlural(std::string_view key,
     const StringTables::PluralEntry* const entry = plurals_.find(key);
     if (entry == nullptr)
         return std::nullopt;
-    const auto number = static_cast<std::size_t>(entry - plurals_.entries().data());
-    return LocalizedFormat(pluralTexts_[number], entry->plural, language);
+    const auto index = static_cast<std::size_t>(entry - plurals_.entries().data());
+    return LocalizedFormat(pluralTexts_[index], entry->plural, language);
 }
 
 } // namespace Foundation::detail

@@ -28,7 +28,7 @@ namespace {
 namespace layout = StringTables::bundleLayout;
 
 template <class... Functions> struct Overloaded : Functions... { using Functions::operator()...; };
-// Clang needs the guide, as it does not yet deduce the arguments of aggregates.
+// Clang before version 17 needs the guide: it does not deduce the template arguments of aggregates.
 template <class... Functions> Overloaded(Functions...) -> Overloaded<Functions...>;
 
 // The language folders in which texts are looked up, in order; null after the last.
@@ -43,14 +43,15 @@ bool isDirectory(const std::string& path) noexcept {
     return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-// "lumora-1" for liblumora.so.1.0.0: the library's own folder, so that several versions can be installed together.
+// "/lumora-1" for liblumora.so.1.0.0: the library's own folder, so that several versions can be installed together.
+// Empty for a library without a version.
 std::string versionedFolder(std::string_view library) {
     static constexpr std::string_view prefix = "lib", suffix = ".so.";
     const std::size_t end = library.find(suffix);
     if (!library.starts_with(prefix) || end == library.npos)
         return {};
     const std::string_view version = library.substr(end + suffix.size());
-    return std::string(library.substr(prefix.size(), end - prefix.size())) + "-" +
+    return "/" + std::string(library.substr(prefix.size(), end - prefix.size())) + "-" +
            std::string(version.substr(0, version.find('.')));
 }
 
@@ -85,7 +86,7 @@ struct NSBundle::Contents {
         return chain;
     }
 
-    // The index in `localizations` of the best match for `language` (BCP 47).
+    // The index in `localizations` of the best match for `language` (BCP 47), or no value.
     std::optional<std::size_t> choose(std::string_view language) {
         const Choice* known = choices.find(language);
         if (known != nullptr)
@@ -95,25 +96,26 @@ struct NSBundle::Contents {
         return made;
     }
 
-    // The index of the user's first preferred localization; `localizations.size()` when the user reads none.
+    // The index of the user's first preferred localization; `localizations.size()` when the user reads none. The same
+    // index selects the chain to search.
     std::size_t preferred() {
         const std::uint64_t known = latest.load(std::memory_order_relaxed);
         return known / versionUnit == detail::hostVersion() ? known % versionUnit : choosePreferred();
     }
     [[gnu::noinline, gnu::cold]] std::size_t choosePreferred() {
         const detail::HostLanguages host = detail::hostLanguages();
-        std::size_t number = localizations.size();
+        std::size_t index = localizations.size();
         for (const std::string& language : host.languages)
             if (const Choice chosen = choose(language)) {
-                number = *chosen;
+                index = *chosen;
                 break;
             }
-        latest.store(host.version * versionUnit + number, std::memory_order_relaxed);
-        return number;
+        latest.store(host.version * versionUnit + index, std::memory_order_relaxed);
+        return index;
     }
 
-    // The table of the user's first language folder. Nearly always a recent one, which is compared by name, so that the
-    // look-up need not wait for the folder and the hash.
+    // The table of `key` in `folder`, the first of the chain. It is nearly always in `recents`, where comparing names
+    // is faster than a look-up in the folder.
     detail::LocalizedTable* firstTable(detail::Localization& folder, const LocalizedKey& key) {
         for (std::atomic<detail::LocalizedTable*>& recent : recents) {
             detail::LocalizedTable* const known = recent.load(std::memory_order_acquire);
@@ -148,16 +150,16 @@ struct NSBundle::Contents {
 
     using Choice = std::optional<std::size_t>;
 
-    NSBundle bundle;                    // used only in the first contents; a reload leaves it in place
-    Contents* previous = nullptr;       // before the last reload
-    std::optional<std::uint64_t> state; // of the files before this was read; only after a reload
+    NSBundle bundle;                    // only that of a path's first contents is used: a reload keeps the object
+    Contents* previous = nullptr;       // replaced by a reload; kept reachable for leak checkers
+    std::optional<std::uint64_t> state; // bundleState() before a reload read the files; none in the first contents
     std::string path;
     std::string developmentLocalization;
     std::deque<detail::Localization> folders;
     std::vector<std::string> localizations;
     std::vector<Chain> chains; // by localization, then one for users who read none of them
 
-    // The first tables that were used since the user's language changed; see firstTable().
+    // The first tables of the chain's first folder that were used since the user's language changed.
     std::array<std::atomic<detail::LocalizedTable*>, 8> recents{};
     Runtime::KeyedStore<Choice, 16> choices; // by the user's language
     static constexpr std::size_t mostChoices = 256;
@@ -182,7 +184,7 @@ const NSBundle& NSBundle::bundleForCode(const void* code, std::string_view name)
     if (location.isMainProgram)
         return mainBundle();
     const std::string bundle = "/" + std::string(name) + ".bundle";
-    const std::string versioned = location.directory + "/" + versionedFolder(location.name) + bundle;
+    const std::string versioned = location.directory + versionedFolder(location.name) + bundle;
     return bundleWithPath(isDirectory(versioned) ? versioned : location.directory + bundle);
 }
 
@@ -221,8 +223,8 @@ const std::string* NSBundle::preferredLocalization() const {
     Contents& contents = this->contents();
     if (contents.localizations.empty())
         return nullptr;
-    const std::size_t number = contents.preferred();
-    return number < contents.localizations.size() ? &contents.localizations[number] : &contents.developmentLocalization;
+    const std::size_t index = contents.preferred();
+    return index < contents.localizations.size() ? &contents.localizations[index] : &contents.developmentLocalization;
 }
 
 std::optional<LocalizedFormat> NSBundle::findLocalized(const LocalizedKey& key) const {
@@ -238,6 +240,7 @@ std::optional<LocalizedFormat> NSBundle::findLocalized(std::string_view key, std
     return findLocalized(LocalizedKey::of(table, key));
 }
 
+// Flattened: with all calls inlined, formatting takes less time.
 [[gnu::flatten]] std::string NSBundle::formattedText(const LocalizedKey& key,
                                                      std::span<const FormatArgument> arguments) const {
     return contents().lookUp(
@@ -302,7 +305,7 @@ void NSBundle::reload() const {
     fresh->previous = contents_.load(std::memory_order_relaxed);
     while (!contents_.compare_exchange_weak(fresh->previous, fresh.get(), std::memory_order_acq_rel))
         continue;
-    (void)fresh.release(); // never freed: callers hold views into all contents
+    (void)fresh.release(); // never freed: callers may have views of any contents
 }
 
 } // namespace Foundation

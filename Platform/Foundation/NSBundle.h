@@ -1,7 +1,8 @@
 // Foundation/NSBundle.h
 // A directory of resources: Info.plist, compiled assets, and string tables in one NAME.lproj folder for each language.
 // Text: UTF-8; paths are raw bytes. Threads: any; after the first read, lookups are lock-free. Ownership: bundles, and
-// all views and references to their content, live until the process ends.
+// all views and references to their content, live until the process ends. Errors: functions without noexcept throw
+// std::bad_alloc, and std::system_error on transient errors, such as too many open files.
 #pragma once
 
 #include "Foundation/LocalizedFormat.h"
@@ -39,29 +40,31 @@ public:
     // The localizations that the user reads, most preferred first, according to the host's current preferred languages;
     // only the development language when the user reads none. Empty when the bundle has no languages.
     [[nodiscard]] std::vector<std::string> preferredLocalizations() const;
-    // The first of these, or null. Faster than preferredLocalizations().
+    // The first of these, or null if the bundle has no languages. Faster than preferredLocalizations().
     [[nodiscard]] const std::string* preferredLocalization() const;
 
     // The entry for `key` (exact) in the table `table` (empty: "Localizable"): that of the first preferred
     // localization, else that of the development texts, else no value. Within a localization a plural takes precedence
-    // over a text. A damaged or missing table has no keys. Each table is read once.
+    // over a text. A missing table has no keys; nor has a damaged one, except for the intact entries of a compiled
+    // table. What was read of a table is kept.
     [[nodiscard]] std::optional<LocalizedFormat> findLocalized(std::string_view key, std::string_view table) const;
     [[nodiscard]] std::optional<LocalizedFormat> findLocalized(const LocalizedKey& key) const;
     // The same, but with `key` itself as the text when no table has it.
     [[nodiscard]] LocalizedFormat localizedFormat(std::string_view key, std::string_view table) const;
     // The formatted text: localizedFormat() with its placeholders replaced, in the user's current locale.
     [[nodiscard]] std::string formattedText(const LocalizedKey& key, std::span<const FormatArgument> arguments) const;
-    // The text of localizedFormat(): a view that lives until the process ends, or `key`.
+    // The text of localizedFormat(): a view that lives until the process ends, or `key` itself.
     [[nodiscard]] std::string_view localizedText(std::string_view key, std::string_view table) const;
     // The text as a string. When no table has the key: `value`, or the key if `value` is null or empty.
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, const std::string* value,
                                                     std::string_view table) const;
-    // Why a table file that findLocalized() uses cannot be read: "FILE:LINE:COLUMN: REASON", or "PATH: REASON" if the
-    // bundle itself is missing. No value when each is readable or missing. Reads the files again.
+    // Why a file of a table, in the folders that findLocalized() searches now, cannot be read: "FILE:LINE:COLUMN:
+    // REASON", or "PATH: REASON" if the bundle itself is missing. No value when each file is readable or missing. Reads
+    // the files again.
     [[nodiscard]] std::optional<std::string> tableDamage(std::string_view table) const;
     // The path of the file NAME.TYPE (NAME if TYPE is empty) of one localization ("Base" is one), in the subfolder
-    // `directory` of the localization's folder unless that is empty. No value when there is no such file or a name
-    // would leave the bundle, or if a link leads out of it. Throws std::system_error on transient errors.
+    // `directory` of the localization's folder unless `directory` is empty. No value when there is no such file, when a
+    // name is not that of a single file or folder, or when a link leads out of the bundle.
     [[nodiscard]] std::optional<std::string> pathForResource(std::string_view name, std::string_view type,
                                                              std::string_view directory,
                                                              std::string_view localization) const;
@@ -69,9 +72,9 @@ public:
     // For development: makes later lookups read the bundle's files again, for example after a compile while the program
     // runs. There is no automatic reload. The languages, all texts looked up through this bundle and the accessors of
     // formatted texts then use the new files. Texts that accessors of plain texts have already cached, pictures,
-    // colours and data stay the same. Views and references to the old content stay valid, because it is never freed; but
-    // if no file has changed since the last reload, it is kept and no memory is used. Throws std::bad_alloc, or
-    // std::system_error when descriptors run out; the bundle is then unchanged.
+    // colours and data stay the same. Views and references to the old content stay valid, because it is never freed;
+    // but if no file has changed since the last reload, the content is kept and no memory is used. If it throws, the
+    // bundle is unchanged.
     void reload() const;
 
 private:

@@ -43,10 +43,11 @@ struct Decimal {
             point = 0;
     }
 
-    // The digit at a place; 0 outside of the digits.
+    // The digit at a place; '0' outside of the digits.
     char at(int place) const noexcept {
         return place < 0 || place >= count ? '0' : digits[static_cast<std::size_t>(place)];
     }
+    // Without whole digits, a zero is written before the decimal separator.
     int wholeDigits() const noexcept { return std::max(point, 1); }
     char wholeDigit(int place) const noexcept { return point < 1 ? '0' : at(place); }
 
@@ -152,7 +153,7 @@ public:
             return 0;
         return (digits - pattern.primaryGrouping - 1) / pattern.secondaryGrouping + 1;
     }
-    // The most bytes that `digits` digits need, of which `whole` are whole.
+    // The most bytes that `digits` digits and the separators between the groups of the first `whole` need.
     static std::size_t longestOf(const NumberPattern& pattern, std::size_t digits, std::size_t whole) noexcept {
         const std::size_t ofDigits = isAscii(pattern) ? digits : digits * longestDigit(pattern);
         return ofDigits + separatorsOf(pattern, whole) * pattern.groupingSeparator.size();
@@ -173,7 +174,7 @@ private:
     char* out_;
 };
 
-// Appends what `write` writes, at most `longest` bytes. It gets a NumberWriter.
+// Appends what `write(writer)` writes with a NumberWriter, at most `longest` bytes.
 template <class Write>
 void appendWritten(std::string& out, const NumberPattern& pattern, std::size_t longest, Write write) {
     const std::size_t size = out.size();

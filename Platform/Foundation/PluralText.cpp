@@ -23,7 +23,8 @@ const std::optional<std::string>& formOf(const PluralVariable& variable, PluralC
 }
 
 // The placeholder, without its position, that prints the variable's number, argument `own`. It is taken from the form
-// `other`, which every language has; if that form does not print the number, the variable's value type is used.
+// `other`, which every language has; if that form does not print the number, or only with a width or precision from
+// another argument, the variable's value type is used.
 std::string numberFormat(const PluralFormat& plural, const PluralVariable& variable, std::size_t own) {
     const std::string_view form = otherForm(variable);
     PluralPieces pieces(plural, form, variable, own);
@@ -60,7 +61,7 @@ Intl::PluralOperands operandsOf(const PluralFormat& plural, const PluralVariable
         return {.i = placeholder->conversion != 'u' && argument.integer() < 0 ? -value : value};
     }
     if (placeholder && (placeholder->conversion == 'a' || placeholder->conversion == 'A'))
-        format = "%g";
+        format = "%g"; // plural rules apply to decimal digits
     const std::string printed = String::format(format, Locale("en_US_POSIX"), {&argument, 1});
     const std::size_t digits = printed.find_first_of("0123456789.");
     return Intl::pluralOperands(std::string_view(printed).substr(std::min(digits, printed.size())));
@@ -70,7 +71,7 @@ Intl::PluralOperands operandsOf(const PluralFormat& plural, const PluralVariable
 std::string_view chosenForm(const PluralFormat& plural, const PluralVariable& variable, std::string_view language,
                             std::size_t own, const FormatArgument& argument) {
     const Intl::PluralOperands number = operandsOf(plural, variable, own, argument);
-    const bool isZero = number.i == 0 && number.t == 0;
+    const bool isZero = number.i == 0 && number.t == 0; // a form `zero` is for 0 in every language
     if (const auto& zero = formOf(variable, PluralCategory::zero); isZero && zero)
         return *zero;
     const auto& form = formOf(variable, pluralCategory(language, number));
@@ -80,7 +81,7 @@ std::string_view chosenForm(const PluralFormat& plural, const PluralVariable& va
 // Replaces the variables of a plural format. The result is a format whose placeholders all have positions.
 class Flattener {
 public:
-    // `choose(variable, argument)` returns the form to use for the argument at that position.
+    // `choose(variable, position)` returns the form to use for the argument at that position.
     template <class Choose> static std::string flatten(const PluralFormat& plural, Choose choose) {
         Flattener flattener(plural);
         flattener.append(plural.format, PluralPieces(plural), choose);
@@ -110,7 +111,7 @@ private:
         append(form, PluralPieces(plural_, form, *piece.variable, piece.arguments.value), choose);
     }
 
-    // Escapes every '%', because the text that follows it now might complete a placeholder.
+    // Writes every '%' as "%%", because with the text that now follows, it might become a placeholder.
     void appendLiteral(std::string_view text) {
         for (const char c : text)
             out_.append(c == '%' ? 2 : 1, c);

@@ -27,8 +27,9 @@ std::string_view firstCharacters(std::string_view text, std::size_t limit) noexc
     return text;
 }
 
-// The beginning of a format whose only placeholders are "%@" for texts; usually the whole format. Its pieces are
-// collected on the stack, so that the formatted text needs one allocation and no data for other placeholders.
+// The part of a format before the first placeholder other than "%@"; usually the whole format. Its result is made on
+// the stack, so that the formatted text needs one allocation. Empty if an argument is no text or the stack has too
+// little room.
 class PlainBeginning {
 public:
     PlainBeginning(std::string_view format, StringTables::PercentRange percents,
@@ -51,19 +52,20 @@ public:
     // Whether this is the whole format.
     bool isWhole() const noexcept { return isWhole_; }
     std::string_view text() const noexcept { return {buffer_.data(), static_cast<std::size_t>(out_ - buffer_.data())}; }
-    // The size in the format. The text before the next placeholder is included only if this is the whole format.
+    // The size in the format up to the last "%@".
     std::size_t size() const noexcept { return done_; }
     std::size_t arguments() const noexcept { return taken_; }
 
 private:
+    // Whether the buffer has room for the format and all arguments; never if one is not a text.
     bool fits(std::string_view format, std::span<const FormatArgument> arguments) const noexcept {
         std::size_t size = format.size();
         for (const FormatArgument& argument : arguments)
-            size += argument.kind() == Kind::text ? argument.text().size() : buffer_.size();
+            size += argument.kind() == Kind::text ? argument.text().size() : buffer_.size() + 1;
         return size <= buffer_.size();
     }
     static std::size_t nextPercent(std::string_view format, std::size_t from) noexcept {
-        const bool isThere = from < format.size() && format[from] == '%'; // avoids the call
+        const bool isThere = from < format.size() && format[from] == '%'; // usually saves the call of find()
         return isThere ? from : format.find('%', from);
     }
     void put(std::string_view text) noexcept { out_ = detail::copy(text, out_); }
@@ -74,7 +76,7 @@ private:
     bool isWhole_ = false;
 };
 
-// Formats the rest after the plain beginning of a format.
+// Formats the rest of a format after its plain beginning.
 class Formatter {
 public:
     Formatter(std::string_view format, const Locale* locale, std::span<const FormatArgument> arguments) noexcept
@@ -99,7 +101,7 @@ private:
         return size;
     }
 
-    // Formats until the text exceeds the limit.
+    // Formats what follows the first `done` bytes of the format, until the text exceeds the limit.
     void fill(std::size_t done) {
         while (out_.size() <= limit_) {
             const auto placeholder = StringTables::nextPlaceholder(format_, done);
@@ -181,7 +183,7 @@ private:
         }
     }
 
-    void putText(const FormatArgument& given, std::optional<std::size_t> precision = std::nullopt) {
+    void putText(const FormatArgument& given, std::optional<std::size_t> precision) {
         std::array<char, detail::scalarTextSize> buffer;
         const std::string_view text = textOf(given, buffer.data());
         put(precision ? firstCharacters(text, *precision) : text);
@@ -232,7 +234,7 @@ private:
     std::string_view format_;
     const Locale* locale_; // null: the user's current one, read when the first number needs it
     std::span<const FormatArgument> arguments_;
-    std::size_t limit_; // of out_
+    std::size_t limit_; // the most bytes of the result
     ArgumentCounter counter_;
     detail::Kept<Intl::NumberPattern> pattern_; // loaded for the first number
 };

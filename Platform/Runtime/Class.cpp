@@ -23,7 +23,7 @@ const Method* findIn(std::span<const Method> methods, std::string_view selector)
 }
 
 [[noreturn]] void reject(std::string_view subject, std::string_view selector, std::string_view complaint) {
-    fatalError({subject, " ", complaint, " \"", selector, "\""}, "Runtime/Class", 0);
+    fatalError({subject, " ", complaint, " \"", selector, "\""}, "Runtime/Class", 0); // the sender's line is unknown
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 // Runtime/Class.h
-// Calls of static functions by name, for callers that know class and function only as strings: a caller sends a
-// message, which is a selector, such as "legacyTrAge:", and arguments; the class answers with the method that it has
-// published under that selector. Classes are constant data; a look-up finds them in the loaded libraries.
-// Threads: any. Ownership: classes live as long as the library; results belong to the caller.
+// Calls of static functions by name, for callers that know class and function only as strings: a caller sends a class a
+// message, which is a selector, such as "legacyTrAge:", and arguments. The method that the class has published under
+// that selector is called. Classes are constant data; a look-up finds them in the program and the loaded libraries.
+// Threads: any. Ownership: classes live as long as their library; results belong to the caller.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -46,17 +46,17 @@ struct Argument {
     const void* value;
 };
 
-// A function that a class publishes. `invoke` constructs the result at `result`, raw memory of the right size and
-// alignment.
+// A function that a class publishes. `invoke` calls it and constructs its result at `place`, raw memory of the right
+// size and alignment.
 struct Method {
     const char* selector;
     TypeTag result;
     std::span<const TypeTag> arguments;
-    void (*invoke)(const Argument* arguments, void* result);
+    void (*invoke)(const Argument* arguments, void* place);
 };
 
-// What is published under a class's name: "Lumora.Localization", or just "UIImage" for what a module adds to the
-// platform. Properties are methods without arguments, listed separately.
+// What is published under a class's name: "Lumora.Localization", or just "UIImage" for what a module adds to that class
+// of the platform. Properties are methods without arguments, listed separately.
 class LUMORA_EXPORT Class {
 public:
     constexpr Class(const char* name, std::span<const Method> properties, std::span<const Method> methods) noexcept
@@ -76,8 +76,8 @@ private:
     std::span<const Method> methods_;
 };
 
-// The class of that name in any loaded library or in the program, or null. Each call searches all loaded libraries
-// under the dynamic linker's lock, so callers should keep the result.
+// The first class of that name in the program and the loaded libraries, or null. Each call searches all of them under
+// the dynamic linker's lock, so callers should keep the result.
 [[nodiscard]] LUMORA_EXPORT const Class* classNamed(std::string_view name) noexcept;
 
 namespace detail {
@@ -97,25 +97,27 @@ template <class Parameter>
 inline constexpr bool isPassedUnchanged = !std::is_arithmetic_v<std::remove_cvref_t<Parameter>> ||
                                           std::same_as<std::remove_cvref_t<Parameter>, Carried<Parameter>>;
 
+// Calls `function` with arguments in their Carried types.
 template <auto* function, class Result, class... Arguments> struct Bridge {
-    static_assert((isPassedUnchanged<Arguments> && ...), "take numbers as bool, std::int64_t or double");
+    static_assert((isPassedUnchanged<Arguments> && ...),
+                  "a published function must take numbers as bool, std::int64_t or double");
 
     static constexpr TypeTag arguments[sizeof...(Arguments) + 1] = {&typeid(Carried<Arguments>)..., nullptr};
 
-    static void invoke(const Argument* given, void* result) {
-        call(given, result, std::index_sequence_for<Arguments...>());
+    static void invoke(const Argument* given, void* place) {
+        call(given, place, std::index_sequence_for<Arguments...>());
     }
     template <std::size_t... I>
-    static void call([[maybe_unused]] const Argument* given, void* result, std::index_sequence<I...>) {
-        ::new (result) Carried<Result>(carried(function(*static_cast<const Carried<Arguments>*>(given[I].value)...)));
+    static void call([[maybe_unused]] const Argument* given, void* place, std::index_sequence<I...>) {
+        ::new (place) Carried<Result>(carried(function(*static_cast<const Carried<Arguments>*>(given[I].value)...)));
     }
 };
 
 } // namespace detail
 
-// Publishes the static function `function` under `selector`. It returns a value, and takes numbers as bool,
-// std::int64_t or double, strings as std::string or std::string_view, and any other type as a value or a constant
-// reference.
+// The static function `function` as the method for `selector`. The function must not return void; it must take numbers
+// as bool, std::int64_t or double, strings as std::string or std::string_view, and any other type as it is, each as a
+// value or a constant reference.
 template <auto* function> constexpr Method method(const char* selector) noexcept {
     return []<class Result, class... Arguments>(const char* name, Result (*)(Arguments...)) {
         using Bridge = detail::Bridge<function, Result, Arguments...>;
@@ -124,13 +126,14 @@ template <auto* function> constexpr Method method(const char* selector) noexcept
     }(selector, function);
 }
 
-// Publishes a class of static storage, so that classNamed() finds it while its library or program is loaded. An ELF
-// note points to the class, so no code runs at start-up and no symbol is exported. Use it at namespace scope.
+// Publishes `cls`, the unqualified name of a Class object with static storage duration, so that classNamed() finds it
+// while its library or program is loaded. An ELF note points to the class, so no code runs at start-up and no symbol is
+// exported. Use it at namespace scope.
 #define LUMORA_PUBLISH_CLASS(cls) LUMORA_PUBLISH_CLASS_AS(cls, LUMORA_PUBLISHED_SYMBOL(__COUNTER__))
 #define LUMORA_PUBLISHED_SYMBOL(number) LUMORA_PUBLISHED_SYMBOL_TEXT(number)
 #define LUMORA_PUBLISHED_SYMBOL_TEXT(number) "lumora_published_class_" #number
 // The note: sizes of the owner's name and of the content, the type (1), the name, and the content, which is the
-// relative address of a pointer to the class.
+// relative address of a pointer to the class. The pointer has a symbol for the assembler; the class may have none.
 #define LUMORA_PUBLISH_CLASS_AS(cls, symbol)                                                                           \
     [[gnu::used]] static const ::Runtime::Class* const cls##Published __asm__(symbol) = &(cls);                        \
     __asm__(".pushsection .note.lumora.class,\"a\",%note\n.balign 4\n.long 7, 4, 1\n.asciz \"Lumora\"\n.balign "       \

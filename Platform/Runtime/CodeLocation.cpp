@@ -15,7 +15,7 @@ namespace {
 
 // A separate function, because an absolute name does not need its stack memory.
 [[gnu::noinline]] std::string absolutePathOf(link_map* object, const std::string& name) {
-    std::array<char, std::size_t{2} * PATH_MAX> origin{};
+    std::array<char, std::size_t{2} * PATH_MAX> origin{}; // for the current directory and a relative path
     if (::dlinfo(object, RTLD_DI_ORIGIN, origin.data()) != 0)
         return name;
     return std::string(origin.data()) + "/" + name.substr(name.rfind('/') + 1);
@@ -27,9 +27,9 @@ std::string pathOf(link_map* object) {
     return name.starts_with('/') ? name : absolutePathOf(object, name);
 }
 
-// The path of the file without links, from the system's name for an open file, which takes three calls instead of one
-// for each folder. Empty if there is no such name: without descriptors or /proc, or for a removed file or a very long
-// path.
+// The path of the file with its links resolved, as the system knows it for an open file. It takes three system calls;
+// realPath() takes one for each folder. Empty if the system has no such path: without free descriptors or /proc, or for
+// a removed file or a very long path.
 std::string openedPath(const std::string& path) {
     const Descriptor file(::open(path.c_str(), O_PATH | O_CLOEXEC));
     if (file.number() < 0)
@@ -38,12 +38,12 @@ std::string openedPath(const std::string& path) {
     std::array<char, 1024> name;
     const ssize_t size = ::readlink(link.c_str(), name.data(), name.size());
     const std::string_view read(name.data(), size < 0 ? 0 : static_cast<std::size_t>(size));
-    const bool isName = read.starts_with('/') && read.size() < name.size() && !read.ends_with(" (deleted)");
-    return std::string(isName ? read : std::string_view());
+    const bool isPath = read.starts_with('/') && read.size() < name.size() && !read.ends_with(" (deleted)");
+    return std::string(isPath ? read : std::string_view());
 }
 
 CodeLocation locationOf(const std::string& path, bool isMainProgram) {
-    std::string file = isMainProgram ? std::string() : openedPath(path); // a program may have been removed
+    std::string file = openedPath(path);
     if (file.empty())
         file = realPath(path);
     if (file.empty())

@@ -1,6 +1,6 @@
 // Runtime/Export.h
-// Marks what the shared library exports; everything else has hidden visibility. Every public header includes this one
-// first, so that a compiler in an older C++ mode reports one clear error and stops.
+// Marks what the shared library exports; everything else has hidden visibility. Every public C++ header includes this
+// one before any other code, so that a compiler in an older C++ mode reports one clear error and stops.
 #pragma once
 
 #if defined(__cplusplus) && __cplusplus < 202002L

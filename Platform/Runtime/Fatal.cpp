@@ -25,9 +25,9 @@ void fatalError(std::initializer_list<std::string_view> message, std::string_vie
                 std::initializer_list<std::string_view> hint) noexcept {
     char digits[10];
     const auto end = std::to_chars(digits, digits + sizeof digits, line).ptr;
-    // One system call without allocation: other threads' output cannot split the report, and it works without free
-    // memory.
-    constexpr std::size_t ownPieces = 7; // the beginning, the place in five pieces, the second line break
+    // One system call, so that other threads' output does not split the report, and no allocation, so that the report
+    // is written without free memory, too.
+    constexpr std::size_t ownPieces = 7; // "Fatal error: ", the place in five pieces, the line break after the hint
     iovec report[2 * maxPieces + ownPieces] = {piece("Fatal error: ")};
     iovec* next = report + 1;
     const auto add = [&next](std::initializer_list<std::string_view> pieces) {

@@ -14,8 +14,8 @@ namespace Runtime {
 // `message` and `file` are UTF-8. Any thread. Allocates nothing.
 [[noreturn]] LUMORA_EXPORT void fatalError(std::string_view message, std::string_view file,
                                            std::uint32_t line) noexcept;
-// The same with a message in at most maxPieces pieces, so that callers need not allocate to concatenate them. The
-// pieces of `hint`, as many at most, are a second line.
+// The same with a message in at most maxPieces pieces, so that callers need not allocate to concatenate them. `hint`, a
+// second line if it is not empty, has at most maxPieces pieces, too.
 inline constexpr std::size_t maxPieces = 8;
 [[noreturn]] LUMORA_EXPORT void fatalError(std::initializer_list<std::string_view> message, std::string_view file,
                                            std::uint32_t line,

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int maxLinks = 40; // on the way to a file; the system's own limit
 
-// With a slash at its end.
+// The folder of the file at `path`, with a slash at its end.
 std::string folderOf(const std::string& path) {
     const std::size_t slash = path.rfind('/');
     return slash == path.npos ? "./" : path.substr(0, slash + 1);
@@ -37,7 +37,8 @@ std::optional<std::string> linkAt(const std::string& path) {
     return size < 0 ? std::nullopt : std::optional(std::string(text.data(), static_cast<std::size_t>(size)));
 }
 
-// Links below /proc refer to a process's open files; the link text is only a name and may be outdated.
+// Whether `folder` is in /proc. Links there refer to a process's open files; their text is only a name, which may be
+// outdated.
 bool isInProc(const std::string& folder) noexcept {
     struct statfs system {};
     return ::statfs(folder.c_str(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;
@@ -60,6 +61,7 @@ Result<void> writeInto(int opened, const std::string& path, std::string_view byt
     return {};
 }
 
+// Writes to a pipe or a device, which must not be replaced by a file.
 Result<void> writeThrough(const std::string& path, std::string_view bytes) {
     return writeInto(::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC), path, bytes);
 }
@@ -76,11 +78,11 @@ Result<void> writeOpened(const std::string& path, std::string_view bytes) {
 // descriptor on failure.
 std::pair<Descriptor, std::string> createBeside(const std::string& path) {
     constexpr int mostTries = 100;
-    for (int tries = 0;; ++tries) {
+    for (int tries = 1;; ++tries) {
         std::uint32_t random = 0;
-        if (::getrandom(&random, sizeof random, GRND_NONBLOCK) < 0)
-            random = static_cast<std::uint32_t>(::getpid());
-        std::string name = path + "." + std::to_string(random + static_cast<std::uint32_t>(tries));
+        if (::getrandom(&random, sizeof random, GRND_NONBLOCK) < 0) // early after the system's start
+            random = static_cast<std::uint32_t>(::getpid() + tries);
+        std::string name = path + "." + std::to_string(random);
         Descriptor file(::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
         if (file.number() >= 0 || errno != EEXIST || tries == mostTries)
             return {std::move(file), std::move(name)};

@@ -27,7 +27,7 @@ void afterForkInChild() noexcept {
 ForkGuard::ForkGuard() {
     static constinit OnceSlot<bool> isRegistered;
     isRegistered.get([] {
-        // Waits until a fork() that has already started is done, so that the first guard holds off every fork(), too.
+        // This call waits until a running fork() is done, so that the first guard delays every fork(), too.
         if (::pthread_atfork(&beforeFork, &afterForkInParent, &afterForkInChild) != 0)
             throw std::bad_alloc();
         return true;

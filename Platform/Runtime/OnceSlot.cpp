@@ -12,7 +12,7 @@ bool OnceState::enter() noexcept {
     while (!state.compare_exchange_strong(seen, mine, std::memory_order_acquire)) {
         if (seen == made)
             return false;
-        if (seen != mine) // a thread of the process that this one was forked from
+        if (seen != mine) // of a parent process, whose threads do not exist here: the next exchange replaces it
             continue;
         state.wait(mine, std::memory_order_acquire);
         seen = empty;

@@ -15,7 +15,7 @@ struct Visitor {
     void* context;
 };
 
-// The content of a class's note is the relative address of a pointer to the class.
+// The content of a class's note is the address of a pointer to the class, relative to the content.
 const Class& classAt(const char* content) noexcept {
     std::int32_t distance = 0;
     std::memcpy(&distance, content, sizeof distance);

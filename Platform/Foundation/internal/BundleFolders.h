@@ -10,12 +10,12 @@ namespace Foundation::detail {
 
 struct BundleFolders {
     std::string developmentLanguage;
-    std::vector<std::string> languages; // the names of the language folders ("Base", "de"), sorted
-    bool mayHavePlurals = true;
+    std::vector<std::string> languages; // "Base", "de": those with a folder, in any order
+    bool mayHavePlurals = true;         // false: there is no *.stringsdict
 };
 
-// A directory that is missing or unreadable has no languages. Uses the list that `lumora compile` wrote into Info.plist
-// if the directory has that number of folders; otherwise lists the directory.
+// Uses the list that `lumora compile` wrote into Info.plist unless the directory has another number of folders;
+// otherwise lists the directory. One that is missing or unreadable has no languages.
 [[nodiscard]] BundleFolders bundleFolders(const std::string& bundle);
 
 } // namespace Foundation::detail

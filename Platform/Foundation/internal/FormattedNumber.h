@@ -14,20 +14,21 @@
 
 namespace Foundation::detail {
 
+// A placeholder, and its precision, which may come from an argument.
 struct Conversion {
     const StringTables::Placeholder& placeholder;
     std::optional<std::size_t> precision; // at most String::largestSize
 };
 
-// For a zero-padded number: the offset in the output where the zeros go, and the zero digit. Numbers without it are
-// padded with spaces in front.
+// Where a number is padded with zeros: the offset in the output where they go, and the zero digit.
 struct ZeroPadding {
     std::size_t at;
     std::string_view zero;
 };
+// No value for a number that is padded with spaces.
 using Padding = std::optional<ZeroPadding>;
 
-// Each appends the number.
+// Each function appends a number for some conversions and returns how to pad it.
 // d i u: with the locale's digits, grouping and signs.
 Padding appendDecimal(std::string& out, const Conversion& conversion, const Intl::NumberPattern& pattern,
                       std::int64_t value);

@@ -15,8 +15,8 @@
 
 namespace Foundation::detail {
 
-// Copies a text to `out` and returns the end of the copy. For the short pieces of formatted texts, a call of memcpy
-// takes longer than these copies of blocks, of which the last may overlap the one before.
+// Copies a text to `out` and returns the end of the copy. For the short pieces of formatted texts, a call of memcpy()
+// takes longer than copying blocks of constant size, of which the last may overlap the one before.
 inline char* copy(std::string_view text, char* out) noexcept {
     const char* const from = text.data();
     const std::size_t size = text.size();
@@ -45,9 +45,9 @@ inline std::string joined(std::string_view before, std::string_view text, std::s
 [[nodiscard]] std::string formattedPieces(std::string_view format, StringTables::PercentRange percents,
                                           const Locale* locale, std::span<const FormatArgument> arguments);
 
-// `percents`: the places of the percent signs in `format`. `locale`: null for the user's current one, which is read
-// only if a number needs it. Inline for a format whose only placeholder is a "%@" for a text, as in nearly all texts
-// with placeholders.
+// The formatted text. `percents`: the range of the percent signs in `format`. `locale`: null for the user's current
+// one, which is read only if a number needs it. Inline for a format whose only placeholder is a "%@" for a text, as in
+// nearly all texts with placeholders.
 [[nodiscard]] inline std::string formattedText(std::string_view format, StringTables::PercentRange percents,
                                                const Locale* locale, std::span<const FormatArgument> arguments) {
     const std::size_t at = percents.begin(), end = at + 2;

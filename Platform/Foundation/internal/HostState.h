@@ -1,6 +1,6 @@
 // Foundation/internal/HostState.h
 // Read access to the host settings; internal.
-// Threads: any; lock-free; allocates only the result. A reader sees the state either before or after a change.
+// Threads: any; lock-free after the first call. A reader sees the state either before or after a change.
 #pragma once
 
 #include "Foundation/Locale.h"
@@ -11,8 +11,8 @@
 
 namespace Foundation::detail {
 
-// The version of the preferred languages, which changes whenever they are set: the key for caching what is derived from
-// them. Reads the environment if they were not set.
+// The version of the preferred languages: 1 or more, increased whenever they are set. It shows whether cached values
+// that depend on them are outdated. Reads the environment if they were not set.
 [[nodiscard]] std::uint64_t hostVersion();
 
 struct HostLanguages {
@@ -21,7 +21,7 @@ struct HostLanguages {
 };
 [[nodiscard]] HostLanguages hostLanguages();
 
-// Converts a POSIX locale name to BCP 47: "sr_RS.UTF-8@latin" gives "sr-Latn-RS".
-[[nodiscard]] std::string languageTag(std::string_view hostName);
+// Converts a POSIX locale name to BCP 47: "sr_RS.UTF-8@latin" gives "sr-Latn-RS". A BCP 47 tag stays as it is.
+[[nodiscard]] std::string languageTag(std::string_view localeName);
 
 } // namespace Foundation::detail

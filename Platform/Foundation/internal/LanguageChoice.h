@@ -1,5 +1,5 @@
 // Foundation/internal/LanguageChoice.h
-// Selects the bundle language for a user; internal.
+// Selects the language of a bundle that a user reads; internal.
 // Text: BCP 47 tags. Threads: any; no state.
 #pragma once
 
@@ -11,8 +11,8 @@
 
 namespace Foundation::detail {
 
-// The index in `supported` of the best match for `wanted`, or no value. Never selects another language than the user's.
-// Throws like Intl::matchLanguage().
+// The index in `supported` of the best match for `wanted`, or no value if none is of the same language. Throws like
+// Intl::matchLanguage().
 [[nodiscard]] std::optional<std::size_t> chooseLanguage(std::string_view wanted,
                                                         std::span<const std::string> supported);
 

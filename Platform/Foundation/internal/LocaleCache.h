@@ -2,7 +2,7 @@
 // Caches expensive values by locale identifier; internal.
 // Threads: any; lock-free.
 // Ownership: cached values live until the process ends. Their number is limited: when the cache is full, values for
-// further identifiers are created at each call.
+// further identifiers are created at each call, as they always are for very long identifiers.
 #pragma once
 
 #include "Runtime/internal/KeyedStore.h"
@@ -13,7 +13,7 @@
 
 namespace Foundation::detail {
 
-// A pointer to a cached value, which lives until the process ends, or to one that the pointer owns.
+// A pointer to a cached value, or to a value that is not cached, which the pointer owns.
 template <class T> using Kept = std::shared_ptr<const T>;
 
 template <class T> class LocaleCache {
@@ -26,7 +26,7 @@ public:
     template <class Make> Kept<T> get(std::string_view locale, Make&& make) {
         if (const T* const known = values_.find(locale))
             return pointingTo(*known);
-        if (locale.size() > longestKeptName)
+        if (locale.size() > longestKept)
             return std::make_shared<const T>(make());
         auto made = make();
         const T* const kept = values_.add(mostKept, locale, std::move(made)); // moves from `made` only if there is room
@@ -35,7 +35,7 @@ public:
 
 private:
     static constexpr std::size_t mostKept = 256;
-    static constexpr std::size_t longestKeptName = 128;
+    static constexpr std::size_t longestKept = 128; // bytes of an identifier
 
     // A shared_ptr without ownership or reference count.
     static Kept<T> pointingTo(const T& kept) noexcept { return Kept<T>(std::shared_ptr<void>(), &kept); }

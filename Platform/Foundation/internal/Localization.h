@@ -13,17 +13,15 @@ namespace Foundation::detail {
 
 class Localization {
 public:
-    // `name`: "Base" or a language; `bundle`: the bundle's path, which outlives this; `language`: the BCP 47 tag of its
-    // texts.
+    // `name`: "Base" or a language. `bundle`: the bundle's path, which must outlive this object. `language`: the BCP 47
+    // tag of the texts. `mayHavePlurals`: false if there is no *.stringsdict.
     Localization(std::string_view name, std::string_view bundle, std::string_view language, bool mayHavePlurals);
 
     std::string_view name() const noexcept { return name_; }
-
-    // BCP 47.
     std::string_view language() const noexcept { return language_; }
 
-    // The table with that name, or null. `hash`: the hash of the name. Throws std::bad_alloc, and std::system_error on
-    // transient errors.
+    // The table with that name; an empty one or null if it is missing. `hash`: keyHash(name); with another one the
+    // look-up only takes longer. Throws std::bad_alloc, and std::system_error on transient errors.
     LocalizedTable* table(std::string_view name, std::uint64_t hash) {
         LocalizedTable* const known = tables_.find(name, hash);
         return known != nullptr ? known : knownOrLoaded(name);
@@ -39,8 +37,8 @@ private:
     std::string_view bundle_; // its path
     std::string language_;
     bool mayHavePlurals_;
-    // All existing tables, and missing ones until there are mostMissing tables: a program may ask for any number of
-    // names.
+    // The existing tables that were looked up, and missing ones until there are mostMissing tables: a program may ask
+    // for any number of names.
     Runtime::KeyedStore<LocalizedTable, 4> tables_;
     static constexpr std::size_t mostMissing = 64;
 };

@@ -15,8 +15,8 @@
 
 namespace Foundation::detail {
 
-// One of the two buffers; SharedText writes the one that is not being read. A reader that gets a part of a later text
-// also sees all that the writer did before.
+// One of the two buffers; SharedText writes the one that does not have the current text. A reader that gets a part of a
+// later text also sees the later version, because each part is stored and loaded with release and acquire order.
 template <std::size_t longest> class TextBuffer {
 public:
     using Word = std::uint64_t;
@@ -31,8 +31,9 @@ public:
             words_[i].store(word, std::memory_order_release);
         }
     }
-    // Copies whole words, so `out` has room for the longest text. Returns the size of the text.
+    // Copies the text in whole words and returns its size.
     std::size_t read(Words& out) const noexcept {
+        // Never longer; a loop with a known bound is compiled to faster code.
         const std::size_t size = std::min(size_.load(std::memory_order_acquire), longest);
         for (std::size_t i = 0; i * sizeof(Word) < size; ++i)
             out[i] = words_[i].load(std::memory_order_acquire);
@@ -50,8 +51,8 @@ public:
     // 0 before the first write.
     std::uint64_t version() const noexcept { return version_.load(std::memory_order_acquire); }
 
-    // Returns `make(version, text)`, where `text` is a view of a consistent copy. Making the result in place saves the
-    // moves of a string, each of which would have to wait for the copy before it.
+    // Returns `make(version, text)`, where `text` is a view of a consistent copy. Making the result in place saves
+    // moving a string.
     template <class Make> auto read(Make make) const {
         typename TextBuffer<longest>::Words words; // not initialized: only the words of the text are used
         for (;;) {
@@ -72,7 +73,7 @@ public:
     }
 
 private:
-    // The first text is in the buffer next to the version; most processes use no other.
+    // The first text, the only one in most processes, is in the buffer next to the version.
     static constexpr std::size_t bufferOf(std::uint64_t version) noexcept { return (version - 1) % 2; }
 
     std::atomic<std::uint64_t> version_{0};

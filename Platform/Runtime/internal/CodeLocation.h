@@ -14,10 +14,10 @@ struct CodeLocation {
 };
 
 // The location of the shared object or program that contains `code`, the address of a function or static object. The
-// result does not depend on the current directory. Its strings are empty when the address belongs to no loaded file.
-// Throws only std::bad_alloc.
+// result does not depend on the current directory. Its strings are empty when the address belongs to no loaded file or
+// the file has been removed. Throws only std::bad_alloc.
 [[nodiscard]] CodeLocation codeLocation(const void* code);
-// The location of the running program.
+// The same for the running program.
 [[nodiscard]] CodeLocation mainProgramLocation();
 
 } // namespace Runtime

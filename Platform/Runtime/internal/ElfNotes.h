@@ -17,13 +17,13 @@ struct ElfNote {
     std::string_view content;
 };
 
-// Calls `visit(note)` for each note of `object` until it returns true. Returns whether it did. Skips the rest of a
+// Calls `visit(note)` for each note of `object` until `visit` returns true; returns whether it did. Skips the rest of a
 // segment after a damaged note.
 template <class Visit> bool visitNotes(const dl_phdr_info& object, Visit visit) {
     constexpr std::size_t alignment = 4;
     constexpr auto padded = [](std::size_t size) { return (size + alignment - 1) / alignment * alignment; };
     for (const ElfW(Phdr) & segment : std::span(object.dlpi_phdr, object.dlpi_phnum)) {
-        // Notes of another alignment have another layout; those that we read are never among them.
+        // Notes of another alignment have another layout; build ids and classes always have this one.
         if (segment.p_type != PT_NOTE || segment.p_align != alignment)
             continue;
         // NOLINTNEXTLINE(performance-no-int-to-ptr): the dynamic linker gives addresses as numbers

@@ -5,8 +5,9 @@
 
 namespace Runtime {
 
-// While a guard exists, fork() in other threads waits; a new guard waits while a fork() is running. Threads: any number
-// at the same time, but at most one guard per thread. Throws std::bad_alloc.
+// While a guard exists, fork() in other threads waits; a new guard waits while a fork() is running. Any number of
+// threads may have a guard at the same time, but each at most one, and a thread with a guard must not call fork(). The
+// constructor may throw std::bad_alloc.
 class ForkGuard {
 public:
     ForkGuard();

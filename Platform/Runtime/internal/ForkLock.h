@@ -15,13 +15,13 @@ public:
     ForkLock(const ForkLock&) = delete;
     ForkLock& operator=(const ForkLock&) = delete;
 
-    // Returns true when a thread of the parent process held the lock at the fork. What the lock guards may then be half
-    // written.
+    // Takes the lock. Returns true when a thread of the parent process held it at the fork: what it guards may then be
+    // half written.
     [[nodiscard]] bool lock() noexcept {
         const auto mine = static_cast<std::uint32_t>(::getpid());
         std::uint32_t seen = free;
         while (!owner_.compare_exchange_strong(seen, mine, std::memory_order_acquire)) {
-            if (seen != mine) // of the parent process: the next exchange takes the lock over
+            if (seen != mine) // held in the parent process: the next exchange takes the lock over
                 continue;
             owner_.wait(mine, std::memory_order_relaxed);
             seen = free;
@@ -36,7 +36,7 @@ public:
 private:
     static constexpr std::uint32_t free = 0;
 
-    std::atomic<std::uint32_t> owner_{free}; // the process of the thread that holds it
+    std::atomic<std::uint32_t> owner_{free}; // the id of the process that has the thread with the lock
 };
 
 } // namespace Runtime

@@ -1,5 +1,5 @@
 // Runtime/internal/Hash.h
-// A fast 64-bit hash of bytes; the same on every machine.
+// A fast 64-bit hash of bytes; the same on every machine. Not for cryptography.
 // Threads: any; no state.
 #pragma once
 
@@ -35,7 +35,8 @@ inline std::uint64_t mixed(std::uint64_t a, std::uint64_t b) noexcept {
     return static_cast<std::uint64_t>(product) ^ static_cast<std::uint64_t>(product >> 64);
 }
 
-// The seed masks both factors of every product, so colliding keys cannot be made without knowing it.
+// The seed masks both factors of every product that contains bytes of the text, so colliding keys cannot be made
+// without knowing the seed.
 inline std::uint64_t hashBytes(std::string_view bytes, std::uint64_t seed) noexcept {
     const std::uint64_t second = seed * hashSpread ^ hashSpread;
     std::uint64_t first = seed;

@@ -81,8 +81,8 @@ private:
         }
     }
 
-    // The children on the way to a key. Below the levels that the hash selects are only keys that were made to have
-    // the same hash, so there the key is hashed with a seed that nobody knows.
+    // The children on the way to a key. The levels that the hash selects are too few only for keys that were made to
+    // have the same hash, so below them the key is hashed again, with a seed that nobody outside the process knows.
     class Descent {
     public:
         Descent(std::uint64_t hash, std::string_view key) noexcept : bits_(hash / buckets), key_(key) {}

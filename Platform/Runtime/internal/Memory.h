@@ -8,7 +8,8 @@
 
 namespace Runtime {
 
-// Throws std::bad_alloc unless `size` bytes can be allocated now. If they can, a preceding failure had another reason.
+// Throws std::bad_alloc unless `size` bytes can be allocated now. If they can, a preceding failure probably had another
+// reason.
 inline void demandMemory(std::size_t size = std::size_t{1} << 16) {
     ::operator delete(::operator new(size)); // direct calls: a compiler may remove a new-delete pair
 }

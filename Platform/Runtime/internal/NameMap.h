@@ -1,6 +1,6 @@
 // Runtime/internal/NameMap.h
-// Hash maps whose keys come from files. Their hashes have a seed, because with the standard library's hash a file could
-// be made whose keys all have the same one.
+// Hash maps whose keys come from files. Their hashes have a seed, because a file could be made whose keys all have the
+// same hash of the standard library.
 // Threads: as the standard containers; processSeed() and the hash: any.
 #pragma once
 
@@ -18,7 +18,7 @@ namespace Runtime {
 [[nodiscard]] inline std::uint64_t processSeed() noexcept {
     static const std::uint64_t seed = [] {
         const auto* const random = reinterpret_cast<const char*>(::getauxval(AT_RANDOM));
-        return random == nullptr ? reinterpret_cast<std::uintptr_t>(&::getauxval)
+        return random == nullptr ? reinterpret_cast<std::uintptr_t>(&::getauxval) // differs in each process, too
                                  : mixed(loadLittle<std::uint64_t>(random) ^ hashSpread,
                                          loadLittle<std::uint64_t>(random + sizeof(std::uint64_t)));
     }();

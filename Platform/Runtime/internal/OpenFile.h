@@ -15,20 +15,21 @@ namespace Runtime {
 
 class OpenFile {
 public:
-    // Opens the regular file at `path`. Errors name it: the system refused, it is not a regular file, it has more than
-    // `limit` bytes. Never blocks on a pipe.
-    // If `folder` is not empty, `path` begins with it, and a link in it that leads out of it is an error, too.
+    // Opens the regular file at `path`. Errors, which name the file: the system refused, it is not a regular file, it
+    // has more than `limit` bytes. Never blocks on a pipe.
+    // If `folder` is not empty, `path` must begin with it, and a link that leads out of the folder is an error, too.
     [[nodiscard]] static Result<OpenFile> open(const std::string& path, std::size_t limit,
                                                std::string_view folder = {});
-    // Whether there is a file or folder of any kind at `path` and it is inside `folder`.
+    // Succeeds if there is a file or folder of any kind at `path` and it is inside `folder`.
     [[nodiscard]] static Result<void> exists(const std::string& path, std::string_view folder);
 
     std::size_t size() const noexcept { return identity_.size; } // at the time of opening
-    // Differs when another file takes the place of this one, or when its content changes.
+    // Differs when another file takes the place of this one, or when the content changes, unless both size and time of
+    // modification stay the same.
     struct Identity {
         std::uint64_t device = 0, inode = 0;
         std::size_t size = 0;
-        std::int64_t seconds = 0, nanoseconds = 0; // last modification
+        std::int64_t seconds = 0, nanoseconds = 0; // of the last modification
         friend bool operator==(const Identity&, const Identity&) = default;
     };
     const Identity& identity() const noexcept { return identity_; }

@@ -1,6 +1,6 @@
 // Runtime/internal/PublishedClasses.h
 // The classes that loaded libraries and the program publish with LUMORA_PUBLISH_CLASS.
-// Threads: any; holds the dynamic linker's lock.
+// Threads: any; each function holds the dynamic linker's lock while it runs.
 #pragma once
 
 #include "Runtime/Class.h"
@@ -8,7 +8,7 @@
 
 namespace Runtime {
 
-// Calls `visit(context, class)` for each published class until it returns true.
+// Calls `visit(context, published)` for each published class until `visit` returns true.
 void visitPublished(bool (*visit)(void* context, const Class& published), void* context) noexcept;
 
 // The first published class for which `matches` holds, or null.

@@ -21,7 +21,7 @@ struct Error {
     std::size_t column = 0;
     int cause = 0; // errno of the failed system call, or 0
 
-    // Whether a retry may succeed: the process was out of memory or descriptors, or the device failed.
+    // Whether a retry may succeed: memory or descriptors ran out, a signal interrupted the call, or the device failed.
     bool isTransient() const noexcept {
         return cause == ENOMEM || cause == EMFILE || cause == ENFILE || cause == EINTR || cause == EIO;
     }

@@ -11,9 +11,9 @@
 
 namespace Runtime {
 
-// "file: doing: REASON". `doing` says what failed: "cannot be read". `cause`: the errno of the call.
-[[nodiscard]] inline Error systemError(std::string file, const std::string& doing, int cause = errno) {
-    return {.message = doing + ": " + std::strerror(cause), .file = std::move(file), .cause = cause};
+// The error "FILE: FAILURE: REASON". `failure` says what failed: "cannot be read". `cause`: the errno of the call.
+[[nodiscard]] inline Error systemError(std::string file, const std::string& failure, int cause = errno) {
+    return {.message = failure + ": " + std::strerror(cause), .file = std::move(file), .cause = cause};
 }
 
 } // namespace Runtime

@@ -1,5 +1,5 @@
 // Runtime/internal/TransientError.h
-// Throws on transient errors, so that callers never cache the result of one.
+// Throws on transient errors (Error::isTransient), so that callers never cache the result of one.
 // Threads: any; no state.
 #pragma once
 
