@@ -73,7 +73,7 @@ concept Sequence = requires(const T& value) {
 } // namespace detail
 
 // The description of a value:
-// - a string (std::string, std::string_view, const char*; a null pointer is "nil") or a character: itself;
+// - a string (anything that converts to std::string_view; a null const char* is "nil") or a character: itself;
 // - a bool, or an element of a std::vector<bool> or std::bitset: "true" or "false"; an integer: its decimal digits;
 // - a floating-point number: the fewest digits that give the same value, with a point or an exponent: "0.1", "1e+16";
 //   "inf", "-inf" or "nan";

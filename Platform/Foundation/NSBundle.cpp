@@ -165,7 +165,7 @@ struct NSBundle::Contents {
     static constexpr std::size_t mostChoices = 256;
     // The version of the host's languages times versionUnit, plus preferred() for that version.
     std::atomic<std::uint64_t> latest{0};
-    static constexpr std::uint64_t versionUnit = std::uint64_t{1} << 16;
+    static constexpr std::uint64_t versionUnit = std::uint64_t{1} << 16; // more than any bundle has languages
 };
 
 LocalizedKey LocalizedKey::of(std::string_view table, std::string_view key) noexcept {
@@ -240,7 +240,7 @@ std::optional<LocalizedFormat> NSBundle::findLocalized(std::string_view key, std
     return findLocalized(LocalizedKey::of(table, key));
 }
 
-// Flattened: with all calls inlined, formatting takes less time.
+// Flattened: inlining all calls makes formatting faster.
 [[gnu::flatten]] std::string NSBundle::formattedText(const LocalizedKey& key,
                                                      std::span<const FormatArgument> arguments) const {
     return contents().lookUp(

@@ -46,8 +46,8 @@ struct Argument {
     const void* value;
 };
 
-// A function that a class publishes. `invoke` calls it and constructs its result at `place`, raw memory of the right
-// size and alignment.
+// A function that a class publishes. `invoke` calls it with arguments of exactly these types and constructs its result
+// at `place`, raw memory of the right size and alignment.
 struct Method {
     const char* selector;
     TypeTag result;
@@ -102,6 +102,7 @@ template <auto* function, class Result, class... Arguments> struct Bridge {
     static_assert((isPassedUnchanged<Arguments> && ...),
                   "a published function must take numbers as bool, std::int64_t or double");
 
+    // One more than the arguments, because an array cannot be empty.
     static constexpr TypeTag arguments[sizeof...(Arguments) + 1] = {&typeid(Carried<Arguments>)..., nullptr};
 
     static void invoke(const Argument* given, void* place) {

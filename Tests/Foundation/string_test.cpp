@@ -132,13 +132,13 @@ TEST(String, WritesNumbersAsTheLocaleDoes) {
 TEST(String, BoundsItsResult) {
     using Foundation::String::largestGrowth;
     const std::string letter = "ж", longText(largestGrowth / 16, 'x');
-    std::string format = letter, plain;
+    std::string format = letter;
     for (int i = 0; i < 100'000; ++i)
         format += "%1$@";
     EXPECT_EQ(::format(format, {std::string_view(longText)}).size(), format.size() + largestGrowth);
-    // A character of two bytes does not fit into one.
     const std::string cut = ::format("%1$@%1$@!", {std::string_view(std::string(largestGrowth + 8, 'x'))});
     EXPECT_EQ(cut, std::string(largestGrowth + 9, 'x'));
+    // A character of two bytes does not fit into the last byte.
     std::string wide = "x";
     while (wide.size() <= largestGrowth + 5)
         wide += letter;

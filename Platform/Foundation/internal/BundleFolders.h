@@ -14,8 +14,8 @@ struct BundleFolders {
     bool mayHavePlurals = true;         // false: there is no *.stringsdict
 };
 
-// Uses the list that `lumora compile` wrote into Info.plist unless the directory has another number of folders;
-// otherwise lists the directory. One that is missing or unreadable has no languages.
+// Takes the languages from the list that `lumora compile` wrote into Info.plist, or from the bundle's folders if there
+// is no list or their number is another one. A bundle that is missing or unreadable has no languages.
 [[nodiscard]] BundleFolders bundleFolders(const std::string& bundle);
 
 } // namespace Foundation::detail
