@@ -93,17 +93,19 @@ private:
 
     template <class Choose> void append(std::string_view text, PluralPieces pieces, Choose& choose) {
         std::size_t done = 0;
-        while (const auto piece = pieces.next()) {
-            appendLiteral(text.substr(done, piece->placeholder.begin - done));
+        while (out_.size() < longestPlural) {
+            const auto piece = pieces.next();
+            appendLiteral(text.substr(done, piece ? piece->placeholder.begin - done : text.npos));
+            if (!piece)
+                return;
             done = piece->placeholder.end;
             if (piece->variable == nullptr)
                 appendPlaceholder(text.substr(piece->placeholder.begin, done - piece->placeholder.begin), *piece);
-            else if (variables_ == mostVariables || out_.size() >= longestPlural)
+            else if (variables_ == mostVariables)
                 return;
             else
                 appendForm(choose(*piece->variable, piece->arguments.value), *piece, choose);
         }
-        appendLiteral(text.substr(done));
     }
 
     template <class Choose> void appendForm(std::string_view form, const PluralPiece& piece, Choose& choose) {

@@ -49,6 +49,7 @@ protected:
 TEST_F(Plurals, ChooseFormsByTheRightArgument) {
     const std::string days = variable("days", "ld", forms("%ld day", "%ld days"));
     const std::string dirs = variable("dirs", "d", forms("one folder", "%d folders"));
+    constexpr std::size_t longForm = 1 << 16;
     write("Base", plural("plain", "%#@days@ left", days) + plural("two", "%#@days@ in %#@dirs@", days + dirs) +
                       plural("positions", "%2$#@dirs@, %1$#@days@", days + dirs) + plural("skips", "%2$#@days@", days) +
                       plural("mixed", "%@: %#@days@ of %@", days) + plural("without", "%#@dirs@ of %@", dirs) +
@@ -63,6 +64,7 @@ TEST_F(Plurals, ChooseFormsByTheRightArgument) {
                       plural("width", "%#@n@", variable("n", "d", forms("[%*d]", "[%-*d|%@]"))) +
                       plural("unknown", "%#@other@ %#@days@", days) +
                       plural("itself", "%#@n@", variable("n", "d", forms("one", "%#@n@ %#@n@"))) +
+                      plural("long", "%#@n@", variable("n", "d", forms("one", "%#@n@" + std::string(longForm, 'x')))) +
                       plural("missing", "%#@n@", variable("n", "d", text("few", "%d of few"))));
     Host::setPreferredLanguages({"en"});
     Host::setCurrentLocale("en_US");
@@ -99,8 +101,9 @@ TEST_F(Plurals, ChooseFormsByTheRightArgument) {
                                              Foundation::Locale::current(), arguments),
                   expected)
             << "line " << line;
-    // The recursion of a variable that contains itself is limited.
+    // The recursion of a variable that contains itself is limited, and so is the text that it makes.
     EXPECT_LE(made("itself", {5}).size(), std::size_t{1} << 20);
+    EXPECT_LE(made("long", {5}).size(), (std::size_t{1} << 20) + longForm);
 }
 
 TEST_F(Plurals, FollowTheLanguageOfTheirTable) {
