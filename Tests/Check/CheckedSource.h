@@ -20,7 +20,8 @@ public:
             write(name, text);
     }
 
-    // "RULE FILE:LINE:COLUMN LANGUAGE KEY" for each finding except coverage.
+    // "RULE FILE:LINE:COLUMN LANGUAGE KEY" for each finding except coverage; for an asset without language and with its
+    // name as KEY.
     Strings findings(Check::Options options = {}) {
         options.folders = {path()};
         const SourceBundle::Source source = read();

@@ -9,7 +9,8 @@ using Support::Strings;
 
 constexpr const char* drawing = R"(<svg xmlns="http://www.w3.org/2000/svg" width="8" height="8"/>)";
 
-// The rules and locations of the findings in a set of this kind with these entries and the drawing a.svg.
+// The findings in a folder `set` with these entries and the drawing a.svg: "RULE:LINE:COLUMN  NAME", where the first
+// entry is on line 2.
 Strings findingsIn(const std::string& set, const std::string& entries) {
     const bool isColor = set.ends_with(".colorset");
     CheckedSource source{{"A.xcassets/" + set + "/Contents.json",
@@ -53,6 +54,12 @@ TEST(Check, FindsFaultsOfAssets) {
          "a.imageset",
          R"({"filename": "a.svg", "scale": "1x"}, {"scale": "2x"}, {"scale": "3x"})",
          {}}, // a vector
+        // A file that is not assigned does not fill the slot for dark mode.
+        {__LINE__,
+         "a.imageset",
+         R"({"filename": "a.svg"}, {"appearances": [{"appearance": "luminosity", "value": "dark"}]},
+            {"filename": "a.svg", "unassigned": true, "appearances": [{"appearance": "luminosity", "value": "dark"}]})",
+         {"asset-missing-dark:2:24  a", "asset-unassigned:3:13  a"}},
         {__LINE__,
          "a.imageset",
          R"({"filename": "a.svg"}, {"appearances": [{"appearance": "luminosity", "value": "dark"}]})",

@@ -14,7 +14,8 @@ BLOCK = re.compile(r"```\w+ (\S+)\n(.*?)```", re.DOTALL)
 
 
 def found(program, own, files, arguments):
-    """The rules that are found in a source with these files; coverage counts in its own examples only."""
+    """The rules of the findings in a source with these files, of `coverage` only if it is the `own` rule of the section; and a
+    complaint about a wrong exit status, or an empty string."""
     with tempfile.TemporaryDirectory() as held:
         for name, text in files.items():
             file = pathlib.Path(held, name)

@@ -27,6 +27,7 @@ TEST(Identifiers, AreFoundOutsideOfCommentsAndLiterals) {
         {__LINE__, "1'000 a 0xFF 1.5e3f b1", "a b1"},
         {__LINE__, "A::B:: c a::/* x */b", "A A::B B::c a a::b"},
         {__LINE__, "::a + ::b; a . ::c", "a b a c"},
+        {__LINE__, "return ::b; case ::x: y::z", "return b case x y y::z"},
         {__LINE__, "Сhatlist::title", "Сhatlist Сhatlist::title"},
         {__LINE__, "\"open", ""},
         {__LINE__, "a /* open", "a"},

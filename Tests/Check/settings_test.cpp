@@ -66,6 +66,7 @@ TEST(Settings, AreReadFromComments) {
         {__LINE__, "lumora: allow missing-key coverage", {Check::Rule::missingKey, Check::Rule::coverage}, {}},
         {__LINE__, "lumora: allow untranslated because it is a name", {Check::Rule::untranslated}, {}},
         {__LINE__, "lumora: allow nonsense", {}, {"nonsense"}},
+        {__LINE__, "lumora: allow Missing-Key\nA title", {}, {"Missing-Key"}},
         {__LINE__, "lumora: allow coverage, nonsense", {Check::Rule::coverage}, {"nonsense"}},
     };
     for (const auto& one : cases) {

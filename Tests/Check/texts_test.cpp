@@ -38,7 +38,7 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
         {__LINE__, "de", "100%% of %@", "100%% von %@", ""},
         {__LINE__, "de", "100%% of %@", "100% von %@", "lone-percent"},
         {__LINE__, "de", "Half off", "50 % Rabatt, 50 %", "lone-percent"},
-        {__LINE__, "fr", "Half off", "50 % de remise", "lone-percent"}, // "% d" is no placeholder
+        {__LINE__, "fr", "Half off", "50 % de remise", "lone-percent"}, // "% d" does not count as a placeholder
         {__LINE__, "de", "%@", "%1$@ %1$d", "placeholder-mismatch"},
         // Spaces at the ends; rules differ by language.
         {__LINE__, "de", "Name: ", "Name:", "space-mismatch"},
@@ -68,7 +68,7 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
         {__LINE__, "zh-Hans", "Is it done?", "完成了", "punctuation-mismatch"},
         // Words and spaces.
         {__LINE__, "de", "Go on", "Mach  weiter", "double-space"},
-        {__LINE__, "de", "Go  on", "Mach  weiter", "double-space"}, // in the development text only
+        {__LINE__, "de", "Go  on", "Mach  weiter", "double-space"}, // reported only for the development text
         {__LINE__, "de", "List", "Liste:\\n  eins", "newline-mismatch"},
         {__LINE__, "de", "Go on", "Mach mach weiter", "repeated-word"},
         {__LINE__, "ru", "Go on", "Иди иди дальше", "repeated-word"},
@@ -120,8 +120,9 @@ TEST(Check, ReportsAnErrorOnceIfOthersFollowFromIt) {
     source.takeMessages();
     EXPECT_EQ(source.findings(), Strings{"unreadable-table de.lproj/T.strings:0:0 de "});
 
-    CheckedSource conflict{{"en.lproj/T.strings", "m = \"%1$@ %1$d\";"}, {"de.lproj/T.strings", "m = \"%1$@\";"}};
-    EXPECT_EQ(conflict.findings(), Strings{"placeholder-mismatch en.lproj/T.strings:1:1 en m"});
+    CheckedSource conflict{{"en.lproj/T.strings", "m = \"%1$@ %1$d 5%\";"}, {"de.lproj/T.strings", "m = \"%1$@\";"}};
+    EXPECT_EQ(conflict.findings(), (Strings{"placeholder-mismatch en.lproj/T.strings:1:1 en m",
+                                            "lone-percent en.lproj/T.strings:1:1 en m"}));
 }
 
 TEST(Check, NamesKeysWithoutAccessor) {
@@ -132,7 +133,7 @@ TEST(Check, NamesKeysWithoutAccessor) {
                        "placeholder-mismatch Base.lproj/T.strings:4:1 Base m"}));
 }
 
-// The plural "files" with these forms; "%@" in them is a second argument.
+// The plural "files" with these forms, "one=One file;other=%d files". "%@" in them is a second argument.
 std::string plural(std::string_view forms) {
     std::string text = "<plist version=\"1.0\"><dict>\n<key>files</key><dict><key>NSStringLocalizedFormatKey</key>"
                        "<string>%#@n@</string><key>n</key><dict><key>NSStringFormatSpecTypeKey</key>"
@@ -183,6 +184,7 @@ TEST(Check, ReadsStringCatalogs) {
     CheckedSource source{{"T.xcstrings", R"({"sourceLanguage": "en", "version": "1.0", "strings": {
         "Go on": {"localizations": {"de": {"stringUnit": {"state": "translated", "value": "Weiter"}}}},
         "Hello %@": {"localizations": {"de": {"stringUnit": {"state": "translated", "value": "Hallo"}}}},
+        "--": {"comment": "lumora: allow unnamed-key, missing-key"},
         "Open": {"comment": "lumora: allow missing-key, untranslated"},
         "Quillmark": {"shouldTranslate": false},
         "Stale": {"extractionState": "stale"},
@@ -193,8 +195,8 @@ TEST(Check, ReadsStringCatalogs) {
             "de": {"stringUnit": {"value": "%#@n@ hier"}, "substitutions": {"n": {"argNum": 1, "formatSpecifier": "d"}}}}}
     }})"}};
     EXPECT_EQ(source.findings(),
-              (Strings{"placeholder-mismatch T.xcstrings:3:9 de Hello %@", "missing-key T.xcstrings:7:9 de Stop",
-                       "missing-plural-form T.xcstrings:8:9 de cats"}));
+              (Strings{"placeholder-mismatch T.xcstrings:3:9 de Hello %@", "missing-key T.xcstrings:8:9 de Stop",
+                       "missing-plural-form T.xcstrings:9:9 de cats"}));
 }
 
 TEST(Check, ComparesWithAnOlderSource) {
@@ -218,14 +220,15 @@ TEST(Check, FindsTwoTranslationsOfOneText) {
 }
 
 TEST(Check, CountsCoverage) {
-    CheckedSource source(
-        {{"en.lproj/T.strings", "a = One; b = Two; c = Three;"}, {"de.lproj/T.strings", "a = Eins; b = Two;"}});
+    CheckedSource source({{"en.lproj/T.strings", "a = One; b = Two; c = Three;"},
+                          {"en.lproj/U.strings", "/* lumora: allow missing-key */ d = Four;"},
+                          {"de.lproj/T.strings", "a = Eins; b = Two;"}});
     const SourceBundle::Source read = source.read();
     Strings messages;
     for (const Check::Finding& finding : Check::check(read, {}, source.diagnostics))
         if (finding.rule == Check::Rule::coverage)
             messages.push_back(finding.message);
-    EXPECT_EQ(messages, Strings{"de has 2 of 3 texts (66 %)"});
+    EXPECT_EQ(messages, Strings{"de has 2 of 4 texts (50 %)"});
 }
 
 } // namespace

@@ -49,7 +49,7 @@ std::string_view lonePercentOf(const PluralFormat& plural) {
     return all.lonePercent;
 }
 
-// The format with a doubled percent sign in each placeholder that is prose.
+// The format with another percent sign before each placeholder that is prose: "%% o" for "% o".
 std::string escapedProse(std::string_view format) {
     std::string out;
     std::size_t at = 0;

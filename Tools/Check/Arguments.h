@@ -1,5 +1,5 @@
 // Check/Arguments.h
-// The arguments that a text takes. "50% off" counts as having no placeholder, although "% o" is one.
+// The arguments that a text takes. A placeholder with a space after its percent sign does not count: "50% off".
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 
@@ -12,12 +12,13 @@ namespace Check {
 
 struct Arguments {
     StringTables::FormatSignature signature;
-    // The first '%' that is not written "%%", with the placeholder that it seems to begin; or empty.
+    // The first '%' that should be "%%": "%", or "% o" if it begins a placeholder that does not count. Points into the
+    // text; empty if there is none.
     std::string_view lonePercent;
 
     // Whether both take arguments of the same kinds at the same positions.
     [[nodiscard]] bool fits(const Arguments& other) const { return signature.arguments == other.signature.arguments; }
-    // "(text, integer)" or "no arguments".
+    // "(text, integer)", with "none" for a position that no placeholder takes; or "no arguments".
     [[nodiscard]] std::string text() const;
 };
 

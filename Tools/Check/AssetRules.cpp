@@ -3,6 +3,7 @@
 #include "AssetCatalog/internal/Model.h"
 #include "Generator/CodeText.h"
 #include "SourceBundle/EntryPlaces.h"
+#include "SourceBundle/LowerCase.h"
 #include "SourceBundle/SetContents.h"
 #include "SourceBundle/SetEntry.h"
 #include <algorithm>
@@ -30,23 +31,23 @@ using SourceBundle::SourceAsset;
 namespace {
 
 constexpr std::size_t maxScale = 3;
-using Scales = std::bitset<maxScale + 1>; // by scale
+using Scales = std::bitset<maxScale + 1>; // bit 2 for 2x; bit 0 is not used
 
 struct Set {
     const SourceAsset* asset;
     Json contents;
-    std::vector<SetEntry> entries; // point into `contents`
+    std::vector<SetEntry> entries; // those that are assigned to a variant; they point into `contents`
     SourceBundle::EntryPlaces places;
 };
 
-bool isUnassigned(const SetEntry& entry) {
-    return SourceBundle::member(*entry.json, "unassigned") == Json(true);
+bool isUnassigned(const Json& entry) {
+    return SourceBundle::member(entry, "unassigned") == Json(true);
 }
 
-// Whether the picture is sharp at every scale.
+// Whether the picture is sharp at every scale, judged by its file's name.
 bool isVector(const SetEntry& entry) {
-    const std::string extension = fs::path(SourceBundle::text(*entry.json, "filename")).extension().string();
-    return extension == ".pdf" || extension == ".svg" || extension == ".PDF" || extension == ".SVG";
+    const fs::path file = SourceBundle::lowerCase(SourceBundle::text(*entry.json, "filename"));
+    return file.extension() == ".pdf" || file.extension() == ".svg";
 }
 
 bool isDark(const SetEntry& entry) {
@@ -57,7 +58,7 @@ bool isDark(const SetEntry& entry) {
 struct Variant {
     std::string idiom;
     bool isDark = false;
-    bool isForEveryScale = false; // a vector, or a picture without a scale
+    bool isForEveryScale = false; // a vector, or a bitmap without a scale or for more than 3x
     Scales filled;
     const SetEntry* first = nullptr;
 };
@@ -65,8 +66,6 @@ struct Variant {
 std::vector<Variant> variantsOf(const Set& set) {
     std::map<std::string, Variant> byIdentity;
     for (const SetEntry& entry : set.entries) {
-        if (isUnassigned(entry))
-            continue;
         std::string identity = entry.device.text() + '\n' + entry.language;
         for (const int part : {static_cast<int>(entry.fit.appearance), static_cast<int>(entry.fit.contrast),
                                static_cast<int>(entry.fit.direction)})
@@ -95,7 +94,7 @@ std::vector<Variant> variantsOf(const Set& set) {
 // down.
 Scales scalesOf(std::string_view idiom) {
     if (idiom == "universal" || idiom == "iphone" || idiom == "car")
-        return Scales(0b1100);
+        return Scales(0b1100); // 2x, 3x
     return Scales(0b0100);
 }
 
@@ -128,21 +127,21 @@ public:
 
 private:
     void readSet(const SourceAsset& asset) {
-        SourceBundle::Diagnostics reported; // when the source was read
-        auto json = SourceBundle::readJsonObject(asset.path / SourceBundle::contentsName, reported);
+        SourceBundle::Diagnostics ignored; // they were reported when the source was read
+        auto json = SourceBundle::readJsonObject(asset.path / SourceBundle::contentsName, ignored);
         if (!json)
-            return; // deleted since it was read
+            return; // deleted or damaged since it was read
         Set& set = sets_.emplace_back(
             Set{&asset, *std::move(json), {}, {asset.path / SourceBundle::contentsName, listOf(asset)}});
         std::size_t number = 0;
         for (const Json& entry : SourceBundle::member(set.contents, listOf(asset)))
-            if (++number; entry.is_object())
+            if (++number; entry.is_object() && !isUnassigned(entry))
                 set.entries.push_back(SourceBundle::readEntry(entry, number));
     }
 
     static const char* listOf(const SourceAsset& asset) { return asset.kind == Kind::color ? "colors" : "images"; }
 
-    // Whether most pictures with several scales include 1x.
+    // Whether most variants with bitmaps for several scales have one for 1x.
     bool isSingleScaleUsual() const {
         std::size_t all = 0, withSingle = 0;
         for (const Set& set : sets_)
@@ -176,7 +175,7 @@ private:
         }
     }
 
-    // Reports an empty entry for dark mode, or a colour without a dark variant in a catalog that has some.
+    // Reports an empty entry for dark mode, or a colour without an entry for it if `isExpected`.
     void checkDark(Set& set, bool isExpected) {
         if (std::ranges::any_of(set.entries, isFilledDark))
             return;

@@ -9,7 +9,8 @@
 
 namespace Check {
 
-// Reads the Contents.json of each asset again, because SourceAsset does not have entries without a file or colour.
+// Reads the Contents.json of each image and colour again, because SourceAsset does not have the entries without a file
+// or colour.
 void checkAssets(std::span<const SourceBundle::SourceAsset> assets, Report& report);
 
 } // namespace Check

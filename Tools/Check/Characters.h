@@ -21,8 +21,8 @@ namespace Check {
     return StringTables::internal::takeCharacter(last);
 }
 
-// The first `part` in `text` at or after `from`, or npos. Faster than string_view::find, which stops at each occurrence
-// of the first character.
+// The first `part` in `text` at or after `from`, which is at most the text's size; or npos. Faster than
+// string_view::find, which stops at each occurrence of the first character.
 [[nodiscard]] inline std::size_t findPart(std::string_view text, std::string_view part, std::size_t from = 0) noexcept {
     if (text.size() - from < part.size())
         return text.npos;
@@ -38,7 +38,7 @@ namespace Check {
 [[nodiscard]] constexpr bool isLineBreak(char32_t c) noexcept {
     return c == '\n' || c == '\r' || c == 0x85 || c == 0x2028 || c == 0x2029;
 }
-// Direction marks, joiners, the byte-order mark.
+// Direction marks, joiners, zero-width spaces, the byte-order mark.
 [[nodiscard]] constexpr bool isInvisible(char32_t c) noexcept {
     return c == 0x61C || (c >= 0x200B && c <= 0x200F) || (c >= 0x202A && c <= 0x202E) || (c >= 0x2060 && c <= 0x2069) ||
            c == 0xFEFF;

@@ -19,17 +19,16 @@ using SourceBundle::SourceTable;
 
 namespace {
 
+// The tables with development texts, sorted by name. `older`: those of an older source, or none.
 std::vector<CheckedTable> checkedTables(const Source& source, std::span<const CheckedTable> older) {
-    std::vector<const SourceTable*> tables;
-    for (const SourceTable& table : source.tables)
-        if (source.hasDevelopmentLanguage(table))
-            tables.push_back(&table);
     std::vector<CheckedTable> checked;
-    for (const SourceTable* table : tables) {
+    for (const SourceTable& table : source.tables) {
+        if (!source.hasDevelopmentLanguage(table))
+            continue;
         const auto before = std::ranges::lower_bound(
-            older, table->name, {}, [](const CheckedTable& other) -> std::string_view { return other.table->name; });
-        const bool isOld = before != older.end() && before->table->name == table->name;
-        checked.push_back({table, {source, *table, isOld ? &before->development : nullptr}});
+            older, table.name, {}, [](const CheckedTable& other) -> std::string_view { return other.table->name; });
+        const bool existed = before != older.end() && before->table->name == table.name;
+        checked.push_back({&table, {source, table, existed ? &before->development : nullptr}});
     }
     return checked;
 }
@@ -64,20 +63,26 @@ bool areSame(const Finding& one, const Finding& other) {
     return placeOf(one) == placeOf(other);
 }
 
-// Contradicting placeholders are also the reason why a text has no accessor.
-bool explains(const Finding& mismatch, const Finding& unnamed) {
-    return mismatch.rule == Rule::placeholderMismatch && unnamed.rule == Rule::unnamedKey &&
-           mismatch.file == unnamed.file && mismatch.subject == unnamed.subject;
+// Whether the finding says that a key has no accessor and an earlier one gives the likely reason: its placeholders
+// contradict each other.
+bool isExplained(const Finding& finding, std::span<const Finding> earlier) {
+    if (finding.rule != Rule::unnamedKey)
+        return false;
+    for (; !earlier.empty() && earlier.back().file == finding.file && earlier.back().subject == finding.subject;
+         earlier = earlier.first(earlier.size() - 1))
+        if (earlier.back().rule == Rule::placeholderMismatch)
+            return true;
+    return false;
 }
 
 std::vector<Finding> sorted(std::vector<Finding> findings) {
     std::ranges::sort(findings, [](const Finding& one, const Finding& other) { return placeOf(one) < placeOf(other); });
-    // Not std::ranges::unique: clang 14 cannot compile it with this standard library.
+    // Not std::ranges::unique: clang 14 cannot compile that of libstdc++.
     findings.erase(std::unique(findings.begin(), findings.end(), areSame), findings.end());
-    // Findings of one key are adjacent, errors first.
+    // The findings about one key are adjacent, errors first.
     std::vector<Finding> kept;
     for (Finding& finding : findings)
-        if (kept.empty() || !explains(kept.back(), finding))
+        if (!isExplained(finding, kept))
             kept.push_back(std::move(finding));
     return kept;
 }
@@ -87,7 +92,8 @@ std::vector<Finding> sorted(std::vector<Finding> findings) {
 std::vector<Finding> check(const Source& source, const Options& options, Diagnostics& diagnostics) {
     Diagnostics others;
     const Settings settings = Settings::read(options.folders, options.disabled, others);
-    // Runs in parallel, because names and assets take as long as all texts.
+    // Runs beside the checks of texts, because names and assets take as long as all of these. The model does not depend
+    // on the module's name.
     auto modelling = std::async(std::launch::async | std::launch::deferred, [&] {
         return Generator::modelOf(source, {.module = "Module", .names = options.names}, diagnostics);
     });

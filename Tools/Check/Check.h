@@ -1,6 +1,6 @@
 // Check/Check.h
 // Finds faults in a source.
-// Threads: uses all processors; does not change the source.
+// Threads: any; uses all processors.
 #pragma once
 
 #include "Check/Finding.h"
@@ -15,12 +15,12 @@ struct Options {
     std::vector<std::filesystem::path> folders{}; // of the source; their settings files are read
     std::filesystem::path names{};                // see Generator::NamesFile; empty: none
     RuleSet disabled{};
-    const SourceBundle::Source* older = nullptr; // development texts are compared with it
-    std::vector<std::filesystem::path> usedIn{}; // C++ sources that use accessors; empty: usage is not checked
+    const SourceBundle::Source* older = nullptr; // with which development texts are compared, or null
+    std::vector<std::filesystem::path> usedIn{}; // folders of code; empty: the use of accessors is not checked
 };
 
-// The findings, sorted by file and location. `diagnostics` has the messages about reading the source: those that are
-// findings are removed, and other problems are added.
+// The findings, sorted by file and location. `diagnostics` has the messages about reading the source. Afterwards it has
+// only the warnings and errors that are not findings, with those about the settings, the names file and the code.
 [[nodiscard]] std::vector<Finding> check(const SourceBundle::Source& source, const Options& options,
                                          SourceBundle::Diagnostics& diagnostics);
 

@@ -26,8 +26,10 @@ public:
                      const DevelopmentTexts* older);
 
     [[nodiscard]] const std::vector<DevelopmentText>& all() const noexcept { return texts_; }
+    // The key's text, or null.
     [[nodiscard]] const DevelopmentText* find(std::string_view key) const;
-    // The same, but first looks at the text after `last`, because most languages have their keys in the same order.
+    // The same, but first looks at the text after `last` (one of these texts, or null), because most languages have
+    // their keys in the same order.
     [[nodiscard]] const DevelopmentText* findAfter(const DevelopmentText* last, std::string_view key) const;
 
     // Whether a file of the development texts is unreadable, so texts may be missing.

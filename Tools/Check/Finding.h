@@ -12,9 +12,9 @@ namespace Check {
 struct Finding {
     Rule rule;
     std::string file;
-    std::uint32_t line = 0;   // counted from 1; 0 if the file has no lines
-    std::uint32_t column = 0; // in characters, counted from 1
-    std::string language{};   // "de"; empty for an asset
+    std::uint32_t line = 0;   // counted from 1; 0 for a whole file or a binary one
+    std::uint32_t column = 0; // in characters, counted from 1, or 0
+    std::string language{};   // "de"; empty for an asset, or for a string catalog in all its languages
     std::string subject{};    // the key or the asset's name, or empty
     std::string message{};
 };

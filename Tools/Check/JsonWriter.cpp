@@ -22,7 +22,7 @@ std::string asJson(std::span<const Finding> findings, Severity lowest) {
                            {"key", finding.subject},
                            {"message", finding.message}});
     }
-    // Paths may be invalid UTF-8.
+    // Paths may be invalid UTF-8, which dump() would otherwise reject.
     return all.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

@@ -18,6 +18,7 @@ bool isOneOf(const std::array<std::string_view, count>& languages, std::string_v
 constexpr std::array<std::string_view, 13> repeating = {"bn", "fa", "gu", "hi", "kn", "ml", "mr",
                                                         "pa", "ta", "te", "tr", "ur", "vi"};
 
+// Language, and a word of it that may follow itself.
 constexpr std::pair<std::string_view, std::string_view> repeatable[] = {
     {"da", "de"},  {"da", "det"},  {"de", "das"},  {"de", "der"},  {"de", "die"}, {"de", "sie"},
     {"en", "had"}, {"en", "that"}, {"fr", "nous"}, {"fr", "vous"}, {"hu", "az"},  {"hu", "ez"},
@@ -113,6 +114,7 @@ Mark lastMark(std::string_view text, std::string_view tag) noexcept {
         last = takeLastCharacter(text);
     while (last != 0 && (isSpace(last) || isInvisible(last) || isClosing(last)));
     const Mark mark = markOf(last, primaryLanguage(tag) == "el");
+    // `text` now ends before the mark.
     return mark == Mark::fullStop && text.ends_with("..") ? Mark::ellipsis : mark;
 }
 

@@ -10,7 +10,8 @@ namespace Check {
 // "pt" for "pt-BR".
 [[nodiscard]] std::string_view primaryLanguage(std::string_view tag) noexcept;
 
-// Whether both differ only in their region ("en-GB", "en"), so that readers of one can read the other.
+// Whether both are the same language, perhaps of different regions ("en-GB", "en"), so that readers of one can read the
+// other. Serbian and Chinese, whose regions use different scripts, must have equal tags.
 [[nodiscard]] bool areVariants(std::string_view one, std::string_view other) noexcept;
 
 // Whether words are written without spaces between them: Chinese, Japanese, Thai, Lao, Khmer, Burmese.
@@ -22,9 +23,10 @@ namespace Check {
 // Whether `word`, in lower case, may follow itself in a correct sentence.
 [[nodiscard]] bool mayRepeat(std::string_view word, std::string_view tag) noexcept;
 
-// The kind of punctuation mark at the end of a text, in any script; `none` for other characters.
+// The punctuation mark at the end of a text, also that of another script: U+3002 is a full stop. `none` if the text
+// ends with another character.
 enum class Mark { none, fullStop, question, exclamation, colon, semicolon, comma, ellipsis };
-// The last mark of `text`, ignoring white space, quotation marks and brackets after it.
+// The mark at the end of `text`, ignoring white space, invisible characters, quotation marks and brackets after it.
 [[nodiscard]] Mark lastMark(std::string_view text, std::string_view tag) noexcept;
 
 } // namespace Check

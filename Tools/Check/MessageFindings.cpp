@@ -4,6 +4,7 @@
 #include "SourceBundle/SetContents.h"
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace Check {
 
@@ -19,7 +20,7 @@ using SourceBundle::Topic;
 
 namespace {
 
-// No value for messages that are not faults of the source or are found by another rule.
+// No value if no rule reports the message, or if checks of the texts find the same fault.
 std::optional<Rule> ruleFor(Topic topic) {
     switch (topic) {
     case Topic::unreadableTable:
@@ -52,31 +53,39 @@ public:
         for (const SourceTable& table : source.tables)
             for (const LanguageTexts& texts : table.languages)
                 for (const TableFile* file : texts.files)
-                    known_.try_emplace(file->path.native(), Known{&texts, file->kind});
+                    known_.try_emplace(file->path.native(), Known{file->kind, {}})
+                        .first->second.texts.push_back(&texts);
     }
 
+    // Empty for a string catalog, and for a file outside of language folders.
     std::string languageOf(const fs::path& file) const {
         const auto found = known_.find(file.native());
-        if (found == known_.end())
+        if (found == known_.end()) // an asset, or a table that was not read
             return file.parent_path().extension() == ".lproj"
                        ? SourceBundle::languageNamed(file.parent_path().stem().string())
                        : "";
-        return found->second.kind == TableFile::Kind::catalog ? "" : found->second.texts->language;
+        return found->second.kind == TableFile::Kind::catalog ? "" : found->second.texts.front()->language;
     }
+    // The key's entry, for a string catalog in any language; or null.
     const SourceEntry* entryOf(const fs::path& file, std::string_view key) const {
         const auto found = known_.find(file.native());
-        return found == known_.end() ? nullptr : found->second.texts->find(key);
+        if (found != known_.end())
+            for (const LanguageTexts* texts : found->second.texts)
+                if (const SourceEntry* entry = texts->find(key))
+                    return entry;
+        return nullptr;
     }
 
 private:
     struct Known {
-        const LanguageTexts* texts;
         TableFile::Kind kind;
+        std::vector<const LanguageTexts*> texts; // one, or those of all languages in a string catalog
     };
     Runtime::NameMap<Known> known_;
 };
 
-// A message about a whole set is located in its Contents.json.
+// A message about a whole set names its folder, but the finding is in the set's Contents.json. (A folder that is named
+// like a table is no set.)
 Runtime::Error placeOf(const Runtime::Error& what, Topic topic) {
     std::error_code failed;
     if (topic == Topic::unreadableTable || what.line != 0 || !fs::is_directory(what.file, failed))

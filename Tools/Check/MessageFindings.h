@@ -8,7 +8,8 @@
 
 namespace Check {
 
-// Reports each of `messages` that is a fault; other warnings and errors are added to `others`.
+// Reports the messages that belong to one of these rules. Other warnings and errors are added to `others`, except those
+// about lone percent signs, which checkPlaceholders() finds.
 void takeFindings(const SourceBundle::Source& source, const SourceBundle::Diagnostics& messages, Report& report,
                   SourceBundle::Diagnostics& others);
 

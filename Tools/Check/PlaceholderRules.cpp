@@ -16,8 +16,8 @@ void checkChange(const Text& text, Report& report) {
                     quote(text.entry.key) + " takes " + own.arguments.text() + "; it took " + own.before->text());
 }
 
-// Nothing is reported for a translation that matches the older development text, where the change is at fault, nor for
-// one of a development text that has an error of its own.
+// Whether the translation's arguments are correct, or the development text is at fault: its placeholders contradict
+// each other, or it has changed and the translation fits the older one.
 bool fits(const Arguments& arguments, const DevelopmentText& development) {
     return development.arguments.signature.conflict || arguments.fits(development.arguments) ||
            (development.before && arguments.fits(*development.before));
@@ -26,8 +26,7 @@ bool fits(const Arguments& arguments, const DevelopmentText& development) {
 } // namespace
 
 void checkPlaceholders(const Text& text, Report& report) {
-    const bool isPlain = text.entry.plural == nullptr && text.entry.text.find('%') == std::string_view::npos;
-    const Arguments arguments = isPlain ? Arguments() : argumentsOf(text.entry);
+    const Arguments arguments = argumentsOf(text.entry);
     if (!arguments.lonePercent.empty())
         text.report(report, Rule::lonePercent,
                     quote(text.entry.key) + " has " + quote(arguments.lonePercent) +

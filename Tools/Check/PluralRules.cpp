@@ -18,7 +18,8 @@ constexpr std::uint8_t bitOf(PluralCategory category) noexcept {
     return static_cast<std::uint8_t>(1U << Intl::indexOf(category));
 }
 
-// The rules are periodic within these numbers, except those for whole thousands and millions.
+// Whole numbers up to 200 and tenths up to 3.0 have all plural categories of every language, except those for whole
+// millions only.
 constexpr int mostWhole = 200, mostTenths = 30;
 
 std::uint8_t categoryBit(std::string_view language, const std::string& number) {

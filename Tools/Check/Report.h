@@ -1,6 +1,6 @@
 // Check/Report.h
-// Collects the findings of a group of rules and drops those of disabled rules.
-// Threads: one thread per report; several reports may share their settings.
+// Collects findings and drops those of disabled rules.
+// Threads: one thread per report; several reports may share their settings. Ownership: the settings must outlive it.
 #pragma once
 
 #include "Check/Finding.h"
@@ -21,7 +21,8 @@ public:
         if (settings_.isOn(finding))
             findings_.push_back(std::move(finding));
     }
-    // Adds a finding about a text, unless the comment of the text or of the `development` text allows the rule.
+    // Adds a finding about a text, unless its comment or that of the `development` text (which may be null) allows the
+    // rule.
     void add(Rule rule, const SourceBundle::SourceEntry& entry, std::string_view language, std::string message,
              const SourceBundle::SourceEntry* development = nullptr) {
         if (isAllowed(rule, entry) || (development != nullptr && isAllowed(rule, *development)))

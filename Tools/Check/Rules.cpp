@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::array<RuleInfo, ruleCount> rules = {{
     {Rule::unreadableTable, "unreadable-table", Severity::error, "a table cannot be read",
-     "Correct the file at the place that the message names; until then its texts are missing at run time."},
+     "Correct the file at the place that the message names; until then the source cannot be compiled."},
     {Rule::placeholderMismatch, "placeholder-mismatch", Severity::error,
      "the placeholders are not those of the development text",
      "Give the text placeholders of the same kinds as the development text; number them (%1$@) where the order "
@@ -27,7 +27,7 @@ constexpr std::array<RuleInfo, ruleCount> rules = {{
      "Translate the text; until then users read the development text."},
     {Rule::unknownKey, "unknown-key", Severity::warning, "a language has a key that the development texts do not have",
      "Remove the key, correct its spelling, or add it to the development texts."},
-    {Rule::duplicateKey, "duplicate-key", Severity::warning, "a key appears again in the same table",
+    {Rule::duplicateKey, "duplicate-key", Severity::warning, "a key appears again in the same file",
      "Remove all but one of the entries; the last one is used."},
     {Rule::lonePercent, "lone-percent", Severity::warning, "a percent sign is not written as %%",
      "Write %% for a percent sign."},
@@ -37,7 +37,7 @@ constexpr std::array<RuleInfo, ruleCount> rules = {{
     {Rule::newlineMismatch, "newline-mismatch", Severity::warning,
      "the text has more or fewer line breaks than the development text",
      "Break the lines as the development text does."},
-    {Rule::nameClash, "name-clash", Severity::warning, "two keys or assets would have the same name",
+    {Rule::nameClash, "name-clash", Severity::warning, "two keys, assets or tables would have the same name in C++",
      "Rename one of them, or name its accessor in the names file."},
     {Rule::unnamedKey, "unnamed-key", Severity::warning, "a key or an asset has no accessor",
      "Correct what the message says, or name the accessor in the names file."},

@@ -14,7 +14,7 @@ namespace Check {
 
 using SourceBundle::Severity;
 
-// In report order: by severity, then as in the table of rules.
+// In report order: errors, warnings, notes.
 enum class Rule : std::uint8_t {
     unreadableTable,
     placeholderMismatch,

@@ -64,7 +64,8 @@ public:
     }
 
 private:
-    // A hash of rule, file, language and key, which stays when lines move. Equal hashes get a running number.
+    // A hash of rule, file, language and key, so that it is the same when lines move. Findings with equal hashes are
+    // numbered.
     std::string fingerprint(const Finding& finding, const RuleInfo& rule, const std::string& uri) {
         std::string identity(rule.name);
         for (const std::string& part : {uri, finding.language, finding.subject})

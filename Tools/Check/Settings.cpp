@@ -47,7 +47,7 @@ public:
         return json;
     }
 
-    // The rules in the list `json`.
+    // The rules whose names are in the list `json`.
     RuleSet rules(const Json& json) {
         RuleSet rules;
         if (!json.is_array())
@@ -63,7 +63,7 @@ public:
         return rules;
     }
 
-    // The lists in the object `name`, by member.
+    // The rules in the lists of the object `name`, by language or asset.
     std::map<std::string, RuleSet> rulesByName(const Json& json, const char* name) {
         std::map<std::string, RuleSet> all;
         if (!json.contains(name))
@@ -106,11 +106,11 @@ Settings::Folder Settings::readFolder(const fs::path& folder, Diagnostics& diagn
 
 bool Settings::isOn(const Finding& finding) const {
     const auto number = static_cast<std::size_t>(finding.rule);
-    const auto has = [&](const Rules& rules, const std::string& name) {
+    const auto has = [&](const RulesByName& rules, const std::string& name) {
         const auto found = rules.find(name);
         return found != rules.end() && found->second[number];
     };
-    // A finding without a language is about an asset.
+    // A finding without a language is about an asset, or a key of a string catalog in all languages.
     const auto isOff = [&](const Folder& folder) {
         return folder.disabled[number] || (finding.language.empty() ? has(folder.byAsset, finding.subject)
                                                                     : has(folder.byLanguage, finding.language));
@@ -121,7 +121,7 @@ bool Settings::isOn(const Finding& finding) const {
 }
 
 RuleSet allowedBy(std::string_view comment, std::vector<std::string_view>* unknown) {
-    constexpr std::string_view separators = ", \t", nameCharacters = "abcdefghijklmnopqrstuvwxyz-";
+    constexpr std::string_view separators = ", \t", nameCharacters = "abcdefghijklmnopqrstuvwxyz-", ends = ", \t\r\n";
     RuleSet rules;
     for (std::size_t mark = findPart(comment, allowMark); mark != comment.npos;
          mark = findPart(comment, allowMark, mark)) {
@@ -137,7 +137,7 @@ RuleSet allowedBy(std::string_view comment, std::vector<std::string_view>* unkno
             if (rule)
                 add(rules, *rule);
             else if (isListed && unknown != nullptr)
-                unknown->push_back(name);
+                unknown->push_back(rest.substr(0, rest.find_first_of(ends)));
             if (!rule)
                 break;
             rest.remove_prefix(name.size());

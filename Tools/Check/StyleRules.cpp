@@ -65,7 +65,7 @@ bool isWord(std::string_view token) {
     return hasLetter;
 }
 
-// Whether `token` is `word`, ignoring case and punctuation after it.
+// Whether `token` begins with `word`, which ends there, ignoring case.
 bool repeats(std::string_view word, std::string_view token) {
     while (!word.empty()) {
         if (token.empty())
@@ -116,8 +116,8 @@ std::string_view repeatedWord(const SourceEntry& entry, std::string_view languag
 
 // Whether there is something to translate: letters outside of placeholders, and not just a web or mail address.
 bool isProse(std::string_view text) {
-    const bool isOneWord = text.find(' ') == text.npos;
-    if (isOneWord && (text.find("://") != text.npos || text.starts_with("www.")))
+    const bool hasSpace = text.find(' ') != text.npos;
+    if (!hasSpace && (text.find("://") != text.npos || text.starts_with("www.")))
         return false;
     std::size_t at = 0;
     const auto hasLetter = [](std::string_view part) {
@@ -132,10 +132,10 @@ bool isProse(std::string_view text) {
         at = placeholder->end;
     }
     const std::string_view rest = text.substr(at);
-    return hasLetter(rest) && !(isOneWord && rest.find('@') != rest.npos);
+    return hasLetter(rest) && (hasSpace || rest.find('@') == rest.npos);
 }
 
-// Whether the text has at most one word, so that a full stop marks an abbreviation such as "sec.".
+// Whether the text has at most one word besides placeholders, so that a full stop may mark an abbreviation: "%d sec.".
 bool isOneWord(std::string_view text) {
     int words = 0;
     for (std::string_view token = takeToken(text); !token.empty(); token = takeToken(text))
@@ -180,7 +180,7 @@ void checkStyle(const Text& text, Report& report) {
 }
 
 std::vector<std::vector<SharedText>> sharedTexts(std::span<const CheckedTable> tables) {
-    Runtime::NameMap<std::size_t, std::string_view> numbers;
+    Runtime::NameMap<std::size_t, std::string_view> numbers; // of the groups in `all`, by text
     std::vector<std::vector<SharedText>> all;
     for (const CheckedTable& table : tables)
         for (const DevelopmentText& text : table.development.all()) {
@@ -200,7 +200,7 @@ namespace {
 // The texts of each table in one language; null where it has none.
 using TextsByTable = std::unordered_map<const SourceBundle::SourceTable*, const LanguageTexts*>;
 
-// The translation of a development text, or null.
+// The translation of a development text, or null if it has none, is a plural, or equals the development text.
 const SourceEntry* translationOf(const SharedText& text, const TextsByTable& translations) {
     const LanguageTexts* texts = translations.at(text.table);
     const SourceEntry* entry = texts == nullptr ? nullptr : texts->find(text.entry->key);

@@ -35,9 +35,10 @@ bool endsWithSpace(std::string_view text) {
     return false;
 }
 
-// "begins with", or an empty string if nothing is wrong.
+// "begins with" or "begins without", or an empty string if nothing is wrong.
 std::string differenceOf(const char* verb, bool hasOwn, bool hasOther, const Text& text) {
-    // Of two languages, the one that writes without spaces may omit it.
+    // If only one of the languages writes without spaces, its text may omit the space. `spaced` is the language whose
+    // text has it.
     const auto [spaced, other] = hasOwn ? std::pair(text.languages.own, text.languages.development)
                                         : std::pair(text.languages.development, text.languages.own);
     const bool isFault = hasOwn != hasOther && (writesWithoutSpaces(spaced) || !writesWithoutSpaces(other));
@@ -54,7 +55,7 @@ void checkEdges(const Text& text, Report& report) {
                         " a space, unlike the development text");
 }
 
-// Counts line breaks; "\r\n" is one.
+// Counts "\n", "\r" and "\r\n".
 std::size_t lineBreaks(std::string_view text) {
     auto count = static_cast<std::size_t>(std::ranges::count(text, '\n'));
     for (std::size_t at = text.find('\r'); at != text.npos; at = text.find('\r', at + 1))
@@ -122,8 +123,8 @@ private:
     void checkText(const Text& text) {
         if (text.development == nullptr)
             return checkUnknown(text);
-        const bool isUntranslatedBlank = text.entry.text.empty() && !text.development->entry->text.empty();
-        if (isUntranslatedBlank)
+        const bool isEmptyTranslation = text.entry.text.empty() && !text.development->entry->text.empty();
+        if (isEmptyTranslation) // checkKeys() reports it
             return;
         checkPlaceholders(text, report_);
         if (!checkPluralForms(text, needed_, report_))
@@ -151,13 +152,14 @@ private:
                         .language = texts_.language,
                         .subject = std::string(development.key),
                         .message = quote(development.key) + " has no text in " + texts_.language};
-        // A string catalog contains the key.
+        // In a string catalog the key has one place for all languages.
         if (development.file->kind != TableFile::Kind::catalog)
             placeInLanguage(finding, development.file->kind, before);
         report_.add(std::move(finding));
     }
 
-    // Places a missing text behind the preceding key, or at the beginning of the language's file of that kind.
+    // Moves the finding to the line of the preceding key, or to the beginning of the language's file of that kind, or
+    // of any file of the language.
     void placeInLanguage(Finding& finding, TableFile::Kind kind, const SourceEntry* before) {
         const auto found = std::ranges::find(texts_.files, kind, &TableFile::kind);
         const TableFile* own = found == texts_.files.end() ? nullptr : *found;
@@ -177,14 +179,15 @@ private:
     NeededForms needed_{};
 };
 
-// A missing table is reported once.
+// Reports a missing table once, instead of each of its keys.
 Coverage reportMissingTable(const CheckedTable& table, std::string_view language, Report& report) {
     Coverage coverage;
     const SourceEntry* first = nullptr;
     for (const DevelopmentText& text : table.development.all())
-        if (needsTranslation(*text.entry) && !Report::isAllowed(Rule::missingKey, *text.entry)) {
-            first = first == nullptr ? text.entry : first;
+        if (needsTranslation(*text.entry)) {
             ++coverage.all;
+            if (first == nullptr && !Report::isAllowed(Rule::missingKey, *text.entry))
+                first = text.entry;
         }
     if (first != nullptr)
         report.add({.rule = Rule::missingKey,

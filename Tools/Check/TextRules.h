@@ -1,5 +1,5 @@
 // Check/TextRules.h
-// The rules for texts; each source file has a group of them.
+// The rules for texts; each of PlaceholderRules.cpp, PluralRules.cpp, StyleRules.cpp and TableRules.cpp has some.
 // Threads: functions only read the source and write to their report.
 #pragma once
 
@@ -14,18 +14,18 @@
 
 namespace Check {
 
-// The languages of a text and its development text. Base is in the development language.
+// The languages of a text and its development text. Texts in Base.lproj are in the development language.
 struct LanguagePair {
     std::string_view own;
     std::string_view development;
-    bool isTranslation; // from `development` into `own`
+    bool isTranslation; // see isTranslation() below
 };
 
-// One text with its language and its development text, or null if the key has none.
+// One text.
 struct Text {
     const SourceBundle::SourceEntry& entry;
-    std::string_view language;
-    const DevelopmentText* development;
+    std::string_view language;          // as in the name of its folder, perhaps "Base"
+    const DevelopmentText* development; // of the same key, or null
     const LanguagePair& languages;
 
     // Whether this is the development text itself.
@@ -38,7 +38,7 @@ struct Text {
 // placeholder-mismatch, changed-placeholder, lone-percent.
 void checkPlaceholders(const Text& text, Report& report);
 
-// The plural forms that a language needs, as bit sets of categories. Categories for large numbers only, such as whole
+// The plural forms that a language needs, as bit sets by category. Categories for large numbers only, such as whole
 // millions in French, are not required, because `other` is acceptable for them.
 struct NeededForms {
     std::uint8_t ofWhole;    // of a variable that takes an integer
@@ -55,7 +55,7 @@ void checkWording(const Text& text, Report& report);
 // untranslated, punctuation-mismatch; not for the development text itself.
 void checkStyle(const Text& text, Report& report);
 
-// The number of texts and of translated ones.
+// The number of texts to be translated, and of those that are.
 struct Coverage {
     std::size_t all = 0;
     std::size_t translated = 0;

@@ -30,7 +30,11 @@ std::string summary(const std::array<std::size_t, 3>& counts, Severity lowest) {
     std::string line = "lumora: " + count(Severity::error) + ", " + count(Severity::warning);
     if (counts[static_cast<std::size_t>(Severity::note)] != 0)
         line += ", " + count(Severity::note);
-    if (lowest != Severity::note && (counts[0] != 0 || (lowest == Severity::error && counts[1] != 0)))
+    std::size_t hidden = 0;
+    for (const Severity severity : {Severity::note, Severity::warning})
+        if (severity < lowest)
+            hidden += counts[static_cast<std::size_t>(severity)];
+    if (hidden != 0)
         line.append(" (--level note shows all)");
     return line + "\n";
 }
@@ -46,18 +50,18 @@ std::string asText(std::span<const Finding> findings, Severity lowest, bool isCo
     }
     std::string text;
     for (const RuleInfo& rule : allRules()) {
-        const auto& its = byRule[static_cast<std::size_t>(rule.rule)];
-        if (its.empty() || rule.severity < lowest)
+        const auto& found = byRule[static_cast<std::size_t>(rule.rule)];
+        if (found.empty() || rule.severity < lowest)
             continue;
         text.append(isColored ? bold(rule.name) : rule.name)
             .append(": ")
             .append(rule.summary)
             .append(" (")
-            .append(std::to_string(its.size()))
+            .append(std::to_string(found.size()))
             .append(")\n");
         const std::string severity = std::string(nameOf(rule.severity)) + ":";
         const std::string label = isColored ? SourceBundle::colored(severity, rule.severity) : severity;
-        for (const Finding* finding : its)
+        for (const Finding* finding : found)
             text.append("  ")
                 .append(placeOf(*finding))
                 .append(": ")

@@ -19,16 +19,17 @@ using SourceBundle::Diagnostics;
 
 namespace {
 
-constexpr std::size_t maxSourceBytes = std::size_t{64} << 20;
+constexpr std::size_t maxCodeBytes = std::size_t{64} << 20;
 
 struct Accessor {
     std::string_view name;
     std::string_view group;                           // the innermost namespace
     Finding finding;                                  // reported if it is not used
-    const SourceBundle::SourceEntry* entry = nullptr; // of a text
+    const SourceBundle::SourceEntry* entry = nullptr; // null for an asset
     bool isUsed = false;
 };
 
+// "C" for "A::B::C".
 std::string_view innermost(std::string_view groups) {
     const std::size_t colon = groups.rfind(':');
     return groups.substr(colon == groups.npos ? 0 : colon + 1);
@@ -97,40 +98,40 @@ private:
     Runtime::NameMap<std::vector<std::size_t>, std::string_view> byName_;
 };
 
-bool isSource(const fs::path& file) {
+bool isCodeFile(const fs::path& file) {
     static constexpr std::array<std::string_view, 19> extensions = {
         ".c",   ".C",   ".cc",  ".cpp", ".cppm", ".cxx", ".c++", ".h",  ".H",  ".hh",
         ".hpp", ".hxx", ".h++", ".inc", ".inl",  ".ipp", ".ixx", ".mm", ".tpp"};
     return std::ranges::find(extensions, file.extension().string()) != extensions.end();
 }
 
-// The sources below `tree`, except in hidden folders; links are not followed.
-std::vector<fs::path> sourcesIn(const fs::path& tree, Diagnostics& diagnostics) {
+// The C and C++ files in the folder and its subfolders, sorted, without hidden ones. Links to folders are not followed.
+std::vector<fs::path> codeFilesIn(const fs::path& folder, Diagnostics& diagnostics) {
     std::vector<fs::path> files;
     std::error_code failed;
-    fs::recursive_directory_iterator at(tree, failed);
+    fs::recursive_directory_iterator at(folder, failed);
     for (const fs::recursive_directory_iterator end; !failed && at != end; at.increment(failed)) {
         const bool isHidden = at->path().filename().string().starts_with('.');
         std::error_code ignored;
         if (at->is_directory(ignored) && isHidden)
             at.disable_recursion_pending();
-        else if (!isHidden && at->is_regular_file(ignored) && isSource(at->path()))
+        else if (!isHidden && at->is_regular_file(ignored) && isCodeFile(at->path()))
             files.push_back(at->path());
     }
     if (failed)
-        diagnostics.add(Severity::error, {.message = "cannot be read: " + failed.message(), .file = tree});
+        diagnostics.add(Severity::error, {.message = "cannot be read: " + failed.message(), .file = folder});
     std::ranges::sort(files);
     return files;
 }
 
 } // namespace
 
-void checkUsage(const Model& model, std::string_view language, std::span<const fs::path> trees, Report& report,
+void checkUsage(const Model& model, std::string_view language, std::span<const fs::path> folders, Report& report,
                 Diagnostics& diagnostics) {
     Accessors accessors(model, language);
-    for (const fs::path& tree : trees)
-        for (const fs::path& file : sourcesIn(tree, diagnostics)) {
-            auto code = Runtime::readFile(file, maxSourceBytes);
+    for (const fs::path& folder : folders)
+        for (const fs::path& file : codeFilesIn(folder, diagnostics)) {
+            auto code = Runtime::readFile(file, maxCodeBytes);
             if (!code)
                 diagnostics.add(Severity::warning, std::move(code.error()));
             else if (!code->starts_with(Generator::generatedMark))

@@ -1,5 +1,5 @@
 // Check/Usage.h
-// unused-accessor: finds accessors that no source uses.
+// unused-accessor: finds accessors that no code uses.
 #pragma once
 
 #include "Check/Report.h"
@@ -10,10 +10,11 @@
 
 namespace Check {
 
-// Searches the identifiers of the C and C++ files in `trees` for the accessors' names, in one pass. Comments, literals
-// and files written by `lumora generate` are ignored. If several groups have an accessor with the same name,
-// `Cart::title` uses only that of Cart. An unreadable tree is an error. `language` is the development language.
-void checkUsage(const Generator::Model& model, std::string_view language, std::span<const std::filesystem::path> trees,
-                Report& report, SourceBundle::Diagnostics& diagnostics);
+// Searches the identifiers of the C and C++ files in these folders and their subfolders for the accessors' names.
+// Comments, literals, hidden files and folders, and files written by `lumora generate` are ignored. If several groups
+// have an accessor with the same name, `Cart::title` uses only that of Cart. An unreadable folder is an error, an
+// unreadable file a warning. `language` is the development language.
+void checkUsage(const Generator::Model& model, std::string_view language,
+                std::span<const std::filesystem::path> folders, Report& report, SourceBundle::Diagnostics& diagnostics);
 
 } // namespace Check
