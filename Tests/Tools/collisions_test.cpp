@@ -1,5 +1,5 @@
-// Names that were made to have one hash cost as little as others. The comparisons of long names are counted: a hash
-// table whose names all collide needs four times as many for twice the names.
+// Names that were made to have one hash cost as little as others. The test replaces memcmp and bcmp, which compare long
+// names, and counts their calls: a hash table whose names all collide needs four times as many for twice the names.
 #include "AssetCatalog/internal/Builder.h"
 #include "AssetCatalog/internal/Catalog.h"
 #include "AssetCatalog/internal/Layout.h"
@@ -59,6 +59,7 @@ std::size_t comparisonsIn(const std::function<void()>& work) {
     return comparisons - before;
 }
 
+// A hash and names that collide in it.
 struct Hash {
     int line;
     Names (*make)(std::size_t count);
@@ -69,7 +70,7 @@ const Hash hashes[] = {
     {__LINE__, CollidingNames::inCatalogHash},
 };
 
-// Twice the names need at most 2.4 times as many comparisons.
+// Twice the names need at most 2.4 times as many comparisons, plus a few that do not depend on their number.
 void expectLinear(const Hash& hash, const char* what, const std::function<void(const Names&)>& work) {
     const Names names = hash.make(many);
     work(Names(names.begin(), names.begin() + 8)); // whatever happens only once
@@ -138,7 +139,8 @@ TEST(Collisions, CostATableNothing) {
     }
 }
 
-// Keys that fill few buckets of the index exist, too. The index gives up before it has tried every displacement.
+// Hashes of keys that fill half of the index's 2,001 buckets, with 8 keys each: the index gives up before it has tried
+// every displacement.
 TEST(Collisions, EndTheSearchForAnIndex) {
     std::mt19937_64 random(1);
     std::vector<std::uint64_t> keys;

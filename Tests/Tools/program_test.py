@@ -86,7 +86,7 @@ class Program(unittest.TestCase):
         for word in ("something else", "x" * 5000):
             self.assertNotIn("did you mean", run(word)[2])
             self.assertNotIn("did you mean", run("text", word)[2])
-        # Each has every command, and is well-formed for the program that reads it, if that is installed.
+        # The man page and the completions have every command and option; the program that reads them, if installed, accepts them.
         commands = re.findall(r"^  ([a-z]+) ", run("help")[1].decode().split("Commands:")[1], re.M)
         self.assertEqual(set(commands), {*self.CALLS, "watch"})
         options = set()
@@ -189,6 +189,7 @@ class Program(unittest.TestCase):
                 ("--output: the name is empty", "compile", source, "-o", ""),
                 ("SOURCE: the name is empty", "generate", "", "--module", "M", "-o", "x"),
                 ("--output: the name is empty", "generate", source, "--module", "M", "-o", ""),
+                ("--depfile requires --depfile-target", "compile", source, "-o", "x", "--depfile", "d"),
                 ("unknown rule x", "check", source, "--disable", "x"), ("yaml", "check", source, "--format", "yaml"),
                 ("1 to 1000", "generate", source, "--module", "M", "-o", self.folder / "x", "--shards", "0"),
                 ("1 to 1000", "generate", source, "--module", "M", "-o", self.folder / "x", "--shards", "1001")):
@@ -198,13 +199,14 @@ class Program(unittest.TestCase):
                 self.assertIn(message, err)
                 self.assertLess(len(err), 200)
 
-    # A way to call each command so that it succeeds, in a folder with `src`; MADE is a file or folder that it writes.
+    # A way to call each command so that it succeeds, in a folder with `src`, a.strings and de.po; MADE is a file or folder that it
+    # writes. READS: the inputs of these calls, and the commands that fail without them.
     CALLS = {
         "text": ("text", "Continue"), "table": ("table", "a.strings", "-o", "MADE"), "assets": ("assets",),
         "generate": ("generate", "src", "--module", "Shop", "-o", "MADE"), "compile": ("compile", "src", "-o", "MADE"),
         "check": ("check", "src"), "accessors": ("accessors", "src", "--module", "Shop"),
         "asset": ("asset", "send", "-o", "MADE"), "gallery": ("gallery", "src", "-o", "MADE"),
-        "export": ("export", "src", "--language", "de", "-o", "MADE"), "import": ("import", "de.po", "--into", "src"), "help": ("help", "check")}
+        "export": ("export", "src", "--language", "de", "-o", "MADE"), "import": ("import", "--into", "src", "de.po"), "help": ("help", "check")}
     READS = {"a.strings": "table", "src": "generate compile check accessors gallery export import", "de.po": "import"}
 
     def test_every_command_ends_with_the_right_status(self):
@@ -243,7 +245,7 @@ class Program(unittest.TestCase):
                                           capture_output=True, text=True, timeout=60)
                     self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1), done.stderr)
                     self.assertTrue(done.stderr.startswith("standard output: error: cannot be written: "), done.stderr)
-        # A reader that goes away ends the program as it ends others; one who ignores the signal gets the error.
+        # If the reader of a pipe goes away, SIGPIPE ends the program, unless it has written all; if SIGPIPE is ignored, it fails.
         for script, expected in (('"$0" assets | head -1 >/dev/null; echo ${PIPESTATUS[0]}', ("0\n", "141\n")),
                                  ('trap "" PIPE; "$0" gallery -o - | true; echo ${PIPESTATUS[0]}', ("2\n",))):
             self.assertIn(subprocess.run(["bash", "-c", script, PROGRAM], capture_output=True, text=True, timeout=60).stdout, expected)
@@ -284,7 +286,7 @@ class Program(unittest.TestCase):
         self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle"), (0, b"", ""))
         self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
                          b"Hello, Bo\n")
-        # It has no assets and therefore no catalog. Without the bundle this is unknown.
+        # This bundle has no assets and therefore no catalog, which is no error; a missing bundle is one.
         bundle = self.folder / "Shop.bundle"
         self.assertEqual(run("assets", "--bundle", bundle), (0, b"", ""))
         self.assertEqual(run("asset", "send", "--bundle", bundle, "-o", "-"),
@@ -307,7 +309,7 @@ class Program(unittest.TestCase):
             {"appearance": "dark", "color-space": "display-p3", "components": [1, 0.2, 0.5, 1]}]})
         size = image["variants"][0].pop("bytes")
         self.assertEqual(image["variants"], [{"scale": 2, "language": "de", "width": 3, "height": 1, "points": [1.5, 0.5]}])
-        self.assertEqual(len(run("asset", "star big", "--bundle", bundle, "--language", "de", "-o", "-")[1]), size)
+        self.assertEqual(len(run("asset", "--bundle", bundle, "--language", "de", "star big", "-o", "-")[1]), size)
         for command, meant in ((("asset", "starbig", "--bundle", bundle, "-o", "-"), "star big"), (("assetz",), "assets"),
                                (("text", "--bundle", bundle, "diet.alldish"), "Diet.AllDish")):
             self.assertIn(f'did you mean "{meant}"?', run(*command)[2])
@@ -366,7 +368,8 @@ class Program(unittest.TestCase):
             self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "More", "files", count)[1], text)
 
     def versions(self):
-        """Two sources, "1" and "2"; returns the texts in all tables of the compiled one."""
+        """Writes two sources, "1" and "2", whose texts begin with that digit. Returns the first digits of all texts in App.bundle,
+        and the number of its tables."""
         for version in "12":
             for table in range(20):
                 self.write(f"{version}/Base.lproj/T{table}.strings",
@@ -398,7 +401,7 @@ class Program(unittest.TestCase):
             versions, count = self.versions()
             self.assertEqual((len(versions), count), (1, 20))
         self.assertGreater(killed, 0)
-        # The next one removes the leftovers of the killed ones.
+        # The next compile removes the leftovers of the killed ones.
         self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
         self.assertEqual({path.name for path in self.folder.iterdir() if next(path.iterdir(), None)}, {"1", "2", "App.bundle"})
 

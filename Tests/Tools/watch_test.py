@@ -45,7 +45,7 @@ class Watch(unittest.TestCase):
             pass
 
     def expect(self, text, *, language="en", key="a"):
-        """The next compiles give the bundle this text; a change may need two compiles."""
+        """Waits until the bundle has this text, after any number of compiles."""
         while self.text(language, key) != text:
             self.assertRegex(self.next(), "compiled in")
 
@@ -90,7 +90,7 @@ class Watch(unittest.TestCase):
         self.assertEqual(self.process.wait(timeout=60), 0)
 
     def test_ends_when_the_terminal_closes_and_watches_nothing_that_it_makes(self):
-        self.assertRaises(queue.Empty, self.lines.get, timeout=1)
+        self.assertRaises(queue.Empty, self.lines.get, timeout=1)  # the bundle in the source is no change
         self.process.send_signal(signal.SIGHUP)
         self.assertEqual(self.process.wait(timeout=60), 0)
         self.assertEqual({path.name for path in self.source.iterdir()}, {"en.lproj", "Made.bundle"})

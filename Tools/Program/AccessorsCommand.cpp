@@ -37,10 +37,10 @@ const char* nameOf(Parameter parameter) {
     return "";
 }
 
-// Lists accessors and left-out entries as JSON objects.
+// Lists accessors, and entries without one, as JSON objects.
 class Lister {
 public:
-    explicit Lister(const std::string& module) : tree_(module + "::" + module) {}
+    explicit Lister(const std::string& module) : prefix_(module + "::" + module) {}
 
     ordered_json list(const Model& model) {
         for (const AccessorTable& table : model.tables) {
@@ -50,7 +50,7 @@ public:
                 add(table, *source, nullptr, {}, reason);
         }
         for (const auto& constant : model.assetTree.constants)
-            add(*constant.asset, tree_ + "Asset::" + constant.groups + "::" + constant.name, {});
+            add(*constant.asset, prefix_ + "Asset::" + constant.groups + "::" + constant.name, {});
         for (const auto& [asset, reason] : model.assetTree.leftOut)
             add(*asset, nullptr, reason);
         return std::move(all_);
@@ -59,10 +59,11 @@ public:
 private:
     void add(const AccessorTable& table, const Generator::NamedEntry& entry) {
         const std::string groups = entry.groups.empty() ? "" : entry.groups + "::";
-        add(table, *entry.source, tree_ + "Strings::" + table.spelling + "::" + groups + entry.name, entry.parameters,
+        add(table, *entry.source, prefix_ + "Strings::" + table.spelling + "::" + groups + entry.name, entry.parameters,
             {});
     }
 
+    // `accessor`: null if there is none, for the `reason`.
     void add(const AccessorTable& table, const SourceEntry& entry, const ordered_json& accessor,
              const std::vector<Parameter>& parameters, const std::string& reason) {
         ordered_json json = {{"kind", "text"},
@@ -94,7 +95,7 @@ private:
         all_.push_back(std::move(json));
     }
 
-    std::string tree_;
+    std::string prefix_; // "Shop::Shop"
     ordered_json all_ = ordered_json::array();
 };
 
@@ -103,7 +104,7 @@ std::string visible(const ordered_json& text) {
 }
 
 // A line with kind, accessor with its parameters (or "-"), table or catalog, key or name, and the reason if there is no
-// accessor.
+// accessor, separated by tabs.
 std::string lineOf(const ordered_json& accessor) {
     std::string parameters;
     if (accessor.contains("parameters"))

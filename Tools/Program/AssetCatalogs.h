@@ -8,8 +8,8 @@
 
 namespace Tools {
 
-// The catalog of the bundle at that path, or of the module's own bundle if the path is empty. No value when the bundle
-// has no assets. Errors: no such folder, a damaged catalog.
+// The catalog of the bundle at the path `bundle`, or of ownBundle() if the path is empty. No value if the bundle has no
+// assets. Errors: no such folder, an unreadable or damaged catalog.
 [[nodiscard]] Runtime::Result<std::optional<AssetCatalog::Catalog>> openCatalog(const std::string& bundle);
 
 } // namespace Tools

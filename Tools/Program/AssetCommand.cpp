@@ -42,7 +42,7 @@ Runtime::Result<std::string> blobText(const AssetCatalog::Blob& blob) {
     return std::string(bytes->begin(), bytes->end());
 }
 
-// The unchanged bytes of the variant; for a colour its colour space and components.
+// The unchanged bytes of the variant; for a colour, its colour space and components as JSON.
 Runtime::Result<std::string> variantText(const Entry& entry, std::size_t variant) {
     switch (entry.kind()) {
     case Kind::image:
@@ -55,6 +55,7 @@ Runtime::Result<std::string> variantText(const Entry& entry, std::size_t variant
     return colorText(entry.color(variant));
 }
 
+// The asset with this name; if there are several of different kinds, the image or else the colour.
 std::optional<Entry> findEntry(const Catalog& catalog, const std::string& name) {
     for (const Kind kind : {Kind::image, Kind::color, Kind::data})
         if (const auto index = catalog.find(kind, name))
@@ -98,7 +99,10 @@ void addAssetCommand(CLI::App& program, Exit& exit) {
     command->add_option("--scale", options->scale, "Pixels per point")
         ->check(CLI::Range(1U, 9U))
         ->capture_default_str();
-    command->add_option("--language", options->languages, "The variant for this language, such as pt-BR");
+    command
+        ->add_option("--language", options->languages,
+                     "The variant for this language, such as pt-BR (may be repeated; the first is preferred)")
+        ->allow_extra_args(false);
     command->add_option("-o,--output", options->output, "Where to write; - is standard output")
         ->required()
         ->check(notEmpty());

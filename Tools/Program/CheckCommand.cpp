@@ -46,22 +46,23 @@ std::string written(const std::vector<Finding>& findings, const CheckOptions& op
 }
 
 std::vector<Finding> find(const CheckOptions& options, Diagnostics& diagnostics) {
-    Check::Options rules{.folders = options.source.paths(),
-                         .names = options.source.names,
-                         .usedIn = {options.usedIn.begin(), options.usedIn.end()}};
+    Check::Options checked{.folders = options.source.paths(),
+                           .names = options.source.names,
+                           .usedIn = {options.usedIn.begin(), options.usedIn.end()}};
     for (const std::string& name : options.disabled)
-        rules.disabled.set(static_cast<std::size_t>(*Check::ruleNamed(name)));
+        checked.disabled.set(static_cast<std::size_t>(*Check::ruleNamed(name)));
     std::optional<Source> older;
     if (!options.since.empty()) {
         const std::filesystem::path folders[] = {options.since};
         Diagnostics messages;
-        rules.older = &older.emplace(Source::read(folders, options.source.options, messages));
+        checked.older = &older.emplace(Source::read(folders, options.source.options, messages));
+        // Warnings are for the current source; after an error, older texts may be missing.
         for (const SourceBundle::Diagnostic& message : messages.all())
             if (message.severity == Severity::error)
                 diagnostics.add(Severity::error, message.what);
     }
     const Source source = options.source.read(diagnostics);
-    return Check::check(source, rules, diagnostics);
+    return Check::check(source, checked, diagnostics);
 }
 
 Exit runCheck(const CheckOptions& options) {
@@ -70,7 +71,7 @@ Exit runCheck(const CheckOptions& options) {
     const Exit read = report(diagnostics);
     const Exit printed = print(written(findings, options));
     if (read != Exit::done || printed != Exit::done)
-        return Exit::wrongUse;
+        return Exit::failed;
     const bool hasError = std::ranges::any_of(
         findings, [](const Finding& finding) { return Check::infoOf(finding.rule).severity == Severity::error; });
     return hasError ? Exit::faultsFound : Exit::done;

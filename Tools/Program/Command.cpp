@@ -48,7 +48,7 @@ std::string fitted(std::string_view text, std::size_t columns) {
     return shown;
 }
 
-// "FILE:LINE:COLUMN", or the program's name without a file.
+// "FILE:LINE:COLUMN", or the program's name if the place is unknown.
 std::string placeOf(const Runtime::Error& what) {
     const std::string place = what.place();
     return place.empty() ? "lumora" : Generator::visibleText(place, std::string::npos);
@@ -101,7 +101,7 @@ bool hasColor(int stream) {
 
 Exit fail(const Runtime::Error& error) {
     writeMessage(Severity::error, error);
-    return Exit::wrongUse;
+    return Exit::failed;
 }
 
 void note(const Runtime::Error& what) {
@@ -124,7 +124,7 @@ Exit report(const SourceBundle::Diagnostics& diagnostics) {
                 writeMessage(severity, group);
         writeLine("lumora: " + count);
     }
-    return diagnostics.hasErrors() ? Exit::wrongUse : Exit::done;
+    return diagnostics.hasErrors() ? Exit::failed : Exit::done;
 }
 
 void ProgressLine::operator()(std::string_view what, std::size_t done, std::size_t all) {

@@ -21,7 +21,11 @@ namespace Tools {
 CLI::Validator notEmpty();
 
 // The exit status of the program.
-enum class Exit : int { done = 0, faultsFound = 1, wrongUse = 2 };
+enum class Exit : int {
+    done = 0,
+    faultsFound = 1, // by check or import
+    failed = 2       // wrong use, unreadable input, output that cannot be written
+};
 
 // Each adds its command to the program. When the command line selects it, the command runs and sets `exit`.
 void addTextCommand(CLI::App& program, Exit& exit);
@@ -46,15 +50,17 @@ std::vector<std::string> commandNames(const CLI::App& program);
 bool hasColor(int stream);
 
 // Write a message to standard error, on one line: "FILE:LINE:COLUMN: error: WHAT" with the known parts, or "lumora:
-// error: WHAT" without a file; colored on a terminal. Invisible characters are escaped.
+// error: WHAT" without a file; colored on a terminal. Invisible characters are escaped. fail() returns Exit::failed.
 Exit fail(const Runtime::Error& error);
 void note(const Runtime::Error& what);
 void note(std::string_view what);
-// Writes all diagnostics, errors last, with equal messages grouped, and a line with their numbers. A single diagnostic
-// has the numbers on its own line. Returns Exit::wrongUse if there are errors.
+// Writes all diagnostics to standard error: notes, warnings, errors, those with equal messages together; then a line
+// with the numbers of errors and warnings. A single diagnostic has the numbers on its own line. Returns Exit::failed if
+// there are errors.
 Exit report(const SourceBundle::Diagnostics& diagnostics);
 
-// A line on the terminal that shows the current step of work that lasts for more than a second.
+// A line on the terminal (standard error) that shows the current step of work that lasts for more than a second.
+// Without a terminal nothing is shown.
 class ProgressLine {
 public:
     ProgressLine() = default;
@@ -70,7 +76,7 @@ private:
     bool isShown_ = false;
 };
 
-// Writes to standard output; reports an error when that fails.
+// Writes to standard output. If that fails, reports an error and returns Exit::failed; so does write().
 Exit print(std::string_view bytes);
 // Writes to the file given by the option -o, or to standard output for "-".
 Exit write(const std::string& output, std::string_view bytes);

@@ -14,11 +14,11 @@ namespace Tools {
 
 struct OptionInfo {
     std::vector<std::string> names;   // "-o", "--output"; for a positional argument its name, "SOURCE"
-    std::string value;                // the placeholder for its value in the man page; empty for a flag
+    std::string value;                // "VALUE" or "text|json"; empty for a flag or a positional argument
     std::vector<std::string> choices; // the allowed values; empty: any
     std::string description;
     bool isRequired = false;
-    bool isRepeated = false;
+    bool isRepeated = false; // may have several values
 };
 
 struct CommandInfo {

@@ -45,7 +45,8 @@ void addCompileCommand(CLI::App& program, Exit& exit) {
     command->add_option("-o,--output", options->output, "The bundle to write, NAME.bundle")
         ->required()
         ->check(notEmpty());
-    options->source.addNamesTo(*command); // ignored; for callers that pass the same options to generate and compile
+    // Not used, except in the depfile: for callers that pass the same options to generate and compile.
+    options->source.addNamesTo(*command);
     options->source.addPseudoTo(*command);
     command->add_flag("--strict", options->isStrict, "Treat warnings as errors");
     options->depfile.addOptions(*command);

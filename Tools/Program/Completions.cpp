@@ -31,7 +31,7 @@ std::vector<std::string> optionNames(const std::vector<OptionInfo>& options) {
     return names;
 }
 
-// The cases of a bash case statement for the options of `command` with fixed choices.
+// The cases of a bash case statement for the options of `command` with fixed choices: "check:--format) words=...".
 std::string bashChoices(const CommandInfo& command) {
     std::string out;
     for (const OptionInfo& option : command.options)
@@ -49,7 +49,7 @@ std::string zshEscaped(std::string text) {
     return text;
 }
 
-// "*--disable[DESCRIPTION]:VALUE:(a b)", for the function _arguments.
+// "--format[DESCRIPTION]:value:(text json)", for the function _arguments; it begins with "*" if it may be repeated.
 std::string zshOption(const OptionInfo& option, const std::string& name) {
     std::string out = option.isRepeated ? "*" : "";
     out += name + "[" + zshEscaped(option.description) + "]";

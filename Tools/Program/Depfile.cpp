@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Escapes a path for a makefile: spaces, and characters that begin a comment or a variable.
+// Escapes a path for a makefile: spaces, backslashes, and characters that begin a comment or a variable.
 std::string escaped(std::string_view path) {
     std::string out;
     for (const char c : path) {
@@ -35,7 +35,10 @@ void appendPrerequisite(std::string& rule, const fs::path& path) {
 void Depfile::addOptions(CLI::App& command) {
     auto* file = command.add_option("--depfile", path, "Write a makefile rule with the files that this command reads")
                      ->check(notEmpty());
-    command.add_option("--depfile-target", target, "The target of the makefile's rule")->needs(file);
+    auto* ruleTarget =
+        command.add_option("--depfile-target", target, "The target of the makefile's rule")->check(notEmpty());
+    file->needs(ruleTarget);
+    ruleTarget->needs(file);
 }
 
 Runtime::Result<void> Depfile::write(const std::vector<std::string>& sources) const {

@@ -43,7 +43,7 @@ Exit runExport(const ExportOptions& options) {
     const auto language = Exchange::targetLanguage(source, options.language);
     if (!language)
         return fail({.message = "--language: \"" + options.language +
-                                "\" is not a language that the source is translated to; its own is " +
+                                "\" is not the code of a language other than the source's own, " +
                                 source.developmentLanguage});
     const Exchange::Translations translations =
         Exchange::translationsOf(source, options.source.paths(), *language, options.onlyMissing, diagnostics);

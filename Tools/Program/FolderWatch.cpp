@@ -23,10 +23,11 @@ namespace {
 // IN_ATTRIB: a change of permissions may make a file readable.
 constexpr std::uint32_t events = IN_CLOSE_WRITE | IN_ATTRIB | IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO |
                                  IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
-constexpr milliseconds quiet{50};          // without further changes, then the change is complete
-constexpr milliseconds longestBurst{1000}; // of consecutive changes
-constexpr milliseconds pollInterval{500};  // for a folder that is missing
+constexpr milliseconds quiet{50};          // if no change follows in this time, the changes are complete
+constexpr milliseconds longestBurst{1000}; // after this time, consecutive changes are reported although more follow
+constexpr milliseconds pollInterval{500};  // for missing folders
 
+// The absolute path without a trailing slash.
 fs::path normal(const fs::path& path) {
     const fs::path whole = fs::absolute(path).lexically_normal();
     return whole.has_filename() ? whole : whole.parent_path();
@@ -105,33 +106,35 @@ Runtime::Result<void> FolderWatch::watchBelow(const fs::path& folder, int depth)
     return {};
 }
 
-void FolderWatch::take(const inotify_event& event, std::string_view name) {
+bool FolderWatch::take(const inotify_event& event, std::string_view name) {
     if ((event.mask & IN_Q_OVERFLOW) != 0) {
         isStale_ = true;
         changed_.insert(folders_.begin(), folders_.end());
-        return;
+        return true;
     }
     const auto folder = watched_.find(event.wd);
     if (folder == watched_.end() || (event.mask & IN_IGNORED) != 0)
-        return;
+        return false;
     const fs::path path = name.empty() ? folder->second : folder->second / name;
     if (isIgnored(path))
-        return;
+        return false;
     changed_.insert(path);
     isStale_ |= (event.mask & (IN_ISDIR | IN_DELETE_SELF | IN_MOVE_SELF)) != 0;
+    return true;
 }
 
-void FolderWatch::readEvents() {
+bool FolderWatch::readEvents() {
+    bool isChanged = false;
     alignas(inotify_event) std::array<char, 65536> buffer;
     for (;;) {
         const ssize_t size = ::read(inotify_.number(), buffer.data(), buffer.size());
         if (size <= 0)
-            return;
+            return isChanged;
         for (std::size_t at = 0; at < static_cast<std::size_t>(size);) {
             inotify_event event{};
             std::memcpy(&event, buffer.data() + at, sizeof event);
             // The name is padded with NULs.
-            take(event, event.len == 0 ? "" : buffer.data() + at + sizeof event);
+            isChanged |= take(event, event.len == 0 ? "" : buffer.data() + at + sizeof event);
             at += sizeof event + event.len;
         }
     }
@@ -149,20 +152,19 @@ Runtime::Result<std::optional<std::set<fs::path>>> FolderWatch::wait(int stop) {
             most = pollInterval;
         if (waitFor(stop, inotify_.number(), most))
             return std::optional<std::set<fs::path>>();
-        const std::size_t known = changed_.size();
-        readEvents();
+        bool hasMore = readEvents();
         for (const fs::path& folder : std::set<fs::path>(missing_))
-            if (std::error_code failed; fs::is_directory(folder, failed)) {
+            if (std::error_code failed;
+                fs::is_directory(folder, failed) && ::access(folder.c_str(), R_OK | X_OK) == 0) {
                 changed_.insert(folder);
-                isStale_ = true;
+                hasMore = isStale_ = true;
             }
         if (isStale_)
             if (auto watched = watchAll(); !watched)
                 return std::move(watched.error());
         if (!isChanged)
             first = Clock::now();
-        const bool isQuiet = isChanged && changed_.size() == known;
-        if (isQuiet || (isChanged && Clock::now() - first > longestBurst))
+        if (isChanged && (!hasMore || Clock::now() - first > longestBurst))
             return std::optional(std::exchange(changed_, {}));
     }
 }

@@ -18,13 +18,15 @@ namespace Tools {
 
 class FolderWatch {
 public:
-    // Watches the folders at any depth, except hidden files and folders and everything at `output`. A deleted folder is
-    // watched again when it reappears. Fails when the system allows no more watches.
+    // Watches the folders and, as deeply as the source reader, their subfolders, except hidden files and folders and
+    // everything at `output`. A deleted folder is watched again when it reappears. Fails when the system allows no more
+    // watches.
     [[nodiscard]] static Runtime::Result<FolderWatch> create(const std::vector<std::filesystem::path>& folders,
                                                              const std::filesystem::path& output);
 
-    // Waits for a change and then until no more changes follow for a moment. Returns the changed files, or folders when
-    // the exact changes in them are unknown. No value when the descriptor `stop` becomes readable first.
+    // Waits for a change and then until no more changes follow for a moment, at most for a second. Returns the changed
+    // files, or folders when the exact changes in them are unknown. No value when the descriptor `stop` becomes
+    // readable first.
     [[nodiscard]] Runtime::Result<std::optional<std::set<std::filesystem::path>>> wait(int stop);
 
 private:
@@ -33,14 +35,15 @@ private:
     Runtime::Result<void> watchAll();
     Runtime::Result<void> watchBelow(const std::filesystem::path& folder, int depth);
     bool isIgnored(const std::filesystem::path& path) const;
-    void readEvents();
-    void take(const inotify_event& event, std::string_view name);
+    // Whether there was a change.
+    bool readEvents();
+    bool take(const inotify_event& event, std::string_view name);
 
     std::vector<std::filesystem::path> folders_;
     std::filesystem::path output_;
     Runtime::Descriptor inotify_;
     std::map<int, std::filesystem::path> watched_; // by watch descriptor
-    std::set<std::filesystem::path> missing_;      // of the folders
+    std::set<std::filesystem::path> missing_;      // those of folders_ that do not exist or are unreadable
     std::set<std::filesystem::path> changed_;
     bool isStale_ = false; // a folder was added or removed: watches must be updated
 };

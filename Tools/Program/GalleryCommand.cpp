@@ -87,7 +87,8 @@ Exit showSource(const GalleryOptions& options) {
     return writePage(options, source, bundle, {.title = title, .module = options.module, .names = std::move(names)});
 }
 
-// A damaged table does not prevent the page.
+// Shows the compiled bundle. If a table is damaged, the page is written without it, and the exit status is that of an
+// error.
 Exit showBundle(const GalleryOptions& options) {
     const fs::path bundle = options.bundle.empty() ? ownBundle() : options.bundle;
     const std::string name = options.module.empty() ? nameOf(bundle).stem().string() : options.module;

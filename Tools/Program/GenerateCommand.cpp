@@ -1,4 +1,4 @@
-// lumora generate: writes the typed trees of a source.
+// lumora generate: writes the C++ code of a module from a source.
 #include "Program/Command.h"
 #include "Program/Depfile.h"
 

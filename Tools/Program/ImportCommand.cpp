@@ -20,7 +20,7 @@ struct ImportOptions {
     Exchange::ImportOptions import;
 };
 
-// Unreadable input gives Exit::wrongUse, whatever else was found.
+// Adds the error and reports all: an error that stops the import gives Exit::failed, whatever faults were found before.
 Exit failWith(SourceBundle::Diagnostics& diagnostics, Runtime::Error error) {
     diagnostics.add(Severity::error, std::move(error));
     return report(diagnostics);
@@ -60,7 +60,7 @@ void addImportCommand(CLI::App& program, Exit& exit) {
     command->add_option("FILE", options->files, "A file written by lumora export and edited by translators")
         ->required()
         ->check(notEmpty());
-    options->source.addTo(*command, "--into")->required();
+    options->source.addTo(*command, "--into")->required()->allow_extra_args(false); // so that a FILE may follow it
     command->add_flag("--keep-going", options->import.keepGoing,
                       "Import all valid texts even if some are not valid; the exit status is still 1");
     command->callback([options, &exit] { exit = runImport(*options); });

@@ -6,8 +6,8 @@
 
 namespace Tools {
 
-// The path of the bundle beside the running program, in an installation or in a build tree; where it would be installed
-// if there is none.
+// The path of that bundle in the installation or the build tree of the running program; if neither has it, where it
+// would be installed.
 std::string ownBundle();
 
 } // namespace Tools

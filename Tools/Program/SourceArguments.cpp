@@ -6,8 +6,9 @@
 namespace Tools {
 
 CLI::Option* SourceArguments::addTo(CLI::App& command, const std::string& name) {
-    command.add_option("--development-language", options.developmentLanguage,
-                       "The language of the development texts (default: from Info.plist, or en)");
+    command.add_option(
+        "--development-language", options.developmentLanguage,
+        "The language of the development texts (default: that of Info.plist or a string catalog, or en)");
     return command
         .add_option(name, folders,
                     "Folders of resources, searched at any depth for *.lproj, *.xcstrings and *.xcassets")

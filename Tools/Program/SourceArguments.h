@@ -19,7 +19,8 @@ struct SourceArguments {
     SourceBundle::SourceOptions options;
     std::string names; // the names file, or empty
 
-    // Adds the arguments SOURCE..., or the option `name`, and --development-language. Returns the first.
+    // Adds the folders, as positional arguments SOURCE or as the option `name`, and --development-language. Returns the
+    // option for the folders.
     CLI::Option* addTo(CLI::App& command, const std::string& name = "SOURCE");
     // Adds --names.
     void addNamesTo(CLI::App& command);
@@ -27,7 +28,7 @@ struct SourceArguments {
     void addPseudoTo(CLI::App& command);
 
     [[nodiscard]] std::vector<std::filesystem::path> paths() const;
-    // The inputs of the command: the folders and the names file.
+    // The paths that the command reads: the folders and the names file.
     [[nodiscard]] std::vector<std::string> inputs() const;
     // Reads the folders as one source.
     [[nodiscard]] SourceBundle::Source read(SourceBundle::Diagnostics& diagnostics) const;

@@ -10,8 +10,8 @@ namespace Tools {
 namespace {
 
 constexpr std::size_t maxComparedBytes = 100;
-constexpr unsigned costOfEdit = 2; // an inserted, deleted, replaced or swapped letter
-constexpr unsigned costOfCase = 1;
+constexpr unsigned costOfEdit = 2; // a byte is inserted, deleted or replaced, or two neighbours are swapped
+constexpr unsigned costOfCase = 1; // a letter is replaced by the same one in the other case
 
 unsigned substitutionCost(char one, char other) {
     const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
@@ -20,7 +20,7 @@ unsigned substitutionCost(char one, char other) {
     return lower(one) == lower(other) ? costOfCase : costOfEdit;
 }
 
-// The Damerau-Levenshtein distance of two words, with reduced cost for letter case.
+// The least cost of edits that make one word the other.
 unsigned editCost(std::string_view one, std::string_view other) {
     std::vector<unsigned> row(other.size() + 1), last(row), beforeLast(row);
     for (std::size_t j = 0; j < row.size(); ++j)

@@ -1,4 +1,4 @@
-// lumora table: converts a string table from any form to another.
+// lumora table: converts a string table to another form, or to JSON.
 #include "Program/Command.h"
 
 #include "Runtime/internal/SystemError.h"
@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdio>
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <nlohmann/json.hpp>
 
@@ -60,7 +61,7 @@ Runtime::Result<std::string> written(const Table& table, Output form) {
     return json(table);
 }
 
-// Reads a pipe or a device to its end.
+// Reads a pipe or a device to its end. Errors do not name the file; runTable() adds it.
 Runtime::Result<std::string> readToEnd(std::FILE* stream) {
     std::string bytes;
     std::array<char, 65536> part;
@@ -79,6 +80,7 @@ Runtime::Result<Table> readTable(const std::string& file) {
     std::error_code failed;
     const auto type = std::filesystem::status(file, failed).type();
     const bool isInput = file == "-";
+    // Table::readFile() accepts only regular files.
     if (!isInput && type != std::filesystem::file_type::fifo && type != std::filesystem::file_type::character)
         return Table::readFile(file);
     const std::unique_ptr<std::FILE, decltype(&std::fclose)> stream(isInput ? stdin : std::fopen(file.c_str(), "rb"),

@@ -32,8 +32,8 @@ struct TextOptions {
 
 using StringTables::FormatSignature;
 
-// Converts `text` to an argument for placeholders of a kind. Only canonical numbers are converted: "007" and "+1" stay
-// strings.
+// Converts `text` to an argument for placeholders of a kind; it stays a text if it is not a number of that kind. So
+// does an integer that would be printed differently: "007", "+1".
 Foundation::FormatArgument argument(const std::string& text, FormatSignature::Kind kind) {
     const char* const end = text.data() + text.size();
     std::int64_t integer = 0;

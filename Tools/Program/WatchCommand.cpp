@@ -27,7 +27,7 @@ struct WatchOptions {
     std::string output;
 };
 
-// A descriptor that becomes readable when a signal asks the program to end.
+// Blocks the signals that ask the program to end, and returns a descriptor that becomes readable when one arrives.
 Runtime::Descriptor stopSignals() {
     sigset_t signals;
     sigemptyset(&signals);
@@ -47,7 +47,7 @@ std::string timeOfDay() {
     return text.data();
 }
 
-// A short description of the changes.
+// ": T.strings changed" or ": 3 files changed"; empty for the first compile.
 std::string summary(const Paths& changed) {
     if (changed.empty())
         return "";
@@ -61,6 +61,7 @@ bool isReadable(const Runtime::Descriptor& descriptor) {
     return ::poll(&one, 1, 0) == 1;
 }
 
+// Thrown to end a compile when a stop signal has arrived.
 struct Interrupted {};
 
 class Watcher {
