@@ -7,15 +7,12 @@
 #include "SourceBundle/SetContents.h"
 #include "SourceBundle/SetEntry.h"
 #include <algorithm>
-#include <array>
 #include <bitset>
 #include <deque>
 #include <map>
-#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <vector>
 
 namespace Check {

@@ -33,7 +33,7 @@ std::vector<CheckedTable> checkedTables(const Source& source, std::span<const Ch
     return checked;
 }
 
-// Checks the texts, each language in a separate step.
+// Checks the texts, each language in a separate step with a report of its own, which is added to `reports`.
 void checkTexts(const Source& source, std::span<const CheckedTable> tables, std::vector<Report>& reports) {
     const std::set<std::string> sorted = source.languages();
     const std::vector<std::string> languages(sorted.begin(), sorted.end());

@@ -4,7 +4,6 @@
 #include "Generator/CodeText.h"
 #include "Intl/internal/PluralRules.h"
 #include "StringTables/internal/PluralTable.h"
-#include <algorithm>
 #include <string>
 
 namespace Check {

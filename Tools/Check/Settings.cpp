@@ -47,15 +47,16 @@ public:
         return json;
     }
 
-    // The rules whose names are in the list `json`.
-    RuleSet rules(const Json& json) {
+    // The rules whose names are in the list `json`, the value of `member`.
+    RuleSet rules(const Json& json, const std::string& member) {
         RuleSet rules;
+        const auto reportNoList = [&] { report(Severity::error, "\"" + member + "\" is not a list of rule names"); };
         if (!json.is_array())
-            report(Severity::error, "expected a list of rule names");
+            reportNoList();
         else
             for (const Json& name : json)
                 if (!name.is_string())
-                    report(Severity::error, "expected a list of rule names");
+                    reportNoList();
                 else if (const auto rule = ruleNamed(name.get_ref<const std::string&>()))
                     add(rules, *rule);
                 else
@@ -72,7 +73,7 @@ public:
             report(Severity::error, "\"" + std::string(name) + "\" is not an object");
         else
             for (const auto& [member, list] : json[name].items())
-                all[member] = rules(list);
+                all[member] = rules(list, member);
         return all;
     }
 
@@ -99,7 +100,7 @@ Settings::Folder Settings::readFolder(const fs::path& folder, Diagnostics& diagn
     SettingsReader reader(folder / settingsFileName, diagnostics);
     const Json json = reader.parsed();
     return {.prefix = (folder / "").string(),
-            .disabled = json.contains("disable") ? reader.rules(json["disable"]) : RuleSet(),
+            .disabled = json.contains("disable") ? reader.rules(json["disable"], "disable") : RuleSet(),
             .byLanguage = reader.rulesByName(json, "languages"),
             .byAsset = reader.rulesByName(json, "assets")};
 }

@@ -8,7 +8,6 @@
 #include "Runtime/internal/NameMap.h"
 #include "StringTables/internal/PluralTable.h"
 #include <algorithm>
-#include <optional>
 #include <string>
 #include <unordered_map>
 

@@ -55,7 +55,7 @@ void checkEdges(const Text& text, Report& report) {
                         " a space, unlike the development text");
 }
 
-// Counts "\n", "\r" and "\r\n".
+// Counts "\n", "\r" and "\r\n" as one line break each.
 std::size_t lineBreaks(std::string_view text) {
     auto count = static_cast<std::size_t>(std::ranges::count(text, '\n'));
     for (std::size_t at = text.find('\r'); at != text.npos; at = text.find('\r', at + 1))

@@ -8,7 +8,6 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace Tools {

@@ -6,7 +6,6 @@
 #include "Program/OwnBundle.h"
 #include "Program/SourceArguments.h"
 #include <CLI/CLI.hpp>
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
