@@ -4,6 +4,7 @@
 #include "Intl/internal/PluralRules.h"
 #include "StringTables/internal/PluralPieces.h"
 #include <algorithm>
+#include <bitset>
 #include <cstdint>
 #include <optional>
 
@@ -104,13 +105,19 @@ private:
             else if (variables_ == mostVariables)
                 return;
             else
-                appendForm(choose(*piece->variable, piece->arguments.value), *piece, choose);
+                appendForm(*piece->variable, piece->arguments.value, choose);
         }
     }
 
-    template <class Choose> void appendForm(std::string_view form, const PluralPiece& piece, Choose& choose) {
+    template <class Choose> void appendForm(const PluralVariable& variable, std::size_t position, Choose& choose) {
+        const auto index = static_cast<std::size_t>(&variable - plural_.variables.data());
+        if (index >= isOpen_.size() || isOpen_[index])
+            return;
         ++variables_;
-        append(form, PluralPieces(plural_, form, *piece.variable, piece.arguments.value), choose);
+        isOpen_.set(index);
+        const std::string_view form = choose(variable, position);
+        append(form, PluralPieces(plural_, form, variable, position), choose);
+        isOpen_.reset(index);
     }
 
     // Writes every '%' as "%%", because with the text that now follows, it might become a placeholder.
@@ -147,6 +154,8 @@ private:
     const PluralFormat& plural_;
     std::string out_;
     std::size_t variables_ = 0; // replaced so far
+    // The variables whose forms are being appended. They are left out of these forms, which would have no end.
+    std::bitset<StringTables::PluralTable::maxVariables> isOpen_;
 };
 
 } // namespace
