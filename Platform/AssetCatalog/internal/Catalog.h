@@ -1,8 +1,8 @@
 // AssetCatalog/internal/Catalog.h
 // A compiled catalog: the file Assets.catalog of a bundle, with all image, colour and data assets of the bundle's
 // source catalogs.
-// Text: UTF-8. Threads: any, immutable after opening. Ownership: a catalog owns its index and its open file; entries,
-// views and blobs stay valid as long as it lives, also after a move.
+// Text: UTF-8. Threads: any, immutable after opening. Ownership: a catalog from open() owns its index and its open
+// file; entries, views and blobs stay valid as long as the catalog lives, also after a move.
 #pragma once
 
 #include "AssetCatalog/internal/Blobs.h"

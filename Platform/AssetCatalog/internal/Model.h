@@ -52,7 +52,7 @@ struct Insets {
     friend bool operator==(const Insets&, const Insets&) = default;
 };
 
-// The content of a file; variants with equal content share it.
+// The content of a file, which several variants can share.
 using Bytes = std::shared_ptr<const std::string>;
 [[nodiscard]] inline Bytes shared(std::string bytes) {
     return std::make_shared<const std::string>(std::move(bytes));
