@@ -112,7 +112,7 @@ TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     EXPECT_TRUE(outcome.diagnostics[0].starts_with(damaged.string() + ":2:7: ")) << outcome.diagnostics[0];
     EXPECT_EQ(Support::filesBelow(folder / "out.bundle"),
               (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings"}));
-    // No staging folder is left.
+    // No staged folder is left.
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
 
     fs::remove(damaged);

@@ -180,6 +180,7 @@ std::string filesEntry(const std::string& format, const std::string& forms) {
 const std::string oneAndOther =
     "      <key>one</key> <string>%ld file</string>\n      <key>other</key> <string>%ld files</string>";
 
+// UTF-16 with a byte-order mark.
 std::string wide(const std::string& ascii) {
     std::string out = "\xFF\xFE";
     for (const char c : ascii)
@@ -401,6 +402,15 @@ TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
         EXPECT_EQ(import(folder, one.edits).messages, Strings()) << "line " << one.line;
         EXPECT_EQ(Support::contents(file), one.after) << "line " << one.line;
     }
+}
+
+TEST(Exports, KeepEmptyFormsOfPlurals) {
+    Support::SourceFolder folder;
+    folder.write("en.lproj/T.stringsdict",
+                 filesEntry("%#@n@", "<key>one</key> <string/> <key>other</key> <string>%ld</string>"));
+    EXPECT_EQ(
+        import(folder, {{"T[variables.n.plural.one]/files", "1"}, {"T[variables.n.plural.other]/files", "%ld"}}).texts,
+        2U);
 }
 
 // The translation is in a file that cannot contain the plural forms of the development text.

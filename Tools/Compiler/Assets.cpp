@@ -174,11 +174,11 @@ std::vector<Asset> compiledAssets(std::span<const fs::path> catalogs, Files& fil
     std::vector<Asset> assets(sources.size());
     std::vector<Diagnostics> messages(sources.size());
     std::mutex lock;
-    std::size_t done = 0;
+    std::size_t begun = 0;
     SourceBundle::inParallel(sources.size(), [&](std::size_t i) {
         {
             const std::lock_guard guard(lock);
-            progress(sources[i].name, done++, sources.size());
+            progress(sources[i].name, begun++, sources.size());
         }
         assets[i] = compiled(sources[i], files, messages[i]);
     });

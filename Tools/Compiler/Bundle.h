@@ -19,7 +19,7 @@ namespace Compiler {
 // but one at a time.
 using Progress = std::function<void(std::string_view what, std::size_t begun, std::size_t all)>;
 
-// Compiles `source`, which was read from `folders`, into `bundle`. The bundle is built in a staging folder and replaced
+// Compiles `source`, which was read from `folders`, into `bundle`. The bundle is built in another folder and replaced
 // atomically: readers, also after a killed compile, find either the old bundle or the new one. Problems in the source
 // are added to `diagnostics`; if it contains errors, the bundle is unchanged. The result reports other errors: a file
 // cannot be written, the bundle must not be replaced, a file would exceed its size limit. Replaces only compiled

@@ -1,5 +1,5 @@
 // Compiler/PictureCache.h
-// A cache of the pictures converted by the last compile; internal to the compiler.
+// A cache of the pictures that the last compile made; internal to the compiler.
 // The list of pictures is in the bundle's mark file, their bytes are in the bundle's catalog.
 // Threads: find() and has() from any thread.
 #pragma once

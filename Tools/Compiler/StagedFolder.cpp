@@ -78,7 +78,7 @@ void removeAbandoned(const fs::path& target) {
     }
 }
 
-// Whether `target` does not exist, is empty, or is a compiled bundle.
+// Whether `target` does not exist, is an empty folder, or is a compiled bundle.
 bool mayReplace(const fs::path& target) {
     std::error_code failed;
     if (!fs::exists(fs::symlink_status(target, failed)))

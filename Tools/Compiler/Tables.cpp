@@ -136,12 +136,12 @@ Runtime::Result<std::string> compileTables(const Source& source, const StagedFol
     const TableCache last(lastMark);
     std::vector<Runtime::Result<std::string>> records(jobs.size(), std::string());
     std::mutex lock;
-    std::size_t done = 0;
+    std::size_t begun = 0;
     SourceBundle::inParallel(jobs.size(), [&](std::size_t i) {
         const Job& job = jobs[i];
         {
             const std::lock_guard guard(lock);
-            progress((job.folder / layout::textsFile(job.table)).native(), done++, jobs.size());
+            progress((job.folder / layout::textsFile(job.table)).native(), begun++, jobs.size());
         }
         records[i] = compileTexts(job.texts, out, job.folder, job.table, last);
     });

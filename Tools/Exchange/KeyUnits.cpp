@@ -135,7 +135,7 @@ private:
             unit.target = target->text;
             unit.state = target->state;
         }
-        if (!unit.source.empty() || !unit.target.empty())
+        if (category || !unit.source.empty() || !unit.target.empty()) // a plural keeps its empty forms
             units_.push_back(std::move(unit));
     }
 

@@ -95,7 +95,7 @@ public:
             return pluralNeeds(PluralPieces(format));
         }
         const PluralVariable* const variable = variableNamed(*plural_, part_.back());
-        if (variable == nullptr)
+        if (variable == nullptr) // only the translation has it
             return catalogNeeds(text, nullptr);
         const std::size_t own = argumentOf(*plural_, *variable);
         Needs needs = pluralNeeds(PluralPieces(*plural_, text, *variable, own));
@@ -135,7 +135,7 @@ const char* nameOf(Placeholder::Kind kind) {
         return "an integer (%ld)";
     case Placeholder::Kind::number:
         return "a floating-point number (%f)";
-    case Placeholder::Kind::percent:
+    case Placeholder::Kind::percent: // takes no argument
         break;
     }
     return "nothing";
