@@ -119,7 +119,7 @@ private:
 
     const char* count(std::string_view text) noexcept {
         bytes_ += text.size();
-        return bytes_ > PluralTable::maxTextBytes ? "the texts of the table are longer than is accepted" : nullptr;
+        return bytes_ > PluralTable::maxTextBytes ? "the table has too much text" : nullptr;
     }
 
     const std::string& key() const noexcept { return keys_[depth_ - 1]; }
@@ -223,7 +223,7 @@ private:
     bool hasFormat_ = false;
     std::size_t variables_ = 0; // in the entry so far
     PluralVariable variable_;
-    bool isPlural_ = false;
+    bool isPlural_ = false; // whether its rule type is `pluralRule` or missing
     bool isChoice_ = false; // not a variable, but the texts of `choice_`
     TextChoice choice_;
 

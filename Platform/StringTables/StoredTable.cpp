@@ -84,7 +84,8 @@ FoundText StoredTable::Whole::findOther(std::string_view key, std::uint64_t hash
     return hash == right ? FoundText() : compiled.find(key, right);
 }
 
-// Threads may read the same part at the same time; one result is kept.
+// Several threads may read parts at the same time. The first to finish takes the slot; another one uses that result if
+// it has the same key, else it takes the next slot.
 FoundText StoredTable::findInParts(std::string_view key, std::uint64_t hash) {
     std::optional<Runtime::OpenFile> file;
     std::unique_ptr<const Part> made;

@@ -52,8 +52,8 @@ std::optional<std::string_view> find(StoredTable& table, std::string_view key) {
 class CompiledTable : public testing::Test {
 protected:
     std::string file(std::string_view bytes) { return folder_.write("Table.strings", bytes); }
-    // Looks up a key in a new table at `path` after `before` other lookups. The fourth lookup reads the table as a
-    // whole.
+    // Looks up a key in a new table at `path` after `before` other lookups. The fourth lookup at the latest reads the
+    // whole table.
     static std::optional<std::string> found(const std::string& path, const std::string& key, int before = 0) {
         StoredTable table(path);
         for (int i = 0; i < before; ++i)

@@ -18,7 +18,7 @@ struct Placeholder {
     enum class Kind : std::uint8_t { percent, text, integer, number };
 
     // A width or precision: none, the number `value`, or an argument ("*"): the one at position `value` ("*2$"), or the
-    // next one if that is 0.
+    // next one if `value` is 0.
     struct Size {
         enum class From : std::uint8_t { none, number, argument } from = From::none;
         int value = 0;
@@ -107,9 +107,9 @@ struct FormatSignature {
         Kind first, later;
     };
 
-    // By position; no value for an argument that no placeholder takes. In a conflict it is the first kind. The last of
-    // mostArguments also represents all later ones, so that "%9999$d" does not make a list of 9,999; conflicts of these
-    // are not reported.
+    // Element i is the kind of the argument at position i + 1, in a conflict the first kind, or no value if no
+    // placeholder takes the argument. The last of mostArguments also represents all later ones, so that "%9999$d" does
+    // not make a list of 9,999; conflicts of these are not reported.
     static constexpr std::size_t mostArguments = 256;
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one

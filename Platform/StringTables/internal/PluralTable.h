@@ -19,7 +19,7 @@ namespace StringTables {
 
 struct PluralVariable {
     std::string name;      // "days" for "%#@days@"
-    std::string valueType; // the number's placeholder without '%': "d", "ld", "lu", "f"; never empty
+    std::string valueType; // the argument's placeholder without '%': "d", "ld", "lu", "f", "@"; never empty
     // By Intl::PluralCategory; no value when the table has no such form. A form is itself a format and may contain
     // variables.
     std::array<std::optional<std::string>, Intl::pluralCategoryCount> forms;
@@ -63,7 +63,7 @@ public:
     [[nodiscard]] const PluralEntry* find(std::string_view key) const noexcept;
     // Every key once, in the order of their first values; the last value of equal keys wins.
     [[nodiscard]] std::span<const PluralEntry> entries() const noexcept { return entries_; }
-    // What was skipped and why, with its location, in source order.
+    // What was skipped and why, as in Table::notes().
     [[nodiscard]] std::span<const TableNote> notes() const noexcept { return notes_; }
 
 private:

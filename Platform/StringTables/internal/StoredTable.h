@@ -1,8 +1,8 @@
 // StringTables/internal/StoredTable.h
 // A table in a bundle, read lazily: the first few texts of a large compiled table are read one by one, then its whole
-// front is read once; any other table is read as a whole. Nothing is memory-mapped, and no descriptor stays open. Text:
-// UTF-8; the path is raw bytes. Threads: any; lookups are lock-free once the table was read as a whole. Ownership:
-// views live as long as the table.
+// front (CompiledIndex.h) is read once; any other table is read as a whole. Nothing is memory-mapped, and no descriptor
+// stays open. Text: UTF-8; the path is raw bytes. Threads: any; lookups are lock-free once the table was read as a
+// whole. Ownership: views live as long as the table.
 #pragma once
 
 #include "Runtime/OnceSlot.h"
@@ -40,7 +40,7 @@ public:
     }
 
 private:
-    // The result of a lookup that read only this text.
+    // The result of a lookup that did not read the whole table.
     struct Part {
         Part(std::string_view askedFor, std::optional<std::string> read, const Runtime::OpenFile::Identity& from)
             : key(askedFor), text(std::move(read)),

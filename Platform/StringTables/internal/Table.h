@@ -46,8 +46,8 @@ public:
     // Reads a table. Errors name the reason and its place: line and column (text, XML) or the byte offset (binary).
     // They have no place if the source is too large or the XML parser cannot be loaded. A source with only a byte-order
     // mark, white space and comments of the text form, or with nothing, is an empty table. Limits: maxBytes of source,
-    // maxEntries entries including repeated keys, maxDepth levels of nesting. Both functions throw std::bad_alloc when
-    // memory runs out.
+    // maxEntries entries including repeated keys, maxDepth levels of nesting. read() and readFile() throw
+    // std::bad_alloc when memory runs out.
     [[nodiscard]] static Runtime::Result<Table> read(std::string bytes);
     // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, `path` begins
     // with it, and links must not lead out of that folder.
