@@ -19,8 +19,8 @@ namespace Lumora {
 // All members are static. Published to messages (Runtime/Class.h) as "Lumora.Localization".
 class LUMORA_EXPORT Localization {
 public:
-    // The current language: the bundle's first preferred localization, or English when the application does not support
-    // it. Later preferences are ignored.
+    // The current language: the first of the bundle's preferred localizations (NSBundle), or English when that is not
+    // one of LocalizationCode. Later ones are ignored.
     [[nodiscard]] static Corvane::LocalizationCode currentLanguageCode();
     // The current language without region or script: "es" for "es-419".
     [[nodiscard]] static std::string currentLanguage();
@@ -50,7 +50,8 @@ public:
     [[nodiscard]] static std::string legacyTrNumber(const Foundation::NSNumber& number, bool needSign);
     // A fraction as a percentage: 0.25 is "25%". Rounded in single precision, halves away from zero, and written with
     // all its digits in ASCII. NaN is "NaN%"; infinities, and values too large for single precision, are "∞%" and
-    // "-∞%". In Arabic and Turkish the user's locale formats the number. With `showPlus`, positive values begin with
+    // "-∞%". If the current language is Arabic or Turkish, the user's locale formats the percentage instead. With
+    // `showPlus`, positive values begin with
     // "+".
     [[nodiscard]] static std::string legacyTrPercent(double value, bool showPlus);
     // A number of years as currentLocale() spells it: "25 лет". Empty when the language data is missing.

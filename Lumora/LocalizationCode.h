@@ -33,7 +33,7 @@ public:
     [[nodiscard]] std::string shortId() const;
 
     friend constexpr bool operator==(LocalizationCode, LocalizationCode) noexcept = default;
-    // The raw value.
+    // The raw value, for placeholders of texts (Foundation/Describable.h).
     friend std::string describe(LocalizationCode code) { return code.rawValue(); }
 
 private:

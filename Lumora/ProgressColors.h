@@ -1,6 +1,6 @@
 // Lumora/ProgressColors.h
-// A colour for progress towards a goal: from red (no progress) to a base colour (goal reached). With a green base, the
-// colour of half the progress is yellow.
+// A colour for progress towards a goal: from red (no progress) to a base colour (goal reached). With a green base,
+// progress one half is yellow.
 // Threads: any.
 #pragma once
 

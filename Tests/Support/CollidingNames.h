@@ -56,6 +56,7 @@ std::vector<std::string> chained(std::uint64_t state, std::size_t count, Step st
         std::string other;
         for (std::size_t i = 1; !isPlain(other) || other.empty(); ++i)
             other = numbered(i) + bytesOf(wordFor(step(state, loaded(numbered(i))), wanted));
+        // Each name is continued with both pairs.
         for (std::size_t i = names.size(); i-- > 0; names[i] += first)
             names.push_back(names[i] + other);
         state = wanted;

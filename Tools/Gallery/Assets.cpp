@@ -58,7 +58,7 @@ private:
         json["height"] = picture.height;
         json["bytes"] = bytes->size();
         json["picture"] = assets_.pictures.size();
-        const auto size = Pictures::measure(*bytes);
+        const auto size = Pictures::measure(*bytes); // a catalog has only PNG and JPEG pictures
         const bool isPng = size && size->encoding == Pictures::Encoding::png;
         assets_.pictures.push_back(std::string(isPng ? "data:image/png" : "data:image/jpeg") + ";base64," +
                                    base64(*bytes));

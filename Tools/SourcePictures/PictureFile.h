@@ -33,9 +33,9 @@ struct Purpose {
 [[nodiscard]] Runtime::Result<void> check(const std::string& bytes, const Purpose& purpose);
 
 // The pictures that a catalog stores for the file: a PNG or JPEG unchanged; other raster formats converted to PNG; a
-// drawing (or the first page of a PDF) as one PNG for each of the scales 1, 2 and 3, or only for the scale that it was
-// made for. Its own scale comes first. In Picture::fit only the scale is set. Errors: those of check(), but of a PNG or
-// JPEG only the header is read.
+// drawing (or the first page of a PDF) as PNGs. A drawing for any scale gives one for each of the scales 1, 2 and 3;
+// others give one for their own scale and, with preservesVector, then those for the other scales. In Picture::fit only
+// the scale is set. Errors: those of check(), but of a PNG or JPEG only the header is read.
 [[nodiscard]] Runtime::Result<std::vector<AssetCatalog::Picture>> picturesOf(const AssetCatalog::Bytes& bytes,
                                                                              const Purpose& purpose);
 

@@ -38,8 +38,8 @@ function fillLanguageChoices() {
     }
 }
 
-// Scrolls again in the next frames: parts that were never shown have an estimated size, so the element moves while they are
-// laid out.
+// Scrolls to the element, and again in the next frames: parts that were never shown have an estimated size, so the element
+// moves while they are laid out.
 function goTo(element) {
     let frames = 10;
     const step = () => {
@@ -71,6 +71,7 @@ function fillSections() {
     byId("colours").append(progressStrips() ?? "");
 }
 
+// The link to each section and the element with its number of results, by the section's id.
 const links = new Map();
 
 function fillNavigation() {
