@@ -5,6 +5,7 @@
 
 #include "../Support/TemporaryFolder.h"
 #include <chrono>
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <latch>
 #include <thread>
@@ -130,6 +131,22 @@ TEST_F(Bundle, FollowsNoLinkOutOfIt) {
         EXPECT_TRUE(one->pathForResource("S", "strings", "", "Base"));
         EXPECT_FALSE(one->pathForResource("X", "strings", "", "Base"));
         EXPECT_FALSE(one->pathForResource("X", "strings", "", "de"));
+    }
+}
+
+TEST_F(Bundle, IsBesideTheLibraryWithTheCode) {
+    const void* const anyCode = ::dlsym(::dlopen("libm.so.6", RTLD_NOW), "cos");
+    Dl_info any{};
+    ASSERT_NE(::dladdr(anyCode, &any), 0);
+    write("None.bundle/Info.plist", "");
+    write("none-2/None.bundle/Info.plist", "");
+    const std::pair<const char*, const char*> cases[] = {
+        {"libnone.so", "None.bundle"}, {"libnone.so.2.5", "none-2/None.bundle"}, {"libnone.so.3", "None.bundle"}};
+    for (const auto& [library, expected] : cases) {
+        std::filesystem::copy_file(any.dli_fname, folder_ / library);
+        const void* const code = ::dlsym(::dlopen((folder_ / library).c_str(), RTLD_NOW), "cos");
+        EXPECT_EQ(NSBundle::bundleForCode(code, "None").bundlePath(),
+                  std::filesystem::canonical(folder_ / expected).string());
     }
 }
 
