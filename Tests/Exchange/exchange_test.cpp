@@ -404,6 +404,19 @@ TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
     }
 }
 
+// The state is stored with the translation, even if the development text is in a file without states.
+TEST(Imports, ChangeTheStateInACatalogOfTranslations) {
+    Support::SourceFolder folder;
+    folder.write("Info.plist", "CFBundleDevelopmentRegion = en;");
+    folder.write("en.lproj/T.strings", "k = K;");
+    const auto catalog = [](const std::string& state) {
+        return R"({"sourceLanguage":"fr","strings":{"k":{"localizations":{"de":)" + unit("x", state) + "}}}}";
+    };
+    const auto file = folder.write("T.xcstrings", catalog("needs_review"));
+    EXPECT_EQ(import(folder, {{"T/k", "x"}}).messages, Strings());
+    EXPECT_EQ(Support::contents(file), catalog("translated"));
+}
+
 TEST(Exports, KeepEmptyFormsOfPlurals) {
     Support::SourceFolder folder;
     folder.write("en.lproj/T.stringsdict",

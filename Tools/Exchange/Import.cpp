@@ -142,13 +142,15 @@ private:
         imported->seen.push_back(expected);
         if (unit.target.empty())
             return;
-        // A PO file shows the development text of another form for most forms.
+        // In a PO file most forms of a plural have the development text of another form.
         const Unit* const shown = find(imported->expected, unit.id.part, unit.sourceCategory);
         if (unit.source != (shown == nullptr ? expected : shown)->source)
             return fault(translations.file, unit.line,
                          "the development text of " + id + " has changed since the export");
         const State state = stateOf(unit, *expected, translations.hasStates);
-        const bool storesStates = imported->key.development->file->kind == TableFile::Kind::catalog;
+        const SourceEntry& stored =
+            imported->key.translated == nullptr ? *imported->key.development : *imported->key.translated;
+        const bool storesStates = stored.file->kind == TableFile::Kind::catalog;
         if (unit.target == expected->target && (!storesStates || state == expected->state))
             return;
         if (unit.target != expected->target)
@@ -173,7 +175,6 @@ private:
         Unit& merged = *find(imported.merged, unit.id.part, unit.id.category);
         merged.target = unit.target;
         merged.state = state;
-        merged.line = unit.line;
         imported.accepted.push_back(&merged);
         if (imported.file.empty()) {
             imported.file = file;
@@ -186,7 +187,7 @@ private:
     static const Unit* lacking(const ImportedKey& imported) {
         const auto isLacking = [](const Unit& unit) {
             const bool isForDevice = !unit.id.part.empty() && unit.id.part.front() == devicePart;
-            return unit.target.empty() && !isForDevice &&
+            return unit.target.empty() && !unit.source.empty() && !isForDevice &&
                    unit.id.category.value_or(PluralCategory::other) == PluralCategory::other;
         };
         if (imported.key.translated != nullptr &&
@@ -231,7 +232,7 @@ Runtime::Result<std::vector<Translations>> readTranslations(const std::string& f
     if (!bytes)
         return std::move(bytes.error());
     const std::size_t first = bytes->find_first_not_of("\xEF\xBB\xBF \t\r\n");
-    // UTF-16: PO files are UTF-8.
+    // UTF-16 must be XLIFF, because PO files are UTF-8.
     const bool isWide = bytes->starts_with("\xFF\xFE") || bytes->starts_with("\xFE\xFF");
     if (isWide || (first != std::string::npos && (*bytes)[first] == '<'))
         return readXliff(*std::move(bytes), file, faults);
