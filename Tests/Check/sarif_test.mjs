@@ -1,4 +1,4 @@
-// What `lumora check --format sarif` writes, against the published schema.
+// What `lumora check --format sarif` writes, against the published schema. Tests/Gallery installs the packages and runs this test.
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { mkdirSync, mkdtempSync, rmSync, writeFileSync } from "node:fs";

@@ -35,7 +35,7 @@ private:
     Runtime::Result<void> watchAll();
     Runtime::Result<void> watchBelow(const std::filesystem::path& folder, int depth);
     bool isIgnored(const std::filesystem::path& path) const;
-    // Whether there was a change.
+    // Add what has changed to `changed_`. Whether there was a change.
     bool readEvents();
     bool take(const inotify_event& event, std::string_view name);
 
