@@ -33,7 +33,6 @@ TEST(AssetConstants, HaveNames) {
         {__LINE__, "Brand Color", "Media", "BrandColor"},
         {__LINE__, "delete", "Media", "delete_"},
         {__LINE__, "EOF", "Media", "EOF_"},
-        {__LINE__, "F_OK/r-O-K", "Media::FOk", "rOK"},
         {__LINE__, "24h", "Media", "_24h"},
         {__LINE__, "icons/tab bar/home", "Media::Icons::TabBar", "home"},
     };

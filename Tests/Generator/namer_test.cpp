@@ -145,9 +145,7 @@ TEST(Namer, SpellsNamesInCpp) {
         {__LINE__, "SIGINT", "SIGINT_"},
         {__LINE__, "EU", "EU"},
         {__LINE__, "WNOHANG", "WNOHANG_"},
-        {__LINE__, "SIG_DFL", "SIG_DFL_"},
-        {__LINE__, "INT8_C", "INT8_C_"},
-        {__LINE__, "INT8_C_", "INT8_C_"},
+        {__LINE__, "FAQ", "FAQ"},
         {__LINE__, "_2D", "_2D"},
         {__LINE__, "EioX", "EioX"},
         {__LINE__, "invoice№", "invoiceNo"},
@@ -166,7 +164,6 @@ TEST(Namer, KeepsTheNamesOfTables) {
     constexpr Pair pairs[] = {
         {__LINE__, "Localizable", "Localizable"},
         {__LINE__, "my_table", "my_table"},
-        {__LINE__, "L_tmpnam", "L_tmpnam_"},
         {__LINE__, "delete", "delete_"},
         {__LINE__, "detail", "detail_"},
         {__LINE__, "Odd names", "OddNames"},
@@ -180,10 +177,10 @@ TEST(Namer, KeepsTheNamesOfTables) {
 }
 
 TEST(Namer, AvoidsReservedNamespaces) {
-    for (const char* own : {"Shop", "standard", "std_", "posixShop", "M2", "Магазин"})
+    for (const char* own : {"Shop", "standard", "std_", "posixShop", "M2", "SHOP", "Магазин"})
         EXPECT_TRUE(Namer::isModuleName(own)) << own;
     for (const char* others :
-         {"std", "std2", "posix", "main", "class", "errno", "SHOP", "_Shop", "_shop", "my__shop", "2nd", ""})
+         {"std", "std2", "posix", "main", "class", "errno", "EIO", "_Shop", "_shop", "my__shop", "2nd", ""})
         EXPECT_FALSE(Namer::isModuleName(others)) << others;
 }
 

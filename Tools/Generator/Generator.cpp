@@ -76,8 +76,7 @@ void addFingerprint(const std::string& name, std::vector<OutputFile>& files) {
 void check(const Options& options, Diagnostics& diagnostics) {
     const auto fail = [&](std::string message) { diagnostics.add(Severity::error, {.message = std::move(message)}); };
     if (!Namer::isModuleName(options.module))
-        fail("the module's name must be a C++ identifier that is not reserved and not in capitals, like macros: " +
-             quote(options.module));
+        fail("the module's name must be a C++ identifier that is not reserved: " + quote(options.module));
     std::vector<std::string> headers = options.includes;
     headers.insert(headers.end(), options.headers.begin(), options.headers.end());
     for (const std::string& header : headers)

@@ -17,13 +17,6 @@ bool clashes(std::string_view nameSpace) {
     return nameSpace == "detail" || nameSpace == "std" || nameSpace == "tr";
 }
 
-constexpr bool isAsciiCapital(char c) {
-    return c >= 'A' && c <= 'Z';
-}
-constexpr bool isAsciiDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 // Whether the name is a macro of <cinttypes>: "PRId64", "SCNxFAST8".
 bool isNumberFormat(std::string_view word) {
     if (word.size() < 5 || !(word.starts_with("PRI") || word.starts_with("SCN")) ||
@@ -39,15 +32,15 @@ bool isNumberFormat(std::string_view word) {
     return std::ranges::find(sizes, word) != std::end(sizes);
 }
 
-// Whether the name is spelled as macros usually are: "EOF", "WNOHANG", "PATH_MAX". C, POSIX and the C library have
-// thousands of them, whereas few keys and assets have such a name.
-bool isInCapitals(std::string_view word) {
-    return word.size() > 2 && isAsciiCapital(word.front()) && word.back() != '_' &&
-           std::ranges::all_of(word, [](char c) { return isAsciiCapital(c) || isAsciiDigit(c) || c == '_'; });
+// Whether the name could be the macro of an error or a signal ("EOF", "EINTR", "SIGINT"): C reserves all such names for
+// headers, which add more.
+bool isErrorOrSignal(std::string_view word) {
+    return word.size() > 2 && (word.starts_with('E') || word.starts_with("SIG")) &&
+           std::ranges::all_of(word, [](char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); });
 }
 
 bool isReserved(std::string_view word) {
-    return std::ranges::binary_search(reservedNames, word) || isNumberFormat(word) || isInCapitals(word);
+    return std::ranges::binary_search(reservedNames, word) || isNumberFormat(word) || isErrorOrSignal(word);
 }
 
 // Whether the name is an identifier without an underscore at its beginning and without two adjacent ones: C++ reserves
