@@ -1,4 +1,5 @@
-"""Writes a source with one function, readAllTexts(), that reads every accessor declared in the headers below FOLDER once: OUT FOLDER."""
+"""all_texts.py OUT FOLDER: writes the source OUT with readAllTexts(), which calls every accessor that the headers in FOLDER and its
+subfolders declare once, with 7 for each parameter."""
 import pathlib
 import re
 import sys

@@ -1,5 +1,5 @@
-"""Times the steps of a build: compiling the generated source of all accessors, including their header, and compiling the bundle
-after one text changed. Processor time, medians of RUNS runs."""
+"""Times three steps of a build: compiling the generated source of all accessors, compiling a source that includes their header, and
+`lumora compile` after one text changed. Processor time, medians of several runs."""
 import os
 import pathlib
 import shutil
@@ -15,7 +15,7 @@ RUNS = 5
 def seconds(*command):
     child = subprocess.Popen(command, stdout=subprocess.DEVNULL)
     _, status, used = os.wait4(child.pid, 0)
-    child.returncode = os.waitstatus_to_exitcode(status)
+    child.returncode = os.waitstatus_to_exitcode(status)  # so that Popen does not wait again
     if child.returncode != 0:
         sys.exit(f"{' '.join(map(str, command))} failed")
     return used.ru_utime + used.ru_stime
@@ -29,7 +29,8 @@ def median(*command, before=lambda run: None):
     return statistics.median(times)
 
 
-def compiled_accessors(lumora, folder):
+def accessor_times(lumora, folder):
+    """The seconds for compiling all accessors, and for including their header instead of <string>."""
     includes = [f"-I{folder}", f"-I{ROOT}", f"-I{ROOT}/Platform"]
     subprocess.run([lumora, "generate", ROOT / "Resources", "--module", "Lumora", "-o", folder / "Lumora", "--shards", "1",
                     "--include", "Lumora/LumoraStrings+Members.h"], check=True, stdout=subprocess.DEVNULL)
@@ -38,15 +39,16 @@ def compiled_accessors(lumora, folder):
     whole = median(*compiler, "-O2", "-fvisibility=hidden", source)
     user = folder / "user.cpp"
     with_header = {"Lumora/LumoraStrings.h": [], "string": []}
-    for _ in range(3 * RUNS): # alternately, because the difference is small
+    for _ in range(3 * RUNS):  # more runs, alternately, because the difference is small
         for header, times in with_header.items():
             user.write_text(f"#include <{header}>\nstd::string user() {{ return std::string(); }}\n", encoding="utf-8")
             times.append(seconds(*compiler, user))
-    tree, string = map(statistics.median, with_header.values())
-    return whole, tree - string
+    accessors, string = map(statistics.median, with_header.values())
+    return whole, accessors - string
 
 
-def bundle_after_a_change(lumora, folder):
+def bundle_time(lumora, folder):
+    """The seconds for compiling a bundle again after one text changed."""
     source, bundle = folder / "Resources", folder / "Test.bundle"
     shutil.copytree(ROOT / "Resources", source)
     table = source / "Base.lproj/Localizable.strings"
@@ -66,6 +68,6 @@ def bundle_after_a_change(lumora, folder):
 
 
 def measured(lumora):
-    """The seconds for compiling all accessors, for including their header instead of <string>, and for compiling a bundle with one changed text."""
+    """The two results of accessor_times() and that of bundle_time()."""
     with tempfile.TemporaryDirectory() as folder:
-        return *compiled_accessors(lumora, pathlib.Path(folder)), bundle_after_a_change(lumora, pathlib.Path(folder))
+        return *accessor_times(lumora, pathlib.Path(folder)), bundle_time(lumora, pathlib.Path(folder))

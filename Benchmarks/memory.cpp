@@ -1,5 +1,5 @@
-// How much the memory of a process grows when it reads all texts: the resident memory, and the anonymous part of it,
-// which other processes cannot share. Unchanged pages of files are not part of it.
+// Prints how many texts it reads, their bytes in total, and by how many KiB that increases its resident memory and the
+// anonymous part of it, which other processes cannot share: all pages except unchanged ones of files.
 #include "all_texts.h"
 #include <Foundation/Host.h>
 
@@ -9,11 +9,11 @@
 
 namespace {
 
-// The value of a line in the kernel's report about this process's memory, in KiB.
-long kilobytes(const std::string& line) {
+// The value of a field ("Rss:") in the kernel's report about this process's memory, in KiB.
+long kilobytes(const std::string& field) {
     std::ifstream file("/proc/self/smaps_rollup");
     for (std::string word; file >> word;)
-        if (long size = 0; word == line && file >> size)
+        if (long size = 0; word == field && file >> size)
             return size;
     return 0;
 }

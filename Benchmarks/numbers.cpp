@@ -25,11 +25,12 @@ std::string icuNumber(const icu::number::LocalizedNumberFormatter& formatter, do
     return utf8(formatter.formatDouble(value, status).toString(status));
 }
 
-icu::number::LocalizedNumberFormatter madeForNumbers() {
+icu::number::LocalizedNumberFormatter numberFormatter() {
     return icu::number::NumberFormatter::withLocale("de_DE").precision(icu::number::Precision::maxFraction(3));
 }
 
-// Times `make`, which makes the text of a number, after checking its first result.
+// Times `make`, which makes the text of a number, for the numbers from `first` to `last`, after comparing the first
+// text with `expected`.
 template <class Number, class Make>
 void timed(benchmark::State& state, Number first, Number last, const char* expected, Make make) {
     if (make(first) != expected) {
@@ -51,13 +52,13 @@ template <class Make> void timedYears(benchmark::State& state, Make make) {
 }
 
 void numberIcuKept(benchmark::State& state) {
-    const auto formatter = madeForNumbers();
+    const auto formatter = numberFormatter();
     timedNumbers(state, [&](double value) { return icuNumber(formatter, value); });
 }
 BENCHMARK(numberIcuKept);
 
 void numberIcuAfresh(benchmark::State& state) {
-    timedNumbers(state, [](double value) { return icuNumber(madeForNumbers(), value); });
+    timedNumbers(state, [](double value) { return icuNumber(numberFormatter(), value); });
 }
 BENCHMARK(numberIcuAfresh);
 
@@ -67,7 +68,7 @@ void numberText(benchmark::State& state) {
 }
 BENCHMARK(numberText);
 
-icu::number::LocalizedNumberFormatter madeForYears() {
+icu::number::LocalizedNumberFormatter yearFormatter() {
     UErrorCode status = U_ZERO_ERROR;
     return icu::number::NumberFormatter::withLocale("de_DE")
         .adoptUnit(icu::MeasureUnit::createYear(status))
@@ -80,13 +81,13 @@ std::string icuYears(const icu::number::LocalizedNumberFormatter& formatter, std
 }
 
 void yearsIcuKept(benchmark::State& state) {
-    const auto formatter = madeForYears();
+    const auto formatter = yearFormatter();
     timedYears(state, [&](std::int64_t years) { return icuYears(formatter, years); });
 }
 BENCHMARK(yearsIcuKept);
 
 void yearsIcuAfresh(benchmark::State& state) {
-    timedYears(state, [](std::int64_t years) { return icuYears(madeForYears(), years); });
+    timedYears(state, [](std::int64_t years) { return icuYears(yearFormatter(), years); });
 }
 BENCHMARK(yearsIcuAfresh);
 

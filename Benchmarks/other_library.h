@@ -1,5 +1,5 @@
 // Benchmarks/other_library.h
-// A function-local static in another library.
+// A text in a function-local static, read from another shared library: what a plain text of Lumora is compared with.
 #pragma once
 
 #include <string>

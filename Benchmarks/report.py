@@ -1,4 +1,5 @@
-"""Runs the benchmarks of FOLDER in random order and writes their table into Docs/performance.md; a failed check fails."""
+"""report.py FOLDER: runs the benchmarks in FOLDER in random order and writes their table into Docs/performance.md. If a check of a
+result fails, it ends with an error and leaves the page as it is."""
 import datetime
 import json
 import os
@@ -11,7 +12,7 @@ import builds
 import start
 
 PEERS = ("Gettext", "Icu", "Qt", "Boost")
-# description, our benchmark, the benchmarks to compare with, the aim for the ratio
+# description, our benchmark, the benchmarks of which the fastest is compared with ours, the aim for the ratio
 RATIOS = [
     ("a plain read after the first", "plainText", ["plainFunctionLocalStatic"], 1.1),
     ("the same, compared with the fastest other library", "plainText", [f"plain{peer}" for peer in PEERS], None),
@@ -37,21 +38,21 @@ def row(what, ours, other="", its="", ratio="", aim="", reached=None):
     return f"| {what} | {ours} | {other} | {its} | {ratio} | {aim} | {mark} |"
 
 
-def of_peer(what, ours, other, its, unit, aim):
+def ratio_row(what, ours, other, its, unit, aim):
     ratio = ours / its
     reached = None if aim is None else ratio <= aim
     return row(what, f"{ours:,.3g} {unit}", other, f"{its:,.3g} {unit}", f"{ratio:.2f}", "" if aim is None else f"≤ {aim:.2f}", reached)
 
 
-def at_most(what, ours, unit, limit):
+def limit_row(what, ours, unit, limit):
     return row(what, f"{ours:,.3g} {unit}", aim=f"≤ {limit:g} {unit}", reached=ours <= limit)
 
 
 def thread_rows(medians, what, ours, other, aim, counts):
-    """Both with the same number of threads: two threads on one core are slower than one, whatever they run."""
+    """Compares `ours` and `other` with the same number of threads, because threads that share a core are slower, whatever they run."""
     def time(name, threads):
         return medians[f"{name}/real_time/threads:{threads}"]["cpu_time"]
-    return [of_peer(f"{what}, {threads} threads at once", time(ours, threads), other, time(other, threads), "ns", aim)
+    return [ratio_row(f"{what}, {threads} threads at once", time(ours, threads), other, time(other, threads), "ns", aim)
             for threads in counts]
 
 
@@ -67,9 +68,9 @@ def library_rows(folder):
         sys.exit("wrong results: " + ", ".join(failed))
     medians = {run["run_name"]: run for run in runs if run.get("aggregate_name") == "median"}
     times = {name.removesuffix("/real_time/threads:1"): run["cpu_time"] for name, run in medians.items()}
-    rows = [of_peer(what, times[ours], min(others, key=times.get), min(map(times.get, others)), "ns", aim)
+    rows = [ratio_row(what, times[ours], min(others, key=times.get), min(map(times.get, others)), "ns", aim)
             for what, ours, others, aim in RATIOS]
-    rows += [at_most(what, times[ours], "ns", limit) for what, ours, limit in LIMITS]
+    rows += [limit_row(what, times[ours], "ns", limit) for what, ours, limit in LIMITS]
     rows += thread_rows(medians, "a plain read", "plainText", "plainFunctionLocalStatic", 1.1, (2,))
     rows += thread_rows(medians, "a formatted read", "formattedText", "formattedMapAndFmt", 0.5, (2, 4, 8, 16))
     speed = medians["tableFromText"]["bytes_per_second"] / 1e9
@@ -85,7 +86,7 @@ def start_rows(folder):
     what = f"first text of a process, minus an empty process ({empty:.2f} ms)"
     aims = {"gettext": 1.15}
     names = {"loaded": "the library loaded but unused"}
-    return [of_peer(what, ours, names.get(peer, peer), time, "ms", aims.get(peer))
+    return [ratio_row(what, ours, names.get(peer, peer), time, "ms", aims.get(peer))
             for peer, time in sorted(added.items(), key=lambda item: item[1])]
 
 
@@ -94,15 +95,15 @@ def memory_rows(folder):
     count, _, resident, own = map(int, output.split())
     if count != 1401:
         sys.exit(f"{count} texts were read, not 1401")
-    return [at_most(f"{what} that reading all {count:,} texts adds", grown / 1024, "MiB", 1)
+    return [limit_row(f"{what} that reading all {count:,} texts adds", grown / 1024, "MiB", 1)
             for what, grown in (("resident memory", resident), ("private memory", own))]
 
 
 def build_rows(folder):
     accessors, header, bundle = builds.measured(f"{folder}/lumora")
-    return [at_most("compiling the source of all 1,401 accessors with -O2", accessors, "s", 1.2),
-            at_most("including the header of all accessors, compared with `<string>`", header * 1e3, "ms", 20),
-            at_most("`lumora compile` after one text changed", bundle, "s", 0.1)]
+    return [limit_row("compiling the source of all 1,401 accessors with -O2", accessors, "s", 1.2),
+            limit_row("including the header of all accessors, compared with `<string>`", header * 1e3, "ms", 20),
+            limit_row("`lumora compile` after one text changed", bundle, "s", 0.1)]
 
 
 def main(folder):

@@ -1,5 +1,5 @@
-"""Times whole processes in random order: an empty program, one that links our library, and one for each library that prints a text.
-Measures processor time, of the process and of the kernel for it, because other processes may be running."""
+"""Times whole processes in random order: an empty program, one that loads Lumora without using it, and one for each library, Lumora
+included, that prints a text. Measures processor time, of the process and of the kernel for it, because other processes may be running."""
 import os
 import random
 import shutil
@@ -11,7 +11,7 @@ import tempfile
 RUNS = 400
 PROGRAMS = {"start-empty": "Continue\n", "start-loaded": "Continue\n"} | {
     f"start-{name}": "Продолжить\n" for name in ("text", "gettext", "icu", "qt", "boost")}
-# gettext needs a locale that is installed.
+# gettext needs a locale that is installed; ru_RU.UTF-8, which the others get, may be missing.
 ENVIRONMENT = {"start-gettext": {"LC_ALL": "C.UTF-8", "LANGUAGE": "ru"}}
 
 
@@ -20,6 +20,7 @@ def environment(program):
 
 
 def run(folder, program):
+    """The milliseconds of one run."""
     child = os.posix_spawn(f"{folder}/{program}", [program], environment(program),
                            file_actions=[(os.POSIX_SPAWN_OPEN, 1, "/dev/null", os.O_WRONLY, 0)])
     _, _, used = os.wait4(child, 0)

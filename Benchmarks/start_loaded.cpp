@@ -1,4 +1,4 @@
-// The library is loaded but not used: the minimum time for a first text.
+// Loads Lumora without using it: a first text cannot take less time than this.
 #include <iostream>
 
 int main() {

@@ -1,4 +1,4 @@
-// Reading tables: the development texts of the application from text and from binary form.
+// Reading tables in text, binary and compiled form: the application's English and Russian texts.
 #include "Runtime/internal/File.h"
 #include "StringTables/internal/StoredTable.h"
 #include "StringTables/internal/Table.h"
@@ -27,7 +27,7 @@ void readTable(benchmark::State& state, const std::string& bytes) {
         return;
     }
     for (auto _ : state) {
-        state.PauseTiming(); // the reader takes the bytes
+        state.PauseTiming(); // Table::read() keeps the string that it is given
         std::string copy = bytes;
         state.ResumeTiming();
         benchmark::DoNotOptimize(Table::read(std::move(copy)));
@@ -46,10 +46,13 @@ void tableFromBinary(benchmark::State& state) {
 }
 BENCHMARK(tableFromBinary);
 
-// A compiled table as in a bundle: the Russian texts, which are UTF-16 in the file.
-std::vector<std::string> compiledKeys(const std::string& path) {
+constexpr auto compiledPath = "/tmp/lumora-benchmark.strings";
+
+// Writes the Russian texts, which are UTF-16 in the file, as a compiled table to compiledPath. Returns its keys in
+// random order.
+std::vector<std::string> writeCompiledTable() {
     const auto table = Table::readFile(LUMORA_RESOURCES "/ru.lproj/Localizable.strings");
-    (void)Runtime::writeFile(path, *StringTables::writeCompiled(table->entries()));
+    (void)Runtime::writeFile(compiledPath, *StringTables::writeCompiled(table->entries()));
     std::vector<std::string> keys;
     for (const StringTables::Entry& entry : table->entries())
         keys.emplace_back(entry.key);
@@ -57,15 +60,13 @@ std::vector<std::string> compiledKeys(const std::string& path) {
     return keys;
 }
 
-const std::string compiledPath = "/tmp/lumora-benchmark.strings";
-
-// By name only, as in NSBundle::localizedText().
+// Computes the hash at each call, as NSBundle::localizedText() does; accessors have it in their code.
 StringTables::FoundText find(StringTables::StoredTable& table, std::string_view key) {
     return table.find(key, Runtime::keyHash(key));
 }
 
 void compiledOneText(benchmark::State& state) {
-    const std::vector<std::string> keys = compiledKeys(compiledPath);
+    const std::vector<std::string> keys = writeCompiledTable();
     std::size_t next = 0;
     for (auto _ : state) {
         StringTables::StoredTable table(compiledPath);
@@ -76,7 +77,7 @@ void compiledOneText(benchmark::State& state) {
 BENCHMARK(compiledOneText);
 
 void compiledAllTexts(benchmark::State& state) {
-    const std::vector<std::string> keys = compiledKeys(compiledPath);
+    const std::vector<std::string> keys = writeCompiledTable();
     for (auto _ : state) {
         StringTables::StoredTable table(compiledPath);
         for (const std::string& key : keys)
@@ -86,9 +87,9 @@ void compiledAllTexts(benchmark::State& state) {
 }
 BENCHMARK(compiledAllTexts);
 
-// The cost of a plain binary table.
+// The same texts in a binary table without an index, which is read and checked as a whole.
 void binaryAllTexts(benchmark::State& state) {
-    const std::vector<std::string> keys = compiledKeys(compiledPath);
+    const std::vector<std::string> keys = writeCompiledTable();
     const auto read = Table::readFile(compiledPath);
     (void)Runtime::writeFile(compiledPath, *StringTables::write(read->entries(), Form::binary));
     for (auto _ : state) {
@@ -101,7 +102,7 @@ void binaryAllTexts(benchmark::State& state) {
 BENCHMARK(binaryAllTexts);
 
 void compiledLookUp(benchmark::State& state) {
-    const std::vector<std::string> keys = compiledKeys(compiledPath);
+    const std::vector<std::string> keys = writeCompiledTable();
     StringTables::StoredTable table(compiledPath);
     for (const std::string& key : keys)
         if (!find(table, key))
@@ -114,7 +115,7 @@ void compiledLookUp(benchmark::State& state) {
 }
 BENCHMARK(compiledLookUp);
 
-// The machine's limit: the file is read and its bytes are scanned once.
+// The least time that reading a text table can take: reads the file and looks at each of its bytes once.
 void readAndMemchr(benchmark::State& state) {
     const std::string bytes = textForm();
     for (auto _ : state) {

@@ -14,13 +14,13 @@ namespace {
 namespace Texts = Lumora::LumoraStrings::Localizable;
 
 // Every benchmark checks its result before it is timed.
-bool agrees(benchmark::State& state, bool holds) {
+bool correct(benchmark::State& state, bool holds) {
     if (!holds)
         state.SkipWithError("the result is wrong");
     return holds;
 }
 
-// The application's texts; the formatted one has a placeholder for fmt.
+// The application's English texts by key. The text that is formatted below has fmt's placeholder instead of "%@".
 std::unordered_map<std::string, std::string> developmentTexts() {
     std::unordered_map<std::string, std::string> texts;
     const auto table = StringTables::Table::readFile(LUMORA_RESOURCES "/Base.lproj/Localizable.strings");
@@ -33,7 +33,7 @@ std::unordered_map<std::string, std::string> developmentTexts() {
 
 // The text that all libraries format, for different days.
 template <class Make> void formatted(benchmark::State& state, Make make) {
-    if (!agrees(state, make(7).find("until 7.") != std::string::npos))
+    if (!correct(state, make(7).find("until 7.") != std::string::npos))
         return;
     int day = 0;
     for (auto _ : state)
@@ -60,7 +60,7 @@ void formattedMapAndFmt(benchmark::State& state) {
 }
 BENCHMARK(formattedMapAndFmt)->ThreadRange(1, 16)->UseRealTime();
 
-// From a table that was read as a whole, as it is after the first few texts.
+// Reads four other texts first: the first three are read from the file one by one, the fourth with the whole table.
 void formattedText(benchmark::State& state) {
     Foundation::Host::setPreferredLanguages({"en"});
     for (const char* key : {"Continue", "access_tab_title", "Diet.AllDish", "Save"})
@@ -70,7 +70,7 @@ void formattedText(benchmark::State& state) {
 BENCHMARK(formattedText)->ThreadRange(1, 16)->UseRealTime();
 
 void plainFunctionLocalStatic(benchmark::State& state) {
-    if (!agrees(state, functionLocalStatic() == "All new dishes of the day"))
+    if (!correct(state, functionLocalStatic() == "All new dishes of the day"))
         return;
     for (auto _ : state)
         benchmark::DoNotOptimize(functionLocalStatic().data());
@@ -79,7 +79,7 @@ BENCHMARK(plainFunctionLocalStatic)->ThreadRange(1, 2)->UseRealTime();
 
 void plainText(benchmark::State& state) {
     Foundation::Host::setPreferredLanguages({"en"});
-    if (!agrees(state, Texts::continue_() == "Continue"))
+    if (!correct(state, Texts::continue_() == "Continue"))
         return;
     for (auto _ : state)
         benchmark::DoNotOptimize(Texts::continue_().data());
@@ -88,7 +88,7 @@ BENCHMARK(plainText)->ThreadRange(1, 2)->UseRealTime();
 
 void currentLanguageCode(benchmark::State& state) {
     Foundation::Host::setPreferredLanguages({"pt_AO"});
-    if (!agrees(state, Lumora::Localization::currentLanguageCode().rawValue() == "pt-PT"))
+    if (!correct(state, Lumora::Localization::currentLanguageCode().rawValue() == "pt-PT"))
         return;
     for (auto _ : state)
         benchmark::DoNotOptimize(Lumora::Localization::currentLanguageCode());

@@ -1,4 +1,7 @@
-"""Writes a table (JSON on standard input, from `lumora table --to json`) as inputs for the other libraries: FOLDER/LANGUAGE.{po,boost.po,ts,txt}."""
+"""convert.py FOLDER LANGUAGE: makes the source files of the other libraries' catalogs from a table.
+
+Reads the JSON of `lumora table --to json` from standard input; writes FOLDER/LANGUAGE.po for gettext, .boost.po for Boost.Locale,
+.ts for Qt and .txt for ICU."""
 import html
 import json
 import re

@@ -1,4 +1,4 @@
-// The same texts from a gettext catalog, with snprintf for the argument.
+// Lumora's texts read from a gettext catalog, with snprintf for the argument.
 #include <benchmark/benchmark.h>
 #include <clocale>
 #include <cstdio>
@@ -9,9 +9,9 @@
 namespace {
 
 void useCatalog() {
-    setenv("LANGUAGE", "en", 1); // gettext looks nothing up in the locale "C"
-    std::setlocale(LC_ALL, "C.UTF-8");
-    bindtextdomain("texts", LUMORA_PEERS);
+    setenv("LANGUAGE", "en", 1);
+    std::setlocale(LC_ALL, "C.UTF-8"); // in the locale "C", gettext looks nothing up
+    bindtextdomain("texts", LUMORA_PEER_CATALOGS);
 }
 
 std::string text(const char* key) {
@@ -19,7 +19,7 @@ std::string text(const char* key) {
 }
 
 std::string formatted(int day) {
-    // A variable, because the compiler would check a literal as the format.
+    // A variable, because the compiler would take a literal key for the format and warn of the argument.
     const char* key = "DeleteAccount.ActiveSubscriptionServer";
     char out[256];
     std::snprintf(out, sizeof out, dgettext("texts", key), std::to_string(day).c_str());

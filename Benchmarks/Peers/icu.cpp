@@ -1,4 +1,4 @@
-// The same texts from an ICU resource bundle, with MessageFormat for the argument.
+// Lumora's texts read from an ICU resource bundle, with MessageFormat for the argument.
 #include <benchmark/benchmark.h>
 #include <string>
 #include <unicode/msgfmt.h>
@@ -8,7 +8,7 @@ namespace {
 
 icu::ResourceBundle opened() {
     UErrorCode status = U_ZERO_ERROR;
-    return {LUMORA_PEERS, "en", status};
+    return {LUMORA_PEER_CATALOGS, "en", status};
 }
 
 std::string utf8(const icu::UnicodeString& text) {

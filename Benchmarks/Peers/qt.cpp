@@ -1,4 +1,5 @@
-// The same texts from a Qt catalog, with QString::arg for the argument.
+// Lumora's texts read from a Qt catalog, with QString::arg for the argument, and numbers from a QLocale that is either
+// kept or created for each number.
 #include <QLocale>
 #include <QTranslator>
 
@@ -6,7 +7,7 @@
 
 namespace {
 
-constexpr auto catalog = LUMORA_PEERS "/en.qm";
+constexpr auto catalog = LUMORA_PEER_CATALOGS "/en.qm";
 
 std::string formatted(const QTranslator& translator, int day) {
     return translator.translate("", "DeleteAccount.ActiveSubscriptionServer").arg(day).toStdString();

@@ -4,7 +4,7 @@
 
 int main() {
     boost::locale::generator generator;
-    generator.add_messages_path(LUMORA_PEERS);
+    generator.add_messages_path(LUMORA_PEER_CATALOGS);
     generator.add_messages_domain("boost");
     std::cout << boost::locale::translate("Continue").str(generator("ru_RU.UTF-8")) << '\n';
 }

@@ -5,6 +5,6 @@
 
 int main() {
     std::setlocale(LC_ALL, "");
-    bindtextdomain("texts", LUMORA_PEERS);
-    std::cout << std::string(dgettext("texts", "Continue")) << '\n'; // a std::string, as in the other programs
+    bindtextdomain("texts", LUMORA_PEER_CATALOGS);
+    std::cout << std::string(dgettext("texts", "Continue")) << '\n'; // the other programs make a std::string too
 }

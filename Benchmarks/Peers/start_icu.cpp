@@ -4,7 +4,7 @@
 
 int main() {
     UErrorCode status = U_ZERO_ERROR;
-    const icu::ResourceBundle bundle(LUMORA_PEERS, "ru", status);
+    const icu::ResourceBundle bundle(LUMORA_PEER_CATALOGS, "ru", status);
     std::string text;
     std::cout << bundle.getStringEx("Continue", status).toUTF8String(text) << '\n';
 }

@@ -5,6 +5,6 @@
 
 int main() {
     QTranslator translator;
-    if (translator.load(LUMORA_PEERS "/ru.qm"))
+    if (translator.load(LUMORA_PEER_CATALOGS "/ru.qm"))
         std::cout << translator.translate("", "Continue").toStdString() << '\n';
 }
