@@ -1,6 +1,7 @@
 // Runs a fuzzer over the files of its corpus: each argument is a file or a folder of files.
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -19,6 +20,10 @@ void replay(const std::filesystem::path& path) {
         return;
     }
     std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        std::fprintf(stderr, "cannot read %s\n", path.c_str());
+        std::exit(1);
+    }
     const std::vector<char> bytes((std::istreambuf_iterator<char>(file)), {});
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
     ++replayed;

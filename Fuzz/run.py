@@ -1,7 +1,7 @@
 """Runs fuzzers, two at a time, each for SECONDS of processor time: run.py FOLDER SECONDS [NAME...].
 
-FOLDER holds the programs. What a fuzzer adds to its corpus stays in FOLDER/fuzzing/NAME, as do its log and its finding,
-which ends that fuzzer and fails the run.
+FOLDER has the programs fuzz-NAME. FOLDER/fuzzing/NAME gets what a fuzzer adds to its corpus, its log, and the input at which
+it failed, if any. A failure ends that fuzzer, the others go on, and the run ends with an error.
 """
 import os
 import pathlib
@@ -37,10 +37,10 @@ class Fuzzer:
     def runs(self):
         if self.child.poll() is not None:
             return False
-        times = pathlib.Path(f"/proc/{self.child.pid}/stat").read_text().rpartition(")")[2].split()
-        self.seconds = (int(times[11]) + int(times[12])) / ticks
+        fields = pathlib.Path(f"/proc/{self.child.pid}/stat").read_text().rpartition(")")[2].split()
+        self.seconds = (int(fields[11]) + int(fields[12])) / ticks  # user and system time; see proc(5)
         if self.seconds >= limit:
-            self.child.send_signal(signal.SIGUSR1)
+            self.child.send_signal(signal.SIGUSR1)  # libFuzzer then ends without an error
         return True
 
     # Prints what it did; the result is a message if it found something.

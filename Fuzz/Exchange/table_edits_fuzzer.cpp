@@ -1,5 +1,6 @@
-// Replaces texts in any bytes as a table; the first byte chooses the kind. When it is read again, the table has the new
-// text and no other change.
+// Sets texts in any bytes, which are taken for a table, a plural table or a string catalog, as the first byte says. The
+// result can be read again; a table and a catalog have the new text, and a table and a plural table have the same other
+// entries as before.
 #include "Exchange/CatalogDocument.h"
 #include "Exchange/TableDocument.h"
 #include "StringTables/internal/PluralTable.h"
@@ -21,6 +22,7 @@ using StringTables::Table;
 
 const std::string newText = "n\xC3\xA9w \"<&>\\ \n";
 
+// The file's bytes with the target of `unit`; empty if the file or the change is rejected.
 std::string edited(const TableFile& file, const Unit& unit, const SourceEntry& development) {
     auto document = Exchange::TableDocument::read(file);
     if (!document)
@@ -34,13 +36,19 @@ std::string edited(const TableFile& file, const Unit& unit, const SourceEntry& d
     return *std::move(after);
 }
 
+// One of the entries, which depends on the input.
+const auto& anEntry(const auto& table, const std::string& bytes) {
+    return table.entries()[bytes.size() % table.entries().size()];
+}
+
 void editTexts(const TableFile& file, const std::string& bytes) {
     const auto table = Table::read(bytes);
     if (!table)
         return;
     std::vector<std::string> keys = {"a new key"};
     if (!table->entries().empty())
-        keys.emplace_back(table->entries()[bytes.size() % table->entries().size()].key);
+        keys.emplace_back(anEntry(*table, bytes).key);
+    // The comment has the ends of comments in the text form and in XML.
     const SourceEntry development{.key = "k", .text = "t", .comment = "says what it is */ --"};
     for (const std::string& key : keys) {
         const std::string made =
@@ -62,7 +70,7 @@ void editPlurals(const TableFile& file, const std::string& bytes) {
     Unit unit{
         .id = {"T", "a new key", {"variables", "n"}, Intl::PluralCategory::few}, .source = "s", .target = newText};
     if (!table->entries().empty()) {
-        const auto& entry = table->entries()[bytes.size() % table->entries().size()];
+        const auto& entry = anEntry(*table, bytes);
         unit.id.key = entry.key;
         if (!entry.plural.variables.empty())
             unit.id.part.back() = entry.plural.variables.front().name;

@@ -1,5 +1,5 @@
-// Reads any bytes as a translated file: either it is rejected with a message, or its units are the same after they are
-// written and read again.
+// Reads any bytes as PO and as XLIFF: either they are rejected with a message, or, if the units could be those of an
+// export, they are the same after they are written and read again.
 #include "Exchange/Po.h"
 #include "Exchange/Xliff.h"
 
@@ -13,7 +13,7 @@ namespace {
 using Exchange::Translations;
 using Exchange::Unit;
 
-// An export has no text twice, and the forms of a plural are adjacent.
+// An export has no text twice. In an export the forms of a plural are adjacent, so units with forms are not tried.
 bool isLikeAnExport(const Translations& translations) {
     std::set<std::string> ids;
     return std::ranges::all_of(translations.units, [&ids](const Unit& unit) {
@@ -34,14 +34,14 @@ void requireSame(const Translations& translations) {
         return;
     SourceBundle::Diagnostics diagnostics;
     auto written = translations;
-    written.sourceLanguage = "en"; // an export writes language codes only
+    written.sourceLanguage = "en"; // an export has language codes here, the input may have any text
     written.targetLanguage = "de";
     // One table is one <file>.
     std::ranges::stable_sort(written.units, {}, [](const Unit& unit) { return unit.id.table; });
     const auto xliff = Exchange::readXliff(Exchange::writeXliff(written, "1"), "f", diagnostics);
     require(xliff && xliff->size() == 1 && haveSameTexts(xliff->front(), written) && !diagnostics.hasErrors());
     const std::string po = Exchange::writePo(written, diagnostics);
-    if (!diagnostics.all().empty()) // a NUL
+    if (!diagnostics.all().empty()) // units with a NUL were left out
         return;
     const auto again = Exchange::readPo(po, "f", diagnostics);
     require(again && haveSameTexts(*again, written));

@@ -1,5 +1,5 @@
-// Formats a text with a locale and arguments from the input. Its lines are the locale, the format and the arguments; a
-// line of eight bytes after '#' is an integer, after '.' a floating-point number.
+// Formats a text with a locale and arguments from the input. Its lines are the locale, the format and the arguments:
+// '#' and eight bytes are an integer, '.' and eight bytes a floating-point number, any other line is a text.
 #include "Foundation/String.h"
 
 #include "../Require.h"
@@ -16,7 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Foundation::Locale locale{std::string(nextLine())};
     const std::string_view format = nextLine();
     std::vector<Foundation::FormatArgument> arguments;
-    std::size_t longest = 512 + 3 * Foundation::String::largestSize; // digits of the precision, with grouping
+    // More symbols than any placeholder prints: digits for the largest width or precision, with grouping separators.
+    std::size_t longest = 512 + 3 * Foundation::String::largestSize;
     while (!rest.empty()) {
         const std::string_view line = nextLine();
         std::int64_t integer = 0;
@@ -33,8 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         }
     }
     const std::string text = Foundation::String::format(format, locale, arguments);
-    // In every locale, digits, separators and padding have at most that many bytes.
-    constexpr std::size_t longestSymbol = 16;
+    constexpr std::size_t longestSymbol = 16; // the bytes of a digit or separator in any locale
     require(text.size() <= format.size() * longest * longestSymbol);
     require(text.size() <= format.size() + Foundation::String::largestGrowth);
     require(format.find('%') != std::string_view::npos || text == format);

@@ -1,4 +1,5 @@
-// Reads any bytes as a table of plural formats and makes texts of each.
+// Reads any bytes as a plural table: either it is rejected with a message, or its entries are the same after they are
+// written and read again, and texts can be made of them, which is tried for the first four.
 #include "Foundation/String.h"
 #include "Foundation/internal/PluralText.h"
 

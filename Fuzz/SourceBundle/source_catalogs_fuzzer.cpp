@@ -1,5 +1,5 @@
-// Reads any bytes as the Contents.json of an image set, a colour set, a data set and a folder: either they are rejected
-// with the file's name, or the asset's files are in its set.
+// Reads any bytes as the Contents.json of an image set, a colour set, a data set, a symbol set and a folder: either
+// they are rejected with the file's name, or the asset's files are in its set.
 #include "SourceBundle/Catalogs.h"
 
 #include "../../Tests/Support/TemporaryFolder.h"
@@ -13,8 +13,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A source in which all Contents.json files are links to one file. It is made once per process, so that each
-// input needs only one file to be written.
+// A source in which all Contents.json files are hard links to one file. It is made once, so that only one file is
+// written for each input.
 class Source {
 public:
     Source() : contents_(folder_.write("contents", "")) {
@@ -46,6 +46,7 @@ void requireSound(const SourceBundle::SourceAsset& asset) {
     require(asset.name == name || asset.name == "Folder/" + name);
     for (const SourceBundle::SourceFile& file : asset.files) {
         require(std::isfinite(file.capInsets.top) && std::isfinite(file.alignmentInsets.right));
+        // Not "secret", which is outside the set; but an entry may name Contents.json itself.
         require(file.path == asset.path / "1.png" || file.path == asset.path / "Contents.json");
         require(file.fit.scale <= 9); // "9x"
     }
@@ -64,8 +65,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     source.setContents(data, size);
     SourceBundle::Diagnostics diagnostics;
     const fs::path catalogs[] = {source.path() / "A.xcassets"};
-    const auto everyPicture = [](const SourceBundle::SourceFile&) { return Runtime::Result<void>(); };
-    for (const SourceBundle::SourceAsset& asset : SourceBundle::sourceAssets(catalogs, diagnostics, everyPicture))
+    const auto acceptPicture = [](const SourceBundle::SourceFile&) { return Runtime::Result<void>(); };
+    for (const SourceBundle::SourceAsset& asset : SourceBundle::sourceAssets(catalogs, diagnostics, acceptPicture))
         requireSound(asset);
     for (const SourceBundle::Diagnostic& one : diagnostics.all())
         require(!one.what.message.empty() && one.what.file.starts_with((source.path() / "A.xcassets/").native()));

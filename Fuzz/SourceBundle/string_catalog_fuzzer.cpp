@@ -1,5 +1,5 @@
-// Reads any bytes as a string catalog: either it is rejected, or the formatter can list and expand the plural formats
-// of its texts.
+// Reads any bytes as a string catalog: either it is rejected with a message, or its texts come in the order of their
+// lines, and each plural has a text for display and a list of its arguments.
 #include "SourceBundle/PluralText.h"
 #include "SourceBundle/StringCatalog.h"
 #include "StringTables/internal/PluralPieces.h"

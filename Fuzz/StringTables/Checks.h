@@ -1,5 +1,5 @@
 // Fuzz/StringTables/Checks.h
-// Checks for every table that was read.
+// Checks for the fuzzers of tables.
 #pragma once
 
 #include "StringTables/internal/Table.h"
@@ -20,7 +20,7 @@ using StringTables::Table;
 
 // Whether these bytes are read as `form`. Each form has a separate fuzzer that ignores the other forms, because a
 // common one would spend its time on the form that is easiest to produce.
-inline bool isFor(Form form, std::string_view bytes) {
+inline bool isReadAs(Form form, std::string_view bytes) {
     if (bytes.starts_with("bplist0"))
         return form == Form::binary;
     const std::size_t first = bytes.find_first_not_of(std::string_view(" \t\r\n\xEF\xBB\xBF\xFF\xFE\0", 10));
@@ -32,8 +32,9 @@ inline bool haveSameEntries(const Table& one, const Table& other) {
                               [](const Entry& a, const Entry& b) { return a.key == b.key && a.text == b.text; });
 }
 
-// Entries are found by their keys, and are the same after they are written and read in every form.
-inline void requireWhole(const Table& table) {
+// Entries are found by their keys, have a line unless the table is binary, and are the same after they are written and
+// read in every form. Comments are the same too, except in the binary form, which has none.
+inline void requireRoundTrips(const Table& table) {
     for (const Entry& entry : table.entries())
         require(table.find(entry.key) == entry.text);
     const auto places = table.locations();
@@ -56,7 +57,7 @@ inline void requireWhole(const Table& table) {
 
 // Reads the bytes as a table of that form; no value if they are rejected or have another form.
 inline std::optional<Table> read(std::string_view bytes, Form form) {
-    if (!isFor(form, bytes))
+    if (!isReadAs(form, bytes))
         return std::nullopt;
     auto table = Table::read(std::string(bytes));
     if (!table) {
@@ -64,7 +65,7 @@ inline std::optional<Table> read(std::string_view bytes, Form form) {
         return std::nullopt;
     }
     require(table->form() == form);
-    requireWhole(*table);
+    requireRoundTrips(*table);
     return *std::move(table);
 }
 
@@ -101,11 +102,11 @@ inline void requireSameInUtf16(std::string_view characters) {
     }
 }
 
-// All of the above, for a textual form.
+// Reads the bytes as a table of a textual form, as they are and in UTF-16; bytes of another form are ignored.
 inline void readCharacters(const std::uint8_t* data, std::size_t size, Form form) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     read(bytes, form);
-    if (isFor(form, bytes))
+    if (isReadAs(form, bytes))
         requireSameInUtf16(bytes);
 }
 

@@ -18,7 +18,8 @@ std::uint64_t number(const std::uint8_t* at, std::size_t size) {
     return value;
 }
 
-// The size of the object at `at` according to its marker.
+// The size of the object at `at`, which has at most `left` bytes. Its first byte has its type and its count, or 0xF if
+// an integer with the count follows.
 std::uint64_t sizeOf(const std::uint8_t* at, std::size_t left, std::size_t refSize) {
     const std::size_t type = *at >> 4;
     std::uint64_t count = *at & 0xF, head = 1;
@@ -28,21 +29,21 @@ std::uint64_t sizeOf(const std::uint8_t* at, std::size_t left, std::size_t refSi
         count = head <= left ? number(at + 2, countSize) & 0xFFFFFFFF : 0;
     }
     switch (type) {
-    case 0x1:
-    case 0x2:
+    case 0x1: // integer
+    case 0x2: // floating-point number
         return head + (std::uint64_t{1} << (count & 3));
-    case 0x3:
+    case 0x3: // date
         return head + 8;
-    case 0x4:
-    case 0x5:
+    case 0x4: // data
+    case 0x5: // ASCII text
         return head + count;
-    case 0x6:
+    case 0x6: // UTF-16 text
         return head + count * 2;
-    case 0x8:
+    case 0x8: // UID
         return head + count + 1;
-    case 0xA:
+    case 0xA: // array
         return head + count * refSize;
-    case 0xD:
+    case 0xD: // dictionary
         return head + count * refSize * 2;
     default:
         return head;
@@ -74,14 +75,15 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
         while (bytes-- > 0)
             out.push_back(static_cast<std::uint8_t>(value >> 8 * bytes));
     };
+    constexpr std::size_t offsetSize = 2;
     for (const std::size_t offset : offsets)
-        put(offset, 2);
+        put(offset, offsetSize);
     out.insert(out.end(), trailer.begin(), trailer.begin() + 6); // unused, or the mark of a compiled table
-    put(2, 1);
+    put(offsetSize, 1);
     put(refSize, 1);
     put(offsets.size(), 8);
     put(top < offsets.size() ? top : 0, 8);
-    put(end, 8);
+    put(end, 8); // where the offsets begin
     if (out.size() > maxSize || end > 0xFFFF)
         return LLVMFuzzerMutate(data, size, maxSize);
     std::memcpy(data, out.data(), out.size());

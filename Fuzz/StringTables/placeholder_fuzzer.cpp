@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     while (const auto found = StringTables::nextPlaceholder(format, at)) {
         require(found->begin >= at && found->end >= found->begin + 2 && found->end <= format.size());
         require(format[found->begin] == '%');
-        const char last = format[found->end - 1];
+        const char last = format[found->end - 1]; // "%s" and "%S" are read as "%@"
         require(std::tolower(last) ==
                 (found->kind == Kind::text && last != '@' ? 's' : std::tolower(found->conversion)));
         require(found->position <= 9999 && found->width.value <= 999999 && found->precision.value <= 999999);

@@ -1,4 +1,5 @@
-// Reads any bytes as the file of a compiled table in a bundle.
+// Reads any bytes as the file of a compiled table in a bundle: a text that is read on its own is the same as after the
+// whole file was read.
 #include "Checks.h"
 #include "StringTables/internal/CompiledIndex.h"
 #include "StringTables/internal/StoredTable.h"
@@ -30,8 +31,8 @@ private:
 // The text of `key`, read on its own or after the whole file was read.
 std::optional<std::string> found(const MemoryFile& file, std::string_view key, bool whole) {
     StoredTable table(file.path());
-    constexpr int moreThanParts = 8; // so many look-ups read the whole file
-    for (int i = 0; i < (whole ? moreThanParts : 0); ++i)
+    constexpr int enoughLookUps = 8; // the first three read single texts, the next one the whole file
+    for (int i = 0; i < (whole ? enoughLookUps : 0); ++i)
         (void)table.find(std::string(static_cast<std::size_t>(i + 1), '\1'), 0);
     const StringTables::FoundText text = table.find(key, Runtime::keyHash(key));
     return text ? std::optional(std::string(text.text())) : std::nullopt;
@@ -52,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const std::string& key : keys) {
         const auto part = found(file, key, false), whole = found(file, key, true);
         require(!part || !whole || part == whole);
-        if (table) // an index that contradicts the dictionary is rejected
+        if (table) // its index, if there is one, agrees with the dictionary, because readers check that
             require(part == table->find(key) && whole == part);
     }
     return 0;

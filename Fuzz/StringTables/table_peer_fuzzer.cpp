@@ -1,6 +1,6 @@
 // Compares our reader with libplist: a table that both accept has the same texts for both, and libplist reads what we
 // write. Known differences are ignored:
-//  - libplist returns C strings, which end at a zero, and stops the process if a key contains one;
+//  - libplist returns C strings, which end at a NUL, and stops the process if a key contains one;
 //  - if keys are repeated, it keeps all in a binary table, and in XML the last, even if its value is not a text;
 //  - it reads XML as UTF-8 regardless of the declaration, and does not convert line ends;
 //  - in a processing instruction it treats quotation marks as those of a text, in which the instruction cannot end.
@@ -17,7 +17,7 @@ using Texts = std::map<std::string, std::optional<std::string>>; // no value: no
 using Node = std::unique_ptr<std::remove_pointer_t<plist_t>, decltype(&plist_free)>;
 using Chars = std::unique_ptr<char, decltype(&std::free)>;
 
-// The values of a dictionary whose keys all differ.
+// The texts of a dictionary by key; none if a key is repeated.
 std::optional<Texts> texts(plist_t dict) {
     plist_dict_iter found = nullptr;
     plist_dict_new_iter(dict, &found);
@@ -60,13 +60,13 @@ bool readsDifferently(std::string_view bytes, Form form) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    if (Checks::isFor(Form::text, bytes))
+    if (Checks::isReadAs(Form::text, bytes))
         return 0;
     const auto table = Checks::Table::read(std::string(bytes));
     if (!table)
         return 0;
     if (table->form() == Form::binary && !table->notes().empty())
-        return 0; // skipped keys may contain zeros
+        return 0; // the key of a value that was skipped may contain a NUL
     Texts ours;
     for (const Checks::Entry& entry : table->entries()) {
         if (entry.key.find('\0') != entry.key.npos || entry.text.find('\0') != entry.text.npos)
@@ -75,11 +75,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     if (!readsDifferently(bytes, table->form()))
         if (const auto others = theirs(bytes)) {
-            Texts known = ours;
+            Texts expected = ours;
             for (const auto& [key, text] : *others)
-                if (!text)
-                    known[key] = std::nullopt;
-            require(known == *others);
+                if (!text) // we skip values that are not texts
+                    expected[key] = std::nullopt;
+            require(expected == *others);
         }
     for (const Form form : {Form::xml, Form::binary})
         if (const auto written = StringTables::write(table->entries(), form))
