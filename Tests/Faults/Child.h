@@ -12,19 +12,23 @@ namespace Child {
 
 inline constexpr int thrown = 100;
 
-// How often each case runs: rare interleavings and limits show only after many. Fewer under a sanitizer, which makes a
-// fork take ten times as long.
+// How often exitOfEach() runs a case, because some faults show only with certain timings or limits. Fewer times under a
+// sanitizer, which makes a fork take ten times as long.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 inline constexpr int repetitions = 20;
 #else
 inline constexpr int repetitions = 200;
 #endif
 
-// The result of `run()`, a number below 100, in a child process; `thrown` for an exception, 200 plus the signal number
-// if a signal ended it.
+// The result of `run()`, a number below 100, in a child process; `thrown` for an exception or if there is no child
+// process, 200 plus the signal number if a signal ended it.
 template <class Run> int exitOf(Run run) {
     std::fflush(nullptr);
     const pid_t child = ::fork();
+    if (child < 0) {
+        std::perror("fork");
+        return thrown;
+    }
     if (child == 0) {
         int code = thrown;
         try {

@@ -26,6 +26,7 @@ std::string text(const fs::path& bundle, std::string_view key = "a", std::string
     return NSBundle::bundleWithPath(bundle.string()).localizedStringForKey(key, nullptr, table);
 }
 
+// Sets how many descriptors the process may have; returns how many it could have before.
 rlim_t setDescriptors(rlim_t most) {
     rlimit limit{};
     ::getrlimit(RLIMIT_NOFILE, &limit);
@@ -70,8 +71,8 @@ bool isLackOfDescriptors(const std::exception_ptr& thrown) {
     return false;
 }
 
-// Missing descriptors do not make an asset of the module missing, so the process is not stopped. Optional resources are
-// absent.
+// Without descriptors an asset of the module does not count as missing, which would stop the process: its record
+// throws. Functions that return an optional result return none.
 TEST(Files, WithoutDescriptorsTheProcessContinues) {
     for (const bool isOpen : {false, true}) // whether the bundle is open; its catalog is not
         EXPECT_EQ(Child::exitOfEach([isOpen](int) {
@@ -114,8 +115,8 @@ TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
         const char* language;
         const char* locale;
         std::string (*read)();
-        const char* otherwise;
-        const char* right;
+        const char* otherwise; // without the descriptor
+        const char* right;     // with it
     } cases[] = {
         {__LINE__, "es-MX", "es_MX", [] { return Lumora::Localization::currentLanguageCode().rawValue(); }, "en",
          "es-419"},
@@ -146,12 +147,12 @@ TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
 // once.
 TEST(Files, WithFewDescriptorsNothingIsCached) {
 #ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "the sanitizer takes an object for damaged if it has no descriptor for a pipe to look at it";
+    GTEST_SKIP() << "the sanitizer reports a damaged object when it gets no descriptors for the pipe that checks it";
 #endif
     EXPECT_EQ(Child::exitOfEach([](int repetition) {
                   Foundation::Host::setPreferredLanguages({"ru"});
                   Foundation::Host::setCurrentLocale("ru_RU@numbers=arab");
-                  const int next = ::dup(0);
+                  const int next = ::dup(0); // the lowest free descriptor
                   ::close(next);
                   const rlim_t old = setDescriptors(static_cast<rlim_t>(next + repetition % 10));
                   const std::string text = Texts::continue_(), age = Lumora::Localization::legacyTrAge(25);

@@ -1,4 +1,5 @@
-// Out of memory: for every n, the n-th allocation of a first read fails once, or it and all later ones fail.
+// Out of memory: an allocation of a first read fails once, or it and all later ones fail. That is tried for each of the
+// first Child::repetitions allocations and for every seventh after them.
 #include <Lumora/Loc.h>
 #include <Lumora/Lumora.h>
 #include <Runtime/Class.h>
@@ -53,8 +54,7 @@ bool fails(void* caller = nullptr) noexcept {
 } // namespace
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-// The sanitizer replaces malloc.
-// GCC reports a mismatch when it inlines only one of the pair.
+// The sanitizer replaces malloc itself. GCC reports a mismatch where it inlines only one of new and delete.
 #pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 void* operator new(std::size_t size) {
     void* memory = fails() ? nullptr : std::malloc(size == 0 ? 1 : size);
@@ -72,7 +72,7 @@ void operator delete(void* memory, std::size_t) noexcept {
     std::free(memory);
 }
 #else
-// All allocations, including those of the XML parser and the dynamic linker.
+// Also for the XML parser and the dynamic linker.
 extern "C" {
 // NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): glibc's own names
 void* __libc_malloc(std::size_t size);
@@ -97,6 +97,7 @@ namespace {
 namespace Texts = Lumora::LumoraStrings::Localizable;
 using Lumora::Localization;
 
+// The text of an NSString, which is released.
 std::string taken(NSString* text) {
     std::string out = text == nullptr ? "" : NSStringUTF8(text);
     NSRelease(text);
@@ -127,8 +128,8 @@ const std::string longText(100, 'a');
 struct Case {
     const char* name;
     std::string (*read)();
-    const char* otherwise = "";  // allowed instead of the right text
-    const char* right = nullptr; // if a degraded text might be cached
+    const char* otherwise = "";  // what the first read may give instead of the right text
+    const char* right = nullptr; // what later reads must give, where a degraded text might have been cached
 };
 const Case cases[] = {
     {"plain", [] { return Texts::continue_(); }},
@@ -170,8 +171,8 @@ bool leaks([[maybe_unused]] long n) {
 #endif
 }
 
-// Runs the case with its (n+1)-th allocation failing. Returns 0 when the result is correct, 1 when no allocation
-// failed.
+// Runs the case with its (n+1)-th allocation failing. Returns 0 when the result is correct, 1 when no allocation failed
+// because there were fewer, more for a fault.
 int attempt(const Case& one, long n, bool laterToo) {
     Foundation::Host::setPreferredLanguages({"ru"});
     std::optional<std::string> first;
@@ -198,7 +199,8 @@ TEST(NoMemory, CachesNothing) {
     writeXmlBundle(folder);
     for (const bool laterToo : {false, true})
         for (const Case& one : cases) {
-            for (int children = 0, code = 0; children < Child::repetitions && code <= 1;) { // 1: the read has no more
+            // A read with few allocations is tried several times.
+            for (int children = 0, code = 0; children < Child::repetitions && code <= 1;) {
                 long n = 0;
                 for (; (code = Child::exitOf([&] { return attempt(one, n, laterToo); })) == 0; ++children)
                     n += n < Child::repetitions ? 1 : 7; // later allocations are alike, one for each entry
@@ -208,7 +210,6 @@ TEST(NoMemory, CachesNothing) {
         }
 }
 
-// A plain read never throws.
 TEST(NoMemory, APlainReadNeverThrows) {
     EXPECT_EQ(Child::exitOf([] {
                   laterOnesFail = true;
@@ -250,7 +251,7 @@ TEST(NoMemory, LackOfAddressSpaceIsNotCached) {
     writeXmlBundle(folder);
     for (const auto& one : reads)
         for (rlim_t room = 0, repetition = 0; repetition < Child::repetitions; ++repetition) {
-            room += room < (rlim_t{8} << 20) ? 80'000 : 560'000; // up to 64 MB
+            room += room < (rlim_t{8} << 20) ? 80'000 : 560'000; // up to about 60 MB
             ASSERT_EQ(Child::exitOf([&] {
                           Foundation::Host::setPreferredLanguages({"ru"});
                           Foundation::Host::setCurrentLocale("ru_RU@numbers=arab");

@@ -16,6 +16,7 @@ namespace {
 namespace Texts = Lumora::LumoraStrings::Localizable;
 using Lumora::Localization;
 
+// Whether a text, a number, a year phrase and a picture are right.
 bool readsAll() {
     return Texts::continue_() == "Продолжить" && Localization::legacyTrNumber(12.5, false) == "12,5" &&
            Localization::legacyTrYear(25) == "25 лет" && Lumora::LumoraAsset::Images::send.image().rgba() != nullptr;
@@ -89,7 +90,7 @@ private:
     std::thread thread_;
 };
 
-// Reads and sets everything.
+// Sets the languages and the locale, and reads; 0 if all is right.
 int useAll() {
     ::alarm(10); // kills a child that hangs
     useRussian();
@@ -110,7 +111,7 @@ TEST_F(Fork, DuringWorkLeavesAChildThatReadsAndSetsAll) {
         {__LINE__, [] { Foundation::Host::reset(); }},
         {__LINE__, [] { static_cast<void>(Lumora::LumoraAsset::Images::send.image().rgba()); }},
         {__LINE__,
-         [] { // calls ICU each time
+         [] { // calls ICU each time, because patterns of so long an identifier are not kept
              Foundation::NSNumberFormatter formatter;
              formatter.setLocale(Foundation::Locale(std::string(200, 'x') + "@numbers=arab"));
              static_cast<void>(formatter.stringFromNumber(5));

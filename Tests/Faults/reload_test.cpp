@@ -50,7 +50,7 @@ TEST(Reload, GrowsNeitherMemoryNorDescriptors) {
     const Usage after = usage();
     EXPECT_EQ(after.descriptors, before.descriptors);
     // A leak of 4 KiB a round would exceed this. Freed memory that a sanitizer retains stays below it.
-    EXPECT_LT((after.residentPages - before.residentPages) * ::sysconf(_SC_PAGESIZE), 8 << 20);
+    EXPECT_LT((after.residentPages - before.residentPages) * ::sysconf(_SC_PAGESIZE), 8'000'000);
     EXPECT_NE(::dlopen(LUMORA_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr) << "the library was unloaded";
 }
 
