@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Checks without test cases: three compilers with warnings as errors, clang-tidy, cppcheck, valgrind. Stops at the first
-# error. `./run analyse` installs the tools.
+# Builds with three compilers and warnings as errors, then runs clang-tidy, cppcheck, and the tests with valgrind. Stops
+# at the first error. `./run analyse` installs the tools.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
-written=(Platform Lumora Tools Tests Fuzz Examples) # by hand; generated code is in build/
+written=(Platform Lumora Tools Tests Fuzz Examples) # by hand; not Benchmarks, which need libraries that are not installed
 
 step() { printf '%4ds  %s\n' "$SECONDS" "$1"; }
 
@@ -39,7 +39,7 @@ memcheck() {
     valgrind -q --leak-check=full --show-leak-kinds=definite,indirect --errors-for-leak-kinds=definite,indirect \
         --error-exitcode=1 "$@" >build/valgrind.log 2>&1 || { tail -n 60 build/valgrind.log; exit 1; }
 }
-for test in build/gcc-12/{bin,lib}/*_test; do
+for test in build/gcc-12/{bin,lib}/*_test; do # lib/ has the tests that load plug-ins from the folder beside them
     memcheck "$test" --gtest_filter="$notRun"
 done
 memcheck build/gcc-12/bin/demo build/contact-sheet.png

@@ -11,14 +11,15 @@ import tempfile
 
 from packaging import options, run, source
 
-# The pages, and whether they begin in an empty folder or with the resources of Examples/Shop. Only the beginning of
-# check.md is tested here; check_page.py tests the rules.
+# The pages, and whether they begin in an empty folder or in a copy of Examples/Shop. Only the beginning of check.md is
+# tested here; Tests/Check/check_page.py tests the rules.
 EMPTY, SHOP = "empty", "shop"
 PAGES = {"README.md": SHOP, "Docs/own-module.md": EMPTY, "Docs/add-a-text.md": SHOP, "Docs/add-a-language.md": SHOP,
          "Docs/add-a-picture.md": SHOP, "Docs/use-from-c.md": EMPTY, "Docs/check.md": SHOP, "Docs/translate.md": SHOP,
          "Docs/gallery.md": SHOP, "Docs/plurals.md": EMPTY, "Docs/naming.md": EMPTY}
+# "```cpp" begins a block of C++, "```cpp main.cpp" the contents of a file, "```cpp >>main.cpp" an addition to it.
 BLOCK = re.compile(r"^```(\w+)(?: (>>)?(\S+))?\n(.*?)^```$", re.DOTALL | re.MULTILINE)
-INDENTED = re.compile(r"(?:\A|\n)\n    (?! )(.*)")
+INDENTED = re.compile(r"(?:\A|\n)\n    (?! )(.*)")  # the first line of a block that is only indented
 BUILDS_LUMORA = re.compile(r"cmake .*\bbuild/own\b")  # already built for this test
 INSTALLED = "/opt/lumora"  # where the pages install it
 
@@ -40,7 +41,7 @@ def until_interrupted(command, folder, environment):
 def status_and_output(command, folder, environment):
     if command.startswith("lumora watch"):
         return until_interrupted(command, folder, environment)
-    if command.startswith("./run "):
+    if command.startswith("./run "):  # takes too long here; the script must know the command
         known = re.search(rf"^{command.split()[1]}\) ", (source / "run").read_text(encoding="utf-8"), re.M)
         return 0 if known else 2, ""
     if BUILDS_LUMORA.match(command):
@@ -58,7 +59,7 @@ def commands(kind, text):
 
 
 def follow(page, folder, environment):
-    """The errors of a page, and its fragments of C++ and CMake."""
+    """Writes the page's files into `folder` and runs its commands there; returns its errors and its fragments of C++ and CMake."""
     text = text_of(page)
     faults = [f"{page}: a block without a kind: {line}" for line in INDENTED.findall(BLOCK.sub("", text))]
     fragments = {"cpp": [], "cmake": []}
@@ -83,7 +84,7 @@ def follow(page, folder, environment):
 
 
 def compile_fragments(fragments, folder, prefix):
-    """Compiles fragments with the accessors of the page's resources."""
+    """Compiles the C++ fragments as a main(), with the accessors of the page's resources."""
     (folder / "main.cpp").write_text("#include <Shop/Shop.h>\n#include <cstdio>\n#include <string>\nint main() {\n" + "".join(fragments["cpp"]) + "}\n",
                     encoding="utf-8")
     if fragments["cmake"]:
@@ -94,7 +95,7 @@ def compile_fragments(fragments, folder, prefix):
 
 
 def unknown_tests():
-    """Tests (`Suite.Name`) that are mentioned in the pages but do not exist."""
+    """An error for each test (`Suite.Name`) that a page mentions and that does not exist."""
     tests = {f"{suite}.{name}" for file in (source / "Tests").rglob("*.cpp")
              for suite, name in re.findall(r"^TEST(?:_F|_P)?\((\w+), (\w+)\)", file.read_text(encoding="utf-8"), re.M)}
     for page in ("SECURITY.md", "Docs/reliability.md"):

@@ -1,5 +1,5 @@
-"""Fails if a file includes a folder that it must not include, or if an internal header exports anything but a plug-in's
-function."""
+"""Fails if a file of Platform, Lumora or Tools includes a folder that it must not include, or if an internal header exports
+anything but a plug-in's function."""
 import pathlib
 import re
 import sys

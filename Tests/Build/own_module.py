@@ -80,7 +80,7 @@ def build_and_change(prefix, folder, generator):
     replace(shop / "Resources/en.lproj/Localizable.strings", "Good to see you, %@ and %@!", "Good to see you, %@!")
     run(*make)
 
-    # Without its bundle a program stops at its first asset and reports both.
+    # Without its bundle a program stops at its first asset, and reports the asset and the missing bundle.
     shutil.rmtree(bundle)
     done = subprocess.run([program], capture_output=True, text=True)
     report = done.stderr.splitlines()

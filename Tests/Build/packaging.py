@@ -1,4 +1,4 @@
-"""Shared by the tests of the installed package and of the source tree in a parent project."""
+"""Shared by the tests that use Lumora like another project does."""
 import argparse
 import os
 import pathlib
@@ -42,5 +42,5 @@ def compile_by_pkg_config(package, sources, program, compiler, pkgconfig):
     run(*compiler, *sources, "-o", program, *arguments)
 
 
-# Digits are grouped with U+00A0 in Russian.
+# What consumer/app.cpp prints. Russian groups digits with U+00A0.
 NUMBER = "+1\u00a0234\u00a0567"

@@ -1,5 +1,6 @@
-"""Adds the source tree to a project with targets of the same names, builds that project's own target with the program that
-is already built, runs it, and installs the rest like a distribution: the same files as the other build installs."""
+"""Adds the source tree to a project that has targets with the names of our folders, builds that project's program with the
+`lumora` that is already built, and runs it. Then installs like a distribution, and compares the files with those that our own
+build installs."""
 import filecmp
 import pathlib
 import subprocess

@@ -7,10 +7,12 @@ struct NSString;
 
 int main(int, char** argv) {
     void* library = dlopen(argv[1], RTLD_NOW | RTLD_LOCAL);
-    if (library == nullptr || chdir("/") != 0) {
+    if (library == nullptr) {
         std::printf("%s\n", dlerror());
         return 1;
     }
+    if (chdir("/") != 0)
+        return 1;
     const auto create = reinterpret_cast<NSString* (*)(const char*)>(dlsym(library, "NSStringCreate"));
     const auto utf8 = reinterpret_cast<const char* (*)(const NSString*)>(dlsym(library, "NSStringUTF8"));
     const auto loc = reinterpret_cast<NSString* (*)(const NSString*)>(dlsym(library, "Loc"));
