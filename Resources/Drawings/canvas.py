@@ -12,7 +12,8 @@ The notation is one operation per line (or between ";"):
     s S  star              cx cy outer inner [points [turn]]
     u    another glyph     name [x y [scale [turn]]]
 
-A colour is #RRGGBB, a key of the palette, or absent: the drawing's ink.
+A colour is #RRGGBB, a key of the palette, or absent: the drawing's ink. The width is that of the stroke, by default the
+drawing's pen; a filled shape is stroked only if it has one.
 """
 
 import re
@@ -23,7 +24,7 @@ import paths
 from palette import COLOURS
 
 _HEAD = re.compile(r"^([A-Za-z])(?::([^/~]+))?(?:/([\d.]+))?(?:~([\d.]+))?$")
-GLYPHS = {}
+GLYPHS = {}  # name -> operations; glyphs.py fills it
 
 
 @dataclass
@@ -36,28 +37,30 @@ class Gradient:
 
 @dataclass
 class Item:
+    """An outline (see paths.py) with its paint, in drawing coordinates."""
     outline: list
-    fill: object = None
-    stroke: str = None
-    width: float = 0
+    fill: object = None     # "#RRGGBB" or a Gradient
+    stroke: str = None      # "#RRGGBB"
+    width: float = 0        # of the stroke
     opacity: float = 1
-    butt: bool = False
+    butt: bool = False      # the stroke ends at its end points, without round caps
 
 
 class Drawing:
     def __init__(self, width, height=None, ink="ink"):
         self.width, self.height = width, height or width
         self.items = []
-        self.matrix = paths.IDENTITY
+        self.matrix = paths.IDENTITY    # from the coordinates of the next operation to the drawing's
         self.ink = ink
         self.pen = 2            # default stroke width
         self.body = None        # when set, fills the closed stroked shapes of the notation
-        self.template = False
+        self.template = False   # whether the application tints the picture
 
     @contextmanager
-    def placed(self, x=0, y=0, scale=1, turn=0, flip=False):
+    def placed(self, x=0, y=0, scale=1, turn=0):
+        """Within the `with` statement, what is drawn is turned, scaled and moved to x, y."""
         before = self.matrix
-        self.matrix = paths.multiply(before, paths.placing(x, y, scale, turn, flip))
+        self.matrix = paths.multiply(before, paths.placing(x, y, scale, turn))
         try:
             yield self
         finally:
@@ -86,7 +89,7 @@ class Drawing:
         self.add(outline, Gradient(first, last, line or (0, 0, 0, self.height)))
 
     def draw(self, text, **names):
-        """Draws operations in the notation above; names replace {key} in the text."""
+        """Draws operations in the notation above; the values of `names` replace {name} in the text."""
         if names:
             text = text.format(**names)
         for line in re.split(r"[;\n]", text):

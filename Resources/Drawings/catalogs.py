@@ -17,10 +17,12 @@ from canvas import Drawing, Gradient
 from colours import DARK, colours
 from countries import countries
 
+# The pictures that are not SVG files.
 PNG = set("ava_1 ava_2 ava_3 ava_4 banana fried_egg omlet cup bubble_1 bubble_2 logo_small welcom_logo "
           "exercise_test_image red_point".split())
 JPEG = set("trainer_header_background feedPlaceholder defaultCourseBoy defaultCourseGirl".split())
 PDF = {"arrow", "card", "choose"}
+# The pictures that have a mirrored file for right-to-left languages.
 MIRRORED = {"arrow_right", "icon_forward", "disclosure_icon"}
 
 
@@ -47,7 +49,7 @@ def _mirror(drawing):
 
 
 def _image(name, drawing, dark):
-    """Files of one image set, by name inside its folder."""
+    """The files of one image set, by name inside its folder. `dark` makes the drawing for dark mode, or is None."""
     files, entries, properties = {}, [], {}
     if name in PNG or name in JPEG:
         kind = "png" if name in PNG else "jpg"

@@ -24,6 +24,7 @@ import svg  # noqa: E402
 ROOT = Path(__file__).resolve().parent.parent
 KINDS = {"colorset": "colors", "imageset": "images", "dataset": "data"}
 SVG = "{http://www.w3.org/2000/svg}"
+# How a component of a colour may be written: 0x1F, 31 or 0.122.
 NOTATION = re.compile(r"^(0x[0-9A-F]{2}|\d{1,3}|-?\d\.\d{3})$")
 
 
@@ -170,13 +171,13 @@ def check_distinct(faults):
     for pictures in (files, drawn):
         seen = {}
         for name, data in pictures:
-            text = re.sub(rb"\bg\d+\b", b"", data)
-            if text in seen:
-                faults.append(f"{name} and {seen[text]} are the same drawing")
-            seen[text] = name
+            if data in seen:
+                faults.append(f"{name} and {seen[data]} are the same drawing")
+            seen[data] = name
 
 
 def check_redrawn(faults):
+    """Checks that the files are those that the programs draw now."""
     made = catalogs.files()
     have = {p.relative_to(ROOT).as_posix(): p for catalog in names.CATALOGS
             for p in (ROOT / f"{catalog}.xcassets").rglob("*") if p.is_file()}

@@ -1,9 +1,9 @@
 """Values of the colour assets.
 
 Each line: NAME light [dark [light-contrast dark-contrast]] [@notation]. A value is #RRGGBB or
-#RRGGBBAA, or a grey level such as =0.96 (gamma 2.2 grey). A group line "[Folder notation]" sets the
-folder and how its components are written: decimal, byte, hex; p3 and wide (extended sRGB) are
-decimals in another colour space.
+#RRGGBBAA, or a grey level such as =0.96 (gamma 2.2 grey). A line "[Folder notation]" begins a folder
+and says how red, green and blue are written there: decimal, byte or hex. @notation is for one colour:
+p3 (Display P3) and wide (extended sRGB) are decimals in another colour space.
 """
 
 TABLE = """
@@ -63,7 +63,6 @@ blockBackgroundColor #FFFFFF #232429
 blueTextColor #2F6BEB #7FAAFF #1446B0 #B3CCFF
 borderColor #DDE1E8 #3A3B42
 brightBlue #0A84FF #409CFF @wide
-[Controls byte]
 defaultButtonPressedBackgroundColor #2A63D6 #3A72E6
 facebookButton #3463B8
 floatingButtonBackgroundColor #3B7DFF #4C88FF

@@ -1,4 +1,4 @@
-"""Market region of every country code."""
+"""The application's region of every country, by ISO 3166-1 code; "usa" also has the countries of no other region."""
 
 REGIONS = {
     "arab": """AE BH DJ DZ EG EH IQ JO KM KW LB LY MA MR OM PS QA SA SD SO SY TD TN YE""",

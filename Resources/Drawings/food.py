@@ -2,6 +2,7 @@
 
 from canvas import Drawing
 
+# number of the category in the asset's name -> (what is drawn, operations)
 CATEGORIES = {
     59: ("bread", """P:bread M8 20C4 12 12 8 24 8S44 12 40 20V38A3 3 0 0 1 37 41H11A3 3 0 0 1 8 38Z
         P:cream M12.5 19C9.5 14 15 12 24 12S38.5 14 35.5 19V37H12.5Z

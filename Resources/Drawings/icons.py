@@ -2,8 +2,8 @@
 
 Each line reads "NAME [SIZE] [FRAME[=colour]] | operations" on a 24 x 24 grid. Frames: tile (soft
 square behind), disc (filled circle, white glyph), soft (pale circle), plain (coloured glyph),
-mark (glyph made smaller, its last operation at full size in the corner). An icon whose frame names
-no colour is a template: the application tints it.
+mark (glyph made smaller, its last operation at full size in the corner). An icon without a colour is
+a template: the application tints it. The size is in points, 24 if it is absent.
 """
 
 import glyphs  # noqa: F401  (fills the vocabulary)

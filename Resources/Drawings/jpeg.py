@@ -1,4 +1,4 @@
-"""Baseline JPEG of a drawing with full colour resolution and the usual tables."""
+"""Baseline JPEG of a drawing: no chroma subsampling, the quantization tables of the standard's annex K, optimal Huffman codes."""
 
 import math
 import struct
@@ -16,6 +16,7 @@ _COSINES = [[math.cos((2 * x + 1) * u * math.pi / 16) * (math.sqrt(0.125) if u =
 
 
 def _tables(quality):
+    """The quantization tables for luminance and chrominance, scaled for a quality from 1 to 100 as is usual."""
     scale = 5000 / quality if quality < 50 else 200 - 2 * quality
     chroma = [_CHROMA[k // 8 * 4 + k % 8] if k % 8 < 4 and k // 8 < 4 else 99 for k in range(64)]
     return [[min(255, max(1, int((int(v) * scale + 50) / 100))) for v in table]
@@ -23,7 +24,7 @@ def _tables(quality):
 
 
 def _lines(values):
-    """The transform of each run of eight, the results transposed."""
+    """The cosine transform of each line of eight values; the results are transposed."""
     lines = [values[i:i + 8] for i in range(0, 64, 8)]
     return [c0 * a + c1 * b + c2 * c + c3 * d + c4 * e + c5 * f + c6 * g + c7 * h
             for c0, c1, c2, c3, c4, c5, c6, c7 in _COSINES for a, b, c, d, e, f, g, h in lines]
@@ -34,7 +35,7 @@ def _transform(block):
 
 
 def _symbols(coefficients, before):
-    """(symbol, extra bits, extra bit count) of one block, the first one for the average."""
+    """(symbol, extra bits, extra bit count) of one block: first the difference of its average to `before`, then the rest."""
     def extra(value):
         size = abs(value).bit_length()
         return size, value if value >= 0 else value + (1 << size) - 1
@@ -46,13 +47,13 @@ def _symbols(coefficients, before):
             zeros += 1
             continue
         while zeros > 15:
-            result.append((0xF0, 0, 0))
+            result.append((0xF0, 0, 0))     # sixteen zeros
             zeros -= 16
         size, bits = extra(value)
         result.append((zeros << 4 | size, bits, size))
         zeros = 0
     if zeros:
-        result.append((0, 0, 0))
+        result.append((0, 0, 0))            # only zeros up to the end of the block
     return result
 
 
@@ -109,6 +110,7 @@ def encode(drawing, scale, quality=82):
                     cache[key] = [round(values[k] / table[k]) for k in _ZIGZAG]
                 blocks.append((c > 0, _symbols(cache[key], before[c])))
                 before[c] = cache[key][0]
+    # A code for each kind (0: luminance, 1: chrominance) and part (0: averages, 1: the rest).
     counts = {(kind, part): {} for kind in (0, 1) for part in (0, 1)}
     for kind, symbols in blocks:
         for n, (symbol, _, _) in enumerate(symbols):

@@ -1,6 +1,6 @@
-"""Names of every asset, catalog by catalog, in declaration order.
+"""The names of all assets, catalog by catalog, by folder and then by name. A line "[Folder]" begins a folder.
 
-This is the order in which the catalogs are read: by folder, then by name. A line "[Folder]" begins a folder."""
+The spellings are those of the application's code, with its mistakes, such as "vdieo" and "welcom"."""
 
 COLORS = """
 chartAnkle chartBlackColor chartBlueColor chartBodyFat chartBrightBlueColor chartButtocks

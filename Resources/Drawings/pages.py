@@ -7,9 +7,10 @@ from food import CATEGORIES
 from people import Pose, bust, front, look, side
 
 REGIONS = ("arab", "asia", "europe", "latina", "usa")
+# The dishes on the table of each region, as numbers of food.CATEGORIES; the first one is in the middle.
 TABLES = {"arab": (84, 74, 81), "asia": (62, 67, 66), "europe": (59, 71, 78), "latina": (79, 81, 75),
           "usa": (65, 76, 85)}
-WIDTH, HEIGHT, FLOOR = 320, 360, 282
+WIDTH, HEIGHT, FLOOR = 320, 360, 282  # FLOOR: where the ground begins
 
 
 def _team(region):
@@ -96,7 +97,7 @@ def _goal(region):
 
 
 def _offer(male, region):
-    """A trainer to the thighs, before the landscape of the region."""
+    """A trainer down to the thighs, in front of the landscape of the region."""
     d = Drawing(240, 280)
     scenery.landscape(d, region, 214)
     with d.placed(120, 336, 1.92):

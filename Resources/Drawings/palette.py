@@ -1,4 +1,4 @@
-"""Colours of the drawings: the common palette and the look of each region."""
+"""Colours of the drawings: the common palette and those of each region."""
 
 COLOURS = {
     "ink": "#1C1C1E", "white": "#FFFFFF", "paper": "#F4F5F7", "mist": "#E4E7EC",
@@ -11,7 +11,7 @@ COLOURS = {
     "wine": "#9C2F4F", "gold": "#F5B301",
 }
 
-# skin, hair, clothes and scenery of the people and places of each region
+# Skin, hair, clothes and scenery of the people and places of each region; "plain" is for pictures without a region.
 REGIONS = {
     "plain": dict(skin="#F2C6A0", shade="#DFAA80", hair="#5A3A28", top="#3B7DFF", bottom="#23283A",
                   shoe="#FFFFFF", accent="#7A5CF0", sky=("#EEF3FF", "#D6E4FF"), far="#BDD1FA",
@@ -35,3 +35,9 @@ REGIONS = {
                shoe="#FFFFFF", accent="#3B7DFF", sky=("#F2F8FF", "#CFE4FA"), far="#A9CBE8",
                near="#7FA9CF", ground="#E9F2FA", sun="#FFFFFF"),
 }
+
+
+def darker(colour, share=0.82):
+    """A colour (#RRGGBB or a key of the palette) with `share` of its brightness."""
+    text = COLOURS.get(colour, colour)
+    return "#" + "".join(f"{int(int(text[i:i + 2], 16) * share):02X}" for i in (1, 3, 5))

@@ -8,7 +8,7 @@ import math
 import re
 
 IDENTITY = (1.0, 0.0, 0.0, 1.0, 0.0, 0.0)
-KAPPA = 0.5522847498
+KAPPA = 0.5522847498  # how far the control points of a quarter circle of radius 1 are from its ends
 _TOKEN = re.compile(r"[A-Za-z]|[-+]?(?:\d+\.?\d*|\.\d+)")
 
 
@@ -20,14 +20,14 @@ def multiply(m, n):
             a * t + c * u + e, b * t + d * u + f)
 
 
-def placing(x=0, y=0, scale=1, turn=0, flip=False):
-    """Turn by degrees (clockwise), scale, optionally mirror, then move to x, y."""
+def placing(x=0, y=0, scale=1, turn=0):
+    """The map that turns by degrees (clockwise) and scales, then moves to x, y."""
     k, s = math.cos(math.radians(turn)) * scale, math.sin(math.radians(turn)) * scale
-    sign = -1 if flip else 1
-    return (k * sign, s * sign, -s, k, x, y)
+    return (k, s, -s, k, x, y)
 
 
 def factor(m):
+    """By how much a map enlarges lengths, on average."""
     return math.sqrt(abs(m[0] * m[3] - m[1] * m[2]))
 
 
@@ -170,7 +170,7 @@ def star(cx, cy, outer, inner, points=5, turn=-90):
 
 
 def flatten(outline, tolerance=0.1):
-    """Straight-line version: a list of (points, closed)."""
+    """The outline as polylines: a list of (points, closed)."""
     result, points = [], []
     for kind, *v in outline:
         if kind == "M":

@@ -1,14 +1,15 @@
 """People: one jointed figure seen from the front or back, one seen from the side, and busts.
 
-A figure stands with its feet at (0, 0) and is 152 units tall. Angles are degrees from hanging
-straight down; outwards for the front view, forwards for the side view.
+Seen from the front, a figure stands with its feet at (0, 0) and is 152 units tall; from the side, its
+hip is at (0, 0). A limb has two angles, of its upper and its lower part, in degrees from hanging
+straight down: outwards for the front view, forwards for the side view.
 """
 
 import math
 from dataclasses import dataclass, replace
 
 import paths
-from palette import COLOURS, REGIONS
+from palette import REGIONS, darker
 
 
 @dataclass
@@ -21,23 +22,24 @@ class Look:
     top: str
     bottom: str
     shoe: str
-    style: str = "short"        # short, crop, side, curly, bald / bun, long, bob, tail, waves / scarf
+    style: str = "short"        # of the hair: short, crop, side, curly, long, bob, tail, waves; or scarf
     beard: bool = False
     sleeves: str = "none"       # none, short, long
     legs: str = "long"          # long, short, tunic
-    wide: float = 1             # factor of the trunk
-    limb: float = 1             # factor of the limbs
-    belly: float = 0            # added to the waist
-    face: bool = True
+    wide: float = 1             # factor of the trunk's width
+    limb: float = 1             # factor of the limbs' width
+    belly: float = 0            # added to the width of the waist
     trim: str = None            # stripe or logo colour
 
 
+# The hair of men and of women. The names of training targets say "ar" for "arab".
 STYLES = {"plain": ("short", "tail"), "arab": ("crop", "scarf"), "asia": ("side", "bob"),
           "europe": ("side", "long"), "latina": ("curly", "waves"), "usa": ("crop", "curly"),
           "ru": ("short", "tail"), "ar": ("crop", "scarf")}
 
 
 def look(male, region="plain", **changes):
+    """The look of a man or woman of a region, with other values for some members of Look."""
     colours = REGIONS["arab" if region == "ar" else region]
     person = Look(male, *(colours[k] for k in ("skin", "shade", "hair", "top", "bottom", "shoe")),
                   style=STYLES[region][not male], sleeves="short" if male else "none",
@@ -77,14 +79,15 @@ LEG = {"long": 1, "short": 0.75, "tunic": 1}
 
 @dataclass
 class Pose:
-    left: tuple = (12, 6)       # arm on the left of the picture
+    """The two angles of each limb in the front view."""
+    left: tuple = (12, 6)       # the arm on the left of the picture
     right: tuple = (12, 6)
     left_leg: tuple = (4, 2)
     right_leg: tuple = (4, 2)
 
 
 def front(d, who, pose=Pose(), back=False):
-    """Draws the figure seen from the front (or back); returns the hands and feet."""
+    """Draws the figure seen from the front (or back); returns where its hands and feet are, by name."""
     shoulder = (20.5 if who.male else 16.5) * who.wide
     waist = (15.5 if who.male else 11.5) * who.wide + who.belly
     hip = (14.5 if who.male else 15.5) * who.wide + who.belly * 0.7
@@ -138,13 +141,12 @@ def head(d, who, x, y, back=False, r=11.5):
             d.add(paths.ellipse(11, 1.5, 2.2, 2.8), who.shade)
         d.add(paths.ellipse(0, 0.5, 11, 12.3), who.skin)
         _hair(d, who)
-        if who.face:
-            ink = "#2A1B16"
-            d.add(paths.ellipse(-4.2, 0.8, 1.25, 1.5), ink)
-            d.add(paths.ellipse(4.2, 0.8, 1.25, 1.5), ink)
-            d.add("M-6.4 -2.6Q-4.3 -4 -2.4 -2.8M6.4 -2.6Q4.3 -4 2.4 -2.8", None, who.hair, 1)
-            d.add("M0 2V4.2", None, who.shade, 1.4)
-            d.add("M-3.2 6.6Q0 9.4 3.2 6.6", None, "#B4453F", 1.4)
+        ink = "#2A1B16"
+        d.add(paths.ellipse(-4.2, 0.8, 1.25, 1.5), ink)
+        d.add(paths.ellipse(4.2, 0.8, 1.25, 1.5), ink)
+        d.add("M-6.4 -2.6Q-4.3 -4 -2.4 -2.8M6.4 -2.6Q4.3 -4 2.4 -2.8", None, who.hair, 1)
+        d.add("M0 2V4.2", None, who.shade, 1.4)
+        d.add("M-3.2 6.6Q0 9.4 3.2 6.6", None, "#B4453F", 1.4)
 
 
 def hair_behind(d, who, x, y, r=11.5):
@@ -188,11 +190,9 @@ def _hair(d, who):
     elif style == "curly":
         for cx, cy in ((-9, -7), (-5, -11), (0, -12.5), (5, -11), (9, -7), (-2, -8.6), (3.5, -8.4)):
             d.add(paths.ellipse(cx, cy, 4.4), hair)
-    elif style in ("tail", "bun", "long", "waves"):
+    elif style in ("tail", "long", "waves"):
         d.add("M-12 2C-13.5 -10 -7 -14.6 0 -14.6S13.5 -10 12 2C11 -3 7 -6.5 0 -8.6C-5 -6 -10 -3 -12 2Z",
               hair)
-        if style == "bun":
-            d.add(paths.ellipse(0, -16.5, 5.6), hair)
     elif style == "bob":
         d.add("M-12.8 4C-14.5 -10 -8 -15 0 -15S14.5 -10 12.8 4C11.5 0 10.8 -3 10 -5C4 -4 -4 -4 -10 -5"
               "C-10.8 -3 -11.5 0 -12.8 4Z", hair)
@@ -214,7 +214,7 @@ def _hair_back(d, who):
 
 def side(d, who, lean=0, near_arm=(20, 60), far_arm=(-20, 30), near_leg=(5, 0), far_leg=(-5, 0),
          nod=0):
-    """The figure from the side, facing right, its hip at (0, 0); returns hands, feet and head."""
+    """Draws the figure seen from the side, facing right; returns where its hands, feet and head are, by name."""
     build = who.wide
     trunk = ((18 if who.male else 15) * build + who.belly)
     arm, leg = (9.5 if who.male else 7.5) * who.limb, (14 if who.male else 13) * who.limb
@@ -237,8 +237,8 @@ def side(d, who, lean=0, near_arm=(20, 60), far_arm=(-20, 30), near_leg=(5, 0), 
         d.add(paths.ellipse(x, y, arm * 0.56), skin)
         ends[key] = (x, y)
 
-    dark = _darker(who.bottom)
-    one_arm(far_arm, _darker(who.top), who.shade, "far_hand")
+    dark = darker(who.bottom)
+    one_arm(far_arm, darker(who.top), who.shade, "far_hand")
     one_leg(far_leg, dark, who.shade, "far_foot")
     one_leg(near_leg, who.bottom, who.skin, "near_foot")
     d.add(paths.polyline([0, -3, sx * 0.93, sy * 0.93]), None, who.top, trunk)
@@ -256,7 +256,7 @@ def side(d, who, lean=0, near_arm=(20, 60), far_arm=(-20, 30), near_leg=(5, 0), 
 
 def profile(d, who):
     """A head from the side, facing right."""
-    if who.style in ("tail", "long", "waves", "bun"):
+    if who.style in ("tail", "long", "waves"):
         d.add("M-8 -9C-20 -10 -21 6 -16 15C-13 8 -11 3 -7 1Z", who.hair)
     d.add("M-9.5 -2C-9 -12 8 -13 9.5 -3L12 2.6C12 3.6 10.6 3.8 9.8 4C10 9 8 12 3.5 12C-4 12 -10 8 -9.5 -2Z",
           who.skin)
@@ -277,11 +277,6 @@ def profile(d, who):
     d.add(paths.ellipse(5.8, -0.6, 1.2, 1.5), "#2A1B16")
     if not who.beard:
         d.add("M9 7.4Q7.4 8.4 5.8 7.6", None, "#B4453F", 1.3)
-
-
-def _darker(colour, share=0.82):
-    text = COLOURS.get(colour, colour)
-    return "#" + "".join(f"{int(int(text[i:i + 2], 16) * share):02X}" for i in (1, 3, 5))
 
 
 def bust(d, who, x, bottom, scale=1):

@@ -5,7 +5,7 @@ import scenery
 from canvas import Drawing
 from people import bust, look, side
 
-# name: (tint, colour, main glyph, [(small glyph, x, y)])
+# For empty pages: name -> (tint of the background, colour, main glyph, [(small glyph, x, y)])
 EMPTY = {
     "addAnalytics": ("sky", "blue", "pie", [("bars", 128, 96)]),
     "addCard": ("lilac", "violet", "card", [("plus", 130, 104)]),
@@ -27,6 +27,7 @@ EMPTY = {
     "searchEmpty": ("sky", "blue", "search", [("ask", 67, 64)]),
     "chart_placeholder": ("mint", "teal", "curve", [("flag", 128, 34)]),
 }
+# name -> (tint of the background, colour, glyph, operations drawn over it)
 ADVICE = {
     "advice1": ("sky", "blue", "glass", "P:blue/0.35 M7.2 11.5H16.8L16 20H8Z"),
     "advice2": ("lilac", "violet", "moon", "S:gold 18 5.5 2.6 1.1;S:gold 20.5 9.5 1.6 .7"),
@@ -35,11 +36,12 @@ ADVICE = {
     "advice5": ("rose", "pink", "shoe", "l:pink~1 1 5 6 5;l:pink~1 3 3 8 3"),
     "advice_registration": ("mint", "teal", "clip", "l~1 8.5 11 15.5 11;l~1 8.5 14 15.5 14;C:orange 18 18 4.5;l:white~1 16 18.2 17.5 19.7 20.2 16.8"),
 }
+# The pictures that have a version for dark mode.
 DARK = {"chart_placeholder", "searchEmpty", "emptyClients", "emptyFavorites", "blocked_users", "emptyComments"}
 
 
 def _scene(d, tint, colour, dark):
-    """A cloud-like blob, a shadow and three dots."""
+    """The background: a rounded shape, a shadow and three dots."""
     d.add("M90 12C122 4 158 20 166 56C174 90 172 124 142 144C112 164 60 166 32 144C4 122 4 82 18 56"
           "C32 30 58 20 90 12Z", "#2C2F3A" if dark else tint)
     scenery.shadow(d, 90, 156, 52)
@@ -55,6 +57,7 @@ def _empty(name, dark=False):
     with d.placed(42, 40, 4):
         d.draw(f"u {glyph}")
     for small, x, y in extras:
+        # An inner glyph is drawn into the main one, others on a disc of their own.
         inner = glyph in ("round_bubble", "search") or small == "pulse"
         d.ink, d.pen, d.body = (colour, 2.4, None) if inner else ("white", 2.4, None)
         if not inner:
@@ -106,8 +109,8 @@ def _logo(size):
 def _welcome_logo():
     d = Drawing(160, 120)
     d.fade("#7A5CF0", "#3B7DFF", paths.ellipse(80, 60, 56))
-    for x, side_ in ((14, 1), (146, -1)):
-        d.draw(f"R:violet {x - 5} 40 10 40 4;R:blue {x + 4 * side_ * 2 - 4} 46 8 28 3")
+    for x, inwards in ((14, 1), (146, -1)):
+        d.draw(f"R:violet {x - 5} 40 10 40 4;R:blue {x + 8 * inwards - 4} 46 8 28 3")
     d.draw("R:night 0 56 10 8 3;R:night 150 56 10 8 3")
     _quill(d, 42, 24, 3.1)
     return d
@@ -227,5 +230,5 @@ def pictures():
 
 
 def dark_pictures():
-    """The pictures that have a separate version for dark mode."""
+    """name -> function giving the drawing for dark mode"""
     return {name: (lambda n=name: _empty(n, True)) for name in sorted(DARK)}

@@ -5,6 +5,7 @@ import scenery
 from canvas import Drawing
 from people import Pose, bust, front, look, side
 
+# Background and accent colour for men (True), women (False) and the Arab region.
 TINTS = {True: ("#DCE8FF", "#3B7DFF"), False: ("#FFE0EC", "#F2639A"), "arab": ("#FBE6BE", "#0F8B7E")}
 
 
@@ -15,8 +16,8 @@ def _who(male, region, **changes):
     return look(male, region, **changes)
 
 
-def _frame(male, region, size=160, height=None):
-    d = Drawing(size, height)
+def _frame(male, region):
+    d = Drawing(160)
     scenery.backdrop(d, TINTS["arab" if region else male][0])
     return d
 
@@ -42,7 +43,7 @@ def _age(male):
     bust(d, _who(male, None), 66, 160, 1.3)
     with d.placed(94, 88, 1.15):
         d.draw("R:white 0 6 48 46 7;R:{c} 0 6 48 14 6;R:{c} 0 14 48 6;l:slate~3.6 12 2 12 10;l:slate~3.6 36 2 36 10",
-               c=TINTS[male][1][0:7])
+               c=TINTS[male][1])
         d.draw("l:slate~3 10 30 15 27 15 44;p:slate~3 M24 31C24 26 36 26 36 31C36 35 24 40 24 44H36" if male else
                "p:slate~3 M9 31C9 26 20 26 20 31C20 35 9 40 9 44H20;p:slate~3 M38 28H28V35C36 33 40 37 38 41C36 45 30 45 27 43")
     return d
@@ -123,6 +124,7 @@ def _equipment(male, region):
 
 
 def _bare(male, region):
+    """Training without equipment."""
     d = _frame(male, region)
     if region:
         _arch(d)
@@ -137,6 +139,7 @@ def _bare(male, region):
 
 
 def _cover(male, region):
+    """The cover of a course that has no picture of its own."""
     d = Drawing(320, 200)
     arab = bool(region)
     first, last = ("#2747A8", "#8EC5FF") if male else ("#8B3FA8", "#FFB3C9")
@@ -269,7 +272,7 @@ def pictures():
             for name, function in ((f"sex{boy}", _sex), (f"gym{boy}", _gym), (f"home{boy}", _home),
                                    (f"defaultCourse{boy}", _cover), (f"{low}_equipment", _equipment),
                                    (f"{low}_no_equipment", _bare)):
-                if name + suffix != "homeBoy.arab":
+                if name + suffix != "homeBoy.arab":  # the application has no such picture
                     result[name + suffix] = lambda f=function, m=male, r=region: f(m, r)
         for name, function in (("age", _age), ("height", _height), ("weight", _weight)):
             result[name + boy] = lambda f=function, m=male: f(m)

@@ -7,11 +7,11 @@ import zlib
 import paths
 from canvas import Gradient
 
-SUBLINES = 5
+SUBLINES = 5  # lines per row of pixels at which the outlines are sampled
 
 
 def _stroke(lines, width, butt):
-    """Polygons with the same orientation that together cover a stroke with round joins."""
+    """Polygons with the same orientation that together cover a stroke with round joins and, unless `butt`, round ends."""
     r = width / 2
     sides = max(8, min(48, int(4 * math.sqrt(r) * 2)))
     disc = [(r * math.cos(2 * math.pi * k / sides), r * math.sin(2 * math.pi * k / sides))
@@ -31,7 +31,8 @@ def _stroke(lines, width, butt):
 
 
 def _spans(polygons, width, height):
-    """Yields (row, {pixel: coverage}, [(first, last) wholly covered runs])."""
+    """Yields (row, {pixel: coverage}, [(first, end)]) for each row with covered pixels: the coverage of single pixels, and the
+    runs that one line covers as a whole. Coverages and runs are per line, so a full pixel has SUBLINES of both together."""
     rows = {}
     for polygon in polygons:
         for (x0, y0), (x1, y1) in zip(polygon, polygon[1:] + polygon[:1]):

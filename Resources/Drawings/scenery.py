@@ -2,8 +2,7 @@
 
 import glyphs  # noqa: F401  (fills the vocabulary)
 import paths
-from people import _darker as darker
-from palette import REGIONS
+from palette import REGIONS, darker
 
 # Landscapes, in the notation of canvas.py, for a picture of width 320 with the horizon at y = 0.
 MOTIFS = {
@@ -47,15 +46,13 @@ MOTIFS = {
 }
 
 
-def landscape(d, region, horizon=None, sun=True):
-    """Sky, sun, the region's motif and the ground over the whole drawing. The region "ar" is "arab" in the names of training targets."""
+def landscape(d, region, horizon):
+    """Sky, sun, the region's motif and the ground over the whole drawing. The names of training targets say "ar" for "arab"."""
     region = "arab" if region == "ar" else region
     c = REGIONS[region]
-    horizon = horizon or d.height * 0.78
     k = d.width / 320
     d.fade(c["sky"][0], c["sky"][1])
-    if sun:
-        d.add(paths.ellipse(d.width * 0.62, horizon - 150 * k, 40 * k), c["sun"], opacity=0.8)
+    d.add(paths.ellipse(d.width * 0.62, horizon - 150 * k, 40 * k), c["sun"], opacity=0.8)
     with d.placed(0, horizon, k):
         d.draw(MOTIFS[region], far=c["far"], near=c["near"], ground=c["ground"], sun=c["sun"],
                sky1=c["sky"][1])
@@ -63,9 +60,9 @@ def landscape(d, region, horizon=None, sun=True):
     d.add(f"M0 {horizon}H{d.width}", None, darker(c["ground"], 0.9), 2 * k, butt=True)
 
 
-def backdrop(d, tint, radius=None):
+def backdrop(d, tint):
     """A rounded plate behind a small picture."""
-    d.add(paths.rect(0, 0, d.width, d.height, d.width * 0.12 if radius is None else radius), tint)
+    d.add(paths.rect(0, 0, d.width, d.height, d.width * 0.12), tint)
 
 
 def shadow(d, x, y, rx):
@@ -102,7 +99,7 @@ def mat(d, x, y, half, colour="teal"):
 
 
 def gym(d, floor, tint="#E3EBFB", line="#C3D2F2"):
-    """A hall: tiled wall, mirror edge and a rack of dumbbells."""
+    """A hall: a mirror in four parts, and dumbbells on two shelves."""
     w = d.width
     d.add(paths.rect(0, 0, w, d.height), tint)
     d.add(paths.rect(w * 0.06, floor - 104, w * 0.88, 70, 4), "#FFFFFF", opacity=0.75)
@@ -119,8 +116,8 @@ def gym(d, floor, tint="#E3EBFB", line="#C3D2F2"):
             d.add(f"M{x - 4} {y}H{x + 4}", None, "#8E9BB8", 2)
 
 
-def room(d, floor, wall="#FFF0DE", ground="#D8A878", arch=False):
-    """A living room: window, picture, plant."""
+def room(d, floor, wall, ground, arch=False):
+    """A living room: a window, which may have a pointed arch, and a plant."""
     w = d.width
     d.add(paths.rect(0, 0, w, d.height), wall)
     d.add(paths.rect(0, floor, w, d.height - floor), ground)
