@@ -136,6 +136,7 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              "}}}",
          "x"},
         {__LINE__, "{'variations': {'plural': {'other': {'stringUnit': {'state': 'new', 'value': ''}}}}}", "k"},
+        {__LINE__, "{'stringUnit': {'value': 'Hi'}, 'variations': {'device': {'mac': {}}}}", "Hi"},
     };
     for (const auto& one : cases)
         EXPECT_EQ(shownOf(one.localization), one.shown) << "line " << one.line;
@@ -212,6 +213,23 @@ TEST(StringCatalog, ReportsWhatItLeavesOut) {
                        "note: T.xcstrings:2:10: texts for specific devices are left out",
                        "note: T.xcstrings:3:1: texts for specific devices are left out",
                        "error: en.lproj/T.strings: is the table \"T\" in the language en, as is T.xcstrings"}));
+}
+
+TEST(StringCatalog, LimitsTheSubstitutionsOfATextAndItsDeviceTogether) {
+    const auto substitutions = [](const std::string& name) {
+        std::string all = "'substitutions': {";
+        for (int i = 0; i < 200; ++i)
+            all += (i == 0 ? "'" : ", '") + name + std::to_string(i) + "': {}";
+        return all + "}";
+    };
+    Support::SourceFolder folder;
+    folder.write("T.xcstrings", quotes("{'sourceLanguage': 'en', 'strings': {'k': {'localizations': {'en': {" +
+                                       substitutions("a") + ", 'variations': {'device': {'other': {" +
+                                       substitutions("b") + ", 'stringUnit': {'value': '%#@a1@'}}}}}}}}}"));
+    const auto source = folder.read();
+    EXPECT_EQ(source.tables.at(0).find("en")->find("k")->plural->variables.size(), 256U);
+    EXPECT_EQ(folder.takeMessages(),
+              (Strings{"warning: T.xcstrings:1:38: a text has more than 256 substitutions; the rest is left out"}));
 }
 
 TEST(PluralTables, WinOverEqualKeysOfTexts) {

@@ -7,7 +7,6 @@
 #include "StringTables/internal/PluralKeys.h"
 #include "StringTables/internal/Unicode.h"
 #include <algorithm>
-#include <iterator>
 #include <simdjson.h>
 #include <tuple>
 #include <utility>
@@ -62,11 +61,18 @@ struct Localized {
         return std::ranges::any_of(forms, [](const auto& form) { return form.has_value(); });
     }
     bool isEmpty() const { return !text && !hasForms(); }
+    void add(Substitution&& substitution) {
+        if (substitutions.size() < StringTables::PluralTable::maxVariables)
+            substitutions.push_back(std::move(substitution));
+        else
+            hasTooManySubstitutions = true;
+    }
     // Uses the text for one kind of device.
     void take(Localized&& device) {
         text = std::move(device.text);
         forms = std::move(device.forms);
-        std::ranges::move(device.substitutions, std::back_inserter(substitutions));
+        for (Substitution& substitution : device.substitutions)
+            add(std::move(substitution));
         hasTooManySubstitutions |= device.hasTooManySubstitutions;
         note(device.state);
     }
@@ -180,7 +186,8 @@ void readDevices(ondemand::value object, Localized& out) {
             chosen = std::move(device);
         }
     });
-    out.take(std::move(chosen));
+    if (!chosen.isEmpty())
+        out.take(std::move(chosen));
 }
 
 void readVariations(ondemand::value object, Localized& out) {
@@ -200,7 +207,8 @@ void readSubstitutions(ondemand::value object, Localized& out) {
         Localized forms;
         forEach(value, [&](std::string_view member, ondemand::value inner) {
             if (member == "argNum")
-                substitution.argument = std::min<std::uint64_t>(inner.get_uint64(), 9999); // the last position
+                substitution.argument =
+                    std::min<std::uint64_t>(inner.get_uint64(), 9999); // the highest position of a placeholder
             else if (member == "formatSpecifier")
                 substitution.variable.valueType = std::string(std::string_view(inner.get_string()));
             else if (member == "variations")
@@ -213,10 +221,7 @@ void readSubstitutions(ondemand::value object, Localized& out) {
         substitution.variable.forms = std::move(forms.forms);
         out.note(forms.state);
         out.hasDevices |= forms.hasDevices;
-        if (out.substitutions.size() < StringTables::PluralTable::maxVariables)
-            out.substitutions.push_back(std::move(substitution));
-        else
-            out.hasTooManySubstitutions = true;
+        out.add(std::move(substitution));
     });
 }
 
@@ -305,16 +310,16 @@ private:
 
     void readKey(std::string_view key, ondemand::value object, std::uint32_t line, std::uint32_t column) {
         std::string comment;
-        CatalogText about{
+        CatalogText common{
             .language = {}, .key = key, .text = {}, .plural = {}, .comment = {}, .line = line, .column = column};
         std::vector<std::pair<std::string, Localized>> localizations;
         forEach(object, [&](std::string_view name, ondemand::value value) {
             if (name == "comment")
                 comment = std::string(std::string_view(value.get_string()));
             else if (name == "extractionState")
-                about.isStale = std::string_view(value.get_string()) == "stale";
+                common.isStale = std::string_view(value.get_string()) == "stale";
             else if (name == "shouldTranslate")
-                about.isTranslatable = value.get_bool();
+                common.isTranslatable = value.get_bool();
             else if (name == "localizations")
                 forEach(value, [&](std::string_view language, ondemand::value localization) {
                     auto& [code, localized] = localizations.emplace_back(std::string(language), Localized());
@@ -330,13 +335,13 @@ private:
             else
                 skip(value);
         });
-        about.comment = comment;
+        common.comment = comment;
         std::erase_if(localizations, [](const auto& each) { return each.second.isEmpty(); });
         const auto isSource = [&](const auto& each) { return each.first == sourceLanguage_; };
         if (std::ranges::none_of(localizations, isSource))
             localizations.emplace(localizations.begin(), sourceLanguage_, Localized())->second.text = std::string(key);
         for (auto& [language, localized] : localizations)
-            add(about, language, std::move(localized));
+            add(common, language, std::move(localized));
     }
 
     void add(CatalogText text, std::string_view language, Localized localized) {
