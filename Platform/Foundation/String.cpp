@@ -27,9 +27,9 @@ std::string_view firstCharacters(std::string_view text, std::size_t limit) noexc
     return text;
 }
 
-// The part of a format before the first placeholder other than "%@"; usually the whole format. Its result is made on
-// the stack, so that the formatted text needs one allocation. Empty if an argument is no text or the stack has too
-// little room.
+// The part of a format before the first placeholder other than "%@"; usually the whole format. Its result is made in a
+// buffer on the stack, so that the formatted text needs one allocation. Empty if any of the arguments is not a text, or
+// if the format and all arguments together are longer than the buffer.
 class PlainBeginning {
 public:
     PlainBeginning(std::string_view format, StringTables::PercentRange percents,
@@ -52,9 +52,9 @@ public:
     // Whether this is the whole format.
     bool isWhole() const noexcept { return isWhole_; }
     std::string_view text() const noexcept { return {buffer_.data(), static_cast<std::size_t>(out_ - buffer_.data())}; }
-    // The size in the format up to the last "%@".
-    std::size_t size() const noexcept { return done_; }
-    std::size_t arguments() const noexcept { return taken_; }
+    // The bytes of the format, and the arguments, that text() replaces: those up to the last "%@".
+    std::size_t formatSize() const noexcept { return done_; }
+    std::size_t argumentCount() const noexcept { return taken_; }
 
 private:
     // Whether the buffer has room for the format and all arguments; never if one is not a text.
@@ -83,20 +83,20 @@ public:
         : format_(format), locale_(locale), arguments_(arguments), limit_(format.size() + largestGrowth) {}
 
     std::string run(const PlainBeginning& beginning) {
-        out_.reserve(std::min(beginning.text().size() + expectedSize(), limit_));
+        out_.reserve(std::min(expectedSize(beginning), limit_));
         out_ = beginning.text();
-        counter_ = ArgumentCounter(beginning.arguments());
-        fill(beginning.size());
+        counter_ = ArgumentCounter(beginning.argumentCount());
+        fill(beginning.formatSize());
         if (out_.size() > limit_)
             out_.resize(StringTables::internal::cutToSize(out_, limit_).size());
         return std::move(out_);
     }
 
 private:
-    std::size_t expectedSize() const noexcept {
+    std::size_t expectedSize(const PlainBeginning& beginning) const noexcept {
         static constexpr std::size_t numberSize = 32;
-        std::size_t size = format_.size();
-        for (const FormatArgument& argument : arguments_)
+        std::size_t size = beginning.text().size() + format_.size() - beginning.formatSize();
+        for (const FormatArgument& argument : arguments_.subspan(beginning.argumentCount()))
             size += argument.kind() == Kind::text ? argument.text().size() : numberSize;
         return size;
     }
@@ -132,7 +132,8 @@ private:
         const FormatArgument* const given = argument(position);
         return given != nullptr && given->kind() == Kind::integer ? std::optional(given->integer()) : std::nullopt;
     }
-    static std::size_t bounded(std::int64_t size) noexcept {
+    // The magnitude of a width or precision, at most largestSize.
+    static std::size_t boundedMagnitude(std::int64_t size) noexcept {
         static constexpr std::int64_t largest = largestSize;
         return static_cast<std::size_t>(std::clamp(size, -largest, largest) * (size < 0 ? -1 : 1));
     }
@@ -149,10 +150,10 @@ private:
         const std::int64_t width = resolved(placeholder.width, taken.width).value_or(0);
         const std::int64_t precision = resolved(placeholder.precision, taken.precision).value_or(-1);
         const std::size_t begin = out_.size();
-        const detail::Padding padding =
-            appendArgument({placeholder, precision < 0 ? std::nullopt : std::optional(bounded(precision))}, *given);
+        const detail::Padding padding = appendArgument(
+            {placeholder, precision < 0 ? std::nullopt : std::optional(boundedMagnitude(precision))}, *given);
         if (width != 0 && out_.size() <= limit_)
-            pad(begin, bounded(width), placeholder.leftAligned || width < 0, padding);
+            pad(begin, boundedMagnitude(width), placeholder.leftAligned || width < 0, padding);
     }
 
     detail::Padding appendArgument(const detail::Conversion& conversion, const FormatArgument& given) {

@@ -27,7 +27,7 @@ std::vector<StoredText> textsOf(const PluralFormat& plural) {
 
 using Part = std::vector<std::string>;
 
-// A part of a key, which is a text or plural forms, in the development language and the translation.
+// The texts of one part of a key in the development language and in the translation: one text each, or plural forms.
 struct PartTexts {
     Part part;
     bool isPlural = false;
@@ -91,7 +91,7 @@ private:
 
     // A format that consists of a single variable is the same in all languages.
     bool isTrivialFormat(const PartTexts& part) const {
-        if (part.part.size() != 1 || key_.development->plural == nullptr)
+        if (part.part != Part{std::string(formatPart)} || key_.development->plural == nullptr)
             return false;
         const auto isVariable = [this](const StoredText* text) {
             return std::ranges::any_of(key_.development->plural->variables, [text](const auto& variable) {
@@ -113,16 +113,17 @@ private:
         return nullptr;
     }
 
-    // If the development text has forms or texts for devices, a plain translation counts as the form `other`.
+    // If the development text has plural forms, a plain translation counts as the form `other`; if it has texts for
+    // devices, as that for the device `other`.
     const StoredText* targetOf(const PartTexts& part, std::optional<PluralCategory> category) const {
         if (const StoredText* const own = find(part.translated, category))
             return own;
-        const bool isOther = (!category || category == PluralCategory::other) &&
-                             (part.part.empty() || part.part == Part{std::string(devicePart), "other"});
+        const bool isOtherForm = !category || category == PluralCategory::other;
+        const bool isOtherDevice = part.part == Part{std::string(devicePart), "other"} && part.translated.empty();
         const auto plain = std::ranges::find_if(
             translated_, [](const StoredText& text) { return text.part.empty() && !text.category; });
-        const bool isConverted = part.translated.empty() || part.part.empty();
-        return isOther && isConverted && plain != translated_.end() ? &*plain : nullptr;
+        const bool isPlain = isOtherForm && (part.part.empty() || isOtherDevice) && plain != translated_.end();
+        return isPlain ? &*plain : nullptr;
     }
 
     void add(const PartTexts& part, std::optional<PluralCategory> category) {

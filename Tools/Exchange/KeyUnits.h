@@ -40,8 +40,9 @@ struct Key {
 // translated.
 [[nodiscard]] std::vector<Unit> unitsOf(const Key& key, StoredTexts& texts);
 
-// Whether the key can be exchanged. False if the translation is in a kind of file that cannot contain the same forms as
-// the development text, such as a .stringsdict file for a plain development text.
+// Whether the key can be exchanged: it has no translation, or one in the same kind of file as the development text, or
+// one of these: a .strings text for a plural of a .stringsdict file (an import replaces it by a plural); a .strings
+// text for a plain text of a string catalog; a text of a string catalog for a .strings text.
 [[nodiscard]] bool isExchanged(const Key& key, StoredTexts& texts);
 
 // Whether the unit has no translation although the language needs one (needsCategory()), or has one that a string

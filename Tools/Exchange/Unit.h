@@ -36,14 +36,16 @@ struct UnitId {
 
 struct Unit {
     UnitId id;
-    std::string source{};                           // the development text
-    std::optional<PluralCategory> sourceCategory{}; // the development form that `source` is
-    std::string target{};                           // the translation; empty if there is none
-    State state = State::isNew;                     // of the translation
-    bool isFuzzy = false;  // the flag of its PO entry, which may be due to another form of the plural
-    std::string comment{}; // for translators
-    std::string place{};   // of the development text, "en.lproj/Localizable.strings:12"
-    std::size_t line = 0;  // in the file that was read
+    std::string source{}; // the development text
+    // The category of the unit to which `source` belongs: that of `id`, or in a PO file that of its msgid (`one`) or
+    // msgid_plural (`other`).
+    std::optional<PluralCategory> sourceCategory{};
+    std::string target{};       // the translation; empty if there is none
+    State state = State::isNew; // of the translation
+    bool isFuzzy = false;       // the flag of its PO entry, which may be due to another form of the plural
+    std::string comment{};      // for translators
+    std::string place{};        // of the development text, "en.lproj/Localizable.strings:12"
+    std::size_t line = 0;       // in the file that was read
 };
 
 // Whether both units belong to the same text or plural.

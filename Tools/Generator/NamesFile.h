@@ -2,7 +2,7 @@
 // Accessor names chosen by the team: a string table that maps "TABLE/KEY" to the accessor's dotted path below the
 // table's namespace.
 //     "Localizable/Ban %@" = "Moderation.banUser";
-// Text: UTF-8. Threads: plain values.
+// Text: UTF-8. Threads: one at a time.
 #pragma once
 
 #include "SourceBundle/Diagnostics.h"
@@ -19,13 +19,13 @@ class NamesFile {
 public:
     // No names.
     NamesFile() = default;
-    // An unreadable file is an error. A path with a part that Namer rejects as a C++ spelling (the last one) or as a
-    // namespace is a warning, and the key gets the name by the rule.
+    // An unreadable file is an error. A path is invalid if its last part is no Namer::isCppSpelling() or another part
+    // no Namer::isNamespaceSpelling(); that is a warning, and the key gets the name by the rule.
     [[nodiscard]] static NamesFile read(const std::filesystem::path& file, SourceBundle::Diagnostics& diagnostics);
 
-    // The parts of the path, groups first; null if the file does not mention the key.
+    // The parts of the path, groups first; null if the file has no valid path for the key. Marks the path as used.
     [[nodiscard]] const std::vector<std::string>* find(std::string_view table, std::string_view key);
-    // Warns about keys for which find() was never called, because they are not in the development texts of a table with
+    // Warns about valid paths that are not used, because their keys are not in the development texts of a table with
     // accessors.
     void reportUnused(SourceBundle::Diagnostics& diagnostics) const;
 
