@@ -86,7 +86,7 @@ bool showAssets(const char* file) {
     std::printf("\n\nPictures chosen by region and sex\n");
 
     UIKit::UITraitCollection::setCurrent({.displayScale = 2});
-    Sheet sheet(std::size(regions), 6);
+    Sheet sheet(std::size(regions), 6); // a column for each region, a row for each picture below
     unsigned column = 0;
     for (const char* region : regions) {
         const UIKit::UIImage pictures[] = {

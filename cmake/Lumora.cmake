@@ -120,7 +120,7 @@ function(lumora_shared_library target map)
     if(LUMORA_HAS_NOSEPARATE_CODE)
         target_link_options(${target} PRIVATE -Wl,-z,noseparate-code)
     endif()
-    if(NOT LUMORA_SANITIZE) # a program has the sanitizer's functions
+    if(NOT LUMORA_SANITIZE) # the sanitizer's functions are in the program, so they are undefined here
         target_link_options(${target} PRIVATE -Wl,-z,defs)
     endif()
 endfunction()

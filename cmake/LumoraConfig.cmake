@@ -1,5 +1,5 @@
 # The package Lumora. Components: Platform (Lumora::Platform), Module (Lumora::Lumora), Tools (Lumora::lumora). All that
-# are installed are available; a list of components says which must be. lumora_add_module() needs Platform and Tools.
+# are installed are loaded; it is an error if one that find_package requires is not. lumora_add_module() needs Platform and Tools.
 foreach(component Platform Module Tools)
     if(EXISTS ${CMAKE_CURRENT_LIST_DIR}/Lumora${component}.cmake)
         include(${CMAKE_CURRENT_LIST_DIR}/Lumora${component}.cmake)

@@ -75,8 +75,8 @@ function(lumora_add_module name)
     foreach(shard RANGE 1 ${arg_SHARDS})
         list(APPEND code ${folder}/${name}Strings-${shard}.cpp)
     endforeach()
-    # Of the generated headers, the build system knows only these. Each has a fingerprint of the others, so it changes when
-    # one of them does, and the files that include it are compiled again.
+    # Of the generated headers, the build system knows only these two. Each has a fingerprint of the headers that it
+    # includes, so it changes when one of them does, and the files that include it are compiled again.
     set(known ${folder}/${name}Strings.h ${folder}/${name}Asset.h)
     list(TRANSFORM arg_INCLUDE REPLACE "(.+)" "--include;\\1" OUTPUT_VARIABLE includes)
     list(TRANSFORM arg_HEADERS REPLACE "(.+)" "--header;\\1" OUTPUT_VARIABLE headers)

@@ -20,7 +20,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY
 set(runtime liblumora${PROJECT_VERSION_MAJOR})
 set(same_version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime})
-# Written here, because CPack would warn about each plug-in when it wrote them.
+# Not written by CPack, which would warn about each plug-in.
 set(shlibs ${PROJECT_BINARY_DIR}/debian/shlibs)
 file(WRITE ${shlibs} "liblumora ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})
 liblumora-platform ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})
