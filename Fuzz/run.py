@@ -60,9 +60,12 @@ class Fuzzer:
 if len(sys.argv) < 3 or not sys.argv[2].isdigit():
     sys.exit(__doc__.splitlines()[0])
 programs, limit = pathlib.Path(sys.argv[1]).resolve(), int(sys.argv[2])
-waiting = sys.argv[3:] or [name for name in corpora if (programs / f"fuzz-{name}").exists()]
-if unknown := [name for name in waiting if name not in corpora]:
-    sys.exit(f"no fuzzer {' '.join(unknown)}; there are {' '.join(corpora)}")
+built = [name for name in corpora if (programs / f"fuzz-{name}").exists()]
+if not built:
+    sys.exit(f"there are no fuzzers in {programs}")
+waiting = sys.argv[3:] or built
+if unknown := [name for name in waiting if name not in built]:
+    sys.exit(f"no fuzzer {' '.join(unknown)}; there are {' '.join(built)}")
 running, failures = [], []
 while waiting or running:
     while waiting and len(running) < together:

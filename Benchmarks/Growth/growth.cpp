@@ -24,7 +24,7 @@ Texts textsOf(std::string_view bytes) {
     Texts texts;
     const auto next = [&bytes] {
         const std::string_view one = bytes.substr(0, bytes.find('\0'));
-        bytes.remove_prefix(one.size() + 1);
+        bytes.remove_prefix(std::min(one.size() + 1, bytes.size()));
         return one;
     };
     while (!bytes.empty()) {

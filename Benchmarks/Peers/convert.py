@@ -12,7 +12,8 @@ texts = json.load(sys.stdin)
 
 
 def placed(text, placeholder, escaped=lambda part: part):
-    """The text with each placeholder written as placeholder(position, letter), and the parts between as escaped(part)."""
+    """The text with each placeholder written as placeholder(position, letter), and the text between, including "%%" as "%", as
+    escaped(part)."""
     out, end, last = "", 0, 0
     for found in re.finditer(r"%(?:(\d+)\$)?(?:ll|l)?([@diusf%])", text):
         out += escaped(text[end:found.start()])

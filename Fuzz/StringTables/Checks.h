@@ -23,6 +23,7 @@ using StringTables::Table;
 inline bool isReadAs(Form form, std::string_view bytes) {
     if (bytes.starts_with("bplist0"))
         return form == Form::binary;
+    // Skips white space and byte-order marks, also in UTF-16.
     const std::size_t first = bytes.find_first_not_of(std::string_view(" \t\r\n\xEF\xBB\xBF\xFF\xFE\0", 10));
     return form == (first != std::string_view::npos && bytes[first] == '<' ? Form::xml : Form::text);
 }
