@@ -1,6 +1,6 @@
 // Sets texts in any bytes, which are taken for a table, a plural table or a string catalog, as the first byte says. The
-// result can be read again; a table and a catalog have the new text, and a table and a plural table have the same other
-// entries as before.
+// result can be read again. A table and a string catalog have the new text; a table and a plural table have the same
+// other entries as before.
 #include "Exchange/CatalogDocument.h"
 #include "Exchange/TableDocument.h"
 #include "StringTables/internal/PluralTable.h"

@@ -34,9 +34,9 @@ void requireSame(const Translations& translations) {
         return;
     SourceBundle::Diagnostics diagnostics;
     auto written = translations;
-    written.sourceLanguage = "en"; // an export has language codes here, the input may have any text
+    written.sourceLanguage = "en"; // an export has language codes here; the input may have any text
     written.targetLanguage = "de";
-    // One table is one <file>.
+    // The units of a table are written into one <file> and so are read together.
     std::ranges::stable_sort(written.units, {}, [](const Unit& unit) { return unit.id.table; });
     const auto xliff = Exchange::readXliff(Exchange::writeXliff(written, "1"), "f", diagnostics);
     require(xliff && xliff->size() == 1 && haveSameTexts(xliff->front(), written) && !diagnostics.hasErrors());
