@@ -2,6 +2,7 @@
 
 #include "Runtime/internal/ElfNotes.h"
 #include <cstdint>
+#include <dlfcn.h>
 
 namespace Runtime {
 
@@ -24,12 +25,18 @@ const Class& classAt(const char* content) noexcept {
     return *published;
 }
 
+// False for an object that another thread is still loading: its pointers may not be relocated yet.
+bool isLoaded(const char* place) noexcept {
+    dl_find_object found{};
+    return ::_dl_find_object(const_cast<char*>(place), &found) == 0;
+}
+
 // Callback of dl_iterate_phdr: a result other than 0 ends the iteration.
 int visitObject(dl_phdr_info* object, std::size_t, void* context) noexcept {
     const Visitor& visitor = *static_cast<const Visitor*>(context);
     return visitNotes(*object, [&](const ElfNote& note) {
         return note.type == classNote && note.owner == owner && note.content.size() == sizeof(std::int32_t) &&
-               visitor.visit(visitor.context, classAt(note.content.data()));
+               isLoaded(note.content.data()) && visitor.visit(visitor.context, classAt(note.content.data()));
     });
 }
 

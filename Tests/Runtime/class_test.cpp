@@ -1,8 +1,11 @@
 #include "Runtime/Class.h"
 
 #include "Runtime/internal/ElfNotes.h"
+#include <atomic>
 #include <bit>
+#include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace {
 
@@ -31,6 +34,19 @@ TEST(Class, IsFoundByItsExactName) {
     EXPECT_EQ(Runtime::classNamed("Door"), nullptr);
     EXPECT_EQ(Runtime::classNamed("test.door"), nullptr);
     EXPECT_EQ(Runtime::classNamed(""), nullptr);
+}
+
+TEST(Class, IsFoundWhileAnotherThreadLoadsLibraries) {
+    std::atomic<bool> isDone = false;
+    std::thread loader([&isDone] {
+        for (int i = 0; i < 1000; ++i)
+            if (void* const library = ::dlopen(LOADED_CLASS, RTLD_NOW); library == nullptr || ::dlclose(library) != 0)
+                ADD_FAILURE() << ::dlerror();
+        isDone = true;
+    });
+    while (!isDone)
+        EXPECT_EQ(Runtime::classNamed("Test.None"), nullptr);
+    loader.join();
 }
 
 TEST(Class, ListsItsSelectorsInOrder) {
