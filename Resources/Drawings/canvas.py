@@ -47,11 +47,11 @@ class Item:
 
 
 class Drawing:
-    def __init__(self, width, height=None, ink="ink"):
+    def __init__(self, width, height=None):
         self.width, self.height = width, height or width
         self.items = []
         self.matrix = paths.IDENTITY    # from the coordinates of the next operation to the drawing's
-        self.ink = ink
+        self.ink = "ink"        # default colour
         self.pen = 2            # default stroke width
         self.body = None        # when set, fills the closed stroked shapes of the notation
         self.template = False   # whether the application tints the picture

@@ -21,8 +21,8 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     run(options.cmake, "--build", folder / "app")
     expect("find_package", run(folder / "app/app").splitlines(), [russian("Continue"), NUMBER, str(bundle)])
 
-    # A public header compiles alone. In C++17 only C headers do; others give one error, apart from that of the missing file
-    # lumora-needs-c++20, which ends the compilation.
+    # A public header compiles alone. In C++17 only the C header Lumora/Loc.h does; others give one error, apart from that of
+    # the missing file lumora-needs-c++20, which ends the compilation.
     headers = sorted(str(path.relative_to(top)) for top in (prefix / "include", prefix / "include/lumora-platform")
                      for path in top.rglob("*.h") if top == prefix / "include/lumora-platform" or "lumora-platform" not in path.parts)
 
