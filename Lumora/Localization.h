@@ -38,8 +38,8 @@ public:
     [[nodiscard]] static const std::vector<std::string>& allSupportedHandbookLocalizations();
 
     // The text of `key` in the main table, Localizable, of the language `code` ("ru", "es-419"; "en" and "Base" are the
-    // development texts), without formatting. Empty when the key is empty or anything is missing. Reads the table's
-    // file at every call.
+    // development texts), without formatting. Empty when the key is empty, or when language, table or text are
+    // missing. Reads the table's file at every call.
     [[nodiscard]] static std::string localizationFileTranslation(std::string_view code, std::string_view key);
     // The text of `key` in the main table of the current language, without formatting; `key` itself when it has none.
     [[nodiscard]] static std::string legacyTr(std::string_view key);
@@ -51,12 +51,12 @@ public:
     // A fraction as a percentage: 0.25 is "25%". Rounded in single precision, halves away from zero, and written with
     // all its digits in ASCII. NaN is "NaN%"; infinities, and values too large for single precision, are "∞%" and
     // "-∞%". If the current language is Arabic or Turkish, the user's locale formats the percentage instead. With
-    // `showPlus`, positive values begin with
-    // "+".
+    // `showPlus`, positive values begin with "+".
     [[nodiscard]] static std::string legacyTrPercent(double value, bool showPlus);
     // A number of years as currentLocale() spells it: "25 лет". Empty when the language data is missing.
     [[nodiscard]] static std::string legacyTrYear(std::int64_t value);
-    // The same, but in seven languages, such as English, locYears(), whose nouns are texts of the main table.
+    // An age in years: in seven languages, such as English, locYears(), with a noun from the main table; in the others
+    // legacyTrYear().
     [[nodiscard]] static std::string legacyTrAge(std::int64_t age);
 };
 

@@ -52,7 +52,7 @@ std::unique_ptr<icu::DecimalFormat> decimalFormat(const icu::Locale& locale, Num
 }
 
 // The smallest number of digits before the first separator, at most 4: 2 if "1234" has no separator and "12.345" has
-// one. ICU does not report the number of its data, so this formats values to find it.
+// one. ICU does not report the number in its data, so this formats values to find it.
 unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     const icu::UnicodeString separator =
         format.getDecimalFormatSymbols()->getConstSymbol(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol);
@@ -70,8 +70,8 @@ unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     return before;
 }
 
-// Reads the sizes of the groups. Removes the multiplier and the affixes from the format, because the former would add
-// digits to the values of minimumGrouping() and the latter may contain separators.
+// Reads the sizes of the groups. First removes from the format the multiplier, which would add digits to the values of
+// minimumGrouping(), and the affixes, which may contain separators.
 void readGrouping(NumberPattern& pattern, icu::DecimalFormat& format) {
     format.setMultiplier(1);
     format.setPositivePrefix(icu::UnicodeString());
@@ -138,7 +138,7 @@ YearForms icuYearForms(std::string_view identifier) {
         if (std::string& form = years.forms[indexOf(categoryOf(*rules, count))]; form.empty())
             form = yearForm(formatter, count);
     };
-    // Every category that integers can have occurs among 0 to 200 and the powers of ten.
+    // Every category that integers can have occurs among 0 to 200 and the powers of ten below a billion.
     for (std::int32_t count = 0; count <= 200; ++count)
         fill(count);
     for (std::int32_t count = 1'000; count < 1'000'000'000; count *= 10)

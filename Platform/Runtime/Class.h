@@ -2,7 +2,7 @@
 // Calls of static functions by name, for callers that know class and function only as strings: a caller sends a class a
 // message, which is a selector, such as "legacyTrAge:", and arguments. The method that the class has published under
 // that selector is called. Classes are constant data; a look-up finds them in the program and the loaded libraries.
-// Threads: any. Ownership: classes live as long as their library; results belong to the caller.
+// Threads: any. Ownership: classes and what they refer to live as long as their library; results belong to the caller.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -82,7 +82,8 @@ private:
 
 namespace detail {
 
-// Finds the method of `cls` for `selector`. Stops the process if there is none or if its types differ from these.
+// The method of `cls` for `selector`. Stops the process if `cls` is null, has no such method, or one with other types
+// than `arguments` and `result`.
 LUMORA_EXPORT const Method& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
                                     TypeTag result) noexcept;
 

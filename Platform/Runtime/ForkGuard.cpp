@@ -27,7 +27,7 @@ void afterForkInChild() noexcept {
 ForkGuard::ForkGuard() {
     static constinit OnceSlot<bool> isRegistered;
     isRegistered.get([] {
-        // This call waits until a running fork() is done, so that the first guard delays every fork(), too.
+        // Waits for a running fork(), which has not called beforeFork() and so would not wait for this guard.
         if (::pthread_atfork(&beforeFork, &afterForkInParent, &afterForkInChild) != 0)
             throw std::bad_alloc();
         return true;

@@ -20,7 +20,8 @@ class OnceState {
 public:
     // A compiler's built-in function saves including <atomic>, which takes a third as long to compile as <string>.
     bool isMade() const noexcept { return __atomic_load_n(&state_, __ATOMIC_ACQUIRE) == made; }
-    // True if the caller must create the value and then call leave(); false if the value exists.
+    // Waits while another thread creates the value. False if the value exists; true if the caller must create it and
+    // then call leave().
     LUMORA_EXPORT bool enter() noexcept;
     LUMORA_EXPORT void leave(bool isMade) noexcept;
 
@@ -43,8 +44,8 @@ public:
     bool isMade() const noexcept { return state_.isMade(); }
     // The value. Requires isMade().
     const T& value() const noexcept { return *std::launder(reinterpret_cast<const T*>(storage_)); }
-    // The value; calls `make()` if there is none yet. When `make` throws, the slot stays empty and the next call tries
-    // again.
+    // The value; calls `make()`, which must not use this slot, if there is none yet. When `make` throws, the slot stays
+    // empty and the next call tries again.
     template <class Make> const T& get(Make&& make) {
         if (!isMade()) [[unlikely]]
             fill<std::remove_cvref_t<Make>>(make);

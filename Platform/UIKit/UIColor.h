@@ -39,8 +39,8 @@ public:
 
     // The components for the current traits; no value for a pattern.
     [[nodiscard]] std::optional<RGBA> rgba() const noexcept;
-    // The colour for these traits, completed by the current ones, as fixed components. Traits given to colorNamed()
-    // take precedence. Other colours are returned unchanged.
+    // For a colour from a catalog: its components for these traits, completed by the current ones, as a fixed colour;
+    // traits given to colorNamed() take precedence. Any other colour is returned unchanged.
     [[nodiscard]] UIColor resolved(const UITraitCollection& traits) const noexcept;
     // The picture of a pattern, or null.
     [[nodiscard]] const UIImage* patternImage() const noexcept { return std::get_if<UIImage>(&state_); }

@@ -53,7 +53,7 @@ std::optional<UIImage> UIImage::imageNamed(std::string_view name, const Foundati
     const auto found = detail::findAsset(AssetCatalog::Kind::image, name, bundle);
     if (!found)
         return std::nullopt;
-    // over({}) bounds the scale, so that equal traits compare equal.
+    // over({}) clamps the scale, so that traits with the same effect compare equal.
     return UIImage(found->catalog, found->index, traits == nullptr ? UITraitCollection{} : traits->over({}));
 }
 

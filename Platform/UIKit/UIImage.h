@@ -63,7 +63,7 @@ public:
 
     // The following describe the best variant for the traits and the language of the moment.
     [[nodiscard]] Size size() const noexcept;
-    [[nodiscard]] double scale() const noexcept; // pixels per point
+    [[nodiscard]] double scale() const noexcept; // pixels per point; 1 if the variant is for any scale
     [[nodiscard]] std::uint32_t pixelWidth() const noexcept;
     [[nodiscard]] std::uint32_t pixelHeight() const noexcept;
     // The edges that keep their size when the image is resized; zero unless the catalog sets them.

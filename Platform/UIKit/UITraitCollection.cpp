@@ -24,7 +24,7 @@ template <class Trait> Trait either(Trait own, Trait other) noexcept {
 }
 
 // Clamps a scale to the supported range; 0 if it is unspecified.
-double bounded(double scale) noexcept {
+double clampedScale(double scale) noexcept {
     constexpr double largest = 255; // the largest scale that a catalog can store
     return scale > 0 ? std::clamp(scale, 1 / largest, largest) : 0;
 }
@@ -37,7 +37,7 @@ UITraitCollection UITraitCollection::current() noexcept {
 }
 
 void UITraitCollection::setCurrent(const UITraitCollection& traits) noexcept {
-    const Packed packed{static_cast<float>(bounded(traits.displayScale)), traits.userInterfaceStyle,
+    const Packed packed{static_cast<float>(clampedScale(traits.displayScale)), traits.userInterfaceStyle,
                         traits.accessibilityContrast, traits.layoutDirection};
     currentTraits.store(std::bit_cast<std::uint64_t>(packed), std::memory_order_relaxed);
 }
@@ -45,7 +45,8 @@ void UITraitCollection::setCurrent(const UITraitCollection& traits) noexcept {
 UITraitCollection UITraitCollection::over(const UITraitCollection& under) const noexcept {
     return {either(userInterfaceStyle, under.userInterfaceStyle),
             either(accessibilityContrast, under.accessibilityContrast),
-            either(bounded(displayScale), bounded(under.displayScale)), either(layoutDirection, under.layoutDirection)};
+            either(clampedScale(displayScale), clampedScale(under.displayScale)),
+            either(layoutDirection, under.layoutDirection)};
 }
 
 } // namespace UIKit

@@ -64,9 +64,8 @@ public:
     std::string_view language(std::size_t variant) const noexcept; // empty: for all languages
     // Whether any variant is for one language.
     bool isLocalized() const noexcept;
-    // The number of the best variant for `wanted` and `languages` (BCP 47 tags, most preferred first). The language
-    // decides first: an exact match or one with fewer subtags ("pt" for "pt-BR"), then a variant for all languages,
-    // then any other. Among variants that are equal in this, distance() decides.
+    // The index of the best variant for `wanted` and `languages` (BCP 47 tags, most preferred first). The language
+    // decides first (languageDistance()), then the traits (distance()); Fit.h has both.
     std::size_t best(Fit wanted, std::span<const std::string> languages = {}) const noexcept;
 
     // Precondition: the entry is of that kind.
@@ -84,10 +83,9 @@ private:
 
 class Catalog {
 public:
-    // Opens the catalog at `path` and validates its whole index. Pictures are read later from the open file, so
-    // replacing it by renaming another file does not affect an open catalog. Errors: no such regular file, not a
-    // catalog, another version, truncated, damaged (the message says what). The content of pictures and data is not
-    // validated.
+    // Opens the catalog at `path` and validates its whole index. Blobs are not validated. They are read later
+    // from the open file, so a file that is renamed to `path` meanwhile does not matter. Errors: the file cannot be
+    // read, is not a catalog of this version, exceeds a limit, or is damaged (the message says how).
     // If `bundle` is not empty, links must not lead out of that folder.
     [[nodiscard]] static Runtime::Result<Catalog> open(const std::string& path, std::string_view bundle = {});
     // The same from memory, which must outlive the catalog and be aligned to 16 bytes.

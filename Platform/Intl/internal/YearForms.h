@@ -1,5 +1,5 @@
 // Intl/internal/YearForms.h
-// How a locale counts years.
+// How a locale writes a number of years.
 // Text: UTF-8. Threads: plain values.
 #pragma once
 

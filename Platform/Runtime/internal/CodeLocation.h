@@ -13,9 +13,9 @@ struct CodeLocation {
     bool isMainProgram = false;
 };
 
-// The location of the shared object or program that contains `code`, the address of a function or static object. The
-// result does not depend on the current directory. Its strings are empty when the address belongs to no loaded file or
-// the file has been removed. Throws only std::bad_alloc.
+// The location of the shared object or program that contains `code`, the address of a function or static object. It
+// does not depend on the current directory. It is CodeLocation{} when the address belongs to no loaded file, or the
+// file cannot be found any more. Throws only std::bad_alloc.
 [[nodiscard]] CodeLocation codeLocation(const void* code);
 // The same for the running program.
 [[nodiscard]] CodeLocation mainProgramLocation();

@@ -38,8 +38,8 @@ public:
 
     std::size_t size() const noexcept { return size_.load(std::memory_order_relaxed); }
 
-    // Constructs the value of `key` from `parts`, or returns the value that another thread added meanwhile. Returns
-    // null and keeps nothing when the store already holds `limit` values.
+    // Constructs the value of `key` from `parts`, or returns the one that the store has by then. Returns null and
+    // leaves `parts` unchanged when the store has `limit` values, which threads that add at the same time may exceed.
     template <class... Parts> T* add(std::size_t limit, std::string_view key, Parts&&... parts) {
         if (size() >= limit)
             return nullptr;
@@ -81,8 +81,8 @@ private:
         }
     }
 
-    // The children on the way to a key. The levels that the hash selects are too few only for keys that were made to
-    // have the same hash, so below them the key is hashed again, with a seed that nobody outside the process knows.
+    // The children on the way to a key. Only keys that were made to have the same hash need more levels than its bits
+    // select; for those levels the key is hashed again, with a seed that nobody outside the process knows.
     class Descent {
     public:
         Descent(std::uint64_t hash, std::string_view key) noexcept : bits_(hash / buckets), key_(key) {}

@@ -20,9 +20,9 @@ public:
 
     // The index of the asset with that kind and name, or no value.
     std::optional<std::size_t> find(AssetCatalog::Kind kind, std::string_view name) const noexcept;
-    // Precondition for both: find() returned `index`.
+    // entry() and bestVariant() require an `index` from find().
     AssetCatalog::Entry entry(std::size_t index) const noexcept { return (*catalog_)[index]; }
-    // The number of the best variant of an asset for these traits, completed by the current ones, and for the language
+    // The index of the best variant of an asset for these traits, completed by the current ones, and for the language
     // of the bundle's texts, or the user's languages if it has none. Fractional scales are rounded up.
     std::size_t bestVariant(std::size_t index, const UITraitCollection& traits) const noexcept;
 
