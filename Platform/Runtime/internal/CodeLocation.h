@@ -8,7 +8,7 @@
 namespace Runtime {
 
 struct CodeLocation {
-    std::string directory; // absolute, symbolic links resolved, without a trailing slash
+    std::string directory; // absolute, symbolic links resolved, without a trailing slash: "" for the root folder
     std::string name;      // the file's own name: "liblumora.so.1.0.0", "app"
     bool isMainProgram = false;
 };

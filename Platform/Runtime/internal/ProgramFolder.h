@@ -14,7 +14,7 @@ namespace Runtime {
 
 // The first of `places`, which are relative to the program's folder, that is a folder; the first place if none is.
 [[nodiscard]] inline std::string folderFromProgram(std::initializer_list<std::string_view> places) {
-    const std::filesystem::path program = mainProgramLocation().directory;
+    const std::filesystem::path program = mainProgramLocation().directory + "/";
     for (const std::string_view place : places) {
         const std::filesystem::path folder = (program / place).lexically_normal();
         if (std::error_code failed; std::filesystem::is_directory(folder, failed))
