@@ -83,7 +83,9 @@ TEST(ExchangeFiles, RoundTripEveryText) {
         SourceBundle::Diagnostics diagnostics;
         const auto xliff = Exchange::readXliff(Exchange::writeXliff(translations, "1"), "f", diagnostics);
         ASSERT_TRUE(xliff) << xliff.error().text();
-        const auto po = Exchange::readPo(Exchange::writePo(translations, diagnostics), "f", diagnostics);
+        std::string bytes = Exchange::writePo(translations, diagnostics);
+        bytes.insert(bytes.find("\n\n"), "\n\n#, fuzzy\n#~ msgid \"obsolete\"\n#~ msgstr \"\"");
+        const auto po = Exchange::readPo(bytes, "f", diagnostics);
         ASSERT_TRUE(po) << po.error().text();
         EXPECT_TRUE(diagnostics.all().empty());
         ASSERT_EQ(xliff->size(), 1U);
@@ -345,6 +347,27 @@ TEST(Imports, ChangeNothingButTexts) {
         EXPECT_EQ(import(folder, one.edits).messages, Strings()) << "line " << one.line;
         EXPECT_EQ(Support::contents(file), one.after) << "line " << one.line;
     }
+}
+
+TEST(Imports, ChangeNothingThatTheyCannotEdit) {
+    Support::SourceFolder folder;
+    folder.write("en.lproj/T.stringsdict", filesEntry("%#@n@", oneAndOther));
+    const std::string number = filesEntry("%#@n@", "<key>one</key> <integer>1</integer>");
+    const auto plurals = folder.write("de.lproj/T.stringsdict", number);
+    const Strings messages = import(folder, {{"T[variables.n.plural.one]/files", "eine"}}).messages;
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_TRUE(messages[0].ends_with("the table has neither a text nor a plural for files")) << messages[0];
+    EXPECT_EQ(Support::contents(plurals), number);
+
+    // Two tables in one file.
+    for (const std::string table : {"U", "V"})
+        folder.write("en.lproj/" + table + ".strings", "a = A;");
+    const auto texts = folder.write("de.lproj/U.strings", "a = x;");
+    std::filesystem::create_symlink("U.strings", folder / "de.lproj/V.strings");
+    EXPECT_EQ(
+        import(folder, {{"U/a", "y"}, {"V/a", "y"}}).messages,
+        Strings{(folder / "de.lproj/V.strings").string() + ": is the same file as another that would be changed"});
+    EXPECT_EQ(Support::contents(texts), "a = x;");
 }
 
 std::string catalogOf(const std::string& localizations) {

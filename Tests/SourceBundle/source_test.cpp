@@ -197,6 +197,12 @@ TEST(Source, DoesNotFollowLinksThatLeadOut) {
     const std::filesystem::path folders[] = {folder / "source"};
     EXPECT_EQ(contents(Source::read(folders, {}, folder.diagnostics)), (Strings{"A de a=b", "A en a=b"}));
     EXPECT_EQ(folder.takeMessages(), Strings());
+    // Links that lead in circles are followed once.
+    std::filesystem::create_directory_symlink(".", folder / "source/de.lproj/x.lproj");
+    EXPECT_EQ(contents(Source::read(folders, {}, folder.diagnostics)), (Strings{"A de a=b", "A en a=b", "A x a=b"}));
+    EXPECT_EQ(folder.takeMessages(), (Strings{"note: source/de.lproj/x.lproj: is a link to a folder and is left out",
+                                              "note: source/en.lproj/x.lproj/x.lproj: is a link to a folder and is "
+                                              "left out"}));
 }
 
 } // namespace

@@ -26,7 +26,7 @@ fs::path beside(const fs::path& path, std::string_view kind) {
 
 FileSet::~FileSet() {
     std::error_code ignored;
-    for (const File& file : files_) {
+    for (const auto& [target, file] : files_) {
         fs::remove(file.staged, ignored);
         if (!file.old.empty())
             fs::remove(file.old, ignored);
@@ -45,49 +45,51 @@ Runtime::Result<void> FileSet::stage(const fs::path& path, std::string_view byte
     fs::path target = path;
     if (const fs::path real = fs::canonical(path, failed); !failed)
         target = real;
-    files_.push_back({.target = target, .staged = beside(target, "new")});
-    if (auto written = Runtime::writeFile(files_.back().staged, bytes); !written) {
+    const fs::path staged = beside(target, "new");
+    if (!files_.try_emplace(target, File{.staged = staged}).second)
+        return Runtime::Error{.message = "is the same file as another that would be changed", .file = path};
+    if (auto written = Runtime::writeFile(staged, bytes); !written) {
         written.error().file = path;
         return written;
     }
     if (const fs::file_status status = fs::status(target, failed); fs::exists(status))
-        fs::permissions(files_.back().staged, status.permissions(), failed);
+        fs::permissions(staged, status.permissions(), failed);
     return {};
 }
 
-Runtime::Result<void> FileSet::replace(File& file) {
+Runtime::Result<void> FileSet::replace(const fs::path& target, File& file) {
     std::error_code failed;
-    if (fs::exists(file.target, failed)) {
-        const fs::path old = beside(file.target, "old");
-        fs::create_hard_link(file.target, old, failed);
+    if (fs::exists(target, failed)) {
+        const fs::path old = beside(target, "old");
+        fs::create_hard_link(target, old, failed);
         if (failed) // the file system has no hard links
-            fs::copy_file(file.target, old, fs::copy_options::overwrite_existing, failed);
+            fs::copy_file(target, old, fs::copy_options::overwrite_existing, failed);
         if (failed)
-            return cannotBeWritten(file.target, failed);
+            return cannotBeWritten(target, failed);
         file.old = old;
     }
-    fs::rename(file.staged, file.target, failed);
+    fs::rename(file.staged, target, failed);
     if (failed)
-        return cannotBeWritten(file.target, failed);
+        return cannotBeWritten(target, failed);
     file.isInPlace = true;
     return {};
 }
 
 void FileSet::rollBack() {
     std::error_code failed;
-    for (File& file : files_) {
+    for (auto& [target, file] : files_) {
         if (!file.isInPlace)
             continue;
         if (file.old.empty())
-            fs::remove(file.target, failed);
-        else if (fs::rename(file.old, file.target, failed); failed)
+            fs::remove(target, failed);
+        else if (fs::rename(file.old, target, failed); failed)
             file.old.clear(); // so that the destructor does not remove the only copy
     }
 }
 
 Runtime::Result<void> FileSet::commit() {
-    for (File& file : files_)
-        if (auto replaced = this->replace(file); !replaced) {
+    for (auto& [target, file] : files_)
+        if (auto replaced = replace(target, file); !replaced) {
             rollBack();
             return replaced;
         }

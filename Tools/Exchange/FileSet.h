@@ -5,7 +5,7 @@
 
 #include "Runtime/internal/Result.h"
 #include <filesystem>
-#include <string>
+#include <map>
 #include <string_view>
 #include <vector>
 
@@ -16,27 +16,27 @@ public:
     FileSet() = default;
     FileSet(const FileSet&) = delete;
     FileSet& operator=(const FileSet&) = delete;
-    // Removes staged files that were not committed, and folders that were created for them.
+    // Removes the temporary files that are left, and folders that stage() created if they are empty.
     ~FileSet();
 
     // Writes the new content of `path` to a temporary file beside it, with the permissions of the existing file.
     // Creates the folder of `path` if necessary, but none above it. If `path` is a symbolic link, its target is
-    // replaced.
+    // replaced. Fails if the same file is staged already, perhaps by another path.
     [[nodiscard]] Runtime::Result<void> stage(const std::filesystem::path& path, std::string_view bytes);
     // Renames all temporary files to their targets. After a failure the files that were replaced are restored.
     [[nodiscard]] Runtime::Result<void> commit();
 
 private:
     struct File {
-        std::filesystem::path target, staged;
-        std::filesystem::path old{}; // a file with the old content; empty if the target is new
-        bool isInPlace = false;      // `staged` has been renamed to `target`
+        std::filesystem::path staged; // the temporary file with the new content
+        std::filesystem::path old{};  // one with the old content; empty until it is made, and if the target is new
+        bool isInPlace = false;       // `staged` has been renamed to the target
     };
-    Runtime::Result<void> replace(File& file);
+    Runtime::Result<void> replace(const std::filesystem::path& target, File& file);
     void rollBack();
 
-    std::vector<File> files_;
-    std::vector<std::filesystem::path> folders_; // those that were created
+    std::map<std::filesystem::path, File> files_; // by target
+    std::vector<std::filesystem::path> folders_;  // those that were created
 };
 
 } // namespace Exchange

@@ -73,7 +73,12 @@ private:
     }
 
     void readComment() {
-        if (!line_.starts_with("#~") && part_ == Part::target) // a comment is before its entry
+        if (take("#~")) {
+            if (part_ == Part::none)
+                current_ = {}; // the flags before it belong to the obsolete entry
+            return;
+        }
+        if (part_ == Part::target) // a comment is before its entry
             finish();
         if (!take("#,"))
             return;
@@ -204,7 +209,7 @@ private:
             value = value * base + digit;
             line_.remove_prefix(1);
         }
-        constexpr int firstBeyondAscii = 0x80; // the start of a UTF-8 sequence, which is never escaped
+        constexpr int firstBeyondAscii = 0x80; // from here on, one byte is no UTF-8 character
         out += static_cast<char>(value);
         return count != 0 && value < firstBeyondAscii;
     }

@@ -28,6 +28,11 @@ std::string lastLine(std::string white) {
     return white.substr(at);
 }
 
+// The key of a form.
+std::string_view categoryName(const Unit& form) {
+    return Intl::pluralCategoryNames[indexOf(*form.id.category)];
+}
+
 Runtime::Error unusual(const Change& change) {
     return {.message = "the table has neither a text nor a plural for " + change.changed.front()->id.key};
 }
@@ -75,6 +80,13 @@ const XmlNode* PropertyListDocument::find(const std::vector<Pair>& pairs, std::s
     const auto found =
         std::find_if(pairs.rbegin(), pairs.rend(), [key](const Pair& pair) { return pair.key->allText() == key; });
     return found == pairs.rend() ? nullptr : found->value;
+}
+
+const XmlNode* PropertyListDocument::findText(const std::vector<Pair>& plural, const Unit& unit) {
+    if (!unit.id.category)
+        return find(plural, pluralKeys::format);
+    const XmlNode* const variable = find(plural, unit.id.part.back());
+    return variable == nullptr ? nullptr : find(pairsOf(*variable), categoryName(unit));
 }
 
 std::string PropertyListDocument::blanksBefore(const XmlNode& node) const {
@@ -151,10 +163,12 @@ Runtime::Result<void> PropertyListDocument::editPlural(const XmlNode& entry, con
     const std::vector<Pair> pairs = pairsOf(entry);
     if (pairs.empty())
         return unusual(change);
-    for (const Unit* unit : change.changed)
-        if (const XmlNode* found = unit->id.category ? find(pairs, unit->id.part.back()) : nullptr;
-            found != nullptr && pairsOf(*found).empty())
+    for (const Unit* unit : change.changed) {
+        const XmlNode* const variable = unit->id.category ? find(pairs, unit->id.part.back()) : nullptr;
+        const XmlNode* const text = findText(pairs, *unit);
+        if ((variable != nullptr && pairsOf(*variable).empty()) || (text != nullptr && text->name != "string"))
             return unusual(change);
+    }
     if (find(pairs, pluralKeys::widthRule) != nullptr || find(pairs, pluralKeys::deviceRule) != nullptr)
         return unusual(change);
     PluralFormat added;
@@ -178,7 +192,7 @@ Runtime::Result<void> PropertyListDocument::editPlural(const XmlNode& entry, con
 // A new form is added before those of later categories.
 void PropertyListDocument::editForm(const XmlNode& variable, const Unit& unit) {
     const std::vector<Pair> pairs = pairsOf(variable);
-    const std::string_view name = Intl::pluralCategoryNames[indexOf(*unit.id.category)];
+    const std::string_view name = categoryName(unit);
     if (const XmlNode* const form = find(pairs, name))
         return setText(*form, unit.target);
     const auto later = std::ranges::find_if(pairs, [&unit](const Pair& each) {

@@ -32,6 +32,8 @@ private:
     static std::vector<Pair> pairsOf(const XmlNode& dictionary);
     // The value of the last `key`, or null.
     static const XmlNode* find(const std::vector<Pair>& pairs, std::string_view key);
+    // The element with the unit's text in a plural with these pairs, or null.
+    static const XmlNode* findText(const std::vector<Pair>& plural, const Unit& unit);
 
     PropertyListDocument(DecodedText file, XmlDocument xml, const XmlNode& root);
     void add(const Change& change, const std::string& value);

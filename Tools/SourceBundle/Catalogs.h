@@ -38,18 +38,18 @@ struct SourceAsset {
     std::vector<AssetCatalog::Color> colors{};
 };
 
-// Checks whether a picture's file is usable. Called from several threads.
+// Checks whether a picture's file is usable. It is called on several threads at the same time.
 using PictureCheck = std::function<Runtime::Result<void>(const SourceFile& file)>;
 
 // Reads the file and checks it with SourcePictures::check().
 [[nodiscard]] Runtime::Result<void> checkPicture(const SourceFile& file);
 
-// Reads the assets of the catalogs. They are ordered by catalog, then by path, with those of a folder before those of
-// its subfolders. Several may have the same kind and name; the first one counts. Docs/catalogs.md describes what is
-// read. Unusable parts are left out with a warning: a set with a broken Contents.json, a file that is missing or
-// outside of its set, a picture that `check` rejects, an invalid colour. Unsupported features are notes. Errors: a
-// folder that is unreadable, or nested more than maxFolderDepth (SourceFiles.h) deep; a picture that cannot be read
-// because of a system error; a Contents.json with a transient one (see Runtime::Error).
+// Reads the assets of the catalogs. They are ordered as `catalogs` is, then by path, with those of a folder before
+// those of its subfolders. Several may have the same kind and name; the first one counts. Docs/catalogs.md describes
+// what is read. Unusable parts are left out with a warning, such as a set with a broken Contents.json, a file that is
+// missing or outside of its set, a picture that `check` rejects, or an invalid colour. Unsupported features are notes.
+// Errors: a folder that is unreadable, or nested more than maxFolderDepth (SourceFiles.h) deep; a picture that cannot
+// be read because of a system error; a Contents.json that cannot be read because of a transient one (Runtime::Error).
 [[nodiscard]] std::vector<SourceAsset> sourceAssets(std::span<const std::filesystem::path> catalogs,
                                                     Diagnostics& diagnostics, const PictureCheck& check = checkPicture);
 

@@ -11,8 +11,9 @@
 
 namespace SourceBundle {
 
-// CFBundleDevelopmentRegion of the first of `infos` that contains it, "de" for "German". An unreadable file is an
-// error. A value that is a build setting, such as "$(DEVELOPMENT_LANGUAGE)", is ignored with a warning.
+// CFBundleDevelopmentRegion of the first of `infos` that has it, "de" for "German"; no value if none has it. An
+// unreadable file is an error. A value that is a build setting, such as "$(DEVELOPMENT_LANGUAGE)", is ignored with a
+// warning.
 [[nodiscard]] std::optional<std::string> developmentLanguage(std::span<const std::filesystem::path> infos,
                                                              Diagnostics& diagnostics);
 

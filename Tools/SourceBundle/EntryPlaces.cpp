@@ -26,7 +26,7 @@ std::vector<Runtime::Error> EntryPlaces::find() const {
             for (auto element : member.value().get_array()) {
                 const auto begin = static_cast<std::size_t>(element.raw_json_token().value().data() - text.data());
                 const std::string_view between(text.data() + at, begin - at);
-                const std::size_t lineFeed = between.rfind('\n');
+                const std::size_t lineFeed = between.rfind('\n'); // counted as column 0 of the new line
                 line += static_cast<std::size_t>(std::ranges::count(between, '\n'));
                 column = lineFeed == between.npos ? column + StringTables::internal::countCharacters(between)
                                                   : StringTables::internal::countCharacters(between.substr(lineFeed));

@@ -13,7 +13,8 @@ namespace SourceBundle {
 
 class EntryPlaces {
 public:
-    // `file`: the Contents.json, which is read when the first place is needed; `list`: the array with the entries.
+    // `file`: the Contents.json, which is read when the first place is needed; `list`: the name of the array with the
+    // entries.
     EntryPlaces(std::filesystem::path file, std::string list) : file_(std::move(file)), list_(std::move(list)) {}
 
     const std::filesystem::path& file() const noexcept { return file_; }

@@ -9,7 +9,7 @@ using AssetCatalog::Insets;
 namespace {
 
 Insets insetsOf(const Json& insets, std::uint8_t scale) {
-    const double pixelsPerPoint = std::max<std::uint8_t>(scale, 1);
+    const double pixelsPerPoint = std::max<std::uint8_t>(scale, 1); // scale 0 is for every scale
     const auto points = [&](const char* edge) { return number(insets, edge) / pixelsPerPoint; };
     return {points("top"), points("left"), points("bottom"), points("right")};
 }

@@ -7,7 +7,8 @@
 
 namespace SourceBundle {
 
-// Reads the entry's "resizing" and "alignment-insets" and converts them from pixels to points at `file.fit.scale`.
+// Reads the entry's "resizing" and "alignment-insets" into `file`, and converts insets from pixels to points with
+// `file.fit.scale`.
 void readLayout(const Json& entry, SourceFile& file);
 
 } // namespace SourceBundle

@@ -15,8 +15,8 @@ namespace SourceBundle {
 using Json = nlohmann::json;
 
 // Reads the object in the file. Errors: an unreadable file, a link, more than maxJsonBytes, invalid JSON (with line and
-// column), more than maxJsonDepth levels, not an object. They do not quote the file. If a member appears again in its
-// object, the last one is read, and `diagnostics` gets a warning.
+// column), more than maxJsonDepth levels, a number that no double can represent, not an object. They do not quote the
+// file. If a member appears again in its object, the last one is read, and `diagnostics` gets a warning.
 [[nodiscard]] Runtime::Result<Json> readJsonObject(const std::filesystem::path& file, Diagnostics& diagnostics);
 
 inline constexpr std::size_t maxJsonBytes = std::size_t{4} << 20;
@@ -26,7 +26,7 @@ inline constexpr int maxJsonDepth = 64; // some functions of the JSON library ar
 [[nodiscard]] Runtime::Error errorAt(const std::filesystem::path& file, std::string_view text, std::size_t byte,
                                      std::string message);
 
-// The member, or a null value if it is missing or `object` is not an object.
+// The member of that name, or a null value if it is missing or `object` is not an object.
 [[nodiscard]] const Json& member(const Json& object, const char* name);
 // The member's string, or "" if it is not a string.
 [[nodiscard]] std::string text(const Json& object, const char* name);

@@ -1,5 +1,5 @@
 // SourceBundle/KnownProperties.h
-// The properties of a Contents.json that are read or have no effect here; internal.
+// The properties in a Contents.json that are read or ignored without a note; internal.
 #pragma once
 
 #include "SourceBundle/Json.h"
@@ -8,10 +8,11 @@
 
 namespace SourceBundle {
 
+// Those of the member "properties" of a set's Contents.json, or those of an entry.
 enum class KnownProperties { ofSet, ofEntry };
 
-// The names of unknown properties and of those with a value of another type than expected. Docs/catalogs.md lists the
-// known ones.
+// The names of the properties of `object` that are not among `known`, or have a value of another type than expected.
+// Docs/catalogs.md lists the known ones.
 [[nodiscard]] std::vector<std::string> unknownProperties(const Json& object, KnownProperties known);
 
 } // namespace SourceBundle

@@ -13,8 +13,8 @@
 
 namespace SourceBundle {
 
-// Calls step(0) to step(count - 1), several at a time. After an exception no other step begins, and the exception is
-// rethrown when all threads have stopped.
+// Calls step(0) to step(count - 1), several at a time. After an exception the remaining steps are skipped, and the
+// first exception is rethrown when all threads have stopped.
 template <class Step> void inParallel(std::size_t count, const Step& step) {
     std::atomic<std::size_t> next{0};
     std::mutex lock;

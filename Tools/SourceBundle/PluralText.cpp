@@ -41,7 +41,7 @@ private:
         out_ += text.substr(done);
     }
 
-    // Variables may refer to each other without end.
+    // No real text comes near these limits; variables may refer to each other without end.
     static constexpr int maxDepth = 16;
     static constexpr std::size_t maxVariables = 256;
 
@@ -111,6 +111,7 @@ Number numberOf(const PluralForms& forms) {
     return {};
 }
 
+// The number of arguments of the form with the most.
 std::size_t argumentCount(const PluralForms& forms) {
     std::size_t count = 0;
     for (const auto& form : forms)

@@ -10,15 +10,17 @@
 
 namespace SourceBundle {
 
-// The format with every variable replaced by its StringTables::otherForm(): for display, not for formatting. It is cut
-// after at most maxOtherText bytes, and earlier if variables refer to each other without end.
+// The format with every variable replaced by its StringTables::otherForm(): for display, not for formatting. It has at
+// most maxOtherText bytes. A variable nested too deeply, or after too many others, is left out with the rest of its
+// text, because variables may refer to each other without end.
 [[nodiscard]] std::string otherText(const StringTables::PluralFormat& plural);
 inline constexpr std::size_t maxOtherText = 4096;
 
 using PluralForms = decltype(StringTables::PluralVariable::forms);
 
-// The plural format of a text with these forms. The first placeholder for a number tells which argument selects the
-// form: the second one for "%@ has %lld files". Without such a placeholder it is the first argument.
+// The plural format of a text with these forms. The first placeholder for a number, in the form `other` or else in
+// another, tells which argument selects the form: the second one for "%@ has %lld files". Without such a placeholder it
+// is the first argument.
 [[nodiscard]] StringTables::PluralFormat pluralOfForms(PluralForms forms);
 
 // A variable of a string catalog. In its forms "%arg" prints the number that selects the form.

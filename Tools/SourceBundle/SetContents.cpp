@@ -50,8 +50,8 @@ AssetCatalog::Rendering renderingOf(const SourceAsset& asset, const Json& proper
 // An entry becomes at most four variants in the compiled catalog: a drawing has pictures for its scale and for 1, 2, 3.
 constexpr std::size_t maxEntries = AssetCatalog::maxVariants / 4;
 
-// Whether both variants are for the same traits and language.
-template <class Variant> bool hasSameTraits(const Variant& one, const SetEntry& other) {
+// Whether both are for the same traits and language.
+bool hasSameTraits(const auto& one, const auto& other) {
     return one.fit == other.fit && one.language == other.language;
 }
 
@@ -87,15 +87,17 @@ public:
 private:
     std::vector<SetEntry> filledEntries(const Json& list) {
         std::vector<SetEntry> entries;
+        if (!list.is_array())
+            return entries;
         std::size_t number = 0;
         for (const Json& json : list) {
             ++number;
             if (!json.is_object())
                 continue;
             SetEntry entry = readEntry(json, number);
+            reportUnknownProperties(json, KnownProperties::ofEntry, entry.label());
             if (!entry.isFilled())
                 continue;
-            reportUnknownProperties(json, KnownProperties::ofEntry, entry.label());
             if (member(json, "unassigned") == Json(true))
                 report(Severity::note, entry, "is not assigned to any variant and is left out",
                        Topic::unassignedVariant);
@@ -209,9 +211,7 @@ private:
     // Adds the dark variants of system colours unless the set defines its own.
     void addSystemColorVariants() {
         for (const AssetCatalog::Color& variant : systemColorVariants_)
-            if (std::ranges::none_of(asset_.colors, [&](const AssetCatalog::Color& color) {
-                    return color.fit == variant.fit && color.language == variant.language;
-                }))
+            if (std::ranges::none_of(asset_.colors, [&](const auto& color) { return hasSameTraits(color, variant); }))
                 asset_.colors.push_back(variant);
     }
 
@@ -245,8 +245,8 @@ private:
     std::vector<AssetCatalog::Color> systemColorVariants_;
 };
 
-// Adds `messages`, those about a set without a usable variant, so that one of them says so: the last warning, or a
-// separate one if there is neither a warning nor an error.
+// Adds `messages`, those about a set without a usable variant. The last warning also says that the set is left out; if
+// there is no warning, an additional one says it, unless there is an error.
 void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagnostics& diagnostics) {
     const auto isWarning = [](const Diagnostic& one) { return one.severity == Severity::warning; };
     const auto isError = [](const Diagnostic& one) { return one.severity == Severity::error; };

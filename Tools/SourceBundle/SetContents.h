@@ -12,8 +12,8 @@ inline constexpr const char* contentsName = "Contents.json";
 inline constexpr std::string_view symbolExtension = ".symbolset";
 
 // Reads the set in the folder `asset.path` and fills in `rendering`, `files` and `colors`; the other members are set
-// already. A set without a usable variant stays empty, and one message says so: a warning, or the error that kept a
-// variant from being read.
+// already. If the set has no usable variant, `files` and `colors` stay empty, and there is a warning that says so or an
+// error.
 void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics);
 
 // What SourcePictures must know about a picture's file.

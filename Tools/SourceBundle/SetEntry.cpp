@@ -66,7 +66,7 @@ std::vector<std::string> conditionsOf(const Json& entry) {
     return conditions;
 }
 
-// The width that a condition requires: 145 for "<=145", 162 for ">161", 0 without a number.
+// The width that a condition requires: 145 for "<=145", 162 for ">161", 0 without a number or if it is too large.
 std::int64_t screenWidth(std::string_view condition) {
     const std::size_t digits = std::min(condition.find_first_of("0123456789"), condition.size());
     int width = 0;

@@ -29,12 +29,12 @@ struct SetEntry {
 
     // Whether the entry has a file or a colour. Editors of catalogs also write entries that nobody has filled.
     [[nodiscard]] bool isFilled() const;
-    // `entry 3 ("picture.png")`; without a name if it has no file.
+    // `entry 3 ("picture.png")`, or `entry 3` if it has no file.
     [[nodiscard]] std::string label() const;
 };
 
-// Whether `one` is preferred to `other`: no conditions, then the lower rank, then fewer conditions, then the widest
-// screen.
+// Whether `one` is preferred to `other`: the one without conditions, or else with the lower rank, or else with fewer
+// conditions, or else with the wider screen.
 [[nodiscard]] bool isPreferred(const SetEntry::Device& one, const SetEntry::Device& other);
 
 // Precondition: `entry` is a JSON object that outlives the result.

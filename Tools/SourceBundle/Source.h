@@ -56,7 +56,7 @@ public:
     [[nodiscard]] const SourceEntry* findAfter(const SourceEntry* last, std::string_view key) const;
     // Adds an entry; false if the key already exists.
     bool add(const SourceEntry& entry);
-    // Adds the entries of `other` whose keys do not exist yet; takes over its memory if this has no entries.
+    // Adds the entries of `other` whose keys do not exist yet; takes over its memory if there are no entries yet.
     void add(LanguageTexts&& other);
     // Adds an entry or replaces the one with the same key.
     void replace(const SourceEntry& entry);
@@ -64,7 +64,7 @@ public:
 
     std::string language;                // "de", "pt-BR", "Base"
     std::vector<const TableFile*> files; // that were read for the texts; none for a pseudo-language
-    bool isDamaged = false;              // keys may be missing: a file is unreadable, or its table exists already
+    bool isDamaged = false;              // keys may be missing: a file is unreadable or left out, see Source::read()
 
     // Every key once, in file order.
     [[nodiscard]] const std::vector<SourceEntry>& entries() const noexcept { return entries_; }
@@ -94,8 +94,8 @@ enum class Pseudo : std::uint8_t;
 class Source {
 public:
     // Reads the folders as one source. Problems are added to `diagnostics`; after an error the source contains what
-    // could be read. Two files with the same table and language are an error that names both, except for TABLE.strings
-    // and TABLE.stringsdict: if a key is in both, the plural is used.
+    // could be read. Two files with the same table and language are an error that names both, and only the first is
+    // used. TABLE.strings and TABLE.stringsdict together are no error: if a key is in both, the plural is used.
     [[nodiscard]] static Source read(std::span<const std::filesystem::path> folders, const SourceOptions& options,
                                      Diagnostics& diagnostics);
     // Reads the tables and the Info.plist of a compiled bundle.

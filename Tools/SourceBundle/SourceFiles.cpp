@@ -68,8 +68,8 @@ private:
         diagnostics_.add(severity, {.message = std::move(message), .file = file});
     }
 
-    // Whether the path is inside the folder that is searched. Links that lead out of it are refused, so that no other
-    // content is disclosed.
+    // Whether the path is inside the given folder. Links that lead out of it are refused, so that no other content is
+    // disclosed.
     bool isInside(const fs::path& path) const {
         std::error_code failed;
         const fs::path inside = fs::weakly_canonical(path, failed).lexically_relative(source_);
@@ -82,7 +82,7 @@ private:
                          Topic::unreadableTable);
         return false;
     }
-    // One of the folders may contain another: each table and catalog counts once.
+    // A given folder may contain another: each table and catalog counts once.
     bool isNew(const fs::path& path) { return known_.insert(source_ / path.lexically_relative(given_)).second; }
 
     void findInfo(const fs::path& file) {
@@ -92,27 +92,29 @@ private:
     }
 
     void findInFolder(const fs::path& folder, int depth) {
-        if (depth > maxFolderDepth)
-            return add(Severity::error, folder, "is nested too deeply");
         for (const fs::directory_entry& entry : sortedEntries(folder, diagnostics_))
             if (std::error_code failed; entry.is_directory(failed))
-                findFolder(entry, depth);
+                findFolder(entry, depth + 1);
             else
                 findFile(entry);
     }
 
+    // `depth`: the number of folders around it, up to and with the given one.
     void findFolder(const fs::directory_entry& entry, int depth) {
         const fs::path& path = entry.path();
-        if (path.extension() == layout::languageSuffix)
-            findInLanguageFolder(entry, depth);
-        else if (entry.is_symlink())
+        const bool isLanguage = path.extension() == layout::languageSuffix;
+        if (depth > maxFolderDepth)
+            add(Severity::error, path, "is nested too deeply");
+        else if (entry.is_symlink() && (!isLanguage || isBehindLink_))
             add(Severity::note, path, "is a link to a folder and is left out");
+        else if (isLanguage)
+            findInLanguageFolder(entry, depth);
         else if (path.extension() == catalogSuffix)
             addCatalog(path);
         else if (std::error_code failed; fs::exists(path / compiledMark, failed))
             add(Severity::note, path, "is a compiled bundle and is left out");
         else if (!hasCapitalExtension(path))
-            findInFolder(path, depth + 1);
+            findInFolder(path, depth);
     }
 
     // Whether the extension has capitals where it must have none, which is reported: other systems ignore case in file
@@ -146,6 +148,7 @@ private:
         if (!mayRead(folder))
             return;
         const std::string language = languageNamed(folder.path().stem());
+        const bool wasBehindLink = std::exchange(isBehindLink_, isBehindLink_ || folder.is_symlink());
         for (const fs::directory_entry& entry : sortedEntries(folder.path(), diagnostics_)) {
             std::error_code failed;
             const std::optional<TableFile::Kind> kind = kindOf(entry.path());
@@ -156,6 +159,7 @@ private:
             else
                 add(Severity::note, entry.path(), "is not a table and is left out");
         }
+        isBehindLink_ = wasBehindLink;
     }
 
     void addTable(const fs::directory_entry& entry, TableFile::Kind kind, std::string language) {
@@ -171,10 +175,12 @@ private:
 
     Diagnostics& diagnostics_;
     SourceFiles found_;
-    fs::path given_;           // the folder that is searched, as the caller named it
+    fs::path given_;           // the given folder that is searched, as the caller named it
     fs::path source_;          // its canonical path
-    std::set<fs::path> known_; // the tables and catalogs found so far, below canonical paths
-    bool isEmpty_ = true;      // the folder has no table or catalog so far
+    std::set<fs::path> known_; // the tables and catalogs found so far, as paths that begin with a `source_`
+    bool isEmpty_ = true;      // no table or catalog has been found in the given folder so far
+    // The folder that is read was reached by a link. No second link is followed, because links can lead in circles.
+    bool isBehindLink_ = false;
 };
 
 } // namespace

@@ -32,11 +32,12 @@ struct SourceFiles {
     std::vector<std::filesystem::path> infos;    // Info.plist directly in one of the given folders
 };
 
-// Searches the folders and their subfolders. Hidden files and folders are skipped; a table or catalog that is in
-// several of the folders is found once. Errors: a folder that is unreadable or below more than maxFolderDepth others; a
-// given folder that is a compiled bundle or contains neither tables nor catalogs; a table, language folder or
-// Info.plist that is a link out of its given folder. Warnings: tables and sets in the wrong place, and extensions with
-// capitals. Notes: links to other folders, compiled bundles inside a folder, and other files in a language folder.
+// Searches the given folders and their subfolders. Hidden files and folders are skipped; a table or catalog that is in
+// several given folders is found once. A link to a language folder is followed, unless another link was followed to it.
+// Errors: a folder that is unreadable or below more than maxFolderDepth others; a given folder that is none, is a
+// compiled bundle, or contains neither tables nor catalogs; a table, language folder or Info.plist that is a link out
+// of its given folder. Warnings: tables, sets and files *.lproj in the wrong place, and extensions with capitals.
+// Notes: links that are not followed, compiled bundles inside a folder, and other files in a language folder.
 [[nodiscard]] SourceFiles findFiles(std::span<const std::filesystem::path> folders, Diagnostics& diagnostics);
 
 // The same for a compiled bundle, which has the same layout and may be empty.
