@@ -16,7 +16,7 @@
 
 namespace Lumora {
 
-// All members are static. Published to messages (Runtime/Class.h) as "Lumora.Localization".
+// All members are static. The class "Lumora.Localization" publishes most of them to messages (Runtime/Class.h).
 class LUMORA_EXPORT Localization {
 public:
     // The current language: the first of the bundle's preferred localizations (NSBundle), or English when that is not

@@ -37,8 +37,7 @@ std::optional<std::string> linkAt(const std::string& path) {
     return size < 0 ? std::nullopt : std::optional(std::string(text.data(), static_cast<std::size_t>(size)));
 }
 
-// Whether `folder` is in /proc. Links there refer to a process's open files; their text is only a name, which may be
-// outdated.
+// Whether `folder` is in /proc. There the text of a link to an open file is only a name, which may be outdated.
 bool isInProc(const std::string& folder) noexcept {
     struct statfs system {};
     return ::statfs(folder.c_str(), &system) == 0 && system.f_type == PROC_SUPER_MAGIC;

@@ -27,7 +27,7 @@ public:
 
     // The named asset, or null when the view has a UIColor.
     [[nodiscard]] const NamedAsset* asset() const noexcept { return std::get_if<NamedAsset>(&state_); }
-    // The colour to draw for these traits, completed by the current ones; no value when the asset is missing.
+    // The colour to draw for these traits, completed by the current ones; no value when colorNamed() gives none.
     [[nodiscard]] std::optional<UIKit::UIColor> resolve(const UIKit::UITraitCollection& traits) const;
 
     friend bool operator==(const Color&, const Color&) = default;

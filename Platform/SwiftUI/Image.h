@@ -32,7 +32,7 @@ public:
     // The accessibility label; no value means the asset name, unless the image is decorative.
     [[nodiscard]] const std::optional<Text>& label() const noexcept { return label_; }
     [[nodiscard]] bool isDecorative() const noexcept { return isDecorative_; }
-    // The image to draw for these traits, completed by the current ones; no value when the asset is missing.
+    // The image to draw for these traits, completed by the current ones; no value when imageNamed() gives none.
     [[nodiscard]] std::optional<UIKit::UIImage> resolve(const UIKit::UITraitCollection& traits) const;
 
     friend bool operator==(const Image&, const Image&) = default;

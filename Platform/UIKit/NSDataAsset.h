@@ -16,7 +16,7 @@ namespace UIKit {
 class LUMORA_EXPORT NSDataAsset {
 public:
     // The data asset with that name (exact) in the catalog of `bundle`, in the best variant for the current traits and
-    // the language of the bundle's texts, or no value, also when memory or descriptors run out.
+    // the language of the bundle's texts, or no value, also when its data cannot be read.
     [[nodiscard]] static std::optional<NSDataAsset> assetWithName(std::string_view name,
                                                                   const Foundation::NSBundle& bundle);
 

@@ -23,7 +23,7 @@ template <class Trait> Trait either(Trait own, Trait other) noexcept {
     return own == Trait{} ? other : own;
 }
 
-// Clamps a scale to the supported range; 0 if it is unspecified.
+// 0 if the scale is unspecified. Otherwise clamps it, because a tiny one would become 0 in single precision.
 double clampedScale(double scale) noexcept {
     constexpr double largest = 255; // the largest scale that a catalog can store
     return scale > 0 ? std::clamp(scale, 1 / largest, largest) : 0;

@@ -22,7 +22,7 @@ struct NumberPattern {
     unsigned primaryGrouping = 0;   // digits in the last group; 0 means no grouping
     unsigned secondaryGrouping = 0; // digits in the other groups
     unsigned minimumGrouping = 1;   // required digits before the first separator
-    unsigned maximumFraction = 3;
+    unsigned maximumFraction = 3;   // digits after the decimal separator
     unsigned minimumFraction = 0;
     unsigned powerOfTen = 0; // numbers are multiplied by this power of ten: 2 for percent
 };

@@ -10,8 +10,8 @@
 
 namespace Intl {
 
-// The operands of CLDR's rules. They describe the number as it is printed, so 1 and 1.0 differ. Of the values
-// i, f and t only the last 18 digits are kept, which suffices for all rules.
+// The operands of CLDR's rules. They describe the number as it is printed, so 1 and 1.0 differ. If i, f or t has
+// more than 18 digits, its value is a 1 and the last 18 of them, which suffices for all rules.
 struct PluralOperands {
     std::uint64_t i = 0; // whole part
     std::uint64_t v = 0; // number of digits after the point
@@ -23,7 +23,7 @@ struct PluralOperands {
 };
 
 // The operands of a number printed in ASCII without its sign: "12.50", "1.25e+01". Whatever follows
-// such a number is ignored.
+// such a number is ignored; a text without a number, such as "nan", gives zeros.
 [[nodiscard]] PluralOperands pluralOperands(std::string_view decimal) noexcept;
 
 // The rules of one language, found once for many numbers.
