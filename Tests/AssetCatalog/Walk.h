@@ -32,7 +32,7 @@ private:
     std::unique_ptr<std::uint8_t, Free> bytes_;
 };
 
-// Reads everything in a catalog; the returned sum prevents the compiler from removing the reads. Stops the process when
+// Reads everything in a catalog; the returned sum prevents the compiler from removing the reads. Stops the process if
 // the catalog contradicts itself.
 inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
     unsigned long long sum = 0;

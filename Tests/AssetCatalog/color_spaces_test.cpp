@@ -6,7 +6,8 @@ namespace {
 
 using namespace AssetCatalog;
 
-// Expected values were computed independently, the matrix with exact fractions from the chromaticities.
+// The expected values were not computed by the tested code; the matrix from Display P3 to sRGB was calculated from the
+// chromaticities with exact fractions.
 TEST(ColorSpaces, BecomeExtendedSrgb) {
     struct Case {
         int line;

@@ -1,5 +1,5 @@
-// Truncated, altered and malicious catalogs give an error, or another valid catalog if the change results in one; bytes
-// outside are never read.
+// Truncated, altered and malicious catalogs give an error, or another valid catalog if the change results in one; no
+// byte before or after the catalog is read.
 #include "AssetCatalog/internal/Catalog.h"
 
 #include "AssetCatalog/internal/Layout.h"

@@ -67,7 +67,7 @@ TEST(Fit, BestLanguage) {
         {__LINE__, {"pt-BR"}, {"", "pt", "pt-PT", "pt-BR"}, "pt-BR"},
         {__LINE__, {"pt-BR"}, {"", "pt", "pt-PT"}, "pt"},
         {__LINE__, {"pt-BR"}, {"p", "pt-B", "pt-BR-x", ""}, ""},
-        {__LINE__, {"pt-BR"}, {"de", "pt-PT"}, "de"},
+        {__LINE__, {"pt-BR"}, {"de", "pt-PT"}, "de"}, // none matches: the first
         {__LINE__, {"zh-Hans-CN"}, {"zh", "zh-Hans", ""}, "zh-Hans"},
         {__LINE__, {"fr", "de"}, {"", "de"}, "de"},
         {__LINE__, {"fr-CA", "de"}, {"de", "fr"}, "fr"},

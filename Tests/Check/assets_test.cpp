@@ -45,7 +45,7 @@ TEST(Check, FindsFaultsOfAssets) {
          {"asset-unassigned:3:2  a"}},
         {__LINE__, "a.imageset", "{\"filename\": }", {"unreadable-asset:2:14  a"}},
         {__LINE__, "a.imageset", R"({"filename": "../a.svg"})", {"unreadable-asset:2:1  a"}},
-        // For a missing file there is one finding; its scale does not count as missing, too.
+        // A missing file is one finding; its scale is not reported as missing as well.
         {__LINE__,
          "a.imageset",
          "{\"filename\": \"a.svg\"},\n{\"filename\": \"a@2x.png\", \"scale\": \"2x\"}",
@@ -53,7 +53,7 @@ TEST(Check, FindsFaultsOfAssets) {
         {__LINE__,
          "a.imageset",
          R"({"filename": "a.svg", "scale": "1x"}, {"scale": "2x"}, {"scale": "3x"})",
-         {}}, // a vector
+         {}}, // a vector is drawn in all scales
         // A file that is not assigned does not fill the slot for dark mode.
         {__LINE__,
          "a.imageset",

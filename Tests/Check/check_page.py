@@ -1,4 +1,4 @@
-"""Runs the examples of Docs/check.md: exactly the rule of the section is found where the page says so, otherwise nothing."""
+"""Runs the examples of Docs/check.md: those under "Found:" have one finding, by the rule of their section, those under "Not found:" none."""
 import base64
 import json
 import pathlib
@@ -14,16 +14,16 @@ BLOCK = re.compile(r"```\w+ (\S+)\n(.*?)```", re.DOTALL)
 
 
 def found(program, own, files, arguments):
-    """The rules of the findings in a source with these files, of `coverage` only if it is the `own` rule of the section; and a
-    complaint about a wrong exit status, or an empty string."""
-    with tempfile.TemporaryDirectory() as held:
+    """Checks a source with these files. Returns the rules of its findings, without `coverage` unless it is `own`, the rule of the
+    section; and a complaint if the exit status is wrong, otherwise an empty string."""
+    with tempfile.TemporaryDirectory() as folder:
         for name, text in files.items():
-            file = pathlib.Path(held, name)
+            file = pathlib.Path(folder, name)
             file.parent.mkdir(parents=True, exist_ok=True)
             file.write_text(text, encoding="utf-8")
             for bitmap in BITMAP.findall(text):
                 file.with_name(bitmap).write_bytes(PIXEL)
-        done = subprocess.run([program, "check", "source", "--format", "json", *arguments], cwd=held, capture_output=True, timeout=60)
+        done = subprocess.run([program, "check", "source", "--format", "json", *arguments], cwd=folder, capture_output=True, timeout=60)
         findings = json.loads(done.stdout)
         rules = [finding["rule"] for finding in findings if finding["rule"] == own or finding["rule"] != "coverage"]
         hasError = any(finding["severity"] == "error" for finding in findings)
@@ -40,11 +40,12 @@ def main(page, program):
         seen.append(rule)
         arguments = re.findall(r"^With `(.+?)`$", section, re.MULTILINE)
         arguments = arguments[0].split() if arguments else []
+        # A name that begins with ../ is outside of the source.
         parts = re.split(r"^(Found|Not found):$", section, flags=re.MULTILINE)
         examples = {parts[i]: {f"source/{name}" if "../" not in name else name[3:]: content for name, content in BLOCK.findall(parts[i + 1])}
                     for i in range(1, len(parts), 2)}
         if set(examples) != {"Found", "Not found"}:
-            faults.append(f"{rule}: has {sorted(examples)}")
+            faults.append(f"{rule}: has the examples {sorted(examples)}, not one of each kind")
             continue
         # Files that are not in the second example are as in the first.
         examples["Not found"] = examples["Found"] | examples["Not found"]
@@ -54,9 +55,9 @@ def main(page, program):
                 faults.append(f"{rule}: {name}: {rules} {complaint}")
     listed = json.loads(subprocess.run([program, "check", "--format", "sarif", str(page.parent.parent / "Resources")], check=True,
                                        capture_output=True).stdout)["runs"][0]["tool"]["driver"]["rules"]
-    missing = {rule["id"] for rule in listed} ^ set(seen)
-    if missing:
-        faults.append(f"rules without a section, or sections without a rule: {sorted(missing)}")
+    unmatched = {rule["id"] for rule in listed} ^ set(seen)
+    if unmatched:
+        faults.append(f"rules without a section, or sections without a rule: {sorted(unmatched)}")
     print("\n".join(faults) or f"{len(seen)} rules behave as the page says")
     return 1 if faults else 0
 

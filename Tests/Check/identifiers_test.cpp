@@ -1,4 +1,4 @@
-// Usage of accessors in C++ code.
+// The identifiers in C++ code, and the accessors that no code uses.
 #include "Check/Identifiers.h"
 #include "CheckedSource.h"
 #include <gtest/gtest.h>
@@ -8,6 +8,7 @@ namespace {
 using Support::CheckedSource;
 using Support::Strings;
 
+// "NAME" or "QUALIFIER::NAME" for each identifier.
 std::string identifiers(std::string_view code) {
     std::string all;
     Check::forEachIdentifier(code, [&](std::string_view name, std::string_view qualifier) {
@@ -28,7 +29,7 @@ TEST(Identifiers, AreFoundOutsideOfCommentsAndLiterals) {
         {__LINE__, "A::B:: c a::/* x */b", "A A::B B::c a a::b"},
         {__LINE__, "::a + ::b; a . ::c", "a b a c"},
         {__LINE__, "return ::b; case ::x: y::z", "return b case x y y::z"},
-        {__LINE__, "Сhatlist::title", "Сhatlist Сhatlist::title"},
+        {__LINE__, "Сhatlist::title", "Сhatlist Сhatlist::title"}, // begins with a Cyrillic letter
         {__LINE__, "\"open", ""},
         {__LINE__, "a /* open", "a"},
         {__LINE__, "R\"(open", ""},

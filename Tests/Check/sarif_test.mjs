@@ -14,7 +14,7 @@ const ajv = new Ajv({ schemaId: "auto", allErrors: true, logger: false });
 ajv.addMetaSchema(require("ajv/lib/refs/json-schema-draft-04.json"));
 const isValid = ajv.compile(require("@microsoft/jest-sarif/lib/schemas/sarif-2.1.0-rtm.5.json"));
 
-// Findings of every severity: at a place, without one, about an asset, in a folder and a key that have to be encoded.
+// Findings of every severity: with and without a line, about an asset, in a folder and a key whose characters have to be encoded.
 const source = {
     "en.lproj/Shop.strings": '"title" = "Shop";\n"a \\"b\\" \\U0001" = "%@ %ld";\n"twice" = "1";\n"twice" = "2";\n',
     "de.lproj/Shop.strings": '"title" = "Shop";\n"a \\"b\\" \\U0001" = "%ld %@ ";\n"more" = "x";\n',
@@ -50,8 +50,8 @@ test("SARIF is valid, and each result is at a file of the source", () => {
                 const path = fileURLToPath(new URL(uri, pathToFileURL(join(cwd, "/"))));
                 assert.ok(Object.keys(source).some((name) => path === join(folder, name)), path);
             }
-            const prints = results.map((result) => result.partialFingerprints["lumora/v1"]);
-            assert.equal(new Set(prints).size, prints.length);
+            const fingerprints = results.map((result) => result.partialFingerprints["lumora/v1"]);
+            assert.equal(new Set(fingerprints).size, fingerprints.length);
         }
         rmSync(folder, { recursive: true });
         mkdirSync(join(folder, "en.lproj"), { recursive: true });

@@ -12,7 +12,7 @@ std::string entry(std::string_view text) {
     return "\"key\" = \"" + std::string(text) + "\";";
 }
 
-// The rules that a translation of one text breaks.
+// The rules that a translation of one text breaks, with spaces between them.
 std::string rulesFor(const char* language, std::string_view development, std::string_view translation) {
     CheckedSource source(
         {{"en.lproj/T.strings", entry(development)}, {std::string(language) + ".lproj/T.strings", entry(translation)}});
@@ -49,7 +49,7 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
         {__LINE__, "de", "Now\\n", "Jetzt\\n", ""},
         {__LINE__, "de", "One\\nTwo", "Eins\\r\\nZwei", ""},
         {__LINE__, "de", "One\\nTwo", "Eins Zwei", "newline-mismatch"},
-        // The last mark.
+        // The punctuation mark at the end.
         {__LINE__, "de", "It is done.", "Es ist fertig", "punctuation-mismatch"},
         {__LINE__, "de", "Is it done?", "Ist es fertig.", "punctuation-mismatch"},
         {__LINE__, "de", "Say \\\"it is done.\\\"", "Sag „es ist fertig.“", ""},
@@ -100,7 +100,7 @@ TEST(Check, FindsMissingAndUnknownKeys) {
          {"en-GB.lproj/T.strings", "a = won;"},
          {"en.lproj/U.strings", "a = one;\nb = two;"},
          {"fr.lproj/T.strings", "a = un; b = deux;c = trois;d = quatre;"},
-         {"fr.lproj/Layout.strings", "label = texte;"}}); // its development text is in the layout
+         {"fr.lproj/Layout.strings", "label = texte;"}}); // its development text is in a layout file
     EXPECT_EQ(source.findings(),
               (Strings{"missing-key de.lproj/T.strings:1:1 de c", "unknown-key de.lproj/T.strings:2:1 de z",
                        "duplicate-key de.lproj/T.strings:4:1 de d", "missing-key en.lproj/U.strings:1:1 de ",
@@ -153,14 +153,14 @@ TEST(Check, ComparesAllPluralForms) {
         int line;
         const char *language, *forms, *rule;
     } cases[] = {
-        {__LINE__, "de", "one=Eine Datei von %@;other=%d Dateien von %@", ""}, // without its number
+        {__LINE__, "de", "one=Eine Datei von %@;other=%d Dateien von %@", ""}, // one form without the number
         {__LINE__, "de", "other=%d Dateien von %@", "missing-plural-form"},
         {__LINE__, "de", "one=Eine Datei;other=%d Dateien von %@", ""},
         {__LINE__, "de", "one=Eine Datei;other=%d Dateien", "placeholder-mismatch"},
         {__LINE__, "de", "one=Eine Datei von %2$d;other=%d Dateien von %2$@", "placeholder-mismatch"},
         {__LINE__, "ru", "one=%d файл %@;few=%d файла %@;many=%d файлов %@;other=%d файла %@", ""},
         {__LINE__, "ru", "one=%d файл %@;many=%d файлов %@;other=%d файла %@", "missing-plural-form"},
-        {__LINE__, "fr", "one=%d fichier de %@;other=%d fichiers de %@", ""}, // `many` is for millions
+        {__LINE__, "fr", "one=%d fichier de %@;other=%d fichiers de %@", ""}, // `many`, for millions, may be left out
         {__LINE__, "ja", "other=%d 個 %@", ""},
         {__LINE__, "ja", "one=%d 個 %@", "missing-plural-form"},
         {__LINE__, "de", "one=Eine  Datei von %@;other=%d Dateien von %@", "double-space"},

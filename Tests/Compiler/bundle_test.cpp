@@ -35,7 +35,7 @@ Outcome compile(
     return outcome;
 }
 
-TEST(CompileBundle, MakesBinaryTablesOfEveryForm) {
+TEST(CompileBundle, MakesBinaryTablesFromEveryForm) {
     const Support::TemporaryFolder folder;
     folder.write("source/Base.lproj/A.strings", "\"k\" = \"ünï\";");
     folder.write("source/ru.lproj/A.strings", "<plist><dict><key>k</key><string>т</string></dict></plist>");
@@ -85,7 +85,7 @@ TEST(CompileBundle, CompletesInfoPlist) {
     EXPECT_TRUE(outcome.failure.starts_with(damaged.string() + ":1:15: ")) << outcome.failure;
 }
 
-TEST(CompileBundle, ChoosesTheFirstOfAssetsOfOneName) {
+TEST(CompileBundle, KeepsTheFirstAssetWithAName) {
     const Support::TemporaryFolder folder;
     for (const std::string set : {"A.xcassets/F/x.dataset", "A.xcassets/x.dataset", "B.xcassets/x.dataset"}) {
         folder.write("source/" + set + "/Contents.json", R"({"data": [{"filename": "f"}]})");
@@ -112,7 +112,7 @@ TEST(CompileBundle, KeepsTheOldBundleWhenASourceIsDamaged) {
     EXPECT_TRUE(outcome.diagnostics[0].starts_with(damaged.string() + ":2:7: ")) << outcome.diagnostics[0];
     EXPECT_EQ(Support::filesBelow(folder / "out.bundle"),
               (std::set<std::string>{".lumora-bundle", "Info.plist", "Base.lproj/A.strings"}));
-    // No staged folder is left.
+    // The folder has only `source` and the bundle: no staged folder is left.
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
 
     fs::remove(damaged);
@@ -140,7 +140,7 @@ TEST(CompileBundle, LeavesOutUnreadablePictures) {
     for (const std::string name : {"good", "bad"})
         folder.write("source/A.xcassets/" + name + ".imageset/Contents.json", R"({"images": [{"filename": "p"}]})");
     folder.write("source/A.xcassets/good.imageset/p", svg(3, "red"));
-    const fs::path bad = folder.write("source/A.xcassets/bad.imageset/p", "8BPS");
+    const fs::path bad = folder.write("source/A.xcassets/bad.imageset/p", "8BPS"); // a format that is not supported
     const Outcome outcome = compile(folder / "source", folder / "out.bundle");
     EXPECT_EQ(outcome.failure, "");
     ASSERT_EQ(outcome.diagnostics.size(), 1U);
@@ -168,9 +168,10 @@ TEST(CompileBundle, PrefersPicturesMadeForTheirScale) {
 fs::file_time_type timeOf(const fs::path& file) {
     return fs::last_write_time(file);
 }
-void setLongAgo(const fs::path& folder) {
+void setYesterday(const fs::path& folder) {
+    const auto yesterday = fs::file_time_type::clock::now() - std::chrono::hours(24);
     for (const std::string& file : Support::filesBelow(folder))
-        fs::last_write_time(folder / file, fs::file_time_type() + std::chrono::hours(1));
+        fs::last_write_time(folder / file, yesterday);
 }
 
 // A compile that reuses the last one gives the same result, and unchanged files keep their modification time.
@@ -192,23 +193,23 @@ TEST(CompileBundle, ReusesTheLastCompile) {
         fs::remove_all(folder / "fresh.bundle");
     };
     compileAndCompare(__LINE__);
-    setLongAgo(bundle);
-    const auto longAgo = timeOf(catalog);
+    setYesterday(bundle);
+    const auto yesterday = timeOf(catalog);
     folder.write("source/Base.lproj/A.strings", "a = c;");
     compileAndCompare(__LINE__);
-    EXPECT_EQ(timeOf(catalog), longAgo);
-    EXPECT_EQ(timeOf(bundle / "Info.plist"), longAgo);
-    EXPECT_EQ(timeOf(bundle / "de.lproj/A.strings"), longAgo);
-    EXPECT_NE(timeOf(bundle / "Base.lproj/A.strings"), longAgo);
+    EXPECT_EQ(timeOf(catalog), yesterday);
+    EXPECT_EQ(timeOf(bundle / "Info.plist"), yesterday);
+    EXPECT_EQ(timeOf(bundle / "de.lproj/A.strings"), yesterday);
+    EXPECT_NE(timeOf(bundle / "Base.lproj/A.strings"), yesterday);
     EXPECT_EQ(fs::hard_link_count(catalog), 1U);
 
-    folder.write("source/A.xcassets/two.imageset/p", svg(3, "blue")); // of the same size as the old one
+    folder.write("source/A.xcassets/two.imageset/p", svg(3, "tan")); // has as many bytes as before
     compileAndCompare(__LINE__);
-    EXPECT_NE(timeOf(catalog), longAgo);
+    EXPECT_NE(timeOf(catalog), yesterday);
     folder.write("source/A.xcassets/two.imageset/p", svg(3, "red"));
     compileAndCompare(__LINE__);
 
-    // A changed table, catalog or list is not reused.
+    // A changed table or catalog is not reused, nor a list of what was compiled whose numbers are not valid.
     std::string table = Support::contents(bundle / "de.lproj/A.strings");
     table.back() = static_cast<char>(~table.back());
     folder.write("out.bundle/de.lproj/A.strings", table);
@@ -317,17 +318,17 @@ TEST(CompileBundle, RunsOutOfDescriptors) {
     rlimit limit{};
     ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
     std::size_t failures = 0;
-    for (rlim_t more = 0; more < 16; ++more) {
-        const rlimit lower{.rlim_cur = static_cast<rlim_t>(gaps.back().number()) + 1 + more,
+    for (rlim_t available = 0; available < 16; ++available) {
+        const rlimit lower{.rlim_cur = static_cast<rlim_t>(gaps.back().number()) + 1 + available,
                            .rlim_max = limit.rlim_max};
         ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &lower), 0);
         const Outcome outcome = compile(folder / "source", bundle);
         ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &limit), 0);
         const bool isDone = outcome.failure.empty() && outcome.diagnostics.empty();
         failures += isDone ? 0 : 1;
-        EXPECT_TRUE(isDone || more < 12) << more << outcome.failure;
-        EXPECT_EQ(assetsOf(bundle), std::vector<std::string>{"p"}) << more;
-        EXPECT_EQ(staged(folder.path()), std::set<std::string>()) << more;
+        EXPECT_TRUE(isDone || available < 12) << available << outcome.failure;
+        EXPECT_EQ(assetsOf(bundle), std::vector<std::string>{"p"}) << available;
+        EXPECT_EQ(staged(folder.path()), std::set<std::string>()) << available;
     }
     EXPECT_NE(failures, 0U);
 }

@@ -10,6 +10,7 @@
 #include "StringTables/internal/PluralTable.h"
 #include "StringTables/internal/Table.h"
 #include "StringTables/internal/Writer.h"
+#include <cstring>
 #include <gtest/gtest.h>
 
 namespace {
@@ -199,11 +200,12 @@ struct Edit {
     State state = State::translated;
 };
 
-// Imports the edits into a source and returns the messages.
+// The numbers of changed texts and files, and the messages.
 struct ImportResult {
     std::size_t texts = 0, files = 0;
     Strings messages;
 };
+// Exports the German texts of a source, edits them and imports them.
 ImportResult import(Support::SourceFolder& folder, const std::vector<Edit>& edits, bool keepGoing = false) {
     const std::filesystem::path folders[] = {folder.path()};
     const auto source = SourceBundle::Source::read(folders, {}, folder.diagnostics);
@@ -273,7 +275,7 @@ TEST(Imports, ChangeNothingButTexts) {
          {{"T/a", "3"}, {"T/b", "B"}},
          "a = 1; a = \"3\"; b = (x, \"y;\"); // b\n\"b\" = \"B\";\n"},
         {__LINE__, "T.strings", wide("a = b;"), {{"T/a", "B"}, {"T/b", "C"}}, wide("a = \"B\";\n\"b\" = \"C\";\n")},
-        // Property lists.
+        // The XML form.
         {__LINE__,
          "T.strings",
          plist + "<dict><!-- a -->\n\t<key>a</key> "
@@ -340,7 +342,8 @@ TEST(Imports, ChangeNothingButTexts) {
         Support::SourceFolder folder;
         folder.write("en.lproj/T.strings", english);
         folder.write("en.lproj/T.stringsdict",
-                     filesEntry("%#@n@!", oneAndOther).insert(plist.size() + 7, "  <!-- Counts files. -->\n"));
+                     filesEntry("%#@n@!", oneAndOther)
+                         .insert(plist.size() + std::strlen("<dict>\n"), "  <!-- Counts files. -->\n"));
         const auto file = folder.write("de.lproj/" + one.file, one.before);
         EXPECT_EQ(import(folder, {}).files, 0U) << "line " << one.line;
         EXPECT_EQ(Support::contents(file), one.before) << "line " << one.line;

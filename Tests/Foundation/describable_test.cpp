@@ -141,7 +141,7 @@ TEST(Describable, TypesMayDescribeThemselves) {
               "[5, -7, 2.0, 0.10000000149011612, 18446744073709551615, 1]");
 }
 
-// Types that contain themselves would recurse without end, and wide strings would be printed as lists of letters.
+// As sequences, types that contain themselves would recurse without end, and wide strings would be lists of letters.
 static_assert(!Foundation::detail::Sequence<std::filesystem::path> && !Foundation::detail::Sequence<std::u16string>);
 
 TEST(Describable, BorrowsTexts) {

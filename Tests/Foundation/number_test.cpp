@@ -152,7 +152,7 @@ TEST(NumberFormatter, StartsWithTheCurrentLocale) {
     Foundation::Host::reset();
 }
 
-TEST(NumberFormatter, ServesThreadsThatUseLocalesFirst) {
+TEST(NumberFormatter, ServesThreadsThatUseALocaleForTheFirstTime) {
     static constexpr const char* locales[] = {"de_LI", "fr_BE", "ar_DZ", "ru_KZ", "es_PE", "pt_MO", "hi_IN", "sv_FI"};
     std::vector<std::vector<std::string>> seen(8, std::vector<std::string>(8));
     std::latch ready(8);

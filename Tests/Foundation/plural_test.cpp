@@ -2,6 +2,7 @@
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
 #include "Foundation/String.h"
+#include "Foundation/internal/PluralText.h"
 
 #include "../Support/TemporaryFolder.h"
 #include <gtest/gtest.h>
@@ -37,7 +38,7 @@ protected:
     void write(const std::string& language, const std::string& entries) {
         folder_.write(language + ".lproj/Localizable.stringsdict", "<plist><dict>" + entries + "</dict></plist>");
     }
-    std::string made(std::string_view key, std::initializer_list<FormatArgument> arguments) {
+    std::string formatted(std::string_view key, std::initializer_list<FormatArgument> arguments) {
         const NSBundle& bundle = NSBundle::bundleWithPath(folder_.path());
         return Foundation::String::format(bundle.localizedFormat(key, "Localizable"), Foundation::Locale::current(),
                                           {arguments.begin(), arguments.size()});
@@ -107,8 +108,8 @@ TEST_F(Plurals, ChooseFormsByTheRightArgument) {
                                              Foundation::Locale::current(), arguments),
                   expected)
             << "line " << line;
-    // Forms with several others make a text of limited length.
-    EXPECT_LE(made("many", {5}).size(), (std::size_t{1} << 20) + longForm);
+    // Forms that contain two others, eight levels deep, make a text of limited length.
+    EXPECT_LE(formatted("many", {5}).size(), Foundation::detail::longestPlural + longForm);
 }
 
 TEST_F(Plurals, FollowTheLanguageOfTheirTable) {
@@ -121,15 +122,15 @@ TEST_F(Plurals, FollowTheLanguageOfTheirTable) {
     write("ar", plural("n", "%#@n@", variable("n", "ld", all)));
     Host::setPreferredLanguages({"ru"});
     Host::setCurrentLocale("de_DE"); // affects how numbers are printed, not the plural form
-    EXPECT_EQ(made("n", {21}), "21 one");
-    EXPECT_EQ(made("n", {3}), "3 few");
-    EXPECT_EQ(made("n", {1011}), "1.011 many");
-    EXPECT_EQ(made("zero", {0}), "none");
-    EXPECT_EQ(made("base", {21}), "21 other"); // found in the English table
+    EXPECT_EQ(formatted("n", {21}), "21 one");
+    EXPECT_EQ(formatted("n", {3}), "3 few");
+    EXPECT_EQ(formatted("n", {1011}), "1.011 many");
+    EXPECT_EQ(formatted("zero", {0}), "none");
+    EXPECT_EQ(formatted("base", {21}), "21 other"); // found in the English table
     Host::setPreferredLanguages({"ar"});
-    EXPECT_EQ(made("n", {2}), "2 other"); // the form is missing
-    EXPECT_EQ(made("n", {11}), "11 many");
-    EXPECT_EQ(made("zero", {0}), "none");
+    EXPECT_EQ(formatted("n", {2}), "2 other"); // the form is missing
+    EXPECT_EQ(formatted("n", {11}), "11 many");
+    EXPECT_EQ(formatted("zero", {0}), "none");
 }
 
 TEST_F(Plurals, UseFloatingNumbersAsPrinted) {
@@ -145,21 +146,21 @@ TEST_F(Plurals, UseFloatingNumbersAsPrinted) {
     write("fr", plural("f", "%#@n@", variable("n", "f", forms("%.1f mille", "%.1f milles"))));
     Host::setPreferredLanguages({"en"});
     Host::setCurrentLocale("en_US");
-    EXPECT_EQ(made("f", {1.0}), "1.0 miles");
-    EXPECT_EQ(made("rounded", {1.0}), "1 mile");
-    EXPECT_EQ(made("rounded", {0.9}), "1 mile");
-    EXPECT_EQ(made("free", {1.0}), "a mile");
-    EXPECT_EQ(made("free", {1.5}), "several miles");
-    EXPECT_EQ(made("e", {1e6}), "1e+06 miles");
-    EXPECT_EQ(made("a", {1.0}), "0x1p+0 mile");
-    EXPECT_EQ(made("x", {255}), "ff miles");
-    EXPECT_EQ(made("second", {7, 1.4}), "7: 1.4 miles");
-    EXPECT_EQ(made("lu", {std::uint64_t{1}}), "1 byte");
-    EXPECT_EQ(made("lu", {~std::uint64_t{0}}), "18,446,744,073,709,551,615 bytes");
+    EXPECT_EQ(formatted("f", {1.0}), "1.0 miles");
+    EXPECT_EQ(formatted("rounded", {1.0}), "1 mile");
+    EXPECT_EQ(formatted("rounded", {0.9}), "1 mile");
+    EXPECT_EQ(formatted("free", {1.0}), "a mile");
+    EXPECT_EQ(formatted("free", {1.5}), "several miles");
+    EXPECT_EQ(formatted("e", {1e6}), "1e+06 miles");
+    EXPECT_EQ(formatted("a", {1.0}), "0x1p+0 mile");
+    EXPECT_EQ(formatted("x", {255}), "ff miles");
+    EXPECT_EQ(formatted("second", {7, 1.4}), "7: 1.4 miles");
+    EXPECT_EQ(formatted("lu", {std::uint64_t{1}}), "1 byte");
+    EXPECT_EQ(formatted("lu", {~std::uint64_t{0}}), "18,446,744,073,709,551,615 bytes");
     Host::setPreferredLanguages({"fr"});
     Host::setCurrentLocale("fr_FR");
-    EXPECT_EQ(made("f", {1.5}), "1,5 mille");
-    EXPECT_EQ(made("f", {2.0}), "2,0 milles");
+    EXPECT_EQ(formatted("f", {1.5}), "1,5 mille");
+    EXPECT_EQ(formatted("f", {2.0}), "2,0 milles");
 }
 
 TEST_F(Plurals, WinOverTextsOfTheirLanguage) {
@@ -171,8 +172,8 @@ TEST_F(Plurals, WinOverTextsOfTheirLanguage) {
     const NSBundle& bundle = NSBundle::bundleWithPath(folder_.path());
     EXPECT_EQ(bundle.localizedText("n", ""), "%1$ld days left");
     EXPECT_EQ(bundle.localizedStringForKey("n", nullptr, ""), "%1$ld days left");
-    EXPECT_EQ(made("fallback", {1}), "deutsch");
-    EXPECT_EQ(made("only", {1}), "1");
+    EXPECT_EQ(formatted("fallback", {1}), "deutsch");
+    EXPECT_EQ(formatted("only", {1}), "1");
     // A key that is itself a view of a table's text.
     const std::string_view key = bundle.localizedText("only", "");
     const std::string value = "instead";
@@ -182,7 +183,7 @@ TEST_F(Plurals, WinOverTextsOfTheirLanguage) {
 TEST_F(Plurals, DamagedTablesHaveNoKeys) {
     folder_.write("Base.lproj/Localizable.stringsdict", "<plist><dict><key>n</key>");
     folder_.write("Base.lproj/Localizable.strings", "n = text;");
-    EXPECT_EQ(made("n", {1}), "text");
+    EXPECT_EQ(formatted("n", {1}), "text");
 }
 
 } // namespace

@@ -155,7 +155,7 @@ class RandomFormats {
 public:
     void run(int count) {
         for (int i = 0; i < count; ++i)
-            one();
+            compareOne();
     }
 
 private:
@@ -167,7 +167,7 @@ private:
     std::size_t below(std::size_t bound) { return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random_); }
     int between(int low, int high) { return std::uniform_int_distribution<int>(low, high)(random_); }
 
-    void one() {
+    void compareOne() {
         const char conversion = "dddiuxXofFeEgGaAcs"[below(18)];
         width_ = below(3) == 0 ? std::optional(between(-30, 30)) : std::nullopt;
         precision_ = below(3) == 0 && conversion != 'c' ? std::optional(between(-3, 40)) : std::nullopt;
@@ -190,7 +190,8 @@ private:
         value(format, conversion);
     }
 
-    // Adds a size argument. With positions, it comes first in the argument list.
+    // Adds an argument for a width or a precision, if it is given as one, and returns its "*". Such arguments come
+    // before the value.
     std::string size(const std::optional<int>& argument) {
         if (!argument)
             return "";
@@ -198,6 +199,7 @@ private:
         return isPositional_ ? "*" + std::to_string(arguments_.size()) + "$" : "*";
     }
 
+    // Adds a modifier, the conversion and a value, and compares.
     void value(std::string format, char conversion) {
         const auto end = std::string(1, conversion) + "]%%";
         if (conversion == 's')

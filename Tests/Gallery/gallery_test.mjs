@@ -1,4 +1,4 @@
-// Opens the page that `lumora gallery` writes in a browser and tests it. Durations are printed, but not checked.
+// Tests the pages that `lumora gallery` writes in a browser. Durations are printed, but not checked.
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { mkdirSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
@@ -86,7 +86,7 @@ onPage("the search finds keys, accessors and words of every language", async (ta
     assert.equal(await tab.locator("[data-asset]").count(), assetCount);
 });
 
-onPage("a letter is searched for without a wait", async (tab, context) => {
+onPage("the time of a search after each letter is printed", async (tab, context) => {
     const search = (text) => tab.evaluate((value) => new Promise((resolve) => {
         const start = performance.now();
         document.getElementById("search").value = value;
@@ -155,7 +155,7 @@ onPage("everything can be done with the keyboard", async (tab) => {
     assert.equal(await tab.locator("[data-key]").count(), textCount);
 }, { permissions: ["clipboard-read", "clipboard-write"] });
 
-onPage("pictures have their pixels, variants and grounds", async (tab) => {
+onPage("pictures have their pixels and variants, on the chosen background", async (tab) => {
     for (const name of ["Colours", "Regions", "Pictures"]) { // their places are only estimated until they are laid out
         await tab.click(`nav >> text=${name}`);
         await tab.waitForFunction((id) => {
@@ -193,7 +193,7 @@ onPage("colours have their values and contrast ratios", async (tab) => {
 
 for (const colorScheme of ["light", "dark"])
     onPage(`axe finds nothing wrong in ${colorScheme}`, async (tab) => {
-        if (colorScheme === "dark") { // the same rows, in other colours
+        if (colorScheme === "dark") { // fewer rows: only the colours differ from the light page
             await tab.fill("#search", "onboarding");
             await tab.click("#size >> text=Actual");
         }
@@ -202,8 +202,8 @@ for (const colorScheme of ["light", "dark"])
         assert.deepEqual(violations.map(({ id, nodes }) => [id, nodes[0].html, nodes[0].failureSummary]), []);
     }, { colorScheme });
 
-// A small source with difficult contents.
-function hostileSource() {
+// Writes the page of a small source with difficult contents and returns its path.
+function hostilePage() {
     const source = join(folder, "Shop & <Co>");
     const table = (language, text, file = "Odd.strings") => {
         mkdirSync(join(source, `${language}.lproj`), { recursive: true });
@@ -241,4 +241,4 @@ onPage("texts of any content are only shown", async (tab) => {
         assert.equal((await keysShown(tab)).length, shown, status);
     }
     assert.deepEqual(await tab.locator("main > section:visible h2").allInnerTexts(), ["Texts"]);
-}, { file: hostileSource });
+}, { file: hostilePage });

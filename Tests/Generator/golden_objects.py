@@ -1,5 +1,5 @@
-"""Fails if generated objects run code when they are loaded, if those of the texts have data that must be relocated, or if they export
-other symbols than accessors, constants and bundle(), or another number of them."""
+"""Fails if generated objects run code when they are loaded, if those of OddStrings have data that must be relocated, or if the exported
+symbols are not exactly bundle() and the expected numbers of accessors and constants."""
 import re
 import subprocess
 import sys

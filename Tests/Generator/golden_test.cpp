@@ -34,7 +34,7 @@ std::map<std::string, std::string> generated(const fs::path& folder, const Gener
 TEST(Golden, MatchesTheGeneratedFiles) {
     const auto expected = golden();
     const Generator::Options options{.module = "Odd", .includes = {"Runtime/Class.h"}, .shards = 2};
-    for (int run = 0; run < 2; ++run) { // both give the same
+    for (int run = 0; run < 2; ++run) { // both runs give the same files
         const auto actual = generated(LUMORA_GOLDEN "/input.bundle", options);
         for (const auto& [path, content] : actual)
             EXPECT_EQ(content, expected.contains(path) ? expected.at(path) : "") << path;

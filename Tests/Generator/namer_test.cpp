@@ -61,7 +61,8 @@ TEST(Namer, NamesGroups) {
         {__LINE__, "TrainersHQ", "TrainersHQ"},
         {__LINE__, "Сhatlist", "Сhatlist"},
         {__LINE__, "10ExerciseStraight", "_10ExerciseStraight"},
-        // Identifiers of layout files. Those without a lower-case letter after the first are capitalized again.
+        // Identifiers of layout files. If their parts, with capitals at the beginning, have no lower-case letter left,
+        // the other letters become lower-case.
         {__LINE__, "0ie-tn-jCZ", "_0ieTnJCZ"},
         {__LINE__, "9ui-9h-hZp", "_9ui9hHZp"},
         {__LINE__, "1aq-bW-Am5", "_1aqBWAm5"},

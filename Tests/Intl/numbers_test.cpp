@@ -125,7 +125,7 @@ TEST(Numbers, MatchIcuInEveryLocale) {
     UErrorCode status = U_ZERO_ERROR;
     const icu::LocalUEnumerationPointer all(uloc_openAvailableByType(ULOC_AVAILABLE_WITH_LEGACY_ALIASES, &status));
     for (; const char* name = uenum_next(all.getAlias(), nullptr, &status); ++count) {
-        // Stored patterns are tested; those of the locales below are taken from ICU.
+        // These locales have stored patterns; the locales after the loop get theirs from ICU.
         ASSERT_TRUE(Intl::knownNumberPattern(name, NumberStyle::percent)) << name;
         expectIcuTexts(icu::Locale(name));
     }

@@ -1,4 +1,4 @@
-"""Compares the assets of the compiled bundle and the order of the constants with the list in Resources/Drawings/names.py."""
+"""Compares the assets of the compiled bundle, and the constants with their order, with the list in Resources/Drawings/names.py."""
 import json
 import pathlib
 import re
@@ -34,6 +34,7 @@ constants = [entry for entry in json.loads(printed("accessors", resources, "--mo
              if entry["kind"] != "text"]
 for catalog, kinds in names.CATALOGS.items():
     wanted = [f"Lumora::LumoraAsset::{catalog}::{constant(name)}" for listed in kinds.values() for name in listed]
+    # The first three differences of a catalog are reported: a missing constant moves all others.
     declared = [entry["accessor"] for entry in constants if entry["catalog"] == catalog]
     faults += [f"{one} is declared where {other} should be" for one, other in zip(declared, wanted) if one != other][:3]
 

@@ -72,8 +72,8 @@ struct PaintedImage : UIKit::UIImage {
 struct OlderImage : UIKit::UIImage {
     static int imageNamed(std::string_view, const Foundation::NSBundle&, const UITraitCollection*) { return 5; }
 };
-// Subclasses without one. Made is constructed from the platform's result; Unmade cannot be, so the platform's result is
-// returned.
+// Subclasses without lookup functions. Made is constructed from the platform's result; Unmade cannot be, so the
+// platform's result is returned.
 template <class Base> struct Made : Base {
     explicit Made(const Base& base) : Base(base) {}
 };

@@ -18,7 +18,7 @@ const std::vector<std::string> rawValues = {"ar", "de", "en",    "es",    "es-41
 class Services : public ::testing::Test {
 protected:
     ~Services() override { Host::reset(); }
-    void user(const char* language, const char* locale) {
+    void setUser(const char* language, const char* locale) {
         Host::setPreferredLanguages({language});
         Host::setCurrentLocale(locale);
     }
@@ -68,7 +68,7 @@ TEST_F(Services, FollowTheUsersLanguageAndLocale) {
         {__LINE__, "uk", "uk_UA", "en", "en", false},          {__LINE__, "en_GB", "en_GB", "en", "en_GB", false},
     };
     for (const auto& one : cases) {
-        user(one.language, one.locale);
+        setUser(one.language, one.locale);
         EXPECT_EQ(Localization::currentLanguageCode().rawValue(), one.code) << "line " << one.line;
         EXPECT_EQ(Localization::currentLocale().identifier(), one.current) << "line " << one.line;
         EXPECT_EQ(Localization::isAsianLocale(), one.isAsian) << "line " << one.line;
@@ -78,7 +78,7 @@ TEST_F(Services, FollowTheUsersLanguageAndLocale) {
 }
 
 TEST_F(Services, ReadOneLanguagesTable) {
-    user("de", "de_DE");
+    setUser("de", "de_DE");
     EXPECT_EQ(Localization::localizationFileTranslation("en", "Continue"), "Continue");
     EXPECT_EQ(Localization::localizationFileTranslation("Base", "new_comment"), "%@ left a comment: %@");
     EXPECT_EQ(Localization::localizationFileTranslation("fr", "Continue"), "Continuer");
@@ -100,7 +100,7 @@ TEST_F(Services, SpellYearsInEachLanguage) {
         std::int64_t age;
         const char* phrase;
     } cases[] = {
-        // Phrases of the platform.
+        // Phrases of the platform, from ICU.
         {__LINE__, "ru", 1, "1 год"},
         {__LINE__, "ru", 3, "3 года"},
         {__LINE__, "ru", 25, "25 лет"},
@@ -116,7 +116,7 @@ TEST_F(Services, SpellYearsInEachLanguage) {
         {__LINE__, "ar", 1, "سنة"},
         {__LINE__, "ar", 2, "سنتان"},
         {__LINE__, "th", 25, "25 ปี"},
-        // Phrases of the tables.
+        // Phrases of Lumora's tables.
         {__LINE__, "en", 25, "25 years"},
         {__LINE__, "de", 22, "22 Jahre"},
         {__LINE__, "ko", 25, "25 년"},
@@ -130,17 +130,17 @@ TEST_F(Services, SpellYearsInEachLanguage) {
         if (isFromTables)
             EXPECT_EXIT(
                 {
-                    user(one.language, one.language);
+                    setUser(one.language, one.language);
                     std::_Exit(Localization::legacyTrAge(one.age) == one.phrase ? 0 : 1);
                 },
                 ::testing::ExitedWithCode(0), "")
                 << "line " << one.line;
         else {
-            user(one.language, one.language);
+            setUser(one.language, one.language);
             EXPECT_EQ(Localization::legacyTrAge(one.age), one.phrase) << "line " << one.line;
         }
     }
-    user("ru", "ru_RU");
+    setUser("ru", "ru_RU");
     EXPECT_EQ(Localization::legacyTrYear(1234), "1\u00a0234 года");
 }
 
@@ -168,7 +168,7 @@ TEST_F(Services, WriteSignedNumbersInTheUsersLocale) {
         {__LINE__, "en_US", std::nan(""), false, "NaN"},
     };
     for (const auto& one : cases) {
-        user("en", one.locale);
+        setUser("en", one.locale);
         EXPECT_EQ(Localization::legacyTrNumber(one.number, one.needSign), one.text) << "line " << one.line;
     }
 }
@@ -199,10 +199,10 @@ TEST_F(Services, RoundPercentagesInSinglePrecision) {
         {__LINE__, "en", 1e300, false, "∞%"},
         {__LINE__, "en", std::nan(""), true, "NaN%"},
         {__LINE__, "tr", 0.25, true, "+%25"},
-        {__LINE__, "tr", 0.125, false, "%12"},
+        {__LINE__, "tr", 0.125, false, "%12"}, // the locale rounds halves to even
     };
     for (const auto& one : cases) {
-        user(one.language, one.language);
+        setUser(one.language, one.language);
         EXPECT_EQ(Localization::legacyTrPercent(one.value, one.showPlus), one.text) << "line " << one.line;
     }
 }

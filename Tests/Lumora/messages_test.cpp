@@ -41,7 +41,7 @@ TEST_F(Messages, MatchTheMembers) {
                  "does not respond to");
 }
 
-// The text of a string, which is released.
+// Returns the text of a string and releases the string.
 std::string taken(NSString* text) {
     std::string utf8 = NSStringUTF8(text);
     NSRelease(text);

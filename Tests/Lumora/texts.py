@@ -1,4 +1,4 @@
-"""Checks that every language has each development text, with the same placeholders."""
+"""Checks that every language has each development text, with the same placeholders, and that French has its no-break spaces."""
 import collections
 import json
 import pathlib

@@ -74,7 +74,7 @@ TEST(Jpeg, EveryColorSpace) {
         {__LINE__, {JCS_GRAYSCALE, {77}}, {77, 77, 77}},
         {__LINE__, colored, {200, 100, 50}},
         {__LINE__, {JCS_RGB, {0, 255, 10}, true}, {0, 255, 10}},
-        // CMYK: ink 0 is white; black darkens the other inks.
+        // CMYK: 0 is no ink; the fourth ink, black, darkens the others.
         {__LINE__, {JCS_CMYK, {255, 0, 51, 0}}, {0, 255, 204}},
         {__LINE__, {JCS_CMYK, {0, 51, 255, 51}}, {204, 163, 0}},
         // Files with an Adobe marker store inverted inks.
@@ -124,7 +124,7 @@ TEST(Jpeg, ScansAreLimited) {
     EXPECT_EQ(Pictures::decode(repeated).error().message, "is a damaged JPEG: more than 200 scans");
 }
 
-TEST(Jpeg, DamageIsAnErrorAndNeverACrash) {
+TEST(Jpeg, TruncationIsAnErrorAndDamageNeverACrash) {
     for (const bool progressive : {false, true}) {
         PixelFormat format = colored;
         format.progressive = progressive;
@@ -135,7 +135,7 @@ TEST(Jpeg, DamageIsAnErrorAndNeverACrash) {
             for (const int change : {0x01, 0x20, 0x80, 0xFF}) {
                 Bytes altered = file;
                 altered[place] = static_cast<std::uint8_t>(altered[place] ^ change);
-                const auto decoded = Pictures::decode(altered, 4096);
+                const auto decoded = Pictures::decode(altered, 4096); // an altered size may be huge
                 if (decoded) {
                     EXPECT_EQ(decoded->pixels.size(), std::size_t{decoded->width} * decoded->height * 4);
                 }

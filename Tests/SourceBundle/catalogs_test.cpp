@@ -35,7 +35,7 @@ protected:
         return lines;
     }
     void set(const std::string& path, const std::string& contents) { folder.write(path + "/Contents.json", contents); }
-    // The set A.xcassets/p.imageset with these entries and an empty file for each of the names.
+    // Makes A.xcassets/p.imageset, the only set, with these entries and an empty file for each of the names.
     void imageSet(const std::string& entries, std::initializer_list<const char*> files) {
         std::filesystem::remove_all(folder / "A.xcassets");
         set("A.xcassets/p.imageset", R"({"images": [)" + entries + "]}");
@@ -144,7 +144,7 @@ TEST_F(Catalogs, UseThePicturesOfOneKindOfDevice) {
               R"(entry 3 ("3") is for other devices (idiom "watch", screen-width ">161") and is left out: the variants for idiom "watch", screen-width ">2147483647" are used)",
           "note " + at("1:13") +
               R"(entry 1 ("1") is for other devices (idiom "watch", screen-width "<=145") and is left out: the variants for idiom "watch", screen-width ">2147483647" are used)"}},
-        // These scales are not supported.
+        // Scales that are not supported: such a picture is used only if there is no other.
         {__LINE__,
          R"({"scale": "10x", "filename": "1"}, {"scale": "2x", "filename": "2"}, {"scale": "2X", "filename": "3"})",
          {"2"},
@@ -214,7 +214,7 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
     }
 }
 
-// A compiled catalog has limits, too.
+// A compiled catalog cannot have more variants or longer names.
 TEST_F(Catalogs, LeaveOutVariantsBeyondLimits) {
     const std::string german = R"({"filename": "1", "locale": "de)";
     std::string entries;
@@ -350,7 +350,7 @@ TEST_F(Catalogs, LeaveOutInvalidSets) {
         EXPECT_EQ(messages(), Lines{one.report}) << "line " << one.line;
         std::filesystem::remove_all(folder / "A.xcassets");
     }
-    // The JSON library would copy and write it recursively.
+    // The JSON library copies and writes values recursively, so deep ones are rejected.
     const std::string deep(1'000'000, '[');
     set("A.xcassets/a.imageset", R"({"properties": )" + deep + std::string(deep.size(), ']') + "}");
     EXPECT_TRUE(read().empty());

@@ -32,13 +32,13 @@ TEST(PseudoTexts, ChangeWordsAlone) {
         {__LINE__, "12:30 – 5", "[12:30 – 5]", "12:30 – 5"},
         // Latin letters with accents are unchanged. A decomposed one keeps its mark.
         {__LINE__, "été e\u0301", "[éţé é\u0301 ~~]", turned("été") + " " + turned("e\u0301")},
-        // Alphabets with capital letters have combining marks, other scripts only padding.
+        // Letters of other alphabets with capitals get combining marks; other scripts get only padding.
         {__LINE__, "Да, %@: Ωμ\u00A0ж", "[Д\u0302а\u0302, %@: Ω\u0302μ\u0302\u00A0ж\u0302 ~~]",
          turned("Да,") + " %@: " + turned("Ωμ") + "\u00A0" + turned("ж")},
         {__LINE__, "%@さん\u3000保存👍", "[%@さん\u3000保存👍 ~~]", "%@" + turned("さん") + "\u3000" + turned("保存👍")},
         {__LINE__, "\u2068नमस्ते\u2069 أهلا", "[\u2068नमस्ते\u2069 أهلا ~~~]",
          "\u2068" + turned("नमस्ते") + "\u2069 " + turned("أهلا")},
-        // Placeholders in tags and after backslashes; escapes with digits; a character after a backslash.
+        // Unchanged: placeholders in tags and after backslashes, escapes with digits, a character after a backslash.
         {__LINE__, "a<a href=\"%@\" id=%d>b", "[å<a href=\"%@\" id=%d>ƀ ~]",
          turned("a") + "<a href=\"%@\" id=%d>" + turned("b")},
         {__LINE__, "\\%d \\u00e9b \\éa <a<b", "[\\%d \\u00e9b \\éå <å<ƀ ~]",
@@ -67,6 +67,7 @@ TEST(PseudoLanguages, AreAddedToEveryTable) {
         const auto* const entry = texts == nullptr ? nullptr : texts->find(key);
         return entry == nullptr ? std::string() : std::string(entry->text);
     };
+    // The tables are C, Own and T.
     EXPECT_EQ(text(2, "a"), "[Åðð ~]");
     EXPECT_EQ(text(2, "b"), "[%@ ļéƒţ ~~]");
     EXPECT_EQ(text(2, "only"), "");

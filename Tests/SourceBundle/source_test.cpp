@@ -23,12 +23,13 @@ Strings contents(const Source& source) {
     return all;
 }
 
-Strings developmentKeys(const Source& source) {
-    Strings keys;
+// "TABLE/KEY=TEXT" for each development text.
+Strings developmentTexts(const Source& source) {
+    Strings all;
     for (const SourceTable& table : source.tables)
         for (const auto* entry : source.developmentEntries(table))
-            keys.push_back(table.name + "/" + std::string(entry->key) + "=" + std::string(entry->text));
-    return keys;
+            all.push_back(table.name + "/" + std::string(entry->key) + "=" + std::string(entry->text));
+    return all;
 }
 
 TEST(Source, HasTheTablesOfEveryLanguageFolderAtAnyDepth) {
@@ -116,14 +117,14 @@ TEST(Source, HasDevelopmentTextsOfTheLanguageAndOfBase) {
     folder.write("Base.lproj/T.strings", "base = base; both = base;");
     folder.write("Base.lproj/Layout.strings", "title = a;");
     folder.write("de.lproj/German.strings", "a = b;");
-    EXPECT_EQ(developmentKeys(folder.read()),
+    EXPECT_EQ(developmentTexts(folder.read()),
               (Strings{"Layout/title=a", "T/both=english", "T/only=english", "T/base=base"}));
-    EXPECT_EQ(developmentKeys(folder.read({.developmentLanguage = "fr"})),
+    EXPECT_EQ(developmentTexts(folder.read({.developmentLanguage = "fr"})),
               (Strings{"Layout/title=a", "T/base=base", "T/both=base"}));
     EXPECT_EQ(folder.takeMessages(), Strings());
 
     std::filesystem::remove_all(folder / "Base.lproj");
-    EXPECT_EQ(developmentKeys(folder.read({.developmentLanguage = "fr"})), Strings());
+    EXPECT_EQ(developmentTexts(folder.read({.developmentLanguage = "fr"})), Strings());
     EXPECT_EQ(folder.takeMessages(),
               Strings{"warning: : has no development texts: neither in the language fr nor in Base.lproj"});
 }

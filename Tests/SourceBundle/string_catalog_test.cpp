@@ -8,7 +8,7 @@ namespace {
 using Strings = std::vector<std::string>;
 using SourceBundle::SourceEntry;
 
-// "FORMAT {NAME TYPE one=... other=...}"
+// "FORMAT {NAME TYPE one=... other=...}", or the text of an entry without a plural.
 std::string shown(const SourceEntry& entry) {
     if (entry.plural == nullptr)
         return std::string(entry.text);
@@ -29,11 +29,11 @@ std::string quotes(std::string json) {
     return json;
 }
 
-// The English entry of the key "k" with these localizations.
-std::string shownOf(const std::string& localizations) {
+// The entry of the key "k" with this English localization, or the first message if the catalog has an error.
+std::string shownOf(const std::string& localization) {
     Support::SourceFolder folder;
-    folder.write("T.xcstrings", quotes("{'sourceLanguage': 'en', 'strings': {'k': {'localizations': {'en': " +
-                                       localizations + "}}}}"));
+    folder.write("T.xcstrings",
+                 quotes("{'sourceLanguage': 'en', 'strings': {'k': {'localizations': {'en': " + localization + "}}}}"));
     const auto source = folder.read();
     return folder.diagnostics.hasErrors() ? folder.takeMessages().front()
                                           : shown(*source.tables.at(0).find("en")->find("k"));
@@ -117,7 +117,7 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              "}}}",
          "%1$@: %2$#@files@ in %3$#@folders@ {files ld one=%2$ld file other=%2$ld files, 100%%arg} "
          "{folders lld one=a folder other=%3$lld folders}"},
-        // Without its own number, and used in a form.
+        // A substitution without a number ('argNum'), and one that is used in a form of another.
         {__LINE__,
          "{'substitutions': {'a': {'variations': " + plural("%arg egg", "%arg eggs in %#@b@") +
              "}, 'b': {'argNum': 3, "
@@ -184,7 +184,7 @@ TEST(StringCatalog, IsRejectedWithALocation) {
     }
 }
 
-// A language is the name of a folder that is written.
+// An import writes into a folder that is named after the language.
 TEST(StringCatalog, RejectsLanguagesThatCannotBeFolders) {
     for (const std::string name : {"../../outside", "/outside", "a/b", "..", "", "de\\u0000"}) {
         Support::SourceFolder folder;
@@ -249,7 +249,7 @@ TEST(PluralTables, WinOverEqualKeysOfTexts) {
     EXPECT_EQ(files.text, "Found %d files here");
     EXPECT_EQ(files.comment, "why");
     EXPECT_EQ(files.line, 2U);
-    // A form that refers to itself hundreds of times is cut.
+    // A form that consists only of references to itself gives an empty text, however many it has.
     std::string names;
     for (int i = 0; i < 500; ++i)
         names += "%#@n@";

@@ -107,7 +107,7 @@ TEST(PictureFile, DrawsVectorsInTheirSize) {
     }
 }
 
-TEST(PictureFile, DrawsTheContentOfADrawingWithoutASizeWhole) {
+TEST(PictureFile, DrawsAllContentOfADrawingWithoutASize) {
     const auto made = pictures(svg("", R"(<rect x="-5" y="3" width="30" height="20" fill="#f00"/>)"));
     const Pictures::Bitmap bitmap = decoded(made[0]);
     EXPECT_EQ(pixel(bitmap, 0, 0), 0xFF0000FF);
@@ -184,7 +184,7 @@ TEST(PictureFile, RejectsUnreadableFiles) {
     }
 }
 
-TEST(PictureFile, GivesTheSameInEveryThread) {
+TEST(PictureFile, GivesTheSamePicturesInEveryThread) {
     const std::string files[] = {Support::contents(LUMORA_RESOURCES "/Images2.xcassets/card.imageset/card.pdf"),
                                  svg(R"(width="99" height="99")"), data("two-frames.gif"), data("plain.heic")};
     for (const std::string& file : files) {

@@ -31,6 +31,7 @@ inline std::string errorOf(std::string bytes) {
     return table ? "" : table.error().text();
 }
 
+// The notes about a valid table.
 inline std::vector<std::string> notes(std::string bytes) {
     std::vector<std::string> out;
     if (const auto table = StringTables::Table::read(std::move(bytes)))
@@ -39,7 +40,7 @@ inline std::vector<std::string> notes(std::string bytes) {
     return out;
 }
 
-// ASCII to UTF-16.
+// ASCII text in UTF-16; `marked`: with a byte-order mark.
 inline std::string wide(std::string_view ascii, bool bigEndian, bool marked) {
     std::string out = marked ? (bigEndian ? "\xFE\xFF" : "\xFF\xFE") : "";
     for (const char c : ascii) {

@@ -14,7 +14,8 @@ std::string bigEndian(std::uint64_t number, std::size_t size) {
     return out;
 }
 
-// A file of these objects, in whose dictionaries references have `refSize` bytes; the first is the top-level object.
+// A file of these objects, the first at the top. Offsets have `offsetSize` bytes; the references in the objects must
+// have `refSize`.
 std::string file(const std::vector<std::string>& objects, std::size_t offsetSize = 1, std::size_t refSize = 1) {
     std::string out = "bplist00", offsets;
     for (const std::string& object : objects) {
@@ -30,7 +31,7 @@ std::string file(const std::vector<std::string>& objects, std::size_t offsetSize
 const std::vector<std::string> plain = {"\xD2\1\3\2\4", "\x52OK", "\x52Ja", "\x61\x00\xE9"s,
                                         "\x5F\x10\x12In Ordnung, weiter"};
 const Pairs plainPairs = {{"OK", "Ja"}, {"é", "In Ordnung, weiter"}};
-// Positions of its parts: objects at 8, 13, 16, 19, 22, offsets from 43, trailer from 48.
+// Places in file(plain): objects at 8, 13, 16, 19, 22, offsets from 43, trailer from 48.
 constexpr std::size_t trailerAt = 48;
 
 // As file(), but objects 1 and 2 are exchanged in the file: the offsets are not in the order of the objects' numbers.
@@ -44,7 +45,7 @@ std::string disordered(std::vector<std::string> objects, std::size_t offsetSize 
 }
 
 TEST(BinaryTable, ReadsEveryLayout) {
-    // Only the size of the dictionary's references changes.
+    // The objects of `plain` with references of another size.
     const auto sized = [](std::size_t refSize) {
         auto objects = plain;
         objects[0] = "\xD2";

@@ -187,7 +187,7 @@ TEST_F(CompiledTable, DetectsAnIndexThatContradictsTheDictionary) {
     const std::size_t values = Parts(one).index.frontSize() + 3; // after the marker and two keys
     std::swap(exchanged[values], exchanged[values + 1]);
     EXPECT_NE(Tables::errorOf(exchanged).find("the table's index contradicts the entry \"a\""), std::string::npos);
-    // A damaged mark is detected, at the index and at the end of the file.
+    // A damaged mark is detected, and so is an overwritten index, because the trailer has a mark, too.
     marked[15] = 'x';
     EXPECT_EQ(Tables::errorOf(marked), "byte 8: the table's index is damaged");
     EXPECT_EQ(Tables::errorOf(marked.replace(8, 16, std::string(16, '\1'))), "byte 8: the table's index is damaged");
@@ -290,10 +290,11 @@ TEST_F(CompiledTable, TakesLinearTimeForAHostileIndex) {
     texts.emplace("long", std::string(1 << 20, 'l'));
     std::string bytes = compiled(texts);
     const Parts parts(bytes);
-    const std::size_t place[] = {bytes.find("llllllll"), 1 << 20};
+    // The offset and size of the string, for the texts of all slots.
+    const std::size_t string[] = {bytes.find("llllllll"), 1 << 20};
     for (std::uint32_t i = 0; i < parts.index.slotCount(); ++i)
         for (std::size_t byte = 0; byte < 8; ++byte)
-            bytes[parts.index.slotAt(i) + 8 + byte] = static_cast<char>(place[byte / 4] >> 8 * (byte % 4) & 0xFF);
+            bytes[parts.index.slotAt(i) + 8 + byte] = static_cast<char>(string[byte / 4] >> 8 * (byte % 4) & 0xFF);
     StoredTable table(file(bytes));
     std::size_t there = 0;
     for (const auto& [key, text] : texts)

@@ -43,7 +43,7 @@ std::string marked(std::string_view format) {
     return out.append(format.substr(at));
 }
 
-TEST(Placeholder, Finds) {
+TEST(Placeholder, IsFoundWithAllItsParts) {
     const struct {
         int line;
         std::string format, expected;
@@ -88,8 +88,8 @@ TEST(Placeholder, IgnoresInvalidPlaceholders) {
 }
 
 TEST(Placeholder, GivesTheSignatureOfAFormat) {
-    // A letter for each argument (t i n, '-' for none); then 'm' if positions and order are mixed, '%' for a lone
-    // percent sign, and the conflict.
+    // A letter for each argument (text, integer, number; '-' for none); then 'm' if positions and order are mixed, '%'
+    // for a lone percent sign, and the position and both kinds of a conflict.
     const auto described = [](std::string_view format) {
         const StringTables::FormatSignature signature = StringTables::signatureOf(format);
         std::string out;

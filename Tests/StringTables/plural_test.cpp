@@ -196,7 +196,7 @@ TEST(PluralTable, EndsWhereFormsNameEachOther) {
     EXPECT_EQ(signatureOf(web).arguments.size(), StringTables::FormatSignature::mostArguments);
 }
 
-// One dictionary for all entries: a small file that would be a large table.
+// All entries share one dictionary: a small file that would be a large table.
 TEST(PluralTable, SharedTextsAreBounded) {
     std::vector<StringTables::PluralEntry> entries;
     StringTables::PluralFormat plural{.format = "%#@v@", .variables = {{.name = "v", .valueType = "d", .forms = {}}}};

@@ -70,10 +70,10 @@ const Hash hashes[] = {
     {__LINE__, CollidingNames::inCatalogHash},
 };
 
-// Twice the names need at most 2.4 times as many comparisons, plus a few that do not depend on their number.
+// Twice the names need at most 2.4 times as many comparisons, plus `few` that do not depend on their number.
 void expectLinear(const Hash& hash, const char* what, const std::function<void(const Names&)>& work) {
     const Names names = hash.make(many);
-    work(Names(names.begin(), names.begin() + 8)); // whatever happens only once
+    work(Names(names.begin(), names.begin() + 8)); // so that what happens only once is not counted
     const std::size_t some = comparisonsIn([&] { work(Names(names.begin(), names.begin() + few)); });
     const std::size_t all = comparisonsIn([&] { work(names); });
     EXPECT_LE(all, some * 12 / 5 + few) << what << ", line " << hash.line;

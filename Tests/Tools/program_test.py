@@ -245,7 +245,7 @@ class Program(unittest.TestCase):
                                           capture_output=True, text=True, timeout=60)
                     self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1), done.stderr)
                     self.assertTrue(done.stderr.startswith("standard output: error: cannot be written: "), done.stderr)
-        # If the reader of a pipe goes away, SIGPIPE ends the program, unless it has written all; if SIGPIPE is ignored, it fails.
+        # If the reader of a pipe goes away, SIGPIPE ends the program, unless it has written all; if SIGPIPE is ignored, the program fails.
         for script, expected in (('"$0" assets | head -1 >/dev/null; echo ${PIPESTATUS[0]}', ("0\n", "141\n")),
                                  ('trap "" PIPE; "$0" gallery -o - | true; echo ${PIPESTATUS[0]}', ("2\n",))):
             self.assertIn(subprocess.run(["bash", "-c", script, PROGRAM], capture_output=True, text=True, timeout=60).stdout, expected)
@@ -268,7 +268,7 @@ class Program(unittest.TestCase):
                 width="150" height="150"><filter id="f"><feTurbulence baseFrequency="0.{i + 1}" numOctaves="9"/></filter>
                 <rect width="150" height="150" filter="url(#f)"/></svg>""")
         terminal, end = pty.openpty()
-        fcntl.ioctl(end, termios.TIOCSWINSZ, struct.pack("HHHH", 24, 20, 0, 0))
+        fcntl.ioctl(end, termios.TIOCSWINSZ, struct.pack("HHHH", 24, 20, 0, 0))  # 24 rows, 20 columns
         with subprocess.Popen([PROGRAM, "compile", "src", "-o", "Made.bundle"], stdout=end, stderr=end,
                               preexec_fn=lambda: os.sched_setaffinity(0, {0})) as process:
             self.assertEqual(process.wait(timeout=60), 0)
@@ -367,18 +367,20 @@ class Program(unittest.TestCase):
         for count, text in (("1", b"1 file\n"), ("5", b"5 files\n")):
             self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "More", "files", count)[1], text)
 
-    def versions(self):
-        """Writes two sources, "1" and "2", whose texts begin with that digit. Returns the first digits of all texts in App.bundle,
-        and the number of its tables."""
+    def write_versions(self):
+        """Writes two sources, "1" and "2", whose texts begin with that digit."""
         for version in "12":
             for table in range(20):
                 self.write(f"{version}/Base.lproj/T{table}.strings",
                            "".join(f"key{number} = \"{version * 100}{number}\";" for number in range(100)))
+
+    def versions(self):
+        """The first digits of all texts in App.bundle, and the number of its tables."""
         tables = sorted((self.folder / "App.bundle").glob("*.lproj/*"))
         return {text[0] for table in tables for text in plistlib.loads(table.read_bytes()).values()}, len(tables)
 
     def test_compile_without_room_keeps_the_old_bundle(self):
-        self.versions()
+        self.write_versions()
         self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
         done = subprocess.run([PROGRAM, "compile", self.folder / "2", "-o", self.folder / "App.bundle"], capture_output=True,
                               timeout=60, text=True,
@@ -389,7 +391,7 @@ class Program(unittest.TestCase):
         self.assertEqual({path.name for path in self.folder.iterdir()}, {"1", "2", "App.bundle"})
 
     def test_a_killed_compile_leaves_a_whole_bundle(self):
-        self.versions()
+        self.write_versions()
         self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
         killed = 0
         for attempt in range(60):

@@ -80,7 +80,7 @@ TEST(AssetRecord, ColorIsLookedUpOnceAndFollowsTheTraits) {
                   const Sample::TraitsScope scope(Sample::dark);
                   EXPECT_EQ(color.rgba()->red, 0.875);
               }),
-              2); // once for each
+              2); // once for color(), once for swiftUIColor()
     EXPECT_EQ(ink.swiftUIColor(), SwiftUI::Color("ink", Sample::bundle()));
 
     Module::RecordFactory::assign(assigned, {3, 2, 1, 0});

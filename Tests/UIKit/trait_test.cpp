@@ -26,7 +26,7 @@ TEST(Traits, ScalesAreClamped) {
     const double infinity = std::numeric_limits<double>::infinity();
     const struct {
         int line;
-        double given, taken; // `taken` is `given` over a scale of 3, which wins if `given` is unspecified
+        double given, taken; // `taken`: the result of `given` over a scale of 3; that is 3 if `given` is unspecified
         unsigned pixels;     // the side length of the variant
     } cases[] = {
         {__LINE__, 0, 3, 30},

@@ -20,12 +20,12 @@ static_assert(!CallsNewComment<int> && !CallsNewComment<int, int, int>);
 static_assert(std::is_same_v<decltype(Texts::ExerciseStraight::ofMaxWeight(std::int64_t{1})), std::string>);
 static_assert(std::is_default_constructible_v<Lumora::Localization>); // like all classes of the platform
 
-class Catalog : public ::testing::Test {
+class Accessors : public ::testing::Test {
 protected:
-    ~Catalog() override { Host::reset(); }
+    ~Accessors() override { Host::reset(); }
 };
 
-TEST_F(Catalog, CachesPlainTextsOnly) {
+TEST_F(Accessors, KeepPlainTextsOnly) {
     Host::setPreferredLanguages({"en"});
     Host::setCurrentLocale("en_US");
     const std::string& before = Texts::Diet::allDish();
@@ -38,7 +38,7 @@ TEST_F(Catalog, CachesPlainTextsOnly) {
     EXPECT_EQ(Texts::ExerciseStraight::ofMaxWeight(1500), "1.500\u00a0% des Maximalgewichts");
 }
 
-TEST_F(Catalog, DescribesUntypedArguments) {
+TEST_F(Accessors, DescribeUntypedArguments) {
     Host::setPreferredLanguages({"en"});
     EXPECT_EQ(Texts::msg(5, "a"), "5: a");
     EXPECT_EQ(Texts::msg(2.0, true), "2.0: true");
@@ -46,7 +46,7 @@ TEST_F(Catalog, DescribesUntypedArguments) {
     EXPECT_EQ(Texts::percents("%@ 100%"), "%@ 100%%");
 }
 
-TEST_F(Catalog, FindsTextsOfKeysThatAreNoIdentifiers) {
+TEST_F(Accessors, ExistForKeysThatAreNoIdentifiers) {
     Host::setPreferredLanguages({"en"});
     EXPECT_EQ(Texts::continue_(), "Continue");
     EXPECT_FALSE(Texts::ModalDialog::delete_().empty());
@@ -57,7 +57,7 @@ TEST_F(Catalog, FindsTextsOfKeysThatAreNoIdentifiers) {
               "Thanks, we've received your request #17. We'll get back to you soon.");
 }
 
-TEST_F(Catalog, SelectsPluralFormsByTheLastDigits) {
+TEST_F(Accessors, SelectPluralFormsByTheLastDigits) {
     const Texts::PluralForms forms{.one = "1", .two = "2", .many = "5"};
     const struct {
         std::int64_t count;
@@ -93,7 +93,7 @@ TEST_F(Catalog, SelectsPluralFormsByTheLastDigits) {
     EXPECT_EQ(Texts::locYears(-2'147'483'649), "-2147483649 " + Texts::year5());
 }
 
-TEST_F(Catalog, IsReadByManyThreadsWhileTheHostChanges) {
+TEST_F(Accessors, AreReadByManyThreadsWhileTheHostChanges) {
     Host::setPreferredLanguages({"ru"});
     Host::setCurrentLocale("ru_RU");
     std::latch ready(17);
