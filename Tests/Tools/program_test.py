@@ -415,7 +415,12 @@ class Program(unittest.TestCase):
         self.assertTrue(run("gallery", source, "-o", page)[2].startswith(f"{broken}:2:"))
         self.assertFalse(page.exists())
         broken.write_text('"a" = "b";')
+        # An image and a colour of one name: `generate` gives it to the colour.
+        self.write("Sales/A.xcassets/x.imageset/Contents.json", '{"images": [{"filename": "x"}]}')
+        self.write("Sales/A.xcassets/x.imageset/x", '<svg xmlns="http://www.w3.org/2000/svg" width="1" height="1"/>')
+        self.write("Sales/A.xcassets/x.colorset/Contents.json", '{"colors": [{"color": {"components": {"white": 1}, "color-space": "gray-gamma-22"}}]}')
         self.assertEqual(run("gallery", str(source) + "/", "-o", page)[::2], (0, ""))
+        self.assertIn('"kind":"color","catalog":"A","name":"x","accessor":"A::x"', page.read_text())
         self.assertIn('"title":"Sales"', page.read_text())
         self.assertIn('"accessor":"T::a"', page.read_text())
         self.assertEqual(run("gallery", source, "--bundle", bundle, "-o", page)[0], 2)

@@ -28,7 +28,8 @@ using SourceBundle::SourceFile;
 
 namespace {
 
-// Reads the files of the source and converts pictures. Keeps both; files with equal contents share them.
+// Reads the files of the source and makes the pictures of picture files. Keeps the bytes and the pictures; files with
+// equal contents share them.
 // Threads: any.
 class Files {
 public:
@@ -99,10 +100,10 @@ private:
     MadePictures made_;
 };
 
-// Pictures made for their scale come before those that were derived from a drawing for another scale, because the
-// catalog uses the first of several for the same traits.
+// Pictures at the scale of their file come before those that were drawn from a file for another scale or for every
+// scale, because the catalog uses the first of several for the same traits.
 void addPictures(const SourceAsset& source, Files& files, Asset& asset, Diagnostics& diagnostics) {
-    std::vector<Picture> derived;
+    std::vector<Picture> drawn;
     for (const SourceFile& file : source.files) {
         auto pictures = files.pictures(file);
         if (!pictures) {
@@ -110,7 +111,7 @@ void addPictures(const SourceAsset& source, Files& files, Asset& asset, Diagnost
             continue;
         }
         for (Picture& picture : *pictures) {
-            const bool isOwn = picture.fit.scale == file.fit.scale;
+            const bool hasFileScale = picture.fit.scale == file.fit.scale;
             const std::uint8_t scale = picture.fit.scale;
             picture.fit = file.fit;
             picture.fit.scale = scale;
@@ -118,10 +119,10 @@ void addPictures(const SourceAsset& source, Files& files, Asset& asset, Diagnost
             picture.resizing = file.resizing;
             picture.capInsets = file.capInsets;
             picture.alignmentInsets = file.alignmentInsets;
-            (isOwn ? asset.pictures : derived).push_back(std::move(picture));
+            (hasFileScale ? asset.pictures : drawn).push_back(std::move(picture));
         }
     }
-    std::ranges::move(derived, std::back_inserter(asset.pictures));
+    std::ranges::move(drawn, std::back_inserter(asset.pictures));
 }
 
 void addData(const SourceAsset& source, Files& files, Asset& asset, Diagnostics& diagnostics) {

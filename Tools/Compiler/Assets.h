@@ -12,8 +12,8 @@
 namespace Compiler {
 
 // Writes Assets.catalog to `out` if the catalogs have assets and `diagnostics` has no errors. Returns the lines of the
-// mark file that list its pictures for the next compile. Reuses pictures that `lastMark` lists, the content of the last
-// compile's mark file (SourceBundle::compiledMark); the catalog is the same as without them.
+// mark file (SourceBundle::compiledMark) that list the catalog's pictures, or an empty text if it writes no catalog. To
+// save time, takes pictures from the last bundle if `lastMark`, the content of its mark file, lists them.
 [[nodiscard]] Runtime::Result<std::string> compileAssets(std::span<const std::filesystem::path> catalogs,
                                                          const StagedFolder& out, std::string_view lastMark,
                                                          SourceBundle::Diagnostics& diagnostics,

@@ -21,7 +21,7 @@ bool contains(const fs::path& folder, const fs::path& other) {
     return !relative.empty() && *relative.begin() != "..";
 }
 
-// The mark file of the last compile; empty if there is no readable one.
+// The content of the last compile's mark file; empty if it is missing, unreadable or too large.
 std::string contentOfMark(const fs::path& bundle) {
     constexpr std::size_t maxMarkBytes = std::size_t{256} << 20;
     auto mark = Runtime::readFile(bundle / SourceBundle::compiledMark, maxMarkBytes);

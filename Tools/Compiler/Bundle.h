@@ -14,17 +14,17 @@
 
 namespace Compiler {
 
-// Called before each table in a language and before each asset is compiled: its name, how many have begun before it,
-// and how many there are. Assets come after all tables and are counted from 0 again. Calls come from several threads,
-// but one at a time.
+// Called before each table in a language ("de.lproj/Localizable.strings") and before each asset ("send") is compiled:
+// its name, how many have begun before it, and how many there are. Assets come after all tables and are counted from 0
+// again. Calls come from several threads, but one at a time.
 using Progress = std::function<void(std::string_view what, std::size_t begun, std::size_t all)>;
 
-// Compiles `source`, which was read from `folders`, into `bundle`. The bundle is built in another folder and replaced
-// atomically: readers, also after a killed compile, find either the old bundle or the new one. Problems in the source
-// are added to `diagnostics`; if it contains errors, the bundle is unchanged. The result reports other errors: a file
-// cannot be written, the bundle must not be replaced, a file would exceed its size limit. Replaces only compiled
-// bundles and empty folders, and nothing that is or contains one of `folders`. Throws std::runtime_error if the plug-in
-// that draws pictures cannot be loaded.
+// Compiles `source`, which was read from `folders`, into `bundle`. The new bundle is built in another folder and then
+// replaces the old one atomically: readers, also after a killed compile, find either of them. Problems with assets are
+// added to `diagnostics`; if it contains errors, also earlier ones, the bundle is unchanged and the result is a
+// success. Errors in the result: `bundle` is neither a compiled bundle nor an empty or new folder, or it is or contains
+// one of `folders`; the source's Info.plist cannot be read; a file cannot be written or would exceed its limits. Throws
+// std::runtime_error if the plug-in that draws pictures cannot be loaded.
 [[nodiscard]] Runtime::Result<void> compileBundle(const SourceBundle::Source& source,
                                                   std::span<const std::filesystem::path> folders,
                                                   const std::filesystem::path& bundle,

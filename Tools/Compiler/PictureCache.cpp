@@ -12,6 +12,7 @@ using AssetCatalog::Picture;
 
 namespace {
 
+// The shortest text that std::from_chars() reads as the same number.
 std::string decimal(double number) {
     char digits[32];
     return {digits, std::to_chars(std::begin(digits), std::end(digits), number).ptr};
@@ -28,12 +29,13 @@ PictureCache PictureCache::of(const fs::path& bundle, std::string_view mark) {
     return cache;
 }
 
-// Skips lines that are not about pictures or are invalid.
+// Reads a line of cacheList(). Skips lines that are not about pictures or are invalid.
 void PictureCache::readRecord(std::string_view line) {
     Fields fields(line);
     const std::string key(fields.word());
     Record record;
     Picture& picture = record.picture;
+    fields.read(record.count);
     fields.read(picture.fit.scale);
     fields.read(picture.width);
     fields.read(picture.height);
@@ -58,7 +60,8 @@ std::optional<std::vector<Picture>> PictureCache::find(const std::string& key) c
         return std::nullopt;
     std::vector<Picture> pictures;
     for (const Record& record : found->second) {
-        if (record.offset > catalog_->size() || record.size > catalog_->size() - record.offset)
+        if (record.count != found->second.size() || record.offset > catalog_->size() ||
+            record.size > catalog_->size() - record.offset)
             return std::nullopt;
         std::string bytes(record.size, '\0');
         const auto filled = catalog_->read(reinterpret_cast<std::uint8_t*>(bytes.data()), bytes.size(), record.offset);
@@ -81,6 +84,7 @@ std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog
                 break;
             }
             list.append(key);
+            list.append(" ").append(std::to_string(pictures.size()));
             list.append(" ").append(std::to_string(picture.fit.scale));
             list.append(" ").append(std::to_string(picture.width));
             list.append(" ").append(std::to_string(picture.height));

@@ -7,6 +7,7 @@
 #include "AssetCatalog/internal/Builder.h"
 #include "Runtime/internal/OpenFile.h"
 #include "SourcePictures/PictureFile.h"
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <map>
@@ -19,8 +20,8 @@ namespace Compiler {
 
 class PictureCache {
 public:
-    // The pictures of the last compile to `bundle`; none if its catalog is unreadable. `mark` is the content of its
-    // mark file (SourceBundle::compiledMark).
+    // The pictures of the last compile to `bundle`; none if its catalog is unreadable. `mark` is the content of the
+    // bundle's mark file (SourceBundle::compiledMark).
     static PictureCache of(const std::filesystem::path& bundle, std::string_view mark);
 
     // A hash of everything that the pictures made from a file depend on: its bytes, its purpose and the versions of the
@@ -28,13 +29,15 @@ public:
     [[nodiscard]] static std::string keyOf(std::string_view bytes, const SourcePictures::Purpose& purpose);
 
     [[nodiscard]] bool has(const std::string& key) const { return pictures_.contains(key); }
-    // The pictures, or no value if the key is unknown or the catalog was changed.
+    // The pictures, or no value if the key is unknown, a line about its pictures is missing, or the catalog does not
+    // have their bytes.
     [[nodiscard]] std::optional<std::vector<AssetCatalog::Picture>> find(const std::string& key) const;
 
 private:
     struct Record {
+        std::size_t count = 0;         // of the pictures for the key
         AssetCatalog::Picture picture; // without its bytes
-        // Where the catalog had its bytes, and their hash.
+        // Where its bytes are in the catalog, and their hash.
         std::uint64_t offset = 0;
         std::uint64_t size = 0;
         std::uint64_t hash = 0;
@@ -50,7 +53,8 @@ private:
 // The pictures of this compile, by key; those of one file are together.
 using MadePictures = std::map<std::string, std::vector<AssetCatalog::Picture>>;
 
-// The lines of the mark file for the pictures of files whose pictures are all in `catalog`.
+// The lines of the mark file for the pictures of each key whose pictures are all in `catalog`: the key, their number,
+// and of each the scale, width and height in pixels and in points, and the offset, size and hash of its bytes.
 [[nodiscard]] std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog& catalog);
 
 } // namespace Compiler

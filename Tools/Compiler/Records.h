@@ -13,7 +13,7 @@
 
 namespace Compiler {
 
-// 16 lower-case hexadecimal digits.
+// The number in 16 lower-case hexadecimal digits.
 [[nodiscard]] std::string hex(std::uint64_t number);
 // The hash by which the next compile finds out whether bytes in the bundle are still the same.
 [[nodiscard]] std::uint64_t hashOf(std::string_view bytes) noexcept;
@@ -34,6 +34,7 @@ class Fields {
 public:
     explicit Fields(std::string_view line) : rest_(line) {}
 
+    // The next field; empty at the end of the line.
     std::string_view word() {
         const std::size_t end = std::min(rest_.find(' '), rest_.size());
         const std::string_view word = rest_.substr(0, end);

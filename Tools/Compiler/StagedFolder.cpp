@@ -123,8 +123,8 @@ bool createdFolderOf(const fs::path& file) {
     return !failed;
 }
 
-// Returns false and sets errno on failure. Not synced to the disk: an output damaged by a power failure can be compiled
-// again.
+// Writes a new file, also if there is one at `path`, which may be a link to the target's file. Returns false and sets
+// errno on failure. Not synced to the disk: an output damaged by a power failure can be compiled again.
 bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
     ::unlink(path.c_str());
     Runtime::Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));

@@ -28,11 +28,10 @@ public:
     // Removes the unfinished folder, or the old target after its replacement. Works even when no descriptors are free.
     ~StagedFolder();
 
-    [[nodiscard]] const std::filesystem::path& path() const noexcept { return staged_; }
     [[nodiscard]] const std::filesystem::path& target() const noexcept { return target_; }
 
-    // Writes the file `name` below the folder, the concatenation of `pieces`. If the target's file `name` has the same
-    // content, it is kept instead.
+    // Writes the file `name` in the folder or a subfolder; its content is `pieces`, joined. If the target's file `name`
+    // has the same content, keeps that instead.
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name,
                                               std::span<const std::string_view> pieces) const;
     [[nodiscard]] Runtime::Result<void> write(const std::filesystem::path& name, std::string_view bytes) const {

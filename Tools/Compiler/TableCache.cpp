@@ -32,7 +32,7 @@ std::string_view buildId() {
     return id;
 }
 
-// With its size, so that texts with other borders between them give another key.
+// Appends the size, too, so that "ab", "c" and "a", "bc" give different keys.
 void append(std::string& all, std::string_view text) {
     const std::size_t size = text.size();
     all.append(reinterpret_cast<const char*>(&size), sizeof size).append(text);

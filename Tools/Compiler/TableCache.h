@@ -25,7 +25,7 @@ public:
 
     // The line of the mark file for `table`, the bytes of the compiled table; empty for an empty key.
     [[nodiscard]] static std::string record(const std::string& key, std::string_view table);
-    // The same line for the table at `file`, if it is the one that the last compile made for the key.
+    // The same line for the table at `file`, or no value if the last compile did not make that table for the key.
     [[nodiscard]] std::optional<std::string> find(const std::string& key, const std::filesystem::path& file) const;
 
 private:

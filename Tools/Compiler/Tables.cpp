@@ -27,7 +27,7 @@ namespace {
 namespace layout = StringTables::bundleLayout;
 constexpr std::string_view regionKey = layout::developmentRegionKey;
 
-// The language folders of the bundle, in the form of bundleLayout::languagesKey.
+// The value of bundleLayout::languagesKey: the language folders of the bundle.
 std::string languagesOf(const Source& source) {
     std::string list;
     for (const std::string& name : source.languages())
@@ -58,8 +58,8 @@ Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source&
     return StringTables::writeCompiled(entries);
 }
 
-// The source's first Info.plist with the entries about the source. One that cannot be read completely, such as one with
-// other values than texts, is copied unchanged, unless its development language must be changed.
+// The source's first Info.plist with the entries about the source. One that also has what a table cannot have, such as
+// values that are not texts, is copied unchanged; if its development language must be changed, it loses them.
 Runtime::Result<std::string> info(const Source& source) {
     if (source.infos.empty())
         return completed({}, source);

@@ -91,8 +91,10 @@ std::vector<Entry> entriesOf(const Catalog& catalog) {
     std::vector<Entry> entries;
     for (std::size_t i = 0; i < catalog.size(); ++i)
         entries.push_back(catalog[i]);
-    std::ranges::sort(entries, {},
-                      [](const Entry& entry) { return std::tuple(entry.catalog(), entry.name(), entry.kind()); });
+    // Kinds in the order in which `lumora generate` finds sets of one name, because the first gets the name.
+    std::ranges::sort(entries, {}, [](const Entry& entry) {
+        return std::tuple(entry.catalog(), entry.name(), AssetCatalog::nameOf(entry.kind()));
+    });
     return entries;
 }
 

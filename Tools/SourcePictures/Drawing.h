@@ -12,14 +12,14 @@ class Drawing {
 public:
     virtual ~Drawing() = default;
 
-    // The size in the drawing's units, which are points if it was made for one pixel per point. 0 if it has no size.
+    // The size in the drawing's units: pixels at the scale that it was made for, or points. 0 if it has no size.
     [[nodiscard]] virtual AssetCatalog::Size size() const = 0;
-    // Checks that picture() will succeed at that scale, by drawing into a single pixel. Errors: damaged, no size, more
-    // pixels than a catalog may contain or cairo can draw.
-    [[nodiscard]] virtual Runtime::Result<void> check(double scale) const = 0;
-    // Rasterizes the drawing to a PNG with `scale` pixels per unit. The drawing fills the picture, whose sides are
-    // rounded up to whole pixels.
-    [[nodiscard]] virtual Runtime::Result<AssetCatalog::Picture> picture(double scale) const = 0;
+    // Checks that picture() will succeed, by drawing into a single pixel. Errors: damaged, no size, more pixels than a
+    // catalog may contain or cairo can draw.
+    [[nodiscard]] virtual Runtime::Result<void> check(double pixelsPerUnit) const = 0;
+    // Rasterizes the drawing to a PNG. The drawing fills the picture, whose sides are rounded up to whole pixels.
+    // Errors: those of check().
+    [[nodiscard]] virtual Runtime::Result<AssetCatalog::Picture> picture(double pixelsPerUnit) const = 0;
 };
 
 } // namespace SourcePictures

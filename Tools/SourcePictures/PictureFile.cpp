@@ -34,13 +34,14 @@ bool isXml(std::string_view bytes) {
     return begin != std::string_view::npos && bytes[begin] == '<';
 }
 
-bool isForOneScale(const Purpose& purpose) {
-    return purpose.scale != 0 && !purpose.preservesVector;
+// The pixels per point that the file was made for; 1 if it is for any scale.
+double ownScale(const Purpose& purpose) {
+    return std::max<std::uint8_t>(purpose.scale, 1);
 }
 
-// The scales at which a drawing is rasterized, beginning with its own.
+// The scales at which a drawing is rasterized, beginning with its own if it was made for one.
 std::vector<std::uint8_t> scalesOf(const Purpose& purpose) {
-    if (isForOneScale(purpose))
+    if (purpose.scale != 0 && !purpose.preservesVector)
         return {purpose.scale};
     std::vector<std::uint8_t> scales = {1, 2, 3};
     if (purpose.scale != 0) {
@@ -50,9 +51,9 @@ std::vector<std::uint8_t> scalesOf(const Purpose& purpose) {
     return scales;
 }
 
-// Pixels per unit of a drawing at `scale`. The units of a drawing made for one scale are pixels at that scale.
+// Pixels per unit of a drawing at `scale`. The units are pixels at the drawing's own scale.
 double pixelsPerUnit(std::uint8_t scale, const Purpose& purpose) {
-    return scale / static_cast<double>(std::max<std::uint8_t>(purpose.scale, 1));
+    return scale / ownScale(purpose);
 }
 
 Runtime::Result<void> checkDrawing(std::string_view bytes, Format format, const Purpose& purpose) {
@@ -67,14 +68,13 @@ Runtime::Result<PictureList> drawn(std::string_view bytes, Format format, const 
     if (!read)
         return read.error();
     const Drawing& drawing = **read;
-    const double ownScale = std::max<std::uint8_t>(purpose.scale, 1);
     PictureList pictures;
     for (const std::uint8_t scale : scalesOf(purpose)) {
         auto picture = drawing.picture(pixelsPerUnit(scale, purpose));
         if (!picture)
             return std::move(picture.error());
         picture->fit.scale = scale;
-        picture->points = {drawing.size().width / ownScale, drawing.size().height / ownScale};
+        picture->points = {drawing.size().width / ownScale(purpose), drawing.size().height / ownScale(purpose)};
         pictures.push_back(*std::move(picture));
     }
     return pictures;
@@ -154,8 +154,7 @@ Runtime::Result<PictureList> picturesOf(const AssetCatalog::Bytes& bytes, const 
     if (!picture)
         return std::move(picture.error());
     picture->fit.scale = purpose.scale;
-    const double scale = std::max<std::uint8_t>(purpose.scale, 1);
-    picture->points = {picture->width / scale, picture->height / scale};
+    picture->points = {picture->width / ownScale(purpose), picture->height / ownScale(purpose)};
     PictureList pictures;
     pictures.push_back(*std::move(picture));
     return pictures;

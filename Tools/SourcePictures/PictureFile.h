@@ -13,7 +13,7 @@
 
 namespace SourcePictures {
 
-// The size of the largest picture file that is read.
+// The size in bytes of the largest file of a picture or of data that is read.
 inline constexpr std::size_t maxFileBytes = std::size_t{256} << 20;
 
 // How a file is used.
@@ -29,12 +29,12 @@ struct Purpose {
 
 // Checks that picturesOf() will succeed, without rasterizing drawings at full size. The format (PNG, JPEG, GIF, TIFF,
 // WebP, HEIF, SVG, PDF) is detected from the content, not the file name. Errors: another format, damaged, no size, more
-// pixels than a catalog may contain, no converter installed for the format.
+// pixels than a catalog may contain or cairo can draw, no converter installed for the format.
 [[nodiscard]] Runtime::Result<void> check(const std::string& bytes, const Purpose& purpose);
 
 // The pictures that a catalog stores for the file: a PNG or JPEG unchanged; other raster formats converted to PNG; a
 // drawing (or the first page of a PDF) as PNGs. A drawing for any scale gives one for each of the scales 1, 2 and 3;
-// others give one for their own scale and, with preservesVector, then those for the other scales. In Picture::fit only
+// others give one for their own scale and, with preservesVector, then one for each other of these. In Picture::fit only
 // the scale is set. Errors: those of check(), but of a PNG or JPEG only the header is read.
 [[nodiscard]] Runtime::Result<std::vector<AssetCatalog::Picture>> picturesOf(const AssetCatalog::Bytes& bytes,
                                                                              const Purpose& purpose);

@@ -8,22 +8,23 @@ namespace SourcePictures {
 
 namespace {
 
-constexpr double maxSide = 32767; // of a cairo surface
+constexpr int maxSide = 32767; // pixels of a cairo image surface
 
 struct PixelSize {
     int columns;
     int rows;
 };
 
-Runtime::Result<PixelSize> pixelSize(AssetCatalog::Size size, double scale) {
-    const double columns = std::ceil(size.width * scale);
-    const double rows = std::ceil(size.height * scale);
-    if (!(columns >= 1 && rows >= 1))
+Runtime::Result<PixelSize> pixelSize(AssetCatalog::Size size, double pixelsPerUnit) {
+    const double columns = std::ceil(size.width * pixelsPerUnit);
+    const double rows = std::ceil(size.height * pixelsPerUnit);
+    if (!(columns >= 1 && rows >= 1)) // also NaN
         return Runtime::Error{.message = "is a drawing without a size"};
     if (!(columns * rows <= static_cast<double>(AssetCatalog::maxPixels)))
         return Runtime::Error{.message = "is a drawing with more pixels than a catalog may contain"};
     if (columns > maxSide || rows > maxSide)
-        return Runtime::Error{.message = "is a drawing with a side of more than 32767 pixels"};
+        return Runtime::Error{.message =
+                                  "is a drawing with a side of more than " + std::to_string(maxSide) + " pixels"};
     return PixelSize{static_cast<int>(columns), static_cast<int>(rows)};
 }
 
@@ -31,7 +32,7 @@ Runtime::Error cannotBeDrawn(cairo_status_t status) {
     return {.message = std::string("cannot be drawn: ") + cairo_status_to_string(status)};
 }
 
-// Draws on a new surface of that size, which the drawing fills.
+// A new surface of that size, filled by the drawing.
 Runtime::Result<Owned<cairo_surface_t>> drawn(const VectorImage& image, PixelSize pixels) {
     Owned<cairo_surface_t> surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels.columns, pixels.rows));
     const Owned<cairo_t> context(cairo_create(surface.get()));
@@ -45,16 +46,16 @@ Runtime::Result<Owned<cairo_surface_t>> drawn(const VectorImage& image, PixelSiz
 
 } // namespace
 
-Runtime::Result<void> VectorImage::check(double scale) const {
-    if (const auto pixels = pixelSize(size(), scale); !pixels)
+Runtime::Result<void> VectorImage::check(double pixelsPerUnit) const {
+    if (const auto pixels = pixelSize(size(), pixelsPerUnit); !pixels)
         return pixels.error();
     if (const auto pixel = drawn(*this, {1, 1}); !pixel)
         return pixel.error();
     return {};
 }
 
-Runtime::Result<AssetCatalog::Picture> VectorImage::picture(double scale) const {
-    const auto pixels = pixelSize(size(), scale);
+Runtime::Result<AssetCatalog::Picture> VectorImage::picture(double pixelsPerUnit) const {
+    const auto pixels = pixelSize(size(), pixelsPerUnit);
     if (!pixels)
         return pixels.error();
     const auto surface = drawn(*this, *pixels);

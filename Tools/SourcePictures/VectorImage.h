@@ -10,8 +10,8 @@ namespace SourcePictures {
 // The drawings of each format derive from it.
 class VectorImage : public Drawing {
 public:
-    Runtime::Result<void> check(double scale) const final;
-    Runtime::Result<AssetCatalog::Picture> picture(double scale) const final;
+    Runtime::Result<void> check(double pixelsPerUnit) const final;
+    Runtime::Result<AssetCatalog::Picture> picture(double pixelsPerUnit) const final;
     // Draws into the area from the origin to size(). Errors: damaged.
     [[nodiscard]] virtual Runtime::Result<void> draw(cairo_t* context) const = 0;
 };

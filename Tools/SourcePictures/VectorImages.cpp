@@ -26,7 +26,6 @@ std::optional<double> pointsOf(gboolean isGiven, RsvgLength length) {
     case RSVG_UNIT_PX:
         return length.length;
     case RSVG_UNIT_EM:
-    case RSVG_UNIT_PC:
         return length.length * 16;
     case RSVG_UNIT_EX:
         return length.length * 8;
@@ -38,13 +37,16 @@ std::optional<double> pointsOf(gboolean isGiven, RsvgLength length) {
         return length.length * pixelsPerInch / 25.4;
     case RSVG_UNIT_PT:
         return length.length * pixelsPerInch / 72;
+    case RSVG_UNIT_PC:
+        return length.length * pixelsPerInch / 6;
     case RSVG_UNIT_PERCENT:
         break;
     }
     return std::nullopt;
 }
 
-// The size of the drawing. Missing lengths are derived from the view box; no value if that is missing, too.
+// The size of the drawing. A missing length or a percentage is derived from the view box; no value if that is missing,
+// too.
 std::optional<Size> declaredSize(RsvgHandle* drawing) {
     gboolean hasWidth = FALSE;
     gboolean hasHeight = FALSE;

@@ -1,6 +1,6 @@
 // SourcePictures/VectorImages.h
 // Reads vector formats; internal to the plug-in.
-// `bytes` must outlive the drawing. Errors: damaged.
+// `bytes` must outlive the drawing. References from an SVG to other files are not followed. Errors: damaged.
 #pragma once
 
 #include "Runtime/internal/Result.h"
@@ -12,7 +12,6 @@ namespace SourcePictures {
 
 using DrawingResult = Runtime::Result<std::unique_ptr<const Drawing>>;
 
-// References to other files are not followed.
 [[nodiscard]] DrawingResult readSvg(std::string_view bytes);
 // The regular drawing of a symbol's template: the medium size, else small, else large, else the whole drawing.
 [[nodiscard]] DrawingResult readSymbol(std::string_view bytes);
