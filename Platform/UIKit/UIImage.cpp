@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t keptPixelBytes = std::size_t{32} << 20;
 
 detail::PixelCache& cache() {
-    static Runtime::OnceSlot<detail::PixelCache*> slot; // never destroyed: images may be used at exit
+    static constinit Runtime::OnceSlot<detail::PixelCache*> slot; // never destroyed: images may be used at exit
     return *slot.get([] { return new detail::PixelCache(keptPixelBytes); });
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "Runtime/internal/Hash.h"
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -16,12 +17,16 @@ namespace Runtime {
 
 // A random number of this process, from the bytes that the kernel gives every process.
 [[nodiscard]] inline std::uint64_t processSeed() noexcept {
-    static const std::uint64_t seed = [] {
-        const auto* const random = reinterpret_cast<const char*>(::getauxval(AT_RANDOM));
-        return random == nullptr ? reinterpret_cast<std::uintptr_t>(&::getauxval) // differs in each process, too
-                                 : mixed(loadLittle<std::uint64_t>(random) ^ hashSpread,
-                                         loadLittle<std::uint64_t>(random + sizeof(std::uint64_t)));
-    }();
+    // All threads compute the same number, so they need no lock, which a forked child could inherit locked.
+    static constinit std::atomic<std::uint64_t> kept{0};
+    if (const std::uint64_t seed = kept.load(std::memory_order_relaxed); seed != 0)
+        return seed;
+    const auto* const random = reinterpret_cast<const char*>(::getauxval(AT_RANDOM));
+    const std::uint64_t seed = random == nullptr
+                                   ? reinterpret_cast<std::uintptr_t>(&::getauxval) // differs in each process, too
+                                   : mixed(loadLittle<std::uint64_t>(random) ^ hashSpread,
+                                           loadLittle<std::uint64_t>(random + sizeof(std::uint64_t)));
+    kept.store(seed, std::memory_order_relaxed);
     return seed;
 }
 
