@@ -229,8 +229,8 @@ ImportResult import(Support::SourceFolder& folder, const std::vector<Edit>& edit
 TEST(Imports, ChangeNothingButTexts) {
     const std::string odd =
         "// top\n\"a\" = \"x\"; /* a's */ 'b'=y;\"c\";\n\n/* d */ \"d\" /* d2 */ =\n\t\"\\U0041 \\\"\" ;";
-    const std::string english =
-        "/* Says a. */\na = \"A\"; b = \"B\"; c = \"C\"; d = \"D\"; /* New. */ e = \"E\"; f = \"F %@\";";
+    const std::string english = "/* Says a. */\na = \"A\"; b = \"B\"; c = \"C\"; d = \"D\"; /* New. */ e = \"E\"; f = "
+                                "\"F %@\"; g = \"9%%argue\";";
     const struct {
         int line;
         std::string file, before;
@@ -258,8 +258,8 @@ TEST(Imports, ChangeNothingButTexts) {
         {__LINE__,
          "T.strings",
          odd,
-         {{"T/f", "%@ F"}, {"T/e", "Ee"}},
-         odd + "\n/* New. */\n\"e\" = \"Ee\";\n\"f\" = \"%@ F\";\n"},
+         {{"T/f", "%@ F"}, {"T/e", "Ee"}, {"T/g", "9%%"}},
+         odd + "\n/* New. */\n\"e\" = \"Ee\";\n\"f\" = \"%@ F\";\n\"g\" = \"9%%\";\n"},
         {__LINE__, "T.strings", "a = b", {{"T/b", "B"}}, "a = b;\n\"b\" = \"B\";\n"},
         {__LINE__,
          "T.strings",

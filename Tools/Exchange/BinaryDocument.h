@@ -14,7 +14,7 @@ namespace Exchange {
 
 class BinaryTexts final : public TableDocument {
 public:
-    // Fails if anything in the table was not read (Table::notes()), because writing would lose it.
+    // Also fails if anything in the table was not read (Table::notes()), because writing would lose it.
     [[nodiscard]] static Runtime::Result<BinaryTexts> read(std::string bytes);
     BinaryTexts(BinaryTexts&&) = default;
 
@@ -24,12 +24,12 @@ public:
 private:
     BinaryTexts() = default;
     std::vector<std::pair<std::string, std::string>> texts_;
-    Runtime::NameMap<std::size_t> places_; // of the keys in texts_
+    Runtime::NameMap<std::size_t> places_; // the index of each key in texts_
 };
 
 class BinaryPlurals final : public TableDocument {
 public:
-    // As BinaryTexts::read().
+    // Also fails as BinaryTexts::read().
     [[nodiscard]] static Runtime::Result<BinaryPlurals> read(std::string bytes);
     BinaryPlurals(BinaryPlurals&&) = default;
 
@@ -39,7 +39,7 @@ public:
 private:
     BinaryPlurals() = default;
     std::vector<StringTables::PluralEntry> entries_;
-    Runtime::NameMap<std::size_t> places_; // of the keys in entries_
+    Runtime::NameMap<std::size_t> places_; // the index of each key in entries_
 };
 
 } // namespace Exchange

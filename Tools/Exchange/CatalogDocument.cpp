@@ -29,7 +29,7 @@ std::string_view nameOf(State state) {
 }
 
 // Collects the texts of a localization: the plain text and those for devices, plural categories and substitutions.
-// Ignores variations of a plural category, and devices within a device.
+// Ignores variations of a plural category, devices within a device, and substitutions of anything but the localization.
 class Collector {
 public:
     explicit Collector(JsonNode& localization) { collect(localization); }
@@ -123,10 +123,10 @@ JsonNode& CatalogDocument::nodeOf(const Unit& unit, JsonNode& localization) {
             continue;
         }
         JsonNode& substitution = node->member(substitutionsPart).member(name);
-        if (substitution.names().empty()) { // new: it has the same arguments as in the source language
+        if (substitution.names().empty()) { // new: copy everything but the texts from the source language
             JsonNode* const source = this->localization(unit.id.key, sourceLanguage_);
-            JsonNode* const all = source == nullptr ? nullptr : source->find(substitutionsPart);
-            if (JsonNode* const model = all == nullptr ? nullptr : all->find(name))
+            JsonNode* const substitutions = source == nullptr ? nullptr : source->find(substitutionsPart);
+            if (JsonNode* const model = substitutions == nullptr ? nullptr : substitutions->find(name))
                 substitution.copyMembers(*model, variations);
         }
         node = &substitution;

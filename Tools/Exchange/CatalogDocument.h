@@ -40,12 +40,12 @@ private:
     explicit CatalogDocument(JsonDocument json);
     // The node with all texts of the key in the language, or null.
     JsonNode* localization(std::string_view key, std::string_view language);
-    // The node of the unit's text, created if necessary.
+    // The "stringUnit" with the unit's text, created if necessary.
     JsonNode& nodeOf(const Unit& unit, JsonNode& localization);
 
     JsonDocument json_;
     std::string sourceLanguage_;
-    Runtime::NameMap<JsonNode*> keys_;
+    Runtime::NameMap<JsonNode*> keys_; // the value of each key in "strings"
 };
 
 } // namespace Exchange

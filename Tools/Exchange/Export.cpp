@@ -12,8 +12,8 @@ using SourceBundle::SourceTable;
 
 namespace {
 
-// "en.lproj/Localizable.strings:12", relative to the last folder of the source that contains the file, or else its
-// name.
+// "en.lproj/Localizable.strings:12": the file relative to the last of the source's folders that contains it, or only
+// its name.
 std::string placeOf(const SourceEntry& entry, std::span<const fs::path> folders) {
     fs::path shown = entry.file->path.filename();
     for (const fs::path& folder : folders)

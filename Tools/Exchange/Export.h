@@ -12,13 +12,14 @@ namespace Exchange {
 
 // The texts of `source`, which was read from `folders`, with their translations in `language`, in the order of tables
 // and development texts. `onlyMissing`: only texts without a translation or with one in state `new`; if one form of a
-// plural is missing, all its forms are included. Warns about texts that cannot be exchanged.
+// plural is missing, all its forms are included. Texts that cannot be exchanged (isExchanged()) give a warning, an
+// unreadable string catalog gives an error.
 [[nodiscard]] Translations translationsOf(const SourceBundle::Source& source,
                                           std::span<const std::filesystem::path> folders, const std::string& language,
                                           bool onlyMissing, SourceBundle::Diagnostics& diagnostics);
 
-// Calls `visit` for each key of the table that has a development text, in the order of those texts. `language`: that of
-// the translations.
+// Calls `visit` for each key of the table that has a development text, in the order of those texts. The translations
+// are those in `language`.
 void forEachKey(const SourceBundle::Source& source, const SourceBundle::SourceTable& table, const std::string& language,
                 const std::function<void(const Key&)>& visit);
 

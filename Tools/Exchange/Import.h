@@ -25,7 +25,8 @@ struct Imported {
 [[nodiscard]] Runtime::Result<std::vector<Translations>> readTranslations(const std::string& file,
                                                                           SourceBundle::Diagnostics& faults);
 
-// Writes the translations into the files of `source`, either all files or none. Only texts that differ are changed.
+// Writes the translations into the files of `source`, either all files or none. Only texts and states that differ are
+// changed.
 // Invalid translations are errors in `faults`, such as an unknown text, a text given twice, a development text that has
 // changed since the export, other placeholders than those of the development text, or a language that the source cannot
 // be translated to. If `faults` has errors, also earlier ones, nothing is written unless options.keepGoing is set. The

@@ -42,8 +42,8 @@ public:
     [[nodiscard]] std::optional<std::string> string() const;
     // Replaces the value by that string. If the value already is that string, its bytes are kept.
     void set(std::string_view text);
-    // Adds copies of all members of `other` except `without` to this node, which has no members. The copies lack later
-    // changes of `other`, a node of the same document.
+    // Adds copies of all members of `other` except `without` to this node, which has no members. `other` is a node of
+    // the same document; its members are copied as they were read, without changes.
     void copyMembers(JsonNode& other, std::string_view without);
 
 private:
@@ -63,7 +63,7 @@ private:
 struct JsonMember {
     std::string name;
     // Parts of the document: the white space before the name, the quoted name, the colon with the white space around
-    // it, and the white space after the value. Empty for an added member.
+    // it, and the white space after the value (of the last member: JsonNode::end_). Empty for an added member.
     std::string_view before, literal, separator, after;
     JsonNode value;
 };

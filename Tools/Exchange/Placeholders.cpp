@@ -5,6 +5,7 @@
 #include "StringTables/internal/PluralPieces.h"
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace Exchange {
 
@@ -15,11 +16,11 @@ using StringTables::PluralVariable;
 
 namespace {
 
-// The arguments of a text: their kinds by position, and the variables by name, with their positions where relevant.
+// The arguments of a text. Positions count from 1.
 struct Needs {
-    std::map<std::size_t, Placeholder::Kind> arguments;
-    std::map<std::string, std::size_t> variables;
-    std::optional<std::size_t> number; // the argument that selects the plural form
+    std::map<std::size_t, Placeholder::Kind> arguments; // by position
+    std::map<std::string, std::size_t> variables;       // the positions of their numbers by name; 0 in a string catalog
+    std::optional<std::size_t> number;                  // the position of the number that selects the plural form
 };
 
 void add(Needs& needs, const StringTables::FormatSignature& signature) {
@@ -41,16 +42,19 @@ Needs pluralNeeds(PluralPieces pieces) {
     return needs;
 }
 
-// Removes every `mark` from the text. Returns whether there was one.
+// Removes every `mark`, which begins with "%", from the text. Returns whether there was one. In "%%arg" there is none.
 bool take(std::string& text, std::string_view mark) {
-    std::string rest;
-    std::size_t done = 0;
-    for (std::size_t at = text.find(mark); at != text.npos; at = text.find(mark, done)) {
-        rest.append(text, done, at - done);
-        done = at + mark.size();
+    std::string kept;
+    bool found = false;
+    for (std::string_view rest = text; !rest.empty();) {
+        const bool isMark = rest.starts_with(mark);
+        const std::string_view piece = rest.substr(0, isMark ? mark.size() : rest.starts_with("%%") ? 2 : 1);
+        if (!isMark)
+            kept += piece;
+        found |= isMark;
+        rest.remove_prefix(piece.size());
     }
-    const bool found = done != 0;
-    text = rest.append(text, done);
+    text = std::move(kept);
     return found;
 }
 
@@ -71,7 +75,7 @@ const PluralVariable* variableNamed(const PluralFormat& plural, const std::strin
     return found == plural.variables.end() ? nullptr : &*found;
 }
 
-// The argument of a variable; 1 for a variable that occurs only in forms.
+// The position of a variable's number; 1 for a variable that occurs only in forms.
 std::size_t argumentOf(const PluralFormat& plural, const PluralVariable& variable) {
     PluralPieces pieces(plural);
     while (const auto piece = pieces.next())
@@ -103,7 +107,7 @@ public:
         return needs;
     }
 
-    // The arguments of all forms of the development text.
+    // The arguments of all forms of the development text together.
     Needs allNeeds(std::span<const Unit> all) const {
         Needs together;
         for (const Unit& unit : all) {
@@ -141,7 +145,7 @@ const char* nameOf(Placeholder::Kind kind) {
     return "nothing";
 }
 
-// The first mismatch of `given` with the required and the allowed arguments.
+// The first mismatch of `given` with the arguments that are required (`needed`) or allowed; no value if there is none.
 std::optional<std::string> fault(const Needs& given, const Needs& needed, const Needs& allowed) {
     for (const auto& [position, kind] : given.arguments) {
         const auto known = allowed.arguments.find(position);

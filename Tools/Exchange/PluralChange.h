@@ -12,7 +12,7 @@ namespace Exchange {
 // How UnitId::part begins for the format and for a variable of a .stringsdict entry.
 inline constexpr std::string_view formatPart = "format", variablesPart = "variables";
 
-// Writes the units' texts into `plural`. A new variable gets its value type from `development`.
+// Writes the units' texts into `plural`. A new variable gets its value type from `development`, or "ld".
 void applyTo(StringTables::PluralFormat& plural, std::span<const Unit* const> units,
              const SourceBundle::SourceEntry& development);
 // A new plural with all texts of the change. Without a unit for the format, it has the format of the development text.

@@ -9,8 +9,9 @@
 
 namespace Exchange {
 
-// Sets the fuzzy flag of the units. A PO entry is fuzzy if its translation is new or to be reviewed, or if gettext
-// would reject it because some of its texts begin (or end) with a line break and others do not.
+// Sets the fuzzy flag of the units, of which those of one plural are adjacent. A PO entry is fuzzy if its translation
+// is new or to be reviewed, or if gettext would reject it because some of its texts begin (or end) with a line break
+// and others do not.
 void markFuzzy(std::span<Unit> units, std::string_view language);
 
 // A plural is one entry with the forms for integers, and one more entry for each other form. Entries with a NUL
@@ -18,8 +19,8 @@ void markFuzzy(std::span<Unit> units, std::string_view language);
 [[nodiscard]] std::string writePo(const Translations& translations, SourceBundle::Diagnostics& diagnostics);
 
 // Reads a UTF-8 file whose header names its language. `file` is its name, for messages. Errors in `faults`: entries
-// with an invalid id, and plurals if the plural rule in the header is not that of the language. Errors: not a PO file,
-// another encoding, no language.
+// with an invalid id, plural forms that the language does not have, and all plurals if the plural rule in the header is
+// not that of the language. Errors: not a PO file, another encoding, no language.
 [[nodiscard]] Runtime::Result<Translations> readPo(const std::string& bytes, const std::string& file,
                                                    SourceBundle::Diagnostics& faults);
 

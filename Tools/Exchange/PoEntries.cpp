@@ -9,8 +9,8 @@ namespace Exchange {
 namespace {
 
 // The index of the unit with the category in [begin, end), or `otherwise`.
-std::size_t numberOf(std::span<const Unit> units, std::size_t begin, std::size_t end, PluralCategory category,
-                     std::size_t otherwise) {
+std::size_t indexOfForm(std::span<const Unit> units, std::size_t begin, std::size_t end, PluralCategory category,
+                        std::size_t otherwise) {
     for (std::size_t i = begin; i < end; ++i)
         if (units[i].id.category == category)
             return i;
@@ -49,8 +49,8 @@ std::vector<PoEntry> poEntries(std::span<const Unit> units, std::string_view lan
             else
                 others.push_back({.units = {i}, .singular = i, .plural = i});
         if (!plural.units.empty()) {
-            plural.plural = numberOf(units, begin, end, PluralCategory::other, plural.units.back());
-            plural.singular = numberOf(units, begin, end, PluralCategory::one, plural.plural);
+            plural.plural = indexOfForm(units, begin, end, PluralCategory::other, plural.units.back());
+            plural.singular = indexOfForm(units, begin, end, PluralCategory::one, plural.plural);
             entries.push_back(std::move(plural));
         }
         entries.insert(entries.end(), others.begin(), others.end());

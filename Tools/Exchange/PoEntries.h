@@ -8,14 +8,14 @@
 
 namespace Exchange {
 
-// One text, or the plural forms for integers in order. Contains indices of units.
+// One text, or the plural forms for integers in order. The numbers are indices of units.
 struct PoEntry {
     std::vector<std::size_t> units{};
     bool isPlural = false;
     std::size_t singular = 0, plural = 0; // the units whose sources are msgid and msgid_plural
 };
 
-// The entries for all units, in their order.
+// The entries for all units, in their order. Units of one plural must be adjacent.
 [[nodiscard]] std::vector<PoEntry> poEntries(std::span<const Unit> units, std::string_view language);
 
 } // namespace Exchange

@@ -25,6 +25,7 @@ std::string_view field(std::string_view header, std::string_view name) {
     return {};
 }
 
+// Whether the header field says UTF-8, or ASCII, which is a part of it.
 bool isUtf8(std::string_view contentType) {
     constexpr std::string_view charset = "charset=";
     const std::size_t at = contentType.find(charset);
@@ -52,7 +53,7 @@ std::optional<PluralRule> pluralRule(std::string_view forms) {
     expression = expression.substr(plural.size());
     expression = trimmed(expression.substr(0, expression.find(';')));
     PluralRule rule{.expression = expression};
-    constexpr std::size_t most = 100;
+    constexpr std::size_t most = 100; // no language has more than six forms; this bounds the memory
     const auto read = std::from_chars(count.data(), count.data() + count.size(), rule.count);
     return read.ec == std::errc() && read.ptr == count.data() + count.size() && rule.count <= most ? std::optional(rule)
                                                                                                    : std::nullopt;

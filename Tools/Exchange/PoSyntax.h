@@ -30,8 +30,8 @@ struct PoText {
     std::size_t line = 0; // of msgid
 };
 
-// Skips obsolete entries ("#~") and comments, except for the flag "fuzzy". Errors name line and column: not UTF-8, an
-// unknown keyword, an unclosed string, a bad escape, an entry without msgid or msgstr.
+// Skips obsolete entries ("#~") and comments, except for the flag "fuzzy". Errors, with line and column: bytes that are
+// not UTF-8, and wrong syntax, such as an unclosed string or an entry without msgstr.
 [[nodiscard]] Runtime::Result<std::vector<PoText>> readPoTexts(std::string_view bytes);
 
 } // namespace Exchange

@@ -53,10 +53,10 @@ private:
     XmlDocument xml_;
     const XmlNode& root_;                     // the top-level dictionary in xml_
     Runtime::NameMap<const XmlNode*> values_; // the values of root_ by key
-    std::string line_;                        // line break and indentation of its keys
-    std::string indent_;                      // per level
+    std::string line_;                        // the line break and indentation before a key of root_
+    std::string indent_;                      // the indentation that each level adds
     TextEdits edits_;
-    std::string added_; // to the top-level dictionary
+    std::string added_; // the new pairs of the top-level dictionary
 };
 
 } // namespace Exchange

@@ -24,7 +24,7 @@ private:
     struct End {
         std::size_t at = 0;          // offset of new entries
         bool lacksSemicolon = false; // the last entry has none
-        std::size_t entryEnd = 0;    // after the last character of the last entry
+        std::size_t entryEnd = 0;    // offset after the last entry, without blanks and comments
     };
     End findEnd() const;
     std::string withAddedEntries() const;

@@ -22,14 +22,15 @@ public:
     virtual ~TableDocument() = default;
 
     // Sets the texts of the key. A new key is added at the end; a string catalog must have the key. Call it at most
-    // once per key and language. Fails without a change if the file cannot represent one of the texts.
+    // once per key and language. Fails without a change if the file cannot represent one of the texts, or has something
+    // else for the key.
     [[nodiscard]] virtual Runtime::Result<void> apply(const Change& change) = 0;
     // The edited file. Errors: a binary table would be larger than Table::maxBytes.
     [[nodiscard]] virtual Runtime::Result<std::string> bytes() const = 0;
 
-    // Reads the file.
+    // Reads the file. Fails if it cannot be read or edited.
     [[nodiscard]] static Runtime::Result<std::unique_ptr<TableDocument>> read(const SourceBundle::TableFile& file);
-    // A new, empty file of texts or plurals.
+    // A new, empty file of texts in text form or plurals in XML; `kind` is not catalog.
     [[nodiscard]] static std::unique_ptr<TableDocument> make(SourceBundle::TableFile::Kind kind);
 
 protected:

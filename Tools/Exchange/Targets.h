@@ -28,7 +28,8 @@ private:
         TableDocument* document = nullptr;
         bool isChanged = false;
     };
-    // The path of a new file, in the language folder beside that of the development language.
+    // The path of a new file for the key's language: in the language folder beside that of the development text, with
+    // the same name.
     std::filesystem::path newFile(const Key& key);
     Runtime::Result<Target*> targetOf(const Key& key);
 

@@ -14,6 +14,7 @@ bool isHidden(char32_t c) {
     return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0xFFFE || c == 0xFFFF;
 }
 
+// Escapes also the characters in `special`.
 void appendEscaped(std::string& out, std::string_view text, std::string_view special) {
     constexpr int hexadecimal = 16;
     while (!text.empty()) {

@@ -11,7 +11,8 @@
 namespace Exchange {
 
 // Writes a <file> for each table, a <trans-unit> for each unit, and a <group> around the forms of a plural. A character
-// that XML cannot represent is written as <ph ctype="x-character" equiv-text="HEX"/>. `version`: of this program.
+// of a text that XML cannot represent is written as <ph ctype="x-character" equiv-text="HEX"/>. `version`: of this
+// program.
 [[nodiscard]] std::string writeXliff(const Translations& translations, std::string_view version);
 
 // Reads a document in any encoding that XML declares; `file` is its name, for messages. Units are grouped by the

@@ -29,7 +29,7 @@ bool isOneOf(std::string_view name, std::initializer_list<std::string_view> name
 // The character of <ph ctype="x-character" equiv-text="1F"/>.
 std::optional<std::string> character(const XmlNode& node) {
     constexpr int hexadecimal = 16;
-    // XML cannot represent some characters below this one, and U+FFFE and U+FFFF.
+    // The characters that XML cannot represent are below this one, or U+FFFE or U+FFFF.
     constexpr std::uint32_t end = 0xD800;
     const std::string* const type = node.attribute("ctype");
     const std::string* const digits = node.attribute("equiv-text");

@@ -16,7 +16,8 @@ using StringTables::internal::xmlText;
 
 namespace {
 
-// A readable form: characters that XML cannot represent, and control characters not in `kept`, become spaces.
+// A readable form: characters that XML cannot represent, and tabs and line breaks that are not in `kept`, become
+// spaces.
 std::string visible(std::string_view text, std::string_view kept = "") {
     std::string out;
     while (!text.empty()) {

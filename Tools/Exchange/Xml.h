@@ -29,7 +29,7 @@ struct XmlNode {
     [[nodiscard]] const std::string* attribute(std::string_view wanted) const;
     // The first child with that name, or null.
     [[nodiscard]] const XmlNode* child(std::string_view wanted) const;
-    // The concatenated texts within the element.
+    // All texts within the element and its descendants, concatenated.
     [[nodiscard]] std::string allText() const;
 };
 

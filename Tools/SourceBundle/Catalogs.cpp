@@ -71,6 +71,7 @@ public:
     std::vector<SourceAsset> take() { return std::move(sets_); }
 
 private:
+    // The names of the assets begin with `prefix`. `depth`: the number of folders between the catalog and the entries.
     void findInFolder(const fs::path& folder, const std::string& prefix, int depth) {
         if (depth > maxFolderDepth)
             return diagnostics_.add(Severity::error, {.message = "is nested too deeply", .file = folder});

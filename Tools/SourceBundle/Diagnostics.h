@@ -20,9 +20,9 @@ enum class Topic : std::uint8_t {
     other,
     unreadableTable,
     duplicateKey,
-    lonePercent,
-    nameClash,  // a key, table or asset has no accessors because its name is taken
-    noAccessor, // a key, table or asset has no accessors for another reason
+    lonePercent, // a "%" begins no placeholder
+    nameClash,   // a key, table or asset has no accessors because its name is taken
+    noAccessor,  // a key, table or asset has no accessors for another reason
     missingFile,
     unreadableAsset,
     unassignedVariant,

@@ -242,7 +242,7 @@ private:
     EntryPlaces places_;
     Json properties_;
     SetEntry::Device chosen_;
-    std::vector<AssetCatalog::Color> systemColorVariants_;
+    std::vector<AssetCatalog::Color> systemColorVariants_; // the dark ones of system colours without a luminosity
 };
 
 // Adds `messages`, those about a set without a usable variant. The last warning also says that the set is left out; if

@@ -30,9 +30,9 @@ enum class State : std::uint8_t { translated, isNew, needsReview };
 // A key's text in one language.
 struct SourceEntry {
     std::string_view key;
-    std::string_view text; // for a plural, the text with its forms `other`
-    const StringTables::PluralFormat* plural = nullptr;
-    std::string_view comment{}; // for translators
+    std::string_view text;                              // for a plural, the text with its forms `other`
+    const StringTables::PluralFormat* plural = nullptr; // null for a plain text
+    std::string_view comment{};                         // for translators
     const TableFile* file = nullptr;
     std::uint32_t line = 0; // of the key, counted from 1, like the column; both are 0 in a binary table
     std::uint32_t column = 0;
