@@ -73,6 +73,8 @@ class Program(unittest.TestCase):
         self.assertEqual((status, out, err.count("\n")), (2, b"", 1))
         self.assertIn(f"{damaged}:2:7: ", err)
         self.assertEqual(run(*text, "base"), (0, b"Base\n", ""))
+        damaged.write_text('"a" = "%f";')
+        self.assertEqual([run(*text, "a", number)[1] for number in ("1.5", "1e999")], [b"1,500000\n", b"1e999\n"])
         damaged.unlink()
         self.assertEqual(run(*text, "a")[:2], (0, b"a\n"))
 
@@ -187,6 +189,7 @@ class Program(unittest.TestCase):
                 ("--output: the name is empty", "table", file, "-o", ""), ("FILE: the name is empty", "table", ""),
                 ("--output: the name is empty", "asset", "send", "-o", ""), ("SOURCE: the name is empty", "compile", "", "-o", "x"),
                 ("--output: the name is empty", "compile", source, "-o", ""),
+                ("--bundle: the name is empty", "text", "--bundle", "", "a"), ("--bundle: the name is empty", "assets", "--bundle", ""),
                 ("SOURCE: the name is empty", "generate", "", "--module", "M", "-o", "x"),
                 ("--output: the name is empty", "generate", source, "--module", "M", "-o", ""),
                 ("--depfile requires --depfile-target", "compile", source, "-o", "x", "--depfile", "d"),

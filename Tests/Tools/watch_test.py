@@ -17,7 +17,8 @@ class Watch(unittest.TestCase):
     def setUp(self):
         self.held = tempfile.TemporaryDirectory()
         self.folder = pathlib.Path(self.held.name)
-        self.source, self.bundle = self.folder / "Source", self.folder / "Source/Made.bundle"  # the bundle may be inside the source
+        self.source = self.folder / ".Source"  # only hidden files and folders in the source are ignored
+        self.bundle = self.source / "Made.bundle"  # the bundle may be inside the source
         self.write("en.lproj/T.strings", 'a = "one";')
         self.process = subprocess.Popen([PROGRAM, "watch", self.source, "-o", self.bundle], stdout=subprocess.PIPE,
                                         stderr=subprocess.STDOUT, text=True)

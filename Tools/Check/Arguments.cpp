@@ -18,25 +18,26 @@ bool isProse(const Placeholder& placeholder, std::string_view format) noexcept {
     return format[placeholder.begin + 1] == ' ';
 }
 
-void noteLone(std::string_view percent, Arguments& out) noexcept {
+void keepFirst(std::string_view lonePercent, Arguments& out) noexcept {
     if (out.lonePercent.empty())
-        out.lonePercent = percent;
+        out.lonePercent = lonePercent;
 }
 
+// Adds what the format takes to `out`.
 void read(std::string_view format, Arguments& out) {
     ArgumentCounter counter;
     std::size_t at = 0;
     while (const auto placeholder = StringTables::nextPlaceholder(format, at)) {
         if (const std::size_t lone = format.find('%', at); lone < placeholder->begin)
-            noteLone(format.substr(lone, 1), out);
+            keepFirst(format.substr(lone, 1), out);
         if (isProse(*placeholder, format))
-            noteLone(format.substr(placeholder->begin, placeholder->end - placeholder->begin), out);
+            keepFirst(format.substr(placeholder->begin, placeholder->end - placeholder->begin), out);
         else
             out.signature.add(*placeholder, counter.take(*placeholder));
         at = placeholder->end;
     }
     if (const std::size_t lone = format.find('%', at); lone != format.npos)
-        noteLone(format.substr(lone, 1), out);
+        keepFirst(format.substr(lone, 1), out);
 }
 
 std::string_view lonePercentOf(const PluralFormat& plural) {

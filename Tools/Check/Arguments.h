@@ -18,7 +18,8 @@ struct Arguments {
 
     // Whether both take arguments of the same kinds at the same positions.
     [[nodiscard]] bool fits(const Arguments& other) const { return signature.arguments == other.signature.arguments; }
-    // "(text, integer)", with "none" for a position that no placeholder takes; or "no arguments".
+    // "(text, integer)", with "none" for a position that no placeholder takes and "..." for those after the 16th; or
+    // "no arguments".
     [[nodiscard]] std::string text() const;
 };
 

@@ -56,7 +56,7 @@ struct Variant {
     std::string idiom;
     bool isDark = false;
     bool isForEveryScale = false; // a vector, or a bitmap without a scale or for more than 3x
-    Scales filled;
+    Scales filled;                // that have a bitmap
     const SetEntry* first = nullptr;
 };
 
@@ -112,12 +112,12 @@ public:
     }
 
     void run() {
-        const bool needsSingle = isSingleScaleUsual();
+        const bool needs1x = is1xUsual();
         const std::set<std::string_view> darkCatalogs = catalogsWithDarkColors();
         for (Set& set : sets_) {
             const bool isInDarkCatalog = darkCatalogs.contains(set.asset->catalog);
             if (set.asset->kind == Kind::image)
-                checkScales(set, needsSingle);
+                checkScales(set, needs1x);
             checkDark(set, set.asset->kind == Kind::color && isInDarkCatalog);
         }
     }
@@ -139,15 +139,15 @@ private:
     static const char* listOf(const SourceAsset& asset) { return asset.kind == Kind::color ? "colors" : "images"; }
 
     // Whether most variants with bitmaps for several scales have one for 1x.
-    bool isSingleScaleUsual() const {
-        std::size_t all = 0, withSingle = 0;
+    bool is1xUsual() const {
+        std::size_t all = 0, with1x = 0;
         for (const Set& set : sets_)
             for (const Variant& variant : variantsOf(set))
                 if (variant.filled.count() > 1) {
                     ++all;
-                    withSingle += variant.filled[1];
+                    with1x += variant.filled[1];
                 }
-        return withSingle * 2 > all;
+        return with1x * 2 > all;
     }
 
     std::set<std::string_view> catalogsWithDarkColors() const {
@@ -160,28 +160,28 @@ private:
 
     static bool isFilledDark(const SetEntry& entry) { return isDark(entry) && entry.isFilled(); }
 
-    void checkScales(Set& set, bool needsSingle) {
+    void checkScales(Set& set, bool needs1x) {
         for (const Variant& variant : variantsOf(set)) {
             if (variant.isForEveryScale || variant.filled.none())
                 continue;
             Scales needed = scalesOf(variant.idiom);
-            needed[1] = needsSingle;
+            needed[1] = needs1x;
             if (const Scales missing = needed & ~variant.filled; missing.any())
                 report(set, *variant.first, Rule::assetMissingScale,
                        " has no bitmap for " + textOf(missing) + (variant.isDark ? " in dark mode" : ""));
         }
     }
 
-    // Reports an empty entry for dark mode, or a colour without an entry for it if `isExpected`.
+    // Reports a set whose entries for dark mode are all empty, or, if `isExpected`, a colour that has no such entry.
     void checkDark(Set& set, bool isExpected) {
         if (std::ranges::any_of(set.entries, isFilledDark))
             return;
-        const auto place = std::ranges::find_if(set.entries, isDark);
+        const auto dark = std::ranges::find_if(set.entries, isDark);
         const bool isSystemColor = std::ranges::any_of(set.entries, [](const SetEntry& entry) {
             return !SourceBundle::text(SourceBundle::member(*entry.json, "color"), "reference").empty();
         });
-        if (place != set.entries.end())
-            report(set, *place, Rule::assetMissingDark, " has an empty slot for dark mode");
+        if (dark != set.entries.end())
+            report(set, *dark, Rule::assetMissingDark, " has an empty entry for dark mode");
         else if (isExpected && !isSystemColor && !set.entries.empty())
             report(set, set.entries.front(), Rule::assetMissingDark,
                    " has no colour for dark mode, but others in its catalog have");

@@ -10,7 +10,7 @@
 namespace Check {
 
 // Reads the Contents.json of each image and colour again, because SourceAsset does not have the entries without a file
-// or colour.
+// or colour. Symbols and data are not checked.
 void checkAssets(std::span<const SourceBundle::SourceAsset> assets, Report& report);
 
 } // namespace Check

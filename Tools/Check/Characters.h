@@ -1,5 +1,5 @@
 // Check/Characters.h
-// Functions on characters; internal.
+// Functions on characters.
 // Text: well-formed UTF-8. Threads: any; no state.
 #pragma once
 

@@ -63,26 +63,26 @@ bool areSame(const Finding& one, const Finding& other) {
     return placeOf(one) == placeOf(other);
 }
 
-// Whether the finding says that a key has no accessor and an earlier one gives the likely reason: its placeholders
-// contradict each other.
-bool isExplained(const Finding& finding, std::span<const Finding> earlier) {
+// Whether the finding says that a key has no accessor, and an earlier finding says that the placeholders of its
+// development text contradict each other, which is the likely reason.
+bool isExplained(const Finding& finding, std::span<const Finding> earlier, const Source& source) {
     if (finding.rule != Rule::unnamedKey)
         return false;
     for (; !earlier.empty() && earlier.back().file == finding.file && earlier.back().subject == finding.subject;
          earlier = earlier.first(earlier.size() - 1))
-        if (earlier.back().rule == Rule::placeholderMismatch)
+        if (earlier.back().rule == Rule::placeholderMismatch && !isTranslation(earlier.back().language, source))
             return true;
     return false;
 }
 
-std::vector<Finding> sorted(std::vector<Finding> findings) {
+std::vector<Finding> sorted(std::vector<Finding> findings, const Source& source) {
     std::ranges::sort(findings, [](const Finding& one, const Finding& other) { return placeOf(one) < placeOf(other); });
     // Not std::ranges::unique: clang 14 cannot compile that of libstdc++.
     findings.erase(std::unique(findings.begin(), findings.end(), areSame), findings.end());
     // The findings about one key are adjacent, errors first.
     std::vector<Finding> kept;
     for (Finding& finding : findings)
-        if (!isExplained(finding, kept))
+        if (!isExplained(finding, kept, source))
             kept.push_back(std::move(finding));
     return kept;
 }
@@ -115,7 +115,7 @@ std::vector<Finding> check(const Source& source, const Options& options, Diagnos
         for (Runtime::Error& warning : report.takeWarnings())
             diagnostics.add(Severity::warning, std::move(warning));
     }
-    return sorted(std::move(findings));
+    return sorted(std::move(findings), source);
 }
 
 } // namespace Check

@@ -15,7 +15,7 @@ struct Options {
     std::vector<std::filesystem::path> folders{}; // of the source; their settings files are read
     std::filesystem::path names{};                // see Generator::NamesFile; empty: none
     RuleSet disabled{};
-    const SourceBundle::Source* older = nullptr; // with which development texts are compared, or null
+    const SourceBundle::Source* older = nullptr; // an earlier state of the source, for changed-placeholder; or null
     std::vector<std::filesystem::path> usedIn{}; // folders of code; empty: the use of accessors is not checked
 };
 

@@ -20,7 +20,7 @@ using SourceBundle::Topic;
 
 namespace {
 
-// No value if no rule reports the message, or if checks of the texts find the same fault.
+// No value if the topic has no rule, or if the checks of texts find the same fault.
 std::optional<Rule> ruleFor(Topic topic) {
     switch (topic) {
     case Topic::unreadableTable:

@@ -8,8 +8,8 @@
 
 namespace Check {
 
-// Reports the messages that belong to one of these rules. Other warnings and errors are added to `others`, except those
-// about lone percent signs, which checkPlaceholders() finds.
+// Reports the messages that belong to one of these rules, unless the key's comment allows the rule. Other warnings and
+// errors are added to `others`, except those about lone percent signs, which checkPlaceholders() finds.
 void takeFindings(const SourceBundle::Source& source, const SourceBundle::Diagnostics& messages, Report& report,
                   SourceBundle::Diagnostics& others);
 

@@ -64,15 +64,16 @@ bool checkPluralForms(const Text& text, NeededForms needed, Report& report) {
     bool hasForms = true;
     const auto& variables = text.entry.plural->variables;
     for (const PluralVariable& variable : variables) {
-        const std::uint8_t forms = formsOf(variable), all = isFloating(variable) ? needed.ofFloating : needed.ofWhole;
+        const std::uint8_t forms = formsOf(variable);
+        const std::uint8_t required = isFloating(variable) ? needed.ofFloating : needed.ofWhole;
         hasForms &= forms != 0;
-        if ((all & ~forms) == 0)
+        if ((required & ~forms) == 0)
             continue;
         const std::string which = variables.size() > 1 ? ", variable " + Generator::quote(variable.name) + "," : "";
         text.report(report, Rule::missingPluralForm,
                     Generator::quote(text.entry.key) + which + " lacks the plural form " +
-                        namesOf(static_cast<std::uint8_t>(all & ~forms)) + "; " + std::string(text.languages.own) +
-                        " needs " + namesOf(all));
+                        namesOf(static_cast<std::uint8_t>(required & ~forms)) + "; " + std::string(text.languages.own) +
+                        " needs " + namesOf(required));
     }
     return hasForms;
 }

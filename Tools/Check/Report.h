@@ -52,7 +52,7 @@ public:
 private:
     const Settings& settings_;
     std::vector<Finding> findings_;
-    std::vector<Runtime::Error> warnings_; // about settings in comments
+    std::vector<Runtime::Error> warnings_; // about unknown rules in comments
 };
 
 } // namespace Check

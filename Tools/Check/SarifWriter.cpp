@@ -48,7 +48,7 @@ class Results {
 public:
     explicit Results(const fs::path& folder) : folder_(folder.lexically_normal()) {}
 
-    Json add(const Finding& finding) {
+    Json resultOf(const Finding& finding) {
         const RuleInfo& rule = infoOf(finding.rule);
         const std::string uri = uriOf(finding.file, folder_);
         Json place = {{"artifactLocation", {{"uri", uri}}}};
@@ -87,7 +87,7 @@ std::string asSarif(std::span<const Finding> findings, Severity lowest, const fs
     Json all = Json::array();
     for (const Finding& finding : findings)
         if (infoOf(finding.rule).severity >= lowest)
-            all.push_back(results.add(finding));
+            all.push_back(results.resultOf(finding));
     const Json driver = {{"name", "lumora"}, {"version", version}, {"rules", rulesJson()}};
     const Json log = {{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
                       {"version", "2.1.0"},

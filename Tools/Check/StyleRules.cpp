@@ -34,7 +34,7 @@ template <class Test> bool isAny(const SourceEntry& entry, const Test& test) {
     return false;
 }
 
-// Whether there are two spaces between words. Indentation and spaces before a line break are ignored.
+// Whether there are two spaces between words. Those at the beginning or end of a line are ignored.
 bool hasDoubleSpace(std::string_view text) {
     for (std::size_t at = findPart(text, "  "); at != text.npos; at = findPart(text, "  ", at)) {
         const std::size_t end = std::min(text.find_first_not_of(' ', at), text.size());
@@ -64,7 +64,7 @@ bool isWord(std::string_view token) {
     return hasLetter;
 }
 
-// Whether `token` begins with `word`, which ends there, ignoring case.
+// Whether the first word of `token` is `word`, ignoring case.
 bool repeats(std::string_view word, std::string_view token) {
     while (!word.empty()) {
         if (token.empty())
@@ -142,7 +142,8 @@ bool isOneWord(std::string_view text) {
     return words <= 1;
 }
 
-bool haveSameEnd(const Text& text) {
+// Whether the text ends with the same mark as the development text, or may end with another.
+bool hasCorrectEnd(const Text& text) {
     const Mark own = lastMark(text.entry.text, text.languages.own);
     const Mark other = lastMark(text.development->entry->text, text.languages.development);
     const auto isOptional = [](Mark mark) { return mark == Mark::none || mark == Mark::fullStop; };
@@ -171,7 +172,7 @@ void checkStyle(const Text& text, Report& report) {
         if (isProse(development.text))
             text.report(report, Rule::untranslated,
                         quote(text.entry.key) + " has the development text " + quote(development.text));
-    } else if (!haveSameEnd(text)) {
+    } else if (!hasCorrectEnd(text)) {
         text.report(report, Rule::punctuationMismatch,
                     quote(text.entry.key) + " does not end with the mark of the development text " +
                         quote(development.text));
@@ -199,7 +200,7 @@ namespace {
 // The texts of each table in one language; null where it has none.
 using TextsByTable = std::unordered_map<const SourceBundle::SourceTable*, const LanguageTexts*>;
 
-// The translation of a development text, or null if it has none, is a plural, or equals the development text.
+// The translation of a development text; null if there is none, or if it is empty, a plural or the same text.
 const SourceEntry* translationOf(const SharedText& text, const TextsByTable& translations) {
     const LanguageTexts* texts = translations.at(text.table);
     const SourceEntry* entry = texts == nullptr ? nullptr : texts->find(text.entry->key);
@@ -208,6 +209,7 @@ const SourceEntry* translationOf(const SharedText& text, const TextsByTable& tra
     return isOther ? entry : nullptr;
 }
 
+// Reports the first text whose translation differs from that of an earlier one.
 void checkConsistency(const std::vector<SharedText>& texts, const TextsByTable& translations, std::string_view language,
                       Report& report) {
     const SourceEntry* first = nullptr;

@@ -98,7 +98,7 @@ public:
         }
     }
 
-    // Reports each missing key where it would be.
+    // Reports each missing text where it would be, and each empty one. Counts the texts.
     Coverage checkKeys() {
         Coverage coverage;
         const SourceEntry* before = nullptr;
@@ -124,7 +124,7 @@ private:
         if (text.development == nullptr)
             return checkUnknown(text);
         const bool isEmptyTranslation = text.entry.text.empty() && !text.development->entry->text.empty();
-        if (isEmptyTranslation) // checkKeys() reports it
+        if (isEmptyTranslation) // checkKeys() reports it if it is needed
             return;
         checkPlaceholders(text, report_);
         if (!checkPluralForms(text, needed_, report_))
@@ -158,17 +158,15 @@ private:
         report_.add(std::move(finding));
     }
 
-    // Moves the finding to the line of the preceding key, or to the beginning of the language's file of that kind, or
-    // of any file of the language.
+    // Moves the finding into the language's file of this kind, or into any of its files if it has none of this kind: to
+    // the entry `before` if that is there, or else to the beginning.
     void placeInLanguage(Finding& finding, TableFile::Kind kind, const SourceEntry* before) {
         const auto found = std::ranges::find(texts_.files, kind, &TableFile::kind);
-        const TableFile* own = found == texts_.files.end() ? nullptr : *found;
-        if (before != nullptr && own != nullptr && before->file->kind != kind)
-            before = nullptr;
-        if (before != nullptr)
-            own = before->file;
-        finding.file = (own == nullptr ? texts_.files.front() : own)->path;
-        finding.line = before == nullptr ? 1 : before->line;
+        const bool hasKind = found != texts_.files.end();
+        const bool isThere = before != nullptr && (!hasKind || before->file->kind == kind);
+        const TableFile* const other = hasKind ? *found : texts_.files.front();
+        finding.file = (isThere ? before->file : other)->path;
+        finding.line = isThere ? before->line : 1;
         finding.column = 1;
     }
 

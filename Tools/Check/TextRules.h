@@ -24,7 +24,7 @@ struct LanguagePair {
 // One text.
 struct Text {
     const SourceBundle::SourceEntry& entry;
-    std::string_view language;          // as in the name of its folder, perhaps "Base"
+    std::string_view language;          // as the source names it: "de", "Base"
     const DevelopmentText* development; // of the same key, or null
     const LanguagePair& languages;
 
@@ -52,7 +52,7 @@ struct NeededForms {
 // double-space, repeated-word. A fault that the development text has, too, is reported only there.
 void checkWording(const Text& text, Report& report);
 
-// untranslated, punctuation-mismatch; not for the development text itself.
+// untranslated, punctuation-mismatch. Precondition: `text` has a development text and is not that text itself.
 void checkStyle(const Text& text, Report& report);
 
 // The number of texts to be translated, and of those that are.
@@ -88,7 +88,7 @@ struct SharedText {
 // inconsistent-translation.
 void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view language, Report& report);
 
-// coverage.
+// coverage: one finding, in the first file of the language. None if there is nothing to translate.
 void reportCoverage(std::span<const CheckedTable> tables, std::string_view language, const Coverage& coverage,
                     Report& report);
 

@@ -16,6 +16,7 @@ namespace Check {
 [[nodiscard]] std::string asText(std::span<const Finding> findings, Severity lowest, bool isColored);
 
 // A JSON array of objects with rule, severity, file, line, column, language, key (or the asset's name) and message.
+// Findings below `lowest` are left out, here and in SARIF.
 [[nodiscard]] std::string asJson(std::span<const Finding> findings, Severity lowest);
 
 // SARIF 2.1.0. `folder` is an absolute path; files in it have relative URIs, as repository viewers expect. Each finding

@@ -34,7 +34,7 @@ std::string colorText(const AssetCatalog::ColorValue& color) {
     return json.dump() + "\n";
 }
 
-Runtime::Result<std::string> blobText(const AssetCatalog::Blob& blob) {
+Runtime::Result<std::string> bytesOf(const AssetCatalog::Blob& blob) {
     const auto bytes = blob.read();
     if (!bytes)
         return bytes.error();
@@ -42,12 +42,12 @@ Runtime::Result<std::string> blobText(const AssetCatalog::Blob& blob) {
 }
 
 // The unchanged bytes of the variant; for a colour, its colour space and components as JSON.
-Runtime::Result<std::string> variantText(const Entry& entry, std::size_t variant) {
+Runtime::Result<std::string> contentOf(const Entry& entry, std::size_t variant) {
     switch (entry.kind()) {
     case Kind::image:
-        return blobText(entry.picture(variant).blob);
+        return bytesOf(entry.picture(variant).blob);
     case Kind::data:
-        return blobText(entry.data(variant).blob);
+        return bytesOf(entry.data(variant).blob);
     case Kind::color:
         break;
     }
@@ -82,8 +82,8 @@ Exit writeAsset(const AssetOptions& options) {
     const Fit wanted{.appearance = options.isDark ? AssetCatalog::Appearance::dark : AssetCatalog::Appearance::light,
                      .direction = AssetCatalog::Direction::leftToRight,
                      .scale = static_cast<std::uint8_t>(options.scale)};
-    const auto text = variantText(*entry, entry->best(wanted, options.languages));
-    return text ? write(options.output, *text) : fail(text.error());
+    const auto content = contentOf(*entry, entry->best(wanted, options.languages));
+    return content ? write(options.output, *content) : fail(content.error());
 }
 
 } // namespace
@@ -93,8 +93,8 @@ void addAssetCommand(CLI::App& program, Exit& exit) {
     CLI::App* command = program.add_subcommand("asset", "Write one asset to a file.");
     command->add_option("NAME", options->name, "The asset's name, folder/name where folders provide a namespace")
         ->required();
-    command->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
-    command->add_flag("--dark", options->isDark, "The variant for a dark screen");
+    command->add_option("--bundle", options->bundle, "The bundle to read (default: Lumora's own)")->check(notEmpty());
+    command->add_flag("--dark", options->isDark, "The variant for dark mode");
     command->add_option("--scale", options->scale, "Pixels per point")
         ->check(CLI::Range(1U, 9U))
         ->capture_default_str();

@@ -98,7 +98,7 @@ Exit listAssets(const ListOptions& options) {
 void addAssetsCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<ListOptions>();
     CLI::App* command = program.add_subcommand("assets", "List every asset: kind, catalog, name.");
-    command->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
+    command->add_option("--bundle", options->bundle, "The bundle to read (default: Lumora's own)")->check(notEmpty());
     command->add_option("--format", options->format, "text or json, which lists the variants, too")
         ->check(CLI::IsMember({"text", "json"}))
         ->capture_default_str();

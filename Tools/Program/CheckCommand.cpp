@@ -56,7 +56,7 @@ std::vector<Finding> find(const CheckOptions& options, Diagnostics& diagnostics)
         const std::filesystem::path folders[] = {options.since};
         Diagnostics messages;
         checked.older = &older.emplace(Source::read(folders, options.source.options, messages));
-        // Warnings are for the current source; after an error, older texts may be missing.
+        // After an error, texts may be missing. Warnings about the older source do not matter any more.
         for (const SourceBundle::Diagnostic& message : messages.all())
             if (message.severity == Severity::error)
                 diagnostics.add(Severity::error, message.what);
@@ -99,10 +99,12 @@ void addCheckCommand(CLI::App& program, Exit& exit) {
         ->check(ruleName());
     command
         ->add_option("--used-in", options->usedIn,
-                     "A folder of C++ sources: accessors that are used in none are found (may be repeated)")
+                     "A folder of C and C++ files: finds accessors that none of them uses (may be repeated)")
         ->allow_extra_args(false)
         ->check(notEmpty());
-    command->add_option("--since", options->since, "An older source: development texts with other arguments are found")
+    command
+        ->add_option("--since", options->since,
+                     "An older source: finds development texts that take other arguments now")
         ->check(notEmpty());
     command->callback([options, &exit] { exit = runCheck(*options); });
 }

@@ -127,11 +127,11 @@ Exit report(const SourceBundle::Diagnostics& diagnostics) {
     return diagnostics.hasErrors() ? Exit::failed : Exit::done;
 }
 
-void ProgressLine::operator()(std::string_view what, std::size_t done, std::size_t all) {
+void ProgressLine::operator()(std::string_view what, std::size_t begun, std::size_t all) {
     if (!isTerminal() || std::chrono::steady_clock::now() - start_ < std::chrono::seconds(1))
         return;
     // A line that fills the terminal could continue on the next one, which is not erased.
-    const std::string step = "[" + std::to_string(done + 1) + "/" + std::to_string(all) + "] " + std::string(what);
+    const std::string step = "[" + std::to_string(begun + 1) + "/" + std::to_string(all) + "] " + std::string(what);
     const std::string line = eraseLine + fitted(step, terminalColumns() - 1);
     std::fputs(line.c_str(), stderr);
     isShown_ = true;

@@ -24,7 +24,7 @@ CLI::Validator notEmpty();
 enum class Exit : int {
     done = 0,
     faultsFound = 1, // by check or import
-    failed = 2       // wrong use, unreadable input, output that cannot be written
+    failed = 2       // every other error, such as wrong use or a file that cannot be read or written
 };
 
 // Each adds its command to the program. When the command line selects it, the command runs and sets `exit`.
@@ -50,13 +50,14 @@ std::vector<std::string> commandNames(const CLI::App& program);
 bool hasColor(int stream);
 
 // Write a message to standard error, on one line: "FILE:LINE:COLUMN: error: WHAT" with the known parts, or "lumora:
-// error: WHAT" without a file; colored on a terminal. Invisible characters are escaped. fail() returns Exit::failed.
+// error: WHAT" without a file; "note" instead of "error" for note(). Invisible characters are escaped. fail() returns
+// Exit::failed.
 Exit fail(const Runtime::Error& error);
 void note(const Runtime::Error& what);
 void note(std::string_view what);
 // Writes all diagnostics to standard error: notes, warnings, errors, those with equal messages together; then a line
-// with the numbers of errors and warnings. A single diagnostic has the numbers on its own line. Returns Exit::failed if
-// there are errors.
+// with the numbers of errors and warnings. If there is only one diagnostic, its line ends with the numbers. Returns
+// Exit::failed if there are errors, or else Exit::done.
 Exit report(const SourceBundle::Diagnostics& diagnostics);
 
 // A line on the terminal (standard error) that shows the current step of work that lasts for more than a second.
@@ -67,8 +68,8 @@ public:
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
     ~ProgressLine() { erase(); }
-    // Shows `what`, the step after `done` of `all` steps, in place of the step before.
-    void operator()(std::string_view what, std::size_t done, std::size_t all);
+    // Shows the step `what` in place of the step before. `begun` of `all` steps have begun before it.
+    void operator()(std::string_view what, std::size_t begun, std::size_t all);
     void erase();
 
 private:

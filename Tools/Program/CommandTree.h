@@ -18,7 +18,7 @@ struct OptionInfo {
     std::vector<std::string> choices; // the allowed values; empty: any
     std::string description;
     bool isRequired = false;
-    bool isRepeated = false; // may have several values
+    bool isRepeated = false; // may be given several times
 };
 
 struct CommandInfo {

@@ -45,7 +45,7 @@ void addCompileCommand(CLI::App& program, Exit& exit) {
     command->add_option("-o,--output", options->output, "The bundle to write, NAME.bundle")
         ->required()
         ->check(notEmpty());
-    // Not used, except in the depfile: for callers that pass the same options to generate and compile.
+    // For callers that pass the same options to generate and compile; only the depfile mentions the names file.
     options->source.addNamesTo(*command);
     options->source.addPseudoTo(*command);
     command->add_flag("--strict", options->isStrict, "Treat warnings as errors");

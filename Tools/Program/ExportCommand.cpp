@@ -43,8 +43,7 @@ Exit runExport(const ExportOptions& options) {
     const auto language = Exchange::targetLanguage(source, options.language);
     if (!language)
         return fail({.message = "--language: \"" + options.language +
-                                "\" is not the code of a language other than the source's own, " +
-                                source.developmentLanguage});
+                                "\" is not a language that the source can be translated to"});
     const Exchange::Translations translations =
         Exchange::translationsOf(source, options.source.paths(), *language, options.onlyMissing, diagnostics);
     const std::string text = isPo(options) ? Exchange::writePo(translations, diagnostics)

@@ -116,7 +116,7 @@ bool FolderWatch::take(const inotify_event& event, std::string_view name) {
     if (folder == watched_.end() || (event.mask & IN_IGNORED) != 0)
         return false;
     const fs::path path = name.empty() ? folder->second : folder->second / name;
-    if (isIgnored(path))
+    if (!name.empty() && isIgnored(path)) // a watched folder counts, even if it is hidden
         return false;
     changed_.insert(path);
     isStale_ |= (event.mask & (IN_ISDIR | IN_DELETE_SELF | IN_MOVE_SELF)) != 0;
@@ -153,7 +153,7 @@ Runtime::Result<std::optional<std::set<fs::path>>> FolderWatch::wait(int stop) {
         if (waitFor(stop, inotify_.number(), most))
             return std::optional<std::set<fs::path>>();
         bool hasMore = readEvents();
-        for (const fs::path& folder : std::set<fs::path>(missing_))
+        for (const fs::path& folder : missing_)
             if (std::error_code failed;
                 fs::is_directory(folder, failed) && ::access(folder.c_str(), R_OK | X_OK) == 0) {
                 changed_.insert(folder);

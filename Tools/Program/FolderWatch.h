@@ -19,14 +19,14 @@ namespace Tools {
 class FolderWatch {
 public:
     // Watches the folders and, as deeply as the source reader, their subfolders, except hidden files and folders and
-    // everything at `output`. A deleted folder is watched again when it reappears. Fails when the system allows no more
-    // watches.
+    // everything at `output`. A deleted folder is watched again when it reappears. Fails if the system has no more
+    // watches, descriptors or memory.
     [[nodiscard]] static Runtime::Result<FolderWatch> create(const std::vector<std::filesystem::path>& folders,
                                                              const std::filesystem::path& output);
 
-    // Waits for a change and then until no more changes follow for a moment, at most for a second. Returns the changed
-    // files, or folders when the exact changes in them are unknown. No value when the descriptor `stop` becomes
-    // readable first.
+    // Waits for a change, then until none follows for 50 ms, but at most for another second. Returns the changed files,
+    // and folders in which the exact changes are unknown. No value if the descriptor `stop` becomes readable first.
+    // Fails like create().
     [[nodiscard]] Runtime::Result<std::optional<std::set<std::filesystem::path>>> wait(int stop);
 
 private:
@@ -35,7 +35,7 @@ private:
     Runtime::Result<void> watchAll();
     Runtime::Result<void> watchBelow(const std::filesystem::path& folder, int depth);
     bool isIgnored(const std::filesystem::path& path) const;
-    // Add what has changed to `changed_`. Whether there was a change.
+    // Both add what has changed to `changed_`, and return whether anything has.
     bool readEvents();
     bool take(const inotify_event& event, std::string_view name);
 

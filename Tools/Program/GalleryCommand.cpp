@@ -108,7 +108,9 @@ void addGalleryCommand(CLI::App& program, Exit& exit) {
     CLI::Option* source = options->source.addTo(*command);
     options->source.addNamesTo(*command);
     options->source.addPseudoTo(*command);
-    command->add_option("--bundle", options->bundle, "A compiled bundle (default: the module's own)")->excludes(source);
+    command->add_option("--bundle", options->bundle, "A compiled bundle (default: Lumora's own)")
+        ->check(notEmpty())
+        ->excludes(source);
     command->add_option(
         "--module", options->module,
         "The module's name, the first part of accessors (default: the bundle's name; none for a source)");

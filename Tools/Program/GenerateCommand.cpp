@@ -39,7 +39,8 @@ Exit runGenerate(GenerateOptions& options) {
 
 void addGenerateCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<GenerateOptions>();
-    CLI::App* command = program.add_subcommand("generate", "Write the typed trees of a source as C++.");
+    CLI::App* command =
+        program.add_subcommand("generate", "Write the C++ code of a module: the accessors for a source.");
     options->source.addTo(*command)->required();
     command->add_option("--module", options->generator.module, "The module's name, a C++ identifier")->required();
     command->add_option("-o,--output", options->output, "The folder to write into")->required()->check(notEmpty());

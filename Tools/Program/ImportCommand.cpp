@@ -62,7 +62,7 @@ void addImportCommand(CLI::App& program, Exit& exit) {
         ->check(notEmpty());
     options->source.addTo(*command, "--into")->required()->allow_extra_args(false); // so that a FILE may follow it
     command->add_flag("--keep-going", options->import.keepGoing,
-                      "Import all valid texts even if some are not valid; the exit status is still 1");
+                      "Import the valid texts even if others are invalid; the exit status is then 1");
     command->callback([options, &exit] { exit = runImport(*options); });
 }
 

@@ -72,7 +72,7 @@ std::string manPage(const ProgramInfo& program) {
     for (const CommandInfo& command : program.commands)
         out += section(command);
     out += ".SH EXIT STATUS\n" + entry(bold("0"), "Done.") + entry(bold("1"), "A check or an import found faults.") +
-           entry(bold("2"), "Wrong use, unreadable input, or output that cannot be written.");
+           entry(bold("2"), "Any other error, such as wrong use or a file that cannot be read or written.");
     out += ".SH ENVIRONMENT\n" +
            entry(bold("LANGUAGE") + ", " + bold("LC_ALL") + ", " + bold("LC_MESSAGES") + ", " + bold("LANG"),
                  "The user's languages and locale, unless options set them.") +

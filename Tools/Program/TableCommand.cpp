@@ -79,12 +79,12 @@ Runtime::Result<std::string> readToEnd(std::FILE* stream) {
 Runtime::Result<Table> readTable(const std::string& file) {
     std::error_code failed;
     const auto type = std::filesystem::status(file, failed).type();
-    const bool isInput = file == "-";
+    const bool isStandardInput = file == "-";
     // Table::readFile() accepts only regular files.
-    if (!isInput && type != std::filesystem::file_type::fifo && type != std::filesystem::file_type::character)
+    if (!isStandardInput && type != std::filesystem::file_type::fifo && type != std::filesystem::file_type::character)
         return Table::readFile(file);
-    const std::unique_ptr<std::FILE, decltype(&std::fclose)> stream(isInput ? stdin : std::fopen(file.c_str(), "rb"),
-                                                                    &std::fclose);
+    const std::unique_ptr<std::FILE, decltype(&std::fclose)> stream(
+        isStandardInput ? stdin : std::fopen(file.c_str(), "rb"), &std::fclose);
     if (stream == nullptr)
         return Runtime::systemError({}, "cannot be read");
     auto bytes = readToEnd(stream.get());

@@ -16,6 +16,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <system_error>
 
 namespace Tools {
 
@@ -32,8 +33,8 @@ struct TextOptions {
 
 using StringTables::FormatSignature;
 
-// Converts `text` to an argument for placeholders of a kind; it stays a text if it is not a number of that kind. So
-// does an integer that would be printed differently: "007", "+1".
+// Converts `text` to an argument for placeholders of a kind; it stays a text if it is not a number of that kind or is
+// out of range. So does an integer that would be printed differently: "007", "+1".
 Foundation::FormatArgument argument(const std::string& text, FormatSignature::Kind kind) {
     const char* const end = text.data() + text.size();
     std::int64_t integer = 0;
@@ -41,8 +42,9 @@ Foundation::FormatArgument argument(const std::string& text, FormatSignature::Ki
     if (kind == FormatSignature::Kind::integer && std::from_chars(text.data(), end, integer).ptr == end &&
         std::to_string(integer) == text)
         return integer;
-    if (kind == FormatSignature::Kind::number && std::from_chars(text.data(), end, number).ptr == end && !text.empty())
-        return number;
+    if (kind == FormatSignature::Kind::number)
+        if (const auto [read, failed] = std::from_chars(text.data(), end, number); failed == std::errc() && read == end)
+            return number;
     return std::string_view(text);
 }
 
@@ -62,7 +64,7 @@ FormatSignature signatureOf(const Foundation::LocalizedFormat& format) {
 }
 
 // The number of given arguments that no placeholder takes.
-std::size_t unused(const FormatSignature& signature, std::size_t given) {
+std::size_t countUnused(const FormatSignature& signature, std::size_t given) {
     const std::size_t known = std::min(given, signature.arguments.size());
     const auto used = std::ranges::count_if(signature.arguments.begin(),
                                             signature.arguments.begin() + static_cast<std::ptrdiff_t>(known),
@@ -82,7 +84,7 @@ std::string suggestedKey(const Foundation::NSBundle& bundle, const TextOptions& 
 }
 
 Exit runText(const TextOptions& options) {
-    if (!options.bundle.empty() && !std::filesystem::is_directory(options.bundle))
+    if (std::error_code failed; !options.bundle.empty() && !std::filesystem::is_directory(options.bundle, failed))
         return fail({.message = "is not a bundle", .file = options.bundle});
     if (!options.language.empty()) {
         Foundation::Host::setPreferredLanguages({options.language});
@@ -101,7 +103,7 @@ Exit runText(const TextOptions& options) {
     const Foundation::LocalizedFormat format = found.value_or(Foundation::LocalizedFormat(options.key));
     // Options after the key are arguments, too; this note helps users who expected otherwise.
     const FormatSignature signature = signatureOf(format);
-    if (const std::size_t left = unused(signature, options.arguments.size()); left != 0)
+    if (const std::size_t left = countUnused(signature, options.arguments.size()); left != 0)
         note(std::to_string(left) + " of " + std::to_string(options.arguments.size()) + " arguments unused");
     return print(
         Foundation::String::format(format, Foundation::Locale::current(), arguments(options.arguments, signature)) +
@@ -113,7 +115,7 @@ Exit runText(const TextOptions& options) {
 void addTextCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<TextOptions>();
     CLI::App* command = program.add_subcommand("text", "Print the formatted text of a key.");
-    command->add_option("--bundle", options->bundle, "The bundle to read (default: the module's own)");
+    command->add_option("--bundle", options->bundle, "The bundle to read (default: Lumora's own)")->check(notEmpty());
     command->add_option("--language", options->language, "The user's language, such as ru or es-MX");
     command->add_option("--locale", options->locale, "The user's locale, such as de_AT (default: the language)");
     command->add_option("--table", options->table, "The table")->capture_default_str();

@@ -119,7 +119,7 @@ private:
         return print(line + summary(changed) + "\n");
     }
 
-    // Reports warnings and errors, but no notes and no unchanged warnings.
+    // Reports warnings and errors; nothing if there are only the same warnings as last time.
     void reportNew(const SourceBundle::Diagnostics& all) {
         SourceBundle::Diagnostics serious;
         std::string text;

@@ -58,7 +58,7 @@ int main(int argc, char** argv) {
         command->group("Commands");
     try {
         program.parse(argc, argv);
-        // Checked here, so that an unknown word is reported first.
+        // The parser's own check would report this instead of an unknown word.
         if (program.get_subcommands().empty())
             throw CLI::RequiredError("A command");
     } catch (const CLI::Success& success) { // --help, --version
