@@ -194,7 +194,7 @@ TEST(Model, ChecksItsOptions) {
     for (const SourceBundle::Diagnostic& diagnostic : diagnostics.all())
         messages.push_back(diagnostic.what.text());
     EXPECT_EQ(messages, (Strings{"the module's name must be a C++ identifier that is not reserved: \"class\"",
-                                 "cannot be included: \"a\"b\"", "the accessors are split into 1 to 1000 sources"}));
+                                 "cannot be included: \"a\"b\"", "the accessors can be split into 1 to 1000 sources"}));
 }
 
 TEST(Emitter, CutsLongCommentsBetweenCharacters) {

@@ -40,10 +40,10 @@ void declare(CodeWriter& code, const AssetConstant& constant, const Options& opt
 
 void define(CodeWriter& code, const AssetConstant& constant, const Options& options) {
     code.enter(nameSpaceOf(constant, options));
-    const std::string module = "::" + options.module + "::" + options.module;
+    const std::string prefix = "::" + options.module + "::" + options.module; // "::Shop::Shop"
     const auto [record, factory] = wordsOf(constant);
-    code.addAssignment("constinit const " + module + record + ' ' + constant.name,
-                       module + "AssetModule::RecordFactory::" + factory + '(' + literal(constant.asset->name) + ");");
+    code.addAssignment("constinit const " + prefix + record + ' ' + constant.name,
+                       prefix + "AssetModule::RecordFactory::" + factory + '(' + literal(constant.asset->name) + ");");
 }
 
 } // namespace

@@ -9,7 +9,7 @@
 
 namespace Generator {
 
-// Requires valid options; see check(). Each run of constants in the same namespace opens that namespace.
+// Requires valid options; see check().
 [[nodiscard]] std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, const Options& options);
 
 } // namespace Generator

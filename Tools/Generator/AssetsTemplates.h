@@ -16,7 +16,7 @@ inline constexpr std::string_view recordsHeader = R"(#pragma once
 
 namespace {{module}} {
 
-// The bundle and the name in error reports of the records below.
+// The records' bundle, and the name of their source in error reports.
 struct {{module}}AssetModule {
     static const ::Foundation::NSBundle& bundle() { return {{module}}Resources::bundle(); }
     static constexpr std::string_view sourceName = "TuistAssets+{{module}}";

@@ -11,7 +11,7 @@
 namespace Generator {
 
 // The text on one line for comments and messages. Invisible characters and bytes that are not UTF-8 are escaped as
-// "\n", "\t", "\u{200B}", "\xFF". A text of more than `limit` characters is cut and ends in "…".
+// "\n", "\t", "\u{200B}", "\xFF"; nothing else is. A text of more than `limit` characters is cut and ends in "…".
 [[nodiscard]] std::string visibleText(std::string_view text, std::size_t limit = 100);
 
 // The same in quotation marks.

@@ -65,17 +65,17 @@ void CodeWriter::addComment(std::string_view text) {
         const bool isContinued = line.ends_with('\\') || line.ends_with("?\?/");
         code_.append(line).append(isContinued ? ".\n" : "\n");
     };
-    for (bool isBegin = true; !text.empty(); isBegin = false) {
+    for (bool beginsLine = true; !text.empty(); beginsLine = false) {
         const std::string_view word = text.substr(0, text.find(' '));
         const std::size_t width = columnsOf(word);
-        if (!isBegin && column + 1 + width > maxWidth) {
+        if (!beginsLine && column + 1 + width > maxWidth) {
             end();
             line = next;
             column = next.size();
-            isBegin = true;
+            beginsLine = true;
         }
-        line.append(isBegin ? "" : " ").append(word);
-        column += width + (isBegin ? 0 : 1);
+        line.append(beginsLine ? "" : " ").append(word);
+        column += width + (beginsLine ? 0 : 1);
         text.remove_prefix(std::min(word.size() + 1, text.size()));
     }
     end();

@@ -21,6 +21,7 @@ using SourceBundle::SourceTable;
 
 namespace {
 
+// Adds one note that counts the keys that are only in translations.
 void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
     std::size_t count = 0;
     const SourceEntry* first = nullptr;
@@ -31,7 +32,7 @@ void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
         for (const LanguageTexts& texts : table.languages) {
             if (&texts == own || &texts == base)
                 continue;
-            const SourceEntry* last = nullptr; // of own
+            const SourceEntry* last = nullptr; // the entry of `own` that was found last
             for (const SourceEntry& entry : texts.entries()) {
                 const SourceEntry* known = own == nullptr ? nullptr : own->findAfter(last, entry.key);
                 last = known == nullptr ? last : known;
@@ -60,7 +61,7 @@ std::string moduleHeader(const Options& options) {
     return code.take();
 }
 
-// Adds a line to NAME.h that changes whenever a header in the folder NAME changes.
+// Adds a line to NAME.h that changes whenever a header directly in the folder NAME changes.
 void addFingerprint(const std::string& name, std::vector<OutputFile>& files) {
     std::vector<std::string_view> headers;
     for (const OutputFile& file : files)
@@ -83,7 +84,7 @@ void check(const Options& options, Diagnostics& diagnostics) {
         if (header.find_first_of("\"\\\n\r") != std::string::npos)
             fail("cannot be included: " + quote(header));
     if (options.shards == 0 || options.shards > maxShards)
-        fail("the accessors are split into 1 to " + std::to_string(maxShards) + " sources");
+        fail("the accessors can be split into 1 to " + std::to_string(maxShards) + " sources");
 }
 
 Model modelOf(const Source& source, const Options& options, Diagnostics& diagnostics) {

@@ -20,13 +20,14 @@ inline constexpr std::size_t maxShards = 1000;
 
 struct Options {
     std::string module;                  // a C++ identifier: the namespace of the trees and the prefix of file names
-    std::vector<std::string> includes{}; // headers with hand-written members, included by the tree's header
-    std::vector<std::string> headers{};  // headers with hand-written parts of the module, included by NAME.h
+    std::vector<std::string> includes{}; // headers with functions for the tree of texts, included by NAMEStrings.h
+    std::vector<std::string> headers{};  // headers with other hand-written parts of the module, included by NAME.h
     std::size_t shards = 1;              // number of source files for the accessors; 1 to maxShards
     std::filesystem::path names{};       // see NamesFile; empty: none
 };
 
-// The content of both trees, and what they leave out. Points into its source, which must outlive it. Can be moved.
+// The content of both trees, and what they leave out. Points into its source, which must outlive it. Can be moved, but
+// a copy would point into the original.
 struct Model {
     std::vector<AccessorTable> tables;
     std::vector<SourceBundle::SourceAsset> assets;
@@ -37,10 +38,10 @@ struct Model {
 [[nodiscard]] Model modelOf(const SourceBundle::Source& source, const Options& options,
                             SourceBundle::Diagnostics& diagnostics);
 
-// The files of the module: NAME.h, which includes all other headers but the internal ones; for texts NAMEStrings.h with
-// the headers it includes, NAMEStrings.cpp, and NAMEStrings-1.cpp to NAMEStrings-SHARDS.cpp; for assets NAMEAsset.h
-// with the headers it includes, NAMEAsset.cpp and NAMEConveniences.h; NAMEResources.h and .cpp. The internal headers
-// are in NAMEStrings/Internal and NAMEAsset/Internal.
+// The files of the module, for options that check() accepts: NAME.h, which includes all other headers but the internal
+// ones; for texts NAMEStrings.h with the headers it includes, NAMEStrings.cpp, and NAMEStrings-1.cpp to
+// NAMEStrings-SHARDS.cpp; for assets NAMEAsset.h with the headers it includes, NAMEAsset.cpp and NAMEConveniences.h;
+// NAMEResources.h and .cpp. The internal headers are in NAMEStrings/Internal and NAMEAsset/Internal.
 [[nodiscard]] std::vector<OutputFile> filesOf(const Model& model, const Options& options);
 
 // Reports each option that its comment in Options does not allow as an error.

@@ -22,7 +22,8 @@ namespace {
 // Derives accessor paths from keys.
 class PathMaker {
 public:
-    // Empty if the key gives no name. Groups without a usable name are dropped.
+    // The groups and the name of the key's accessor; empty if the key gives no name. Groups without a usable name are
+    // dropped.
     std::vector<std::string> pathOf(std::string_view key) {
         std::vector<std::string_view> parts = Namer::components(key);
         std::string name;

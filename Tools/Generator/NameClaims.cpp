@@ -5,7 +5,7 @@
 namespace Generator {
 
 std::optional<NameClaims::Conflict> NameClaims::claim(const std::vector<std::string>& path, std::size_t member) {
-    std::size_t group = 0; // the id of the last group
+    std::size_t group = 0; // the id of the group that contains the next part
     std::size_t known = 0; // the number of leading parts that already exist
     for (; known < path.size(); ++known) {
         const bool isGroup = known + 1 < path.size();

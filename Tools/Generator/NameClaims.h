@@ -27,8 +27,8 @@ public:
         Owner owner;
     };
 
-    // Claims `path`, the names of the groups and last that of the member, for the member with the caller's number
-    // `member`. Claims nothing and returns the conflict if the last name exists or a group has the name of a member.
+    // Claims `path`, the names of the groups and then that of the member, for `member`, a number that the caller chose.
+    // Claims nothing and returns the conflict if the last name exists or a group has the name of a member.
     std::optional<Conflict> claim(const std::vector<std::string>& path, std::size_t member);
 
 private:

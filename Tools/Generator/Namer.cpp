@@ -51,7 +51,7 @@ bool isIdentifier(std::string_view name) {
            std::ranges::all_of(text, continuesIdentifier) && text.find(U"__") == std::u32string::npos;
 }
 
-// A character that is not allowed in C++ identifiers but is compatible with some that are: "№" with "No".
+// Whether the character is not ASCII and its compatibility form is allowed in C++ identifiers: "No" for "№".
 bool isLetterLike(char32_t c) {
     if (c < 0x80)
         return false;
@@ -59,6 +59,7 @@ bool isLetterLike(char32_t c) {
     return !plain.empty() && std::ranges::all_of(plain, continuesIdentifier);
 }
 
+// The words between the separators; none is empty.
 Words split(std::u32string_view text, auto isSeparator) {
     Words words(1);
     for (const char32_t c : text) {

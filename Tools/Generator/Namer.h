@@ -14,7 +14,7 @@ namespace Generator::Namer {
 // the accessor of a text; those before it name groups, which are namespaces.
 [[nodiscard]] std::vector<std::string_view> components(std::string_view key);
 
-// The name for a component; empty if it has no character that is allowed in a name, other than '_'.
+// The name for a component of a key; empty if it has no character that is allowed in a name, other than '_'.
 [[nodiscard]] std::string groupName(std::string_view component);
 [[nodiscard]] std::string entryName(std::string_view component);
 
@@ -22,15 +22,17 @@ namespace Generator::Namer {
 // first are capitalized. Empty when there are none.
 [[nodiscard]] std::string assetName(std::string_view asset);
 
-// The C++ spelling of a name: an identifier in NFC that is not reserved and has no two adjacent underscores. Empty for
-// an empty name.
+// The C++ spelling of a name from the functions above: an identifier in NFC that is not reserved and has no two
+// adjacent underscores. Empty for an empty name.
 [[nodiscard]] std::string spelling(std::string_view name);
 
-// The C++ spelling for a table or an asset catalog: that of its name if that is an identifier, otherwise that of the
-// name for a group. A name that would clash with generated code gets an underscore at the end.
+// The C++ spelling for the namespace of a table or an asset catalog, which has its name if that is an identifier
+// without an underscore at its beginning or two adjacent ones, otherwise the name that groupName() gives. A name that
+// would clash with generated code gets an underscore at the end.
 [[nodiscard]] std::string tableSpelling(std::string_view table);
 
-// Whether `name` is an identifier without an underscore at its beginning that spelling() returns unchanged.
+// Whether `name` is an identifier without an underscore at its beginning or two adjacent ones, and spelling() returns
+// it unchanged.
 [[nodiscard]] bool isCppSpelling(std::string_view name);
 // Whether `name` is such a spelling and also usable for a namespace in the tree.
 [[nodiscard]] bool isNamespaceSpelling(std::string_view name);

@@ -1,12 +1,12 @@
 // Generator/ReservedNames.h
 // The names that generated code must not use, sorted; internal to Namer: the keywords and alternative tokens of C++20,
 // and the macros defined by compilers and by the headers of C, C++, POSIX and the C library. Left out are macros
-// - that begin with an underscore, because no generated name begins with one and a letter;
+// - that begin with an underscore, because no generated name begins with an underscore and a letter;
 // - that Namer.cpp recognizes: errors, signals and the number formats of <cinttypes>;
 // - in capitals that only headers of POSIX define, such as IXON: a program that includes them needs another name for
 //   such an asset;
-// - with an underscore that are in capitals or not from C or C++: only a table, a catalog, a module or a name that the
-//   team chose could be called like one.
+// - with an underscore, if they are in capitals or from neither C nor C++: only a table, a catalog, a module or a name
+//   that the team chose could be called like one.
 // This command prints the macros of a header:
 //     echo '#include <csignal>' | g++ -std=gnu++20 -dM -E -x c++ -
 #pragma once

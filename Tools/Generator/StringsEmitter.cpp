@@ -16,8 +16,8 @@ namespace Generator {
 
 namespace {
 
-// A table's header ends where another group begins after this many entries, or else after a quarter more. Larger tables
-// have more entries per header, so that there are at most maxHeaders.
+// A table's header ends where an outermost group begins after at least this many entries, and after a quarter more in
+// any case. Larger tables have more entries per header, so that there are at most maxHeaders.
 constexpr std::size_t minEntriesPerHeader = 200;
 constexpr std::size_t maxHeaders = 64;
 // The longest comment for translators, in bytes; longer ones are cut.
@@ -54,6 +54,7 @@ const char* typeOf(Parameter parameter) {
     return "";
 }
 
+// "double first".
 std::vector<std::string> parameters(const NamedEntry& entry) {
     std::vector<std::string> all;
     for (const Parameter parameter : entry.parameters)
@@ -61,6 +62,7 @@ std::vector<std::string> parameters(const NamedEntry& entry) {
     return all;
 }
 
+// "first", and "first.text()" for a text.
 std::vector<std::string> arguments(const NamedEntry& entry) {
     std::vector<std::string> all;
     for (const Parameter parameter : entry.parameters)
@@ -100,6 +102,7 @@ void declare(CodeWriter& code, const NamedEntry& entry) {
         code.addList(declarator("LUMORA_EXPORT std::string", entry.name, all.front() + ","), all, ");");
 }
 
+// `number`: the entry's index in `places`, and in `slots` if it is plain.
 void define(CodeWriter& code, const NamedEntry& entry, std::size_t number) {
     if (entry.parameters.empty()) {
         code.add("const std::string& {{name}}() { return detail::text(detail::slots[{{number}}]); }",
@@ -134,6 +137,7 @@ std::string_view outermost(const NamedEntry& entry) {
     return groups.substr(0, groups.find("::"));
 }
 
+// The entries of each header.
 std::vector<std::span<const NamedEntry>> parts(std::span<const NamedEntry> entries) {
     const std::size_t wanted = std::max(minEntriesPerHeader, entries.size() / maxHeaders + 1);
     const std::size_t most = wanted * 5 / 4;
@@ -261,7 +265,7 @@ std::string definitions(std::span<const Placed> entries, const Options& options)
             code.add(formattedDefinition);
         code.add(fewerOptimizations);
         if (plain != 0)
-            code.add(testDefinition);
+            code.add(textDefinition);
         code.add("\n} // namespace");
     }
     std::size_t nextPlain = 0;

@@ -60,7 +60,7 @@ inline constexpr std::string_view fewerOptimizations = R"(
                      "no-split-wide-types", "no-compare-elim", "no-combine-stack-adjustments", "no-cprop-registers")
 #endif)";
 
-inline constexpr std::string_view testDefinition = R"(
+inline constexpr std::string_view textDefinition = R"(
 inline const std::string& text(const Slot& slot) noexcept {
     return slot.isMade() ? slot.value() : made(slot);
 })";

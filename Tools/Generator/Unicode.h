@@ -23,8 +23,8 @@ namespace Generator::Unicode {
 [[nodiscard]] bool isLower(char32_t c) noexcept;
 [[nodiscard]] bool isDigit(char32_t c) noexcept;
 
-// Whether the character may begin or continue a C++ identifier. False for invisible characters and those that are newer
-// than Unicode 13, which the oldest supported compilers know.
+// Whether the character may begin or continue a C++ identifier. False for invisible characters and those newer than
+// Unicode 13, the version that the oldest supported compilers know.
 [[nodiscard]] bool beginsIdentifier(char32_t c) noexcept;
 [[nodiscard]] bool continuesIdentifier(char32_t c) noexcept;
 

@@ -8,7 +8,7 @@
 
 namespace Odd {
 
-// The bundle and the name in error reports of the records below.
+// The records' bundle, and the name of their source in error reports.
 struct OddAssetModule {
     static const ::Foundation::NSBundle& bundle() { return OddResources::bundle(); }
     static constexpr std::string_view sourceName = "TuistAssets+Odd";
