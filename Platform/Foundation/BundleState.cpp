@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
+#include <limits>
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -15,13 +16,15 @@ namespace {
 
 constexpr std::int64_t perSecond = 1'000'000'000;
 
+// Since 1970; the years that 64 bits cannot hold are clamped.
 std::int64_t nanoseconds(const timespec& time) noexcept {
-    return time.tv_sec * perSecond + time.tv_nsec;
+    constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max() / perSecond - 1;
+    return std::clamp<std::int64_t>(time.tv_sec, -largest, largest) * perSecond + time.tv_nsec;
 }
 
 class StateHash {
 public:
-    // Adds the file or folder at the path, and of a folder also its entries, down to that depth. False on failure.
+    // Adds the file or folder at the path, and the entries of a folder down to that depth. False on failure.
     bool add(const std::string& path, int depth) {
         struct stat found {};
         if (::stat(path.c_str(), &found) != 0)

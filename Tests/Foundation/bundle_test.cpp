@@ -6,8 +6,10 @@
 #include "../Support/TemporaryFolder.h"
 #include <chrono>
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <latch>
+#include <sys/stat.h>
 #include <thread>
 
 namespace {
@@ -232,6 +234,11 @@ TEST_F(Bundle, KeepsItsContentIfAReloadFindsNoChange) {
     write("Base.lproj/Localizable.strings", "a = new;");
     bundle().reload();
     EXPECT_EQ(text("a"), "new");
+    // A time in the future does not show further changes, not even one that has no 64-bit number of nanoseconds.
+    const timespec future[] = {{.tv_sec = 0, .tv_nsec = 0}, {.tv_sec = time_t{1} << 34, .tv_nsec = 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, (folder_ / "Base.lproj/Localizable.strings").c_str(), future, 0), 0);
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    EXPECT_NE(reloaded(), reloaded());
 }
 
 TEST(BundleThreads, SeeOneStateOrTheOther) {
