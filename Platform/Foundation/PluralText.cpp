@@ -52,30 +52,34 @@ bool isPlainInteger(const Placeholder& placeholder) noexcept {
             (placeholder.bits == 64 && placeholder.precision.from == Placeholder::Size::From::none));
 }
 
-// The plural operands of the number as it is printed.
-Intl::PluralOperands operandsOf(const PluralFormat& plural, const PluralVariable& variable, std::size_t own,
-                                const FormatArgument& argument) {
+// The plural operands of the number as it is printed; no value if that has no digits, as "inf" or a text may.
+std::optional<Intl::PluralOperands> operandsOf(const PluralFormat& plural, const PluralVariable& variable,
+                                               std::size_t own, const FormatArgument& argument) {
     std::string format = numberFormat(plural, variable, own);
     const auto placeholder = StringTables::nextPlaceholder(format, 0);
     if (argument.kind() == FormatArgument::Kind::integer && placeholder && isPlainInteger(*placeholder)) {
         const auto value = static_cast<std::uint64_t>(argument.integer());
-        return {.i = placeholder->conversion != 'u' && argument.integer() < 0 ? -value : value};
+        return Intl::PluralOperands{.i = placeholder->conversion != 'u' && argument.integer() < 0 ? -value : value};
     }
     if (placeholder && (placeholder->conversion == 'a' || placeholder->conversion == 'A'))
         format = "%g"; // plural rules apply to decimal digits
     const std::string printed = String::format(format, Locale("en_US_POSIX"), {&argument, 1});
     const std::size_t digits = printed.find_first_of("0123456789.");
+    if (digits == printed.npos && printed.find_first_not_of(' ') != printed.npos) // "%.0d" prints 0 without digits
+        return std::nullopt;
     return Intl::pluralOperands(std::string_view(printed).substr(std::min(digits, printed.size())));
 }
 
 // The form for a number in the language of the table.
 std::string_view chosenForm(const PluralFormat& plural, const PluralVariable& variable, std::string_view language,
                             std::size_t own, const FormatArgument& argument) {
-    const Intl::PluralOperands number = operandsOf(plural, variable, own, argument);
-    const bool isZero = number.i == 0 && number.t == 0; // a form `zero` is for 0 in every language
+    const std::optional<Intl::PluralOperands> number = operandsOf(plural, variable, own, argument);
+    if (!number)
+        return otherForm(variable);
+    const bool isZero = number->i == 0 && number->t == 0; // a form `zero` is for 0 in every language
     if (const auto& zero = formOf(variable, PluralCategory::zero); isZero && zero)
         return *zero;
-    const auto& form = formOf(variable, pluralCategory(language, number));
+    const auto& form = formOf(variable, pluralCategory(language, *number));
     return form ? std::string_view(*form) : otherForm(variable);
 }
 
