@@ -39,9 +39,9 @@ public:
     const char* unusedNote() const noexcept {
         if (count_ < 2)
             return nullptr;
-        return isByWidth_
-                   ? " has texts for several widths; the widest is used"
-                   : " has texts for several kinds of device; that for \"other\", \"iphone\" or else the first is used";
+        return isByWidth_ ? " has texts for several widths; the widest is used"
+                          : " has texts for several kinds of device; that for \"other\", else \"iphone\", else the "
+                            "first is used";
     }
 
 private:
@@ -57,7 +57,7 @@ public:
 
     bool beginDictionary() override {
         if (depth_ == levels) {
-            skip(" is a dictionary; it is skipped");
+            noteValue(" is a dictionary; it is skipped");
             return false;
         }
         ++depth_;
@@ -96,7 +96,7 @@ public:
 
     void other(const char* what) override {
         const std::string why = std::string(" is ").append(what).append("; it is skipped");
-        depth_ == entryLevel ? skipEntry(why) : skip(why);
+        depth_ == entryLevel ? skipEntry(why) : noteValue(why);
     }
 
     std::vector<PluralEntry> takeEntries() {
@@ -116,6 +116,7 @@ public:
 private:
     // The level of a key is the number of dictionaries around it.
     static constexpr std::size_t entryLevel = 1, variableLevel = 2, levels = 3;
+    static constexpr std::string_view replaces = " appears again; this one is used";
 
     const char* count(std::string_view text) noexcept {
         bytes_ += text.size();
@@ -124,10 +125,10 @@ private:
 
     const std::string& key() const noexcept { return keys_[depth_ - 1]; }
     // Adds a note about the value of the current key.
-    void skip(std::string_view what) { contents_.note("the value of ", key(), what, offsets_[depth_ - 1]); }
+    void noteValue(std::string_view what) { contents_.note("the value of ", key(), what, offsets_[depth_ - 1]); }
     // The last value of a key counts, even if it is not a plural.
     void skipEntry(std::string_view what) {
-        skip(what);
+        noteValue(what);
         drop();
     }
     // Drops the earlier entry with the current key, if there is one.
@@ -149,7 +150,9 @@ private:
     }
     void takeFormat(std::string_view text) {
         if (key() != pluralKeys::format)
-            return skip(" is a text, not a variable; it is skipped");
+            return noteValue(" is a text, not a variable; it is skipped");
+        if (hasFormat_)
+            noteValue(replaces);
         plural_.format.assign(text);
         hasFormat_ = true;
     }
@@ -194,9 +197,14 @@ private:
         else if (key() == pluralKeys::valueType)
             variable_.valueType.assign(text.substr(text.starts_with('%') ? 1 : 0));
         else if (const auto category = Intl::pluralCategoryNamed(key()))
-            variable_.forms[Intl::indexOf(*category)].emplace(text);
+            setForm(variable_.forms[Intl::indexOf(*category)], text);
         else
-            skip(" is for no plural category; it is skipped");
+            noteValue(" is for no plural category; it is skipped");
+    }
+    void setForm(std::optional<std::string>& form, std::string_view text) {
+        if (form)
+            noteValue(replaces);
+        form.emplace(text);
     }
     void endVariable() {
         if (isChoice_)
@@ -207,7 +215,8 @@ private:
                                   offsets_[variableLevel - 1]);
         if (variable_.valueType.empty())
             variable_.valueType = "d";
-        std::erase_if(plural_.variables, isSame);
+        if (std::erase_if(plural_.variables, isSame) != 0)
+            contents_.note("the variable ", variable_.name, replaces, offsets_[variableLevel - 1]);
         if (++variables_ <= PluralTable::maxVariables)
             plural_.variables.push_back(std::move(variable_));
     }

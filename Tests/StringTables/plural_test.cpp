@@ -90,11 +90,18 @@ TEST(PluralTable, NotesWhatIsSkipped) {
          "2:1: the entry \"k\" has texts for several widths; the widest is used\n", "60"},
         {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m") + text("iphone", "i"))),
          "2:1: the entry \"k\" has texts for several kinds of device; "
-         "that for \"other\", \"iphone\" or else the first is used\n",
+         "that for \"other\", else \"iphone\", else the first is used\n",
          "i"},
         {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m"))), "", "m"},
         {__LINE__, dict("k", format) + "\n" + dict("k", format),
          "3:1: the key \"k\" appears again; this entry is used\n"},
+        {__LINE__,
+         dict("k", text("NSStringLocalizedFormatKey", "%#@old@") + "\n" + format + "\n" + dict("v", "") + "\n" +
+                       dict("v", text("one", "x") + "\n" + text("one", "y"))),
+         "3:1: the value of \"NSStringLocalizedFormatKey\" appears again; this one is used\n"
+         "5:1: the variable \"v\" appears again; this one is used\n"
+         "6:1: the value of \"one\" appears again; this one is used\n",
+         "%#@v@"},
     };
     for (const auto& [line, entries, notes, chosen] : cases) {
         const auto table = PluralTable::read(list(entries));
