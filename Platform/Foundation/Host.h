@@ -14,8 +14,8 @@
 namespace Foundation::Host {
 
 // Sets the languages that the user reads, most preferred first: "ru", "pt-PT", "zh_CN". Overrides the environment.
-// Names with a NUL are ignored, and so are those that do not fit into longestLanguages bytes together with the names
-// before them.
+// Empty names and names with a NUL are ignored, and so are those that do not fit into longestLanguages bytes together
+// with the names before them.
 LUMORA_EXPORT void setPreferredLanguages(const std::vector<std::string>& languages);
 inline constexpr std::size_t longestLanguages = 2048;
 // Sets the identifier of the user's locale: "de_AT". Overrides the environment. An identifier of more than
@@ -24,8 +24,8 @@ LUMORA_EXPORT void setCurrentLocale(std::string_view identifier);
 inline constexpr std::size_t longestLocale = 256;
 // Resets both to the environment, which is read at this call; for what was never set it is read at the first use.
 // Languages: those of LANGUAGE, then that of the first non-empty one of LC_ALL, LC_MESSAGES and LANG; if that is "C" or
-// "POSIX", only English. Locale: LC_ALL, else LANG, or LC_MESSAGES if LANG is empty, "C" or "POSIX". The defaults are
-// English and "en_US".
+// "POSIX", only English. Locale: LC_ALL, else LANG, or LC_MESSAGES if LANG is empty, "C" or "POSIX", without the
+// character set and modifier (".UTF-8@euro"). The defaults are English and "en_US".
 LUMORA_EXPORT void reset();
 
 } // namespace Foundation::Host

@@ -19,9 +19,9 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSBundle {
 public:
-    // The bundle NAME.bundle of the shared object that contains `code` (the address of a function or static object). It
-    // is in the folder LIBRARY-VERSION beside that file ("lumora-1" for liblumora.so.1.0.0) if there is one, else
-    // beside the file itself. For code of the main program: the main bundle.
+    // The bundle NAME.bundle of the shared object that contains `code` (the address of a function or static object). If
+    // the folder LIBRARY-VERSION beside that file ("lumora-1" for liblumora.so.1.0.0) has a bundle of that name, it is
+    // that one, else the one beside the file itself. For code of the main program: the main bundle.
     [[nodiscard]] static const NSBundle& bundleForCode(const void* code, std::string_view name);
     // PROGRAM.bundle in the directory of the program.
     [[nodiscard]] static const NSBundle& mainBundle();

@@ -11,7 +11,7 @@ namespace {
 
 // `value` without its fraction, clamped to the range of T.
 template <class T> T clamped(double value) noexcept {
-    // 2^63 or 2^64, the smallest double above the largest value of T, which itself is no double.
+    // 2^63 or 2^64: one more than the largest value of T, which no double can represent.
     static constexpr double above = static_cast<double>(T{1} << (std::numeric_limits<T>::digits - 1)) * 2;
     if (std::isnan(value))
         return 0;

@@ -3,7 +3,7 @@
 // Threads: plain values.
 #pragma once
 
-#include "Runtime/Export.h" // C++20
+#include "Runtime/Export.h" // reports a compiler mode older than C++20
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>

@@ -114,8 +114,8 @@ std::optional<Runtime::OpenFile> StoredTable::opened() const {
     return std::nullopt;
 }
 
-// Null when the table must be read as a whole: it has no index, its file is small or has changed since the other parts
-// were read.
+// Null when the table must be read as a whole: it has no intact index, its file is small or has changed since the
+// other parts were read.
 std::unique_ptr<const StoredTable::Part> StoredTable::readPart(const Runtime::OpenFile& file,
                                                                std::string_view key) const {
     const Part* const first = parts_.front().load(std::memory_order_acquire);

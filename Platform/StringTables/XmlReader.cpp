@@ -51,8 +51,8 @@ private:
     std::string text_; // of the key or string that is open
 };
 
-// Checks that the innermost open element may contain `element` now, and records there that it does. Returns an error
-// message, or an empty string.
+// Checks that the innermost open element may contain `element` now, and updates the level of that open element. Returns
+// an error message, or an empty string.
 std::string XmlReader::checkPlacement(const Element& element) {
     const auto tag = [&element] { return std::string("<").append(element.name).append(">"); };
     if (levels_.empty())

@@ -1,5 +1,5 @@
 // Foundation/internal/FormattedText.h
-// Formatting like String::format(), for callers that know more about the text; internal.
+// Formatting like String::format(), for callers that know where a text has its percent signs; internal.
 // Text: UTF-8. Threads: any; no state. Errors: those of String::format().
 #pragma once
 

@@ -21,7 +21,8 @@ struct HostLanguages {
 };
 [[nodiscard]] HostLanguages hostLanguages();
 
-// Converts a POSIX locale name to BCP 47: "sr_RS.UTF-8@latin" gives "sr-Latn-RS". A BCP 47 tag stays as it is.
+// Converts a POSIX locale name to BCP 47: "sr_RS.UTF-8@latin" gives "sr-Latn-RS". Modifiers other than "latin" and
+// "cyrillic" are dropped. A BCP 47 tag stays as it is.
 [[nodiscard]] std::string languageTag(std::string_view localeName);
 
 } // namespace Foundation::detail

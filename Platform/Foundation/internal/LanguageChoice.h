@@ -11,8 +11,8 @@
 
 namespace Foundation::detail {
 
-// The index in `supported` of the best match for `wanted`, or no value if none is of the same language. Throws like
-// Intl::matchLanguage().
+// The index in `supported` of the best match for `wanted`, or no value: what Intl::matchLanguage() returns, in the
+// common cases without ICU. Throws like it.
 [[nodiscard]] std::optional<std::size_t> chooseLanguage(std::string_view wanted,
                                                         std::span<const std::string> supported);
 

@@ -17,7 +17,7 @@ public:
     enum Type : std::uint8_t { ascii = 0x5, utf16 = 0x6, dictionary = 0xD };
 
     struct Object {
-        std::size_t at = 0;      // of the marker byte
+        std::size_t at = 0;      // the offset of the marker byte
         std::uint8_t type = 0;   // the upper four bits of the marker byte
         std::uint64_t count = 0; // of the bytes, UTF-16 units or entries; until it is read, the lower four bits
         std::size_t begin = 0;   // where they begin
@@ -28,8 +28,8 @@ public:
     explicit BinaryObjects(Contents& contents)
         : contents_(contents), bytes_(contents.source), unread_(contents.source.size()) {}
 
-    // Reads the trailer; call this first. After an error, this and the other functions that return bool return false;
-    // see error().
+    // Reads the trailer; call this first. This and the other public functions that return bool return false on an
+    // error, which error() then returns.
     bool open();
     Runtime::Error& error() noexcept { return error_; }
 
@@ -56,7 +56,7 @@ public:
         error_ = contents_.errorAt(at, std::move(message));
         return false;
     }
-    // What a value that is not a string is, for notes; null for an unknown type.
+    // What a value of that type is ("an array"), for notes; null for a string and an unknown type.
     static const char* describe(std::uint8_t type) noexcept;
 
 private:
@@ -72,7 +72,7 @@ private:
     }
     std::uint8_t byte(std::size_t at) const noexcept { return static_cast<std::uint8_t>(bytes_[at]); }
     // `size` is 1 to 8. Reading eight bytes is always safe: the file ends with the trailer, whose last number has
-    // eight.
+    // eight bytes.
     std::uint64_t number(std::size_t at, std::size_t size) const noexcept {
         std::uint64_t value;
         std::memcpy(&value, bytes_.data() + at, sizeof value);

@@ -1,7 +1,7 @@
 // StringTables/internal/BundleLayout.h
 // The layout of a bundle's texts: Info.plist, and for each language a folder LANGUAGE.lproj with its tables,
-// TABLE.strings and TABLE.stringsdict. Info.plist names the development language. Its texts are in Base.lproj, in the
-// folder of that language, or in both.
+// TABLE.strings and TABLE.stringsdict. Info.plist names the development language. The texts of that language are in
+// Base.lproj, in the language's own folder, or in both.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 

@@ -1,7 +1,7 @@
 // StringTables/internal/CompiledIndex.h
 // The index of a compiled table. A compiled table is a valid binary property list: a dictionary of texts. Its first
 // object, which nothing refers to, is a data object with two things: an index that finds an entry's key and text
-// without reading the rest of the file, and a UTF-8 copy of the strings that the list stores in UTF-16.
+// without reading the rest of the file, and a UTF-8 copy of the strings that the dictionary has in UTF-16.
 // Docs/decisions/0006-compiled-tables.md gives the reasons.
 //
 // The file: "bplist00"; the index; the ASCII strings; the dictionary; the UTF-16 strings; the offsets; the trailer. The

@@ -112,7 +112,7 @@ private:
     Location location_{1, 1};
 };
 
-// `text` in quotation marks, for messages: one line, cut when it is long.
+// `text` in quotation marks, for messages: in one line, cut after at most 60 bytes.
 [[nodiscard]] std::string quoted(std::string_view text);
 
 // Detects the form of the source and where its content begins, and converts UTF-16 text to UTF-8.

@@ -25,7 +25,7 @@ struct Placeholder {
     };
 
     Kind kind = Kind::percent;
-    char conversion = '%'; // '%'; '@'; one of d i u x X o c; one of f F e E g G a A. "%s %S" read as '@', D U O C as
+    char conversion = '%'; // '%'; '@'; one of d i u x X o c; one of f F e E g G a A. %s and %S give '@', D U O C give
                            // their lower-case forms
     std::uint16_t position = 0; // 1 for "%1$@"; 0 when the placeholder takes the next argument
     bool leftAligned = false;   // '-'
@@ -114,7 +114,7 @@ struct FormatSignature {
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one
     bool mixesPositions = false;      // one text takes arguments both by position and in order (ArgumentStyle)
-    bool hasLonePercent = false;      // some '%' does not begin a placeholder
+    bool hasLonePercent = false;      // some '%' does not begin a placeholder; never set for plurals
 
     // Adds the arguments that a placeholder takes.
     void add(const Placeholder& placeholder, const ArgumentCounter::Taken& taken);

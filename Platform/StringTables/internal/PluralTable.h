@@ -46,9 +46,10 @@ struct PluralEntry {
 
 class PluralTable {
 public:
-    // Reads a table from a property list, XML or binary. Errors as in Table; an empty source is an empty table. Limits:
-    // those of Table, where maxEntries is for the keys of all levels, and maxTextBytes for all keys and texts together,
-    // each counted as often as entries share it. Throws std::bad_alloc when memory runs out.
+    // Reads a table from a property list, XML or binary. Errors as in Table; a source that is empty or only white space
+    // is an empty table. Limits: those of Table, where maxEntries is for the keys of all levels, and maxTextBytes for
+    // all keys and texts together, each counted as often as entries share it. Throws std::bad_alloc when memory runs
+    // out.
     [[nodiscard]] static Runtime::Result<PluralTable> read(std::string bytes);
     // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, `path` begins
     // with it, and links must not lead out of that folder. Reading comments takes a separate pass.

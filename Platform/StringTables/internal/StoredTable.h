@@ -81,7 +81,7 @@ private:
 
     std::string path_;
     std::size_t bundlePathSize_;
-    std::array<std::atomic<const Part*>, mostParts> parts_{}; // filled from the front
+    std::array<std::atomic<const Part*>, mostParts> parts_{}; // filled in order
     Runtime::OnceSlot<Whole> whole_;
 };
 

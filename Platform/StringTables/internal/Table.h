@@ -34,7 +34,7 @@ struct Entry {
 
 // What was skipped in a table: one sentence with its location.
 struct TableNote : Runtime::Error {
-    std::optional<std::string> repeatedKey{}; // set when the note is that the last text of a repeated key is used
+    std::optional<std::string> repeatedKey{}; // the key, if it is repeated and its last value is used
 };
 
 namespace internal {
@@ -73,9 +73,9 @@ public:
     [[nodiscard]] std::span<const TableNote> notes() const noexcept;
     // The location of every entry's key, in the order of the entries; found in one pass.
     [[nodiscard]] std::vector<Location> locations() const;
-    // The comment of every entry, in the order of the entries; found in one pass. It is made of the comments directly
-    // before the key, without a blank line between them, joined with LF; a comment at the end of another entry's line
-    // is not part of it. Empty when there is none, and in a binary table.
+    // The comment of every entry, in the order of the entries; found in one pass. It is made of the comments before
+    // the key, back to the nearest blank line or other content, joined with LF; a comment at the end of another entry's
+    // line is not part of it. Empty when there is none, and in a binary table.
     [[nodiscard]] std::vector<std::string> comments() const;
     [[nodiscard]] Form form() const noexcept; // text for a default-constructed table
 

@@ -8,8 +8,8 @@
 
 namespace StringTables::internal {
 
-// Whether XML can represent the text, which is UTF-8: it has neither control characters, except tabs and line breaks,
-// nor U+FFFE or U+FFFF.
+// Whether XML can represent the text, which is UTF-8: below U+0020 it has only tabs and line breaks (LF, CR), and it
+// has neither U+FFFE nor U+FFFF.
 [[nodiscard]] bool canBeXml(std::string_view text) noexcept;
 
 // Escapes `text` as element content. With `inAscii`, characters that are not ASCII become numeric references.
