@@ -16,8 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Foundation::Locale locale{std::string(nextLine())};
     const std::string_view format = nextLine();
     std::vector<Foundation::FormatArgument> arguments;
-    // More symbols than any placeholder prints: digits for the largest width or precision, with grouping separators.
-    std::size_t longest = 512 + 3 * Foundation::String::largestSize;
+    // More symbols than one placeholder prints: the integer digits of a double with grouping separators, padding to the
+    // largest width, as many decimals, and all texts.
+    std::size_t mostSymbols = 512 + 3 * Foundation::String::largestSize;
     while (!rest.empty()) {
         const std::string_view line = nextLine();
         std::int64_t integer = 0;
@@ -30,12 +31,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             arguments.emplace_back(number);
         } else {
             arguments.emplace_back(line);
-            longest += line.size();
+            mostSymbols += line.size();
         }
     }
     const std::string text = Foundation::String::format(format, locale, arguments);
     constexpr std::size_t longestSymbol = 16; // the bytes of a digit or separator in any locale
-    require(text.size() <= format.size() * longest * longestSymbol);
+    require(text.size() <= format.size() * mostSymbols * longestSymbol);
     require(text.size() <= format.size() + Foundation::String::largestGrowth);
     require(format.find('%') != std::string_view::npos || text == format);
     return 0;

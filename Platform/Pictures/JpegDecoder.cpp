@@ -76,13 +76,14 @@ private:
             self.fail();
     }
 
-    // Converts CMYK in place. Files with an Adobe marker store inverted values.
+    // Converts CMYK in place: red is (255 - cyan) * (255 - black) / 255, and so on. Files with an Adobe marker store
+    // these differences already.
     void toRgba(std::uint8_t* pixel, const std::uint8_t* end) const {
-        const unsigned flip = jpeg_.saw_Adobe_marker ? 0 : 255;
+        const unsigned flip = jpeg_.saw_Adobe_marker ? 0 : 255; // 255 - x is x ^ 255
         for (; pixel != end; pixel += 4) {
-            const unsigned black = pixel[3] ^ flip;
+            const unsigned notBlack = pixel[3] ^ flip;
             for (int channel = 0; channel < 3; ++channel)
-                pixel[channel] = static_cast<std::uint8_t>(((pixel[channel] ^ flip) * black + 127) / 255);
+                pixel[channel] = static_cast<std::uint8_t>(((pixel[channel] ^ flip) * notBlack + 127) / 255);
             pixel[3] = 255;
         }
     }

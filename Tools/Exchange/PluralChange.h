@@ -15,7 +15,8 @@ inline constexpr std::string_view formatPart = "format", variablesPart = "variab
 // Writes the units' texts into `plural`. A new variable gets its value type from `development`, or "ld".
 void applyTo(StringTables::PluralFormat& plural, std::span<const Unit* const> units,
              const SourceBundle::SourceEntry& development);
-// A new plural with all texts of the change. Without a unit for the format, it has the format of the development text.
+// A new plural with all texts of the change. Without a unit for the format, it has the format of the development text,
+// or none if that is no plural.
 [[nodiscard]] StringTables::PluralFormat newPlural(const Change& change);
 
 } // namespace Exchange

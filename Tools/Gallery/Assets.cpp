@@ -70,7 +70,7 @@ private:
 
 using AssetKey = std::pair<Kind, std::string>;
 
-// The accessors of the assets, relative to the tree: "Images::send".
+// The accessors of the assets, which are the constants of the generated code, without the tree: "Images::send".
 std::map<AssetKey, std::string> accessorsOf(const std::vector<Entry>& entries) {
     std::vector<SourceBundle::SourceAsset> assets;
     assets.reserve(entries.size());
