@@ -77,7 +77,7 @@ TEST(BinaryTable, ReadsEveryLayout) {
 }
 
 TEST(BinaryTable, NotesSkippedValues) {
-    // Itself, a boolean, a truncated date, a reference, an array without its members.
+    // The values: the dictionary itself, a boolean, a truncated date, a reference, an array without its members.
     const std::string bytes = file({"\xD6\1\2\3\4\5\1\0\6\7\x8\x9\6"s, "\121a", "\121b", "\121c", "\121d", "\121e",
                                     "\x09", "\x33", "\x80", "\xAF"});
     EXPECT_EQ(read(bytes), Pairs());

@@ -154,7 +154,8 @@ TEST(Collisions, EndTheSearchForAnIndex) {
 
 TEST(Collisions, CostACatalogNothing) {
     using namespace AssetCatalog;
-    expectLinear(hashes[2], "catalog", [](const Names& names) {
+    const Hash& ownHash = hashes[2];
+    expectLinear(ownHash, "catalog", [](const Names& names) {
         std::vector<Asset> assets;
         for (const std::string& name : names) {
             const Picture dot{.fit = {}, .width = 1, .height = 1, .points = {1, 1}, .bytes = shared(std::string(name))};

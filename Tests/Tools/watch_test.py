@@ -57,7 +57,7 @@ class Watch(unittest.TestCase):
     def test_every_kind_of_change(self):
         table = self.write("en.lproj/T.strings", 'a = "two";')
         self.expect("two")
-        # Like editors: a new file that is renamed.
+        # Editors write a new file and rename it.
         self.write("en.lproj/.T.swp", 'a = "three";').rename(table)
         self.expect("three")
         # A new folder that is filled at once, a renamed one, and changes in it afterwards.
