@@ -427,6 +427,7 @@ class Program(unittest.TestCase):
         self.assertIn('"title":"Sales"', page.read_text())
         self.assertIn('"accessor":"T::a"', page.read_text())
         self.assertEqual(run("gallery", source, "--bundle", bundle, "-o", page)[0], 2)
+        self.assertIn("temporary folder: No such file", run("gallery", source, "-o", page, TMPDIR=self.folder / "none")[2])
 
 
 if __name__ == "__main__":

@@ -5,7 +5,9 @@
 #include "Gallery/Gallery.h"
 #include "Program/OwnBundle.h"
 #include "Program/SourceArguments.h"
+#include "Runtime/internal/SystemError.h"
 #include <CLI/CLI.hpp>
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -33,7 +35,7 @@ public:
         std::error_code failed;
         std::string path = fs::temp_directory_path(failed) / "lumora-gallery-XXXXXX";
         if (failed || ::mkdtemp(path.data()) == nullptr)
-            return Runtime::Error{.message = "cannot create a temporary folder", .file = path};
+            return Runtime::systemError(path, "cannot create a temporary folder", failed ? failed.value() : errno);
         return TemporaryFolder(std::move(path));
     }
     TemporaryFolder(TemporaryFolder&& other) noexcept : path_(std::exchange(other.path_, {})) {}

@@ -22,7 +22,7 @@ void SourceArguments::addNamesTo(CLI::App& command) {
 
 void SourceArguments::addPseudoTo(CLI::App& command) {
     command.add_flag("--pseudo", options.addsPseudoLanguages,
-                     "Add the pseudo languages en-XA (accented, longer) and ar-XB (right to left)");
+                     "Add the pseudo-languages en-XA (accented, longer) and ar-XB (right to left)");
 }
 
 std::vector<std::filesystem::path> SourceArguments::paths() const {
