@@ -151,7 +151,7 @@ struct NSBundle::Contents {
     using Choice = std::optional<std::size_t>;
 
     NSBundle bundle;                    // only that of a path's first contents is used: a reload keeps the object
-    Contents* previous = nullptr;       // replaced by a reload; kept reachable for leak checkers
+    Contents* previous = nullptr;       // those that a reload replaced with these; kept reachable for leak checkers
     std::optional<std::uint64_t> state; // bundleState() before a reload read the files; none in the first contents
     std::string path;
     std::string developmentLocalization;

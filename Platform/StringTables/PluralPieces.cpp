@@ -128,9 +128,9 @@ private:
                 add(PluralPieces(plural_, *form, variable, argument), argument);
     }
 
-    // Variables whose forms contain each other could increase the argument without end.
+    // Limits, because variables whose forms contain each other could increase the argument without end.
     static constexpr std::size_t lastSelecting = 64; // the last argument whose forms are read
-    static constexpr std::size_t mostVisits = 256;
+    static constexpr std::size_t mostVisits = 256;   // of a variable with an argument
 
     const PluralFormat& plural_;
     std::set<std::pair<const PluralVariable*, std::size_t>> seen_;

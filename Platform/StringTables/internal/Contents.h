@@ -54,7 +54,7 @@ struct Contents {
     Form form = Form::text;
     Arena arena;
     std::vector<Entry> entries;
-    bool hasSkipped = false; // whether a value was not a text, so that an entry may have none
+    bool hasSkipped = false; // whether an entry may be without a text, because its value is of another type
     // The offset of the first key whose value was skipped when the table was full.
     std::optional<std::uint32_t> skippedWhenFull;
     std::vector<TableNote> notes; // made by finish()

@@ -11,7 +11,7 @@ inline constexpr std::string_view format = "NSStringLocalizedFormatKey";
 inline constexpr std::string_view ruleType = "NSStringFormatSpecTypeKey";
 inline constexpr std::string_view pluralRule = "NSStringPluralRuleType";
 inline constexpr std::string_view valueType = "NSStringFormatValueTypeKey";
-// Keys of dictionaries that have an entry's texts by the width of their place, and by the kind of device.
+// Keys of dictionaries that have an entry's texts by the width of the place that shows them, and by the kind of device.
 inline constexpr std::string_view widthRule = "NSStringVariableWidthRuleType";
 inline constexpr std::string_view deviceRule = "NSStringDeviceSpecificRuleType";
 

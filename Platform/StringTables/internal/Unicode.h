@@ -1,5 +1,5 @@
 // StringTables/internal/Unicode.h
-// Validates, encodes and cuts UTF-8. Threads: any; no state.
+// Validates, converts and cuts UTF-8. Threads: any; no state.
 #pragma once
 
 #include <algorithm>
