@@ -24,7 +24,7 @@ std::string embedded(const nlohmann::ordered_json& json) {
     return safe;
 }
 
-// The page with both instead of its placeholders.
+// The page with `resources` and `pictures` in place of its placeholders.
 std::string filled(const std::string& resources, const std::string& pictures) {
     static constexpr std::string_view resourcesMark = "@RESOURCES@", picturesMark = "@PICTURES@";
     const std::size_t first = pageTemplate.find(resourcesMark);

@@ -44,7 +44,8 @@ struct Model {
 // NAMEResources.h and .cpp. The internal headers are in NAMEStrings/Internal and NAMEAsset/Internal.
 [[nodiscard]] std::vector<OutputFile> filesOf(const Model& model, const Options& options);
 
-// Reports each option that its comment in Options does not allow as an error.
+// Reports as errors: a name that Namer::isModuleName() rejects, headers that cannot be in an #include line, too many
+// shards or none.
 void check(const Options& options, SourceBundle::Diagnostics& diagnostics);
 
 // Writes the files into `folder` and removes files of earlier runs that are no longer generated.

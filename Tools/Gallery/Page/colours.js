@@ -20,7 +20,7 @@ function over(colour, ground) {
     return colour.slice(0, 3).map((component, i) => clamped(component) * colour[3] + ground[i] * (1 - colour[3]));
 }
 
-// The relative luminance, 0 to 1.
+// The relative luminance, 0 to 1, of an opaque colour within sRGB.
 function luminance(colour) {
     const [red, green, blue] = colour.map((c) => (c <= 0.04045 ? c / 12.92 : ((c + 0.055) / 1.055) ** 2.4));
     return 0.2126 * red + 0.7152 * green + 0.0722 * blue;
@@ -62,7 +62,7 @@ function colourRow(asset) {
 
 const colourLists = assetLists(assetsOf("color").map(colourRow), "colours");
 
-// The colour for progress towards a goal, as watchProgress() in Lumora/ProgressColors.cpp computes it.
+// The colour for progress (0 to 1) towards a goal, as watchProgress() in Lumora/ProgressColors.cpp computes it.
 function progressColour([red, green, blue], progress) {
     return [Math.max(red, 2 * (1 - progress)), Math.min(green, 2 * progress), progress * blue, 1];
 }

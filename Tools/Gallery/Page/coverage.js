@@ -1,8 +1,10 @@
 // The coverage of each language.
-function coverageOf(language) {
+
+// How many texts have each status (see statusOf()) in the language with that index.
+function coverageOf(index) {
     const counts = { translated: 0, same: 0, missing: 0 };
     for (const text of resources.texts)
-        counts[statusOf(text, language)] += 1;
+        counts[statusOf(text, index)] += 1;
     return counts;
 }
 

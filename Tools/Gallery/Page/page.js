@@ -25,12 +25,12 @@ function fillHead() {
 
 function fillLanguageChoices() {
     const second = languages.length > 1 ? 1 : 0;
-    for (const [side, first] of [["a", development], ["b", second]]) {
+    for (const [side, initial] of [["a", development], ["b", second]]) {
         const select = byId(`language-${side}`);
         select.append(...languages.map((language, i) =>
             make("option", { value: language.code, lang: language.tag }, `${language.name} (${language.code})`)));
-        select.selectedIndex = first;
-        chooseLanguage(side, first);
+        select.selectedIndex = initial;
+        chooseLanguage(side, initial);
         select.addEventListener("change", () => {
             chooseLanguage(side, select.selectedIndex);
             search();
@@ -51,12 +51,12 @@ function goTo(element) {
     step();
 }
 
-// Lists the missing texts of a language or, if there are none, the untranslated ones.
-function showMissing(language, counts) {
-    byId("language-b").selectedIndex = language;
+// Lists the missing texts of the language with that index or, if there are none, the untranslated ones, or else all.
+function showMissing(index, counts) {
+    byId("language-b").selectedIndex = index;
     const untranslated = counts.same ? "same" : "all";
     byId("status").value = counts.missing ? "missing" : untranslated;
-    chooseLanguage("b", language);
+    chooseLanguage("b", index);
     search();
     goTo(byId("texts"));
 }
@@ -140,7 +140,7 @@ async function copy(button) {
     }
 }
 
-// Keys: / focuses the search field, Escape clears it, the arrow keys move between accessors.
+// Focuses the accessor that is `step` places after this one, and returns it if there is one.
 function goToNeighbour(button, step) {
     const buttons = Array.from(document.querySelectorAll("main .accessor"));
     const next = buttons[buttons.indexOf(button) + step];
@@ -149,6 +149,7 @@ function goToNeighbour(button, step) {
     return next;
 }
 
+// "/" focuses the search field, Escape clears it, the arrow keys move between accessors.
 function onKey(event) {
     const isTyping = event.target.matches("input[type=search], select");
     const isPlain = !event.ctrlKey && !event.metaKey && !event.altKey;
