@@ -47,7 +47,7 @@ Runtime::Result<void> removeStale(const fs::path& folder, const std::set<fs::pat
 Runtime::Result<void> writeFiles(const fs::path& folder, const std::vector<OutputFile>& files,
                                  const std::vector<fs::path>& ownFolders) {
     std::set<fs::path> made, folders;
-    std::set<std::string> marks;
+    std::set<std::string> marks; // the first lines of the files
     for (const OutputFile& file : files) {
         const fs::path path = folder / file.path;
         if (auto written = writeChanged(path, file.content); !written)

@@ -116,7 +116,7 @@ std::optional<Format> formatOf(std::string_view bytes) {
         return Format::webp;
     if (isHeif(bytes))
         return Format::heif;
-    if (bytes.substr(0, 1024).find("%PDF-") != std::string_view::npos)
+    if (bytes.substr(0, 1024).find("%PDF-") != std::string_view::npos) // readers accept other bytes before it
         return Format::pdf;
     return isXml(bytes) ? std::optional(Format::svg) : std::nullopt;
 }
