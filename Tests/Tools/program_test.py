@@ -192,6 +192,7 @@ class Program(unittest.TestCase):
                 ("--bundle: the name is empty", "text", "--bundle", "", "a"), ("--bundle: the name is empty", "assets", "--bundle", ""),
                 ("SOURCE: the name is empty", "generate", "", "--module", "M", "-o", "x"),
                 ("--output: the name is empty", "generate", source, "--module", "M", "-o", ""),
+                ("--names requires SOURCE", "gallery", "--names", file, "-o", self.folder / "x"),
                 ("--depfile requires --depfile-target", "compile", source, "-o", "x", "--depfile", "d"),
                 ("unknown rule x", "check", source, "--disable", "x"), ("yaml", "check", source, "--format", "yaml"),
                 ("1 to 1000", "generate", source, "--module", "M", "-o", self.folder / "x", "--shards", "0"),

@@ -110,6 +110,8 @@ void addGalleryCommand(CLI::App& program, Exit& exit) {
     CLI::Option* source = options->source.addTo(*command);
     options->source.addNamesTo(*command);
     options->source.addPseudoTo(*command);
+    for (const char* option : {"--development-language", "--names", "--pseudo"})
+        command->get_option(option)->needs(source);
     command->add_option("--bundle", options->bundle, "A compiled bundle (default: Lumora's own)")
         ->check(notEmpty())
         ->excludes(source);
