@@ -1,5 +1,5 @@
-// Implements Intl::Services with ICU, for the plug-in and for lumora-precompute. When ICU reports an error, the result
-// is no language, the plain number pattern or empty year forms; only std::bad_alloc is thrown.
+// Implements Intl::Services with ICU, for the plug-in and for lumora-precompute. When ICU reports an error, no
+// language matches, the number pattern is the plain one, and the year forms are empty. Only std::bad_alloc is thrown.
 #include "Intl/internal/Intl.h"
 
 #include "Intl/internal/IcuText.h"

@@ -6,7 +6,7 @@ namespace StringTables {
 
 namespace {
 
-// Reads the parts of a placeholder in order. A function that reads a part returns false if this is no placeholder.
+// Reads the parts of a placeholder in order. A function that reads a part returns false if this is not a placeholder.
 class Reader {
 public:
     Reader(std::string_view format, std::size_t percent) noexcept : format_(format), at_(percent + 1) {

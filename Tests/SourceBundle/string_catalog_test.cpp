@@ -126,7 +126,7 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              ", 'other': " + unit("Click %@, %#@a@") + "}}}",
          "Click %1$@, %2$#@a@ {a lld one=%2$lld egg other=%2$lld eggs in %3$#@b@} {b lld one=a box other=%3$lld "
          "boxes}"},
-        // An empty text in the state `new` is no text.
+        // An empty text in the state `new` counts as absent.
         {__LINE__,
          "{'variations': {'plural': {'one': {'stringUnit': {'state': 'new', 'value': ''}}, 'other': " +
              unit("%d eggs") + "}}}",

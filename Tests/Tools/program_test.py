@@ -290,7 +290,7 @@ class Program(unittest.TestCase):
         self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle"), (0, b"", ""))
         self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
                          b"Hello, Bo\n")
-        # This bundle has no assets and therefore no catalog, which is no error; a missing bundle is one.
+        # This bundle has no assets and therefore no catalog, which is not an error; a missing bundle is one.
         bundle = self.folder / "Shop.bundle"
         self.assertEqual(run("assets", "--bundle", bundle), (0, b"", ""))
         self.assertEqual(run("asset", "send", "--bundle", bundle, "-o", "-"),

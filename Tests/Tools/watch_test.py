@@ -91,7 +91,7 @@ class Watch(unittest.TestCase):
         self.assertEqual(self.process.wait(timeout=60), 0)
 
     def test_ends_when_the_terminal_closes_and_watches_nothing_that_it_makes(self):
-        self.assertRaises(queue.Empty, self.lines.get, timeout=1)  # the bundle in the source is no change
+        self.assertRaises(queue.Empty, self.lines.get, timeout=1)  # the bundle in the source does not count as a change
         self.process.send_signal(signal.SIGHUP)
         self.assertEqual(self.process.wait(timeout=60), 0)
         self.assertEqual({path.name for path in self.source.iterdir()}, {"en.lproj", "Made.bundle"})

@@ -85,7 +85,7 @@ private:
 };
 
 // A message about a whole set names its folder, but the finding is in the set's Contents.json. (A folder that is named
-// like a table is no set.)
+// like a table is not a set.)
 Runtime::Error placeOf(const Runtime::Error& what, Topic topic) {
     std::error_code failed;
     if (topic == Topic::unreadableTable || what.line != 0 || !fs::is_directory(what.file, failed))

@@ -74,7 +74,7 @@ struct CheckedTable {
 };
 
 // missing-key, unknown-key, space-mismatch, newline-mismatch, and all rules above, for the texts of a table in one
-// language. Returns the coverage: zeros if these texts are no translations or a file of them is damaged.
+// language. Returns the coverage: zeros if these texts are not translations or a file of them is damaged.
 Coverage checkTable(const SourceBundle::Source& source, const CheckedTable& table, std::string_view language,
                     Report& report);
 

@@ -16,7 +16,7 @@ inline constexpr std::string_view formatPart = "format", variablesPart = "variab
 void applyTo(StringTables::PluralFormat& plural, std::span<const Unit* const> units,
              const SourceBundle::SourceEntry& development);
 // A new plural with all texts of the change. Without a unit for the format, it has the format of the development text,
-// or none if that is no plural.
+// or none if that is not a plural.
 [[nodiscard]] StringTables::PluralFormat newPlural(const Change& change);
 
 } // namespace Exchange

@@ -77,7 +77,7 @@ std::size_t markupSize(std::string_view text) {
     return end == text.npos || text[end] != (isTag ? '>' : ';') ? 0 : end + 1;
 }
 
-// The number of leading bytes that are no part of a word: markup, or one separator.
+// The number of leading bytes that are not part of a word: markup, or one separator.
 std::size_t unchangedSize(std::string_view text) {
     if (const std::size_t markup = markupSize(text))
         return markup;

@@ -95,7 +95,7 @@ class Source {
 public:
     // Reads the folders as one source. Problems are added to `diagnostics`; after an error the source contains what
     // could be read. Two files with the same table and language are an error that names both, and only the first is
-    // used. TABLE.strings and TABLE.stringsdict together are no error: if a key is in both, the plural is used.
+    // used. TABLE.strings and TABLE.stringsdict together are not an error: if a key is in both, the plural is used.
     [[nodiscard]] static Source read(std::span<const std::filesystem::path> folders, const SourceOptions& options,
                                      Diagnostics& diagnostics);
     // Reads the tables and the Info.plist of a compiled bundle.
