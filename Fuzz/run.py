@@ -1,7 +1,8 @@
-"""Runs fuzzers, two at a time, each for SECONDS of processor time: run.py FOLDER SECONDS [NAME...].
+"""Runs fuzzers, two at a time, each for SECONDS of processor time: run.py PROGRAMS SECONDS [NAME...].
 
-FOLDER has the programs fuzz-NAME. FOLDER/fuzzing/NAME gets what a fuzzer adds to its corpus, its log, and the input at which
-it failed, if any. A failure ends that fuzzer, the others go on, and the run ends with an error.
+PROGRAMS is the folder of the programs fuzz-NAME. PROGRAMS/fuzzing/NAME, which is emptied first, gets the log, the inputs that the
+fuzzer adds to its corpus, and the input at which it failed, if any. A failure ends that fuzzer, the others go on, and the run ends
+with an error.
 """
 import os
 import pathlib
@@ -13,8 +14,8 @@ import sys
 import time
 
 together = 2
-folder = pathlib.Path(__file__).parent
-corpora = {corpus.name.removesuffix("-corpus"): corpus for corpus in sorted(folder.glob("*/*-corpus"))}
+fuzzers = pathlib.Path(__file__).parent
+corpora = {corpus.name.removesuffix("-corpus"): corpus for corpus in sorted(fuzzers.glob("*/*-corpus"))}
 ticks = os.sysconf("SC_CLK_TCK")
 
 

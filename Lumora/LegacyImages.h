@@ -1,8 +1,8 @@
 // Lumora/LegacyImages.h
 // The pictures that older screens use by fixed names, and the names of two of them. There are two functions for each,
 // such as legacyAddDiet() and addDiet(); the second has the name that is also published to messages (Runtime/Class.h).
-// Class::classProperties() lists the names in the order of this file. Some do not match their picture, such as
-// legacyIconOnce() for "icon_month", but callers rely on them.
+// Class::classProperties() lists the published names in the order of this file. Some first names do not match their
+// picture, such as legacyIconOnce() for "icon_month", but callers rely on them.
 // Threads: any. A picture is looked up once, at the first call of either function; later calls return the same object.
 // Ownership: the pictures live until the process ends. Errors: a missing picture stops the process; when memory or
 // descriptors run out, std::bad_alloc or std::system_error is thrown, and the next call tries again.

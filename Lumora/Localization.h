@@ -16,7 +16,8 @@
 
 namespace Lumora {
 
-// All members are static. The class "Lumora.Localization" publishes most of them to messages (Runtime/Class.h).
+// All members are static. Names with "legacy" are those that the application's code calls; they are current. The class
+// "Lumora.Localization" publishes most of them to messages (Runtime/Class.h).
 class LUMORA_EXPORT Localization {
 public:
     // The current language: the first of the bundle's preferred localizations (NSBundle), or English when that is not

@@ -1,7 +1,7 @@
 // Foundation/Describable.h
-// The platform's default description of a value, as a parameter type: a function with a `const Describable&` parameter
-// accepts any value that can be described. Every header of generated texts includes this one, so it includes little.
-// Text: UTF-8; the bytes of strings are passed through unchanged. Threads: plain values.
+// The text of a value, in the style of "Optional(5)", as a parameter type: a function with a `const Describable&`
+// parameter accepts any value that can be described. Every header of generated texts includes this one, so it includes
+// little. Text: UTF-8; the bytes of strings are passed through unchanged. Threads: plain values.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -73,7 +73,8 @@ concept Sequence = requires(const T& value) {
 } // namespace detail
 
 // The description of a value:
-// - a string (anything that converts to std::string_view; a null const char* is "nil") or a character: itself;
+// - a string (anything that converts to std::string_view; nullptr and a null const char* are "nil") or a character:
+// itself;
 // - a bool, or an element of a std::vector<bool> or std::bitset: "true" or "false"; an integer: its decimal digits;
 // - a floating-point number: the fewest digits that give the same value, with a point or an exponent: "0.1", "1e+16";
 //   "inf", "-inf" or "nan";

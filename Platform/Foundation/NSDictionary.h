@@ -1,5 +1,6 @@
 // Foundation/NSDictionary.h
-// A dictionary of strings read from a file: a string table in any of its forms.
+// A dictionary of strings read from a file: a table of texts (.strings) in the text form or as a property list, XML or
+// binary.
 // Text: UTF-8; paths are raw bytes. Threads: any, immutable. Ownership: views live as long as the dictionary.
 #pragma once
 
@@ -13,8 +14,8 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSDictionary {
 public:
-    // Reads the whole file; no value when it is missing, damaged or too large. Throws std::bad_alloc, and
-    // std::system_error on a transient error.
+    // Reads the whole file; no value if it is missing, cannot be read, is damaged, or has more than 256 MiB. Throws
+    // std::bad_alloc, and std::system_error on a transient error, such as too many open files.
     [[nodiscard]] static std::optional<NSDictionary> dictionaryWithContentsOfFile(const std::string& path);
 
     // The text of `key` (exact); no value when there is none or it is not a string.

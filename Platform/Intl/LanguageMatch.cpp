@@ -10,7 +10,7 @@ namespace {
 
 // Replaces outdated language codes: "iw" becomes "he".
 icu::Locale canonical(std::string_view identifier) {
-    // A modifier such as "@euro" does not affect the match; callers have replaced "@latin" by the script's code.
+    // A modifier such as "@euro" does not affect the match.
     icu::Locale locale = icuLocale(identifier.substr(0, identifier.find('@')));
     UErrorCode status = U_ZERO_ERROR;
     locale.canonicalize(status);
@@ -26,24 +26,24 @@ std::string_view languageOf(const icu::Locale& locale) {
 } // namespace
 
 std::optional<std::size_t> bestLanguage(std::string_view desired, std::span<const std::string> supported) {
-    const icu::Locale reader = canonical(desired);
-    if (languageOf(reader).empty())
+    const icu::Locale user = canonical(desired);
+    if (languageOf(user).empty())
         return std::nullopt;
     // ICU's matcher may also select related languages that many readers understand. We never do that, so it gets only
-    // the variants of the reader's language.
+    // the variants of the user's language.
     UErrorCode status = U_ZERO_ERROR;
     icu::LocaleMatcher::Builder builder;
     builder.setNoDefaultLocale();
     std::vector<std::size_t> candidates;
     for (std::size_t i = 0; i < supported.size(); ++i)
-        if (const icu::Locale locale = canonical(supported[i]); languageOf(locale) == languageOf(reader)) {
+        if (const icu::Locale locale = canonical(supported[i]); languageOf(locale) == languageOf(user)) {
             builder.addSupportedLocale(locale);
             candidates.push_back(i);
         }
     if (candidates.empty())
         return std::nullopt;
     const icu::LocaleMatcher matcher = builder.build(status);
-    const icu::LocaleMatcher::Result result = matcher.getBestMatchResult(reader, status);
+    const icu::LocaleMatcher::Result result = matcher.getBestMatchResult(user, status);
     if (!succeeded(status) || result.getSupportedIndex() < 0)
         return std::nullopt;
     return candidates[static_cast<std::size_t>(result.getSupportedIndex())];

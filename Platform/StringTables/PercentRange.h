@@ -32,7 +32,7 @@ public:
         return end == toTheEnd ? text.size() : end;
     }
 
-    // Both ends in one number, at most `largestPacked`.
+    // Both ends in one number, at most `largestPacked`, so that a caller can store other states as greater numbers.
     constexpr std::uint32_t packed() const noexcept { return packed_; }
     static constexpr PercentRange unpacked(std::uint32_t packed) noexcept { return PercentRange(packed); }
     static constexpr std::uint32_t largestPacked = 0xFFFE'FFFF;

@@ -17,7 +17,7 @@ namespace {
 using internal::Contents;
 
 // Selects the text of an entry with a `widthRule` or `deviceRule`: that for the greatest width, or that for the device
-// with the lowest rank.
+// with the lowest rank. With both rules, a text for a device is selected, because every width has a higher rank.
 class TextChoice {
 public:
     void begin(std::string_view rule) { isByWidth_ = rule == pluralKeys::widthRule; }
@@ -30,6 +30,7 @@ public:
         }
         if (count_++ == 0 || rank < rank_) {
             rank_ = rank;
+            isWidthSelected_ = isByWidth_;
             text_.assign(text);
         }
     }
@@ -39,13 +40,14 @@ public:
     const char* unusedNote() const noexcept {
         if (count_ < 2)
             return nullptr;
-        return isByWidth_ ? " has texts for several widths; the widest is used"
-                          : " has texts for several kinds of device; that for \"other\", else \"iphone\", else the "
-                            "first is used";
+        return isWidthSelected_
+                   ? " has texts for several widths; the widest is used"
+                   : " has texts for several kinds of device; that for \"other\", else \"iphone\", else the "
+                     "first is used";
     }
 
 private:
-    bool isByWidth_ = false;
+    bool isByWidth_ = false, isWidthSelected_ = false;
     std::size_t count_ = 0, rank_ = 0;
     std::string text_;
 };
@@ -133,8 +135,8 @@ private:
     }
     // Drops the earlier entry with the current key, if there is one.
     void drop() {
-        const auto known = numbers_.find(keys_[0]);
-        if (known == numbers_.end() || keyOffsets_[known->second] == dropped)
+        const auto known = indices_.find(keys_[0]);
+        if (known == indices_.end() || keyOffsets_[known->second] == dropped)
             return;
         keyOffsets_[known->second] = dropped;
         noteEntry(" appears again without a plural; the earlier one is dropped");
@@ -145,8 +147,8 @@ private:
     void beginEntry() {
         plural_ = {};
         hasFormat_ = false;
+        hasMoreVariables_ = false;
         choice_ = {};
-        variables_ = 0;
     }
     void takeFormat(std::string_view text) {
         if (key() != pluralKeys::format)
@@ -162,15 +164,17 @@ private:
             hasFormat_ = true;
             if (const char* const unused = choice_.unusedNote())
                 noteEntry(unused);
+        } else if (choice_.isMade()) {
+            noteEntry(" has a format, too; its texts for widths or devices are skipped");
         }
         if (!hasFormat_) {
             noteEntry(std::string(" has no ").append(pluralKeys::format).append("; it is skipped"));
             return drop();
         }
-        if (variables_ > PluralTable::maxVariables)
+        if (hasMoreVariables_)
             noteEntry(" has more than " + std::to_string(PluralTable::maxVariables) +
                       " variables; the rest is skipped");
-        const auto [known, isNew] = numbers_.try_emplace(keys_[0], entries_.size());
+        const auto [known, isNew] = indices_.try_emplace(keys_[0], entries_.size());
         if (isNew) {
             entries_.emplace_back().key = keys_[0];
             keyOffsets_.emplace_back();
@@ -217,8 +221,10 @@ private:
             variable_.valueType = "d";
         if (std::erase_if(plural_.variables, isSame) != 0)
             contents_.note("the variable ", variable_.name, replaces, offsets_[variableLevel - 1]);
-        if (++variables_ <= PluralTable::maxVariables)
+        if (plural_.variables.size() < PluralTable::maxVariables)
             plural_.variables.push_back(std::move(variable_));
+        else
+            hasMoreVariables_ = true;
     }
 
     Contents& contents_;
@@ -230,7 +236,7 @@ private:
 
     PluralFormat plural_;
     bool hasFormat_ = false;
-    std::size_t variables_ = 0; // in the entry so far
+    bool hasMoreVariables_ = false; // than maxVariables
     PluralVariable variable_;
     bool isPlural_ = false; // whether its rule type is `pluralRule` or missing
     bool isChoice_ = false; // not a variable, but the texts of `choice_`
@@ -239,7 +245,7 @@ private:
     std::vector<PluralEntry> entries_;
     std::vector<std::size_t> keyOffsets_; // of the entries; `dropped` for one that a later value replaced
     static constexpr std::size_t dropped = ~std::size_t{0};
-    Runtime::NameMap<std::size_t> numbers_; // of the entries, by key
+    Runtime::NameMap<std::size_t> indices_; // the index of each entry, by key
 };
 
 Runtime::Result<void> fill(Contents& contents, internal::PropertyListSink& sink) {
@@ -263,7 +269,7 @@ Runtime::Result<void> fill(Contents& contents, internal::PropertyListSink& sink)
 std::vector<std::size_t> inOrder(std::span<const std::size_t> keyOffsets) {
     std::vector<std::size_t> order(keyOffsets.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::sort(order, {}, [&](std::size_t number) { return keyOffsets[number]; });
+    std::ranges::sort(order, {}, [&](std::size_t index) { return keyOffsets[index]; });
     return order;
 }
 
@@ -271,15 +277,15 @@ std::vector<std::size_t> inOrder(std::span<const std::size_t> keyOffsets) {
 void locate(const Contents& contents, std::span<const std::size_t> keyOffsets, std::span<PluralEntry> entries) {
     const std::vector<std::size_t> order = inOrder(keyOffsets);
     internal::Locator locator(contents);
-    for (const std::size_t number : order)
-        entries[number].location = locator.locate(keyOffsets[number]);
+    for (const std::size_t index : order)
+        entries[index].location = locator.locate(keyOffsets[index]);
 }
 
 void readComments(const Contents& contents, std::span<const std::size_t> keyOffsets, std::span<PluralEntry> entries) {
     const std::vector<std::size_t> order = inOrder(keyOffsets);
     std::vector<std::size_t> offsets;
-    for (const std::size_t number : order)
-        offsets.push_back(keyOffsets[number]);
+    for (const std::size_t index : order)
+        offsets.push_back(keyOffsets[index]);
     std::vector<std::string> comments = internal::commentsOf(offsets, contents);
     for (std::size_t i = 0; i < order.size(); ++i)
         entries[order[i]].comment = std::move(comments[i]);

@@ -68,7 +68,6 @@ TEST_F(Plurals, ChooseFormsByTheRightArgument) {
                       plural("owner", "%#@n@",
                              variable("n", "d", text("zero", "none of %@") + forms("a %d of %@", "%d of %@"))) +
                       plural("percent", "%#@n@d %%", variable("n", "d", forms("%d%", "%d%%"))) +
-                      plural("width", "%#@n@", variable("n", "d", forms("[%*d]", "[%-*d|%@]"))) +
                       plural("unknown", "%#@other@ %#@days@", days) +
                       plural("itself", "%#@n@", variable("n", "d", forms("one", "%d %#@n@ times"))) +
                       plural("many", "%#@a@", manyForms) +
@@ -100,6 +99,7 @@ TEST_F(Plurals, ChooseFormsByTheRightArgument) {
         {__LINE__, "owner", {1, "me"sv}, "a 1 of me"},
         {__LINE__, "percent", {1}, "1%d %"},
         {__LINE__, "percent", {2}, "2%d %"},
+        // Without a variable of this name, "%#@" is the placeholder %@ with a flag.
         {__LINE__, "unknown", {"a"sv, 1}, "aother@ 1 day"},
         {__LINE__, "missing", {1}, "1 of few"},
         {__LINE__, "itself", {5}, "5  times"},
@@ -109,7 +109,7 @@ TEST_F(Plurals, ChooseFormsByTheRightArgument) {
                                              Foundation::Locale::current(), arguments),
                   expected)
             << "line " << line;
-    // Forms that contain two others, eight levels deep, make a text of limited length.
+    // Each form has the next variable twice, eight levels deep: the text is cut at its longest length.
     EXPECT_LE(formatted("many", {5}).size(), Foundation::detail::longestPlural + longForm);
 }
 
@@ -155,7 +155,7 @@ TEST_F(Plurals, UseFloatingNumbersAsPrinted) {
     EXPECT_EQ(formatted("free", {1.5}), "several miles");
     EXPECT_EQ(formatted("e", {1e6}), "1e+06 miles");
     EXPECT_EQ(formatted("a", {1.0}), "0x1p+0 mile");
-    EXPECT_EQ(formatted("x", {255}), "ff miles");
+    EXPECT_EQ(formatted("x", {255}), "ff miles"); // 255 selects the form
     EXPECT_EQ(formatted("second", {7, 1.4}), "7: 1.4 miles");
     EXPECT_EQ(formatted("lu", {std::uint64_t{1}}), "1 byte");
     EXPECT_EQ(formatted("none", {0.0}), "none");
@@ -179,7 +179,7 @@ TEST_F(Plurals, WinOverTextsOfTheirLanguage) {
     EXPECT_EQ(bundle.localizedStringForKey("n", nullptr, ""), "%1$ld days left");
     EXPECT_EQ(formatted("fallback", {1}), "deutsch");
     EXPECT_EQ(formatted("only", {1}), "1");
-    // A key that is itself a view of a table's text.
+    // No table has the key "%ld", although it is the address of a table's text: addresses do not show what is missing.
     const std::string_view key = bundle.localizedText("only", "");
     const std::string value = "instead";
     EXPECT_EQ(bundle.localizedStringForKey(key, &value, ""), "instead");

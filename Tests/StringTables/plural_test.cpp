@@ -93,6 +93,8 @@ TEST(PluralTable, NotesWhatIsSkipped) {
          "that for \"other\", else \"iphone\", else the first is used\n",
          "i"},
         {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m"))), "", "m"},
+        {__LINE__, dict("k", format + dict("NSStringDeviceSpecificRuleType", text("mac", "m"))),
+         "2:1: the entry \"k\" has a format, too; its texts for widths or devices are skipped\n"},
         {__LINE__, dict("k", format) + "\n" + dict("k", format),
          "3:1: the key \"k\" appears again; this entry is used\n"},
         {__LINE__,

@@ -12,11 +12,12 @@ namespace Exchange {
 // How UnitId::part begins for the format and for a variable of a .stringsdict entry.
 inline constexpr std::string_view formatPart = "format", variablesPart = "variables";
 
-// Writes the units' texts into `plural`. A new variable gets its value type from `development`, or "ld".
+// Writes the targets of the units, all of one .stringsdict entry, into `plural`: that of a unit with a category as this
+// form of its variable, another as the format. A new variable has the value type that `development` has, or "ld".
 void applyTo(StringTables::PluralFormat& plural, std::span<const Unit* const> units,
              const SourceBundle::SourceEntry& development);
 // A new plural with all texts of the change. Without a unit for the format, it has the format of the development text,
-// or none if that is not a plural.
+// or an empty one if the development text is not a plural.
 [[nodiscard]] StringTables::PluralFormat newPlural(const Change& change);
 
 } // namespace Exchange

@@ -37,7 +37,7 @@ const char* nameOf(Parameter parameter) {
     return "";
 }
 
-// Lists accessors, and entries without one, as JSON objects.
+// Lists accessors, and the keys and assets without one, as JSON objects.
 class Lister {
 public:
     explicit Lister(const std::string& module) : prefix_(module + "::" + module) {}
@@ -63,7 +63,7 @@ private:
             {});
     }
 
-    // `accessor`: null if there is none, for the `reason`.
+    // `accessor`: its qualified name; null if there is none, and then `reason` says why.
     void add(const AccessorTable& table, const SourceEntry& entry, const ordered_json& accessor,
              const std::vector<Parameter>& parameters, const std::string& reason) {
         ordered_json json = {{"kind", "text"},
@@ -105,23 +105,23 @@ std::string visible(const ordered_json& text) {
 
 // A line with kind, accessor with its parameters (or "-"), table or catalog, key or name, and the reason if there is no
 // accessor, separated by tabs.
-std::string lineOf(const ordered_json& accessor) {
+std::string lineOf(const ordered_json& item) {
     std::string parameters;
-    if (accessor.contains("parameters"))
-        for (const ordered_json& parameter : accessor["parameters"])
+    if (item.contains("parameters"))
+        for (const ordered_json& parameter : item["parameters"])
             parameters.append(parameters.empty() ? "" : ", ").append(parameter.get_ref<const std::string&>());
-    const bool isText = accessor.contains("key");
-    const bool isLeftOut = accessor["accessor"].is_null();
-    std::string line = visible(accessor["kind"]) + '\t';
-    line += isLeftOut ? "-" : visible(accessor["accessor"]) + (isText ? "(" + parameters + ")" : "");
-    line += '\t' + visible(accessor[isText ? "table" : "catalog"]) + '\t' + visible(accessor[isText ? "key" : "name"]);
-    return line + (isLeftOut ? '\t' + visible(accessor["reason"]) : "") + '\n';
+    const bool isText = item.contains("key");
+    const bool isLeftOut = item["accessor"].is_null();
+    std::string line = visible(item["kind"]) + '\t';
+    line += isLeftOut ? "-" : visible(item["accessor"]) + (isText ? "(" + parameters + ")" : "");
+    line += '\t' + visible(item[isText ? "table" : "catalog"]) + '\t' + visible(item[isText ? "key" : "name"]);
+    return line + (isLeftOut ? '\t' + visible(item["reason"]) : "") + '\n';
 }
 
-std::string textOf(const ordered_json& accessors) {
+std::string textOf(const ordered_json& items) {
     std::string text;
-    for (const ordered_json& accessor : accessors)
-        text += lineOf(accessor);
+    for (const ordered_json& item : items)
+        text += lineOf(item);
     return text;
 }
 
@@ -134,16 +134,17 @@ Exit runAccessors(AccessorsOptions& options) {
     const Exit reported = report(diagnostics);
     if (reported != Exit::done)
         return reported;
-    const ordered_json accessors = Lister(options.generator.module).list(model);
-    return print(options.format == "json" ? accessors.dump(2, ' ', false, ordered_json::error_handler_t::replace) + '\n'
-                                          : textOf(accessors));
+    const ordered_json items = Lister(options.generator.module).list(model);
+    return print(options.format == "json" ? items.dump(2, ' ', false, ordered_json::error_handler_t::replace) + '\n'
+                                          : textOf(items));
 }
 
 } // namespace
 
 void addAccessorsCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<AccessorsOptions>();
-    CLI::App* command = program.add_subcommand("accessors", "List the accessors that generate makes from a source.");
+    CLI::App* command =
+        program.add_subcommand("accessors", "List the accessors that `lumora generate` makes from a source.");
     options->source.addTo(*command)->required();
     options->source.addNamesTo(*command);
     command->add_option("--module", options->generator.module, "The module's name, a C++ identifier")->required();

@@ -58,7 +58,7 @@ int main(int argc, char** argv) {
         command->group("Commands");
     try {
         program.parse(argc, argv);
-        // The parser's own check would report this instead of an unknown word.
+        // Not with require_subcommand(1), which would report an unknown word as a missing command.
         if (program.get_subcommands().empty())
             throw CLI::RequiredError("A command");
     } catch (const CLI::Success& success) { // --help, --version

@@ -1,6 +1,7 @@
 // Intl/internal/LanguageMatch.h
-// Uses ICU to select the language for a reader; part of the plug-in.
-// Text: identifiers as for icuLocale(). Threads: any; no state.
+// Uses ICU to select the language for a user; part of the plug-in lumora-intl.so.
+// Text: identifiers that icuLocale() accepts. What follows '@' is ignored, so a script has its code ("sr-Latn").
+// Threads: any; no state.
 #pragma once
 
 #include <cstddef>

@@ -16,7 +16,7 @@ struct NumberPattern {
     std::array<std::string, 10> digits = {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"};
     std::string positivePrefix, positiveSuffix;
     std::string negativePrefix = "-", negativeSuffix;
-    std::string plusSign = "+", minusSign = "-";
+    std::string plusSign = "+", minusSign = "-"; // for a required plus and for exponents
     std::string decimalSeparator = ".", groupingSeparator;
     std::string infinity = "∞", notANumber = "NaN";
     unsigned primaryGrouping = 0;   // digits in the last group; 0 means no grouping

@@ -96,7 +96,7 @@ private:
         }
 
     private:
-        static constexpr unsigned levels = 24; // of two bits each, fewer than a hash has
+        static constexpr unsigned levels = 24; // of two bits each, which leaves 16 bits of a hash for the bucket
         std::uint64_t bits_;
         std::string_view key_;
         unsigned level_ = 0;

@@ -48,12 +48,12 @@ class PluralTable {
 public:
     // Reads a table from a property list, XML or binary. Errors as in Table; a source that is empty or only white space
     // is an empty table. Limits: those of Table, where maxEntries is for the keys of all levels, and maxTextBytes for
-    // all keys and texts together, each counted as often as entries share it. Throws std::bad_alloc when memory runs
-    // out.
+    // all keys and texts together; one that several entries of a binary table share counts once for each of them.
+    // Throws std::bad_alloc when memory runs out.
     [[nodiscard]] static Runtime::Result<PluralTable> read(std::string bytes);
+    enum class Comments { areSkipped, areRead };
     // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, `path` begins
     // with it, and links must not lead out of that folder. Reading comments takes a separate pass.
-    enum class Comments { areSkipped, areRead };
     [[nodiscard]] static Runtime::Result<PluralTable> readFile(const std::string& path, std::string_view bundle = {},
                                                                Comments comments = Comments::areSkipped);
     static constexpr std::size_t maxTextBytes = std::size_t{64} << 20;
@@ -71,7 +71,7 @@ private:
     static Runtime::Result<PluralTable> read(std::string bytes, const std::string& file, Comments comments);
 
     std::vector<PluralEntry> entries_;
-    std::vector<std::size_t> byKey_; // the numbers of the entries, sorted by key
+    std::vector<std::size_t> byKey_; // the indices of the entries, sorted by key
     std::vector<TableNote> notes_;
 };
 

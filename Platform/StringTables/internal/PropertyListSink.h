@@ -11,8 +11,8 @@ namespace StringTables::internal {
 
 class PropertyListSink {
 public:
-    // Called for the top-level dictionary and for every value that is a dictionary. Returns whether to report its
-    // entries.
+    // Called first for the top-level dictionary (another value at the top is an error of the reader), then for every
+    // value that is a dictionary. Returns whether to report its entries.
     virtual bool beginDictionary() = 0;
     // Called after the entries of a dictionary for which beginDictionary() returned true.
     virtual void endDictionary() = 0;
