@@ -2,5 +2,6 @@
 
 #include <cstddef>
 
-// Reads every text of the tree once. Returns their total size and sets `count` to their number.
+// Calls each accessor of Lumora's texts once. Returns the total size of the texts in bytes and sets `count` to their
+// number.
 std::size_t readAllTexts(int& count);

@@ -1,5 +1,5 @@
-// Compares our reader with libplist: a table that both accept has the same texts for both, and libplist reads what we
-// write. Known differences are ignored:
+// Compares our reader of XML and binary tables with libplist: a table that both accept has the same texts for both, and
+// libplist reads what we write. Known differences are ignored:
 //  - libplist returns C strings, which end at a NUL, and stops the process if a key contains one;
 //  - if keys are repeated, it keeps all in a binary table, and in XML the last, even if its value is not a text;
 //  - it reads XML as UTF-8 regardless of the declaration, and does not convert line ends;

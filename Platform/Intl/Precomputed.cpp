@@ -20,7 +20,7 @@ struct Known {
 
 // Finds a locale by its identifier in ICU's form or BCP 47; null if it is not in the table.
 const Known* find(std::string_view locale) noexcept {
-    std::array<char, 32> buffer; // longer than all of `names`
+    std::array<char, 32> buffer; // longer than any name in `names`
     if (locale.size() > buffer.size())
         return nullptr;
     const auto end = std::ranges::replace_copy(locale, buffer.begin(), '-', '_').out;

@@ -21,11 +21,11 @@ bool resembles(std::string_view found, std::string_view mark) noexcept {
     return same > mark.size() / 2;
 }
 
-// Limits of the search for displacements. Random keys need far less; keys that were made to collide could otherwise
-// cost quadratic time.
+// Limits of the search for displacements; a try is one displacement for one bucket. Random keys need far less; keys
+// that were made to collide could otherwise cost quadratic time.
 constexpr std::size_t fullestBucket = 32;
-constexpr std::size_t mostTriesPerKey = 64;
-constexpr std::size_t mostExtraTries = std::size_t{1} << 16; // for the last keys of a small table
+constexpr std::size_t triesPerKey = 64;
+constexpr std::size_t extraTries = std::size_t{1} << 16; // a small table has few free slots for the last buckets
 
 // The indices of the keys in each bucket, largest buckets first because they are the hardest to place.
 std::vector<std::vector<std::size_t>> keysByBucket(std::span<const std::uint32_t> bucketOfKey, std::size_t count) {
@@ -93,7 +93,7 @@ std::optional<CompiledIndexWriter> CompiledIndexWriter::make(std::span<const std
         }
         return true;
     };
-    std::size_t tries = mostExtraTries + mostTriesPerKey * keyHashes.size();
+    std::size_t tries = extraTries + triesPerKey * keyHashes.size();
     for (const std::vector<std::size_t>& bucket : keysByBucket(bucketOfKey, index.bucketCount_)) {
         if (bucket.empty())
             break;

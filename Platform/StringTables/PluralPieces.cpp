@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view variableMark = "#@";
 
-// The variable's name in "%#@NAME@", or an empty string when `placeholder` is not its "%#@".
+// NAME if `placeholder` is the beginning of "%#@NAME@" or "%1$#@NAME@", or else an empty string.
 std::string_view nameAfter(std::string_view text, const Placeholder& placeholder) noexcept {
     const std::string_view read = text.substr(placeholder.begin, placeholder.end - placeholder.begin);
     if (!read.ends_with(variableMark))
@@ -50,16 +50,16 @@ const PluralVariable* PluralPieces::variableAt(std::string_view text, const Plac
     return found == plural_.variables.end() || name.empty() ? nullptr : &*found;
 }
 
-std::size_t PluralPieces::numberOf(const PluralVariable& variable) const noexcept {
+std::size_t PluralPieces::indexOf(const PluralVariable& variable) const noexcept {
     return static_cast<std::size_t>(&variable - plural_.variables.data());
 }
 
-// The argument of `named`, a variable in this form, if its placeholder has no position.
+// The argument of `named`, the variable that comes next in this form, if its placeholder has no position.
 std::size_t PluralPieces::argumentOf(const PluralVariable& named) noexcept {
     if (!mostBefore_)
         countMostBefore();
-    const std::size_t number = numberOf(named);
-    const std::size_t most = number < mostBefore_->size() ? (*mostBefore_)[number] : 0;
+    const std::size_t index = indexOf(named);
+    const std::size_t most = index < mostBefore_->size() ? (*mostBefore_)[index] : 0;
     return std::max(most, counter_.taken()) + 1;
 }
 
@@ -71,10 +71,10 @@ void PluralPieces::countMostBefore() noexcept {
         std::size_t at = 0;
         while (const auto placeholder = form ? nextPlaceholder(*form, at) : std::nullopt) {
             const PluralVariable* const named = variableAt(*form, *placeholder);
-            if (const std::size_t number = named == nullptr ? isNamed.size() : numberOf(*named);
-                number < isNamed.size() && !isNamed[number]) {
-                isNamed.set(number);
-                most[number] = std::max(most[number], static_cast<std::uint32_t>(counter.taken()));
+            if (const std::size_t index = named == nullptr ? isNamed.size() : indexOf(*named);
+                index < isNamed.size() && !isNamed[index]) {
+                isNamed.set(index);
+                most[index] = std::max(most[index], static_cast<std::uint32_t>(counter.taken()));
             } else if (named == nullptr && skipsOwn(*placeholder, counter.taken())) {
                 counter.next();
             }

@@ -173,7 +173,8 @@ TEST_F(Bundle, TakesItsDevelopmentRegionFromInfoPlist) {
     EXPECT_EQ(text("a"), "un");
 }
 
-// `lumora compile` writes the list of languages; a list that contradicts the folder is ignored.
+// `lumora compile` writes the list of languages, and whether there are plurals; a list that contradicts the folder is
+// ignored.
 TEST_F(Bundle, TakesItsLanguagesFromInfoPlistIfTheyExist) {
     const auto write = [](const Support::TemporaryFolder& folder, const char* noted) {
         folder.write("Info.plist", std::string("LumoraLanguages = \"") + noted + "\"; LumoraPlurals = no;");
@@ -234,7 +235,8 @@ TEST_F(Bundle, KeepsItsContentIfAReloadFindsNoChange) {
     write("Base.lproj/Localizable.strings", "a = new;");
     bundle().reload();
     EXPECT_EQ(text("a"), "new");
-    // A time in the future does not show further changes, not even one that has no 64-bit number of nanoseconds.
+    // A time in the future may stay when the file changes again, so each reload reads the file. The time also exceeds
+    // 64 bits of nanoseconds.
     const timespec future[] = {{.tv_sec = 0, .tv_nsec = 0}, {.tv_sec = time_t{1} << 34, .tv_nsec = 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, (folder_ / "Base.lproj/Localizable.strings").c_str(), future, 0), 0);
     std::this_thread::sleep_for(std::chrono::milliseconds(200));

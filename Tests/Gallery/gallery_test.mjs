@@ -1,4 +1,4 @@
-// Tests the pages that `lumora gallery` writes in a browser. Durations are printed, but not checked.
+// Tests in a browser the pages that `lumora gallery` writes. Durations are printed, but not checked.
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { mkdirSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
@@ -193,7 +193,7 @@ onPage("colours have their values and contrast ratios", async (tab) => {
 
 for (const colorScheme of ["light", "dark"])
     onPage(`axe finds nothing wrong in ${colorScheme}`, async (tab) => {
-        if (colorScheme === "dark") { // fewer rows: only the colours differ from the light page
+        if (colorScheme === "dark") { // fewer rows, because the light page has them all; its pictures are not in their actual size
             await tab.fill("#search", "onboarding");
             await tab.click("#size >> text=Actual");
         }
@@ -209,6 +209,7 @@ function hostilePage() {
         mkdirSync(join(source, `${language}.lproj`), { recursive: true });
         writeFileSync(join(source, `${language}.lproj`, file), text);
     };
+    // "@PICTURES@" is a placeholder of the page's template.
     table("Base", '"end" = "</script><script>alert(1)</script><!--"; "quote\\"d" = "%1$@ \\"of\\" %2$ld"; "…" = "No name"; /* Of two things */ "same" = "Same"; "@PICTURES@" = "a";');
     table("Base", `<plist version="1.0"><dict><key>days</key><dict>
         <key>NSStringLocalizedFormatKey</key><string>%#@n@ left</string>

@@ -30,7 +30,7 @@ namespace Check {
     return found == nullptr ? text.npos : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
 }
 
-// White space of any width, including line breaks.
+// White space, including line breaks.
 [[nodiscard]] constexpr bool isSpace(char32_t c) noexcept {
     return c == ' ' || (c >= 0x09 && c <= 0x0D) || c == 0x85 || c == 0xA0 || (c >= 0x2000 && c <= 0x200A) ||
            c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F || c == 0x3000;

@@ -89,7 +89,7 @@ private:
                (category == PluralCategory::zero && find(part.development, category) != nullptr);
     }
 
-    // A format that consists of a single variable is the same in all languages.
+    // Whether the part is a format that needs no translation: a single variable, and the same in the translation.
     bool isTrivialFormat(const PartTexts& part) const {
         if (part.part != Part{std::string(formatPart)} || key_.development->plural == nullptr)
             return false;
@@ -155,7 +155,7 @@ StoredTexts::StoredTexts(const SourceBundle::Source& source, SourceBundle::Diagn
                 if (file->kind != TableFile::Kind::catalog || catalogs_.contains(file->path))
                     continue;
                 auto document = TableDocument::read(*file);
-                if (document) // of a string catalog, as the kind says
+                if (document) // the kind is catalog, so it is a CatalogDocument
                     catalogs_[file->path].reset(static_cast<CatalogDocument*>(document->release()));
                 else
                     diagnostics.add(SourceBundle::Severity::error, std::move(document.error()));

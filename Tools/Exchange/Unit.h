@@ -37,8 +37,8 @@ struct UnitId {
 struct Unit {
     UnitId id;
     std::string source{}; // the development text
-    // The category of the unit to which `source` belongs: that of `id`, or in a PO file that of its msgid (`one`) or
-    // msgid_plural (`other`).
+    // The category of the unit that shows `source` as its development text: that of `id`, even if the text is that of
+    // the form `other`; in a PO file that of its msgid (`one`) or msgid_plural (`other`).
     std::optional<PluralCategory> sourceCategory{};
     std::string target{};       // the translation; empty if there is none
     State state = State::isNew; // of the translation

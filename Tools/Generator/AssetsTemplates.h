@@ -93,7 +93,7 @@ namespace UIImage {
 template <class Class = ::UIKit::UIImage> [[nodiscard]] auto withAssetName(std::string_view name) {
     return ::SwiftUI::Conveniences::UIImage::withAssetName<Class, {{module}}AssetModule>(name);
 }
-// The same as the platform's own class.
+// The same for the platform's own class.
 [[nodiscard]] inline std::optional<::UIKit::UIImage> assetNamed(std::string_view name) {
     return withAssetName(name);
 }

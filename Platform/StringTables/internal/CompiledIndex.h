@@ -5,12 +5,12 @@
 // Docs/decisions/0006-compiled-tables.md gives the reasons.
 //
 // The file: "bplist00"; the index; the ASCII strings; the dictionary; the UTF-16 strings; the offsets; the trailer. The
-// part that a bundle's reader needs comes first and is called the front.
+// first three, which are all that a bundle's reader needs, are called the front.
 // The index: the object's marker and size; `mark`; the numbers of slots, buckets and entries and the size of the front;
 // a checksum of these; a displacement of 16 bits for each bucket; the slots; the UTF-8 copy. After `mark`, numbers are
-// little-endian and have 32 bits. The index is a perfect hash: the hash of a key (Runtime::keyHash) selects a bucket,
-// and the hash with the bucket's displacement selects the only slot where the entry can be. A slot holds the places of
-// key and text in the front.
+// little-endian, and all but the displacements have 32 bits. The index is a perfect hash: the hash of a key
+// (Runtime::keyHash) selects a bucket, and the hash with the bucket's displacement selects the only slot where the
+// entry can be. A slot holds the places of key and text in the front.
 #pragma once
 
 #include "Runtime/internal/Hash.h"

@@ -23,10 +23,10 @@ struct PluralPiece {
 };
 
 // The placeholders of one text in order. In the format itself each takes the next argument, as in any text. In a form
-// the first placeholder takes the variable's own number. It takes the argument after that if it prints a text and the
-// value type is not "@", so that a form without its number, such as "One file by %@", takes the same arguments as the
-// other forms. A variable inside a form takes the argument that it takes in the form with the most arguments before it,
-// so that the argument is the same in all forms.
+// the first placeholder takes the variable's own number, unless it prints a text and the value type is not "@": then it
+// takes the argument after that, so that a form without its number, such as "One file by %@", takes the same arguments
+// as the other forms. A variable inside a form takes the argument that it takes in the form with the most arguments
+// before it. If no form has two variables without a position, that is the same argument in all forms.
 class PluralPieces {
 public:
     explicit PluralPieces(const PluralFormat& plural) noexcept : plural_(plural), text_(plural.format) {}
@@ -39,7 +39,7 @@ public:
 
 private:
     const PluralVariable* variableAt(std::string_view text, const Placeholder& placeholder) const noexcept;
-    std::size_t numberOf(const PluralVariable& variable) const noexcept;
+    std::size_t indexOf(const PluralVariable& variable) const noexcept;
     std::size_t argumentOf(const PluralVariable& named) noexcept;
     void countMostBefore() noexcept;
     bool skipsOwn(const Placeholder& placeholder, std::size_t taken) const noexcept;

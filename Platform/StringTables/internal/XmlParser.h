@@ -16,7 +16,8 @@ namespace StringTables::internal {
 
 struct Contents;
 
-// The byte range of the current tag or comment in the source. For `<a/>`, close() gets the empty range after the tag.
+// The byte range of the current tag or comment, as offsets from the beginning of the source. For `<a/>`, close() gets
+// the empty range after the tag.
 struct XmlPlace {
     std::size_t begin;
     std::size_t end;
@@ -45,9 +46,9 @@ protected:
 [[nodiscard]] Runtime::Result<void> parseXml(const Contents& contents, XmlHandler& handler);
 
 struct XmlFault {
-    std::string message; // empty on success
-    std::size_t offset = 0;
-    std::string entity{}; // if not empty, the name of an entity that parseXml() appends to the message
+    std::string message;    // empty on success
+    std::size_t offset = 0; // of the fault, from the beginning of the source
+    std::string entity{};   // if not empty, the name of an entity that parseXml() appends to the message
 };
 // Parses `source` from `begin` on. With `isUtf8` the source is UTF-8, otherwise it has the encoding that it declares.
 using XmlParser = XmlFault(std::string_view source, std::size_t begin, bool isUtf8, XmlHandler& handler);
