@@ -38,7 +38,8 @@ template <class Make> auto createForC(Make make) noexcept -> decltype(make()) {
     }
 }
 
-// Sends a message to the class Lumora.Localization, as older screens do. Null when memory runs out.
+// Calls a function of Localization by message, the interface for all callers that are not C++. Null when memory runs
+// out.
 template <class... Arguments>
 NSString* sendToLocalization(std::string_view selector, const Arguments&... arguments) noexcept {
     return createForC([&] {

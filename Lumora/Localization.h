@@ -1,8 +1,8 @@
 // Lumora/Localization.h
 // The localization services: the current language, texts of a chosen language, signed numbers, percentages and ages.
 // Text: UTF-8. Threads: any; each call uses the host's current languages and locale. Ownership: the two lists live
-// until the process ends; other results are values. Errors: none, except for legacyTrNumber(). When memory or
-// descriptors run out, texts and lists are empty and the language is English.
+// until the process ends; other results are values. Errors: none. When memory or descriptors run out, texts and lists
+// are empty and the language is English.
 #pragma once
 
 #include "Foundation/Locale.h"
@@ -16,8 +16,8 @@
 
 namespace Lumora {
 
-// All members are static. Names with "legacy" are those that the application's code calls; they are current. The class
-// "Lumora.Localization" publishes most of them to messages (Runtime/Class.h).
+// All members are static. The functions legacyTr... are current: the fitness application calls them by these names. The
+// class "Lumora.Localization" publishes most members to messages (Runtime/Class.h).
 class LUMORA_EXPORT Localization {
 public:
     // The current language: the first of the bundle's preferred localizations (NSBundle), or English when that is not
@@ -35,7 +35,8 @@ public:
     [[nodiscard]] static bool isLegacyCurrentLocalizationRu(); // the same, for older callers
     // The ids of all languages, in the order of LocalizationCode::allCases().
     [[nodiscard]] static const std::vector<std::string>& allSupportedLocalizations();
-    // The languages without region or script, each once, in no particular order.
+    // The languages of the application's handbook: those of the texts without region or script, each once, in no
+    // particular order.
     [[nodiscard]] static const std::vector<std::string>& allSupportedHandbookLocalizations();
 
     // The text of `key` in the main table, Localizable, of the language `code` ("ru", "es-419"; "en" and "Base" are the
@@ -46,13 +47,13 @@ public:
     [[nodiscard]] static std::string legacyTr(std::string_view key);
 
     // The number as the user's locale writes it, also infinities and NaN; at most three fraction digits, integers
-    // exactly. With `needSign`, numbers without a minus sign begin with the locale's plus sign, and the process stops
-    // if the formatter has no text for the number.
+    // exactly. With `needSign`, numbers without a minus sign begin with the locale's plus sign. (NSNumberFormatter has
+    // a text for every number; without one, the process would stop with `needSign`.)
     [[nodiscard]] static std::string legacyTrNumber(const Foundation::NSNumber& number, bool needSign);
-    // A fraction as a percentage: 0.25 is "25%". Rounded in single precision, halves away from zero, and written with
-    // all its digits in ASCII. NaN is "NaN%"; infinities, and values too large for single precision, are "∞%" and
-    // "-∞%". If the current language is Arabic or Turkish, the user's locale formats the percentage instead. With
-    // `showPlus`, positive values begin with "+".
+    // A fraction as a whole percentage: 0.257 is "26%". Rounded in single precision, halves away from zero, and written
+    // in ASCII digits without grouping or exponent. NaN is "NaN%"; infinities, and values too large for single
+    // precision, are "∞%" and "-∞%". If the current language is Arabic or Turkish, the user's locale formats the
+    // percentage instead. With `showPlus`, positive values begin with "+".
     [[nodiscard]] static std::string legacyTrPercent(double value, bool showPlus);
     // A number of years as currentLocale() spells it: "25 лет". Empty when the language data is missing.
     [[nodiscard]] static std::string legacyTrYear(std::int64_t value);

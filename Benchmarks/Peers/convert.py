@@ -11,18 +11,18 @@ folder, language = sys.argv[1:]
 texts = json.load(sys.stdin)
 
 
-def placed(text, placeholder, escaped=lambda part: part):
-    """The text with each placeholder written as placeholder(position, letter), and the text between, including "%%" as "%", as
+def with_placeholders(text, placeholder, escaped=lambda part: part):
+    """The text with each placeholder written as placeholder(position), and the text between, including "%%" as "%", as
     escaped(part)."""
-    out, end, last = "", 0, 0
+    out, end, count = "", 0, 0
     for found in re.finditer(r"%(?:(\d+)\$)?(?:ll|l)?([@diusf%])", text):
         out += escaped(text[end:found.start()])
         end = found.end()
         if found[2] == "%":
             out += escaped("%")
             continue
-        last += 1
-        out += placeholder(int(found[1] or last), found[2])
+        count += 1
+        out += placeholder(int(found[1] or count))
     return out + escaped(text[end:])
 
 
@@ -33,7 +33,7 @@ def po(convert):
 
 
 def icu(text):
-    return placed(text, lambda n, _: f"{{{n - 1}}}", lambda part: re.sub(r"([{}]+)", r"'\1'", part.replace("'", "''")))
+    return with_placeholders(text, lambda n: f"{{{n - 1}}}", lambda part: re.sub(r"([{}]+)", r"'\1'", part.replace("'", "''")))
 
 
 def icu_key(key):
@@ -43,10 +43,10 @@ def icu_key(key):
 
 written = {
     "po": po(lambda text: re.sub(r"%(\d+\$)?@", r"%\1s", text)),
-    "boost.po": po(lambda text: placed(text, lambda n, _: f"{{{n}}}")),
+    "boost.po": po(lambda text: with_placeholders(text, lambda n: f"{{{n}}}")),
     "ts": f'<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS><TS version="2.1" language="{language}"><context><name></name>'
           + "".join(f"<message><source>{html.escape(k)}</source><translation>"
-                    f"{html.escape(placed(v, lambda n, _: f'%{n}'))}</translation></message>\n" for k, v in texts.items())
+                    f"{html.escape(with_placeholders(v, lambda n: f'%{n}'))}</translation></message>\n" for k, v in texts.items())
           + "</context></TS>\n",
     "txt": f"{language} {{\n" + "".join(f"{json.dumps(icu_key(k))} {{ {json.dumps(icu(v), ensure_ascii=False)} }}\n"
                                         for k, v in texts.items()) + "}\n",

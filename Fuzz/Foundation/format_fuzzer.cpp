@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view format = nextLine();
     std::vector<Foundation::FormatArgument> arguments;
     // More symbols than one placeholder prints: the integer digits of a double with grouping separators, padding to the
-    // largest width, as many decimals, and all texts.
+    // largest width, digits up to the largest precision with a separator after each at most, and all texts.
     std::size_t mostSymbols = 512 + 3 * Foundation::String::largestSize;
     while (!rest.empty()) {
         const std::string_view line = nextLine();

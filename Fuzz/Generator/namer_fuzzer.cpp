@@ -1,5 +1,5 @@
-// Makes names of any bytes: each is empty or a valid C++ identifier, and the same at every call. ICU, not the tested
-// code, says which characters are valid.
+// Makes names of any bytes and their spellings: a spelling is empty or has the form of a C++ identifier, and both are
+// the same at every call. ICU, not the tested code, says which characters are valid.
 #include "Generator/Namer.h"
 
 #include "../Require.h"
@@ -19,7 +19,7 @@ void requireIdentifier(const std::string& spelled) {
     require(text[0] == u'_' || u_hasBinaryProperty(text.char32At(0), UCHAR_XID_START) != 0);
     for (std::int32_t at = 0; at < text.length(); at = text.moveIndex32(at, 1))
         require(u_hasBinaryProperty(text.char32At(at), UCHAR_XID_CONTINUE) != 0);
-    // C++ reserves names with two underscores, or with one before a capital letter.
+    // C++ reserves names with two adjacent underscores, and those that begin with one and a capital letter.
     require(text.indexOf(u"__") < 0);
     require(spelled.size() < 2 || spelled[0] != '_' || spelled[1] < 'A' || spelled[1] > 'Z');
 }

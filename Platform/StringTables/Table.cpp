@@ -93,7 +93,7 @@ void Contents::finish() {
     for (FoundNote& found : foundNotes)
         notes.push_back({locator.error(found.offset, std::move(found.message)), std::move(found.repeatedKey)});
     if (notesLeftOut != 0)
-        notes.push_back({{.message = std::to_string(notesLeftOut) + " more of such notes"}});
+        notes.push_back({{.message = std::to_string(notesLeftOut) + " more notes are left out"}});
     foundNotes = {};
 }
 

@@ -134,7 +134,7 @@ TEST(TextTable, NotesSkippedValues) {
         many += "a = ();\n";
     const auto notes = Tables::notes(many);
     ASSERT_EQ(notes.size(), 1001u);
-    EXPECT_EQ(notes.back(), "500 more of such notes");
+    EXPECT_EQ(notes.back(), "500 more notes are left out");
 }
 
 TEST(TextTable, LocatesTheLastOfEqualKeys) {

@@ -16,9 +16,9 @@ struct SetEntry {
     std::size_t number; // in its list, counted from 1
     AssetCatalog::Fit fit{};
     std::string language{}; // "pt-BR"; empty: for all languages
-    // The kind of device and screen that the variant is for. Only the variants of one kind are used, see isPreferred().
+    // What the variant is for besides `fit` and `language`. Only variants of one Device are used, see isPreferred().
     struct Device {
-        std::vector<std::string> conditions{}; // `subtype "retina4"`, sorted
+        std::vector<std::string> conditions{}; // those that never hold here: `subtype "retina4"`, sorted
         std::string idiom = "universal";
         std::size_t rank = 0;         // of the idiom; 0 is used first
         std::int64_t screenWidth = 0; // that the conditions require, or 0
@@ -33,8 +33,8 @@ struct SetEntry {
     [[nodiscard]] std::string label() const;
 };
 
-// Whether `one` is preferred to `other`: the one without conditions, or else with the lower rank, or else with fewer
-// conditions, or else with the wider screen.
+// Whether `one` is preferred to `other`: the one without conditions (others are a last resort), or else with the lower
+// rank, or else with fewer conditions, or else with the wider screen.
 [[nodiscard]] bool isPreferred(const SetEntry::Device& one, const SetEntry::Device& other);
 
 // Precondition: `entry` is a JSON object that outlives the result.

@@ -20,7 +20,8 @@ struct Conversion {
     std::optional<std::size_t> precision; // at most String::largestSize
 };
 
-// Where a number is padded with zeros: the offset in the output where they go, and the zero digit.
+// Where a number is padded with zeros: the offset in the output where they go, and the zero digit, a view of the number
+// pattern or of static memory.
 struct ZeroPadding {
     std::size_t at;
     std::string_view zero;
@@ -28,11 +29,12 @@ struct ZeroPadding {
 // No value for a number that is padded with spaces.
 using Padding = std::optional<ZeroPadding>;
 
-// Each function appends a number for some conversions and returns how to pad it.
-// d i u: with the locale's digits, grouping and signs.
+// Each function appends a number for the conversion characters that are listed, and returns how to pad it. Integers are
+// cut to the placeholder's number of bits.
+// d i u: with the locale's digits, grouping and signs; u as an unsigned number.
 Padding appendDecimal(std::string& out, const Conversion& conversion, const Intl::NumberPattern& pattern,
                       std::int64_t value);
-// x X o: in ASCII.
+// x X o: as an unsigned number, in ASCII.
 Padding appendPlain(std::string& out, const Conversion& conversion, std::int64_t value);
 // f F e E g G: with the locale's digits, decimal separator and signs, and with its grouping if there is no exponent;
 // a A: in ASCII. "inf" and "nan" are written as in C.

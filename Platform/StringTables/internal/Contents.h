@@ -50,7 +50,7 @@ struct Contents {
 
     std::string source;    // converted to UTF-8 if it was UTF-16 text
     std::size_t begin = 0; // offset after the byte-order mark
-    bool isUtf8 = false;   // whether the first bytes show it, whatever an XML declaration says
+    bool isUtf8 = false;   // by its byte-order mark or because it was converted, whatever an XML declaration says
     Form form = Form::text;
     Arena arena;
     std::vector<Entry> entries;
