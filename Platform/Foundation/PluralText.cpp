@@ -65,7 +65,7 @@ std::optional<Intl::PluralOperands> operandsOf(const PluralFormat& plural, const
         format = "%g"; // plural rules apply to decimal digits
     const std::string printed = String::format(format, Locale("en_US_POSIX"), {&argument, 1});
     const std::size_t digits = printed.find_first_of("0123456789.");
-    if (digits == printed.npos && printed.find_first_not_of(' ') != printed.npos) // "%.0d" prints 0 without digits
+    if (digits == printed.npos && printed.find_first_not_of(" +") != printed.npos) // "%+.0d" prints 0 as "+"
         return std::nullopt;
     return Intl::pluralOperands(std::string_view(printed).substr(std::min(digits, printed.size())));
 }

@@ -144,6 +144,7 @@ TEST_F(Plurals, UseFloatingNumbersAsPrinted) {
               plural("x", "%#@n@", variable("n", "x", forms("%x mile", "%x miles"))) +
               plural("second", "%2$#@n@", variable("n", "f", forms("%1$d: %2$.1f mile", "%1$d: %2$.1f miles"))) +
               plural("lu", "%#@n@", variable("n", "lu", forms("%lu byte", "%lu bytes"))) +
+              plural("sign", "%#@n@", variable("n", "d", text("zero", "none") + forms("one", "%+.0d files"))) +
               plural("none", "%#@n@", variable("n", "f", text("zero", "none") + forms("one", "%.0f miles"))));
     write("fr", plural("f", "%#@n@", variable("n", "f", forms("%.1f mille", "%.1f milles"))));
     Host::setPreferredLanguages({"en"});
@@ -159,6 +160,7 @@ TEST_F(Plurals, UseFloatingNumbersAsPrinted) {
     EXPECT_EQ(formatted("second", {7, 1.4}), "7: 1.4 miles");
     EXPECT_EQ(formatted("lu", {std::uint64_t{1}}), "1 byte");
     EXPECT_EQ(formatted("none", {0.0}), "none");
+    EXPECT_EQ(formatted("sign", {0}), "none");
     EXPECT_EQ(formatted("none", {std::numeric_limits<double>::infinity()}), "inf miles");
     EXPECT_EQ(formatted("none", {"many"sv}), "many miles");
     EXPECT_EQ(formatted("lu", {~std::uint64_t{0}}), "18,446,744,073,709,551,615 bytes");

@@ -87,6 +87,11 @@ class Watch(unittest.TestCase):
             self.next()
         table.write_text('a = "seven";')
         self.expect("seven")
+        for name in ("x", "y"):  # links that lead in circles
+            (self.source / f"en.lproj/{name}.lproj").symlink_to(".")
+        table.write_text('a = "eight";')
+        while self.text("en", "a") != "eight":
+            self.next()
         self.process.send_signal(signal.SIGINT)
         self.assertEqual(self.process.wait(timeout=60), 0)
 

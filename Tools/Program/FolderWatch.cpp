@@ -96,11 +96,12 @@ Runtime::Result<void> FolderWatch::watchBelow(const fs::path& folder, int depth)
     std::error_code failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
         std::error_code ignored;
-        // Like the source reader, follow links to folders only if they are language folders.
-        const bool isFolder =
-            entry->is_directory(ignored) && (!entry->is_symlink(ignored) || entry->path().extension() == ".lproj");
+        // Like the source reader, follow links to folders only if they are language folders; but not further, because
+        // links can lead in circles or out of the source.
+        const bool isLink = entry->is_symlink(ignored);
+        const bool isFolder = entry->is_directory(ignored) && (!isLink || entry->path().extension() == ".lproj");
         if (isFolder && !isIgnored(entry->path()) && depth < SourceBundle::maxFolderDepth)
-            if (auto watched = watchBelow(entry->path(), depth + 1); !watched)
+            if (auto watched = watchBelow(entry->path(), isLink ? SourceBundle::maxFolderDepth : depth + 1); !watched)
                 return watched;
     }
     return {};
