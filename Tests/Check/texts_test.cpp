@@ -12,7 +12,7 @@ std::string entry(std::string_view text) {
     return "\"key\" = \"" + std::string(text) + "\";";
 }
 
-// The rules that a translation of one text breaks, with spaces between them.
+// The rules that a development text and its translation break, with spaces between them.
 std::string rulesFor(const char* language, std::string_view development, std::string_view translation) {
     CheckedSource source(
         {{"en.lproj/T.strings", entry(development)}, {std::string(language) + ".lproj/T.strings", entry(translation)}});
@@ -68,8 +68,8 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
         {__LINE__, "zh-Hans", "Is it done?", "完成了", "punctuation-mismatch"},
         // Words and spaces.
         {__LINE__, "de", "Go on", "Mach  weiter", "double-space"},
-        {__LINE__, "de", "Go  on", "Mach  weiter", "double-space"}, // reported only for the development text
-        {__LINE__, "de", "List", "Liste:\\n  eins", "newline-mismatch"},
+        {__LINE__, "de", "Go  on", "Mach  weiter", "double-space"},      // reported only for the development text
+        {__LINE__, "de", "List", "Liste:\\n  eins", "newline-mismatch"}, // no double space: it is indentation
         {__LINE__, "de", "Go on", "Mach mach weiter", "repeated-word"},
         {__LINE__, "ru", "Go on", "Иди иди дальше", "repeated-word"},
         {__LINE__, "de", "Go on", "Mach, mach weiter", ""},
@@ -100,7 +100,7 @@ TEST(Check, FindsMissingAndUnknownKeys) {
          {"en-GB.lproj/T.strings", "a = won;"},
          {"en.lproj/U.strings", "a = one;\nb = two;"},
          {"fr.lproj/T.strings", "a = un; b = deux;c = trois;d = quatre;"},
-         {"fr.lproj/Layout.strings", "label = texte;"}}); // its development text is in a layout file
+         {"fr.lproj/Layout.strings", "label = texte;"}}); // not checked: the table has no development texts
     EXPECT_EQ(source.findings(),
               (Strings{"missing-key de.lproj/T.strings:1:1 de c", "unknown-key de.lproj/T.strings:2:1 de z",
                        "duplicate-key de.lproj/T.strings:4:1 de d", "missing-key en.lproj/U.strings:1:1 de ",
@@ -113,11 +113,10 @@ TEST(Check, ReportsAnErrorOnceIfOthersFollowFromIt) {
     EXPECT_EQ(source.findings(), Strings{"unreadable-table de.lproj/T.strings:2:5 de "});
     source.write("en.lproj/T.strings", "a = ");
     source.write("de.lproj/T.strings", "a = eins;");
-    source.takeMessages();
     EXPECT_EQ(source.findings(), Strings{"unreadable-table en.lproj/T.strings:1:5 en "});
     source.write("en.lproj/T.strings", "a = one;\nb = two;");
+    // A second file for the same table and language; the first one is in More/, which is read earlier.
     source.write("More/de.lproj/T.strings", "b = zwei;");
-    source.takeMessages();
     EXPECT_EQ(source.findings(), Strings{"unreadable-table de.lproj/T.strings:0:0 de "});
 
     CheckedSource conflict{{"en.lproj/T.strings", "m = \"%1$@ %1$d 5%\";"}, {"de.lproj/T.strings", "m = \"%1$@\";"}};
@@ -233,6 +232,7 @@ TEST(Check, CountsCoverage) {
     for (const Check::Finding& finding : Check::check(read, {}, source.diagnostics))
         if (finding.rule == Check::Rule::coverage)
             messages.push_back(finding.message);
+    // A text that equals the development text counts; a key that is allowed to be missing is still missing.
     EXPECT_EQ(messages, Strings{"de has 2 of 4 texts (50 %)"});
 }
 
