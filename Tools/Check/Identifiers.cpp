@@ -1,7 +1,7 @@
 #include "Check/Identifiers.h"
 
+#include "Generator/ReservedNames.h"
 #include <algorithm>
-#include <array>
 #include <string>
 
 namespace Check {
@@ -9,24 +9,6 @@ namespace Check {
 namespace {
 
 using Visit = std::function<void(std::string_view name, std::string_view qualifier)>;
-
-// The keywords of C++20, sorted. None of them qualifies a name: in `return ::b`, b is global.
-constexpr auto keywords = std::to_array<std::string_view>(
-    {"alignas",     "alignof",  "and",        "and_eq",    "asm",       "auto",         "bitand",
-     "bitor",       "bool",     "break",      "case",      "catch",     "char",         "char16_t",
-     "char32_t",    "char8_t",  "class",      "co_await",  "co_return", "co_yield",     "compl",
-     "concept",     "const",    "const_cast", "consteval", "constexpr", "constinit",    "continue",
-     "decltype",    "default",  "delete",     "do",        "double",    "dynamic_cast", "else",
-     "enum",        "explicit", "export",     "extern",    "false",     "float",        "for",
-     "friend",      "goto",     "if",         "inline",    "int",       "long",         "mutable",
-     "namespace",   "new",      "noexcept",   "not",       "not_eq",    "nullptr",      "operator",
-     "or",          "or_eq",    "private",    "protected", "public",    "register",     "reinterpret_cast",
-     "requires",    "return",   "short",      "signed",    "sizeof",    "static",       "static_assert",
-     "static_cast", "struct",   "switch",     "template",  "this",      "thread_local", "throw",
-     "true",        "try",      "typedef",    "typeid",    "typename",  "union",        "unsigned",
-     "using",       "virtual",  "void",       "volatile",  "wchar_t",   "while",        "xor",
-     "xor_eq"});
-static_assert(std::ranges::is_sorted(keywords));
 
 constexpr bool isDigit(char c) noexcept {
     return c >= '0' && c <= '9';
@@ -110,7 +92,8 @@ private:
 
     void takeMark() {
         if (code_.substr(at_).starts_with("::")) {
-            isQualified_ = !last_.empty() && !std::ranges::binary_search(keywords, last_);
+            // No keyword qualifies a name: in `return ::b`, b is global.
+            isQualified_ = !last_.empty() && !std::ranges::binary_search(Generator::Namer::reservedNames, last_);
             at_ += 2;
             return;
         }

@@ -1,6 +1,7 @@
 // Generator/ReservedNames.h
-// The names that generated code must not use, sorted; internal to Namer: the keywords and alternative tokens of C++20,
-// and the macros defined by compilers and by the headers of C, C++, POSIX and the C library. Left out are macros
+// The names that generated code must not use, sorted, for Namer and the scanner of `lumora check`: the keywords and
+// alternative tokens of C++20, and the macros defined by compilers and by the headers of C, C++, POSIX and the C
+// library. Left out are macros
 // - that begin with an underscore, because no generated name begins with an underscore and a letter;
 // - that Namer.cpp recognizes: errors, signals and the number formats of <cinttypes>;
 // - in capitals that only headers of POSIX define, such as IXON: a program that includes them needs another name for
