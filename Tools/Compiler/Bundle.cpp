@@ -40,7 +40,9 @@ Runtime::Result<void> compileBundle(const SourceBundle::Source& source, std::spa
     if (!staged)
         return std::move(staged.error());
     const std::string lastMark = contentOfMark(staged->target());
-    const auto tables = compileTables(source, *staged, lastMark, progress);
+    // With errors no bundle is written, so no tables are made; pictures are still checked.
+    const auto tables = diagnostics.hasErrors() ? Runtime::Result<std::string>(std::string())
+                                                : compileTables(source, *staged, lastMark, progress);
     if (!tables)
         return tables.error();
     const auto pictures = compileAssets(source.catalogs, *staged, lastMark, diagnostics, progress);
