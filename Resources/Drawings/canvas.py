@@ -8,12 +8,12 @@ The notation is one operation per line (or between ";"):
     e E  ellipse           cx cy rx ry
     r R  rectangle         x y w h [radius]
     l L  polyline/polygon  x1 y1 x2 y2 ...     g: closed and stroked
-    p P  path              path text
-    s S  star              cx cy outer inner [points [turn]]
-    u    another glyph     name [x y [scale [turn]]]
+    p P  path              path text (see paths.parse)
+    s S  star              cx cy outer inner [points [turn]]    (radii; turn in degrees)
+    u    glyph             name [x y [scale [turn]]]
 
 A colour is #RRGGBB, a key of the palette, or absent: the drawing's ink. The width is that of the stroke, by default the
-drawing's pen; a filled shape is stroked only if it has one.
+drawing's pen; a filled shape is stroked only if its operation gives a width.
 """
 
 import re
@@ -84,7 +84,7 @@ class Drawing:
                                width * paths.factor(self.matrix), opacity, butt))
 
     def fade(self, first, last, outline=None, line=None):
-        """Fills with a gradient, by default the whole drawing from top to bottom."""
+        """Fills an outline, by default the whole drawing, with a gradient, by default from the drawing's top to its bottom."""
         outline = outline or paths.rect(0, 0, self.width, self.height)
         self.add(outline, Gradient(first, last, line or (0, 0, 0, self.height)))
 
@@ -118,8 +118,6 @@ class Drawing:
             outline = paths.parse(rest)
         else:
             n = [float(v) for v in rest.split()]
-            if low == "s":
-                n[4:] = [int(v) for v in n[4:]]
             outline = {"c": paths.ellipse, "e": paths.ellipse, "r": paths.rect,
                        "s": paths.star}[low](*n) if low in "cers" else \
                 paths.polyline(n, code != "l")

@@ -83,8 +83,7 @@ def drawings():
     """name -> function giving the drawing."""
     result = {}
     for module in (icons, food, questions, placeholders, pages):
-        made = module.icons() if module is icons else module.pictures()
-        for name, function in made.items():
+        for name, function in module.pictures().items():
             if name in result:
                 raise ValueError(f"{name} is drawn twice")
             result[name] = function
@@ -100,6 +99,7 @@ def files():
             result[f"{folder}/{name}"] = data
 
     def group(catalog, folder):
+        """Puts the Contents.json of the catalog and of each folder on the path; returns the path below Resources."""
         root = f"{catalog}.xcassets"
         put(root, {"Contents.json": _contents()})
         for part in folder.split("/") if folder else ():

@@ -3,7 +3,7 @@
 
     python3 Resources/Drawings/check.py [--no-redraw]
 
-Prints every error and ends with status 1 if there is any. --no-redraw skips the
+Prints every fault and ends with status 1 if there is any. --no-redraw skips the
 comparison with freshly drawn files, the only slow part.
 """
 
@@ -15,7 +15,7 @@ import xml.etree.ElementTree
 import zlib
 from pathlib import Path
 
-sys.dont_write_bytecode = True
+sys.dont_write_bytecode = True  # Resources is a source: it gets no __pycache__
 
 import catalogs  # noqa: E402
 import names  # noqa: E402
@@ -73,14 +73,15 @@ def jpeg_size(data):
         mark, marker, length = struct.unpack(">BBH", data[at:at + 4])
         if mark != 0xFF:
             raise ValueError("lost between JPEG segments")
-        if marker == 0xC0:
+        if marker == 0xC0:      # baseline frame: height, then width
             size = struct.unpack(">HH", data[at + 5:at + 9])[::-1]
         at += 2 + length
-        if marker == 0xDA:
+        if marker == 0xDA:      # start of scan: the pixels follow
             return size
 
 
 def pdf_size(data):
+    """The size of a PDF of pdf.py whose table of objects and stream length are right."""
     table = int(re.search(rb"startxref\n(\d+)\n%%EOF\n$", data)[1])
     count = int(re.match(rb"xref\n0 (\d+)\n", data[table:])[1])
     for n, offset in enumerate(re.findall(rb"(\d{10}) 00000 n", data[table:]), 1):
@@ -106,7 +107,10 @@ SIZE = {".png": png_size, ".jpg": jpeg_size, ".pdf": pdf_size, ".svg": svg_size}
 
 
 def check_names(faults):
-    """Checks that exactly the listed assets exist, each once in its catalog and without a folder namespace."""
+    """Checks that exactly the listed assets exist, each once in its catalog, and that no folder provides a namespace.
+
+    Returns (folder, kind) of each set.
+    """
     found = {}
     for catalog, kinds in names.CATALOGS.items():
         root = ROOT / f"{catalog}.xcassets"
@@ -152,7 +156,7 @@ def check_set(folder, kind, faults):
             continue
         scale = int(entry.get("scale", "1x")[:-1])
         if ("scale" in entry) != (path.suffix in (".png", ".jpg")):
-            faults.append(f"{path.name}: a scale belongs to pixels, and only to them")
+            faults.append(f"{path.name}: a bitmap needs a scale, a drawing must have none")
         try:
             width, height = SIZE[path.suffix](path.read_bytes())
             points.add((width / scale, height / scale))
@@ -177,7 +181,7 @@ def check_distinct(faults):
 
 
 def check_redrawn(faults):
-    """Checks that the files are those that the programs draw now."""
+    """Checks that the files are those that the scripts draw now."""
     made = catalogs.files()
     have = {p.relative_to(ROOT).as_posix(): p for catalog in names.CATALOGS
             for p in (ROOT / f"{catalog}.xcassets").rglob("*") if p.is_file()}

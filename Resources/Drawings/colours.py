@@ -2,7 +2,7 @@
 
 Each line: NAME light [dark [light-contrast dark-contrast]] [@notation]. A value is #RRGGBB or
 #RRGGBBAA, or a grey level such as =0.96 (gamma 2.2 grey). A line "[Folder notation]" begins a folder
-and says how red, green and blue are written there: decimal, byte or hex. @notation is for one colour:
+and says how its colours' Contents.json writes red, green and blue: decimal, byte or hex. @notation is for one colour:
 p3 (Display P3) and wide (extended sRGB) are decimals in another colour space.
 """
 
@@ -135,6 +135,7 @@ def _value(text, notation):
     if text.startswith("="):
         return {"color-space": "gray-gamma-22",
                 "components": {"white": f"{float(text[1:]):.3f}", "alpha": "1.000"}}
+    # FF is the alpha of a text without one.
     red, green, blue, alpha = (int((text + "FF")[i:i + 2], 16) for i in (1, 3, 5, 7))
     components = {name: _component(byte, notation)
                   for name, byte in (("red", red), ("green", green), ("blue", blue))}

@@ -10,7 +10,7 @@ from the catalogs. Only the standard library is needed.
 import sys
 from pathlib import Path
 
-sys.dont_write_bytecode = True
+sys.dont_write_bytecode = True  # Resources is a source: it gets no __pycache__
 
 import catalogs  # noqa: E402
 import names  # noqa: E402
@@ -28,6 +28,7 @@ def main():
         target.write_bytes(data)
         changed += 1
     for catalog in names.CATALOGS:
+        # Reversed, so that a folder comes after its contents.
         for old in sorted((root / f"{catalog}.xcassets").rglob("*"), reverse=True):
             if old.is_file() and old.relative_to(root).as_posix() not in made:
                 old.unlink()

@@ -77,6 +77,7 @@ CATEGORIES = {
         l:white~2 19 33 29 33;R:white 18 30 2.6 6 1;R:white 28 30 2.6 6 1"""),
 }
 
+# asset's name -> operations
 DISHES = {
     "banana": """P:yellow M9 9C11 6 14 6 15 9C17 24 27 32 41 30C44 31 45 34 43 36C25 45 7 32 9 9Z
         P:#E8A800 M10 16C12 28 23 37 40 36.5L43 36C25 45 7 32 9 14Z;P:brown M9 9C10 6 13 5 14.5 7L15 10L9.2 11Z

@@ -283,7 +283,7 @@ icon_timer 40 soft=red | u stopwatch
 """
 
 
-def _frame(drawing, frame, colour, operations):
+def _draw_framed(drawing, frame, colour, operations):
     drawing.ink = colour or "ink"
     if frame == "tile":
         drawing.draw("R/0.12 0 0 24 24 7")
@@ -313,11 +313,11 @@ def _icon(size, frame, colour, operations):
     drawing = Drawing(size)
     drawing.template = not colour
     with drawing.placed(scale=size / 24):
-        _frame(drawing, frame, colour, operations)
+        _draw_framed(drawing, frame, colour, operations)
     return drawing
 
 
-def icons():
+def pictures():
     """name -> function giving its drawing."""
     result = {}
     for line in TABLE.strip().split("\n"):

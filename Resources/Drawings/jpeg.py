@@ -5,11 +5,13 @@ import struct
 
 from raster import render
 
+# The order in which the 64 coefficients of a block are stored: diagonal by diagonal, alternately up and down.
 _ZIGZAG = sorted(range(64), key=lambda k: (
     k // 8 + k % 8, (k // 8 if (k // 8 + k % 8) % 2 else k % 8)))
 _LUMA = """16 11 10 16 24 40 51 61 12 12 14 19 26 58 60 55 14 13 16 24 40 57 69 56
 14 17 22 29 51 87 80 62 18 22 37 56 68 109 103 77 24 35 55 64 81 104 113 92
 49 64 78 87 103 121 120 101 72 92 95 98 112 100 103 99""".split()
+# The upper left quarter; the rest is 99.
 _CHROMA = [17, 18, 24, 47, 18, 21, 26, 66, 24, 26, 56, 99, 47, 66, 99, 99]
 _COSINES = [[math.cos((2 * x + 1) * u * math.pi / 16) * (math.sqrt(0.125) if u == 0 else 0.5)
              for x in range(8)] for u in range(8)]
@@ -58,9 +60,10 @@ def _symbols(coefficients, before):
 
 
 def _code(counts):
-    """A prefix code of at most 16 bits for the counted symbols: (lengths, symbols, codes)."""
+    """A prefix code of at most 16 bits for the counted symbols: (how many codes of 1 to 16 bits, symbols by code,
+    symbol -> (code, bits))."""
     trees = sorted((n, s, [s]) for s, n in counts.items())
-    trees.insert(0, (0, -1, [-1]))                   # keeps the all-ones code word unused
+    trees.insert(0, (0, -1, [-1]))                   # takes the all-ones code word, which JPEG reserves
     depth = {s: 0 for _, s, _ in trees}
     while len(trees) > 1:
         (n, _, a), (m, s, b) = trees[0], trees[1]
@@ -80,7 +83,7 @@ def _code(counts):
             lengths[j + 1] += 2
             lengths[j] -= 1
     longest = max(i for i in range(17) if lengths[i])
-    lengths[longest] -= 1
+    lengths[longest] -= 1                            # the reserved one
     symbols = sorted((s for s in depth if s >= 0), key=lambda s: (depth[s], s))
     codes, code, k = {}, 0, 0
     for bits in range(1, 17):
@@ -123,12 +126,13 @@ def encode(drawing, scale, quality=82):
             code, length = codes[int(kind), int(n > 0)][2][symbol]
             bits.append(f"{code:0{length}b}" + (f"{more:0{size}b}" if size else ""))
     text = "".join(bits)
-    text += "1" * (-len(text) % 8)
-    scan = int(text, 2).to_bytes(len(text) // 8, "big").replace(b"\xff", b"\xff\0")
+    text += "1" * (-len(text) % 8)          # fills the last byte
+    scan = int(text, 2).to_bytes(len(text) // 8, "big").replace(b"\xff", b"\xff\0")  # FF alone begins a marker
 
     def segment(marker, body):
         return struct.pack(">BBH", 0xFF, marker, len(body) + 2) + body
 
+    # The segments: the file's header, quantization tables, frame header, Huffman codes, scan header.
     data = b"\xff\xd8" + segment(0xE0, b"JFIF\0\1\1\0\0\1\0\1\0\0")
     for n, table in enumerate(quant):
         data += segment(0xDB, bytes([n, *(table[k] for k in _ZIGZAG)]))

@@ -1,4 +1,5 @@
-"""The names of all assets, catalog by catalog, by folder and then by name. A line "[Folder]" begins a folder.
+"""The names of all assets, catalog by catalog, by folder and then by name. A line "[Folder]" begins a folder; colours.py
+has the folders of the colours.
 
 The spellings are those of the application's code, with its mistakes, such as "vdieo" and "welcom"."""
 
@@ -154,7 +155,7 @@ icon_support_subs icon_timer subscription_logo
 """
 
 
-def _by_folder(text):
+def _folders(text):
     """name -> folder"""
     folder, result = "", {}
     for word in text.split():
@@ -166,7 +167,7 @@ def _by_folder(text):
 
 
 # catalog -> image -> folder
-FOLDERS = {"Images": _by_folder(IMAGES), "Subscription": _by_folder(SUBSCRIPTION)}
+FOLDERS = {"Images": _folders(IMAGES), "Subscription": _folders(SUBSCRIPTION)}
 
 # catalog -> asset kind -> names
 CATALOGS = {

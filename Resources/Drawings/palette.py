@@ -11,7 +11,7 @@ COLOURS = {
     "wine": "#9C2F4F", "gold": "#F5B301",
 }
 
-# Skin, hair, clothes and scenery of the people and places of each region; "plain" is for pictures without a region.
+# Skin (and its shade), hair, clothes and scenery of the people and places of each region; "plain" is for pictures without one.
 REGIONS = {
     "plain": dict(skin="#F2C6A0", shade="#DFAA80", hair="#5A3A28", top="#3B7DFF", bottom="#23283A",
                   shoe="#FFFFFF", accent="#7A5CF0", sky=("#EEF3FF", "#D6E4FF"), far="#BDD1FA",

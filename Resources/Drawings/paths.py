@@ -1,7 +1,8 @@
 """Outlines: parsing of path texts, basic shapes, affine maps and flattening.
 
 An outline is a list of absolute segments: ("M", x, y), ("L", x, y),
-("C", x1, y1, x2, y2, x, y) and ("Z",).
+("C", x1, y1, x2, y2, x, y) and ("Z",). A map (a, b, c, d, e, f) takes x, y to
+a x + c y + e, b x + d y + f.
 """
 
 import math
@@ -162,7 +163,7 @@ def polyline(numbers, closed=False):
 
 def star(cx, cy, outer, inner, points=5, turn=-90):
     numbers = []
-    for i in range(points * 2):
+    for i in range(int(points) * 2):
         r = inner if i % 2 else outer
         a = math.radians(turn + 180 * i / points)
         numbers += [cx + r * math.cos(a), cy + r * math.sin(a)]
@@ -170,7 +171,7 @@ def star(cx, cy, outer, inner, points=5, turn=-90):
 
 
 def flatten(outline, tolerance=0.1):
-    """The outline as polylines: a list of (points, closed)."""
+    """The outline as polylines: a list of (points, closed). A curve becomes at most 40 lines, no more than `tolerance` needs."""
     result, points = [], []
     for kind, *v in outline:
         if kind == "M":

@@ -8,10 +8,11 @@ def _rgb(colour, operator):
 
 
 def _content(drawing):
+    # PDF's y axis points up; ends and joins of strokes are round.
     lines = [f"1 0 0 -1 0 {number(drawing.height)} cm", "1 J 1 j"]
     for item in drawing.items:
-        if item.opacity != 1 or (item.fill and not isinstance(item.fill, str)):
-            raise ValueError("a PDF picture takes opaque plain colours only")
+        if item.opacity != 1 or item.butt or (item.fill and not isinstance(item.fill, str)):
+            raise ValueError("a PDF picture takes opaque plain colours and round ends only")
         if item.fill:
             lines.append(_rgb(item.fill, "rg"))
         if item.stroke:

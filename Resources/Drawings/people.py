@@ -17,7 +17,7 @@ class Look:
     """The look of a person: colours, clothes, hair and build."""
     male: bool
     skin: str
-    shade: str
+    shade: str                  # of the skin
     hair: str
     top: str
     bottom: str
@@ -29,7 +29,7 @@ class Look:
     wide: float = 1             # factor of the trunk's width
     limb: float = 1             # factor of the limbs' width
     belly: float = 0            # added to the width of the waist
-    trim: str = None            # stripe or logo colour
+    trim: str = None            # colour of a stripe, scarf or hair band
 
 
 # The hair of men and of women. The names of training targets say "ar" for "arab".
@@ -51,7 +51,7 @@ def look(male, region="plain", **changes):
 
 
 def _limb(d, points, width, colour, covered, cloth):
-    """A limb of straight pieces; the first `covered` share of it is clothed."""
+    """A limb of straight pieces, clothed as a whole if `covered` is 1; if it is less, that share of the first piece is."""
     numbers = [v for p in points for v in p]
     d.add(paths.polyline(numbers), None, colour, width)
     if covered <= 0:
@@ -65,6 +65,7 @@ def _limb(d, points, width, colour, covered, cloth):
 
 
 def _chain(x, y, angles, lengths, side=1):
+    """The joints of a limb that begins at x, y; `side` -1 is the left one in the front view."""
     points = [(x, y)]
     for angle, length in zip(angles, lengths):
         a = math.radians(angle)
@@ -73,6 +74,7 @@ def _chain(x, y, angles, lengths, side=1):
     return points
 
 
+# What Look.sleeves and Look.legs cover, see _limb.
 SLEEVE = {"none": 0, "short": 0.55, "long": 1}
 LEG = {"long": 1, "short": 0.75, "tunic": 1}
 
@@ -87,7 +89,8 @@ class Pose:
 
 
 def front(d, who, pose=Pose(), back=False):
-    """Draws the figure seen from the front (or back); returns where its hands and feet are, by name."""
+    """Draws the figure seen from the front (or back). Returns where its hands ("left", "right") and feet ("left_foot",
+    "right_foot") are."""
     shoulder = (20.5 if who.male else 16.5) * who.wide
     waist = (15.5 if who.male else 11.5) * who.wide + who.belly
     hip = (14.5 if who.male else 15.5) * who.wide + who.belly * 0.7
@@ -214,7 +217,8 @@ def _hair_back(d, who):
 
 def side(d, who, lean=0, near_arm=(20, 60), far_arm=(-20, 30), near_leg=(5, 0), far_leg=(-5, 0),
          nod=0):
-    """Draws the figure seen from the side, facing right; returns where its hands, feet and head are, by name."""
+    """Draws the figure seen from the side, facing right, with its trunk turned forwards by `lean` degrees and its head by
+    `nod` more. Returns where its hands, feet and head are, by name."""
     build = who.wide
     trunk = ((18 if who.male else 15) * build + who.belly)
     arm, leg = (9.5 if who.male else 7.5) * who.limb, (14 if who.male else 13) * who.limb

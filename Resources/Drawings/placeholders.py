@@ -175,7 +175,7 @@ def _exercise():
 
 def _person_card(name):
     d = Drawing(180)
-    _scene(d, "lilac" if name == "profileAbout" else "mint", "violet" if name == "profileAbout" else "teal", False)
+    _scene(d, "lilac" if name == "profileAbout" else "mint", "violet" if name == "profileAbout" else "teal", dark=False)
     if name == "profileAbout":
         d.draw("R:white 34 40 112 104 12;R:violet 34 40 112 24 12;R:violet 34 52 112 12;R:mist 92 82 42 7 3.5;R:mist 92 98 34 7 3.5;R:mist 46 124 88 7 3.5")
         d.add(paths.rect(44, 74, 40, 42, 8), "#DCE8FF")
@@ -212,7 +212,7 @@ def pictures():
         "profileAbout": lambda: _person_card("profileAbout"),
         "profilePhoto": lambda: _person_card("profilePhoto"),
         "welcom_logo": _welcome_logo, "logo_small": lambda: _logo(32), "subscription_logo": _subscription_logo,
-        "bubble_1": lambda: _bubble(False), "bubble_2": lambda: _bubble(True), "cup": _cup,
+        "bubble_1": lambda: _bubble(own=False), "bubble_2": lambda: _bubble(own=True), "cup": _cup,
         "feedPlaceholder": _feed, "trainer_header_background": _header, "exercise_test_image": _exercise,
         "course_start_chat": _chat,
         "red_point": lambda: _plain(12, "C:red 6 6 5"),
@@ -221,7 +221,7 @@ def pictures():
         "diet_spinner": lambda: _plain(
             40, "c:mist~4 20 20 16;p:green~4 M20 4A16 16 0 0 1 36 20;P:green M20 28C14 26 13 18 18 13C25 14 28 21 24 27Z"
                 ";l:white~1.5 21 25 20 18"),
-        "arrow": lambda: _plain(24, "l 3 12 19 12;L 14.5 6 22 12 14.5 18", True),
+        "arrow": lambda: _plain(24, "l 3 12 19 12;L 14.5 6 22 12 14.5 18", template=True),
         "card": lambda: _plain(
             40, "R:blue 3 8 34 24 4;R:deep 3 13 34 5;R:gold 7 22 7 5 1.5;l:white~1.6 24 26 33 26;l:white~1.6 28 22 33 22"),
         "choose": lambda: _plain(24, "R:green 2 2 20 20 6;l:white~2.4 6.8 12.5 10.4 16 17.2 8.6"),
@@ -231,4 +231,4 @@ def pictures():
 
 def dark_pictures():
     """name -> function giving the drawing for dark mode"""
-    return {name: (lambda n=name: _empty(n, True)) for name in sorted(DARK)}
+    return {name: (lambda n=name: _empty(n, dark=True)) for name in sorted(DARK)}

@@ -94,7 +94,7 @@ def _home(male, region):
     if male:
         scenery.room(d, 122, "#EAF1FF", "#C79A6B")
     elif region:
-        scenery.room(d, 122, "#FBE6BE", "#B98752", True)
+        scenery.room(d, 122, "#FBE6BE", "#B98752", arch=True)
     else:
         scenery.room(d, 122, "#FFE9E2", "#D8A878")
     if male:
@@ -286,6 +286,6 @@ def pictures():
                     lambda m=male, a=aim, r=region: _goal(m, a, r)
     for level in ("low", "medium", "high"):
         result[f"daily_load_{level}"] = lambda v=level: _load(v)
-    result["at_home"] = lambda: _place(True)
-    result["at_gym"] = lambda: _place(False)
+    result["at_home"] = lambda: _place(home=True)
+    result["at_gym"] = lambda: _place(home=False)
     return result

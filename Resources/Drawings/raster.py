@@ -13,7 +13,7 @@ SUBLINES = 5  # lines per row of pixels at which the outlines are sampled
 def _stroke(lines, width, butt):
     """Polygons with the same orientation that together cover a stroke with round joins and, unless `butt`, round ends."""
     r = width / 2
-    sides = max(8, min(48, int(4 * math.sqrt(r) * 2)))
+    sides = max(8, min(48, int(8 * math.sqrt(r))))
     disc = [(r * math.cos(2 * math.pi * k / sides), r * math.sin(2 * math.pi * k / sides))
             for k in range(sides)]
     polygons = []
@@ -31,8 +31,9 @@ def _stroke(lines, width, butt):
 
 
 def _spans(polygons, width, height):
-    """Yields (row, {pixel: coverage}, [(first, end)]) for each row with covered pixels: the coverage of single pixels, and the
-    runs that one line covers as a whole. Coverages and runs are per line, so a full pixel has SUBLINES of both together."""
+    """Yields (row, {pixel: coverage}, [(first, end)]) for each row with covered pixels. Each of its SUBLINES lines adds runs of
+    pixels that it covers as a whole, and up to 1 to the coverage of a pixel that it covers in part. So a pixel is full if its
+    coverage and the number of runs with it add up to SUBLINES."""
     rows = {}
     for polygon in polygons:
         for (x0, y0), (x1, y1) in zip(polygon, polygon[1:] + polygon[:1]):
@@ -141,7 +142,7 @@ def png(drawing, scale):
     image = render(drawing, scale)
     lines = bytearray()
     for row in image:
-        lines.append(0)
+        lines.append(0)  # this row is not filtered
         for r, g, b, a in row:
             alpha = int(a * 255 + 0.5)
             k = 1 / a if alpha else 0
@@ -152,6 +153,6 @@ def png(drawing, scale):
         return struct.pack(">I", len(body)) + kind + body + \
             struct.pack(">I", zlib.crc32(kind + body))
 
-    header = struct.pack(">IIBBBBB", len(image[0]), len(image), 8, 6, 0, 0, 0)
+    header = struct.pack(">IIBBBBB", len(image[0]), len(image), 8, 6, 0, 0, 0)  # 8 bits a channel, RGBA
     return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"sRGB", b"\0") + \
         chunk(b"IDAT", zlib.compress(bytes(lines), 9)) + chunk(b"IEND", b"")
