@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -75,6 +76,10 @@ void page(const char* title, void (*printLine)(), const char* locale) {
     for (const LocalizationCode code : LocalizationCode::allCases()) {
         std::fflush(stdout);
         const pid_t child = ::fork();
+        if (child < 0) {
+            std::perror("fork");
+            std::exit(1);
+        }
         if (child == 0) {
             setPreferredLanguages({code.rawValue()});
             setCurrentLocale(locale != nullptr ? locale : code.rawValue());

@@ -177,19 +177,28 @@ void FormatSignature::add(const Placeholder& placeholder, const ArgumentCounter:
     add(taken.value, placeholder.kind);
 }
 
+bool hasLonePercent(std::string_view format) noexcept {
+    std::size_t at = 0;
+    while (const auto found = nextPlaceholder(format, at)) {
+        if (format.find('%', at) < found->begin)
+            return true;
+        at = found->end;
+    }
+    return format.find('%', at) != format.npos;
+}
+
 FormatSignature signatureOf(std::string_view format) {
     FormatSignature signature;
     ArgumentCounter counter;
     ArgumentStyle style;
     std::size_t at = 0;
     while (const auto found = nextPlaceholder(format, at)) {
-        signature.hasLonePercent |= format.substr(at, found->begin - at).find('%') != format.npos;
         at = found->end;
         signature.add(*found, counter.take(*found));
         style.add(*found);
     }
     signature.mixesPositions = style.isMixed();
-    signature.hasLonePercent |= format.substr(at).find('%') != format.npos;
+    signature.hasLonePercent = hasLonePercent(format);
     return signature;
 }
 

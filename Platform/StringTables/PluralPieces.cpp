@@ -139,7 +139,12 @@ private:
 } // namespace
 
 FormatSignature signatureOf(const PluralFormat& plural) {
-    return SignatureReader(plural).signature;
+    FormatSignature signature = SignatureReader(plural).signature;
+    signature.hasLonePercent = hasLonePercent(plural.format);
+    for (const PluralVariable& variable : plural.variables)
+        for (const auto& form : variable.forms)
+            signature.hasLonePercent |= form && hasLonePercent(*form);
+    return signature;
 }
 
 } // namespace StringTables

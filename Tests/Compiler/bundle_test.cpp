@@ -68,14 +68,19 @@ TEST(CompileBundle, CompletesInfoPlist) {
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "de");
     EXPECT_EQ(information->find("Other"), "text");
 
-    // A file with other values than texts is copied unchanged. A build setting is replaced.
+    // A file with other values than texts is copied unchanged. A build setting is replaced; what is lost is reported.
     const std::string more = "<plist><dict><key>CFBundleDevelopmentRegion</key><string>de</string>"
                              "<key>a</key><array/></dict></plist>";
     folder.write("source/Info.plist", more);
     ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
     EXPECT_EQ(Support::contents(folder / "out.bundle/Info.plist"), more);
-    folder.write("source/Info.plist", "CFBundleDevelopmentRegion = \"$(DEVELOPMENT_LANGUAGE)\";");
-    ASSERT_EQ(compile(folder / "source", folder / "out.bundle").failure, "");
+    const fs::path info =
+        folder.write("source/Info.plist", "CFBundleDevelopmentRegion = \"$(DEVELOPMENT_LANGUAGE)\"; a = ();");
+    const Outcome replaced = compile(folder / "source", folder / "out.bundle");
+    ASSERT_EQ(replaced.failure, "");
+    EXPECT_EQ(std::ranges::count(replaced.diagnostics,
+                                 info.string() + ":1:56: the value of \"a\" is an array, not a text; skipped"),
+              1);
     EXPECT_EQ(Table::read(Support::contents(folder / "out.bundle/Info.plist"))->find("CFBundleDevelopmentRegion"),
               "en");
     // A damaged file is an error, once, even if its development language is not needed.

@@ -180,7 +180,7 @@ TEST(PluralTable, ListsTheArgumentsOfAllForms) {
         list(dict("k", text("NSStringLocalizedFormatKey", "%@: %#@files@ %@") +
                            variable("files", "lu", "one in %#@size@", "%lu in %#@size@ by %4$@") + size) +
              dict("no number", text("NSStringLocalizedFormatKey", "%#@files@") +
-                                   variable("files", "lu", "by %@ in %#@size@", "in %#@size@") + size)));
+                                   variable("files", "lu", "by %@ in %#@size@", "in %#@size@ %") + size)));
     ASSERT_TRUE(table);
     const auto signature = signatureOf(table->find("k")->plural);
     const std::vector<std::optional<Kind>> expected = {Kind::text, Kind::integer, Kind::number, Kind::text};
@@ -190,6 +190,8 @@ TEST(PluralTable, ListsTheArgumentsOfAllForms) {
     const auto withoutNumber = signatureOf(table->find("no number")->plural);
     EXPECT_EQ(withoutNumber.arguments, (std::vector<std::optional<Kind>>{Kind::integer, Kind::text, Kind::number}));
     EXPECT_FALSE(withoutNumber.conflict);
+    EXPECT_FALSE(signature.hasLonePercent);
+    EXPECT_TRUE(withoutNumber.hasLonePercent);
 }
 
 TEST(PluralTable, EndsWhereFormsNameEachOther) {

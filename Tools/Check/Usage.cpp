@@ -105,18 +105,31 @@ bool isCodeFile(const fs::path& file) {
     return std::ranges::find(extensions, file.extension().string()) != extensions.end();
 }
 
+// Whether the entries of the folder can be read; if not, adds an error.
+bool isReadable(const fs::path& folder, Diagnostics& diagnostics) {
+    std::error_code failed;
+    const fs::directory_iterator entries(folder, failed);
+    if (failed)
+        diagnostics.add(Severity::error, {.message = "cannot be read: " + failed.message(), .file = folder});
+    return !failed;
+}
+
 // The C and C++ files in the folder and its subfolders, sorted, without hidden ones. Links to folders are not followed.
 std::vector<fs::path> codeFilesIn(const fs::path& folder, Diagnostics& diagnostics) {
     std::vector<fs::path> files;
+    if (!isReadable(folder, diagnostics))
+        return files;
     std::error_code failed;
     fs::recursive_directory_iterator at(folder, failed);
     for (const fs::recursive_directory_iterator end; !failed && at != end; at.increment(failed)) {
-        const bool isHidden = at->path().filename().string().starts_with('.');
+        const fs::path& path = at->path();
         std::error_code ignored;
-        if (at->is_directory(ignored) && isHidden)
+        if (path.filename().string().starts_with('.'))
             at.disable_recursion_pending();
-        else if (!isHidden && at->is_regular_file(ignored) && isCodeFile(at->path()))
-            files.push_back(at->path());
+        else if (at->is_directory(ignored) && !at->is_symlink(ignored) && !isReadable(path, diagnostics))
+            at.disable_recursion_pending();
+        else if (at->is_regular_file(ignored) && isCodeFile(path))
+            files.push_back(path);
     }
     if (failed)
         diagnostics.add(Severity::error, {.message = "cannot be read: " + failed.message(), .file = folder});

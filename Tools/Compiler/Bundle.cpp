@@ -42,7 +42,7 @@ Runtime::Result<void> compileBundle(const SourceBundle::Source& source, std::spa
     const std::string lastMark = contentOfMark(staged->target());
     // With errors no bundle is written, so no tables are made; pictures are still checked.
     const auto tables = diagnostics.hasErrors() ? Runtime::Result<std::string>(std::string())
-                                                : compileTables(source, *staged, lastMark, progress);
+                                                : compileTables(source, *staged, lastMark, diagnostics, progress);
     if (!tables)
         return tables.error();
     const auto pictures = compileAssets(source.catalogs, *staged, lastMark, diagnostics, progress);

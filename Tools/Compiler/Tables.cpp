@@ -17,6 +17,7 @@ namespace Compiler {
 
 namespace fs = std::filesystem;
 using SourceBundle::LanguageTexts;
+using SourceBundle::Severity;
 using SourceBundle::Source;
 using SourceBundle::SourceTable;
 using StringTables::Entry;
@@ -59,10 +60,14 @@ Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source&
 }
 
 // The source's first Info.plist with the entries about the source. One that also has what a table cannot have, such as
-// values that are not texts, is copied unchanged; if its development language must be changed, it loses them.
-Runtime::Result<std::string> info(const Source& source) {
+// values that are not texts, is copied unchanged; if its development language must be changed, it loses them. What is
+// lost is reported.
+Runtime::Result<std::string> info(const Source& source, SourceBundle::Diagnostics& diagnostics) {
     if (source.infos.empty())
         return completed({}, source);
+    for (const fs::path& other : std::span(source.infos).subspan(1))
+        diagnostics.add(Severity::note,
+                        {.message = "is left out; the bundle has " + source.infos.front().string(), .file = other});
     const fs::path& file = source.infos.front();
     auto bytes = Runtime::readFile(file, Table::maxBytes);
     if (!bytes)
@@ -74,6 +79,10 @@ Runtime::Result<std::string> info(const Source& source) {
     }
     if (table->find(regionKey) == source.developmentLanguage && !table->notes().empty())
         return bytes;
+    for (Runtime::Error note : table->notes()) {
+        note.file = file;
+        diagnostics.add(Severity::note, std::move(note));
+    }
     return completed({table->entries().begin(), table->entries().end()}, source);
 }
 
@@ -121,8 +130,8 @@ Runtime::Result<std::string> compileTexts(const LanguageTexts& texts, const Stag
 } // namespace
 
 Runtime::Result<std::string> compileTables(const Source& source, const StagedFolder& out, std::string_view lastMark,
-                                           const Progress& progress) {
-    if (auto written = writeFile(out, layout::informationFile, info(source)); !written)
+                                           SourceBundle::Diagnostics& diagnostics, const Progress& progress) {
+    if (auto written = writeFile(out, layout::informationFile, info(source, diagnostics)); !written)
         return std::move(written.error());
     struct Job {
         std::string_view table;

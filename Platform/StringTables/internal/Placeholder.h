@@ -114,7 +114,7 @@ struct FormatSignature {
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one
     bool mixesPositions = false;      // one text takes arguments both by position and in order (ArgumentStyle)
-    bool hasLonePercent = false;      // some '%' does not begin a placeholder; never set for plurals
+    bool hasLonePercent = false;      // what hasLonePercent() says, in a plural of the format or any form
 
     // Adds the arguments that a placeholder takes.
     void add(const Placeholder& placeholder, const ArgumentCounter::Taken& taken);
@@ -122,5 +122,7 @@ struct FormatSignature {
     void add(std::size_t position, Kind kind);
 };
 [[nodiscard]] FormatSignature signatureOf(std::string_view format);
+// Whether some '%' does not begin a placeholder.
+[[nodiscard]] bool hasLonePercent(std::string_view format) noexcept;
 
 } // namespace StringTables
