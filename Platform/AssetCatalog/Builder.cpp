@@ -24,15 +24,15 @@ Runtime::Error failure(std::string message) {
     return {.message = std::move(message), .file = std::string(fileName)};
 }
 
-Format::Fit formatted(const Fit& fit) {
+Format::Fit toFormat(const Fit& fit) {
     return {static_cast<std::uint8_t>(fit.appearance), static_cast<std::uint8_t>(fit.contrast),
             static_cast<std::uint8_t>(fit.direction), fit.scale};
 }
-Format::Insets formatted(const Insets& insets) {
+Format::Insets toFormat(const Insets& insets) {
     return {insets.top, insets.left, insets.bottom, insets.right};
 }
 
-// Sorts the variants by language and traits. Keeps the first of those that have the same.
+// Sorts the variants by language and traits. Of those for the same language and traits keeps the first.
 template <class Variant> void sortDistinct(std::vector<Variant>& variants) {
     const auto key = [](const Variant& variant) {
         const Fit& fit = variant.fit;
@@ -122,10 +122,10 @@ private:
     }
 
     flatbuffers::Offset<Format::Picture> add(const Picture& picture) {
-        const Format::Fit fit = formatted(picture.fit);
+        const Format::Fit fit = toFormat(picture.fit);
         const Format::Size points(picture.points.width, picture.points.height);
-        const Format::Insets caps = formatted(picture.capInsets);
-        const Format::Insets alignment = formatted(picture.alignmentInsets);
+        const Format::Insets caps = toFormat(picture.capInsets);
+        const Format::Insets alignment = toFormat(picture.alignmentInsets);
         return Format::CreatePicture(buffer_, &fit, text(picture.language), blobs_.add(picture.bytes),
                                      picture.bytes->size(), picture.width, picture.height, &points,
                                      static_cast<std::uint8_t>(picture.resizing),
@@ -133,14 +133,14 @@ private:
                                      picture.alignmentInsets == Insets{} ? nullptr : &alignment);
     }
     flatbuffers::Offset<Format::Color> add(const Color& color) {
-        const Format::Fit fit = formatted(color.fit);
+        const Format::Fit fit = toFormat(color.fit);
         const auto& [first, second, third, alpha] = color.value.components;
         const Format::Components components(first, second, third, alpha);
         return Format::CreateColor(buffer_, &fit, text(color.language), static_cast<std::uint8_t>(color.value.space),
                                    &components);
     }
     flatbuffers::Offset<Format::Data> add(const Data& data) {
-        const Format::Fit fit = formatted(data.fit);
+        const Format::Fit fit = toFormat(data.fit);
         return Format::CreateData(buffer_, &fit, text(data.language), blobs_.add(data.bytes), data.bytes->size(),
                                   text(data.typeIdentifier));
     }

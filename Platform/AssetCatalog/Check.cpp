@@ -150,8 +150,9 @@ Runtime::Result<std::size_t> indexBytes(std::span<const std::uint8_t> head, std:
 }
 
 Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> bytes, std::uint64_t total) {
-    // Each table that is not shared takes at least twelve bytes. The limit on tables rejects files in which many assets
-    // share one list of variants, which would take quadratic time; our builder never shares lists.
+    // Each table that is not shared takes at least twelve bytes, with the reference to it. The limit on tables rejects
+    // files in which many assets share one list of variants, which would take quadratic time; our builder never shares
+    // lists.
     const flatbuffers::Verifier::Options limits{.max_depth = 3, // catalog, asset, variant
                                                 .max_tables =
                                                     static_cast<flatbuffers::uoffset_t>(bytes.size() / 12 + 1)};

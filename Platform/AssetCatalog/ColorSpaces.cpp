@@ -16,6 +16,7 @@ template <class Curve> double mirrored(double component, Curve curve) noexcept {
 double linear(double component) noexcept {
     return mirrored(component, [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); });
 }
+// The inverse of linear().
 double curved(double component) noexcept {
     return mirrored(component,
                     [](double c) { return c <= 0.04045 / 12.92 ? c * 12.92 : 1.055 * std::pow(c, 1 / 2.4) - 0.055; });

@@ -41,6 +41,7 @@ std::uint32_t distance(Fit offered, Fit wanted) noexcept {
 
 std::uint32_t languageDistance(std::string_view offered, std::span<const std::string> wanted) noexcept {
     // A match has the place of its language times 256, plus the number of characters that it lacks.
+    // Languages whose distance would reach `forAll` are ignored.
     constexpr std::uint32_t forAll = std::uint32_t{1} << 24;
     if (offered.empty())
         return forAll;

@@ -67,7 +67,7 @@ public:
 private:
     static JpegReader& of(const jpeg_common_struct& jpeg) { return *static_cast<JpegReader*>(jpeg.client_data); }
 
-    // A small file can require thousands of scans, passes over a large picture; cameras and programs write about ten.
+    // A small file can have thousands of scans, each a pass over a large picture; cameras and programs write about ten.
     static constexpr int maxScans = 200;
     static void limitScans(jpeg_common_struct& jpeg) {
         JpegReader& self = of(jpeg);

@@ -25,6 +25,7 @@ std::uint32_t bigEndian(Bytes bytes) {
     return value;
 }
 
+// The signature, then the length and type of the first chunk, which begins with width and height.
 constexpr std::array<std::uint8_t, 16> pngHead = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n',
                                                   0,    0,   0,   13,  'I',  'H',  'D',  'R'};
 
@@ -54,6 +55,7 @@ std::optional<Size> jpegSize(Bytes bytes) {
             return std::nullopt; // pixel data or end of image before any frame
         // C4, C8 and CC are in the range of frame markers but are not frame headers.
         if (marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC) {
+            // The segment begins with its length (2 bytes), the sample size (1), height (2) and width (2).
             if (at + 7 > bytes.size())
                 return std::nullopt;
             return Size{Encoding::jpeg, bigEndian(bytes.subspan(at + 5, 2)), bigEndian(bytes.subspan(at + 3, 2))};

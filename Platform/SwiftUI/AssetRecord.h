@@ -53,7 +53,7 @@ inline constexpr std::uint32_t colorReportLine = 587, dataReportLine = 645, imag
 
 // A cached value that can be replaced, unlike a Runtime::OnceSlot. Lock-free: several threads may create the first
 // value at the same time, and all of them use the one that was stored first. Replaced values are never freed, because
-// callers hold references to them. All members are const, because records are constants.
+// callers hold references to them. All functions are const, because records are constants.
 template <class Value> class ReplaceableCache {
 public:
     constexpr ReplaceableCache() noexcept = default;
@@ -106,13 +106,13 @@ public:
 
     // As the catalog spells it.
     std::string name() const { return name_; }
-    // Returns the same object at every call; it adapts to the current traits. Stops the process when the asset is
-    // missing.
+    // Returns the same object at every call until setColor() replaces it; a colour adapts to the current traits. Stops
+    // the process when the asset is missing.
     const UIKit::UIColor& color() const {
         const UIKit::UIColor* known = color_.find();
         return known != nullptr ? *known : load();
     }
-    // Returns the same object at every call. Never reports a missing asset.
+    // Returns the same object at every call until setSwiftUIColor() replaces it. Never reports a missing asset.
     const Color& swiftUIColor() const {
         const Color* known = swiftUIColor_.find();
         return known != nullptr ? *known : swiftUIColor_.keep(Color(name_, Module::bundle()));

@@ -29,7 +29,8 @@ namespace SwiftUI::Conveniences {
 namespace detail {
 
 template <auto> struct Function;
-// Whether both are the same function, i.e. a class inherits it from the platform's.
+// Whether both are the same function, i.e. a class inherits it from the platform's. Compares types that have them as
+// arguments, because == of the addresses of weak functions is not a constant expression.
 template <auto one, auto other>
 concept Same = std::is_same_v<Function<one>, Function<other>>;
 

@@ -3,7 +3,7 @@
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
-#include "Runtime/Export.h" // C++20
+#include "Runtime/Export.h" // checks that the compiler's mode is C++20
 #include <string>
 #include <utility>
 

@@ -14,7 +14,7 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 std::string keyOf(const AssetCatalog::Blob& blob) {
-    // An empty blob has the offset of the next one.
+    // With the size, because an empty blob has the offset of the next one.
     return std::to_string(reinterpret_cast<std::uintptr_t>(blob.blobs)) + ":" + std::to_string(blob.offset) + ":" +
            std::to_string(blob.size);
 }

@@ -17,7 +17,7 @@ enum class LayoutDirection : std::uint8_t { unspecified, leftToRight, rightToLef
 struct LUMORA_EXPORT UITraitCollection {
     UserInterfaceStyle userInterfaceStyle = UserInterfaceStyle::unspecified;
     AccessibilityContrast accessibilityContrast = AccessibilityContrast::unspecified;
-    double displayScale = 0; // pixels per point; 0, less or NaN means unspecified
+    double displayScale = 0; // pixels per point; 0 or less, or NaN, means unspecified
     LayoutDirection layoutDirection = LayoutDirection::unspecified;
 
     // The current traits of the process. Initially all are unspecified: variants for any appearance are preferred, then

@@ -1,6 +1,6 @@
 // AssetCatalog/internal/Blobs.h
-// The bytes of a catalog's pictures and data, which are read from its file on demand.
-// Threads: any. Ownership: a blob is a reference; the catalog owns the bytes and must outlive it.
+// The bytes of a catalog's pictures and data, which are read on demand.
+// Threads: any. Ownership: a blob refers to its catalog, which must outlive it.
 #pragma once
 
 #include "Runtime/internal/OpenFile.h"
@@ -18,7 +18,7 @@ class Blobs;
 // One picture or data file.
 struct Blob {
     const Blobs* blobs;
-    std::uint64_t offset; // from the first blob
+    std::uint64_t offset; // in bytes from the first blob
     std::uint64_t size;
 
     // Errors: the catalog's file was truncated after it was opened, or cannot be read any more.

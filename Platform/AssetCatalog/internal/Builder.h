@@ -24,9 +24,10 @@ struct BuiltCatalog {
     [[nodiscard]] std::string bytes() const;
 };
 
-// Builds a catalog of these assets. Their order does not affect the result. Of several variants for the same traits the
-// first is used; equal blobs are stored once. Errors: two assets with the same kind and name, no variant, an invalid
-// value, a limit of Catalog.h exceeded; they name the asset unless the whole catalog exceeds the limit.
+// Builds a catalog of these assets. The order of the assets does not affect the result. Of several variants for the
+// same language and traits the first is used; equal blobs are stored once. Errors: two assets with the same kind and
+// name, no variant, an invalid value, a limit of Catalog.h exceeded; they name the asset unless the whole catalog
+// exceeds the limit.
 [[nodiscard]] Runtime::Result<BuiltCatalog> build(std::vector<Asset> assets);
 
 } // namespace AssetCatalog

@@ -11,7 +11,7 @@
 
 namespace Pictures {
 
-// As Pictures::decode(), for bytes that measure() has found to be of that encoding.
+// Each function decodes one encoding like Pictures::decode(), after measure() has found it.
 class Decoders {
 public:
     virtual Runtime::Result<Bitmap> png(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) const = 0;

@@ -23,7 +23,7 @@ public:
     // entry() and bestVariant() require an `index` from find().
     AssetCatalog::Entry entry(std::size_t index) const noexcept { return (*catalog_)[index]; }
     // The index of the best variant of an asset for these traits, completed by the current ones, and for the language
-    // of the bundle's texts, or the user's languages if it has none. Fractional scales are rounded up.
+    // of the bundle's texts, or the user's languages if it has no texts. Fractional scales are rounded up.
     std::size_t bestVariant(std::size_t index, const UITraitCollection& traits) const noexcept;
 
 private:
