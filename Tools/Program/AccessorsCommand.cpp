@@ -63,7 +63,7 @@ private:
             {});
     }
 
-    // `accessor`: its qualified name; null if there is none, and then `reason` says why.
+    // `accessor` is the qualified name of the entry's accessor, or null; then `reason` says why there is none.
     void add(const AccessorTable& table, const SourceEntry& entry, const ordered_json& accessor,
              const std::vector<Parameter>& parameters, const std::string& reason) {
         ordered_json json = {{"kind", "text"},

@@ -41,7 +41,7 @@ Runtime::Result<std::string> bytesOf(const AssetCatalog::Blob& blob) {
     return std::string(bytes->begin(), bytes->end());
 }
 
-// The unchanged bytes of the variant; for a colour, its colour space and components as JSON.
+// The variant's bytes as they are in the catalog; for a colour, its colour space and components as JSON.
 Runtime::Result<std::string> contentOf(const Entry& entry, std::size_t variant) {
     switch (entry.kind()) {
     case Kind::image:

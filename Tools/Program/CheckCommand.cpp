@@ -29,7 +29,7 @@ struct CheckOptions {
     std::string since;
 };
 
-Severity lowestOf(const CheckOptions& options) {
+Severity lowestShown(const CheckOptions& options) {
     for (const Severity severity : {Severity::error, Severity::warning, Severity::note})
         if (options.level == nameOf(severity))
             return severity;
@@ -37,7 +37,7 @@ Severity lowestOf(const CheckOptions& options) {
 }
 
 std::string written(const std::vector<Finding>& findings, const CheckOptions& options) {
-    const Severity lowest = lowestOf(options);
+    const Severity lowest = lowestShown(options);
     if (options.format == "json")
         return Check::asJson(findings, lowest);
     if (options.format == "sarif")
@@ -45,29 +45,29 @@ std::string written(const std::vector<Finding>& findings, const CheckOptions& op
     return Check::asText(findings, lowest, hasColor(STDOUT_FILENO));
 }
 
-std::vector<Finding> find(const CheckOptions& options, Diagnostics& diagnostics) {
-    Check::Options checked{.folders = options.source.paths(),
-                           .names = options.source.names,
-                           .usedIn = {options.usedIn.begin(), options.usedIn.end()}};
+std::vector<Finding> findingsOf(const CheckOptions& options, Diagnostics& diagnostics) {
+    Check::Options checkOptions{.folders = options.source.folderPaths(),
+                                .names = options.source.names,
+                                .usedIn = {options.usedIn.begin(), options.usedIn.end()}};
     for (const std::string& name : options.disabled)
-        checked.disabled.set(static_cast<std::size_t>(*Check::ruleNamed(name)));
+        checkOptions.disabled.set(static_cast<std::size_t>(*Check::ruleNamed(name)));
     std::optional<Source> older;
     if (!options.since.empty()) {
         const std::filesystem::path folders[] = {options.since};
         Diagnostics messages;
-        checked.older = &older.emplace(Source::read(folders, options.source.options, messages));
-        // After an error, texts may be missing. Warnings about the older source do not matter any more.
+        checkOptions.older = &older.emplace(Source::read(folders, options.source.options, messages));
+        // After an error, texts of the older source may be missing. Warnings about it no longer matter.
         for (const SourceBundle::Diagnostic& message : messages.all())
             if (message.severity == Severity::error)
                 diagnostics.add(Severity::error, message.what);
     }
     const Source source = options.source.read(diagnostics);
-    return Check::check(source, checked, diagnostics);
+    return Check::check(source, checkOptions, diagnostics);
 }
 
 Exit runCheck(const CheckOptions& options) {
     Diagnostics diagnostics;
-    const std::vector<Finding> findings = find(options, diagnostics);
+    const std::vector<Finding> findings = findingsOf(options, diagnostics);
     const Exit read = report(diagnostics);
     const Exit printed = print(written(findings, options));
     if (read != Exit::done || printed != Exit::done)

@@ -19,15 +19,15 @@ namespace {
 
 using SourceBundle::Severity;
 
+// Whether messages and the progress line are shown on a terminal.
 bool isTerminal() {
     static const bool is = ::isatty(STDERR_FILENO) == 1;
     return is;
 }
 
-constexpr const char* eraseLine = "\r\033[K";
+constexpr const char* eraseLine = "\r\033[K"; // goes to the start of the terminal's line and erases it
 
-constexpr Severity severities[] = {Severity::note, Severity::warning, Severity::error};
-
+// Writes a line to standard error, in place of the progress line.
 void writeLine(std::string_view text) {
     std::string line = isTerminal() ? eraseLine : "";
     line.append(text).append("\n");
@@ -62,16 +62,16 @@ void writeMessage(Severity severity, const Runtime::Error& what, std::string_vie
     writeLine(line);
 }
 
-// One message and all its locations.
+// The diagnostics with the same message.
 using Group = std::vector<const Runtime::Error*>;
 
 std::vector<Group> grouped(const SourceBundle::Diagnostics& diagnostics, Severity severity) {
     std::vector<Group> groups;
-    Runtime::NameMap<std::size_t, std::string_view> numbers;
+    Runtime::NameMap<std::size_t, std::string_view> indexes; // in `groups`, by message
     for (const SourceBundle::Diagnostic& diagnostic : diagnostics.all()) {
         if (diagnostic.severity != severity)
             continue;
-        const auto [found, isNew] = numbers.try_emplace(diagnostic.what.message, groups.size());
+        const auto [found, isNew] = indexes.try_emplace(diagnostic.what.message, groups.size());
         if (isNew)
             groups.emplace_back();
         groups[found->second].push_back(&diagnostic.what);
@@ -91,7 +91,7 @@ void writeMessage(Severity severity, const Group& group) {
 } // namespace
 
 CLI::Validator notEmpty() {
-    return {[](const std::string& path) { return path.empty() ? "the name is empty" : ""; }, ""};
+    return {[](const std::string& path) { return path.empty() ? "the name is empty" : ""; }, /*validator_desc=*/""};
 }
 
 bool hasColor(int stream) {
@@ -119,7 +119,7 @@ Exit report(const SourceBundle::Diagnostics& diagnostics) {
     if (all.size() == 1) {
         writeMessage(all.front().severity, all.front().what, " (" + count + ")");
     } else if (!all.empty()) {
-        for (const Severity severity : severities)
+        for (const Severity severity : {Severity::note, Severity::warning, Severity::error})
             for (const Group& group : grouped(diagnostics, severity))
                 writeMessage(severity, group);
         writeLine("lumora: " + count);

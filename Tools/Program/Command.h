@@ -17,7 +17,7 @@ class Validator;
 
 namespace Tools {
 
-// Rejects an empty path on the command line, which messages could not name.
+// Rejects an empty path on the command line: no message could name it.
 CLI::Validator notEmpty();
 
 // The exit status of the program.
@@ -55,9 +55,9 @@ bool hasColor(int stream);
 Exit fail(const Runtime::Error& error);
 void note(const Runtime::Error& what);
 void note(std::string_view what);
-// Writes all diagnostics to standard error: notes, warnings, errors, those with equal messages together; then a line
-// with the numbers of errors and warnings. If there is only one diagnostic, its line ends with the numbers. Returns
-// Exit::failed if there are errors, or else Exit::done.
+// Writes all diagnostics to standard error: notes, warnings, errors, each message once with all its places; then a line
+// with the numbers of errors and warnings. If there is only one diagnostic, its line ends with the numbers; without
+// diagnostics nothing is written. Returns Exit::failed if there are errors, or else Exit::done.
 Exit report(const SourceBundle::Diagnostics& diagnostics);
 
 // A line on the terminal (standard error) that shows the current step of work that lasts for more than a second.

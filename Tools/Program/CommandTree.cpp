@@ -18,7 +18,7 @@ std::vector<std::string> choicesOf(const std::string& type) {
 OptionInfo describe(const CLI::Option& option) {
     OptionInfo info;
     if (option.get_positional()) {
-        info.names.push_back(option.get_name(true));
+        info.names.push_back(option.get_name(/*positional=*/true));
     } else {
         for (const std::string& name : option.get_snames())
             info.names.push_back("-" + name);

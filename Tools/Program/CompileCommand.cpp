@@ -26,12 +26,12 @@ Exit runCompile(const CompileOptions& options) {
         diagnostics.beStrict();
     const SourceBundle::Source source = options.source.read(diagnostics);
     auto done =
-        Compiler::compileBundle(source, options.source.paths(), options.output, diagnostics, std::ref(progress));
+        Compiler::compileBundle(source, options.source.folderPaths(), options.output, diagnostics, std::ref(progress));
     progress.erase();
     if (!done)
         diagnostics.add(SourceBundle::Severity::error, std::move(done.error()));
-    else if (auto noted = options.depfile.write(options.source.inputs()); !noted)
-        diagnostics.add(SourceBundle::Severity::error, std::move(noted.error()));
+    else if (auto wrote = options.depfile.write(options.source.inputs()); !wrote)
+        diagnostics.add(SourceBundle::Severity::error, std::move(wrote.error()));
     return report(diagnostics);
 }
 

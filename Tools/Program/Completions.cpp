@@ -7,7 +7,7 @@ namespace Tools {
 
 namespace {
 
-// Quotes any text as one shell word.
+// Quotes any text as one word for bash and zsh.
 std::string quoted(const std::string& text) {
     return "'" + CLI::detail::find_and_replace(text, "'", "'\\''") + "'";
 }
@@ -49,7 +49,7 @@ std::string zshEscaped(std::string text) {
     return text;
 }
 
-// "--format[DESCRIPTION]:value:(text json)", for the function _arguments; it begins with "*" if it may be repeated.
+// "--format[DESCRIPTION]:value:(text json)", for the function _arguments; "*" before it allows it to be repeated.
 std::string zshOption(const OptionInfo& option, const std::string& name) {
     std::string out = option.isRepeated ? "*" : "";
     out += name + "[" + zshEscaped(option.description) + "]";
@@ -63,7 +63,7 @@ std::string fishOption(const CommandInfo& command, const OptionInfo& option) {
     std::string out = "complete -c lumora -n '__fish_seen_subcommand_from " + command.name + "'";
     for (const std::string& name : option.names)
         out += name.starts_with("--") ? " -l " + name.substr(2) : " -s " + name.substr(1);
-    if (!option.choices.empty())
+    if (!option.choices.empty()) // -x: the value is one of these; -r -F: a file name
         out += " -x -a " + quotedForFish(CLI::detail::join(option.choices, " "));
     else if (!option.value.empty())
         out += " -r -F";

@@ -41,14 +41,14 @@ void Depfile::addOptions(CLI::App& command) {
     ruleTarget->needs(file);
 }
 
-Runtime::Result<void> Depfile::write(const std::vector<std::string>& sources) const {
+Runtime::Result<void> Depfile::write(const std::vector<std::string>& inputs) const {
     if (path.empty())
         return {};
     std::string rule = escaped(target) + ":";
-    for (const std::string& source : sources) {
-        appendPrerequisite(rule, source);
+    for (const std::string& input : inputs) {
+        appendPrerequisite(rule, input);
         std::error_code failed;
-        for (fs::recursive_directory_iterator it(source, fs::directory_options::skip_permission_denied, failed), end;
+        for (fs::recursive_directory_iterator it(input, fs::directory_options::skip_permission_denied, failed), end;
              !failed && it != end; it.increment(failed))
             appendPrerequisite(rule, it->path());
     }

@@ -18,9 +18,9 @@ struct Depfile {
     std::string target;
 
     void addOptions(CLI::App& command);
-    // Writes a makefile rule that makes `target` depend on `sources` and, for folders, on all files and folders below
+    // Writes a makefile rule that makes `target` depend on `inputs` and, for folders, on all files and folders below
     // them. Folders are included because they change when files are added or removed.
-    [[nodiscard]] Runtime::Result<void> write(const std::vector<std::string>& sources) const;
+    [[nodiscard]] Runtime::Result<void> write(const std::vector<std::string>& inputs) const;
 };
 
 } // namespace Tools

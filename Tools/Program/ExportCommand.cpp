@@ -45,7 +45,7 @@ Exit runExport(const ExportOptions& options) {
         return fail({.message = "--language: \"" + options.language +
                                 "\" is not a language that the source can be translated to"});
     const Exchange::Translations translations =
-        Exchange::translationsOf(source, options.source.paths(), *language, options.onlyMissing, diagnostics);
+        Exchange::translationsOf(source, options.source.folderPaths(), *language, options.onlyMissing, diagnostics);
     const std::string text = isPo(options) ? Exchange::writePo(translations, diagnostics)
                                            : Exchange::writeXliff(translations, LUMORA_VERSION);
     const Exit reported = report(diagnostics);
@@ -63,7 +63,7 @@ void addExportCommand(CLI::App& program, Exit& exit) {
     auto options = std::make_shared<ExportOptions>();
     CLI::App* command = program.add_subcommand("export", "Write the texts of a source for translators.");
     options->source.addTo(*command)->required();
-    command->add_option("--language", options->language, "The language to translate to: de, pt-BR")->required();
+    command->add_option("--language", options->language, "The language to translate to, such as pt-BR")->required();
     command->add_flag("--missing", options->onlyMissing, "Only texts without a translation");
     command->add_option("--format", options->format, "xliff or po (default: determined by the file name, else xliff)")
         ->check(CLI::IsMember({"xliff", "po"}));

@@ -20,12 +20,12 @@ using std::chrono::milliseconds;
 
 namespace {
 
-// IN_ATTRIB: a change of permissions may make a file readable.
+// IN_ATTRIB: a change of permissions may make a file readable. IN_ONLYDIR: watching a file fails.
 constexpr std::uint32_t events = IN_CLOSE_WRITE | IN_ATTRIB | IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO |
                                  IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
 constexpr milliseconds quiet{50};          // if no change follows in this time, the changes are complete
 constexpr milliseconds longestBurst{1000}; // after this time, consecutive changes are reported although more follow
-constexpr milliseconds pollInterval{500};  // for missing folders
+constexpr milliseconds pollInterval{500};  // between two looks for missing folders
 
 // The absolute path without a trailing slash.
 fs::path normal(const fs::path& path) {
@@ -33,11 +33,11 @@ fs::path normal(const fs::path& path) {
     return whole.has_filename() ? whole : whole.parent_path();
 }
 
-// Waits until one of the descriptors is readable, at most for `most` (negative: no limit). Returns whether `stop` is
+// Waits until one of the descriptors is readable or `limit` is over (negative: no limit). Returns whether `stop` is
 // readable.
-bool waitFor(int stop, int inotify, milliseconds most) {
+bool waitFor(int stop, int inotify, milliseconds limit) {
     std::array<pollfd, 2> both = {{{stop, POLLIN, 0}, {inotify, POLLIN, 0}}};
-    ::poll(both.data(), both.size(), static_cast<int>(most.count()));
+    ::poll(both.data(), both.size(), static_cast<int>(limit.count()));
     return both[0].revents != 0;
 }
 
@@ -73,7 +73,7 @@ Runtime::Result<void> FolderWatch::watchAll() {
     for (const fs::path& folder : folders_)
         if (auto watched = watchBelow(folder, 0); !watched)
             return watched;
-    for (const auto& [number, path] : before)
+    for (const auto& [number, path] : before) // a folder that is watched again keeps its number
         if (!watched_.contains(number))
             ::inotify_rm_watch(inotify_.number(), number);
     isStale_ = false;
@@ -96,8 +96,8 @@ Runtime::Result<void> FolderWatch::watchBelow(const fs::path& folder, int depth)
     std::error_code failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed)) {
         std::error_code ignored;
-        // Like the source reader, follow links to folders only if they are language folders; but not further, because
-        // links can lead in circles or out of the source.
+        // Like the source reader, follow links to folders only if they are language folders. Below a link no folder is
+        // watched, because links can lead in circles or out of the source.
         const bool isLink = entry->is_symlink(ignored);
         const bool isFolder = entry->is_directory(ignored) && (!isLink || entry->path().extension() == ".lproj");
         if (isFolder && !isIgnored(entry->path()) && depth < SourceBundle::maxFolderDepth)
@@ -107,7 +107,7 @@ Runtime::Result<void> FolderWatch::watchBelow(const fs::path& folder, int depth)
     return {};
 }
 
-bool FolderWatch::take(const inotify_event& event, std::string_view name) {
+bool FolderWatch::addChange(const inotify_event& event, std::string_view name) {
     if ((event.mask & IN_Q_OVERFLOW) != 0) {
         isStale_ = true;
         changed_.insert(folders_.begin(), folders_.end());
@@ -135,7 +135,7 @@ bool FolderWatch::readEvents() {
             inotify_event event{};
             std::memcpy(&event, buffer.data() + at, sizeof event);
             // The name is padded with NULs.
-            isChanged |= take(event, event.len == 0 ? "" : buffer.data() + at + sizeof event);
+            isChanged |= addChange(event, event.len == 0 ? "" : buffer.data() + at + sizeof event);
             at += sizeof event + event.len;
         }
     }
@@ -143,15 +143,15 @@ bool FolderWatch::readEvents() {
 
 Runtime::Result<std::optional<std::set<fs::path>>> FolderWatch::wait(int stop) {
     changed_.clear();
-    Clock::time_point first{};
+    Clock::time_point firstChange{};
     for (;;) {
         const bool isChanged = !changed_.empty();
-        milliseconds most{-1};
+        milliseconds limit{-1};
         if (isChanged)
-            most = quiet;
+            limit = quiet;
         else if (!missing_.empty())
-            most = pollInterval;
-        if (waitFor(stop, inotify_.number(), most))
+            limit = pollInterval;
+        if (waitFor(stop, inotify_.number(), limit))
             return std::optional<std::set<fs::path>>();
         bool hasMore = readEvents();
         for (const fs::path& folder : missing_)
@@ -164,8 +164,8 @@ Runtime::Result<std::optional<std::set<fs::path>>> FolderWatch::wait(int stop) {
             if (auto watched = watchAll(); !watched)
                 return std::move(watched.error());
         if (!isChanged)
-            first = Clock::now();
-        if (isChanged && (!hasMore || Clock::now() - first > longestBurst))
+            firstChange = Clock::now();
+        if (isChanged && (!hasMore || Clock::now() - firstChange > longestBurst))
             return std::optional(std::exchange(changed_, {}));
     }
 }

@@ -25,7 +25,7 @@ public:
                                                              const std::filesystem::path& output);
 
     // Waits for a change, then until none follows for 50 ms, but at most for another second. Returns the changed files,
-    // and folders in which the exact changes are unknown. No value if the descriptor `stop` becomes readable first.
+    // and folders in which the exact changes are unknown. No value if the descriptor `stop` becomes readable meanwhile.
     // Fails like create().
     [[nodiscard]] Runtime::Result<std::optional<std::set<std::filesystem::path>>> wait(int stop);
 
@@ -35,9 +35,10 @@ private:
     Runtime::Result<void> watchAll();
     Runtime::Result<void> watchBelow(const std::filesystem::path& folder, int depth);
     bool isIgnored(const std::filesystem::path& path) const;
-    // Both add what has changed to `changed_`, and return whether anything has.
+    // Both add what has changed to `changed_`, and return whether anything has. `name` is the event's file in the
+    // watched folder, or empty for the folder itself.
     bool readEvents();
-    bool take(const inotify_event& event, std::string_view name);
+    bool addChange(const inotify_event& event, std::string_view name);
 
     std::vector<std::filesystem::path> folders_;
     std::filesystem::path output_;
@@ -45,7 +46,7 @@ private:
     std::map<int, std::filesystem::path> watched_; // by watch descriptor
     std::set<std::filesystem::path> missing_;      // those of folders_ that do not exist or are unreadable
     std::set<std::filesystem::path> changed_;
-    bool isStale_ = false; // a folder was added or removed: watches must be updated
+    bool isStale_ = false; // folders were added or removed, or may have been: watches must be updated
 };
 
 } // namespace Tools

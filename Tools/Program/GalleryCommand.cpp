@@ -54,7 +54,7 @@ private:
     fs::path path_;
 };
 
-// The last component of a folder's path, with or without a trailing slash.
+// The name of the folder; the path may end in a slash.
 fs::path nameOf(const fs::path& folder) {
     const fs::path whole = fs::absolute(folder).lexically_normal();
     return whole.has_filename() ? whole.filename() : whole.parent_path().filename();
@@ -78,18 +78,19 @@ Exit showSource(const GalleryOptions& options) {
     Generator::NamesFile names;
     if (!options.source.names.empty())
         names = Generator::NamesFile::read(options.source.names, diagnostics);
-    auto compiled = Compiler::compileBundle(source, options.source.paths(), bundle, diagnostics, std::ref(progress));
+    auto compiled =
+        Compiler::compileBundle(source, options.source.folderPaths(), bundle, diagnostics, std::ref(progress));
     progress.erase();
     if (!compiled)
         diagnostics.add(SourceBundle::Severity::error, std::move(compiled.error()));
     if (const Exit reported = report(diagnostics); reported != Exit::done)
         return reported;
-    const std::string title = options.module.empty() ? nameOf(options.source.paths().front()).string() : options.module;
+    const std::string title =
+        options.module.empty() ? nameOf(options.source.folderPaths().front()).string() : options.module;
     return writePage(options, source, bundle, {.title = title, .module = options.module, .names = std::move(names)});
 }
 
-// Shows the compiled bundle. If a table is damaged, the page is written without it, and the exit status is that of an
-// error.
+// Shows the compiled bundle. If a table is damaged, the page is written without it, and the result is Exit::failed.
 Exit showBundle(const GalleryOptions& options) {
     const fs::path bundle = options.bundle.empty() ? ownBundle() : options.bundle;
     const std::string name = options.module.empty() ? nameOf(bundle).stem().string() : options.module;

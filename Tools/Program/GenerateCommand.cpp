@@ -30,8 +30,8 @@ Exit runGenerate(GenerateOptions& options) {
     if (!diagnostics.hasErrors())
         if (auto written = Generator::writeModule(model, options.generator, options.output); !written)
             diagnostics.add(SourceBundle::Severity::error, std::move(written.error()));
-    if (auto noted = options.depfile.write(options.source.inputs()); !noted)
-        diagnostics.add(SourceBundle::Severity::error, std::move(noted.error()));
+    if (auto wrote = options.depfile.write(options.source.inputs()); !wrote)
+        diagnostics.add(SourceBundle::Severity::error, std::move(wrote.error()));
     return report(diagnostics);
 }
 
@@ -48,7 +48,7 @@ void addGenerateCommand(CLI::App& program, Exit& exit) {
     command->add_flag("--strict", options->isStrict, "Treat warnings as errors");
     command
         ->add_option("--include", options->generator.includes,
-                     "A header with hand-written members, included by the tree's header (may be repeated)")
+                     "A header with functions for the tree of texts, included by NAMEStrings.h (may be repeated)")
         ->allow_extra_args(false);
     command
         ->add_option("--header", options->generator.headers,

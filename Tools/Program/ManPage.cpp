@@ -42,6 +42,7 @@ std::string usage(const OptionInfo& argument) {
     return argument.isRequired ? name : "[" + name + "]";
 }
 
+// `term` is troff code, `description` any text.
 std::string entry(const std::string& term, std::string_view description) {
     return ".TP\n" + term + "\n" + escaped(description) + "\n";
 }

@@ -25,7 +25,7 @@ void SourceArguments::addPseudoTo(CLI::App& command) {
                      "Add the pseudo-languages en-XA (accented, longer) and ar-XB (right to left)");
 }
 
-std::vector<std::filesystem::path> SourceArguments::paths() const {
+std::vector<std::filesystem::path> SourceArguments::folderPaths() const {
     return {folders.begin(), folders.end()};
 }
 
@@ -37,7 +37,7 @@ std::vector<std::string> SourceArguments::inputs() const {
 }
 
 SourceBundle::Source SourceArguments::read(SourceBundle::Diagnostics& diagnostics) const {
-    return SourceBundle::Source::read(paths(), options, diagnostics);
+    return SourceBundle::Source::read(folderPaths(), options, diagnostics);
 }
 
 } // namespace Tools

@@ -27,7 +27,7 @@ struct SourceArguments {
     // Adds --pseudo.
     void addPseudoTo(CLI::App& command);
 
-    [[nodiscard]] std::vector<std::filesystem::path> paths() const;
+    [[nodiscard]] std::vector<std::filesystem::path> folderPaths() const;
     // The paths that the command reads: the folders and the names file.
     [[nodiscard]] std::vector<std::string> inputs() const;
     // Reads the folders as one source.

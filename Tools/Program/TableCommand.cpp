@@ -19,10 +19,12 @@ namespace {
 using StringTables::Form;
 using StringTables::Table;
 
-enum class Output { json, strings, xml, binary };
+enum class OutputForm { json, strings, xml, binary };
 
-const std::map<std::string, Output> outputs = {
-    {"json", Output::json}, {"strings", Output::strings}, {"xml", Output::xml}, {"binary", Output::binary}};
+const std::map<std::string, OutputForm> outputForms = {{"json", OutputForm::json},
+                                                       {"strings", OutputForm::strings},
+                                                       {"xml", OutputForm::xml},
+                                                       {"binary", OutputForm::binary}};
 
 struct TableOptions {
     std::string file;
@@ -30,7 +32,7 @@ struct TableOptions {
     std::string form = "json";
 };
 
-// Writes the members one by one, because a JSON object would copy texts that entries share.
+// Writes the members one by one, because nlohmann::json would copy each text that several entries share.
 Runtime::Result<std::string> json(const Table& table) {
     const auto literal = [](std::string_view text) { return nlohmann::json(text).dump(); };
     if (auto fits = StringTables::checkWrittenSize(StringTables::sizeOf(table.entries())); !fits)
@@ -47,21 +49,21 @@ Runtime::Result<std::string> json(const Table& table) {
     return out.append(out.size() == 1 ? "}\n" : "\n}\n");
 }
 
-Runtime::Result<std::string> written(const Table& table, Output form) {
+Runtime::Result<std::string> written(const Table& table, OutputForm form) {
     switch (form) {
-    case Output::strings:
+    case OutputForm::strings:
         return StringTables::write(table.entries(), Form::text, table.comments());
-    case Output::xml:
+    case OutputForm::xml:
         return StringTables::write(table.entries(), Form::xml, table.comments());
-    case Output::binary:
+    case OutputForm::binary:
         return StringTables::write(table.entries(), Form::binary);
-    case Output::json:
+    case OutputForm::json:
         break;
     }
     return json(table);
 }
 
-// Reads a pipe or a device to its end. Errors do not name the file; runTable() adds it.
+// Reads a pipe or a device to its end. Errors do not name the file; runTable() adds its name.
 Runtime::Result<std::string> readToEnd(std::FILE* stream) {
     std::string bytes;
     std::array<char, 65536> part;
@@ -102,7 +104,7 @@ Exit runTable(const TableOptions& options) {
         skipped.file = name;
         note(skipped);
     }
-    auto out = written(*table, outputs.at(options.form));
+    auto out = written(*table, outputForms.at(options.form));
     if (!out) {
         out.error().file = name;
         return fail(out.error());

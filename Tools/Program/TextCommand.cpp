@@ -33,8 +33,8 @@ struct TextOptions {
 
 using StringTables::FormatSignature;
 
-// Converts `text` to an argument for placeholders of a kind; it stays a text if it is not a number of that kind or is
-// out of range. So does an integer that would be printed differently: "007", "+1".
+// Converts `text` to a number if `kind` is one and `text` is such a number in range. Otherwise, and if it is an integer
+// that would be printed differently ("007", "+1"), it stays a text.
 Foundation::FormatArgument argument(const std::string& text, FormatSignature::Kind kind) {
     const char* const end = text.data() + text.size();
     std::int64_t integer = 0;
@@ -72,7 +72,7 @@ std::size_t countUnused(const FormatSignature& signature, std::size_t given) {
     return given - static_cast<std::size_t>(used);
 }
 
-std::string suggestedKey(const Foundation::NSBundle& bundle, const TextOptions& options) {
+std::string keySuggestion(const Foundation::NSBundle& bundle, const TextOptions& options) {
     std::vector<std::string> keys;
     for (const std::string_view language :
          {std::string_view("Base"), std::string_view(bundle.developmentLocalization())})
@@ -96,13 +96,14 @@ Exit runText(const TextOptions& options) {
     const Foundation::NSBundle& bundle =
         Foundation::NSBundle::bundleWithPath(options.bundle.empty() ? ownBundle() : options.bundle);
     const auto found = bundle.findLocalized(options.key, options.table);
-    if (const auto damage = found ? std::nullopt : bundle.tableDamage(options.table))
-        return fail({.message = *damage});
-    if (!found)
-        note("no table \"" + options.table + "\" of the bundle has this key" + suggestedKey(bundle, options));
+    if (!found) {
+        if (const auto damage = bundle.tableDamage(options.table))
+            return fail({.message = *damage});
+        note("no table \"" + options.table + "\" of the bundle has this key" + keySuggestion(bundle, options));
+    }
     const Foundation::LocalizedFormat format = found.value_or(Foundation::LocalizedFormat(options.key));
-    // Options after the key are arguments, too; this note helps users who expected otherwise.
     const FormatSignature signature = signatureOf(format);
+    // Options after the key are arguments, too; this note helps users who expected otherwise.
     if (const std::size_t left = countUnused(signature, options.arguments.size()); left != 0)
         note(std::to_string(left) + " of " + std::to_string(options.arguments.size()) + " arguments unused");
     return print(

@@ -81,7 +81,7 @@ private:
         for (const std::string& folder : options_.source.folders)
             if (std::error_code failed; !fs::is_directory(folder, failed))
                 return fail({.message = "is not a folder of resources", .file = folder});
-        auto watch = FolderWatch::create(options_.source.paths(), options_.output);
+        auto watch = FolderWatch::create(options_.source.folderPaths(), options_.output);
         if (!watch)
             return fail(watch.error());
         for (Paths changed;;) {
@@ -102,28 +102,28 @@ private:
         ProgressLine progress;
         SourceBundle::Diagnostics diagnostics;
         const SourceBundle::Source source = options_.source.read(diagnostics);
-        auto done = Compiler::compileBundle(source, options_.source.paths(), options_.output, diagnostics,
-                                            [&](std::string_view what, std::size_t step, std::size_t all) {
+        auto done = Compiler::compileBundle(source, options_.source.folderPaths(), options_.output, diagnostics,
+                                            [&](std::string_view what, std::size_t begun, std::size_t all) {
                                                 if (isReadable(stop_))
                                                     throw Interrupted();
-                                                progress(what, step, all);
+                                                progress(what, begun, all);
                                             });
         progress.erase();
         if (!done)
             diagnostics.add(SourceBundle::Severity::error, std::move(done.error()));
-        const auto time =
+        const auto elapsed =
             std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begin);
         reportNew(diagnostics);
         std::string line = timeOfDay() + " " + options_.output;
-        line += diagnostics.hasErrors() ? " is unchanged" : " compiled in " + std::to_string(time.count()) + " ms";
+        line += diagnostics.hasErrors() ? " is unchanged" : " compiled in " + std::to_string(elapsed.count()) + " ms";
         return print(line + summary(changed) + "\n");
     }
 
     // Reports warnings and errors; nothing if there are only the same warnings as last time.
-    void reportNew(const SourceBundle::Diagnostics& all) {
+    void reportNew(const SourceBundle::Diagnostics& diagnostics) {
         SourceBundle::Diagnostics serious;
         std::string text;
-        for (const SourceBundle::Diagnostic& one : all.all()) {
+        for (const SourceBundle::Diagnostic& one : diagnostics.all()) {
             if (one.severity == SourceBundle::Severity::note)
                 continue;
             serious.add(one.severity, one.what);

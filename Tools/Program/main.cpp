@@ -10,24 +10,24 @@
 
 namespace {
 
-// A suggestion for the first unknown word: a command, or an option of the given command.
-std::string suggestedWord(const CLI::App& program) {
-    const std::vector<std::string> unknown = program.remaining(true);
+// Suggests a command or an option for the first unknown word on the command line.
+std::string suggestionFor(const CLI::App& program) {
+    const std::vector<std::string> unknown = program.remaining(/*recurse=*/true);
     if (unknown.empty())
         return "";
     const std::string& word = unknown.front();
+    const std::vector<CLI::App*> given = program.get_subcommands(); // without a filter: those on the command line
     if (!word.starts_with('-'))
-        return program.get_subcommands().empty() ? Tools::suggestion(word, Tools::commandNames(program)) : "";
+        return given.empty() ? Tools::suggestion(word, Tools::commandNames(program)) : "";
     std::vector<std::string> known;
-    const CLI::App* command = program.get_subcommands().empty() ? &program : program.get_subcommands().back();
-    for (const CLI::Option* option : command->get_options())
+    for (const CLI::Option* option : (given.empty() ? program : *given.back()).get_options())
         for (const std::string& name : option->get_lnames())
             known.push_back("--" + name);
     return Tools::suggestion(word.substr(0, word.find('=')), known);
 }
 
 Tools::Exit failWith(const CLI::Error& wrong, const CLI::App& program) {
-    return Tools::fail({.message = std::string(wrong.what()) + suggestedWord(program) + " (see lumora --help)"});
+    return Tools::fail({.message = std::string(wrong.what()) + suggestionFor(program) + " (see lumora --help)"});
 }
 
 } // namespace
@@ -35,7 +35,7 @@ Tools::Exit failWith(const CLI::Error& wrong, const CLI::App& program) {
 // NOLINTNEXTLINE(bugprone-exception-escape): only std::bad_alloc can be thrown outside of the try block
 int main(int argc, char** argv) {
     std::signal(SIGXFSZ, SIG_IGN); // a file that grows beyond a limit is a failed write, not the end of the process
-    ::mallopt(M_TOP_PAD, 4 << 20); // the heap grows in few steps
+    ::mallopt(M_TOP_PAD, 4 << 20); // the heap grows in few, large steps
     CLI::App program("Generates, compiles, checks and shows localized texts and assets.", "lumora");
     program.require_subcommand(0, 1); // words after the first command are always its arguments
     program.set_version_flag("--version", LUMORA_VERSION);
