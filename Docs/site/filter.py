@@ -8,18 +8,20 @@ CODE = re.compile(r"(`[^`\n]+`)")
 
 
 def code(span):
-    """Code in a line of text: doxygen drops a single % before a letter there."""
+    """Doubles each % before a letter in a span of code, because doxygen drops a single one."""
     return re.sub(r"%(?=[A-Za-z_])", "%%", span)
 
 
 def plain(text):
-    """Escapes words for doxygen; `code` remains code."""
+    """Escapes the text of a comment for doxygen; `code` remains code."""
     return "".join(code(part) if part.startswith("`") else SPECIAL.sub(r"\\\g<0>", part) for part in CODE.split(text))
 
 
 def documented(line):
-    if comment := re.fullmatch(r"(\s*)//(?!/)(.*)", line):
+    """The line of a header with its comment in doxygen's form: // above a declaration becomes ///, // after one ///<, and /* becomes /**."""
+    if comment := re.fullmatch(r"(\s*)//(?!/| NOLINT)(.*)", line):
         return f"{comment[1]}///{plain(comment[2])}"
+    # Comments after directives and the ends of blocks are not about a declaration.
     if (trailing := re.fullmatch(r"([^\"]*[;,{}\w]) // (.*)", line)) and not re.match(r"\s*(#|namespace|\})", line):
         return f"{trailing[1]} ///< {plain(trailing[2])}"
     if comment := re.fullmatch(r"(\s*)/\*(?!\*)(.*)", line):
