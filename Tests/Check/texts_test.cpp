@@ -132,9 +132,9 @@ TEST(Check, NamesKeysWithoutAccessor) {
                        "placeholder-mismatch Base.lproj/T.strings:4:1 Base m"}));
     // Another language's placeholders are not the reason.
     CheckedSource catalog{{"T.xcstrings", R"({"sourceLanguage": "en", "version": "1.0", "strings": {
-"--": {"localizations": {"en": {"stringUnit": {"value": "%@"}}, "de": {"stringUnit": {"value": "%d"}}}}}})"}};
+"--": {"localizations": {"en": {"stringUnit": {"value": "%@"}}, "en-GB": {"stringUnit": {"value": "%d"}}}}}})"}};
     EXPECT_EQ(catalog.findings(),
-              (Strings{"placeholder-mismatch T.xcstrings:2:1 de --", "unnamed-key T.xcstrings:2:1  --"}));
+              (Strings{"placeholder-mismatch T.xcstrings:2:1 en-GB --", "unnamed-key T.xcstrings:2:1  --"}));
 }
 
 // The plural "files" with these forms, "one=One file;other=%d files". "%@" in them is a second argument.

@@ -23,7 +23,7 @@ void keepFirst(std::string_view lonePercent, Arguments& out) noexcept {
         out.lonePercent = lonePercent;
 }
 
-// Adds what the format takes to `out`.
+// Adds the arguments that the format takes, and its first lone percent sign, to `out`.
 void read(std::string_view format, Arguments& out) {
     ArgumentCounter counter;
     std::size_t at = 0;
@@ -41,7 +41,7 @@ void read(std::string_view format, Arguments& out) {
 }
 
 std::string_view lonePercentOf(const PluralFormat& plural) {
-    Arguments all;
+    Arguments all; // only its lonePercent is used: the forms of a plural share their arguments
     read(plural.format, all);
     for (const auto& variable : plural.variables)
         for (const auto& form : variable.forms)

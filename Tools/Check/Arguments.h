@@ -13,7 +13,7 @@ namespace Check {
 struct Arguments {
     StringTables::FormatSignature signature;
     // The first '%' that should be "%%": "%", or "% o" if it begins a placeholder that does not count. Points into the
-    // text; empty if there is none.
+    // entry; empty if there is none.
     std::string_view lonePercent;
 
     // Whether both take arguments of the same kinds at the same positions.

@@ -27,7 +27,7 @@ using SourceBundle::SourceAsset;
 
 namespace {
 
-constexpr std::size_t maxScale = 3;
+constexpr std::size_t maxScale = 3;       // of a screen
 using Scales = std::bitset<maxScale + 1>; // bit 2 for 2x; bit 0 is not used
 
 struct Set {
@@ -56,7 +56,7 @@ struct Variant {
     std::string idiom;
     bool isDark = false;
     bool isForEveryScale = false; // a vector, or a bitmap without a scale or for more than 3x
-    Scales filled;                // that have a bitmap
+    Scales filled;                // the scales that have a bitmap
     const SetEntry* first = nullptr;
 };
 
@@ -87,12 +87,12 @@ std::vector<Variant> variantsOf(const Set& set) {
     return variants;
 }
 
-// The screen scales of a kind of device, without 1: few catalogs have 1x bitmaps, because larger ones can be scaled
+// The screen scales of a kind of device, except 1x: few catalogs have 1x bitmaps, because larger ones can be scaled
 // down.
 Scales scalesOf(std::string_view idiom) {
     if (idiom == "universal" || idiom == "iphone" || idiom == "car")
         return Scales(0b1100); // 2x, 3x
-    return Scales(0b0100);
+    return Scales(0b0100);     // 2x
 }
 
 std::string textOf(const Scales& scales) {
@@ -129,14 +129,14 @@ private:
         if (!json)
             return; // deleted or damaged since it was read
         Set& set = sets_.emplace_back(
-            Set{&asset, *std::move(json), {}, {asset.path / SourceBundle::contentsName, listOf(asset)}});
+            Set{&asset, *std::move(json), {}, {asset.path / SourceBundle::contentsName, listNameOf(asset)}});
         std::size_t number = 0;
-        for (const Json& entry : SourceBundle::member(set.contents, listOf(asset)))
+        for (const Json& entry : SourceBundle::member(set.contents, listNameOf(asset)))
             if (++number; entry.is_object() && !isUnassigned(entry))
                 set.entries.push_back(SourceBundle::readEntry(entry, number));
     }
 
-    static const char* listOf(const SourceAsset& asset) { return asset.kind == Kind::color ? "colors" : "images"; }
+    static const char* listNameOf(const SourceAsset& asset) { return asset.kind == Kind::color ? "colors" : "images"; }
 
     // Whether most variants with bitmaps for several scales have one for 1x.
     bool is1xUsual() const {

@@ -1,6 +1,6 @@
 // Check/AssetRules.h
-// asset-missing-scale, asset-missing-dark: finds missing variants. Faults of existing variants are reported when the
-// set is read.
+// asset-missing-scale, asset-missing-dark: finds missing variants. MessageFindings.h has the rules for the variants
+// that exist.
 #pragma once
 
 #include "Check/Report.h"

@@ -21,7 +21,7 @@ namespace Check {
     return StringTables::internal::takeCharacter(last);
 }
 
-// The first `part` in `text` at or after `from`, which is at most the text's size; or npos. Faster than
+// The offset of the first `part` in `text` at or after `from`, which is at most the text's size; or npos. Faster than
 // string_view::find, which stops at each occurrence of the first character.
 [[nodiscard]] inline std::size_t findPart(std::string_view text, std::string_view part, std::size_t from = 0) noexcept {
     if (text.size() - from < part.size())

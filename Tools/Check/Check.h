@@ -19,8 +19,9 @@ struct Options {
     std::vector<std::filesystem::path> usedIn{}; // folders of code; empty: the use of accessors is not checked
 };
 
-// The findings, sorted by file and location. `diagnostics` has the messages about reading the source. Afterwards it has
-// only the warnings and errors that are not findings, with those about the settings, the names file and the code.
+// The findings, sorted by file and location. `diagnostics` has the messages about reading the source. They are replaced
+// by the warnings and errors that are not findings, also those about the settings, the names file, comments and the
+// code.
 [[nodiscard]] std::vector<Finding> check(const SourceBundle::Source& source, const Options& options,
                                          SourceBundle::Diagnostics& diagnostics);
 

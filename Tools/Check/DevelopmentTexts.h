@@ -21,7 +21,7 @@ struct DevelopmentText {
 
 class DevelopmentTexts {
 public:
-    // `older` is the same table of an older source, or null.
+    // `older` has the texts of the same table in an older source, or is null.
     DevelopmentTexts(const SourceBundle::Source& source, const SourceBundle::SourceTable& table,
                      const DevelopmentTexts* older);
 
@@ -32,7 +32,7 @@ public:
     // their keys in the same order.
     [[nodiscard]] const DevelopmentText* findAfter(const DevelopmentText* last, std::string_view key) const;
 
-    // Whether a file of the development texts is unreadable, so texts may be missing.
+    // Whether texts may be missing, because a file of them is unreadable or left out.
     [[nodiscard]] bool isDamaged() const noexcept { return isDamaged_; }
 
 private:

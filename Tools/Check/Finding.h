@@ -12,7 +12,7 @@ namespace Check {
 struct Finding {
     Rule rule;
     std::string file;
-    std::uint32_t line = 0;   // counted from 1; 0 for a whole file or a binary one
+    std::uint32_t line = 0;   // counted from 1; 0 if unknown, as in a binary table
     std::uint32_t column = 0; // in characters, counted from 1; 0 if unknown
     std::string language{};   // "de", "Base"; empty for an asset, or for all languages of a string catalog
     std::string subject{};    // the key or the asset's name; empty for a whole table or file

@@ -92,7 +92,7 @@ private:
 
     void takeMark() {
         if (code_.substr(at_).starts_with("::")) {
-            // No keyword qualifies a name: in `return ::b`, b is global.
+            // A reserved name qualifies nothing: in `return ::b`, b is global.
             isQualified_ = !last_.empty() && !std::ranges::binary_search(Generator::Namer::reservedNames, last_);
             at_ += 2;
             return;

@@ -25,6 +25,7 @@ constexpr std::pair<std::string_view, std::string_view> repeatable[] = {
     {"nb", "de"},  {"nb", "det"},  {"nl", "dat"},  {"nl", "die"},  {"nl", "je"},  {"nl", "ze"},
     {"no", "de"},  {"no", "det"},  {"sv", "de"},   {"sv", "den"},  {"sv", "det"}};
 
+// Includes opening quotation marks, because some languages close quotations with them: »text«.
 bool isClosing(char32_t c) noexcept {
     constexpr std::u32string_view closing = U"\"')]}\u00AB\u00BB\u2018\u2019\u201C\u201D\u201E\u2039\u203A"
                                             U"\u300B\u300D\u300F\u3011\uFF09\uFF3D\uFF5D";
@@ -37,46 +38,46 @@ Mark markOf(char32_t c, bool isGreek) noexcept {
     case U'\u0589': // Armenian
     case U'\u06D4': // Urdu
     case U'\u0964': // danda
-    case U'\u0965':
+    case U'\u0965': // double danda
     case U'\u104A': // Burmese
-    case U'\u104B':
+    case U'\u104B': // Burmese
     case U'\u1362': // Ethiopic
     case U'\u17D4': // Khmer
-    case U'\u3002':
-    case U'\uFF0E':
-    case U'\uFF61':
+    case U'\u3002': // ideographic
+    case U'\uFF0E': // full-width
+    case U'\uFF61': // half-width
         return Mark::fullStop;
     case U'?':
     case U'\u037E': // Greek
     case U'\u055E': // Armenian
     case U'\u061F': // Arabic
     case U'\u1367': // Ethiopic
-    case U'\uFF1F':
+    case U'\uFF1F': // full-width
         return Mark::question;
     case U'!':
     case U'\u055C': // Armenian
-    case U'\uFF01':
+    case U'\uFF01': // full-width
         return Mark::exclamation;
     case U':':
     case U'\u1365': // Ethiopic
-    case U'\uFF1A':
+    case U'\uFF1A': // full-width
         return Mark::colon;
     case U';':
         return isGreek ? Mark::question : Mark::semicolon;
     case U'\u0387': // Greek
-    case U'\u00B7':
+    case U'\u00B7': // its canonical form
         return isGreek ? Mark::semicolon : Mark::none;
     case U'\u061B': // Arabic
-    case U'\uFF1B':
+    case U'\uFF1B': // full-width
         return Mark::semicolon;
     case U',':
     case U'\u060C': // Arabic
-    case U'\u3001':
-    case U'\uFF0C':
-    case U'\uFF64':
+    case U'\u3001': // ideographic
+    case U'\uFF0C': // full-width
+    case U'\uFF64': // half-width
         return Mark::comma;
     case U'\u2026':
-    case U'\u22EF':
+    case U'\u22EF': // Chinese
         return Mark::ellipsis;
     default:
         return Mark::none;

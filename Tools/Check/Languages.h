@@ -23,7 +23,7 @@ namespace Check {
 // Whether `word`, in lower case, may follow itself in a correct sentence.
 [[nodiscard]] bool mayRepeat(std::string_view word, std::string_view tag) noexcept;
 
-// A punctuation mark of any script: U+3002 is a full stop. `none`: another character.
+// A punctuation mark of any script: U+3002 is a full stop. `none`: another character, or no character.
 enum class Mark { none, fullStop, question, exclamation, colon, semicolon, comma, ellipsis };
 // The mark at the end of `text`, ignoring white space, invisible characters, quotation marks and brackets after it.
 [[nodiscard]] Mark lastMark(std::string_view text, std::string_view tag) noexcept;

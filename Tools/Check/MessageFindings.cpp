@@ -66,7 +66,7 @@ public:
                        : "";
         return found->second.kind == TableFile::Kind::catalog ? "" : found->second.texts.front()->language;
     }
-    // The key's entry, for a string catalog in any language; or null.
+    // The key's entry, in a string catalog that of the first language that has it; or null.
     const SourceEntry* entryOf(const fs::path& file, std::string_view key) const {
         const auto found = known_.find(file.native());
         if (found != known_.end())

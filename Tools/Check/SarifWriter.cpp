@@ -3,6 +3,7 @@
 
 #include "Generator/CodeText.h"
 #include "SourceBundle/MessageText.h"
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <nlohmann/json.hpp>
@@ -94,6 +95,7 @@ std::string asSarif(std::span<const Finding> findings, Severity lowest, const fs
                       {"runs", Json::array({{{"tool", {{"driver", driver}}},
                                              {"columnKind", "unicodeCodePoints"},
                                              {"results", std::move(all)}}})}};
+    // Paths may be invalid UTF-8, which dump() would otherwise reject.
     return log.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

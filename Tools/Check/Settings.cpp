@@ -122,7 +122,8 @@ bool Settings::isOn(const Finding& finding) const {
 }
 
 RuleSet allowedBy(std::string_view comment, std::vector<std::string_view>* unknown) {
-    constexpr std::string_view separators = ", \t", nameCharacters = "abcdefghijklmnopqrstuvwxyz-", ends = ", \t\r\n";
+    constexpr std::string_view separators = ", \t", wordEnds = ", \t\r\n";
+    constexpr std::string_view nameCharacters = "abcdefghijklmnopqrstuvwxyz-";
     RuleSet rules;
     for (std::size_t mark = findPart(comment, allowMark); mark != comment.npos;
          mark = findPart(comment, allowMark, mark)) {
@@ -138,7 +139,7 @@ RuleSet allowedBy(std::string_view comment, std::vector<std::string_view>* unkno
             if (rule)
                 add(rules, *rule);
             else if (isListed && unknown != nullptr)
-                unknown->push_back(rest.substr(0, rest.find_first_of(ends)));
+                unknown->push_back(rest.substr(0, rest.find_first_of(wordEnds)));
             if (!rule)
                 break;
             rest.remove_prefix(name.size());

@@ -33,7 +33,7 @@ public:
 private:
     using RulesByName = std::map<std::string, RuleSet>; // by language or asset
     struct Folder {
-        std::string prefix; // of the paths in it
+        std::string prefix; // of the paths in it: its own path and "/"
         RuleSet disabled;
         RulesByName byLanguage;
         RulesByName byAsset;

@@ -45,14 +45,17 @@ bool hasDoubleSpace(std::string_view text) {
     return false;
 }
 
+// Beyond ASCII, the characters that may begin an identifier are the letters.
 bool isLetter(char32_t c) {
     return c < 0x80 ? (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') : Unicode::beginsIdentifier(c);
 }
+// 0x2019 is the typographic apostrophe.
 bool isInWord(char32_t c) {
     return isLetter(c) || c == '-' || c == '\'' || c == 0x2019 || (c >= '0' && c <= '9') ||
            (c >= 0x80 && Unicode::continuesIdentifier(c));
 }
 
+// Whether the token is a word without punctuation.
 bool isWord(std::string_view token) {
     bool hasLetter = false;
     while (!token.empty()) {
@@ -83,7 +86,7 @@ std::string lowered(std::string_view word) {
     return Unicode::encoded(out);
 }
 
-// Removes the next word of `text`, with its punctuation, and returns it; empty at the end.
+// A token is a word with its punctuation. Removes the next one from `text` and returns it; empty at the end.
 std::string_view takeToken(std::string_view& text) {
     constexpr auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; };
     const auto begin = std::ranges::find_if_not(text, isBlank);
@@ -106,7 +109,7 @@ std::string_view repeatedWord(std::string_view text, std::string_view language) 
 
 std::string_view repeatedWord(const SourceEntry& entry, std::string_view language) {
     std::string_view word;
-    isAny(entry, [&](std::string_view text) {
+    isAny(entry, [&](std::string_view text) { // stops at the first that holds
         word = repeatedWord(text, language);
         return !word.empty();
     });
@@ -135,7 +138,7 @@ bool isProse(std::string_view text) {
 }
 
 // Whether the text has at most one word besides placeholders, so that a full stop may mark an abbreviation: "%d sec.".
-bool isOneWord(std::string_view text) {
+bool mayBeAbbreviation(std::string_view text) {
     int words = 0;
     for (std::string_view token = takeToken(text); !token.empty(); token = takeToken(text))
         words += !token.starts_with('%');
@@ -149,9 +152,10 @@ bool hasCorrectEnd(const Text& text) {
     const auto isOptional = [](Mark mark) { return mark == Mark::none || mark == Mark::fullStop; };
     if (own == other)
         return true;
-    const bool isAbbreviation = isOneWord(text.entry.text) && isOneWord(text.development->entry->text);
+    const bool areAbbreviations =
+        mayBeAbbreviation(text.entry.text) && mayBeAbbreviation(text.development->entry->text);
     return isOptional(own) && isOptional(other) &&
-           (isAbbreviation || mayOmitFullStop(text.languages.own) || mayOmitFullStop(text.languages.development));
+           (areAbbreviations || mayOmitFullStop(text.languages.own) || mayOmitFullStop(text.languages.development));
 }
 
 } // namespace

@@ -164,8 +164,8 @@ private:
         const auto found = std::ranges::find(texts_.files, kind, &TableFile::kind);
         const bool hasKind = found != texts_.files.end();
         const bool isThere = before != nullptr && (!hasKind || before->file->kind == kind);
-        const TableFile* const other = hasKind ? *found : texts_.files.front();
-        finding.file = (isThere ? before->file : other)->path;
+        const TableFile* const file = hasKind ? *found : texts_.files.front();
+        finding.file = (isThere ? before->file : file)->path;
         finding.line = isThere ? before->line : 1;
         finding.column = 1;
     }

@@ -78,17 +78,17 @@ struct CheckedTable {
 Coverage checkTable(const SourceBundle::Source& source, const CheckedTable& table, std::string_view language,
                     Report& report);
 
-// A development text that occurs several times, with its table.
+// A key that has the same development text as another one, with its table.
 struct SharedText {
     const SourceBundle::SourceTable* table;
     const SourceBundle::SourceEntry* entry;
 };
-// The development texts that occur more than once, grouped by text.
+// All such keys, grouped by development text.
 [[nodiscard]] std::vector<std::vector<SharedText>> sharedTexts(std::span<const CheckedTable> tables);
 // inconsistent-translation.
 void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view language, Report& report);
 
-// coverage: one finding, in the first file of the language. None if there is nothing to translate.
+// coverage: one finding, in the first file of the language, or none if there is nothing to translate.
 void reportCoverage(std::span<const CheckedTable> tables, std::string_view language, const Coverage& coverage,
                     Report& report);
 

@@ -12,7 +12,7 @@ namespace Check {
 namespace {
 
 std::string visible(const std::string& text) {
-    return Generator::visibleText(text, std::string::npos);
+    return Generator::visibleText(text, std::string::npos); // npos: whole
 }
 
 std::string placeOf(const Finding& finding) {

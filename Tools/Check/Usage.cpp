@@ -53,9 +53,9 @@ public:
         if (found == byName_.end())
             return;
         const auto isInGroup = [&](std::size_t number) { return all_[number].group == qualifier; };
-        const bool isKnown = std::ranges::any_of(found->second, isInGroup);
+        const bool isGroup = std::ranges::any_of(found->second, isInGroup); // whether the qualifier is
         for (const std::size_t number : found->second)
-            all_[number].isUsed |= !isKnown || isInGroup(number);
+            all_[number].isUsed |= !isGroup || isInGroup(number);
     }
 
     void report(Report& report) const {
@@ -95,7 +95,7 @@ private:
     }
 
     std::vector<Accessor> all_;
-    Runtime::NameMap<std::vector<std::size_t>, std::string_view> byName_;
+    Runtime::NameMap<std::vector<std::size_t>, std::string_view> byName_; // indices in all_
 };
 
 bool isCodeFile(const fs::path& file) {
