@@ -23,7 +23,8 @@ from dataclasses import dataclass
 import paths
 from palette import COLOURS
 
-_HEAD = re.compile(r"^([A-Za-z])(?::([^/~]+))?(?:/([\d.]+))?(?:~([\d.]+))?$")
+_HEAD = re.compile(r"^([cCeErRlLgpPsSu])(?::([^/~]+))?(?:/([\d.]+))?(?:~([\d.]+))?$")
+_SHAPES = {"c": paths.ellipse, "e": paths.ellipse, "r": paths.rect, "s": paths.star}
 GLYPHS = {}  # name -> operations; glyphs.py fills it
 
 
@@ -118,9 +119,7 @@ class Drawing:
             outline = paths.parse(rest)
         else:
             n = [float(v) for v in rest.split()]
-            outline = {"c": paths.ellipse, "e": paths.ellipse, "r": paths.rect,
-                       "s": paths.star}[low](*n) if low in "cers" else \
-                paths.polyline(n, code != "l")
+            outline = _SHAPES[low](*n) if low in _SHAPES else paths.polyline(n, closed=code != "l")
         name = colour or self.ink
         if code.islower():
             body = self.body if outline[-1] == ("Z",) else None

@@ -1,5 +1,7 @@
 """Food pictures: the diet categories and a few single dishes, on a 48 x 48 grid."""
 
+from functools import partial
+
 from canvas import Drawing
 
 # number of the category in the asset's name -> (what is drawn, operations)
@@ -102,9 +104,9 @@ def _dish(text, size):
 
 
 def pictures():
-    result = {f"diet_category_{n}_icon": lambda t=text: _dish(t, 48)
-              for n, (_, text) in CATEGORIES.items()}
+    """name -> function giving its drawing"""
+    result = {f"diet_category_{n}_icon": partial(_dish, text, 48) for n, (_, text) in CATEGORIES.items()}
     for name, text in DISHES.items():
         size = 96 if name.endswith("_image") else 64
-        result[name] = lambda t=text, s=size: _dish(t, s)
+        result[name] = partial(_dish, text, size)
     return result

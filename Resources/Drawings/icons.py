@@ -6,6 +6,8 @@ mark (glyph made smaller, its last operation at full size in the corner). An ico
 a template: the application tints it. The size is in points, 24 if it is absent.
 """
 
+from functools import partial
+
 import glyphs  # noqa: F401  (fills the vocabulary)
 from canvas import Drawing
 
@@ -329,5 +331,5 @@ def pictures():
                 size = int(option)
             else:
                 frame, _, colour = option.partition("=")
-        result[name] = lambda s=size, f=frame, c=colour, o=operations: _icon(s, f, c, o)
+        result[name] = partial(_icon, size, frame, colour, operations)
     return result

@@ -1,5 +1,7 @@
 """Full pictures of the onboarding pages and the subscription offers."""
 
+from functools import partial
+
 import paths
 import scenery
 from canvas import Drawing
@@ -119,14 +121,15 @@ def _offer(male, region):
 
 
 def pictures():
+    """name -> function giving its drawing"""
     result = {}
     for region in REGIONS:
         for page, function in ((1, _team), (3, _meal), (4, _goal)):
-            result[f"onboarding.{page}.{region}"] = lambda f=function, r=region: f(r)
-    result["onboarding.2.arab"] = lambda: _coach("arab")
-    result["onboarding.2"] = lambda: _coach("plain")
-    for sex, regions in (("man", ("arab", "asia", "usa")), ("woman", ("arab", "asia", "latina", "usa"))):
+            result[f"onboarding.{page}.{region}"] = partial(function, region)
+    result["onboarding.2.arab"] = partial(_coach, "arab")
+    result["onboarding.2"] = partial(_coach, "plain")
+    for male, sex, regions in ((True, "man", ("arab", "asia", "usa")), (False, "woman", ("arab", "asia", "latina", "usa"))):
         for region in regions:
-            result[f"subscription_{sex}.{region}"] = lambda m=sex == "man", r=region: _offer(m, r)
-        result[f"subscription_{sex}"] = lambda m=sex == "man": _offer(m, "plain")
+            result[f"subscription_{sex}.{region}"] = partial(_offer, male, region)
+        result[f"subscription_{sex}"] = partial(_offer, male, "plain")
     return result

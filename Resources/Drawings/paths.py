@@ -51,7 +51,7 @@ def parse(text):
     tokens = _TOKEN.findall(text)
     result, i, command = [], 0, ""
     x = y = start_x = start_y = 0.0
-    control = None
+    control = None  # the second control point of the last C or S, which the next S mirrors
     while i < len(tokens):
         if tokens[i].isalpha():
             command = tokens[i]

@@ -20,6 +20,7 @@ def _content(drawing):
         for kind, *values in item.outline:
             operator = {"M": "m", "L": "l", "C": "c", "Z": "h"}[kind]
             lines.append(" ".join([*(number(v) for v in values), operator]))
+        # The operators for: fill and stroke, fill, stroke.
         lines.append({(1, 1): "B", (1, 0): "f", (0, 1): "S"}[bool(item.fill), bool(item.stroke)])
     return ("\n".join(lines) + "\n").encode()
 

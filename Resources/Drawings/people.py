@@ -28,7 +28,7 @@ class Look:
     legs: str = "long"          # long, short, tunic
     wide: float = 1             # factor of the trunk's width
     limb: float = 1             # factor of the limbs' width
-    belly: float = 0            # added to the width of the waist
+    belly: float = 0            # how much wider the waist is
     trim: str = None            # colour of a stripe, scarf or hair band
 
 
@@ -91,6 +91,7 @@ class Pose:
 def front(d, who, pose=Pose(), back=False):
     """Draws the figure seen from the front (or back). Returns where its hands ("left", "right") and feet ("left_foot",
     "right_foot") are."""
+    # Half the widths of the trunk.
     shoulder = (20.5 if who.male else 16.5) * who.wide
     waist = (15.5 if who.male else 11.5) * who.wide + who.belly
     hip = (14.5 if who.male else 15.5) * who.wide + who.belly * 0.7
@@ -219,11 +220,10 @@ def side(d, who, lean=0, near_arm=(20, 60), far_arm=(-20, 30), near_leg=(5, 0), 
          nod=0):
     """Draws the figure seen from the side, facing right, with its trunk turned forwards by `lean` degrees and its head by
     `nod` more. Returns where its hands, feet and head are, by name."""
-    build = who.wide
-    trunk = ((18 if who.male else 15) * build + who.belly)
+    trunk = (18 if who.male else 15) * who.wide + who.belly
     arm, leg = (9.5 if who.male else 7.5) * who.limb, (14 if who.male else 13) * who.limb
     a = math.radians(lean)
-    sx, sy = math.sin(a) * 44, -math.cos(a) * 44
+    sx, sy = math.sin(a) * 44, -math.cos(a) * 44    # the shoulder
     ends = {}
 
     def one_leg(angles, colour, skin, key):

@@ -1,5 +1,7 @@
 """Placeholders, advice pictures, avatars, logos and the other small pictures."""
 
+from functools import partial
+
 import paths
 import scenery
 from canvas import Drawing
@@ -173,20 +175,24 @@ def _exercise():
     return d
 
 
-def _person_card(name):
+def _about():
     d = Drawing(180)
-    _scene(d, "lilac" if name == "profileAbout" else "mint", "violet" if name == "profileAbout" else "teal", dark=False)
-    if name == "profileAbout":
-        d.draw("R:white 34 40 112 104 12;R:violet 34 40 112 24 12;R:violet 34 52 112 12;R:mist 92 82 42 7 3.5;R:mist 92 98 34 7 3.5;R:mist 46 124 88 7 3.5")
-        d.add(paths.rect(44, 74, 40, 42, 8), "#DCE8FF")
-        bust(d, look(False, "latina"), 64, 116, 0.42)
-    else:
-        d.draw("R:white 40 34 100 112 12;R:#FFF1CC 48 42 84 78 8")
-        bust(d, look(True, "asia"), 90, 120, 0.86)
-        d.draw("C:teal 134 132 23;C:white 134 132 20;C:teal 134 132 17")
-        d.ink, d.pen = "white", 2.4
-        with d.placed(123, 121, 0.92):
-            d.draw("u camera")
+    _scene(d, "lilac", "violet", dark=False)
+    d.draw("R:white 34 40 112 104 12;R:violet 34 40 112 24 12;R:violet 34 52 112 12;R:mist 92 82 42 7 3.5;R:mist 92 98 34 7 3.5;R:mist 46 124 88 7 3.5")
+    d.add(paths.rect(44, 74, 40, 42, 8), "#DCE8FF")
+    bust(d, look(False, "latina"), 64, 116, 0.42)
+    return d
+
+
+def _photo():
+    d = Drawing(180)
+    _scene(d, "mint", "teal", dark=False)
+    d.draw("R:white 40 34 100 112 12;R:#FFF1CC 48 42 84 78 8")
+    bust(d, look(True, "asia"), 90, 120, 0.86)
+    d.draw("C:teal 134 132 23;C:white 134 132 20;C:teal 134 132 17")
+    d.ink, d.pen = "white", 2.4
+    with d.placed(123, 121, 0.92):
+        d.draw("u camera")
     return d
 
 
@@ -205,30 +211,30 @@ def _plain(size, text, template=False):
 
 
 def pictures():
-    result = {name: (lambda n=name: _empty(n)) for name in EMPTY}
-    result.update({name: (lambda n=name: _advice(n)) for name in ADVICE})
-    result.update({f"ava_{n}": (lambda k=n: _avatar(k)) for n in range(1, 5)})
+    """name -> function giving its drawing"""
+    result = {name: partial(_empty, name) for name in EMPTY}
+    result.update({name: partial(_advice, name) for name in ADVICE})
+    result.update({f"ava_{n}": partial(_avatar, n) for n in range(1, 5)})
     result.update({
-        "profileAbout": lambda: _person_card("profileAbout"),
-        "profilePhoto": lambda: _person_card("profilePhoto"),
-        "welcom_logo": _welcome_logo, "logo_small": lambda: _logo(32), "subscription_logo": _subscription_logo,
-        "bubble_1": lambda: _bubble(own=False), "bubble_2": lambda: _bubble(own=True), "cup": _cup,
+        "profileAbout": _about, "profilePhoto": _photo,
+        "welcom_logo": _welcome_logo, "logo_small": partial(_logo, 32), "subscription_logo": _subscription_logo,
+        "bubble_1": partial(_bubble, own=False), "bubble_2": partial(_bubble, own=True), "cup": _cup,
         "feedPlaceholder": _feed, "trainer_header_background": _header, "exercise_test_image": _exercise,
         "course_start_chat": _chat,
-        "red_point": lambda: _plain(12, "C:red 6 6 5"),
-        "button_add_placeholder": lambda: _plain(
-            96, "R:paper 2 2 92 92 18;r:fog~2.5 2 2 92 92 18;C:white 48 48 22;l:blue~4 48 37 48 59;l:blue~4 37 48 59 48"),
-        "diet_spinner": lambda: _plain(
-            40, "c:mist~4 20 20 16;p:green~4 M20 4A16 16 0 0 1 36 20;P:green M20 28C14 26 13 18 18 13C25 14 28 21 24 27Z"
-                ";l:white~1.5 21 25 20 18"),
-        "arrow": lambda: _plain(24, "l 3 12 19 12;L 14.5 6 22 12 14.5 18", template=True),
-        "card": lambda: _plain(
-            40, "R:blue 3 8 34 24 4;R:deep 3 13 34 5;R:gold 7 22 7 5 1.5;l:white~1.6 24 26 33 26;l:white~1.6 28 22 33 22"),
-        "choose": lambda: _plain(24, "R:green 2 2 20 20 6;l:white~2.4 6.8 12.5 10.4 16 17.2 8.6"),
+        "red_point": partial(_plain, 12, "C:red 6 6 5"),
+        "button_add_placeholder": partial(
+            _plain, 96, "R:paper 2 2 92 92 18;r:fog~2.5 2 2 92 92 18;C:white 48 48 22;l:blue~4 48 37 48 59;l:blue~4 37 48 59 48"),
+        "diet_spinner": partial(
+            _plain, 40, "c:mist~4 20 20 16;p:green~4 M20 4A16 16 0 0 1 36 20;P:green M20 28C14 26 13 18 18 13C25 14 28 21 24 27Z"
+                        ";l:white~1.5 21 25 20 18"),
+        "arrow": partial(_plain, 24, "l 3 12 19 12;L 14.5 6 22 12 14.5 18", template=True),
+        "card": partial(
+            _plain, 40, "R:blue 3 8 34 24 4;R:deep 3 13 34 5;R:gold 7 22 7 5 1.5;l:white~1.6 24 26 33 26;l:white~1.6 28 22 33 22"),
+        "choose": partial(_plain, 24, "R:green 2 2 20 20 6;l:white~2.4 6.8 12.5 10.4 16 17.2 8.6"),
     })
     return result
 
 
 def dark_pictures():
     """name -> function giving the drawing for dark mode"""
-    return {name: (lambda n=name: _empty(n, dark=True)) for name in sorted(DARK)}
+    return {name: partial(_empty, name, dark=True) for name in sorted(DARK)}

@@ -1,5 +1,7 @@
 """Pictures of the questionnaire: sex, place, equipment, age, height, weight, build and goal."""
 
+from functools import partial
+
 import paths
 import scenery
 from canvas import Drawing
@@ -16,7 +18,7 @@ def _who(male, region, **changes):
     return look(male, region, **changes)
 
 
-def _frame(male, region):
+def _drawing(male, region):
     d = Drawing(160)
     scenery.backdrop(d, TINTS["arab" if region else male][0])
     return d
@@ -29,7 +31,7 @@ def _arch(d, colour="#F3CD8A"):
 
 
 def _sex(male, region):
-    d = _frame(male, region)
+    d = _drawing(male, region)
     if region:
         _arch(d)
     else:
@@ -39,7 +41,7 @@ def _sex(male, region):
 
 
 def _age(male):
-    d = _frame(male, None)
+    d = _drawing(male, None)
     bust(d, _who(male, None), 66, 160, 1.3)
     with d.placed(94, 88, 1.15):
         d.draw("R:white 0 6 48 46 7;R:{c} 0 6 48 14 6;R:{c} 0 14 48 6;l:slate~3.6 12 2 12 10;l:slate~3.6 36 2 36 10",
@@ -50,7 +52,7 @@ def _age(male):
 
 
 def _height(male):
-    d = _frame(male, None)
+    d = _drawing(male, None)
     scenery.shadow(d, 72, 150, 30)
     with d.placed(72, 149, 0.86):
         front(d, _who(male, None))
@@ -63,7 +65,7 @@ def _height(male):
 
 
 def _weight(male):
-    d = _frame(male, None)
+    d = _drawing(male, None)
     with d.placed(80, 134, 0.8):
         front(d, _who(male, None, wide=1.04), Pose((18, -6), (18, -6)) if male else Pose((30, -35), (30, -35)))
     d.draw("R:slate 42 137 76 14 6;R:white 64 140 32 8 3;l:{c}~2 80 147 86 142", c=TINTS[male][1])
@@ -109,7 +111,7 @@ def _home(male, region):
 
 
 def _equipment(male, region):
-    d = _frame(male, region)
+    d = _drawing(male, region)
     if region:
         _arch(d)
     scenery.shadow(d, 80, 150, 56)
@@ -125,7 +127,7 @@ def _equipment(male, region):
 
 def _bare(male, region):
     """Training without equipment."""
-    d = _frame(male, region)
+    d = _drawing(male, region)
     if region:
         _arch(d)
     d.add(paths.rect(8, 139, 144, 8, 4), "#FFFFFF", opacity=0.9)
@@ -264,6 +266,7 @@ def _place(home):
 
 
 def pictures():
+    """name -> function giving its drawing"""
     result = {}
     for male in (True, False):
         boy, sex = ("Boy", "man") if male else ("Girl", "girl")
@@ -273,19 +276,18 @@ def pictures():
                                    (f"defaultCourse{boy}", _cover), (f"{low}_equipment", _equipment),
                                    (f"{low}_no_equipment", _bare)):
                 if name + suffix != "homeBoy.arab":  # the application has no such picture
-                    result[name + suffix] = lambda f=function, m=male, r=region: f(m, r)
+                    result[name + suffix] = partial(function, male, region)
         for name, function in (("age", _age), ("height", _height), ("weight", _weight)):
-            result[name + boy] = lambda f=function, m=male: f(m)
+            result[name + boy] = partial(function, male)
         for kind in ("ecto", "mezo", "endo"):
-            result[f"{body}_{kind}morph"] = lambda m=male, k=kind: _build(m, k)
+            result[f"{body}_{kind}morph"] = partial(_build, male, kind)
         for view in ("Front", "Back", "Side"):
-            result[sex + view] = lambda m=male, v=view.lower(): _measure(m, v)
+            result[sex + view] = partial(_measure, male, view.lower())
         for aim, word in (("loss", "weight_loss"), ("gain", "weight_gain"), ("keep", "maintain")):
             for region in ("ar", "ru"):
-                result[f"{'male' if male else 'female'}_training_target_{word}_{region}"] = \
-                    lambda m=male, a=aim, r=region: _goal(m, a, r)
+                result[f"{'male' if male else 'female'}_training_target_{word}_{region}"] = partial(_goal, male, aim, region)
     for level in ("low", "medium", "high"):
-        result[f"daily_load_{level}"] = lambda v=level: _load(v)
-    result["at_home"] = lambda: _place(home=True)
-    result["at_gym"] = lambda: _place(home=False)
+        result[f"daily_load_{level}"] = partial(_load, level)
+    result["at_home"] = partial(_place, home=True)
+    result["at_gym"] = partial(_place, home=False)
     return result

@@ -109,6 +109,7 @@ def render(drawing, scale):
 
 
 def _paint(image, polygons, paint, opacity):
+    """Paints the polygons over the image; with an opacity below 1 it shows through."""
     height, width = len(image), len(image[0])
     fade = isinstance(paint, Gradient)
     plain = None if fade else _colour(paint)
@@ -120,6 +121,7 @@ def _paint(image, polygons, paint, opacity):
             ends[a] = ends.get(a, 0) + 1
             ends[b] = ends.get(b, 0) - 1
         full = 0
+        # The pixels at which the coverage changes.
         marks = sorted(set(ends) | set(cover) | {x + 1 for x in cover})
         for x, following in zip(marks, marks[1:] + [width]):
             full += ends.get(x, 0)
