@@ -33,6 +33,7 @@ public:
         return !S_ISDIR(found.st_mode) || depth == 0 || addEntries(path, depth - 1);
     }
 
+    // No value if a further change might have the same time as the latest one.
     std::optional<std::uint64_t> value() const {
         constexpr std::int64_t tick = perSecond / 10; // longer than the clock ticks of Linux's own file systems
         timespec now{};

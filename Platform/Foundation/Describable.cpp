@@ -14,9 +14,8 @@ template <class T> std::string_view shortestText(T value, char* buffer) noexcept
         return "nan";
     if (std::isinf(value))
         return value < 0 ? "-inf" : "inf";
-    // 2^digits: the type cannot represent every integer above it, so full digits would suggest a precision that it does
-    // not have. Doubled in T, because a 64-bit integer cannot hold 2^64, the limit of long double.
-    static constexpr T largestInFull = static_cast<T>(std::uint64_t{1} << (std::numeric_limits<T>::digits - 1)) * 2;
+    // 2^digits: T cannot represent every greater integer; full digits would suggest a precision that it does not have.
+    static constexpr T largestInFull = 2 / std::numeric_limits<T>::epsilon();
     static constexpr T smallestInFull = static_cast<T>(1e-4L); // smaller numbers are shorter with an exponent
     const T magnitude = std::fabs(value);
     const bool inFull = magnitude == 0 || (magnitude >= smallestInFull && magnitude <= largestInFull);

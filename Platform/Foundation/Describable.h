@@ -73,8 +73,7 @@ concept Sequence = requires(const T& value) {
 } // namespace detail
 
 // The description of a value:
-// - a string (anything that converts to std::string_view; nullptr and a null const char* are "nil") or a character:
-// itself;
+// - a string (anything that converts to std::string_view) or a character: itself; a null const char* or nullptr: "nil";
 // - a bool, or an element of a std::vector<bool> or std::bitset: "true" or "false"; an integer: its decimal digits;
 // - a floating-point number: the fewest digits that give the same value, with a point or an exponent: "0.1", "1e+16";
 //   "inf", "-inf" or "nan";

@@ -70,7 +70,7 @@ public:
         const int precision = conversion.precision ? static_cast<int>(*conversion.precision) : -1;
         const int size = std::snprintf(buffer_.data(), buffer_.size(), format.c_str(), precision, magnitude);
         if (size < 0)
-            throw std::bad_alloc(); // the only remaining reason
+            throw std::bad_alloc(); // snprintf() cannot fail for another reason here
         text_ = {buffer_.data(), static_cast<std::size_t>(size)};
     }
     std::string_view text() const noexcept { return text_; }

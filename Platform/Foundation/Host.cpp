@@ -106,7 +106,7 @@ Settings environmentSettings() {
                                                       : accepted(withoutSuffix(withoutSuffix(identifier, '@'), '.')))};
 }
 
-// Reads what was not set explicitly from the environment.
+// Takes from the environment what was not set.
 [[gnu::cold]] void initialize() {
     const Settings settings = environmentSettings();
     const Change change;
@@ -118,7 +118,7 @@ Settings environmentSettings() {
 
 } // namespace
 
-std::uint64_t hostVersion() {
+std::uint64_t hostLanguagesVersion() {
     const std::uint64_t version = languages.version();
     if (version != 0) [[likely]]
         return version;
@@ -127,7 +127,7 @@ std::uint64_t hostVersion() {
 }
 
 HostLanguages hostLanguages() {
-    static_cast<void>(hostVersion()); // reads the environment if needed
+    static_cast<void>(hostLanguagesVersion()); // reads the environment if needed
     return languages.read([](std::uint64_t version, std::string_view list) {
         return HostLanguages{version, splitLanguages(list)};
     });

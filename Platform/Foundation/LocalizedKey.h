@@ -15,7 +15,7 @@ struct LocalizedKey {
 
     std::string_view table; // not empty
     std::string_view key;   // exact
-    // Generated code contains both as constants. Look-ups with wrong hashes only take longer.
+    // Generated code contains both hashes as constants. Look-ups with wrong hashes only take longer.
     std::uint64_t tableHash;
     std::uint64_t keyHash;
 };

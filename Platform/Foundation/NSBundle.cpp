@@ -100,7 +100,7 @@ struct NSBundle::Contents {
     // index selects the chain to search.
     std::size_t preferred() {
         const std::uint64_t known = latest.load(std::memory_order_relaxed);
-        return known / versionUnit == detail::hostVersion() ? known % versionUnit : choosePreferred();
+        return known / versionUnit == detail::hostLanguagesVersion() ? known % versionUnit : choosePreferred();
     }
     [[gnu::noinline, gnu::cold]] std::size_t choosePreferred() {
         const detail::HostLanguages host = detail::hostLanguages();
@@ -150,8 +150,8 @@ struct NSBundle::Contents {
 
     using Choice = std::optional<std::size_t>;
 
-    NSBundle bundle;                    // only that of a path's first contents is used: a reload keeps the object
-    Contents* previous = nullptr;       // those that a reload replaced with these; kept reachable for leak checkers
+    NSBundle bundle;                    // used only in a path's first contents: a reload keeps the object
+    Contents* previous = nullptr;       // contents that a reload replaced with these; kept reachable for leak checkers
     std::optional<std::uint64_t> state; // bundleState() before a reload read the files; none in the first contents
     std::string path;
     std::string developmentLocalization;

@@ -19,9 +19,9 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSBundle {
 public:
-    // The bundle NAME.bundle of the shared object that contains `code` (the address of a function or static object). If
-    // the folder LIBRARY-VERSION beside that file ("lumora-1" for liblumora.so.1.0.0) has a bundle of that name, it is
-    // that one, else the one beside the file itself. For code of the main program: the main bundle.
+    // The bundle NAME.bundle for the shared object that contains `code` (the address of a function or static object):
+    // that in the folder LIBRARY-VERSION beside the shared object ("lumora-1" for liblumora.so.1.0.0) if there is one,
+    // else that in the shared object's own folder. For code of the main program: the main bundle.
     [[nodiscard]] static const NSBundle& bundleForCode(const void* code, std::string_view name);
     // PROGRAM.bundle in the directory of the program.
     [[nodiscard]] static const NSBundle& mainBundle();
@@ -62,7 +62,7 @@ public:
     // REASON", or "PATH: REASON" if the bundle itself is missing. No value when each file is readable or missing. Reads
     // the files again.
     [[nodiscard]] std::optional<std::string> tableDamage(std::string_view table) const;
-    // The path of the file NAME.TYPE (NAME if TYPE is empty) of one localization ("Base" is one), in the subfolder
+    // The path of the file NAME.TYPE (NAME if TYPE is empty) of one localization (or of "Base"), in the subfolder
     // `directory` of the localization's folder unless `directory` is empty. No value when there is no such file, when a
     // name is not that of a single file or folder, or when a link leads out of the bundle.
     [[nodiscard]] std::optional<std::string> pathForResource(std::string_view name, std::string_view type,

@@ -34,8 +34,8 @@ public:
     [[nodiscard]] std::string positivePrefix() const;
     void setPositivePrefix(std::string prefix) { positivePrefix_ = std::move(prefix); }
 
-    // Both styles have a text for every number, including infinities and NaN. Without the library's language data the
-    // result has ASCII digits, '-', '.', and no grouping.
+    // Always has a value, because both styles have a text for every number, including infinities and NaN. Without the
+    // library's language data the result has ASCII digits, '-', '.', and no grouping.
     [[nodiscard]] std::optional<std::string> stringFromNumber(const NSNumber& number) const;
 
 private:

@@ -44,8 +44,8 @@ bool isDecimal(const Placeholder& placeholder) noexcept {
     return placeholder.conversion == 'd' || placeholder.conversion == 'i' || placeholder.conversion == 'u';
 }
 
-// Whether the plural rules apply to the integer itself: the placeholder prints exactly its decimal digits, or not in
-// decimal.
+// Whether the plural rules apply to the integer itself: the placeholder prints exactly its decimal digits, or does not
+// print it in decimal.
 bool isPlainInteger(const Placeholder& placeholder) noexcept {
     return placeholder.kind == Placeholder::Kind::integer &&
            (!isDecimal(placeholder) ||
@@ -158,7 +158,7 @@ private:
     const PluralFormat& plural_;
     std::string out_;
     std::size_t variables_ = 0; // replaced so far
-    // The variables whose forms are being appended. They are left out of these forms, which would have no end.
+    // The variables whose forms are being appended. They are left out of these forms, or the result would have no end.
     std::bitset<StringTables::PluralTable::maxVariables> isOpen_;
 };
 

@@ -38,7 +38,7 @@ icu::Locale knownLocale(std::string_view identifier) {
     return root.isBogus() ? icu::Locale::getRoot() : root;
 }
 
-// Null for an unknown numbering system and for one without decimal digits (Roman numerals).
+// Null if ICU reports an error, as for an unknown numbering system, or if there are no decimal digits (Roman numerals).
 std::unique_ptr<icu::DecimalFormat> decimalFormat(const icu::Locale& locale, NumberStyle style) {
     UErrorCode status = U_ZERO_ERROR;
     const auto icuStyle = style == NumberStyle::percent ? UNUM_PERCENT : UNUM_DECIMAL;
@@ -110,7 +110,7 @@ void readAffixes(NumberPattern& pattern, const icu::DecimalFormat& format) {
 
 // ICU's text for `count` years, with "{0}" instead of the number.
 std::string yearForm(const icu::number::LocalizedNumberFormatter& formatter, std::int64_t count) {
-    UErrorCode status = U_ZERO_ERROR; // after an error, ICU's functions do nothing, so it is checked once, at the end
+    UErrorCode status = U_ZERO_ERROR; // after an error, ICU's functions do nothing, so one check at the end is enough
     const icu::number::FormattedNumber formatted = formatter.formatInt(count, status);
     icu::UnicodeString text = formatted.toString(status);
     icu::ConstrainedFieldPosition number;

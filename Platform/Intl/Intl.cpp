@@ -30,7 +30,7 @@ template <class Use, class Plain> auto withServices(Use use, Plain plain) {
     return all != nullptr ? use(*all) : plain();
 }
 
-// The index of the longest supported prefix of the tag that ends before a '-' or '_', or of the whole tag.
+// The index in `supported` of `desired`, or else of its longest prefix that ends before a '-' or '_'.
 std::optional<std::size_t> matchByTruncation(std::string_view desired, std::span<const std::string> supported) {
     for (;;) {
         if (const auto found = std::ranges::find(supported, desired); found != supported.end())

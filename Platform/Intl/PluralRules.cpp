@@ -23,7 +23,7 @@ constexpr bool isBetween(std::uint64_t value, std::uint64_t first, std::uint64_t
 // `names`; `languages`, sorted by name.
 #include "PluralRules.inc"
 
-constexpr std::size_t longestName = 16; // longer than all of `names`; the rest of a tag is ignored
+constexpr std::size_t mostRead = 16; // bytes of a tag, more than any of `names` has; the rest is ignored
 constexpr unsigned unknownLanguage = ~0U;
 
 const Language* findLanguage(std::string_view name) noexcept {
@@ -51,8 +51,8 @@ char* spellTag(std::string_view tag, char* out) noexcept {
 
 // The rule set of the longest prefix of the tag that has one, or `unknownLanguage`.
 unsigned ruleSetOf(std::string_view tag) noexcept {
-    std::array<char, longestName> buffer;
-    const char* const end = spellTag(tag.substr(0, longestName), buffer.data());
+    std::array<char, mostRead> buffer;
+    const char* const end = spellTag(tag.substr(0, mostRead), buffer.data());
     for (std::string_view name(buffer.data(), end);;) {
         if (const Language* const found = findLanguage(name))
             return found->ruleSet;
@@ -88,7 +88,7 @@ void addFraction(PluralOperands& number, char digit) noexcept {
 
 // Parses an exponent such as "e+06"; 0 if there is none or it is too large for an int.
 int exponentOf(std::string_view text) noexcept {
-    constexpr int most = 400; // more than that of any double
+    constexpr int most = 400; // more than the exponent of any double
     if (!text.starts_with('e') && !text.starts_with('E'))
         return 0;
     text.remove_prefix(text.substr(1).starts_with('+') ? 2 : 1);
@@ -116,6 +116,7 @@ PluralOperands pluralOperands(std::string_view decimal) noexcept {
     const auto count = static_cast<int>(whole.size() + fraction.size());
     const int point = static_cast<int>(whole.size()) + exponentOf(decimal.substr(at));
     PluralOperands number;
+    // Places count from the first digit of the text; the whole part ends at `point`.
     for (int place = std::min(point, 0); place < std::max(count, point); ++place) {
         const auto index = static_cast<std::size_t>(place);
         char digit = '0';

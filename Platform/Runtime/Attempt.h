@@ -8,8 +8,8 @@
 
 namespace Runtime {
 
-// Returns `make()`, or `otherwise` when it throws. The platform throws only when memory or descriptors have run out or
-// a device has failed, so the next call may succeed.
+// Returns `make()`, or `otherwise` when that throws. The platform throws only std::bad_alloc, and std::system_error on
+// transient errors, such as too many open files, so the next call may succeed.
 template <class Make, class Value = decltype(std::declval<Make&>()())>
 Value attempt(Make&& make, Value otherwise = {}) noexcept {
     try {

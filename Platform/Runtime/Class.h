@@ -146,7 +146,7 @@ template <auto* function> constexpr Method method(const char* selector) noexcept
 template <class Result, class... Arguments>
 Carried<Result> send(const Class* cls, std::string_view selector, const Arguments&... arguments) {
     return [&](const Carried<Arguments>&... carried) {
-        const Argument given[] = {{&typeid(Carried<Arguments>), &carried}..., {nullptr, nullptr}};
+        const Argument given[] = {{&typeid(Carried<Arguments>), &carried}..., {nullptr, nullptr}}; // as in Bridge
         const Method& found =
             detail::resolve(cls, selector, std::span(given, sizeof...(Arguments)), &typeid(Carried<Result>));
         alignas(Carried<Result>) std::byte place[sizeof(Carried<Result>)];

@@ -23,7 +23,7 @@ void fatalError(std::string_view message, std::string_view file, std::uint32_t l
 
 void fatalError(std::initializer_list<std::string_view> message, std::string_view file, std::uint32_t line,
                 std::initializer_list<std::string_view> hint) noexcept {
-    char digits[10];
+    char digits[10]; // of the greatest `line`
     const auto end = std::to_chars(digits, digits + sizeof digits, line).ptr;
     // One system call, so that other threads' output does not split the report, and no allocation, so that the report
     // is written without free memory, too.

@@ -79,7 +79,7 @@ std::pair<Descriptor, std::string> createBeside(const std::string& path) {
     constexpr int mostTries = 100;
     for (int tries = 1;; ++tries) {
         std::uint32_t random = 0;
-        if (::getrandom(&random, sizeof random, GRND_NONBLOCK) < 0) // early after the system's start
+        if (::getrandom(&random, sizeof random, GRND_NONBLOCK) < 0) // the kernel has no random numbers yet
             random = static_cast<std::uint32_t>(::getpid() + tries);
         std::string name = path + "." + std::to_string(random);
         Descriptor file(::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));

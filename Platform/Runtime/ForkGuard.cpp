@@ -8,7 +8,7 @@ namespace Runtime {
 
 namespace {
 
-// Guards hold it shared, fork() exclusively.
+// Guards hold this lock shared, fork() exclusively.
 constinit pthread_rwlock_t forking = PTHREAD_RWLOCK_INITIALIZER;
 
 void beforeFork() noexcept {
@@ -17,7 +17,7 @@ void beforeFork() noexcept {
 void afterForkInParent() noexcept {
     ::pthread_rwlock_unlock(&forking);
 }
-// The lock does not know the child's thread as its owner, so it cannot be unlocked there.
+// The lock does not know the child's thread as its owner, so the child cannot unlock it.
 void afterForkInChild() noexcept {
     forking = PTHREAD_RWLOCK_INITIALIZER;
 }
@@ -27,7 +27,7 @@ void afterForkInChild() noexcept {
 ForkGuard::ForkGuard() {
     static constinit OnceSlot<bool> isRegistered;
     isRegistered.get([] {
-        // Waits for a running fork(), which has not called beforeFork() and so would not wait for this guard.
+        // This call waits for a running fork(), which has not called beforeFork() and so would not wait for a guard.
         if (::pthread_atfork(&beforeFork, &afterForkInParent, &afterForkInChild) != 0)
             throw std::bad_alloc();
         return true;

@@ -16,7 +16,7 @@ namespace {
 // Without O_NONBLOCK, opening a pipe would wait for its writer.
 constexpr int openFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
 
-constexpr int leadsOut = EXDEV; // the errno for a link out of the folder, as in openat2()
+constexpr int leadsOut = EXDEV; // openat2() has this errno for a link out of a folder, too
 
 // Fails with ELOOP if there is a link on the path.
 int openWithoutLinks(const std::string& path, int flags) noexcept {

@@ -32,7 +32,10 @@ Result<void*> symbolOf(void* library, const std::string& path, const char* symbo
 
 Result<void*> pluginSymbol(const ForkGuard& guard, const char* file, const char* symbol) {
     static constexpr char here = 0;
-    return pluginSymbol(guard, codeLocation(&here).directory + "/" LUMORA_PLUGIN_FOLDER, file, symbol);
+    const CodeLocation own = codeLocation(&here);
+    if (own.name.empty())
+        return Error{.message = "cannot be found, because the library beside it was removed", .file = file};
+    return pluginSymbol(guard, own.directory + "/" LUMORA_PLUGIN_FOLDER, file, symbol);
 }
 
 Result<void*> pluginSymbol(const ForkGuard&, const std::string& folder, const char* file, const char* symbol) {

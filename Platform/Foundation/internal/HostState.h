@@ -12,8 +12,8 @@
 namespace Foundation::detail {
 
 // The version of the preferred languages: 1 or more, increased whenever they are set. It shows whether cached values
-// that depend on them are outdated. Reads the environment if they were not set.
-[[nodiscard]] std::uint64_t hostVersion();
+// that depend on them are outdated. Reads the environment if no languages were set.
+[[nodiscard]] std::uint64_t hostLanguagesVersion();
 
 struct HostLanguages {
     std::uint64_t version;

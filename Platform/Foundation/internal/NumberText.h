@@ -1,6 +1,6 @@
 // Foundation/internal/NumberText.h
 // Formats numbers for a locale; internal.
-// Text: UTF-8. Threads: any; lock-free for cached patterns. Without the language data every locale uses plain ASCII.
+// Text: UTF-8. Threads: any; lock-free for cached patterns. A locale without language data uses plain ASCII.
 #pragma once
 
 #include "Foundation/NSNumber.h"

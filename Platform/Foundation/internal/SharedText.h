@@ -16,7 +16,7 @@
 namespace Foundation::detail {
 
 // One of the two buffers; SharedText writes the one that does not have the current text. A reader that gets a part of a
-// later text also sees the later version, because each part is stored and loaded with release and acquire order.
+// later text also sees a later version, because each part is stored and loaded with release and acquire order.
 template <std::size_t longest> class TextBuffer {
 public:
     using Word = std::uint64_t;
@@ -33,7 +33,7 @@ public:
     }
     // Copies the text in whole words and returns its size.
     std::size_t read(Words& out) const noexcept {
-        // Never longer; a loop with a known bound is compiled to faster code.
+        // The size is never larger than `longest`; a loop with a known bound is compiled to faster code.
         const std::size_t size = std::min(size_.load(std::memory_order_acquire), longest);
         for (std::size_t i = 0; i * sizeof(Word) < size; ++i)
             out[i] = words_[i].load(std::memory_order_acquire);

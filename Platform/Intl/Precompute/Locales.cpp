@@ -46,11 +46,11 @@ std::string locales() {
     Pool names, texts;
     std::string known;
     for (const std::string& name : localeNames()) {
-        known += "    {" + std::to_string(names.offsetOf(name));
+        known += "    {" + std::to_string(names.add(name));
         for (const std::string& text :
              {stored(icu.numberPattern(name, NumberStyle::decimal)),
               stored(icu.numberPattern(name, NumberStyle::percent)), stored(icu.yearForms(name))})
-            known += ", " + std::to_string(texts.offsetOf(text));
+            known += ", " + std::to_string(texts.add(text));
         known += "},\n";
     }
     return names.definition("names") + texts.definition("texts") + "constexpr Known known[] = {\n" + known + "};\n";

@@ -130,7 +130,8 @@ constexpr const char* never = "0";
 std::string integerRelation(const std::string& text) {
     const auto [operand, modulus, isEqual, ranges] = parsed(text);
     if (operand != 'n' && operand != 'i') {
-        const bool hasZero = ranges.front() == "0" || ranges.front().starts_with("0..");
+        const bool hasZero =
+            std::ranges::any_of(ranges, [](const auto& range) { return range == "0" || range.starts_with("0.."); });
         return hasZero == isEqual ? always : never;
     }
     const std::string value = "n" + modulus;
@@ -220,9 +221,9 @@ std::string pluralRules() {
             code += "    case " + number->second + ":\n" + set.code + "        break;\n";
             categories +=
                 "    {" + std::to_string(set.categories) + ", " + std::to_string(set.integerCategories) + "},\n";
-            expressions += "    " + std::to_string(expressionTexts.offsetOf(set.expression)) + ",\n";
+            expressions += "    " + std::to_string(expressionTexts.add(set.expression)) + ",\n";
         }
-        languages += "    {" + std::to_string(names.offsetOf(language)) + ", " + number->second + "},\n";
+        languages += "    {" + std::to_string(names.add(language)) + ", " + number->second + "},\n";
     }
     return "PluralCategory select(unsigned ruleSet, const PluralOperands& o) noexcept {\n    switch (ruleSet) {\n" +
            code + "    }\n    return PluralCategory::other;\n}\n" + "constexpr PluralCategories categories[] = {\n" +

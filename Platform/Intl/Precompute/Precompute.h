@@ -17,11 +17,12 @@ std::string scriptVariants(); // ScriptVariants.inc
 // Prints the message and stops the program.
 [[noreturn]] void fail(const std::string& message);
 
-// Concatenates distinct NUL-terminated strings.
+// Concatenates distinct strings, each with a NUL at its end.
 class Pool {
 public:
-    std::size_t offsetOf(const std::string& text);
-    // The C++ definition of the constant `name` with all strings. Calls fail() when offsets do not fit into 16 bits.
+    // Adds the text if the pool does not have it. Returns its offset.
+    std::size_t add(const std::string& text);
+    // The C++ definition of the constant `name` with all strings. Calls fail() if the offsets do not fit into 16 bits.
     std::string definition(const std::string& name) const;
 
 private:

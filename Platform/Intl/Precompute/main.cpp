@@ -1,5 +1,6 @@
 // Runs during the build: writes one of the generated files to standard output.
 #include "Precompute/Precompute.h"
+
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -13,7 +14,7 @@ void fail(const std::string& message) {
     std::exit(1);
 }
 
-std::size_t Pool::offsetOf(const std::string& text) {
+std::size_t Pool::add(const std::string& text) {
     const auto [at, isNew] = offsets_.emplace(text, all_.size());
     if (isNew)
         all_.append(text) += '\0';

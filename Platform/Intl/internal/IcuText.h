@@ -39,7 +39,7 @@ namespace Intl {
         return none;
     }
     if (const std::size_t dot = name.find('.'); dot != std::string::npos)
-        name.erase(dot, name.find('@', dot) - dot);
+        name.erase(dot, name.find('@', dot) - dot); // without an '@', everything after the dot
     icu::Locale locale = icu::Locale::createFromName(name.c_str());
     // ICU copies names into buffers of this size, not always with a check. Either name may be longer than the other.
     if (!locale.isBogus() &&

@@ -4,7 +4,7 @@
 // plug-in lumora-intl.so: loading ICU takes longer than the first text of a process, and most processes never need it.
 // Text: UTF-8. Threads: any. Errors: transient failures throw std::bad_alloc or std::system_error, so that callers
 // never cache a degraded result; the next call tries again. Without the plug-in, languages are matched by their tags
-// only, the number pattern is plainNumberPattern(), and the year forms are empty.
+// only, and a locale that ICU does not list has plainNumberPattern() and empty year forms.
 #pragma once
 
 #include "Intl/internal/NumberPattern.h"

@@ -1,6 +1,6 @@
 // Intl/internal/LanguageMatch.h
 // Uses ICU to select the language for a user; part of the plug-in lumora-intl.so.
-// Text: identifiers that icuLocale() accepts. What follows '@' is ignored, so a script has its code ("sr-Latn").
+// Text: identifiers that icuLocale() accepts. What follows '@' is ignored: "sr-Latn" has a script, "sr@latin" none.
 // Threads: any; no state.
 #pragma once
 

@@ -22,14 +22,14 @@ struct PluralOperands {
     friend bool operator==(const PluralOperands&, const PluralOperands&) = default;
 };
 
-// The operands of a number printed in ASCII without its sign: "12.50", "1.25e+01". Whatever follows
-// such a number is ignored; a text without a number, such as "nan", gives zeros.
+// The operands of a number printed in ASCII without its sign: "12.50", "1.25e+01". Whatever follows such a number is
+// ignored; a text that does not begin with a number, such as "nan", gives zeros.
 [[nodiscard]] PluralOperands pluralOperands(std::string_view decimal) noexcept;
 
 // The rules of one language, found once for many numbers.
 class PluralRules {
 public:
-    // `language` is a tag such as "pt-PT" or "sr_Latn". The category is always `other` for an unknown one.
+    // `language` is a tag such as "pt-PT" or "sr_Latn". An unknown language has only the category `other`.
     explicit PluralRules(std::string_view language) noexcept;
     [[nodiscard]] PluralCategory category(const PluralOperands& number) const noexcept;
 

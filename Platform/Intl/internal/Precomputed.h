@@ -18,7 +18,7 @@ namespace Intl {
 
 namespace detail {
 
-// Visits all fields in the order in which lumora-precompute stores them: strings with a NUL, numbers as one digit.
+// Visits all fields in the order in which lumora-precompute stores them: strings with a NUL, numbers as one digit each.
 template <class Visit, class Forms>
 requires std::is_same_v<std::remove_const_t<Forms>, YearForms>
 void forEachField(Forms& years, Visit&& visit) {

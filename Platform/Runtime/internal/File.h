@@ -14,8 +14,8 @@ namespace Runtime {
 // error. Never waits for the writer of a pipe. `folder`: as for OpenFile::open().
 [[nodiscard]] Result<std::string> readFile(const std::string& path, std::size_t limit, std::string_view folder = {});
 
-// With `synced` the new content reaches the disk before it gets the file's name, which takes longer; with `unsynced` a
-// power failure may leave an empty file, even in place of an old one.
+// With `synced` the new content is on the disk before it replaces the file, which takes longer; with `unsynced` a power
+// failure may leave an empty file, even in place of an old one.
 enum class WriteSafety { synced, unsynced };
 
 // Replaces the file at `path` atomically: writes a temporary file beside it and renames that, so that readers see

@@ -15,8 +15,8 @@ public:
     ForkLock(const ForkLock&) = delete;
     ForkLock& operator=(const ForkLock&) = delete;
 
-    // Takes the lock. Returns true when a thread of the parent process held it at the fork: what it guards may then be
-    // half written.
+    // Takes the lock. Returns true when a thread of the parent process held it at the fork: what the lock guards may
+    // then be half written.
     [[nodiscard]] bool lock() noexcept {
         const auto mine = static_cast<std::uint32_t>(::getpid());
         std::uint32_t seen = free;
@@ -36,7 +36,7 @@ public:
 private:
     static constexpr std::uint32_t free = 0;
 
-    std::atomic<std::uint32_t> owner_{free}; // the id of the process that has the thread with the lock
+    std::atomic<std::uint32_t> owner_{free}; // the id of the process whose thread holds the lock
 };
 
 } // namespace Runtime

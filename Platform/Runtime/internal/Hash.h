@@ -59,7 +59,8 @@ inline std::uint64_t hashBytes(std::string_view bytes, std::uint64_t seed) noexc
 }
 
 // The hash of a name, used for keys in compiled tables, in generated code and in a KeyedStore. Compiled tables contain
-// it, so a change needs a new version of their index. Generated code with other hashes only takes longer.
+// it, so a change needs a new version of their index. Generated code with outdated hashes only takes longer
+// to find a text.
 [[nodiscard]] inline std::uint64_t keyHash(std::string_view key) noexcept {
     return hashBytes(key, hashSpread);
 }

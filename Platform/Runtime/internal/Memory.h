@@ -1,5 +1,5 @@
 // Runtime/internal/Memory.h
-// Probes for memory where an API does not report that it ran out.
+// Probes for memory where an API does not report that memory ran out.
 // Threads: any; no state.
 #pragma once
 

@@ -1,6 +1,6 @@
 // Runtime/internal/NameMap.h
-// Hash maps whose keys come from files. Their hashes have a seed, because a file could be made whose keys all have the
-// same hash of the standard library.
+// Hash maps whose keys come from files. Their hashes have a seed, because someone could make a file whose keys all have
+// the same hash in the standard library.
 // Threads: as the standard containers; processSeed() and the hash: any.
 #pragma once
 

@@ -15,18 +15,17 @@ namespace Runtime {
 
 class OpenFile {
 public:
-    // Opens the regular file at `path`. Errors, which name the file: the system refused, it is not a regular file, it
-    // has more than `limit` bytes. Never blocks on a pipe.
-    // If `folder` is not empty, `path` must begin with it and have no ".." after it; a link that leads out of the
-    // folder is an error, too.
+    // Opens the regular file at `path`. Errors, which name the file: a system call failed, or the file is not
+    // regular or has more than `limit` bytes. Never blocks on a pipe.
+    // If `folder` is not empty, `path` must begin with `folder` and have no ".." after that; a link that leads out of
+    // the folder is an error, too.
     [[nodiscard]] static Result<OpenFile> open(const std::string& path, std::size_t limit,
                                                std::string_view folder = {});
     // Succeeds if there is a file or folder of any kind at `path` and it is inside `folder`, as for open().
     [[nodiscard]] static Result<void> exists(const std::string& path, std::string_view folder);
 
     std::size_t size() const noexcept { return identity_.size; } // at the time of opening
-    // Differs when another file takes the place of this one, or when the content changes, unless both size and time of
-    // modification stay the same.
+    // Differs for another file, and after a change of the size or the time of modification.
     struct Identity {
         std::uint64_t device = 0, inode = 0;
         std::size_t size = 0;

@@ -12,7 +12,8 @@
 
 namespace Runtime {
 
-// The first of `places`, which are relative to the program's folder, that is a folder; the first place if none is.
+// The path of the first of `places` that is a folder, or of the first place if none is. They are relative to the
+// program's folder.
 [[nodiscard]] inline std::string folderFromProgram(std::initializer_list<std::string_view> places) {
     const std::filesystem::path program = mainProgramLocation().directory + "/";
     for (const std::string_view place : places) {

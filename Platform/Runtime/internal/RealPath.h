@@ -11,7 +11,8 @@
 
 namespace Runtime {
 
-// The absolute path of the existing file `path`, without links. Empty with errno set on failure. Throws std::bad_alloc.
+// The absolute path of the existing file `path` with its links resolved. Empty with errno set on failure. Throws
+// std::bad_alloc.
 [[nodiscard]] inline std::string realPath(const std::string& path) {
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
     if (real == nullptr && errno == ENOMEM)
