@@ -229,7 +229,7 @@ ImportResult import(Support::SourceFolder& folder, const std::vector<Edit>& edit
 TEST(Imports, ChangeNothingButTexts) {
     const std::string odd =
         "// top\n\"a\" = \"x\"; /* a's */ 'b'=y;\"c\";\n\n/* d */ \"d\" /* d2 */ =\n\t\"\\U0041 \\\"\" ;";
-    const std::string english = "/* Says a. */\na = \"A\"; b = \"B\"; c = \"C\"; d = \"D\"; /* New. */ e = \"E\"; f = "
+    const std::string english = "/* Says a. */\na = \"A\"; b = \"B\"; c = \"C\"; d = \"D\"; /* E&F. */ e = \"E\"; f = "
                                 "\"F %@\"; g = \"9%%argue\";";
     const struct {
         int line;
@@ -259,7 +259,7 @@ TEST(Imports, ChangeNothingButTexts) {
          "T.strings",
          odd,
          {{"T/f", "%@ F"}, {"T/e", "Ee"}, {"T/g", "9%%"}},
-         odd + "\n/* New. */\n\"e\" = \"Ee\";\n\"f\" = \"%@ F\";\n\"g\" = \"9%%\";\n"},
+         odd + "\n/* E&F. */\n\"e\" = \"Ee\";\n\"f\" = \"%@ F\";\n\"g\" = \"9%%\";\n"},
         {__LINE__, "T.strings", "a = b", {{"T/b", "B"}}, "a = b;\n\"b\" = \"B\";\n"},
         {__LINE__,
          "T.strings",
@@ -267,7 +267,7 @@ TEST(Imports, ChangeNothingButTexts) {
          {{"T/b", "B"}, {"T/a", "c"}},
          "{ a = \"c\"; \n\"b\" = \"B\";\n} // end"},
         {__LINE__, "T.strings", "{}", {{"T/b", "B"}}, "{\n\"b\" = \"B\";\n}"},
-        {__LINE__, "T.strings", "a = b;\r\n", {{"T/e", "B"}}, "a = b;\r\n/* New. */\r\n\"e\" = \"B\";\r\n"},
+        {__LINE__, "T.strings", "a = b;\r\n", {{"T/e", "B"}}, "a = b;\r\n/* E&F. */\r\n\"e\" = \"B\";\r\n"},
         {__LINE__, "T.strings", "\xEF\xBB\xBF", {{"T/b", "B"}}, "\xEF\xBB\xBF\"b\" = \"B\";\n"},
         {__LINE__,
          "T.strings",
@@ -282,7 +282,7 @@ TEST(Imports, ChangeNothingButTexts) {
                  "<string><![CDATA[x]]>y</string>\n\t<key>b</key><string/>\n</dict></plist>",
          {{"T/a", "<&>\r\n"}, {"T/b", "B"}, {"T/e", "E"}},
          plist + "<dict><!-- a -->\n\t<key>a</key> "
-                 "<string>&lt;&amp;&gt;&#13;\n</string>\n\t<key>b</key><string>B</string>\n\t<!-- New. -->"
+                 "<string>&lt;&amp;&gt;&#13;\n</string>\n\t<key>b</key><string>B</string>\n\t<!-- E&F. -->"
                  "\n\t<key>e</key>\n\t<string>E</string>\n</dict></plist>"},
         {__LINE__,
          "T.strings",

@@ -14,7 +14,7 @@ namespace Exchange {
 
 class BinaryTexts final : public TableDocument {
 public:
-    // Also fails if anything in the table was not read (Table::notes()), because writing would lose it.
+    // Fails if the table is damaged or a part of it was not read (Table::notes()), which writing would lose.
     [[nodiscard]] static Runtime::Result<BinaryTexts> read(std::string bytes);
     BinaryTexts(BinaryTexts&&) = default;
 
@@ -29,7 +29,7 @@ private:
 
 class BinaryPlurals final : public TableDocument {
 public:
-    // Also fails as BinaryTexts::read().
+    // Fails like BinaryTexts::read().
     [[nodiscard]] static Runtime::Result<BinaryPlurals> read(std::string bytes);
     BinaryPlurals(BinaryPlurals&&) = default;
 

@@ -21,8 +21,9 @@ Runtime::Result<DecodedText> DecodedText::of(std::string bytes) {
     if (auto recognized = StringTables::internal::recognize(contents); !recognized)
         return std::move(recognized.error());
     DecodedText decoded;
-    if (contents.source != bytes) { // it was converted
+    if (contents.source != bytes) { // it was UTF-16
         decoded.hasMark = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+        // Without a mark the text begins with an ASCII character, one of whose bytes is 0.
         const bool isBig = decoded.hasMark ? bytes[0] == '\xFE' : bytes[0] == '\0';
         decoded.utf16 = isBig ? ByteOrder::big : ByteOrder::little;
     }

@@ -58,7 +58,7 @@ Translations translationsOf(const Source& source, std::span<const fs::path> fold
     StoredTexts texts(source, diagnostics);
     for (const SourceTable& table : source.tables)
         forEachKey(source, table, language, [&](const Key& key) {
-            if (key.development->isTranslatable && !isExchanged(key, texts))
+            if (key.development->isTranslatable && !canBeExchanged(key, texts))
                 diagnostics.add(
                     Severity::warning,
                     key.translated->error(

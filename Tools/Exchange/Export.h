@@ -12,7 +12,7 @@ namespace Exchange {
 
 // The texts of `source`, which was read from `folders`, with their translations in `language`, in the order of tables
 // and development texts. `onlyMissing`: only texts without a translation or with one in state `new`; if one form of a
-// plural is missing, all its forms are included. Texts that cannot be exchanged (isExchanged()) give a warning, an
+// plural is missing, all its forms are included. Texts that cannot be exchanged (canBeExchanged()) give a warning, an
 // unreadable string catalog gives an error.
 [[nodiscard]] Translations translationsOf(const SourceBundle::Source& source,
                                           std::span<const std::filesystem::path> folders, const std::string& language,

@@ -29,7 +29,7 @@ public:
 private:
     struct File {
         std::filesystem::path staged; // the temporary file with the new content
-        std::filesystem::path old{};  // one with the old content; empty until it is made, and if the target is new
+        std::filesystem::path old{};  // another with the old content; empty until it is made, and for a new target
         bool isInPlace = false;       // `staged` has been renamed to the target
     };
     Runtime::Result<void> replace(const std::filesystem::path& target, File& file);

@@ -182,10 +182,10 @@ private:
         }
     }
 
-    // For a key that is new in the language, or whose plain translation becomes a plural: a required text that is
-    // missing, or null.
-    static const Unit* lacking(const ImportedKey& imported) {
-        const auto isLacking = [](const Unit& unit) {
+    // For a key that is new in the language, or whose plain translation becomes a plural: a unit that must have a
+    // translation but has none, or null. Texts for devices and plural forms except `other` may be left out.
+    static const Unit* missingUnit(const ImportedKey& imported) {
+        const auto lacksTranslation = [](const Unit& unit) {
             const bool isForDevice = !unit.id.part.empty() && unit.id.part.front() == devicePart;
             return unit.target.empty() && !unit.source.empty() && !isForDevice &&
                    unit.id.category.value_or(PluralCategory::other) == PluralCategory::other;
@@ -193,12 +193,12 @@ private:
         if (imported.key.translated != nullptr &&
             (imported.key.development->plural == nullptr || imported.key.translated->plural != nullptr))
             return nullptr;
-        const auto found = std::ranges::find_if(imported.merged, isLacking);
+        const auto found = std::ranges::find_if(imported.merged, lacksTranslation);
         return found == imported.merged.end() ? nullptr : &*found;
     }
 
     void apply(const ImportedKey& imported) {
-        if (const Unit* const missing = lacking(imported))
+        if (const Unit* const missing = missingUnit(imported))
             return fault(imported.file, imported.line,
                          textOf(missing->id) + " is missing; it is required by the other texts of the key");
         Change change{.development = imported.key.development,

@@ -73,7 +73,7 @@ void JsonNode::expand() {
             return;
         }
         const std::size_t keyEnd = stringEnd(raw_, key);
-        const std::size_t value = blanksEnd(raw_, blanksEnd(raw_, keyEnd) + 1);
+        const std::size_t value = blanksEnd(raw_, blanksEnd(raw_, keyEnd) + 1); // after the colon
         const std::size_t end = valueEnd(raw_, value);
         JsonMember& member = members_.emplace_back();
         member.before = raw_.substr(at, key - at);
@@ -87,7 +87,7 @@ void JsonNode::expand() {
             return;
         }
         member.after = raw_.substr(end, at - end);
-        ++at;
+        ++at; // the comma
     }
 }
 

@@ -49,12 +49,12 @@ public:
 private:
     friend class JsonDocument;
 
-    void expand();
+    void expand(); // parses the members, once
     void write(std::string& out, const JsonLayout& layout, std::size_t depth) const;
 
-    std::string_view raw_; // its bytes in the document; empty for an added node
-    bool isExpanded_ = false;
-    bool isString_ = false; // the value was set to `text_`
+    std::string_view raw_;    // its bytes in the document; empty for an added node
+    bool isExpanded_ = false; // expand() was called, or there is nothing to parse
+    bool isString_ = false;   // the value was set to `text_`
     std::string text_;
     std::string_view end_; // white space before the closing brace
     std::list<JsonMember> members_;
@@ -63,7 +63,7 @@ private:
 struct JsonMember {
     std::string name;
     // Parts of the document: the white space before the name, the quoted name, the colon with the white space around
-    // it, and the white space after the value (of the last member: JsonNode::end_). Empty for an added member.
+    // it, and the white space between the value and the comma. Empty for an added member.
     std::string_view before, literal, separator, after;
     JsonNode value;
 };

@@ -114,7 +114,7 @@ private:
     }
 
     // If the development text has plural forms, a plain translation counts as the form `other`; if it has texts for
-    // devices, as that for the device `other`.
+    // devices, as the text for the device `other`.
     const StoredText* targetOf(const PartTexts& part, std::optional<PluralCategory> category) const {
         if (const StoredText* const own = find(part.translated, category))
             return own;
@@ -175,7 +175,7 @@ std::vector<StoredText> StoredTexts::of(const SourceEntry& entry, std::string_vi
     return {{{}, std::nullopt, std::string(entry.text), State::translated}};
 }
 
-bool isExchanged(const Key& key, StoredTexts& texts) {
+bool canBeExchanged(const Key& key, StoredTexts& texts) {
     using Kind = TableFile::Kind;
     if (key.translated == nullptr)
         return true;
@@ -191,11 +191,11 @@ bool isExchanged(const Key& key, StoredTexts& texts) {
 }
 
 std::vector<Unit> unitsOf(const Key& key, StoredTexts& texts) {
-    if (!key.development->isTranslatable || !isExchanged(key, texts))
+    if (!key.development->isTranslatable || !canBeExchanged(key, texts))
         return {};
     const std::vector<StoredText> development = texts.of(*key.development, key.developmentLanguage);
     std::vector<StoredText> translated;
-    // A plain translation of a development plural will be replaced by a plural.
+    // A plain translation of a plural in a .stringsdict file is not shown, because an import replaces it by a plural.
     const bool isReplaced = key.translated != nullptr && key.development->file->kind == TableFile::Kind::plurals &&
                             key.translated->file->kind == TableFile::Kind::texts;
     if (key.translated != nullptr && !isReplaced)

@@ -36,17 +36,17 @@ struct Key {
 };
 
 // The key's units in the order of its parts and categories. A plural has a unit for each form of the language, for each
-// other form that the translation has, and for `zero` if the development text has it. Empty if nothing can be
+// further form that the translation has, and for `zero` if the development text has it. Empty if nothing can be
 // translated.
 [[nodiscard]] std::vector<Unit> unitsOf(const Key& key, StoredTexts& texts);
 
 // Whether the key can be exchanged: it has no translation, or one in the same kind of file as the development text, or
 // one of these: a .strings text for a plural of a .stringsdict file (an import replaces it by a plural); a .strings
 // text for a plain text of a string catalog; a text of a string catalog for a .strings text.
-[[nodiscard]] bool isExchanged(const Key& key, StoredTexts& texts);
+[[nodiscard]] bool canBeExchanged(const Key& key, StoredTexts& texts);
 
-// Whether the unit has no translation although the language needs one (needsCategory()), or has one that a string
-// catalog marks as new.
+// Whether the unit has a development text but no translation although the language needs one (needsCategory()), or has
+// a translation that a string catalog marks as new.
 [[nodiscard]] bool isMissing(const Unit& unit, std::string_view language);
 
 } // namespace Exchange

@@ -43,7 +43,7 @@ Needs pluralNeeds(PluralPieces pieces) {
 }
 
 // Removes every `mark`, which begins with "%", from the text. Returns whether there was one. In "%%arg" there is none.
-bool take(std::string& text, std::string_view mark) {
+bool removeAll(std::string& text, std::string_view mark) {
     std::string kept;
     bool found = false;
     for (std::string_view rest = text; !rest.empty();) {
@@ -63,9 +63,9 @@ Needs catalogNeeds(std::string text, const PluralFormat* plural) {
     Needs needs;
     if (plural != nullptr)
         for (const PluralVariable& variable : plural->variables)
-            if (take(text, "%#@" + variable.name + "@"))
+            if (removeAll(text, "%#@" + variable.name + "@"))
                 needs.variables.emplace(variable.name, 0);
-    take(text, "%arg");
+    removeAll(text, "%arg"); // the number of a substitution
     add(needs, StringTables::signatureOf(text));
     return needs;
 }

@@ -13,7 +13,8 @@ namespace Exchange {
 inline constexpr std::string_view formatPart = "format", variablesPart = "variables";
 
 // Writes the targets of the units, all of one .stringsdict entry, into `plural`: that of a unit with a category as this
-// form of its variable, another as the format. A new variable has the value type that `development` has, or "ld".
+// form of its variable, that of a unit without one as the format. A new variable has the value type that it has in
+// `development`, or "ld".
 void applyTo(StringTables::PluralFormat& plural, std::span<const Unit* const> units,
              const SourceBundle::SourceEntry& development);
 // A new plural with all texts of the change. Without a unit for the format, it has the format of the development text,

@@ -132,10 +132,10 @@ std::optional<std::uint64_t> evaluated(std::string_view expression, std::uint64_
 
 std::optional<std::vector<std::optional<Intl::PluralCategory>>>
 categoriesOfForms(std::string_view expression, std::size_t count, std::string_view language) {
-    constexpr std::uint64_t most = 200; // most rules depend on the last two digits only
+    constexpr std::uint64_t last = 200; // most rules depend on the last two digits only
     const Intl::PluralRules rules(language);
     std::vector<std::optional<Intl::PluralCategory>> categories(count);
-    for (std::uint64_t n = 0; n <= most; ++n) {
+    for (std::uint64_t n = 0; n <= last; ++n) {
         const auto form = evaluated(expression, n);
         if (!form || *form >= count)
             return std::nullopt;

@@ -19,8 +19,9 @@ namespace Exchange {
 inline constexpr int maxExpressionDepth = 64;
 
 // The plural category of each of `count` forms, where the expression maps integers to forms. Tries the integers from 0
-// to 200, and some larger ones for the remaining forms. No value if the expression is invalid or gives integers up to
-// 200 of different categories the same form. A form that none of the tried integers selects has no category.
+// to 200, and some larger ones for the remaining forms. No value if for integers up to 200 the expression is invalid,
+// gives a form that is not below `count`, or gives integers of different categories the same form. A form that none of
+// the tried integers selects has no category.
 [[nodiscard]] std::optional<std::vector<std::optional<Intl::PluralCategory>>>
 categoriesOfForms(std::string_view expression, std::size_t count, std::string_view language);
 

@@ -14,13 +14,13 @@ namespace Exchange {
 // and others do not.
 void markFuzzy(std::span<Unit> units, std::string_view language);
 
-// A plural is one entry with the forms for integers, and one more entry for each other form. Entries with a NUL
+// A plural is one entry with the forms for integers, and one more entry for each further form. Entries with a NUL
 // character, which PO cannot represent, are left out with a warning.
 [[nodiscard]] std::string writePo(const Translations& translations, SourceBundle::Diagnostics& diagnostics);
 
 // Reads a UTF-8 file whose header names its language. `file` is its name, for messages. Errors in `faults`: entries
 // with an invalid id, plural forms that the language does not have, and all plurals if the plural rule in the header is
-// not that of the language. Errors: not a PO file, another encoding, no language.
+// not that of the language. Errors of the result: not a PO file, another encoding, no language.
 [[nodiscard]] Runtime::Result<Translations> readPo(const std::string& bytes, const std::string& file,
                                                    SourceBundle::Diagnostics& faults);
 

@@ -21,8 +21,8 @@ bool haveDifferentBreaks(std::string_view one, std::string_view other) {
     return one.starts_with('\n') != other.starts_with('\n') || one.ends_with('\n') != other.ends_with('\n');
 }
 
-// Whether gettext would reject the entry: it requires that either all or none of its texts begin (and end) with a line
-// break.
+// Whether gettext would reject the entry: it requires that all or none of its texts begin with a line break, and that
+// all or none end with one.
 bool isRejected(std::span<const Unit> units, const PoEntry& entry) {
     const std::string& source = units[entry.singular].source;
     const bool isTranslated =

@@ -18,7 +18,7 @@ namespace Exchange {
     return begin == text.npos ? std::string_view() : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
-// The characters that PO files escape with a letter, and the letters.
+// The characters that have a short escape in PO files, and what follows the backslash in it, in the same order.
 inline constexpr std::string_view poEscapedCharacters = "\"\\\n\t\r\a\b\f\v", poEscapeLetters = "\"\\ntrabfv";
 
 // An entry of a PO file.

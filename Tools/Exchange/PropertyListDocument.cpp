@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
 
-// The last line of white space, with its line break.
+// `white`, which is white space, from its last line break on; all of it without one.
 std::string lastLine(std::string white) {
     std::size_t at = white.rfind('\n');
     if (at == white.npos)
@@ -39,9 +39,9 @@ Runtime::Error unusual(const Change& change) {
 
 } // namespace
 
-PropertyListDocument::PropertyListDocument(DecodedText file, XmlDocument xml, const XmlNode& root)
-    : file_(std::move(file)), xml_(std::move(xml)), root_(root) {
-    const std::vector<Pair> pairs = pairsOf(root_);
+PropertyListDocument::PropertyListDocument(DecodedText file, XmlDocument xml, const XmlNode& dictionary)
+    : file_(std::move(file)), xml_(std::move(xml)), dictionary_(dictionary) {
+    const std::vector<Pair> pairs = pairsOf(dictionary_);
     for (const Pair& pair : pairs)
         values_[pair.key->allText()] = pair.value;
     line_ = pairs.empty() ? "\n    " : lastLine(blanksBefore(*pairs.back().key));
@@ -57,10 +57,10 @@ Runtime::Result<PropertyListDocument> PropertyListDocument::read(const std::stri
     auto xml = XmlDocument::read(bytes);
     if (!xml)
         return std::move(xml.error());
-    const XmlNode* const root = xml->root().child("dict");
-    if (xml->root().name != "plist" || root == nullptr)
+    const XmlNode* const dictionary = xml->root().child("dict");
+    if (xml->root().name != "plist" || dictionary == nullptr)
         return Runtime::Error{.message = "not a property list with a dictionary"};
-    return PropertyListDocument(*std::move(file), *std::move(xml), *root);
+    return PropertyListDocument(*std::move(file), *std::move(xml), *dictionary);
 }
 
 std::vector<PropertyListDocument::Pair> PropertyListDocument::pairsOf(const XmlNode& dictionary) {
@@ -132,11 +132,12 @@ Runtime::Result<void> PropertyListDocument::apply(const Change& change) {
 }
 
 void PropertyListDocument::add(const Change& change, const std::string& value) {
-    const std::string_view comment = change.development->comment;
+    const std::string comment = StringTables::internal::withoutMark(change.development->comment, "--");
+    // Comments have no escapes. Only if the document's encoding may lack a character, its number is written.
     if (!comment.empty() && canBeXml(comment))
         added_.append(line_)
             .append("<!-- ")
-            .append(xmlText(StringTables::internal::withoutMark(comment, "--"), xml_.hasOtherEncoding()))
+            .append(xml_.hasOtherEncoding() ? xmlText(comment, true) : comment)
             .append(" -->");
     added_.append(line_).append(element("key", change.changed.front()->id.key)).append(line_).append(value);
 }
@@ -211,14 +212,14 @@ void PropertyListDocument::editForm(const XmlNode& variable, const Unit& unit) {
 
 Runtime::Result<std::string> PropertyListDocument::bytes() const {
     TextEdits edits = edits_;
-    const auto last = std::find_if(root_.children.rbegin(), root_.children.rend(),
+    const auto last = std::find_if(dictionary_.children.rbegin(), dictionary_.children.rend(),
                                    [](const XmlNode& child) { return child.isElement(); });
-    if (last != root_.children.rend())
+    if (last != dictionary_.children.rend())
         edits.insert(last->end, added_);
-    else if (root_.contentBegin == root_.end) // <dict/>
-        edits.replace(root_.begin, root_.end, "<dict>" + added_ + "\n</dict>");
+    else if (dictionary_.contentBegin == dictionary_.end) // <dict/>
+        edits.replace(dictionary_.begin, dictionary_.end, "<dict>" + added_ + "\n</dict>");
     else
-        edits.insert(root_.contentBegin, added_);
+        edits.insert(dictionary_.contentBegin, added_);
     return file_.encoded(edits.applied(file_.text));
 }
 

@@ -35,13 +35,13 @@ private:
     // The element with the unit's text in a plural with these pairs, or null.
     static const XmlNode* findText(const std::vector<Pair>& plural, const Unit& unit);
 
-    PropertyListDocument(DecodedText file, XmlDocument xml, const XmlNode& root);
+    PropertyListDocument(DecodedText file, XmlDocument xml, const XmlNode& dictionary);
     void add(const Change& change, const std::string& value);
     Runtime::Result<void> editPlural(const XmlNode& entry, const Change& change);
     void editForm(const XmlNode& variable, const Unit& unit);
     void setText(const XmlNode& string, std::string_view text);
 
-    // Create new elements; `line` is the line break and indentation before each of their lines.
+    // Write new elements. `line`: the line break and indentation before the key and before the value.
     std::string plural(const StringTables::PluralFormat& plural) const;
     std::string variable(const StringTables::PluralVariable& variable, const std::string& line) const;
     std::string pair(std::string_view key, std::string_view text, const std::string& line) const;
@@ -51,9 +51,9 @@ private:
 
     DecodedText file_;
     XmlDocument xml_;
-    const XmlNode& root_;                     // the top-level dictionary in xml_
-    Runtime::NameMap<const XmlNode*> values_; // the values of root_ by key
-    std::string line_;                        // the line break and indentation before a key of root_
+    const XmlNode& dictionary_;               // the top-level one in xml_; it stays in place when xml_ is moved
+    Runtime::NameMap<const XmlNode*> values_; // the values of dictionary_ by key
+    std::string line_;                        // the line break and indentation before a key of dictionary_
     std::string indent_;                      // the indentation that each level adds
     TextEdits edits_;
     std::string added_; // the new pairs of the top-level dictionary

@@ -105,9 +105,9 @@ std::string StringsDocument::withAddedEntries() const {
     std::string added;
     const bool isLineBegun = end.at > (text.starts_with(mark) ? mark.size() : 0) && text[end.at - 1] != '\n';
     const std::size_t lineEnd = text.find('\n');
-    const bool hasReturns = lineEnd != text.npos && lineEnd > 0 && text[lineEnd - 1] == '\r';
+    const bool hasCrLf = lineEnd != text.npos && lineEnd > 0 && text[lineEnd - 1] == '\r';
     for (const char c : (isLineBegun ? "\n" : "") + added_) {
-        if (c == '\n' && hasReturns)
+        if (c == '\n' && hasCrLf)
             added += '\r';
         added += c;
     }

@@ -20,7 +20,7 @@ public:
 
 private:
     StringsDocument() = default;
-    // The end of the table: after its last entry, before a closing brace.
+    // The end of the table: after its last entry, before the closing brace if it has one.
     struct End {
         std::size_t at = 0;          // offset of new entries
         bool lacksSemicolon = false; // the last entry has none

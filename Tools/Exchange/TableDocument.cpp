@@ -37,7 +37,8 @@ Read readBytes(Kind kind, std::string bytes) {
         return asDocument(PropertyListDocument::read(bytes));
     if (kind == Kind::texts)
         return asDocument(StringsDocument::read(*std::move(decoded)));
-    return TableDocument::make(kind); // plurals are a property list, so this file is empty
+    // Source::read() accepts a plural table that is not a property list only if it is empty.
+    return TableDocument::make(kind);
 }
 
 } // namespace

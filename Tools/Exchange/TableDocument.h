@@ -22,8 +22,8 @@ public:
     virtual ~TableDocument() = default;
 
     // Sets the texts of the key. A new key is added at the end; a string catalog must have the key. Call it at most
-    // once per key and language. Fails without a change if the file cannot represent one of the texts, or has something
-    // else for the key.
+    // once per key and language. Fails without a change if the file cannot represent one of the texts, or has a value
+    // of another kind for the key.
     [[nodiscard]] virtual Runtime::Result<void> apply(const Change& change) = 0;
     // The edited file. Errors: a binary table would be larger than Table::maxBytes.
     [[nodiscard]] virtual Runtime::Result<std::string> bytes() const = 0;

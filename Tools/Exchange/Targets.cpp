@@ -11,8 +11,9 @@ using SourceBundle::TableFile;
 
 namespace {
 
-// The file with the translation of the key, else the file with other translations of its table, else null.
-const TableFile* presentFile(const Key& key) {
+// The file that has the key's translation or to which it can be added, or null. A plural for a plain translation is
+// added to another file.
+const TableFile* existingFile(const Key& key) {
     const TableFile& development = *key.development->file;
     if (development.kind == TableFile::Kind::catalog)
         return key.translated == nullptr ? &development : key.translated->file;
@@ -46,17 +47,16 @@ fs::path Targets::newFile(const Key& key) {
 }
 
 Runtime::Result<Targets::Target*> Targets::targetOf(const Key& key) {
-    const TableFile* const present = presentFile(key);
-    const fs::path path = present == nullptr ? newFile(key) : present->path;
-    const auto [known, isNew] = targets_.try_emplace(path);
-    Target& target = known->second;
-    if (!isNew && target.document != nullptr)
+    const TableFile* const existing = existingFile(key);
+    const fs::path path = existing == nullptr ? newFile(key) : existing->path;
+    Target& target = targets_[path];
+    if (target.document != nullptr)
         return &target;
     target.document = texts_.catalog(path);
-    if (target.document == nullptr && present == nullptr)
+    if (target.document == nullptr && existing == nullptr)
         target.own = TableDocument::make(key.development->file->kind);
     else if (target.document == nullptr) {
-        auto read = TableDocument::read(*present);
+        auto read = TableDocument::read(*existing);
         if (!read)
             return std::move(read.error());
         target.own = *std::move(read);

@@ -13,11 +13,10 @@ namespace Exchange {
 
 class Targets {
 public:
-    // Changes the string catalogs in `texts`.
+    // apply() changes the string catalogs in `texts`.
     Targets(const SourceBundle::Source& source, StoredTexts& texts) : source_(source), texts_(texts) {}
 
-    // Changes the key in memory: in the file with its translation, else in the table's file for the language, else in a
-    // new one.
+    // Changes the key in memory: in the file that has its translation or to which it can be added, else in a new one.
     [[nodiscard]] Runtime::Result<void> apply(const Key& key, const Change& change);
     // Writes the changed files, either all or none. Returns their number.
     [[nodiscard]] Runtime::Result<std::size_t> write();
@@ -28,9 +27,9 @@ private:
         TableDocument* document = nullptr;
         bool isChanged = false;
     };
-    // The path of a new file for the key's language: in the language folder beside that of the development text, with
-    // the same name.
+    // The path of a new file for the key: "de.lproj/T.strings" beside "en.lproj/T.strings" with the development text.
     std::filesystem::path newFile(const Key& key);
+    // The file for the key, read or made when first needed.
     Runtime::Result<Target*> targetOf(const Key& key);
 
     const SourceBundle::Source& source_;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view pluralStep = "plural";
 
-bool isHidden(char32_t c) {
+bool isAlwaysEscaped(char32_t c) {
     return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0xFFFE || c == 0xFFFF;
 }
 
@@ -21,7 +21,7 @@ void appendEscaped(std::string& out, std::string_view text, std::string_view spe
         const auto [c, bytes] = StringTables::internal::takeCharacterWithBytes(text);
         if (c == '\\') {
             out += "\\\\";
-        } else if (isHidden(c) || special.find(bytes) != special.npos) {
+        } else if (isAlwaysEscaped(c) || special.find(bytes) != special.npos) {
             std::array<char, 8> digits;
             const auto end = std::to_chars(digits.begin(), digits.end(), std::uint32_t{c}, hexadecimal).ptr;
             out.append("\\u{").append(digits.begin(), end).append("}");
@@ -31,6 +31,7 @@ void appendEscaped(std::string& out, std::string_view text, std::string_view spe
     }
 }
 
+// Reverses appendEscaped(); no value if an escape is invalid.
 std::optional<std::string> unescaped(std::string_view text) {
     constexpr int hexadecimal = 16;
     constexpr std::string_view opening = "\\u{";

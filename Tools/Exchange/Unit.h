@@ -28,8 +28,8 @@ struct UnitId {
 };
 
 // "Localizable/cart.title", "Localizable[variables.days.plural.one]/days left". Control characters, U+FFFE and U+FFFF
-// are escaped as \u{HEX}, before the key also the characters [ ] / and . that separate the parts of an id; backslashes
-// are doubled.
+// are escaped as \u{HEX}, in the table also [ ] and /, in `part` also [ ] / and . because they separate the parts of an
+// id; backslashes are doubled.
 [[nodiscard]] std::string textOf(const UnitId& id);
 // Parses the result of textOf(); no value if it is invalid.
 [[nodiscard]] std::optional<UnitId> unitIdOf(std::string_view text);
@@ -37,8 +37,8 @@ struct UnitId {
 struct Unit {
     UnitId id;
     std::string source{}; // the development text
-    // The category of the unit that shows `source` as its development text: that of `id`, even if the text is that of
-    // the form `other`; in a PO file that of its msgid (`one`) or msgid_plural (`other`).
+    // The category of the unit whose development text an import compares with `source`: that of `id`, except in a
+    // plural entry of a PO file, whose forms share two texts: `one` for its msgid, `other` for its msgid_plural.
     std::optional<PluralCategory> sourceCategory{};
     std::string target{};       // the translation; empty if there is none
     State state = State::isNew; // of the translation

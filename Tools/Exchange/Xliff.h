@@ -16,8 +16,8 @@ namespace Exchange {
 [[nodiscard]] std::string writeXliff(const Translations& translations, std::string_view version);
 
 // Reads a document in any encoding that XML declares; `file` is its name, for messages. Units are grouped by the
-// languages of their <file>. Units with an invalid id or without a source are errors in `faults`. Errors: not XLIFF 1.2
-// or an older 1.x, an inline element other than <g>, <mrk> and that <ph>, a <file> without its languages.
+// languages of their <file>. Units with an invalid id or without a source are errors in `faults`. Errors of the result:
+// not XLIFF 1.2 or an older 1.x, an inline element other than <g>, <mrk> and that <ph>, a <file> without its languages.
 [[nodiscard]] Runtime::Result<std::vector<Translations>> readXliff(std::string bytes, const std::string& file,
                                                                    SourceBundle::Diagnostics& faults);
 

@@ -29,8 +29,6 @@ bool isOneOf(std::string_view name, std::initializer_list<std::string_view> name
 // The character of <ph ctype="x-character" equiv-text="1F"/>.
 std::optional<std::string> character(const XmlNode& node) {
     constexpr int hexadecimal = 16;
-    // The characters that XML cannot represent are below this one, or U+FFFE or U+FFFF.
-    constexpr std::uint32_t end = 0xD800;
     const std::string* const type = node.attribute("ctype");
     const std::string* const digits = node.attribute("equiv-text");
     if (node.name != "ph" || type == nullptr || *type != "x-character" || digits == nullptr)
@@ -38,7 +36,7 @@ std::optional<std::string> character(const XmlNode& node) {
     std::uint32_t code = 0;
     const char* const last = digits->data() + digits->size();
     const auto read = std::from_chars(digits->data(), last, code, hexadecimal);
-    if (read.ec != std::errc() || read.ptr != last || (code >= end && code != 0xFFFE && code != 0xFFFF))
+    if (read.ec != std::errc() || read.ptr != last || !StringTables::internal::isScalar(code))
         return std::nullopt;
     std::array<char, 4> utf8;
     return std::string(utf8.data(), StringTables::internal::putUtf8(utf8.data(), char32_t{code}));

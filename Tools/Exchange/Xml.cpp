@@ -45,11 +45,11 @@ struct XmlDocument::Reader final : StringTables::internal::XmlHandler {
     using XmlPlace = StringTables::internal::XmlPlace;
 
     std::string open(const char* name, const char* const* attributes, XmlPlace place) override {
-        if (open_.size() == maxDepth)
+        if (openElements.size() == maxDepth)
             return StringTables::internal::nestedTooDeeply;
-        XmlNode& node = open_.emplace_back();
+        XmlNode& node = openElements.emplace_back();
         const std::string_view full = name;
-        node.name = full.substr(full.rfind(':') + 1);
+        node.name = full.substr(full.rfind(':') + 1); // all of it without a colon, because npos + 1 is 0
         for (; *attributes != nullptr; attributes += 2)
             node.attributes.emplace_back(attributes[0], attributes[1]);
         node.begin = place.begin;
@@ -58,19 +58,19 @@ struct XmlDocument::Reader final : StringTables::internal::XmlHandler {
     }
 
     std::string close(XmlPlace place) override {
-        XmlNode node = std::move(open_.back());
-        open_.pop_back();
+        XmlNode node = std::move(openElements.back());
+        openElements.pop_back();
         node.contentEnd = place.begin;
         node.end = place.end;
-        if (open_.empty())
+        if (openElements.empty())
             root = std::move(node);
         else
-            open_.back().children.push_back(std::move(node));
+            openElements.back().children.push_back(std::move(node));
         return {};
     }
 
     std::string characters(std::string_view piece) override {
-        auto& siblings = open_.back().children;
+        auto& siblings = openElements.back().children;
         if (siblings.empty() || siblings.back().isElement())
             siblings.emplace_back();
         siblings.back().text += piece;
@@ -79,7 +79,7 @@ struct XmlDocument::Reader final : StringTables::internal::XmlHandler {
 
     void encoding(std::string_view declared) override { declaredEncoding = declared; }
 
-    std::vector<XmlNode> open_;
+    std::vector<XmlNode> openElements;
     XmlNode root;
     std::string declaredEncoding;
 };

@@ -21,7 +21,8 @@ struct XmlNode {
     std::vector<XmlNode> children;
     std::string text; // empty for an element
 
-    // Offsets in the document: of the element with its tags, and of its content. 0 for a text.
+    // Offsets in the document: of the element with its tags, and of its content. The content of <a/> is empty
+    // and at `end`. All are 0 for a text.
     std::size_t begin = 0, contentBegin = 0, contentEnd = 0, end = 0;
 
     bool isElement() const noexcept { return !name.empty(); }

@@ -25,7 +25,7 @@ using nlohmann::ordered_json;
 
 namespace {
 
-// Reads the variants of a catalog's entries.
+// Converts variants to JSON and adds their pictures to `assets`.
 class VariantReader {
 public:
     explicit VariantReader(Assets& assets) : assets_(assets) {}
@@ -91,7 +91,7 @@ std::vector<Entry> entriesOf(const Catalog& catalog) {
     std::vector<Entry> entries;
     for (std::size_t i = 0; i < catalog.size(); ++i)
         entries.push_back(catalog[i]);
-    // Kinds in the order in which `lumora generate` finds sets of one name, because the first gets the name.
+    // Assets of one name are in the order in which `lumora generate` finds them, because the first gets the accessor.
     std::ranges::sort(entries, {}, [](const Entry& entry) {
         return std::tuple(entry.catalog(), entry.name(), AssetCatalog::nameOf(entry.kind()));
     });

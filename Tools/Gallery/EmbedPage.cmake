@@ -24,7 +24,7 @@ function(policy_hash out content)
 endfunction()
 
 file(READ ${STYLE} style)
-set(script "\"use strict\";\n{\n")
+set(script "\"use strict\";\n{\n") # in a block, so that the names of the scripts are not global
 foreach(file IN LISTS SCRIPTS)
     file(READ ${file} content)
     string(APPEND script "${content}\n")

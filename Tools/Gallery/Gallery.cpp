@@ -14,7 +14,7 @@ namespace {
 std::string embedded(const nlohmann::ordered_json& json) {
     const std::string text = json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
     std::string safe;
-    safe.reserve(text.size() + text.size() / 64);
+    safe.reserve(text.size());
     for (const char c : text) {
         if (c == '<')
             safe += "\\u003c";

@@ -33,6 +33,7 @@ std::vector<std::string> languagesOf(const Source& source) {
 // JSON members with the accessor of each text, or the reason why it has none.
 using Accessors = std::unordered_map<const SourceEntry*, ordered_json>;
 
+// `names` is a copy, because accessorTables() marks the names that it uses.
 Accessors accessorsOf(const Source& source, Generator::NamesFile names) {
     Accessors accessors;
     SourceBundle::Diagnostics ignored; // `lumora generate` reports them
@@ -64,7 +65,7 @@ ordered_json valueOf(const SourceEntry& entry) {
     return {{"format", entry.plural->format}, {"variables", std::move(variables)}};
 }
 
-// Untranslatable texts have the same value in every language.
+// A text that is not to be translated has the development text's value in languages without a translation.
 ordered_json valuesOf(const SourceTable& table, const SourceEntry& entry, const std::vector<std::string>& languages) {
     ordered_json values = ordered_json::array({valueOf(entry)});
     for (std::size_t i = 1; i < languages.size(); ++i) {

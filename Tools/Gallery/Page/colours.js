@@ -1,4 +1,4 @@
-// The colours: each value in light, dark and high contrast, its contrast ratios, and the strip of progress colours.
+// The colours: each value in light, dark and high contrast, its contrast ratios, and the strips of progress colours.
 
 // Colours are [red, green, blue, alpha] of extended sRGB: components of colours outside of sRGB are below 0 or above 1,
 // and clamped when shown.
@@ -32,6 +32,7 @@ function contrastRatio(colour, ground) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+// The best grade of these guidelines that the ratio reaches; "AA large" is for large text only.
 function grade(ratio) {
     if (ratio >= 7)
         return "AAA";

@@ -94,7 +94,7 @@ function search() {
     showFound(words.length > 0 || status !== "all");
 }
 
-// Searches and scrolls to the first result.
+// Searches, and scrolls up if the first results are above the window.
 function searchFromTop() {
     search();
     if (byId("results").getBoundingClientRect().top < 0)
@@ -166,7 +166,7 @@ function onKey(event) {
     }
 }
 
-// Display options: the page's theme, the pictures' background and size.
+// Calls `apply` with the value that is chosen in a group of radio buttons.
 function connectChoice(id, apply) {
     byId(id).addEventListener("change", (event) => apply(event.target.value));
 }

@@ -39,7 +39,8 @@ function hasWords(value) {
     return stringsOf(value).some((text) => /\p{Letter}/u.test(text.replace(placeholder, "")));
 }
 
-// "missing", "same" as the development language's text, or "translated". `language` is an index.
+// "missing", "same" as the development language's text if that has words to translate, or "translated". `language` is an
+// index.
 function statusOf(text, language) {
     const value = text.values[language];
     if (value === null)

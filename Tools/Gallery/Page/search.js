@@ -1,6 +1,6 @@
 // Lists that can be searched. A list's rows are created once; a search changes which of them are in the document.
 
-// Ignores case, accents and compatibility forms.
+// The text in a form for comparisons that ignore case, accents and compatibility forms.
 function folded(text) {
     return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase();
 }
