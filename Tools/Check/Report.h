@@ -41,7 +41,6 @@ public:
             warnings_.push_back(entry.error("the comment allows the unknown rule \"" + std::string(name) + "\""));
     }
 
-    [[nodiscard]] const Settings& settings() const noexcept { return settings_; }
     [[nodiscard]] std::vector<Finding> take() { return std::move(findings_); }
     [[nodiscard]] std::vector<Runtime::Error> takeWarnings() { return std::move(warnings_); }
 

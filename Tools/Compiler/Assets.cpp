@@ -28,8 +28,8 @@ using SourceBundle::SourceFile;
 
 namespace {
 
-// Reads the files of the source and makes the pictures of picture files. Keeps the bytes and the pictures; files with
-// equal contents share them.
+// Reads the files of the source and makes the pictures of picture files. Keeps the bytes, once for files with equal
+// contents, and the pictures, once for files that also have equal purposes.
 // Threads: any.
 class Files {
 public:
@@ -56,12 +56,13 @@ public:
         return read_.try_emplace(path.native(), same->second).first->second;
     }
 
+    // Checks that pictures() will succeed, as far as SourcePictures::check() does.
     Runtime::Result<void> check(const SourceFile& file) {
         const auto read = bytes(file.path);
         if (!read)
             return read.error();
         const SourcePictures::Purpose purpose = SourceBundle::purposeOf(file);
-        if (cache_.has(PictureCache::keyOf(**read, purpose)))
+        if (cache_.has(PictureCache::keyOf(**read, purpose))) // the last compile succeeded
             return {};
         auto checked = SourcePictures::check(**read, purpose);
         if (!checked)
@@ -92,12 +93,12 @@ public:
     const MadePictures& made() const { return made_; }
 
 private:
-    const PictureCache cache_;
-    std::mutex lock_;
+    const PictureCache cache_;                           // of the last compile
+    std::mutex lock_;                                    // for the members below
     Runtime::NameMap<Bytes> read_;                       // by path
     Runtime::NameMap<Bytes, std::string_view> contents_; // by content; keys point into values
     std::size_t total_ = 0;                              // the size of contents_
-    MadePictures made_;
+    MadePictures made_;                                  // of this compile, also from the cache
 };
 
 // Pictures at the scale of their file come before those that were drawn from a file for another scale or for every

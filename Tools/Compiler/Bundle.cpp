@@ -41,16 +41,16 @@ Runtime::Result<void> compileBundle(const SourceBundle::Source& source, std::spa
         return std::move(staged.error());
     const std::string lastMark = contentOfMark(staged->target());
     // With errors no bundle is written, so no tables are made; pictures are still checked.
-    const auto tables = diagnostics.hasErrors() ? Runtime::Result<std::string>(std::string())
-                                                : compileTables(source, *staged, lastMark, diagnostics, progress);
-    if (!tables)
-        return tables.error();
-    const auto pictures = compileAssets(source.catalogs, *staged, lastMark, diagnostics, progress);
-    if (!pictures)
-        return pictures.error();
+    const auto tableLines = diagnostics.hasErrors() ? Runtime::Result<std::string>(std::string())
+                                                    : compileTables(source, *staged, lastMark, diagnostics, progress);
+    if (!tableLines)
+        return tableLines.error();
+    const auto pictureLines = compileAssets(source.catalogs, *staged, lastMark, diagnostics, progress);
+    if (!pictureLines)
+        return pictureLines.error();
     if (diagnostics.hasErrors())
         return {};
-    const std::array<std::string_view, 3> mark = {markText, *tables, *pictures};
+    const std::array<std::string_view, 3> mark = {markText, *tableLines, *pictureLines};
     if (auto written = staged->write(SourceBundle::compiledMark, mark); !written)
         return written;
     return staged->putInPlace();

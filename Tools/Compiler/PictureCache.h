@@ -28,6 +28,7 @@ public:
     // converters.
     [[nodiscard]] static std::string keyOf(std::string_view bytes, const SourcePictures::Purpose& purpose);
 
+    // Whether the mark file lists pictures for the key; find() may fail nevertheless.
     [[nodiscard]] bool has(const std::string& key) const { return pictures_.contains(key); }
     // The pictures, or no value if the key is unknown, a line about its pictures is missing, or the catalog does not
     // have their bytes.
@@ -50,11 +51,11 @@ private:
     std::map<std::string, std::vector<Record>, std::less<>> pictures_; // by key
 };
 
-// The pictures of this compile, by key; those of one file are together.
+// The pictures of this compile, by PictureCache::keyOf() of their file.
 using MadePictures = std::map<std::string, std::vector<AssetCatalog::Picture>>;
 
-// The lines of the mark file for the pictures of each key whose pictures are all in `catalog`: the key, their number,
-// and of each the scale, width and height in pixels and in points, and the offset, size and hash of its bytes.
+// The lines of the mark file for the keys whose pictures are all in `catalog`, one for each picture: the key, how many
+// pictures it has, the picture's scale, width and height in pixels and in points, and its bytes' offset, size and hash.
 [[nodiscard]] std::string cacheList(const MadePictures& made, const AssetCatalog::BuiltCatalog& catalog);
 
 } // namespace Compiler

@@ -41,7 +41,7 @@ public:
         rest_.remove_prefix(std::min(end + 1, rest_.size()));
         return word;
     }
-    // Reads the next field as a number. `base`: as for std::from_chars.
+    // Reads the next field as a number. `base`: as for std::from_chars; none for a floating-point number.
     template <class Number, class... Base> void read(Number& number, Base... base) {
         const std::string_view text = word();
         const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number, base...);

@@ -51,7 +51,7 @@ int lock(const fs::path& folder) noexcept {
     return -1;
 }
 
-// Removes the mark file last, so that the next compile can continue an interrupted removal. Ignores errors.
+// Removes the folder, its mark file last, so that the next compile can continue an interrupted removal. Ignores errors.
 void discard(const fs::path& folder) {
     std::error_code ignored, failed;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end; entry.increment(failed))
@@ -117,14 +117,15 @@ bool hasContent(const fs::path& path, std::span<const std::string_view> pieces) 
 }
 
 // Creates the folder of a file, unless there is one. False on failure.
-bool createdFolderOf(const fs::path& file) {
+bool createFolderOf(const fs::path& file) {
     std::error_code failed;
     fs::create_directories(file.parent_path(), failed);
     return !failed;
 }
 
-// Writes a new file, also if there is one at `path`, which may be a link to the target's file. Returns false and sets
-// errno on failure. Not synced to the disk: an output damaged by a power failure can be compiled again.
+// Writes a new file. If there is one at `path`, it is unlinked, because it may be a hard link to the target's file.
+// Returns false and sets errno on failure. Not synced to the disk: an output damaged by a power failure can be compiled
+// again.
 bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
     ::unlink(path.c_str());
     Runtime::Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
@@ -145,7 +146,7 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
     if (!mayReplace(target))
         return Runtime::Error{.message = "already exists and is not a compiled bundle", .file = target};
     removeAbandoned(target);
-    // Reserve these first: removing the folder must never fail for lack of descriptors.
+    // Before the folder is created, because its removal must never fail for lack of descriptors.
     Reserve reserve{reserved(), reserved(), reserved()};
     if (std::ranges::any_of(reserve, [](const Runtime::Descriptor& one) { return one.number() < 0; }))
         return Runtime::systemError(target, "cannot be created");
@@ -180,7 +181,7 @@ Runtime::Result<void> StagedFolder::write(const fs::path& name, std::span<const 
     if (hasContent(target_ / name, pieces) && keep(name))
         return {};
     const fs::path path = staged_ / name;
-    if (writeNew(path, pieces) || (errno == ENOENT && createdFolderOf(path) && writeNew(path, pieces)))
+    if (writeNew(path, pieces) || (errno == ENOENT && createFolderOf(path) && writeNew(path, pieces)))
         return {};
     return Runtime::systemError(target_ / name, "cannot be written");
 }
@@ -188,7 +189,7 @@ Runtime::Result<void> StagedFolder::write(const fs::path& name, std::span<const 
 bool StagedFolder::keep(const fs::path& name) const {
     const fs::path path = staged_ / name;
     const auto link = [&] { return ::link((target_ / name).c_str(), path.c_str()) == 0; };
-    return link() || (errno == ENOENT && createdFolderOf(path) && link()) ||
+    return link() || (errno == ENOENT && createFolderOf(path) && link()) ||
            (errno == EEXIST && ::unlink(path.c_str()) == 0 && link());
 }
 

@@ -21,8 +21,8 @@ int takeBuildId(dl_phdr_info* program, std::size_t, void* out) {
     return 1; // stops
 }
 
-// A hash of the program, which the linker computed; empty if it did not. Another version of the compiler may write
-// other tables.
+// A hash of the program, which the linker computed; empty if it did not. Another version of the program may compile the
+// same texts to other tables.
 std::string_view buildId() {
     static const std::string_view id = [] {
         std::string_view found;

@@ -59,9 +59,9 @@ Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source&
     return StringTables::writeCompiled(entries);
 }
 
-// The source's first Info.plist with the entries about the source. One that also has what a table cannot have, such as
-// values that are not texts, is copied unchanged; if its development language must be changed, it loses them. What is
-// lost is reported.
+// The source's first Info.plist with the entries about the source. If it also has what a table cannot have, such as
+// values that are not texts, it is copied unchanged; but if its development language must be changed, that is lost and
+// reported.
 Runtime::Result<std::string> info(const Source& source, SourceBundle::Diagnostics& diagnostics) {
     if (source.infos.empty())
         return completed({}, source);
@@ -108,8 +108,8 @@ Runtime::Result<std::string> writeTexts(std::span<const Entry> entries, const St
     return record;
 }
 
-// Writes the files of a table in one language. Returns the lines for the mark file. A table without any texts has an
-// empty TABLE.strings.
+// Writes the files of a table in one language. Returns the line for the mark file, or nothing if the table has only
+// plurals. A table without any texts has an empty TABLE.strings.
 Runtime::Result<std::string> compileTexts(const LanguageTexts& texts, const StagedFolder& out, const fs::path& folder,
                                           std::string_view table, const TableCache& last) {
     std::vector<Entry> entries;

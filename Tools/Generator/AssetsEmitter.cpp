@@ -26,8 +26,8 @@ std::string nameSpaceOf(const AssetConstant& constant, const Options& options) {
     return options.module + "::" + options.module + "Asset::" + constant.groups;
 }
 
-// Each catalog has a header, named after its namespace.
-std::string headerOf(const AssetConstant& constant) {
+// The namespace of the constant's catalog, which is also the name of the catalog's header.
+std::string catalogOf(const AssetConstant& constant) {
     return constant.groups.substr(0, constant.groups.find(':'));
 }
 
@@ -54,7 +54,7 @@ std::vector<OutputFile> emitAssets(std::span<const AssetConstant> constants, con
     CodeWriter source(options.module);
     source.add("#include \"{{module}}Asset.h\"\n\n#include \"{{module}}Asset/Internal/RecordFactory.h\"");
     for (const AssetConstant& constant : constants) {
-        const auto [header, isNew] = headers.try_emplace(headerOf(constant), options.module);
+        const auto [header, isNew] = headers.try_emplace(catalogOf(constant), options.module);
         if (isNew)
             header->second.add(
                 "#pragma once\n\n#include \"../{{module}}AssetRecords.h\"\n#include \"Runtime/Export.h\"");

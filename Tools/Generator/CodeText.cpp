@@ -40,7 +40,7 @@ std::string visibleCharacter(std::string_view bytes) {
     const char32_t c = Unicode::decoded(bytes)[0];
     if (Unicode::isVisible(c) && Unicode::encoded({&c, 1}) == bytes)
         return std::string(bytes);
-    if (Unicode::encoded({&c, 1}) != bytes)
+    if (Unicode::encoded({&c, 1}) != bytes) // a byte that is not UTF-8
         return printed("\\x%02X", static_cast<unsigned char>(bytes[0]));
     switch (c) {
     case '\n':

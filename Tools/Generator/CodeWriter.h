@@ -49,7 +49,7 @@ private:
 
     std::string module_;
     std::string code_;
-    std::string nameSpace_; // the open one
+    std::string nameSpace_; // the open one; empty if none is open
 };
 
 // A whole file made from one pattern, in which only {{module}} is replaced; it begins with the do-not-edit line.

@@ -108,7 +108,7 @@ std::vector<OutputFile> filesOf(const Model& model, const Options& options) {
 }
 
 Runtime::Result<void> writeModule(const Model& model, const Options& options, const std::filesystem::path& folder) {
-    // These may contain stale files even if nothing new is written to them.
+    // These folders may contain stale files even if nothing new is written to them.
     const std::filesystem::path texts = options.module + "Strings", constants = options.module + "Asset";
     return writeFiles(folder, filesOf(model, options), {texts, texts / "Internal", constants, constants / "Internal"});
 }

@@ -22,7 +22,7 @@ namespace {
 // Derives accessor paths from keys.
 class PathMaker {
 public:
-    // The groups and the name of the key's accessor; empty if the key gives no name. Groups without a usable name are
+    // The groups and the name of the key's accessor; empty if the key gives no name. Parts without a usable name are
     // dropped.
     std::vector<std::string> pathOf(std::string_view key) {
         std::vector<std::string_view> parts = Namer::components(key);
@@ -82,7 +82,7 @@ public:
     void build(AccessorTable& out, Diagnostics& diagnostics) {
         for (Candidate& candidate : candidates_)
             readText(candidate, diagnostics);
-        for (const bool isNamed : {true, false})
+        for (const bool isNamed : {true, false}) // names from the file take precedence
             for (Candidate& candidate : candidates_)
                 if (candidate.isNamed == isNamed && candidate.fault.empty())
                     findName(candidate);

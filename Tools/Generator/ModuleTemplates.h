@@ -21,7 +21,7 @@ inline constexpr std::string_view moduleHeaderBegin = R"(// The whole module.
 
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
-#ifdef __cpp_rtti // only messages need it
+#ifdef __cpp_rtti // messages need it
 #include "Runtime/Class.h"
 #endif)";
 

@@ -1,7 +1,5 @@
 #include "Generator/NameClaims.h"
 
-#include <algorithm>
-
 namespace Generator {
 
 std::optional<NameClaims::Conflict> NameClaims::claim(const std::vector<std::string>& path, std::size_t member) {

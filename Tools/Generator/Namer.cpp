@@ -80,8 +80,8 @@ std::u32string joined(const Words& words, std::u32string_view separator) {
     return text;
 }
 
-// "tl1" gives "Tl1", "4k" gives "4K".
-void capitalise(std::u32string& word) {
+// "TL1" gives "Tl1", "4k" gives "4K".
+void toTitleCase(std::u32string& word) {
     bool upperNext = true;
     for (char32_t& c : word) {
         c = upperNext ? upper(c) : lower(c);
@@ -102,7 +102,7 @@ std::u32string name(std::string_view component) {
         if (hasLower)
             word[0] = upper(word[0]);
         else
-            capitalise(word);
+            toTitleCase(word);
     }
     const std::u32string whole = joined(words, U"");
     return !whole.empty() && isDigit(whole[0]) ? U'_' + whole : whole;

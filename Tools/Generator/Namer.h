@@ -26,9 +26,9 @@ namespace Generator::Namer {
 // adjacent underscores. Empty for an empty name.
 [[nodiscard]] std::string spelling(std::string_view name);
 
-// The C++ spelling for the namespace of a table or an asset catalog, which has its name if that is an identifier
-// without an underscore at its beginning or two adjacent ones, otherwise the name that groupName() gives. A name that
-// would clash with generated code gets an underscore at the end.
+// The C++ spelling for the namespace of a table or an asset catalog. It is that of the table's own name if that is an
+// identifier without an underscore at its beginning or two adjacent ones, otherwise that of groupName(table). A name
+// that would clash with generated code gets an underscore at the end.
 [[nodiscard]] std::string tableSpelling(std::string_view table);
 
 // Whether `name` is an identifier without an underscore at its beginning or two adjacent ones, and spelling() returns

@@ -43,14 +43,14 @@ NamesFile NamesFile::read(const std::filesystem::path& file, SourceBundle::Diagn
         const StringTables::Entry& entry = table->entries()[i];
         const Runtime::Error place{.file = file, .line = places[i].line, .column = places[i].column};
         std::vector<std::string> path = splitAtDots(entry.text);
-        const auto odd = std::ranges::find_if_not(path, [&](const std::string& part) {
+        const auto invalid = std::ranges::find_if_not(path, [&](const std::string& part) {
             return &part == &path.back() ? Namer::isCppSpelling(part) : Namer::isNamespaceSpelling(part);
         });
-        if (odd == path.end())
+        if (invalid == path.end())
             names.names_.emplace(entry.key, Name{std::move(path), place});
         else
             diagnostics.add(Severity::warning,
-                            with(place, "the part " + quote(*odd) +
+                            with(place, "the part " + quote(*invalid) +
                                             " is not a C++ identifier that the naming rules leave unchanged"));
     }
     return names;

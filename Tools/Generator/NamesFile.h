@@ -19,8 +19,8 @@ class NamesFile {
 public:
     // No names.
     NamesFile() = default;
-    // An unreadable file is an error. A path is invalid if its last part is no Namer::isCppSpelling() or another part
-    // no Namer::isNamespaceSpelling(); that is a warning, and the key gets the name by the rule.
+    // An unreadable file is an error. A path is invalid unless Namer::isCppSpelling() accepts its last part and
+    // Namer::isNamespaceSpelling() the others; then there is a warning, and the key gets the name by the rule.
     [[nodiscard]] static NamesFile read(const std::filesystem::path& file, SourceBundle::Diagnostics& diagnostics);
 
     // The parts of the path, groups first; null if the file has no valid path for the key. Marks the path as used.

@@ -10,6 +10,7 @@
 
 namespace Generator {
 
+// number: a floating-point number.
 enum class Parameter { text, integer, number };
 
 inline constexpr std::size_t maxParameters = 64;

@@ -6,8 +6,8 @@
 // - that Namer.cpp recognizes: errors, signals and the number formats of <cinttypes>;
 // - in capitals that only headers of POSIX define, such as IXON: a program that includes them needs another name for
 //   such an asset;
-// - with an underscore, if they are in capitals or from neither C nor C++: only a table, a catalog, a module or a name
-//   that the team chose could be called like one.
+// - with an underscore, if they are in capitals or from neither C nor C++: the naming rules drop underscores, so only a
+//   table, a catalog, a module or a name that the team chose could be called like one.
 // This command prints the macros of a header:
 //     echo '#include <csignal>' | g++ -std=gnu++20 -dM -E -x c++ -
 #pragma once

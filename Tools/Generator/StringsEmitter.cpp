@@ -77,7 +77,7 @@ std::string declarator(const std::string& type, const std::string& name, std::st
     return type + (fits ? ' ' : '\n') + name + '(';
 }
 
-// Adds each line without leading and trailing white space.
+// Adds each line of a comment for translators as a comment, without leading and trailing white space.
 void addLines(CodeWriter& code, std::string_view comment) {
     constexpr std::string_view space = " \t\r";
     comment = StringTables::internal::cutToSize(comment, maxComment);

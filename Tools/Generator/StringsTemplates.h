@@ -161,6 +161,7 @@ struct BundleFinder {
 const ::Foundation::NSBundle* publishedBundle() {
     return &{{module}}Resources::bundle();
 }
+// Both a property and a method of the class.
 constexpr ::Runtime::Method bundleMethod[] = {::Runtime::method<&publishedBundle>("bundle")};
 constexpr ::Runtime::Class resources("{{module}}.{{module}}Resources", bundleMethod, bundleMethod);
 LUMORA_PUBLISH_CLASS(resources);

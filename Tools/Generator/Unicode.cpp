@@ -41,7 +41,7 @@ constexpr bool isAsciiDigit(char32_t c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-// Whether the character is in Unicode 13 and not invisible by definition.
+// Whether the character, if it is assigned at all, is in Unicode 13 and not invisible by definition.
 bool isSettled(UChar32 c) noexcept {
     UVersionInfo age;
     u_charAge(c, age);

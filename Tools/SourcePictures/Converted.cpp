@@ -36,7 +36,7 @@ void limitSize(GdkPixbufLoader* loader, gint width, gint height, gpointer isTooL
     gdk_pixbuf_loader_set_size(loader, 1, 1);
 }
 
-// The loader would accept a truncated file. The number at byte 4 of the header counts the bytes that follow it.
+// The loader would accept a truncated file. The little-endian number in bytes 4 to 7 counts the bytes after these.
 bool isCutOffWebp(std::string_view bytes) {
     std::uint64_t fullSize = 8;
     for (std::size_t i = 0; i < 4; ++i)

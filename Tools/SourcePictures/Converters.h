@@ -17,9 +17,9 @@ namespace SourcePictures {
 
 class Converters {
 public:
-    // Reads a drawing; if an SVG is a symbol's template, its regular drawing (see Purpose in PictureFile.h). `bytes`
-    // must outlive the result, which must be destroyed by the same thread. Precondition: `format` is svg or pdf.
-    // Errors: damaged.
+    // Reads a drawing. `isSymbol`: of an SVG that is a symbol's template, the regular drawing (see Purpose in
+    // PictureFile.h). `bytes` must outlive the result, which must be destroyed by the same thread. Precondition:
+    // `format` is svg or pdf. Errors: damaged.
     [[nodiscard]] virtual Runtime::Result<std::unique_ptr<const Drawing>> drawing(std::string_view bytes, Format format,
                                                                                   bool isSymbol) const = 0;
     // Converts the picture, or the first frame of an animation, to PNG. Precondition: `format` is gif, tiff, webp or

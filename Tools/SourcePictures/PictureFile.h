@@ -22,14 +22,14 @@ struct Purpose {
     // one of regular weight is used, if possible in medium size.
     bool isSymbol = false;
     std::uint8_t scale = 0; // the pixels per point that the file was made for; 0 means any
-    // Whether a drawing made for one scale is also rasterized for the others.
+    // Whether a drawing made for one scale is also rasterized for the other ones of 1, 2 and 3.
     bool preservesVector = false;
     friend bool operator==(const Purpose&, const Purpose&) = default;
 };
 
 // Checks that picturesOf() will succeed, without rasterizing drawings at full size. The format (PNG, JPEG, GIF, TIFF,
 // WebP, HEIF, SVG, PDF) is detected from the content, not the file name. Errors: another format, damaged, no size, more
-// pixels than a catalog may contain or cairo can draw, no converter installed for the format.
+// pixels than a catalog may contain or cairo can draw, no loader installed for the format.
 [[nodiscard]] Runtime::Result<void> check(const std::string& bytes, const Purpose& purpose);
 
 // The pictures that a catalog stores for the file: a PNG or JPEG unchanged; other raster formats converted to PNG; a

@@ -8,7 +8,7 @@ namespace SourcePictures {
 
 namespace {
 
-constexpr int maxSide = 32767; // pixels of a cairo image surface
+constexpr int maxSide = 32767; // of a cairo image surface, in pixels
 
 struct PixelSize {
     int columns;

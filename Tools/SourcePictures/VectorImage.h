@@ -7,7 +7,7 @@
 
 namespace SourcePictures {
 
-// The drawings of each format derive from it.
+// The base class of the drawings of all formats.
 class VectorImage : public Drawing {
 public:
     Runtime::Result<void> check(double pixelsPerUnit) const final;

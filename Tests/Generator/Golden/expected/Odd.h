@@ -13,7 +13,7 @@
 
 #include "Foundation/Host.h"
 #include "Foundation/NSBundle.h"
-#ifdef __cpp_rtti // only messages need it
+#ifdef __cpp_rtti // messages need it
 #include "Runtime/Class.h"
 #endif
 

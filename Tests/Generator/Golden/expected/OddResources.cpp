@@ -19,6 +19,7 @@ struct BundleFinder {
 const ::Foundation::NSBundle* publishedBundle() {
     return &OddResources::bundle();
 }
+// Both a property and a method of the class.
 constexpr ::Runtime::Method bundleMethod[] = {::Runtime::method<&publishedBundle>("bundle")};
 constexpr ::Runtime::Class resources("Odd.OddResources", bundleMethod, bundleMethod);
 LUMORA_PUBLISH_CLASS(resources);
