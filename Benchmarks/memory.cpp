@@ -1,5 +1,5 @@
-// Prints how many texts it reads, their bytes in total, and by how many KiB that increases its resident memory and the
-// anonymous part of it, which other processes cannot share: all pages except unchanged ones of files.
+// Reads every text and prints how many there are, their bytes in total, and by how many KiB the resident memory grew
+// and its anonymous part, which other processes cannot share: all pages except unchanged ones of files.
 #include "all_texts.h"
 #include <Foundation/Host.h>
 
@@ -10,7 +10,7 @@
 namespace {
 
 // The value of a field ("Rss:") in the kernel's report about this process's memory, in KiB.
-long kilobytes(const std::string& field) {
+long kibibytes(const std::string& field) {
     std::ifstream file("/proc/self/smaps_rollup");
     for (std::string word; file >> word;)
         if (long size = 0; word == field && file >> size)
@@ -22,8 +22,8 @@ long kilobytes(const std::string& field) {
 
 int main() {
     Foundation::Host::setPreferredLanguages({"ru"});
-    const long resident = kilobytes("Rss:"), anonymous = kilobytes("Anonymous:");
+    const long resident = kibibytes("Rss:"), anonymous = kibibytes("Anonymous:");
     int count = 0;
     const std::size_t size = readAllTexts(count);
-    std::printf("%d %zu %ld %ld\n", count, size, kilobytes("Rss:") - resident, kilobytes("Anonymous:") - anonymous);
+    std::printf("%d %zu %ld %ld\n", count, size, kibibytes("Rss:") - resident, kibibytes("Anonymous:") - anonymous);
 }

@@ -64,7 +64,7 @@ BENCHMARK(numberIcuAfresh);
 
 void numberText(benchmark::State& state) {
     useGerman();
-    timedNumbers(state, [](double value) { return Localization::legacyTrNumber(value, false); });
+    timedNumbers(state, [](double value) { return Localization::legacyTrNumber(value, false /* no plus sign */); });
 }
 BENCHMARK(numberText);
 

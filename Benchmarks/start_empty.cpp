@@ -1,4 +1,4 @@
-// Starts, prints a text without any library for texts, and ends.
+// Starts, prints a text without any library for texts, and ends. All these programs make a std::string of their text.
 #include <iostream>
 
 int main() {

@@ -1,4 +1,4 @@
-// Loads Lumora without using it: a first text cannot take less time than this.
+// Is linked with Lumora and so loads it, but does not use it: a first text cannot take less time than this.
 #include <iostream>
 
 int main() {

@@ -1,5 +1,5 @@
 // Shows some of the application's texts in all its languages, results of its localization services, its progress
-// colours, and its pictures by region and sex, which it also writes into one PNG.
+// colours, and its pictures by region and sex. Writes these pictures into one PNG.
 #include "demo_assets.h"
 
 #include <Lumora/Lumora.h>
@@ -64,8 +64,9 @@ void printServices() {
     cell(Localization::currentLocale().identifier(), 9);
     cell(Localization::legacyTrAge(25), 14);
     cell(LumoraStrings::Localizable::locDays(3), 14);
-    cell(Localization::legacyTrNumber(1234.5, true), 12);
-    cell(Localization::legacyTrPercent(0.25, true), 0);
+    constexpr bool withPlusSign = true;
+    cell(Localization::legacyTrNumber(1234.5, withPlusSign), 12);
+    cell(Localization::legacyTrPercent(0.25, withPlusSign), 0);
     std::printf("\n");
 }
 

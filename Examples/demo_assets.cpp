@@ -20,7 +20,7 @@ constexpr const char* regions[] = {"arab", "asia", "europe", "latina", "usa"};
 // Pictures side by side, in rows, on white: RGBA, four bytes per pixel.
 class Sheet {
 public:
-    static constexpr unsigned cell = 240;              // width and height
+    static constexpr unsigned cell = 240;              // width and height in pixels
     static constexpr unsigned largest = cell - 2 * 10; // width or height of a picture; 10 is the margin on each side
 
     Sheet(unsigned columns, unsigned rows)
@@ -88,11 +88,12 @@ bool showAssets(const char* file) {
     UIKit::UITraitCollection::setCurrent({.displayScale = 2});
     Sheet sheet(std::size(regions), 6); // a column for each region, a row for each picture below
     unsigned column = 0;
+    constexpr bool male = true, female = false;
     for (const char* region : regions) {
         const UIKit::UIImage pictures[] = {
-            UIImage::assetOnboardingStep1(region),      UIImage::assetSubscriptionWoman(region),
-            UIImage::assetSubscriptionMan(region),      UIImage::assetGym(true, region),
-            UIImage::assetDefaultCourse(false, region), UIImage::assetHome(false, region),
+            UIImage::assetOnboardingStep1(region),       UIImage::assetSubscriptionWoman(region),
+            UIImage::assetSubscriptionMan(region),       UIImage::assetGym(male, region),
+            UIImage::assetDefaultCourse(female, region), UIImage::assetHome(female, region),
         };
         std::printf("%-8s", region);
         unsigned row = 0;

@@ -34,8 +34,8 @@ class Fuzzer:
         with open(self.log, "wb") as log:
             self.child = subprocess.Popen(command, stdout=log, stderr=log, env=os.environ | {"TMPDIR": str(self.scratch)})
 
-    # Whether it still runs. Sends it a signal to end when its time is over.
-    def runs(self):
+    # Tells it to end when its time is over. Returns false once it has ended.
+    def watch(self):
         if self.child.poll() is not None:
             return False
         fields = pathlib.Path(f"/proc/{self.child.pid}/stat").read_text().rpartition(")")[2].split()
@@ -44,7 +44,7 @@ class Fuzzer:
             self.child.send_signal(signal.SIGUSR1)  # libFuzzer then ends without an error
         return True
 
-    # Prints what it did; the result is a message if it found something.
+    # Prints what it did; returns a message if it found something.
     def report(self):
         output = self.log.read_text(errors="replace")
         if self.child.returncode != 0:
@@ -72,7 +72,7 @@ while waiting or running:
     while waiting and len(running) < together:
         running.append(Fuzzer(waiting.pop(0)))
     time.sleep(0.5)
-    for ended in [one for one in running if not one.runs()]:
+    for ended in [one for one in running if not one.watch()]:
         running.remove(ended)
         failures += filter(None, [ended.report()])
 sys.exit("\n".join(failures) or None)

@@ -1,5 +1,6 @@
-# The package Lumora. Components: Platform (Lumora::Platform), Module (Lumora::Lumora), Tools (Lumora::lumora). All that
-# are installed are loaded; it is an error if one that find_package requires is not. lumora_add_module() needs Platform and Tools.
+# The package Lumora. Components: Platform (Lumora::Platform), Module (Lumora::Lumora), Tools (Lumora::lumora). Every
+# installed component is loaded; it is an error if find_package requires one that is not installed. lumora_add_module()
+# needs Platform and, unless LUMORA_PROGRAM is set, Tools.
 foreach(component Platform Module Tools)
     if(EXISTS ${CMAKE_CURRENT_LIST_DIR}/Lumora${component}.cmake)
         include(${CMAKE_CURRENT_LIST_DIR}/Lumora${component}.cmake)

@@ -51,7 +51,7 @@ foreach(name lumora lumora-platform)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endforeach()
 
-if(NOT LUMORA_PACKAGES) # a Debian package has them in another folder
+if(NOT LUMORA_PACKAGES) # LumoraPackages.cmake has the files of Debian packages
     foreach(component runtime development tools)
         install(FILES LICENSE THIRD-PARTY.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT ${component})
     endforeach()

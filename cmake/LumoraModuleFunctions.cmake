@@ -1,7 +1,7 @@
 # Modules of resources: lumora_add_module makes one from folders of resources, lumora_install_module installs it. Both
 # work in this source tree and, with find_package(Lumora), in any project.
 #
-# They run the program Lumora::lumora; in a cross build, set LUMORA_PROGRAM to one for the build machine.
+# lumora_add_module runs the program Lumora::lumora; in a cross build, set LUMORA_PROGRAM to one for the build machine.
 
 # Sets the variable named by `out` to the program that custom commands run.
 function(_lumora_program out)
@@ -97,7 +97,8 @@ endfunction()
 
 # lumora_install_module(Name [EXPORT set] [VERSIONED])
 # Installs library, headers and bundle of a module. The bundle is in the library's folder; with VERSIONED it is in the
-# subfolder Name-SOVERSION, so that two versions can be installed together. Components: runtime, development.
+# subfolder Name-SOVERSION, so that two versions can be installed together. EXPORT is that of
+# install(TARGETS). Components: runtime, development.
 function(lumora_install_module name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "VERSIONED" "EXPORT" "")
     include(GNUInstallDirs)

@@ -20,8 +20,9 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY
 set(runtime liblumora${PROJECT_VERSION_MAJOR})
 set(same_version "(= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME ${runtime})
+set(debian ${PROJECT_BINARY_DIR}/debian)
 # Not written by CPack, which would warn about each plug-in.
-set(shlibs ${PROJECT_BINARY_DIR}/debian/shlibs)
+set(shlibs ${debian}/shlibs)
 file(WRITE ${shlibs} "liblumora ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})
 liblumora-platform ${PROJECT_VERSION_MAJOR} ${runtime} (>= ${PROJECT_VERSION})
 ")
@@ -41,25 +42,24 @@ compiles, checks, shows and exchanges them.")
 
 # Files that every Debian package has.
 find_program(GZIP gzip REQUIRED)
-set(changelog ${PROJECT_BINARY_DIR}/debian)
-file(WRITE ${changelog}/changelog.Debian "lumora (${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
+file(WRITE ${debian}/changelog.Debian "lumora (${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
 
   * See CHANGELOG.md of the sources.
 
  -- ${CPACK_PACKAGE_CONTACT}  Wed, 25 Nov 2026 12:00:00 +0000
 ")
-execute_process(COMMAND ${GZIP} -9nf changelog.Debian WORKING_DIRECTORY ${changelog} COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND ${GZIP} -9nf changelog.Debian WORKING_DIRECTORY ${debian} COMMAND_ERROR_IS_FATAL ANY)
 foreach(component runtime development tools)
     string(TOUPPER ${component} upper)
     set(package ${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
-    install(FILES cmake/debian/copyright THIRD-PARTY.md ${changelog}/changelog.Debian.gz DESTINATION share/doc/${package}
+    install(FILES cmake/debian/copyright THIRD-PARTY.md ${debian}/changelog.Debian.gz DESTINATION share/doc/${package}
         COMPONENT ${component})
-    # These packages are not for Debian's archive, so their first version closes no bug. CPack adds scripts that call
-    # ldconfig to every package with a library.
-    file(WRITE ${changelog}/${package} "${package} binary: initial-upload-closes-no-bugs\n")
+    # Accepted warnings of lintian: these packages are not for Debian's archive, so their first version closes no bug.
+    # CPack adds scripts that call ldconfig to every package with a library.
+    file(WRITE ${debian}/${package} "${package} binary: initial-upload-closes-no-bugs\n")
     if(NOT component STREQUAL "development")
-        file(APPEND ${changelog}/${package} "${package} binary: maintscript-calls-ldconfig\n")
+        file(APPEND ${debian}/${package} "${package} binary: maintscript-calls-ldconfig\n")
     endif()
-    install(FILES ${changelog}/${package} DESTINATION share/lintian/overrides COMPONENT ${component})
+    install(FILES ${debian}/${package} DESTINATION share/lintian/overrides COMPONENT ${component})
 endforeach()
 include(CPack)

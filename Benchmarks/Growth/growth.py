@@ -24,7 +24,7 @@ KEY_WORDS = ("All Dish Diet Plan Week Goal Weight Menu Meal Water Sleep Step Coa
 
 
 def key(number):
-    """Groups of 25 keys; the factors vary the words, and no two keys are equal."""
+    """Groups of 25 keys; the factors vary the words, of which there are 64, and no two keys are equal."""
     group, entry = divmod(number, 25)
     name = [KEY_WORDS[(entry * 11 + group) % 64], KEY_WORDS[(group * 5 + entry * 3) % 64]]
     if entry == 0:  # in the style "save_button_7", without a group

@@ -54,7 +54,7 @@ void showAssets() {
     for (const auto& picture : {Assets::bean, Assets::cart, Assets::cup, Assets::kettle, Assets::leaf, Assets::truck}) {
         const UIKit::UIImage image = picture.image();
         std::printf("  %-8s %g x %g points, %s\n", picture.name().c_str(), image.size().width, image.size().height,
-                    image.rgba() ? "drawn" : "damaged");
+                    image.rgba() ? "decoded" : "damaged");
     }
 }
 

@@ -36,7 +36,7 @@ std::string edited(const TableFile& file, const Unit& unit, const SourceEntry& d
     return *std::move(after);
 }
 
-// One of the entries, which depends on the input.
+// One of the entries; the size of the input decides which.
 const auto& anEntry(const auto& table, const std::string& bytes) {
     return table.entries()[bytes.size() % table.entries().size()];
 }

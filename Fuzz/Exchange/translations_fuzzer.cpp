@@ -13,7 +13,7 @@ namespace {
 using Exchange::Translations;
 using Exchange::Unit;
 
-// An export has no text twice. In an export the forms of a plural are adjacent, so units with forms are not tried.
+// An export has no text twice. Plural forms are not tried, because in an export those of one text are adjacent.
 bool isLikeAnExport(const Translations& translations) {
     std::set<std::string> ids;
     return std::ranges::all_of(translations.units, [&ids](const Unit& unit) {

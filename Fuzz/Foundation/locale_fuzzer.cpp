@@ -1,5 +1,5 @@
-// Takes the input for the identifier of a locale, which formats numbers and years, and for the list of a user's
-// languages, one of which is chosen.
+// Takes the input for the identifier of a locale, in which it formats numbers and years, and for a list of languages,
+// for each of which it chooses one of a bundle's languages.
 #include "Foundation/DateComponents.h"
 #include "Foundation/NSNumberFormatter.h"
 #include "Foundation/internal/HostState.h"

@@ -1,5 +1,5 @@
-// Makes names of any bytes and their spellings: a spelling is empty or has the form of a C++ identifier, and both are
-// the same at every call. ICU, not the tested code, says which characters are valid.
+// Makes names of any bytes and their spellings: a spelling is empty or has the form of a C++ identifier and is its
+// own spelling; a name is the same at every call. ICU, not the tested code, says which characters are valid.
 #include "Generator/Namer.h"
 
 #include "../Require.h"
@@ -14,8 +14,8 @@ namespace Namer = Generator::Namer;
 
 void requireIdentifier(const std::string& spelled) {
     const auto text = icu::UnicodeString::fromUTF8(spelled);
-    UErrorCode failed = U_ZERO_ERROR;
-    require(icu::Normalizer2::getNFCInstance(failed)->isNormalized(text, failed) != 0);
+    UErrorCode status = U_ZERO_ERROR;
+    require(icu::Normalizer2::getNFCInstance(status)->isNormalized(text, status) != 0);
     require(text[0] == u'_' || u_hasBinaryProperty(text.char32At(0), UCHAR_XID_START) != 0);
     for (std::int32_t at = 0; at < text.length(); at = text.moveIndex32(at, 1))
         require(u_hasBinaryProperty(text.char32At(at), UCHAR_XID_CONTINUE) != 0);

@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::size_t signatureSize = 8;
 
+// A chunk's CRC-32, bit by bit: 0xEDB88320 is its polynomial.
 std::uint32_t checksum(const std::uint8_t* data, std::size_t size) {
     std::uint32_t sum = 0xFFFFFFFF;
     for (std::size_t i = 0; i < size; ++i) {

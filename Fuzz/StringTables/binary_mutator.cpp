@@ -18,8 +18,8 @@ std::uint64_t number(const std::uint8_t* at, std::size_t size) {
     return value;
 }
 
-// The size of the object at `at`, which has at most `left` bytes. Its first byte has its type and its count, or 0xF if
-// an integer with the count follows.
+// The size of the object at `at`, which has at most `left` bytes. Its first byte has its type and its count; 0xF means
+// that an integer with the count follows.
 std::uint64_t sizeOf(const std::uint8_t* at, std::size_t left, std::size_t refSize) {
     const std::size_t type = *at >> 4;
     std::uint64_t count = *at & 0xF, head = 1;
@@ -56,6 +56,8 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
                                                unsigned seed) {
     if (seed % 2 == 0 || size < headerSize + trailerSize || maxSize < size || std::memcmp(data, "bplist00", 8) != 0)
         return LLVMFuzzerMutate(data, size, maxSize);
+    // The trailer has 6 bytes that are written back unchanged, the sizes of an offset and of a reference (1 byte each),
+    // the number of objects, the top object, and where the offsets begin (8 bytes each).
     const std::vector<std::uint8_t> trailer(data + size - trailerSize, data + size);
     const std::uint64_t top = number(trailer.data() + 16, 8), tableAt = number(trailer.data() + 24, 8);
     const std::size_t refSize = trailer[7];

@@ -20,6 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(!StringTables::nextPlaceholder(format.substr(0, found->begin), at));
         at = found->end;
     }
-    require(StringTables::signatureOf(format).arguments.size() <= 9999 + format.size());
+    require(StringTables::signatureOf(format).arguments.size() <= StringTables::FormatSignature::mostArguments);
     return 0;
 }

@@ -28,11 +28,11 @@ private:
     int descriptor_;
 };
 
-// The text of `key`, read on its own or after the whole file was read.
-std::optional<std::string> found(const MemoryFile& file, std::string_view key, bool whole) {
+// The text of `key` after that many look-ups of other keys. The first three read single texts if they can, the fourth
+// look-up reads the whole file.
+std::optional<std::string> found(const MemoryFile& file, std::string_view key, int lookUps) {
     StoredTable table(file.path());
-    constexpr int enoughLookUps = 8; // the first three read single texts, the next one the whole file
-    for (int i = 0; i < (whole ? enoughLookUps : 0); ++i)
+    for (int i = 0; i < lookUps; ++i)
         (void)table.find(std::string(static_cast<std::size_t>(i + 1), '\1'), 0);
     const StringTables::FoundText text = table.find(key, Runtime::keyHash(key));
     return text ? std::optional(std::string(text.text())) : std::nullopt;
@@ -51,7 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (const auto& entry : table->entries().first(std::min<std::size_t>(table->entries().size(), 8)))
             keys.emplace_back(entry.key);
     for (const std::string& key : keys) {
-        const auto part = found(file, key, false), whole = found(file, key, true);
+        const auto part = found(file, key, 0), whole = found(file, key, 3);
         require(!part || !whole || part == whole);
         if (table) // its index, if there is one, agrees with the dictionary, because readers check that
             require(part == table->find(key) && whole == part);

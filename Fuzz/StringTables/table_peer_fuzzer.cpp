@@ -17,7 +17,7 @@ using Texts = std::map<std::string, std::optional<std::string>>; // no value: no
 using Node = std::unique_ptr<std::remove_pointer_t<plist_t>, decltype(&plist_free)>;
 using Chars = std::unique_ptr<char, decltype(&std::free)>;
 
-// The texts of a dictionary by key; none if a key is repeated.
+// The texts of a dictionary by key; no value if a key is repeated.
 std::optional<Texts> texts(plist_t dict) {
     plist_dict_iter found = nullptr;
     plist_dict_new_iter(dict, &found);
