@@ -73,8 +73,8 @@ private:
     std::optional<PluralCategory> category_;
 };
 
-// The variations of a node. Removes its plain text, because a node cannot have both.
-JsonNode& variationsOf(JsonNode& node) {
+// Adds variations to the node if it has none, and removes its plain text, because a node cannot have both.
+JsonNode& makeVariations(JsonNode& node) {
     node.remove(stringUnit);
     return node.member(variations);
 }
@@ -119,7 +119,7 @@ JsonNode& CatalogDocument::nodeOf(const Unit& unit, JsonNode& localization) {
     for (std::size_t i = 0; i + 1 < unit.id.part.size(); i += 2) {
         const std::string& name = unit.id.part[i + 1];
         if (unit.id.part[i] == devicePart) {
-            node = &variationsOf(*node).member(devicePart).member(name);
+            node = &makeVariations(*node).member(devicePart).member(name);
             continue;
         }
         JsonNode& substitution = node->member(substitutionsPart).member(name);
@@ -132,7 +132,7 @@ JsonNode& CatalogDocument::nodeOf(const Unit& unit, JsonNode& localization) {
         node = &substitution;
     }
     if (unit.id.category)
-        node = &variationsOf(*node).member(plural).member(Intl::pluralCategoryNames[indexOf(*unit.id.category)]);
+        node = &makeVariations(*node).member(plural).member(Intl::pluralCategoryNames[indexOf(*unit.id.category)]);
     return node->member(stringUnit);
 }
 

@@ -101,7 +101,7 @@ private:
         return name.append("/").append(table).append("/").append(key);
     }
 
-    // The key of the unit with this id, or null if the source does not have it.
+    // The key of the unit with this id, added to `keys_` if necessary, or null if the source does not have it.
     ImportedKey* importedKeyFor(const UnitId& id, const std::string& language) {
         const std::string name = nameOf(language, id.table, id.key);
         if (const auto known = keys_.find(name); known != keys_.end())

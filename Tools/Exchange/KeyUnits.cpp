@@ -53,9 +53,9 @@ public:
     UnitMaker(const Key& key, const std::vector<StoredText>& development, const std::vector<StoredText>& translated)
         : key_(key), translated_(translated) {
         for (const StoredText& text : development)
-            partOf(text).development.push_back(&text);
+            partFor(text).development.push_back(&text);
         for (const StoredText& text : translated)
-            partOf(text).translated.push_back(&text);
+            partFor(text).translated.push_back(&text);
     }
 
     std::vector<Unit> make() {
@@ -73,7 +73,8 @@ public:
     }
 
 private:
-    PartTexts& partOf(const StoredText& text) {
+    // The part of the text, added if necessary.
+    PartTexts& partFor(const StoredText& text) {
         auto found = std::ranges::find(parts_, text.part, &PartTexts::part);
         if (found == parts_.end()) {
             parts_.push_back({.part = text.part});

@@ -33,7 +33,7 @@ std::string_view categoryName(const Unit& form) {
     return Intl::pluralCategoryNames[indexOf(*form.id.category)];
 }
 
-Runtime::Error unusual(const Change& change) {
+Runtime::Error neitherTextNorPlural(const Change& change) {
     return {.message = "the table has neither a text nor a plural for " + change.changed.front()->id.key};
 }
 
@@ -126,7 +126,7 @@ Runtime::Result<void> PropertyListDocument::apply(const Change& change) {
     if (isPlural)
         return editPlural(*known->second, change);
     if (known->second->name != "string")
-        return unusual(change);
+        return neitherTextNorPlural(change);
     setText(*known->second, first.target);
     return {};
 }
@@ -163,15 +163,15 @@ std::string PropertyListDocument::variable(const PluralVariable& variable, const
 Runtime::Result<void> PropertyListDocument::editPlural(const XmlNode& entry, const Change& change) {
     const std::vector<Pair> pairs = pairsOf(entry);
     if (pairs.empty())
-        return unusual(change);
+        return neitherTextNorPlural(change);
     for (const Unit* unit : change.changed) {
         const XmlNode* const variable = unit->id.category ? find(pairs, unit->id.part.back()) : nullptr;
         const XmlNode* const text = findText(pairs, *unit);
         if ((variable != nullptr && pairsOf(*variable).empty()) || (text != nullptr && text->name != "string"))
-            return unusual(change);
+            return neitherTextNorPlural(change);
     }
     if (find(pairs, pluralKeys::widthRule) != nullptr || find(pairs, pluralKeys::deviceRule) != nullptr)
-        return unusual(change);
+        return neitherTextNorPlural(change);
     PluralFormat added;
     for (const Unit* unit : change.changed) {
         const XmlNode* const found = find(pairs, unit->id.category ? unit->id.part.back() : pluralKeys::format);

@@ -31,7 +31,7 @@ const TableFile* existingFile(const Key& key) {
 
 } // namespace
 
-fs::path Targets::newFile(const Key& key) {
+fs::path Targets::newPath(const Key& key) {
     const auto [folders, isNew] = folders_.try_emplace(key.language);
     if (isNew)
         for (const SourceTable& table : source_.tables)
@@ -48,7 +48,7 @@ fs::path Targets::newFile(const Key& key) {
 
 Runtime::Result<Targets::Target*> Targets::targetOf(const Key& key) {
     const TableFile* const existing = existingFile(key);
-    const fs::path path = existing == nullptr ? newFile(key) : existing->path;
+    const fs::path path = existing == nullptr ? newPath(key) : existing->path;
     Target& target = targets_[path];
     if (target.document != nullptr)
         return &target;

@@ -24,11 +24,11 @@ public:
 private:
     struct Target {
         std::unique_ptr<TableDocument> own; // null for a string catalog, which is in `texts_`
-        TableDocument* document = nullptr;
+        TableDocument* document = nullptr;  // `own` or that catalog; null if the file could not be read
         bool isChanged = false;
     };
-    // The path of a new file for the key: "de.lproj/T.strings" beside "en.lproj/T.strings" with the development text.
-    std::filesystem::path newFile(const Key& key);
+    // For a key without a file: "de.lproj/T.strings" beside "en.lproj/T.strings" with the development text.
+    std::filesystem::path newPath(const Key& key);
     // The file for the key, read or made when first needed.
     Runtime::Result<Target*> targetOf(const Key& key);
 

@@ -1,4 +1,4 @@
-// Builds elements. String children become text nodes, so resources are never parsed as markup.
+// Builds an element. String children become text nodes, so resources are never parsed as markup.
 function make(tag, attributes, ...children) {
     const element = document.createElement(tag);
     for (const [name, value] of Object.entries(attributes ?? {}))
