@@ -16,6 +16,7 @@ namespace {
 using StringTables::Form;
 using StringTables::Table;
 
+// The English table, which is in text form.
 std::string textForm() {
     return *Runtime::readFile(LUMORA_RESOURCES "/Base.lproj/Localizable.strings", Table::maxBytes);
 }

@@ -31,7 +31,7 @@ std::unordered_map<std::string, std::string> developmentTexts() {
     return texts;
 }
 
-// The text that all libraries format, for different days.
+// Times `make`, which makes the text that all libraries format, for different days.
 template <class Make> void formatted(benchmark::State& state, Make make) {
     if (!correct(state, make(7).find("until 7.") != std::string::npos))
         return;

@@ -69,9 +69,9 @@ function(lumora_real_targets out)
 endfunction()
 
 # lumora_library(Name SOURCES a.cpp b.cpp LINK Lumora::Other ... [PRIVATE_LINK ...])
-# One folder, one static library of position-independent code: the target lumora-Name, linked as Lumora::Name. Its
-# headers are included as "Name/Header.h". LINK has the libraries whose headers the folder includes, PRIVATE_LINK those
-# that only its sources need.
+# A static library of position-independent code from sources of one folder: the target lumora-Name, linked as
+# Lumora::Name. Its headers are included as "FOLDER/Header.h". LINK has the libraries whose headers it includes,
+# PRIVATE_LINK those that only its sources need.
 function(lumora_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;PRIVATE_LINK")
     add_library(lumora-${name} STATIC ${arg_SOURCES})

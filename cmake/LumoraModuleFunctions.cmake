@@ -78,6 +78,7 @@ function(lumora_add_module name)
     # Of the generated headers, the build system knows only these two. Each has a fingerprint of the headers that it
     # includes, so it changes when one of them does, and the files that include it are compiled again.
     set(known ${folder}/${name}Strings.h ${folder}/${name}Asset.h)
+    # An option before each header.
     list(TRANSFORM arg_INCLUDE REPLACE "(.+)" "--include;\\1" OUTPUT_VARIABLE includes)
     list(TRANSFORM arg_HEADERS REPLACE "(.+)" "--header;\\1" OUTPUT_VARIABLE headers)
     _lumora_run(STAMP ${generated}/generated.stamp BYPRODUCTS ${code} ${known} COMMENT "Generating ${name}Strings and ${name}Asset"

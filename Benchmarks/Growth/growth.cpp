@@ -61,6 +61,7 @@ struct Language {
     Texts expected;    // views of `bytes`
 };
 
+// Returns the exit status.
 int measure(const std::string& bundlePath, const std::string& sourcePath, const std::vector<Language>& languages) {
     const auto tablePath = [](const std::string& folder, const Language& language) {
         return folder + "/" + language.name + ".lproj/Localizable.strings";

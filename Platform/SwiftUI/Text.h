@@ -3,7 +3,7 @@
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
-#include "Runtime/Export.h" // checks that the compiler's mode is C++20
+#include "Runtime/Export.h" // checks that the mode is C++20 or later
 #include <string>
 #include <utility>
 

@@ -14,7 +14,7 @@ struct Packed {
     UserInterfaceStyle style{};
     AccessibilityContrast contrast{};
     LayoutDirection direction{};
-    std::uint8_t unused = 0; // not padding, whose value bit_cast would not know
+    std::uint8_t unused = 0; // padding would have no defined value for bit_cast
 };
 
 constinit std::atomic<std::uint64_t> currentTraits{std::bit_cast<std::uint64_t>(Packed{})};
