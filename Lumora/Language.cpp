@@ -18,7 +18,7 @@ namespace {
 constexpr std::array<LocalizationCode, 3> asianLocalizationCodes = {LocalizationCode::ko, LocalizationCode::ja,
                                                                     LocalizationCode::zhHans};
 
-// The list in the slot, which `make` creates at the first use; an empty list when memory runs out.
+// The list that `make` creates at the first use and `slot` keeps; an empty list when memory runs out.
 template <class Make>
 const std::vector<std::string>& listIn(Runtime::OnceSlot<std::vector<std::string>>& slot, Make make) noexcept {
     static constinit Runtime::OnceSlot<std::vector<std::string>> empty;

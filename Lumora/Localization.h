@@ -57,8 +57,8 @@ public:
     [[nodiscard]] static std::string legacyTrPercent(double value, bool showPlus);
     // A number of years as currentLocale() spells it: "25 лет". Empty when the language data is missing.
     [[nodiscard]] static std::string legacyTrYear(std::int64_t value);
-    // An age in years: in seven languages, such as English, locYears(), with a noun from the main table; in the others
-    // legacyTrYear().
+    // An age in years: in seven languages, such as English, locYears() (LumoraStrings+Members.h), with a noun from the
+    // main table; in the others legacyTrYear().
     [[nodiscard]] static std::string legacyTrAge(std::int64_t age);
 };
 

@@ -15,7 +15,7 @@ namespace Corvane {
 
 class LUMORA_EXPORT LocalizationCode {
 public:
-    // `id_` is Indonesian, "id"; the function id() has that name.
+    // `id_` is Indonesian, "id": the function id() takes the name without underscore.
     enum Case : std::uint8_t { ar, de, en, es, es419, fr, id_, it, ja, ko, nl, pl, ptBR, ptPT, ru, th, tr, vi, zhHans };
 
     constexpr LocalizationCode(Case code) noexcept : case_(code) {}

@@ -1,7 +1,7 @@
 // Lumora/LumoraStrings+Members.h
 // What is added by hand to the generated namespace LumoraStrings::Localizable: plural forms, numbers with a noun,
 // signed numbers. The nouns are texts of the table Localizable (key "day_1") and are cached at their first use.
-// Text: UTF-8. Threads: any. Errors: only those of legacyTrNumber(); a text is empty when memory runs out.
+// Text: UTF-8. Threads: any. Errors: none; a text is empty when memory runs out.
 #pragma once
 
 #include "Runtime/Export.h"

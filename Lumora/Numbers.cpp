@@ -55,7 +55,7 @@ std::string Localization::legacyTrNumber(const NSNumber& number, bool needSign) 
             formatter.setPositivePrefix(formatter.plusSign());
         std::optional<std::string> text = formatter.stringFromNumber(number);
         // Older screens rely on this difference: without a text, only a signed number stops the process. The report
-        // names the file that existing crash reports name.
+        // names the file that existing crash reports name, and a line of this one.
         if (!text && needSign)
             Runtime::fatalError("Unable to format a signed number", "Localization+Lumora", __LINE__);
         return std::move(text).value_or("");
@@ -64,8 +64,9 @@ std::string Localization::legacyTrNumber(const NSNumber& number, bool needSign) 
 
 std::string Localization::legacyTrPercent(double value, bool showPlus) {
     return Runtime::attempt([&]() -> std::string {
-        const bool isLocal = std::ranges::find(localePercentCodes, detail::currentCode()) != localePercentCodes.end();
-        std::string text = isLocal ? localePercent(value) : plainPercent(value);
+        const bool usesLocale =
+            std::ranges::find(localePercentCodes, detail::currentCode()) != localePercentCodes.end();
+        std::string text = usesLocale ? localePercent(value) : plainPercent(value);
         return showPlus && value > 0.0 ? "+" + text : text;
     });
 }

@@ -15,7 +15,7 @@ namespace UIColor {
 // The colour for `progress`, clamped to 0 to 1, with the catalog's colour "progressGreen" as base. Opaque;
 // below one half its red component is above 1, up to 2 at progress 0. NaN gives NaN components.
 [[nodiscard]] LUMORA_EXPORT UIKit::UIColor colorForProgress(double progress);
-// The same with another base colour, under two names. Both return a pattern unchanged.
+// The same with another base colour, under two names. A base that is a pattern is returned unchanged.
 [[nodiscard]] LUMORA_EXPORT UIKit::UIColor watchProgress(double progress, const UIKit::UIColor& base);
 [[nodiscard]] LUMORA_EXPORT UIKit::UIColor color(const UIKit::UIColor& base, double progress);
 

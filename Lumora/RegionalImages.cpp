@@ -7,8 +7,7 @@ namespace Lumora::UIImage {
 
 namespace {
 
-// Reserves this name and stays empty and unused, so that nobody adds a second way to the bundle under it: the only way
-// is LumoraResources::bundle().
+// Stays empty and unused: it must not become a second way to the bundle, besides LumoraResources::bundle().
 class ResourceBundleClass {};
 
 using Candidates = std::initializer_list<const char*>;

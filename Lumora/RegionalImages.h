@@ -2,8 +2,8 @@
 // Pictures that come in variants for a market region and for the user's sex.
 // A region is "arab", "asia", "europe", "latina" or "usa". Each function has a list of pictures and returns the first
 // whose name ends with the region, so an empty region gives the first one; a region without a picture gives the default
-// picture, which has no region in its name or, for onboarding, "usa". The functions for training targets are different:
-// their regions are "ru" and "ar" and their genders "male" and "female", compared exactly.
+// picture, which has no region in its name or, for most onboarding steps, "usa". The functions for training targets are
+// different: their regions are "ru" and "ar" and their genders "male" and "female", compared exactly.
 // Text: UTF-8. Threads: any. Errors: a missing picture stops the process; when memory or descriptors run out,
 // std::bad_alloc or std::system_error is thrown.
 #pragma once

@@ -108,7 +108,7 @@ bool BinaryObjects::string(std::uint64_t number, Object& object, std::string_vie
 }
 
 // Decodes UTF-16 into free space of the arena. If the UTF-8 is not longer and no other object can overlap, it is then
-// copied over the UTF-16, so that the next string uses the same space: touching fresh memory costs more than a copy.
+// copied over the UTF-16, so that the next string uses that space again: touching fresh memory costs more than a copy.
 bool BinaryObjects::decode(const Object& object, std::string_view& out) {
     char* const bytes = contents_.arena.reserve(out.size() / 2 * 3);
     const Decoded decoded = decodeUtf16(out, ByteOrder::big, bytes);

@@ -28,13 +28,13 @@ private:
 
     Contents& contents_;
     BinaryObjects objects_;
-    // An entry that has an object's string as its key or text, so that a shared string is read once.
+    // For a string object: an entry that has it as key or text, so that a shared string is read once.
     struct StringUse {
         static constexpr std::uint32_t none = 0x7FFFFFFF; // the largest in 31 bits; also their mask
         std::uint32_t entry : 31 = none;
         std::uint32_t isKey : 1 = 0;
     };
-    std::vector<StringUse> uses_;       // by object
+    std::vector<StringUse> uses_;       // by the object's number
     std::vector<std::size_t> replaced_; // entries whose key object is the key of a later entry, too
 };
 

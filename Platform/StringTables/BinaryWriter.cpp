@@ -86,7 +86,7 @@ void BinaryWriter::put(std::uint64_t number, std::size_t size) {
         out_ += static_cast<char>(number >> 8 * size & 0xFF);
 }
 
-// An object's type and size.
+// An object's type and count. A count of 15 or more follows as a number object, whose type is 1.
 void BinaryWriter::putMarker(unsigned type, std::size_t count) {
     if (count < 0xF) {
         put(type << 4 | count, 1);

@@ -45,6 +45,7 @@ std::string_view cleaned(std::string_view text, Arena& arena) {
     return arena.copy(out);
 }
 
+// Requires a source that was read without an error: each comment and each string is closed.
 std::vector<Comment> textComments(const Contents& contents, Arena& arena) {
     std::vector<Comment> comments;
     const char* const begin = contents.source.data();
@@ -52,8 +53,8 @@ std::vector<Comment> textComments(const Contents& contents, Arena& arena) {
     for (const char* at = begin + contents.begin; at != end;)
         if (beginsComment(at)) {
             const char* const stop = commentEnd(at, end);
-            const std::size_t marks = at[1] == '/' ? 2 : 4;
-            const std::string_view inside(at + 2, static_cast<std::size_t>(stop - at) - marks);
+            const std::size_t marksSize = at[1] == '/' ? 2 : 4;
+            const std::string_view inside(at + 2, static_cast<std::size_t>(stop - at) - marksSize);
             comments.push_back(
                 {static_cast<std::size_t>(at - begin), static_cast<std::size_t>(stop - begin), cleaned(inside, arena)});
             at = stop;
@@ -133,7 +134,7 @@ private:
     std::span<const Comment> comments_;
 };
 
-// All comments in source order. The source was read without an error. Empty for a binary table.
+// All comments in source order. Empty for a binary table.
 std::vector<Comment> findComments(const Contents& contents, Arena& arena) {
     if (contents.form == Form::binary)
         return {};

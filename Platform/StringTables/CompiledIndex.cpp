@@ -13,7 +13,8 @@ template <class Number> void appendLittle(std::string& out, Number number) {
         out += static_cast<char>(static_cast<std::uint64_t>(number) >> 8 * i & 0xFF);
 }
 
-// Whether more than half of a mark's bytes match: a damaged mark must be reported, not taken for a plain table.
+// Whether more than half of a mark's bytes match: a table with a damaged mark must be reported, not taken for a plain
+// one.
 bool resembles(std::string_view found, std::string_view mark) noexcept {
     std::size_t same = 0;
     for (std::size_t i = 0; i < mark.size(); ++i)
@@ -72,8 +73,8 @@ std::optional<CompiledIndexWriter> CompiledIndexWriter::make(std::span<const std
     CompiledIndexWriter writer;
     CompiledIndex& index = writer.index_;
     index.entryCount_ = static_cast<std::uint32_t>(keyHashes.size());
-    index.slotCount_ = index.entryCount_ + index.entryCount_ / 8 + 1;
-    index.bucketCount_ = index.entryCount_ / 4 + 1;
+    index.slotCount_ = index.entryCount_ + index.entryCount_ / 8 + 1; // about a ninth of them stays free
+    index.bucketCount_ = index.entryCount_ / 4 + 1;                   // four keys in each, on average
     writer.displacements_.resize(index.bucketCount_);
     writer.slotOfEntry_.resize(keyHashes.size());
     std::vector<std::uint32_t> bucketOfKey;

@@ -53,7 +53,7 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
     addStrings(true);
     const auto dictionary = list.dictionary();
     addStrings(false);
-    Utf8Copy copy(index.copyAt());
+    Utf8Copy copy(index.copyAt()); // filled here, because the index's size depends on it
     for (std::size_t i = 0; i < entries.size(); ++i) {
         list.add(dictionary, numbers[i].key, numbers[i].text);
         if (!isAscii(entries[i].key))
@@ -84,7 +84,7 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
 
 Runtime::Result<std::string> writeCompiled(std::span<const Entry> entries) {
     auto plain = write(entries, Form::binary);
-    if (!plain || sizeOf(entries) > 2 * plain->size())
+    if (!plain || sizeOf(entries) > 2 * plain->size()) // else readers could reach mostTextPerFront
         return plain;
     std::vector<std::uint64_t> hashes;
     for (const Entry& entry : entries)

@@ -24,6 +24,7 @@ public:
 
     XmlFault parse() {
         const std::string_view document = source_.substr(begin_);
+        // The size is at most Table::maxBytes, so it fits into an int.
         const XML_Status status = XML_Parse(expat_.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
         if (thrown_)
             std::rethrow_exception(thrown_);

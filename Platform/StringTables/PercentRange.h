@@ -11,7 +11,7 @@
 
 namespace StringTables {
 
-// All percent signs of the text are in the bytes from begin() to end(text).
+// All percent signs of the text are in the bytes from begin() up to, but not including, end(text).
 class PercentRange {
 public:
     // The whole text.
@@ -32,7 +32,7 @@ public:
         return end == toTheEnd ? text.size() : end;
     }
 
-    // Both ends in one number, at most `largestPacked`, so that a caller can store other states as greater numbers.
+    // Both ends in one number, at most `largestPacked`, so that a caller has numbers left for other states.
     constexpr std::uint32_t packed() const noexcept { return packed_; }
     static constexpr PercentRange unpacked(std::uint32_t packed) noexcept { return PercentRange(packed); }
     static constexpr std::uint32_t largestPacked = 0xFFFE'FFFF;

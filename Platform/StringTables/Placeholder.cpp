@@ -20,10 +20,10 @@ public:
         }
         if (next() == '@') // "%@", the most frequent one
             return conversion();
-        int position = 0;
-        if (!this->position(position))
+        int number = 0;
+        if (!position(number))
             return false;
-        out_.position = static_cast<std::uint16_t>(position);
+        out_.position = static_cast<std::uint16_t>(number);
         flags();
         if (!size(out_.width) || (take('.') && !precision()))
             return false;
@@ -130,7 +130,7 @@ private:
     }
 
     bool conversion() noexcept {
-        // Each conversion, and the one as which it is read: "%s" as "%@", "%D" as "%d".
+        // Each conversion, and the one as which it is read ("%s" as "%@", "%D" as "%d"): texts, integers, numbers.
         constexpr std::string_view known = "@sSdiuxXocDUOCfFeEgGaA", read = "@@@diuxXocduocfFeEgGaA";
         const std::size_t found = next() == '\0' ? known.npos : known.find(next());
         if (found == known.npos)

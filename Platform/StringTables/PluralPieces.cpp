@@ -66,7 +66,7 @@ std::size_t PluralPieces::argumentOf(const PluralVariable& named) noexcept {
 void PluralPieces::countMostBefore() noexcept {
     auto& most = mostBefore_.emplace();
     for (const auto& form : variable_->forms) {
-        std::bitset<PluralTable::maxVariables> isNamed;
+        std::bitset<PluralTable::maxVariables> isNamed; // by an earlier placeholder of this form
         ArgumentCounter counter(own_ - 1);
         std::size_t at = 0;
         while (const auto placeholder = form ? nextPlaceholder(*form, at) : std::nullopt) {
@@ -84,7 +84,8 @@ void PluralPieces::countMostBefore() noexcept {
     }
 }
 
-// Whether a placeholder in a form leaves out the variable's own number, which is next after `taken` arguments.
+// Whether the next argument after the `taken` ones is the variable's own number, and this placeholder of a form leaves
+// it out.
 bool PluralPieces::skipsOwn(const Placeholder& placeholder, std::size_t taken) const noexcept {
     return variable_ != nullptr && taken + 1 == own_ && placeholder.position == 0 &&
            placeholder.kind == Placeholder::Kind::text && !isText(variable_->valueType);

@@ -17,7 +17,7 @@ namespace {
 using internal::Contents;
 
 // Selects the text of an entry with a `widthRule` or `deviceRule`: that for the greatest width, or that for the device
-// with the lowest rank. With both rules, a text for a device is selected, because every width has a higher rank.
+// with the lowest rank. With both rules, a text for a device is selected, because the rank of every width is higher.
 class TextChoice {
 public:
     void begin(std::string_view rule) { isByWidth_ = rule == pluralKeys::widthRule; }
@@ -83,7 +83,7 @@ public:
             return internal::tooManyEntries;
         keys_[depth_ - 1].assign(text);
         offsets_[depth_ - 1] = offset;
-        return count(text);
+        return countBytes(text);
     }
 
     const char* string(std::string_view text) override {
@@ -93,7 +93,7 @@ public:
             takeFormat(text);
         else
             takeForm(text);
-        return count(text);
+        return countBytes(text);
     }
 
     void other(const char* what) override {
@@ -120,7 +120,8 @@ private:
     static constexpr std::size_t entryLevel = 1, variableLevel = 2, levels = 3;
     static constexpr std::string_view replaces = " appears again; this one is used";
 
-    const char* count(std::string_view text) noexcept {
+    // Returns an error message when there are too many.
+    const char* countBytes(std::string_view text) noexcept {
         bytes_ += text.size();
         return bytes_ > PluralTable::maxTextBytes ? "the table has too much text" : nullptr;
     }

@@ -20,7 +20,7 @@ public:
         if (size > block_.size())
             return longPart(at, size);
         begin_ = at;
-        size_ = read(block_.data(), block_.size());
+        size_ = read(block_.data(), block_.size(), at);
         return inBlock(at).substr(0, size);
     }
 
@@ -30,15 +30,13 @@ private:
                                                     : std::string_view();
     }
     std::string_view longPart(std::size_t at, std::size_t size) {
-        begin_ = at;
-        size_ = 0;
         long_.resize(std::min(size, file_.size()));
-        return std::string_view(long_).substr(0, read(long_.data(), long_.size()));
+        return std::string_view(long_).substr(0, read(long_.data(), long_.size(), at));
     }
-    std::size_t read(char* out, std::size_t size) const {
+    std::size_t read(char* out, std::size_t size, std::size_t at) const {
         // Asking for more than is left would take another system call.
-        const std::size_t left = file_.size() - std::min(begin_, file_.size());
-        const auto filled = file_.read(out, std::min(size, left), begin_);
+        const std::size_t left = file_.size() - std::min(at, file_.size());
+        const auto filled = file_.read(out, std::min(size, left), at);
         if (!filled)
             Runtime::throwIfTransient(filled.error());
         return filled ? *filled : 0;

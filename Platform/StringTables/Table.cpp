@@ -25,7 +25,7 @@ Location Locator::locate(std::size_t offset) noexcept {
         return {};
     const char* at = source_.data() + at_;
     const char* const end = source_.data() + offset;
-    // mark[1] may be the NUL that follows the source.
+    // Of a CR LF only the LF ends a line. mark[1] may be the NUL that follows the source.
     for (const char* mark = findEither(at, end, '\n', '\r'); mark != end; mark = findEither(mark + 1, end, '\n', '\r'))
         if (*mark == '\n' || mark[1] != '\n') {
             ++location_.line;
@@ -151,7 +151,7 @@ Runtime::Result<void> fill(Contents& contents) {
 } // namespace
 
 Runtime::Result<void> recognize(Contents& contents) {
-    if (contents.source.starts_with("bplist0")) {
+    if (contents.source.starts_with("bplist0")) { // the readers reject unknown versions, such as "01"
         contents.form = Form::binary;
         return {};
     }

@@ -26,7 +26,8 @@ constexpr char16_t nextstep[0x7E] = {
 // and return null; or they change nothing and return what is wrong with the escape.
 using Fault = const char*;
 
-// The UTF-16 unit written as \U and four digits at `at`, or -1. Reads no further than the first other character.
+// The UTF-16 unit written as \U and four digits at `at`, or -1. Reads no further than the first character that does
+// not fit.
 std::int32_t escapedUnit(const char* at) noexcept {
     if (at[0] != '\\' || at[1] != 'U')
         return -1;
@@ -79,7 +80,7 @@ Fault escape(const char*& in, char*& out) noexcept {
         return unicodeEscape(in, out);
     if (c >= '0' && c <= '7')
         return octalEscape(in, out);
-    // Copies the first byte of a multi-byte character; the main loop copies the rest.
+    // If `c` begins a multi-byte character, unescape() copies the rest of it.
     const std::size_t letter = letters.find(c);
     *out++ = letter != letters.npos ? characters[letter] : c;
     in += 2;

@@ -114,8 +114,8 @@ bool TextReader::entry(std::size_t depth, bool isInBraces) {
         return false;
     std::string_view text = key;
     const char* skipped = nullptr;
-    const bool alone = *at_ != '=';
-    if (!alone) {
+    const bool hasValue = *at_ == '=';
+    if (hasValue) {
         ++at_;
         if (!blanks() || !value(text, depth, skipped) || !blanks())
             return false;
@@ -123,9 +123,10 @@ bool TextReader::entry(std::size_t depth, bool isInBraces) {
     if (*at_ == ';')
         ++at_;
     else if (at_ != end_ && !(isInBraces && *at_ == '}'))
-        return fail(at_,
-                    alone ? "expected '=' or ';' after the key " + quoted(key)
-                          : "expected ';' after the " + std::string(skipped ? "value" : "text") + " of " + quoted(key));
+        return fail(at_, (!hasValue ? "expected '=' or ';' after the key "
+                          : skipped ? "expected ';' after the value of "
+                                    : "expected ';' after the text of ") +
+                             quoted(key));
     if (depth > 0) // in a dictionary that is skipped
         return true;
     if (skipped)

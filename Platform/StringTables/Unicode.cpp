@@ -14,8 +14,8 @@ constexpr bool isTail(unsigned char byte) noexcept {
     return !beginsCharacter(static_cast<char>(byte));
 }
 
-// The bounds of the second byte of a character of three or four bytes. They exclude surrogates, overlong forms and code
-// points above U+10FFFF.
+// Whether `byte` can follow `lead` in a character of three or four bytes. The bounds exclude surrogates, overlong forms
+// and code points above U+10FFFF.
 constexpr bool isSecond(unsigned char lead, unsigned char byte) noexcept {
     switch (lead) {
     case 0xE0:
@@ -54,14 +54,16 @@ constexpr std::size_t characterLength(unsigned char lead) noexcept {
     return lead < 0xF0 ? 3 : 4;
 }
 
+// Multiplied by a number, repeats it in each 16-bit lane.
+constexpr std::uint64_t everyUnit = 0x0001000100010001;
+
 // Whether the next eight bytes are four characters of two bytes, as in words of Cyrillic, Greek, Hebrew and Arabic.
 bool areFourPairs(const char* at) noexcept {
-    constexpr std::uint64_t every = 0x0001000100010001;
     const auto bytes = Runtime::loadLittle<std::uint64_t>(at); // leads in the lower halves of the 16-bit lanes
-    const bool haveForm = (bytes & 0xC0E0 * every) == 0x80C0 * every;
+    const bool haveForm = (bytes & 0xC0E0 * everyUnit) == 0x80C0 * everyUnit;
     // Lead bytes C0 and C1 begin overlong forms: their bits 1 to 4 are 0, so adding FE to them does not carry.
-    const std::uint64_t carries = (bytes & 0x001E * every) + 0x00FE * every;
-    return haveForm && (carries & 0x0100 * every) == 0x0100 * every;
+    const std::uint64_t carries = (bytes & 0x001E * everyUnit) + 0x00FE * everyUnit;
+    return haveForm && (carries & 0x0100 * everyUnit) == 0x0100 * everyUnit;
 }
 
 } // namespace
@@ -107,8 +109,6 @@ char* putUtf8(char* out, char32_t code) noexcept {
 
 namespace {
 
-constexpr std::uint64_t everyUnit = 0x0001000100010001;
-
 // Four units, the first in the lowest bits.
 std::uint64_t fourUnits(const char* from, ByteOrder order) noexcept {
     std::uint64_t units;
@@ -130,10 +130,10 @@ char* putOneOrTwo(char* out, char32_t code) noexcept {
 } // namespace
 
 Decoded decodeUtf16(std::string_view bytes, ByteOrder order, char* out) noexcept {
-    const std::size_t first = order == ByteOrder::big ? 0 : 1; // of a unit's bytes, the more significant
+    const std::size_t high = order == ByteOrder::big ? 0 : 1; // the place of a unit's more significant byte
     const auto unitAt = [&](std::size_t at) {
-        return static_cast<char32_t>(static_cast<unsigned char>(bytes[at + first]) << 8 |
-                                     static_cast<unsigned char>(bytes[at + 1 - first]));
+        return static_cast<char32_t>(static_cast<unsigned char>(bytes[at + high]) << 8 |
+                                     static_cast<unsigned char>(bytes[at + 1 - high]));
     };
     std::size_t at = 0;
     while (bytes.size() - at >= 2) {

@@ -124,7 +124,7 @@ void appendQuoted(std::string& out, std::string_view text) {
 Runtime::Result<std::string> write(Entries entries, Form form, Comments comments) {
     if (form == Form::binary)
         return writeBinary(entries);
-    if (auto fits = checkWrittenSize(sizeOf(entries)); !fits) // before memory is used for them
+    if (auto fits = checkWrittenSize(sizeOf(entries)); !fits) // before memory is used for the output
         return std::move(fits.error());
     return form == Form::text ? writeText(entries, comments) : writeXml(entries, comments);
 }

@@ -38,7 +38,7 @@ private:
     struct Level {
         Kind kind;
         bool hasKey = false;    // dict: a key without its value so far
-        bool filled = false;    // plist: its one value was read
+        bool isFilled = false;  // plist: its one value was read
         bool isWanted = false;  // dict: the sink wants its entries; key or value: it is in such a dict
         std::size_t offset = 0; // key: where it begins
     };
@@ -63,9 +63,9 @@ std::string XmlReader::checkPlacement(const Element& element) {
     // A <plist> inside of another element is rejected like a child of a leaf.
     switch (element.kind == Kind::plist ? Kind::leaf : parent.kind) {
     case Kind::plist:
-        if (parent.filled || element.kind != Kind::dict)
-            return parent.filled ? "a second value in <plist>" : "expected <dict>, not " + tag();
-        parent.filled = true;
+        if (parent.isFilled || element.kind != Kind::dict)
+            return parent.isFilled ? "a second value in <plist>" : "expected <dict>, not " + tag();
+        parent.isFilled = true;
         return {};
     case Kind::dict:
         if (parent.hasKey == (element.kind == Kind::key))
@@ -106,9 +106,9 @@ bool XmlReader::isWanted(Kind kind) const noexcept {
 std::string XmlReader::close(XmlPlace) {
     const Level closed = levels_.back();
     levels_.pop_back();
-    if (closed.hasKey)
+    if (closed.hasKey) // which is still in text_
         return "the key " + quoted(text_) + " has no value";
-    if (closed.kind == Kind::plist && !closed.filled)
+    if (closed.kind == Kind::plist && !closed.isFilled)
         return "<plist> is empty";
     if (!closed.isWanted)
         return {};

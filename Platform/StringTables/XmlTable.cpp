@@ -11,10 +11,12 @@ public:
     explicit TableSink(Contents& contents) : contents_(contents) {}
 
     bool beginDictionary() override {
-        if (!inTable_)
-            return inTable_ = true;
-        other("a dictionary");
-        return false;
+        if (inTable_) {
+            other("a dictionary");
+            return false;
+        }
+        inTable_ = true;
+        return true;
     }
     void endDictionary() override {}
     const char* key(std::string_view text, std::size_t offset) override {

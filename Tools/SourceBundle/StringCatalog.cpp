@@ -285,7 +285,7 @@ private:
     Runtime::Result<std::string> readCatalog(ondemand::document& document) {
         ondemand::object catalog = document.get_object();
         sourceLanguage_ = std::string(std::string_view(catalog.find_field_unordered("sourceLanguage").get_string()));
-        if (!layout::isLanguage(sourceLanguage_))
+        if (!layout::canBeLanguage(sourceLanguage_))
             return Runtime::Error{.message = noLanguage(sourceLanguage_), .file = file_};
         ondemand::object strings = catalog.find_field_unordered("strings").get_object();
         for (auto field : strings) {
@@ -324,7 +324,7 @@ private:
                 forEach(value, [&](std::string_view language, ondemand::value localization) {
                     auto& [code, localized] = localizations.emplace_back(std::string(language), Localized());
                     readLocalized(localization, localized);
-                    if (!layout::isLanguage(code)) {
+                    if (!layout::canBeLanguage(code)) {
                         diagnostics_.add(Severity::warning, {.message = noLanguage(code) + "; its text is left out",
                                                              .file = file_,
                                                              .line = line,

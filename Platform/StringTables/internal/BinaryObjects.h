@@ -19,8 +19,8 @@ public:
     struct Object {
         std::size_t at = 0;      // the offset of the marker byte
         std::uint8_t type = 0;   // the upper four bits of the marker byte
-        std::uint64_t count = 0; // of the bytes, UTF-16 units or entries; until it is read, the lower four bits
-        std::size_t begin = 0;   // where they begin
+        std::uint64_t count = 0; // of bytes, UTF-16 units or entries; until it is read, the marker's lower four bits
+        std::size_t begin = 0;   // where these begin
 
         bool isString() const noexcept { return type == ascii || type == utf16; }
     };

@@ -1,5 +1,5 @@
 // StringTables/internal/BinaryWriter.h
-// Builds a binary property list of dictionaries, strings and objects that the caller writes.
+// Builds a binary property list of dictionaries, strings, and objects whose bytes the caller fills in.
 // Text: takes UTF-8, stores ASCII or UTF-16. Threads: one at a time. Ownership: borrows its strings until write()
 // returns.
 #pragma once

@@ -59,7 +59,7 @@ constexpr bool isFileName(std::string_view name) noexcept {
 }
 
 // Whether `name` with languageSuffix can be the name of a folder. Names come from files that others wrote, too.
-constexpr bool isLanguage(std::string_view name) noexcept {
+constexpr bool canBeLanguage(std::string_view name) noexcept {
     constexpr std::size_t longestName = 255; // NAME_MAX
     return isFileName(name) && name.size() + languageSuffix.size() <= longestName;
 }

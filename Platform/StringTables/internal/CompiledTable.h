@@ -67,7 +67,8 @@ private:
     mutable std::atomic<std::ptrdiff_t> left_;
 };
 
-// The texts that are checked are together at most this many times as long as the front. Our writer stays below that.
+// The texts that are checked are together at most this many times as long as the front. writeCompiled() stays below
+// that.
 inline constexpr std::size_t mostTextPerFront = 8;
 
 // Whether the text is UTF-8 and, by the slot's checksum, that of the key with this hash.

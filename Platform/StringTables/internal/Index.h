@@ -54,7 +54,7 @@ private:
     // Adds the entry `number` and returns `none`, or returns the number of the entry that has its key.
     template <class Entry> std::size_t add(std::size_t number, const std::vector<Entry>& entries);
 
-    std::unique_ptr<std::uint64_t[]> slots_; // null until the first entry
+    std::unique_ptr<std::uint64_t[]> slots_; // null until the first clear()
     std::uint64_t mask_ = 0;
     std::uint64_t seed_ = 0;
 };

@@ -1,6 +1,6 @@
 // StringTables/internal/Placeholder.h
-// Parses the printf-style placeholders of a text and finds the arguments they take. Shared by the formatter, which
-// fills them, and the generator, which turns them into parameters.
+// Parses the printf-style placeholders of a text and finds the arguments they take. Shared by the formatter and
+// the tools.
 // Text: any bytes, UTF-8 expected. Threads: any; no state.
 #pragma once
 

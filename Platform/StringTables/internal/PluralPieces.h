@@ -16,17 +16,18 @@ namespace StringTables {
 
 struct PluralPiece {
     Placeholder placeholder; // `end` is after the "NAME@" of a variable
-    // The variable of "%#@days@", or null for any other placeholder.
+    // The variable of "%#@days@"; null for any other placeholder and if the format has no variable of that name.
     const PluralVariable* variable = nullptr;
-    // The arguments it takes, counted from 1. For a variable: the argument that selects its form.
+    // The arguments it takes, counted from 1. For a variable, `value` is the argument that selects its form.
     ArgumentCounter::Taken arguments;
 };
 
-// The placeholders of one text in order. In the format itself each takes the next argument, as in any text. In a form
-// the first placeholder takes the variable's own number, unless it prints a text and the value type is not "@": then it
-// takes the argument after that, so that a form without its number, such as "One file by %@", takes the same arguments
-// as the other forms. A variable inside a form takes the argument that it takes in the form with the most arguments
-// before it. If no form has two variables without a position, that is the same argument in all forms.
+// The placeholders of one text in order. These rules are for placeholders without a position. In the format itself each
+// takes the next argument, as in any text. In a form the first placeholder takes the variable's own number, unless it
+// prints a text and the value type is not "@": then it takes the argument after that, so that a form without its
+// number, such as "One file by %@", takes the same arguments as the other forms. For the same reason, an inner variable
+// takes the argument that it has in the form that takes the most arguments before it; it may take a later one in a form
+// with several inner variables.
 class PluralPieces {
 public:
     explicit PluralPieces(const PluralFormat& plural) noexcept : plural_(plural), text_(plural.format) {}
@@ -50,8 +51,8 @@ private:
     std::size_t own_ = 0;                      // the argument that is the variable's number
     std::size_t at_ = 0;
     ArgumentCounter counter_;
-    // For each variable, the last argument before it in the form with the most arguments before it. Counted when first
-    // needed.
+    // For each variable: how many arguments are taken before it, in the form where these are the most. Counted when
+    // first needed.
     std::optional<std::array<std::uint32_t, PluralTable::maxVariables>> mostBefore_;
 };
 

@@ -1,5 +1,5 @@
 // StringTables/internal/PropertyListSink.h
-// Receives the content of a property list in order, from the reader of either form.
+// Receives the content of a property list in order, from the reader of either form, XML or binary.
 // Text: UTF-8, valid during the call only.
 #pragma once
 
@@ -19,7 +19,7 @@ public:
     // Each key is followed by its value. key() and string() return null, or an error message that stops the reader.
     virtual const char* key(std::string_view text, std::size_t offset) = 0;
     virtual const char* string(std::string_view text) = 0;
-    // A value of another type: "an array". Nothing inside it is reported.
+    // A value of another type, described by `what` ("an array"). Nothing inside it is reported.
     virtual void other(const char* what) = 0;
 
 protected:

@@ -56,7 +56,7 @@ private:
     // Up to this number, reading single texts is cheaper than reading the whole table.
     static constexpr std::size_t mostParts = 3;
 
-    // The table, read as a whole: the front of a compiled table, or all of another.
+    // The table, read as a whole: the front of a compiled table, or all of any other.
     struct Whole {
         Whole() = default; // without texts
         explicit Whole(Table table) noexcept : other(std::move(table)) {}

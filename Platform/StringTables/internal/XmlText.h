@@ -15,7 +15,8 @@ namespace StringTables::internal {
 // Escapes `text` as element content. With `inAscii`, characters that are not ASCII become numeric references.
 [[nodiscard]] std::string xmlText(std::string_view text, bool inAscii = false);
 
-// `text` with a space in every `mark` of two characters, so that it can be in a comment that `mark` would end.
+// `text` with a space inside every `mark`, which has two characters, so that it can be in a comment that `mark` would
+// end.
 [[nodiscard]] std::string withoutMark(std::string_view text, std::string_view mark);
 
 } // namespace StringTables::internal
