@@ -68,6 +68,7 @@ void removeConsequences(std::vector<Finding>& findings, const Source& source) {
     });
 }
 
+// A key that appears again in a string catalog has an equal finding for each of its languages.
 void sortAndRemoveRepeated(std::vector<Finding>& findings) {
     const auto members = [](const Finding& one) {
         return std::tie(one.file, one.line, one.column, one.rule, one.language, one.subject, one.message);

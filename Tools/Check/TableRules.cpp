@@ -36,13 +36,13 @@ bool endsWithSpace(std::string_view text) {
 }
 
 // "begins with" or "begins without", or an empty string if nothing is wrong.
-std::string differenceOf(const char* verb, bool hasOwn, bool hasOther, const Text& text) {
+std::string differenceOf(const char* verb, bool hasSpace, bool developmentHasSpace, const Text& text) {
     // If only one of the languages writes without spaces, its text may omit the space. `spaced` is the language whose
     // text has it.
-    const auto [spaced, other] = hasOwn ? std::pair(text.languages.own, text.languages.development)
-                                        : std::pair(text.languages.development, text.languages.own);
-    const bool isFault = hasOwn != hasOther && (writesWithoutSpaces(spaced) || !writesWithoutSpaces(other));
-    return isFault ? std::string(verb) + (hasOwn ? " with" : " without") : "";
+    const auto [spaced, other] = hasSpace ? std::pair(text.languages.own, text.languages.development)
+                                          : std::pair(text.languages.development, text.languages.own);
+    const bool mayDiffer = !writesWithoutSpaces(spaced) && writesWithoutSpaces(other);
+    return hasSpace != developmentHasSpace && !mayDiffer ? std::string(verb) + (hasSpace ? " with" : " without") : "";
 }
 
 void checkEdges(const Text& text, Report& report) {

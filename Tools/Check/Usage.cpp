@@ -37,7 +37,7 @@ std::string_view innermost(std::string_view groups) {
 
 class Accessors {
 public:
-    explicit Accessors(const Model& model, std::string_view language) {
+    Accessors(const Model& model, std::string_view language) {
         for (const Generator::AccessorTable& table : model.tables)
             for (const Generator::NamedEntry& entry : table.entries)
                 add(table, entry, language);

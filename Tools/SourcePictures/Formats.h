@@ -1,5 +1,6 @@
 // SourcePictures/Formats.h
-// Detects the format of a picture from its first bytes; internal.
+// Detects the format of a picture from its first bytes; internal. formatOf() is in PictureFile.cpp, because the plug-in
+// needs only the enumeration.
 #pragma once
 
 #include <optional>

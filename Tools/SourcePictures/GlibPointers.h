@@ -11,7 +11,7 @@
 namespace SourcePictures {
 
 struct Release {
-    void operator()(void* object) const { g_object_unref(object); }
+    void operator()(void* object) const { g_object_unref(object); } // all other types are GObjects
     void operator()(GBytes* bytes) const { g_bytes_unref(bytes); }
     void operator()(GError* error) const { g_error_free(error); }
     void operator()(gchar* text) const { g_free(text); }
