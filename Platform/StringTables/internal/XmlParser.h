@@ -50,9 +50,10 @@ struct XmlFault {
     std::size_t offset = 0; // of the fault, from the beginning of the source
     std::string entity{};   // if not empty, the name of an entity that parseXml() appends to the message
 };
-// Parses `source` from `begin` on. With `isUtf8` the source is UTF-8, otherwise it has the encoding that it declares.
+// The type of a function that parses `source` from `begin` on. With `isUtf8` the source is UTF-8, otherwise it has the
+// encoding that it declares.
 using XmlParser = XmlFault(std::string_view source, std::size_t begin, bool isUtf8, XmlHandler& handler);
-XmlParser parseByExpat;
+XmlParser parseByExpat; // declares a function of that type
 
 // The linked parser, or that of the plug-in: the platform and the tools link different definitions of this function.
 [[nodiscard]] Runtime::Result<XmlParser*> xmlParser();
