@@ -25,9 +25,9 @@ struct PluralPiece {
 // The placeholders of one text in order. These rules are for placeholders without a position. In the format itself each
 // takes the next argument, as in any text. In a form the first placeholder takes the variable's own number, unless it
 // prints a text and the value type is not "@": then it takes the argument after that, so that a form without its
-// number, such as "One file by %@", takes the same arguments as the other forms. For the same reason, an inner variable
-// takes the argument that it has in the form that takes the most arguments before it; it may take a later one in a form
-// with several inner variables.
+// number, such as "One file by %@", takes the same arguments as the other forms. For the same reason, a variable inside
+// a form takes the argument that it has in the form with the most arguments before it, or a later one in a form with
+// several variables.
 class PluralPieces {
 public:
     explicit PluralPieces(const PluralFormat& plural) noexcept : plural_(plural), text_(plural.format) {}
