@@ -36,8 +36,8 @@ TEST(DamagedCatalog, EveryByteAltered) {
             if (!isSound(bytes))
                 ++refused;
         }
-    // Changes of colour components, catalog names, padding and blobs are not detected; that is less than half of the
-    // bytes.
+    // Each byte has four changes. Those of colour components, catalog names, padding and blobs, which are less than
+    // half of the bytes, are not detected.
     EXPECT_GT(refused, sound.size() * 2);
 }
 

@@ -34,7 +34,7 @@ TEST(Fit, BestVariant) {
         {__LINE__, "---1", {"---3", "---2"}, "---2"},
         {__LINE__, "---2", {"---1", "---3"}, "---3"},
         {__LINE__, "---4", {"---1", "---3", "---2"}, "---3"},
-        // Appearance and direction: the wanted one, any, another; if none is wanted, the more common one.
+        // Appearance, direction, contrast: the wanted one, any, another; if none is wanted, the more common one.
         {__LINE__, "-d--", {"----", "-l--", "-d--"}, "-d--"},
         {__LINE__, "-d--", {"-l--", "----"}, "----"},
         {__LINE__, "-l--", {"-d--", "----"}, "----"},

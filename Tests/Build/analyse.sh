@@ -22,7 +22,7 @@ if ! run-clang-tidy-14 -quiet -j 2 -p build/clang-14 "^$PWD/($folders)/(?!Genera
     exit 1
 fi
 
-# cppcheck cannot read non-ASCII identifiers, which are in the golden files and in the test of the whole tree.
+# cppcheck cannot read non-ASCII identifiers, which are in the golden files and in the test of the accessors.
 step "cppcheck"
 cppcheck -q -j2 --std=c++20 --library=googletest --enable=warning,performance,portability,style --inline-suppr \
     --error-exitcode=1 --suppressions-list=Tests/Build/cppcheck-suppressions.txt -I . -I Platform -I Tools \

@@ -1,5 +1,5 @@
 """Runs all examples of README.md and the pages of Docs/ with the installed package: writes the files in them, runs their commands,
-and compares the output with the page. C++ fragments are compiled with the module."""
+and compares the output with the page. C++ fragments are compiled with the module Shop."""
 import os
 import pathlib
 import re
@@ -20,8 +20,8 @@ PAGES = {"README.md": SHOP, "Docs/own-module.md": EMPTY, "Docs/add-a-text.md": S
 # "```cpp" begins a block of C++, "```cpp main.cpp" the contents of a file, "```cpp >>main.cpp" an addition to it.
 BLOCK = re.compile(r"^```(\w+)(?: (>>)?(\S+))?\n(.*?)^```$", re.DOTALL | re.MULTILINE)
 INDENTED = re.compile(r"(?:\A|\n)\n    (?! )(.*)")  # the first line of a block that is only indented
-BUILDS_LUMORA = re.compile(r"cmake .*\bbuild/own\b")  # already built for this test
-INSTALLED = "/opt/lumora"  # where the pages install it
+BUILDS_LUMORA = re.compile(r"cmake .*\bbuild/own\b")  # not run: this test installs the build that it is run from
+INSTALLED = "/opt/lumora"  # where the pages install Lumora
 
 
 def text_of(page):
@@ -30,7 +30,7 @@ def text_of(page):
 
 
 def until_interrupted(command, folder, environment):
-    """The status and output of a program that runs until it is interrupted."""
+    """The status and output of a program that is interrupted after its first line."""
     process = subprocess.Popen(["bash", "-c", "exec " + command], cwd=folder, env=environment, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
                                text=True)
     first = process.stdout.readline()
@@ -64,27 +64,27 @@ def follow(page, folder, environment):
     faults = [f"{page}: a block without a kind: {line}" for line in INDENTED.findall(BLOCK.sub("", text))]
     fragments = {"cpp": [], "cmake": []}
     prefix = environment["PREFIX"]
-    for kind, appends, file, text in BLOCK.findall(text):
-        text = text.replace(INSTALLED, prefix)
+    for kind, appends, file, block in BLOCK.findall(text):
+        block = block.replace(INSTALLED, prefix)
         if file:
             path = folder / file
             path.parent.mkdir(parents=True, exist_ok=True)
             with open(path, "a" if appends else "w", encoding="utf-8") as out:
-                out.write(text)
+                out.write(block)
         elif kind in ("console", "sh"):
-            for command, expected in commands(kind, text):
+            for command, expected in commands(kind, block):
                 status, printed = status_and_output(command, folder, environment)
                 if status != 0 or expected not in (None, printed):
                     faults.append(f"{page}: {command}\n  status {status}, printed: {printed}")
         elif kind in fragments:
-            fragments[kind].append(text)
+            fragments[kind].append(block)
         else:
             faults.append(f"{page}: a block of {kind}, which is not tested")
     return faults, fragments
 
 
 def compile_fragments(fragments, folder, prefix):
-    """Compiles the C++ fragments as a main(), with the accessors of the page's resources."""
+    """Compiles the C++ fragments as a main(), in a project of the CMake fragments or, if there are none, in the folder's own."""
     (folder / "main.cpp").write_text("#include <Shop/Shop.h>\n#include <cstdio>\n#include <string>\nint main() {\n" + "".join(fragments["cpp"]) + "}\n",
                     encoding="utf-8")
     if fragments["cmake"]:

@@ -1,4 +1,4 @@
-"""Installs the package, moves it, and uses it like other programs."""
+"""Installs the package, moves it, and uses it as other programs do."""
 import concurrent.futures
 import os
 import pathlib
@@ -80,7 +80,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     done = subprocess.run(read, capture_output=True, text=True)
     expect("without the plug-in", (done.returncode, done.stdout, plugin.name in done.stderr), (2, "", True))
 
-    # Drawings are drawn by another plug-in. Without it a compile fails, but texts and pictures that are drawn already need none.
+    # Drawings are drawn by another plug-in. Only texts, and pictures that an earlier compile drew, are compiled without it.
     picture = folder / "Drawn/A.xcassets/p.imageset"
     picture.mkdir(parents=True)
     (picture / "Contents.json").write_text('{"images": [{"filename": "p.svg"}]}')

@@ -1,4 +1,5 @@
-"""Fails if a shared library runs code when it is loaded, needs an unnecessary library, or exports symbols that are not part of its interface."""
+"""Fails if a shared library runs code when it is loaded, needs an unnecessary library, exports symbols that are not part of its interface,
+or lacks some that are."""
 import re
 import subprocess
 import sys
@@ -8,6 +9,7 @@ MODULE, PLATFORM = "Lumora|Corvane", "Foundation|UIKit|SwiftUI|Runtime"
 C_FUNCTIONS = {"Loc", "LocNumber", "LocNumberWithPositivePrefix", "LocAge", "LocPercent", "LocPercentSigned",
                "NSStringCreate", "NSStringUTF8", "NSNumberCreateInteger", "NSNumberCreateDouble", "NSRelease"}
 
+# The libraries of every C++ program, and those of the sanitizers.
 SYSTEM = ("libstdc++.so", "libm.so", "libgcc_s.so", "libc.so", "ld-linux", "libasan.so", "libubsan.so", "libtsan.so")
 
 

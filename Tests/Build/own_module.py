@@ -54,7 +54,7 @@ def build_and_change(prefix, folder, generator):
     run(*make)
     expect(f"{generator}: nothing to do", (changed(files, times(bundle, "*")), changed(objects, times(build, "*.o"))), ([], []))
 
-    # A changed translation: its table and the mark file, but no source.
+    # A changed translation: its table and the bundle's mark file are written, but no source is compiled.
     replace(shop / "Resources/de.lproj/Localizable.strings", "Zum Warenkorb", "Zum Korb")
     run(*make)
     expect(f"{generator}: a translation", (changed(files, times(bundle, "*")), changed(objects, times(build, "*.o"))),

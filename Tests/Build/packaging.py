@@ -33,7 +33,7 @@ def russian(key):
 
 
 def compile_by_pkg_config(package, sources, program, compiler, pkgconfig):
-    """Compiles a client with the flags of pkg-config only."""
+    """Compiles a client with the flags of pkg-config only. `pkgconfig` is the folder of PACKAGE.pc."""
     environment = os.environ | {"PKG_CONFIG_PATH": str(pkgconfig)}
     flags = subprocess.run(["pkg-config", "--cflags", "--libs", package], check=True, capture_output=True,
                            env=environment).stdout

@@ -9,9 +9,9 @@ import tempfile
 from packaging import NUMBER, compile_by_pkg_config, expect, options, run, russian, source
 
 
-def installed(prefix, library):
-    """The relative paths of the files that two installations must have in common."""
-    return {str(path.relative_to(prefix)).replace(f"{library.relative_to(prefix)}/", "LIB/"): path
+def installed(prefix, libraries):
+    """The files that two installations must have in common, by relative path; LIB is the folder of the libraries."""
+    return {str(path.relative_to(prefix)).replace(f"{libraries.relative_to(prefix)}/", "LIB/"): path
             for path in prefix.rglob("*") if path.is_file() and path.suffix not in (".cmake", ".pc")}
 
 
@@ -40,14 +40,14 @@ with tempfile.TemporaryDirectory(prefix="lumora-parent-") as folder:
 
     run(options.cmake, "--install", options.build, "--prefix", folder / "other")
     [other] = (folder / "other").rglob("liblumora.so")
-    mine, theirs = installed(usr, library.parent), installed(folder / "other", other.parent)
-    for name in sorted(set(mine) & set(theirs)):
+    distributed, own = installed(usr, library.parent), installed(folder / "other", other.parent)
+    for name in sorted(set(distributed) & set(own)):
         # Debug information contains folder names.
-        if "BUILD_TYPE:STRING=Release" in cache and not filecmp.cmp(mine[name], theirs[name], shallow=False):
+        if "BUILD_TYPE:STRING=Release" in cache and not filecmp.cmp(distributed[name], own[name], shallow=False):
             raise SystemExit(f"{name} differs between two builds in different folders")
     # The parent project builds no program.
     tools = folder / "tools"
     run(options.cmake, "--install", options.build, "--prefix", tools, "--component", "tools")
-    missing = set(theirs) - set(mine) - set(installed(tools, tools / other.parent.relative_to(folder / "other")))
-    expect("files of one installation only", sorted(missing), [])
+    missing = set(own) - set(distributed) - set(installed(tools, tools / other.parent.relative_to(folder / "other")))
+    expect("files that only our own build installs", sorted(missing), [])
 print("a parent project builds its own target, and a distribution's package is complete and reproducible")

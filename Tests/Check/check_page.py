@@ -7,7 +7,7 @@ import subprocess
 import sys
 import tempfile
 
-# A white pixel, because the page cannot show the contents of a bitmap.
+# The contents of every bitmap, which the page cannot show: a white pixel.
 PIXEL = base64.b64decode("iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAAAAAA6fptVAAAACklEQVR4nGP4DwABAQEAsTj2FAAAAABJRU5ErkJggg==")
 BITMAP = re.compile(r'"filename": "([^"]+\.png)"')
 BLOCK = re.compile(r"```\w+ (\S+)\n(.*?)```", re.DOTALL)
@@ -42,7 +42,7 @@ def main(page, program):
         arguments = arguments[0].split() if arguments else []
         # A name that begins with ../ is outside of the source.
         parts = re.split(r"^(Found|Not found):$", section, flags=re.MULTILINE)
-        examples = {parts[i]: {f"source/{name}" if "../" not in name else name[3:]: content for name, content in BLOCK.findall(parts[i + 1])}
+        examples = {parts[i]: {name[3:] if name.startswith("../") else f"source/{name}": content for name, content in BLOCK.findall(parts[i + 1])}
                     for i in range(1, len(parts), 2)}
         if set(examples) != {"Found", "Not found"}:
             faults.append(f"{rule}: has the examples {sorted(examples)}, not one of each kind")

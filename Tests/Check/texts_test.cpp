@@ -86,6 +86,7 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
     };
     for (const auto& one : cases)
         EXPECT_EQ(rulesFor(one.language, one.development, one.translation), one.rules) << "line " << one.line;
+    // The same if the development language writes without spaces.
     CheckedSource japanese{{"Info.plist", "CFBundleDevelopmentRegion = ja;"},
                            {"ja.lproj/T.strings", entry("氏名：")},
                            {"de.lproj/T.strings", entry("Name: ")},
@@ -115,7 +116,7 @@ TEST(Check, ReportsAnErrorOnceIfOthersFollowFromIt) {
     source.write("de.lproj/T.strings", "a = eins;");
     EXPECT_EQ(source.findings(), Strings{"unreadable-table en.lproj/T.strings:1:5 en "});
     source.write("en.lproj/T.strings", "a = one;\nb = two;");
-    // A second file for the same table and language; the first one is in More/, which is read earlier.
+    // Two files for one table and language: that in More/ is read first, so the other is reported.
     source.write("More/de.lproj/T.strings", "b = zwei;");
     EXPECT_EQ(source.findings(), Strings{"unreadable-table de.lproj/T.strings:0:0 de "});
 
@@ -130,7 +131,7 @@ TEST(Check, NamesKeysWithoutAccessor) {
     EXPECT_EQ(source.findings(),
               (Strings{"name-clash Base.lproj/T.strings:2:1 Base x_y", "unnamed-key Base.lproj/T.strings:3:1 Base ",
                        "placeholder-mismatch Base.lproj/T.strings:4:1 Base m"}));
-    // Another language's placeholders are not the reason.
+    // A mismatch in another language is not why "--" has no accessor, so both are reported.
     CheckedSource catalog{{"T.xcstrings", R"({"sourceLanguage": "en", "version": "1.0", "strings": {
 "--": {"localizations": {"en": {"stringUnit": {"value": "%@"}}, "en-GB": {"stringUnit": {"value": "%d"}}}}}})"}};
     EXPECT_EQ(catalog.findings(),

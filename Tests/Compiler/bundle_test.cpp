@@ -221,7 +221,7 @@ TEST(CompileBundle, ReusesTheLastCompile) {
     folder.write("source/A.xcassets/two.imageset/p", svg(3, "red"));
     compileAndCompare(__LINE__);
 
-    // A changed table or catalog is not reused, nor a list of what was compiled whose numbers are not valid.
+    // A changed table or catalog is not reused, nor is the list of compiled files if it has invalid numbers or is cut.
     std::string table = Support::contents(bundle / "de.lproj/A.strings");
     table.back() = static_cast<char>(~table.back());
     folder.write("out.bundle/de.lproj/A.strings", table);
@@ -256,7 +256,7 @@ TEST(CompileBundle, ReplacesNothingButABundle) {
     EXPECT_NE(compile(folder / "source", folder / "none/out.bundle").failure, "");
 }
 
-TEST(CompileBundle, IgnoresLinksThatLeadOut) {
+TEST(CompileBundle, RejectsLinksThatLeadOut) {
     const Support::TemporaryFolder folder;
     const fs::path secret = folder.write("elsewhere/T.strings", "a = secret;");
     folder.write("source/Base.lproj/T.strings", "a = b;");
@@ -293,9 +293,9 @@ TEST(CompileBundle, RemovesOnlyFoldersOfKilledCompiles) {
     ASSERT_EQ(staged(folder.path()).size(), 1U);
 
     fs::create_directory(folder / "out.bundle.staged-killed"); // killed before it was marked
-    // What is kept: a copy, the staged folder of another bundle, one without the mark, and a link to another folder.
-    const std::set<std::string> others = {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef",
-                                          "out.bundle.staged-abcdef", "out.bundle.staged-ABCDEF"};
+    // Kept: a copy, the staged folder of another bundle, one without the mark, and a link to another folder.
+    const std::set<std::string> kept = {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef",
+                                        "out.bundle.staged-abcdef", "out.bundle.staged-ABCDEF"};
     for (const std::string name : {"out.bundle.staged-backup2", "out2.bundle.staged-abcdef", "dear"})
         folder.write(name + "/.lumora-bundle", "");
     folder.write("out.bundle.staged-abcdef/A", "");
@@ -305,11 +305,11 @@ TEST(CompileBundle, RemovesOnlyFoldersOfKilledCompiles) {
     std::size_t living = 0;
     const Outcome outer = compile(source, bundle, [&](auto, auto, auto) {
         EXPECT_EQ(compile(source, bundle).failure, "");
-        living = staged(folder.path()).size() - others.size();
+        living = staged(folder.path()).size() - kept.size();
     });
     EXPECT_EQ(outer.failure, "");
     EXPECT_EQ(living, 1U);
-    EXPECT_EQ(staged(folder.path()), others);
+    EXPECT_EQ(staged(folder.path()), kept);
     EXPECT_TRUE(fs::exists(folder / "dear/.lumora-bundle"));
     EXPECT_EQ(Support::filesBelow(bundle).size(), 3U);
 }

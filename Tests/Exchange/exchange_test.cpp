@@ -85,6 +85,7 @@ TEST(ExchangeFiles, RoundTripEveryText) {
         const auto xliff = Exchange::readXliff(Exchange::writeXliff(translations, "1"), "f", diagnostics);
         ASSERT_TRUE(xliff) << xliff.error().text();
         std::string bytes = Exchange::writePo(translations, diagnostics);
+        // An obsolete entry, which is ignored.
         bytes.insert(bytes.find("\n\n"), "\n\n#, fuzzy\n#~ msgid \"obsolete\"\n#~ msgstr \"\"");
         const auto po = Exchange::readPo(bytes, "f", diagnostics);
         ASSERT_TRUE(po) << po.error().text();
@@ -175,6 +176,7 @@ TEST(PluralExpressions, MatchTheLanguages) {
 const std::string plist = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n";
 const std::string rule = "<key>NSStringFormatSpecTypeKey</key> <string>NSStringPluralRuleType</string>\n"
                          "<key>NSStringFormatValueTypeKey</key> <string>ld</string>\n";
+// A plural table with the key "files"; `forms` belong to the variable n of its format.
 std::string filesEntry(const std::string& format, const std::string& forms) {
     return plist + "<dict>\n  <key>files</key>\n  <dict>\n    <key>NSStringLocalizedFormatKey</key>\n    <string>" +
            format + "</string>\n    <key>n</key>\n    <dict>\n" + rule + forms +
@@ -183,8 +185,8 @@ std::string filesEntry(const std::string& format, const std::string& forms) {
 const std::string oneAndOther =
     "      <key>one</key> <string>%ld file</string>\n      <key>other</key> <string>%ld files</string>";
 
-// UTF-16 with a byte-order mark.
-std::string wide(const std::string& ascii) {
+// Little-endian UTF-16 with a byte-order mark.
+std::string utf16(const std::string& ascii) {
     std::string out = "\xFF\xFE";
     for (const char c : ascii)
         (out += c) += '\0';
@@ -206,11 +208,12 @@ struct ImportResult {
     Strings messages;
 };
 // Exports the German texts of a source, edits them and imports them.
-ImportResult import(Support::SourceFolder& folder, const std::vector<Edit>& edits, bool keepGoing = false) {
+ImportResult importEdited(Support::SourceFolder& folder, const std::vector<Edit>& edits) {
     const std::filesystem::path folders[] = {folder.path()};
     const auto source = SourceBundle::Source::read(folders, {}, folder.diagnostics);
     folder.diagnostics = {};
-    Translations translations = Exchange::translationsOf(source, folders, "de", false, folder.diagnostics);
+    Translations translations =
+        Exchange::translationsOf(source, folders, "de", /*onlyMissing=*/false, folder.diagnostics);
     for (const Edit& edit : edits) {
         const auto id = *Exchange::unitIdOf(edit.id);
         auto unit = std::ranges::find(translations.units, id, &Unit::id);
@@ -219,8 +222,7 @@ ImportResult import(Support::SourceFolder& folder, const std::vector<Edit>& edit
         unit->target = edit.target;
         unit->state = edit.state;
     }
-    const auto imported =
-        Exchange::importTranslations(source, std::span(&translations, 1), {.keepGoing = keepGoing}, folder.diagnostics);
+    const auto imported = Exchange::importTranslations(source, std::span(&translations, 1), {}, folder.diagnostics);
     if (!imported)
         return {.messages = {imported.error().text()}};
     return {imported->texts, imported->files, folder.takeMessages()};
@@ -247,7 +249,7 @@ TEST(Imports, ChangeNothingButTexts) {
         {__LINE__,
          "T.strings",
          odd,
-         {{"T/b", "Y"}, {"T/c", "z"}, {"T/d", ""}},
+         {{"T/b", "Y"}, {"T/c", "z"}, {"T/d", ""}}, // an empty translation is ignored
          "// top\n\"a\" = \"x\"; /* a's */ 'b'=\"Y\";\"c\" = \"z\";\n\n/* d */ \"d\" /* d2 */ =\n\t\"\\U0041 \\\"\" ;"},
         {__LINE__,
          "T.strings",
@@ -274,7 +276,7 @@ TEST(Imports, ChangeNothingButTexts) {
          "a = 1; a = 2; b = (x, \"y;\"); // b",
          {{"T/a", "3"}, {"T/b", "B"}},
          "a = 1; a = \"3\"; b = (x, \"y;\"); // b\n\"b\" = \"B\";\n"},
-        {__LINE__, "T.strings", wide("a = b;"), {{"T/a", "B"}, {"T/b", "C"}}, wide("a = \"B\";\n\"b\" = \"C\";\n")},
+        {__LINE__, "T.strings", utf16("a = b;"), {{"T/a", "B"}, {"T/b", "C"}}, utf16("a = \"B\";\n\"b\" = \"C\";\n")},
         // The XML form.
         {__LINE__,
          "T.strings",
@@ -345,9 +347,9 @@ TEST(Imports, ChangeNothingButTexts) {
                      filesEntry("%#@n@!", oneAndOther)
                          .insert(plist.size() + std::strlen("<dict>\n"), "  <!-- Counts files. -->\n"));
         const auto file = folder.write("de.lproj/" + one.file, one.before);
-        EXPECT_EQ(import(folder, {}).files, 0U) << "line " << one.line;
+        EXPECT_EQ(importEdited(folder, {}).files, 0U) << "line " << one.line;
         EXPECT_EQ(Support::contents(file), one.before) << "line " << one.line;
-        EXPECT_EQ(import(folder, one.edits).messages, Strings()) << "line " << one.line;
+        EXPECT_EQ(importEdited(folder, one.edits).messages, Strings()) << "line " << one.line;
         EXPECT_EQ(Support::contents(file), one.after) << "line " << one.line;
     }
 }
@@ -357,7 +359,7 @@ TEST(Imports, ChangeNothingThatTheyCannotEdit) {
     folder.write("en.lproj/T.stringsdict", filesEntry("%#@n@", oneAndOther));
     const std::string number = filesEntry("%#@n@", "<key>one</key> <integer>1</integer>");
     const auto plurals = folder.write("de.lproj/T.stringsdict", number);
-    const Strings messages = import(folder, {{"T[variables.n.plural.one]/files", "eine"}}).messages;
+    const Strings messages = importEdited(folder, {{"T[variables.n.plural.one]/files", "eine"}}).messages;
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_TRUE(messages[0].ends_with("the table has neither a text nor a plural for files")) << messages[0];
     EXPECT_EQ(Support::contents(plurals), number);
@@ -368,7 +370,7 @@ TEST(Imports, ChangeNothingThatTheyCannotEdit) {
     const auto texts = folder.write("de.lproj/U.strings", "a = x;");
     std::filesystem::create_symlink("U.strings", folder / "de.lproj/V.strings");
     EXPECT_EQ(
-        import(folder, {{"U/a", "y"}, {"V/a", "y"}}).messages,
+        importEdited(folder, {{"U/a", "y"}, {"V/a", "y"}}).messages,
         Strings{(folder / "de.lproj/V.strings").string() + ": is the same file as another that would be changed"});
     EXPECT_EQ(Support::contents(texts), "a = x;");
 }
@@ -377,14 +379,14 @@ std::string catalogOf(const std::string& localizations) {
     return "{\n  \"sourceLanguage\" : \"en\",\n  \"strings\" : {\n    \"%lld k\" : {\n" + localizations +
            "    }\n  },\n  \"version\" : \"1.0\"\n}";
 }
-std::string unit(const std::string& text, const std::string& state = "translated") {
+std::string stringUnit(const std::string& text, const std::string& state = "translated") {
     return "{ \"stringUnit\" : { \"state\" : \"" + state + "\", \"value\" : \"" + text + "\" } }";
 }
 
 TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
     const std::string english = "      \"localizations\" : {\n        \"en\" : ";
-    const std::string plural =
-        "{ \"variations\" : { \"plural\" : { \"one\" : " + unit("a k") + ", \"other\" : " + unit("%lld k") + " } } }";
+    const std::string plural = "{ \"variations\" : { \"plural\" : { \"one\" : " + stringUnit("a k") +
+                               ", \"other\" : " + stringUnit("%lld k") + " } } }";
     const std::string added = "\"stringUnit\" : {\n            \"state\" : \"translated\",\n            \"value\" : \"";
     const struct {
         int line;
@@ -398,16 +400,17 @@ TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
          catalogOf("      \"localizations\" : {\n        \"de\" : {\n          " + added +
                    "%lld \\\"K\\\"\\u0001\"\n          }\n        }\n      }\n")},
         {__LINE__,
-         catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("%lld k", "new") + "\n      }\n"),
+         catalogOf(english + stringUnit("%lld k") + ",\n        \"de\":" + stringUnit("%lld k", "new") + "\n      }\n"),
          {{"T/%lld k", "%lld k"}},
-         catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("%lld k") + "\n      }\n")},
+         catalogOf(english + stringUnit("%lld k") + ",\n        \"de\":" + stringUnit("%lld k") + "\n      }\n")},
         {__LINE__,
-         catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("%lld k", "new") + "\n      }\n"),
+         catalogOf(english + stringUnit("%lld k") + ",\n        \"de\":" + stringUnit("%lld k", "new") + "\n      }\n"),
          {{"T/%lld k", "K %lld", State::needsReview}},
-         catalogOf(english + unit("%lld k") + ",\n        \"de\":" + unit("K %lld", "needs_review") + "\n      }\n")},
-        // A plain text is replaced by forms in alphabetical order.
+         catalogOf(english + stringUnit("%lld k") + ",\n        \"de\":" + stringUnit("K %lld", "needs_review") +
+                   "\n      }\n")},
+        // A new language and its forms are added in alphabetical order.
         {__LINE__,
-         catalogOf(english + plural + ",\n        \"fr\" : " + unit("x") + "\n      }\n"),
+         catalogOf(english + plural + ",\n        \"fr\" : " + stringUnit("x") + "\n      }\n"),
          {{"T[plural.other]/%lld k", "%lld K"}, {"T[plural.one]/%lld k", "ein K"}},
          catalogOf("      \"localizations\" : {\n        \"de\" : {\n          \"variations\" : {\n            "
                    "\"plural\" : {\n"
@@ -418,14 +421,14 @@ TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
                    "                \"stringUnit\" : {\n                  \"state\" : \"translated\",\n"
                    "                  \"value\" : \"%lld K\"\n                }\n              }\n            }\n      "
                    "    }\n        },\n        \"en\" : " +
-                   plural + ",\n        \"fr\" : " + unit("x") + "\n      }\n")},
+                   plural + ",\n        \"fr\" : " + stringUnit("x") + "\n      }\n")},
     };
     for (const auto& one : cases) {
         Support::SourceFolder folder;
         const auto file = folder.write("T.xcstrings", one.before);
-        EXPECT_EQ(import(folder, {}).files, 0U) << "line " << one.line;
+        EXPECT_EQ(importEdited(folder, {}).files, 0U) << "line " << one.line;
         EXPECT_EQ(Support::contents(file), one.before) << "line " << one.line;
-        EXPECT_EQ(import(folder, one.edits).messages, Strings()) << "line " << one.line;
+        EXPECT_EQ(importEdited(folder, one.edits).messages, Strings()) << "line " << one.line;
         EXPECT_EQ(Support::contents(file), one.after) << "line " << one.line;
     }
 }
@@ -436,10 +439,10 @@ TEST(Imports, ChangeTheStateInACatalogOfTranslations) {
     folder.write("Info.plist", "CFBundleDevelopmentRegion = en;");
     folder.write("en.lproj/T.strings", "k = K;");
     const auto catalog = [](const std::string& state) {
-        return R"({"sourceLanguage":"fr","strings":{"k":{"localizations":{"de":)" + unit("x", state) + "}}}}";
+        return R"({"sourceLanguage":"fr","strings":{"k":{"localizations":{"de":)" + stringUnit("x", state) + "}}}}";
     };
     const auto file = folder.write("T.xcstrings", catalog("needs_review"));
-    EXPECT_EQ(import(folder, {{"T/k", "x"}}).messages, Strings());
+    EXPECT_EQ(importEdited(folder, {{"T/k", "x"}}).messages, Strings());
     EXPECT_EQ(Support::contents(file), catalog("translated"));
 }
 
@@ -448,7 +451,8 @@ TEST(Exports, KeepEmptyFormsOfPlurals) {
     folder.write("en.lproj/T.stringsdict",
                  filesEntry("%#@n@", "<key>one</key> <string/> <key>other</key> <string>%ld</string>"));
     EXPECT_EQ(
-        import(folder, {{"T[variables.n.plural.one]/files", "1"}, {"T[variables.n.plural.other]/files", "%ld"}}).texts,
+        importEdited(folder, {{"T[variables.n.plural.one]/files", "1"}, {"T[variables.n.plural.other]/files", "%ld"}})
+            .texts,
         2U);
 }
 
@@ -458,14 +462,17 @@ TEST(Exports, LeaveOutTextsThatAnImportCannotWrite) {
     entry.plural.variables[0].forms.back() = "%lld K";
     const std::pair<std::string, std::string> files[] = {{"de.lproj/T.strings", "\"%lld k\" = \"%lld K\";"},
                                                          {"de.lproj/T.stringsdict", *StringTables::write({&entry, 1})}};
-    const std::string forms = "{ \"plural\" : { \"one\" : " + unit("a k") + ", \"other\" : " + unit("%lld k") + " } }";
+    const std::string forms =
+        "{ \"plural\" : { \"one\" : " + stringUnit("a k") + ", \"other\" : " + stringUnit("%lld k") + " } }";
     for (const auto& [name, content] : files) {
         Support::SourceFolder folder;
         folder.write("T.xcstrings", catalogOf("\"localizations\" : { \"en\" : { \"variations\" : " + forms + " } }"));
         folder.write(name, content);
         const std::filesystem::path folders[] = {folder.path()};
         const auto source = folder.read();
-        EXPECT_TRUE(Exchange::translationsOf(source, folders, "de", false, folder.diagnostics).units.empty()) << name;
+        EXPECT_TRUE(
+            Exchange::translationsOf(source, folders, "de", /*onlyMissing=*/false, folder.diagnostics).units.empty())
+            << name;
         const Strings messages = folder.takeMessages();
         ASSERT_EQ(messages.size(), 1U) << name;
         EXPECT_TRUE(messages[0].starts_with("warning: " + name) && messages[0].find("is left out") != std::string::npos)

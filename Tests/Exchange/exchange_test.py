@@ -39,7 +39,7 @@ def translate(file):
     if file.suffix == ".po":
         gettext("msgattrib", "--no-wrap", "--clear-fuzzy", file, "-o", file)
 
-        def entry(found):
+        def entry(found):  # its groups: msgid, msgid_plural, all msgstr
             text = found[2] or found[1]
             forms = re.findall(r"^msgstr\S*", found[0], re.MULTILINE)
             return found[0][:found.start(3) - found.start()] + "".join(f'{form} {text[:-2]}»"\n' for form in forms)
@@ -113,14 +113,14 @@ class Exchange(unittest.TestCase):
                 self.assertEqual(run("import", *files, "--into", source), (0, "", "lumora: note: 0 texts changed in 0 files\n"))
                 self.assertEqual(contents(source), before)
 
-    def test_translations_come_back_exactly_and_go_again(self):
+    def test_translations_come_back_exactly_and_can_be_reverted(self):
         for name, language, new in (("Lumora", "ru", False), ("Shop", "ar", False), ("Shop", "ru", True), ("Shop", "ja", True), ("Shop", "pt-BR", True)):
             for format in ("xliff", "po"):
                 with self.subTest((name, language, format)):
                     source = self.copy(name)
                     before = contents(source)
                     original = self.export(source, language, "xliff").rename(self.folder / "original.xliff")
-                    file = self.export(source, language, format, *["--missing"] * new)
+                    file = self.export(source, language, format, *(["--missing"] if new else []))
                     translate(file)
                     status, out, err = run("import", file, "--into", source)
                     self.assertEqual((status, out), (0, ""), err)
@@ -134,17 +134,16 @@ class Exchange(unittest.TestCase):
                     self.assertEqual(units(self.export(source, language, "xliff", "--missing")), [])
                     self.assertEqual(run("check", source, "--disable", "untranslated", "--level", "error")[0], 0)
                     if not new:  # importing the old texts restores the old files
-                        self.assertEqual(run("import", self.folder / "original.xliff", "--into", source)[0], 0)
+                        self.assertEqual(run("import", original, "--into", source)[0], 0)
                         self.assertEqual(contents(source), before)
 
     def test_difficult_texts(self):
         texts = [" x ", "\nx", "x\n", "\t\"\\\\", "\a\b\v\f\r", "\u0001\u007f", "100%% %@", "\u2028\u200f", "<&>]]>", "/* */ //", "#, fuzzy"]
-        table = "".join(f"{{}} = {json.dumps(text)};\n".format(json.dumps(text)).replace("\\u", "\\U") for text in texts)
-        turned = "".join(f"{json.dumps(key)} = {json.dumps(text)};\n".replace("\\u", "\\U") for key, text in zip(texts, texts[1:] + texts[:1]))
         source = self.folder / "Difficult"
-        for language, text in (("en", table), ("de", turned)):
+        for language, values in (("en", texts), ("de", texts[1:] + texts[:1])):
+            table = "".join(f"{json.dumps(key)} = {json.dumps(value)};\n".replace("\\u", "\\U") for key, value in zip(texts, values))
             (source / f"{language}.lproj").mkdir(parents=True)
-            (source / f"{language}.lproj/T.strings").write_bytes(text.encode("utf-16"))
+            (source / f"{language}.lproj/T.strings").write_bytes(table.encode("utf-16"))
         before = contents(source)
         for format in ("xliff", "po"):
             file = self.export(source, "de", format)
@@ -156,7 +155,7 @@ class Exchange(unittest.TestCase):
             shutil.rmtree(source / "fr.lproj")
             self.assertEqual(contents(source), before)
 
-    def test_missing_texts_alone(self):
+    def test_only_missing_texts_are_exported(self):
         source = self.copy("Shop")
         table = source / "de.lproj/Localizable.strings"
         table.write_text(table.read_text().replace('"cart.pay" = "Bezahlen";\n', ""))
@@ -221,13 +220,14 @@ class Exchange(unittest.TestCase):
                 self.assertEqual(contents(source), before)
                 status, out, err = run("import", file, "--into", source, "--keep-going")
                 self.assertEqual((status, message in err), (1, True), err)
+                # The other texts are imported, unless the whole file is rejected.
                 if "is in" not in message and "translated from" not in message:
                     self.assertIn("Der Warenkorb", (source / "de.lproj/Localizable.strings").read_text())
                     self.assertIn('"home.title" = "Kettle & Leaf";', (source / "de.lproj/Localizable.strings").read_text())
                     self.copy("Shop")
                 self.assertEqual(contents(source), before)
 
-    def test_a_plural_that_is_not_whole_is_not_begun(self):
+    def test_an_incomplete_plural_is_not_imported(self):
         source = self.copy("Shop")
         file = self.export(source, "fr", "xliff")
         translate(file)
@@ -259,7 +259,7 @@ class Exchange(unittest.TestCase):
         status, _, err = run("import", file, "--into", source)
         self.assertEqual((status, f"{source / 'es.lproj'}: error: cannot be written" in err), (2, True), err)
         self.assertEqual(contents(source), before)
-        self.assertEqual(list(source.rglob(".*")), [])
+        self.assertEqual(list(source.rglob(".*")), [])  # no temporary file is left
 
     def test_states_and_fuzzy_marks(self):
         source = self.copy("Shop")

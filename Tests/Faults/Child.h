@@ -12,8 +12,8 @@ namespace Child {
 
 inline constexpr int thrown = 100;
 
-// How often exitOfEach() runs a case, because some faults show only with certain timings or limits. Fewer times under a
-// sanitizer, which makes a fork take ten times as long.
+// How often firstFailure() runs a case, because some faults show only with certain timings or limits. Fewer times under
+// a sanitizer, which makes a fork take ten times as long.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 inline constexpr int repetitions = 20;
 #else
@@ -43,8 +43,8 @@ template <class Run> int exitOf(Run run) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 200 + WTERMSIG(status);
 }
 
-// The first result but 0 of `repetitions` children that call `run(repetition)`, or 0.
-template <class Run> int exitOfEach(Run run) {
+// The first result other than 0 of up to `repetitions` children that call `run(repetition)`; 0 if there is none.
+template <class Run> int firstFailure(Run run) {
     int code = 0;
     for (int i = 0; i < repetitions && code == 0; ++i)
         if (code = exitOf([&] { return run(i); }); code != 0)

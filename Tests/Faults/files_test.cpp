@@ -26,22 +26,22 @@ std::string text(const fs::path& bundle, std::string_view key = "a", std::string
     return NSBundle::bundleWithPath(bundle.string()).localizedStringForKey(key, nullptr, table);
 }
 
-// Sets how many descriptors the process may have; returns how many it could have before.
-rlim_t setDescriptors(rlim_t most) {
+// Lets the process open no descriptors from `end` on; returns the old limit. Open ones stay open.
+rlim_t limitDescriptors(rlim_t end) {
     rlimit limit{};
     ::getrlimit(RLIMIT_NOFILE, &limit);
-    const rlim_t old = std::exchange(limit.rlim_cur, most);
+    const rlim_t old = std::exchange(limit.rlim_cur, end);
     ::setrlimit(RLIMIT_NOFILE, &limit);
     return old;
 }
 
 TEST(Files, WithoutDescriptorsNothingIsCached) {
-    EXPECT_EQ(Child::exitOfEach([](int) {
+    EXPECT_EQ(Child::firstFailure([](int) {
                   Foundation::Host::setPreferredLanguages({"ru"});
-                  const rlim_t old = setDescriptors(0);
+                  const rlim_t old = limitDescriptors(0);
                   const bool none = Texts::continue_().empty() && Lumora::Localization::legacyTr("Continue").empty() &&
                                     Lumora::Localization::currentLanguageCode().rawValue() == "en";
-                  setDescriptors(old);
+                  limitDescriptors(old);
                   const bool all = Texts::continue_() == "Продолжить" &&
                                    Lumora::Localization::legacyTr("Continue") == "Продолжить" &&
                                    Lumora::LumoraAsset::Images::send.image().rgba() != nullptr;
@@ -75,10 +75,10 @@ bool isLackOfDescriptors(const std::exception_ptr& thrown) {
 // throws. Functions that return an optional result return none.
 TEST(Files, WithoutDescriptorsTheProcessContinues) {
     for (const bool isOpen : {false, true}) // whether the bundle is open; its catalog is not
-        EXPECT_EQ(Child::exitOfEach([isOpen](int) {
+        EXPECT_EQ(Child::firstFailure([isOpen](int) {
                       if (isOpen)
                           static_cast<void>(Lumora::LumoraResources::bundle());
-                      const rlim_t old = setDescriptors(0);
+                      const rlim_t old = limitDescriptors(0);
                       const std::exception_ptr thrown[] = {
                           thrownBy([] { return Assets::Images::send.image(); }),
                           thrownBy([] { return Assets::Colors::progressGreen.color(); }),
@@ -86,11 +86,11 @@ TEST(Files, WithoutDescriptorsTheProcessContinues) {
                       const bool isAbsent = !Lumora::UIImage::assetNamed("send") &&
                                             !Lumora::UIColor::withAsset(Assets::Colors::progressGreen) &&
                                             !Lumora::NSDataAsset::withAsset(Assets::Onboarding::countryRegions);
-                      setDescriptors(old);
+                      limitDescriptors(old);
                       const bool throws = std::ranges::all_of(thrown, isLackOfDescriptors);
                       const bool isThere = Lumora::UIImage::assetNamed("send") &&
                                            !Assets::Onboarding::countryRegions.data().data().empty();
-                      return throws ? isAbsent ? isThere ? 0 : 3 : 2 : 1;
+                      return !throws ? 1 : !isAbsent ? 2 : !isThere ? 3 : 0;
                   }),
                   0)
             << (isOpen ? "with the bundle open" : "at the first use");
@@ -98,25 +98,25 @@ TEST(Files, WithoutDescriptorsTheProcessContinues) {
 
 // The catalog is already open, but the decoders cannot be loaded.
 TEST(Files, WithoutDescriptorsPixelsAreMissingTemporarily) {
-    EXPECT_EQ(Child::exitOfEach([](int) {
+    EXPECT_EQ(Child::firstFailure([](int) {
                   const UIKit::UIImage image = Lumora::LumoraAsset::Images::send.image();
-                  const rlim_t old = setDescriptors(0);
+                  const rlim_t old = limitDescriptors(0);
                   const bool none = image.rgba() == nullptr && image.pixelWidth() > 0;
-                  setDescriptors(old);
+                  limitDescriptors(old);
                   return none && image.rgba() != nullptr ? 0 : 1;
               }),
               0);
 }
 
-// The bundle and its tables are already read; only the descriptor for the language data is missing.
+// The bundle is already open, but no other file can be opened.
 TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
     const struct {
         int line;
         const char* language;
         const char* locale;
         std::string (*read)();
-        const char* otherwise; // without the descriptor
-        const char* right;     // with it
+        const char* otherwise; // without descriptors
+        const char* right;     // with them
     } cases[] = {
         {__LINE__, "es-MX", "es_MX", [] { return Lumora::Localization::currentLanguageCode().rawValue(); }, "en",
          "es-419"},
@@ -127,13 +127,13 @@ TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
          "\u061C-\u0661\u066C\u0662\u0663\u0664\u066B\u0665"},
     };
     for (const auto& one : cases)
-        EXPECT_EQ(Child::exitOfEach([&](int) {
+        EXPECT_EQ(Child::firstFailure([&](int) {
                       static_cast<void>(Lumora::LumoraResources::bundle());
                       Foundation::Host::setPreferredLanguages({one.language});
                       Foundation::Host::setCurrentLocale(one.locale);
-                      const rlim_t old = setDescriptors(0);
+                      const rlim_t old = limitDescriptors(0);
                       const std::string first = one.read();
-                      setDescriptors(old);
+                      limitDescriptors(old);
                       const std::string then = one.read();
                       if (first != one.otherwise)
                           return 1;
@@ -149,22 +149,22 @@ TEST(Files, WithFewDescriptorsNothingIsCached) {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "the sanitizer reports a damaged object when it gets no descriptors for the pipe that checks it";
 #endif
-    EXPECT_EQ(Child::exitOfEach([](int repetition) {
+    EXPECT_EQ(Child::firstFailure([](int repetition) {
                   Foundation::Host::setPreferredLanguages({"ru"});
                   Foundation::Host::setCurrentLocale("ru_RU@numbers=arab");
                   const int next = ::dup(0); // the lowest free descriptor
                   ::close(next);
-                  const rlim_t old = setDescriptors(static_cast<rlim_t>(next + repetition % 10));
+                  const rlim_t old = limitDescriptors(static_cast<rlim_t>(next + repetition % 10));
                   const std::string text = Texts::continue_(), age = Lumora::Localization::legacyTrAge(25);
                   if (const auto image = Lumora::UIImage::assetNamed("send"))
                       static_cast<void>(image->rgba());
-                  setDescriptors(old);
-                  const bool isEither =
+                  limitDescriptors(old);
+                  const bool isRightOrEmpty =
                       (text.empty() || text == "Продолжить") && (age.empty() || age == "\u0662\u0665 лет");
-                  const bool isLater = Texts::continue_() == "Продолжить" &&
-                                       Lumora::Localization::legacyTrAge(25) == "\u0662\u0665 лет" &&
-                                       Lumora::UIImage::assetNamed("send").value().rgba() != nullptr;
-                  return isEither ? isLater ? 0 : 2 : 1;
+                  const bool isRightLater = Texts::continue_() == "Продолжить" &&
+                                            Lumora::Localization::legacyTrAge(25) == "\u0662\u0665 лет" &&
+                                            Lumora::UIImage::assetNamed("send").value().rgba() != nullptr;
+                  return !isRightOrEmpty ? 1 : !isRightLater ? 2 : 0;
               }),
               0);
 }
@@ -178,7 +178,7 @@ TEST(Files, UnreadableFilesAreMissing) {
     fs::permissions(folder / "closed.bundle", fs::perms::none);
     fs::permissions(folder / "open.bundle/Base.lproj/T.strings", fs::perms::none);
     EXPECT_EQ(Child::exitOf([&] {
-                  if (::geteuid() == 0 && ::setuid(65534) != 0)
+                  if (::geteuid() == 0 && ::setuid(65534) != 0) // nobody
                       return 2;
                   return text(folder / "open.bundle") == "a" && text(folder / "closed.bundle") == "a" ? 0 : 1;
               }),

@@ -1,5 +1,5 @@
-// Out of memory: an allocation of a first read fails once, or it and all later ones fail. That is tried for each of the
-// first Child::repetitions allocations and for every seventh after them.
+// Out of memory: one allocation of a first read fails, or it and all later ones. That is tried for each of the first
+// Child::repetitions allocations and for every seventh after them.
 #include <Lumora/Loc.h>
 #include <Lumora/Lumora.h>
 #include <Runtime/Class.h>
@@ -28,7 +28,7 @@
 namespace {
 
 constexpr long never = std::numeric_limits<long>::max();
-long before = never;        // number of allocations before the failing one
+long untilFailure = never;  // number of allocations before the failing one
 bool laterOnesFail = false; // all allocations after the failing one
 bool hasFailed = false;
 
@@ -39,10 +39,10 @@ bool isOfIcu(void* code) noexcept {
 
 // ICU's own allocations do not fail: without memory its initialization deadlocks.
 bool fails(void* caller = nullptr) noexcept {
-    if (before == never || isOfIcu(caller) || before-- > 0)
+    if (untilFailure == never || isOfIcu(caller) || untilFailure-- > 0)
         return false;
     hasFailed = true;
-    before = laterOnesFail ? 0 : never;
+    untilFailure = laterOnesFail ? 0 : never;
     return true;
 }
 
@@ -72,7 +72,7 @@ void operator delete(void* memory, std::size_t) noexcept {
     std::free(memory);
 }
 #else
-// Also for the XML parser and the dynamic linker.
+// Replaces malloc, so that allocations of the XML parser and the dynamic linker fail, too.
 extern "C" {
 // NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): glibc's own names
 void* __libc_malloc(std::size_t size);
@@ -172,18 +172,18 @@ bool leaks([[maybe_unused]] long n) {
 }
 
 // Runs the case with its (n+1)-th allocation failing. Returns 0 when the result is correct, 1 when no allocation failed
-// because there were fewer, more for a fault.
+// because there were fewer, another number for a fault.
 int attempt(const Case& one, long n, bool laterToo) {
     Foundation::Host::setPreferredLanguages({"ru"});
     std::optional<std::string> first;
     laterOnesFail = laterToo;
-    before = n;
+    untilFailure = n;
     // Allocations of the test itself may throw, and so may the platform.
     try {
         first.emplace(one.read());
     } catch (const std::exception&) {
     }
-    before = never;
+    untilFailure = never;
     const std::string again = one.read();
     if (again.empty() || again != one.read() || (one.right != nullptr && again != one.right))
         return 2; // with memory available again the text must be right
@@ -213,10 +213,10 @@ TEST(NoMemory, CachesNothing) {
 TEST(NoMemory, APlainReadNeverThrows) {
     EXPECT_EQ(Child::exitOf([] {
                   laterOnesFail = true;
-                  before = 0;
+                  untilFailure = 0;
                   const std::string& text = Texts::continue_();
                   const bool isEmpty = text.empty() && &text == &Texts::continue_();
-                  before = never;
+                  untilFailure = never;
                   return isEmpty && !Texts::continue_().empty() ? 0 : 1;
               }),
               0);
@@ -280,7 +280,7 @@ TEST(NoMemory, ADescriptionIsEmpty) {
                   const std::vector<std::vector<std::string>> lists = {list, list};
                   laterOnesFail = true;
                   for (const long n : {0, 1, 2, 3}) {
-                      before = n;
+                      untilFailure = n;
                       if (!Foundation::Describable(lists).text().empty())
                           return 1;
                   }
@@ -293,7 +293,7 @@ TEST(NoMemory, AReportIsWritten) {
     EXPECT_EXIT(
         {
             laterOnesFail = true;
-            before = 0;
+            untilFailure = 0;
             Runtime::send<std::string>(Runtime::classNamed("Lumora.Localization"), "noSuchMessage");
         },
         testing::KilledBySignal(SIGABRT), "Fatal error: Lumora.Localization does not respond to \"noSuchMessage\"");

@@ -33,7 +33,7 @@ void useRussian() {
 }
 
 TEST(Process, SixteenThreadsAtTheFirstUse) {
-    EXPECT_EQ(Child::exitOfEach([](int) {
+    EXPECT_EQ(Child::firstFailure([](int) {
                   useRussian();
                   constexpr int count = 16;
                   std::latch start(count);
@@ -57,7 +57,7 @@ TEST(Process, SixteenThreadsAtTheFirstUse) {
 }
 
 TEST(Process, AChildReadsOldAndNewTexts) {
-    EXPECT_EQ(Child::exitOfEach([](int) {
+    EXPECT_EQ(Child::firstFailure([](int) {
                   useRussian();
                   if (Texts::continue_() != "Продолжить")
                       return 1;
@@ -100,7 +100,7 @@ private:
 // But if another thread was allocating at the fork, the sanitizer's allocator is locked in the child. A child that
 // waits there ends without an error: the wait is not ours, and the release build runs the same test without the
 // sanitizer.
-dl_find_object sanitizer{};
+dl_find_object sanitizer{}; // where its code is loaded
 
 void tick(int, siginfo_t*, void* context) {
     static int ticks = 0, inSanitizer = 0;
@@ -121,7 +121,7 @@ void limitTime() {
         ::_exit(1);
     struct sigaction action {};
     action.sa_sigaction = tick;
-    action.sa_flags = SA_SIGINFO | SA_RESTART | SA_NODEFER;
+    action.sa_flags = SA_SIGINFO | SA_RESTART | SA_NODEFER; // NODEFER: tick() raises the signal
     ::sigaction(SIGALRM, &action, nullptr);
     const timeval often{.tv_sec = 0, .tv_usec = 200'000};
     const itimerval timer{.it_interval = often, .it_value = often};

@@ -136,6 +136,7 @@ TEST_F(Bundle, FollowsNoLinkOutOfIt) {
     }
 }
 
+// Any library serves as the one with the code: here copies of libm, with and without a version.
 TEST_F(Bundle, IsBesideTheLibraryWithTheCode) {
     const void* const anyCode = ::dlsym(::dlopen("libm.so.6", RTLD_NOW), "cos");
     Dl_info any{};

@@ -11,6 +11,7 @@ namespace {
 using Foundation::Locale;
 namespace Host = Foundation::Host;
 
+// The values of LANGUAGE, LC_ALL, LC_MESSAGES and LANG; null: not set.
 struct Environment {
     const char* language;
     const char* all;

@@ -181,7 +181,7 @@ TEST_F(Plurals, WinOverTextsOfTheirLanguage) {
     EXPECT_EQ(bundle.localizedStringForKey("n", nullptr, ""), "%1$ld days left");
     EXPECT_EQ(formatted("fallback", {1}), "deutsch");
     EXPECT_EQ(formatted("only", {1}), "1");
-    // No table has the key "%ld", although it is the address of a table's text: addresses do not show what is missing.
+    // The key "%ld" is missing, although its characters are those of a text in the table.
     const std::string_view key = bundle.localizedText("only", "");
     const std::string value = "instead";
     EXPECT_EQ(bundle.localizedStringForKey(key, &value, ""), "instead");

@@ -193,7 +193,7 @@ onPage("colours have their values and contrast ratios", async (tab) => {
 
 for (const colorScheme of ["light", "dark"])
     onPage(`axe finds nothing wrong in ${colorScheme}`, async (tab) => {
-        if (colorScheme === "dark") { // fewer rows, because the light page has them all; its pictures are not in their actual size
+        if (colorScheme === "dark") { // the light page has all rows, with pictures that are not in their actual size
             await tab.fill("#search", "onboarding");
             await tab.click("#size >> text=Actual");
         }

@@ -99,7 +99,7 @@ TEST(Model, LeavesOutKeysWithoutAccessor) {
          "\"A.1\" = \"%2$@\";\n\"A.1.b\" = b;",
          {"A::_1::b", "- its text has no placeholder for argument 1 of 2"},
          "1:1"},
-        // A group may have keys with different spellings, and a group may have the name of an entry in another group.
+        // Different spellings may name one group, and a group may have the name of an entry in another group.
         {__LINE__,
          "\"foo bar.x\" = a; \"FooBar.y\" = b; \"Z.FooBar\" = c;",
          {"FooBar::x", "FooBar::y", "Z::fooBar"},
@@ -177,7 +177,7 @@ TEST(Model, ReportsOtherProblems) {
                  "is printed literally (write %% for a percent sign)",
                  "note: de.lproj/T.strings:2:1: 3 keys are only in translations and have no accessor; the first "
                  "is \"old\""}));
-    // The pseudo-language ar-XB is before "de" and has no file.
+    // The pseudo-language ar-XB is before "de" but has no file that the message could name.
     Support::SourceFolder folder;
     folder.write("de.lproj/---.strings", "k = a;");
     const auto source = folder.read({.developmentLanguage = "de", .addsPseudoLanguages = true});

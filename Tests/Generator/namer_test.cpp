@@ -61,8 +61,8 @@ TEST(Namer, NamesGroups) {
         {__LINE__, "TrainersHQ", "TrainersHQ"},
         {__LINE__, "Сhatlist", "Сhatlist"},
         {__LINE__, "10ExerciseStraight", "_10ExerciseStraight"},
-        // Identifiers of layout files. If their parts, with capitals at the beginning, have no lower-case letter left,
-        // the other letters become lower-case.
+        // Identifiers of layout files. If no lower-case letter is left after each part's first letter became a capital,
+        // each part keeps capitals only at its beginning and after digits.
         {__LINE__, "0ie-tn-jCZ", "_0ieTnJCZ"},
         {__LINE__, "9ui-9h-hZp", "_9ui9hHZp"},
         {__LINE__, "1aq-bW-Am5", "_1aqBWAm5"},
@@ -178,11 +178,11 @@ TEST(Namer, KeepsTheNamesOfTables) {
 }
 
 TEST(Namer, AvoidsReservedNamespaces) {
-    for (const char* own : {"Shop", "standard", "std_", "posixShop", "M2", "SHOP", "Магазин"})
-        EXPECT_TRUE(Namer::isModuleName(own)) << own;
-    for (const char* others :
+    for (const char* valid : {"Shop", "standard", "std_", "posixShop", "M2", "SHOP", "Магазин"})
+        EXPECT_TRUE(Namer::isModuleName(valid)) << valid;
+    for (const char* invalid :
          {"std", "std2", "posix", "main", "class", "errno", "EIO", "_Shop", "_shop", "my__shop", "2nd", ""})
-        EXPECT_FALSE(Namer::isModuleName(others)) << others;
+        EXPECT_FALSE(Namer::isModuleName(invalid)) << invalid;
 }
 
 } // namespace

@@ -75,7 +75,7 @@ TEST(CodeText, WritesLiteralsOfAnyBytes) {
                                              "1\n\xFF\x61",
                                              5)),
               R"("\0001\012\377a")");
-    EXPECT_EQ(Generator::literal("?\?\?=/"), "\"?\\?\\?=/\"");
+    EXPECT_EQ(Generator::literal("?\?\?=/"), "\"?\\?\\?=/\""); // no trigraph
     EXPECT_EQ(Generator::literal("\u202E"), R"("\342\200\256")");
 }
 

@@ -44,7 +44,7 @@ TEST(Language, ChoosesTheNearestVariant) {
         {__LINE__, "ca", "none"},
         {__LINE__, "nn", "none"},
         {__LINE__, "yue", "none"},
-        // No languages at all.
+        // Not a language.
         {__LINE__, "", "none"},
         {__LINE__, "C", "none"},
         {__LINE__, "und", "none"},

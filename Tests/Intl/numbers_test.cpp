@@ -140,7 +140,7 @@ TEST(Numbers, OfRandomValuesMatchIcu) {
     std::uint64_t state = 1;
     for (int i = 0; i < 200'000; ++i) {
         state = state * 6364136223846793005U + 1442695040888963407U;
-        // Numbers with four fraction digits, half of them exactly between two rounded values.
+        // Random numbers with four fraction digits, half of them exactly between two rounded values.
         const auto whole = static_cast<double>(state >> (20 + i % 40));
         const double value = i % 2 == 0 ? whole / 10'000 : whole / 1'000 + 0.0005;
         UErrorCode status = U_ZERO_ERROR;
@@ -158,7 +158,7 @@ TEST(Numbers, OfUnknownLocalesFollowTheRootLocale) {
         EXPECT_EQ(numberText(locale, NumberStyle::decimal, 1234.5), "1,234.5") << locale;
     EXPECT_EQ(numberText(std::string(5'000, 'x'), NumberStyle::decimal, 1234.5), "1,234.5");
     EXPECT_EQ(numberText("xx@numbers=arab", NumberStyle::decimal, 1234.5), "١٬٢٣٤٫٥");
-    // Roman numerals are not positional.
+    // Roman numerals are not positional, so they are not used.
     EXPECT_EQ(numberText("de@numbers=roman", NumberStyle::decimal, 1234.5), "1.234,5");
     icu::Locale::setDefault(before, status);
 }

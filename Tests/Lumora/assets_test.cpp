@@ -174,6 +174,7 @@ TEST(RegionalImages, AreSelectedByTheEndOfTheirNames) {
 TEST(LegacyImages, AreOneObjectUnderBothNames) {
     using namespace UIImage;
     EXPECT_EQ(&legacyAddDiet(), &addDiet());
+    // These two names are exchanged in the application.
     EXPECT_EQ(&legacyIconOnce(), &iconMonth());
     EXPECT_EQ(legacyIconOnce().name(), "icon_month");
     EXPECT_EQ(legacyIconMonth().name(), "icon_once");

@@ -35,11 +35,11 @@ TEST_F(Services, KnowTheApplicationsLanguages) {
     for (const char* other : {"Base", "en-GB", "pt", "RU", "", "ru "})
         EXPECT_FALSE(LocalizationCode::fromRawValue(other)) << other;
     EXPECT_EQ(Localization::allSupportedLocalizations(), rawValues);
-    const std::vector<std::string>& short_ = Localization::allSupportedHandbookLocalizations();
+    const std::vector<std::string>& handbook = Localization::allSupportedHandbookLocalizations();
     const std::set<std::string> expected = {"ar", "de", "en", "es", "fr", "id", "it", "ja", "ko",
                                             "nl", "pl", "pt", "ru", "th", "tr", "vi", "zh"};
-    EXPECT_EQ(std::set<std::string>(short_.begin(), short_.end()), expected);
-    EXPECT_EQ(short_.size(), expected.size());
+    EXPECT_EQ(std::set<std::string>(handbook.begin(), handbook.end()), expected);
+    EXPECT_EQ(handbook.size(), expected.size());
 }
 
 TEST_F(Services, TakeTheFirstPreferenceOnly) {

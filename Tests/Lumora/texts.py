@@ -10,7 +10,7 @@ PLACEHOLDER = re.compile(r"%(?:(\d+)\$)?(@|ld)")
 LANGUAGES = ("Base ar de es es-419 fr id it ja ko nl pl pt-BR pt-PT ru th tr vi zh-Hans").split()
 # The number of texts in each table.
 COUNTS = {"Localizable": 1362, "Community": 18, "UserProfile": 17, "ClientProfileCell": 2, "TrainingCourse": 2}
-# French has a no-break space inside « » and before the other marks. Finds a plain space there, or a mark after a letter.
+# French has a no-break space inside « » and before ; : ! ? %. Finds a plain space there, and ; ! ? directly after a letter.
 FRENCH_FAULT = re.compile(r" [;:!?%»]|« |[^\W\d_][;!?](?!\w)")
 
 

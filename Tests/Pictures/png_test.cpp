@@ -125,7 +125,7 @@ TEST(Png, MeasureReadsTheHeadOnly) {
     EXPECT_EQ(Pictures::measure(Bytes{'G', 'I', 'F', '8'}).error().message, "is neither a PNG nor a JPEG file");
 }
 
-TEST(Png, LimitIsCheckedBeforeAllocation) {
+TEST(Png, PixelsAreLimited) {
     Bytes file = PngFile::plain(8, 8, 1, 2, 3, 4);
     EXPECT_TRUE(Pictures::decode(file, 64));
     EXPECT_EQ(Pictures::decode(file, 63).error().message, "has more than 63 pixels");

@@ -59,7 +59,7 @@ TEST(ElfNotes, AreReadUpToTheEndOfTheirSegment) {
         const ElfW(Nhdr) header = {.n_namesz = ownerSize, .n_descsz = contentSize, .n_type = 7};
         return std::string(reinterpret_cast<const char*>(&header), sizeof header) + bytes;
     };
-    const std::string first = note(2, 5, "us--12345---");
+    const std::string first = note(2, 5, "us--12345---"); // with '-' as padding
     const std::pair<std::string, std::string> cases[] = {
         {first + note(2, 3, "us--678"), "12345 678 "}, // the last note without padding
         {first + note(2, 4, "us--678"), "12345 "},

@@ -185,6 +185,7 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
          R"({"filename": 1}, {"filename": "2"})",
          {"2"},
          {"note " + contents + R"(entry 1 has the property "filename", which is ignored)"}},
+        // Each closes the list and adds another member.
         {__LINE__,
          R"(], "images": {"1": {"filename": "1"}}, "data": [)",
          {},
@@ -214,7 +215,7 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
     }
 }
 
-// A compiled catalog cannot have more variants or longer names.
+// A compiled catalog limits the variants of an asset, of which an entry becomes at most four, and the length of names.
 TEST_F(Catalogs, LeaveOutVariantsBeyondLimits) {
     const std::string german = R"({"filename": "1", "locale": "de)";
     std::string entries;

@@ -14,7 +14,7 @@ std::string turned(const std::string& word) {
     return "\u200F\u202E" + word + "\u202C\u200F";
 }
 
-TEST(PseudoTexts, ChangeWordsAlone) {
+TEST(PseudoTexts, ChangeOnlyWords) {
     const struct {
         int line;
         std::string text, accented, rightToLeft;
@@ -79,7 +79,8 @@ TEST(PseudoLanguages, AreAddedToEveryTable) {
     EXPECT_EQ(StringTables::signatureOf(*cups->plural).arguments,
               StringTables::signatureOf(*english->plural).arguments);
     EXPECT_EQ(cups->plural->format, english->plural->format);
-    EXPECT_EQ(cups->plural->variables[0].forms[1], turned("a") + " " + turned("cup") + " " + turned("of") + " %2$@");
+    EXPECT_EQ(cups->plural->variables[0].forms[Intl::indexOf(Intl::PluralCategory::one)],
+              turned("a") + " " + turned("cup") + " " + turned("of") + " %2$@");
 }
 
 } // namespace

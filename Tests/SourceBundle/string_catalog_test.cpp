@@ -160,6 +160,7 @@ TEST(StringCatalog, IsRejectedWithALocation) {
         {__LINE__, "{'sourceLanguage': 'en', 'strings': {'\xFF': {}}}", "invalid JSON"},
         {__LINE__, "{'sourceLanguage': '../en', 'strings': {}}", "\"../en\" is not the name of a language"},
     };
+    // Values that are nested too deeply.
     const std::string deep(100'000, '[');
     std::string devices;
     for (int i = 0; i < 2000; ++i)

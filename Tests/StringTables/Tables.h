@@ -41,7 +41,7 @@ inline std::vector<std::string> notes(std::string bytes) {
 }
 
 // ASCII text in UTF-16; `marked`: with a byte-order mark.
-inline std::string wide(std::string_view ascii, bool bigEndian, bool marked) {
+inline std::string utf16(std::string_view ascii, bool bigEndian = false, bool marked = true) {
     std::string out = marked ? (bigEndian ? "\xFE\xFF" : "\xFF\xFE") : "";
     for (const char c : ascii) {
         out += bigEndian ? '\0' : c;

@@ -38,7 +38,8 @@ constexpr std::size_t trailerAt = 48;
 std::string disordered(std::vector<std::string> objects, std::size_t offsetSize = 1, std::size_t refSize = 1) {
     std::swap(objects[1], objects[2]);
     std::string out = file(objects, offsetSize, refSize);
-    const auto offsets = out.end() - static_cast<std::ptrdiff_t>(32 + objects.size() * offsetSize);
+    constexpr std::size_t trailerSize = 32;
+    const auto offsets = out.end() - static_cast<std::ptrdiff_t>(trailerSize + objects.size() * offsetSize);
     const auto size = static_cast<std::ptrdiff_t>(offsetSize);
     std::swap_ranges(offsets + size, offsets + 2 * size, offsets + 2 * size);
     return out;
@@ -94,6 +95,7 @@ TEST(BinaryTable, NotesSkippedValues) {
 
 // The last value wins, whether the keys are the same object or two equal ones.
 TEST(BinaryTable, LetsTheLastValueWin) {
+    // Objects 1 to 6, after the dictionary; the last is an array, which is no text.
     const std::vector<std::string> tail = {"\121k", "\121k", "\121b", "\121v", "\121w", "\xA0"};
     const struct {
         int line;

@@ -71,7 +71,7 @@ TEST(PluralTable, NotesWhatIsSkipped) {
     const std::string format = text("NSStringLocalizedFormatKey", "%#@v@");
     const struct {
         int line;
-        std::string entries, notes, format{};
+        std::string entries, notes, chosen{}; // `chosen`: the format of "k"; empty: not checked
     } cases[] = {
         {__LINE__, text("k", "text"), "2:1: the value of \"k\" is a text, not a plural format; it is skipped\n"},
         {__LINE__, "<key>k</key><array><dict/></array>", "2:1: the value of \"k\" is an array; it is skipped\n"},

@@ -70,7 +70,7 @@ TEST(TextTable, ReadsEveryEncoding) {
     EXPECT_EQ(read("\xEF\xBB\xBF" + source), expected);
     for (const bool bigEndian : {false, true})
         for (const bool marked : {false, true})
-            EXPECT_EQ(read(Tables::wide(source, bigEndian, marked)), expected) << bigEndian << marked;
+            EXPECT_EQ(read(Tables::utf16(source, bigEndian, marked)), expected) << bigEndian << marked;
     EXPECT_EQ(read("\xFF\xFEk\0=\0'\0\x3D\xD8\xAA\xDC'\0"s), (Pairs{{"k", "💪"}}));
 }
 
@@ -160,7 +160,7 @@ TEST(TextTable, KeepsTheCommentsDirectlyBeforeAnEntry) {
         {__LINE__, "a /* no */ = /* no */ 1 /* no */; // no\n'/* b */'; \"// c\"; d;", {"", "", "", ""}},
         {__LINE__, "/* old */\na = 1;\n/* new */\na = 2;", {"new"}},
         {__LINE__, "\xEF\xBB\xBF// ä\n{ // no\n/* b */\nb = { /* no */ c = d; }; /* e */ e; }", {"e"}},
-        {__LINE__, Tables::wide("// wide\na;", false, true), {"wide"}},
+        {__LINE__, Tables::utf16("// wide\na;"), {"wide"}},
     };
     for (const auto& [line, source, expected] : cases) {
         const auto table = StringTables::Table::read(source);
@@ -187,7 +187,7 @@ TEST(TextTable, FindsAndLocatesAfterMoves) {
 TEST(TextTable, SurvivesDamage) {
     const std::string source = "/* c */ {\"k\\U00e9\\\"\" = \"é\\101 v\"; // x\n b; 'd' = ({e = <0f>;}, f);}";
     Tables::damage(source, "\0\"\\'/*={}()<>;\nU\xC3\xFF"s);
-    Tables::damage(Tables::wide(source, false, true), "\0\"\\\xD8\xFF"s);
+    Tables::damage(Tables::utf16(source), "\0\"\\\xD8\xFF"s);
 }
 
 TEST(TextTable, TakesLinearTime) {

@@ -30,7 +30,7 @@ TEST(XmlTable, ReadsRealisticFiles) {
               (Pairs{{"k", "é"}}));
     for (const bool bigEndian : {false, true})
         for (const bool marked : {false, true})
-            EXPECT_EQ(read(Tables::wide("<?xml version='1.0' encoding='UTF-16'?>" + plist(entry), bigEndian, marked)),
+            EXPECT_EQ(read(Tables::utf16("<?xml version='1.0' encoding='UTF-16'?>" + plist(entry), bigEndian, marked)),
                       ok);
 }
 

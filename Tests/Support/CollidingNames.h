@@ -15,10 +15,10 @@ namespace CollidingNames {
 inline std::string bytesOf(std::uint64_t word) {
     return std::string(reinterpret_cast<const char*>(&word), sizeof word);
 }
-inline bool isPlain(const std::string& text) {
+inline bool isAlphanumeric(const std::string& text) {
     return std::ranges::all_of(text, [](unsigned char byte) { return std::isalnum(byte) && byte < 0x80; });
 }
-// Eight bytes, a word for the hashes: "a0000001".
+// Eight bytes, a word for the hashes: "a0000001". At most 9,999,999.
 inline std::string numbered(std::size_t number) {
     const std::string digits = std::to_string(number);
     return "a" + std::string(7 - digits.size(), '0') + digits;
@@ -29,7 +29,7 @@ inline std::string numbered(std::size_t number) {
 inline std::vector<std::string> inKeyHash(std::size_t count) {
     const std::uint64_t seed = Runtime::hashSpread, second = seed * Runtime::hashSpread ^ Runtime::hashSpread;
     std::string begin;
-    for (std::size_t i = 0; begin.size() != 24 || !isPlain(begin); ++i) {
+    for (std::size_t i = 0; begin.size() != 24 || !isAlphanumeric(begin); ++i) {
         begin = numbered(i) + "continue";
         begin += bytesOf(Runtime::mixed(Runtime::loadLittle<std::uint64_t>(begin.data()) ^ seed,
                                         Runtime::loadLittle<std::uint64_t>(begin.data() + 8) ^ second));
@@ -54,11 +54,14 @@ std::vector<std::string> chained(std::uint64_t state, std::size_t count, Step st
         const std::string first = numbered(0) + "continue";
         const std::uint64_t wanted = step(step(state, loaded(first)), loaded(first.substr(8)));
         std::string other;
-        for (std::size_t i = 1; !isPlain(other) || other.empty(); ++i)
+        for (std::size_t i = 1; !isAlphanumeric(other) || other.empty(); ++i)
             other = numbered(i) + bytesOf(wordFor(step(state, loaded(numbered(i))), wanted));
         // Each name is continued with both pairs.
-        for (std::size_t i = names.size(); i-- > 0; names[i] += first)
+        const std::size_t size = names.size();
+        for (std::size_t i = 0; i < size; ++i) {
             names.push_back(names[i] + other);
+            names[i] += first;
+        }
         state = wanted;
     }
     names.resize(count);

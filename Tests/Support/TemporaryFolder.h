@@ -14,7 +14,7 @@ namespace Support {
 
 class TemporaryFolder {
 public:
-    // The name has a space and non-ASCII letters, as real paths do.
+    // The name has a space and a non-ASCII letter, as real paths may.
     TemporaryFolder() : path_(std::filesystem::temp_directory_path() / "lumora tést.XXXXXX") {
         std::string name = path_.string();
         if (::mkdtemp(name.data()) == nullptr)
@@ -43,6 +43,7 @@ private:
     std::filesystem::path path_;
 };
 
+// The bytes of a file; empty if it cannot be read.
 inline std::string contents(const std::filesystem::path& file) {
     std::ostringstream bytes;
     bytes << std::ifstream(file, std::ios::binary).rdbuf();

@@ -140,7 +140,7 @@ TEST(Collisions, CostATableNothing) {
 }
 
 // Hashes of keys that fill half of the index's 2,001 buckets, with 8 keys each: the index gives up before it has tried
-// every displacement.
+// every displacement. The low half of a hash determines its bucket.
 TEST(Collisions, EndTheSearchForAnIndex) {
     std::mt19937_64 random(1);
     std::vector<std::uint64_t> keys;
@@ -219,7 +219,7 @@ const Command commands[] = {
      }},
     {"export and import", [](const auto& source, auto& folder, const auto&) {
          const std::filesystem::path folders[] = {folder.path()};
-         auto all = Exchange::translationsOf(source, folders, "de", false, folder.diagnostics);
+         auto all = Exchange::translationsOf(source, folders, "de", /*onlyMissing=*/false, folder.diagnostics);
          ASSERT_FALSE(Exchange::writePo(all, folder.diagnostics).empty());
          ASSERT_FALSE(Exchange::writeXliff(all, "1").empty());
          for (Exchange::Unit& unit : all.units)

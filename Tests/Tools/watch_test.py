@@ -17,7 +17,7 @@ class Watch(unittest.TestCase):
     def setUp(self):
         self.held = tempfile.TemporaryDirectory()
         self.folder = pathlib.Path(self.held.name)
-        self.source = self.folder / ".Source"  # only hidden files and folders in the source are ignored
+        self.source = self.folder / ".Source"  # hidden, but only hidden files and folders inside of a source are ignored
         self.bundle = self.source / "Made.bundle"  # the bundle may be inside the source
         self.write("en.lproj/T.strings", 'a = "one";')
         self.process = subprocess.Popen([PROGRAM, "watch", self.source, "-o", self.bundle], stdout=subprocess.PIPE,

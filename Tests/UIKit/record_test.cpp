@@ -103,6 +103,7 @@ TEST(AssetRecordDeathTest, MissingAssetStopsTheProcess) {
     static constexpr Images image = Module::RecordFactory::image("star-big_.");
     static constexpr DataSets data = Module::RecordFactory::data("send");
     static constinit const Colors color = Module::RecordFactory::color("");
+    // File and lines are those that existing crash reports name.
     const auto report = [](const std::string& message, const char* line) {
         return "^Fatal error: " + message + ": file TuistAssets\\+Lumora, line " + line + "\n$";
     };

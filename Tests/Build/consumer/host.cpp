@@ -1,4 +1,5 @@
-// Opens the library at a relative path, changes the current directory, then reads a text and a number.
+// Opens the library at the relative path that is its argument, changes the current directory, then reads a text and an
+// age.
 #include <cstdio>
 #include <dlfcn.h>
 #include <unistd.h>
