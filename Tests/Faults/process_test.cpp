@@ -98,8 +98,8 @@ private:
 // Kills a child that hangs for ten seconds.
 #if defined(__SANITIZE_ADDRESS__) && defined(__x86_64__)
 // But if another thread was allocating at the fork, the sanitizer's allocator is locked in the child. A child that
-// waits there ends without an error: the wait is not ours, and the release build runs the same test without the
-// sanitizer.
+// waits there for a second ends without an error: the wait is not ours, and the release build runs the same test
+// without the sanitizer.
 dl_find_object sanitizer{}; // where its code is loaded
 
 void tick(int, siginfo_t*, void* context) {

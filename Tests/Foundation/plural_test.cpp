@@ -15,6 +15,7 @@ using Foundation::NSBundle;
 namespace Host = Foundation::Host;
 using namespace std::string_view_literals;
 
+// Elements of a plural table, in XML.
 std::string text(const std::string& key, const std::string& value) {
     return "<key>" + key + "</key><string>" + value + "</string>";
 }

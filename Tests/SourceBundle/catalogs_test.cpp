@@ -56,6 +56,7 @@ protected:
 };
 
 using Lines = std::vector<std::string>;
+// How messages about p.imageset begin: without a place, or with "LINE:COLUMN".
 const std::string contents = "A.xcassets/p.imageset/Contents.json: ";
 std::string at(const char* place) {
     return std::string("A.xcassets/p.imageset/Contents.json:") + place + ": ";

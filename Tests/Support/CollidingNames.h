@@ -27,6 +27,7 @@ inline std::string numbered(std::size_t number) {
 // Names with the same Runtime::keyHash(). It multiplies two words at a time, each combined with a state. A first word
 // that is equal to its state makes the product zero, whatever the second word is.
 inline std::vector<std::string> inKeyHash(std::size_t count) {
+    // The states as in Runtime::hashBytes().
     const std::uint64_t seed = Runtime::hashSpread, second = seed * Runtime::hashSpread ^ Runtime::hashSpread;
     std::string begin;
     for (std::size_t i = 0; begin.size() != 24 || !isAlphanumeric(begin); ++i) {
