@@ -28,7 +28,7 @@ public:
 
     // For a plural: its format with the form `other` of every variable.
     std::string_view text() const noexcept { return text_; }
-    // The places of the text's percent signs.
+    // The part of text() that has its percent signs.
     StringTables::PercentRange percents() const noexcept { return percents_; }
     // Null for a text.
     const StringTables::PluralFormat* plural() const noexcept { return plural_; }

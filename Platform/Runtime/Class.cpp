@@ -22,7 +22,7 @@ const Method* findIn(std::span<const Method> methods, std::string_view selector)
     return found == methods.end() ? nullptr : &*found;
 }
 
-[[noreturn]] void reject(std::string_view subject, std::string_view selector, std::string_view complaint) {
+[[noreturn]] void reject(std::string_view subject, std::string_view complaint, std::string_view selector) {
     fatalError({subject, " ", complaint, " \"", selector, "\""}, "Runtime/Class", 0); // the sender's line is unknown
 }
 
@@ -50,15 +50,15 @@ namespace detail {
 const Method& resolve(const Class* cls, std::string_view selector, std::span<const Argument> arguments,
                       TypeTag result) noexcept {
     if (cls == nullptr)
-        reject("An unknown class", selector, "was sent");
+        reject("An unknown class", "was sent", selector);
     const Method* method = cls->find(selector);
     if (method == nullptr)
-        reject(cls->name(), selector, "does not respond to");
+        reject(cls->name(), "does not respond to", selector);
     if (!std::ranges::equal(method->arguments, arguments,
                             [](TypeTag published, const Argument& given) { return *published == *given.type; }))
-        reject(cls->name(), selector, "was sent arguments of other types with");
+        reject(cls->name(), "was sent arguments of other types with", selector);
     if (*method->result != *result)
-        reject(cls->name(), selector, "returns a result of another type for");
+        reject(cls->name(), "returns a result of another type for", selector);
     return *method;
 }
 

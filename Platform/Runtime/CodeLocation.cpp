@@ -42,14 +42,14 @@ std::string openedPath(const std::string& path) {
     return std::string(isPath ? read : std::string_view());
 }
 
-CodeLocation locationOf(const std::string& path, bool isMainProgram) {
+CodeLocation locationOf(const std::string& path) {
     std::string file = openedPath(path);
     if (file.empty())
         file = realPath(path);
     if (file.empty())
         return {};
     const std::size_t slash = file.rfind('/');
-    return {.directory = file.substr(0, slash), .name = file.substr(slash + 1), .isMainProgram = isMainProgram};
+    return {.directory = file.substr(0, slash), .name = file.substr(slash + 1)};
 }
 
 } // namespace
@@ -61,11 +61,13 @@ CodeLocation codeLocation(const void* code) {
         return {};
     link_map* const object = found.dlfo_link_map;
     // The main program has an empty name in the link map.
-    return object->l_name[0] == '\0' ? mainProgramLocation() : locationOf(pathOf(object), false);
+    return object->l_name[0] == '\0' ? mainProgramLocation() : locationOf(pathOf(object));
 }
 
 CodeLocation mainProgramLocation() {
-    return locationOf("/proc/self/exe", true);
+    CodeLocation program = locationOf("/proc/self/exe");
+    program.isMainProgram = !program.name.empty();
+    return program;
 }
 
 } // namespace Runtime

@@ -9,9 +9,9 @@
 
 namespace Foundation::detail {
 
-// A hash of the names, inodes, sizes and times of a bundle, of the files and folders in it, and of what those folders
-// contain, which includes all tables; 0 if there is no bundle. No value if a file cannot be inspected, or if one has
-// just changed or has a time in the future: a further change might then have the same time.
+// A hash of the names, devices, inodes, sizes and times of a bundle, of the files and folders in it, and of what those
+// folders contain, which includes all tables; 0 if there is no bundle. No value if a file cannot be inspected, or if
+// one has just changed or has a time in the future: a further change might then have the same time.
 [[nodiscard]] std::optional<std::uint64_t> bundleState(const std::string& bundle);
 
 } // namespace Foundation::detail

@@ -9,7 +9,7 @@
 #include <unicode/uenum.h>
 #include <unicode/uloc.h>
 
-extern "C" const Intl::Services* lumoraIntlServices();
+extern "C" const Intl::Services* lumoraIntlServices(); // in Intl/IcuServices.cpp
 
 namespace Intl::Precompute {
 
