@@ -30,6 +30,7 @@ namespace {
 constexpr std::size_t maxScale = 3;       // of a screen
 using Scales = std::bitset<maxScale + 1>; // bit 2 for 2x; bit 0 is not used
 
+// The folder of an asset, read again.
 struct Set {
     const SourceAsset* asset;
     Json contents;

@@ -25,7 +25,8 @@ constexpr std::size_t maxComment = 1000;
 // The size of a string literal, in bytes, from which compilers warn that it is too long.
 constexpr std::size_t maxLiteral = 65536;
 
-struct Placed {
+// An entry with its table.
+struct TableEntry {
     const AccessorTable* table;
     const NamedEntry* entry;
 };
@@ -184,22 +185,22 @@ std::string umbrella(std::span<const AccessorTable> tables, const Options& optio
 
 // Sources.
 
-// The concatenated table names and keys of one source file, with their offsets. Plain entries come first, so that their
-// numbers are also those of their slots.
+// The concatenated table names and keys of one source file, with their offsets. Plain entries, which have no
+// parameters, come first, so that their numbers are also those of their slots.
 class Keys {
 public:
-    explicit Keys(std::span<const Placed> entries) {
-        for (const Placed& placed : entries)
-            if (tables_.try_emplace(placed.table, tables_.size()).second) {
-                const std::string_view name = placed.table->name;
+    explicit Keys(std::span<const TableEntry> entries) {
+        for (const TableEntry& one : entries)
+            if (tables_.try_emplace(one.table, tables_.size()).second) {
+                const std::string_view name = one.table->name;
                 tableRows_.push_back(row({size_, name.size()}, name));
                 add(name);
             }
-        for (const bool plain : {true, false})
-            for (const Placed& placed : entries)
-                if (placed.entry->parameters.empty() == plain) {
-                    const std::string_view key = placed.entry->source->key;
-                    places_.push_back(row({tables_.at(placed.table), size_}, key));
+        for (const bool isPlain : {true, false})
+            for (const TableEntry& one : entries)
+                if (one.entry->parameters.empty() == isPlain) {
+                    const std::string_view key = one.entry->source->key;
+                    places_.push_back(row({tables_.at(one.table), size_}, key));
                     add(key);
                 }
         places_.push_back("{0, " + std::to_string(size_) + ", 0}"); // where the last key ends
@@ -237,48 +238,48 @@ private:
     std::size_t size_ = 0;
 };
 
-std::vector<std::string> includesOf(std::span<const Placed> entries, const Options& options) {
+std::vector<std::string> includesOf(std::span<const TableEntry> entries, const Options& options) {
     const std::string folder = options.module + "Strings/";
     std::vector<std::string> includes = {"Runtime/OnceSlot.h", folder + "Internal/Lookup.h"};
     const AccessorTable* included = nullptr;
-    for (const Placed& placed : entries)
-        if (placed.table != included) {
-            included = placed.table;
+    for (const TableEntry& one : entries)
+        if (one.table != included) {
+            included = one.table;
             includes.push_back(folder + included->spelling + ".h");
         }
     return includes;
 }
 
-std::string definitions(std::span<const Placed> entries, const Options& options) {
+std::string definitions(std::span<const TableEntry> entries, const Options& options) {
     CodeWriter code(options.module);
     code.addIncludes(includesOf(entries, options));
     code.add("\n// The keys, and the accessors that look them up.\n// clang-format off");
-    const auto plain = static_cast<std::size_t>(
-        std::ranges::count_if(entries, [](const Placed& placed) { return placed.entry->parameters.empty(); }));
+    const auto plainCount = static_cast<std::size_t>(
+        std::ranges::count_if(entries, [](const TableEntry& one) { return one.entry->parameters.empty(); }));
     if (!entries.empty()) {
         code.enter(options.module + "::" + options.module + "Strings::detail");
         code.add("namespace {\n");
         Keys(entries).emit(code);
-        if (plain != 0)
-            code.add(plainDefinition, {{"count", std::to_string(plain)}});
-        if (plain != entries.size())
+        if (plainCount != 0)
+            code.add(plainDefinition, {{"count", std::to_string(plainCount)}});
+        if (plainCount != entries.size())
             code.add(formattedDefinition);
         code.add(fewerOptimizations);
-        if (plain != 0)
+        if (plainCount != 0)
             code.add(textDefinition);
         code.add("\n} // namespace");
     }
     std::size_t nextPlain = 0;
-    std::size_t nextFormatted = plain;
-    for (const Placed& placed : entries) {
-        code.enter(nameSpaceOf(options, *placed.table, placed.entry->groups));
-        define(code, *placed.entry, placed.entry->parameters.empty() ? nextPlain++ : nextFormatted++);
+    std::size_t nextFormatted = plainCount;
+    for (const TableEntry& one : entries) {
+        code.enter(nameSpaceOf(options, *one.table, one.entry->groups));
+        define(code, *one.entry, one.entry->parameters.empty() ? nextPlain++ : nextFormatted++);
     }
     return code.take();
 }
 
 void emitSources(std::span<const AccessorTable> tables, const Options& options, std::vector<OutputFile>& files) {
-    std::vector<Placed> all;
+    std::vector<TableEntry> all;
     for (const AccessorTable& table : tables)
         for (const NamedEntry& entry : table.entries)
             all.push_back({&table, &entry});
