@@ -109,7 +109,7 @@ std::string_view repeatedWord(std::string_view text, std::string_view language) 
 
 std::string_view repeatedWord(const SourceEntry& entry, std::string_view language) {
     std::string_view word;
-    isAny(entry, [&](std::string_view text) { // stops at the first that holds
+    isAny(entry, [&](std::string_view text) { // is called until it returns true
         word = repeatedWord(text, language);
         return !word.empty();
     });

@@ -83,7 +83,7 @@ struct SharedText {
     const SourceBundle::SourceTable* table;
     const SourceBundle::SourceEntry* entry;
 };
-// All such keys, grouped by development text.
+// All such keys, grouped by development text, without plurals and empty texts.
 [[nodiscard]] std::vector<std::vector<SharedText>> sharedTexts(std::span<const CheckedTable> tables);
 // inconsistent-translation.
 void checkConsistency(const std::vector<std::vector<SharedText>>& shared, std::string_view language, Report& report);
