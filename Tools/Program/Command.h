@@ -49,9 +49,9 @@ std::vector<std::string> commandNames(const CLI::App& program);
 // set and not empty.
 bool hasColor(int stream);
 
-// Write a message to standard error, on one line: "FILE:LINE:COLUMN: error: WHAT" with the known parts, or "lumora:
-// error: WHAT" without a file; "note" instead of "error" for note(). Invisible characters are escaped. fail() returns
-// Exit::failed.
+// Each writes a message to standard error, on one line: "FILE:LINE:COLUMN: error: WHAT" with the known parts, or
+// "lumora: error: WHAT" without a file; note() writes "note" instead of "error". Invisible characters are escaped.
+// fail() returns Exit::failed.
 Exit fail(const Runtime::Error& error);
 void note(const Runtime::Error& what);
 void note(std::string_view what);

@@ -42,7 +42,7 @@ std::string bashChoices(const CommandInfo& command) {
     return out;
 }
 
-// Escapes brackets and colons, which delimit the parts of a zsh option specification.
+// Escapes brackets and colons, which delimit the parts of a zsh option specification, and backslashes.
 std::string zshEscaped(std::string text) {
     for (const char* const special : {"\\", "[", "]", ":"})
         text = CLI::detail::find_and_replace(text, special, std::string("\\") + special);

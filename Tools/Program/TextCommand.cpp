@@ -104,8 +104,8 @@ Exit runText(const TextOptions& options) {
     const Foundation::LocalizedFormat format = found.value_or(Foundation::LocalizedFormat(options.key));
     const FormatSignature signature = signatureOf(format);
     // Options after the key are arguments, too; this note helps users who expected otherwise.
-    if (const std::size_t left = countUnused(signature, options.arguments.size()); left != 0)
-        note(std::to_string(left) + " of " + std::to_string(options.arguments.size()) + " arguments unused");
+    if (const std::size_t unused = countUnused(signature, options.arguments.size()); unused != 0)
+        note(std::to_string(unused) + " of " + std::to_string(options.arguments.size()) + " arguments unused");
     return print(
         Foundation::String::format(format, Foundation::Locale::current(), arguments(options.arguments, signature)) +
         "\n");

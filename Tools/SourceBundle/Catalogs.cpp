@@ -59,7 +59,7 @@ bool providesNamespace(const fs::path& folder, Diagnostics& diagnostics) {
     return false;
 }
 
-// Finds the sets of catalogs without reading them.
+// Finds the sets of catalogs without reading the sets.
 class SetFinder {
 public:
     explicit SetFinder(Diagnostics& diagnostics) : diagnostics_(diagnostics) {}

@@ -27,7 +27,7 @@ struct SourceFile {
     AssetCatalog::Insets alignmentInsets{};
 };
 
-// One asset. Only the list for its kind is used, and it is not empty.
+// One asset. A colour has at least one of `colors`, any other asset at least one of `files`.
 struct SourceAsset {
     AssetCatalog::Kind kind = AssetCatalog::Kind::image;
     std::string catalog{};        // "Images"

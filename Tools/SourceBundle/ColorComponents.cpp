@@ -47,8 +47,10 @@ std::optional<double> textValue(std::string_view text, bool isAlpha) {
         return value ? std::optional(*value / 255) : std::nullopt;
     }
     const auto value = parsed<double>(text, std::chars_format::general);
-    const bool isFraction = text.find_first_of(".eE") != std::string_view::npos || (isAlpha && value <= 1);
-    return !value || isFraction ? value : std::optional(*value / 255);
+    if (!value)
+        return std::nullopt;
+    const bool isFraction = text.find_first_of(".eE") != std::string_view::npos || (isAlpha && *value <= 1);
+    return isFraction ? *value : *value / 255;
 }
 
 std::optional<double> componentValue(const Json& component, bool isAlpha) {
@@ -71,23 +73,23 @@ std::string textOf(const Json& component) {
 
 } // namespace
 
-Runtime::Result<ColorValue> colorValue(const Json& json) {
+Runtime::Result<ColorValue> colorValue(const Json& color) {
     static constexpr std::array<const char*, 4> rgb = {"red", "green", "blue", "alpha"};
     static constexpr std::array<const char*, 4> gray = {"white", "white", "white", "alpha"};
-    const std::optional<ColorSpace> space = colorSpaceNamed(text(json, "color-space"));
+    const std::optional<ColorSpace> space = colorSpaceNamed(text(color, "color-space"));
     if (!space)
-        return Runtime::Error{.message = "has the unknown colour space " + quotedName(text(json, "color-space"))};
-    ColorValue color{.space = *space};
+        return Runtime::Error{.message = "has the unknown colour space " + quotedName(text(color, "color-space"))};
+    ColorValue value{.space = *space};
     const auto& names = space == ColorSpace::gray ? gray : rgb;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        const Json& component = member(member(json, "components"), names[i]);
-        const std::optional<double> value = componentValue(component, i == 3);
-        if (!value)
+        const Json& component = member(member(color, "components"), names[i]);
+        const std::optional<double> number = componentValue(component, names[i] == std::string_view("alpha"));
+        if (!number)
             return Runtime::Error{.message = std::string("has no valid colour component ") + quotedName(names[i]) +
                                              (component.is_null() ? "" : ": " + quotedName(textOf(component)))};
-        color.components[i] = *value;
+        value.components[i] = *number;
     }
-    return color;
+    return value;
 }
 
 } // namespace SourceBundle

@@ -19,7 +19,7 @@ bool isBuildSetting(std::string_view value) {
     return value.starts_with("$(") || value.starts_with("${");
 }
 
-Runtime::Error unresolved(const std::filesystem::path& file, const Table& table, std::string_view value) {
+Runtime::Error unresolvedSetting(const std::filesystem::path& file, const Table& table, std::string_view value) {
     const auto entry = std::ranges::find(table.entries(), regionKey, &StringTables::Entry::key);
     const StringTables::Location place = table.locations()[static_cast<std::size_t>(entry - table.entries().begin())];
     return {.message = "the development language is the build setting " + std::string(value) +
@@ -56,7 +56,7 @@ std::optional<std::string> developmentLanguage(std::span<const std::filesystem::
             continue;
         if (!isBuildSetting(*region))
             return languageNamed(std::string(*region));
-        diagnostics.add(Severity::warning, unresolved(file, *table, *region));
+        diagnostics.add(Severity::warning, unresolvedSetting(file, *table, *region));
     }
     return std::nullopt;
 }

@@ -64,7 +64,7 @@ Runtime::Result<Json> readJsonObject(const fs::path& file, Diagnostics& diagnost
             if (depth > maxJsonDepth)
                 throw TooDeep();
             members.follow(event, parsed);
-            return true;
+            return true; // keep the value
         });
         if (json.is_object())
             return json;

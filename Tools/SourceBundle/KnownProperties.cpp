@@ -51,11 +51,11 @@ std::vector<std::string> unknownProperties(const Json& object, KnownProperties k
         known == KnownProperties::ofSet ? std::span<const Property>(setProperties) : entryProperties;
     std::vector<std::string> unknown;
     if (object.is_object())
-        for (const auto& [name, value] : object.items())
-            if (std::ranges::none_of(properties, [&, &name = name, &value = value](const Property& property) {
-                    return property.name == name && property.type == value.type();
+        for (const auto& item : object.items())
+            if (std::ranges::none_of(properties, [&](const Property& property) {
+                    return property.name == item.key() && property.type == item.value().type();
                 }))
-                unknown.push_back(name);
+                unknown.push_back(item.key());
     return unknown;
 }
 

@@ -55,8 +55,8 @@ std::string positionText(std::size_t argument) {
     return argument == 0 ? "" : std::to_string(argument) + "$";
 }
 
-// The text with a position at every placeholder. A text with a "*" is not changed: such a placeholder takes several
-// arguments.
+// The text with a position added to each placeholder without one. If such a placeholder has a "*", it takes several
+// arguments, and the text is not changed.
 std::string withPositions(const std::string& text) {
     std::string out;
     ArgumentCounter counter;
@@ -102,7 +102,7 @@ std::optional<Number> firstNumber(std::string_view form) {
     return std::nullopt;
 }
 
-// The form `other` is searched first, because every language has it.
+// The last form, `other`, is searched first, because every language has it.
 Number numberOf(const PluralForms& forms) {
     for (auto form = forms.rbegin(); form != forms.rend(); ++form)
         if (*form)
@@ -171,8 +171,8 @@ PluralFormat pluralOfForms(PluralForms forms) {
         for (auto& form : forms)
             if (form)
                 form = withPositions(*form);
-    return {"%" + positionText(number.argument == 1 ? 0 : number.argument) + "#@value@",
-            {{"value", number.valueType, std::move(forms)}}};
+    const std::size_t position = number.argument == 1 ? 0 : number.argument; // "%#@value@" takes the first argument
+    return {"%" + positionText(position) + "#@value@", {{"value", number.valueType, std::move(forms)}}};
 }
 
 PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substitution> substitutions) {
@@ -193,8 +193,8 @@ PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substi
         PluralVariable& variable = plural.variables[i];
         for (auto& form : variable.forms)
             if (form) {
-                const PluralPieces inForm(original, *form, original.variables[i],
-                                          std::max<std::size_t>(arguments[i], 1));
+                const std::size_t own = std::max<std::size_t>(arguments[i], 1); // an unknown one counts as the first
+                const PluralPieces inForm(original, *form, original.variables[i], own);
                 form = withoutArg(withArguments(inForm, *form, original, arguments),
                                   "%" + positionText(arguments[i]) + variable.valueType);
             }

@@ -11,8 +11,8 @@
 namespace SourceBundle {
 
 // The format with every variable replaced by its StringTables::otherForm(): for display, not for formatting. It has at
-// most maxOtherText bytes. A variable nested too deeply, or after too many others, is left out with the rest of its
-// text, because variables may refer to each other without end.
+// most maxOtherText bytes. A variable nested too deeply, or after too many others, is left out with the rest of the
+// form that contains it, because variables may refer to each other without end.
 [[nodiscard]] std::string otherText(const StringTables::PluralFormat& plural);
 inline constexpr std::size_t maxOtherText = 4096;
 

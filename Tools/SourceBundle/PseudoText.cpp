@@ -60,7 +60,7 @@ std::size_t escapeSize(std::string_view text) {
     const std::size_t end = 1 + escaped.size();
     if (escaped != "u" && escaped != "U" && escaped != "x")
         return end;
-    constexpr std::size_t mostDigits = 8;
+    constexpr std::size_t mostDigits = 8; // of "\U"; further letters after "\u" and "\x" may stay unaccented
     const std::string_view rest = text.substr(end, mostDigits);
     return end + std::min(rest.find_first_not_of("0123456789abcdefABCDEF"), rest.size());
 }
@@ -111,17 +111,17 @@ public:
         }
     }
 
-    // Pads an accented text by a third of its letters, in words of `word` characters, before the line breaks at its
-    // end. With `isWhole` it gets brackets, too; a plural form gets none.
+    // Pads an accented text by a third of its letters, before the line breaks at its end. With `isWhole` it gets
+    // brackets, too; a plural form gets none.
     std::string finish(bool isWhole) {
         if (kind_ == Pseudo::rightToLeft)
             return out_;
-        constexpr std::size_t part = 3, word = 6;
-        const std::size_t padding = (letters_ + part - 1) / part;
+        constexpr std::size_t lettersPerTilde = 3, tildesPerWord = 6;
+        const std::size_t padding = (letters_ + lettersPerTilde - 1) / lettersPerTilde;
         const std::size_t end = out_.find_last_not_of("\r\n") + 1; // npos + 1 is 0
         std::string tail;
         for (std::size_t i = 0; i < padding; ++i)
-            tail += i % word == 0 ? " ~" : "~";
+            tail += i % tildesPerWord == 0 ? " ~" : "~";
         if (!isWhole || end == 0)
             return out_.insert(end, tail);
         out_.insert(end, tail + "]");
@@ -172,7 +172,7 @@ std::string transformed(std::string_view text, Pseudo kind, bool isWhole, Plural
 
 std::string pseudoText(std::string_view text, Pseudo kind) {
     std::size_t at = 0;
-    return transformed(text, kind, true, [&] {
+    return transformed(text, kind, /*isWhole=*/true, [&] {
         const auto placeholder = StringTables::nextPlaceholder(text, at);
         at = placeholder ? placeholder->end : at;
         return placeholder;
@@ -181,12 +181,13 @@ std::string pseudoText(std::string_view text, Pseudo kind) {
 
 PluralFormat pseudoPlural(const PluralFormat& plural, Pseudo kind) {
     PluralFormat out = plural;
-    out.format = transformed(plural.format, kind, true, PluralPieces(plural));
+    out.format = transformed(plural.format, kind, /*isWhole=*/true, PluralPieces(plural));
     for (std::size_t i = 0; i < plural.variables.size(); ++i)
         for (std::size_t category = 0; category < Intl::pluralCategoryCount; ++category)
             if (const auto& form = plural.variables[i].forms[category]) {
-                const PluralPieces pieces(plural, *form, plural.variables[i], 1); // only their places are used
-                out.variables[i].forms[category] = transformed(*form, kind, false, pieces);
+                constexpr std::size_t anyArgument = 1; // only the places of the pieces are used
+                const PluralPieces pieces(plural, *form, plural.variables[i], anyArgument);
+                out.variables[i].forms[category] = transformed(*form, kind, /*isWhole=*/false, pieces);
             }
     return out;
 }

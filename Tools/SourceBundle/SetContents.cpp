@@ -121,10 +121,10 @@ private:
             addFile(entry);
     }
 
-    // Whether a compiled catalog could not hold the variant.
+    // Whether a compiled catalog could not hold the variant, which gives a warning.
     bool isBeyondLimits(const SetEntry& entry) {
         const bool hasLongText =
-            std::max(entry.language.size(), typeOf(entry).size()) > AssetCatalog::maxOtherTextBytes;
+            std::max(entry.language.size(), typeIdentifierOf(entry).size()) > AssetCatalog::maxOtherTextBytes;
         if (!hasLongText && asset_.files.size() + asset_.colors.size() < maxEntries)
             return false;
         report(Severity::warning, entry,
@@ -133,8 +133,11 @@ private:
                Topic::unreadableAsset);
         return true;
     }
-    static std::string typeOf(const SetEntry& entry) { return text(*entry.json, "universal-type-identifier"); }
+    static std::string typeIdentifierOf(const SetEntry& entry) {
+        return text(*entry.json, "universal-type-identifier");
+    }
 
+    // Whether an earlier entry is for the same traits and language, which gives a warning.
     bool isDuplicate(const SetEntry& entry) {
         const auto isSame = [&](const auto& variant) { return hasSameTraits(variant, entry); };
         if (std::ranges::none_of(asset_.files, isSame) && std::ranges::none_of(asset_.colors, isSame))
@@ -149,7 +152,7 @@ private:
         if (!path)
             return;
         SourceFile file{.fit = entry.fit, .language = entry.language, .path = *path};
-        file.typeIdentifier = typeOf(entry);
+        file.typeIdentifier = typeIdentifierOf(entry);
         file.isSymbol = asset_.path.extension() == symbolExtension;
         file.preservesVector = member(properties_, "preserves-vector-representation") == Json(true);
         if (asset_.kind == Kind::image) {
@@ -215,7 +218,7 @@ private:
                 asset_.colors.push_back(variant);
     }
 
-    // After a system error the picture may still be usable, so that is an error and no reason to leave it out.
+    // After a system error the picture may still be usable: this is an error, not a warning about a bad picture.
     void reportUnusable(Runtime::Error error) {
         if (error.cause != 0)
             diagnostics_.add(Severity::error, std::move(error), Topic::unreadableAsset, asset_.name);
@@ -246,15 +249,15 @@ private:
 };
 
 // Adds `messages`, those about a set without a usable variant. The last warning also says that the set is left out; if
-// there is no warning, an additional one says it, unless there is an error.
+// there is no warning, an additional one says so, unless there is an error.
 void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagnostics& diagnostics) {
     const auto isWarning = [](const Diagnostic& one) { return one.severity == Severity::warning; };
     const auto isError = [](const Diagnostic& one) { return one.severity == Severity::error; };
     const auto warnings = std::ranges::count_if(messages.all(), isWarning);
-    std::ptrdiff_t warning = 0;
+    std::ptrdiff_t seen = 0;
     for (const Diagnostic& one : messages.all()) {
         Diagnostic message = one;
-        if (isWarning(one) && ++warning == warnings)
+        if (isWarning(one) && ++seen == warnings)
             message.what.message += ", and with it the set, which has no other variant";
         diagnostics.add(message);
     }

@@ -20,7 +20,7 @@ std::size_t rankOf(std::string_view idiom) {
     return static_cast<std::size_t>(std::ranges::find(idioms, idiom) - idioms.begin());
 }
 
-// Reads an appearance into `fit`; false if it is not supported.
+// This and the next two functions read a property into `fit`. They return false if its value is not supported.
 bool readAppearance(const Json& appearance, Fit& fit) {
     const std::string kind = text(appearance, "appearance");
     const std::string value = text(appearance, "value");
@@ -66,7 +66,7 @@ std::vector<std::string> conditionsOf(const Json& entry) {
     return conditions;
 }
 
-// The width that a condition requires: 145 for "<=145", 162 for ">161", 0 without a number or if it is too large.
+// The width that a condition requires: 145 for "<=145", 162 for ">161". A missing or too large number counts as 0.
 std::int64_t screenWidth(std::string_view condition) {
     const std::size_t digits = std::min(condition.find_first_of("0123456789"), condition.size());
     int width = 0;

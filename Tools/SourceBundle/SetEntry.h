@@ -37,7 +37,7 @@ struct SetEntry {
 // rank, or else with fewer conditions, or else with the wider screen.
 [[nodiscard]] bool isPreferred(const SetEntry::Device& one, const SetEntry::Device& other);
 
-// Precondition: `entry` is a JSON object that outlives the result.
-[[nodiscard]] SetEntry readEntry(const Json& entry, std::size_t number);
+// Precondition: `json` is an object that outlives the result.
+[[nodiscard]] SetEntry readEntry(const Json& json, std::size_t number);
 
 } // namespace SourceBundle

@@ -30,6 +30,7 @@ struct Source::Storage {
     std::deque<StringTables::PluralFormat> plurals;
     std::pmr::monotonic_buffer_resource characters;
 
+    // A copy of the text that lives as long as this object.
     std::string_view keep(std::string_view text) {
         if (text.empty())
             return {};
@@ -41,7 +42,7 @@ struct Source::Storage {
 
 namespace {
 
-using Languages = std::map<std::string, LanguageTexts>;
+using Languages = std::map<std::string, LanguageTexts>; // the texts of one table, by language
 
 // Whether files of these kinds may be one table in one language: TABLE.strings and TABLE.stringsdict.
 bool areOneTable(TableFile::Kind one, TableFile::Kind other) {
@@ -94,7 +95,7 @@ public:
 
     std::vector<SourceTable> take() {
         std::vector<SourceTable> all;
-        for (auto& [name, languages] : byName_) {
+        for (auto& [name, languages] : tables_) {
             SourceTable& table = all.emplace_back(SourceTable{name, {}});
             for (auto& [language, texts] : languages)
                 table.languages.push_back(std::move(texts));
@@ -103,6 +104,7 @@ public:
     }
 
 private:
+    // `texts` is the result of readTextsFile(), or null for a file of another kind.
     void read(const TableFile& file, TextsFile* texts) {
         switch (file.kind) {
         case TableFile::Kind::texts:
@@ -116,7 +118,7 @@ private:
 
     // Where to add the texts of `file` in `language`; null after an error.
     LanguageTexts* textsFor(const TableFile& file, const std::string& language) {
-        LanguageTexts& texts = byName_[file.table].try_emplace(language, language).first->second;
+        LanguageTexts& texts = tables_[file.table].try_emplace(language, language).first->second;
         for (const TableFile* other : texts.files)
             if (!areOneTable(other->kind, file.kind)) {
                 diagnostics_.add(Severity::error,
@@ -220,7 +222,7 @@ private:
     Source::Storage& storage_;
     std::string catalogLanguage_;
     Diagnostics& diagnostics_;
-    std::map<std::string, Languages> byName_;
+    std::map<std::string, Languages> tables_; // by name
 };
 
 } // namespace
@@ -260,10 +262,6 @@ void LanguageTexts::add(LanguageTexts&& other) {
 void LanguageTexts::replace(const SourceEntry& entry) {
     if (!add(entry))
         entries_[index_.find(entry.key, entries_)] = entry;
-}
-
-void LanguageTexts::reserve(std::size_t count) {
-    entries_.reserve(entries_.size() + count);
 }
 
 const LanguageTexts* SourceTable::find(std::string_view language) const {

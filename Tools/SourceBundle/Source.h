@@ -30,7 +30,7 @@ enum class State : std::uint8_t { translated, isNew, needsReview };
 // A key's text in one language.
 struct SourceEntry {
     std::string_view key;
-    std::string_view text;                              // for a plural, the text with its forms `other`
+    std::string_view text;                              // for a plural, its otherText() (PluralText.h)
     const StringTables::PluralFormat* plural = nullptr; // null for a plain text
     std::string_view comment{};                         // for translators
     const TableFile* file = nullptr;
@@ -60,7 +60,7 @@ public:
     void add(LanguageTexts&& other);
     // Adds an entry or replaces the one with the same key.
     void replace(const SourceEntry& entry);
-    void reserve(std::size_t count);
+    void reserve(std::size_t count) { entries_.reserve(count); }
 
     std::string language;                // "de", "pt-BR", "Base"
     std::vector<const TableFile*> files; // that were read for the texts; none for a pseudo-language
@@ -89,7 +89,7 @@ struct SourceOptions {
     bool addsPseudoLanguages = false;
 };
 
-enum class Pseudo : std::uint8_t;
+enum class Pseudo : std::uint8_t; // in PseudoText.h
 
 class Source {
 public:

@@ -68,13 +68,13 @@ private:
         diagnostics_.add(severity, {.message = std::move(message), .file = file});
     }
 
-    // Whether the path is inside the given folder. Links that lead out of it are refused, so that no other content is
-    // disclosed.
+    // Whether the path, with its links followed, is inside the given folder.
     bool isInside(const fs::path& path) const {
         std::error_code failed;
         const fs::path inside = fs::weakly_canonical(path, failed).lexically_relative(source_);
         return !failed && !inside.empty() && *inside.begin() != "..";
     }
+    // False, with an error, for a link that leads out of the given folder: no content from elsewhere may be disclosed.
     bool mayRead(const fs::directory_entry& entry) {
         if (!entry.is_symlink() || isInside(entry.path()))
             return true;
@@ -82,8 +82,8 @@ private:
                          Topic::unreadableTable);
         return false;
     }
-    // A given folder may contain another: each table and catalog counts once.
-    bool isNew(const fs::path& path) { return known_.insert(source_ / path.lexically_relative(given_)).second; }
+    // Remembers the table or catalog; false if it is known, because one given folder may contain another.
+    bool addKnown(const fs::path& path) { return known_.insert(source_ / path.lexically_relative(given_)).second; }
 
     void findInfo(const fs::path& file) {
         std::error_code failed;
@@ -99,7 +99,7 @@ private:
                 findFile(entry);
     }
 
-    // `depth`: the number of folders around it, up to and with the given one.
+    // `depth`: the number of folders around the entry, up to and including the given one.
     void findFolder(const fs::directory_entry& entry, int depth) {
         const fs::path& path = entry.path();
         const bool isLanguage = path.extension() == layout::languageSuffix;
@@ -164,12 +164,12 @@ private:
 
     void addTable(const fs::directory_entry& entry, TableFile::Kind kind, std::string language) {
         isEmpty_ = false;
-        if (mayRead(entry) && isNew(entry.path()))
+        if (mayRead(entry) && addKnown(entry.path()))
             found_.tables.push_back({kind, entry.path().stem(), std::move(language), entry.path()});
     }
     void addCatalog(const fs::path& path) {
         isEmpty_ = false;
-        if (isNew(path))
+        if (addKnown(path))
             found_.catalogs.push_back(path);
     }
 

@@ -34,8 +34,8 @@ struct SourceFiles {
 
 // Searches the given folders and their subfolders. Hidden files and folders are skipped; a table or catalog that is in
 // several given folders is found once. A link to a language folder is followed, unless another link was followed to it.
-// Errors: a folder that is unreadable or below more than maxFolderDepth others; a given folder that is none, is a
-// compiled bundle, or contains neither tables nor catalogs; a table, language folder or Info.plist that is a link out
+// Errors: a folder that is unreadable or below more than maxFolderDepth others; a given path that is not a folder, is
+// a compiled bundle, or contains neither tables nor catalogs; a table, language folder or Info.plist that is a link out
 // of its given folder. Warnings: tables, sets and files *.lproj in the wrong place, and extensions with capitals.
 // Notes: links that are not followed, compiled bundles inside a folder, and other files in a language folder.
 [[nodiscard]] SourceFiles findFiles(std::span<const std::filesystem::path> folders, Diagnostics& diagnostics);
@@ -53,7 +53,7 @@ inline constexpr const char* compiledMark = ".lumora-bundle";
 [[nodiscard]] std::vector<std::filesystem::directory_entry> sortedEntries(const std::filesystem::path& folder,
                                                                           Diagnostics& diagnostics);
 
-// The language code for the name of a language folder (without ".lproj") or of Info.plist. Old ones are English:
+// The language code for the name of a language folder (without ".lproj") or of Info.plist. Old names are English words:
 // "German" gives "de". Other names are returned unchanged.
 [[nodiscard]] std::string languageNamed(const std::string& name);
 

@@ -248,7 +248,7 @@ public:
         : file_(file), text_(std::move(text)), lines_(text_), add_(add), diagnostics_(diagnostics) {}
 
     Runtime::Result<std::string> read() {
-        if (text_.starts_with("\xEF\xBB\xBF"))
+        if (text_.starts_with("\xEF\xBB\xBF")) // byte order mark
             text_.erase(0, 3);
         // The parser needs padding after the text.
         const std::size_t size = text_.size();
