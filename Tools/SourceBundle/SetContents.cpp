@@ -229,7 +229,7 @@ private:
         error.message += "; it is left out";
         return error;
     }
-    // Adds a message located at the entry.
+    // Adds a message located at the entry, whose label `what` continues: "entry 3 (...) is not a regular file".
     void report(Severity severity, const SetEntry& entry, std::string_view what, Topic topic = Topic::other) {
         Runtime::Error error = places_.of(entry.number);
         error.message = entry.label().append(" ").append(what);

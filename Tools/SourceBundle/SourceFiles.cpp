@@ -117,13 +117,13 @@ private:
             findInFolder(path, depth);
     }
 
-    // Whether the extension has capitals where it must have none, which is reported: other systems ignore case in file
-    // names.
+    // Whether the extension is a known one but has capitals, which gives a warning: systems that ignore case in file
+    // names accept it.
     bool hasCapitalExtension(const fs::path& path) {
         const std::string extension = lowerCase(path.extension());
-        static constexpr std::string_view read[] = {layout::languageSuffix, catalogSuffix, layout::textsSuffix,
-                                                    layout::pluralsSuffix, stringCatalogSuffix};
-        if (extension == path.extension() || std::ranges::find(read, extension) == std::end(read))
+        static constexpr std::string_view known[] = {layout::languageSuffix, catalogSuffix, layout::textsSuffix,
+                                                     layout::pluralsSuffix, stringCatalogSuffix};
+        if (extension == path.extension() || std::ranges::find(known, extension) == std::end(known))
             return false;
         add(Severity::warning, path, "is left out: its extension must be " + extension);
         return true;
