@@ -1,3 +1,4 @@
+// Defined in all_texts.cpp, which all_texts.py writes during the build.
 #pragma once
 
 #include <cstddef>

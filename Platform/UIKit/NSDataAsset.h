@@ -12,7 +12,8 @@
 
 namespace UIKit {
 
-// A derived class may define its own static assetWithName(); a module's `withAsset<Derived>()` calls it.
+// A derived class may define its own static assetWithName(); a module's `withAsset<Derived>()`
+// (SwiftUI/ModuleConveniences.h) calls it.
 class LUMORA_EXPORT NSDataAsset {
 public:
     // The data asset with that name (exact) in the catalog of `bundle`, in the best variant for the current traits and
@@ -21,7 +22,7 @@ public:
                                                                   const Foundation::NSBundle& bundle);
 
     [[nodiscard]] std::string_view name() const noexcept { return name_; }
-    // "public.json", or empty.
+    // The type that the catalog gives, such as "public.json"; empty if it gives none.
     [[nodiscard]] std::string_view typeIdentifier() const noexcept { return typeIdentifier_; }
     [[nodiscard]] std::span<const std::uint8_t> data() const noexcept { return data_; }
 

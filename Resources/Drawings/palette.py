@@ -11,8 +11,10 @@ COLOURS = {
     "wine": "#9C2F4F", "gold": "#F5B301",
 }
 
-# Skin (and its shade), hair, clothes and scenery of the people and places of each region; "plain" is for pictures without one.
-REGIONS = {
+# People and places of each region; "ru" is only for the pictures that have a variant for Russia, "plain" for pictures without a region.
+# People: skin (and its shade), hair; top, bottom and shoe are clothes, accent is a stripe, scarf or hair band. Places: the sky from top
+# to bottom; far and near are layers of the landscape.
+REGION_COLOURS = {
     "plain": dict(skin="#F2C6A0", shade="#DFAA80", hair="#5A3A28", top="#3B7DFF", bottom="#23283A",
                   shoe="#FFFFFF", accent="#7A5CF0", sky=("#EEF3FF", "#D6E4FF"), far="#BDD1FA",
                   near="#9DB9F2", ground="#7FA0E6", sun="#FFFFFF"),

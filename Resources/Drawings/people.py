@@ -9,7 +9,7 @@ import math
 from dataclasses import dataclass, replace
 
 import paths
-from palette import REGIONS, darker
+from palette import REGION_COLOURS, darker
 
 
 @dataclass
@@ -40,7 +40,7 @@ STYLES = {"plain": ("short", "tail"), "arab": ("crop", "scarf"), "asia": ("side"
 
 def look(male, region="plain", **changes):
     """The look of a man or woman of a region, with other values for some members of Look."""
-    colours = REGIONS["arab" if region == "ar" else region]
+    colours = REGION_COLOURS["arab" if region == "ar" else region]
     person = Look(male, *(colours[k] for k in ("skin", "shade", "hair", "top", "bottom", "shoe")),
                   style=STYLES[region][not male], sleeves="short" if male else "none",
                   legs="short" if male else "long", trim=colours["accent"])

@@ -2,7 +2,7 @@
 
 import glyphs  # noqa: F401  (fills the vocabulary)
 import paths
-from palette import REGIONS, darker
+from palette import REGION_COLOURS, darker
 
 # Landscapes, in the notation of canvas.py, for a picture of width 320 with the horizon at y = 0.
 MOTIFS = {
@@ -49,7 +49,7 @@ MOTIFS = {
 def landscape(d, region, horizon):
     """Sky, sun, the region's motif and the ground over the whole drawing. The names of training targets say "ar" for "arab"."""
     region = "arab" if region == "ar" else region
-    c = REGIONS[region]
+    c = REGION_COLOURS[region]
     k = d.width / 320
     d.fade(c["sky"][0], c["sky"][1])
     d.add(paths.ellipse(d.width * 0.62, horizon - 150 * k, 40 * k), c["sun"], opacity=0.8)

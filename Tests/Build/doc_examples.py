@@ -17,8 +17,8 @@ EMPTY, SHOP = "empty", "shop"
 PAGES = {"README.md": SHOP, "Docs/own-module.md": EMPTY, "Docs/add-a-text.md": SHOP, "Docs/add-a-language.md": SHOP,
          "Docs/add-a-picture.md": SHOP, "Docs/use-from-c.md": EMPTY, "Docs/check.md": SHOP, "Docs/translate.md": SHOP,
          "Docs/gallery.md": SHOP, "Docs/plurals.md": EMPTY, "Docs/naming.md": EMPTY}
-# "```cpp" begins a block of C++, "```cpp main.cpp" the contents of a file, "```cpp >>main.cpp" an addition to it.
-BLOCK = re.compile(r"^```(\w+)(?: (>>)?(\S+))?\n(.*?)^```$", re.DOTALL | re.MULTILINE)
+# A block after the line "`main.cpp`:" is the contents of that file; after "Add to `main.cpp`:" it is appended to the file.
+BLOCK = re.compile(r"^(?:(Add to )?`(\S+)`:\n)?```(\w+)\n(.*?)^```$", re.DOTALL | re.MULTILINE)
 INDENTED = re.compile(r"(?:\A|\n)\n    (?! )(.*)")  # the first line of a block that is only indented
 BUILDS_LUMORA = re.compile(r"cmake .*\bbuild/own\b")  # not run: this test installs the build that it is run from
 INSTALLED = "/opt/lumora"  # where the pages install Lumora
@@ -64,7 +64,7 @@ def follow(page, folder, environment):
     faults = [f"{page}: a block without a kind: {line}" for line in INDENTED.findall(BLOCK.sub("", text))]
     fragments = {"cpp": [], "cmake": []}
     prefix = environment["PREFIX"]
-    for kind, appends, file, block in BLOCK.findall(text):
+    for appends, file, kind, block in BLOCK.findall(text):
         block = block.replace(INSTALLED, prefix)
         if file:
             path = folder / file

@@ -10,7 +10,7 @@ import tempfile
 # The contents of every bitmap, which the page cannot show: a white pixel.
 PIXEL = base64.b64decode("iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAAAAAA6fptVAAAACklEQVR4nGP4DwABAQEAsTj2FAAAAABJRU5ErkJggg==")
 BITMAP = re.compile(r'"filename": "([^"]+\.png)"')
-BLOCK = re.compile(r"```\w+ (\S+)\n(.*?)```", re.DOTALL)
+BLOCK = re.compile(r"^`(\S+)`:\n```\w+\n(.*?)```", re.DOTALL | re.MULTILINE)
 
 
 def found(program, own, files, arguments):

@@ -98,6 +98,7 @@ Runtime::Result<XmlDocument> XmlDocument::read(std::string bytes) {
     if (auto parsed = parseXml(contents, reader); !parsed)
         return std::move(parsed.error());
     document.root_ = std::move(reader.root);
+    // Without a byte-order mark, isUtf8 is false and the declaration decides; without either, XML is UTF-8.
     document.hasOtherEncoding_ = !contents.isUtf8 && !reader.declaredEncoding.empty() &&
                                  SourceBundle::lowerCase(reader.declaredEncoding) != "utf-8";
     document.source_->locator.emplace(contents);
@@ -113,7 +114,7 @@ std::string xmlAttribute(std::string_view text) {
     for (const char c : StringTables::internal::xmlText(text))
         if (c == '"')
             out += "&quot;";
-        else if (c == '\t' || c == '\n')
+        else if (c == '\t' || c == '\n') // would be read as spaces; xmlText() has escaped CR
             out.append("&#").append(std::to_string(int{c})).append(";");
         else
             out += c;

@@ -84,7 +84,7 @@ struct Color {
 struct Data {
     Fit fit;
     std::string language{};
-    std::string typeIdentifier{}; // "public.json", or empty
+    std::string typeIdentifier{}; // such as "public.json"; may be empty
     Bytes bytes{};
 };
 

@@ -12,7 +12,8 @@ namespace StringTables::internal {
 // has neither U+FFFE nor U+FFFF.
 [[nodiscard]] bool canBeXml(std::string_view text) noexcept;
 
-// Escapes `text` as element content. With `inAscii`, characters that are not ASCII become numeric references.
+// Escapes `text` as element content. Carriage returns become numeric references; with `inAscii`, so do characters that
+// are not ASCII.
 [[nodiscard]] std::string xmlText(std::string_view text, bool inAscii = false);
 
 // `text` with a space inside every `mark`, which has two characters, so that it can be in a comment that `mark` would

@@ -21,7 +21,7 @@ function assetName(asset) {
     const last = asset.accessor?.split("::").pop();
     const name = make("div", { class: "name" });
     if (asset.accessor)
-        name.append(copyButton(fullAccessor("assets", asset), last));
+        name.append(accessorButton(fullAccessor("assets", asset), last));
     if (asset.name !== last)
         name.append(make("code", { class: "key", dir: "auto" }, asset.name));
     return name;

@@ -18,7 +18,7 @@ function fileSize(bytes) {
     return bytes < 1e6 ? `${(bytes / 1e3).toFixed(1)} kB` : `${(bytes / 1e6).toFixed(1)} MB`;
 }
 
-// A button that shows `shown` and copies `full`.
-function copyButton(full, shown) {
-    return make("button", { type: "button", class: "accessor", "data-copy": full, title: `Copy ${full}` }, shown);
+// A button that shows the short name of an accessor; a click copies its full name (page.js).
+function accessorButton(fullName, shortName) {
+    return make("button", { type: "button", class: "accessor", "data-copy": fullName, title: `Copy ${fullName}` }, shortName);
 }

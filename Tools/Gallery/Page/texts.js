@@ -51,7 +51,7 @@ function fillCell(cell, text, index) {
 function textRow(text) {
     const name = make("div", { class: "name" });
     if (text.accessor)
-        name.append(copyButton(fullAccessor("texts", text), text.accessor));
+        name.append(accessorButton(fullAccessor("texts", text), text.accessor));
     name.append(make("code", { class: "key", dir: "auto" }, text.key));
     if (!text.accessor)
         name.append(make("p", { class: "reason" }, make("span", { class: "tag missing" }, "No accessor"), " ", text.reason ?? ""));
