@@ -23,12 +23,12 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
 
     # A public header compiles alone. In C++17 only the C header Lumora/Loc.h does; others give one error, apart from that of
     # the missing file lumora-needs-c++20, which ends the compilation.
-    headers = sorted(str(path.relative_to(top)) for top in (prefix / "include", prefix / "include/lumora-platform")
-                     for path in top.rglob("*.h") if top == prefix / "include/lumora-platform" or "lumora-platform" not in path.parts)
+    include, platform = prefix / "include", prefix / "include/lumora-platform"
+    headers = sorted(str(path.relative_to(platform if path.is_relative_to(platform) else include)) for path in include.rglob("*.h"))
 
     def errors(standard, code, *more):
-        done = subprocess.run(["c++", standard, "-fsyntax-only", "-Wall", "-Wextra", "-Werror", *more, "-I", prefix / "include",
-                               "-I", prefix / "include/lumora-platform", "-x", "c++", "-"], input=code, capture_output=True, text=True)
+        done = subprocess.run(["c++", standard, "-fsyntax-only", "-Wall", "-Wextra", "-Werror", *more, "-I", include,
+                               "-I", platform, "-x", "c++", "-"], input=code, capture_output=True, text=True)
         return [line for line in done.stderr.splitlines() if "error:" in line and "fatal error: lumora-needs" not in line]
 
     def faults_of(header):
@@ -69,7 +69,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
            [russian("Continue"), "25 лет"])
     expect("lumora text", run(prefix / "bin/lumora", "text", "--language", "ru", "Continue"), russian("Continue") + "\n")
 
-    # Tables in XML are read by a plug-in. Without it they cannot be read, which is reported.
+    # Tables in XML are read by a plug-in. Without the plug-in they cannot be read, which is reported.
     tables = folder / "Xml.bundle/Base.lproj"
     tables.mkdir(parents=True)
     (tables / "Localizable.strings").write_text("<plist><dict><key>a</key><string>text</string></dict></plist>")
@@ -80,7 +80,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     done = subprocess.run(read, capture_output=True, text=True)
     expect("without the plug-in", (done.returncode, done.stdout, plugin.name in done.stderr), (2, "", True))
 
-    # Drawings are drawn by another plug-in. Only texts, and pictures that an earlier compile drew, are compiled without it.
+    # Drawings are drawn by another plug-in. A compile needs it only for drawings that no earlier compile drew.
     picture = folder / "Drawn/A.xcassets/p.imageset"
     picture.mkdir(parents=True)
     (picture / "Contents.json").write_text('{"images": [{"filename": "p.svg"}]}')

@@ -20,8 +20,8 @@ public:
             write(name, text);
     }
 
-    // "RULE FILE:LINE:COLUMN LANGUAGE KEY" for each finding except coverage. KEY is empty for a whole table; for an
-    // asset, LANGUAGE is empty and KEY its name.
+    // "RULE FILE:LINE:COLUMN LANGUAGE KEY" for each finding except coverage. KEY is empty for a whole table. For an
+    // asset, LANGUAGE is empty and KEY is the asset's name.
     Strings findings(Check::Options options = {}) {
         options.folders = {path()};
         const SourceBundle::Source source = read();

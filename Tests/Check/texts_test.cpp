@@ -12,7 +12,7 @@ std::string entry(std::string_view text) {
     return "\"key\" = \"" + std::string(text) + "\";";
 }
 
-// The rules that a development text and its translation break, with spaces between them.
+// The rules that a development text and its translation break, separated by spaces.
 std::string rulesFor(const char* language, std::string_view development, std::string_view translation) {
     CheckedSource source(
         {{"en.lproj/T.strings", entry(development)}, {std::string(language) + ".lproj/T.strings", entry(translation)}});

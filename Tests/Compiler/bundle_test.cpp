@@ -213,7 +213,7 @@ TEST(CompileBundle, ReusesTheLastCompile) {
     EXPECT_EQ(timeOf(bundle / "Info.plist"), yesterday);
     EXPECT_EQ(timeOf(bundle / "de.lproj/A.strings"), yesterday);
     EXPECT_NE(timeOf(bundle / "Base.lproj/A.strings"), yesterday);
-    EXPECT_EQ(fs::hard_link_count(catalog), 1U);
+    EXPECT_EQ(fs::hard_link_count(catalog), 1U); // the old bundle, to whose file it was a link, is removed
 
     folder.write("source/A.xcassets/two.imageset/p", svg(3, "tan")); // has as many bytes as before
     compileAndCompare(__LINE__);

@@ -110,7 +110,7 @@ TEST_F(Plurals, ChooseFormsByTheRightArgument) {
                                              Foundation::Locale::current(), arguments),
                   expected)
             << "line " << line;
-    // Each form has the next variable twice, eight levels deep: the text is cut at its longest length.
+    // Each form has the next variable twice, eight levels deep, so the text exceeds the limit and is cut.
     EXPECT_LE(formatted("many", {5}).size(), Foundation::detail::longestPlural + longForm);
 }
 

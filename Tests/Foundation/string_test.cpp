@@ -190,8 +190,8 @@ private:
         value(format, conversion);
     }
 
-    // Adds an argument for a width or a precision, if it is given as one, and returns its "*". Such arguments come
-    // before the value.
+    // For a width or a precision that is given as an argument: adds the argument and returns its "*". Such arguments
+    // come before the value.
     std::string size(const std::optional<int>& argument) {
         if (!argument)
             return "";

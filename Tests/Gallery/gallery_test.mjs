@@ -156,7 +156,7 @@ onPage("everything can be done with the keyboard", async (tab) => {
 }, { permissions: ["clipboard-read", "clipboard-write"] });
 
 onPage("pictures have their pixels and variants, on the chosen background", async (tab) => {
-    for (const name of ["Colours", "Regions", "Pictures"]) { // their places are only estimated until they are laid out
+    for (const name of ["Colours", "Regions", "Pictures"]) { // a section's place is only estimated until it is laid out
         await tab.click(`nav >> text=${name}`);
         await tab.waitForFunction((id) => {
             const bar = document.querySelector("#controls").getBoundingClientRect();

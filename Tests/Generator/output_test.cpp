@@ -15,15 +15,15 @@ namespace fs = std::filesystem;
 TEST(OutputFile, ReplacesChangedAndRemovesStaleFiles) {
     const Support::TemporaryFolder folder;
     const fs::path out = folder / "new" / "out";
-    ASSERT_TRUE(
-        Generator::writeFiles(out, {{"a.h", "// mark\n1"}, {"in/b.h", "// mark\n2"}, {"in/c.h", "// mark\n3"}}));
-    folder.write("new/out/in/ours.h", "// by hand\n// mark\n");
+    ASSERT_TRUE(Generator::writeFiles(
+        out, {{"a.h", "// generated\n1"}, {"in/b.h", "// generated\n2"}, {"in/c.h", "// generated\n3"}}));
+    folder.write("new/out/in/ours.h", "// by hand\n// generated\n");
     const auto before = fs::last_write_time(out / "a.h") - std::chrono::hours(1);
     fs::last_write_time(out / "a.h", before);
 
-    ASSERT_TRUE(Generator::writeFiles(out, {{"a.h", "// mark\n1"}, {"in/b.h", "// mark\nnew"}}));
+    ASSERT_TRUE(Generator::writeFiles(out, {{"a.h", "// generated\n1"}, {"in/b.h", "// generated\nnew"}}));
     EXPECT_EQ(fs::last_write_time(out / "a.h"), before);
-    EXPECT_EQ(Support::contents(out / "in/b.h"), "// mark\nnew");
+    EXPECT_EQ(Support::contents(out / "in/b.h"), "// generated\nnew");
     EXPECT_FALSE(fs::exists(out / "in/c.h"));
     EXPECT_TRUE(fs::exists(out / "in/ours.h"));
 

@@ -73,12 +73,12 @@ TEST(Jpeg, EveryColorSpace) {
     const Case cases[] = {
         {__LINE__, {JCS_GRAYSCALE, {77}}, {77, 77, 77}},
         {__LINE__, colored, {200, 100, 50}},
-        {__LINE__, {JCS_RGB, {0, 255, 10}, true}, {0, 255, 10}},
+        {__LINE__, {.space = JCS_RGB, .pixel = {0, 255, 10}, .progressive = true}, {0, 255, 10}},
         // CMYK: 0 is no ink; the fourth ink, black, darkens the others.
         {__LINE__, {JCS_CMYK, {255, 0, 51, 0}}, {0, 255, 204}},
         {__LINE__, {JCS_CMYK, {0, 51, 255, 51}}, {204, 163, 0}},
         // Files with an Adobe marker store inverted inks.
-        {__LINE__, {JCS_CMYK, {255, 204, 0, 204}, true, true}, {204, 163, 0}},
+        {__LINE__, {.space = JCS_CMYK, .pixel = {255, 204, 0, 204}, .progressive = true, .adobe = true}, {204, 163, 0}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.line);

@@ -133,7 +133,7 @@ TEST_F(Catalogs, UseThePicturesOfOneKindOfDevice) {
          {"warning " + at("1:13") + R"(entry 1 ("missing") is a file that does not exist and is left out)",
           "note " + at("2:13") +
               R"(entry 3 ("2") is for other devices (idiom "ipad") and is left out: the variants for idiom "iphone" are used)"}},
-        // If there are no others, pictures with conditions are used; among those for a watch the widest.
+        // If there are no others, pictures with conditions are used: for watches, that for the widest screen.
         {__LINE__, R"({"idiom": "universal", "display-gamut": "display-P3", "filename": "1"})", {"1"}, {}},
         {__LINE__, R"({"idiom": "universal", "display-gamut": "sRGB", "filename": "1"})", {"1"}, {}},
         {__LINE__,

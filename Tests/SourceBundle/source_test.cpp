@@ -1,4 +1,4 @@
-// The content of a source, and messages about the rest.
+// The content of a source, and the messages about what is left out.
 #include "SourceBundle/Source.h"
 
 #include "../Support/SourceFolder.h"

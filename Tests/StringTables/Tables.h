@@ -52,7 +52,7 @@ inline std::string utf16(std::string_view ascii, bool bigEndian = false, bool ma
 
 // Reads every prefix of `bytes`, and `bytes` with each byte replaced by each of `edits`. If a table is read
 // successfully, all its entries must be found.
-inline void damage(const std::string& bytes, std::string_view edits) {
+inline void readDamaged(const std::string& bytes, std::string_view edits) {
     const auto check = [](std::string damaged) {
         const auto table = StringTables::Table::read(std::move(damaged));
         if (!table)

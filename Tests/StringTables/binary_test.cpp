@@ -165,7 +165,7 @@ TEST(BinaryTable, SurvivesDamage) {
     std::string every;
     for (int byte = 0; byte < 256; ++byte)
         every += static_cast<char>(byte);
-    Tables::damage(file(plain), every);
+    Tables::readDamaged(file(plain), every);
 }
 
 // A long shared string is read once; overlapping strings are rejected.
@@ -196,7 +196,7 @@ TEST(BinaryTable, TakesLinearTime) {
     objects[0] = head('\xDF', count) + longKey + own;
     EXPECT_EQ(read(file(objects, 4, 4)).size(), 1u);
 
-    for (std::size_t i = 1; i <= count; ++i) // the bytes of the lengths are ASCII, because strings contain them
+    for (std::size_t i = 1; i <= count; ++i) // lengths in ASCII bytes, because overlapping strings contain them
         objects[i] = head('\x5F', ((count - i) * 10 + 4) & 0x7F7F7F7F) + "    ";
     objects[0] = head('\xDF', count) + own + own;
     objects.pop_back();

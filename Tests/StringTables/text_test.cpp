@@ -186,8 +186,8 @@ TEST(TextTable, FindsAndLocatesAfterMoves) {
 
 TEST(TextTable, SurvivesDamage) {
     const std::string source = "/* c */ {\"k\\U00e9\\\"\" = \"é\\101 v\"; // x\n b; 'd' = ({e = <0f>;}, f);}";
-    Tables::damage(source, "\0\"\\'/*={}()<>;\nU\xC3\xFF"s);
-    Tables::damage(Tables::utf16(source), "\0\"\\\xD8\xFF"s);
+    Tables::readDamaged(source, "\0\"\\'/*={}()<>;\nU\xC3\xFF"s);
+    Tables::readDamaged(Tables::utf16(source), "\0\"\\\xD8\xFF"s);
 }
 
 TEST(TextTable, TakesLinearTime) {

@@ -99,7 +99,7 @@ TEST(XmlTable, RejectsWithLocationAndReason) {
 }
 
 TEST(XmlTable, SurvivesDamage) {
-    Tables::damage(
+    Tables::readDamaged(
         head +
             plist("<key>k&amp;</key><string>é</string>\n<key>d</key><dict><key>a</key><array><true/></array></dict>"),
         "\0<>/&;\"[ k\xC3\xFF"s);

@@ -88,7 +88,7 @@ class Program(unittest.TestCase):
         for word in ("something else", "x" * 5000):
             self.assertNotIn("did you mean", run(word)[2])
             self.assertNotIn("did you mean", run("text", word)[2])
-        # The man page and the completions have every command and option; the program that reads them, if installed, accepts them.
+        # The man page and the completions have every command and option; man and the shells, if installed, accept them.
         commands = re.findall(r"^  ([a-z]+) ", run("help")[1].decode().split("Commands:")[1], re.M)
         self.assertEqual(set(commands), {*self.CALLS, "watch"})
         options = set()
@@ -419,7 +419,7 @@ class Program(unittest.TestCase):
         self.assertTrue(run("gallery", source, "-o", page)[2].startswith(f"{broken}:2:"))
         self.assertFalse(page.exists())
         broken.write_text('"a" = "b";')
-        # An image and a colour of one name: `generate` gives it to the colour.
+        # An image and a colour of one name: `generate` gives the name to the colour.
         self.write("Sales/A.xcassets/x.imageset/Contents.json", '{"images": [{"filename": "x"}]}')
         self.write("Sales/A.xcassets/x.imageset/x", '<svg xmlns="http://www.w3.org/2000/svg" width="1" height="1"/>')
         self.write("Sales/A.xcassets/x.colorset/Contents.json", '{"colors": [{"color": {"components": {"white": 1}, "color-space": "gray-gamma-22"}}]}')

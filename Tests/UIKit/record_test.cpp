@@ -38,7 +38,7 @@ constinit const DataSets regions = Module::RecordFactory::data("regions");
 static_assert(std::is_trivially_destructible_v<Images> && std::is_trivially_destructible_v<Colors> &&
               std::is_trivially_destructible_v<DataSets>);
 
-// Users can copy images and data and share colours, but cannot create any of them.
+// Users can copy records of images and data, but not of colours, and can create none.
 template <class Record>
 constexpr bool isMadeByTheModuleOnly =
     !std::is_default_constructible_v<Record> && !std::is_constructible_v<Record, const char*> &&
