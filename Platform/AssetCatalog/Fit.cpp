@@ -45,11 +45,12 @@ std::uint32_t languageDistance(std::string_view offered, std::span<const std::st
     constexpr std::uint32_t forAll = std::uint32_t{1} << 24;
     if (offered.empty())
         return forAll;
-    std::uint32_t place = 0;
+    std::uint32_t placeTimes256 = 0;
     for (const std::string& language : wanted.first(std::min<std::size_t>(wanted.size(), forAll >> 8))) {
         if (isTagOrItsBeginning(offered, language))
-            return place + static_cast<std::uint32_t>(std::min<std::size_t>(language.size() - offered.size(), 255));
-        place += 256;
+            return placeTimes256 +
+                   static_cast<std::uint32_t>(std::min<std::size_t>(language.size() - offered.size(), 255));
+        placeTimes256 += 256;
     }
     return forAll + 1;
 }

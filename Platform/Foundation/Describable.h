@@ -63,7 +63,7 @@ template <class T> consteval bool isNullopt() {
 
 template <class T> using ElementOf = std::remove_cvref_t<decltype(*std::begin(std::declval<const T&>()))>;
 // Strings of other characters than char are excluded, because they would be printed as a list of letters, and so are
-// types whose elements have the same type, such as std::filesystem::path.
+// types that are their own element type, such as std::filesystem::path.
 template <class T>
 concept Sequence = requires(const T& value) {
     std::begin(value) != std::end(value);
@@ -77,7 +77,7 @@ concept Sequence = requires(const T& value) {
 // - a bool, or an element of a std::vector<bool> or std::bitset: "true" or "false"; an integer: its decimal digits;
 // - a floating-point number: the fewest digits that give the same value, with a point or an exponent: "0.1", "1e+16";
 //   "inf", "-inf" or "nan";
-// - a type with `std::string describe(const T&)` in its namespace: what that returns;
+// - a type with `std::string describe(const T&)` in its namespace, even a string or sequence: what that returns;
 // - an optional: "nil" or "Optional(5)", and std::nullopt: "nil"; a sequence: "[1, 2]". Texts inside are quoted: ["a"].
 // A Describable borrows strings, which must outlive it. Only results of describe(), optionals and sequences allocate
 // memory. If that fails, the description is empty; any other exception of a describe() propagates.

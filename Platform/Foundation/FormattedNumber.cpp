@@ -64,10 +64,10 @@ std::string precise(std::string_view digits, std::optional<std::size_t> precisio
 // A magnitude as snprintf() formats it, without a sign, with the decimal separator of the process's C locale.
 class LibraryText {
 public:
-    LibraryText(const Conversion& conversion, double magnitude) {
-        std::string format = conversion.placeholder.alternative ? "%#.*" : "%.*";
-        format += conversion.placeholder.conversion;
-        const int precision = conversion.precision ? static_cast<int>(*conversion.precision) : -1;
+    LibraryText(const ResolvedPlaceholder& resolved, double magnitude) {
+        std::string format = resolved.placeholder.alternative ? "%#.*" : "%.*";
+        format += resolved.placeholder.conversion;
+        const int precision = resolved.precision ? static_cast<int>(*resolved.precision) : -1;
         const int size = std::snprintf(buffer_.data(), buffer_.size(), format.c_str(), precision, magnitude);
         if (size < 0)
             throw std::bad_alloc(); // snprintf() cannot fail for another reason here
@@ -86,8 +86,8 @@ bool isDigit(char c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-// The parts of a decimal number as text. Its decimal separator depends on the C locale: it is whatever follows the
-// integer digits and is not an exponent.
+// The parts of a decimal number as text. Its decimal separator depends on the process's C locale: it is whatever
+// follows the integer digits and is not an exponent.
 struct DecimalParts {
     explicit DecimalParts(std::string_view text) {
         const auto take = [&text](auto belongs) {
@@ -120,10 +120,10 @@ void appendLocalized(std::string& out, const NumberPattern& pattern, const Decim
     appendDigits(out, pattern, parts.exponent.substr(2));
 }
 
-Padding appendHexadecimal(std::string& out, const Conversion& conversion, double value) {
-    const Placeholder& placeholder = conversion.placeholder;
+Padding appendHexadecimal(std::string& out, const ResolvedPlaceholder& resolved, double value) {
+    const Placeholder& placeholder = resolved.placeholder;
     out += std::signbit(value) ? std::string_view("-") : flaggedSign(placeholder, "+");
-    const LibraryText printed(conversion, std::fabs(value));
+    const LibraryText printed(resolved, std::fabs(value));
     static constexpr std::size_t prefix = 2; // "0x"
     out += printed.text().substr(0, prefix);
     const Padding padding = zerosAt(out, placeholder, "0");
@@ -132,7 +132,7 @@ Padding appendHexadecimal(std::string& out, const Conversion& conversion, double
                                c == 'p' || c == 'P';
         if (isPrinted)
             out += c;
-        else if (!out.ends_with('.')) // the C locale's separator, whose bytes together become one point
+        else if (!out.ends_with('.')) // the separator of the process's C locale, whose bytes together become one point
             out += '.';
     }
     return padding;
@@ -150,9 +150,9 @@ Padding appendNotFinite(std::string& out, const Placeholder& placeholder, double
 
 } // namespace
 
-Padding appendDecimal(std::string& out, const Conversion& conversion, const NumberPattern& pattern,
+Padding appendDecimal(std::string& out, const ResolvedPlaceholder& resolved, const NumberPattern& pattern,
                       std::int64_t value) {
-    const Placeholder& placeholder = conversion.placeholder;
+    const Placeholder& placeholder = resolved.placeholder;
     std::uint64_t magnitude = 0;
     bool isNegative = false;
     if (placeholder.conversion == 'u') {
@@ -164,45 +164,46 @@ Padding appendDecimal(std::string& out, const Conversion& conversion, const Numb
         magnitude = isNegative ? -static_cast<std::uint64_t>(number) : static_cast<std::uint64_t>(number);
         appendPrefix(out, placeholder, pattern, isNegative);
     }
-    const Padding padding = conversion.precision ? std::nullopt : zerosAt(out, placeholder, pattern.digits[0]);
+    const Padding padding = resolved.precision ? std::nullopt : zerosAt(out, placeholder, pattern.digits[0]);
     std::array<char, scalarTextSize> buffer;
     const std::string_view digits = unsignedText(magnitude, buffer.data());
-    if (conversion.precision)
-        appendWhole(out, pattern, precise(digits, conversion.precision));
+    if (resolved.precision)
+        appendWhole(out, pattern, precise(digits, resolved.precision));
     else
         appendWhole(out, pattern, digits);
     out += isNegative ? pattern.negativeSuffix : pattern.positiveSuffix;
     return padding;
 }
 
-Padding appendPlain(std::string& out, const Conversion& conversion, std::int64_t value) {
-    const Placeholder& placeholder = conversion.placeholder;
+Padding appendPlain(std::string& out, const ResolvedPlaceholder& resolved, std::int64_t value) {
+    const Placeholder& placeholder = resolved.placeholder;
     const std::uint64_t bits = truncated(value, placeholder.bits);
     const bool isOctal = placeholder.conversion == 'o';
     std::array<char, scalarTextSize> buffer;
     char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), bits, isOctal ? 8 : 16).ptr;
     if (placeholder.conversion == 'X')
         std::transform(buffer.data(), end, buffer.data(), [](char c) { return c >= 'a' ? c - 'a' + 'A' : c; });
-    std::string digits = precise({buffer.data(), static_cast<std::size_t>(end - buffer.data())}, conversion.precision);
+    std::string digits = precise({buffer.data(), static_cast<std::size_t>(end - buffer.data())}, resolved.precision);
     if (placeholder.alternative && isOctal && !digits.starts_with('0'))
         digits.insert(digits.begin(), '0');
     else if (placeholder.alternative && !isOctal && bits != 0)
         out += placeholder.conversion == 'X' ? "0X" : "0x";
-    const Padding padding = conversion.precision ? std::nullopt : zerosAt(out, placeholder, "0");
+    const Padding padding = resolved.precision ? std::nullopt : zerosAt(out, placeholder, "0");
     out += digits;
     return padding;
 }
 
-Padding appendFloating(std::string& out, const Conversion& conversion, const NumberPattern& pattern, double value) {
-    const Placeholder& placeholder = conversion.placeholder;
+Padding appendFloating(std::string& out, const ResolvedPlaceholder& resolved, const NumberPattern& pattern,
+                       double value) {
+    const Placeholder& placeholder = resolved.placeholder;
     if (!std::isfinite(value))
         return appendNotFinite(out, placeholder, value);
     if (placeholder.conversion == 'a' || placeholder.conversion == 'A')
-        return appendHexadecimal(out, conversion, value);
+        return appendHexadecimal(out, resolved, value);
     const bool isNegative = std::signbit(value);
     appendPrefix(out, placeholder, pattern, isNegative);
     const Padding padding = zerosAt(out, placeholder, pattern.digits[0]);
-    const LibraryText printed(conversion, std::fabs(value));
+    const LibraryText printed(resolved, std::fabs(value));
     appendLocalized(out, pattern, DecimalParts(printed.text()));
     out += isNegative ? pattern.negativeSuffix : pattern.positiveSuffix;
     return padding;

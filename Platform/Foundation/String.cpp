@@ -156,10 +156,10 @@ private:
             pad(begin, boundedMagnitude(width), placeholder.leftAligned || width < 0, padding);
     }
 
-    detail::Padding appendArgument(const detail::Conversion& conversion, const FormatArgument& given) {
-        const Placeholder& placeholder = conversion.placeholder;
+    detail::Padding appendArgument(const detail::ResolvedPlaceholder& resolved, const FormatArgument& given) {
+        const Placeholder& placeholder = resolved.placeholder;
         if (placeholder.kind == Placeholder::Kind::text) {
-            putText(given, conversion.precision);
+            putText(given, resolved.precision);
             return std::nullopt;
         }
         if (given.kind() == Kind::text) {
@@ -168,7 +168,7 @@ private:
         }
         const bool isFloating = given.kind() == Kind::number;
         if (placeholder.kind == Placeholder::Kind::number)
-            return detail::appendFloating(out_, conversion, pattern(),
+            return detail::appendFloating(out_, resolved, pattern(),
                                           isFloating ? given.number() : static_cast<double>(given.integer()));
         const std::int64_t value = isFloating ? NSNumber(given.number()).int64Value() : given.integer();
         switch (placeholder.conversion) {
@@ -178,9 +178,9 @@ private:
         case 'd':
         case 'i':
         case 'u':
-            return detail::appendDecimal(out_, conversion, pattern(), value);
+            return detail::appendDecimal(out_, resolved, pattern(), value);
         default:
-            return detail::appendPlain(out_, conversion, value);
+            return detail::appendPlain(out_, resolved, value);
         }
     }
 

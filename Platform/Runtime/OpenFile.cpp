@@ -16,7 +16,7 @@ namespace {
 // Without O_NONBLOCK, opening a pipe would wait for its writer.
 constexpr int openFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
 
-constexpr int leadsOut = EXDEV; // openat2() has this errno for a link out of a folder, too
+constexpr int leadsOut = EXDEV; // set by openInside(); as openat2() would with RESOLVE_BENEATH
 
 // Fails with ELOOP if there is a link on the path.
 int openWithoutLinks(const std::string& path, int flags) noexcept {
@@ -26,7 +26,8 @@ int openWithoutLinks(const std::string& path, int flags) noexcept {
     return static_cast<int>(::syscall(SYS_openat2, AT_FDCWD, path.c_str(), &how, sizeof how));
 }
 
-// Opens what is at `path`, which must be inside `folder` unless that is empty. Negative with errno on failure.
+// Opens what is at `path`. Negative with errno on failure: `leadsOut` if a link leads out of `folder`, unless that is
+// empty.
 int openInside(const std::string& path, std::string_view folder, int flags) {
     if (path.find('\0') != path.npos) { // the system would read only the part before the NUL
         errno = ENOENT;

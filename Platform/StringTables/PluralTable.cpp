@@ -42,8 +42,8 @@ public:
             return nullptr;
         return isWidthSelected_
                    ? " has texts for several widths; the widest is used"
-                   : " has texts for several kinds of device; that for \"other\", else \"iphone\", else the "
-                     "first is used";
+                   : " has several texts for kinds of device or for widths; that for \"other\", else \"iphone\", "
+                     "else the first device is used";
     }
 
 private:
@@ -244,7 +244,7 @@ private:
     TextChoice choice_;
 
     std::vector<PluralEntry> entries_;
-    std::vector<std::size_t> keyOffsets_; // of the entries; `dropped` for one that a later value replaced
+    std::vector<std::size_t> keyOffsets_; // of the entries; `dropped` if the key's last value is no plural
     static constexpr std::size_t dropped = ~std::size_t{0};
     Runtime::NameMap<std::size_t> indices_; // the index of each entry, by key
 };
@@ -295,6 +295,7 @@ void readComments(const Contents& contents, std::span<const std::size_t> keyOffs
 } // namespace
 
 std::string_view otherForm(const PluralVariable& variable) noexcept {
+    // `other` is the last category, so the last existing form is it if it exists.
     const auto last =
         std::find_if(variable.forms.rbegin(), variable.forms.rend(), [](const auto& form) { return form.has_value(); });
     return last == variable.forms.rend() ? std::string_view() : std::string_view(**last);

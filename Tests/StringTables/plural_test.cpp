@@ -89,8 +89,8 @@ TEST(PluralTable, NotesWhatIsSkipped) {
          dict("k", dict("NSStringVariableWidthRuleType", text("9", "9") + text("60", "60") + text("20", "20"))),
          "2:1: the entry \"k\" has texts for several widths; the widest is used\n", "60"},
         {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m") + text("iphone", "i"))),
-         "2:1: the entry \"k\" has texts for several kinds of device; "
-         "that for \"other\", else \"iphone\", else the first is used\n",
+         "2:1: the entry \"k\" has several texts for kinds of device or for widths; "
+         "that for \"other\", else \"iphone\", else the first device is used\n",
          "i"},
         {__LINE__, dict("k", dict("NSStringDeviceSpecificRuleType", text("mac", "m"))), "", "m"},
         {__LINE__, dict("k", format + dict("NSStringDeviceSpecificRuleType", text("mac", "m"))),

@@ -15,7 +15,7 @@
 namespace Foundation::detail {
 
 // A placeholder, and its precision, which may come from an argument.
-struct Conversion {
+struct ResolvedPlaceholder {
     const StringTables::Placeholder& placeholder;
     std::optional<std::size_t> precision; // at most String::largestSize
 };
@@ -32,13 +32,13 @@ using Padding = std::optional<ZeroPadding>;
 // Each function appends a number for the conversion characters that are listed, and returns how to pad it. Integers are
 // cut to the placeholder's number of bits.
 // d i u: with the locale's digits, grouping and signs; u as an unsigned number.
-Padding appendDecimal(std::string& out, const Conversion& conversion, const Intl::NumberPattern& pattern,
+Padding appendDecimal(std::string& out, const ResolvedPlaceholder& resolved, const Intl::NumberPattern& pattern,
                       std::int64_t value);
 // x X o: as an unsigned number, in ASCII.
-Padding appendPlain(std::string& out, const Conversion& conversion, std::int64_t value);
+Padding appendPlain(std::string& out, const ResolvedPlaceholder& resolved, std::int64_t value);
 // f F e E g G: with the locale's digits, decimal separator and signs, and with its grouping if there is no exponent;
 // a A: in ASCII. "inf" and "nan" are written as in C.
-Padding appendFloating(std::string& out, const Conversion& conversion, const Intl::NumberPattern& pattern,
+Padding appendFloating(std::string& out, const ResolvedPlaceholder& resolved, const Intl::NumberPattern& pattern,
                        double value);
 
 } // namespace Foundation::detail

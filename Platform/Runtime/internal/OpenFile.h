@@ -17,8 +17,8 @@ class OpenFile {
 public:
     // Opens the regular file at `path`. Errors, which name the file: a system call failed, or the file is not
     // regular or has more than `limit` bytes. Never blocks on a pipe.
-    // If `folder` is not empty, `path` must begin with `folder` and have no ".." after that; a link that leads out of
-    // the folder is an error, too.
+    // If `folder` is not empty, a link on the path that leads out of the folder is an error, too; the caller guarantees
+    // that `path` begins with `folder` and has no ".." after that.
     [[nodiscard]] static Result<OpenFile> open(const std::string& path, std::size_t limit,
                                                std::string_view folder = {});
     // Succeeds if there is a file or folder of any kind at `path` and it is inside `folder`, as for open().

@@ -47,9 +47,9 @@ struct PluralEntry {
 class PluralTable {
 public:
     // Reads a table from a property list, XML or binary. Errors as in Table; a source that is empty or only white space
-    // is an empty table. Limits: those of Table, where maxEntries is for the keys of all levels, and maxTextBytes for
-    // all keys and texts together; one that several entries of a binary table share counts once for each of them.
-    // Throws std::bad_alloc when memory runs out.
+    // is an empty table. Limits: those of Table, but maxEntries counts the keys of all levels; and all keys and texts
+    // together have at most maxTextBytes, where a text that several entries of a binary table share counts once for
+    // each of them. Throws std::bad_alloc when memory runs out.
     [[nodiscard]] static Runtime::Result<PluralTable> read(std::string bytes);
     enum class Comments { areSkipped, areRead };
     // The same from the regular file at `path`, which errors and notes name. If `bundle` is not empty, `path` begins
@@ -62,7 +62,8 @@ public:
 
     // The entry of `key` (exact), or null. Never fails.
     [[nodiscard]] const PluralEntry* find(std::string_view key) const noexcept;
-    // Every key once, in the order of their first values; the last value of equal keys wins.
+    // Every key once, in the order in which the keys first had a plural. The last value of equal keys wins; a key whose
+    // last value is no plural has no entry.
     [[nodiscard]] std::span<const PluralEntry> entries() const noexcept { return entries_; }
     // What was skipped and why, as in Table::notes().
     [[nodiscard]] std::span<const TableNote> notes() const noexcept { return notes_; }
