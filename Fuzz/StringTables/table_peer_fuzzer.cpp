@@ -1,9 +1,9 @@
 // Compares our reader of XML and binary tables with libplist: a table that both accept has the same texts for both, and
 // libplist reads what we write. Known differences are ignored:
 //  - libplist returns C strings, which end at a NUL, and stops the process if a key contains one;
-//  - if keys are repeated, it keeps all in a binary table, and in XML the last, even if its value is not a text;
+//  - it keeps values that are not texts, and in a binary table all values of repeated keys;
 //  - it reads XML as UTF-8 regardless of the declaration, and does not convert line ends;
-//  - in a processing instruction it treats quotation marks as those of a text, in which the instruction cannot end.
+//  - it takes quotation marks in a processing instruction for those of a string and ignores a "?>" between them.
 #include "Checks.h"
 #include <map>
 #include <memory>
@@ -50,10 +50,10 @@ std::optional<Texts> theirs(std::string_view bytes) {
     return root && plist_get_node_type(read) == PLIST_DICT ? texts(read) : std::nullopt;
 }
 
-bool readsDifferently(std::string_view bytes, Form form) {
-    const std::size_t declaration = bytes.starts_with("<?xml ") ? 2 : 0;
+bool libplistMayDiffer(std::string_view bytes, Form form) {
+    const std::size_t afterDeclaration = bytes.starts_with("<?xml ") ? 2 : 0; // after its "<?"
     return form == Form::xml && (bytes.find('\r') != bytes.npos || bytes.find("encoding") != bytes.npos ||
-                                 bytes.find("<?", declaration) != bytes.npos);
+                                 bytes.find("<?", afterDeclaration) != bytes.npos);
 }
 
 } // namespace
@@ -73,7 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             return 0;
         ours.emplace(entry.key, entry.text);
     }
-    if (!readsDifferently(bytes, table->form()))
+    if (!libplistMayDiffer(bytes, table->form()))
         if (const auto others = theirs(bytes)) {
             Texts expected = ours;
             for (const auto& [key, text] : *others)

@@ -57,7 +57,7 @@ private:
     }
     // Fast path for nearly all numbers: the magnitude times ten to the power of `power`, rounded to an integer. Returns
     // false when the result might be wrong. The product is far below 2^53, so neither its rounding error nor the
-    // difference between the value and its shortest digits can move it across a half unless it is near one.
+    // difference between the value and its shortest digits can move it across a half unless it is near a half.
     bool readScaled(double magnitude, int power) noexcept {
         static constexpr std::array<double, 7> powers = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
         static constexpr double largest = 0x1p40;

@@ -41,7 +41,7 @@ void read(std::string_view format, Arguments& out) {
 }
 
 std::string_view lonePercentOf(const PluralFormat& plural) {
-    Arguments all; // only its lonePercent is used: the forms of a plural share their arguments
+    Arguments all; // only its lonePercent is used: read() counts the arguments of each form from 1
     read(plural.format, all);
     for (const auto& variable : plural.variables)
         for (const auto& form : variable.forms)

@@ -33,8 +33,8 @@ std::string_view categoryName(const Unit& form) {
     return Intl::pluralCategoryNames[indexOf(*form.id.category)];
 }
 
-Runtime::Error neitherTextNorPlural(const Change& change) {
-    return {.message = "the table has neither a text nor a plural for " + change.changed.front()->id.key};
+Runtime::Error otherKindOfValue(const Change& change) {
+    return {.message = "the table has a value of another kind for " + change.changed.front()->id.key};
 }
 
 } // namespace
@@ -115,7 +115,7 @@ void PropertyListDocument::setText(const XmlNode& string, std::string_view text)
 Runtime::Result<void> PropertyListDocument::apply(const Change& change) {
     for (const Unit* unit : change.all)
         if (!canBeXml(unit->target) || !canBeXml(unit->id.key))
-            return Runtime::Error{.message = "the table is XML, which cannot represent control characters"};
+            return Runtime::Error{.message = "the table is XML, which cannot represent one of the characters"};
     const Unit& first = *change.changed.front();
     const auto known = values_.find(first.id.key);
     const bool isPlural = !first.id.part.empty();
@@ -126,14 +126,15 @@ Runtime::Result<void> PropertyListDocument::apply(const Change& change) {
     if (isPlural)
         return editPlural(*known->second, change);
     if (known->second->name != "string")
-        return neitherTextNorPlural(change);
+        return otherKindOfValue(change);
     setText(*known->second, first.target);
     return {};
 }
 
 void PropertyListDocument::add(const Change& change, const std::string& value) {
     const std::string comment = StringTables::internal::withoutMark(change.development->comment, "--");
-    // Comments have no escapes. Only if the document's encoding may lack a character, its number is written.
+    // XML reads no escapes in a comment. In an encoding that may lack a character it is written with them nevertheless,
+    // so that it is ASCII.
     if (!comment.empty() && canBeXml(comment))
         added_.append(line_)
             .append("<!-- ")
@@ -163,15 +164,16 @@ std::string PropertyListDocument::variable(const PluralVariable& variable, const
 Runtime::Result<void> PropertyListDocument::editPlural(const XmlNode& entry, const Change& change) {
     const std::vector<Pair> pairs = pairsOf(entry);
     if (pairs.empty())
-        return neitherTextNorPlural(change);
+        return otherKindOfValue(change);
     for (const Unit* unit : change.changed) {
         const XmlNode* const variable = unit->id.category ? find(pairs, unit->id.part.back()) : nullptr;
         const XmlNode* const text = findText(pairs, *unit);
         if ((variable != nullptr && pairsOf(*variable).empty()) || (text != nullptr && text->name != "string"))
-            return neitherTextNorPlural(change);
+            return otherKindOfValue(change);
     }
+    // Texts for widths or devices are read, but cannot be edited.
     if (find(pairs, pluralKeys::widthRule) != nullptr || find(pairs, pluralKeys::deviceRule) != nullptr)
-        return neitherTextNorPlural(change);
+        return otherKindOfValue(change);
     PluralFormat added;
     for (const Unit* unit : change.changed) {
         const XmlNode* const found = find(pairs, unit->id.category ? unit->id.part.back() : pluralKeys::format);

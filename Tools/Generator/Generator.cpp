@@ -61,14 +61,16 @@ std::string moduleHeader(const Options& options) {
     return code.take();
 }
 
-// Adds a line to NAME.h that changes whenever a header directly in the folder NAME changes.
-void addFingerprint(const std::string& name, std::vector<OutputFile>& files) {
+// Adds a line to TREE.h that changes whenever a header that it includes changes: those directly in the folder TREE, and
+// those that are the same for all resources of the module.
+void addFingerprint(const std::string& module, const std::string& tree, std::vector<OutputFile>& files) {
     std::vector<std::string_view> headers;
     for (const OutputFile& file : files)
-        if (file.path.parent_path() == name)
+        if (file.path.parent_path() == tree || file.path == module + "AssetRecords.h" ||
+            file.path == module + "Resources.h")
             headers.push_back(file.content);
     for (OutputFile& file : files)
-        if (file.path == name + ".h")
+        if (file.path == tree + ".h")
             file.content += "\n// Fingerprint of these headers: " + fingerprint(headers) + "\n";
 }
 
@@ -101,9 +103,10 @@ std::vector<OutputFile> filesOf(const Model& model, const Options& options) {
     std::vector<OutputFile> files = emitStrings(model.tables, options);
     std::ranges::move(emitAssets(model.assetTree.constants, options), std::back_inserter(files));
     files.push_back({options.module + ".h", moduleHeader(options)});
-    // Build systems know only NAMEStrings.h and NAMEAsset.h, so these must change when a header that they include does.
+    // lumora_add_module tells the build system only of these headers, so they must change when one that they include
+    // does.
     for (const std::string tree : {"Strings", "Asset"})
-        addFingerprint(options.module + tree, files);
+        addFingerprint(options.module, options.module + tree, files);
     return files;
 }
 

@@ -18,7 +18,7 @@ struct OutputFile {
 
 // Writes the files below `folder`, which is created if necessary. Each file is replaced atomically; unchanged files are
 // not touched. Stale files of earlier runs are removed: other files that begin with the same first line and are in the
-// folder of a written file or in one of `ownFolders` (relative to `folder`).
+// folder of a written file or in one of `ownFolders` (relative to `folder`), to which earlier runs may have written.
 [[nodiscard]] Runtime::Result<void> writeFiles(const std::filesystem::path& folder,
                                                const std::vector<OutputFile>& files,
                                                const std::vector<std::filesystem::path>& ownFolders = {});

@@ -18,7 +18,7 @@ struct SetEntry {
     std::string language{}; // "pt-BR"; empty: for all languages
     // What the variant is for besides `fit` and `language`. Only variants of one Device are used, see isPreferred().
     struct Device {
-        std::vector<std::string> conditions{}; // those that never hold here: `subtype "retina4"`, sorted
+        std::vector<std::string> conditions{}; // that Lumora never meets, each as `subtype "retina4"`; sorted
         std::string idiom = "universal";
         std::size_t rank = 0;         // of the idiom; 0 is used first
         std::int64_t screenWidth = 0; // that the conditions require, or 0

@@ -5,4 +5,4 @@
 #include "OddAsset/Looks.h"
 #include "OddAssetRecords.h"
 
-// Fingerprint of these headers: 50dded48f1e4b2cb
+// Fingerprint of these headers: b1073ed330b63d1e
