@@ -46,7 +46,7 @@ def build_and_change(prefix, folder, generator):
     expect("Arabic plurals", shown(program, "ar")[6:9], ["  لا منتجات", "  منتج واحد", "  منتجان"])
     colours = shown(program, "en")[15:19]
     expect("light and dark", colours[0].split(), ["copper", "#A8552A", "copper", "#E39A6B"])
-    expect("pictures", [line.split()[-1] for line in shown(program, "en")[19:]], ["drawn"] * 6)
+    expect("pictures", [line.split()[-1] for line in shown(program, "en")[19:]], ["decoded"] * 6)
 
     # Nothing changed: nothing is built.
     files, objects = times(bundle, "*"), times(build, "*.o")
