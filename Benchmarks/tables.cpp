@@ -49,8 +49,8 @@ BENCHMARK(tableFromBinary);
 
 constexpr auto compiledPath = "/tmp/lumora-benchmark.strings";
 
-// Writes the Russian texts, which are UTF-16 in the file, as a compiled table to compiledPath. Returns its keys in
-// random order.
+// Writes the Russian texts as a compiled table, which has them in UTF-16, to compiledPath. Returns its keys in random
+// order.
 std::vector<std::string> writeCompiledTable() {
     const auto table = Table::readFile(LUMORA_RESOURCES "/ru.lproj/Localizable.strings");
     (void)Runtime::writeFile(compiledPath, *StringTables::writeCompiled(table->entries()));

@@ -1,6 +1,5 @@
 // Formats a text with a locale and arguments from the input. The lines of the input are the locale, the format and the
-// arguments:
-// '#' and eight bytes are an integer, '.' and eight bytes a floating-point number, any other line is a text.
+// arguments: '#' and eight bytes are an integer, '.' and eight bytes a floating-point number, any other line is a text.
 #include "Foundation/String.h"
 
 #include "../Require.h"
