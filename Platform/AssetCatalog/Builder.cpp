@@ -69,7 +69,7 @@ public:
 private:
     std::vector<Bytes> blobs_;
     Runtime::NameMap<std::uint64_t, std::string_view> offsets_;
-    std::uint64_t size_ = 0;
+    std::uint64_t size_ = 0; // in bytes, with the zeros after each blob
 };
 
 class Writer {

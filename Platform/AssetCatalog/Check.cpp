@@ -112,7 +112,7 @@ bool areInOrder(const Format::Catalog& index, flatbuffers::uoffset_t i) {
 }
 
 // Assets in order, whose hashes match their names, guarantee that none occurs twice. `indexBytes` limits the total size
-// of the names, because the names of damaged entries could overlap.
+// of the names, and so the time to hash them: the names of damaged entries could overlap.
 Runtime::Result<void> checkAssets(const Format::Catalog& index, std::size_t indexBytes) {
     const auto& hashes = *index.hashes();
     const auto& assets = *index.assets();

@@ -22,7 +22,8 @@
 // Records are constants: no code runs to create or destroy them.
 // Text: UTF-8. Threads: any. Ownership: names are string literals; returned references are valid until the process
 // ends. Errors: reading stops the process if the asset is missing, the catalog damaged or the data file unreadable; it
-// throws std::bad_alloc or std::system_error when memory or descriptors run out, and nothing is cached.
+// throws std::bad_alloc or std::system_error when memory or descriptors run out or the device fails, and nothing is
+// cached.
 #pragma once
 
 #include "Runtime/Export.h"

@@ -71,8 +71,8 @@ public:
     [[nodiscard]] ResizingMode resizingMode() const noexcept;
     // The edges that are ignored when the image is aligned, such as a shadow.
     [[nodiscard]] EdgeInsets alignmentRectInsets() const noexcept;
-    // The decoded pixels, or null when the picture is damaged or cannot be read. Calls return the same object as long
-    // as it is referenced or in the cache of recently used pictures.
+    // The decoded pixels, or null when the picture is damaged or cannot be read, also when memory or descriptors run
+    // out. Calls return the same object as long as it is referenced or in the cache of recently used pictures.
     [[nodiscard]] std::shared_ptr<const Pictures::Bitmap> rgba() const;
 
     // Whether both are the same asset for the same traits.

@@ -97,7 +97,7 @@ private:
     std::mutex lock_;                                    // for the members below
     Runtime::NameMap<Bytes> read_;                       // by path
     Runtime::NameMap<Bytes, std::string_view> contents_; // by content; keys point into values
-    std::size_t total_ = 0;                              // the size of contents_
+    std::size_t total_ = 0;                              // the number of bytes in contents_
     MadePictures made_;                                  // of this compile, also from the cache
 };
 

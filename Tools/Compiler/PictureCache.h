@@ -24,8 +24,8 @@ public:
     // bundle's mark file (SourceBundle::compiledMark).
     static PictureCache of(const std::filesystem::path& bundle, std::string_view mark);
 
-    // A hash of everything that the pictures made from a file depend on: its bytes, its purpose and the versions of the
-    // converters.
+    // A hash of what the pictures made from a file depend on: its bytes, its purpose and
+    // SourcePictures::converterVersion().
     [[nodiscard]] static std::string keyOf(std::string_view bytes, const SourcePictures::Purpose& purpose);
 
     // Whether the mark file lists pictures for the key; find() may fail nevertheless.

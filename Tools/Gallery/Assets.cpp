@@ -91,7 +91,8 @@ std::vector<Entry> entriesOf(const Catalog& catalog) {
     std::vector<Entry> entries;
     for (std::size_t i = 0; i < catalog.size(); ++i)
         entries.push_back(catalog[i]);
-    // Assets of one name are in the order in which `lumora generate` finds them, because the first gets the accessor.
+    // Assets of one folder and name are in the order in which `lumora generate` finds them, because the first gets the
+    // accessor.
     std::ranges::sort(entries, {}, [](const Entry& entry) {
         return std::tuple(entry.catalog(), entry.name(), AssetCatalog::nameOf(entry.kind()));
     });

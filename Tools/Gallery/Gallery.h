@@ -15,7 +15,7 @@ namespace Gallery {
 struct Options {
     std::string title;            // of the page
     std::string module;           // the namespace of accessors; if empty, they begin with their table or catalog
-    Generator::NamesFile names{}; // for texts; all others have the names by the rule (Docs/naming.md)
+    Generator::NamesFile names{}; // of some texts; all other accessors are named by the rule (Docs/naming.md)
 };
 
 // A self-contained page with the texts of `source` and the assets of the compiled bundle at `bundle`. Texts and assets

@@ -17,7 +17,7 @@ namespace SourcePictures {
 
 class Converters {
 public:
-    // Reads a drawing. `isSymbol`: of an SVG that is a symbol's template, the regular drawing (see Purpose in
+    // Reads a drawing. If `isSymbol`, an SVG is a symbol's template, whose regular drawing is read (see Purpose in
     // PictureFile.h). `bytes` must outlive the result, which must be destroyed by the same thread. Precondition:
     // `format` is svg or pdf. Errors: damaged.
     [[nodiscard]] virtual Runtime::Result<std::unique_ptr<const Drawing>> drawing(std::string_view bytes, Format format,

@@ -39,8 +39,8 @@ struct Purpose {
 [[nodiscard]] Runtime::Result<std::vector<AssetCatalog::Picture>> picturesOf(const AssetCatalog::Bytes& bytes,
                                                                              const Purpose& purpose);
 
-// Identifies the version of this code and those of the libraries that it was built with: it changes whenever
-// picturesOf() of another build may give other bytes for the same file.
+// Identifies the version of this code and those of the libraries that it was built with: with others, picturesOf() may
+// give other bytes for the same file. It does not cover the machine's fonts and gdk-pixbuf loaders.
 [[nodiscard]] std::string converterVersion();
 
 } // namespace SourcePictures

@@ -86,7 +86,7 @@ public:
     // Opens the catalog at `path` and validates its whole index. Blobs are not validated. They are read later
     // from the open file, so a file that is renamed to `path` meanwhile does not matter. Errors: the file cannot be
     // read, is not a catalog of this version, exceeds a limit, or is damaged (the message says how).
-    // If `bundle` is not empty, links must not lead out of that folder.
+    // If `bundle` is not empty, `path` is below that folder, and a link that leads out of it is an error, too.
     [[nodiscard]] static Runtime::Result<Catalog> open(const std::string& path, std::string_view bundle = {});
     // The same from memory, which must outlive the catalog and be aligned to 16 bytes.
     [[nodiscard]] static Runtime::Result<Catalog> read(std::span<const std::uint8_t> bytes);
