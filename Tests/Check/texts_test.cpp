@@ -40,7 +40,7 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
         {__LINE__, "de", "Half off", "50 % Rabatt, 50 %", "lone-percent"},
         {__LINE__, "fr", "Half off", "50 % de remise", "lone-percent"}, // "% d" does not count as a placeholder
         {__LINE__, "de", "%@", "%1$@ %1$d", "placeholder-mismatch"},
-        // Spaces at the ends; rules differ by language.
+        // Spaces at the ends, in which languages differ, and line breaks.
         {__LINE__, "de", "Name: ", "Name:", "space-mismatch"},
         {__LINE__, "de", " a b", "c d ", "space-mismatch"},
         {__LINE__, "zh-Hans", "Full name: ", "姓名：", ""},

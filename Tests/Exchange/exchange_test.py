@@ -40,9 +40,9 @@ def translate(file):
         gettext("msgattrib", "--no-wrap", "--clear-fuzzy", file, "-o", file)
 
         def entry(found):  # its groups: msgid, msgid_plural, all msgstr
-            text = found[2] or found[1]
+            text = (found[2] or found[1])[:-2]  # without the last quotation mark and line break
             forms = re.findall(r"^msgstr\S*", found[0], re.MULTILINE)
-            return found[0][:found.start(3) - found.start()] + "".join(f'{form} {text[:-2]}»"\n' for form in forms)
+            return found[0][:found.start(3) - found.start()] + "".join(f'{form} {text}»"\n' for form in forms)
 
         head, rest = file.read_text().split("\n\n", 1)
         strings = r'((?:".*"\n)+)'

@@ -20,9 +20,6 @@ constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
 std::string format(std::string_view text, const Arguments& arguments, const char* locale = "en_US") {
     return Foundation::String::format(text, Foundation::Locale(locale), arguments);
 }
-constexpr std::int64_t integer(std::int64_t value) {
-    return value;
-}
 
 struct Case {
     int line;
@@ -45,19 +42,19 @@ TEST(String, FillsPlaceholdersInTheirOrderOrByPosition) {
         {__LINE__, "%@ and %@", {"a"sv, "b"sv}, "a and b"},
         {__LINE__, "%2$@ %1$@", {"a"sv, "b"sv}, "b a"},
         {__LINE__, "%2$@ %@ %@", {"a"sv, "b"sv}, "b a b"},
-        {__LINE__, "%@%d%%", {"ж"sv, integer(-5)}, "ж-5%"},
+        {__LINE__, "%@%d%%", {"ж"sv, -5}, "ж-5%"},
         {__LINE__, "%@\xff%@", {"\xfe"sv, "\0"sv}, "\xfe\xff\0"sv},
+        {__LINE__, "%s %S %-3ls|%.1s", {"a"sv, "b"sv, "c"sv, "ж!"sv}, "a b c  |ж"},
         // Everything that is not a placeholder is unchanged.
         {__LINE__, "50%", {"a"sv}, "50%"},
-        {__LINE__, "%s %S %-3ls|%.1s", {"a"sv, "b"sv, "c"sv, "ж!"sv}, "a b c  |ж"},
         {__LINE__, "% ", {}, "% "},
         {__LINE__, "%k %@", {"a"sv}, "%k a"},
         // Arguments of another kind, and missing ones.
         {__LINE__, "%d", {"a"sv}, "a"},
         {__LINE__, "%.1d|%x", {"abc"sv, "abc"sv}, "abc|abc"},
         {__LINE__, "%f|%-3e|", {"a"sv, "b"sv}, "a|b  |"},
-        {__LINE__, "%@ %@ %s", {integer(1234567), 2.0, 0.1f}, "1234567 2.0 0.10000000149011612"},
-        {__LINE__, "%.2f %g", {integer(-1234), integer(7)}, "-1,234.00 7"},
+        {__LINE__, "%@ %@ %s", {1234567, 2.0, 0.1f}, "1234567 2.0 0.10000000149011612"},
+        {__LINE__, "%.2f %g", {-1234, 7}, "-1,234.00 7"},
         {__LINE__, "%d %x %lld %d", {2.9, -1.5, 1e300, std::nan("")}, "2 ffffffffffffffff 9,223,372,036,854,775,807 0"},
         {__LINE__, "%c", {1e300}, "\uFFFD"},
         {__LINE__, "%@%5d%3$@|", {}, "|"},
@@ -67,55 +64,55 @@ TEST(String, FillsPlaceholdersInTheirOrderOrByPosition) {
 
 TEST(String, WritesWholeNumbersByTheirConversion) {
     expectTexts({
-        {__LINE__, "%d %i %u", {integer(1234), integer(-1234), integer(7)}, "1,234 -1,234 7"},
-        {__LINE__, "%D %ld %lld %qd", {integer(1), integer(2), integer(3), integer(4)}, "1 2 3 4"},
+        {__LINE__, "%d %i %u", {1234, -1234, 7}, "1,234 -1,234 7"},
+        {__LINE__, "%D %ld %lld %qd", {1, 2, 3, 4}, "1 2 3 4"},
         {__LINE__, "%d", {smallest}, "-9,223,372,036,854,775,808"},
-        {__LINE__, "%u", {integer(-1)}, "18,446,744,073,709,551,615"},
-        {__LINE__, "%hhd %hd", {integer(200), integer(40'000)}, "-56 -25,536"},
-        {__LINE__, "%hhu %hu", {integer(-1), integer(-1)}, "255 65,535"},
-        {__LINE__, "%x %X %o", {integer(255), integer(48'879), integer(8)}, "ff BEEF 10"},
-        {__LINE__, "%#x %#X %#o %#x", {integer(255), integer(255), integer(8), integer(0)}, "0xff 0XFF 010 0"},
-        {__LINE__, "%x %hhx", {integer(-1), integer(-1)}, "ffffffffffffffff ff"},
-        {__LINE__, "%c%c%c%C", {integer('a'), integer(0xE9), integer(0x4E2D), integer(0x1F34F)}, "aé中🍏"},
-        {__LINE__, "%c%c%c", {integer(-1), integer(0xD800), integer(0x110000)}, "\uFFFD\uFFFD\uFFFD"},
+        {__LINE__, "%u", {-1}, "18,446,744,073,709,551,615"},
+        {__LINE__, "%hhd %hd", {200, 40'000}, "-56 -25,536"},
+        {__LINE__, "%hhu %hu", {-1, -1}, "255 65,535"},
+        {__LINE__, "%x %X %o", {255, 48'879, 8}, "ff BEEF 10"},
+        {__LINE__, "%#x %#X %#o %#x", {255, 255, 8, 0}, "0xff 0XFF 010 0"},
+        {__LINE__, "%x %hhx", {-1, -1}, "ffffffffffffffff ff"},
+        {__LINE__, "%c%c%c%C", {'a', 0xE9, 0x4E2D, 0x1F34F}, "aé中🍏"},
+        {__LINE__, "%c%c%c", {-1, 0xD800, 0x110000}, "\uFFFD\uFFFD\uFFFD"},
     });
 }
 
 TEST(String, HeedsFlagsWidthAndPrecision) {
     expectTexts({
-        {__LINE__, "%+d %+d % d %+u", {integer(5), integer(-5), integer(5), integer(5)}, "+5 -5  5 5"},
-        {__LINE__, "[%6d] [%-6d]", {integer(-42), integer(42)}, "[   -42] [42    ]"},
-        {__LINE__, "[%06d] [%-06d]", {integer(-42), integer(42)}, "[-00042] [42    ]"},
-        {__LINE__, "[%08d] [%03d]", {integer(1234), integer(1234)}, "[0001,234] [1,234]"},
-        {__LINE__, "[%.6d] [%08.3d]", {integer(1234), integer(-5)}, "[001,234] [    -005]"},
-        {__LINE__, "[%#06x] [%.4X] [%6o]", {integer(255), integer(171), integer(8)}, "[0x00ff] [00AB] [    10]"},
+        {__LINE__, "%+d %+d % d %+u", {5, -5, 5, 5}, "+5 -5  5 5"},
+        {__LINE__, "[%6d] [%-6d]", {-42, 42}, "[   -42] [42    ]"},
+        {__LINE__, "[%06d] [%-06d]", {-42, 42}, "[-00042] [42    ]"},
+        {__LINE__, "[%08d] [%03d]", {1234, 1234}, "[0001,234] [1,234]"},
+        {__LINE__, "[%.6d] [%08.3d]", {1234, -5}, "[001,234] [    -005]"},
+        {__LINE__, "[%#06x] [%.4X] [%6o]", {255, 171, 8}, "[0x00ff] [00AB] [    10]"},
         {__LINE__, "[%4@] [%-4@] [%.1@]", {"жж"sv, "жж"sv, "жж"sv}, "[  жж] [жж  ] [ж]"},
         {__LINE__, "[%.0@] [%.9@] [%3.1@]", {"a"sv, "ab"sv, "ab"sv}, "[] [ab] [  a]"},
-        {__LINE__, "[%3c]", {integer(0x4E2D)}, "[  中]"},
+        {__LINE__, "[%3c]", {0x4E2D}, "[  中]"},
         // Sizes as arguments: a text is ignored, a negative width aligns to the left, a negative precision is ignored.
-        {__LINE__, "[%*d]", {integer(4), integer(7)}, "[   7]"},
-        {__LINE__, "[%*d]", {integer(-4), integer(7)}, "[7   ]"},
-        {__LINE__, "[%.*@]", {integer(2), "abc"sv}, "[ab]"},
-        {__LINE__, "[%.*@]", {integer(-2), "abc"sv}, "[abc]"},
-        {__LINE__, "[%*d]", {"a"sv, integer(7)}, "[7]"},
-        {__LINE__, "[%*d]", {integer(4)}, "[]"},
+        {__LINE__, "[%*d]", {4, 7}, "[   7]"},
+        {__LINE__, "[%*d]", {-4, 7}, "[7   ]"},
+        {__LINE__, "[%.*@]", {2, "abc"sv}, "[ab]"},
+        {__LINE__, "[%.*@]", {-2, "abc"sv}, "[abc]"},
+        {__LINE__, "[%*d]", {"a"sv, 7}, "[7]"},
+        {__LINE__, "[%*d]", {4}, "[]"},
     });
     for (const std::int64_t size : {std::int64_t{1} << 40, std::numeric_limits<std::int64_t>::max(), smallest})
-        EXPECT_EQ(format("%*d", {size, integer(1)}).size(), Foundation::String::largestSize);
-    EXPECT_EQ(format("%.99999x", {integer(1)}).size(), Foundation::String::largestSize);
+        EXPECT_EQ(format("%*d", {size, 1}).size(), Foundation::String::largestSize);
+    EXPECT_EQ(format("%.99999x", {1}).size(), Foundation::String::largestSize);
 }
 
 TEST(String, WritesNumbersAsTheLocaleDoes) {
-    const Arguments number = {integer(-1234567)};
+    const Arguments number = {-1234567};
     EXPECT_EQ(format("%d", number, "de_DE"), "-1.234.567");
     EXPECT_EQ(format("%d", number, "ru"), "-1\u00A0234\u00A0567");
     EXPECT_EQ(format("%d", number, "hi_IN"), "-12,34,567");
     EXPECT_EQ(format("%d", number, "nb"), "\u22121\u00A0234\u00A0567");
     EXPECT_EQ(format("%d", number, "ar_EG"), "\u061C-١٬٢٣٤٬٥٦٧");
     EXPECT_EQ(format("%d", number, "ar_EG@numbers=latn"), "\u200E-1,234,567");
-    EXPECT_EQ(format("%+d", {integer(5)}, "ar_EG"), "\u061C+٥");
-    EXPECT_EQ(format("[%4d] [%04d]", {integer(5), integer(-5)}, "ar_EG"), "[   ٥] [\u061C-٠٥]");
-    EXPECT_EQ(format("%d %d", {integer(1234), integer(12345)}, "es"), "1234 12.345");
+    EXPECT_EQ(format("%+d", {5}, "ar_EG"), "\u061C+٥");
+    EXPECT_EQ(format("[%4d] [%04d]", {5, -5}, "ar_EG"), "[   ٥] [\u061C-٠٥]");
+    EXPECT_EQ(format("%d %d", {1234, 12345}, "es"), "1234 12.345");
     const Arguments fraction = {-1234567.25};
     EXPECT_EQ(format("%.2f", fraction, "de_DE"), "-1.234.567,25");
     EXPECT_EQ(format("%.1f", fraction, "hi_IN"), "-12,34,567.2");
@@ -126,7 +123,7 @@ TEST(String, WritesNumbersAsTheLocaleDoes) {
     EXPECT_EQ(format("%a %f %F", {0.75, std::numeric_limits<double>::infinity(), std::nan("")}, "de_DE"),
               "0x1.8p-1 inf NAN");
     // Texts and plain conversions do not depend on the locale.
-    EXPECT_EQ(format("%@ %x", {integer(1234567), integer(1234567)}, "ar_EG"), "1234567 12d687");
+    EXPECT_EQ(format("%@ %x", {1234567, 1234567}, "ar_EG"), "1234567 12d687");
 }
 
 TEST(String, BoundsItsResult) {

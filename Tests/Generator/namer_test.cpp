@@ -37,6 +37,7 @@ TEST(Namer, NamesEntries) {
         {__LINE__, "You can't set a price that exceeds %@", "youCanTSetAPriceThatExceeds"},
         {__LINE__, "SportFood(shortened)", "sportFoodShortened"},
         {__LINE__, "Invoice №", "invoice№"},
+        {__LINE__, "__private__thing", "privateThing"},
         // The last of several capitals begins the next word, if there is one.
         {__LINE__, "URLPath", "urlPath"},
         {__LINE__, "ABC1st", "abc1st"},
@@ -44,7 +45,6 @@ TEST(Namer, NamesEntries) {
         {__LINE__, "ПриветМир", "приветМир"},
         {__LINE__, "日本 語", "日本語"},
         {__LINE__, "٣ days", "_٣Days"},
-        {__LINE__, "__private__thing", "privateThing"},
         // Invisible characters and invalid bytes are dropped.
         {__LINE__, "one\u200Btwo \u2764\uFE0F", "oneTwo"},
         {__LINE__, "one\xFFtwo", "oneTwo"},

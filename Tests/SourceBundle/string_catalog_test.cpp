@@ -136,6 +136,7 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              "}}}",
          "x"},
         {__LINE__, "{'variations': {'plural': {'other': {'stringUnit': {'state': 'new', 'value': ''}}}}}", "k"},
+        // Without a text for a device, the entry's own is used.
         {__LINE__, "{'stringUnit': {'value': 'Hi'}, 'variations': {'device': {'mac': {}}}}", "Hi"},
     };
     for (const auto& one : cases)

@@ -55,10 +55,10 @@ TEST(TextTable, ResolvesEscapes) {
         {__LINE__, R"(\UD83D\UdcAA.)", "💪."},
         {__LINE__, R"(\U0000)", "\0"s},
         {__LINE__, R"(\0\7\12\1018)", "\0\7\nA8"s},
-        // Bytes of the NEXTSTEP set.
-        {__LINE__, R"(\200\252\272\256\373\375)", "\u00A0“”ﬁßÿ"},
         {__LINE__, R"(a plain part longer than sixteen bytes, \" and another one of that length)",
          "a plain part longer than sixteen bytes, \" and another one of that length"},
+        // Octal escapes above \177 are characters of the NEXTSTEP encoding.
+        {__LINE__, R"(\200\252\272\256\373\375)", "\u00A0“”ﬁßÿ"},
     };
     for (const auto& [line, raw, expected] : cases)
         EXPECT_EQ(read("k = \"" + raw + "\";"), (Pairs{{"k", expected}})) << "line " << line;
