@@ -84,7 +84,7 @@ private:
         if (!within(picture.resizing(), Resizing::tile) || !isSound(picture.cap_insets()) ||
             !isSound(picture.alignment_insets()))
             return "has a picture with invalid insets or resizing mode";
-        return holds(picture.offset(), picture.size()) ? nullptr : "has a picture outside of the catalog";
+        return holds(picture.offset(), picture.size()) ? nullptr : "has a picture at an invalid place";
     }
     static const char* fault(const Format::Color& color) {
         if (!within(color.space(), ColorSpace::gray))
@@ -97,7 +97,7 @@ private:
     const char* fault(const Format::Data& data) const {
         if (!isShort(data.type()))
             return "has data whose type identifier is too long";
-        return holds(data.offset(), data.size()) ? nullptr : "has data outside of the catalog";
+        return holds(data.offset(), data.size()) ? nullptr : "has data at an invalid place";
     }
 
     const Format::Asset& asset_;
@@ -129,7 +129,7 @@ Runtime::Result<void> checkAssets(const Format::Catalog& index, std::size_t inde
             return damagedAsset(asset, fault);
         const auto [kind, name] = Format::nameOf(asset);
         if (hashes[i] != Format::hashOf(kind, name) || (i != 0 && !areInOrder(index, i)))
-            return damagedAsset(asset, "is out of order");
+            return damagedAsset(asset, "has a wrong hash or is out of order");
         nameBytes += asset.name()->size();
         if (nameBytes > indexBytes)
             return damaged("its names are longer than its index");
