@@ -1,5 +1,5 @@
-"""Prints a header with its comments in doxygen's form, or a page with each % escaped that doxygen would drop. Doxygen runs it for
-each file."""
+"""Prints a header with its comments in doxygen's form, or a page with anchors for its links and each % escaped that doxygen would
+drop. Doxygen runs it for each file."""
 import re
 import sys
 
