@@ -15,6 +15,7 @@ def shown(program, language):
 
 
 def times(folder, pattern):
+    """The modification times of files, by relative path."""
     return {str(path.relative_to(folder)): path.stat().st_mtime_ns for path in folder.rglob(pattern) if path.is_file()}
 
 
@@ -44,8 +45,7 @@ def build_and_change(prefix, folder, generator):
             "  12 articles in 1 box", "  Let it steep for 4 minutes", "  Arrives in 3 days"])
     expect("German number", shown(program, "de")[3], "1,5 kg")
     expect("Arabic plurals", shown(program, "ar")[6:9], ["  لا منتجات", "  منتج واحد", "  منتجان"])
-    colours = shown(program, "en")[15:19]
-    expect("light and dark", colours[0].split(), ["copper", "#A8552A", "copper", "#E39A6B"])
+    expect("light and dark", shown(program, "en")[15].split(), ["copper", "#A8552A", "copper", "#E39A6B"])
     expect("pictures", [line.split()[-1] for line in shown(program, "en")[19:]], ["decoded"] * 6)
 
     # Nothing changed: nothing is built.
@@ -71,7 +71,7 @@ def build_and_change(prefix, folder, generator):
     replace(shop / "Resources/en.lproj/Localizable.strings", "Good to see you, %@!", "Good to see you, %@ and %@!")
     try:
         run(*make)
-    except SystemExit as failed:
+    except SystemExit as failed:  # by run()
         expect(f"{generator}: a changed accessor", "welcome" in str(failed), True)
     else:
         raise SystemExit("a call with too few arguments compiled")

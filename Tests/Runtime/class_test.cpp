@@ -36,7 +36,8 @@ TEST(Class, IsFoundByItsExactName) {
     EXPECT_EQ(Runtime::classNamed(""), nullptr);
 }
 
-TEST(Class, IsFoundWhileAnotherThreadLoadsLibraries) {
+// A name that no class has is searched in all libraries, also in one that is just being loaded.
+TEST(Class, IsSearchedWhileAnotherThreadLoadsLibraries) {
     std::atomic<bool> isDone = false;
     std::thread loader([&isDone] {
         for (int i = 0; i < 1000; ++i)
@@ -62,10 +63,10 @@ TEST(ElfNotes, AreReadUpToTheEndOfTheirSegment) {
     const std::string first = note(2, 5, "us--12345---"); // with '-' as padding
     const std::pair<std::string, std::string> cases[] = {
         {first + note(2, 3, "us--678"), "12345 678 "}, // the last note without padding
-        {first + note(2, 4, "us--678"), "12345 "},
-        {first + note(9, 0, "us--"), "12345 "},
+        {first + note(2, 4, "us--678"), "12345 "},     // content beyond the end
+        {first + note(9, 0, "us--"), "12345 "},        // owner beyond the end
         {first + note(0xFFFFFFFF, 0xFFFFFFFF, "us--"), "12345 "},
-        {first + "header", "12345 "}};
+        {first + "header", "12345 "}}; // half a header
     for (const auto& [bytes, expected] : cases) {
         ElfW(Phdr) segment{};
         segment.p_type = PT_NOTE;

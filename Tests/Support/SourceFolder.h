@@ -18,7 +18,7 @@ public:
     }
 
     // Returns the messages so far and removes them: "warning: FILE:LINE:COLUMN: MESSAGE", with file names relative to
-    // the folder.
+    // the folder, whose own name is then empty.
     std::vector<std::string> takeMessages() {
         std::vector<std::string> all;
         for (const SourceBundle::Diagnostic& one : diagnostics.all()) {
