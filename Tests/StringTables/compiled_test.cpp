@@ -140,6 +140,7 @@ TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
         std::size_t mostMissing; // texts that are not found
         std::string error;       // part of the error of reading all entries
     } cases[] = {
+        // A text, one in UTF-8, the dictionary, a string in UTF-16, the offsets, the trailer, slots, the index's head.
         {__LINE__, bytes.find("Text number 1") + 3, 1, 1, "the table's index contradicts the entry"},
         {__LINE__, bytes.find("Текст номер") + 3, 1, 1, "the table's index contradicts the entry"},
         {__LINE__, parts.index.frontSize(), 40, 0, ""},
@@ -168,6 +169,7 @@ TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
             EXPECT_EQ(missing == 0, mostMissing == 0) << "line " << line;
         }
     }
+    // A file that is cut among its ASCII strings.
     const std::string path = file(bytes.substr(0, parts.index.frontSize() * 3 / 4));
     for (const int before : {0, 8}) {
         std::size_t there = 0;
