@@ -9,12 +9,13 @@ CompiledTable::CompiledTable(std::string front, const CompiledIndex& index)
       states_(new std::atomic<std::uint32_t>[front_.empty() ? 0 : index.slotCount()] {}),
       left_(static_cast<std::ptrdiff_t>(mostTextPerFront * front_.size())) {}
 
-std::uint32_t CompiledTable::check(std::uint32_t number, std::string_view key, std::uint64_t hash) const noexcept {
+std::uint32_t CompiledTable::check(std::uint32_t number, std::string_view key) const noexcept {
     const CompiledIndex::Slot slot = readSlot(number);
     if (!isInside(slot.keyAt, slot.keySize) || keyOf(slot) != key || !isInside(slot.textAt, slot.textSize))
         return damaged; // or another key's; the stored state stays unknown
     const std::string_view text = textOf(slot);
     const auto size = static_cast<std::ptrdiff_t>(text.size());
+    const std::uint64_t hash = Runtime::keyHash(key); // the lookup's may be wrong
     const bool isRight = left_.load(std::memory_order_relaxed) >= size && isIntact(slot, hash, text);
     // Several threads may check one slot at the same time; they get the same result, and the first is counted.
     const std::uint32_t found = isRight ? intact + PercentRange::of(text).packed() : damaged;

@@ -31,7 +31,7 @@ public:
         const CompiledIndex::Slot slot = readSlot(number);
         std::uint32_t state = states_[number].load(std::memory_order_relaxed);
         if (state == unknown) [[unlikely]]
-            state = check(number, key, hash);
+            state = check(number, key);
         if (state == damaged || keyOf(slot) != key)
             return {};
         return FoundText(textOf(slot), PercentRange::unpacked(state - intact));
@@ -56,8 +56,7 @@ private:
     bool isInside(std::size_t at, std::size_t size) const noexcept { return at + size <= front_.size(); }
     // The state of slot `number`, which is unknown, for a lookup of `key`: `damaged` if the slot is another key's, else
     // its true state, which is stored.
-    [[gnu::noinline]] std::uint32_t check(std::uint32_t number, std::string_view key,
-                                          std::uint64_t hash) const noexcept;
+    [[gnu::noinline]] std::uint32_t check(std::uint32_t number, std::string_view key) const noexcept;
 
     std::string front_; // empty if the file ends before the slots do
     CompiledIndex index_;
