@@ -17,16 +17,22 @@ std::string_view commentOf(Comments comments, std::size_t entry) noexcept {
     return entry < comments.size() ? std::string_view(comments[entry]) : std::string_view();
 }
 
+Runtime::Error error(std::string_view what, const Entry& entry, std::string_view wrong) {
+    return {std::string(what).append(internal::quoted(entry.key)).append(wrong), {}};
+}
+
 Runtime::Error notUtf8(const Entry& entry) {
-    return {"the entry " + internal::quoted(entry.key) + " is not UTF-8", {}};
+    return error("the entry ", entry, " is not UTF-8");
 }
 
 // Fails for what neither text nor XML can represent: an entry or a comment that is not UTF-8, a comment with a NUL.
 Runtime::Result<void> check(const Entry& entry, std::string_view comment) {
-    if (!internal::isUtf8(entry.key) || !internal::isUtf8(entry.text) || !internal::isUtf8(comment))
+    if (!internal::isUtf8(entry.key) || !internal::isUtf8(entry.text))
         return notUtf8(entry);
+    if (!internal::isUtf8(comment))
+        return error("the comment of ", entry, " is not UTF-8");
     if (comment.find('\0') != comment.npos)
-        return Runtime::Error{"the comment of " + internal::quoted(entry.key) + " contains a NUL character", {}};
+        return error("the comment of ", entry, " contains a NUL character");
     return {};
 }
 
@@ -64,9 +70,11 @@ Runtime::Result<std::string> writeXml(Entries entries, Comments comments) {
         const std::string_view comment = commentOf(comments, i);
         if (auto checked = check(entries[i], comment); !checked)
             return std::move(checked.error());
-        if (!internal::canBeXml(key) || !internal::canBeXml(text) || !internal::canBeXml(comment))
-            return Runtime::Error{
-                "the entry " + internal::quoted(key) + " contains a character that XML cannot represent", {}};
+        constexpr std::string_view notXml = " contains a character that XML cannot represent";
+        if (!internal::canBeXml(key) || !internal::canBeXml(text))
+            return error("the entry ", entries[i], notXml);
+        if (!internal::canBeXml(comment))
+            return error("the comment of ", entries[i], notXml);
         if (!comment.empty())
             out.append("\t<!-- ").append(internal::withoutMark(comment, "--")).append(" -->\n");
         appendElement(out, "key", key);

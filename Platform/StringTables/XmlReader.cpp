@@ -129,7 +129,7 @@ std::string XmlReader::characters(std::string_view piece) {
     if (kind == Kind::key || kind == Kind::string)
         text_ += piece;
     else if (kind != Kind::leaf && piece.find_first_not_of(" \t\r\n") != piece.npos)
-        return "text outside of a key or value";
+        return "expected a tag, not text";
     return {};
 }
 

@@ -52,9 +52,13 @@ TEST(Writer, WritesComments) {
               "/* Ä: two\nlines */\n\"a\" = \"1\";\n\"b\" = \"2\";\n/* * / --- - */\n\"c\" = \"3\";\n");
     EXPECT_EQ(StringTables::Table::read(*StringTables::write(entries, Form::text, comments))->comments(), fromText);
     EXPECT_EQ(StringTables::Table::read(*StringTables::write(entries, Form::xml, comments))->comments(), fromXml);
-    const std::vector<std::string> bad = {"", "\0"s};
-    EXPECT_FALSE(StringTables::write(entries, Form::text, bad));
-    EXPECT_FALSE(StringTables::write(entries, Form::xml, bad));
+    for (const auto& [comment, wrong] :
+         {std::pair("\0"s, "contains a NUL character"), std::pair("\x80"s, "is not UTF-8"),
+          std::pair("\1"s, "contains a character that XML cannot represent")}) {
+        const std::vector<std::string> bad = {"", comment};
+        EXPECT_EQ(StringTables::write(entries, Form::xml, bad).error().message, "the comment of \"b\" "s + wrong);
+        EXPECT_EQ(static_cast<bool>(StringTables::write(entries, Form::text, bad)), comment == "\1");
+    }
 }
 
 TEST(Writer, RejectsWhatAFormCannotRepresent) {
