@@ -1,4 +1,4 @@
-// Parses XML with expat; part of the plug-in, and of programs that link it.
+// Parses XML with expat, in the plug-in lumora-xml.so and in programs that link StringTables statically.
 #include "StringTables/internal/XmlParser.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ public:
 
     XmlFault parse() {
         const std::string_view document = source_.substr(begin_);
-        // The size is at most Table::maxBytes, so it fits into an int.
+        // A source that was UTF-16 may be half as large again as Table::maxBytes, which still fits into an int.
         const XML_Status status = XML_Parse(expat_.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
         if (thrown_)
             std::rethrow_exception(thrown_);

@@ -104,8 +104,8 @@ public:
     FormatSignature signature;
 
 private:
-    // One text: the format (`own` is 0), or a form of the variable that the argument `own` chooses. A placeholder for
-    // this argument needs no position, even if the others have one.
+    // One text: the format (`own` is 0), or a form that the argument `own` selects. A placeholder for this argument
+    // needs no position, even if the others have one.
     void add(PluralPieces pieces, std::size_t own) {
         ArgumentStyle style;
         while (const auto piece = pieces.next()) {

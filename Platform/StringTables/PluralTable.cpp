@@ -17,7 +17,7 @@ namespace {
 using internal::Contents;
 
 // Selects the text of an entry with a `widthRule` or `deviceRule`: that for the greatest width, or that for the device
-// with the lowest rank. With both rules, a text for a device is selected, because the rank of every width is higher.
+// with the lowest rank. With both rules, a text for a device is selected, because the rank of a real width is higher.
 class TextChoice {
 public:
     void begin(std::string_view rule) { isByWidth_ = rule == pluralKeys::widthRule; }

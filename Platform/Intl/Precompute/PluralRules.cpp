@@ -121,7 +121,8 @@ std::string condition(const std::string& rule) {
     });
 }
 
-// From here on: rules for integers as in gettext, C expressions in `n` whose value is the index of the form.
+// The next three functions make the rule for integers as gettext has it: a C expression in `n` whose value is the index
+// of the form.
 
 constexpr const char* always = "1";
 constexpr const char* never = "0";

@@ -1,5 +1,5 @@
 // Intl/Precompute/Precompute.h
-// The build-time program that turns ICU's data into C++ tables for the library's sources.
+// The build-time program that turns ICU's data into C++ code that the library's sources include.
 #pragma once
 
 #include <cstddef>

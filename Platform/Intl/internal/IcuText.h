@@ -1,5 +1,5 @@
 // Intl/internal/IcuText.h
-// Converts ICU's strings to ours, and our locale identifiers to ICU's locales; part of the plug-in.
+// Converts ICU's strings to ours, and our locale identifiers to ICU's locales; part of the plug-in lumora-intl.so.
 // Text: UTF-8 on our side. Threads: any; no state.
 #pragma once
 

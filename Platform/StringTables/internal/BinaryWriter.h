@@ -34,7 +34,7 @@ public:
     Number string(std::string_view text);
     // Whether all strings are UTF-8. If not, do not call write().
     bool isUtf8() const noexcept { return isUtf8_; }
-    // Adds an entry to a dictionary. Each key may be added once.
+    // Adds an entry to a dictionary, even if it has one with that key already.
     void add(Number dictionary, Number key, Number value) { objects_[dictionary].entries.emplace_back(key, value); }
 
     // The bytes of the property list. Call it once.

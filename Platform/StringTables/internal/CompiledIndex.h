@@ -4,13 +4,13 @@
 // without reading the rest of the file, and a UTF-8 copy of the strings that the dictionary has in UTF-16.
 // Docs/decisions/0006-compiled-tables.md gives the reasons.
 //
-// The file: "bplist00"; the index; the ASCII strings; the dictionary; the UTF-16 strings; the offsets; the trailer. The
-// first three, which are all that a bundle's reader needs, are called the front.
-// The index: the object's marker and size; `mark`; the numbers of slots, buckets and entries and the size of the front;
-// a checksum of these; a displacement of 16 bits for each bucket; the slots; the UTF-8 copy. After `mark`, numbers are
-// little-endian, and all but the displacements have 32 bits. The index is a perfect hash: the hash of a key
-// (Runtime::keyHash) selects a bucket, and the hash with the bucket's displacement selects the only slot where the
-// entry can be. A slot holds the places of key and text in the front.
+// The file: "bplist00"; the data object; the ASCII strings; the dictionary; the UTF-16 strings; the offsets; the
+// trailer. The first three, which are all that a bundle's reader needs, are called the front. The data object: its
+// marker and size; `mark`; the numbers of slots, buckets and entries and the size of the front; a checksum of these; a
+// displacement of 16 bits for each bucket; the slots; the UTF-8 copy. After `mark`, numbers are little-endian, and all
+// but the displacements have 32 bits. The index is a perfect hash: the hash of a key (Runtime::keyHash) selects a
+// bucket, and the hash with the bucket's displacement selects the only slot where the entry can be. A slot holds the
+// places of key and text in the front.
 #pragma once
 
 #include "Runtime/internal/Hash.h"
@@ -33,7 +33,7 @@ public:
         std::uint32_t check = 0; // checksum of key and text
     };
     static constexpr std::size_t slotSize = 20;
-    static constexpr std::size_t objectAt = 8; // offset of the index: after "bplist00"
+    static constexpr std::size_t objectAt = 8; // offset of the data object, after "bplist00"
     // The size of everything before the first displacement: what recognize() needs.
     static constexpr std::size_t headSize = 42;
 
@@ -100,7 +100,7 @@ public:
     // No value when no perfect hash is found, for example because two keys have the same hash.
     static std::optional<CompiledIndexWriter> make(std::span<const std::uint64_t> keyHashes);
 
-    // The size of the index object with `copySize` bytes of UTF-8 copy, which begins at the offset copyAt().
+    // The size of the data object with `copySize` bytes of UTF-8 copy, which begins at the offset copyAt().
     std::size_t objectSize(std::size_t copySize) const noexcept {
         return copyAt() + copySize - CompiledIndex::objectAt;
     }

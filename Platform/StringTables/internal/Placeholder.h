@@ -114,7 +114,7 @@ struct FormatSignature {
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one
     bool mixesPositions = false;      // one text takes arguments both by position and in order (ArgumentStyle)
-    bool hasLonePercent = false;      // what hasLonePercent() says, in a plural of the format or any form
+    bool hasLonePercent = false;      // what hasLonePercent() says of the format, in a plural also of its forms
 
     // Adds the arguments that a placeholder takes.
     void add(const Placeholder& placeholder, const ArgumentCounter::Taken& taken);

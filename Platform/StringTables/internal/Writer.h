@@ -12,7 +12,7 @@ namespace StringTables {
 
 // The bytes of a table with these entries, in this order. `form` text gives `"key" = "text";` lines. `comments`, one
 // for each entry or none at all, are written before their entries in the forms text and xml; "--" becomes "- -" in XML
-// and "*/" becomes "* /" in text, where they would end the comment. The form binary has no comments.
+// and "*/" becomes "* /" in text, because a comment cannot contain them. The form binary has no comments.
 // Errors: an entry or a comment is not UTF-8; a comment contains a NUL; an entry or a comment contains a character that
 // XML cannot represent (form xml); the table would be larger than Table::maxBytes. A table that was read from a small
 // binary file may be that large in text or XML, where each entry has its own copy of a shared text.

@@ -16,8 +16,7 @@ namespace StringTables::internal {
 // are not ASCII.
 [[nodiscard]] std::string xmlText(std::string_view text, bool inAscii = false);
 
-// `text` with a space inside every `mark`, which has two characters, so that it can be in a comment that `mark` would
-// end.
+// `text` with a space inside every `mark`, two characters that a comment cannot contain ("--" in XML).
 [[nodiscard]] std::string withoutMark(std::string_view text, std::string_view mark);
 
 } // namespace StringTables::internal
