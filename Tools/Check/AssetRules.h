@@ -1,6 +1,5 @@
 // Check/AssetRules.h
-// asset-missing-scale, asset-missing-dark: finds missing variants. MessageFindings.h has the rules for the variants
-// that exist.
+// asset-missing-scale, asset-missing-dark: finds missing variants. MessageFindings.h has the rules for faulty ones.
 #pragma once
 
 #include "Check/Report.h"

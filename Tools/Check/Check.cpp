@@ -21,7 +21,7 @@ using SourceBundle::SourceTable;
 
 namespace {
 
-// The tables of the development language and Base, sorted by name. `older`: those of an older source, or none.
+// The tables in the development language or Base, sorted by name. `older`: those of an older source, or none.
 std::vector<CheckedTable> checkedTables(const Source& source, std::span<const CheckedTable> older) {
     std::vector<CheckedTable> checked;
     for (const SourceTable& table : source.tables) {

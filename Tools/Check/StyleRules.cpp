@@ -178,7 +178,7 @@ void checkStyle(const Text& text, Report& report) {
                         quote(text.entry.key) + " has the development text " + quote(development.text));
     } else if (!hasCorrectEnd(text)) {
         text.report(report, Rule::punctuationMismatch,
-                    quote(text.entry.key) + " does not end with the mark of the development text " +
+                    quote(text.entry.key) + " does not end with the punctuation of the development text " +
                         quote(development.text));
     }
 }

@@ -53,9 +53,9 @@ public:
         if (found == byName_.end())
             return;
         const auto isInGroup = [&](std::size_t number) { return all_[number].group == qualifier; };
-        const bool isGroup = std::ranges::any_of(found->second, isInGroup); // whether the qualifier is
+        const bool isGroupGiven = std::ranges::any_of(found->second, isInGroup);
         for (const std::size_t number : found->second)
-            all_[number].isUsed |= !isGroup || isInGroup(number);
+            all_[number].isUsed |= !isGroupGiven || isInGroup(number);
     }
 
     void report(Report& report) const {

@@ -12,15 +12,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Escapes a path for a makefile: spaces, backslashes, and characters that begin a comment or a variable.
+// Escapes a path for a makefile: '$', and spaces and '#' with the backslashes directly before them. Other backslashes
+// stand for themselves.
 std::string escaped(std::string_view path) {
     std::string out;
+    std::size_t backslashes = 0; // directly before `c`
     for (const char c : path) {
-        if (c == ' ' || c == '#' || c == '\\')
-            out += '\\';
+        if (c == ' ' || c == '#')
+            out.append(backslashes + 1, '\\');
         else if (c == '$')
             out += '$';
         out += c;
+        backslashes = c == '\\' ? backslashes + 1 : 0;
     }
     return out;
 }

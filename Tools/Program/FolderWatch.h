@@ -33,7 +33,7 @@ private:
     FolderWatch(std::vector<std::filesystem::path> folders, std::filesystem::path output, int inotify);
 
     Runtime::Result<void> watchAll();
-    // Watches the folder and its subfolders. `depth`: the number of folders above it, up to one of folders_.
+    // Watches the folder and its subfolders. `depth`: 0 for those of folders_; at maxFolderDepth, only the folder.
     Runtime::Result<void> watchBelow(const std::filesystem::path& folder, int depth);
     bool isIgnored(const std::filesystem::path& path) const;
     // Both add what has changed to `changed_`, and return whether anything has. `name` is the event's file in the

@@ -63,7 +63,7 @@ Runtime::Result<std::string> written(const Table& table, OutputForm form) {
     return json(table);
 }
 
-// Reads a pipe or a device to its end. Errors do not name the file; runTable() adds its name.
+// Reads the stream to its end. Errors do not name the file; runTable() adds its name.
 Runtime::Result<std::string> readToEnd(std::FILE* stream) {
     std::string bytes;
     std::array<char, 65536> part;
