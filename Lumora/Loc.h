@@ -3,7 +3,7 @@
  * Text: UTF-8. Threads: every function from any thread.
  * Ownership: the caller releases every NSString and NSNumber that a function returns with
  * NSRelease(); arguments still belong to the caller. Null arguments are allowed. A function
- * returns null only when memory runs out. */
+ * returns null only when memory runs out; then, or when descriptors run out, a text may be empty. */
 #ifndef LUMORA_LOC_H
 #define LUMORA_LOC_H
 

@@ -11,7 +11,7 @@
 
 namespace Foundation {
 
-// The units that a formatter may use, each a bit; the values are the platform's.
+// The units that a formatter may use, each a bit with the value that the application's code expects.
 enum class NSCalendarUnit : std::uint32_t { none = 0, year = 1U << 2 };
 
 class LUMORA_EXPORT NSCalendar {

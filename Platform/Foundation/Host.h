@@ -15,7 +15,7 @@ namespace Foundation::Host {
 
 // Sets the languages that the user reads, most preferred first: "ru", "pt-PT", "zh_CN". Overrides the environment.
 // Empty names and names with a NUL are ignored, and so are those that do not fit into longestLanguages bytes together
-// with the names before them.
+// with the names before them. If no name is left, each bundle uses its development language.
 LUMORA_EXPORT void setPreferredLanguages(const std::vector<std::string>& languages);
 inline constexpr std::size_t longestLanguages = 2048;
 // Sets the identifier of the user's locale: "de_AT". Overrides the environment. An identifier of more than

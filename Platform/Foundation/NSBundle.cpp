@@ -11,6 +11,7 @@
 #include "Runtime/internal/KeyedStore.h"
 #include "Runtime/internal/OpenFile.h"
 #include "Runtime/internal/StartData.h"
+#include "Runtime/internal/SystemError.h"
 #include "Runtime/internal/TransientError.h"
 #include "StringTables/internal/BundleLayout.h"
 #include <algorithm>
@@ -130,7 +131,7 @@ struct NSBundle::Contents {
         return folder.table(key.table, key.tableHash);
     }
 
-    // Calls `use` with what was found: the LocalizedFormat of a plural, or a FoundText, which is empty if no table has
+    // Calls `use` with what was found: the LocalizedFormat of a plural, or a FoundText, which is none if no table has
     // the key.
     template <class Use> auto lookUp(const LocalizedKey& key, Use&& use) {
         const Chain& chain = chains[preferred()];
@@ -273,8 +274,8 @@ std::optional<std::string> NSBundle::tableDamage(std::string_view table) const {
     for (auto at = chain.begin(); *at != nullptr; ++at)
         if (auto damage = (*at)->damage(name))
             return damage;
-    if (::access(contents.path.c_str(), F_OK) != 0)
-        return contents.path + ": there is no bundle";
+    if (::access((contents.path + "/.").c_str(), F_OK) != 0) // the dot: also fails for a file or a closed folder
+        return Runtime::systemError(contents.path, "cannot be read").text();
     return std::nullopt;
 }
 

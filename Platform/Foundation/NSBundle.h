@@ -59,8 +59,8 @@ public:
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, const std::string* value,
                                                     std::string_view table) const;
     // Why a file of a table, in the folders that findLocalized() searches now, cannot be read: "FILE:LINE:COLUMN:
-    // REASON", or "PATH: REASON" if the bundle itself is missing. No value when each file is readable or missing. Reads
-    // the files again.
+    // REASON", or "PATH: REASON" if the bundle itself cannot be read. No value when each file is readable or missing.
+    // Reads the files again.
     [[nodiscard]] std::optional<std::string> tableDamage(std::string_view table) const;
     // The path of the file NAME.TYPE (NAME if TYPE is empty) of one localization (or of "Base"), in the subfolder
     // `directory` of the localization's folder unless `directory` is empty. No value when there is no such file, when a

@@ -52,7 +52,7 @@ public:
     // Whether this is the whole format.
     bool isWhole() const noexcept { return isWhole_; }
     std::string_view text() const noexcept { return {buffer_.data(), static_cast<std::size_t>(out_ - buffer_.data())}; }
-    // How many bytes of the format, up to the end of the last "%@", and how many arguments text() replaces.
+    // How many bytes of the format, up to the end of the last "%@", and how many arguments text() was made from.
     std::size_t formatSize() const noexcept { return done_; }
     std::size_t argumentCount() const noexcept { return taken_; }
 

@@ -141,8 +141,8 @@ template <auto* function> constexpr Method method(const char* selector) noexcept
     __asm__(".pushsection .note.lumora.class,\"a\",%note\n.balign 4\n.long 7, 4, 1\n.asciz \"Lumora\"\n.balign "       \
             "4\n.long " symbol " - .\n.popsection")
 
-// Sends a message and returns its result. A null class, an unknown selector, and arguments or a result of other types
-// stop the process with a report that names class and selector.
+// Sends a message and returns its result. A null class, an unknown selector, and arguments or a result type that do not
+// match the method stop the process with a report that names class and selector.
 template <class Result, class... Arguments>
 Carried<Result> send(const Class* cls, std::string_view selector, const Arguments&... arguments) {
     return [&](const Carried<Arguments>&... carried) {

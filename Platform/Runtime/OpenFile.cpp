@@ -61,7 +61,7 @@ Result<OpenFile> OpenFile::open(const std::string& path, std::size_t limit, std:
     if (file.descriptor_.number() < 0 && errno == ENOENT)
         file.descriptor_ = Descriptor(openInside(path, folder, openFlags));
     if (file.descriptor_.number() < 0 && errno == leadsOut)
-        return file.error("is a link that leads out of " + std::string(folder));
+        return file.error("is reached by a link that leads out of " + std::string(folder));
     struct stat status {};
     if (file.descriptor_.number() < 0 || ::fstat(file.descriptor_.number(), &status) != 0)
         return systemError(path, "cannot be read");

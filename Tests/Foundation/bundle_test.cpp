@@ -128,8 +128,9 @@ TEST_F(Bundle, FollowsNoLinkOutOfIt) {
         EXPECT_EQ(text("S"), "common");
         EXPECT_EQ(text("X"), "a");
         EXPECT_EQ(text("N"), "a");
-        EXPECT_EQ(one->tableDamage("X"),
-                  one->bundlePath() + "/de.lproj/X.strings: is a link that leads out of " + one->bundlePath());
+        EXPECT_EQ(one->tableDamage("X"), one->bundlePath() +
+                                             "/de.lproj/X.strings: is reached by a link that leads out of " +
+                                             one->bundlePath());
         EXPECT_TRUE(one->pathForResource("S", "strings", "", "Base"));
         EXPECT_FALSE(one->pathForResource("X", "strings", "", "Base"));
         EXPECT_FALSE(one->pathForResource("X", "strings", "", "de"));
