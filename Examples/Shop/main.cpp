@@ -19,7 +19,7 @@ void show(const std::string& text) {
 void showTexts() {
     show(Localizable::Home::title() + ": " + Localizable::Home::subtitle());
     show(Localizable::Home::welcome("Ann"));
-    show(Localizable::Article::price("Darjeeling", "€12.50")); // the shop formats its prices, not Lumora
+    show(Localizable::Article::price("Darjeeling", "€12.50")); // the shop, not Lumora, formats its prices
     show(Localizable::Article::weight(1.5));
     show(Localizable::Article::rating(4.6));
     show(Orders::orderIsOnItsWay(4711));

@@ -61,7 +61,7 @@ std::string precise(std::string_view digits, std::optional<std::size_t> precisio
     return out.append(digits);
 }
 
-// A magnitude as snprintf() formats it, without a sign, with the decimal separator of the process's C locale.
+// A magnitude as snprintf() formats it, without a sign, with the decimal separator of setlocale()'s locale.
 class LibraryText {
 public:
     LibraryText(const ResolvedPlaceholder& resolved, double magnitude) {
@@ -86,8 +86,8 @@ bool isDigit(char c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-// The parts of a decimal number as text. Its decimal separator depends on the process's C locale: it is whatever
-// follows the integer digits and is not an exponent.
+// The parts of a decimal number as text. Its decimal separator depends on setlocale(): it is whatever follows the
+// integer digits and is not an exponent.
 struct DecimalParts {
     explicit DecimalParts(std::string_view text) {
         const auto take = [&text](auto belongs) {
@@ -132,7 +132,7 @@ Padding appendHexadecimal(std::string& out, const ResolvedPlaceholder& resolved,
                                c == 'p' || c == 'P';
         if (isPrinted)
             out += c;
-        else if (!out.ends_with('.')) // the separator of the process's C locale, whose bytes together become one point
+        else if (!out.ends_with('.')) // the bytes of the separator, which depends on setlocale(), become one point
             out += '.';
     }
     return padding;

@@ -1,7 +1,7 @@
 // Foundation/internal/FormattedNumber.h
 // Formats a number for a printf placeholder, before padding to its width; internal.
-// Text: UTF-8. Threads: any; no state. In the locale "en_US_POSIX" the results equal those of the C library, whatever
-// the process's C locale is.
+// Text: UTF-8. Threads: any; no state. In the locale "en_US_POSIX" the results equal those of the C library in its
+// locale "C", whatever setlocale() has set.
 #pragma once
 
 #include "Intl/internal/NumberPattern.h"
