@@ -201,7 +201,7 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
          R"({"filename": "missing"})",
          {},
          {"warning " + at("1:13") +
-          R"(entry 1 ("missing") is a file that does not exist and is left out, and with it the set, which has no other variant)"}},
+          R"(entry 1 ("missing") is a file that does not exist and is left out, and with it the set, which has no usable variant)"}},
         {__LINE__, R"({"scale": "1x"})", {}, {"warning A.xcassets/p.imageset: has no usable variant and is left out"}},
         {__LINE__,
          R"({"filename": "damaged"}, {"filename": "2", "scale": "2x"})",
@@ -304,7 +304,7 @@ TEST_F(Catalogs, KnowSystemColorsForLightAndDark) {
 }
 
 TEST_F(Catalogs, LeaveOutInvalidSets) {
-    const std::string withSet = ", and with it the set, which has no other variant";
+    const std::string withSet = ", and with it the set, which has no usable variant";
     const struct {
         int line;
         const char *set, *contents;

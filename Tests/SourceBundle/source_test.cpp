@@ -91,8 +91,8 @@ TEST(Source, NamesItsDevelopmentLanguage) {
          "x = y;\nCFBundleDevelopmentRegion = \"$(DEVELOPMENT_LANGUAGE)\";",
          "",
          "en",
-         {"warning: Info.plist:2:1: the development language is the build setting $(DEVELOPMENT_LANGUAGE), which has "
-          "no value here (use --development-language to set it)"}},
+         {"warning: Info.plist:2:1: the development language is the build setting $(DEVELOPMENT_LANGUAGE), whose "
+          "value is unknown (use --development-language instead)"}},
         {__LINE__, "CFBundle = ;", "", "en", {"error: Info.plist:1:12: "}},
     };
     for (const auto& one : cases) {
@@ -133,6 +133,7 @@ TEST(Source, ReportsWhatItLeavesOut) {
     Support::SourceFolder folder;
     folder.write("Base.lproj/.hidden.strings", "?");
     folder.write("Base.lproj/Layout.xib", "?");
+    folder.write("Base.lproj/Capital.Strings", "a = b;");
     folder.write("Base.lproj/Twice.strings", "a = b;\na = c;");
     folder.write("Base.lproj/Broken.strings", "a = b;\nc = ;");
     folder.write("loose.strings", "a = b;");
@@ -147,7 +148,8 @@ TEST(Source, ReportsWhatItLeavesOut) {
     const Source source = folder.read();
     EXPECT_EQ(contents(source), (Strings{"Broken Base", "Folder Base", "Gone Base", "Twice Base a=c"}));
     EXPECT_TRUE(source.tables[0].languages[0].isDamaged);
-    const Strings expected = {"note: Base.lproj/Layout.xib: is not a table and is left out",
+    const Strings expected = {"warning: Base.lproj/Capital.Strings: is left out: its extension must be .strings",
+                              "note: Base.lproj/Layout.xib: is not a table and is left out",
                               "warning: file.lproj: is not a folder of tables and is left out",
                               "note: loop: is a link to a folder and is left out",
                               "warning: loose.colorset: is not in an asset catalog (*.xcassets) and is left out",

@@ -61,8 +61,8 @@ std::string moduleHeader(const Options& options) {
     return code.take();
 }
 
-// Adds a line to TREE.h that changes whenever a header that it includes changes: those directly in the folder TREE, and
-// those that are the same for all resources of the module.
+// Adds a line to TREE.h that changes whenever a generated header that it includes changes. These are directly in the
+// folder TREE; NAMEAsset.h also includes NAMEAssetRecords.h and, through it, NAMEResources.h.
 void addFingerprint(const std::string& module, const std::string& tree, std::vector<OutputFile>& files) {
     std::vector<std::string_view> headers;
     for (const OutputFile& file : files)
@@ -103,8 +103,8 @@ std::vector<OutputFile> filesOf(const Model& model, const Options& options) {
     std::vector<OutputFile> files = emitStrings(model.tables, options);
     std::ranges::move(emitAssets(model.assetTree.constants, options), std::back_inserter(files));
     files.push_back({options.module + ".h", moduleHeader(options)});
-    // lumora_add_module tells the build system only of these headers, so they must change when one that they include
-    // does.
+    // lumora_add_module tells the build system only of the headers NAMEStrings.h and NAMEAsset.h, so they must change
+    // when one that they include does.
     for (const std::string tree : {"Strings", "Asset"})
         addFingerprint(options.module, options.module + tree, files);
     return files;

@@ -1,5 +1,5 @@
 // Generator/StringsEmitter.h
-// Makes the headers and sources of the tree of texts.
+// Makes the headers and sources of the tree of texts, and NAMEResources.h and .cpp.
 #pragma once
 
 #include "Generator/Generator.h"

@@ -50,7 +50,7 @@ bool isSettled(UChar32 c) noexcept {
 
 } // namespace
 
-// The functions below begin with ASCII, because nearly all names are.
+// The functions below handle ASCII first, because nearly all names consist of it.
 
 std::u32string decoded(std::string_view utf8) {
     if (std::ranges::all_of(utf8, [](unsigned char byte) { return isAscii(byte); }))

@@ -23,7 +23,7 @@ Runtime::Error unresolvedSetting(const std::filesystem::path& file, const Table&
     const auto entry = std::ranges::find(table.entries(), regionKey, &StringTables::Entry::key);
     const StringTables::Location place = table.locations()[static_cast<std::size_t>(entry - table.entries().begin())];
     return {.message = "the development language is the build setting " + std::string(value) +
-                       ", which has no value here (use --development-language to set it)",
+                       ", whose value is unknown (use --development-language instead)",
             .file = file,
             .line = place.line,
             .column = place.column};

@@ -13,7 +13,7 @@
 namespace SourceBundle {
 
 enum class Pseudo : std::uint8_t {
-    accented, // "[Ŷöûŕ çåŕţ ~~~]": accented letters, a third longer, in brackets. Cyrillic, Greek and the like have
+    accented, // "[Ýöûŕ çåŕţ ~~~]": accented letters, a third longer, in brackets. Cyrillic, Greek and the like have
               // a combining mark on each letter; in scripts without capital letters the letters are unchanged.
     rightToLeft // words are displayed from right to left
 };

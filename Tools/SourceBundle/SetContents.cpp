@@ -258,7 +258,7 @@ void reportEmptySet(const SourceAsset& asset, const Diagnostics& messages, Diagn
     for (const Diagnostic& one : messages.all()) {
         Diagnostic message = one;
         if (isWarning(one) && ++seen == warnings)
-            message.what.message += ", and with it the set, which has no other variant";
+            message.what.message += ", and with it the set, which has no usable variant";
         diagnostics.add(message);
     }
     if (warnings == 0 && std::ranges::none_of(messages.all(), isError))

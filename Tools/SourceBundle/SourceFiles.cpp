@@ -156,7 +156,7 @@ private:
                 addTable(entry, *kind, kind == TableFile::Kind::catalog ? "" : language);
             else if (entry.is_directory(failed))
                 findFolder(entry, depth + 1);
-            else
+            else if (!hasCapitalExtension(entry.path()))
                 add(Severity::note, entry.path(), "is not a table and is left out");
         }
         isBehindLink_ = wasBehindLink;

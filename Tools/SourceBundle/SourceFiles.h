@@ -36,7 +36,8 @@ struct SourceFiles {
 // several given folders is found once. A link to a language folder is followed, unless another link was followed to it.
 // Errors: a folder that is unreadable or below more than maxFolderDepth others; a given path that is not a folder, is
 // a compiled bundle, or contains neither tables nor catalogs; a table, language folder or Info.plist that is a link out
-// of its given folder. Warnings: tables, sets and files *.lproj in the wrong place, and extensions with capitals.
+// of its given folder. Warnings: a table that is not in a language folder or a set that is not in a catalog, a file
+// *.lproj, an extension with capitals.
 // Notes: links that are not followed, compiled bundles inside a folder, and other files in a language folder.
 [[nodiscard]] SourceFiles findFiles(std::span<const std::filesystem::path> folders, Diagnostics& diagnostics);
 
@@ -53,8 +54,8 @@ inline constexpr const char* compiledMark = ".lumora-bundle";
 [[nodiscard]] std::vector<std::filesystem::directory_entry> sortedEntries(const std::filesystem::path& folder,
                                                                           Diagnostics& diagnostics);
 
-// The language code for the name of a language folder (without ".lproj") or of Info.plist. Old names are English words:
-// "German" gives "de". Other names are returned unchanged.
+// The language code for the name that a language folder (without ".lproj") or Info.plist gives: "de" for the old name
+// "German"; any other name is returned unchanged.
 [[nodiscard]] std::string languageNamed(const std::string& name);
 
 } // namespace SourceBundle
