@@ -271,6 +271,8 @@ private:
             return {.message = "is not a string catalog: has no \"sourceLanguage\" or no \"strings\"", .file = file_};
         if (code == simdjson::INCORRECT_TYPE)
             return {.message = "is not a string catalog: unexpected type", .file = file_};
+        if (code == simdjson::DEPTH_ERROR)
+            return {.message = "has JSON that is nested too deeply", .file = file_};
         return {.message = std::string("invalid JSON: ") + simdjson::error_message(code), .file = file_};
     }
 
