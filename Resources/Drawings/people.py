@@ -28,11 +28,11 @@ class Look:
     legs: str = "long"          # long, short, tunic
     wide: float = 1             # factor of the trunk's width
     limb: float = 1             # factor of the limbs' width
-    belly: float = 0            # how much wider the waist is
+    belly: float = 0            # added to half the waist, from the side to the trunk; may be negative
     trim: str = None            # colour of a stripe, scarf or hair band
 
 
-# The hair of men and of women. The names of training targets say "ar" for "arab".
+# The hair of men and of women. The names of pictures of training targets say "ar" for "arab".
 STYLES = {"plain": ("short", "tail"), "arab": ("crop", "scarf"), "asia": ("side", "bob"),
           "europe": ("side", "long"), "latina": ("curly", "waves"), "usa": ("crop", "curly"),
           "ru": ("short", "tail"), "ar": ("crop", "scarf")}
@@ -284,7 +284,7 @@ def profile(d, who):
 
 
 def bust(d, who, x, bottom, scale=1):
-    """Head and shoulders, cut at `bottom`."""
+    """Head and shoulders around x; their straight lower edge is just below `bottom`, where an edge of the picture hides it."""
     with d.placed(x, bottom, scale):
         hair_behind(d, who, 0, -62, 21)
         wide = 42 if who.male else 34

@@ -47,7 +47,8 @@ MOTIFS = {
 
 
 def landscape(d, region, horizon):
-    """Sky, sun, the region's motif and the ground over the whole drawing. The names of training targets say "ar" for "arab"."""
+    """Sky, sun, the region's motif and the ground over the whole drawing. The names of pictures of training targets say
+    "ar" for "arab"."""
     region = "arab" if region == "ar" else region
     c = REGION_COLOURS[region]
     k = d.width / 320

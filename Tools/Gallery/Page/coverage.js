@@ -17,12 +17,12 @@ function coverageRow(language, index, showMissing) {
         part.style.width = `${(counts[status] / all) * 100}%`;
         bar.append(part);
     }
-    const percent = Math.floor(((counts.translated + counts.same) / all) * 100);
+    const presentPercent = Math.floor(((counts.translated + counts.same) / all) * 100);
     const notes = [[counts.same, "untranslated"], [counts.missing, "missing"]]
         .filter(([count]) => count > 0).map(([count, what]) => `${numbers.format(count)} ${what}`);
-    const name = make("button", { type: "button", class: "language", title: "Show as second language" },
+    const name = make("button", { type: "button", class: "language", title: "Show as second language, and what it lacks" },
         make("bdi", { lang: language.tag, dir: language.direction }, language.name), " ", make("code", {}, language.code));
     name.addEventListener("click", () => showMissing(index, counts));
-    return make("li", {}, name, make("span", { class: "percent" }, `${percent} %`), bar,
+    return make("li", {}, name, make("span", { class: "percent" }, `${presentPercent} %`), bar,
         make("span", { class: "notes" }, notes.join(", ") || "complete"));
 }
