@@ -47,13 +47,13 @@ std::string timeOfDay() {
     return text.data();
 }
 
-// ": T.strings changed" or ": 3 files changed"; empty for the first compile.
+// ": T.strings changed" or ": 3 changes"; empty for the first compile.
 std::string summary(const Paths& changed) {
     if (changed.empty())
         return "";
     if (changed.size() == 1)
         return ": " + changed.begin()->filename().string() + " changed";
-    return ": " + std::to_string(changed.size()) + " files changed";
+    return ": " + std::to_string(changed.size()) + " changes";
 }
 
 bool isReadable(const Runtime::Descriptor& descriptor) {
