@@ -44,7 +44,7 @@ void requireSound(const SourceBundle::SourceAsset& asset) {
     require(asset.catalog == "A" && asset.files.empty() != asset.colors.empty());
     const std::string name = asset.path.stem();
     require(asset.name == name || asset.name == "Folder/" + name);
-    for (const SourceBundle::SourceFile& file : asset.files) {
+    for (const SourceBundle::SetFile& file : asset.files) {
         require(std::isfinite(file.capInsets.top) && std::isfinite(file.alignmentInsets.right));
         // Not "secret", which is outside the set; but an entry may name Contents.json itself.
         require(file.path == asset.path / "1.png" || file.path == asset.path / "Contents.json");
@@ -65,7 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     source.setContents(data, size);
     SourceBundle::Diagnostics diagnostics;
     const fs::path catalogs[] = {source.path() / "A.xcassets"};
-    const auto acceptPicture = [](const SourceBundle::SourceFile&) { return Runtime::Result<void>(); };
+    const auto acceptPicture = [](const SourceBundle::SetFile&) { return Runtime::Result<void>(); };
     for (const SourceBundle::SourceAsset& asset : SourceBundle::sourceAssets(catalogs, diagnostics, acceptPicture))
         requireSound(asset);
     for (const SourceBundle::Diagnostic& one : diagnostics.all())

@@ -17,7 +17,7 @@ protected:
         diagnostics = {};
         const std::filesystem::path folders[] = {folder.path()};
         return SourceBundle::sourceAssets(SourceBundle::findFiles(folders, diagnostics).catalogs, diagnostics,
-                                          [](const SourceBundle::SourceFile& file) -> Runtime::Result<void> {
+                                          [](const SourceBundle::SetFile& file) -> Runtime::Result<void> {
                                               if (Support::contents(file.path) == "unreadable")
                                                   return Runtime::Error{.message = "is damaged", .file = file.path};
                                               return {};

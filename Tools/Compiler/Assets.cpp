@@ -22,9 +22,9 @@ using AssetCatalog::Asset;
 using AssetCatalog::Bytes;
 using AssetCatalog::Picture;
 using SourceBundle::Diagnostics;
+using SourceBundle::SetFile;
 using SourceBundle::Severity;
 using SourceBundle::SourceAsset;
-using SourceBundle::SourceFile;
 
 namespace {
 
@@ -57,7 +57,7 @@ public:
     }
 
     // Checks that pictures() will succeed, as far as SourcePictures::check() does.
-    Runtime::Result<void> check(const SourceFile& file) {
+    Runtime::Result<void> check(const SetFile& file) {
         const auto read = bytes(file.path);
         if (!read)
             return read.error();
@@ -70,7 +70,7 @@ public:
         return checked;
     }
 
-    Runtime::Result<std::vector<Picture>> pictures(const SourceFile& file) {
+    Runtime::Result<std::vector<Picture>> pictures(const SetFile& file) {
         const auto read = bytes(file.path);
         if (!read)
             return read.error();
@@ -105,7 +105,7 @@ private:
 // scale, because the catalog uses the first of several for the same traits.
 void addPictures(const SourceAsset& source, Files& files, Asset& asset, Diagnostics& diagnostics) {
     std::vector<Picture> drawn;
-    for (const SourceFile& file : source.files) {
+    for (const SetFile& file : source.files) {
         auto pictures = files.pictures(file);
         if (!pictures) {
             diagnostics.add(Severity::error, std::move(pictures.error()));
@@ -127,7 +127,7 @@ void addPictures(const SourceAsset& source, Files& files, Asset& asset, Diagnost
 }
 
 void addData(const SourceAsset& source, Files& files, Asset& asset, Diagnostics& diagnostics) {
-    for (const SourceFile& file : source.files) {
+    for (const SetFile& file : source.files) {
         auto bytes = files.bytes(file.path);
         if (bytes)
             asset.data.push_back({.fit = file.fit,
@@ -171,7 +171,7 @@ void removeDuplicates(std::vector<SourceAsset>& assets, Diagnostics& diagnostics
 std::vector<Asset> compiledAssets(std::span<const fs::path> catalogs, Files& files, Diagnostics& diagnostics,
                                   const Progress& progress) {
     std::vector<SourceAsset> sources =
-        SourceBundle::sourceAssets(catalogs, diagnostics, [&](const SourceFile& file) { return files.check(file); });
+        SourceBundle::sourceAssets(catalogs, diagnostics, [&](const SetFile& file) { return files.check(file); });
     removeDuplicates(sources, diagnostics);
     std::vector<Asset> assets(sources.size());
     std::vector<Diagnostics> messages(sources.size());

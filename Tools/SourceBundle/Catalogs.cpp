@@ -112,7 +112,7 @@ private:
 
 } // namespace
 
-Runtime::Result<void> checkPicture(const SourceFile& file) {
+Runtime::Result<void> checkPicture(const SetFile& file) {
     const auto bytes = Runtime::readFile(file.path, SourcePictures::maxFileBytes);
     if (!bytes)
         return bytes.error();

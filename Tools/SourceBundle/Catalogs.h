@@ -14,7 +14,7 @@
 namespace SourceBundle {
 
 // A file of an image, symbol or data set, with the traits and language that it is for.
-struct SourceFile {
+struct SetFile {
     AssetCatalog::Fit fit{};
     std::string language{}; // "pt-BR"; empty: for all languages
     std::filesystem::path path{};
@@ -34,15 +34,15 @@ struct SourceAsset {
     std::string name{};           // "folder/name" in folders that provide a namespace
     std::filesystem::path path{}; // of the set's folder
     AssetCatalog::Rendering rendering = AssetCatalog::Rendering::automatic;
-    std::vector<SourceFile> files{};
+    std::vector<SetFile> files{};
     std::vector<AssetCatalog::Color> colors{};
 };
 
 // Checks whether a picture's file is usable. It is called on several threads at the same time.
-using PictureCheck = std::function<Runtime::Result<void>(const SourceFile& file)>;
+using PictureCheck = std::function<Runtime::Result<void>(const SetFile& file)>;
 
 // Reads the file and checks it with SourcePictures::check().
-[[nodiscard]] Runtime::Result<void> checkPicture(const SourceFile& file);
+[[nodiscard]] Runtime::Result<void> checkPicture(const SetFile& file);
 
 // Reads the assets of the catalogs. They are ordered as `catalogs` is, then by path, with those of a folder before
 // those of its subfolders. Several may have the same kind and name; the first one counts. Docs/catalogs.md describes

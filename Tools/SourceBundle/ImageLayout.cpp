@@ -16,7 +16,7 @@ Insets insetsOf(const Json& insets, std::uint8_t scale) {
 
 } // namespace
 
-void readLayout(const Json& entry, SourceFile& file) {
+void readLayout(const Json& entry, SetFile& file) {
     file.alignmentInsets = insetsOf(member(entry, "alignment-insets"), file.fit.scale);
     const Json& resizing = member(entry, "resizing");
     Insets caps = insetsOf(member(resizing, "cap-insets"), file.fit.scale);

@@ -9,6 +9,6 @@ namespace SourceBundle {
 
 // Reads the entry's "resizing" and "alignment-insets" into `file`, and converts insets from pixels to points with
 // `file.fit.scale`.
-void readLayout(const Json& entry, SourceFile& file);
+void readLayout(const Json& entry, SetFile& file);
 
 } // namespace SourceBundle

@@ -151,7 +151,7 @@ private:
         const std::optional<fs::path> path = pathOf(entry);
         if (!path)
             return;
-        SourceFile file{.fit = entry.fit, .language = entry.language, .path = *path};
+        SetFile file{.fit = entry.fit, .language = entry.language, .path = *path};
         file.typeIdentifier = typeIdentifierOf(entry);
         file.isSymbol = asset_.path.extension() == symbolExtension;
         file.preservesVector = member(properties_, "preserves-vector-representation") == Json(true);
@@ -288,7 +288,7 @@ void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnos
         diagnostics.add(one);
 }
 
-SourcePictures::Purpose purposeOf(const SourceFile& file) {
+SourcePictures::Purpose purposeOf(const SetFile& file) {
     return {.isSymbol = file.isSymbol, .scale = file.fit.scale, .preservesVector = file.preservesVector};
 }
 

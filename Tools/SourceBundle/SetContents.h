@@ -17,6 +17,6 @@ inline constexpr std::string_view symbolExtension = ".symbolset";
 void readSet(SourceAsset& asset, const PictureCheck& check, Diagnostics& diagnostics);
 
 // What SourcePictures must know about a picture's file.
-[[nodiscard]] SourcePictures::Purpose purposeOf(const SourceFile& file);
+[[nodiscard]] SourcePictures::Purpose purposeOf(const SetFile& file);
 
 } // namespace SourceBundle
