@@ -133,7 +133,7 @@ TEST(ExchangeFiles, AreRejectedWithLocations) {
         {__LINE__, "<xliff version='2.0'/>", "f:1: not XLIFF 1.2"},
         {__LINE__, "<xliff version='1.2'>\n<file/></xliff>", "f:2: <file> has no source-language"},
         {__LINE__, xml + "<source>\n<x id='1'/></source></trans-unit></body></file></xliff>",
-         "f:2: the inline element <x>"},
+         "f:2: this inline element <x>"},
         {__LINE__, xml, "no element found"},
         {__LINE__, "<!DOCTYPE x [<!ENTITY e 'f'>]><xliff version='1.2'>&e;</xliff>",
          "entity declarations are not allowed"},
@@ -454,6 +454,15 @@ TEST(Exports, KeepEmptyFormsOfPlurals) {
         importEdited(folder, {{"T[variables.n.plural.one]/files", "1"}, {"T[variables.n.plural.other]/files", "%ld"}})
             .texts,
         2U);
+}
+
+TEST(Exports, NameNoFolderThatIsNotUtf8) {
+    Support::SourceFolder folder;
+    folder.write("\xE9/en.lproj/T.strings", "a = b;");
+    const std::filesystem::path folders[] = {folder.path()};
+    const auto exported =
+        Exchange::translationsOf(folder.read(), folders, "de", /*onlyMissing=*/false, folder.diagnostics);
+    EXPECT_EQ(exported.units.at(0).place, "T.strings:1");
 }
 
 // The translation is in a file that cannot contain the plural forms of the development text.

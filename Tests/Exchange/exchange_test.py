@@ -200,7 +200,7 @@ class Exchange(unittest.TestCase):
                 ("takes an argument 1", target(title, "100 % da")),
                 ("takes argument 1 as a text", target(articles, "%1$@ Artikel")),
                 ('de has no plural form "few"', good.replace("variables.articles.plural.other]", "variables.articles.plural.few]")),
-                ("no text with the id Localizable[variables.x.plural.one]/", good.replace("variables.articles.plural.one]", "variables.x.plural.one]")),
+                ("no text to translate with the id Localizable[variables.x.plural.one]/", good.replace("variables.articles.plural.one]", "variables.x.plural.one]")),
                 ("takes argument 2 for the variable articles", good.replace("%#@articles@ in %#@boxes@</target>", "%#@boxes@: %#@articles@</target>")),
                 ("lacks the variable boxes", good.replace("%#@articles@ in %#@boxes@</target>", "%#@articles@</target>")),
                 ("home.title appears again", good.replace(unit, unit + unit)),
@@ -250,7 +250,8 @@ class Exchange(unittest.TestCase):
             self.assertEqual((status, out, message in err), (2, "", True), err)
             self.assertEqual(contents(source), before)
         self.assertEqual(run("import", file, "--into", self.folder / "none")[0], 2)
-        for arguments in (["--language", "en"], ["--language", "Base"], ["--language", "x/y"], []):
+        for arguments in (["--language", "en"], ["--language", "Base"], ["--language", "x/y"], [],
+                          ["--language", "de", "--development-language", os.fsdecode(b"\xe9")]):
             self.assertEqual(run("export", source, *arguments, "-o", self.folder / "x.po")[0], 2)
         # One of the files cannot be created, so none is changed.
         file = self.export(source, "es", "xliff")

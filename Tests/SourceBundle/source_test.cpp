@@ -136,6 +136,8 @@ TEST(Source, ReportsWhatItLeavesOut) {
     folder.write("Base.lproj/Capital.Strings", "a = b;");
     folder.write("Base.lproj/Twice.strings", "a = b;\na = c;");
     folder.write("Base.lproj/Broken.strings", "a = b;\nc = ;");
+    folder.write("Base.lproj/\xE9.strings", "a = b;");
+    folder.write("d\xE9.lproj/T.strings", "a = b;");
     folder.write("loose.strings", "a = b;");
     folder.write("loose.colorset/Contents.json", "{}");
     folder.write("sub/Capital.XCStrings", "{}");
@@ -150,6 +152,8 @@ TEST(Source, ReportsWhatItLeavesOut) {
     EXPECT_TRUE(source.tables[0].languages[0].isDamaged);
     const Strings expected = {"warning: Base.lproj/Capital.Strings: is left out: its extension must be .strings",
                               "note: Base.lproj/Layout.xib: is not a table and is left out",
+                              "error: Base.lproj/\xE9.strings: is a table whose name or language is not UTF-8",
+                              "error: d\xE9.lproj/T.strings: is a table whose name or language is not UTF-8",
                               "warning: file.lproj: is not a folder of tables and is left out",
                               "note: loop: is a link to a folder and is left out",
                               "warning: loose.colorset: is not in an asset catalog (*.xcassets) and is left out",

@@ -1,5 +1,6 @@
 #include "Exchange/Export.h"
 
+#include "StringTables/internal/Unicode.h"
 #include <algorithm>
 
 namespace Exchange {
@@ -13,12 +14,12 @@ using SourceBundle::SourceTable;
 namespace {
 
 // "en.lproj/Localizable.strings:12": the file relative to the last of the source's folders that contains it, or only
-// its name.
+// its name, if that path is not UTF-8.
 std::string placeOf(const SourceEntry& entry, std::span<const fs::path> folders) {
     fs::path shown = entry.file->path.filename();
     for (const fs::path& folder : folders)
         if (const fs::path inside = entry.file->path.lexically_relative(folder);
-            !inside.empty() && *inside.begin() != "..")
+            !inside.empty() && *inside.begin() != ".." && StringTables::internal::isUtf8(inside.native()))
             shown = inside;
     return shown.string() + ":" + std::to_string(entry.line);
 }
@@ -40,14 +41,14 @@ void keepMissing(std::vector<Unit>& units, const std::string& language) {
 
 void forEachKey(const Source& source, const SourceTable& table, const std::string& language,
                 const std::function<void(const Key&)>& visit) {
-    const SourceBundle::LanguageTexts* const own = table.find(source.developmentLanguage);
+    const SourceBundle::LanguageTexts* const development = table.find(source.developmentLanguage);
     const SourceBundle::LanguageTexts* const translated = table.find(language);
     for (const SourceEntry* entry : source.developmentEntries(table)) {
-        const bool isOwn = own != nullptr && own->find(entry->key) == entry;
+        const bool isOfBase = development == nullptr || development->find(entry->key) != entry;
         visit({.table = &table,
                .development = entry,
                .translated = translated == nullptr ? nullptr : translated->find(entry->key),
-               .developmentLanguage = isOwn ? source.developmentLanguage : std::string(SourceBundle::baseLanguage),
+               .developmentLanguage = isOfBase ? std::string(SourceBundle::baseLanguage) : source.developmentLanguage,
                .language = language});
     }
 }
@@ -58,17 +59,17 @@ Translations translationsOf(const Source& source, std::span<const fs::path> fold
     StoredTexts texts(source, diagnostics);
     for (const SourceTable& table : source.tables)
         forEachKey(source, table, language, [&](const Key& key) {
-            if (key.development->isTranslatable && !canBeExchanged(key, texts))
-                diagnostics.add(
+            std::optional<std::vector<Unit>> units = unitsOf(key, texts);
+            if (!units)
+                return diagnostics.add(
                     Severity::warning,
                     key.translated->error(
                         "is left out, because its file cannot contain the same forms as the development text"));
-            std::vector<Unit> units = unitsOf(key, texts);
             if (onlyMissing)
-                keepMissing(units, language);
-            for (Unit& unit : units)
+                keepMissing(*units, language);
+            for (Unit& unit : *units)
                 unit.place = placeOf(*key.development, folders);
-            std::ranges::move(units, std::back_inserter(translations.units));
+            std::ranges::move(*units, std::back_inserter(translations.units));
         });
     return translations;
 }

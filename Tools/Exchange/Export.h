@@ -12,8 +12,8 @@ namespace Exchange {
 
 // The texts of `source`, which was read from `folders`, with their translations in `language`, in the order of tables
 // and development texts. `onlyMissing`: only texts without a translation or with one in state `new`; if one form of a
-// plural is missing, all its forms are included. Texts that cannot be exchanged (canBeExchanged()) give a warning, an
-// unreadable string catalog gives an error.
+// plural is missing, all its forms are included. A key for which unitsOf() has no value gives a warning, an unreadable
+// string catalog gives an error.
 [[nodiscard]] Translations translationsOf(const SourceBundle::Source& source,
                                           std::span<const std::filesystem::path> folders, const std::string& language,
                                           bool onlyMissing, SourceBundle::Diagnostics& diagnostics);

@@ -122,7 +122,7 @@ private:
                     .developmentLanguage = std::string(developmentLanguage),
                     .language = language};
             ImportedKey imported{.key = std::move(key), .expected = {}, .seen = {}};
-            imported.expected = unitsOf(imported.key, texts_);
+            imported.expected = unitsOf(imported.key, texts_).value_or(std::vector<Unit>());
             imported.merged = imported.expected;
             return &keys_.emplace(name, std::move(imported)).first->second;
         }
@@ -168,7 +168,7 @@ private:
         if (unit.id.category && hasPart)
             return imported.key.language + " has no plural form \"" +
                    std::string(Intl::pluralCategoryNames[indexOf(*unit.id.category)]) + "\" for " + textOf(unit.id);
-        return "the key has no text with the id " + textOf(unit.id);
+        return "the key has no text to translate with the id " + textOf(unit.id);
     }
 
     void accept(const std::string& file, ImportedKey& imported, const Unit& unit, State state) {

@@ -147,6 +147,20 @@ private:
     std::vector<Unit> units_;
 };
 
+// Whether unitsOf() has a value for the key, whose development texts are `development`.
+bool canBeExchanged(const Key& key, const std::vector<StoredText>& development) {
+    using Kind = TableFile::Kind;
+    if (key.translated == nullptr)
+        return true;
+    const Kind from = key.development->file->kind, to = key.translated->file->kind;
+    if (to == Kind::catalog)
+        return from != Kind::plurals;
+    if (to == Kind::plurals)
+        return from == Kind::plurals;
+    return from != Kind::catalog ||
+           (development.size() == 1 && development.front().part.empty() && !development.front().category);
+}
+
 } // namespace
 
 StoredTexts::StoredTexts(const SourceBundle::Source& source, SourceBundle::Diagnostics& diagnostics) {
@@ -176,25 +190,12 @@ std::vector<StoredText> StoredTexts::of(const SourceEntry& entry, std::string_vi
     return {{{}, std::nullopt, std::string(entry.text), State::translated}};
 }
 
-bool canBeExchanged(const Key& key, StoredTexts& texts) {
-    using Kind = TableFile::Kind;
-    if (key.translated == nullptr)
-        return true;
-    const Kind development = key.development->file->kind, translated = key.translated->file->kind;
-    if (translated == Kind::catalog)
-        return development != Kind::plurals;
-    if (translated == Kind::plurals)
-        return development == Kind::plurals;
-    if (development != Kind::catalog)
-        return true;
-    const std::vector<StoredText> all = texts.of(*key.development, key.developmentLanguage);
-    return all.size() == 1 && all.front().part.empty() && !all.front().category;
-}
-
-std::vector<Unit> unitsOf(const Key& key, StoredTexts& texts) {
-    if (!key.development->isTranslatable || !canBeExchanged(key, texts))
-        return {};
+std::optional<std::vector<Unit>> unitsOf(const Key& key, StoredTexts& texts) {
+    if (!key.development->isTranslatable)
+        return std::vector<Unit>();
     const std::vector<StoredText> development = texts.of(*key.development, key.developmentLanguage);
+    if (!canBeExchanged(key, development))
+        return std::nullopt;
     std::vector<StoredText> translated;
     // A plain translation of a plural in a .stringsdict file is not shown, because an import replaces it by a plural.
     const bool isReplaced = key.translated != nullptr && key.development->file->kind == TableFile::Kind::plurals &&

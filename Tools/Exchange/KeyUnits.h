@@ -8,10 +8,12 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace Exchange {
 
-// Gives access to all texts of an entry. String catalogs are read once each.
+// Gives access to all texts of an entry, also to those for devices, which a Source leaves out. String catalogs are read
+// once each.
 class StoredTexts {
 public:
     // Reads the string catalogs of the source. Reports unreadable ones as errors.
@@ -36,14 +38,11 @@ struct Key {
 };
 
 // The key's units in the order of its parts and categories. A plural has a unit for each form of the language, for each
-// further form that the translation has, and for `zero` if the development text has it. Empty if nothing can be
-// translated.
-[[nodiscard]] std::vector<Unit> unitsOf(const Key& key, StoredTexts& texts);
-
-// Whether the key can be exchanged: it has no translation, or one in the same kind of file as the development text, or
-// one of these: a .strings text for a plural of a .stringsdict file (an import replaces it by a plural); a .strings
-// text for a plain text of a string catalog; a text of a string catalog for a .strings text.
-[[nodiscard]] bool canBeExchanged(const Key& key, StoredTexts& texts);
+// further form that the translation has, and for `zero` if the development text has it. Empty if nothing is to be
+// translated. No value if the translation is in a file that cannot contain the same forms as the development text: in
+// another kind of file, except a .strings text for a plural of a .stringsdict file (an import replaces it by a plural)
+// or for a plain text of a string catalog, and a text of a string catalog for a .strings text.
+[[nodiscard]] std::optional<std::vector<Unit>> unitsOf(const Key& key, StoredTexts& texts);
 
 // Whether the unit has a development text but no translation although the language needs one (needsCategory()), or has
 // a translation that a string catalog marks as new.

@@ -58,8 +58,8 @@ bool removeAll(std::string& text, std::string_view mark) {
     return found;
 }
 
-// The arguments of a text in a string catalog.
-Needs catalogNeeds(std::string text, const PluralFormat* plural) {
+// The arguments of any other text; `plural`: its format if it is in a string catalog and has one, or null.
+Needs otherNeeds(std::string text, const PluralFormat* plural) {
     Needs needs;
     if (plural != nullptr)
         for (const PluralVariable& variable : plural->variables)
@@ -92,7 +92,7 @@ public:
 
     Needs needsOf(const std::string& text) const {
         if (plural_ == nullptr || part_.empty() || part_.front() == devicePart || part_.front() == substitutionsPart)
-            return catalogNeeds(text, plural_);
+            return otherNeeds(text, plural_);
         if (!isPlural_) {
             PluralFormat format = *plural_;
             format.format = text;
@@ -100,7 +100,7 @@ public:
         }
         const PluralVariable* const variable = variableNamed(*plural_, part_.back());
         if (variable == nullptr) // only the translation has it
-            return catalogNeeds(text, nullptr);
+            return otherNeeds(text, nullptr);
         const std::size_t own = argumentOf(*plural_, *variable);
         Needs needs = pluralNeeds(PluralPieces(*plural_, text, *variable, own));
         needs.number = own;

@@ -19,8 +19,8 @@ void markFuzzy(std::span<Unit> units, std::string_view language);
 [[nodiscard]] std::string writePo(const Translations& translations, SourceBundle::Diagnostics& diagnostics);
 
 // Reads a UTF-8 file whose header names its language. `file` is its name, for messages. Errors in `faults`: entries
-// with an invalid id, plural forms that the language does not have, and all plurals if the plural rule in the header is
-// not that of the language. Errors of the result: not a PO file, another encoding, no language.
+// with an invalid id, plural forms that the language does not have, and all plurals if the header does not have the
+// plural rule of the language. Errors of the result: not a PO file, another encoding, no language.
 [[nodiscard]] Runtime::Result<Translations> readPo(const std::string& bytes, const std::string& file,
                                                    SourceBundle::Diagnostics& faults);
 

@@ -86,7 +86,7 @@ public:
             return add(entry, *id, entry.source, entry.targets.front());
         if (!categories_)
             return fault(entry,
-                         "the plural rule in the header (Plural-Forms) is not that of " + translations_.targetLanguage);
+                         "the header (Plural-Forms) does not have the plural rule of " + translations_.targetLanguage);
         for (std::size_t i = 0; i < entry.targets.size(); ++i)
             readForm(entry, *id, i);
     }

@@ -101,7 +101,7 @@ std::string writePo(const Translations& translations, SourceBundle::Diagnostics&
         if (std::ranges::any_of(entry.units, isLost) || isLost(entry.singular) || isLost(entry.plural))
             diagnostics.add(SourceBundle::Severity::warning,
                             {.message = textOf(units[entry.units.front()].id) +
-                                        " contains a NUL character, which PO files cannot represent; it is left out"});
+                                        " is left out, because PO files cannot represent its NUL character"});
         else
             appendEntry(out, entry, units);
     }

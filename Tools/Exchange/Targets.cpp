@@ -11,8 +11,8 @@ using SourceBundle::TableFile;
 
 namespace {
 
-// The file that has the key's translation or to which it can be added, or null. A plural for a plain translation is
-// added to another file.
+// The file that has the key's translation or to which it can be added, or null. A plural that replaces a plain
+// translation is added to another file.
 const TableFile* existingFile(const Key& key) {
     const TableFile& development = *key.development->file;
     if (development.kind == TableFile::Kind::catalog)

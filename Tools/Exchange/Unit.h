@@ -16,8 +16,8 @@ namespace Exchange {
 using Intl::PluralCategory;
 using SourceBundle::State;
 
-// Identifies one text of a key. A key has a single text, with an empty part, or several: plural forms, the format and
-// variables of a .stringsdict entry, texts for devices and substitutions of a string catalog.
+// Identifies one text of a key. A key has a single text, without part and category, or several: plural forms, the
+// format and variables of a .stringsdict entry, texts for devices and substitutions of a string catalog.
 struct UnitId {
     std::string table;
     std::string key;
@@ -55,7 +55,7 @@ struct Unit {
 
 // The units of one language.
 struct Translations {
-    std::string sourceLanguage{};
+    std::string sourceLanguage{}; // empty if a PO file does not name it
     std::string targetLanguage{};
     std::vector<Unit> units{};
     std::string file{};    // the file that they were read from

@@ -3,7 +3,6 @@
 
 #include "Exchange/Xml.h"
 #include "StringTables/internal/Unicode.h"
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <map>
@@ -20,10 +19,6 @@ State stateNamed(std::string_view name) {
     if (name == "new" || name == "needs-translation")
         return State::isNew;
     return name.starts_with("needs-") ? State::needsReview : State::translated;
-}
-
-bool isOneOf(std::string_view name, std::initializer_list<std::string_view> names) {
-    return std::ranges::find(names, name) != names.end();
 }
 
 // The character of <ph ctype="x-character" equiv-text="1F"/>.
@@ -116,12 +111,12 @@ private:
         for (const XmlNode& child : node.children)
             if (!child.isElement())
                 out += child.text;
-            else if (isOneOf(child.name, {"g", "mrk"}))
+            else if (child.name == "g" || child.name == "mrk")
                 appendText(out, child);
             else if (const auto one = character(child))
                 out += *one;
             else
-                fail(child, "the inline element <" + child.name + "> is not supported");
+                fail(child, "this inline element <" + child.name + "> is not supported");
     }
 
     XmlDocument& document_;

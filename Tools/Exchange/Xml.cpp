@@ -98,7 +98,7 @@ Runtime::Result<XmlDocument> XmlDocument::read(std::string bytes) {
     if (auto parsed = parseXml(contents, reader); !parsed)
         return std::move(parsed.error());
     document.root_ = std::move(reader.root);
-    // Without a byte-order mark, isUtf8 is false and the declaration decides; without either, XML is UTF-8.
+    // Unless isUtf8 is set, the declaration decides; without one, XML is UTF-8.
     document.hasOtherEncoding_ = !contents.isUtf8 && !reader.declaredEncoding.empty() &&
                                  SourceBundle::lowerCase(reader.declaredEncoding) != "utf-8";
     document.source_->locator.emplace(contents);

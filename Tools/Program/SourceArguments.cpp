@@ -1,14 +1,16 @@
 #include "Program/SourceArguments.h"
 
 #include "Program/Command.h"
+#include "StringTables/internal/Unicode.h"
 #include <CLI/CLI.hpp>
 
 namespace Tools {
 
 CLI::Option* SourceArguments::addTo(CLI::App& command, const std::string& name) {
-    command.add_option(
-        "--development-language", options.developmentLanguage,
-        "The language of the development texts (default: that of Info.plist or a string catalog, or en)");
+    command
+        .add_option("--development-language", options.developmentLanguage,
+                    "The language of the development texts (default: that of Info.plist or a string catalog, or en)")
+        ->check([](const std::string& code) { return StringTables::internal::isUtf8(code) ? "" : "is not UTF-8"; });
     return command
         .add_option(name, folders,
                     "Folders of resources, searched at any depth for *.lproj, *.xcstrings and *.xcassets")

@@ -2,6 +2,7 @@
 
 #include "SourceBundle/LowerCase.h"
 #include "StringTables/internal/BundleLayout.h"
+#include "StringTables/internal/Unicode.h"
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -164,8 +165,11 @@ private:
 
     void addTable(const fs::directory_entry& entry, TableFile::Kind kind, std::string language) {
         isEmpty_ = false;
+        const std::string name = entry.path().stem();
+        if (!StringTables::internal::isUtf8(name) || !StringTables::internal::isUtf8(language))
+            return add(Severity::error, entry.path(), "is a table whose name or language is not UTF-8");
         if (mayRead(entry) && addKnown(entry.path()))
-            found_.tables.push_back({kind, entry.path().stem(), std::move(language), entry.path()});
+            found_.tables.push_back({kind, name, std::move(language), entry.path()});
     }
     void addCatalog(const fs::path& path) {
         isEmpty_ = false;
