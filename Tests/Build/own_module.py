@@ -95,4 +95,4 @@ with tempfile.TemporaryDirectory(prefix="lumora-module-") as top:
         folder = top / name.split()[0]
         folder.mkdir()
         build_and_change(top / "prefix", folder, name)
-print("a module of an application's own is built, shown and built again exactly")
+print("an application's own module is built and runs, and after a change only what needs it is built again")

@@ -42,5 +42,5 @@ def compile_by_pkg_config(package, sources, program, compiler, pkgconfig):
     run(*compiler, *sources, "-o", program, *arguments)
 
 
-# What consumer/app.cpp prints. Russian groups digits with U+00A0.
+# The number that consumer/app.cpp prints. Russian groups digits with U+00A0.
 NUMBER = "+1\u00a0234\u00a0567"

@@ -1,3 +1,4 @@
+// Tests/Check/CheckedSource.h
 // A source written by a test, with the findings in it.
 #pragma once
 

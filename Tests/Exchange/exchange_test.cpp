@@ -465,7 +465,7 @@ TEST(Exports, NameNoFolderThatIsNotUtf8) {
     EXPECT_EQ(exported.units.at(0).place, "T.strings:1");
 }
 
-// The translation is in a file that cannot contain the plural forms of the development text.
+// The translation is in a file of another kind, which cannot contain the same forms as the development text.
 TEST(Exports, LeaveOutTextsThatAnImportCannotWrite) {
     StringTables::PluralEntry entry{.key = "%lld k", .plural = {"%#@n@", {{"n", "lld", {}}}}, .location = {}};
     entry.plural.variables[0].forms.back() = "%lld K";

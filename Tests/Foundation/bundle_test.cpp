@@ -237,8 +237,8 @@ TEST_F(Bundle, KeepsItsContentIfAReloadFindsNoChange) {
     write("Base.lproj/Localizable.strings", "a = new;");
     bundle().reload();
     EXPECT_EQ(text("a"), "new");
-    // A time in the future may stay when the file changes again, so each reload reads the file. The time also exceeds
-    // 64 bits of nanoseconds.
+    // A time in the future may stay when the file changes again, so each reload reads the file. This time also exceeds
+    // 2^63 nanoseconds.
     const timespec future[] = {{.tv_sec = 0, .tv_nsec = 0}, {.tv_sec = time_t{1} << 34, .tv_nsec = 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, (folder_ / "Base.lproj/Localizable.strings").c_str(), future, 0), 0);
     std::this_thread::sleep_for(std::chrono::milliseconds(200));

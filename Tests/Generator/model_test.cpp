@@ -15,7 +15,7 @@ std::string content(const std::vector<Generator::OutputFile>& files, const std::
     return found == files.end() ? "no file " + path : found->content;
 }
 
-// A source with the development table T, and its generated model.
+// A source with the development table T, and what is generated from it.
 class Tree : public Support::SourceFolder {
 public:
     explicit Tree(std::string_view text) { write("Base.lproj/T.strings", text); }

@@ -125,7 +125,7 @@ TEST_F(Services, SpellYearsInEachLanguage) {
     };
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     for (const auto& one : cases) {
-        // Accessors keep the first language that they return, so phrases of the tables are read in a new process.
+        // Accessors keep their first text, so each phrase of the tables is read in a new process.
         const bool isFromTables = std::string("en de ko").find(one.language) != std::string::npos;
         if (isFromTables)
             EXPECT_EXIT(

@@ -42,7 +42,7 @@ def main(resources, program):
             for key, text in texts.items():
                 checked += 1
                 own_kinds = kinds(text)
-                expected = kinds(base[name][key]) if key in base[name] else "no such key"
+                expected = kinds(base[name][key]) if key in base[name] else "that Base has this key"
                 if own_kinds != expected or isinstance(own_kinds, str):
                     faults.append(f"{language}/{name}: {key!r}: {own_kinds}, expected {expected}")
                 if not text.strip():

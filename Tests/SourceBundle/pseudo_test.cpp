@@ -1,4 +1,4 @@
-// Pseudo-languages change words and nothing else.
+// Pseudo-languages change words, but no placeholders and no markup; the accented one also adds brackets and padding.
 #include "../Support/SourceFolder.h"
 #include "SourceBundle/PseudoText.h"
 #include "StringTables/internal/PluralPieces.h"

@@ -1,3 +1,4 @@
+// Tests/StringTables/Tables.h
 // Shared by the tests of all three table forms.
 #pragma once
 

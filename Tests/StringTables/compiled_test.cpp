@@ -186,7 +186,7 @@ TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
 TEST_F(CompiledTable, DetectsAnIndexThatContradictsTheDictionary) {
     const std::string one = compiled({{"a", "1"}, {"b", "2"}});
     std::string exchanged = one, marked = one;
-    const std::size_t values = Parts(one).index.frontSize() + 3; // after the marker and two keys
+    const std::size_t values = Parts(one).index.frontSize() + 3; // after the dictionary's marker and two keys
     std::swap(exchanged[values], exchanged[values + 1]);
     EXPECT_NE(Tables::errorOf(exchanged).find("the table's index contradicts the entry \"a\""), std::string::npos);
     // A damaged mark is detected, and so is an overwritten index, because the trailer has a mark, too.
