@@ -129,6 +129,8 @@ TEST(ExchangeFiles, AreRejectedWithLocations) {
         {__LINE__, head + "msgid \"a\"\nmsgid_plural \"b\"\nmsgstr[1] \"\"", "f:5:7: expected the form 0"},
         {__LINE__, head + "message \"a\"", "f:3:1: expected msgctxt"},
         {__LINE__, head + "msgid \"\xFF\"", "f:3:8: not UTF-8"},
+        {__LINE__, "\xFF\xFEm\0"s, "f:1:1: not UTF-8"},
+        {__LINE__, "\0<\0a\0/\0>"s, "f:1: not XLIFF 1.2"},
         {__LINE__, "<a/>", "f:1: not XLIFF 1.2"},
         {__LINE__, "<xliff version='2.0'/>", "f:1: not XLIFF 1.2"},
         {__LINE__, "<xliff version='1.2'>\n<file/></xliff>", "f:2: <file> has no source-language"},

@@ -13,7 +13,7 @@ struct DecodedText {
     // Converts UTF-16 to UTF-8; files in other encodings are unchanged. The byte-order mark is kept in UTF-8 and
     // removed from UTF-16. Errors: damaged UTF-16.
     [[nodiscard]] static Runtime::Result<DecodedText> of(std::string bytes);
-    // Converts `edited`, which is UTF-8, to the encoding of the file.
+    // Converts `edited`, an edited `text`, to the encoding of the file.
     [[nodiscard]] std::string encoded(std::string_view edited) const;
 
     std::string text;                                       // UTF-8, except for XML that declares another encoding

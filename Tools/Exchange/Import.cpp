@@ -231,10 +231,10 @@ Runtime::Result<std::vector<Translations>> readTranslations(const std::string& f
     auto bytes = Runtime::readFile(file, StringTables::Table::maxBytes);
     if (!bytes)
         return std::move(bytes.error());
-    const std::size_t first = bytes->find_first_not_of("\xEF\xBB\xBF \t\r\n");
-    // UTF-16 must be XLIFF, because PO files are UTF-8.
-    const bool isWide = bytes->starts_with("\xFF\xFE") || bytes->starts_with("\xFE\xFF");
-    if (isWide || (first != std::string::npos && (*bytes)[first] == '<'))
+    // The bytes of byte-order marks and blanks, and the zero bytes of UTF-16.
+    constexpr std::string_view skipped("\xEF\xBB\xBF\xFE\xFF \t\r\n\0", 10);
+    const std::size_t first = bytes->find_first_not_of(skipped);
+    if (first != std::string::npos && (*bytes)[first] == '<')
         return readXliff(*std::move(bytes), file, faults);
     auto translations = readPo(*bytes, file, faults);
     if (!translations)

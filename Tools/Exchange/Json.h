@@ -27,7 +27,6 @@ struct JsonLayout {
 
 class JsonNode {
 public:
-    [[nodiscard]] bool isObject() const noexcept { return !isString_ && (raw_.empty() || raw_.starts_with('{')); }
     // The last member with that name, or null. Members are parsed at the first access.
     [[nodiscard]] JsonNode* find(std::string_view name);
     // The same, but adds an empty object if there is none: in alphabetical order if the members are sorted, else last.
@@ -49,6 +48,7 @@ public:
 private:
     friend class JsonDocument;
 
+    bool isObject() const noexcept { return !isString_ && (raw_.empty() || raw_.starts_with('{')); }
     void expand(); // parses the members, once
     void write(std::string& out, const JsonLayout& layout, std::size_t depth) const;
 

@@ -106,7 +106,7 @@ private:
             return add(entry, id, id.category == PluralCategory::one ? entry.source : *entry.plural,
                        entry.targets[form]);
         if (!entry.targets[form].empty())
-            fault(entry, translations_.targetLanguage + " has no plural form " + std::to_string(form));
+            fault(entry, translations_.targetLanguage + " has no plural form for msgstr[" + std::to_string(form) + "]");
     }
 
     void add(const PoText& entry, const UnitId& id, const std::string& source, const std::string& target) {

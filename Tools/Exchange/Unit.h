@@ -27,9 +27,9 @@ struct UnitId {
     friend bool operator==(const UnitId&, const UnitId&) = default;
 };
 
-// "Localizable/cart.title", "Localizable[variables.days.plural.one]/days left". Control characters, U+FFFE and U+FFFF
-// are escaped as \u{HEX}, in the table also [ ] and /, in `part` also [ ] / and . because they separate the parts of an
-// id; backslashes are doubled.
+// "Localizable/cart.title", "Localizable[variables.days.plural.one]/days left". Control characters, U+FFFE and U+FFFF,
+// some of which XML cannot represent, are escaped as \u{HEX}, in the table also [ ] and /, in `part` also [ ] / and .
+// because they separate the parts of an id; backslashes are doubled.
 [[nodiscard]] std::string textOf(const UnitId& id);
 // Parses the result of textOf(); no value if it is invalid.
 [[nodiscard]] std::optional<UnitId> unitIdOf(std::string_view text);
