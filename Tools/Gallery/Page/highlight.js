@@ -1,19 +1,20 @@
-// Highlights the search words, in browsers that support it. Unlike the search, it does not ignore accents in the text,
-// because a folded text has other offsets.
+// Highlights the search words, in browsers that support it. The words are folded.
 const foundWords = "Highlight" in window ? new Highlight() : null;
 if (foundWords)
     CSS.highlights.set("found", foundWords);
 
 function wordRanges(node, words) {
-    const text = node.data.toLowerCase();
-    if (text.length !== node.data.length) // the offsets would differ
-        return [];
+    const [text, offsets] = foldedWithOffsets(node.data);
     const ranges = [];
     for (const word of words)
-        for (let begin = text.indexOf(word); begin >= 0; begin = text.indexOf(word, begin + word.length))
+        for (let begin = text.indexOf(word); begin >= 0; begin = text.indexOf(word, begin + word.length)) {
+            let end = begin + word.length;
+            while (offsets[end] === offsets[end - 1]) // a character that folding made several of is highlighted as a whole
+                ++end;
             ranges.push(new StaticRange({
-                startContainer: node, startOffset: begin, endContainer: node, endOffset: begin + word.length,
+                startContainer: node, startOffset: offsets[begin], endContainer: node, endOffset: offsets[end],
             }));
+        }
     return ranges;
 }
 

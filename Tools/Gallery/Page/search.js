@@ -1,10 +1,5 @@
 // Lists that can be searched. A list's rows are created once; a search changes which of them are in the document.
 
-// The text in a form for comparisons that ignore case, accents and compatibility forms.
-function folded(text) {
-    return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase();
-}
-
 // Caches the folded strings of the row, joined and separately. The separator is in no string and in no search word.
 function prepared(row) {
     row.haystack ??= folded(row.strings().map((text) => text.replaceAll("\0", "")).join("\n\0"));

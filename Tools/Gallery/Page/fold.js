@@ -1,0 +1,18 @@
+// The text in a form for comparisons that ignore case, accents and compatibility forms.
+function folded(text) {
+    return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase();
+}
+
+// The folded text, and for each of its characters, and its end, the offset in the text.
+function foldedWithOffsets(text) {
+    const characters = [], offsets = [];
+    let offset = 0;
+    for (const character of text) {
+        for (const one of folded(character).split("")) {
+            characters.push(one);
+            offsets.push(offset);
+        }
+        offset += character.length;
+    }
+    return [characters.join(""), [...offsets, offset]];
+}
