@@ -152,8 +152,8 @@ TEST(Source, ReportsWhatItLeavesOut) {
     EXPECT_TRUE(source.tables[0].languages[0].isDamaged);
     const Strings expected = {"warning: Base.lproj/Capital.Strings: is left out: its extension must be .strings",
                               "note: Base.lproj/Layout.xib: is not a table and is left out",
-                              "error: Base.lproj/\xE9.strings: is a table whose name or language is not UTF-8",
-                              "error: d\xE9.lproj/T.strings: is a table whose name or language is not UTF-8",
+                              "warning: Base.lproj/\xE9.strings: is left out: its name and language must be UTF-8",
+                              "warning: d\xE9.lproj/T.strings: is left out: its name and language must be UTF-8",
                               "warning: file.lproj: is not a folder of tables and is left out",
                               "note: loop: is a link to a folder and is left out",
                               "warning: loose.colorset: is not in an asset catalog (*.xcassets) and is left out",

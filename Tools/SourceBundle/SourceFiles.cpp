@@ -167,7 +167,7 @@ private:
         isEmpty_ = false;
         const std::string name = entry.path().stem();
         if (!StringTables::internal::isUtf8(name) || !StringTables::internal::isUtf8(language))
-            return add(Severity::error, entry.path(), "is a table whose name or language is not UTF-8");
+            return add(Severity::warning, entry.path(), "is left out: its name and language must be UTF-8");
         if (mayRead(entry) && addKnown(entry.path()))
             found_.tables.push_back({kind, name, std::move(language), entry.path()});
     }

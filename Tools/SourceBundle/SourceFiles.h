@@ -36,8 +36,8 @@ struct SourceFiles {
 // several given folders is found once. A link to a language folder is followed, unless another link was followed to it.
 // Errors: a folder that is unreadable or below more than maxFolderDepth others; a given path that is not a folder, is
 // a compiled bundle, or contains neither tables nor catalogs; a table, language folder or Info.plist that is a link out
-// of its given folder; a table whose name or language is not UTF-8. Warnings: a table that is not in a language folder
-// or a set that is not in a catalog, a file *.lproj, an extension with capitals.
+// of its given folder. Warnings: a table that is not in a language folder or whose name or language is not UTF-8, a set
+// that is not in a catalog, a file *.lproj, an extension with capitals.
 // Notes: links that are not followed, compiled bundles inside a folder, and other files in a language folder.
 [[nodiscard]] SourceFiles findFiles(std::span<const std::filesystem::path> folders, Diagnostics& diagnostics);
 
