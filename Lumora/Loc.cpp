@@ -38,8 +38,8 @@ template <class Make> auto createForC(Make make) noexcept -> decltype(make()) {
     }
 }
 
-// Calls a function of Localization by message, the interface for all callers that are not C++. Null when memory runs
-// out.
+// Calls a function of Localization by its selector, as callers in other languages do, so that C gets the same texts.
+// Null when memory runs out.
 template <class... Arguments>
 NSString* sendToLocalization(std::string_view selector, const Arguments&... arguments) noexcept {
     return createForC([&] {

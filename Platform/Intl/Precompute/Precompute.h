@@ -10,7 +10,7 @@
 namespace Intl::Precompute {
 
 // Each returns the text of a file, or calls fail().
-std::string locales();        // Precomputed.inc
+std::string locales();        // Precomputed.inc: number patterns and forms of years
 std::string pluralRules();    // PluralRules.inc
 std::string scriptVariants(); // ScriptVariants.inc
 

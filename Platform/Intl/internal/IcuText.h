@@ -41,7 +41,7 @@ namespace Intl {
     if (const std::size_t dot = name.find('.'); dot != std::string::npos)
         name.erase(dot, name.find('@', dot) - dot); // without an '@', everything after the dot
     icu::Locale locale = icu::Locale::createFromName(name.c_str());
-    // ICU copies names into buffers of this size, not always with a check. Either name may be longer than the other.
+    // ICU copies each of the two names into buffers of this size, not always with a check.
     if (!locale.isBogus() &&
         std::max(std::strlen(locale.getName()), std::strlen(locale.getBaseName())) >= ULOC_FULLNAME_CAPACITY)
         locale.setToBogus();

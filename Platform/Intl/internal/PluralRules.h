@@ -10,8 +10,9 @@
 
 namespace Intl {
 
-// The operands of CLDR's rules. They describe the number as it is printed, so 1 and 1.0 differ. If i, f or t has
-// more than 18 digits, its value is a 1 and the last 18 of them, which suffices for all rules.
+// The operands of CLDR's rules except n, which follows from i, f and v, and c and e, which are 0 in the numbers that
+// are printed here. They describe the number as it is printed, so 1 and 1.0 differ. If i, f or t has more than 18
+// digits, its value is a 1 and the last 18 of them, which suffices for all rules.
 struct PluralOperands {
     std::uint64_t i = 0; // whole part
     std::uint64_t v = 0; // number of digits after the point
@@ -22,8 +23,8 @@ struct PluralOperands {
     friend bool operator==(const PluralOperands&, const PluralOperands&) = default;
 };
 
-// The operands of a number printed in ASCII without its sign: "12.50", "1.25e+01". Whatever follows such a number is
-// ignored; a text that does not begin with a number, such as "nan", gives zeros.
+// The operands of a number printed in ASCII without its sign: "12.50"; "1.25e+01", which has those of "12.5". Whatever
+// follows such a number is ignored; a text that does not begin with a number, such as "nan", gives zeros.
 [[nodiscard]] PluralOperands pluralOperands(std::string_view decimal) noexcept;
 
 // The rules of one language, found once for many numbers.

@@ -1,6 +1,6 @@
 // Pictures/internal/Decoders.h
-// The interface of the plug-in; internal. It passes C++ types, because library and plug-in are always built together.
-// Tools link the decoders directly instead.
+// The interface of the plug-in lumora-pictures.so; internal. It passes C++ types, because library and plug-in are
+// always built together. Tools link the decoders directly instead.
 #pragma once
 
 #include "Pictures/Bitmap.h"
@@ -11,7 +11,7 @@
 
 namespace Pictures {
 
-// Each function decodes one encoding like Pictures::decode(), after measure() has found it.
+// Each function decodes a picture whose encoding measure() has found; limit and errors as for Pictures::decode().
 class Decoders {
 public:
     virtual Runtime::Result<Bitmap> png(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) const = 0;
@@ -24,7 +24,7 @@ protected:
 // The decoders linked into this program or plug-in.
 [[nodiscard]] const Decoders& linkedDecoders() noexcept;
 
-// Each checks `maxPixels` itself, because its library may find another size than measure().
+// Each compares `maxPixels` with the size that libpng or libjpeg finds, which may differ from that of measure().
 Runtime::Result<Bitmap> decodePng(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
 Runtime::Result<Bitmap> decodeJpeg(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels);
 
