@@ -39,7 +39,7 @@ public:
     // Whether the value is not 0.
     [[nodiscard]] bool boolValue() const noexcept { return isFloating() ? floating_ != 0 : integer_ != 0; }
 
-    // The number as Describable writes it: "5", "2.0".
+    // The stored integer or double as Describable writes it: "5", "2.0"; "1" for true.
     LUMORA_EXPORT friend std::string describe(const NSNumber& number);
 
 private:

@@ -37,7 +37,7 @@ private:
 std::string writeIndexed(std::span<const Entry> entries, std::span<const std::uint64_t> hashes,
                          const CompiledIndexWriter& index) {
     BinaryWriter list(2 * entries.size());
-    const auto indexObject = list.reserve();
+    const auto dataObject = list.reserve();
     struct Numbers {
         BinaryWriter::Number key, text;
     };
@@ -53,7 +53,7 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
     addStrings(true);
     const auto dictionary = list.dictionary();
     addStrings(false);
-    Utf8Copy copy(index.copyAt()); // filled here, because the index's size depends on it
+    Utf8Copy copy(index.copyAt()); // filled before write(), because the size of the data object depends on it
     for (std::size_t i = 0; i < entries.size(); ++i) {
         list.add(dictionary, numbers[i].key, numbers[i].text);
         if (!isAscii(entries[i].key))
@@ -61,7 +61,7 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
         if (!isAscii(entries[i].text))
             copy.at(numbers[i].text, entries[i].text);
     }
-    list.setReservedSize(indexObject, index.objectSize(copy.bytes().size()));
+    list.setReservedSize(dataObject, index.objectSize(copy.bytes().size()));
     std::string bytes = list.write();
 
     const auto offsetOf = [&](BinaryWriter::Number number, std::string_view string) {
@@ -84,7 +84,10 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
 
 Runtime::Result<std::string> writeCompiled(std::span<const Entry> entries) {
     auto plain = write(entries, Form::binary);
-    if (!plain || sizeOf(entries) > 2 * plain->size()) // else readers could reach mostTextPerFront
+    if (!plain)
+        return plain;
+    // Readers would take such a table for damaged, because so many entries share texts (mostTextPerFront).
+    if (sizeOf(entries) > 2 * plain->size())
         return plain;
     std::vector<std::uint64_t> hashes;
     for (const Entry& entry : entries)

@@ -131,7 +131,7 @@ private:
 
     // Limits, because variables whose forms contain each other could increase the argument without end.
     static constexpr std::size_t lastSelecting = 64; // the last argument whose forms are read
-    static constexpr std::size_t mostVisits = 256;   // of a variable with an argument
+    static constexpr std::size_t mostVisits = 256;   // different pairs of a variable and an argument
 
     const PluralFormat& plural_;
     std::set<std::pair<const PluralVariable*, std::size_t>> seen_;

@@ -1,9 +1,10 @@
-"""Line icons of all catalogs: a table of names and glyph operations in the notation of canvas.py.
+"""Line icons of all catalogs: a table of names and operations in the notation of canvas.py.
 
 Each line reads "NAME [SIZE] [FRAME[=colour]] | operations" on a 24 x 24 grid. Frames: tile (soft
-square behind), disc (filled circle, white glyph), soft (pale circle), plain (coloured glyph),
-mark (glyph made smaller, its last operation at full size in the corner). An icon without a colour is
-a template: the application tints it. The size is in points, 24 if it is absent.
+square behind), disc (filled circle, white drawing), soft (pale circle), plain (coloured drawing),
+mark (drawing made smaller, its last operation at full size in the corner). An icon without a colour is
+a template: the application tints it. The size is in points, 24 if it is absent. names.py says why
+some names have mistakes.
 """
 
 from functools import partial

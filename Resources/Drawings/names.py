@@ -1,4 +1,5 @@
-"""The names of all assets, catalog by catalog, by folder and then by name. A line "[Folder]" begins a folder; colours.py
+"""The names of all assets, catalog by catalog, by folder and then by the name of the set's folder: "gymBoy.arab.imageset" is
+before "gymBoy.imageset". The constants have the same order. A line "[Folder]" begins a folder; colours.py
 has the folders of the colours.
 
 The spellings are those of the application's code, with its mistakes, such as "vdieo" and "welcom"."""

@@ -9,7 +9,7 @@ import subprocess
 import sys
 import tempfile
 
-from packaging import options, run, source
+from package_support import options, run, source
 
 # The pages, and whether they begin in an empty folder or in a copy of Examples/Shop. Only the beginning of check.md is
 # tested here; Tests/Check/check_page.py tests the rules.

@@ -5,7 +5,7 @@ import pathlib
 import subprocess
 import tempfile
 
-from packaging import NUMBER, compile_by_pkg_config, expect, options, run, russian, source
+from package_support import NUMBER, compile_by_pkg_config, expect, options, run, russian, source
 
 with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     folder = pathlib.Path(folder)
@@ -43,7 +43,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
 
     # Messages need run-time type information, and their header says so; everything else works without it.
     expect("messages without RTTI", ["-frtti" in line for line in errors("-std=c++20", "#include <Runtime/Class.h>", "-fno-rtti")], [True])
-    # Only the module's class RecordFactory can create records, and no client can define it again.
+    # Only the module's class RecordFactory can create asset records, and no client can define it again.
     again = errors("-std=c++20", """#include <Lumora/Lumora.h>
         class Lumora::LumoraAssetModule::RecordFactory { public: static LumoraImages image() { return LumoraImages("a"); } };""")
     expect("another RecordFactory", "redefinition" in again[0], True)
@@ -80,7 +80,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
     done = subprocess.run(read, capture_output=True, text=True)
     expect("without the plug-in", (done.returncode, done.stdout, plugin.name in done.stderr), (2, "", True))
 
-    # Drawings are drawn by another plug-in. A compile needs it only for drawings that no earlier compile drew.
+    # Drawings are drawn by another plug-in. A compile needs it only for drawings that the last compile did not draw.
     picture = folder / "Drawn/A.xcassets/p.imageset"
     picture.mkdir(parents=True)
     (picture / "Contents.json").write_text('{"images": [{"filename": "p.svg"}]}')

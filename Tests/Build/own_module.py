@@ -6,7 +6,7 @@ import shutil
 import subprocess
 import tempfile
 
-from packaging import expect, options, run, source
+from package_support import expect, options, run, source
 
 
 def shown(program, language):

@@ -6,7 +6,7 @@ import pathlib
 import subprocess
 import tempfile
 
-from packaging import NUMBER, compile_by_pkg_config, expect, options, run, russian, source
+from package_support import NUMBER, compile_by_pkg_config, expect, options, run, russian, source
 
 
 def installed(prefix, libraries):

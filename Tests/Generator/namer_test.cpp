@@ -38,14 +38,14 @@ TEST(Namer, NamesEntries) {
         {__LINE__, "SportFood(shortened)", "sportFoodShortened"},
         {__LINE__, "Invoice №", "invoice№"},
         {__LINE__, "__private__thing", "privateThing"},
-        // The last of several capitals begins the next word, if there is one.
+        // If a lower-case letter follows several capitals, the last of them begins the next word.
         {__LINE__, "URLPath", "urlPath"},
         {__LINE__, "ABC1st", "abc1st"},
         // Other scripts may or may not have letter case; digits of all scripts count as digits.
         {__LINE__, "ПриветМир", "приветМир"},
         {__LINE__, "日本 語", "日本語"},
         {__LINE__, "٣ days", "_٣Days"},
-        // Invisible characters and invalid bytes are dropped.
+        // Invisible characters and invalid bytes separate words.
         {__LINE__, "one\u200Btwo \u2764\uFE0F", "oneTwo"},
         {__LINE__, "one\xFFtwo", "oneTwo"},
         {__LINE__, "___", ""},
@@ -59,10 +59,10 @@ TEST(Namer, NamesGroups) {
     constexpr Pair pairs[] = {
         {__LINE__, "widget", "Widget"},
         {__LINE__, "TrainersHQ", "TrainersHQ"},
-        {__LINE__, "Сhatlist", "Сhatlist"},
+        {__LINE__, "\u0421hatlist", "\u0421hatlist"},
         {__LINE__, "10ExerciseStraight", "_10ExerciseStraight"},
-        // Identifiers of layout files. If no lower-case letter is left after each part's first letter became a capital,
-        // each part keeps capitals only at its beginning and after digits.
+        // Identifiers of layout files. If no lower-case letter is left after each part's first character was
+        // capitalised, each part keeps capitals only at its beginning and after digits.
         {__LINE__, "0ie-tn-jCZ", "_0ieTnJCZ"},
         {__LINE__, "9ui-9h-hZp", "_9ui9hHZp"},
         {__LINE__, "1aq-bW-Am5", "_1aqBWAm5"},
@@ -150,7 +150,7 @@ TEST(Namer, SpellsNamesInCpp) {
         {__LINE__, "_2D", "_2D"},
         {__LINE__, "EioX", "EioX"},
         {__LINE__, "invoice№", "invoiceNo"},
-        {__LINE__, "Сhatlist", "Сhatlist"},
+        {__LINE__, "\u0421hatlist", "\u0421hatlist"},
         {__LINE__, "x²", "x2"},
         {__LINE__, "²x", "_2x"},
         {__LINE__, "\u0301x", "_\u0301x"},

@@ -1,4 +1,4 @@
-// placeholder-mismatch, changed-placeholder, lone-percent.
+// The rules placeholder-mismatch, changed-placeholder, lone-percent.
 #include "Check/TextRules.h"
 
 #include "Generator/CodeText.h"

@@ -1,4 +1,4 @@
-// missing-plural-form.
+// The rule missing-plural-form.
 #include "Check/TextRules.h"
 
 #include "Generator/CodeText.h"

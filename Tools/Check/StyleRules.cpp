@@ -1,4 +1,4 @@
-// double-space, repeated-word, punctuation-mismatch, untranslated, inconsistent-translation.
+// The rules double-space, repeated-word, punctuation-mismatch, untranslated, inconsistent-translation.
 #include "Check/TextRules.h"
 
 #include "Check/Characters.h"

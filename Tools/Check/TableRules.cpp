@@ -1,4 +1,5 @@
-// missing-key, unknown-key, space-mismatch, newline-mismatch, coverage, and the other rules for each text of a table.
+// The rules missing-key, unknown-key, space-mismatch, newline-mismatch, coverage, and the other rules for each text of
+// a table.
 #include "Check/TextRules.h"
 
 #include "Check/Characters.h"

@@ -1,7 +1,6 @@
 #include "Exchange/Import.h"
 
 #include "Exchange/Export.h"
-#include "Exchange/FileSet.h"
 #include "Exchange/Languages.h"
 #include "Exchange/Placeholders.h"
 #include "Exchange/Po.h"
@@ -95,7 +94,8 @@ private:
         faults_.add(Severity::error, {.message = std::move(message), .file = file, .line = line});
     }
 
-    // The name of a key in `keys_`. It is unique, because names of languages and tables contain no slash.
+    // The name of a key in `keys_`. It is unique, because languages and the source's tables have no slash in their
+    // names.
     static std::string nameOf(std::string_view language, std::string_view table, std::string_view key) {
         std::string name(language);
         return name.append("/").append(table).append("/").append(key);
@@ -103,12 +103,12 @@ private:
 
     // The key of the unit with this id, added to `keys_` if necessary, or null if the source does not have it.
     ImportedKey* importedKeyFor(const UnitId& id, const std::string& language) {
-        const std::string name = nameOf(language, id.table, id.key);
-        if (const auto known = keys_.find(name); known != keys_.end())
-            return &known->second;
         const auto table = std::ranges::lower_bound(source_.tables, id.table, {}, &SourceTable::name);
         if (table == source_.tables.end() || table->name != id.table)
             return nullptr;
+        const std::string name = nameOf(language, id.table, id.key);
+        if (const auto known = keys_.find(name); known != keys_.end())
+            return &known->second;
         for (const std::string_view developmentLanguage :
              {std::string_view(source_.developmentLanguage), SourceBundle::baseLanguage}) {
             const auto* const texts = table->find(developmentLanguage);
@@ -143,8 +143,8 @@ private:
         if (unit.target.empty())
             return;
         // In a PO file most forms of a plural have the development text of another form.
-        const Unit* const shown = find(imported->expected, unit.id.part, unit.sourceCategory);
-        if (unit.source != (shown == nullptr ? expected : shown)->source)
+        const Unit* const withSource = find(imported->expected, unit.id.part, unit.sourceCategory);
+        if (unit.source != (withSource == nullptr ? expected : withSource)->source)
             return fault(translations.file, unit.line,
                          "the development text of " + id + " has changed since the export");
         const State state = stateOf(unit, *expected, translations.hasStates);
@@ -182,8 +182,9 @@ private:
         }
     }
 
-    // For a key that is new in the language, or whose plain translation becomes a plural: a unit that must have a
-    // translation but has none, or null. Texts for devices and plural forms except `other` may be left out.
+    // A unit that lacks a translation which the key needs, or null if there is none. Only a key that is new in the
+    // language, or whose plain translation becomes a plural, can lack one; texts for devices and plural forms except
+    // `other` may be left out.
     static const Unit* missingUnit(const ImportedKey& imported) {
         const auto lacksTranslation = [](const Unit& unit) {
             const bool isForDevice = !unit.id.part.empty() && unit.id.part.front() == devicePart;

@@ -1,5 +1,6 @@
 // Generator/StringsEmitter.h
-// Makes the headers and sources of the tree of texts, and NAMEResources.h and .cpp.
+// Makes the headers and sources of the tree of texts, and NAMEResources.h and .cpp, the class of the
+// module's bundle.
 #pragma once
 
 #include "Generator/Generator.h"

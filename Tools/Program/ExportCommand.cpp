@@ -64,7 +64,7 @@ void addExportCommand(CLI::App& program, Exit& exit) {
     CLI::App* command = program.add_subcommand("export", "Write the texts of a source for translators.");
     options->source.addTo(*command)->required();
     command->add_option("--language", options->language, "The language to translate to, such as pt-BR")->required();
-    command->add_flag("--missing", options->onlyMissing, "Only texts without a translation");
+    command->add_flag("--missing", options->onlyMissing, "Only texts that still need a translation");
     command->add_option("--format", options->format, "xliff or po (default: determined by the file name, else xliff)")
         ->check(CLI::IsMember({"xliff", "po"}));
     command->add_option("-o,--output", options->output, "The file to write; - is standard output")

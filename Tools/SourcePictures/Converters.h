@@ -1,8 +1,7 @@
 // SourcePictures/Converters.h
-// The interface of the plug-in lumora-drawing.so, which draws and converts pictures; internal. It is loaded for the
-// first picture that is neither PNG nor JPEG, because its libraries load many others. Program and plug-in are always
-// built together, so the interface has no version.
-// Threads: any.
+// The interface of the plug-in lumora-drawing.so, which draws and converts pictures; internal. It is not loaded
+// before the first picture that is neither PNG nor JPEG, because it needs many libraries. Program and plug-in are
+// always built together, so the interface has no version. Threads: any.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"

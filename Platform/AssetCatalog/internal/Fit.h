@@ -20,7 +20,8 @@ namespace AssetCatalog {
 [[nodiscard]] std::uint32_t distance(Fit offered, Fit wanted) noexcept;
 
 // The same for the language of a variant (empty: for all languages). Best is a match with the earliest of `wanted`,
-// exact or with fewer subtags ("pt" for "pt-BR"); then a variant for all languages; then any other.
+// the same tag, then one with fewer subtags ("pt" for "pt-BR"), the longest first; then a variant for all languages;
+// then any other.
 [[nodiscard]] std::uint32_t languageDistance(std::string_view offered, std::span<const std::string> wanted) noexcept;
 
 } // namespace AssetCatalog

@@ -1,5 +1,5 @@
 // Foundation/internal/LanguageChoice.h
-// Selects the language of a bundle that a user reads; internal.
+// Selects, of the languages of a bundle, the one for a user; internal.
 // Text: BCP 47 tags. Threads: any; no state.
 #pragma once
 
@@ -11,8 +11,8 @@
 
 namespace Foundation::detail {
 
-// The index in `supported` of the best match for `wanted`, or no value: what Intl::matchLanguage() returns, in the
-// common cases without ICU. Throws like it.
+// The index in `supported` of the best match for `wanted`, or no value: the same as Intl::matchLanguage(), but the
+// common cases are decided without ICU. Throws like it.
 [[nodiscard]] std::optional<std::size_t> chooseLanguage(std::string_view wanted,
                                                         std::span<const std::string> supported);
 

@@ -26,8 +26,8 @@ struct PluralPiece {
 // takes the next argument, as in any text. In a form the first placeholder takes the variable's own number, unless it
 // prints a text and the value type is not "@": then it takes the argument after that, so that a form without its
 // number, such as "One file by %@", takes the same arguments as the other forms. For the same reason, a variable inside
-// a form takes the argument that it has in the form with the most arguments before it, or a later one in a form with
-// several variables.
+// a form takes the argument that it has in the form with the most arguments before its first appearance, or the next
+// one if its own form has already taken more.
 class PluralPieces {
 public:
     explicit PluralPieces(const PluralFormat& plural) noexcept : plural_(plural), text_(plural.format) {}
@@ -51,8 +51,8 @@ private:
     std::size_t own_ = 0;                      // the argument that is the variable's number
     std::size_t at_ = 0;
     ArgumentCounter counter_;
-    // For each variable: how many arguments are taken before it, in the form where these are the most. Counted when
-    // first needed.
+    // For each variable: how many arguments are taken before its first appearance in a form, in the form where these
+    // are the most. Counted when first needed.
     std::optional<std::array<std::uint32_t, PluralTable::maxVariables>> mostBefore_;
 };
 

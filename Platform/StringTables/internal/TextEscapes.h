@@ -23,7 +23,7 @@ struct Unescaped {
 
 // Decodes `raw`, the inside of a quoted string, into `out`, which has room for raw.size() bytes (no escape is shorter
 // than its character). A character must follow each backslash in `raw`, and the byte after `raw` must be readable and
-// not a hexadecimal digit.
+// neither a backslash nor a hexadecimal digit.
 [[nodiscard]] Unescaped unescape(std::string_view raw, char* out) noexcept;
 
 } // namespace StringTables::internal
