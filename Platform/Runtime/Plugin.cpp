@@ -34,7 +34,7 @@ Result<void*> pluginSymbol(const ForkGuard& guard, const char* file, const char*
     static constexpr char here = 0;
     const CodeLocation own = codeLocation(&here);
     if (own.name.empty())
-        return Error{.message = "cannot be found, because its library or program was removed", .file = file};
+        return Error{.message = "cannot be found: the folder of its library or program is unknown", .file = file};
     return pluginSymbol(guard, own.directory + "/" LUMORA_PLUGIN_FOLDER, file, symbol);
 }
 

@@ -291,10 +291,10 @@ TEST(Imports, ChangeNothingButTexts) {
         {__LINE__,
          "T.strings",
          "<?xml version='1.0' encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string></dict></plist>",
-         {{"T/a", "é"}, {"T/b", "b"}},
+         {{"T/a", "é"}, {"T/e", "b"}},
          "<?xml version='1.0' "
-         "encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string><key>b</key><string>b</string></dict></"
-         "plist>"},
+         "encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string><!-- E&F. --><key>e</key><string>b"
+         "</string></dict></plist>"},
         {__LINE__,
          "T.strings",
          "<?xml version='1.0' encoding='ISO-8859-1'?><plist><dict><key>a</key><string>\xE9</string></dict></plist>",

@@ -287,10 +287,10 @@ class Program(unittest.TestCase):
         status, _, err = run("generate", self.folder / "src", "--module", "Shop", "-o", self.folder / "tree")
         self.assertEqual((status, err), (0, ""))
         self.assertIn("helloName(", (self.folder / "tree/ShopStrings/Words.h").read_text())
-        self.write("src/a\\b\\ c#d$e.txt", "")
+        self.write("src/a\\b\\ c#d$e.txt\\", "")
         self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle", "--depfile", "made.d", "--depfile-target", "made"),
                          (0, b"", ""))
-        self.assertIn(r"/src/a\b\\\ c\#d$$e.txt", pathlib.Path("made.d").read_text())  # as make reads it
+        self.assertIn(r"/src/a\b\\\ c\#d$$e.txt\\", pathlib.Path("made.d").read_text())  # as make reads it
         self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
                          b"Hello, Bo\n")
         # This bundle has no assets and therefore no catalog, which is not an error; a missing bundle is one.

@@ -2,6 +2,7 @@
 
 #include "Exchange/PluralChange.h"
 #include "StringTables/internal/PluralKeys.h"
+#include "StringTables/internal/Scan.h"
 #include "StringTables/internal/XmlText.h"
 #include <algorithm>
 #include <utility>
@@ -12,6 +13,7 @@ namespace pluralKeys = StringTables::pluralKeys;
 using StringTables::PluralFormat;
 using StringTables::PluralVariable;
 using StringTables::internal::canBeXml;
+using StringTables::internal::isAscii;
 using StringTables::internal::xmlText;
 
 namespace {
@@ -133,12 +135,12 @@ Runtime::Result<void> PropertyListDocument::apply(const Change& change) {
 
 void PropertyListDocument::add(const Change& change, const std::string& value) {
     const std::string comment = StringTables::internal::withoutMark(change.development->comment, "--");
-    // XML reads no escapes in a comment. In an encoding that may lack a character it is written with them nevertheless,
-    // so that it is ASCII.
+    // XML reads no escapes in a comment. One with a character that the encoding may lack is written with them
+    // nevertheless, so that it is ASCII.
     if (!comment.empty() && canBeXml(comment))
         added_.append(line_)
             .append("<!-- ")
-            .append(xml_.hasOtherEncoding() ? xmlText(comment, true) : comment)
+            .append(xml_.hasOtherEncoding() && !isAscii(comment) ? xmlText(comment, true) : comment)
             .append(" -->");
     added_.append(line_).append(element("key", change.changed.front()->id.key)).append(line_).append(value);
 }

@@ -61,13 +61,12 @@ std::string moduleHeader(const Options& options) {
     return code.take();
 }
 
-// Adds a line to TREE.h that changes whenever a generated header that it includes changes. These are directly in the
-// folder TREE; NAMEAsset.h also includes NAMEAssetRecords.h and, through it, NAMEResources.h.
-void addFingerprint(const std::string& module, const std::string& tree, std::vector<OutputFile>& files) {
+// Adds a line to TREE.h that changes whenever a generated header that it includes changes: one directly in the folder
+// TREE, or one of `others`.
+void addFingerprint(const std::string& tree, const std::vector<std::string>& others, std::vector<OutputFile>& files) {
     std::vector<std::string_view> headers;
     for (const OutputFile& file : files)
-        if (file.path.parent_path() == tree || file.path == module + "AssetRecords.h" ||
-            file.path == module + "Resources.h")
+        if (file.path.parent_path() == tree || std::ranges::find(others, file.path.native()) != others.end())
             headers.push_back(file.content);
     for (OutputFile& file : files)
         if (file.path == tree + ".h")
@@ -105,8 +104,9 @@ std::vector<OutputFile> filesOf(const Model& model, const Options& options) {
     files.push_back({options.module + ".h", moduleHeader(options)});
     // lumora_add_module tells the build system only of the headers NAMEStrings.h and NAMEAsset.h, so they must change
     // when one that they include does.
-    for (const std::string tree : {"Strings", "Asset"})
-        addFingerprint(options.module, options.module + tree, files);
+    const std::string& name = options.module;
+    addFingerprint(name + "Strings", {}, files);
+    addFingerprint(name + "Asset", {name + "AssetRecords.h", name + "Resources.h"}, files);
     return files;
 }
 

@@ -12,8 +12,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Escapes a path for a makefile: '$', and spaces and '#' with the backslashes directly before them. Other backslashes
-// stand for themselves.
+// Escapes a path for a makefile: '$', spaces and '#', and the backslashes directly before a space, a '#' or the end.
+// Other backslashes stand for themselves.
 std::string escaped(std::string_view path) {
     std::string out;
     std::size_t backslashes = 0; // directly before `c`
@@ -25,7 +25,7 @@ std::string escaped(std::string_view path) {
         out += c;
         backslashes = c == '\\' ? backslashes + 1 : 0;
     }
-    return out;
+    return out.append(backslashes, '\\');
 }
 
 void appendPrerequisite(std::string& rule, const fs::path& path) {

@@ -1,6 +1,7 @@
-// The text in a form for comparisons that ignore case, accents and compatibility forms.
+// The text in a form for comparisons that ignore case, accents and compatibility forms. The form of a
+// character does not depend on its neighbours, so both small sigmas become one.
 function folded(text) {
-    return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase();
+    return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase().replaceAll("ς", "σ");
 }
 
 // The folded text, and for each of its characters, and its end, the offset in the text.

@@ -6,4 +6,4 @@
 #include "OddStrings/OddNames.h"
 #include "Runtime/Class.h"
 
-// Fingerprint of these headers: fc88af290f6c93ca
+// Fingerprint of these headers: 0bfe15c5ea8d6737
