@@ -244,7 +244,7 @@ private:
     TextChoice choice_;
 
     std::vector<PluralEntry> entries_;
-    std::vector<std::size_t> keyOffsets_; // of the entries; `dropped` if the key's last value is no plural
+    std::vector<std::size_t> keyOffsets_; // of the entries; `dropped` if the key's last value is not a plural
     static constexpr std::size_t dropped = ~std::size_t{0};
     Runtime::NameMap<std::size_t> indices_; // the index of each entry, by key
 };

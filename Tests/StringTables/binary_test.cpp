@@ -95,7 +95,7 @@ TEST(BinaryTable, NotesSkippedValues) {
 
 // The last value wins, whether the keys are the same object or two equal ones.
 TEST(BinaryTable, LetsTheLastValueWin) {
-    // Objects 1 to 6, after the dictionary; the last is an array, which is no text.
+    // Objects 1 to 6, after the dictionary; the last is an array, which is not a text.
     const std::vector<std::string> tail = {"\121k", "\121k", "\121b", "\121v", "\121w", "\xA0"};
     const struct {
         int line;

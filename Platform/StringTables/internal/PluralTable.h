@@ -63,7 +63,7 @@ public:
     // The entry of `key` (exact), or null. Never fails.
     [[nodiscard]] const PluralEntry* find(std::string_view key) const noexcept;
     // Every key once, in the order in which the keys first had a plural. The last value of equal keys wins; a key whose
-    // last value is no plural has no entry.
+    // last value is not a plural has no entry.
     [[nodiscard]] std::span<const PluralEntry> entries() const noexcept { return entries_; }
     // What was skipped and why, as in Table::notes().
     [[nodiscard]] std::span<const TableNote> notes() const noexcept { return notes_; }
