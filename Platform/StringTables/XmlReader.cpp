@@ -11,12 +11,12 @@ enum class Kind : std::uint8_t { plist, dict, array, key, string, leaf };
 struct Element {
     const char* name;
     Kind kind;
-    const char* what = nullptr; // for a note about a value that is not a text
+    const char* what = nullptr; // the argument of sink.other(), or null if that is not called
 };
 
 constexpr Element elements[] = {{"string", Kind::string},
                                 {"key", Kind::key},
-                                {"dict", Kind::dict, "a dictionary"},
+                                {"dict", Kind::dict},
                                 {"array", Kind::array, "an array"},
                                 {"integer", Kind::leaf, "a number"},
                                 {"real", Kind::leaf, "a number"},

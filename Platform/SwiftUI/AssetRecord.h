@@ -4,7 +4,7 @@
 //     struct AssetModule {
 //         static const Foundation::NSBundle& bundle();
 //         static constexpr std::string_view sourceName = "TuistAssets+Lumora"; // the file that error reports name
-//         class RecordFactory; // the only class that can create records
+//         class RecordFactory; // the only class that can create records and assign colours
 //     };
 //     using LumoraImages = SwiftUI::ImageRecord<AssetModule>;
 //
@@ -22,8 +22,8 @@
 // Records are constants: no code runs to create or destroy them.
 // Text: UTF-8. Threads: any. Ownership: names are string literals; returned references are valid until the process
 // ends. Errors: reading stops the process if the asset is missing, the catalog damaged or the data file unreadable; it
-// throws std::bad_alloc or std::system_error when memory or descriptors run out or the device fails, and nothing is
-// cached.
+// throws std::bad_alloc or std::system_error when memory or descriptors run out or the device fails, and then caches
+// nothing.
 #pragma once
 
 #include "Runtime/Export.h"
@@ -43,8 +43,8 @@ namespace detail {
 
 enum class AssetKind : std::uint8_t { image, color, data };
 
-// The line that the report of a missing asset names for each kind. File and line are those that existing crash reports
-// name, so that reports of all versions can be compared.
+// The line number in the report of a missing asset, by kind. Neither it nor `sourceName` is a place in this code: older
+// versions of the application report these values, and crash reports of all versions are compared.
 inline constexpr std::uint32_t colorReportLine = 587, dataReportLine = 645, imageReportLine = 685;
 
 // Stops the process, because a module without one of its assets was built incorrectly. If the asset is unreadable
@@ -130,7 +130,7 @@ private:
         detail::missingAsset(detail::AssetKind::color, name_, Module::bundle(), Module::sourceName,
                              detail::colorReportLine);
     }
-    // For use in the module: later reads return the assigned value.
+    // Called by RecordFactory: later reads return the assigned value.
     void setColor(const UIKit::UIColor& color) const { color_.replace(color); }
     void setSwiftUIColor(Color color) const { swiftUIColor_.replace(std::move(color)); }
 

@@ -59,7 +59,8 @@ template <class Read> std::exception_ptr thrownBy(Read read) {
     return nullptr;
 }
 
-// Call this when descriptors are free again: the sanitizer needs some to check an object.
+// Call this when descriptors are free again: the undefined behaviour sanitizer checks an object's type through a
+// pipe.
 bool isLackOfDescriptors(const std::exception_ptr& thrown) {
     try {
         if (thrown)
@@ -109,7 +110,7 @@ TEST(Files, WithoutDescriptorsPixelsAreMissingTemporarily) {
 }
 
 // The bundle is already open, but no other file can be opened.
-TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
+TEST(Files, WithoutDescriptorsDegradedResultsAreNotCached) {
     const struct {
         int line;
         const char* language;
@@ -147,7 +148,8 @@ TEST(Files, WithoutDescriptorsDegradedFormsAreNotCached) {
 // once.
 TEST(Files, WithFewDescriptorsNothingIsCached) {
 #ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "the sanitizer reports a damaged object when it gets no descriptors for the pipe that checks it";
+    GTEST_SKIP() << "the undefined behaviour sanitizer, which is used with this one, checks an object's type through a "
+                    "pipe; without descriptors for the pipe it reports a damaged object";
 #endif
     EXPECT_EQ(Child::firstFailure([](int repetition) {
                   Foundation::Host::setPreferredLanguages({"ru"});

@@ -1,6 +1,5 @@
 // Exchange/BinaryDocument.h
-// Edits tables in binary form. They have no layout to preserve, so they are rewritten in their existing order;
-// internal.
+// Edits tables in binary form. They have no layout to preserve, so they are rewritten in their existing order.
 #pragma once
 
 #include "Exchange/TableDocument.h"

@@ -39,9 +39,11 @@ struct Key {
 
 // The key's units in the order of its parts and categories. A plural has a unit for each form of the language, for each
 // further form that the translation has, and for `zero` if the development text has it. Empty if nothing is to be
-// translated. No value if the translation is in a file that cannot contain the same forms as the development text: in
-// another kind of file, except a .strings text for a plural of a .stringsdict file (an import replaces it by a plural)
-// or for a plain text of a string catalog, and a text of a string catalog for a .strings text.
+// translated. No value if the translation is in another kind of file, which cannot contain the same forms as the
+// development text. It can in these cases:
+// - the development text is a plural of a .stringsdict, the translation in a .strings: an import replaces it;
+// - the development text is a plain text of a string catalog, the translation in a .strings;
+// - the development text is in a .strings, the translation in a string catalog.
 [[nodiscard]] std::optional<std::vector<Unit>> unitsOf(const Key& key, StoredTexts& texts);
 
 // Whether the unit has a development text but no translation although the language needs one (needsCategory()), or has

@@ -1,5 +1,5 @@
 // Exchange/PluralChange.h
-// Applies changes to a plural format; internal.
+// Applies changes to a plural format.
 #pragma once
 
 #include "Exchange/TableDocument.h"

@@ -1,5 +1,5 @@
 // Exchange/PoEntries.h
-// Groups units into entries of a PO file; internal.
+// Groups units into entries of a PO file.
 #pragma once
 
 #include "Exchange/Unit.h"

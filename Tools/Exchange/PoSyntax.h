@@ -1,5 +1,5 @@
 // Exchange/PoSyntax.h
-// Parses PO files; internal.
+// Parses PO files.
 #pragma once
 
 #include "Runtime/internal/Result.h"

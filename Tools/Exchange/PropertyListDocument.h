@@ -1,5 +1,5 @@
 // Exchange/PropertyListDocument.h
-// Edits a table of texts or plurals in an XML property list in place; internal.
+// Edits a table of texts or plurals in an XML property list in place.
 #pragma once
 
 #include "Exchange/DecodedText.h"

@@ -1,5 +1,5 @@
 // Exchange/StringsDocument.h
-// Edits a table in text form in place; internal.
+// Edits a table in text form in place.
 #pragma once
 
 #include "Exchange/DecodedText.h"

@@ -1,5 +1,5 @@
 // Exchange/Targets.h
-// The files that translations are written to; internal.
+// The files that translations are written to.
 #pragma once
 
 #include "Exchange/KeyUnits.h"

@@ -1,5 +1,5 @@
 // Gallery/Assets.h
-// The assets of a bundle as JSON for the page; internal.
+// The assets of a bundle as JSON for the page.
 #pragma once
 
 #include "Runtime/internal/Result.h"

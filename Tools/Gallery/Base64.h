@@ -1,5 +1,5 @@
 // Gallery/Base64.h
-// Base64 encoding for data URIs; internal.
+// Base64 encoding for data URIs.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
 // Gallery/PageTemplate.h
-// The gallery's page without resources, assembled from the files in Page/ during the build; internal.
+// The gallery's page without resources, assembled from the files in Page/ during the build.
 #pragma once
 
 #include <string_view>

@@ -1,5 +1,5 @@
 // Gallery/Texts.h
-// The texts of a source in all languages as JSON for the page; internal.
+// The texts of a source in all languages as JSON for the page.
 #pragma once
 
 #include "Generator/NamesFile.h"

@@ -1,5 +1,5 @@
 // Generator/ModuleTemplates.h
-// The constant first part of NAME.h, the header that includes a whole module; internal.
+// The constant first part of NAME.h, the header that includes a whole module.
 #pragma once
 
 #include <string_view>

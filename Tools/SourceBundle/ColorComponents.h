@@ -1,5 +1,5 @@
 // SourceBundle/ColorComponents.h
-// Reads colours of asset catalogs; internal.
+// Reads colours of asset catalogs.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"

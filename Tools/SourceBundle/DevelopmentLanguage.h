@@ -1,5 +1,5 @@
 // SourceBundle/DevelopmentLanguage.h
-// Reads a source's development language from Info.plist; internal.
+// Reads a source's development language from Info.plist.
 #pragma once
 
 #include "SourceBundle/Diagnostics.h"

@@ -1,5 +1,5 @@
 // SourceBundle/EntryPlaces.h
-// Locates the entries of a set of an asset catalog in its Contents.json; internal.
+// Locates the entries of a set of an asset catalog in its Contents.json.
 #pragma once
 
 #include "Runtime/internal/Result.h"

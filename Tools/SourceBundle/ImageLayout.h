@@ -1,5 +1,5 @@
 // SourceBundle/ImageLayout.h
-// Reads how an image is resized and aligned; internal.
+// Reads how an image is resized and aligned.
 #pragma once
 
 #include "SourceBundle/Catalogs.h"

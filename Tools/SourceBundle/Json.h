@@ -1,5 +1,5 @@
 // SourceBundle/Json.h
-// Reads JSON of asset catalogs, where any member may be missing or have another type; internal.
+// Reads JSON of asset catalogs, where any member may be missing or have another type.
 #pragma once
 
 #include "Runtime/internal/Result.h"

@@ -1,5 +1,5 @@
 // SourceBundle/KnownProperties.h
-// The properties in a Contents.json that are read or ignored without a note; internal.
+// The properties in a Contents.json that are read or ignored without a note.
 #pragma once
 
 #include "SourceBundle/Json.h"

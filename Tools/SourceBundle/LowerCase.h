@@ -1,6 +1,6 @@
 // SourceBundle/LowerCase.h
-// Converts names and language codes to comparable forms; internal.
-// Text: only ASCII letters change. Threads: any; no state.
+// Converts names and language codes to comparable forms.
+// Text: UTF-8; only ASCII characters change. Threads: any; no state.
 #pragma once
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // SourceBundle/PluralText.h
-// Builds plural formats from string catalogs and shows them as text; internal.
+// Builds plural formats from string catalogs and shows them as text.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 

@@ -1,5 +1,5 @@
 // SourceBundle/SetContents.h
-// Reads the Contents.json of one set of an asset catalog; internal.
+// Reads the Contents.json of one set of an asset catalog.
 #pragma once
 
 #include "SourceBundle/Catalogs.h"

@@ -1,5 +1,5 @@
 // SourceBundle/SetEntry.h
-// One entry of a set's Contents.json, with the traits that its variant is for; internal.
+// One entry of a set's Contents.json, with the traits that its variant is for.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"

@@ -1,5 +1,5 @@
 // SourceBundle/StringCatalog.h
-// String catalogs (TABLE.xcstrings): one table in any number of languages, in JSON; internal.
+// String catalogs (TABLE.xcstrings): one table in any number of languages, in JSON.
 // Text: UTF-8. Threads: any; no state.
 #pragma once
 

@@ -1,5 +1,5 @@
 // SourceBundle/SystemColors.h
-// The named system colours that catalogs refer to; internal.
+// The named system colours that catalogs refer to.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"

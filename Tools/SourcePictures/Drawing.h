@@ -1,5 +1,5 @@
 // SourcePictures/Drawing.h
-// A vector drawing that was read from a file; internal.
+// A vector drawing that was read from a file.
 // Threads: different drawings may be used at the same time.
 #pragma once
 

@@ -1,5 +1,5 @@
 // SourcePictures/GlibPointers.h
-// Smart pointers for GLib and cairo objects; internal.
+// Smart pointers for GLib and cairo objects.
 #pragma once
 
 #include "Runtime/internal/Result.h"

@@ -1,6 +1,6 @@
 // SourcePictures/PictureFile.h
 // Reads and converts the picture files of source catalogs.
-// Threads: any; different files may be read at the same time.
+// Threads: any; no shared state.
 // Functions that draw or convert throw std::runtime_error if the plug-in for that cannot be loaded (Converters.h).
 #pragma once
 
@@ -13,13 +13,13 @@
 
 namespace SourcePictures {
 
-// The size in bytes of the largest file of a picture or of data that is read.
+// The greatest size in bytes of a picture file or of a data asset's file; larger ones are not read.
 inline constexpr std::size_t maxFileBytes = std::size_t{256} << 20;
 
 // How a file is used.
 struct Purpose {
     // Whether the file is a symbol's template: an SVG with a drawing for each weight and size of the symbol, of which
-    // one of regular weight is used, if possible in medium size.
+    // one of regular weight is used, if possible in medium size; the whole file if it has none.
     bool isSymbol = false;
     std::uint8_t scale = 0; // the pixels per point that the file was made for; 0 means any
     // Whether a drawing made for one scale is also rasterized for the other ones of 1, 2 and 3.
@@ -27,15 +27,17 @@ struct Purpose {
     friend bool operator==(const Purpose&, const Purpose&) = default;
 };
 
-// Checks that picturesOf() will succeed, without rasterizing drawings at full size. The format (PNG, JPEG, GIF, TIFF,
-// WebP, HEIF, SVG, PDF) is detected from the content, not the file name. Errors: another format, damaged, no size, more
-// pixels than a catalog may contain or cairo can draw, no loader installed for the format.
+// Checks that the file is intact and that picturesOf() will succeed, without rasterizing drawings at full size. The
+// format (PNG, JPEG, GIF, TIFF, WebP, HEIF, SVG, PDF) is detected from the content, not the file name. Errors: another
+// format, damaged, no size, more pixels than a catalog may contain or cairo can draw, no loader installed for the
+// format.
 [[nodiscard]] Runtime::Result<void> check(const std::string& bytes, const Purpose& purpose);
 
 // The pictures that a catalog stores for the file: a PNG or JPEG unchanged; other raster formats converted to PNG; a
-// drawing (or the first page of a PDF) as PNGs. A drawing for any scale gives one for each of the scales 1, 2 and 3;
-// others give one for their own scale and, with preservesVector, then one for each other of these. In Picture::fit only
-// the scale is set. Errors: those of check(), but of a PNG or JPEG only the header is read.
+// drawing (or the first page of a PDF) as PNGs. A drawing for any scale gives PNGs for the scales 1, 2 and 3; a drawing
+// for one scale gives one for that scale, and with preservesVector then those for the rest of 1, 2 and 3. In
+// Picture::fit only the scale is set. Errors: those of check(), except that damage after the header of a PNG or JPEG is
+// not noticed.
 [[nodiscard]] Runtime::Result<std::vector<AssetCatalog::Picture>> picturesOf(const AssetCatalog::Bytes& bytes,
                                                                              const Purpose& purpose);
 

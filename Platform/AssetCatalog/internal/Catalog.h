@@ -91,8 +91,8 @@ public:
     // The same from memory, which must outlive the catalog and be aligned to 16 bytes.
     [[nodiscard]] static Runtime::Result<Catalog> read(std::span<const std::uint8_t> bytes);
 
-    // The index of the asset with that kind and name (exact), or no value. Images, colours and data have separate
-    // names. Never fails, allocates nothing.
+    // The index of the asset with that kind and name (exact), or no value. A name is unique among the
+    // assets of one kind; an image and a colour may have the same one. Never fails, allocates nothing.
     [[nodiscard]] std::optional<std::size_t> find(Kind kind, std::string_view name) const noexcept;
 
     // All assets, in an unspecified but reproducible order.

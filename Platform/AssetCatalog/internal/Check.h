@@ -14,10 +14,10 @@ inline constexpr std::size_t headBytes = 3 * sizeof(flatbuffers::uoffset_t); // 
 // of the catalog, at least headBytes bytes or all.
 [[nodiscard]] Runtime::Result<std::size_t> indexBytes(std::span<const std::uint8_t> head, std::uint64_t total);
 
-// Validates everything that readers rely on: the FlatBuffers structure, the version, the order of assets,
-// enumerators, numbers, and that all blobs are within the `total` bytes of the catalog. `bytes` is the index, with the
-// size that indexBytes() returned, aligned to 16 bytes. Time and memory are linear in the size of the index, whatever
-// its content.
+// Validates everything that readers rely on: the FlatBuffers structure and the version; the order and hashes of the
+// assets; that enumerations have known values, and numbers and names are within their limits; that all blobs are within
+// the `total` bytes of the catalog. `bytes` is the index: as many bytes as indexBytes() returned, at an address that is
+// a multiple of 16. Time and memory are linear in the size of the index, whatever its content.
 [[nodiscard]] Runtime::Result<const Format::Catalog*> check(std::span<const std::uint8_t> bytes, std::uint64_t total);
 
 } // namespace AssetCatalog

@@ -21,8 +21,8 @@ enum class WriteSafety { synced, unsynced };
 // Replaces the file at `path` atomically: writes a temporary file beside it and renames that, so that readers see
 // either the old file or the new one, and an interrupted write leaves the old one. The permissions are kept. A symbolic
 // link is followed and its target replaced or created. A pipe or a device is written to directly. A path such as
-// /dev/stdout, which names an open descriptor of this process, is written at the descriptor's offset; a file that
-// another process has open (/proc/PID/fd/1) is appended to.
+// /dev/stdout, which names an open descriptor of this process, is written at the descriptor's offset; through a
+// path that names a descriptor of another process, such as /proc/PID/fd/1, the open file is appended to.
 [[nodiscard]] Result<void> writeFile(const std::string& path, std::string_view bytes,
                                      WriteSafety safety = WriteSafety::synced);
 

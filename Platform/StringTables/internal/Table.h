@@ -19,8 +19,8 @@ namespace StringTables {
 // How a table is stored. Detected from the content, never from the file's name.
 enum class Form { text, xml, binary };
 
-// A position in a text or XML table. Both numbers count from 1; columns count characters; in XML with an 8-bit
-// encoding they may be too small. {0, 0} in a binary table.
+// A position in a text or XML table. Both numbers count from 1; columns count characters, but may be too small
+// in XML in an encoding such as ISO 8859-1. {0, 0} in a binary table.
 struct Location {
     std::size_t line = 0;
     std::size_t column = 0;
