@@ -116,6 +116,7 @@ private:
     template <class Table, class Variant> List<Table> list(std::vector<Variant>& variants) {
         sortDistinct(variants);
         std::vector<flatbuffers::Offset<Table>> tables;
+        tables.reserve(variants.size());
         for (const Variant& variant : variants)
             tables.push_back(add(variant));
         return buffer_.CreateVector(tables);

@@ -120,7 +120,7 @@ private:
             text_ = detail::floatingText(value, buffer_);
         else if constexpr (std::is_pointer_v<T> && std::convertible_to<T, const char*>)
             borrowOrNil(value);
-        else if constexpr (std::is_null_pointer_v<T>)
+        else if constexpr (std::is_null_pointer_v<T> || detail::isNullopt<T>())
             text_ = "nil";
         else if constexpr (detail::DescribesItself<T>)
             text_ = owned_ = describe(value);
@@ -129,9 +129,7 @@ private:
         else if constexpr (detail::OptionalLike<T> || detail::Sequence<T>) {
             appendParts(value);
             text_ = owned_;
-        } else if constexpr (detail::isNullopt<T>())
-            text_ = "nil";
-        else
+        } else
             static_assert(!sizeof(T*), "a value of this type has no description: declare "
                                        "`std::string describe(const T&)` in the namespace of the type");
     }

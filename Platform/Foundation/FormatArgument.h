@@ -15,7 +15,7 @@ class FormatArgument {
 public:
     enum class Kind : std::uint8_t { text, integer, number };
 
-    constexpr FormatArgument(std::string_view text) noexcept : text_(text), kind_(Kind::text) {}
+    constexpr FormatArgument(std::string_view text) noexcept : text_(text) {}
     // Keeps the bits of an unsigned 64-bit value, so that "%lu" and "%lx" print it correctly.
     constexpr FormatArgument(std::integral auto integer) noexcept
         : integer_(static_cast<std::int64_t>(integer)), kind_(Kind::integer) {}
@@ -34,7 +34,7 @@ private:
         std::int64_t integer_;
         double number_;
     };
-    Kind kind_;
+    Kind kind_ = Kind::text;
 };
 
 } // namespace Foundation

@@ -226,15 +226,13 @@ void appendNumber(std::string& out, const NumberPattern& pattern, std::string_vi
         return;
     }
     const Decimal decimal = decimalOf(pattern, number);
-    const int whole = decimal.wholeDigits();
+    const auto whole = static_cast<std::size_t>(decimal.wholeDigits());
     const int fraction = std::max({decimal.count - decimal.point, static_cast<int>(pattern.minimumFraction), 0});
-    const std::size_t longest =
-        prefix.size() + suffix.size() + pattern.decimalSeparator.size() +
-        NumberWriter::longestOf(pattern, static_cast<std::size_t>(whole + fraction), static_cast<std::size_t>(whole));
+    const std::size_t longest = prefix.size() + suffix.size() + pattern.decimalSeparator.size() +
+                                NumberWriter::longestOf(pattern, whole + static_cast<std::size_t>(fraction), whole);
     appendWritten(out, pattern, longest, [&](NumberWriter& writer) {
         writer.put(prefix);
-        writer.putWhole(static_cast<std::size_t>(whole),
-                        [&](std::size_t i) { return decimal.wholeDigit(static_cast<int>(i)); });
+        writer.putWhole(whole, [&](std::size_t i) { return decimal.wholeDigit(static_cast<int>(i)); });
         if (fraction > 0)
             writer.put(pattern.decimalSeparator);
         for (int place = decimal.point; place < decimal.point + fraction; ++place)

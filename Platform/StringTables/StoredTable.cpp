@@ -128,7 +128,7 @@ std::unique_ptr<const StoredTable::Part> StoredTable::readPart(const Runtime::Op
 
 StoredTable::Whole StoredTable::readWhole(std::optional<Runtime::OpenFile> file) {
     if (!file)
-        return Whole();
+        return {};
     std::string bytes;
     bytes.reserve(file->size()); // once, because a second allocation would take new pages
     readOn(*file, bytes, smallFile);
@@ -138,7 +138,7 @@ StoredTable::Whole StoredTable::readWhole(std::optional<Runtime::OpenFile> file)
     const std::size_t needed = isCompiled ? index.frontSize() : file->size();
     readOn(*file, bytes, needed);
     if (isCompiled)
-        return Whole(bytes.size() > needed ? bytes.substr(0, needed) : std::move(bytes), index);
+        return {bytes.size() > needed ? bytes.substr(0, needed) : std::move(bytes), index};
     auto table = Table::read(std::move(bytes));
     return table ? Whole(*std::move(table)) : Whole();
 }

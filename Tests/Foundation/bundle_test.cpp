@@ -27,8 +27,8 @@ protected:
     std::string text(std::string_view key, std::string_view table = "Localizable") {
         return bundle().localizedStringForKey(key, nullptr, table);
     }
-    std::vector<std::string> preferred(std::vector<std::string> languages) {
-        Host::setPreferredLanguages(std::move(languages));
+    std::vector<std::string> preferred(const std::vector<std::string>& languages) {
+        Host::setPreferredLanguages(languages);
         return bundle().preferredLocalizations();
     }
 

@@ -197,7 +197,7 @@ private:
     }
 
     // Adds a modifier, the conversion and a value, and compares.
-    void value(std::string format, char conversion) {
+    void value(const std::string& format, char conversion) {
         const auto end = std::string(1, conversion) + "]%%";
         if (conversion == 's')
             return compare(format + end, pick<const char*>({"", "a", "seven letters"}));

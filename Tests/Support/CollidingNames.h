@@ -13,7 +13,7 @@
 namespace CollidingNames {
 
 inline std::string bytesOf(std::uint64_t word) {
-    return std::string(reinterpret_cast<const char*>(&word), sizeof word);
+    return {reinterpret_cast<const char*>(&word), sizeof word};
 }
 inline bool isAlphanumeric(const std::string& text) {
     return std::ranges::all_of(text, [](unsigned char byte) { return std::isalnum(byte) && byte < 0x80; });
@@ -42,7 +42,7 @@ inline std::vector<std::string> inKeyHash(std::size_t count) {
 }
 
 // The length in bytes of each name of chained(): twelve pairs of words.
-constexpr std::uint64_t chainedSize = 12 * 16;
+constexpr std::uint64_t chainedSize = std::uint64_t{12} * 16;
 
 // Names with the same hash, at most 4,096, for a hash that takes a word at a time and begins with `state`.
 // `step(state, word)` is the state after `word`; `wordFor(state, wanted)` is the word that changes `state` to `wanted`.

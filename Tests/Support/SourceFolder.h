@@ -12,7 +12,7 @@ namespace Support {
 
 class SourceFolder : public TemporaryFolder {
 public:
-    SourceBundle::Source read(SourceBundle::SourceOptions options = {}) {
+    SourceBundle::Source read(const SourceBundle::SourceOptions& options = {}) {
         const std::filesystem::path folders[] = {path()};
         return SourceBundle::Source::read(folders, options, diagnostics);
     }

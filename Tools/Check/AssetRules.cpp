@@ -83,6 +83,7 @@ std::vector<Variant> variantsOf(const Set& set) {
             variant.filled.set(entry.fit.scale);
     }
     std::vector<Variant> variants;
+    variants.reserve(byIdentity.size());
     for (auto& [identity, variant] : byIdentity)
         variants.push_back(std::move(variant));
     return variants;
@@ -92,8 +93,8 @@ std::vector<Variant> variantsOf(const Set& set) {
 // down.
 Scales scalesOf(std::string_view idiom) {
     if (idiom == "universal" || idiom == "iphone" || idiom == "car")
-        return Scales(0b1100); // 2x, 3x
-    return Scales(0b0100);     // 2x
+        return 0b1100; // 2x, 3x
+    return 0b0100;     // 2x
 }
 
 std::string textOf(const Scales& scales) {

@@ -124,9 +124,8 @@ std::vector<fs::path> codeFilesIn(const fs::path& folder, Diagnostics& diagnosti
     for (const fs::recursive_directory_iterator end; !failed && at != end; at.increment(failed)) {
         const fs::path& path = at->path();
         std::error_code ignored;
-        if (path.filename().string().starts_with('.'))
-            at.disable_recursion_pending();
-        else if (at->is_directory(ignored) && !at->is_symlink(ignored) && !isReadable(path, diagnostics))
+        if (path.filename().string().starts_with('.') ||
+            (at->is_directory(ignored) && !at->is_symlink(ignored) && !isReadable(path, diagnostics)))
             at.disable_recursion_pending();
         else if (at->is_regular_file(ignored) && isCodeFile(path))
             files.push_back(path);

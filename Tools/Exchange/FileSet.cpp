@@ -2,6 +2,7 @@
 
 #include "Runtime/internal/File.h"
 #include "Runtime/internal/SystemError.h"
+#include <algorithm>
 #include <system_error>
 #include <unistd.h>
 
@@ -31,8 +32,9 @@ FileSet::~FileSet() {
         if (!file.old.empty())
             fs::remove(file.old, ignored);
     }
-    for (auto folder = folders_.rbegin(); folder != folders_.rend(); ++folder)
-        fs::remove(*folder, ignored); // fails unless it is empty
+    std::for_each(folders_.rbegin(), folders_.rend(), [&ignored](const fs::path& folder) {
+        fs::remove(folder, ignored); // fails unless it is empty
+    });
 }
 
 Runtime::Result<void> FileSet::stage(const fs::path& path, std::string_view bytes) {

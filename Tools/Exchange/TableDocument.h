@@ -36,7 +36,6 @@ public:
 protected:
     TableDocument() = default;
     TableDocument(TableDocument&&) = default;
-    TableDocument& operator=(TableDocument&&) = delete;
 };
 
 } // namespace Exchange

@@ -43,7 +43,7 @@ public:
 } // namespace {{module}})";
 
 inline constexpr std::string_view recordFactoryHeader =
-    R"(// The functions that create records and assign colours.
+    R"(// The functions that create records and assign colours; internal.
 #pragma once
 
 #include "../../{{module}}AssetRecords.h"

@@ -65,7 +65,7 @@ inline const std::string& text(const Slot& slot) noexcept {
     return slot.isMade() ? slot.value() : made(slot);
 })";
 
-inline constexpr std::string_view lookupHeader = R"(// Shared by the sources of the tree.
+inline constexpr std::string_view lookupHeader = R"(// Shared by the sources of the tree; internal.
 #pragma once
 
 #include "Foundation/FormatArgument.h"

@@ -16,7 +16,6 @@ namespace Tools {
 
 namespace {
 
-using AssetCatalog::Catalog;
 using AssetCatalog::Entry;
 using AssetCatalog::Kind;
 using nlohmann::ordered_json;

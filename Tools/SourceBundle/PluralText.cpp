@@ -8,7 +8,6 @@
 namespace SourceBundle {
 
 using StringTables::ArgumentCounter;
-using StringTables::FormatSignature;
 using StringTables::Placeholder;
 using StringTables::PluralFormat;
 using StringTables::PluralPieces;
@@ -104,9 +103,9 @@ std::optional<Number> firstNumber(std::string_view form) {
 
 // The last form, `other`, is searched first, because every language has it.
 Number numberOf(const PluralForms& forms) {
-    for (auto form = forms.rbegin(); form != forms.rend(); ++form)
-        if (*form)
-            if (auto number = firstNumber(**form))
+    for (std::size_t i = forms.size(); i-- > 0;)
+        if (forms[i])
+            if (auto number = firstNumber(*forms[i]))
                 return *std::move(number);
     return {};
 }
@@ -178,9 +177,9 @@ PluralFormat pluralOfForms(PluralForms forms) {
 PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substitution> substitutions) {
     PluralFormat plural{format, {}};
     std::vector<std::size_t> arguments; // of the variables; 0 if neither given nor found in the format
-    for (auto& [variable, argument] : substitutions) {
-        plural.variables.push_back(std::move(variable));
-        arguments.push_back(argument);
+    for (Substitution& one : substitutions) {
+        plural.variables.push_back(std::move(one.variable));
+        arguments.push_back(one.argument);
     }
     PluralPieces pieces(plural);
     while (const auto piece = pieces.next())

@@ -14,6 +14,7 @@ using StringTables::internal::Character;
 
 namespace {
 
+// NOLINTNEXTLINE(misc-misleading-bidirectional): an override ends in the text, not in this literal
 constexpr std::string_view rightToLeftMark = "\u200F", rightToLeftOverride = "\u202E", endOfOverride = "\u202C";
 constexpr std::string_view combiningMark = "\u0302"; // circumflex
 constexpr std::string_view asciiLetters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";

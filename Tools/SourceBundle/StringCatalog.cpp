@@ -268,7 +268,7 @@ public:
 private:
     Runtime::Error error(simdjson::error_code code) const {
         if (code == simdjson::NO_SUCH_FIELD)
-            return {.message = "is not a string catalog: has no \"sourceLanguage\" or no \"strings\"", .file = file_};
+            return {.message = R"(is not a string catalog: has no "sourceLanguage" or no "strings")", .file = file_};
         if (code == simdjson::INCORRECT_TYPE)
             return {.message = "is not a string catalog: unexpected type", .file = file_};
         if (code == simdjson::DEPTH_ERROR)

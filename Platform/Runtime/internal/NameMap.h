@@ -21,6 +21,7 @@ namespace Runtime {
     static constinit std::atomic<std::uint64_t> kept{0};
     if (const std::uint64_t seed = kept.load(std::memory_order_relaxed); seed != 0)
         return seed;
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the kernel gives the address as a number
     const auto* const random = reinterpret_cast<const char*>(::getauxval(AT_RANDOM));
     const std::uint64_t seed = random == nullptr
                                    ? reinterpret_cast<std::uintptr_t>(&::getauxval) // differs in each process, too

@@ -38,7 +38,7 @@ private:
 
 // This address marks an entry whose value is not a text, until finish() removes the entry.
 inline constexpr char noTextMark[] = "";
-inline constexpr std::string_view noText(noTextMark, 0);
+inline constexpr std::string_view noText = noTextMark;
 inline bool hasText(const Entry& entry) noexcept {
     return entry.text.data() != noTextMark;
 }
