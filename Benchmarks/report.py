@@ -51,7 +51,7 @@ def limit_row(what, ours, unit, limit):
 def thread_rows(medians, what, ours, other, aim, counts):
     """Compares `ours` and `other` with the same number of threads, because threads that share a core are slower, whatever they run."""
     def time(name, threads):
-        # "real_time" is part of the name: it decides how often a benchmark repeats. The time is the processor's.
+        # Benchmarks with threads have "/real_time" in their names: real time determines their number of iterations. The time here is the processor's.
         return medians[f"{name}/real_time/threads:{threads}"]["cpu_time"]
     return [ratio_row(f"{what}, {threads} threads at once", time(ours, threads), other, time(other, threads), "ns", aim)
             for threads in counts]

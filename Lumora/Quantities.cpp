@@ -64,8 +64,8 @@ std::string locWeeks(std::int64_t count) {
 
 namespace {
 
-// Languages whose ages are locYears(); the others use legacyTrYear(). Russian is one of the others on purpose, although
-// the rule of getSuffix() is the Russian one.
+// Languages whose ages are locYears(); the others use legacyTrYear(). The list is the application's: Russian is not in
+// it, although the rule of getSuffix() is the Russian one.
 constexpr std::array<LocalizationCode, 7> locYearsCodes = {
     LocalizationCode::en, LocalizationCode::de, LocalizationCode::tr,    LocalizationCode::ko,
     LocalizationCode::vi, LocalizationCode::ja, LocalizationCode::zhHans};

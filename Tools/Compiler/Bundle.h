@@ -16,7 +16,8 @@ namespace Compiler {
 
 // Called before each table in a language ("de.lproj/Localizable.strings", even if it has only plurals) and before each
 // asset ("send") is compiled or kept: its name, how many have begun before it, and how many there are. Assets come
-// after all tables and are counted from 0 again. Calls come from several threads, but one at a time. Not empty.
+// after all tables and are counted from 0 again. Calls come from several threads, but one at a time. The
+// function must not be empty.
 using Progress = std::function<void(std::string_view what, std::size_t begun, std::size_t all)>;
 
 // Compiles `source`, which was read from `folders`, into `bundle`. The new bundle is built in another folder and then

@@ -39,15 +39,15 @@ struct Key {
 
 // The key's units in the order of its parts and categories. A plural has a unit for each form of the language, for each
 // further form that the translation has, and for `zero` if the development text has it. Empty if nothing is to be
-// translated. No value if the translation is in another kind of file, which cannot contain the same forms as the
-// development text. It can in these cases:
-// - the development text is a plural of a .stringsdict, the translation in a .strings: an import replaces it;
-// - the development text is a plain text of a string catalog, the translation in a .strings;
-// - the development text is in a .strings, the translation in a string catalog.
+// translated. No value if the translation is in a file of another kind than the development text, except that
+// - a plural of a .stringsdict may be translated by a text in a .strings: its units then have no target, because an
+//   import replaces that text by a plural;
+// - a plain text of a string catalog may be translated in a .strings;
+// - a text in a .strings may be translated in a string catalog.
 [[nodiscard]] std::optional<std::vector<Unit>> unitsOf(const Key& key, StoredTexts& texts);
 
-// Whether the unit has a development text but no translation although the language needs one (needsCategory()), or has
-// a translation that a string catalog marks as new.
+// Whether the unit has a development text but no translation, unless it is a plural form that the language does not
+// need (needsCategory()), or has a translation that a string catalog marks as new.
 [[nodiscard]] bool isMissing(const Unit& unit, std::string_view language);
 
 } // namespace Exchange

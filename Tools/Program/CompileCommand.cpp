@@ -25,11 +25,11 @@ Exit runCompile(const CompileOptions& options) {
     if (options.isStrict)
         diagnostics.beStrict();
     const SourceBundle::Source source = options.source.read(diagnostics);
-    auto done =
+    auto compiled =
         Compiler::compileBundle(source, options.source.folderPaths(), options.output, diagnostics, std::ref(progress));
     progress.erase();
-    if (!done)
-        diagnostics.add(SourceBundle::Severity::error, std::move(done.error()));
+    if (!compiled)
+        diagnostics.add(SourceBundle::Severity::error, std::move(compiled.error()));
     else if (auto wrote = options.depfile.write(options.source.inputs()); !wrote)
         diagnostics.add(SourceBundle::Severity::error, std::move(wrote.error()));
     return report(diagnostics);
@@ -45,9 +45,9 @@ void addCompileCommand(CLI::App& program, Exit& exit) {
     command->add_option("-o,--output", options->output, "The bundle to write, NAME.bundle")
         ->required()
         ->check(notEmpty());
-    // For callers that pass the same options to generate and compile; only the depfile mentions the names file.
-    options->source.addNamesTo(*command);
     options->source.addPseudoTo(*command);
+    // The names file is not read, only listed in the depfile: so callers can pass the same options as to generate.
+    options->source.addNamesTo(*command);
     command->add_flag("--strict", options->isStrict, "Treat warnings as errors");
     options->depfile.addOptions(*command);
     command->callback([options, &exit] { exit = runCompile(*options); });

@@ -17,7 +17,7 @@ namespace Tools {
 struct SourceArguments {
     std::vector<std::string> folders;
     SourceBundle::SourceOptions options;
-    std::string names; // the names file, or empty
+    std::string names; // the file with names for accessors, or empty
 
     // Adds the folders, as positional arguments SOURCE or as the option `name`, and --development-language. Returns the
     // option for the folders.
@@ -28,7 +28,7 @@ struct SourceArguments {
     void addPseudoTo(CLI::App& command);
 
     [[nodiscard]] std::vector<std::filesystem::path> folderPaths() const;
-    // The paths that the command reads: the folders and the names file.
+    // What a depfile lists: the folders and, if given, the names file.
     [[nodiscard]] std::vector<std::string> inputs() const;
     // Reads the folders as one source.
     [[nodiscard]] SourceBundle::Source read(SourceBundle::Diagnostics& diagnostics) const;
