@@ -1,8 +1,8 @@
 /* Lumora/Loc.h
  * The localization services for C: C11 and C++.
  * Text: UTF-8. Threads: every function from any thread.
- * Ownership: the caller releases every NSString and NSNumber that a function returns with
- * NSRelease(); arguments still belong to the caller. Null arguments are allowed. A function
+ * Ownership: the caller calls NSRelease() for every NSString and NSNumber that a function
+ * returns; arguments still belong to the caller. Null arguments are allowed. A function
  * returns null only when memory runs out; then, or when descriptors run out, a text may be empty. */
 #ifndef LUMORA_LOC_H
 #define LUMORA_LOC_H

@@ -1,5 +1,5 @@
-// Reads any bytes as the Contents.json of an image set, a colour set, a data set, a symbol set and a folder: either
-// they are rejected with the file's name, or the asset's files are in its set.
+// Reads any bytes as the Contents.json of an image set, a colour set, a data set, a symbol set and a folder: each
+// message names a file of the catalog, and each asset has only files of its set and valid colours.
 #include "SourceBundle/Catalogs.h"
 
 #include "../../Tests/Support/TemporaryFolder.h"

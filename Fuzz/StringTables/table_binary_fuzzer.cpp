@@ -1,4 +1,4 @@
-// Reads any bytes as a table in the binary form.
+// Reads bytes as a table, if they are in the binary form.
 #include "Checks.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

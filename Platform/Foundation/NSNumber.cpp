@@ -25,7 +25,7 @@ template <class T> T clamped(double value) noexcept {
 } // namespace
 
 bool NSNumber::isNegative() const noexcept {
-    return isFloating() ? std::signbit(floating_) && !std::isnan(floating_) : isBelowZero();
+    return isFloating() ? std::signbit(floating_) && !std::isnan(floating_) : isNegativeInteger();
 }
 
 std::int64_t NSNumber::int64Value() const noexcept {
@@ -39,21 +39,22 @@ std::int64_t NSNumber::int64Value() const noexcept {
 std::uint64_t NSNumber::uint64Value() const noexcept {
     if (isFloating())
         return clamped<std::uint64_t>(floating_);
-    return isBelowZero() ? 0 : integer_;
+    return isNegativeInteger() ? 0 : integer_;
 }
 
 std::string describe(const NSNumber& number) {
     std::array<char, detail::scalarTextSize> buffer;
     if (number.isFloating())
         return std::string(detail::floatingText(number.floating_, buffer.data()));
-    return std::string(number.isBelowZero() ? detail::integerText(number.int64Value(), buffer.data())
-                                            : detail::unsignedText(number.integer_, buffer.data()));
+    return std::string(number.isNegativeInteger() ? detail::integerText(number.int64Value(), buffer.data())
+                                                  : detail::unsignedText(number.integer_, buffer.data()));
 }
 
 double NSNumber::doubleValue() const noexcept {
     if (isFloating())
         return floating_;
-    return isBelowZero() ? static_cast<double>(static_cast<std::int64_t>(integer_)) : static_cast<double>(integer_);
+    return isNegativeInteger() ? static_cast<double>(static_cast<std::int64_t>(integer_))
+                               : static_cast<double>(integer_);
 }
 
 } // namespace Foundation

@@ -45,7 +45,7 @@ public:
 private:
     enum class Kind : std::uint8_t { signedInteger, unsignedInteger, floating };
 
-    bool isBelowZero() const noexcept {
+    bool isNegativeInteger() const noexcept {
         return kind_ == Kind::signedInteger && static_cast<std::int64_t>(integer_) < 0;
     }
 

@@ -1,4 +1,4 @@
-"""Full pictures of the onboarding pages and the subscription offers."""
+"""The scenes that fill the onboarding pages and the subscription offers."""
 
 from functools import partial
 
@@ -12,13 +12,13 @@ REGIONS = ("arab", "asia", "europe", "latina", "usa")
 # The dishes on the table of each region, as numbers of food.CATEGORIES; the first one is in the middle.
 TABLES = {"arab": (84, 74, 81), "asia": (62, 67, 66), "europe": (59, 71, 78), "latina": (79, 81, 75),
           "usa": (65, 76, 85)}
-WIDTH, HEIGHT, FLOOR = 320, 360, 282  # FLOOR: where the ground begins
+WIDTH, HEIGHT = 320, 360
 
 
 def _team(region):
     """Page 1: two people ready to train."""
     d = Drawing(WIDTH, HEIGHT)
-    scenery.landscape(d, region, FLOOR - 20)
+    scenery.landscape(d, region, horizon=262)
     scenery.shadow(d, 110, 328, 44)
     scenery.shadow(d, 208, 334, 42)
     with d.placed(110, 322, 1.55):
@@ -31,7 +31,7 @@ def _team(region):
 
 
 def _coach(region):
-    """Page 2: a talk with the coach on the phone."""
+    """Page 2: a chat with the coach, on the screen of a phone."""
     arab = region == "arab"
     d = Drawing(WIDTH, HEIGHT)
     d.fade(*(("#FFF4DC", "#F8CF8C") if arab else ("#EEF1FF", "#C9D4FF")))
@@ -57,7 +57,7 @@ def _coach(region):
 def _meal(region):
     """Page 3: a well laid table."""
     d = Drawing(WIDTH, HEIGHT)
-    scenery.landscape(d, region, FLOOR - 30)
+    scenery.landscape(d, region, horizon=252)
     male = region in ("arab", "asia", "usa")
     with d.placed(160, 428, 2.1):
         ends = front(d, look(male, region), Pose((52, 118), (52, 118)))
@@ -83,7 +83,7 @@ def _meal(region):
 def _goal(region):
     """Page 4: the goal is reached."""
     d = Drawing(WIDTH, HEIGHT)
-    scenery.landscape(d, region, FLOOR)
+    scenery.landscape(d, region, horizon=282)
     d.add("M-10 250C70 240 90 190 160 180S250 120 330 60", None, "#FFFFFF", 7, 0.85)
     for x, y in ((78, 229), (160, 180), (250, 122)):
         d.add(paths.ellipse(x, y, 9), "#FFFFFF")

@@ -71,7 +71,7 @@ class Exchange(unittest.TestCase):
         self.held.cleanup()
 
     def copy(self, name):
-        """Copies a source without its asset catalogs. Replaces an earlier copy."""
+        """Copies the texts of a source, without asset catalogs and the scripts that draw them. Replaces an earlier copy."""
         made = self.folder / name
         shutil.rmtree(made, ignore_errors=True)
         shutil.copytree(SOURCES[name], made, ignore=shutil.ignore_patterns("*.xcassets", "Drawings"), symlinks=True)
@@ -129,7 +129,7 @@ class Exchange(unittest.TestCase):
                         made = unit.find(NAMESPACE + "target").text
                         if format == "xliff":
                             self.assertEqual(made, unit.find(NAMESPACE + "source").text + "»")
-                        else:  # gettext has one source for all forms
+                        else:  # translated from msgid_plural, not from the source of the form
                             self.assertTrue(made.endswith("»"))
                     self.assertEqual(units(self.export(source, language, "xliff", "--missing")), [])
                     self.assertEqual(run("check", source, "--disable", "untranslated", "--level", "error")[0], 0)

@@ -95,11 +95,11 @@ private:
     std::thread thread_;
 };
 
-// Kills a child that hangs for ten seconds.
+// limitTime() ends the process that calls it, a forked child, after ten seconds.
 #if defined(__SANITIZE_ADDRESS__) && defined(__x86_64__)
-// But if another thread was allocating at the fork, the sanitizer's allocator is locked in the child. A child that
-// waits there for a second ends without an error: the wait is not ours, and the release build runs the same test
-// without the sanitizer.
+// With one exception: if another thread was allocating at the fork, the sanitizer's allocator is locked in the child. A
+// child that waits there for a second ends without an error: the wait is not ours, and the release build runs the same
+// test without the sanitizer.
 dl_find_object sanitizer{}; // where its code is loaded
 
 void tick(int, siginfo_t*, void* context) {
@@ -175,7 +175,7 @@ TEST_F(Fork, DuringAFirstReadLeavesAChildThatReadsAll) {
                       std::thread reader([&] {
                           start.arrive_and_wait();
                           readsAll();
-                          forked.wait(); // the sanitizer would report a finished thread as leaked by the child
+                          forked.wait(); // so that the thread exists at the fork
                       });
                       start.arrive_and_wait();
                       ::usleep(static_cast<useconds_t>(i * 20)); // vary the moment of the fork

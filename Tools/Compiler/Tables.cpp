@@ -45,8 +45,8 @@ bool hasPlurals(const Source& source) {
     return false;
 }
 
-// Info.plist with these entries and those about the source. It is written with an index, because a program reads it
-// before its first text.
+// Info.plist with these entries and those about the source. It is written with an index, so that a program need
+// not read all of it before its first text.
 Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source& source) {
     const std::string languages = languagesOf(source);
     const Entry own[] = {{regionKey, source.developmentLanguage},
@@ -60,8 +60,8 @@ Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source&
 }
 
 // The source's first Info.plist with the entries about the source. If it also has what a table cannot have, such as
-// values that are not texts, it is copied unchanged; but if its development language must be changed, that is lost and
-// reported.
+// values that are not texts, it is copied unchanged; but if it names no development language or another one, it is
+// written anew, and such values are lost and reported.
 Runtime::Result<std::string> info(const Source& source, SourceBundle::Diagnostics& diagnostics) {
     if (source.infos.empty())
         return completed({}, source);
@@ -86,7 +86,7 @@ Runtime::Result<std::string> info(const Source& source, SourceBundle::Diagnostic
     return completed({table->entries().begin(), table->entries().end()}, source);
 }
 
-// Writes `bytes`, or returns their error, which names a file in any case.
+// Writes `bytes` to `file`. If `bytes` is an error, returns it; if it names no file, with the name of that file.
 Runtime::Result<void> writeFile(const StagedFolder& out, const fs::path& file, Runtime::Result<std::string> bytes) {
     if (bytes)
         return out.write(file, *bytes);

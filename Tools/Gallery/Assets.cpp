@@ -70,7 +70,8 @@ private:
 
 using AssetKey = std::pair<Kind, std::string>;
 
-// The accessors of the assets, which are the constants of the generated code, without the tree: "Images::send".
+// The accessor of each asset, its constant in the generated code, without the module's part: "Images::send" for
+// LumoraAsset::Images::send.
 std::map<AssetKey, std::string> accessorsOf(const std::vector<Entry>& entries) {
     std::vector<SourceBundle::SourceAsset> assets;
     assets.reserve(entries.size());
@@ -91,8 +92,9 @@ std::vector<Entry> entriesOf(const Catalog& catalog) {
     std::vector<Entry> entries;
     for (std::size_t i = 0; i < catalog.size(); ++i)
         entries.push_back(catalog[i]);
-    // Assets of one folder and name are in the order in which `lumora generate` finds them, because the first gets the
-    // accessor.
+    // By kind last, as `lumora generate` finds a colour, data and an image with one name in one folder, because the
+    // first gets the accessor. For other clashes it may choose another, because a bundle does not know the source's
+    // folders.
     std::ranges::sort(entries, {}, [](const Entry& entry) {
         return std::tuple(entry.catalog(), entry.name(), AssetCatalog::nameOf(entry.kind()));
     });

@@ -1,5 +1,5 @@
 // Generator/Model.h
-// The tree of texts for the emitters: every accessor with its namespaces, its C++ name and its parameters.
+// What the emitters write: the accessors of each table, with namespaces, C++ names and parameters, and the constants.
 // Ownership: entries point into the source, which must outlive the model. Threads: plain values.
 #pragma once
 

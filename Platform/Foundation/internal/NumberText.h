@@ -20,9 +20,9 @@ void appendDigits(std::string& out, const Intl::NumberPattern& pattern, std::str
 // Appends an integer, given as ASCII digits, with the locale's digits and grouping.
 void appendWhole(std::string& out, const Intl::NumberPattern& pattern, std::string_view digits);
 
-// Appends a number, multiplied by the pattern's power of ten, with its prefix and suffix. Nonnegative numbers have
-// `positivePrefix` instead of the pattern's. Floating-point values are then rounded to the pattern's fraction digits,
-// halves to even, based on their shortest decimal digits.
+// Appends a number with the pattern's prefix and suffix; nonnegative numbers have `positivePrefix` instead of the
+// pattern's. The number is multiplied by the pattern's power of ten; a floating-point value is then rounded to the
+// pattern's fraction digits, halves to even, based on its shortest decimal digits.
 void appendNumber(std::string& out, const Intl::NumberPattern& pattern, std::string_view positivePrefix,
                   const NSNumber& number);
 

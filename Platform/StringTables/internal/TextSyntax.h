@@ -1,6 +1,6 @@
 // StringTables/internal/TextSyntax.h
-// Comments and quoted strings of the text form.
-// Text: a NUL follows [at, end), as in a std::string, so that one character can be read at `end`.
+// Comments and quoted strings of tables in the text form (`"key" = "text";`).
+// All functions require a NUL at `end`, as in a std::string, because they may read that character.
 #pragma once
 
 #include "StringTables/internal/Scan.h"
