@@ -51,7 +51,7 @@ Read TableDocument::read(const SourceBundle::TableFile& file) {
     if (!document)
         document.error().file = file.path;
     return document;
-} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the result owns the document
+}
 
 std::unique_ptr<TableDocument> TableDocument::make(Kind kind) {
     constexpr const char* emptyList = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -59,6 +59,6 @@ std::unique_ptr<TableDocument> TableDocument::make(Kind kind) {
     auto document = kind == Kind::plurals ? asDocument(PropertyListDocument::read(emptyList))
                                           : asDocument(StringsDocument::read({}));
     return *std::move(document);
-}
+} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the result owns the document
 
 } // namespace Exchange
