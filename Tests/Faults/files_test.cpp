@@ -157,7 +157,8 @@ TEST(Files, WithFewDescriptorsNothingIsCached) {
                   const int next = ::dup(0); // the lowest free descriptor
                   ::close(next);
                   const rlim_t old = limitDescriptors(static_cast<rlim_t>(next + repetition % 10));
-                  const std::string text = Texts::continue_(), age = Lumora::Localization::legacyTrAge(25);
+                  const std::string& text = Texts::continue_();
+                  const std::string age = Lumora::Localization::legacyTrAge(25);
                   if (const auto image = Lumora::UIImage::assetNamed("send"))
                       static_cast<void>(image->rgba());
                   limitDescriptors(old);

@@ -20,12 +20,12 @@ class Tree : public Support::SourceFolder {
 public:
     explicit Tree(std::string_view text) { write("Base.lproj/T.strings", text); }
 
-    std::vector<Generator::OutputFile> files(Generator::Options options = {.module = "M"}) {
+    std::vector<Generator::OutputFile> files(const Generator::Options& options = {.module = "M"}) {
         const auto source = read();
         return Generator::filesOf(Generator::modelOf(source, options, diagnostics), options);
     }
     // "Group::name" of every accessor of the table, then "- REASON" for each key without one.
-    Strings accessors(Generator::Options options = {.module = "M"}) {
+    Strings accessors(const Generator::Options& options = {.module = "M"}) {
         Strings all;
         const auto source = read();
         const auto model = Generator::modelOf(source, options, diagnostics);

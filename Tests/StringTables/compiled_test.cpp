@@ -275,7 +275,8 @@ TEST_F(CompiledTable, IsReadByManyThreadsAtOnce) {
         std::vector<std::thread> threads;
         for (int i = 0; i < 4; ++i)
             threads.emplace_back([&, i] {
-                for (auto at = std::next(texts.begin(), i * 40); at != std::next(texts.begin(), i * 40 + 40); ++at)
+                const auto begin = std::next(texts.begin(), std::ptrdiff_t{i} * 40);
+                for (auto at = begin; at != std::next(begin, 40); ++at)
                     wrong += find(table, at->first) != at->second;
             });
         for (std::thread& thread : threads)

@@ -99,7 +99,7 @@ private:
             out_ += "</target>\n";
         }
         if (const std::size_t colon = unit.place.rfind(':'); colon != unit.place.npos)
-            out_ += indent + "  <context-group purpose=\"location\"><context context-type=\"sourcefile\">" +
+            out_ += indent + R"(  <context-group purpose="location"><context context-type="sourcefile">)" +
                     xmlText(visible(std::string_view(unit.place).substr(0, colon))) +
                     "</context><context context-type=\"linenumber\">" + unit.place.substr(colon + 1) +
                     "</context></context-group>\n";
@@ -126,7 +126,7 @@ private:
         constexpr int hexadecimal = 16;
         std::array<char, 8> digits;
         const auto end = std::to_chars(digits.begin(), digits.end(), std::uint32_t{c}, hexadecimal).ptr;
-        out_.append("<ph id=\"").append(std::to_string(number)).append("\" ctype=\"x-character\" equiv-text=\"");
+        out_.append("<ph id=\"").append(std::to_string(number)).append(R"(" ctype="x-character" equiv-text=")");
         out_.append(digits.begin(), end).append("\"/>");
     }
 

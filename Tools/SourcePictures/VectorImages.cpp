@@ -134,12 +134,12 @@ DrawingResult elementOf(Owned<RsvgHandle> drawing, const char* id) {
     const auto size = contentSize(drawing.get(), id);
     if (!size)
         return size.error();
-    return DrawingResult(std::make_unique<SvgElement>(std::move(drawing), id, *size));
+    return {std::make_unique<SvgElement>(std::move(drawing), id, *size)};
 }
 
 DrawingResult wholeDrawing(Owned<RsvgHandle> drawing) {
     if (const std::optional<Size> size = declaredSize(drawing.get()))
-        return DrawingResult(std::make_unique<SvgDrawing>(std::move(drawing), *size));
+        return {std::make_unique<SvgDrawing>(std::move(drawing), *size)};
     return elementOf(std::move(drawing), nullptr);
 }
 
@@ -202,7 +202,7 @@ DrawingResult readPdf(std::string_view bytes) {
     Owned<PopplerPage> page(poppler_document_get_page(document.get(), 0));
     if (page == nullptr)
         return damaged("drawing", nullptr);
-    return DrawingResult(std::make_unique<PdfPage>(std::move(lock), std::move(document), std::move(page)));
+    return {std::make_unique<PdfPage>(std::move(lock), std::move(document), std::move(page))};
 }
 
 } // namespace SourcePictures
