@@ -69,7 +69,7 @@ private:
 
     // A small file can have thousands of scans, each a pass over a large picture; cameras and programs write about ten.
     static constexpr int maxScans = 200;
-    static void limitScans(jpeg_common_struct& jpeg) {
+    static void limitScans(const jpeg_common_struct& jpeg) {
         JpegReader& self = of(jpeg);
         self.hasTooManyScans_ = self.jpeg_.input_scan_number > maxScans;
         if (self.hasTooManyScans_)

@@ -47,12 +47,13 @@ private:
 
     bool value(std::size_t referenceAt) {
         Object object;
-        std::string_view text;
         const std::uint64_t number = objects_.reference(referenceAt);
         if (!objects_.object(number, referenceAt, object))
             return false;
-        if (object.isString())
+        if (object.isString()) {
+            std::string_view text;
             return string(number, object, text) && accepted(sink_.string(text), object);
+        }
         if (object.type == BinaryObjects::dictionary)
             return objects_.members(number, object) && entries(object);
         const char* const what = BinaryObjects::describe(object.type);

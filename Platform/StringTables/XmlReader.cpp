@@ -135,7 +135,7 @@ std::string XmlReader::characters(std::string_view piece) {
 
 } // namespace
 
-Runtime::Result<void> readXml(Contents& contents, PropertyListSink& sink) {
+Runtime::Result<void> readXml(const Contents& contents, PropertyListSink& sink) {
     XmlReader reader(sink);
     return parseXml(contents, reader);
 }

@@ -28,6 +28,6 @@ protected:
 
 // Each reads the source of `contents` from `contents.begin` on. Fails if it is damaged or the sink stops the reader.
 [[nodiscard]] Runtime::Result<void> readBinary(Contents& contents, PropertyListSink& sink);
-[[nodiscard]] Runtime::Result<void> readXml(Contents& contents, PropertyListSink& sink);
+[[nodiscard]] Runtime::Result<void> readXml(const Contents& contents, PropertyListSink& sink);
 
 } // namespace StringTables::internal
