@@ -1,4 +1,5 @@
 """Tests the program lumora: its output, the files that it writes, its exit status."""
+import ctypes
 import fcntl
 import json
 import os
@@ -9,12 +10,12 @@ import re
 import resource
 import shlex
 import shutil
+import signal
 import struct
 import subprocess
 import sys
 import tempfile
 import termios
-import time
 import unittest
 
 PROGRAM = os.path.abspath(sys.argv.pop(1))
@@ -377,7 +378,7 @@ class Program(unittest.TestCase):
     def write_versions(self):
         """Writes two sources, "1" and "2", whose texts begin with that digit."""
         for version in "12":
-            for table in range(20):
+            for table in range(4):
                 self.write(f"{version}/Base.lproj/T{table}.strings",
                            "".join(f"key{number} = \"{version * 100}{number}\";" for number in range(100)))
 
@@ -394,25 +395,48 @@ class Program(unittest.TestCase):
                               preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (5000, 5000)))
         self.assertEqual((done.returncode, done.stderr.count("\n")), (2, 1), done.stderr)
         self.assertRegex(done.stderr, r"/Base\.lproj/T\d+\.strings: error: cannot be written: ")
-        self.assertEqual(self.versions(), ({"1"}, 20))
+        self.assertEqual(self.versions(), ({"1"}, 4))
         self.assertEqual({path.name for path in self.folder.iterdir()}, {"1", "2", "App.bundle"})
 
     def test_a_killed_compile_leaves_a_whole_bundle(self):
+        """Kills a compile after each system call of its main thread, from the creation of the staged folder on."""
         self.write_versions()
         self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
-        killed = 0
-        for attempt in range(60):
-            compile = subprocess.Popen([PROGRAM, "compile", self.folder / str(attempt % 2 + 1), "-o", self.folder / "App.bundle"],
-                                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-            time.sleep(attempt * 0.0005)
-            compile.kill()
-            killed += compile.wait() != 0
-            versions, count = self.versions()
-            self.assertEqual((len(versions), count), (1, 20))
-        self.assertGreater(killed, 0)
-        # The next compile removes the leftovers of the killed ones.
-        self.assertEqual(run("compile", self.folder / "1", "-o", self.folder / "App.bundle")[0], 0)
-        self.assertEqual({path.name for path in self.folder.iterdir()}, {"1", "2", "App.bundle"})
+        for version in "12":
+            calls = 0
+            while self.is_killed_in_compile(version, calls):
+                calls += 1
+                versions, count = self.versions()
+                self.assertEqual((len(versions), count), (1, 4), calls)
+                # At most its own folder: each compile removes the leftovers of the one before.
+                self.assertLessEqual(len(self.staged()), 1, calls)
+            self.assertGreater(calls, 20)
+            self.assertEqual({path.name for path in self.folder.iterdir()}, {"1", "2", "App.bundle"})
+
+    def staged(self):
+        return set(self.folder.glob("App.bundle.staged-*"))
+
+    def is_killed_in_compile(self, version, calls):
+        """Compiles `version` and kills the program when its main thread has made `calls` system calls after the one that
+        created the staged folder. False if the program ends before."""
+        trace = ctypes.CDLL(None).ptrace
+        trace.argtypes = [ctypes.c_long, ctypes.c_long, ctypes.c_void_p, ctypes.c_void_p]
+        PTRACE_TRACEME, PTRACE_SYSCALL = 0, 24
+        old = self.staged()
+        child = os.fork()
+        if child == 0:
+            trace(PTRACE_TRACEME, 0, None, None)
+            os.execv(PROGRAM, [PROGRAM, "compile", self.folder / version, "-o", self.folder / "App.bundle"])
+        stops = None  # two per call: when it begins and when it ends
+        while os.WIFSTOPPED(os.waitpid(child, 0)[1]):
+            if stops is not None:
+                stops += 1
+            elif self.staged() - old:
+                stops = 0
+            if stops == 2 * calls:
+                os.kill(child, signal.SIGKILL)
+            trace(PTRACE_SYSCALL, child, None, None)
+        return stops == 2 * calls
 
     def test_gallery(self):
         bundle, page = self.folder / "none.bundle", self.folder / "page.html"

@@ -7,6 +7,7 @@
 #include <cstdio> // renameat2
 #include <cstdlib>
 #include <fcntl.h>
+#include <functional>
 #include <string>
 #include <sys/file.h> // flock
 #include <sys/stat.h>
@@ -123,11 +124,9 @@ bool createFolderOf(const fs::path& file) {
     return !failed;
 }
 
-// Writes a new file. If there is one at `path`, it is unlinked, because it may be a hard link to the target's file.
-// Returns false and sets errno on failure. Not synced to the disk: an output damaged by a power failure can be compiled
-// again.
+// Writes a new file. Returns false and sets errno on failure. Not synced to the disk: an output damaged by a power
+// failure can be compiled again.
 bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
-    ::unlink(path.c_str());
     Runtime::Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (file.number() < 0)
         return false;
@@ -135,6 +134,21 @@ bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
         if (!file.write(piece))
             return false;
     return file.close();
+}
+
+// Calls `make` to create the file at `path`, after its folder if that is missing. An existing file is replaced in one
+// step: at any moment a kill leaves the folder with its mark file, and a hard link to the target's file is never
+// written to. Returns false and sets errno on failure.
+bool put(const fs::path& path, const std::function<bool(const fs::path&)>& make) {
+    if (make(path) || (errno == ENOENT && createFolderOf(path) && make(path)))
+        return true;
+    if (errno != EEXIST)
+        return false;
+    const fs::path next = path.string() + ".next";
+    if (!make(next) || ::rename(next.c_str(), path.c_str()) != 0)
+        return false;
+    ::unlink(next.c_str()); // rename keeps both names if they are hard links to the same file
+    return true;
 }
 
 } // namespace
@@ -180,17 +194,14 @@ StagedFolder::~StagedFolder() {
 Runtime::Result<void> StagedFolder::write(const fs::path& name, std::span<const std::string_view> pieces) const {
     if (hasContent(target_ / name, pieces) && keep(name))
         return {};
-    const fs::path path = staged_ / name;
-    if (writeNew(path, pieces) || (errno == ENOENT && createFolderOf(path) && writeNew(path, pieces)))
+    if (put(staged_ / name, [pieces](const fs::path& path) { return writeNew(path, pieces); }))
         return {};
     return Runtime::systemError(target_ / name, "cannot be written");
 }
 
 bool StagedFolder::keep(const fs::path& name) const {
-    const fs::path path = staged_ / name;
-    const auto link = [&] { return ::link((target_ / name).c_str(), path.c_str()) == 0; };
-    return link() || (errno == ENOENT && createFolderOf(path) && link()) ||
-           (errno == EEXIST && ::unlink(path.c_str()) == 0 && link());
+    const fs::path old = target_ / name;
+    return put(staged_ / name, [&old](const fs::path& path) { return ::link(old.c_str(), path.c_str()) == 0; });
 }
 
 Runtime::Result<void> StagedFolder::putInPlace() {
