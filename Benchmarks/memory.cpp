@@ -1,5 +1,5 @@
-// Reads every text and prints how many there are, their bytes in total, and by how many KiB the resident memory grew
-// and its anonymous part, which other processes cannot share: all pages except unchanged ones of files.
+// Reads every text and prints the number of texts, their total size in bytes, and the growth, in KiB, of the resident
+// memory and of its anonymous part, which other processes cannot share.
 #include "all_texts.h"
 #include <Foundation/Host.h>
 

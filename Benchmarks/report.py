@@ -93,11 +93,11 @@ def start_rows(folder):
 
 def memory_rows(folder):
     output = subprocess.run([f"{folder}/memory"], capture_output=True, check=True).stdout
-    count, _, resident, own = map(int, output.split())
+    count, _, resident, private = map(int, output.split())
     if count != 1401:
         sys.exit(f"{count} texts were read, not 1401")
     return [limit_row(f"{what} that reading all {count:,} texts adds", grown / 1024, "MiB", 1)
-            for what, grown in (("resident memory", resident), ("private memory", own))]
+            for what, grown in (("resident memory", resident), ("private memory", private))]
 
 
 def build_rows(folder):

@@ -1,5 +1,5 @@
 // Reading texts: a plain one compared with a function-local static, a formatted one with snprintf and with a map and
-// fmt. Also the current language.
+// fmt. Also reading the current language.
 #include "StringTables/internal/Table.h"
 #include "other_library.h"
 #include <Lumora/Lumora.h>

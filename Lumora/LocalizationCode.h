@@ -1,6 +1,6 @@
 // Lumora/LocalizationCode.h
-// The languages that the application supports. In the application the type belongs to the library Corvane, so its
-// code expects it in this namespace.
+// The languages that the application supports. In the application the type belongs to the library Corvane, so the
+// application's code expects it in this namespace.
 // Text: ASCII. Threads: any; no state that changes.
 #pragma once
 

@@ -7,7 +7,8 @@ namespace Lumora::UIImage {
 
 namespace {
 
-// Stays empty and unused: it must not become a second way to the bundle, besides LumoraResources::bundle().
+// The application's module has a class of this name. It stays empty and unused: it must not become a second way to the
+// bundle, besides LumoraResources::bundle().
 class ResourceBundleClass {};
 
 using Candidates = std::initializer_list<const char*>;

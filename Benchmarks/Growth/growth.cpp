@@ -112,7 +112,7 @@ int main(int argc, char** argv) {
             return 2;
         languages.push_back({argv[i], *std::move(bytes), {}});
     }
-    for (Language& language : languages)
+    for (Language& language : languages) // not in the loop above, whose push_back() may move `bytes`
         language.expected = textsOf(language.bytes);
     return measure(argv[1], argv[2], languages);
 }

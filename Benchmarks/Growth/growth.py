@@ -45,7 +45,7 @@ def quoted(string):
 
 def make_source(folder, keys, languages):
     """Writes the source `folder`/source and the contents of its tables to `folder`/expected; returns the names of the languages."""
-    tags = (f"{a}{b}" for a, b in itertools.product("abcdefghijklmnopqrstuvwxyz", repeat=2) if a + b != "en")
+    tags = (f"{a}{b}" for a, b in itertools.product("abcdefghijklmnopqrstuvwxyz", repeat=2) if a + b != "en")  # Base has the English texts
     names = ["Base", *itertools.islice(tags, languages - 1)]
     (folder / "expected").mkdir(parents=True)
     for index, name in enumerate(names):

@@ -27,9 +27,9 @@ def with_placeholders(text, placeholder, escaped=lambda part: part):
 
 
 def po(convert):
-    head = 'msgid ""\nmsgstr "Content-Type: text/plain; charset=UTF-8\\n"\n'
+    header = 'msgid ""\nmsgstr "Content-Type: text/plain; charset=UTF-8\\n"\n'
     quoted = lambda text: json.dumps(text, ensure_ascii=False)
-    return head + "".join(f"msgid {quoted(k)}\nmsgstr {quoted(convert(v))}\n" for k, v in texts.items() if k)  # an empty msgid is the head
+    return header + "".join(f"msgid {quoted(k)}\nmsgstr {quoted(convert(v))}\n" for k, v in texts.items() if k)  # an empty msgid is the header
 
 
 def icu(text):

@@ -5,6 +5,7 @@ import sys
 
 SPECIAL = re.compile(r"(?<!\w)@|[\\#<>%&]")  # after a letter, @ is an ordinary character for doxygen
 CODE = re.compile(r"(`[^`\n]+`)")
+CODE_OR_QUOTED = re.compile(r"(`[^`\n]+`|\"[^\"\n]+\")")
 
 
 def code(span):
@@ -13,8 +14,11 @@ def code(span):
 
 
 def plain(text):
-    """Escapes the text of a comment for doxygen; `code` remains code."""
-    return "".join(code(part) if part.startswith("`") else SPECIAL.sub(r"\\\g<0>", part) for part in CODE.split(text))
+    """Escapes the text of a comment for doxygen; `code` remains code, and doxygen reads quoted text literally."""
+    parts = CODE_OR_QUOTED.split(text)
+    parts[::2] = [SPECIAL.sub(r"\\\g<0>", part) for part in parts[::2]]
+    parts[1::2] = [code(part) if part.startswith("`") else part for part in parts[1::2]]
+    return "".join(parts)
 
 
 def documented(line):
@@ -25,7 +29,7 @@ def documented(line):
     if (trailing := re.fullmatch(r"([^\"]*[;,{}\w]) // (.*)", line)) and not re.match(r"\s*(#|namespace|\})", line):
         return f"{trailing[1]} ///< {plain(trailing[2])}"
     if comment := re.fullmatch(r"(\s*)/\*(?!\*)(.*)", line):
-        return f"{comment[1]}/**{plain(comment[2]) if not line.endswith('*/') else comment[2]}"
+        return f"{comment[1]}/**{plain(comment[2])}"
     return line
 
 
@@ -41,11 +45,10 @@ name = sys.argv[1]
 lines = open(name, encoding="utf-8").read().splitlines()
 if name.endswith(".h"):
     # Line 1 is the header's path: the comment that begins with it is about the file.
-    first = 0
-    if lines[0].startswith("// "):
-        print("/// \\file")
-        first = 1
-    lines = [documented(line) for line in lines[first:]]
+    if opening := {"//": "///", "/*": "/**"}.get(lines[0][:2]):
+        print(opening, "\\file")
+        lines = lines[1:]
+    lines = [documented(line) for line in lines]
 else:
     lines = [line if line.startswith("    ") else CODE.sub(lambda span: code(span[0]), line) for line in anchored(lines)]
 print("\n".join(lines))

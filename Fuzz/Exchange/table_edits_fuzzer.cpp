@@ -1,4 +1,4 @@
-// Sets texts in any bytes, which are taken for a table, a plural table or a string catalog, as the first byte says. The
+// Takes any bytes for a table, a plural table or a string catalog, as the first byte says, and sets texts in it. The
 // result can be read again. A table and a string catalog have the new text; a table and a plural table have the same
 // other entries as before.
 #include "Exchange/CatalogDocument.h"

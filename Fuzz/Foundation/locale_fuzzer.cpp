@@ -1,5 +1,5 @@
-// Takes the input for the identifier of a locale, in which it formats numbers and years, and for a list of languages,
-// for each of which it chooses one of a bundle's languages.
+// Takes the input for the identifier of a locale and formats numbers and years in it. Then takes the input for a list
+// of languages and chooses one of a bundle's languages for each.
 #include "Foundation/DateComponents.h"
 #include "Foundation/NSNumberFormatter.h"
 #include "Foundation/internal/HostState.h"
@@ -36,8 +36,8 @@ void writeYears(const Foundation::Locale& locale) {
         require(!years.stringFromDateComponents({.year = count}).value_or("").empty());
 }
 
-// `list` has the form of the environment variable LANGUAGE: "de:fr". The bundle has the wanted language itself in one
-// case, and in the other `list` as the name of a language.
+// `list` has the form of the environment variable LANGUAGE: "de:fr". One bundle has the wanted language itself,
+// another has `list` as the name of a language instead.
 void chooseLanguages(const std::string& list) {
     std::istringstream languages(list);
     for (std::string language; std::getline(languages, language, ':');) {

@@ -34,7 +34,7 @@ inline bool haveSameEntries(const Table& one, const Table& other) {
 }
 
 // Entries are found by their keys, have a line unless the table is binary, and are the same after they are written and
-// read in every form. The same entries have comments then, except in the binary form, which has none.
+// read in every form. Then the same entries have comments as before, except in the binary form, which has none.
 inline void requireRoundTrips(const Table& table) {
     for (const Entry& entry : table.entries())
         require(table.find(entry.key) == entry.text);

@@ -274,7 +274,8 @@ std::optional<std::string> NSBundle::tableDamage(std::string_view table) const {
     for (auto at = chain.begin(); *at != nullptr; ++at)
         if (auto damage = (*at)->damage(name))
             return damage;
-    if (::access((contents.path + "/.").c_str(), F_OK) != 0) // the dot: also fails for a file or a closed folder
+    // With the dot, also fails for a file and for a folder that may not be searched.
+    if (::access((contents.path + "/.").c_str(), F_OK) != 0)
         return Runtime::systemError(contents.path, "cannot be read").text();
     return std::nullopt;
 }

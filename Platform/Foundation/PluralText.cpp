@@ -52,7 +52,7 @@ bool isPlainInteger(const Placeholder& placeholder) noexcept {
             (placeholder.bits == 64 && placeholder.precision.from == Placeholder::Size::From::none));
 }
 
-// The plural operands of the number as it is printed; no value if it has no digits, as "inf" and most texts.
+// The plural operands of the number as it is printed; no value if it has no digits, like "inf" and most texts.
 std::optional<Intl::PluralOperands> operandsOf(const PluralFormat& plural, const PluralVariable& variable,
                                                std::size_t own, const FormatArgument& argument) {
     std::string format = numberFormat(plural, variable, own);

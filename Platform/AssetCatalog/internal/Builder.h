@@ -26,8 +26,8 @@ struct BuiltCatalog {
 
 // Builds a catalog of these assets. The order of the assets does not affect the result. Of several variants for the
 // same language and traits the first is used; equal blobs are stored once. Errors: two assets with the same kind and
-// name, no variant, an invalid value, a limit of Catalog.h exceeded; they name the asset unless the whole catalog
-// exceeds the limit.
+// name, no variant, an invalid value, a limit of Catalog.h exceeded. The message names the asset unless the catalog as
+// a whole exceeds the limit.
 [[nodiscard]] Runtime::Result<BuiltCatalog> build(std::vector<Asset> assets);
 
 } // namespace AssetCatalog
