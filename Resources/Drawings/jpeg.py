@@ -18,7 +18,7 @@ _COSINES = [[math.cos((2 * x + 1) * u * math.pi / 16) * (math.sqrt(0.125) if u =
 
 
 def _tables(quality):
-    """The quantization tables for luminance and chrominance, scaled for a quality from 1 to 100 as is usual."""
+    """The quantization tables for luminance and chrominance, scaled for a quality from 1 to 100 by libjpeg's formula."""
     scale = 5000 / quality if quality < 50 else 200 - 2 * quality
     chroma = [_CHROMA[k // 8 * 4 + k % 8] if k % 8 < 4 and k // 8 < 4 else 99 for k in range(64)]
     return [[min(255, max(1, int((int(v) * scale + 50) / 100))) for v in table]
@@ -37,7 +37,8 @@ def _transform(block):
 
 
 def _symbols(coefficients, before):
-    """(symbol, extra bits, extra bit count) of one block: first the difference of its average to `before`, then the rest."""
+    """(symbol, extra bits, extra bit count) of one block: first the difference between its average and
+    `before`, that of the block before, then the rest."""
     def extra(value):
         size = abs(value).bit_length()
         return size, value if value >= 0 else value + (1 << size) - 1
@@ -62,7 +63,7 @@ def _symbols(coefficients, before):
 def _code(counts):
     """A prefix code of at most 16 bits for the counted symbols: (how many codes of 1 to 16 bits, symbols by code,
     symbol -> (code, bits))."""
-    trees = sorted((n, s, [s]) for s, n in counts.items())
+    trees = sorted((n, s, [s]) for s, n in counts.items())  # count, greatest symbol, symbols
     trees.insert(0, (0, -1, [-1]))                   # takes the all-ones code word, which JPEG reserves
     depth = {s: 0 for _, s, _ in trees}
     while len(trees) > 1:

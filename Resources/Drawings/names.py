@@ -1,6 +1,6 @@
-"""The names of all assets, catalog by catalog, by folder and then by the name of the set's folder: "gymBoy.arab.imageset" is
-before "gymBoy.imageset". The constants have the same order. A line "[Folder]" begins a folder; colours.py
-has the folders of the colours.
+"""The names of all assets by catalog, in the order of the generated constants: by folder, then by the name of the set with
+its ending, so that "gymBoy.arab.imageset" is before "gymBoy.imageset". A line "[Folder]" begins a folder; colours.py has the
+folders of the colours.
 
 The spellings are those of the application's code, with its mistakes, such as "vdieo" and "welcom"."""
 

@@ -124,7 +124,7 @@ def _arc(x0, y0, rx, ry, turn, large, sweep, x1, y1):
         last += 2 * math.pi
     if not sweep and last > first:
         last -= 2 * math.pi
-    pieces = max(1, math.ceil(abs(last - first) / (math.pi / 2) - 1e-9))
+    pieces = max(1, math.ceil(abs(last - first) / (math.pi / 2) - 1e-9))  # no extra piece for a rounding error
     step = (last - first) / pieces
     t = 4 / 3 * math.tan(step / 4)
     m = (k * rx, s * rx, -s * ry, k * ry, cx, cy)
@@ -179,7 +179,7 @@ def flatten(outline, tolerance=0.1):
                 result.append((points, False))
             points = [(v[0], v[1])]
         elif kind == "L":
-            if not points:                      # a segment after Z starts at its origin
+            if not points:                      # after Z, a segment starts where the closed one did
                 points = [result[-1][0][0]]
             points.append((v[0], v[1]))
         elif kind == "C":

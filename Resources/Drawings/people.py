@@ -28,7 +28,7 @@ class Look:
     legs: str = "long"          # long, short, tunic
     wide: float = 1             # factor of the trunk's width
     limb: float = 1             # factor of the limbs' width
-    belly: float = 0            # added to half the waist, from the side to the trunk; may be negative
+    belly: float = 0            # added to half the waist's width, in the side view to the trunk's; may be negative
     trim: str = None            # colour of a stripe, scarf or hair band
 
 
@@ -51,7 +51,7 @@ def look(male, region="plain", **changes):
 
 
 def _limb(d, points, width, colour, covered, cloth):
-    """A limb of straight pieces, clothed as a whole if `covered` is 1; if it is less, that share of the first piece is."""
+    """A limb of straight pieces. Clothes cover all of it if `covered` is 1, otherwise that share of its first piece."""
     numbers = [v for p in points for v in p]
     d.add(paths.polyline(numbers), None, colour, width)
     if covered <= 0:
@@ -65,7 +65,7 @@ def _limb(d, points, width, colour, covered, cloth):
 
 
 def _chain(x, y, angles, lengths, side=1):
-    """The joints of a limb that begins at x, y; `side` -1 is the left one in the front view."""
+    """The joints of a limb that begins at x, y; `side` is -1 for the left one in the front view."""
     points = [(x, y)]
     for angle, length in zip(angles, lengths):
         a = math.radians(angle)

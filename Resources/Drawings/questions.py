@@ -7,6 +7,8 @@ import scenery
 from canvas import Drawing
 from people import Pose, bust, front, look, side
 
+# In this file `region` is "arab" or None, but in _goal "ar" or "ru".
+
 # Background and accent colour for men (True), women (False) and the Arab region.
 TINTS = {True: ("#DCE8FF", "#3B7DFF"), False: ("#FFE0EC", "#F2639A"), "arab": ("#FBE6BE", "#0F8B7E")}
 
@@ -182,7 +184,7 @@ def _build(male, kind):
 
 
 def _measure(male, view):
-    """Sportswear figures that show how to take progress photos."""
+    """Figures in sportswear that show how to take progress photos."""
     d = Drawing(90, 170)
     d.add(paths.rect(0, 0, 90, 170, 12), "#EEF1F6")
     d.draw("l:fog~1.5 8 24 20 24;l:fog~1.5 8 24 8 36;l:fog~1.5 82 24 70 24;l:fog~1.5 82 24 82 36;"

@@ -31,9 +31,9 @@ def _stroke(lines, width, butt):
 
 
 def _spans(polygons, width, height):
-    """Yields (row, {pixel: coverage}, [(first, end)]) for each row with covered pixels. Each of its SUBLINES lines adds runs of
-    pixels that it covers as a whole, and up to 1 to the coverage of a pixel that it covers in part. So a pixel is full if its
-    coverage and the number of runs with it add up to SUBLINES."""
+    """Yields (row, {pixel: coverage}, [(first, end)]) for each row of pixels that the polygons touch. Each of the SUBLINES lines in
+    a row adds runs of pixels that are covered along the whole line, and up to 1 to the coverage of a pixel that is covered in
+    part. So a pixel is full if its coverage and the number of runs with it add up to SUBLINES."""
     rows = {}
     for polygon in polygons:
         for (x0, y0), (x1, y1) in zip(polygon, polygon[1:] + polygon[:1]):

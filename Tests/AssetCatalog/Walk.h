@@ -50,7 +50,7 @@ inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
         sum += entry.catalog().size() + static_cast<unsigned>(entry.rendering());
         for (std::size_t variant = 0; variant < entry.variants(); ++variant) {
             const std::array languages = {std::string(entry.language(variant))};
-            if (entry.best(entry.fit(variant), languages) > variant) // the first exact match
+            if (entry.best(entry.fit(variant), languages) > variant) // best() gives the first exact match
                 std::abort();
             if (entry.kind() == AssetCatalog::Kind::image) {
                 const AssetCatalog::PictureView picture = entry.picture(variant);

@@ -3,7 +3,7 @@
 # at the first error. `./run analyse` installs the tools.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
-written=(Platform Lumora Tools Tests Fuzz Examples) # by hand; not Benchmarks, which need libraries that are not installed
+handWritten=(Platform Lumora Tools Tests Fuzz Examples) # not Benchmarks, which need libraries that are not installed
 
 step() { printf '%4ds  %s\n' "$SECONDS" "$1"; }
 
@@ -16,7 +16,7 @@ done
 # clang-tidy prints every file that it reads, and the number of suppressed warnings; a finding has "error:".
 # The golden files are generated.
 step "clang-tidy"
-folders=$(IFS='|'; echo "${written[*]}")
+folders=$(IFS='|'; echo "${handWritten[*]}")
 if ! run-clang-tidy-14 -quiet -j 2 -p build/clang-14 "^$PWD/($folders)/(?!Generator/Golden/)" >build/clang-tidy.log 2>&1; then
     grep -A6 'error:' build/clang-tidy.log || tail -n 20 build/clang-tidy.log
     exit 1
@@ -26,7 +26,7 @@ fi
 step "cppcheck"
 cppcheck -q -j2 --std=c++20 --library=googletest --enable=warning,performance,portability,style --inline-suppr \
     --error-exitcode=1 --suppressions-list=Tests/Build/cppcheck-suppressions.txt -I . -I Platform -I Tools \
-    -i Tests/Generator/Golden -i Tests/Lumora/accessors_test.cpp "${written[@]}"
+    -i Tests/Generator/Golden -i Tests/Lumora/accessors_test.cpp "${handWritten[@]}"
 
 # Objects that live until the process ends are reachable and are not leaks. Not run:
 # - long double, which valgrind computes with 64 bits;

@@ -84,7 +84,7 @@ def follow(page, folder, environment):
 
 
 def compile_fragments(fragments, folder, prefix):
-    """Compiles the C++ fragments as a main(), in a project of the CMake fragments or, if there are none, in the folder's own."""
+    """Compiles the C++ fragments as the body of main(), in a project of the CMake fragments or, if there are none, in the folder's own."""
     (folder / "main.cpp").write_text("#include <Shop/Shop.h>\n#include <cstdio>\n#include <string>\nint main() {\n" + "".join(fragments["cpp"]) + "}\n",
                     encoding="utf-8")
     if fragments["cmake"]:
@@ -112,7 +112,7 @@ with tempfile.TemporaryDirectory() as temporary:
                                 "PKG_CONFIG_PATH": str(library.parent / "pkgconfig"), "PREFIX": str(prefix)}
     faults = list(unknown_tests())
     shown = {f"Docs/{page.name}" for page in (source / "Docs").glob("*.md") if BLOCK.search(page.read_text(encoding="utf-8"))}
-    faults += [f"{page}: no test follows it" for page in sorted(shown - set(PAGES))]
+    faults += [f"{page}: has examples, but is not in PAGES" for page in sorted(shown - set(PAGES))]
     for page, begins in PAGES.items():
         folder = pathlib.Path(temporary, pathlib.Path(page).stem)
         if begins == SHOP:

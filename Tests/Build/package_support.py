@@ -1,4 +1,4 @@
-"""Shared by the tests that use Lumora like another project does."""
+"""Shared by the tests that use Lumora as another project does."""
 import argparse
 import os
 import pathlib

@@ -1,5 +1,5 @@
 """Adds the source tree to a project that has targets with the names of our folders, builds that project's program with the
-`lumora` that is already built, and runs it. Then installs like a distribution, and compares the files with those that our own
+`lumora` that is already built, and runs it. Then installs as a distribution does, and compares the files with those that our own
 build installs."""
 import filecmp
 import pathlib
@@ -18,11 +18,11 @@ def installed(prefix, libraries):
 with tempfile.TemporaryDirectory(prefix="lumora-parent-") as folder:
     folder = pathlib.Path(folder)
     cache = (pathlib.Path(options.build) / "CMakeCache.txt").read_text()
-    kept = [f"-D{line}" for line in cache.splitlines() if line.startswith(("CMAKE_CXX_FLAGS", "CMAKE_C_FLAGS", "CMAKE_BUILD_TYPE"))]
+    flags = [f"-D{line}" for line in cache.splitlines() if line.startswith(("CMAKE_CXX_FLAGS", "CMAKE_C_FLAGS", "CMAKE_BUILD_TYPE"))]
     configure = [options.cmake, "-S", source / "Tests/Build/parent", "-G", options.generator, f"-DLUMORA_SOURCE={source}",
                  "-DLUMORA_TOOLS=OFF", f"-DLUMORA_PROGRAM={options.build}/bin/lumora"]
     run(*configure, "-B", folder / "without a build type")
-    run(*configure, "-B", folder / "build", "-DLUMORA_INSTALL=ON", "-DCMAKE_INSTALL_PREFIX=/usr", *kept)
+    run(*configure, "-B", folder / "build", "-DLUMORA_INSTALL=ON", "-DCMAKE_INSTALL_PREFIX=/usr", *flags)
     run(options.cmake, "--build", folder / "build", "--target", "app")
     expect("own target only", run(folder / "build/app").splitlines()[:2], [russian("Continue"), NUMBER])
 
@@ -42,7 +42,7 @@ with tempfile.TemporaryDirectory(prefix="lumora-parent-") as folder:
     [other] = (folder / "other").rglob("liblumora.so")
     distributed, own = installed(usr, library.parent), installed(folder / "other", other.parent)
     for name in sorted(set(distributed) & set(own)):
-        # Debug information contains folder names.
+        # Only in release builds, because debug information contains folder names.
         if "BUILD_TYPE:STRING=Release" in cache and not filecmp.cmp(distributed[name], own[name], shallow=False):
             raise SystemExit(f"{name} differs between two builds in different folders")
     # The parent project builds no program.

@@ -26,8 +26,8 @@ def found(program, own, files, arguments):
         done = subprocess.run([program, "check", "source", "--format", "json", *arguments], cwd=folder, capture_output=True, timeout=60)
         findings = json.loads(done.stdout)
         rules = [finding["rule"] for finding in findings if finding["rule"] == own or finding["rule"] != "coverage"]
-        hasError = any(finding["severity"] == "error" for finding in findings)
-        complaint = "" if done.returncode == hasError else f"exit {done.returncode}, stderr {done.stderr.decode()}"
+        has_error = any(finding["severity"] == "error" for finding in findings)
+        complaint = "" if done.returncode == has_error else f"exit {done.returncode}, stderr {done.stderr.decode()}"
         return rules, complaint
 
 

@@ -68,7 +68,8 @@ TEST(CompileBundle, CompletesInfoPlist) {
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "de");
     EXPECT_EQ(information->find("Other"), "text");
 
-    // A file with other values than texts is copied unchanged. A build setting is replaced; what is lost is reported.
+    // A file with values that are not texts is copied unchanged. To replace a build setting, the file is rewritten
+    // without them, which is reported.
     const std::string more = "<plist><dict><key>CFBundleDevelopmentRegion</key><string>de</string>"
                              "<key>a</key><array/></dict></plist>";
     folder.write("source/Info.plist", more);
@@ -213,7 +214,7 @@ TEST(CompileBundle, ReusesTheLastCompile) {
     EXPECT_EQ(timeOf(bundle / "Info.plist"), yesterday);
     EXPECT_EQ(timeOf(bundle / "de.lproj/A.strings"), yesterday);
     EXPECT_NE(timeOf(bundle / "Base.lproj/A.strings"), yesterday);
-    EXPECT_EQ(fs::hard_link_count(catalog), 1U); // the old bundle, to whose file it was a link, is removed
+    EXPECT_EQ(fs::hard_link_count(catalog), 1U); // the old bundle, which had a hard link to the file, is removed
 
     folder.write("source/A.xcassets/two.imageset/p", svg(3, "tan")); // has as many bytes as before
     compileAndCompare(__LINE__);
@@ -322,7 +323,7 @@ TEST(CompileBundle, RunsOutOfDescriptors) {
     folder.write("source/A.xcassets/p.imageset/p", svg(3, "red"));
     const fs::path bundle = folder / "out.bundle";
     ASSERT_EQ(compile(folder / "source", bundle).diagnostics,
-              std::vector<std::string>()); // opens everything that is opened once
+              std::vector<std::string>()); // from now on, what is opened once per process is open
     int highest = 0;
     for (const fs::directory_entry& one : fs::directory_iterator("/proc/self/fd"))
         highest = std::max(highest, std::stoi(one.path().filename()));

@@ -151,7 +151,7 @@ class Exchange(unittest.TestCase):
             self.assertEqual(run("import", file, "--into", source), (0, "", "lumora: note: 0 texts changed in 0 files\n"))
             new = self.export(source, "fr", format)
             new.write_text(new.read_text().replace("</source>\n", '</source><target>neu</target>\n').replace('msgstr ""\n\n', 'msgstr "neu"\n\n'))
-            self.assertEqual(run("import", new, "--into", source, "--keep-going")[0], 1)  # "100%% %@" takes an argument
+            self.assertEqual(run("import", new, "--into", source, "--keep-going")[0], 1)  # "100%% %@" takes an argument, "neu" does not
             shutil.rmtree(source / "fr.lproj")
             self.assertEqual(contents(source), before)
 

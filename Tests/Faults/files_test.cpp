@@ -26,7 +26,7 @@ std::string text(const fs::path& bundle, std::string_view key = "a", std::string
     return NSBundle::bundleWithPath(bundle.string()).localizedStringForKey(key, nullptr, table);
 }
 
-// Lets the process open no descriptors from `end` on; returns the old limit. Open ones stay open.
+// Lets the process open no descriptor with the number `end` or above; returns the old limit. Open ones stay open.
 rlim_t limitDescriptors(rlim_t end) {
     rlimit limit{};
     ::getrlimit(RLIMIT_NOFILE, &limit);
@@ -210,8 +210,8 @@ TEST(Files, HalfATableIsMissing) {
     EXPECT_EQ(text(folder / "B.bundle", "a", "U"), "text");
 }
 
-// While one thread replaces the bundle atomically, like a compile, another opens it and sees either the old or the new
-// one, complete.
+// While one thread replaces the bundle atomically, as a compile does, another opens it and sees either the old or the
+// new one, complete.
 TEST(Files, AnUpgradeByRenamingIsSafe) {
     const Support::TemporaryFolder folder;
     const auto write = [&](const char* bundle, char version) {
@@ -234,7 +234,7 @@ TEST(Files, AnUpgradeByRenamingIsSafe) {
     for (int i = 1; i <= 300; ++i) {
         write("New.bundle", i % 2 == 0 ? '0' : '1');
         ASSERT_EQ(::renameat2(AT_FDCWD, made.c_str(), AT_FDCWD, place.c_str(), RENAME_EXCHANGE), 0);
-        fs::remove_all(made); // now the old one
+        fs::remove_all(made); // now the old bundle
     }
     ends = true;
     reader.join();

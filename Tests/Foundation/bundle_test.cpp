@@ -137,7 +137,8 @@ TEST_F(Bundle, FollowsNoLinkOutOfIt) {
     }
 }
 
-// Any library serves as the one with the code: here copies of libm, with and without a version.
+// Any library serves as the one with the code: here copies of libm, with and without a version. There is no folder
+// none-3.
 TEST_F(Bundle, IsBesideTheLibraryWithTheCode) {
     const void* const anyCode = ::dlsym(::dlopen("libm.so.6", RTLD_NOW), "cos");
     Dl_info any{};
@@ -178,8 +179,8 @@ TEST_F(Bundle, TakesItsDevelopmentRegionFromInfoPlist) {
 // `lumora compile` writes the list of languages, and whether there are plurals; a list that contradicts the folder is
 // ignored.
 TEST_F(Bundle, TakesItsLanguagesFromInfoPlistIfTheyExist) {
-    const auto write = [](const Support::TemporaryFolder& folder, const char* noted) {
-        folder.write("Info.plist", std::string("LumoraLanguages = \"") + noted + "\"; LumoraPlurals = no;");
+    const auto write = [](const Support::TemporaryFolder& folder, const char* languages) {
+        folder.write("Info.plist", std::string("LumoraLanguages = \"") + languages + "\"; LumoraPlurals = no;");
         folder.write("Base.lproj/T.strings", "a = text;");
         folder.write("de.lproj/T.strings", "a = deutsch;");
     };
@@ -190,9 +191,9 @@ TEST_F(Bundle, TakesItsLanguagesFromInfoPlistIfTheyExist) {
     const Languages expected = {"de", "en"};
     Host::setPreferredLanguages({"de"});
     for (const auto* folder : {&right, &tooFew, &none}) {
-        const NSBundle& noted = NSBundle::bundleWithPath(folder->path());
-        EXPECT_EQ(noted.localizations(), expected);
-        EXPECT_EQ(noted.localizedText("a", "T"), "deutsch");
+        const NSBundle& one = NSBundle::bundleWithPath(folder->path());
+        EXPECT_EQ(one.localizations(), expected);
+        EXPECT_EQ(one.localizedText("a", "T"), "deutsch");
     }
 }
 
@@ -237,8 +238,8 @@ TEST_F(Bundle, KeepsItsContentIfAReloadFindsNoChange) {
     write("Base.lproj/Localizable.strings", "a = new;");
     bundle().reload();
     EXPECT_EQ(text("a"), "new");
-    // A time in the future may stay when the file changes again, so each reload reads the file. This time also exceeds
-    // 2^63 nanoseconds.
+    // A modification time in the future may be the same after another change, so each reload reads the file. This time
+    // also exceeds 2^63 nanoseconds.
     const timespec future[] = {{.tv_sec = 0, .tv_nsec = 0}, {.tv_sec = time_t{1} << 34, .tv_nsec = 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, (folder_ / "Base.lproj/Localizable.strings").c_str(), future, 0), 0);
     std::this_thread::sleep_for(std::chrono::milliseconds(200));

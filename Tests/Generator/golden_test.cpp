@@ -41,7 +41,7 @@ TEST(Golden, MatchesTheGeneratedFiles) {
         EXPECT_EQ(actual.size(), expected.size());
     }
     if (HasFailure())
-        std::puts("If the change is meant, run and review: build/dev/bin/lumora generate "
+        std::puts("If the change is intended, run this and review the result: build/dev/bin/lumora generate "
                   "Tests/Generator/Golden/input.bundle --module Odd "
                   "-o Tests/Generator/Golden/expected --shards 2 --include Runtime/Class.h");
 }

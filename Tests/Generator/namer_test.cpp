@@ -61,8 +61,8 @@ TEST(Namer, NamesGroups) {
         {__LINE__, "TrainersHQ", "TrainersHQ"},
         {__LINE__, "\u0421hatlist", "\u0421hatlist"},
         {__LINE__, "10ExerciseStraight", "_10ExerciseStraight"},
-        // Identifiers of layout files. If no lower-case letter is left after each part's first character was
-        // capitalised, each part keeps capitals only at its beginning and after digits.
+        // Identifiers of layout files. If capitalizing the first character of each part leaves no lower-case letter,
+        // the other capitals become lower-case, except after digits.
         {__LINE__, "0ie-tn-jCZ", "_0ieTnJCZ"},
         {__LINE__, "9ui-9h-hZp", "_9ui9hHZp"},
         {__LINE__, "1aq-bW-Am5", "_1aqBWAm5"},
@@ -121,6 +121,7 @@ TEST(Namer, SplitsKeysAtDots) {
         EXPECT_EQ(path(pair.from), pair.to) << "line " << pair.line;
 }
 
+// Names that are keywords, or macros of a compiler or of the system's headers, get an underscore.
 TEST(Namer, SpellsNamesInCpp) {
     constexpr Pair pairs[] = {
         {__LINE__, "continue", "continue_"},

@@ -37,7 +37,7 @@ TEST(Language, ChoosesTheNearestVariant) {
         {__LINE__, "in_ID", "id"},
         {__LINE__, "no", "nb"},
         {__LINE__, "cmn", "zh-Hans"},
-        // Readers of one script may not read another.
+        // Not everybody who reads one script reads the other.
         {__LINE__, "zh_TW", "none"},
         // Related languages that the user did not list are not chosen.
         {__LINE__, "uk", "none"},

@@ -1,4 +1,4 @@
-"""Compares the assets of the compiled bundle, and the constants with their order, with the list in Resources/Drawings/names.py."""
+"""Compares the assets of the compiled bundle, and the constants and their order, with the list in Resources/Drawings/names.py."""
 import json
 import pathlib
 import re

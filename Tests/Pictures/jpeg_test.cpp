@@ -111,7 +111,7 @@ TEST(Jpeg, MeasureFindsTheFrame) {
 TEST(Jpeg, ScansAreLimited) {
     const jpeg_scan_info scans[] = {{1, {0}, 0, 0, 0, 0}, {1, {0}, 1, 63, 0, 0}};
     const Bytes file = write({.space = JCS_GRAYSCALE, .pixel = {77}, .scans = scans});
-    // The first scan gives its coefficients all bits, so a decoder accepts it again.
+    // The first scan has all bits of its coefficients, so a decoder accepts it any number of times.
     const auto isMarker = [](int byte, int next) { return byte == 0xFF && next != 0; };
     const Bytes scanMarker = {0xFF, 0xDA};
     const auto first = std::search(file.begin(), file.end(), scanMarker.begin(), scanMarker.end());

@@ -36,7 +36,7 @@ TEST(Class, IsFoundByItsExactName) {
     EXPECT_EQ(Runtime::classNamed(""), nullptr);
 }
 
-// A name that no class has is searched in all libraries, also in one that is just being loaded.
+// A name that no class has is searched in all libraries, even in one that is being loaded.
 TEST(Class, IsSearchedWhileAnotherThreadLoadsLibraries) {
     std::atomic<bool> isDone = false;
     std::thread loader([&isDone] {

@@ -8,7 +8,7 @@ bool isOpen() {
     return true;
 }
 
-// Many methods have many pointers, so that relocating them takes a while.
+// So many pointers take a while to relocate, which lets a search meet the library while it is being loaded.
 constexpr auto methods = [] {
     std::array<Runtime::Method, 2000> all{};
     all.fill(Runtime::method<&isOpen>("isOpen"));

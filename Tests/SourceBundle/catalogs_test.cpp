@@ -186,7 +186,7 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
          R"({"filename": 1}, {"filename": "2"})",
          {"2"},
          {"note " + contents + R"(entry 1 has the property "filename", which is ignored)"}},
-        // Each closes the list and adds another member.
+        // The entries of these two cases close the list and add another member.
         {__LINE__,
          R"(], "images": {"1": {"filename": "1"}}, "data": [)",
          {},

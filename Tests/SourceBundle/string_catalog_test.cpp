@@ -23,7 +23,7 @@ std::string shown(const SourceEntry& entry) {
     return text;
 }
 
-// JSON that is written with ' instead of ".
+// The JSON with " in place of each '.
 std::string quotes(std::string json) {
     std::ranges::replace(json, '\'', '"');
     return json;

@@ -1,5 +1,5 @@
-// Opens the library at the relative path that is its argument, changes the current directory, then reads a text and an
-// age.
+// Opens the library at the relative path that is its argument, changes the current directory so that the path is no
+// longer right, then reads a text and an age.
 #include <cstdio>
 #include <dlfcn.h>
 #include <unistd.h>
