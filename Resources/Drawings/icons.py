@@ -185,7 +185,7 @@ icon_tape | u tape
 icon_theme_dark | u moon
 icon_theme_light | u sun
 icon_theme_system | u contrast
-icon_share2 | u bow
+icon_share2 | u bent_arrow
 navbarBack | l~2.6 15.5 3.5 7 12 15.5 20.5
 navbarBookmark | p M5 4.5A2 2 0 0 1 7 2.5H17A2 2 0 0 1 19 4.5V21.5L12 17L5 21.5Z;l 9 8 15 8
 navbarBookmarkFilled | P~2 M5 4.5A2 2 0 0 1 7 2.5H17A2 2 0 0 1 19 4.5V21.5L12 17L5 21.5Z
@@ -253,7 +253,7 @@ button_delete_pic disc=night | u cross
 button_filter_close disc=slate | l 5 15 12 8 19 15
 button_filter_open disc=blue | u funnel 1 1 .92
 facebook disc=blue | u smile
-fitness_icon | u kettle
+fitness_icon | u kettlebell
 icon_blocked_users | u users 0 1 .7;u m_block 0 .4
 icon_instruction | u book;l~1.6 6 9 9 9.3;l~1.6 6 13 9 13.3;l~1.6 15 9.3 18 9;l~1.6 15 13.3 18 13
 icon_mail | u mail
