@@ -38,12 +38,12 @@ def accessor_times(lumora, folder):
     source = folder / "Lumora/LumoraStrings-1.cpp"
     whole = median(*compiler, "-O2", "-fvisibility=hidden", source)
     user = folder / "user.cpp"
-    with_header = {"Lumora/LumoraStrings.h": [], "string": []}
+    times_by_header = {"Lumora/LumoraStrings.h": [], "string": []}
     for _ in range(3 * RUNS):  # more runs, alternately, because the difference is small
-        for header, times in with_header.items():
+        for header, times in times_by_header.items():
             user.write_text(f"#include <{header}>\nstd::string user() {{ return std::string(); }}\n", encoding="utf-8")
             times.append(seconds(*compiler, user))
-    accessors, string = map(statistics.median, with_header.values())
+    accessors, string = map(statistics.median, times_by_header.values())
     return whole, accessors - string
 
 

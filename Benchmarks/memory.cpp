@@ -21,7 +21,7 @@ long kibibytes(const std::string& field) {
 } // namespace
 
 int main() {
-    Foundation::Host::setPreferredLanguages({"ru"});
+    Foundation::Host::setPreferredLanguages({"ru"}); // Cyrillic letters take two bytes
     const long resident = kibibytes("Rss:"), anonymous = kibibytes("Anonymous:");
     int count = 0;
     const std::size_t size = readAllTexts(count);

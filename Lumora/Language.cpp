@@ -1,4 +1,4 @@
-// The current language and everything that depends on it.
+// The current language and locale, and the lists of languages.
 #include "Lumora/Localization.h"
 
 #include "Lumora/LumoraResources.h"

@@ -38,7 +38,7 @@ template <class Make> auto createForC(Make make) noexcept -> decltype(make()) {
     }
 }
 
-// Calls a function of Localization by its selector, as callers in other languages do, so that C gets the same texts.
+// Calls a function of Localization by its selector, as callers in other languages do, so that all get the same texts.
 // Null when memory runs out.
 template <class... Arguments>
 NSString* sendToLocalization(std::string_view selector, const Arguments&... arguments) noexcept {
