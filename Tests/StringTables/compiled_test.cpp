@@ -140,7 +140,8 @@ TEST_F(CompiledTable, KeepsIntactEntriesOfADamagedTable) {
         std::size_t mostMissing; // texts that are not found
         std::string error;       // part of the error of reading all entries
     } cases[] = {
-        // A text, one in UTF-8, the dictionary, a string in UTF-16, the offsets, the trailer, slots, the index's head.
+        // An ASCII text, a UTF-8 text, the dictionary, a UTF-16 string, the offsets, the trailer, slots, the index's
+        // head.
         {__LINE__, bytes.find("Text number 1") + 3, 1, 1, "the table's index contradicts the entry"},
         {__LINE__, bytes.find("Текст номер") + 3, 1, 1, "the table's index contradicts the entry"},
         {__LINE__, parts.index.frontSize(), 40, 0, ""},

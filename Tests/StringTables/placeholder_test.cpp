@@ -14,8 +14,8 @@ std::string size(const Placeholder::Size& size) {
     return size.from == From::none ? "" : std::to_string(size.value);
 }
 
-// Shows every placeholder of `format` as "<position$ flags width .precision :bits kind conversion>" without the spaces,
-// where the kind is "i" or "n" for integers and numbers and else empty; shows the rest unchanged.
+// Shows every placeholder of `format` as "<position$ flags width .precision :bits kind conversion>" without the spaces;
+// the kind is "i" for an integer, "n" for a floating-point number and otherwise empty. Shows the rest unchanged.
 std::string marked(std::string_view format) {
     std::string out;
     std::size_t at = 0;
@@ -88,8 +88,8 @@ TEST(Placeholder, IgnoresInvalidPlaceholders) {
 }
 
 TEST(Placeholder, GivesTheSignatureOfAFormat) {
-    // A letter for each argument (text, integer, number; '-' for none); then 'm' if positions and order are mixed, '%'
-    // for a lone percent sign, and the position and both kinds of a conflict.
+    // A letter for each argument (text, integer, number; '-' for none); then 'm' if the format takes arguments both by
+    // position and in order, '%' for a lone percent sign, and the position and both kinds of a conflict.
     const auto described = [](std::string_view format) {
         const StringTables::FormatSignature signature = StringTables::signatureOf(format);
         std::string out;

@@ -1,4 +1,4 @@
-// Plural tables in both forms: content, notes with locations, damaged tables, and the writer.
+// Plural tables in XML and binary form: content, notes with locations, damaged tables, and the writer.
 #include "StringTables/internal/PluralPieces.h"
 #include "StringTables/internal/PluralTable.h"
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Names that were made to have one hash cost as little as others. The test replaces memcmp and bcmp, which compare long
+// Names made to have the same hash cost as little as others. The test replaces memcmp and bcmp, which compare long
 // names, and counts their calls: a hash table whose names all collide needs four times as many for twice the names.
 #include "AssetCatalog/internal/Builder.h"
 #include "AssetCatalog/internal/Catalog.h"
@@ -228,7 +228,7 @@ const Command commands[] = {
      }}};
 
 TEST(Collisions, CostTheProgramNothing) {
-    for (const Hash& hash : std::span(hashes).first(2)) {
+    for (const Hash& hash : std::span(hashes).first(2)) { // CostACatalogNothing tests the third
         const Names names = hash.make(many);
         std::vector<std::size_t> some(std::size(commands)), all(some);
         for (auto* const counts : {&some, &all}) {

@@ -140,7 +140,7 @@ TEST(NSDataAsset, ShowsTheCatalogsBytes) {
     EXPECT_FALSE(NSDataAsset::assetWithName("send", bundle()));
 }
 
-// An empty file is at the place of the next one in the catalog.
+// An empty file has the same offset in the catalog as the file after it.
 TEST(NSDataAsset, TellsEmptyFilesFromTheNext) {
     const Support::TemporaryFolder folder;
     std::vector<AssetCatalog::Asset> assets;

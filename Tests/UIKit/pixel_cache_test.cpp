@@ -24,7 +24,7 @@ TEST(PixelCache, KeepsTheMostRecentlyUsed) {
     EXPECT_TRUE(cache.find(key(0)));
     EXPECT_FALSE(cache.find(key(1)));
     EXPECT_TRUE(cache.find(key(2)));
-    // Too large to be cached: it is neither kept nor evicts the others.
+    // Too large to be cached: it is not kept and does not evict the others.
     cache.add(key(3), pixels(101));
     EXPECT_FALSE(cache.find(key(3)));
     EXPECT_TRUE(cache.find(key(0)));

@@ -29,7 +29,7 @@ public:
     static void assign(const Colors& record, const UIKit::UIColor& color) { record.setColor(color); }
 };
 
-// Constants without start-up or exit code.
+// Constants that run no code when the program starts or exits.
 constinit const Images send = Module::RecordFactory::image("send");
 constinit const Colors ink = Module::RecordFactory::color("ink");
 constinit const Colors contested = Module::RecordFactory::color("ink");

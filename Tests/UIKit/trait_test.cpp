@@ -45,6 +45,7 @@ TEST(Traits, ScalesAreClamped) {
         EXPECT_EQ(given.over({.displayScale = 3}).displayScale, one.taken);
         EXPECT_EQ(UITraitCollection{}.over(given).displayScale, one.taken == 3 ? 0 : one.taken);
         const Sample::TraitsScope scope(given);
+        // The current scale is kept in single precision.
         EXPECT_EQ(UITraitCollection::current().displayScale, one.taken == 3 ? 0 : static_cast<float>(one.taken));
         UITraitCollection::setCurrent({.displayScale = 3});
         const UIImage image = UIImage::imageNamed("send", Sample::bundle(), &given).value();

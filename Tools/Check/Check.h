@@ -20,8 +20,8 @@ struct Options {
 };
 
 // The findings, sorted by file and location. `diagnostics` has the messages about reading the source. They are replaced
-// by the warnings and errors that are not findings, also those about the settings, the names file, rules in comments
-// and the code.
+// by the warnings and errors that are not findings, including those about the settings, the names file, unknown rules
+// in comments, and unreadable code.
 [[nodiscard]] std::vector<Finding> check(const SourceBundle::Source& source, const Options& options,
                                          SourceBundle::Diagnostics& diagnostics);
 

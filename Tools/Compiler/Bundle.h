@@ -21,11 +21,11 @@ namespace Compiler {
 using Progress = std::function<void(std::string_view what, std::size_t begun, std::size_t all)>;
 
 // Compiles `source`, which was read from `folders`, into `bundle`. The new bundle is built in another folder and then
-// replaces the old one atomically: readers find one of the two, even if the compile is killed. To `diagnostics` are
-// added problems with assets and, as notes, the values of Info.plist and the further Info.plist files that the bundle
-// cannot have; if it contains errors, also earlier ones, the bundle is unchanged and the result is a success. Errors in
-// the result: `bundle` is neither a compiled bundle nor an empty or new folder, or it is or contains one of `folders`;
-// the source's Info.plist cannot be read; a file cannot be written or would exceed its limits. Throws
+// replaces the old one atomically: readers find one of the two, even if the compile is killed. Adds to `diagnostics`
+// problems with assets and, as notes, the values of Info.plist and the further Info.plist files that the bundle cannot
+// have. If `diagnostics` contains errors, including earlier ones, the bundle is unchanged and the result is a success.
+// Errors in the result: `bundle` is neither a compiled bundle nor an empty or new folder, or it is or contains one of
+// `folders`; the source's Info.plist cannot be read; a file cannot be written or would exceed its limits. Throws
 // std::runtime_error if the plug-in that draws pictures cannot be loaded.
 [[nodiscard]] Runtime::Result<void> compileBundle(const SourceBundle::Source& source,
                                                   std::span<const std::filesystem::path> folders,

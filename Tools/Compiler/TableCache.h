@@ -25,8 +25,8 @@ public:
 
     // The line of the mark file for `table`, the bytes of the compiled table; empty for an empty key.
     [[nodiscard]] static std::string record(const std::string& key, std::string_view table);
-    // The same line for the table at `file`, or no value if the last compile listed none for the key
-    // or the file has other bytes.
+    // The same line for the table at `file`, or no value if the last compile listed none for the key or the file has
+    // other bytes.
     [[nodiscard]] std::optional<std::string> find(const std::string& key, const std::filesystem::path& file) const;
 
 private:

@@ -28,7 +28,7 @@ namespace {
 namespace layout = StringTables::bundleLayout;
 constexpr std::string_view regionKey = layout::developmentRegionKey;
 
-// The value of bundleLayout::languagesKey: the language folders of the bundle.
+// The value of bundleLayout::languagesKey: the languages of the bundle.
 std::string languagesOf(const Source& source) {
     std::string list;
     for (const std::string& name : source.languages())

@@ -46,8 +46,8 @@ struct Key {
 // - a text in a .strings may be translated in a string catalog.
 [[nodiscard]] std::optional<std::vector<Unit>> unitsOf(const Key& key, StoredTexts& texts);
 
-// Whether the unit has a development text but no translation, unless it is a plural form that the language does not
-// need (needsCategory()), or has a translation that a string catalog marks as new.
+// Whether a string catalog marks the translation as new, or there is none although the unit has a development text and,
+// if it is a plural form, the language needs it (needsCategory()).
 [[nodiscard]] bool isMissing(const Unit& unit, std::string_view language);
 
 } // namespace Exchange

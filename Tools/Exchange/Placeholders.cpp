@@ -17,29 +17,29 @@ using StringTables::PluralVariable;
 namespace {
 
 // The arguments of a text. Positions count from 1.
-struct Needs {
-    std::map<std::size_t, Placeholder::Kind> arguments; // by position
-    std::map<std::string, std::size_t> variables;       // the positions of their numbers by name; 0 in a string catalog
-    std::optional<std::size_t> number;                  // the position of the number that selects the plural form
+struct Arguments {
+    std::map<std::size_t, Placeholder::Kind> kinds; // by position
+    std::map<std::string, std::size_t> variables;   // by name, the position of the number; 0 in a string catalog
+    std::optional<std::size_t> number;              // the position of the number that selects the plural form
 };
 
-void add(Needs& needs, const StringTables::FormatSignature& signature) {
+void add(Arguments& arguments, const StringTables::FormatSignature& signature) {
     for (std::size_t i = 0; i < signature.arguments.size(); ++i)
         if (signature.arguments[i])
-            needs.arguments.emplace(i + 1, *signature.arguments[i]);
+            arguments.kinds.emplace(i + 1, *signature.arguments[i]);
 }
 
 // The arguments of a format or form of a .stringsdict entry.
-Needs pluralNeeds(PluralPieces pieces) {
-    Needs needs;
+Arguments pluralArguments(PluralPieces pieces) {
+    Arguments arguments;
     StringTables::FormatSignature signature;
     while (const auto piece = pieces.next())
         if (piece->variable != nullptr)
-            needs.variables.emplace(piece->variable->name, piece->arguments.value);
+            arguments.variables.emplace(piece->variable->name, piece->arguments.value);
         else
             signature.add(piece->placeholder, piece->arguments);
-    add(needs, signature);
-    return needs;
+    add(arguments, signature);
+    return arguments;
 }
 
 // Removes every `mark`, which begins with "%", from the text. Returns whether there was one. In "%%arg" there is none.
@@ -59,15 +59,15 @@ bool removeAll(std::string& text, std::string_view mark) {
 }
 
 // The arguments of any other text; `plural`: its format if it is in a string catalog and has one, or null.
-Needs otherNeeds(std::string text, const PluralFormat* plural) {
-    Needs needs;
+Arguments otherArguments(std::string text, const PluralFormat* plural) {
+    Arguments arguments;
     if (plural != nullptr)
         for (const PluralVariable& variable : plural->variables)
             if (removeAll(text, "%#@" + variable.name + "@"))
-                needs.variables.emplace(variable.name, 0);
+                arguments.variables.emplace(variable.name, 0);
     removeAll(text, "%arg"); // the number of a substitution
-    add(needs, StringTables::signatureOf(text));
-    return needs;
+    add(arguments, StringTables::signatureOf(text));
+    return arguments;
 }
 
 const PluralVariable* variableNamed(const PluralFormat& plural, const std::string& name) {
@@ -85,41 +85,41 @@ std::size_t argumentOf(const PluralFormat& plural, const PluralVariable& variabl
 }
 
 // Finds the arguments of one unit's development text and of its translations.
-class Comparison {
+class ArgumentFinder {
 public:
-    Comparison(const Unit& unit, const SourceBundle::SourceEntry& development)
+    ArgumentFinder(const Unit& unit, const SourceBundle::SourceEntry& development)
         : part_(unit.id.part), isPlural_(unit.id.category), plural_(development.plural) {}
 
-    Needs needsOf(const std::string& text) const {
+    Arguments argumentsOf(const std::string& text) const {
         if (plural_ == nullptr || part_.empty() || part_.front() == devicePart || part_.front() == substitutionsPart)
-            return otherNeeds(text, plural_);
+            return otherArguments(text, plural_);
         if (!isPlural_) {
             PluralFormat format = *plural_;
             format.format = text;
-            return pluralNeeds(PluralPieces(format));
+            return pluralArguments(PluralPieces(format));
         }
         const PluralVariable* const variable = variableNamed(*plural_, part_.back());
         if (variable == nullptr) // only the translation has it
-            return otherNeeds(text, nullptr);
+            return otherArguments(text, nullptr);
         const std::size_t own = argumentOf(*plural_, *variable);
-        Needs needs = pluralNeeds(PluralPieces(*plural_, text, *variable, own));
-        needs.number = own;
-        return needs;
+        Arguments arguments = pluralArguments(PluralPieces(*plural_, text, *variable, own));
+        arguments.number = own;
+        return arguments;
     }
 
     // The arguments of all forms of the development text together.
-    Needs allNeeds(std::span<const Unit> all) const {
-        Needs together;
+    Arguments allArguments(std::span<const Unit> all) const {
+        Arguments together;
         for (const Unit& unit : all) {
             if (unit.id.part != part_)
                 continue;
-            const Needs needs = needsOf(unit.source);
-            together.arguments.insert(needs.arguments.begin(), needs.arguments.end());
-            together.variables.insert(needs.variables.begin(), needs.variables.end());
-            together.number = needs.number;
+            const Arguments arguments = argumentsOf(unit.source);
+            together.kinds.insert(arguments.kinds.begin(), arguments.kinds.end());
+            together.variables.insert(arguments.variables.begin(), arguments.variables.end());
+            together.number = arguments.number;
         }
         if (isPlural_ && !together.number) // in a string catalog the first number selects the form
-            for (const auto& [position, kind] : together.arguments)
+            for (const auto& [position, kind] : together.kinds)
                 if (kind != Placeholder::Kind::text && !together.number)
                     together.number = position;
         return together;
@@ -146,18 +146,18 @@ const char* nameOf(Placeholder::Kind kind) {
 }
 
 // The first mismatch of `given` with the arguments that are required (`needed`) or allowed; no value if there is none.
-std::optional<std::string> fault(const Needs& given, const Needs& needed, const Needs& allowed) {
-    for (const auto& [position, kind] : given.arguments) {
-        const auto known = allowed.arguments.find(position);
-        const bool isNumber = known == allowed.arguments.end() && position == allowed.number;
-        if (known == allowed.arguments.end() && !isNumber)
+std::optional<std::string> fault(const Arguments& given, const Arguments& needed, const Arguments& allowed) {
+    for (const auto& [position, kind] : given.kinds) {
+        const auto known = allowed.kinds.find(position);
+        const bool isNumber = known == allowed.kinds.end() && position == allowed.number;
+        if (known == allowed.kinds.end() && !isNumber)
             return "takes an argument " + std::to_string(position) + ", which the development text does not take";
-        if (known != allowed.arguments.end() && known->second != kind)
+        if (known != allowed.kinds.end() && known->second != kind)
             return "takes argument " + std::to_string(position) + " as " + nameOf(kind) + ", the development text as " +
                    nameOf(known->second);
     }
-    for (const auto& [position, kind] : needed.arguments)
-        if (position != allowed.number && !given.arguments.contains(position))
+    for (const auto& [position, kind] : needed.kinds)
+        if (position != allowed.number && !given.kinds.contains(position))
             return "lacks argument " + std::to_string(position) + ", " + nameOf(kind);
     for (const auto& [name, position] : needed.variables)
         if (!given.variables.contains(name))
@@ -177,8 +177,8 @@ std::optional<std::string> fault(const Needs& given, const Needs& needed, const 
 
 std::optional<std::string> placeholderFault(const std::string& translation, const Unit& expected,
                                             std::span<const Unit> all, const SourceBundle::SourceEntry& development) {
-    const Comparison comparison(expected, development);
-    return fault(comparison.needsOf(translation), comparison.needsOf(expected.source), comparison.allNeeds(all));
+    const ArgumentFinder finder(expected, development);
+    return fault(finder.argumentsOf(translation), finder.argumentsOf(expected.source), finder.allArguments(all));
 }
 
 } // namespace Exchange

@@ -39,7 +39,7 @@ struct PluralRule {
     std::string_view expression;
 };
 
-// "nplurals=2; plural=(n != 1);"
+// Parses "nplurals=2; plural=(n != 1);".
 std::optional<PluralRule> pluralRule(std::string_view forms) {
     constexpr std::string_view nplurals = "nplurals=", plural = "plural=";
     const std::size_t end = forms.find(';');

@@ -78,7 +78,7 @@ private:
                 current_ = {}; // the flags before it belong to the obsolete entry
             return;
         }
-        if (part_ == Part::target) // a comment is before its entry
+        if (part_ == Part::target) // a comment belongs to the entry after it
             finish();
         if (!take("#,"))
             return;
@@ -209,7 +209,7 @@ private:
             value = value * base + digit;
             line_.remove_prefix(1);
         }
-        constexpr int firstBeyondAscii = 0x80; // from here on, one byte is no UTF-8 character
+        constexpr int firstBeyondAscii = 0x80; // from here on, a single byte is not valid UTF-8
         out += static_cast<char>(value);
         return count != 0 && value < firstBeyondAscii;
     }

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
 
-// `white`, which is white space, from its last line break on; all of it without one.
+// The white space `white` from its last line break on, or all of it if it has none.
 std::string lastLine(std::string white) {
     std::size_t at = white.rfind('\n');
     if (at == white.npos)
@@ -135,8 +135,8 @@ Runtime::Result<void> PropertyListDocument::apply(const Change& change) {
 
 void PropertyListDocument::add(const Change& change, const std::string& value) {
     const std::string comment = StringTables::internal::withoutMark(change.development->comment, "--");
-    // XML reads no escapes in a comment. One with a character that the encoding may lack is written with them
-    // nevertheless, so that it is ASCII.
+    // XML does not read escapes in comments. Nevertheless, a comment with a character that the encoding may lack is
+    // written with escapes, so that it is ASCII.
     if (!comment.empty() && canBeXml(comment))
         added_.append(line_)
             .append("<!-- ")

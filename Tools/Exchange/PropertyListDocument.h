@@ -54,7 +54,7 @@ private:
     const XmlNode& dictionary_;               // the top-level one in xml_; it stays in place when xml_ is moved
     Runtime::NameMap<const XmlNode*> values_; // the values of dictionary_ by key
     std::string line_;                        // the line break and indentation before a key of dictionary_
-    std::string indent_;                      // of one level, as that of dictionary_'s keys; empty without line breaks
+    std::string indent_; // of one level: that of dictionary_'s keys, or a tab; empty without line breaks
     TextEdits edits_;
     std::string added_; // the new pairs of the top-level dictionary
 };

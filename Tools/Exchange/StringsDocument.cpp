@@ -33,7 +33,7 @@ std::size_t stringEnd(const std::string& text, std::size_t at) {
     if (text[at] == '"' || text[at] == '\'')
         return static_cast<std::size_t>(StringTables::internal::quotedEnd(begin + at, begin + text.size()).close -
                                         begin + 1);
-    constexpr char firstOfSeparator = '\xE2'; // U+2028 or U+2029; a string without quotation marks is ASCII
+    constexpr char firstOfSeparator = '\xE2'; // the first byte of U+2028 and U+2029; an unquoted string is ASCII
     while (at < text.size() && !StringTables::internal::beginsComment(begin + at) &&
            std::string_view(" \t\v\f\r\n=;}").find(text[at]) == std::string_view::npos && text[at] != firstOfSeparator)
         ++at;
