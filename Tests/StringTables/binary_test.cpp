@@ -14,8 +14,9 @@ std::string bigEndian(std::uint64_t number, std::size_t size) {
     return out;
 }
 
-// A file of these objects, the first at the top. Offsets have `offsetSize` bytes; the references in the objects must
-// have `refSize`.
+// A file of these objects, the first at the top. An object begins with its type (1 integer, 5 ASCII, 6 UTF-16, A array,
+// D dictionary) and its size in four bits each; the size F means that an integer object with the size follows. Offsets
+// have `offsetSize` bytes; the references in the objects must have `refSize`.
 std::string file(const std::vector<std::string>& objects, std::size_t offsetSize = 1, std::size_t refSize = 1) {
     std::string out = "bplist00", offsets;
     for (const std::string& object : objects) {
@@ -31,7 +32,8 @@ std::string file(const std::vector<std::string>& objects, std::size_t offsetSize
 const std::vector<std::string> plain = {"\xD2\1\3\2\4", "\x52OK", "\x52Ja", "\x61\x00\xE9"s,
                                         "\x5F\x10\x12In Ordnung, weiter"};
 const Pairs plainPairs = {{"OK", "Ja"}, {"é", "In Ordnung, weiter"}};
-// Places in file(plain): objects at 8, 13, 16, 19, 22, offsets from 43, trailer from 48.
+// Places in file(plain): objects at 8, 13, 16, 19, 22, offsets from 43, trailer from 48; in the trailer the sizes of an
+// offset and a reference at 6 and 7, the count of objects at 8, the top object at 16, the place of the offsets at 24.
 constexpr std::size_t trailerAt = 48;
 
 // As file(), but objects 1 and 2 are exchanged in the file: the offsets are not in the order of the objects' numbers.

@@ -77,7 +77,7 @@ constexpr std::uint64_t inverse(std::uint64_t number) {
     return result;
 }
 
-// Names with the same std::hash<std::string> in GCC's library.
+// Names with the same std::hash<std::string> in GCC's library, a MurmurHash2.
 inline std::vector<std::string> inStandardHash(std::size_t count) {
     constexpr std::uint64_t factor = 0xC6A4A7935BD1E995, seed = 0xC70F6907;
     const auto folded = [](std::uint64_t value) { return value ^ value >> 47; };

@@ -17,36 +17,37 @@ struct Module {
     static constexpr std::string_view sourceName = "TuistAssets+Lumora";
     class RecordFactory;
 };
-using Images = SwiftUI::ImageRecord<Module>;
-using Colors = SwiftUI::ColorRecord<Module>;
-using DataSets = SwiftUI::DataRecord<Module>;
+using ImageRecord = SwiftUI::ImageRecord<Module>;
+using ColorRecord = SwiftUI::ColorRecord<Module>;
+using DataRecord = SwiftUI::DataRecord<Module>;
 
 class Module::RecordFactory {
 public:
-    static constexpr Images image(const char* name) { return Images(name); }
-    static constexpr Colors color(const char* name) { return Colors(name); }
-    static constexpr DataSets data(const char* name) { return DataSets(name); }
-    static void assign(const Colors& record, const UIKit::UIColor& color) { record.setColor(color); }
+    static constexpr ImageRecord image(const char* name) { return ImageRecord(name); }
+    static constexpr ColorRecord color(const char* name) { return ColorRecord(name); }
+    static constexpr DataRecord data(const char* name) { return DataRecord(name); }
+    static void assign(const ColorRecord& record, const UIKit::UIColor& color) { record.setColor(color); }
 };
 
 // Constants that run no code when the program starts or exits.
-constinit const Images send = Module::RecordFactory::image("send");
-constinit const Colors ink = Module::RecordFactory::color("ink");
-constinit const Colors contested = Module::RecordFactory::color("ink");
-constinit const Colors assigned = Module::RecordFactory::color("ink");
-constinit const DataSets regions = Module::RecordFactory::data("regions");
-static_assert(std::is_trivially_destructible_v<Images> && std::is_trivially_destructible_v<Colors> &&
-              std::is_trivially_destructible_v<DataSets>);
+constinit const ImageRecord send = Module::RecordFactory::image("send");
+constinit const ColorRecord ink = Module::RecordFactory::color("ink");
+constinit const ColorRecord contested = Module::RecordFactory::color("ink");
+constinit const ColorRecord assigned = Module::RecordFactory::color("ink");
+constinit const DataRecord regions = Module::RecordFactory::data("regions");
+static_assert(std::is_trivially_destructible_v<ImageRecord> && std::is_trivially_destructible_v<ColorRecord> &&
+              std::is_trivially_destructible_v<DataRecord>);
 
 // Users can copy records of images and data, but not of colours, and can create none.
 template <class Record>
 constexpr bool isMadeByTheModuleOnly =
     !std::is_default_constructible_v<Record> && !std::is_constructible_v<Record, const char*> &&
     !std::is_constructible_v<Record, std::string>;
-static_assert(isMadeByTheModuleOnly<Images> && isMadeByTheModuleOnly<Colors> && isMadeByTheModuleOnly<DataSets>);
-static_assert(std::is_trivially_copyable_v<Images> && std::is_trivially_copyable_v<DataSets>);
-static_assert(!std::is_copy_constructible_v<Colors> && !std::is_move_constructible_v<Colors> &&
-              !std::is_copy_assignable_v<Colors>);
+static_assert(isMadeByTheModuleOnly<ImageRecord> && isMadeByTheModuleOnly<ColorRecord> &&
+              isMadeByTheModuleOnly<DataRecord>);
+static_assert(std::is_trivially_copyable_v<ImageRecord> && std::is_trivially_copyable_v<DataRecord>);
+static_assert(!std::is_copy_constructible_v<ColorRecord> && !std::is_move_constructible_v<ColorRecord> &&
+              !std::is_copy_assignable_v<ColorRecord>);
 
 int lookupsBy(auto&& read) {
     const int before = Module::lookups;
@@ -100,9 +101,9 @@ TEST(AssetRecord, ColorReadByManyThreadsFirst) {
 
 TEST(AssetRecordDeathTest, MissingAssetStopsTheProcess) {
     Sample::bundle(); // created in this process: a stopped child would leave its folders behind
-    static constexpr Images image = Module::RecordFactory::image("star-big_.");
-    static constexpr DataSets data = Module::RecordFactory::data("send");
-    static constinit const Colors color = Module::RecordFactory::color("");
+    static constexpr ImageRecord image = Module::RecordFactory::image("star-big_.");
+    static constexpr DataRecord data = Module::RecordFactory::data("send");
+    static constinit const ColorRecord color = Module::RecordFactory::color("");
     // File and lines are those that existing crash reports name.
     const auto report = [](const std::string& message, const char* line) {
         return "^Fatal error: " + message + ": file TuistAssets\\+Lumora, line " + line + "\n$";
