@@ -70,8 +70,8 @@ endfunction()
 
 # lumora_library(Name SOURCES a.cpp b.cpp LINK Lumora::Other ... [PRIVATE_LINK ...])
 # A static library of position-independent code from sources of one folder: the target lumora-Name, linked as
-# Lumora::Name. Its headers are included as "FOLDER/Header.h". LINK has the libraries whose headers it includes,
-# PRIVATE_LINK those that only its sources need.
+# Lumora::Name. Its headers are included as "FOLDER/Header.h". LINK has the libraries whose headers its users may
+# include, too, PRIVATE_LINK those that only its own sources need.
 function(lumora_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;PRIVATE_LINK")
     add_library(lumora-${name} STATIC ${arg_SOURCES})

@@ -97,8 +97,8 @@ function(lumora_add_module name)
 endfunction()
 
 # lumora_install_module(Name [EXPORT set] [VERSIONED])
-# Installs library, headers and bundle of a module. The bundle is in the library's folder; with VERSIONED it is in the
-# subfolder Name-SOVERSION, so that two versions can be installed together. EXPORT is that of
+# Installs library, headers and bundle of a module. The bundle is in the library's folder; with VERSIONED it is in a
+# subfolder (lumora-1 for liblumora.so.1), so that two versions can be installed together. EXPORT is that of
 # install(TARGETS). Components: runtime, development.
 function(lumora_install_module name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "VERSIONED" "EXPORT" "")

@@ -37,7 +37,7 @@ set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The platform that modules of texts, ima
 and the fitness module with its bundle.")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake and pkg-config packages for programs that use the module
 or make modules of their own.")
-set(CPACK_COMPONENT_TOOLS_DESCRIPTION "The program lumora generates typed trees from an application's resources,
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION "The program lumora generates typed accessors for an application's resources,
 compiles, checks, shows and exchanges them.")
 
 # Files that every Debian package has.

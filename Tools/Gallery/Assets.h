@@ -9,7 +9,8 @@
 namespace Gallery {
 
 struct Assets {
-    // [{ "kind", "catalog", "name", "accessor", "template", "variants" }], sorted by catalog and name.
+    // [{ "kind", "catalog", "name", "accessor", "template", "variants" }] as in Docs/gallery.md, sorted by catalog and
+    // name.
     nlohmann::ordered_json list = nlohmann::ordered_json::array();
     // Data URIs of PNG and JPEG files; image variants refer to them by index.
     nlohmann::ordered_json pictures = nlohmann::ordered_json::array();

@@ -8,8 +8,8 @@
 
 namespace Gallery {
 
-// { "languages": [CODE], "texts": [{ "table", "key", "accessor", "reason", "comment", "fixed", "values" }] }, with the
-// development language first and a value, or null, for each language.
+// { "languages": [CODE], "texts": [{ "table", "key", "accessor", "reason", "comment", "fixed", "values" }] } as in
+// Docs/gallery.md.
 [[nodiscard]] nlohmann::ordered_json textsOf(const SourceBundle::Source& source, const Generator::NamesFile& names);
 
 } // namespace Gallery

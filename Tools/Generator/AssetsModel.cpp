@@ -15,7 +15,7 @@ using SourceBundle::Topic;
 
 namespace {
 
-// The namespaces of an asset, beginning with the catalog's, and its own name. Those without a usable name are empty.
+// The namespaces of an asset, beginning with the catalog's, and its own name. A part without a usable name is empty.
 std::vector<std::string> pathOf(const SourceAsset& asset) {
     std::vector<std::string> path{Namer::tableSpelling(asset.catalog)};
     std::string_view name = asset.name;

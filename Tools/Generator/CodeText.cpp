@@ -16,7 +16,7 @@ template <class... Values> std::string printed(const char* format, Values... val
     return buffer;
 }
 
-// Most texts consist of these, which need no decoding.
+// Most texts consist of such characters, which need no decoding.
 constexpr bool isVisibleAscii(char c) {
     return c >= ' ' && c < 0x7F;
 }

@@ -27,7 +27,7 @@ public:
     // Adds `head`, the items (at least one) with ", " between them, `tail` and a line feed. Wraps between items;
     // continuation lines are aligned with the first item.
     void addList(std::string_view head, const std::vector<std::string>& items, std::string_view tail);
-    // Adds "HEAD = VALUE" and a line feed, wrapped after the sign if the line would be too long.
+    // Adds "HEAD = VALUE" and a line feed, wrapped after the "=" if the line would be too long.
     void addAssignment(std::string_view head, std::string_view value);
     // Adds the text as a comment, wrapped between words; continuation lines are indented.
     void addComment(std::string_view text);

@@ -175,12 +175,12 @@ AccessorTable leftOut(const Source& source, const SourceTable& table, const std:
 
 std::vector<AccessorTable> accessorTables(const Source& source, NamesFile& names, Diagnostics& diagnostics) {
     std::vector<AccessorTable> tables;
-    std::map<std::string, const SourceTable*> spelled;
+    std::map<std::string, const SourceTable*> owners; // by namespace
     for (const SourceTable& table : source.tables) {
         if (!source.hasDevelopmentLanguage(table))
             continue;
         std::string spelling = Namer::tableSpelling(table.name);
-        const auto [known, isNew] = spelled.emplace(spelling, &table);
+        const auto [owner, isNew] = owners.emplace(spelling, &table);
         if (!spelling.empty() && isNew) {
             AccessorTable& out = tables.emplace_back(AccessorTable{table.name, std::move(spelling), {}, {}});
             TableBuilder(source, table, names).build(out, diagnostics);
@@ -188,7 +188,7 @@ std::vector<AccessorTable> accessorTables(const Source& source, NamesFile& names
         }
         const std::string reason = spelling.empty()
                                        ? "its name has no letter or digit"
-                                       : "the name " + spelling + " belongs to " + fileOf(*known->second).string();
+                                       : "the name " + spelling + " belongs to " + fileOf(*owner->second).string();
         diagnostics.add(Severity::warning, {.message = "the table has no accessors: " + reason, .file = fileOf(table)},
                         spelling.empty() ? Topic::noAccessor : Topic::nameClash);
         tables.push_back(leftOut(source, table, reason));

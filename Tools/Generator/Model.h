@@ -1,5 +1,5 @@
 // Generator/Model.h
-// What the emitters write: the accessors of each table, with namespaces, C++ names and parameters, and the constants.
+// The accessors of each table for the emitter, with their namespaces, C++ names and parameters.
 // Ownership: entries point into the source, which must outlive the model. Threads: plain values.
 #pragma once
 

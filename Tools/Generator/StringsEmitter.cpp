@@ -16,8 +16,8 @@ namespace Generator {
 
 namespace {
 
-// A table's header ends where an outermost group begins after at least this many entries, and after a quarter more in
-// any case. Larger tables have more entries per header, so that there are at most maxHeaders.
+// A table is split into headers of about this many entries: each ends before the next outermost group, or at the latest
+// after a quarter more. Larger tables have more entries per header, so that there are at most maxHeaders.
 constexpr std::size_t minEntriesPerHeader = 200;
 constexpr std::size_t maxHeaders = 64;
 // The longest comment for translators, in bytes; longer ones are cut.

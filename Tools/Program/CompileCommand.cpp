@@ -46,7 +46,7 @@ void addCompileCommand(CLI::App& program, Exit& exit) {
         ->required()
         ->check(notEmpty());
     options->source.addPseudoTo(*command);
-    // The names file is not read, only listed in the depfile: so callers can pass the same options as to generate.
+    // Accepted, so that callers can pass the same options as to generate, but not read: only the depfile lists it.
     options->source.addNamesTo(*command);
     command->add_flag("--strict", options->isStrict, "Treat warnings as errors");
     options->depfile.addOptions(*command);

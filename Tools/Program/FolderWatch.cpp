@@ -25,7 +25,7 @@ constexpr std::uint32_t events = IN_CLOSE_WRITE | IN_ATTRIB | IN_CREATE | IN_DEL
                                  IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
 constexpr milliseconds quiet{50};          // if no change follows in this time, the changes are complete
 constexpr milliseconds longestBurst{1000}; // after this time, consecutive changes are reported although more follow
-constexpr milliseconds pollInterval{500};  // between two looks for missing folders
+constexpr milliseconds pollInterval{500};  // between two checks for missing folders
 
 // The absolute path without a trailing slash.
 fs::path normal(const fs::path& path) {

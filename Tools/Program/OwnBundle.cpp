@@ -5,8 +5,9 @@
 namespace Tools {
 
 std::string ownBundle() {
-    return Runtime::folderFromProgram({LUMORA_LIBRARIES_FROM_PROGRAM "/" LUMORA_MODULE_FOLDER "/Lumora.bundle",
-                                       "../lib/Lumora.bundle"}); // installed ("../lib/lumora-1/..."), built
+    // Where the bundle is installed ("../lib/lumora-1/Lumora.bundle"), then where it is in the build tree.
+    return Runtime::folderFromProgram(
+        {LUMORA_LIBRARIES_FROM_PROGRAM "/" LUMORA_MODULE_FOLDER "/Lumora.bundle", "../lib/Lumora.bundle"});
 }
 
 } // namespace Tools

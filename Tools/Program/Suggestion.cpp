@@ -44,14 +44,14 @@ unsigned editCost(std::string_view one, std::string_view other) {
 std::string suggestion(std::string_view word, std::span<const std::string> known) {
     if (word.size() > maxComparedBytes)
         return "";
-    unsigned most = static_cast<unsigned>(word.size()) * costOfEdit / 3;
+    unsigned costLimit = static_cast<unsigned>(word.size()) * costOfEdit / 3;
     const std::string* best = nullptr;
     for (const std::string& name : known) {
         if (name.size() > maxComparedBytes)
             continue;
         const unsigned cost = editCost(word, name);
-        if (cost < most || (cost == most && best == nullptr)) {
-            most = cost;
+        if (cost < costLimit || (cost == costLimit && best == nullptr)) {
+            costLimit = cost;
             best = &name;
         }
     }

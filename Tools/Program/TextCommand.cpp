@@ -33,8 +33,8 @@ struct TextOptions {
 
 using StringTables::FormatSignature;
 
-// Converts `text` to a number if `kind` is one and `text` is such a number in range. Otherwise, and if it is an integer
-// that would be printed differently ("007", "+1"), it stays a text.
+// `text` as an argument for a placeholder of this kind: a number if the kind asks for one and `text` is one in range,
+// but not an integer that would be printed differently ("007", "+1"); otherwise a text.
 Foundation::FormatArgument argument(const std::string& text, FormatSignature::Kind kind) {
     const char* const end = text.data() + text.size();
     std::int64_t integer = 0;

@@ -35,7 +35,7 @@ Tools::Exit failWith(const CLI::Error& wrong, const CLI::App& program) {
 // NOLINTNEXTLINE(bugprone-exception-escape): only std::bad_alloc can be thrown outside of the try block
 int main(int argc, char** argv) {
     std::signal(SIGXFSZ, SIG_IGN); // a file that grows beyond a limit is a failed write, not the end of the process
-    ::mallopt(M_TOP_PAD, 4 << 20); // the heap grows in few, large steps
+    ::mallopt(M_TOP_PAD, 4 << 20); // grow the heap in few, large steps: fewer system calls
     CLI::App program("Generates, compiles, checks and shows localized texts and assets.", "lumora");
     program.require_subcommand(0, 1); // words after the first command are always its arguments
     program.set_version_flag("--version", LUMORA_VERSION);

@@ -49,7 +49,7 @@ using PictureCheck = std::function<Runtime::Result<void>(const SetFile& file)>;
 // what is read. Unusable parts are left out with a warning, such as a set with a broken Contents.json, a file that is
 // missing or outside of its set, a picture that `check` rejects, or an invalid colour. Unsupported features are notes.
 // Errors: a folder that is unreadable, or nested more than maxFolderDepth (SourceFiles.h) deep; a picture that cannot
-// be read because of a system error; a Contents.json that cannot be read because of a transient one (Runtime::Error).
+// be read because of a system error; a Contents.json that cannot be read because of a transient error (Runtime::Error).
 [[nodiscard]] std::vector<SourceAsset> sourceAssets(std::span<const std::filesystem::path> catalogs,
                                                     Diagnostics& diagnostics, const PictureCheck& check = checkPicture);
 

@@ -59,7 +59,7 @@ public:
     }
 
     SourceFiles take() {
-        // Catalogs with the same name must be adjacent.
+        // Catalogs with the same name are combined, so they must be adjacent.
         std::ranges::stable_sort(found_.catalogs, {}, [](const fs::path& catalog) { return catalog.stem(); });
         return std::move(found_);
     }

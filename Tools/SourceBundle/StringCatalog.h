@@ -12,8 +12,8 @@
 
 namespace SourceBundle {
 
-// A key's text in one language. The views are valid during the call of the function that receives them. The other
-// members are those of SourceEntry.
+// A key's text in one language, with members as in SourceEntry. The views are valid only during the call that passes
+// the text.
 struct CatalogText {
     std::string_view language;
     std::string_view key;

@@ -36,8 +36,8 @@ void limitSize(GdkPixbufLoader* loader, gint width, gint height, gpointer isTooL
     gdk_pixbuf_loader_set_size(loader, 1, 1);
 }
 
-// The loader would accept a truncated file. The little-endian number in bytes 4 to 7 counts the bytes after these. A
-// file that formatOf() recognizes as WebP has them.
+// The loader would accept a truncated file. Bytes 4 to 7 are the number of bytes after them, in little-endian order;
+// every file that formatOf() recognizes as WebP has at least 12 bytes.
 bool isCutOffWebp(std::string_view bytes) {
     std::uint64_t fullSize = 8;
     for (std::size_t i = 0; i < 4; ++i)

@@ -1,6 +1,6 @@
 // The coverage of each language.
 
-// How many texts have each status (see statusOf()) in the language with that index.
+// How many texts have each status (see statusOf()) in the language with this index.
 function coverageOf(index) {
     const counts = { translated: 0, same: 0, missing: 0 };
     for (const text of resources.texts)
@@ -20,7 +20,7 @@ function coverageRow(language, index, showMissing) {
     const presentPercent = Math.floor(((counts.translated + counts.same) / all) * 100);
     const notes = [[counts.same, "untranslated"], [counts.missing, "missing"]]
         .filter(([count]) => count > 0).map(([count, what]) => `${numbers.format(count)} ${what}`);
-    const name = make("button", { type: "button", class: "language", title: "Show as second language, and what it lacks" },
+    const name = make("button", { type: "button", class: "language", title: "Show as second language, and list its missing texts" },
         make("bdi", { lang: language.tag, dir: language.direction }, language.name), " ", make("code", {}, language.code));
     name.addEventListener("click", () => showMissing(index, counts));
     return make("li", {}, name, make("span", { class: "percent" }, `${presentPercent} %`), bar,

@@ -4,7 +4,7 @@ function folded(text) {
     return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase().replaceAll("ς", "σ");
 }
 
-// The folded text, and for each of its characters, and its end, the offset in the text.
+// The folded text; for each of its characters, and for its end, the offset in the original text.
 function foldedWithOffsets(text) {
     const characters = [], offsets = [];
     let offset = 0;

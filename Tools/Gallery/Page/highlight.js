@@ -9,7 +9,7 @@ function wordRanges(node, words) {
     for (const word of words)
         for (let begin = text.indexOf(word); begin >= 0; begin = text.indexOf(word, begin + word.length)) {
             let end = begin + word.length;
-            while (offsets[end] === offsets[end - 1]) // a character that folding made several of is highlighted as a whole
+            while (offsets[end] === offsets[end - 1]) // a character that was folded into several is highlighted as a whole
                 ++end;
             ranges.push(new StaticRange({
                 startContainer: node, startOffset: offsets[begin], endContainer: node, endOffset: offsets[end],

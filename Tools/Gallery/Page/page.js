@@ -51,7 +51,7 @@ function goTo(element) {
     step();
 }
 
-// Lists the missing texts of the language with that index or, if there are none, the untranslated ones, or else all.
+// Lists the missing texts of the language with this index or, if there are none, the untranslated ones, or else all.
 function showMissing(index, counts) {
     byId("language-b").selectedIndex = index;
     const untranslated = counts.same ? "same" : "all";

@@ -1,6 +1,6 @@
 // The pictures that depend on a region or sex, recognized by their names: "sexGirl.arab" has the subject "sex…", the sex
 // women and the region "arab"; "male_training_target_maintain_ru" has the subject "…_training_target_maintain", the sex men
-// and the region "ru". Two letters after an underscore are a region only if the name also has a sex: "arrow_up" has none.
+// and the region "ru". Two letters after an underscore are a region only if the name also has a sex: "arrow_up" has no region.
 const sexes = [
     ["men", /(?<![A-Za-z])(male|man|boy)(?![a-z])|(?<=[a-z])(Male|Man|Boy)(?![a-z])/],
     ["women", /(?<![A-Za-z])(female|woman|girl)(?![a-z])|(?<=[a-z])(Female|Woman|Girl)(?![a-z])/],
