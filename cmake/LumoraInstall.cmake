@@ -16,7 +16,7 @@ if(LUMORA_TOOLS)
     install(TARGETS lumora-drawing
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/${LUMORA_PLUGIN_FOLDER} COMPONENT tools)
     set(help ${PROJECT_BINARY_DIR}/Tools/Program/help)
-    if(LUMORA_PACKAGES) # Debian's folder, and man pages compressed as Debian requires
+    if(LUMORA_PACKAGES) # Debian's folder for zsh functions, and a man page compressed as Debian requires
         set(zshFunctions vendor-completions)
         install(CODE "execute_process(COMMAND gzip -9nkf ${help}/lumora.man COMMAND_ERROR_IS_FATAL ANY)" COMPONENT tools)
         install(FILES ${help}/lumora.man.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 RENAME lumora.1.gz COMPONENT tools)

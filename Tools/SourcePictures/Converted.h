@@ -1,5 +1,5 @@
 // SourcePictures/Converted.h
-// Converts raster formats that catalogs do not store to PNG; internal to the plug-in.
+// Converts to PNG the raster formats that catalogs do not store; internal to the plug-in.
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"
