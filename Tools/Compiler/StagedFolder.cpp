@@ -30,13 +30,10 @@ bool isMarked(const fs::path& folder) {
     return fs::is_regular_file(fs::symlink_status(folder / SourceBundle::compiledMark, failed));
 }
 
-// The part between the bundle's name and the six random characters of a staged folder's name.
-constexpr std::string_view stagedMiddle = ".staged-";
-
 bool isStagedName(std::string_view name, std::string_view target) {
-    if (!name.starts_with(target) || !name.substr(target.size()).starts_with(stagedMiddle))
+    if (!name.starts_with(target) || !name.substr(target.size()).starts_with(stagedInfix))
         return false;
-    name.remove_prefix(target.size() + stagedMiddle.size());
+    name.remove_prefix(target.size() + stagedInfix.size());
     return name.size() == 6 && std::ranges::all_of(name, [](unsigned char c) {
                return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
            });
@@ -164,7 +161,7 @@ Runtime::Result<StagedFolder> StagedFolder::create(const fs::path& given) {
     Reserve reserve{reserved(), reserved(), reserved()};
     if (std::ranges::any_of(reserve, [](const Runtime::Descriptor& one) { return one.number() < 0; }))
         return Runtime::systemError(target, "cannot be created");
-    std::string path = target.string().append(stagedMiddle).append("XXXXXX");
+    std::string path = target.string().append(stagedInfix).append("XXXXXX");
     if (::mkdtemp(path.data()) == nullptr)
         return Runtime::systemError(target, "cannot be created");
     StagedFolder folder(target, path, std::move(reserve));

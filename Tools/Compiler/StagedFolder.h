@@ -15,6 +15,8 @@ namespace Compiler {
 
 // The first line of the file SourceBundle::compiledMark.
 inline constexpr std::string_view markText = "Made by lumora compile.\n";
+// The part between the bundle's name and the six random characters of a staged folder's name.
+inline constexpr std::string_view stagedInfix = ".staged-";
 
 class StagedFolder {
 public:

@@ -1,5 +1,6 @@
 #include "Program/FolderWatch.h"
 
+#include "Compiler/StagedFolder.h"
 #include "Runtime/internal/SystemError.h"
 #include "SourceBundle/SourceFiles.h"
 #include <algorithm>
@@ -64,7 +65,7 @@ bool FolderWatch::isIgnored(const fs::path& path) const {
     if (!path.native().starts_with(output))
         return false;
     const std::string_view rest = std::string_view(path.native()).substr(output.size());
-    return rest.empty() || rest.starts_with('/') || rest.starts_with(".staged-"); // the staging folder of a compile
+    return rest.empty() || rest.starts_with('/') || rest.starts_with(Compiler::stagedInfix); // of a compile
 }
 
 Runtime::Result<void> FolderWatch::watchAll() {
