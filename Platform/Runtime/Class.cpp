@@ -56,9 +56,9 @@ const Method& resolve(const Class* cls, std::string_view selector, std::span<con
         reject(cls->name(), "does not respond to", selector);
     if (!std::ranges::equal(method->arguments, arguments,
                             [](TypeTag published, const Argument& given) { return *published == *given.type; }))
-        reject(cls->name(), "was sent arguments of other types or of another number with", selector);
+        reject(cls->name(), "was sent arguments of the wrong types or number with", selector);
     if (*method->result != *result)
-        reject(cls->name(), "returns a result of another type for", selector);
+        reject(cls->name(), "does not return the expected type for", selector);
     return *method;
 }
 

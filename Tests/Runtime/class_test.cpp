@@ -103,10 +103,10 @@ TEST(ClassDeathTest, StopsWithAReportThatNamesClassAndSelector) {
     EXPECT_DEATH(Runtime::send<bool>(&door, "isShut"), "Fatal error: Test.Door does not respond to \"isShut\"");
     EXPECT_DEATH(Runtime::send<bool>(nullptr, "isOpen"), "An unknown class was sent \"isOpen\"");
     EXPECT_DEATH(Runtime::send<bool>(&door, "isOpen", 1),
-                 "Test.Door was sent arguments of other types or of another number with \"isOpen\"");
-    EXPECT_DEATH(Runtime::send<std::string>(&door, "isOpen"), "returns a result of another type for \"isOpen\"");
+                 "Test.Door was sent arguments of the wrong types or number with \"isOpen\"");
+    EXPECT_DEATH(Runtime::send<std::string>(&door, "isOpen"), "does not return the expected type for \"isOpen\"");
     EXPECT_DEATH(Runtime::send<std::string>(&door, "greet:times:factor:loud:", "Ann", 3, 1, true),
-                 "arguments of other types");
+                 "arguments of the wrong types");
 }
 
 } // namespace
