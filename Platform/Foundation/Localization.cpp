@@ -39,7 +39,7 @@ Localization::Localization(std::string_view name, std::string_view bundle, std::
     : name_(name), bundle_(bundle), language_(language), mayHavePlurals_(mayHavePlurals) {}
 
 // The table with that name, which is stored if it is not known yet. A missing table is stored as an empty one, unless
-// there are already tablesWithMissing tables.
+// there are storesMissingBelow tables already.
 LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
     if (LocalizedTable* const known = tables_.find(name))
         return known;
@@ -48,7 +48,7 @@ LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
     std::string texts = pathOf(name, layout::textsSuffix);
     const std::string plurals = mayHavePlurals_ ? pathOf(name, layout::pluralsSuffix) : std::string();
     const auto exists = [](const std::string& path) { return !path.empty() && ::access(path.c_str(), F_OK) == 0; };
-    if (tables_.size() >= tablesWithMissing && !exists(texts) && !exists(plurals))
+    if (tables_.size() >= storesMissingBelow && !exists(texts) && !exists(plurals))
         return nullptr;
     return tables_.add(tables_.unlimited, name, *this, name, std::move(texts), bundle_.size(),
                        mayHavePlurals_ ? readPlurals(plurals, bundle_) : StringTables::PluralTable());

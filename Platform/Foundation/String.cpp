@@ -27,9 +27,9 @@ std::string_view firstCharacters(std::string_view text, std::size_t limit) noexc
     return text;
 }
 
-// A beginning of a format whose only placeholders are "%@" with arguments; usually the whole format. Its result is made
-// in a buffer on the stack, so that the formatted text needs one allocation. Empty if any of the arguments is not a
-// text, or if the format and all arguments together are longer than the buffer.
+// The beginning of a format in which each placeholder is a "%@" that has an argument; usually the whole format. It is
+// formatted in a buffer on the stack, so that the formatted text needs one allocation. Empty if any of the arguments is
+// not a text, or if the format and all arguments together are longer than the buffer.
 class PlainBeginning {
 public:
     PlainBeginning(std::string_view format, StringTables::PercentRange percents,

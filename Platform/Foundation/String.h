@@ -18,7 +18,7 @@ namespace Foundation::String {
 // - "%@ %s %S" print a string;
 // - "%d %i %u" print an integer with the locale's digits, grouping and signs;
 // - "%x %X %o" print an integer in ASCII;
-// - "%hhd", "%hx" and the like print the lowest 8 or 16 bits of an integer, those with any other length all 64;
+// - "%hhd", "%hx" and the like print the lowest 8 or 16 bits of an integer; with any other length, or none, all 64;
 // - "%c" prints the character with that code, U+FFFD for an invalid one;
 // - "%f %F %e %E %g %G" print a floating-point number with the locale's digits, separators and signs;
 // - "%a %A" print a floating-point number in ASCII;
@@ -30,7 +30,7 @@ namespace Foundation::String {
 // Arguments of another kind are converted: a string for a number's placeholder is printed unchanged; a number for "%@"
 // as its description; an integer for "%f" as a floating-point number; a floating-point number for "%d" without its
 // fraction and clamped to 64 bits. The result is at most largestGrowth bytes longer than `format`; a longer one is cut
-// between two characters. Without the library's language data numbers have ASCII digits, '-' and no grouping. Throws
+// between two characters. Without the library's language data, numbers have ASCII digits, '-' and no grouping. Throws
 // std::bad_alloc, and std::system_error when a transient error prevents loading the language data.
 [[nodiscard]] LUMORA_EXPORT std::string format(std::string_view format, const Locale& locale,
                                                std::span<const FormatArgument> arguments);

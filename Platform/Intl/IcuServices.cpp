@@ -52,7 +52,7 @@ std::unique_ptr<icu::DecimalFormat> decimalFormat(const icu::Locale& locale, Num
 }
 
 // The smallest number of digits before the first separator, at most 4: 2 if "1234" has no separator and "12.345" has
-// one. ICU does not report the number in its data, so this formats values to find it.
+// one. ICU has the number in its data but does not report it, so this formats values to find it.
 unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     const icu::UnicodeString separator =
         format.getDecimalFormatSymbols()->getConstSymbol(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol);

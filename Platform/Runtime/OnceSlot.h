@@ -18,7 +18,7 @@ namespace detail {
 // Whether a value exists, and which process is creating it.
 class OnceState {
 public:
-    // A compiler's built-in function saves including <atomic>, which takes a third as long to compile as <string>.
+    // A compiler's built-in function saves including <atomic>, which takes longer to compile than <string>.
     bool isMade() const noexcept { return __atomic_load_n(&state_, __ATOMIC_ACQUIRE) == made; }
     // Waits while another thread creates the value. False if the value exists; true if the caller must create it and
     // then call leave().

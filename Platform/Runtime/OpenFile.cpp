@@ -16,7 +16,7 @@ namespace {
 // Without O_NONBLOCK, opening a pipe would wait for its writer.
 constexpr int openFlags = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
 
-constexpr int leadsOut = EXDEV; // set by openInside(); as openat2() would with RESOLVE_BENEATH
+constexpr int leadsOut = EXDEV; // the errno that openInside() sets, like openat2() with RESOLVE_BENEATH
 
 // Fails with ELOOP if there is a link on the path.
 int openWithoutLinks(const std::string& path, int flags) noexcept {

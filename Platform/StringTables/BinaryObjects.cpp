@@ -30,7 +30,7 @@ bool BinaryObjects::open() {
     if (tableAt < headerSize || tableAt > at)
         return fail(at + 24, "the offset table is outside of the file");
     tableAt_ = static_cast<std::size_t>(tableAt);
-    // Each object takes a byte at least, and an offset in the table.
+    // Each object takes at least one byte, and an offset in the table.
     if (objectCount_ > tableAt_ - headerSize || objectCount_ > (at - tableAt_) / offsetSize_)
         return fail(at + 8, std::to_string(objectCount_) + " objects do not fit into the file");
     return top_ < objectCount_ || fail(at + 16, "there is no object " + std::to_string(top_));

@@ -125,7 +125,7 @@ void BinaryReader::removeReplaced() {
     std::erase_if(contents_.entries, [&](const Entry&) { return isReplaced[number++]; });
 }
 
-// The text of object `number`, a string, which is read if no entry has it yet.
+// The content of object `number`, a string. Reads it only if no entry has it yet.
 bool BinaryReader::string(std::uint64_t number, Object& object, std::string_view& out) {
     const StringUse use = uses_[static_cast<std::size_t>(number)];
     if (use.entry != StringUse::none) {

@@ -103,7 +103,7 @@ public:
 
 private:
     // Whether comment `number` belongs to what begins at `next`: only white space is between them, with at most one
-    // line break, and before a line break the comment is not at the end of another entry's line.
+    // line break, and if there is one, the comment is not at the end of another entry's line.
     bool leadsTo(std::size_t number, std::size_t next) const {
         const std::size_t begin = comments_[number].end;
         const std::string_view between = source_.substr(begin, next - begin);

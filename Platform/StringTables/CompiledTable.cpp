@@ -12,7 +12,7 @@ CompiledTable::CompiledTable(std::string front, const CompiledIndex& index)
 std::uint32_t CompiledTable::check(std::uint32_t number, std::string_view key) const noexcept {
     const CompiledIndex::Slot slot = readSlot(number);
     if (!isInside(slot.keyAt, slot.keySize) || keyOf(slot) != key || !isInside(slot.textAt, slot.textSize))
-        return damaged; // or another key's; the stored state stays unknown
+        return damaged; // or the slot of another key; the stored state stays unknown
     const std::string_view text = textOf(slot);
     const auto size = static_cast<std::ptrdiff_t>(text.size());
     const std::uint64_t hash = Runtime::keyHash(key); // the lookup's may be wrong

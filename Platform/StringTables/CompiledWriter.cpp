@@ -86,7 +86,8 @@ Runtime::Result<std::string> writeCompiled(std::span<const Entry> entries) {
     auto plain = write(entries, Form::binary);
     if (!plain)
         return plain;
-    // Readers would take such a table for damaged, because so many entries share texts (mostTextPerFront).
+    // Readers could take such a table for damaged, because so many entries share texts. The limit is lower than
+    // mostTextPerFront, because the front may be smaller than `plain`.
     if (sizeOf(entries) > 2 * plain->size())
         return plain;
     std::vector<std::uint64_t> hashes;

@@ -24,7 +24,7 @@ public:
 
     XmlFault parse() {
         const std::string_view document = source_.substr(begin_);
-        // A source that was UTF-16 may be half as large again as Table::maxBytes, which still fits into an int.
+        // A source that was UTF-16 has at most 1.5 * Table::maxBytes, which still fits into an int.
         const XML_Status status = XML_Parse(expat_.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
         if (thrown_)
             std::rethrow_exception(thrown_);

@@ -130,7 +130,7 @@ private:
     }
 
     bool conversion() noexcept {
-        // Each conversion, and the one as which it is read ("%s" as "%@", "%D" as "%d"): texts, integers, numbers.
+        // Each conversion, and the one that it is read as ("%s" as "%@", "%D" as "%d"): texts, integers, numbers.
         constexpr std::string_view known = "@sSdiuxXocDUOCfFeEgGaA", read = "@@@diuxXocduocfFeEgGaA";
         const std::size_t found = next() == '\0' ? known.npos : known.find(next());
         if (found == known.npos)

@@ -295,7 +295,7 @@ void readComments(const Contents& contents, std::span<const std::size_t> keyOffs
 } // namespace
 
 std::string_view otherForm(const PluralVariable& variable) noexcept {
-    // `other` is the last category, so the last existing form is it if it exists.
+    // `other` is the last category, so if it has a form, that is the last one.
     const auto last =
         std::find_if(variable.forms.rbegin(), variable.forms.rend(), [](const auto& form) { return form.has_value(); });
     return last == variable.forms.rend() ? std::string_view() : std::string_view(**last);

@@ -21,7 +21,7 @@ std::string quoted(std::string_view text) {
 }
 
 Location Locator::locate(std::size_t offset) noexcept {
-    if (!counts_)
+    if (!countsLines_)
         return {};
     const char* at = source_.data() + at_;
     const char* const end = source_.data() + offset;
@@ -38,7 +38,7 @@ Location Locator::locate(std::size_t offset) noexcept {
 }
 
 Runtime::Error Locator::error(std::size_t offset, std::string message) {
-    if (!counts_)
+    if (!countsLines_)
         return {"byte " + std::to_string(offset) + ": " + message, {}};
     const Location at = locate(offset);
     return {std::move(message), {}, at.line, at.column};

@@ -54,7 +54,7 @@ constexpr std::size_t characterLength(unsigned char lead) noexcept {
     return lead < 0xF0 ? 3 : 4;
 }
 
-// Multiplied by a number, repeats it in each 16-bit lane.
+// `number * everyUnit` has `number` in each of its four 16-bit lanes.
 constexpr std::uint64_t everyUnit = 0x0001000100010001;
 
 // Whether the next eight bytes are four characters of two bytes, as in words of Cyrillic, Greek, Hebrew and Arabic.

@@ -106,7 +106,7 @@ bool XmlReader::isWanted(Kind kind) const noexcept {
 std::string XmlReader::close(XmlPlace) {
     const Level closed = levels_.back();
     levels_.pop_back();
-    if (closed.hasKey) // which is still in text_
+    if (closed.hasKey) // the key is still in text_
         return "the key " + quoted(text_) + " has no value";
     if (closed.kind == Kind::plist && !closed.isFilled)
         return "<plist> is empty";

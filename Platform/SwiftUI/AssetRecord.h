@@ -107,8 +107,8 @@ public:
 
     // As the catalog spells it.
     std::string name() const { return name_; }
-    // Returns the same object at every call until setColor() replaces it; a colour adapts to the current traits. Stops
-    // the process when the asset is missing.
+    // Returns the same object at every call until setColor() replaces it; a colour from the catalog follows the current
+    // traits. Stops the process when the asset is missing.
     const UIKit::UIColor& color() const {
         const UIKit::UIColor* known = color_.find();
         return known != nullptr ? *known : load();

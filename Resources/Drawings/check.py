@@ -37,7 +37,7 @@ def png_size(data):
         length, kind = struct.unpack(">I4s", data[at:at + 8])
         body = data[at + 8:at + 8 + length]
         if zlib.crc32(kind + body) != struct.unpack(">I", data[at + 8 + length:at + 12 + length])[0]:
-            raise ValueError(f"bad check sum of {kind}")
+            raise ValueError(f"bad checksum of {kind}")
         chunks.append((kind, body))
         at += 12 + length
     width, height, depth, colour = struct.unpack(">IIBB", chunks[0][1][:10])
@@ -88,7 +88,7 @@ def pdf_size(data):
         if not data[int(offset):].startswith(b"%d 0 obj\n" % n):
             raise ValueError(f"object {n} is not where the table says")
     length, stream = re.search(rb"/Length (\d+) >>\nstream\n(.*)endstream", data, re.S).groups()
-    if count != 5 or int(length) != len(stream):
+    if count != 5 or int(length) != len(stream):    # four objects and the list of free ones
         raise ValueError("wrong object count or stream length")
     return tuple(map(float, re.search(rb"/MediaBox \[0 0 ([\d.]+) ([\d.]+)\]", data).groups()))
 

@@ -1,4 +1,4 @@
-"""The application's region of every country, by ISO 3166-1 code; "usa" also has the countries of no other region."""
+"""The application's region of every country, by ISO 3166-1 code. Countries that fit no other region are in "usa"."""
 
 REGIONS = {
     "arab": """AE BH DJ DZ EG EH IQ JO KM KW LB LY MA MR OM PS QA SA SD SO SY TD TN YE""",

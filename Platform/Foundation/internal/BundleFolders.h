@@ -15,7 +15,7 @@ struct BundleFolders {
 };
 
 // Takes the languages from the list that `lumora compile` wrote into Info.plist, or from the bundle's folders if there
-// is not a list or the file system reports another number of folders. A missing or unreadable bundle has no languages.
+// is no list or the file system counts more or fewer folders. A missing or unreadable bundle has no languages.
 [[nodiscard]] BundleFolders bundleFolders(const std::string& bundle);
 
 } // namespace Foundation::detail

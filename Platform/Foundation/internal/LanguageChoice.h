@@ -11,8 +11,8 @@
 
 namespace Foundation::detail {
 
-// The index in `supported` of the best match for `wanted`, or no value: the same as Intl::matchLanguage(), but the
-// common cases are decided without ICU. Throws like it.
+// The index in `supported` of the best match for `wanted`, or no value. Returns and throws what Intl::matchLanguage()
+// does, but decides the common cases without ICU.
 [[nodiscard]] std::optional<std::size_t> chooseLanguage(std::string_view wanted,
                                                         std::span<const std::string> supported);
 

@@ -30,7 +30,7 @@ public:
             return std::make_shared<const T>(make());
         auto made = make();
         const T* const kept = values_.add(mostKept, locale, std::move(made)); // moves from `made` only if there is room
-        // NOLINTNEXTLINE(bugprone-use-after-move): then `kept` is not null
+        // NOLINTNEXTLINE(bugprone-use-after-move): if `made` was moved from, `kept` is not null
         return kept != nullptr ? pointingTo(*kept) : std::make_shared<const T>(std::move(made));
     }
 

@@ -37,10 +37,10 @@ private:
     std::string_view bundle_; // its path
     std::string language_;
     bool mayHavePlurals_;
-    // The existing tables that were looked up, and missing ones until there are tablesWithMissing tables: a program may
-    // ask for any number of names.
+    // The existing tables that were looked up, and missing ones while there are fewer than storesMissingBelow tables: a
+    // program may ask for any number of names.
     Runtime::KeyedStore<LocalizedTable, 4> tables_;
-    static constexpr std::size_t tablesWithMissing = 64;
+    static constexpr std::size_t storesMissingBelow = 64;
 };
 
 } // namespace Foundation::detail

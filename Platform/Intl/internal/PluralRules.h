@@ -10,9 +10,9 @@
 
 namespace Intl {
 
-// The operands of CLDR's rules except n, which follows from i, f and v, and c and e, which are 0 in the numbers that
-// are printed here. They describe the number as it is printed, so 1 and 1.0 differ. If i, f or t has more than 18
-// digits, its value is a 1 and the last 18 of them, which suffices for all rules.
+// The operands of CLDR's rules except n, which follows from i, f and v, and c and e, which are 0 because numbers are
+// never printed in compact notation ("1.2M"). They describe the number as it is printed, so 1 and 1.0 differ. If i, f
+// or t has more than 18 digits, its value is a 1 and the last 18 of them, which suffices for all rules.
 struct PluralOperands {
     std::uint64_t i = 0; // whole part
     std::uint64_t v = 0; // number of digits after the point

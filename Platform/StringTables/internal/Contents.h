@@ -30,7 +30,7 @@ public:
     std::string_view copy(std::string_view text) { return keep(std::ranges::copy(text, reserve(text.size())).out); }
 
 private:
-    static constexpr std::size_t firstChunk = 4096, laterChunk = 65536; // the sizes, if not more is needed
+    static constexpr std::size_t firstChunk = 4096, laterChunk = 65536; // unless more is needed
     std::vector<std::unique_ptr<char[]>> chunks_;
     char* next_ = nullptr;
     char* end_ = nullptr;
@@ -99,7 +99,7 @@ struct Contents {
 class Locator {
 public:
     explicit Locator(const Contents& contents) noexcept
-        : source_(contents.source), at_(contents.begin), counts_(contents.form != Form::binary) {}
+        : source_(contents.source), at_(contents.begin), countsLines_(contents.form != Form::binary) {}
     // The location of `offset`. Offsets must not decrease between calls.
     [[nodiscard]] Location locate(std::size_t offset) noexcept;
     // An error with line and column, or with the byte offset in a binary table.
@@ -108,7 +108,7 @@ public:
 private:
     std::string_view source_;
     std::size_t at_;
-    bool counts_;
+    bool countsLines_;
     Location location_{1, 1};
 };
 

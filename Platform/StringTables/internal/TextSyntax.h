@@ -27,7 +27,7 @@ struct QuotedEnd {
     const char* close;       // the closing quotation mark, or `end` if it is missing
     const char* firstEscape; // the first backslash of the string, or `close` if it has none
 };
-// Where the string ends whose opening quotation mark is at `at`.
+// The end of the string whose opening quotation mark is at `at`.
 inline QuotedEnd quotedEnd(const char* at, const char* end) noexcept {
     const char* const first = findEither(at + 1, end, *at, '\\');
     const char* close = first;
