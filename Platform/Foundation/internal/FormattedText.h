@@ -47,7 +47,7 @@ inline std::string joined(std::string_view before, std::string_view text, std::s
 
 // The formatted text. `percents`: the range of the percent signs in `format`. `locale`: null for the user's current
 // one, which is read only if a number needs it. Inline for a format whose only placeholder is a "%@" for a text, as in
-// nearly all texts with placeholders.
+// most texts with placeholders.
 [[nodiscard]] inline std::string formattedText(std::string_view format, StringTables::PercentRange percents,
                                                const Locale* locale, std::span<const FormatArgument> arguments) {
     const std::size_t at = percents.begin(), end = at + 2;

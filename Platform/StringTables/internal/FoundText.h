@@ -1,6 +1,6 @@
 // StringTables/internal/FoundText.h
 // The result of a look-up in a table: a text or nothing.
-// Threads: plain values. Ownership: borrows the text. It has 16 bytes, so functions return it in registers.
+// Threads: plain values. Ownership: borrows the text. A FoundText has 16 bytes, so functions return it in registers.
 #pragma once
 
 #include "StringTables/PercentRange.h"
@@ -12,7 +12,7 @@ namespace StringTables {
 class FoundText {
 public:
     constexpr FoundText() noexcept = default; // none
-    // A text of less than 4 GiB, which is not null even if it is empty. `percents`: where its percent signs are.
+    // A text of less than 4 GiB, whose data() is not null even if it is empty. `percents`: where its percent signs are.
     constexpr explicit FoundText(std::string_view text, PercentRange percents = {}) noexcept
         : begin_(text.data()), size_(static_cast<std::uint32_t>(text.size())), percents_(percents) {}
 
