@@ -85,6 +85,7 @@ TEST(ExchangeFiles, RoundTripEveryText) {
         const auto xliff = Exchange::readXliff(Exchange::writeXliff(translations, "1"), "f", diagnostics);
         ASSERT_TRUE(xliff) << xliff.error().text();
         std::string bytes = Exchange::writePo(translations, diagnostics);
+        EXPECT_NE(bytes.find("#. lines\n#. of\n#. text\n"), std::string::npos);
         // An obsolete entry, which is ignored.
         bytes.insert(bytes.find("\n\n"), "\n\n#, fuzzy\n#~ msgid \"obsolete\"\n#~ msgstr \"\"");
         const auto po = Exchange::readPo(bytes, "f", diagnostics);

@@ -40,7 +40,8 @@ void appendComment(std::string& out, std::string_view mark, std::string_view tex
     while (!text.empty()) {
         const std::size_t size = std::min(text.find_first_of("\r\n"), text.size());
         out.append(mark).append(text.substr(0, size)).append("\n");
-        text.remove_prefix(std::min(size + 1, text.size()));
+        const std::size_t breakSize = text.substr(size, 2) == "\r\n" ? 2 : 1;
+        text.remove_prefix(std::min(size + breakSize, text.size()));
     }
 }
 
