@@ -1,4 +1,4 @@
-// Compares the generated plural rules with ICU.
+// Compares the precomputed plural rules with those of ICU.
 #include "Intl/internal/PluralRules.h"
 
 #include <gtest/gtest.h>

@@ -15,16 +15,16 @@ namespace Host = Foundation::Host;
 const std::vector<std::string> rawValues = {"ar", "de", "en",    "es",    "es-419", "fr", "id", "it", "ja",     "ko",
                                             "nl", "pl", "pt-BR", "pt-PT", "ru",     "th", "tr", "vi", "zh-Hans"};
 
-class Services : public ::testing::Test {
+class LocalizationFunctions : public ::testing::Test {
 protected:
-    ~Services() override { Host::reset(); }
+    ~LocalizationFunctions() override { Host::reset(); }
     void setUser(const char* language, const char* locale) {
         Host::setPreferredLanguages({language});
         Host::setCurrentLocale(locale);
     }
 };
 
-TEST_F(Services, KnowTheApplicationsLanguages) {
+TEST_F(LocalizationFunctions, KnowTheApplicationsLanguages) {
     std::vector<std::string> raw;
     for (const LocalizationCode code : LocalizationCode::allCases()) {
         raw.push_back(code.rawValue());
@@ -42,7 +42,7 @@ TEST_F(Services, KnowTheApplicationsLanguages) {
     EXPECT_EQ(handbook.size(), expected.size());
 }
 
-TEST_F(Services, TakeTheFirstPreferenceOnly) {
+TEST_F(LocalizationFunctions, TakeTheFirstPreferenceOnly) {
     const auto pick = [](std::vector<std::string> preferred) {
         return Lumora::detail::pickLocalizationCode(preferred, LocalizationCode::allCases()).rawValue();
     };
@@ -55,7 +55,7 @@ TEST_F(Services, TakeTheFirstPreferenceOnly) {
     EXPECT_EQ(Lumora::detail::pickLocalizationCode(std::vector<std::string>{"ru"}, few), LocalizationCode::en);
 }
 
-TEST_F(Services, FollowTheUsersLanguageAndLocale) {
+TEST_F(LocalizationFunctions, FollowTheUsersLanguageAndLocale) {
     const struct {
         int line;
         const char *language, *locale, *code, *current;
@@ -77,7 +77,7 @@ TEST_F(Services, FollowTheUsersLanguageAndLocale) {
     }
 }
 
-TEST_F(Services, ReadOneLanguagesTable) {
+TEST_F(LocalizationFunctions, ReadOneLanguagesTable) {
     setUser("de", "de_DE");
     EXPECT_EQ(Localization::localizationFileTranslation("en", "Continue"), "Continue");
     EXPECT_EQ(Localization::localizationFileTranslation("Base", "new_comment"), "%@ left a comment: %@");
@@ -93,7 +93,7 @@ TEST_F(Services, ReadOneLanguagesTable) {
     EXPECT_EQ(Localization::legacyTr(""), "");
 }
 
-TEST_F(Services, SpellYearsInEachLanguage) {
+TEST_F(LocalizationFunctions, SpellYearsInEachLanguage) {
     const struct {
         int line;
         const char* language;
@@ -144,7 +144,7 @@ TEST_F(Services, SpellYearsInEachLanguage) {
     EXPECT_EQ(Localization::legacyTrYear(1234), "1\u00a0234 года");
 }
 
-TEST_F(Services, WriteSignedNumbersInTheUsersLocale) {
+TEST_F(LocalizationFunctions, WriteSignedNumbersInTheUsersLocale) {
     const struct {
         int line;
         const char* locale;
@@ -173,7 +173,7 @@ TEST_F(Services, WriteSignedNumbersInTheUsersLocale) {
     }
 }
 
-TEST_F(Services, RoundPercentagesInSinglePrecision) {
+TEST_F(LocalizationFunctions, RoundPercentagesInSinglePrecision) {
     const double infinity = std::numeric_limits<double>::infinity();
     const struct {
         int line;
