@@ -1,5 +1,5 @@
-"""Times three steps of a build: compiling the generated source of all accessors, compiling a source that includes their header, and
-`lumora compile` after one text changed. Processor time, medians of several runs."""
+"""Times three steps of a build for report.py: compiling the generated source of all accessors, compiling a source that includes their
+header, and `lumora compile` after one text changed. Processor time, medians of several runs."""
 import os
 import pathlib
 import shutil
@@ -31,6 +31,7 @@ def median(*command, before=lambda run: None):
 
 def accessor_times(lumora, folder):
     """The seconds for compiling all accessors, and how many more including their header takes than including <string>."""
+    # The options of Lumora/CMakeLists.txt, but one source instead of several.
     includes = [f"-I{folder}", f"-I{ROOT}", f"-I{ROOT}/Platform"]
     subprocess.run([lumora, "generate", ROOT / "Resources", "--module", "Lumora", "-o", folder / "Lumora", "--shards", "1",
                     "--include", "Lumora/LumoraStrings+Members.h"], check=True, stdout=subprocess.DEVNULL)

@@ -1,4 +1,4 @@
-// Starts, prints one text of Lumora, and ends.
+// Prints one text of Lumora and ends; start.py times the whole process.
 #include <Lumora/LumoraStrings.h>
 
 #include <iostream>

@@ -34,7 +34,7 @@ class Fuzzer:
         with open(self.log, "wb") as log:
             self.child = subprocess.Popen(command, stdout=log, stderr=log, env=os.environ | {"TMPDIR": str(self.scratch)})
 
-    # Tells it to end when its time is over. Returns false once it has ended.
+    # Tells it to end when its time is over: libFuzzer itself limits only the wall-clock time. Returns false once it has ended.
     def watch(self):
         if self.child.poll() is not None:
             return False

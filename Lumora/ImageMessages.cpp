@@ -8,7 +8,7 @@ namespace Lumora {
 
 namespace {
 
-// Callers see the properties in the order of this list.
+// Pictures and names are both properties, published in the order of this list.
 #define LEGACY_IMAGE(name, publishedName, asset) Runtime::method<&UIImage::publishedName>(#publishedName),
 #define LEGACY_NAME(name, publishedName, asset) Runtime::method<&UIImage::publishedName>(#publishedName),
 constexpr Runtime::Method imageProperties[] = {

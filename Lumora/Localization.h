@@ -47,13 +47,13 @@ public:
     [[nodiscard]] static std::string legacyTr(std::string_view key);
 
     // The number as the user's locale writes it, also infinities and NaN; at most three fraction digits, integers
-    // exactly. With `needSign`, numbers without a minus sign begin with the locale's plus sign. (NSNumberFormatter has
-    // a text for every number; without one, the process would stop with `needSign`.)
+    // exactly. With `needSign`, numbers without a minus sign begin with the locale's plus sign. (If
+    // NSNumberFormatter had no text for a signed number, the process would stop; it has one for every number.)
     [[nodiscard]] static std::string legacyTrNumber(const Foundation::NSNumber& number, bool needSign);
     // A fraction as a whole percentage: 0.257 is "26%". Rounded in single precision, halves away from zero, and written
     // in ASCII digits without grouping or exponent. NaN is "NaN%"; infinities, and values too large for single
-    // precision, are "∞%" and "-∞%". If the current language is Arabic or Turkish, the user's locale formats the
-    // percentage instead. With `showPlus`, positive values begin with "+".
+    // precision, are "∞%" and "-∞%". If the current language is Arabic or Turkish ("%25"), the user's locale
+    // formats the percentage instead. With `showPlus`, positive values begin with "+".
     [[nodiscard]] static std::string legacyTrPercent(double value, bool showPlus);
     // A number of years as currentLocale() spells it: "25 лет". Empty when the language data is missing.
     [[nodiscard]] static std::string legacyTrYear(std::int64_t value);

@@ -7,8 +7,8 @@ namespace Lumora::UIImage {
 
 namespace {
 
-// The application's module has a class of this name. It stays empty and unused: it must not become a second way to the
-// bundle, besides LumoraResources::bundle().
+// Kept because the application's module declares it. It stays empty and unused, so that LumoraResources::bundle() is
+// the only way to the bundle.
 class ResourceBundleClass {};
 
 using Candidates = std::initializer_list<const char*>;

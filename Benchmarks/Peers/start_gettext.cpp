@@ -1,4 +1,4 @@
-// Starts, prints one text of a gettext catalog, and ends.
+// Prints one text of a gettext catalog and ends; start.py times the whole process.
 #include <clocale>
 #include <iostream>
 #include <libintl.h>

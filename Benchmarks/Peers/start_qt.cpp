@@ -1,4 +1,4 @@
-// Starts, prints one text of a Qt catalog, and ends.
+// Prints one text of a Qt catalog and ends; start.py times the whole process.
 #include <QTranslator>
 
 #include <iostream>

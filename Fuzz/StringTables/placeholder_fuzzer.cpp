@@ -15,8 +15,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const char last = format[found->end - 1]; // "%s" and "%S" are read as "%@"
         require(std::tolower(last) ==
                 (found->kind == Kind::text && last != '@' ? 's' : std::tolower(found->conversion)));
+        // A position has at most four digits, a width or precision at most six.
         require(found->position <= 9999 && found->width.value <= 999999 && found->precision.value <= 999999);
-        // The text between two placeholders does not begin one.
+        // The text between two placeholders contains none.
         require(!StringTables::nextPlaceholder(format.substr(0, found->begin), at));
         at = found->end;
     }

@@ -18,7 +18,7 @@ namespace {
 using Intl::NumberPattern;
 using StringTables::Placeholder;
 
-// The bits of an integer that a placeholder uses: "%hhd" uses the lowest 8.
+// The lowest bits of an integer that a placeholder uses: 8 for "%hhd", 16 for "%hd", else all 64.
 std::uint64_t truncated(std::int64_t value, unsigned bits) noexcept {
     return bits == 64 ? static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value) & ((1U << bits) - 1);
 }

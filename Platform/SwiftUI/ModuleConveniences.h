@@ -7,7 +7,7 @@
 // function with the same name and parameters as the platform's:
 // - colours: colorNamed(name, bundle, traits);
 // - data: assetWithName(name, bundle);
-// - pictures: imageNamedWithConfiguration(name, bundle, traits), or else imageNamed(name, bundle, traits).
+// - pictures: imageNamedWithConfiguration(name, bundle, traits), or else the older imageNamed(name, bundle, traits).
 // That function is then called and its result returned. Otherwise the result is an optional Class, constructed as
 // Class{found} from the platform's result, or the platform's result itself if Class cannot be constructed from it.
 // Text: UTF-8. Threads: any. Ownership: values; see the types. Errors: the platform's look-ups give no value when

@@ -4,7 +4,7 @@ import re
 import subprocess
 import sys
 
-# The namespaces whose symbols each library may export, and the C functions of the module.
+# The namespaces whose symbols each library may export (LocalizationCode is in Corvane), and the C functions of the module.
 MODULE, PLATFORM = "Lumora|Corvane", "Foundation|UIKit|SwiftUI|Runtime"
 C_FUNCTIONS = {"Loc", "LocNumber", "LocNumberWithPositivePrefix", "LocAge", "LocPercent", "LocPercentSigned",
                "NSStringCreate", "NSStringUTF8", "NSNumberCreateInteger", "NSNumberCreateDouble", "NSRelease"}

@@ -63,7 +63,7 @@ TEST(CompileBundle, CompletesInfoPlist) {
     const auto information = Table::read(Support::contents(folder / "out.bundle/Info.plist"));
     ASSERT_TRUE(information);
     EXPECT_EQ(information->form(), Form::binary);
-    EXPECT_EQ(information->find("LumoraLanguages"), "de/");
+    EXPECT_EQ(information->find("LumoraLanguages"), "de/"); // "/" ends each language
     EXPECT_EQ(information->find("LumoraPlurals"), "no");
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "de");
     EXPECT_EQ(information->find("Other"), "text");

@@ -199,7 +199,7 @@ TEST(NoMemory, CachesNothing) {
     writeXmlBundle(folder);
     for (const bool laterToo : {false, true})
         for (const Case& one : cases) {
-            // A read with few allocations is tried several times.
+            // Each child lets a later allocation fail, until there are none. A read with few allocations is repeated.
             for (int children = 0, code = 0; children < Child::repetitions && code <= 1;) {
                 long n = 0;
                 for (; (code = Child::exitOf([&] { return attempt(one, n, laterToo); })) == 0; ++children)

@@ -134,7 +134,7 @@ TEST(String, BoundsItsResult) {
         format += "%1$@";
     EXPECT_EQ(::format(format, {std::string_view(longText)}).size(), format.size() + largestGrowth);
     const std::string cut = ::format("%1$@%1$@!", {std::string_view(std::string(largestGrowth + 8, 'x'))});
-    EXPECT_EQ(cut, std::string(largestGrowth + 9, 'x'));
+    EXPECT_EQ(cut, std::string(largestGrowth + 9, 'x')); // the format has 9 bytes
     // A character of two bytes does not fit into the last byte.
     std::string wide = "x";
     while (wide.size() <= largestGrowth + 5)

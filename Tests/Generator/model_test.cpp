@@ -52,7 +52,7 @@ TEST(Model, MakesParametersOfPlaceholders) {
         {__LINE__, "%2$@ %1$d", "std::string key(std::int64_t first, " + described + "second)"},
         {__LINE__, "%1$@ %1$@", "std::string key(" + described + "value)"},
         {__LINE__, "%*d", "std::string key(std::int64_t first, std::int64_t second)"},
-        {__LINE__, "50% of max", "std::string key(std::int64_t value)"},
+        {__LINE__, "50% of max", "std::string key(std::int64_t value)"}, // "% o" is octal
         {__LINE__, "%.1f %s %hhd", "std::string key(double first, " + described + "second, std::int64_t third)"},
     };
     for (const auto& each : cases) {

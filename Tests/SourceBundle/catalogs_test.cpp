@@ -216,7 +216,7 @@ TEST_F(Catalogs, ReportLeftOutEntriesOnce) {
     }
 }
 
-// A compiled catalog limits the variants of an asset, of which an entry becomes at most four, and the length of names.
+// A compiled catalog limits the length of names and, to 1024, the variants of an asset; an entry becomes at most four.
 TEST_F(Catalogs, LeaveOutVariantsBeyondLimits) {
     const std::string german = R"({"filename": "1", "locale": "de)";
     std::string entries;

@@ -8,7 +8,8 @@
 
 namespace Exchange {
 
-// One text, or the plural forms for integers in order. The numbers are indices of units.
+// One text, the forms of a plural for integers in order, or a single form for fractions only. The numbers are indices
+// of units.
 struct PoEntry {
     std::vector<std::size_t> units{};
     bool isPlural = false;

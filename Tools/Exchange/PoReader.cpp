@@ -112,7 +112,7 @@ private:
     void add(const PoText& entry, const UnitId& id, const std::string& source, const std::string& target) {
         Unit unit{.id = id, .source = source, .sourceCategory = id.category, .target = target};
         if (entry.plural && id.category != PluralCategory::one)
-            unit.sourceCategory = PluralCategory::other;
+            unit.sourceCategory = PluralCategory::other; // of msgid_plural
         unit.isFuzzy = entry.isFuzzy;
         unit.line = entry.line;
         translations_.units.push_back(std::move(unit));

@@ -41,7 +41,8 @@ constexpr bool isAsciiDigit(char32_t c) noexcept {
     return c >= '0' && c <= '9';
 }
 
-// Whether the character, if it is assigned at all, is in Unicode 13 and not invisible by definition.
+// Whether the character is neither newer than Unicode 13 nor invisible by definition. True for unassigned ones, which
+// the callers reject.
 bool isSettled(UChar32 c) noexcept {
     UVersionInfo age;
     u_charAge(c, age);

@@ -19,9 +19,9 @@ namespace AssetCatalog {
 // - scale: the wanted one, then a variant for any, then the next larger, then the largest of the smaller ones.
 [[nodiscard]] std::uint32_t distance(Fit offered, Fit wanted) noexcept;
 
-// The same for the language of a variant (empty: for all languages). Best is a match with the earliest of `wanted`,
-// the same tag, then one with fewer subtags ("pt" for "pt-BR"), the longest first; then a variant for all languages;
-// then any other.
+// The same for the language of a variant (empty: for all languages). Best is a match with the earliest of `wanted`:
+// the same tag, else the longest with fewer subtags ("pt" for "pt-BR"); then a variant for all languages; then any
+// other.
 [[nodiscard]] std::uint32_t languageDistance(std::string_view offered, std::span<const std::string> wanted) noexcept;
 
 } // namespace AssetCatalog

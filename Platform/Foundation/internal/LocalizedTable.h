@@ -37,7 +37,7 @@ private:
     std::string name_;
     StringTables::StoredTable texts_;
     StringTables::PluralTable plurals_;
-    std::vector<std::string> pluralTexts_; // of the entries of plurals_, for use without numbers
+    std::vector<std::string> pluralTexts_; // of the entries of plurals_, with every variable's form `other`
 };
 
 } // namespace Foundation::detail
