@@ -150,6 +150,40 @@ TEST(ExchangeFiles, AreRejectedWithLocations) {
     }
 }
 
+// The formula has two forms that German does not distinguish.
+TEST(ExchangeFiles, MayHaveOnePluralFormTwice) {
+    const std::string begin = "msgid \"\"\nmsgstr \"Content-Type: text/plain; charset=UTF-8\\nLanguage: de\\n"
+                              "Plural-Forms: nplurals=3; plural=(n == 1 ? 0 : n == 2 ? 1 : 2);\\n\"\n\n"
+                              "msgctxt \"T/k\"\nmsgid \"a\"\nmsgid_plural \"b\"\nmsgstr[0] \"A\"\n";
+    const struct {
+        int line;
+        std::string two, many, other;
+        Strings messages;
+    } cases[] = {
+        {__LINE__, "B", "B", "B", {}},
+        {__LINE__, "", "B", "B", {}},
+        {__LINE__, "B", "", "B", {}},
+        {__LINE__,
+         "B",
+         "C",
+         "B",
+         {"f:5: msgstr[1] and msgstr[2] are different texts for the same plural form \"other\" of de"}},
+    };
+    for (const auto& one : cases) {
+        SourceBundle::Diagnostics faults;
+        const auto po =
+            Exchange::readPo(begin + "msgstr[1] \"" + one.two + "\"\nmsgstr[2] \"" + one.many + "\"\n", "f", faults);
+        ASSERT_TRUE(po) << po.error().text();
+        ASSERT_EQ(po->units.size(), 2U) << "line " << one.line;
+        EXPECT_EQ(po->units[0].id.category, PluralCategory::one) << "line " << one.line;
+        EXPECT_EQ(po->units[1].target, one.other) << "line " << one.line;
+        Strings messages;
+        for (const auto& fault : faults.all())
+            messages.push_back(fault.what.text());
+        EXPECT_EQ(messages, one.messages) << "line " << one.line;
+    }
+}
+
 TEST(PluralExpressions, MatchTheLanguages) {
     for (const char* language :
          {"ar",  "be", "br", "cs", "cy", "da", "de", "en", "es",    "fr", "ga", "he",  "hi", "is", "ja",

@@ -6,6 +6,7 @@
 #include "SourceBundle/LowerCase.h"
 #include <algorithm>
 #include <charconv>
+#include <map>
 
 namespace Exchange {
 
@@ -59,6 +60,10 @@ std::optional<PluralRule> pluralRule(std::string_view forms) {
                                                                                                    : std::nullopt;
 }
 
+std::string formName(std::size_t form) {
+    return "msgstr[" + std::to_string(form) + "]";
+}
+
 class Reader {
 public:
     Reader(Translations& translations, SourceBundle::Diagnostics& faults)
@@ -87,8 +92,7 @@ public:
         if (!categories_)
             return fault(entry,
                          "the header (Plural-Forms) does not have the plural rule of " + translations_.targetLanguage);
-        for (std::size_t i = 0; i < entry.targets.size(); ++i)
-            readForm(entry, *id, i);
+        readForms(entry, *id);
     }
 
 private:
@@ -99,14 +103,30 @@ private:
         faults_.add(Severity::error, error(entry, std::move(message)));
     }
 
-    void readForm(const PoText& entry, UnitId id, std::size_t form) {
-        if (form < categories_->size())
-            id.category = (*categories_)[form];
-        if (id.category)
-            return add(entry, id, id.category == PluralCategory::one ? entry.source : *entry.plural,
-                       entry.targets[form]);
-        if (!entry.targets[form].empty())
-            fault(entry, translations_.targetLanguage + " has no plural form for msgstr[" + std::to_string(form) + "]");
+    // Adds the text of each plural form. Several forms of the file's formula may be the same form of the language;
+    // their texts must be equal, or empty.
+    void readForms(const PoText& entry, UnitId id) {
+        std::map<PluralCategory, std::size_t> forms; // the numbers of the forms to add
+        for (std::size_t i = 0; i < entry.targets.size(); ++i) {
+            const auto category = i < categories_->size() ? (*categories_)[i] : std::nullopt;
+            const std::string& target = entry.targets[i];
+            if (!category && !target.empty())
+                fault(entry, translations_.targetLanguage + " has no plural form for " + formName(i));
+            if (!category)
+                continue;
+            std::size_t& known = forms.try_emplace(*category, i).first->second;
+            if (entry.targets[known].empty())
+                known = i;
+            else if (!target.empty() && target != entry.targets[known])
+                fault(entry, formName(known) + " and " + formName(i) +
+                                 " are different texts for the same plural form \"" +
+                                 std::string(Intl::pluralCategoryNames[indexOf(*category)]) + "\" of " +
+                                 translations_.targetLanguage);
+        }
+        for (const auto& [category, form] : forms) {
+            id.category = category;
+            add(entry, id, category == PluralCategory::one ? entry.source : *entry.plural, entry.targets[form]);
+        }
     }
 
     void add(const PoText& entry, const UnitId& id, const std::string& source, const std::string& target) {
