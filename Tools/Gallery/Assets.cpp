@@ -92,9 +92,6 @@ std::vector<Entry> entriesOf(const Catalog& catalog) {
     std::vector<Entry> entries;
     for (std::size_t i = 0; i < catalog.size(); ++i)
         entries.push_back(catalog[i]);
-    // If several assets would have the same accessor, the first gets it. For a colour, data and an image with one name
-    // in one folder, the order is that of `lumora generate`: x.colorset, x.dataset, x.imageset. For other clashes
-    // `lumora generate` may choose another asset, because a bundle does not know the source's folders.
     std::ranges::sort(entries, {}, [](const Entry& entry) {
         return std::tuple(entry.catalog(), entry.name(), AssetCatalog::nameOf(entry.kind()));
     });

@@ -3,7 +3,10 @@
 #include "Generator/CodeText.h"
 #include "Generator/NameClaims.h"
 #include "Generator/Namer.h"
+#include <algorithm>
+#include <numeric>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace Generator {
@@ -36,22 +39,52 @@ std::string faultOf(const std::vector<std::string>& path) {
     return "";
 }
 
+// The numbers of the assets by catalog, name and kind.
+std::vector<std::size_t> sortedNumbers(std::span<const SourceAsset> assets) {
+    std::vector<std::size_t> numbers(assets.size());
+    std::iota(numbers.begin(), numbers.end(), std::size_t{0});
+    std::ranges::stable_sort(numbers, {}, [assets](std::size_t number) {
+        const SourceAsset& asset = assets[number];
+        return std::tuple<std::string_view, std::string_view, std::string_view>(asset.catalog, asset.name,
+                                                                                AssetCatalog::nameOf(asset.kind));
+    });
+    return numbers;
+}
+
+struct ConstantName {
+    std::vector<std::string> path;
+    Topic topic = Topic::noAccessor; // of `fault`
+    std::string fault;               // why there is no constant, or empty
+};
+
+// If names clash, the first in alphabetical order is kept. The order of the folders does not matter, because a bundle
+// does not know them, and its gallery shows the same constants.
+std::vector<ConstantName> constantNames(std::span<const SourceAsset> assets) {
+    std::vector<ConstantName> names(assets.size());
+    NameClaims claims;
+    for (const std::size_t number : sortedNumbers(assets)) {
+        auto& [path, topic, fault] = names[number];
+        path = pathOf(assets[number]);
+        fault = faultOf(path);
+        std::erase(path, std::string()); // folders without a usable name are dropped
+        if (!fault.empty())
+            continue;
+        if (const auto conflict = claims.claim(path, number)) {
+            topic = Topic::nameClash;
+            fault = "the name " + conflict->name + " belongs to " + assets[conflict->owner.member].path.string();
+        }
+    }
+    return names;
+}
+
 } // namespace
 
 AssetTree assetTreeOf(std::span<const SourceAsset> assets, Diagnostics& diagnostics) {
+    std::vector<ConstantName> names = constantNames(assets);
     AssetTree tree;
-    NameClaims names;
     for (std::size_t number = 0; number < assets.size(); ++number) {
         const SourceAsset& asset = assets[number];
-        std::vector<std::string> path = pathOf(asset);
-        std::string fault = faultOf(path);
-        Topic topic = Topic::noAccessor;
-        std::erase(path, std::string()); // folders without a usable name are dropped
-        if (fault.empty())
-            if (const auto conflict = names.claim(path, number)) {
-                topic = Topic::nameClash;
-                fault = "the name " + conflict->name + " belongs to " + assets[conflict->owner.member].path.string();
-            }
+        auto& [path, topic, fault] = names[number];
         if (!fault.empty()) {
             diagnostics.add(
                 Severity::warning,
