@@ -24,9 +24,23 @@ endif()
 
 # In the build tree, the libraries, their plug-ins and bundles are in one folder, like installed ones. Run paths are
 # relative, so that builds in different folders are identical.
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(output ${PROJECT_BINARY_DIR})
+get_property(multi GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
+if(multi)
+    string(APPEND output "/$<CONFIG>")
+endif()
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${output}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${output}/lib)
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+# A parent project's settings for one configuration would take precedence. The libraries find plug-ins by file name, and
+# pkg-config finds the libraries by theirs, so these have no postfix.
+foreach(config IN LISTS CMAKE_CONFIGURATION_TYPES CMAKE_BUILD_TYPE)
+    string(TOUPPER ${config} config)
+    set(CMAKE_${config}_POSTFIX "")
+    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY_${config} ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    set(CMAKE_LIBRARY_OUTPUT_DIRECTORY_${config} ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+endforeach()
+set(CMAKE_UNITY_BUILD OFF) # sources of one library have local names in common
 # The version is part of the name, so two versions of the platform can be installed together.
 set(LUMORA_PLUGIN_FOLDER lumora-platform-${PROJECT_VERSION_MAJOR})
 set(LUMORA_ICU_VERSION 72) # the minimum version
@@ -82,6 +96,16 @@ function(lumora_library name)
     target_link_libraries(lumora-${name} PUBLIC ${arg_LINK} PRIVATE ${arg_PRIVATE_LINK} lumora-build-rules)
 endfunction()
 
+# lumora_place(target kind folder)
+# Sets the output folder of a target in every configuration. `kind` is RUNTIME or LIBRARY.
+function(lumora_place target kind folder)
+    set_target_properties(${target} PROPERTIES ${kind}_OUTPUT_DIRECTORY ${folder})
+    foreach(config IN LISTS CMAKE_CONFIGURATION_TYPES CMAKE_BUILD_TYPE)
+        string(TOUPPER ${config} config)
+        set_target_properties(${target} PROPERTIES ${kind}_OUTPUT_DIRECTORY_${config} ${folder})
+    endforeach()
+endfunction()
+
 # lumora_plugin(name SOURCES ... LINK ...)
 # A library that is loaded when it is first needed: NAME.so in the folder LUMORA_PLUGIN_FOLDER beside the library or program
 # that loads it. It exports the symbols in the linker script NAME.map.
@@ -94,15 +118,17 @@ function(lumora_plugin name)
     target_link_libraries(${name} PRIVATE ${arg_LINK} lumora-build-rules)
     # The templates of the standard library remain visible despite hidden visibility; the script hides them, too.
     target_link_options(${name} PRIVATE -Wl,--version-script=${map})
-    set_target_properties(${name} PROPERTIES PREFIX "" LINK_DEPENDS ${map}
-                          LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${LUMORA_PLUGIN_FOLDER})
+    set_target_properties(${name} PROPERTIES PREFIX "" LINK_DEPENDS ${map})
+    lumora_place(${name} LIBRARY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${LUMORA_PLUGIN_FOLDER})
 endfunction()
 
 # lumora_place_beside_plugins(programs...)
 # For programs that link parts of the platform statically. They look for plug-ins in LUMORA_PLUGIN_FOLDER beside
 # themselves, as the platform does beside its library, so they are built into the libraries' folder.
 function(lumora_place_beside_plugins)
-    set_target_properties(${ARGN} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+    foreach(program IN LISTS ARGN)
+        lumora_place(${program} RUNTIME ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+    endforeach()
 endfunction()
 
 # lumora_shared_library(target map)

@@ -87,8 +87,11 @@ function(lumora_add_module name)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PUBLIC Lumora::Platform)
     target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${generated}>)
-    set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON
+    # In unity builds the shards would clash, because they have the same local names.
+    set_target_properties(${name} PROPERTIES CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON UNITY_BUILD OFF
                           LUMORA_GENERATED ${generated})
+    # It publishes a class to messages, which need run-time type information, even if the project is built without.
+    set_source_files_properties(${folder}/${name}Resources.cpp PROPERTIES COMPILE_OPTIONS -frtti)
 
     _lumora_run(STAMP ${generated}/compiled.stamp COMMENT "Compiling ${name}.bundle"
                 ARGUMENTS compile ${sources} -o $<TARGET_FILE_DIR:${name}>/${name}.bundle ${options})
@@ -102,6 +105,13 @@ endfunction()
 # install(TARGETS). Components: runtime, development.
 function(lumora_install_module name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "VERSIONED" "EXPORT" "")
+    set(generated "")
+    if(TARGET ${name})
+        get_target_property(generated ${name} LUMORA_GENERATED)
+    endif()
+    if(arg_UNPARSED_ARGUMENTS OR NOT generated)
+        message(FATAL_ERROR "usage: lumora_install_module(Name [EXPORT set] [VERSIONED]) for a module of lumora_add_module")
+    endif()
     include(GNUInstallDirs)
     set(export "")
     if(arg_EXPORT)
@@ -114,9 +124,9 @@ function(lumora_install_module name)
     endif()
     set(place ${CMAKE_INSTALL_LIBDIR})
     if(arg_VERSIONED)
-        string(APPEND place "/$<TARGET_FILE_BASE_NAME:${name}>-$<TARGET_PROPERTY:${name},SOVERSION>")
+        set(version $<TARGET_PROPERTY:${name},SOVERSION>)
+        string(APPEND place "$<$<NOT:$<STREQUAL:${version},>>:/$<TARGET_FILE_BASE_NAME:${name}>-${version}>")
     endif()
-    get_target_property(generated ${name} LUMORA_GENERATED)
     install(TARGETS ${name} ${export}
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
         ${headers}

@@ -20,7 +20,9 @@ with tempfile.TemporaryDirectory(prefix="lumora-parent-") as folder:
     cache = (pathlib.Path(options.build) / "CMakeCache.txt").read_text()
     flags = [f"-D{line}" for line in cache.splitlines() if line.startswith(("CMAKE_CXX_FLAGS", "CMAKE_C_FLAGS", "CMAKE_BUILD_TYPE"))]
     configure = [options.cmake, "-S", source / "Tests/Build/parent", "-G", options.generator, f"-DLUMORA_SOURCE={source}",
-                 "-DLUMORA_TOOLS=OFF", f"-DLUMORA_PROGRAM={options.build}/bin/lumora"]
+                 "-DLUMORA_TOOLS=OFF", f"-DLUMORA_PROGRAM={options.build}/bin/lumora", "-DCMAKE_UNITY_BUILD=ON"]
+    for config in ("DEBUG", "RELEASE"):  # none of these may change what is installed
+        configure += [f"-DCMAKE_{config}_POSTFIX=-{config}", f"-DCMAKE_LIBRARY_OUTPUT_DIRECTORY_{config}={folder}/libraries"]
     run(*configure, "-B", folder / "without a build type")
     run(*configure, "-B", folder / "build", "-DLUMORA_INSTALL=ON", "-DCMAKE_INSTALL_PREFIX=/usr", *flags)
     run(options.cmake, "--build", folder / "build", "--target", "app")
