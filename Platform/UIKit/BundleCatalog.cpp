@@ -6,6 +6,7 @@
 #include "Runtime/internal/TransientError.h"
 #include <cmath>
 #include <string>
+#include <system_error>
 
 namespace UIKit::detail {
 
@@ -94,11 +95,15 @@ std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name,
 
 void throwIfUnreadable(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle) {
     const auto found = findIn(openedFor(bundle), kind, name);
-    if (!found || kind != AssetCatalog::Kind::data)
+    if (!found)
         return;
-    const AssetCatalog::Entry entry = found->catalog->entry(found->index);
-    if (const auto bytes = entry.data(found->catalog->bestVariant(found->index, {})).blob.read(); !bytes)
-        Runtime::throwIfTransient(bytes.error());
+    if (kind == AssetCatalog::Kind::data) {
+        const AssetCatalog::Entry entry = found->catalog->entry(found->index);
+        const auto bytes = entry.data(found->catalog->bestVariant(found->index, {})).blob.read();
+        if (!bytes)
+            return Runtime::throwIfTransient(bytes.error());
+    }
+    throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again)); // it can be read now
 }
 
 } // namespace UIKit::detail

@@ -43,8 +43,8 @@ struct Found {
 [[nodiscard]] std::optional<Found> findAsset(AssetCatalog::Kind kind, std::string_view name,
                                              const Foundation::NSBundle& bundle) noexcept;
 
-// Throws std::bad_alloc or std::system_error when a transient error prevents looking up the asset or reading its data:
-// memory or descriptors ran out, or the device failed.
+// To be called when an asset could not be found or read. Throws std::bad_alloc or std::system_error if the reason is a
+// transient error: memory or descriptors ran out, or the device failed. The error may have passed since.
 void throwIfUnreadable(AssetCatalog::Kind kind, std::string_view name, const Foundation::NSBundle& bundle);
 
 } // namespace UIKit::detail
