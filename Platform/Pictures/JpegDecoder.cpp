@@ -5,6 +5,7 @@
 #include <cstdio> // jpeglib.h needs it
 #include <jerror.h>
 #include <jpeglib.h>
+#include <new>
 #include <string>
 
 namespace Pictures {
@@ -56,6 +57,7 @@ public:
         });
     }
 
+    bool lacksMemory() const { return errors_.msg_code == JERR_OUT_OF_MEMORY; }
     std::string reason() const {
         if (hasTooManyScans_)
             return "more than " + std::to_string(maxScans) + " scans";
@@ -99,7 +101,11 @@ private:
 
 Runtime::Result<Bitmap> decodeJpeg(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) {
     JpegReader reader;
-    const auto damaged = [&] { return Runtime::Error{.message = "is a damaged JPEG: " + reader.reason(), .file = {}}; };
+    const auto damaged = [&] {
+        if (reader.lacksMemory())
+            throw std::bad_alloc();
+        return Runtime::Error{.message = "is a damaged JPEG: " + reader.reason(), .file = {}};
+    };
     if (!reader.readHead(bytes))
         return damaged();
     auto bitmap = blank(reader.width(), reader.height(), maxPixels);

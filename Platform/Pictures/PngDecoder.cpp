@@ -3,7 +3,9 @@
 #include "Pictures/internal/LongjmpScope.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <new>
 #include <png.h>
 #include <string>
 
@@ -20,8 +22,15 @@ public:
             std::snprintf(self.reason_, sizeof self.reason_, "%s", reason);
             self.fail();
         };
+        const auto allocate = [](png_structp png, png_alloc_size_t size) {
+            void* const memory = std::malloc(size);
+            static_cast<PngReader*>(png_get_mem_ptr(png))->lacksMemory_ |= memory == nullptr;
+            return memory;
+        };
         attempt([&] {
-            png_ = png_create_read_struct(PNG_LIBPNG_VER_STRING, this, failed, [](png_structp, png_const_charp) {});
+            png_ = png_create_read_struct_2(
+                PNG_LIBPNG_VER_STRING, this, failed, [](png_structp, png_const_charp) {}, this, allocate,
+                [](png_structp, png_voidp memory) { std::free(memory); });
             info_ = png_ == nullptr ? nullptr : png_create_info_struct(png_);
         });
     }
@@ -66,6 +75,8 @@ public:
         });
     }
 
+    // Whether an allocation of libpng failed.
+    bool lacksMemory() const { return lacksMemory_; }
     const char* reason() const { return reason_; }
 
 private:
@@ -77,7 +88,8 @@ private:
     }
 
     std::span<const std::uint8_t> rest_;
-    char reason_[128] = "no memory";
+    char reason_[128] = "";
+    bool lacksMemory_ = false;
     png_structp png_ = nullptr;
     png_infop info_ = nullptr;
 };
@@ -87,6 +99,8 @@ private:
 Runtime::Result<Bitmap> decodePng(std::span<const std::uint8_t> bytes, std::uint64_t maxPixels) {
     PngReader reader(bytes);
     const auto damaged = [&] {
+        if (reader.lacksMemory())
+            throw std::bad_alloc();
         return Runtime::Error{.message = std::string("is a damaged PNG: ") + reader.reason(), .file = {}};
     };
     if (!reader.readHead())

@@ -3,9 +3,13 @@
 #include <algorithm>
 #include <cstdio> // jpeglib.h needs it
 #include <cstdlib>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <jpeglib.h>
+#include <new>
 #include <span>
+#include <sys/resource.h>
+#include <unistd.h>
 
 namespace {
 
@@ -20,6 +24,7 @@ struct PixelFormat {
     bool progressive = false;
     bool adobe = false;
     std::span<const jpeg_scan_info> scans{}; // empty: the usual ones
+    std::uint32_t rows = height;
 };
 
 Bytes write(const PixelFormat& format) {
@@ -36,7 +41,7 @@ Bytes write(const PixelFormat& format) {
     else if (format.space == JCS_RGB)
         channels = 3;
     jpeg.image_width = width;
-    jpeg.image_height = height;
+    jpeg.image_height = format.rows;
     jpeg.input_components = channels;
     jpeg.in_color_space = format.space;
     jpeg_set_defaults(&jpeg);
@@ -53,7 +58,7 @@ Bytes write(const PixelFormat& format) {
     for (std::uint32_t x = 0; x < width; ++x)
         row.insert(row.end(), format.pixel.begin(), format.pixel.begin() + channels);
     JSAMPROW rows[] = {row.data()};
-    while (jpeg.next_scanline < height)
+    while (jpeg.next_scanline < format.rows)
         jpeg_write_scanlines(&jpeg, rows, 1);
     jpeg_finish_compress(&jpeg);
     jpeg_destroy_compress(&jpeg);
@@ -122,6 +127,39 @@ TEST(Jpeg, ScansAreLimited) {
     EXPECT_TRUE(Pictures::decode(repeated));
     repeated.insert(repeated.begin() + (next - file.begin()), first, next);
     EXPECT_EQ(Pictures::decode(repeated).error().message, "is a damaged JPEG: more than 200 scans");
+}
+
+// The address space in use, in bytes.
+rlim_t addressSpace() {
+    rlim_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    return pages * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
+}
+
+TEST(Jpeg, WithoutMemoryIsNotDamaged) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "a sanitizer needs all addresses";
+#endif
+    const Bytes file = write({.space = JCS_RGB, .pixel = {200, 100, 50}, .progressive = true, .rows = 65'000});
+    ASSERT_TRUE(Pictures::decode(file)); // loads the plug-in
+    rlimit limit{};
+    ASSERT_EQ(::getrlimit(RLIMIT_AS, &limit), 0);
+    const rlim_t usual = limit.rlim_cur;
+    int failures = 0;
+    for (rlim_t room = 0; room < (rlim_t{32} << 20); room += rlim_t{1} << 19) {
+        limit.rlim_cur = addressSpace() + room;
+        ::setrlimit(RLIMIT_AS, &limit);
+        bool isDamaged = false;
+        try {
+            isDamaged = !Pictures::decode(file);
+        } catch (const std::bad_alloc&) {
+            ++failures;
+        }
+        limit.rlim_cur = usual;
+        ::setrlimit(RLIMIT_AS, &limit);
+        EXPECT_FALSE(isDamaged) << room;
+    }
+    EXPECT_GT(failures, 0);
 }
 
 TEST(Jpeg, TruncationIsAnErrorAndDamageNeverACrash) {

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <exception>
 #include <malloc.h> // mallopt
+#include <new>
 #include <sstream>
 
 namespace {
@@ -69,6 +70,8 @@ int main(int argc, char** argv) {
         exit = unknown.empty() ? Tools::print(text.str()) : failWith(CLI::ExtrasError(unknown), program);
     } catch (const CLI::Error& wrong) {
         exit = failWith(wrong, program);
+    } catch (const std::bad_alloc&) {
+        exit = Tools::fail({.message = "out of memory"});
     } catch (const std::exception& failed) {
         exit = Tools::fail({.message = failed.what()});
     }

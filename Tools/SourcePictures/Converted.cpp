@@ -3,6 +3,7 @@
 #include "AssetCatalog/internal/Catalog.h" // maxPixels
 #include "SourcePictures/GlibPointers.h"
 #include <gdk-pixbuf/gdk-pixbuf.h>
+#include <new>
 
 namespace SourcePictures {
 
@@ -55,12 +56,19 @@ void silenceWarnings() {
     static_cast<void>(isDone);
 }
 
+// `error` may be null.
+void throwIfMemoryRanOut(const GError* error) {
+    if (g_error_matches(error, GDK_PIXBUF_ERROR, GDK_PIXBUF_ERROR_INSUFFICIENT_MEMORY) != FALSE)
+        throw std::bad_alloc();
+}
+
 Runtime::Result<AssetCatalog::Picture> asPng(GdkPixbuf* pixels) {
     gchar* buffer = nullptr;
     gsize size = 0;
     GError* error = nullptr;
     if (gdk_pixbuf_save_to_buffer(pixels, &buffer, &size, "png", &error, nullptr) == FALSE) {
         const Owned<GError> owned(error);
+        throwIfMemoryRanOut(error);
         return Runtime::Error{.message = std::string("cannot be converted to PNG: ") + error->message};
     }
     const Owned<gchar> owned(buffer);
@@ -93,6 +101,7 @@ Runtime::Result<AssetCatalog::Picture> converted(std::string_view bytes, Format 
     Owned<GError> ownedError(error);
     if (isTooLarge)
         return Runtime::Error{.message = "is a picture with more pixels than a catalog may contain"};
+    throwIfMemoryRanOut(ownedError.get());
     GdkPixbuf* pixels = isWritten && isClosed ? gdk_pixbuf_loader_get_pixbuf(loader.get()) : nullptr;
     return pixels == nullptr ? damaged(name + " picture", ownedError.release()) : asPng(pixels);
 }

@@ -1,7 +1,8 @@
 // SourcePictures/PictureFile.h
 // Reads and converts the picture files of source catalogs.
 // Threads: any; no shared state.
-// Functions that draw or convert throw std::runtime_error if the plug-in for that cannot be loaded (Converters.h).
+// Functions throw std::bad_alloc when memory runs out, and those that draw or convert std::runtime_error if the plug-in
+// for that cannot be loaded (Converters.h).
 #pragma once
 
 #include "AssetCatalog/internal/Model.h"

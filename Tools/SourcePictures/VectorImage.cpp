@@ -3,6 +3,7 @@
 #include "AssetCatalog/internal/Catalog.h" // maxPixels
 #include "SourcePictures/GlibPointers.h"
 #include <cmath>
+#include <new>
 
 namespace SourcePictures {
 
@@ -28,8 +29,13 @@ Runtime::Result<PixelSize> pixelSize(AssetCatalog::Size size, double pixelsPerUn
     return PixelSize{static_cast<int>(columns), static_cast<int>(rows)};
 }
 
-Runtime::Error cannotBeDrawn(cairo_status_t status) {
-    return {.message = std::string("cannot be drawn: ") + cairo_status_to_string(status)};
+// An error, unless `status` is success. Throws std::bad_alloc when memory ran out.
+Runtime::Result<void> resultOf(cairo_status_t status) {
+    if (status == CAIRO_STATUS_SUCCESS)
+        return {};
+    if (status == CAIRO_STATUS_NO_MEMORY)
+        throw std::bad_alloc();
+    return Runtime::Error{.message = std::string("cannot be drawn: ") + cairo_status_to_string(status)};
 }
 
 // A new surface of that size, filled by the drawing.
@@ -37,10 +43,14 @@ Runtime::Result<Owned<cairo_surface_t>> drawn(const VectorImage& image, PixelSiz
     Owned<cairo_surface_t> surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels.columns, pixels.rows));
     const Owned<cairo_t> context(cairo_create(surface.get()));
     cairo_scale(context.get(), pixels.columns / image.size().width, pixels.rows / image.size().height);
-    if (auto done = image.draw(context.get()); !done)
+    if (auto ready = resultOf(cairo_status(context.get())); !ready)
+        return std::move(ready.error());
+    auto done = image.draw(context.get());
+    auto state = resultOf(cairo_status(context.get())); // before `done`: a lack of memory is not a damaged drawing
+    if (!done)
         return std::move(done.error());
-    if (const cairo_status_t status = cairo_status(context.get()); status != CAIRO_STATUS_SUCCESS)
-        return cannotBeDrawn(status);
+    if (!state)
+        return std::move(state.error());
     return surface;
 }
 
@@ -62,13 +72,17 @@ Runtime::Result<AssetCatalog::Picture> VectorImage::picture(double pixelsPerUnit
     if (!surface)
         return surface.error();
     std::string png;
-    const auto append = [](void* out, const unsigned char* data, unsigned length) {
-        static_cast<std::string*>(out)->append(reinterpret_cast<const char*>(data), length);
-        return CAIRO_STATUS_SUCCESS;
+    // Exceptions must not pass through cairo's C frames.
+    const auto append = [](void* out, const unsigned char* data, unsigned length) noexcept {
+        try {
+            static_cast<std::string*>(out)->append(reinterpret_cast<const char*>(data), length);
+            return CAIRO_STATUS_SUCCESS;
+        } catch (const std::bad_alloc&) {
+            return CAIRO_STATUS_NO_MEMORY;
+        }
     };
-    const cairo_status_t status = cairo_surface_write_to_png_stream(surface->get(), append, &png);
-    if (status != CAIRO_STATUS_SUCCESS)
-        return cannotBeDrawn(status);
+    if (auto written = resultOf(cairo_surface_write_to_png_stream(surface->get(), append, &png)); !written)
+        return std::move(written.error());
     AssetCatalog::Picture picture;
     picture.width = static_cast<std::uint32_t>(pixels->columns);
     picture.height = static_cast<std::uint32_t>(pixels->rows);

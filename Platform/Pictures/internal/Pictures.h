@@ -28,8 +28,8 @@ struct Size {
 [[nodiscard]] Runtime::Result<Size> measure(std::span<const std::uint8_t> bytes);
 
 // Decodes a whole picture. Errors: those of measure(), more pixels than `maxPixels` (checked before memory is
-// allocated), damaged (with the decoder's reason, which may be a lack of memory), no plug-in (names its file). Throws
-// std::bad_alloc, and std::system_error when a transient error prevents loading the plug-in.
+// allocated), damaged (with the decoder's reason), no plug-in (names its file). Throws std::bad_alloc, and
+// std::system_error when a transient error prevents loading the plug-in.
 [[nodiscard]] Runtime::Result<Bitmap> decode(std::span<const std::uint8_t> bytes,
                                              std::uint64_t maxPixels = std::uint64_t{64} << 20);
 
