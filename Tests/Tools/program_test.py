@@ -293,6 +293,10 @@ class Program(unittest.TestCase):
         self.assertEqual(run("compile", self.folder / "src", "-o", self.folder / "Shop.bundle", "--depfile", "made.d", "--depfile-target", "made"),
                          (0, b"", ""))
         self.assertIn(r"/src/a\b\\\ c\#d$$e.txt\\", pathlib.Path("made.d").read_text())  # as make reads it
+        self.write("bad/en.lproj/T.strings", "a = ;")
+        for command in (["generate", "bad", "--module", "M"], ["compile", "bad"]):
+            self.assertEqual(run(*command, "-o", "out", "--depfile", "bad.d", "--depfile-target", "out")[0], 2)
+        self.assertFalse(pathlib.Path("bad.d").exists() or pathlib.Path("out").exists())
         self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
                          b"Hello, Bo\n")
         # This bundle has no assets and therefore no catalog, which is not an error; a missing bundle is one.

@@ -28,10 +28,10 @@ Exit runCompile(const CompileOptions& options) {
     auto compiled =
         Compiler::compileBundle(source, options.source.folderPaths(), options.output, diagnostics, std::ref(progress));
     progress.erase();
+    if (compiled && !diagnostics.hasErrors())
+        compiled = options.depfile.write(options.source.inputs());
     if (!compiled)
         diagnostics.add(SourceBundle::Severity::error, std::move(compiled.error()));
-    else if (auto wrote = options.depfile.write(options.source.inputs()); !wrote)
-        diagnostics.add(SourceBundle::Severity::error, std::move(wrote.error()));
     return report(diagnostics);
 }
 

@@ -27,11 +27,13 @@ Exit runGenerate(GenerateOptions& options) {
     Generator::check(options.generator, diagnostics);
     const SourceBundle::Source source = options.source.read(diagnostics);
     const Generator::Model model = Generator::modelOf(source, options.generator, diagnostics);
-    if (!diagnostics.hasErrors())
-        if (auto written = Generator::writeModule(model, options.generator, options.output); !written)
+    if (!diagnostics.hasErrors()) {
+        auto written = Generator::writeModule(model, options.generator, options.output);
+        if (written)
+            written = options.depfile.write(options.source.inputs());
+        if (!written)
             diagnostics.add(SourceBundle::Severity::error, std::move(written.error()));
-    if (auto wrote = options.depfile.write(options.source.inputs()); !wrote)
-        diagnostics.add(SourceBundle::Severity::error, std::move(wrote.error()));
+    }
     return report(diagnostics);
 }
 
