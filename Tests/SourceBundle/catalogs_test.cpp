@@ -343,6 +343,7 @@ TEST_F(Catalogs, LeaveOutInvalidSets) {
              withSet},
         {__LINE__, "a.appiconset", "{}",
          "note A.xcassets/a.appiconset: is a set of an unsupported kind and is left out"},
+        {__LINE__, "a.ImageSet", "{}", "warning A.xcassets/a.ImageSet: is left out: its extension must be .imageset"},
     };
     for (const auto& one : cases) {
         const std::string set = std::string("A.xcassets/") + one.set;

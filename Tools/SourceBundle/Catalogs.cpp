@@ -2,6 +2,7 @@
 
 #include "Runtime/internal/File.h"
 #include "SourceBundle/Json.h"
+#include "SourceBundle/LowerCase.h"
 #include "SourceBundle/Parallel.h"
 #include "SourceBundle/SetContents.h"
 #include "SourceBundle/SourceFiles.h" // maxFolderDepth
@@ -99,6 +100,10 @@ private:
         else if (isUnsupportedSet(folder))
             diagnostics_.add(Severity::note,
                              {.message = "is a set of an unsupported kind and is left out", .file = folder});
+        else if (const fs::path lower = lowerCase(folder.filename()); kindOf(lower)) // with capitals it is not a group
+            diagnostics_.add(
+                Severity::warning,
+                {.message = "is left out: its extension must be " + lower.extension().string(), .file = folder});
         else
             findInFolder(folder,
                          providesNamespace(folder, diagnostics_) ? prefix + folder.filename().string() + "/" : prefix,
