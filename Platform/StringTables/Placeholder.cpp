@@ -158,6 +158,13 @@ std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t 
     return std::nullopt;
 }
 
+std::string_view variableName(std::string_view format, const Placeholder& placeholder) noexcept {
+    if (!format.substr(0, placeholder.end).ends_with("#@"))
+        return {};
+    const std::size_t end = format.find('@', placeholder.end);
+    return end == format.npos ? std::string_view() : format.substr(placeholder.end, end - placeholder.end);
+}
+
 void FormatSignature::add(std::size_t position, Kind kind) {
     if (position == 0)
         return;
@@ -175,6 +182,11 @@ void FormatSignature::add(const Placeholder& placeholder, const ArgumentCounter:
     add(taken.width, Kind::integer);
     add(taken.precision, Kind::integer);
     add(taken.value, placeholder.kind);
+}
+
+void FormatSignature::addUnknownVariable(std::string_view name) {
+    if (unknownVariable.empty())
+        unknownVariable = name;
 }
 
 bool hasLonePercent(std::string_view format) noexcept {
@@ -196,6 +208,7 @@ FormatSignature signatureOf(std::string_view format) {
         at = found->end;
         signature.add(*found, counter.take(*found));
         style.add(*found);
+        signature.addUnknownVariable(variableName(format, *found));
     }
     signature.mixesPositions = style.isMixed();
     signature.hasLonePercent = hasLonePercent(format);

@@ -10,17 +10,6 @@ namespace StringTables {
 
 namespace {
 
-constexpr std::string_view variableMark = "#@";
-
-// NAME if `placeholder` is the beginning of "%#@NAME@" or "%1$#@NAME@", or else an empty string.
-std::string_view nameAfter(std::string_view text, const Placeholder& placeholder) noexcept {
-    const std::string_view read = text.substr(placeholder.begin, placeholder.end - placeholder.begin);
-    if (!read.ends_with(variableMark))
-        return {};
-    const std::size_t end = text.find('@', placeholder.end);
-    return end == text.npos ? std::string_view() : text.substr(placeholder.end, end - placeholder.end);
-}
-
 bool isText(std::string_view valueType) noexcept {
     return valueType == "@";
 }
@@ -45,7 +34,7 @@ std::optional<PluralPiece> PluralPieces::next() noexcept {
 }
 
 const PluralVariable* PluralPieces::variableAt(std::string_view text, const Placeholder& placeholder) const noexcept {
-    const std::string_view name = nameAfter(text, placeholder);
+    const std::string_view name = variableName(text, placeholder);
     const auto found = std::ranges::find(plural_.variables, name, &PluralVariable::name);
     return found == plural_.variables.end() || name.empty() ? nullptr : &*found;
 }
@@ -79,7 +68,7 @@ void PluralPieces::countMostBefore() noexcept {
                 counter.next();
             }
             counter.take(*placeholder);
-            at = placeholder->end;
+            at = placeholder->end + (named == nullptr ? 0 : named->name.size() + 1);
         }
     }
 }
@@ -100,21 +89,25 @@ Placeholder::Kind kindOf(const PluralVariable& variable) {
 
 class SignatureReader {
 public:
-    explicit SignatureReader(const PluralFormat& plural) : plural_(plural) { add(PluralPieces(plural), 0); }
+    explicit SignatureReader(const PluralFormat& plural) : plural_(plural) {
+        add(plural.format, PluralPieces(plural), 0);
+    }
     FormatSignature signature;
 
 private:
     // One text: the format (`own` is 0), or a form that the argument `own` selects. A placeholder for this argument
     // needs no position, even if the others have one.
-    void add(PluralPieces pieces, std::size_t own) {
+    void add(std::string_view text, PluralPieces pieces, std::size_t own) {
         ArgumentStyle style;
         while (const auto piece = pieces.next()) {
             if (piece->placeholder.position != 0 || piece->arguments.value != own)
                 style.add(piece->placeholder);
-            if (piece->variable == nullptr)
-                signature.add(piece->placeholder, piece->arguments);
-            else
+            if (piece->variable != nullptr) {
                 add(*piece->variable, piece->arguments.value);
+                continue;
+            }
+            signature.add(piece->placeholder, piece->arguments);
+            signature.addUnknownVariable(variableName(text, piece->placeholder));
         }
         signature.mixesPositions |= style.isMixed();
     }
@@ -126,7 +119,7 @@ private:
             return;
         for (const auto& form : variable.forms)
             if (form)
-                add(PluralPieces(plural_, *form, variable, argument), argument);
+                add(*form, PluralPieces(plural_, *form, variable, argument), argument);
     }
 
     // Limits, because variables whose forms contain each other could increase the argument without end.

@@ -200,7 +200,7 @@ private:
         else if (key() == pluralKeys::ruleType)
             isPlural_ = text == pluralKeys::pluralRule;
         else if (key() == pluralKeys::valueType)
-            variable_.valueType.assign(text.substr(std::min(text.find_first_not_of('%'), text.size())));
+            variable_.valueType = withoutPercent(text);
         else if (const auto category = Intl::pluralCategoryNamed(key()))
             setForm(variable_.forms[Intl::indexOf(*category)], text);
         else

@@ -40,6 +40,8 @@ TEST(Check, ComparesATranslationWithTheDevelopmentText) {
         {__LINE__, "de", "Half off", "50 % Rabatt, 50 %", "lone-percent"},
         {__LINE__, "fr", "Half off", "50 % de remise", "lone-percent"}, // "% d" does not count as a placeholder
         {__LINE__, "de", "%@", "%1$@ %1$d", "placeholder-mismatch"},
+        {__LINE__, "de", "%@ of %#@files@", "%@ von %d", "placeholder-mismatch"}, // only for the development text
+        {__LINE__, "de", "%d files", "%arg Dateien", "placeholder-mismatch lone-percent"},
         // Spaces at the ends, in which languages differ, and line breaks.
         {__LINE__, "de", "Name: ", "Name:", "space-mismatch"},
         {__LINE__, "de", " a b", "c d ", "space-mismatch"},
@@ -170,6 +172,7 @@ TEST(Check, ComparesAllPluralForms) {
         {__LINE__, "ja", "one=%d 個 %@", "missing-plural-form"},
         {__LINE__, "de", "one=Eine  Datei von %@;other=%d Dateien von %@", "double-space"},
         {__LINE__, "de", "one=100 % der %@;other=%d Dateien von %@", "lone-percent"},
+        {__LINE__, "de", "one=Eine Datei von %@;other=%d %#@x@ von %@", "placeholder-mismatch"},
     };
     for (const auto& one : cases) {
         const std::string file = std::string(one.language) + ".lproj/T.stringsdict";
@@ -202,6 +205,9 @@ TEST(Check, ReadsStringCatalogs) {
     EXPECT_EQ(source.findings(),
               (Strings{"placeholder-mismatch T.xcstrings:3:9 de Hello %@", "missing-key T.xcstrings:8:9 de Stop",
                        "missing-plural-form T.xcstrings:9:9 de cats"}));
+    // The place is the same for all languages, so the message names the language. The first finding is `coverage`.
+    const auto all = Check::check(source.read(), {.folders = {source.path()}}, source.diagnostics);
+    EXPECT_TRUE(all.at(1).message.starts_with("de: \"Hello %@\" takes ")) << all.at(1).message;
 }
 
 TEST(Check, ComparesWithAnOlderSource) {

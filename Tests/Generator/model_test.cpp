@@ -160,7 +160,7 @@ TEST(Model, UsesTheNamesFile) {
 }
 
 TEST(Model, ReportsOtherProblems) {
-    Tree tree("x = y; a = \"%d %\";");
+    Tree tree("x = y; a = \"%d %\"; b = \"%#@n@\";");
     tree.write("de.lproj/T.strings", "x = y;\nold = a; older = b;");
     tree.write("fr.lproj/T.strings", "old = y;");
     tree.write("fr.lproj/U.strings", "more = y;");
@@ -175,6 +175,8 @@ TEST(Model, ReportsOtherProblems) {
                  "Base.lproj/Odd names.strings",
                  "warning: Base.lproj/T.strings:1:8: the text of key \"a\" has a % that begins no placeholder and "
                  "is printed literally (write %% for a percent sign)",
+                 "warning: Base.lproj/T.strings:1:20: the text of key \"b\" names the plural variable \"n\", which it "
+                 "does not have",
                  "note: de.lproj/T.strings:2:1: 3 keys are only in translations and have no accessor; the first "
                  "is \"old\""}));
     // The pseudo-language ar-XB is before "de" but has no file that the message could name.

@@ -95,7 +95,7 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
         int line;
         std::string localization, shown;
     } cases[] = {
-        {__LINE__, "{'variations': " + plural("%lld day", "%lld days") + "}",
+        {__LINE__, "{'variations': " + plural("%arg day", "%lld days") + "}",
          "%#@value@ {value lld one=%lld day other=%lld days}"},
         // The first number selects the form; with several arguments all get positions.
         {__LINE__, "{'variations': " + plural("%@ has one file", "%@ has %lld files") + "}",
@@ -110,12 +110,12 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              "}}}}",
          "%#@value@ {value d one=%d a other=%d b}"},
         {__LINE__,
-         "{'stringUnit': {'state': 'translated', 'value': '%@: %#@files@ in %#@folders@'}, 'substitutions': {"
-         "'files': {'argNum': 2, 'formatSpecifier': 'ld', 'variations': " +
+         "{'stringUnit': {'state': 'translated', 'value': '%@: %#@f%d@ in %#@folders@ by %@'}, 'substitutions': {"
+         "'f%d': {'argNum': 2, 'formatSpecifier': '%ld', 'variations': " +
              plural("%arg file", "%arg files, 100%%arg") +
              "}, 'folders': {'argNum': 3, 'formatSpecifier': '', 'variations': " + plural("a folder", "%arg folders") +
              "}}}",
-         "%1$@: %2$#@files@ in %3$#@folders@ {files ld one=%2$ld file other=%2$ld files, 100%%arg} "
+         "%1$@: %2$#@f%d@ in %3$#@folders@ by %4$@ {f%d ld one=%2$ld file other=%2$ld files, 100%%arg} "
          "{folders lld one=a folder other=%3$lld folders}"},
         // A substitution without a number ('argNum'), and one that is used in a form of another.
         {__LINE__,
@@ -123,8 +123,9 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              "}, 'b': {'argNum': 3, "
              "'variations': " +
              plural("a box", "%arg boxes") + "}}, 'variations': {'device': {'iphone': " + unit("Tap %@, %#@a@") +
-             ", 'other': " + unit("Click %@, %#@a@") + "}}}",
-         "Click %1$@, %2$#@a@ {a lld one=%2$lld egg other=%2$lld eggs in %3$#@b@} {b lld one=a box other=%3$lld "
+             ", 'other': " + unit("Click %@, %#@a@, %.1f") + "}}}",
+         "Click %1$@, %2$#@a@, %4$.1f {a lld one=%2$lld egg other=%2$lld eggs in %3$#@b@} {b lld one=a box "
+         "other=%3$lld "
          "boxes}"},
         // An empty text in the state `new` counts as absent.
         {__LINE__,
@@ -136,7 +137,9 @@ TEST(StringCatalog, HasPluralsDevicesAndSubstitutions) {
              "}}}",
          "x"},
         {__LINE__, "{'variations': {'plural': {'other': {'stringUnit': {'state': 'new', 'value': ''}}}}}", "k"},
-        // Without a text for a device, the entry's own is used.
+        // A text for a device takes precedence over the entry's own, in any order.
+        {__LINE__, "{'variations': {'device': {'mac': " + unit("Click") + "}}, 'stringUnit': {'value': 'Hi'}}",
+         "Click"},
         {__LINE__, "{'stringUnit': {'value': 'Hi'}, 'variations': {'device': {'mac': {}}}}", "Hi"},
     };
     for (const auto& one : cases)
@@ -207,13 +210,15 @@ TEST(StringCatalog, ReportsWhatItLeavesOut) {
                         "'other': {'stringUnit': {'value': 'y'}}}}}}},\n"
                         "'p': {'localizations': {'en': {'variations': {'plural': {'other': {'variations': "
                         "{'device': {'mac': {'stringUnit': {'value': 'x'}}, "
-                        "'other': {'stringUnit': {'value': 'y'}}}}}}}}}}}}"));
+                        "'other': {'stringUnit': {'value': 'y'}}}}}}}}}},\n"
+                        "'s': {'localizations': {'de': {'stringSet': {}}, 'en': {'stringSet': {}}}}}}"));
     folder.write("en.lproj/T.strings", "a = b;");
     (void)folder.read();
     EXPECT_EQ(folder.takeMessages(),
               (Strings{"warning: T.xcstrings:2:1: the key appears again; this text is used",
                        "note: T.xcstrings:2:10: texts for specific devices are left out",
                        "note: T.xcstrings:3:1: texts for specific devices are left out",
+                       "note: T.xcstrings:4:1: \"stringSet\" is not supported and is left out",
                        "error: en.lproj/T.strings: is the table \"T\" in the language en, as is T.xcstrings"}));
 }
 
@@ -237,7 +242,7 @@ TEST(StringCatalog, LimitsTheSubstitutionsOfATextAndItsDeviceTogether) {
 TEST(PluralTables, WinOverEqualKeysOfTexts) {
     Support::SourceFolder folder;
     folder.write("en.lproj/T.strings", "a = b;\n/* why */\nfiles = x;");
-    folder.write("en.lproj/T.stringsdict", R"(<plist><dict>
+    folder.write("A/en.lproj/T.stringsdict", R"(<plist><dict>
 <key>files</key><dict><key>NSStringLocalizedFormatKey</key><string>Found %#@n@ here</string>
 <key>n</key><dict><key>NSStringFormatSpecTypeKey</key><string>NSStringPluralRuleType</string>
 <key>NSStringFormatValueTypeKey</key><string>d</string><key>one</key><string>%d file</string>
@@ -255,12 +260,12 @@ TEST(PluralTables, WinOverEqualKeysOfTexts) {
     std::string names;
     for (int i = 0; i < 500; ++i)
         names += "%#@n@";
-    folder.write("en.lproj/T.stringsdict",
+    folder.write("A/en.lproj/T.stringsdict",
                  "<plist><dict><key>files</key><dict><key>NSStringLocalizedFormatKey</key><string>"
                  "%#@n@</string><key>n</key><dict><key>other</key><string>" +
                      names + "</string></dict></dict></dict></plist>");
     EXPECT_EQ(folder.read().tables.at(0).find("en")->entries()[1].text, "");
-    folder.write("en.lproj/T.stringsdict", "<plist>");
+    folder.write("A/en.lproj/T.stringsdict", "<plist>");
     EXPECT_TRUE(folder.read().tables.at(0).find("en")->isDamaged);
     EXPECT_TRUE(folder.diagnostics.hasErrors());
 }

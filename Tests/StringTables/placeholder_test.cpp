@@ -89,7 +89,8 @@ TEST(Placeholder, IgnoresInvalidPlaceholders) {
 
 TEST(Placeholder, GivesTheSignatureOfAFormat) {
     // A letter for each argument (text, integer, number; '-' for none); then 'm' if the format takes arguments both by
-    // position and in order, '%' for a lone percent sign, and the position and both kinds of a conflict.
+    // position and in order, '%' for a lone percent sign, the name of a variable, and the position and both kinds of a
+    // conflict.
     const auto described = [](std::string_view format) {
         const StringTables::FormatSignature signature = StringTables::signatureOf(format);
         std::string out;
@@ -99,6 +100,7 @@ TEST(Placeholder, GivesTheSignatureOfAFormat) {
             out += kind ? letter(*kind) : '-';
         out += signature.mixesPositions ? " m" : "";
         out += signature.hasLonePercent ? " %" : "";
+        out += signature.unknownVariable.empty() ? "" : " " + signature.unknownVariable;
         if (const auto& conflict = signature.conflict)
             ((out += " " + std::to_string(conflict->position)) += letter(conflict->first)) += letter(conflict->later);
         return out;
@@ -110,6 +112,7 @@ TEST(Placeholder, GivesTheSignatureOfAFormat) {
     } cases[] = {
         {__LINE__, "100%%", ""},
         {__LINE__, "100% k", " %"},
+        {__LINE__, "%2$#@days@ %1$#@hours@ %#@", "tt m days"},
         {__LINE__, "100% sure", "t"},
         {__LINE__, "%@ %d %.2f %s", "tint"},
         {__LINE__, "%3$@ %1$d %1$i", "i-t"},

@@ -175,12 +175,12 @@ TEST(PluralTable, ListsTheArgumentsOfAllForms) {
                              const std::string& other) {
         return dict(name, rule + text("NSStringFormatValueTypeKey", type) + text("one", one) + text("other", other));
     };
-    const std::string size = variable("size", "f", "a byte", "%.1f bytes");
+    const std::string size = variable("%d size", "f", "a byte", "%.1f bytes");
     const auto table = PluralTable::read(
         list(dict("k", text("NSStringLocalizedFormatKey", "%@: %#@files@ %@") +
-                           variable("files", "lu", "one in %#@size@", "%lu in %#@size@ by %4$@") + size) +
+                           variable("files", "lu", "one in %#@%d size@", "%lu in %#@%d size@ by %4$@") + size) +
              dict("no number", text("NSStringLocalizedFormatKey", "%#@files@") +
-                                   variable("files", "lu", "by %@ in %#@size@", "in %#@size@ %") + size)));
+                                   variable("files", "lu", "by %@ in %#@%d size@", "in %#@%d size@ %") + size)));
     ASSERT_TRUE(table);
     const auto signature = signatureOf(table->find("k")->plural);
     const std::vector<std::optional<Kind>> expected = {Kind::text, Kind::integer, Kind::number, Kind::text};
@@ -192,6 +192,7 @@ TEST(PluralTable, ListsTheArgumentsOfAllForms) {
     EXPECT_FALSE(withoutNumber.conflict);
     EXPECT_FALSE(signature.hasLonePercent);
     EXPECT_TRUE(withoutNumber.hasLonePercent);
+    EXPECT_EQ(signature.unknownVariable, "");
 }
 
 TEST(PluralTable, EndsWhereFormsNameEachOther) {

@@ -13,9 +13,13 @@ using StringTables::PluralFormat;
 
 namespace {
 
-// "% d" is a valid placeholder, but translators who write it mean a percent sign.
-bool isProse(const Placeholder& placeholder, std::string_view format) noexcept {
-    return format[placeholder.begin + 1] == ' ';
+// The whole of a valid placeholder that is not meant as one, or an empty string: translators who write "% d" mean a
+// percent sign, and "%arg" is known only in the plural forms of a string catalog.
+std::string_view proseAt(const Placeholder& placeholder, std::string_view format) noexcept {
+    const std::string_view rest = format.substr(placeholder.begin);
+    if (rest.starts_with(unknownArg))
+        return rest.substr(0, unknownArg.size());
+    return rest.starts_with("% ") ? rest.substr(0, placeholder.end - placeholder.begin) : std::string_view();
 }
 
 void keepFirst(std::string_view lonePercent, Arguments& out) noexcept {
@@ -30,10 +34,13 @@ void read(std::string_view format, Arguments& out) {
     while (const auto placeholder = StringTables::nextPlaceholder(format, at)) {
         if (const std::size_t lone = format.find('%', at); lone < placeholder->begin)
             keepFirst(format.substr(lone, 1), out);
-        if (isProse(*placeholder, format))
-            keepFirst(format.substr(placeholder->begin, placeholder->end - placeholder->begin), out);
-        else
+        const std::string_view prose = proseAt(*placeholder, format);
+        if (prose.empty()) {
             out.signature.add(*placeholder, counter.take(*placeholder));
+            out.signature.addUnknownVariable(StringTables::variableName(format, *placeholder));
+        } else {
+            keepFirst(prose, out);
+        }
         at = placeholder->end;
     }
     if (const std::size_t lone = format.find('%', at); lone != format.npos)
@@ -55,7 +62,7 @@ std::string escapedProse(std::string_view format) {
     std::string out;
     std::size_t at = 0;
     while (const auto placeholder = StringTables::nextPlaceholder(format, at)) {
-        out.append(format.substr(at, placeholder->begin - at)).append(isProse(*placeholder, format) ? "%" : "");
+        out.append(format.substr(at, placeholder->begin - at)).append(proseAt(*placeholder, format).empty() ? "" : "%");
         out.append(format.substr(placeholder->begin, placeholder->end - placeholder->begin));
         at = placeholder->end;
     }

@@ -1,6 +1,6 @@
 // Check/Arguments.h
-// The arguments that a text takes. A placeholder with a space after its percent sign does not count: "50% off".
-// Text: UTF-8. Threads: any; no state.
+// The arguments that a text takes. A placeholder with a space after its percent sign does not count: "50% off". Nor
+// does unknownArg. Text: UTF-8. Threads: any; no state.
 #pragma once
 
 #include "SourceBundle/Source.h"
@@ -10,10 +10,15 @@
 
 namespace Check {
 
+// In plural forms of a string catalog this is the number, and the source reader has replaced it. Elsewhere it would be
+// a
+// "%a" with "rg" after it.
+inline constexpr std::string_view unknownArg = "%arg";
+
 struct Arguments {
     StringTables::FormatSignature signature;
-    // The first '%' that should be "%%": "%", or "% o" if it begins a placeholder that does not count. Points into the
-    // entry; empty if there is none.
+    // The first '%' that should be "%%": "%", or "% o" if it begins a placeholder that does not count; or unknownArg.
+    // Points into the entry; empty if there is none.
     std::string_view lonePercent;
 
     // Whether both take arguments of the same kinds at the same positions.

@@ -39,7 +39,7 @@ std::optional<Rule> ruleFor(Topic topic) {
         return Rule::assetUnassigned;
     case Topic::duplicateVariant:
         return Rule::assetDuplicateVariant;
-    case Topic::lonePercent:
+    case Topic::placeholder:
     case Topic::other:
         break;
     }

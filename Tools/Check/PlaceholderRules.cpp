@@ -17,9 +17,10 @@ void checkChange(const Text& text, Report& report) {
 }
 
 // Whether the translation's arguments are correct, or the development text is at fault: its placeholders contradict
-// each other, or it has changed and the translation fits the older one.
+// each other, it names a variable that it does not have, or it has changed and the translation fits the older one.
 bool fits(const Arguments& arguments, const DevelopmentText& development) {
-    return development.arguments.signature.conflict || arguments.fits(development.arguments) ||
+    const auto& signature = development.arguments.signature;
+    return signature.conflict || !signature.unknownVariable.empty() || arguments.fits(development.arguments) ||
            (development.before && arguments.fits(*development.before));
 }
 
@@ -30,7 +31,13 @@ void checkPlaceholders(const Text& text, Report& report) {
     if (!arguments.lonePercent.empty())
         text.report(report, Rule::lonePercent,
                     quote(text.entry.key) + " has " + quote(arguments.lonePercent) +
-                        "; write \"%%\" for a percent sign");
+                        (arguments.lonePercent == unknownArg
+                             ? ", which is a number only in the plural forms of a string catalog"
+                             : "; write \"%%\" for a percent sign"));
+    if (const std::string& name = arguments.signature.unknownVariable; !name.empty())
+        return text.report(report, Rule::placeholderMismatch,
+                           quote(text.entry.key) + " names the plural variable " + quote(name) +
+                               ", which it does not have");
     if (const auto& conflict = arguments.signature.conflict)
         return text.report(report, Rule::placeholderMismatch,
                            quote(text.entry.key) + " takes argument " + std::to_string(conflict->position) +

@@ -27,6 +27,9 @@ public:
              const SourceBundle::SourceEntry* development = nullptr) {
         if (isAllowed(rule, entry) || (development != nullptr && isAllowed(rule, *development)))
             return;
+        // A string catalog has the texts of all languages at the same place.
+        if (entry.file->kind == SourceBundle::TableFile::Kind::catalog)
+            message.insert(0, std::string(language) + ": ");
         add({rule, entry.file->path, entry.line, entry.column, std::string(language), std::string(entry.key),
              std::move(message)});
     }

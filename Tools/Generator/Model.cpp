@@ -105,13 +105,15 @@ private:
         candidate.parameters = std::move(parameters.all);
         if (!parameters.fault.empty())
             candidate.fault = "its text " + parameters.fault;
+        const auto warn = [&](const std::string& what) {
+            diagnostics.add(Severity::warning,
+                            candidate.entry->error("the text of key " + quote(candidate.entry->key) + what),
+                            Topic::placeholder, candidate.entry->key);
+        };
         if (parameters.hasLonePercent)
-            diagnostics.add(
-                Severity::warning,
-                candidate.entry->error("the text of key " + quote(candidate.entry->key) +
-                                       " has a % that begins no placeholder and is printed literally (write "
-                                       "%% for a percent sign)"),
-                Topic::lonePercent, candidate.entry->key);
+            warn(" has a % that begins no placeholder and is printed literally (write %% for a percent sign)");
+        if (!parameters.unknownVariable.empty())
+            warn(" names the plural variable " + quote(parameters.unknownVariable) + ", which it does not have");
     }
 
     void findName(Candidate& candidate) {

@@ -58,6 +58,7 @@ Parameters parametersOf(const SourceBundle::SourceEntry& entry) {
     Parameters parameters;
     parameters.fault = faultOf(signature);
     parameters.hasLonePercent = signature.hasLonePercent;
+    parameters.unknownVariable = signature.unknownVariable;
     for (const auto& kind : signature.arguments)
         parameters.all.push_back(parameterFor(kind.value_or(FormatSignature::Kind::text)));
     return parameters;

@@ -19,6 +19,7 @@ struct Parameters {
     std::vector<Parameter> all;  // by position
     std::string fault;           // why the text cannot have an accessor ("mixes ..."), or empty
     bool hasLonePercent = false; // some '%' does not begin a placeholder
+    std::string unknownVariable; // a plural variable that the text names but does not have, or empty
 };
 
 // The parameters for the placeholders in the entry's text.

@@ -20,7 +20,7 @@ enum class Topic : std::uint8_t {
     other,
     unreadableTable,
     duplicateKey,
-    lonePercent, // a "%" begins no placeholder
+    placeholder, // a "%" begins no placeholder, or one for a variable that does not exist
     nameClash,   // a key, table or asset has no accessors because its name is taken
     noAccessor,  // a key, table or asset has no accessors for another reason
     missingFile,

@@ -123,7 +123,33 @@ std::size_t indexOf(const PluralVariable& variable, const PluralFormat& plural) 
     return static_cast<std::size_t>(&variable - plural.variables.data());
 }
 
-// `text` with the position of the argument at each of its variables, "%2$#@files@". `pieces` are those of `text`.
+// The format with a position at each placeholder without one: at a variable that of its argument, at any other that of
+// the next argument that no variable takes. Only variables get positions if another placeholder has one or takes
+// several arguments ("*").
+std::string withAllPositions(const PluralFormat& plural, const std::vector<std::size_t>& arguments) {
+    bool onlyVariables = false;
+    for (PluralPieces pieces(plural); const auto piece = pieces.next();)
+        onlyVariables |= piece->variable == nullptr && (piece->placeholder.position != 0 ||
+                                                        piece->arguments.width != 0 || piece->arguments.precision != 0);
+    std::string out;
+    std::size_t done = 0, last = 0;
+    for (PluralPieces pieces(plural); const auto piece = pieces.next();) {
+        if (piece->placeholder.position != 0 || piece->placeholder.kind == Placeholder::Kind::percent ||
+            (piece->variable == nullptr && onlyVariables))
+            continue;
+        if (piece->variable == nullptr)
+            do
+                ++last;
+            while (std::ranges::find(arguments, last) != arguments.end());
+        const std::size_t afterPercent = piece->placeholder.begin + 1;
+        out.append(plural.format, done, afterPercent - done);
+        out += positionText(piece->variable == nullptr ? last : arguments[indexOf(*piece->variable, plural)]);
+        done = afterPercent;
+    }
+    return out.append(plural.format, done);
+}
+
+// A form with the position of the argument at each of its variables, "%2$#@files@". `pieces` are those of `text`.
 std::string withArguments(PluralPieces pieces, std::string_view text, const PluralFormat& plural,
                           const std::vector<std::size_t>& arguments) {
     std::string out;
@@ -164,6 +190,9 @@ std::string otherText(const PluralFormat& plural) {
 }
 
 PluralFormat pluralOfForms(PluralForms forms) {
+    for (auto& form : forms)
+        if (form)
+            form = withoutArg(*form, "%lld");
     const Number number = numberOf(forms);
     // A single argument is the number in every form. With several, positions distinguish them.
     if (argumentCount(forms) > 1)
@@ -187,7 +216,7 @@ PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substi
             arguments[indexOf(*piece->variable, plural)] = piece->arguments.value;
 
     const PluralFormat original = plural;
-    plural.format = withPositions(withArguments(PluralPieces(original), format, original, arguments));
+    plural.format = withAllPositions(original, arguments);
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         PluralVariable& variable = plural.variables[i];
         for (auto& form : variable.forms)

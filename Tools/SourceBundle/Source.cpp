@@ -86,8 +86,11 @@ public:
             if (files[i].kind == TableFile::Kind::texts)
                 texts[i] = readTextsFile(files[i]);
         });
-        for (std::size_t i = 0; i < files.size(); ++i)
-            read(files[i], texts[i].get());
+        // Plural tables are last, because they replace texts of other files and take over their comments.
+        for (const bool arePlurals : {false, true})
+            for (std::size_t i = 0; i < files.size(); ++i)
+                if ((files[i].kind == TableFile::Kind::plurals) == arePlurals)
+                    read(files[i], texts[i].get());
     }
 
     // The source language of the first string catalog, or an empty string.

@@ -55,7 +55,9 @@ struct Localized {
     std::vector<Substitution> substitutions;
     State state = State::translated;
     bool hasTooManySubstitutions = false; // the rest is ignored
+    bool isForDevice = false;             // the text and the forms, which take precedence over those for any device
     bool hasDevices = false;              // texts for other devices were ignored
+    std::string unknown;                  // the name of an ignored member that may contain texts, or empty
 
     bool hasForms() const {
         return std::ranges::any_of(forms, [](const auto& form) { return form.has_value(); });
@@ -69,12 +71,19 @@ struct Localized {
     }
     // Uses the text for one kind of device.
     void take(Localized&& device) {
+        isForDevice = true;
         text = std::move(device.text);
         forms = std::move(device.forms);
         for (Substitution& substitution : device.substitutions)
             add(std::move(substitution));
-        hasTooManySubstitutions |= device.hasTooManySubstitutions;
         note(device.state);
+    }
+    // Remembers what was ignored in `part`.
+    void noteIgnored(const Localized& part) {
+        hasTooManySubstitutions |= part.hasTooManySubstitutions;
+        hasDevices |= part.hasDevices;
+        if (unknown.empty())
+            unknown = part.unknown;
     }
     // Keeps the state that is furthest from translated.
     void note(State other) {
@@ -162,9 +171,11 @@ void readPlural(ondemand::value object, Localized& out) {
             return skip(value);
         Localized form;
         readLocalized(value, form);
+        out.noteIgnored(form);
+        if (out.isForDevice)
+            return;
         out.forms[indexOf(*category)] = std::move(form.text);
         out.note(form.state);
-        out.hasDevices |= form.hasDevices;
     });
 }
 
@@ -176,11 +187,12 @@ void readDevices(ondemand::value object, Localized& out) {
     forEach(object, [&](std::string_view name, ondemand::value value) {
         Localized device;
         readLocalized(value, device);
+        out.noteIgnored(device);
         if (device.isEmpty())
             return;
         const std::size_t rank = deviceRank(name);
         const bool isFirst = best > lastDeviceRank;
-        out.hasDevices |= !isFirst || device.hasDevices;
+        out.hasDevices |= !isFirst;
         if (rank < best) {
             best = rank;
             chosen = std::move(device);
@@ -192,12 +204,14 @@ void readDevices(ondemand::value object, Localized& out) {
 
 void readVariations(ondemand::value object, Localized& out) {
     forEach(object, [&](std::string_view kind, ondemand::value variation) {
-        if (kind == "plural")
+        if (kind == "plural") {
             readPlural(variation, out);
-        else if (kind == "device")
+        } else if (kind == "device") {
             readDevices(variation, out);
-        else
+        } else {
+            out.unknown = kind;
             skip(variation);
+        }
     });
 }
 
@@ -210,7 +224,7 @@ void readSubstitutions(ondemand::value object, Localized& out) {
                 substitution.argument =
                     std::min<std::uint64_t>(inner.get_uint64(), 9999); // the highest position of a placeholder
             else if (member == "formatSpecifier")
-                substitution.variable.valueType = std::string(std::string_view(inner.get_string()));
+                substitution.variable.valueType = StringTables::withoutPercent(inner.get_string());
             else if (member == "variations")
                 readVariations(inner, forms);
             else
@@ -220,7 +234,7 @@ void readSubstitutions(ondemand::value object, Localized& out) {
             substitution.variable.valueType = "lld";
         substitution.variable.forms = std::move(forms.forms);
         out.note(forms.state);
-        out.hasDevices |= forms.hasDevices;
+        out.noteIgnored(forms);
         out.add(std::move(substitution));
     });
 }
@@ -229,6 +243,8 @@ void readLocalized(ondemand::value object, Localized& out) {
     forEach(object, [&](std::string_view name, ondemand::value value) {
         if (name == "stringUnit") {
             Unit unit = readUnit(value);
+            if (out.isForDevice)
+                return;
             out.text = std::move(unit.text);
             out.note(unit.state);
         } else if (name == "variations") {
@@ -236,6 +252,7 @@ void readLocalized(ondemand::value object, Localized& out) {
         } else if (name == "substitutions") {
             readSubstitutions(value, out);
         } else {
+            out.unknown = name;
             skip(value);
         }
     });
@@ -338,6 +355,7 @@ private:
                 skip(value);
         });
         common.comment = comment;
+        reportIgnored(localizations, {.message = "", .file = file_, .line = line, .column = column});
         std::erase_if(localizations, [](const auto& each) { return each.second.isEmpty(); });
         const auto isSource = [&](const auto& each) { return each.first == sourceLanguage_; };
         if (std::ranges::none_of(localizations, isSource))
@@ -346,19 +364,28 @@ private:
             add(common, language, std::move(localized));
     }
 
+    // Reports once what was ignored in any language of a key.
+    void reportIgnored(const std::vector<std::pair<std::string, Localized>>& localizations,
+                       const Runtime::Error& place) {
+        Localized all;
+        for (const auto& [language, localized] : localizations)
+            all.noteIgnored(localized);
+        const auto report = [&](Severity severity, std::string message) {
+            Runtime::Error what = place;
+            what.message = std::move(message);
+            diagnostics_.add(severity, std::move(what));
+        };
+        if (all.hasDevices)
+            report(Severity::note, "texts for specific devices are left out");
+        if (!all.unknown.empty())
+            report(Severity::note, quotedName(all.unknown) + " is not supported and is left out");
+        if (all.hasTooManySubstitutions)
+            report(Severity::warning, "a text has more than " +
+                                          std::to_string(StringTables::PluralTable::maxVariables) +
+                                          " substitutions; the rest is left out");
+    }
+
     void add(CatalogText text, std::string_view language, Localized localized) {
-        if (localized.hasDevices)
-            diagnostics_.add(Severity::note, {.message = "texts for specific devices are left out",
-                                              .file = file_,
-                                              .line = text.line,
-                                              .column = text.column});
-        if (localized.hasTooManySubstitutions)
-            diagnostics_.add(Severity::warning, {.message = "a text has more than " +
-                                                            std::to_string(StringTables::PluralTable::maxVariables) +
-                                                            " substitutions; the rest is left out",
-                                                 .file = file_,
-                                                 .line = text.line,
-                                                 .column = text.column});
         text.language = language;
         text.state = localized.state;
         if (!localized.substitutions.empty() && localized.text)

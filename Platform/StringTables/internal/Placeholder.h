@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -45,6 +46,8 @@ struct Placeholder {
 // position of 0 or of more than four digits, or with a width or precision of more than six digits. Never fails,
 // allocates nothing.
 [[nodiscard]] std::optional<Placeholder> nextPlaceholder(std::string_view format, std::size_t from) noexcept;
+// NAME if `placeholder` is the beginning of a variable, "%#@NAME@" or "%1$#@NAME@", or else an empty string.
+[[nodiscard]] std::string_view variableName(std::string_view format, const Placeholder& placeholder) noexcept;
 
 // Counts the arguments that the placeholders of one format take, in the order of the format.
 class ArgumentCounter {
@@ -114,12 +117,15 @@ struct FormatSignature {
     std::vector<std::optional<Kind>> arguments;
     std::optional<Conflict> conflict; // the first one
     bool mixesPositions = false;      // one text takes arguments both by position and in order (ArgumentStyle)
+    std::string unknownVariable{};    // the first variable that is named but does not exist, or empty
     bool hasLonePercent = false;      // what hasLonePercent() says of the format, in a plural also of its forms
 
     // Adds the arguments that a placeholder takes.
     void add(const Placeholder& placeholder, const ArgumentCounter::Taken& taken);
     // Adds an argument of that kind at `position`; does nothing for position 0.
     void add(std::size_t position, Kind kind);
+    // Sets unknownVariable, unless it is set already or `name` is empty.
+    void addUnknownVariable(std::string_view name);
 };
 [[nodiscard]] FormatSignature signatureOf(std::string_view format);
 // Whether some '%' does not begin a placeholder.

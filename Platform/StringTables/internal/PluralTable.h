@@ -27,6 +27,12 @@ struct PluralVariable {
     friend bool operator==(const PluralVariable&, const PluralVariable&) = default;
 };
 
+// A value type without the percent signs at its beginning, which some files have.
+[[nodiscard]] constexpr std::string_view withoutPercent(std::string_view valueType) noexcept {
+    const std::size_t begin = valueType.find_first_not_of('%');
+    return begin == valueType.npos ? std::string_view() : valueType.substr(begin);
+}
+
 // The form `other`, which every language has; if the table lacks it, the last existing form, else an empty text.
 [[nodiscard]] std::string_view otherForm(const PluralVariable& variable) noexcept;
 
