@@ -32,7 +32,8 @@ def replace(path, old, new):
 def build_and_change(prefix, folder, generator):
     shop, build = folder / "Shop", folder / "build"
     shutil.copytree(source / "Examples/Shop", shop)
-    run(options.cmake, "-S", shop, "-B", build, "-G", generator, f"-DCMAKE_PREFIX_PATH={prefix}", "-DCMAKE_BUILD_TYPE=Debug")
+    run(options.cmake, "-S", shop, "-B", build, "-G", generator, f"-DCMAKE_PREFIX_PATH={prefix}", "-DCMAKE_BUILD_TYPE=Debug",
+        "-DCMAKE_UNITY_BUILD=ON", "-DCMAKE_CXX_FLAGS=-fno-rtti")
     make = [options.cmake, "--build", build, "--parallel", "2", "--target", "shop"]
     run(*make)
     program, [bundle] = build / "shop", build.rglob("Shop.bundle")
@@ -95,4 +96,9 @@ with tempfile.TemporaryDirectory(prefix="lumora-module-") as top:
         folder = top / name.split()[0]
         folder.mkdir()
         build_and_change(top / "prefix", folder, name)
+    wrong = top / "wrong"
+    shutil.copytree(source / "Examples/Shop", wrong)
+    replace(wrong / "CMakeLists.txt", "lumora_install_module(Shop)", "lumora_install_module(Shop EXPORTS set)")
+    done = subprocess.run([options.cmake, "-S", wrong, "-B", top / "wrong build", f"-DCMAKE_PREFIX_PATH={top / 'prefix'}"], capture_output=True, text=True)
+    expect("an unknown argument", (done.returncode, "usage: lumora_install_module(" in done.stderr), (1, True))
 print("an application's own module is built and runs, and after a change only what needs it is built again")
