@@ -1,4 +1,4 @@
-// The demo's page of colours and pictures.
+// The demo's colours, and its contact sheet of pictures.
 #pragma once
 
 // Prints the progress colours and the names of the pictures for each region, and writes the pictures into one PNG at

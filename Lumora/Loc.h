@@ -3,7 +3,8 @@
  * Text: UTF-8. Threads: every function from any thread.
  * Ownership: the caller calls NSRelease() for every NSString and NSNumber that a function
  * returns; arguments still belong to the caller. Null arguments are allowed. A function
- * returns null only when memory runs out; then, or when descriptors run out, a text may be empty. */
+ * returns null only when memory runs out; then, or when file descriptors run out, a text may be
+ * empty. */
 #ifndef LUMORA_LOC_H
 #define LUMORA_LOC_H
 

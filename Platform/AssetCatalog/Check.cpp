@@ -90,9 +90,9 @@ private:
         if (!within(color.space(), ColorSpace::gray))
             return "has a colour in an unknown colour space";
         const Format::Components& components = *color.components();
-        const bool isSound = std::isfinite(components.first()) && std::isfinite(components.second()) &&
+        const bool isValid = std::isfinite(components.first()) && std::isfinite(components.second()) &&
                              std::isfinite(components.third()) && components.alpha() >= 0 && components.alpha() <= 1;
-        return isSound ? nullptr : "has a colour with invalid components";
+        return isValid ? nullptr : "has a colour with invalid components";
     }
     const char* fault(const Format::Data& data) const {
         if (!isShort(data.type()))

@@ -78,6 +78,7 @@ bool mayHaveFolders(const std::string& bundle, std::size_t count) noexcept {
 } // namespace
 
 BundleFolders bundleFolders(const std::string& bundle) {
+    // The second argument is the length of the bundle's path: links must not lead out of that folder.
     StringTables::StoredTable information(std::string(bundle).append("/").append(layout::informationFile),
                                           bundle.size());
     const auto find = [&](std::string_view key, std::string_view otherwise) {

@@ -14,7 +14,7 @@ namespace Foundation {
 
 class LUMORA_EXPORT NSDictionary {
 public:
-    // Reads the whole file; no value if it is missing, cannot be read, is damaged, or has more than 256 MiB. Throws
+    // Reads the whole file; no value if it is missing, cannot be read, is damaged, or is larger than 256 MiB. Throws
     // std::bad_alloc, and std::system_error on a transient error, such as too many open files.
     [[nodiscard]] static std::optional<NSDictionary> dictionaryWithContentsOfFile(const std::string& path);
 

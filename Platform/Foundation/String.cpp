@@ -204,8 +204,9 @@ private:
 
     void putCharacter(std::int64_t value) {
         std::array<char, detail::scalarTextSize> buffer;
+        constexpr std::uint32_t invalidCode = UINT32_MAX;
         const bool isCode = value >= 0 && value <= UINT32_MAX;
-        put(detail::characterText(isCode ? static_cast<std::uint32_t>(value) : UINT32_MAX, buffer.data()));
+        put(detail::characterText(isCode ? static_cast<std::uint32_t>(value) : invalidCode, buffer.data()));
     }
 
     const Intl::NumberPattern& pattern() {

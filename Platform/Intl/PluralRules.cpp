@@ -86,7 +86,7 @@ void addFraction(PluralOperands& number, char digit) noexcept {
     }
 }
 
-// Parses an exponent such as "e+06"; 0 if there is none or it is too large for an int.
+// Parses an exponent such as "e+06". 0 if there is none, or if it is too large for an int, which no printed double has.
 int exponentOf(std::string_view text) noexcept {
     constexpr int most = 400; // more than the exponent of any double
     if (!text.starts_with('e') && !text.starts_with('E'))

@@ -30,6 +30,7 @@ const Known* find(std::string_view locale) noexcept {
     return found != std::end(known) && nameOf(*found) == name ? found : nullptr;
 }
 
+// Reads the fields as forEachField() says that they are stored.
 template <class Value> Value readAt(std::size_t offset) {
     Value value;
     const char* at = texts + offset;

@@ -174,7 +174,7 @@ void FormatSignature::add(std::size_t position, Kind kind) {
     std::optional<Kind>& known = arguments[count - 1];
     if (!known)
         known = kind;
-    else if (*known != kind && !conflict && position < mostArguments)
+    else if (*known != kind && !conflict && position < mostArguments) // the last one represents several positions
         conflict = {position, *known, kind};
 }
 

@@ -66,7 +66,7 @@ Runtime::Result<std::string> writeXml(Entries entries, Comments comments) {
                       "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
                       "<plist version=\"1.0\">\n<dict>\n";
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        const auto& [key, text, offset] = entries[i];
+        const std::string_view key = entries[i].key, text = entries[i].text;
         const std::string_view comment = commentOf(comments, i);
         if (auto checked = check(entries[i], comment); !checked)
             return std::move(checked.error());

@@ -1,5 +1,5 @@
 // SwiftUI/SwiftUI.h
-// The views. The headers for modules are not included: AssetRecord.h and ModuleConveniences.h.
+// The views, without AssetRecord.h and ModuleConveniences.h, which only the code of modules includes.
 #pragma once
 
 #include "SwiftUI/Color.h"

@@ -3,7 +3,7 @@
 // Text: UTF-8. Threads: plain values.
 #pragma once
 
-#include "Runtime/Export.h" // checks that the mode is C++20 or later
+#include "Runtime/Export.h" // reports a compiler mode older than C++20
 #include <string>
 #include <utility>
 

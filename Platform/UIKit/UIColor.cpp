@@ -10,7 +10,7 @@ std::optional<UIColor> UIColor::colorNamed(std::string_view name, const Foundati
     const auto found = detail::findAsset(AssetCatalog::Kind::color, name, bundle);
     if (!found)
         return std::nullopt;
-    // over({}) clamps the scale, so that traits with the same effect compare equal.
+    // over({}) only clamps the scale, so that traits with the same effect compare equal.
     return UIColor(
         State(Asset{found->catalog, found->index, traits == nullptr ? UITraitCollection{} : traits->over({})}));
 }

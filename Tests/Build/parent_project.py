@@ -23,7 +23,7 @@ with tempfile.TemporaryDirectory(prefix="lumora-parent-") as folder:
                  "-DLUMORA_TOOLS=OFF", f"-DLUMORA_PROGRAM={options.build}/bin/lumora", "-DCMAKE_UNITY_BUILD=ON"]
     for config in ("DEBUG", "RELEASE"):  # none of these may change what is installed
         configure += [f"-DCMAKE_{config}_POSTFIX=-{config}", f"-DCMAKE_LIBRARY_OUTPUT_DIRECTORY_{config}={folder}/libraries"]
-    run(*configure, "-B", folder / "without a build type")
+    run(*configure, "-B", folder / "without a build type")  # fails if our files set one
     run(*configure, "-B", folder / "build", "-DLUMORA_INSTALL=ON", "-DCMAKE_INSTALL_PREFIX=/usr", *flags)
     run(options.cmake, "--build", folder / "build", "--target", "app")
     expect("own target only", run(folder / "build/app").splitlines()[:2], [russian("Continue"), NUMBER])
@@ -47,7 +47,7 @@ with tempfile.TemporaryDirectory(prefix="lumora-parent-") as folder:
         # Only in release builds, because debug information contains folder names.
         if "BUILD_TYPE:STRING=Release" in cache and not filecmp.cmp(distributed[name], own[name], shallow=False):
             raise SystemExit(f"{name} differs between two builds in different folders")
-    # The parent project builds no program.
+    # Only the program and its files may be missing from the distribution's package, because LUMORA_TOOLS is off.
     tools = folder / "tools"
     run(options.cmake, "--install", options.build, "--prefix", tools, "--component", "tools")
     missing = set(own) - set(distributed) - set(installed(tools, tools / other.parent.relative_to(folder / "other")))

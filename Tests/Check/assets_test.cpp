@@ -53,7 +53,7 @@ TEST(Check, FindsFaultsOfAssets) {
         {__LINE__,
          "a.imageset",
          R"({"filename": "a.svg", "scale": "1x"}, {"scale": "2x"}, {"scale": "3x"})",
-         {}}, // a vector is drawn in all scales
+         {}}, // a vector drawing needs no bitmap beside it
         {__LINE__,
          "a.imageset",
          R"({"filename": "a.svg"}, {"appearances": [{"appearance": "luminosity", "value": "dark"}]})",

@@ -230,7 +230,7 @@ TEST_F(Bundle, KeepsItsContentIfAReloadFindsNoChange) {
         return &bundle().localizations();
     };
     write("Base.lproj/Localizable.strings", "a = old;");
-    // A file that has just been written may change again within the same tick of the clock, so it is read again.
+    // A file written in the last 100 ms may change again within the same tick of the clock, so it is read again.
     EXPECT_NE(reloaded(), reloaded());
     std::this_thread::sleep_for(std::chrono::milliseconds(200));
     EXPECT_EQ(reloaded(), reloaded());

@@ -1,5 +1,6 @@
-"""Fails if generated objects run code when they are loaded, if those of OddStrings have data that must be relocated, or if the exported
-symbols are not exactly bundle() and the expected numbers of accessors and constants."""
+"""Fails if generated objects run code when they are loaded, if those of OddStrings have data that must be relocated (the constants of
+OddAsset have pointers to their names), or if the exported symbols are not exactly bundle() and the expected numbers of accessors and
+constants."""
 import re
 import subprocess
 import sys

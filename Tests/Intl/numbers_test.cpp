@@ -17,6 +17,7 @@ using Intl::NumberStyle;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
+// Halves and their neighbours, powers of ten, the end of the fast path in NumberText.cpp (2^40), and extremes.
 const double doubles[] = {
     0.0,
     -0.0,

@@ -1,4 +1,5 @@
-"""Compares the assets of the compiled bundle, and the constants and their order, with the list in Resources/Drawings/names.py."""
+"""asset_names.py REPOSITORY LUMORA: compares the assets of the compiled bundle, and the constants and their order, with the list in
+Resources/Drawings/names.py. LUMORA is the program."""
 import json
 import pathlib
 import re

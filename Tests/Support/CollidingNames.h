@@ -18,6 +18,7 @@ inline std::string bytesOf(std::uint64_t word) {
 inline bool isAlphanumeric(const std::string& text) {
     return std::ranges::all_of(text, [](unsigned char byte) { return std::isalnum(byte) && byte < 0x80; });
 }
+inline constexpr const char* filler = "continue"; // any word of eight letters
 // Eight bytes, a word for the hashes: "a0000001". At most 9,999,999.
 inline std::string numbered(std::size_t number) {
     const std::string digits = std::to_string(number);
@@ -31,7 +32,7 @@ inline std::vector<std::string> inKeyHash(std::size_t count) {
     const std::uint64_t seed = Runtime::hashSpread, second = seed * Runtime::hashSpread ^ Runtime::hashSpread;
     std::string begin;
     for (std::size_t i = 0; begin.size() != 24 || !isAlphanumeric(begin); ++i) {
-        begin = numbered(i) + "continue";
+        begin = numbered(i) + filler;
         begin += bytesOf(Runtime::mixed(Runtime::loadLittle<std::uint64_t>(begin.data()) ^ seed,
                                         Runtime::loadLittle<std::uint64_t>(begin.data() + 8) ^ second));
     }
@@ -52,7 +53,7 @@ std::vector<std::string> chained(std::uint64_t state, std::size_t count, Step st
     const auto loaded = [](const std::string& word) { return Runtime::loadLittle<std::uint64_t>(word.data()); };
     std::vector<std::string> names = {""};
     while (names.size() < 4096) {
-        const std::string first = numbered(0) + "continue";
+        const std::string first = numbered(0) + filler;
         const std::uint64_t wanted = step(step(state, loaded(first)), loaded(first.substr(8)));
         std::string other;
         for (std::size_t i = 1; !isAlphanumeric(other) || other.empty(); ++i)

@@ -42,7 +42,7 @@ bool isUnassigned(const Json& entry) {
     return SourceBundle::member(entry, "unassigned") == Json(true);
 }
 
-// Whether the picture is sharp at every scale, judged by its file's name.
+// Whether the picture is a vector drawing, judged by its file's name.
 bool isVector(const SetEntry& entry) {
     const fs::path file = SourceBundle::lowerCase(SourceBundle::text(*entry.json, "filename"));
     return file.extension() == ".pdf" || file.extension() == ".svg";

@@ -134,8 +134,8 @@ bool writeNew(const fs::path& path, std::span<const std::string_view> pieces) {
 }
 
 // Calls `make` to create the file at `path`, after its folder if that is missing. An existing file is replaced in one
-// step: at any moment a kill leaves the folder with its mark file, and a hard link to the target's file is never
-// written to. Returns false and sets errno on failure.
+// step, so that even a kill leaves the folder with its mark file, and never written to, because it may be a hard link
+// to the target's file. Returns false and sets errno on failure.
 bool put(const fs::path& path, const std::function<bool(const fs::path&)>& make) {
     if (make(path) || (errno == ENOENT && createFolderOf(path) && make(path)))
         return true;

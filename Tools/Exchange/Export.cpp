@@ -13,8 +13,8 @@ using SourceBundle::SourceTable;
 
 namespace {
 
-// "en.lproj/Localizable.strings:12": the file relative to the last of the source's folders that contains it, or only
-// its name, if that path is not UTF-8.
+// "en.lproj/Localizable.strings:12": the file relative to the source's folder that contains it (the last of several),
+// or only its name, if that path is not UTF-8.
 std::string placeOf(const SourceEntry& entry, std::span<const fs::path> folders) {
     fs::path shown = entry.file->path.filename();
     for (const fs::path& folder : folders)

@@ -75,7 +75,7 @@ const PluralVariable* variableNamed(const PluralFormat& plural, const std::strin
     return found == plural.variables.end() ? nullptr : &*found;
 }
 
-// The position of a variable's number; 1 for a variable that occurs only in forms.
+// The position of a variable's number. That of a variable that occurs only in forms is unknown and counts as the first.
 std::size_t argumentOf(const PluralFormat& plural, const PluralVariable& variable) {
     PluralPieces pieces(plural);
     while (const auto piece = pieces.next())

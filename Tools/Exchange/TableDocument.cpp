@@ -24,7 +24,7 @@ template <class Document> Read asDocument(Runtime::Result<Document> document) {
 Read readBytes(Kind kind, std::string bytes) {
     if (kind == Kind::catalog)
         return asDocument(CatalogDocument::read(std::move(bytes)));
-    const bool isBinary = bytes.starts_with("bplist0");
+    const bool isBinary = bytes.starts_with("bplist0"); // the readers reject unknown versions, such as "01"
     if (isBinary && kind == Kind::texts)
         return asDocument(BinaryTexts::read(std::move(bytes)));
     if (isBinary)

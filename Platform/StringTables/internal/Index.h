@@ -19,8 +19,8 @@ public:
     // earlier one, and the later one is removed from `entries`.
     template <class Entry, class Replace> void build(std::vector<Entry>& entries, Replace&& replace);
 
-    // Adds the last of the entries; the others are in the index already. Returns `none`. If another entry has its key,
-    // adds nothing and returns the number of that entry.
+    // Adds the last of the entries, when the others are in the index already, and returns `none`. If another entry has
+    // its key, adds nothing and returns the number of that entry.
     template <class Entry> std::size_t addLast(const std::vector<Entry>& entries);
 
     // The number of the key's entry, or `none`.

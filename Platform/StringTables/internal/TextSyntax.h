@@ -14,7 +14,7 @@ inline bool beginsComment(const char* at) noexcept {
     return *at == '/' && (at[1] == '/' || at[1] == '*');
 }
 
-// One past the comment that begins at `at`. A line comment ends before its line break. Null if the comment is never
+// The end of the comment that begins at `at`. A line comment ends before its line break. Null if the comment is never
 // closed.
 inline const char* commentEnd(const char* at, const char* end) noexcept {
     if (at[1] == '/')

@@ -1,5 +1,5 @@
 // The text in a form for comparisons that ignore case, accents and compatibility forms. The form of a
-// character does not depend on its neighbours, so both small sigmas become one.
+// character does not depend on its neighbours, so ς, which toLowerCase() writes at the end of a word, becomes σ.
 function folded(text) {
     return text.normalize("NFKD").replace(/[\u0300-\u036f]/g, "").toLowerCase().replaceAll("ς", "σ");
 }
