@@ -87,7 +87,7 @@ def measure(folder, keys, languages):
     times = {}
     made = folder / "made"
     done = subprocess.run(generate_command(folder / "source", made), check=True, capture_output=True, text=True)
-    warned = sum(number % 50 == 4 for number in range(keys))
+    warned = sum(number % 50 == 4 for number in range(keys))  # the texts with "100%."
     assert accessor_count(made) == keys and done.stderr.count("begins no placeholder") == warned, "generated wrongly"
     compiled = folder / "Grown.bundle"
     subprocess.run(compile_command(folder / "source", compiled), check=True)

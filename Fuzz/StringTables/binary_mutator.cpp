@@ -18,15 +18,15 @@ std::uint64_t number(const std::uint8_t* at, std::size_t size) {
     return value;
 }
 
-// The size of the object at `at`, which has at most `left` bytes. Its first byte has its type and its count; 0xF means
-// that an integer with the count follows.
+// The size of the object at `at`, which has at most `left` bytes. Its first byte has its type and its count. For the
+// types from data on, except a UID, the count 0xF means that an integer with the count follows.
 std::uint64_t sizeOf(const std::uint8_t* at, std::size_t left, std::size_t refSize) {
     const std::size_t type = *at >> 4;
     std::uint64_t count = *at & 0xF, head = 1;
     if (type >= 4 && type != 8 && count == 0xF && left > 1 && at[1] >> 4 == 0x1) {
         const std::size_t countSize = std::size_t{1} << (at[1] & 3);
         head = 2 + countSize;
-        count = head <= left ? number(at + 2, countSize) & 0xFFFFFFFF : 0;
+        count = head <= left ? number(at + 2, countSize) & 0xFFFFFFFF : 0; // 32 bits, so that no product overflows
     }
     switch (type) {
     case 0x1: // integer

@@ -44,6 +44,7 @@ Read readBytes(Kind kind, std::string bytes) {
 } // namespace
 
 Read TableDocument::read(const SourceBundle::TableFile& file) {
+    // The limit of the largest kind; the readers check those of the others.
     auto bytes = Runtime::readFile(file.path, SourceBundle::maxCatalogBytes);
     if (!bytes)
         return std::move(bytes.error());
