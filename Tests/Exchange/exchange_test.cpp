@@ -470,6 +470,30 @@ TEST(Imports, ChangeNothingButTextsOfStringCatalogs) {
     }
 }
 
+TEST(Imports, CountTheArgumentsOfACatalogAsItsReaderDoes) {
+    Support::SourceFolder folder;
+    const auto forms = [](const std::string& other) { return R"({"plural":{"other":)" + stringUnit(other) + "}}"; };
+    folder.write("T.xcstrings", R"({"sourceLanguage":"en","strings":{"days":{"localizations":{"en":{"variations":)" +
+                                    forms("%arg days") + R"(},"de":{}}},"k":{"localizations":{"en":{"stringUnit":)" +
+                                    R"({"value":"%@ has %#@cats@, %.1f"},"substitutions":{"cats":{"variations":)" +
+                                    forms("%arg cats") + "}}}}}}}");
+    const struct {
+        int line;
+        const char *id, *target;
+        bool fits;
+    } cases[] = {
+        {__LINE__, "T[plural.other]/days", "%lld Tage", true},
+        {__LINE__, "T[plural.other]/days", "%@ Tage", false},
+        {__LINE__, "T/k", "%3$.1f, %#@cats@ von %1$@", true}, // the second argument is that of `cats`
+        {__LINE__, "T/k", "%2$.1f, %#@cats@ von %1$@", false},
+    };
+    for (const auto& one : cases) {
+        const Strings messages = importEdited(folder, {{one.id, one.target}}).messages;
+        const bool takesOther = !messages.empty() && messages[0].find(" takes ") != std::string::npos;
+        EXPECT_NE(takesOther, one.fits) << "line " << one.line << (messages.empty() ? "" : messages[0]);
+    }
+}
+
 // The state is stored with the translation, even if the development text is in a file without states.
 TEST(Imports, ChangeTheStateInACatalogOfTranslations) {
     Support::SourceFolder folder;

@@ -5,6 +5,7 @@
 #include "StringTables/internal/PluralPieces.h"
 #include <algorithm>
 #include <map>
+#include <set>
 #include <utility>
 
 namespace Exchange {
@@ -42,39 +43,6 @@ Arguments pluralArguments(PluralPieces pieces) {
     return arguments;
 }
 
-// Removes every `mark`, which begins with "%", from the text. Returns whether there was one. In "%%arg" there is none.
-bool removeAll(std::string& text, std::string_view mark) {
-    std::string kept;
-    bool found = false;
-    for (std::string_view rest = text; !rest.empty();) {
-        const bool isMark = rest.starts_with(mark);
-        const std::string_view piece = rest.substr(0, isMark ? mark.size() : rest.starts_with("%%") ? 2 : 1);
-        if (!isMark)
-            kept += piece;
-        found |= isMark;
-        rest.remove_prefix(piece.size());
-    }
-    text = std::move(kept);
-    return found;
-}
-
-// The arguments of any other text; `plural`: its format if it is in a string catalog and has one, or null.
-Arguments otherArguments(std::string text, const PluralFormat* plural) {
-    Arguments arguments;
-    if (plural != nullptr)
-        for (const PluralVariable& variable : plural->variables)
-            if (removeAll(text, "%#@" + variable.name + "@"))
-                arguments.variables.emplace(variable.name, 0);
-    removeAll(text, "%arg"); // the number of a substitution
-    add(arguments, StringTables::signatureOf(text));
-    return arguments;
-}
-
-const PluralVariable* variableNamed(const PluralFormat& plural, const std::string& name) {
-    const auto found = std::ranges::find(plural.variables, name, &PluralVariable::name);
-    return found == plural.variables.end() ? nullptr : &*found;
-}
-
 // The position of a variable's number. That of a variable that occurs only in forms is unknown and counts as the first.
 std::size_t argumentOf(const PluralFormat& plural, const PluralVariable& variable) {
     PluralPieces pieces(plural);
@@ -84,6 +52,51 @@ std::size_t argumentOf(const PluralFormat& plural, const PluralVariable& variabl
     return 1;
 }
 
+// Replaces every `mark`, which begins with "%". Returns whether there was one. In "%%arg" there is none.
+bool replaceAll(std::string& text, std::string_view mark, std::string_view replacement) {
+    std::string out;
+    bool found = false;
+    for (std::string_view rest = text; !rest.empty();) {
+        const bool isMark = rest.starts_with(mark);
+        const std::string_view piece = rest.substr(0, isMark ? mark.size() : rest.starts_with("%%") ? 2 : 1);
+        out += isMark ? replacement : piece;
+        found |= isMark;
+        rest.remove_prefix(piece.size());
+    }
+    text = std::move(out);
+    return found;
+}
+
+// The arguments of any other text; `plural`: its format if it is in a string catalog and has one, or null. `number`:
+// what "%arg" stands for; empty in a substitution, whose number is no argument of its own.
+Arguments otherArguments(std::string text, const PluralFormat* plural, std::string_view number) {
+    Arguments arguments;
+    std::set<std::size_t> ofVariables; // other placeholders without a position do not take these arguments
+    if (plural != nullptr)
+        for (const PluralVariable& variable : plural->variables)
+            if (replaceAll(text, "%#@" + variable.name + "@", "")) {
+                arguments.variables.emplace(variable.name, 0);
+                ofVariables.insert(argumentOf(*plural, variable));
+            }
+    replaceAll(text, "%arg", number);
+    StringTables::FormatSignature signature;
+    StringTables::ArgumentCounter counter;
+    std::size_t at = 0;
+    while (const auto placeholder = StringTables::nextPlaceholder(text, at)) {
+        at = placeholder->end;
+        while (placeholder->position == 0 && ofVariables.contains(counter.taken() + 1))
+            counter.next();
+        signature.add(*placeholder, counter.take(*placeholder));
+    }
+    add(arguments, signature);
+    return arguments;
+}
+
+const PluralVariable* variableNamed(const PluralFormat& plural, const std::string& name) {
+    const auto found = std::ranges::find(plural.variables, name, &PluralVariable::name);
+    return found == plural.variables.end() ? nullptr : &*found;
+}
+
 // Finds the arguments of one unit's development text and of its translations.
 class ArgumentFinder {
 public:
@@ -91,8 +104,10 @@ public:
         : part_(unit.id.part), isPlural_(unit.id.category), plural_(development.plural) {}
 
     Arguments argumentsOf(const std::string& text) const {
-        if (plural_ == nullptr || part_.empty() || part_.front() == devicePart || part_.front() == substitutionsPart)
-            return otherArguments(text, plural_);
+        if (!part_.empty() && part_.front() == substitutionsPart)
+            return otherArguments(text, plural_, "");
+        if (plural_ == nullptr || part_.empty() || part_.front() == devicePart)
+            return otherArguments(text, plural_, isPlural_ ? "%lld" : "%arg");
         if (!isPlural_) {
             PluralFormat format = *plural_;
             format.format = text;
@@ -100,7 +115,7 @@ public:
         }
         const PluralVariable* const variable = variableNamed(*plural_, part_.back());
         if (variable == nullptr) // only the translation has it
-            return otherArguments(text, nullptr);
+            return otherArguments(text, nullptr, "%arg");
         const std::size_t own = argumentOf(*plural_, *variable);
         Arguments arguments = pluralArguments(PluralPieces(*plural_, text, *variable, own));
         arguments.number = own;
