@@ -369,8 +369,8 @@ class Program(unittest.TestCase):
              "parameters": ["text", "number"], "text": "Hello, %@: %.1f", "comment": 'a "name"', "file": str(table), "line": 2},
             {"kind": "text", "accessor": None, "table": "Words", "key": "", "parameters": [], "text": "", "comment": "",
              "file": str(table), "line": 3, "reason": reason},
-            {"kind": "image", "accessor": f"{tree}Asset::Looks::a", "catalog": "Looks", "name": "a",
-             "file": str(self.folder / "src/Looks.xcassets/a.imageset")}])
+            {"kind": "image", "accessor": f"{tree}Asset::Looks::a", "catalog": "Looks", "name": "a", "parameters": [],
+             "text": "", "comment": "", "file": str(self.folder / "src/Looks.xcassets/a.imageset"), "line": 0}])
         self.assertEqual(run(*accessors)[1].decode().splitlines(), [
             f"text\t{tree}Strings::More::files(integer)\tMore\tfiles",
             f"text\t{tree}Strings::Words::Hello::name(text, number)\tWords\thello.name",

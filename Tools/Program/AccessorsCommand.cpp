@@ -80,12 +80,17 @@ private:
         push(std::move(json), reason);
     }
 
+    // An asset has the members of a text, too, so that all objects can be read in the same way.
     void add(const SourceAsset& asset, const ordered_json& accessor, const std::string& reason) {
         push({{"kind", nameOf(asset.kind)},
               {"accessor", accessor},
               {"catalog", asset.catalog},
               {"name", asset.name},
-              {"file", asset.path.string()}},
+              {"parameters", ordered_json::array()},
+              {"text", ""},
+              {"comment", ""},
+              {"file", asset.path.string()},
+              {"line", 0}},
              reason);
     }
 
@@ -107,9 +112,8 @@ std::string visible(const ordered_json& text) {
 // accessor, separated by tabs.
 std::string lineOf(const ordered_json& item) {
     std::string parameters;
-    if (item.contains("parameters"))
-        for (const ordered_json& parameter : item["parameters"])
-            parameters.append(parameters.empty() ? "" : ", ").append(parameter.get_ref<const std::string&>());
+    for (const ordered_json& parameter : item["parameters"])
+        parameters.append(parameters.empty() ? "" : ", ").append(parameter.get_ref<const std::string&>());
     const bool isText = item.contains("key");
     const bool isLeftOut = item["accessor"].is_null();
     std::string line = visible(item["kind"]) + '\t';
