@@ -20,7 +20,7 @@ using Foundation::NSNumberFormatter;
 
 namespace {
 
-// Languages whose percentages the platform formats: Turkish writes "%25".
+// In these languages the locale formats percentages (Turkish writes "%25"); the others have plainPercent().
 constexpr std::array<LocalizationCode, 2> localePercentCodes = {LocalizationCode::ar, LocalizationCode::tr};
 
 std::string localePercent(double value) {

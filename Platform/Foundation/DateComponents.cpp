@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view numberPlace = "{0}";
 
-// A locale's form for years ("{0} years"), divided at the place of its number.
+// A locale's form for years ("{0} years"), divided at the place of its number, which some lack: Arabic for 1 and 2.
 struct Form {
     explicit Form(std::string_view form)
         : before(form.substr(0, form.find(numberPlace))), hasNumber(before.size() < form.size()),

@@ -162,7 +162,7 @@ struct NSBundle::Contents {
 
     // The first tables of the chain's first folder that were used since the user's language changed.
     std::array<std::atomic<detail::LocalizedTable*>, 8> recents{};
-    Runtime::KeyedStore<Choice, 16> choices; // by the user's language
+    Runtime::KeyedStore<Choice, 16> choices; // by the user's language, for at most mostChoices of them
     static constexpr std::size_t mostChoices = 256;
     // The version of the host's languages times versionUnit, plus preferred() for that version.
     std::atomic<std::uint64_t> latest{0};

@@ -29,8 +29,8 @@ std::optional<std::size_t> bestLanguage(std::string_view desired, std::span<cons
     const icu::Locale user = canonical(desired);
     if (languageOf(user).empty())
         return std::nullopt;
-    // ICU's matcher may also select related languages that many readers understand. We never do that, so it gets only
-    // the variants of the user's language.
+    // ICU's matcher may also select a related language, such as Danish for Norwegian. Users get only languages that
+    // they have asked for, so the matcher gets only the variants of the user's language.
     UErrorCode status = U_ZERO_ERROR;
     icu::LocaleMatcher::Builder builder;
     builder.setNoDefaultLocale();

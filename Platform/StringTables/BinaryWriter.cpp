@@ -72,7 +72,7 @@ std::string BinaryWriter::write() {
     const std::size_t tableAt = out_.size(), offsetSize = bytesFor(tableAt);
     for (const std::size_t offset : offsets_)
         put(offset, offsetSize);
-    put(0, 6);
+    put(0, 6); // unused bytes of the trailer
     put(offsetSize, 1);
     put(referenceSize, 1);
     put(objects_.size(), 8);

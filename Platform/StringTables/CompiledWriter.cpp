@@ -50,6 +50,7 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
                 numbers[i].text = list.string(entries[i].text);
         }
     };
+    // The ASCII strings belong to the front, before the dictionary; the UTF-16 strings do not (CompiledIndex.h).
     addStrings(true);
     const auto dictionary = list.dictionary();
     addStrings(false);

@@ -19,7 +19,7 @@ struct Packed {
 
 constinit std::atomic<std::uint64_t> currentTraits{std::bit_cast<std::uint64_t>(Packed{})};
 
-template <class Trait> Trait either(Trait own, Trait other) noexcept {
+template <class Trait> Trait firstSpecified(Trait own, Trait other) noexcept {
     return own == Trait{} ? other : own;
 }
 
@@ -43,10 +43,10 @@ void UITraitCollection::setCurrent(const UITraitCollection& traits) noexcept {
 }
 
 UITraitCollection UITraitCollection::over(const UITraitCollection& under) const noexcept {
-    return {either(userInterfaceStyle, under.userInterfaceStyle),
-            either(accessibilityContrast, under.accessibilityContrast),
-            either(clampedScale(displayScale), clampedScale(under.displayScale)),
-            either(layoutDirection, under.layoutDirection)};
+    return {firstSpecified(userInterfaceStyle, under.userInterfaceStyle),
+            firstSpecified(accessibilityContrast, under.accessibilityContrast),
+            firstSpecified(clampedScale(displayScale), clampedScale(under.displayScale)),
+            firstSpecified(layoutDirection, under.layoutDirection)};
 }
 
 } // namespace UIKit

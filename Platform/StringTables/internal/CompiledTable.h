@@ -61,9 +61,9 @@ private:
     std::string front_; // empty if the file ends before the slots do
     CompiledIndex index_;
     std::unique_ptr<std::atomic<std::uint32_t>[]> states_; // of the slots
-    // The bytes of text that may still be checked. This keeps the cost linear for an index whose slots all refer to one
-    // long text.
-    mutable std::atomic<std::ptrdiff_t> left_;
+    // How many bytes of text may still be checked. The limit keeps the cost linear if all slots of an index refer to
+    // one long text.
+    mutable std::atomic<std::ptrdiff_t> textBudget_;
 };
 
 // The texts that are checked are together at most this many times as long as the front. writeCompiled() stays below

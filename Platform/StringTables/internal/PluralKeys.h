@@ -15,7 +15,8 @@ inline constexpr std::string_view valueType = "NSStringFormatValueTypeKey";
 inline constexpr std::string_view widthRule = "NSStringVariableWidthRuleType";
 inline constexpr std::string_view deviceRule = "NSStringDeviceSpecificRuleType";
 
-// If an entry has texts for several kinds of device, that with the lowest rank is used, the first of equal ones.
+// An entry may have texts for several kinds of device, of which a Linux machine is none: the text with the lowest rank
+// is used, the first of equal ones.
 inline constexpr std::size_t lastDeviceRank = 2;
 constexpr std::size_t deviceRank(std::string_view device) noexcept {
     if (device == "other")

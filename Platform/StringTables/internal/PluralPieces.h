@@ -22,12 +22,12 @@ struct PluralPiece {
     ArgumentCounter::Taken arguments;
 };
 
-// The placeholders of one text in order. These rules are for placeholders without a position. In the format itself each
-// takes the next argument, as in any text. In a form the first placeholder takes the variable's own number, unless it
-// prints a text and the value type is not "@": then it takes the argument after that, so that a form without its
-// number, such as "One file by %@", takes the same arguments as the other forms. For the same reason, a variable inside
-// a form takes the argument that it has in the form with the most arguments before its first appearance, or the next
-// one if its own form has already taken more.
+// The placeholders of one text in order. Rules for placeholders without a position: In the format itself, each takes
+// the next argument, as in any text. In a form, the first takes the variable's own number, unless it prints a text and
+// the value type is not "@": then it takes the argument after that, so that a form without its number, such as "One
+// file by %@", takes the same arguments as the other forms. For the same reason, a variable inside a form takes the
+// argument that it has in the form with the most arguments before its first appearance, or the next one if its own form
+// has already taken more.
 class PluralPieces {
 public:
     explicit PluralPieces(const PluralFormat& plural) noexcept : plural_(plural), text_(plural.format) {}
