@@ -43,7 +43,7 @@ void PictureCache::readRecord(std::string_view line) {
     fields.read(picture.points.height);
     fields.read(record.offset);
     fields.read(record.size);
-    fields.read(record.hash, 16);
+    fields.read(record.hash, hexadecimal);
     if (fields.isSound())
         pictures_[key].push_back(std::move(record));
 }

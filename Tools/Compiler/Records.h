@@ -13,8 +13,9 @@
 
 namespace Compiler {
 
-// The number in 16 lower-case hexadecimal digits.
+// The number in 16 lower-case hexadecimal digits; Fields::read() with the base `hexadecimal` reads it.
 [[nodiscard]] std::string hex(std::uint64_t number);
+inline constexpr int hexadecimal = 16;
 // The hash by which the next compile finds out whether bytes in the bundle are still the same.
 [[nodiscard]] std::uint64_t hashOf(std::string_view bytes) noexcept;
 // A 128-bit hash, for which collisions are not expected: 32 lower-case hexadecimal digits.

@@ -47,7 +47,7 @@ TableCache::TableCache(std::string_view mark) {
             return;
         std::string key(fields.word());
         std::uint64_t hash = 0;
-        fields.read(hash, 16);
+        fields.read(hash, hexadecimal);
         if (fields.isSound())
             hashes_.insert_or_assign(std::move(key), hash);
     });

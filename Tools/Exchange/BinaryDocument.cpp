@@ -31,7 +31,7 @@ Runtime::Result<BinaryTexts> BinaryTexts::read(std::string bytes) {
 }
 
 Runtime::Result<void> BinaryTexts::apply(const Change& change) {
-    const Unit& unit = *change.changed.front();
+    const Unit& unit = *change.changed.front(); // a key of a table of texts has one
     const auto [place, isNew] = places_.try_emplace(unit.id.key, texts_.size());
     if (isNew)
         texts_.emplace_back(unit.id.key, unit.target);

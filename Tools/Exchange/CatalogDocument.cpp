@@ -69,7 +69,7 @@ private:
         }
     }
 
-    std::vector<std::string> part_;
+    std::vector<std::string> part_; // of the node: kind and name at each level, as in UnitId
     std::optional<PluralCategory> category_;
 };
 

@@ -176,7 +176,7 @@ Runtime::Result<void> PropertyListDocument::editPlural(const XmlNode& entry, con
     // Texts for widths or devices are read, but cannot be edited.
     if (find(pairs, pluralKeys::widthRule) != nullptr || find(pairs, pluralKeys::deviceRule) != nullptr)
         return otherKindOfValue(change);
-    PluralFormat added;
+    PluralFormat added; // the format and the variables that the entry lacks
     for (const Unit* unit : change.changed) {
         const XmlNode* const found = find(pairs, unit->id.category ? unit->id.part.back() : pluralKeys::format);
         if (found == nullptr)

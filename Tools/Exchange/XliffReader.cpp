@@ -85,14 +85,15 @@ private:
     }
 
     void readUnit(const XmlNode& node, Translations& translations) {
-        const std::string* const text = node.attribute("id");
-        const auto id = text == nullptr ? std::nullopt : unitIdOf(*text);
+        const std::string* const idText = node.attribute("id");
+        const auto id = idText == nullptr ? std::nullopt : unitIdOf(*idText);
         const XmlNode* const source = node.child("source");
         const XmlNode* const target = node.child("target");
-        if (!id || source == nullptr)
+        if (!id)
             return faults_.add(Severity::error,
-                               error(node, !id ? "\"" + (text == nullptr ? "" : *text) + "\" is not the id of a text"
-                                               : "the unit has no <source>"));
+                               error(node, "\"" + (idText == nullptr ? "" : *idText) + "\" is not the id of a text"));
+        if (source == nullptr)
+            return faults_.add(Severity::error, error(node, "the unit has no <source>"));
         Unit unit{.id = *id,
                   .sourceCategory = id->category,
                   .state = State::translated,

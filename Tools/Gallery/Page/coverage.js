@@ -8,6 +8,7 @@ function coverageOf(index) {
     return counts;
 }
 
+// The row of a language. Its name is a button, which calls `showMissing`.
 function coverageRow(language, index, showMissing) {
     const counts = coverageOf(index);
     const all = Math.max(resources.texts.length, 1);

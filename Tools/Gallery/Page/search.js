@@ -1,6 +1,7 @@
 // Lists that can be searched. A list's rows are created once; a search changes which of them are in the document.
 
-// Caches the folded strings of the row, joined and separately. The separator is in no string and in no search word.
+// Caches the folded strings of the row, joined and separately. The separator is in no string, as NULs are removed, and in
+// no search word, as these have no line breaks.
 function prepared(row) {
     row.haystack ??= folded(row.strings().map((text) => text.replaceAll("\0", "")).join("\n\0"));
     row.folded ??= row.haystack.split("\n\0");
