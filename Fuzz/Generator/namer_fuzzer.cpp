@@ -1,4 +1,4 @@
-// Makes names of any bytes and their spellings: a spelling is empty or has the form of a C++ identifier and is its
+// Makes names from any bytes, and the C++ spelling of each name. A spelling is empty or a C++ identifier, which is its
 // own spelling; a name is the same at every call. ICU, not the tested code, says which characters are valid.
 #include "Generator/Namer.h"
 

@@ -1,4 +1,4 @@
-// Reads bytes as a table, if they are in the XML form, as they are and converted from UTF-8 to UTF-16.
+// Reads bytes as a table if they are in the XML form: first as they are, then converted from UTF-8 to UTF-16.
 #include "Checks.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -59,7 +59,7 @@ inline unsigned long long everything(const AssetCatalog::Catalog& catalog) {
                     std::abort();
                 read(picture.blob);
             } else if (entry.kind() == AssetCatalog::Kind::color)
-                sum += static_cast<unsigned long long>(entry.color(variant).components[3] * 2);
+                sum += entry.color(variant).components[3] > 0 ? 1U : 0U;
             else {
                 read(entry.data(variant).blob);
                 sum += entry.data(variant).typeIdentifier.size();

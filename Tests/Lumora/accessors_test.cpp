@@ -18,7 +18,7 @@ concept CallsNewComment = requires(const Arguments&... arguments) {
 static_assert(CallsNewComment<int, const char*> && CallsNewComment<std::optional<double>, std::vector<std::string>>);
 static_assert(!CallsNewComment<int> && !CallsNewComment<int, int, int>);
 static_assert(std::is_same_v<decltype(Texts::ExerciseStraight::ofMaxWeight(std::int64_t{1})), std::string>);
-static_assert(std::is_default_constructible_v<Lumora::Localization>); // like all classes of the platform
+static_assert(std::is_default_constructible_v<Lumora::Localization>); // although it has only static members
 
 class Accessors : public ::testing::Test {
 protected:
@@ -51,7 +51,7 @@ TEST_F(Accessors, ExistForKeysThatAreNoIdentifiers) {
     EXPECT_EQ(Texts::continue_(), "Continue");
     EXPECT_FALSE(Texts::ModalDialog::delete_().empty());
     EXPECT_NE(Texts::MyTrainingsScreen::invoiceNo(), "MyTrainingsScreen.Invoice №");
-    EXPECT_NE(Texts::Сhatlist::photo(), "Сhatlist.Photo");
+    EXPECT_NE(Texts::Сhatlist::photo(), "Сhatlist.Photo"); // begins with a Cyrillic letter
     EXPECT_NE(Lumora::LumoraStrings::Community::_9cfRD8Ck::normalTitle(), "9cf-RD-8Ck.normalTitle");
     EXPECT_EQ(Texts::Helpdesk::YourRequestIsSent::weWillContactYouSoon(17),
               "Thanks, we've received your request #17. We'll get back to you soon.");

@@ -41,6 +41,7 @@ std::string shownOf(const std::string& localization) {
 
 TEST(StringCatalog, HasTheTextsOfEveryLanguage) {
     Support::SourceFolder folder;
+    // The languages are those in the catalog, not that of its folder.
     folder.write("Deep/mul.lproj/T.xcstrings", quotes(R"({
   'version': '1.0',
   'strings': {

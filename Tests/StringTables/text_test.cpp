@@ -49,7 +49,7 @@ TEST(TextTable, ResolvesEscapes) {
         std::string raw, expected;
     } cases[] = {
         {__LINE__, R"(\n\t\r\a\b\f\v)", "\n\t\r\a\b\f\v"},
-        {__LINE__, R"(\"\\\'\/\%\u00e9\ )", "\"\\'/%u00e9 "},
+        {__LINE__, R"(\"\\\'\/\%\u00e9\ )", "\"\\'/%u00e9 "}, // hexadecimal digits follow only \U
         {__LINE__, "a\\\nb\\é\\日", "a\nbé日"},
         {__LINE__, R"(\U00e9\U20AC!)", "é€!"},
         {__LINE__, R"(\UD83D\UdcAA.)", "💪."},

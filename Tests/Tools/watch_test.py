@@ -15,8 +15,8 @@ PROGRAM = os.path.abspath(sys.argv.pop(1))
 
 class Watch(unittest.TestCase):
     def setUp(self):
-        self.held = tempfile.TemporaryDirectory()
-        self.folder = pathlib.Path(self.held.name)
+        self.temporary = tempfile.TemporaryDirectory()
+        self.folder = pathlib.Path(self.temporary.name)
         self.source = self.folder / ".Source"  # hidden, but only hidden files and folders inside of a source are ignored
         self.bundle = self.source / "Made.bundle"  # the bundle may be inside the source
         self.write("en.lproj/T.strings", 'a = "one";')
@@ -30,7 +30,7 @@ class Watch(unittest.TestCase):
         self.process.kill()
         self.process.wait()
         self.process.stdout.close()
-        self.held.cleanup()
+        self.temporary.cleanup()
 
     def write(self, name, text):
         file = self.source / name
