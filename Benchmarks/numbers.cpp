@@ -57,10 +57,10 @@ void numberIcuKept(benchmark::State& state) {
 }
 BENCHMARK(numberIcuKept);
 
-void numberIcuAfresh(benchmark::State& state) {
+void numberIcuCreated(benchmark::State& state) {
     timedNumbers(state, [](double value) { return icuNumber(numberFormatter(), value); });
 }
-BENCHMARK(numberIcuAfresh);
+BENCHMARK(numberIcuCreated);
 
 void numberText(benchmark::State& state) {
     useGerman();
@@ -86,10 +86,10 @@ void yearsIcuKept(benchmark::State& state) {
 }
 BENCHMARK(yearsIcuKept);
 
-void yearsIcuAfresh(benchmark::State& state) {
+void yearsIcuCreated(benchmark::State& state) {
     timedYears(state, [](std::int64_t years) { return icuYears(yearFormatter(), years); });
 }
-BENCHMARK(yearsIcuAfresh);
+BENCHMARK(yearsIcuCreated);
 
 void yearsText(benchmark::State& state) {
     useGerman();

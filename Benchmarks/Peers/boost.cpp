@@ -1,4 +1,5 @@
-// Lumora's texts read with Boost.Locale, which has its own reader of gettext's catalogs and formats the argument.
+// Lumora's texts read with Boost.Locale, which reads gettext's catalogs itself and formats the argument. It has a
+// catalog of its own, because its placeholders differ: {1}.
 #include <benchmark/benchmark.h>
 #include <boost/locale.hpp>
 

@@ -6,7 +6,7 @@
 
 namespace {
 
-icu::ResourceBundle opened() {
+icu::ResourceBundle englishBundle() {
     UErrorCode status = U_ZERO_ERROR;
     return {LUMORA_PEER_CATALOGS, "en", status};
 }
@@ -31,7 +31,7 @@ std::string formatted(const icu::ResourceBundle& bundle, int day) {
 }
 
 void plainIcu(benchmark::State& state) {
-    const auto bundle = opened();
+    const auto bundle = englishBundle();
     if (text(bundle, "Continue") != "Continue")
         return state.SkipWithError("the result is wrong");
     for (auto _ : state)
@@ -40,7 +40,7 @@ void plainIcu(benchmark::State& state) {
 BENCHMARK(plainIcu);
 
 void formattedIcu(benchmark::State& state) {
-    const auto bundle = opened();
+    const auto bundle = englishBundle();
     if (formatted(bundle, 7).find("until 7.") == std::string::npos)
         return state.SkipWithError("the result is wrong");
     int day = 0;

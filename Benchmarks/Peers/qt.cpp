@@ -52,7 +52,7 @@ void numberQtKept(benchmark::State& state) {
 }
 BENCHMARK(numberQtKept);
 
-void numberQtAfresh(benchmark::State& state) {
+void numberQtCreated(benchmark::State& state) {
     const auto make = [](double value) { return QLocale("de_DE").toString(value, 'f', 1).toStdString(); };
     double value = 1234.5;
     if (make(value) != "1.234,5")
@@ -60,6 +60,6 @@ void numberQtAfresh(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(make(value += 1));
 }
-BENCHMARK(numberQtAfresh);
+BENCHMARK(numberQtCreated);
 
 } // namespace

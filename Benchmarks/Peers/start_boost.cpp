@@ -1,4 +1,4 @@
-// Prints one text of a gettext catalog with Boost.Locale and ends; start.py times the whole process.
+// Prints one Russian text of a gettext catalog with Boost.Locale and ends; start.py times the whole process.
 #include <boost/locale.hpp>
 #include <iostream>
 

@@ -1,4 +1,4 @@
-// Prints one text of an ICU resource bundle and ends; start.py times the whole process.
+// Prints one Russian text of an ICU resource bundle and ends; start.py times the whole process.
 #include <iostream>
 #include <unicode/resbund.h>
 

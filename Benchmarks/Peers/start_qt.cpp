@@ -1,4 +1,4 @@
-// Prints one text of a Qt catalog and ends; start.py times the whole process.
+// Prints one Russian text of a Qt catalog and ends; start.py times the whole process.
 #include <QTranslator>
 
 #include <iostream>
