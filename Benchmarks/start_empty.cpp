@@ -1,4 +1,5 @@
-// Starts, prints a text without any library for texts, and ends. All these programs make a std::string of their text.
+// Starts, prints a text without any library for texts, and ends. It makes a std::string, as the programs that it is
+// compared with do.
 #include <iostream>
 
 int main() {

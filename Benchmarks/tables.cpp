@@ -50,7 +50,7 @@ BENCHMARK(tableFromBinary);
 constexpr auto compiledPath = "/tmp/lumora-benchmark.strings";
 
 // Writes the Russian texts as a compiled table, which has them in UTF-16, to compiledPath. Returns its keys in random
-// order.
+// order. After a failure to write, the benchmarks report that the keys are not found.
 std::vector<std::string> writeCompiledTable() {
     const auto table = Table::readFile(LUMORA_RESOURCES "/ru.lproj/Localizable.strings");
     (void)Runtime::writeFile(compiledPath, *StringTables::writeCompiled(table->entries()));
@@ -102,6 +102,7 @@ void binaryAllTexts(benchmark::State& state) {
 }
 BENCHMARK(binaryAllTexts);
 
+// Look-ups in a table that was read as a whole before.
 void compiledLookUp(benchmark::State& state) {
     const std::vector<std::string> keys = writeCompiledTable();
     StringTables::StoredTable table(compiledPath);

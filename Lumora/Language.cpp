@@ -21,7 +21,7 @@ constexpr std::array<LocalizationCode, 3> asianLocalizationCodes = {Localization
 // The list that `make` creates at the first use and `slot` keeps; an empty list when memory runs out.
 template <class Make>
 const std::vector<std::string>& listIn(Runtime::OnceSlot<std::vector<std::string>>& slot, Make make) noexcept {
-    static constinit Runtime::OnceSlot<std::vector<std::string>> empty;
+    static constinit Runtime::OnceSlot<std::vector<std::string>> empty; // a slot, because it is never destroyed
     const std::vector<std::string>* list = Runtime::attempt([&] { return &slot.get(make); });
     return list != nullptr ? *list : empty.get([] { return std::vector<std::string>(); });
 }

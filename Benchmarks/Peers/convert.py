@@ -33,6 +33,7 @@ def po(convert):
 
 
 def icu(text):
+    """The text as an ICU message, in which braces are quoted and apostrophes doubled."""
     return with_placeholders(text, lambda n: f"{{{n - 1}}}", lambda part: re.sub(r"([{}]+)", r"'\1'", part.replace("'", "''")))
 
 
@@ -42,7 +43,7 @@ def icu_key(key):
 
 
 written = {
-    "po": po(lambda text: re.sub(r"%(\d+\$)?@", r"%\1s", text)),
+    "po": po(lambda text: re.sub(r"%(\d+\$)?@", r"%\1s", text)),  # the other placeholders are printf's already
     "boost.po": po(lambda text: with_placeholders(text, lambda n: f"{{{n}}}")),
     "ts": f'<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS><TS version="2.1" language="{language}"><context><name></name>'
           + "".join(f"<message><source>{html.escape(k)}</source><translation>"

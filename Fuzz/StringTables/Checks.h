@@ -34,7 +34,8 @@ inline bool haveSameEntries(const Table& one, const Table& other) {
 }
 
 // Entries are found by their keys, have a line unless the table is binary, and are the same after they are written and
-// read in every form. Then the same entries have comments as before, except in the binary form, which has none.
+// read in every form. The same entries then have comments, whose text a form may change, except in the binary form,
+// which has none.
 inline void requireRoundTrips(const Table& table) {
     for (const Entry& entry : table.entries())
         require(table.find(entry.key) == entry.text);
@@ -83,6 +84,7 @@ inline std::optional<std::string> encoded(std::string_view utf8, const char* enc
 }
 
 // The same characters give the same table, the same notes and the same error at the same place in UTF-8 and UTF-16.
+// Each has one byte-order mark, because with a mark the readers ignore the encoding in an XML declaration.
 inline void requireSameInUtf16(std::string_view characters) {
     constexpr std::string_view mark = "\xEF\xBB\xBF";
     while (characters.starts_with(mark))

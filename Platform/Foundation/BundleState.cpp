@@ -14,12 +14,12 @@ namespace Foundation::detail {
 
 namespace {
 
-constexpr std::int64_t perSecond = 1'000'000'000;
+constexpr std::int64_t second = 1'000'000'000; // in nanoseconds
 
 // Since 1970; the years that 64 bits cannot hold are clamped.
 std::int64_t nanoseconds(const timespec& time) noexcept {
-    constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max() / perSecond - 1;
-    return std::clamp<std::int64_t>(time.tv_sec, -largest, largest) * perSecond + time.tv_nsec;
+    constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max() / second - 1;
+    return std::clamp<std::int64_t>(time.tv_sec, -largest, largest) * second + time.tv_nsec;
 }
 
 class StateHash {
@@ -35,7 +35,7 @@ public:
 
     // No value if a further change might have the same time as the latest one.
     std::optional<std::uint64_t> value() const {
-        constexpr std::int64_t tick = perSecond / 10; // longer than the clock ticks of Linux's own file systems
+        constexpr std::int64_t tick = second / 10; // longer than the clock ticks of Linux's own file systems
         timespec now{};
         ::clock_gettime(CLOCK_REALTIME, &now);
         return latest_ < nanoseconds(now) - tick ? std::optional(hash_) : std::nullopt;

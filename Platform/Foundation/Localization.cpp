@@ -50,7 +50,7 @@ LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
     const auto exists = [](const std::string& path) { return !path.empty() && ::access(path.c_str(), F_OK) == 0; };
     if (tables_.size() >= storesMissingBelow && !exists(texts) && !exists(plurals))
         return nullptr;
-    return tables_.add(tables_.unlimited, name, *this, name, std::move(texts), bundle_.size(),
+    return tables_.add(tables_.unlimited, name, *this, name, std::move(texts), /*bundlePathSize=*/bundle_.size(),
                        mayHavePlurals_ ? readPlurals(plurals, bundle_) : StringTables::PluralTable());
 }
 

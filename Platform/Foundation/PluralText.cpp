@@ -64,6 +64,7 @@ std::optional<Intl::PluralOperands> operandsOf(const PluralFormat& plural, const
     if (placeholder && (placeholder->conversion == 'a' || placeholder->conversion == 'A'))
         format = "%g"; // plural rules apply to decimal digits
     const std::string printed = String::format(format, Locale("en_US_POSIX"), {&argument, 1});
+    // A text, unlike a printed number, may begin with '.'.
     const std::size_t digits = printed.find_first_of("0123456789.");
     if (digits == printed.npos && printed.find_first_not_of(" +") != printed.npos) // "%+.0d" prints 0 as "+"
         return std::nullopt;
@@ -98,7 +99,7 @@ private:
 
     template <class Choose> void append(std::string_view text, PluralPieces pieces, Choose& choose) {
         std::size_t done = 0;
-        while (out_.size() < longestPlural) {
+        while (out_.size() < maxPluralBytes) {
             const auto piece = pieces.next();
             appendLiteral(text.substr(done, piece ? piece->placeholder.begin - done : text.npos));
             if (!piece)
@@ -106,7 +107,7 @@ private:
             done = piece->placeholder.end;
             if (piece->variable == nullptr)
                 appendPlaceholder(text.substr(piece->placeholder.begin, done - piece->placeholder.begin), *piece);
-            else if (variables_ == mostVariables)
+            else if (replaced_ == maxReplacedVariables)
                 return;
             else
                 appendForm(*piece->variable, piece->arguments.value, choose);
@@ -117,7 +118,7 @@ private:
         const auto index = static_cast<std::size_t>(&variable - plural_.variables.data());
         if (index >= isOpen_.size() || isOpen_[index])
             return;
-        ++variables_;
+        ++replaced_;
         isOpen_.set(index);
         const std::string_view form = choose(variable, position);
         append(form, PluralPieces(plural_, form, variable, position), choose);
@@ -157,7 +158,7 @@ private:
 
     const PluralFormat& plural_;
     std::string out_;
-    std::size_t variables_ = 0; // replaced so far
+    std::size_t replaced_ = 0; // the number of variables so far
     // The variables whose forms are being appended. They are left out of these forms, or the result would have no end.
     std::bitset<StringTables::PluralTable::maxVariables> isOpen_;
 };

@@ -51,8 +51,9 @@ std::unique_ptr<icu::DecimalFormat> decimalFormat(const icu::Locale& locale, Num
     return std::unique_ptr<icu::DecimalFormat>(decimal);
 }
 
-// The smallest number of digits before the first separator, at most 4: 2 if "1234" has no separator and "12.345" has
-// one. ICU has the number in its data but does not report it, so this formats values to find it.
+// The smallest number of digits before the first separator: 2 if "1234" has no separator and "12.345" has one. ICU has
+// the number in its data but does not report it, so this formats values to find it. The limit of 4 ends the search in a
+// format without separators.
 unsigned minimumGrouping(const icu::DecimalFormat& format, unsigned primary) {
     const icu::UnicodeString separator =
         format.getDecimalFormatSymbols()->getConstSymbol(icu::DecimalFormatSymbols::kGroupingSeparatorSymbol);

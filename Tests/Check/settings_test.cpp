@@ -26,6 +26,7 @@ TEST(Settings, DisableRulesForAssets) {
     CheckedSource source{{"A.xcassets/one.colorset/Contents.json", unfinished},
                          {"A.xcassets/two.colorset/Contents.json", unfinished},
                          {"lumora-check.json", R"({"assets": {"one": ["asset-missing-dark"]}})"}};
+    // Two spaces, because a finding about an asset has no language between its place and its name.
     EXPECT_EQ(source.findings(), Strings{"asset-missing-dark A.xcassets/two.colorset/Contents.json:2:51  two"});
 }
 

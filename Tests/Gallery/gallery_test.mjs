@@ -72,7 +72,7 @@ onPage("the search finds keys, accessors and words of every language", async (ta
         assert.ok(!keys.includes(hidden), typed);
     }
     assert.equal(await row(tab, "Diet.AllDish").locator(".elsewhere bdi").innerText(), textOf("ru", "Diet.AllDish"));
-    await tab.fill("#search", textOf("ko", "Diet.AllDish")); // folding makes several characters of each
+    await tab.fill("#search", textOf("ko", "Diet.AllDish")); // normalization makes several characters of each syllable
     const highlighted = await tab.evaluate(() => Array.from(CSS.highlights.get("found"), ({ startContainer, startOffset, endOffset }) =>
         startContainer.data.slice(startOffset, endOffset)));
     assert.deepEqual([...new Set(highlighted)].sort(), textOf("ko", "Diet.AllDish").split(" ").sort());
@@ -196,7 +196,7 @@ onPage("colours have their values and contrast ratios", async (tab) => {
 
 for (const colorScheme of ["light", "dark"])
     onPage(`axe finds nothing wrong in ${colorScheme}`, async (tab) => {
-        if (colorScheme === "dark") { // the light page has all rows, with pictures that are not in their actual size
+        if (colorScheme === "dark") { // few rows with pictures in their actual size; the light page has all rows, scaled
             await tab.fill("#search", "onboarding");
             await tab.click("#size >> text=Actual");
         }

@@ -10,7 +10,7 @@ namespace {
 using Cache = Foundation::detail::LocaleCache<std::string>;
 
 std::string valueOf(std::string_view locale) {
-    return std::string(locale) + ", and what is known of it";
+    return "the value of the locale " + std::string(locale);
 }
 
 TEST(LocaleCache, GivesConcurrentThreadsTheSameValue) {

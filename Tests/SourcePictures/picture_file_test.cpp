@@ -64,7 +64,7 @@ TEST(PictureFile, ConvertsOtherRasterFormats) {
         ASSERT_EQ(made.size(), 1U) << name;
         const Pictures::Bitmap bitmap = decoded(made[0]);
         EXPECT_EQ(bitmap.width, made[0].width) << name;
-        EXPECT_EQ(bitmap.width, std::string(name) == "plain.heic" ? 16U : 3U) << name;
+        EXPECT_EQ(bitmap.width, std::string(name) == "plain.heic" ? 16U : 3U) << name; // the HEIC file is larger
         // The first pixel of each file, in an animation that of the first frame, is (200, 30, 10).
         EXPECT_NEAR(bitmap.pixels[0], 200, 3) << name;
         EXPECT_NEAR(bitmap.pixels[1], 30, 3) << name;
@@ -160,7 +160,7 @@ TEST(PictureFile, RejectsUnreadableFiles) {
     } cases[] = {
         {__LINE__, "no picture", "has an unknown format"},
         {__LINE__, "", "has an unknown format"},
-        {__LINE__, "8BPS" + std::string("\0\1", 2) + std::string(40, '\0'), "has an unknown format"},
+        {__LINE__, "8BPS" + std::string("\0\1", 2) + std::string(40, '\0'), "has an unknown format"}, // PSD
         {__LINE__, png.substr(0, png.size() - 12), "is a damaged PNG"},
         {__LINE__, png.substr(0, png.size() / 2), "is a damaged PNG"},
         {__LINE__, spoiledPng, "is a damaged PNG"},

@@ -38,7 +38,7 @@ public:
             else if (rest.starts_with("/*"))
                 takeBlockComment();
             else
-                takeMark();
+                takePunctuator();
         }
     }
 
@@ -90,7 +90,7 @@ private:
 
     void skipTo(char mark) { at_ = std::min(code_.find(mark, at_), code_.size()); }
 
-    void takeMark() {
+    void takePunctuator() {
         if (code_.substr(at_).starts_with("::")) {
             // A reserved name qualifies nothing: in `return ::b`, b is global.
             isQualified_ = !last_.empty() && !std::ranges::binary_search(Generator::Namer::reservedNames, last_);

@@ -18,8 +18,8 @@ constexpr std::uint8_t bitOf(PluralCategory category) noexcept {
 }
 
 // Whole numbers up to 200 and tenths up to 3.0 have all plural categories of every language, except those for whole
-// millions only.
-constexpr int mostWhole = 200, mostTenths = 30;
+// millions only, which are not required (TextRules.h).
+constexpr int maxWhole = 200, maxTenths = 30;
 
 std::uint8_t categoryBit(std::string_view language, const std::string& number) {
     return bitOf(Intl::pluralCategory(language, Intl::pluralOperands(number)));
@@ -50,9 +50,9 @@ std::uint8_t formsOf(const PluralVariable& variable) {
 
 NeededForms neededForms(std::string_view language) {
     NeededForms needed{bitOf(PluralCategory::other), bitOf(PluralCategory::other)};
-    for (int i = 0; i <= mostWhole; ++i)
+    for (int i = 0; i <= maxWhole; ++i)
         needed.ofWhole |= categoryBit(language, std::to_string(i));
-    for (int i = 0; i <= mostTenths; ++i)
+    for (int i = 0; i <= maxTenths; ++i)
         needed.ofFloating |= categoryBit(language, std::to_string(i / 10) + '.' + std::to_string(i % 10));
     needed.ofFloating |= needed.ofWhole; // "%g" prints integers without a decimal point
     return needed;

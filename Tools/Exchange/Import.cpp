@@ -142,7 +142,7 @@ private:
         imported->seen.push_back(expected);
         if (unit.target.empty())
             return;
-        // In a PO file most forms of a plural have the development text of another form.
+        // A PO file has only two development texts of a plural, so most forms come with that of another form.
         const Unit* const withSource = find(imported->expected, unit.id.part, unit.sourceCategory);
         if (unit.source != (withSource == nullptr ? expected : withSource)->source)
             return fault(translations.file, unit.line,

@@ -34,8 +34,8 @@ private:
         if (rest_.empty())
             return false;
         const std::size_t size = std::min(rest_.find('\n'), rest_.size());
-        all_ = rest_.substr(0, size);
-        line_ = all_;
+        wholeLine_ = rest_.substr(0, size);
+        line_ = wholeLine_;
         rest_.remove_prefix(std::min(size + 1, rest_.size()));
         ++number_;
         if (const std::size_t invalid = StringTables::internal::firstInvalidUtf8(line_); invalid != line_.npos) {
@@ -46,7 +46,7 @@ private:
     }
 
     void fail(std::string message) {
-        const std::string_view before = all_.substr(0, all_.size() - line_.size());
+        const std::string_view before = wholeLine_.substr(0, wholeLine_.size() - line_.size());
         const std::size_t column = StringTables::internal::countCharacters(before) + 1;
         if (!error_)
             error_ = {.message = std::move(message), .line = number_, .column = column};
@@ -224,9 +224,10 @@ private:
         part_ = Part::none;
     }
 
-    std::string_view rest_;
-    std::string_view all_, line_; // the line, and the rest of it
-    std::size_t number_ = 0;      // of the line
+    std::string_view rest_; // the lines after the current one
+    std::string_view wholeLine_;
+    std::string_view line_;  // what is left of it
+    std::size_t number_ = 0; // of the line
     PoText current_;
     Part part_ = Part::none;
     std::vector<PoText> texts_;

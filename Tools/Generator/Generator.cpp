@@ -32,7 +32,7 @@ void reportTranslatedOnly(const Source& source, Diagnostics& diagnostics) {
         for (const LanguageTexts& texts : table.languages) {
             if (&texts == own || &texts == base)
                 continue;
-            const SourceEntry* last = nullptr; // the entry of `own` that was found last
+            const SourceEntry* last = nullptr; // the entry of `own` found last: the next key is usually the next entry
             for (const SourceEntry& entry : texts.entries()) {
                 const SourceEntry* known = own == nullptr ? nullptr : own->findAfter(last, entry.key);
                 last = known == nullptr ? last : known;

@@ -40,7 +40,8 @@ std::size_t terminalColumns() {
     return ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
 }
 
-// The text, escaped and cut to at most `columns` columns.
+// The text, escaped and cut to at most `columns` columns. The limit of visibleText() is in characters, which
+// may take several columns, so this tries ever smaller ones.
 std::string fitted(std::string_view text, std::size_t columns) {
     std::string shown = Generator::visibleText(text, columns);
     for (std::size_t limit = columns; limit > 0 && Generator::columnsOf(shown) > columns; --limit)

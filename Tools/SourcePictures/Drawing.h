@@ -12,8 +12,8 @@ class Drawing {
 public:
     virtual ~Drawing() = default;
 
-    // The size in the drawing's units: pixels at the scale that it was made for; points if it was made for any. 0 if it
-    // has no size.
+    // The size in the drawing's units: pixels if it was made for one scale, points if it is for all. 0 if it has no
+    // size.
     [[nodiscard]] virtual AssetCatalog::Size size() const = 0;
     // Checks that picture() will succeed, by drawing into a single pixel. Errors: damaged, no size, more pixels than a
     // catalog may contain or cairo can draw.

@@ -14,8 +14,9 @@ struct BundleFolders {
     bool mayHavePlurals = true;         // false: there is no *.stringsdict
 };
 
-// Takes the languages from the list that `lumora compile` wrote into Info.plist, or from the bundle's folders if there
-// is no list or the file system counts more or fewer folders. A missing or unreadable bundle has no languages.
+// Takes the languages from the list that `lumora compile` wrote into Info.plist. If there is no list, or the link
+// count of the bundle's folder shows another number of folders, takes them from the folders. A missing or unreadable
+// bundle has no languages.
 [[nodiscard]] BundleFolders bundleFolders(const std::string& bundle);
 
 } // namespace Foundation::detail

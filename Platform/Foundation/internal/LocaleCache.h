@@ -26,17 +26,17 @@ public:
     template <class Make> Kept<T> get(std::string_view locale, Make&& make) {
         if (const T* const known = values_.find(locale))
             return pointingTo(*known);
-        if (locale.size() > longestKept)
+        if (locale.size() > maxIdentifierBytes)
             return std::make_shared<const T>(make());
         auto made = make();
-        const T* const kept = values_.add(mostKept, locale, std::move(made)); // moves from `made` only if there is room
+        const T* const kept = values_.add(maxValues, locale, std::move(made)); // moves only if there is room
         // NOLINTNEXTLINE(bugprone-use-after-move): if `made` was moved from, `kept` is not null
         return kept != nullptr ? pointingTo(*kept) : std::make_shared<const T>(std::move(made));
     }
 
 private:
-    static constexpr std::size_t mostKept = 256;
-    static constexpr std::size_t longestKept = 128; // bytes of an identifier
+    static constexpr std::size_t maxValues = 256;
+    static constexpr std::size_t maxIdentifierBytes = 128;
 
     // A shared_ptr without ownership or reference count.
     static Kept<T> pointingTo(const T& kept) noexcept { return Kept<T>(std::shared_ptr<void>(), &kept); }

@@ -15,12 +15,12 @@ namespace Foundation::detail {
 // The format with every variable replaced by the form for its argument in `language` (a BCP 47 tag), or by the form
 // `other` if the argument is missing. The result has no variables, and all its placeholders have positions. Variables
 // without any form are left out, and so is a variable inside one of its own forms. As forms may name other variables
-// many times, there are limits: a variable after mostVariables others is left out with the rest of the text that names
-// it, and the result ends after the piece with which it reaches longestPlural bytes.
+// many times, there are limits: a variable after maxReplacedVariables others is left out with the rest of the text that
+// names it, and the result ends after the placeholder or literal text with which it reaches maxPluralBytes.
 [[nodiscard]] std::string chosenFormat(const StringTables::PluralFormat& plural, std::string_view language,
                                        std::span<const FormatArgument> arguments);
-inline constexpr std::size_t mostVariables = 256;
-inline constexpr std::size_t longestPlural = std::size_t{1} << 20;
+inline constexpr std::size_t maxReplacedVariables = 256;
+inline constexpr std::size_t maxPluralBytes = std::size_t{1} << 20;
 
 // The same with the form `other` of every variable: the text for use without numbers.
 [[nodiscard]] std::string generalFormat(const StringTables::PluralFormat& plural);

@@ -54,7 +54,7 @@ private:
         const Runtime::OpenFile::Identity file;
     };
     // Up to this number, reading single texts is cheaper than reading the whole table.
-    static constexpr std::size_t mostParts = 3;
+    static constexpr std::size_t maxParts = 3;
 
     // The table, read as a whole: the front of a compiled table, or all of any other.
     struct Whole {
@@ -81,7 +81,7 @@ private:
 
     std::string path_;
     std::size_t bundlePathSize_;
-    std::array<std::atomic<const Part*>, mostParts> parts_{}; // filled in order
+    std::array<std::atomic<const Part*>, maxParts> parts_{}; // filled in order
     Runtime::OnceSlot<Whole> whole_;
 };
 

@@ -1,4 +1,4 @@
-// Assembles the page and connects its controls.
+// Assembles the page and connects its controls; the last of the page's scripts.
 
 // The sections with searchable lists. A section is hidden while its lists show no rows.
 const sections = [

@@ -13,7 +13,7 @@ function regionalParts(name) {
     return { subject: sex ? stem.replace(pattern, "…") : stem, sex, region: ending?.[1] ?? ending?.[2] ?? "" };
 }
 
-// A map from subject to a map from sex to a map from region to picture (the last one that fits). Subjects with only one
+// A map from subject to a map from sex to a map from region to picture, the last if there are several. Subjects with only one
 // picture are left out; those with regions come first.
 function regionalPictures(assets) {
     const subjects = new Map();
