@@ -1,5 +1,6 @@
-"""Times whole processes in random order: an empty program, one that loads Lumora without using it, and one for each library, Lumora
-included, that prints a text. Measures processor time, of the process and of the kernel for it, because other processes may be running."""
+"""Times whole processes for report.py, in random order: an empty program, one that loads Lumora without using it, and one for each
+library, Lumora included, that prints a text. Measures processor time, of the process and of the kernel for it, because other
+processes may be running."""
 import os
 import random
 import shutil

@@ -152,8 +152,9 @@ function(lumora_shared_library target map)
 endfunction()
 
 # lumora_test(name SOURCES ... LINK ... [LABELS ...])
-# A GoogleTest program. The test fails if the program has no test cases. The presets select by label: not `build` in sanitizer builds, only
-# `thread` with the thread sanitizer. The others say what a test is about: `unit`, `tool` (the program lumora), `fault`, `fuzz`.
+# A GoogleTest program. The test fails if the program has no test cases. The presets select tests by two labels: they run no
+# `build` tests with sanitizers, and only `thread` tests with the thread sanitizer. The other labels say what a test is about:
+# `unit`, `tool` (the program lumora), `fault`, `fuzz`.
 function(lumora_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;LABELS")
     add_executable(${name} ${arg_SOURCES})
