@@ -46,7 +46,7 @@ LUMORA_C_EXPORT NSString* LocNumber(const NSNumber* number);
 LUMORA_C_EXPORT NSString* LocNumberWithPositivePrefix(const NSNumber* number, bool needSign);
 /* An age in years as a phrase: "25 years". */
 LUMORA_C_EXPORT NSString* LocAge(NSInteger age);
-/* A fraction as a percentage: 0.25 is "25%". legacyTrPercent() in Lumora/Localization.h says how it is rounded. */
+/* A fraction as a percentage: 0.25 is "25%". legacyTrPercent() in Lumora/Localization.h says how it is written. */
 LUMORA_C_EXPORT NSString* LocPercent(CGFloat value);
 /* The same; with `showPlus`, positive values have a plus sign. */
 LUMORA_C_EXPORT NSString* LocPercentSigned(CGFloat value, bool showPlus);

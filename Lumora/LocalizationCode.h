@@ -27,7 +27,7 @@ public:
 
     // The BCP 47 tag: "es-419".
     [[nodiscard]] std::string rawValue() const;
-    // The raw value.
+    // The raw value, which identifies the case.
     [[nodiscard]] std::string id() const { return rawValue(); }
     // The language without region or script: "es" for both "es" and "es-419".
     [[nodiscard]] std::string shortId() const;
