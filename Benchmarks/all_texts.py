@@ -1,5 +1,5 @@
 """all_texts.py OUT FOLDER: writes the source OUT with readAllTexts(), which calls each accessor that the headers in FOLDER and its
-subfolders declare once, with 7 for every parameter."""
+subfolders declare once, with 7 for every parameter. A parameter for a text takes a number, too."""
 import pathlib
 import re
 import sys

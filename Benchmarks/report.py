@@ -33,15 +33,15 @@ LIMITS = [
 ]
 
 
-def row(what, ours, other="", its="", ratio="", aim="", reached=None):
+def row(what, ours, other="", theirs="", ratio="", aim="", reached=None):
     mark = {None: "", True: "yes", False: "**no**"}[reached]
-    return f"| {what} | {ours} | {other} | {its} | {ratio} | {aim} | {mark} |"
+    return f"| {what} | {ours} | {other} | {theirs} | {ratio} | {aim} | {mark} |"
 
 
-def ratio_row(what, ours, other, its, unit, aim):
-    ratio = ours / its
+def ratio_row(what, ours, other, theirs, unit, aim):
+    ratio = ours / theirs
     reached = None if aim is None else ratio <= aim
-    return row(what, f"{ours:,.3g} {unit}", other, f"{its:,.3g} {unit}", f"{ratio:.2f}", "" if aim is None else f"≤ {aim:.2f}", reached)
+    return row(what, f"{ours:,.3g} {unit}", other, f"{theirs:,.3g} {unit}", f"{ratio:.2f}", "" if aim is None else f"≤ {aim:.2f}", reached)
 
 
 def limit_row(what, ours, unit, limit):
@@ -93,7 +93,7 @@ def start_rows(folder):
 
 def memory_rows(folder):
     output = subprocess.run([f"{folder}/memory"], capture_output=True, check=True).stdout
-    count, _, resident, private = map(int, output.split())
+    count, _bytes, resident, private = map(int, output.split())
     if count != 1401:
         sys.exit(f"{count} texts were read, not 1401")
     return [limit_row(f"{what} that reading all {count:,} texts adds", grown / 1024, "MiB", 1)

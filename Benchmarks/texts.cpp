@@ -60,7 +60,8 @@ void formattedMapAndFmt(benchmark::State& state) {
 }
 BENCHMARK(formattedMapAndFmt)->ThreadRange(1, 16)->UseRealTime();
 
-// Reads four other texts first: the first three are read from the file one by one, the fourth with the whole table.
+// Reads four other texts first, so that the table is in memory: three are read from the file one by one, the fourth
+// with the whole table.
 void formattedText(benchmark::State& state) {
     Foundation::Host::setPreferredLanguages({"en"});
     for (const char* key : {"Continue", "access_tab_title", "Diet.AllDish", "Save"})
@@ -87,7 +88,7 @@ void plainText(benchmark::State& state) {
 BENCHMARK(plainText)->ThreadRange(1, 2)->UseRealTime();
 
 void currentLanguageCode(benchmark::State& state) {
-    Foundation::Host::setPreferredLanguages({"pt_AO"});
+    Foundation::Host::setPreferredLanguages({"pt_AO"}); // not one of the application's languages
     if (!correct(state, Lumora::Localization::currentLanguageCode().rawValue() == "pt-PT"))
         return;
     for (auto _ : state)

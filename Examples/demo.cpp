@@ -18,7 +18,7 @@ using Corvane::LocalizationCode;
 using Foundation::Host::setCurrentLocale;
 using Foundation::Host::setPreferredLanguages;
 
-// The width of a text in a terminal: East Asian letters take two columns, combining marks none.
+// The width of a text in a terminal: East Asian letters take two columns, combining and invisible characters none.
 int columns(const std::string& text) {
     int count = 0;
     for (std::size_t i = 0; i < text.size();) {

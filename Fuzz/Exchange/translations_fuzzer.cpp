@@ -38,7 +38,7 @@ void requireSame(const Translations& translations) {
     written.targetLanguage = "de";
     // The units of a table are written into one <file> and so are read together.
     std::ranges::stable_sort(written.units, {}, [](const Unit& unit) { return unit.id.table; });
-    const auto xliff = Exchange::readXliff(Exchange::writeXliff(written, "1"), "f", diagnostics);
+    const auto xliff = Exchange::readXliff(Exchange::writeXliff(written, /*version=*/"1"), "f", diagnostics);
     require(xliff && xliff->size() == 1 && haveSameTexts(xliff->front(), written) && !diagnostics.hasErrors());
     const std::string po = Exchange::writePo(written, diagnostics);
     if (!diagnostics.all().empty()) // units with a NUL were left out

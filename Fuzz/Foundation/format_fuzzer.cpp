@@ -16,8 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Foundation::Locale locale{std::string(nextLine())};
     const std::string_view format = nextLine();
     std::vector<Foundation::FormatArgument> arguments;
-    // More symbols than one placeholder prints: the integer digits of a double with grouping separators, padding to the
-    // largest width, digits up to the largest precision with a separator after each at most, and all texts.
+    // At least as many symbols as one placeholder prints: 512 for the integer digits of a double and their separators,
+    // the largest width for padding, twice the largest precision for digits and separators, and all texts.
     std::size_t mostSymbols = 512 + 3 * Foundation::String::largestSize;
     while (!rest.empty()) {
         const std::string_view line = nextLine();

@@ -28,8 +28,8 @@ private:
     int descriptor_;
 };
 
-// The text of `key` after that many look-ups of other keys. The first three read single texts if they can, the fourth
-// look-up reads the whole file.
+// The text of `key` after that many lookups of other keys. The first three lookups read single texts if they can, the
+// fourth reads the whole file.
 std::optional<std::string> found(const MemoryFile& file, std::string_view key, int lookUps) {
     StoredTable table(file.path());
     for (int i = 0; i < lookUps; ++i)
@@ -46,13 +46,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     const MemoryFile file(bytes);
     const auto table = Table::read(std::string(bytes));
-    std::vector<std::string> keys = {"", "a", "key 1", "Ключ", "long"};
+    std::vector<std::string> keys = {"", "a", "key 1", "Ключ", "long"}; // of the corpus
     if (table)
         for (const auto& entry : table->entries().first(std::min<std::size_t>(table->entries().size(), 8)))
             keys.emplace_back(entry.key);
     for (const std::string& key : keys) {
         const auto part = found(file, key, 0), whole = found(file, key, 3);
-        require(!part || !whole || part == whole);
+        require(!part || !whole || part == whole); // either may miss the text in a damaged file
         if (table) // its index, if there is one, agrees with the dictionary, because readers check that
             require(part == table->find(key) && whole == part);
     }

@@ -33,7 +33,7 @@ TEST(Identifiers, AreFoundOutsideOfCommentsAndLiterals) {
         {__LINE__, "\"open", ""},
         {__LINE__, "a /* open", "a"},
         {__LINE__, "R\"(open", ""},
-        {__LINE__, "PRIuPTR\"(\" c", "PRIuPTR c"},
+        {__LINE__, "PRIuPTR\"(\" c", "PRIuPTR c"}, // the R does not begin a raw string
         {__LINE__, "\"\\", ""},
     };
     for (const auto& one : cases)

@@ -14,7 +14,7 @@ const ajv = new Ajv({ schemaId: "auto", allErrors: true, logger: false });
 ajv.addMetaSchema(require("ajv/lib/refs/json-schema-draft-04.json"));
 const isValid = ajv.compile(require("@microsoft/jest-sarif/lib/schemas/sarif-2.1.0-rtm.5.json"));
 
-// Findings of every severity: with and without a line, about an asset, in a file and about a key whose characters are encoded.
+// Findings of every severity: with and without a line, about an asset, in a file whose name a URI encodes, about a key with escapes.
 const source = {
     "en.lproj/Shop.strings": '"title" = "Shop";\n"a \\"b\\" \\U0001" = "%@ %ld";\n"twice" = "1";\n"twice" = "2";\n',
     "de.lproj/Shop.strings": '"title" = "Shop";\n"a \\"b\\" \\U0001" = "%ld %@ ";\n"more" = "x";\n',

@@ -114,6 +114,7 @@ class Exchange(unittest.TestCase):
                 self.assertEqual(contents(source), before)
 
     def test_translations_come_back_exactly_and_can_be_reverted(self):
+        # new: the source has no texts in the language.
         for name, language, new in (("Lumora", "ru", False), ("Shop", "ar", False), ("Shop", "ru", True), ("Shop", "ja", True), ("Shop", "pt-BR", True)):
             for format in ("xliff", "po"):
                 with self.subTest((name, language, format)):

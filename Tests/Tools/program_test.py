@@ -103,7 +103,7 @@ class Program(unittest.TestCase):
             with self.subTest(format):
                 made = self.folder / f"lumora.{format}"
                 made.write_bytes(run("help", "--format", format)[1])
-                text = re.sub(r"\\f[BIR]|\\(?=-)", "", made.read_text())
+                text = re.sub(r"\\f[BIR]|\\(?=-)", "", made.read_text())  # without the man page's fonts and the backslash of "\-"
                 self.assertEqual([c for c in commands if not re.search(rf"\b{c}\b", text)], [])
                 if format == "fish":
                     text = re.sub(r" -l (\S+)| -s (\S)", lambda name: f" --{name[1]}" if name[1] else f" -{name[2]}", text)
@@ -258,11 +258,12 @@ class Program(unittest.TestCase):
     def test_only_a_terminal_has_color(self):
         self.write("src/Base.lproj/T.strings", 'a = "%";')
         for environment, has in (({}, True), ({"NO_COLOR": ""}, True), ({"NO_COLOR": "1"}, False)):
+            # The findings go to standard output, the error of the second command goes to standard error.
             script = f"{shlex.quote(PROGRAM)} check src; {shlex.quote(PROGRAM)} compile src/Base.lproj -o none"
             shown = subprocess.run(["script", "-qec", script, "/dev/null"], capture_output=True, timeout=60,
                                    env={key: value for key, value in os.environ.items() if key != "NO_COLOR"} | environment).stdout
             self.assertEqual((b"\x1b[3" in shown, b"%" in shown), (has, True), shown)
-            self.assertNotIn(b"[1/", shown)
+            self.assertNotIn(b"[1/", shown)  # no progress line, because the work is short
         self.assertNotIn(b"\x1b", run("check", "src")[1])
 
     def test_long_work_has_a_progress_line_that_is_erased(self):
@@ -278,6 +279,7 @@ class Program(unittest.TestCase):
         with subprocess.Popen([PROGRAM, "compile", "src", "-o", "Made.bundle"], stdout=end, stderr=end,
                               preexec_fn=lambda: os.sched_setaffinity(0, {processor})) as process:
             self.assertEqual(process.wait(timeout=60), 0)
+        # Each line is cut to the terminal's width: the "w" is there beside a number of one digit.
         self.assertRegex(os.read(terminal, 1 << 16).decode(), r"^(\r\x1b\[K\[\d+/16\] a picture w?…)+\r\x1b\[K$")
         os.close(end)
         os.close(terminal)
