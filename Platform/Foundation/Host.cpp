@@ -15,8 +15,8 @@ namespace detail {
 
 namespace {
 
-constexpr std::string_view plainLocale = "en_US"; // when the environment says nothing, or "C"
-constexpr char separator = '\0';                  // between languages, as it cannot be part of a language tag
+constexpr std::string_view defaultLocale = "en_US"; // when the environment names none, or "C"
+constexpr char separator = '\0';                    // between languages, as it cannot be part of a language tag
 
 // The languages come last, because they are long and would move the others to another page.
 LUMORA_START_DATA constinit Runtime::ForkLock changing; // guards writes; readers always see a consistent text
@@ -74,7 +74,7 @@ std::vector<std::string> splitLanguages(std::string_view list) {
 // `messages`: the locale of messages, empty if there is none.
 std::string environmentLanguages(std::string_view messages) {
     std::string list;
-    // As in gettext, the locale "C" overrides LANGUAGE.
+    // As in gettext, the locale "C" overrides LANGUAGE. Unlike there, a missing locale does not.
     std::string_view wanted = messages.empty() || !isPlain(messages) ? environment("LANGUAGE") : std::string_view();
     while (!wanted.empty()) {
         const std::string_view one = withoutSuffix(wanted, ':');
@@ -100,9 +100,10 @@ std::string_view firstNonEmpty(std::initializer_list<std::string_view> values) n
 Settings environmentSettings() {
     const std::string_view all = environment("LC_ALL"), messages = environment("LC_MESSAGES"),
                            rest = environment("LANG");
+    // The locale is for numbers, LC_MESSAGES for texts, so it comes last.
     const std::string_view identifier = firstNonEmpty({all, isPlain(rest) ? messages : rest});
     return {.languages = environmentLanguages(firstNonEmpty({all, messages, rest})),
-            .locale = std::string(isPlain(identifier) ? plainLocale
+            .locale = std::string(isPlain(identifier) ? defaultLocale
                                                       : accepted(withoutSuffix(withoutSuffix(identifier, '@'), '.')))};
 }
 

@@ -22,11 +22,11 @@ inline constexpr std::size_t longestLanguages = 2048;
 // longestLocale bytes is treated as an empty one, which formats as the root locale.
 LUMORA_EXPORT void setCurrentLocale(std::string_view identifier);
 inline constexpr std::size_t longestLocale = 256;
-// Resets both to the environment, which is read at this call; for a setting that was never set, at the first use.
-// Languages: those of LANGUAGE, then that of the messages' locale, which is the first of LC_ALL, LC_MESSAGES and LANG
-// that is not empty; if that locale is "C" or "POSIX", only English. Locale: LC_ALL, else LANG, or LC_MESSAGES if LANG
-// is empty, "C" or "POSIX", without the character set and modifier (".UTF-8@euro"). The defaults are English and
-// "en_US".
+// Resets both to the environment, which is read at this call. A setting that was never set comes from the environment,
+// too, which is then read at the first use. Languages: those of LANGUAGE, then that of the messages' locale, which is
+// the first of LC_ALL, LC_MESSAGES and LANG that is not empty; if that locale is "C" or "POSIX", only English. Locale:
+// LC_ALL, else LANG, or LC_MESSAGES if LANG is empty, "C" or "POSIX", without the character set and modifier
+// (".UTF-8@euro"). The defaults are English and "en_US".
 LUMORA_EXPORT void reset();
 
 } // namespace Foundation::Host

@@ -30,7 +30,7 @@ public:
 
     bool readHead(std::span<const std::uint8_t> bytes) {
         return attempt([&] {
-            jpeg_CreateDecompress(&jpeg_, JPEG_LIB_VERSION, sizeof jpeg_);
+            jpeg_CreateDecompress(&jpeg_, JPEG_LIB_VERSION, sizeof jpeg_); // clears all but `err` and `client_data`
             progress_.progress_monitor = [](j_common_ptr jpeg) { limitScans(*jpeg); };
             jpeg_.progress = &progress_;
             jpeg_mem_src(&jpeg_, bytes.data(), bytes.size());

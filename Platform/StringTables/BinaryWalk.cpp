@@ -23,7 +23,7 @@ public:
 private:
     using Object = BinaryObjects::Object;
 
-    // Reports the entries of a dictionary whose count was read.
+    // Reports the entries of a dictionary that top() or members() has read.
     bool entries(const Object& dictionary) {
         if (!sink_.beginDictionary())
             return true;

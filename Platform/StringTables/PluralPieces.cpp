@@ -23,7 +23,7 @@ std::optional<PluralPiece> PluralPieces::next() noexcept {
     PluralPiece piece{.placeholder = *placeholder, .variable = variableAt(text_, *placeholder), .arguments = {}};
     if (piece.variable != nullptr) {
         piece.placeholder.end += piece.variable->name.size() + 1;
-        if (variable_ != nullptr && placeholder->position == 0)
+        if (variable_ != nullptr && placeholder->position == 0) // a variable in a form: see the class
             counter_ = ArgumentCounter(argumentOf(*piece.variable) - 1);
     } else if (skipsOwn(*placeholder, counter_.taken())) {
         counter_.next();
@@ -82,6 +82,7 @@ bool PluralPieces::skipsOwn(const Placeholder& placeholder, std::size_t taken) c
 
 namespace {
 
+// A value type that cannot be read counts as an integer.
 Placeholder::Kind kindOf(const PluralVariable& variable) {
     const auto read = nextPlaceholder("%" + variable.valueType, 0);
     return read && read->begin == 0 ? read->kind : Placeholder::Kind::integer;

@@ -15,7 +15,7 @@ namespace {
 // The bundle's catalog, which is opened at the first call. Throws std::bad_alloc, and std::system_error when a
 // transient error prevents opening it.
 const BundleCatalog& openedFor(const Foundation::NSBundle& bundle) {
-    static constinit Runtime::KeyedStore<BundleCatalog, 16> all;
+    static constinit Runtime::KeyedStore<BundleCatalog, /*buckets=*/16> all;
     const std::string& folder = bundle.bundlePath();
     if (const BundleCatalog* const known = all.find(folder))
         return *known;
@@ -97,7 +97,7 @@ void throwIfUnreadable(AssetCatalog::Kind kind, std::string_view name, const Fou
     const auto found = findIn(openedFor(bundle), kind, name);
     if (!found)
         return;
-    if (kind == AssetCatalog::Kind::data) {
+    if (kind == AssetCatalog::Kind::data) { // looking up an image or a colour reads no blob
         const AssetCatalog::Entry entry = found->catalog->entry(found->index);
         const auto bytes = entry.data(found->catalog->bestVariant(found->index, {})).blob.read();
         if (!bytes)

@@ -43,7 +43,7 @@ private:
 
     void sweep() {
         std::erase_if(table().slots, [](const auto& each) { return each.second.pixels.expired(); });
-        table().nextSweep = table().slots.size() * 2 + 64;
+        table().nextSweep = table().slots.size() * 2 + 64; // sweeps take amortized constant time for each add()
     }
 
     // Returns the slot's pixels if they are alive, and marks them as most recently used.

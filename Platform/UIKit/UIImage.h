@@ -42,7 +42,7 @@ enum class RenderingMode : std::uint8_t { automatic, alwaysOriginal, alwaysTempl
 enum class ResizingMode : std::uint8_t { stretch, tile };
 
 // A derived class may define its own static imageNamedWithConfiguration() or imageNamed(); a module's
-// `withAssetName<Derived>()` calls it.
+// `withAssetName<Derived>()` (SwiftUI/ModuleConveniences.h) calls it.
 class LUMORA_EXPORT UIImage {
 public:
     // The image with that name (exact) in the catalog of `bundle`, or no value, also when memory or descriptors run

@@ -13,7 +13,7 @@
 namespace Check {
 
 struct DevelopmentText {
-    std::string_view key;
+    std::string_view key; // of the entry, for Index
     const SourceBundle::SourceEntry* entry = nullptr;
     Arguments arguments{};
     std::optional<Arguments> before{}; // the arguments in the older source, if they differ

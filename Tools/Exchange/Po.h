@@ -9,9 +9,9 @@
 
 namespace Exchange {
 
-// Sets the fuzzy flag of the units, of which those of one plural are adjacent. A PO entry is fuzzy if its translation
-// is new or to be reviewed, or if gettext would reject it because some of its texts begin (or end) with a line break
-// and others do not.
+// Sets the fuzzy flag of the units. A PO entry is fuzzy if its translation is new or to be reviewed, or if gettext
+// would reject it because some of its texts begin (or end) with a line break and others do not. Precondition: the units
+// of one plural are adjacent.
 void markFuzzy(std::span<Unit> units, std::string_view language);
 
 // A plural is one entry with the forms for integers, and one more entry for each further form. Entries with a NUL

@@ -14,6 +14,7 @@ inline constexpr std::string_view declarationsBegin = R"(#pragma once
 #include <cstdint>
 #include <string>)";
 
+// Reads the arrays `characters`, `tables` and `places`, which StringsEmitter.cpp adds before it.
 inline constexpr std::string_view keyDefinition = R"(
 inline ::Foundation::LocalizedKey keyAt(std::size_t entry) noexcept {
     const Place& place = places[entry];

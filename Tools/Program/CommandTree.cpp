@@ -41,7 +41,7 @@ ProgramInfo describe(const CLI::App& program) {
     ProgramInfo info{.description = program.get_description(), .options = {}, .commands = {}};
     for (const CLI::Option* option : program.get_options())
         info.options.push_back(describe(*option));
-    for (const CLI::App* command : program.get_subcommands([](const CLI::App*) { return true; })) {
+    for (const CLI::App* command : program.get_subcommands({})) { // all, not only the one on the command line
         CommandInfo made{
             .name = command->get_name(), .description = command->get_description(), .options = {}, .arguments = {}};
         for (const CLI::Option* option : command->get_options())

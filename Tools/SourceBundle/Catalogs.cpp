@@ -89,11 +89,11 @@ private:
                 diagnostics_.add(Severity::note,
                                  {.message = "is a link to a folder and is left out", .file = entry.path()});
             else
-                findFolder(entry.path(), prefix, depth);
+                examine(entry.path(), prefix, depth);
         }
     }
 
-    void findFolder(const fs::path& folder, const std::string& prefix, int depth) {
+    void examine(const fs::path& folder, const std::string& prefix, int depth) {
         if (const std::optional<Kind> kind = kindOf(folder))
             sets_.push_back(
                 {.kind = *kind, .catalog = catalog_, .name = prefix + folder.stem().string(), .path = folder});

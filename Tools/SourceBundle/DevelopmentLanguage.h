@@ -11,8 +11,9 @@
 
 namespace SourceBundle {
 
-// CFBundleDevelopmentRegion of the first of `infos` that has a usable value, "de" for "German"; no value if none has
-// one. Unreadable files are skipped with an error, and build settings such as "$(DEVELOPMENT_LANGUAGE)" with a warning.
+// CFBundleDevelopmentRegion of the first of `infos`, files Info.plist, that has a usable value, "de" for "German"; no
+// value if none has one. Unreadable files are skipped with an error, and build settings such as
+// "$(DEVELOPMENT_LANGUAGE)" with a warning.
 [[nodiscard]] std::optional<std::string> developmentLanguage(std::span<const std::filesystem::path> infos,
                                                              Diagnostics& diagnostics);
 

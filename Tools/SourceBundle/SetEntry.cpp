@@ -55,7 +55,8 @@ bool readScale(std::string_view scale, Fit& fit) {
     return true;
 }
 
-// The conditions that Lumora never meets; an entry with conditions is used only if no other is usable.
+// The conditions that Lumora never meets: all but the default values "any" and "sRGB". An entry with conditions is used
+// only if no other is usable.
 std::vector<std::string> conditionsOf(const Json& entry) {
     static constexpr std::array names = {"subtype", "screen-width",         "width-class",  "height-class",
                                          "memory",  "graphics-feature-set", "display-gamut"};

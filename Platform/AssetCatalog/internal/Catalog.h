@@ -27,7 +27,7 @@ inline constexpr std::string_view fileName = "Assets.catalog";
 
 // Limits. A file that exceeds them is not opened, and the builder creates none.
 inline constexpr std::size_t maxBytes = std::size_t{4} << 30;
-inline constexpr std::size_t maxIndexBytes = std::size_t{256} << 20; // everything but the blobs
+inline constexpr std::size_t maxIndexBytes = std::size_t{256} << 20; // everything but the pictures' and data's bytes
 inline constexpr std::size_t maxAssets = std::size_t{1} << 18;
 inline constexpr std::size_t maxVariants = 1024;      // of one asset
 inline constexpr std::size_t maxNameBytes = 1024;     // of an asset, including its folders

@@ -20,8 +20,9 @@ public:
     std::string_view name() const noexcept { return name_; }
     std::string_view language() const noexcept { return language_; }
 
-    // The table with that name; an empty one or null if it is missing. `hash`: keyHash(name); with another one the
-    // look-up only takes longer. Throws std::bad_alloc, and std::system_error on transient errors.
+    // The table with that name. If it is missing: an empty one, or null if that is not stored (see tables_). `hash`:
+    // keyHash(name); with another one the lookup only takes longer. Throws std::bad_alloc, and std::system_error on
+    // transient errors.
     LocalizedTable* table(std::string_view name, std::uint64_t hash) {
         LocalizedTable* const known = tables_.find(name, hash);
         return known != nullptr ? known : knownOrLoaded(name);
@@ -39,7 +40,7 @@ private:
     bool mayHavePlurals_;
     // The existing tables that were looked up, and missing ones while there are fewer than storesMissingBelow tables: a
     // program may ask for any number of names.
-    Runtime::KeyedStore<LocalizedTable, 4> tables_;
+    Runtime::KeyedStore<LocalizedTable, /*buckets=*/4> tables_;
     static constexpr std::size_t storesMissingBelow = 64;
 };
 

@@ -1,7 +1,7 @@
 // Intl/internal/LanguageMatch.h
 // Uses ICU to select the language for a user; part of the plug-in lumora-intl.so.
-// Text: identifiers as for icuLocale(); others match nothing. What follows '@' is ignored: "sr-Latn" has a script,
-// "sr@latin" none. Threads: any; no state.
+// Text: identifiers as for icuLocale() (IcuText.h); others match nothing. What follows '@' is ignored: "sr-Latn" has a
+// script, "sr@latin" none. Threads: any; no state.
 #pragma once
 
 #include <cstddef>

@@ -24,7 +24,7 @@ namespace Runtime {
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the kernel gives the address as a number
     const auto* const random = reinterpret_cast<const char*>(::getauxval(AT_RANDOM));
     const std::uint64_t seed = random == nullptr
-                                   ? reinterpret_cast<std::uintptr_t>(&::getauxval) // differs in each process, too
+                                   ? reinterpret_cast<std::uintptr_t>(&::getauxval) // a random address (ASLR)
                                    : mixed(loadLittle<std::uint64_t>(random) ^ hashSpread,
                                            loadLittle<std::uint64_t>(random + sizeof(std::uint64_t)));
     kept.store(seed, std::memory_order_relaxed);

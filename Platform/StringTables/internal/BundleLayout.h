@@ -19,8 +19,8 @@ inline constexpr std::string_view pluralsSuffix = ".stringsdict";
 inline constexpr std::string_view defaultTable = "Localizable";
 
 inline constexpr std::string_view informationFile = "Info.plist";
-inline constexpr std::string_view developmentRegionKey = "CFBundleDevelopmentRegion";
-inline constexpr std::string_view defaultRegion = "en"; // if there is no such key
+inline constexpr std::string_view developmentRegionKey = "CFBundleDevelopmentRegion"; // its value is a language
+inline constexpr std::string_view defaultRegion = "en";                               // if there is no such key
 
 // `lumora compile` adds these to Info.plist, so that readers need not list the directory: the languages, "Base"
 // included, each followed by the separator ("Base/de/"), and whether any of them has plurals ("yes", "no"). An

@@ -14,8 +14,8 @@
 namespace StringTables {
 
 struct Placeholder {
-    // What it prints: a percent sign ("%%"), a text (%@ %s %S), an integer (%d and the like, %c), a floating-point
-    // number.
+    // What it prints: a percent sign ("%%"), a text (%@ %s %S), an integer (%d and the like, %c), or a
+    // floating-point number.
     enum class Kind : std::uint8_t { percent, text, integer, number };
 
     // A width or precision: none, the number `value`, or an argument ("*"): the one at position `value` ("*2$"), or the

@@ -1,4 +1,4 @@
-// Highlights the search words, in browsers that support it. The words are folded.
+// Highlights the search words, in browsers that support it. The words are folded (fold.js).
 const foundWords = "Highlight" in window ? new Highlight() : null;
 if (foundWords)
     CSS.highlights.set("found", foundWords);
