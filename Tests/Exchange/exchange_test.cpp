@@ -82,7 +82,7 @@ TEST(ExchangeFiles, RoundTripEveryText) {
     for (const char* language : {"de", "ar", "ja", "ru", "fr", "xx"}) {
         const Translations translations = difficultTranslations(language);
         SourceBundle::Diagnostics diagnostics;
-        const auto xliff = Exchange::readXliff(Exchange::writeXliff(translations, "1"), "f", diagnostics);
+        const auto xliff = Exchange::readXliff(Exchange::writeXliff(translations, /*version=*/"1"), "f", diagnostics);
         ASSERT_TRUE(xliff) << xliff.error().text();
         std::string bytes = Exchange::writePo(translations, diagnostics);
         EXPECT_NE(bytes.find("#. lines\n#. of\n#. text\n"), std::string::npos);

@@ -24,6 +24,7 @@ using StringTables::Table;
 
 struct Source::Storage {
     std::vector<TableFile> files;
+    // Deques do not move their elements, to which entries refer.
     std::deque<Table> tables;
     std::deque<std::vector<std::string>> comments; // of the tables' entries
     std::deque<StringTables::PluralTable> pluralTables;
@@ -145,6 +146,7 @@ private:
             return diagnostics_.add(Severity::error, std::move(read.table.error()), Topic::unreadableTable);
         }
         addNotes(read.table->notes());
+        // Moving a table or a vector keeps what the entries point to.
         storage_.tables.push_back(*std::move(read.table));
         storage_.comments.push_back(std::move(read.comments));
         texts->add(std::move(read.texts));
