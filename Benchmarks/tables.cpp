@@ -102,7 +102,7 @@ void binaryAllTexts(benchmark::State& state) {
 }
 BENCHMARK(binaryAllTexts);
 
-// Look-ups in a table that was read as a whole before.
+// Lookups in a table that was read as a whole before.
 void compiledLookUp(benchmark::State& state) {
     const std::vector<std::string> keys = writeCompiledTable();
     StringTables::StoredTable table(compiledPath);

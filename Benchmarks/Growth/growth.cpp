@@ -1,5 +1,5 @@
 // growth BUNDLE SOURCE EXPECTED LANGUAGE...
-// Measures loading the binary tables of BUNDLE, reading the text tables of SOURCE with a look-up of every key, and
+// Measures loading the binary tables of BUNDLE, reading the text tables of SOURCE with a lookup of every key, and
 // reading the texts of the last language from the loaded bundle. First compares every text of BUNDLE and SOURCE with
 // the file EXPECTED/LANGUAGE: keys and texts in turn, each ended by NUL. Prints the lines "load", "check" and "read"
 // with nanoseconds ("read": for one text). Ends with 1 if a text is wrong, with 2 if an argument or a file in

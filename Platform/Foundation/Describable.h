@@ -40,7 +40,7 @@ concept WideCharacter = std::same_as<T, char16_t> || std::same_as<T, char32_t> |
 
 template <class T>
 concept DescribesItself = requires(const T& value) {
-    { describe(value) } -> std::convertible_to<std::string>; // found by argument-dependent look-up only
+    { describe(value) } -> std::convertible_to<std::string>; // found by argument-dependent lookup only
 };
 
 // The element references of std::vector<bool> and std::bitset.

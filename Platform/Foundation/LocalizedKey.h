@@ -1,5 +1,5 @@
 // Foundation/LocalizedKey.h
-// The name of a text: a key in a table, with the hashes of both for a look-up.
+// The name of a text: a key in a table, with the hashes of both for a lookup.
 // Text: UTF-8. Threads: plain values. Ownership: borrows both texts.
 #pragma once
 
@@ -15,7 +15,7 @@ struct LocalizedKey {
 
     std::string_view table; // not empty
     std::string_view key;   // exact
-    // Generated code contains both hashes as constants. Look-ups with wrong hashes only take longer.
+    // Generated code contains both hashes as constants. Lookups with wrong hashes only take longer.
     std::uint64_t tableHash;
     std::uint64_t keyHash;
 };

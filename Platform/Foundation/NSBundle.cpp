@@ -116,7 +116,7 @@ struct NSBundle::Contents {
     }
 
     // The table of `key` in `folder`, the first of the chain. It is nearly always in `recents`, where comparing names
-    // is faster than a look-up in the folder.
+    // is faster than a lookup in the folder.
     detail::LocalizedTable* firstTable(detail::Localization& folder, const LocalizedKey& key) {
         for (std::atomic<detail::LocalizedTable*>& recent : recents) {
             detail::LocalizedTable* const known = recent.load(std::memory_order_acquire);

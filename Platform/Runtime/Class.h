@@ -1,7 +1,7 @@
 // Runtime/Class.h
 // Calls of static functions by name, for callers that know class and function only as strings: a caller sends a class a
 // message, which is a selector, such as "legacyTrAge:", and arguments. The method that the class has published under
-// that selector is called. Classes are constant data; a look-up finds them in the program and the loaded libraries.
+// that selector is called. Classes are constant data; a lookup finds them in the program and the loaded libraries.
 // Threads: any. Ownership: classes and what they refer to live as long as their library; results belong to the caller.
 #pragma once
 

@@ -10,8 +10,8 @@
 // - pictures: imageNamedWithConfiguration(name, bundle, traits), or else the older imageNamed(name, bundle, traits).
 // That function is then called and its result returned. Otherwise the result is an optional Class, constructed as
 // Class{found} from the platform's result, or the platform's result itself if Class cannot be constructed from it.
-// Text: UTF-8. Threads: any. Ownership: values; see the types. Errors: the platform's look-ups give no value when
-// memory or descriptors run out. The functions of Color and Image, and those that call a class's own look-up, then
+// Text: UTF-8. Threads: any. Ownership: values; see the types. Errors: the platform's lookups give no value when
+// memory or descriptors run out. The functions of Color and Image, and those that call a class's own lookup, then
 // throw what bundle() throws, std::bad_alloc or std::system_error; what the class's function throws is passed on.
 #pragma once
 

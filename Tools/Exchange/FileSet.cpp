@@ -54,8 +54,11 @@ Runtime::Result<void> FileSet::stage(const fs::path& path, std::string_view byte
         written.error().file = path;
         return written;
     }
-    if (const fs::file_status status = fs::status(target, failed); fs::exists(status))
+    if (const fs::file_status status = fs::status(target, failed); fs::exists(status)) {
         fs::permissions(staged, status.permissions(), failed);
+        if (failed)
+            return cannotBeWritten(path, failed);
+    }
     return {};
 }
 

@@ -1,6 +1,6 @@
 // Foundation/internal/LocalizedTable.h
 // The texts and plurals of one table in one language; internal.
-// Threads: any; look-ups in a table that was read take no lock. Ownership: views live as long as the table.
+// Threads: any; lookups in a table that was read take no lock. Ownership: views live as long as the table.
 #pragma once
 
 #include "Foundation/LocalizedFormat.h"

@@ -71,7 +71,7 @@ private:
         std::array<Link, branches> children{};
     };
 
-    // A separate function, so that a look-up that ends at the root needs few registers.
+    // A separate function, so that a lookup that ends at the root needs few registers.
     [[gnu::noinline]] T* findBelow(Node& root, std::string_view key, std::uint64_t hash) const noexcept {
         Descent descent(hash, key);
         for (Node* node = &root;;) {

@@ -1,5 +1,5 @@
 // StringTables/internal/FoundText.h
-// The result of a look-up in a table: a text or nothing.
+// The result of a lookup in a table: a text or nothing.
 // Threads: plain values. Ownership: borrows the text. A FoundText has 16 bytes, so functions return it in registers.
 #pragma once
 
