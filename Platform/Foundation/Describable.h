@@ -65,10 +65,10 @@ template <class T> using ElementOf = std::remove_cvref_t<decltype(*std::begin(st
 // Strings of other characters than char are excluded, because they would be printed as a list of letters, and so are
 // types that are their own element type, such as std::filesystem::path.
 template <class T>
-concept Sequence = requires(const T& value) {
+concept Sequence = !std::same_as<ElementOf<T>, T> && !WideCharacter<ElementOf<T>> &&
+                   !std::same_as<ElementOf<T>, char8_t> && requires(const T& value) {
     std::begin(value) != std::end(value);
-}
-&&!std::same_as<ElementOf<T>, T> && !WideCharacter<ElementOf<T>> && !std::same_as<ElementOf<T>, char8_t>;
+};
 
 } // namespace detail
 
@@ -158,7 +158,7 @@ private:
             for (const auto& element : value) {
                 owned_ += separator;
                 separator = ", ";
-                appendInner<detail::ElementOf<T>>(element);
+                appendInner(element);
             }
             owned_ += *separator == '[' ? "[]" : "]";
         }
