@@ -55,7 +55,8 @@ public:
     // precision, are "∞%" and "-∞%". If the current language is Arabic or Turkish ("%25"), the user's locale
     // formats the percentage instead. With `showPlus`, positive values begin with "+".
     [[nodiscard]] static std::string legacyTrPercent(double value, bool showPlus);
-    // A number of years as currentLocale() spells it: "25 лет". Empty when the language data is missing.
+    // A number of years as currentLocale() spells it: "25 лет". Empty when the plug-in lumora-intl.so is needed but
+    // missing.
     [[nodiscard]] static std::string legacyTrYear(std::int64_t value);
     // An age in years: in seven languages, such as English, locYears() (LumoraStrings+Members.h), with a noun from the
     // main table; in the others legacyTrYear().

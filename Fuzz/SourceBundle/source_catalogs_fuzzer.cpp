@@ -45,7 +45,9 @@ void requireSound(const SourceBundle::SourceAsset& asset) {
     const std::string name = asset.path.stem();
     require(asset.name == name || asset.name == "Folder/" + name);
     for (const SourceBundle::SetFile& file : asset.files) {
-        require(std::isfinite(file.capInsets.top) && std::isfinite(file.alignmentInsets.right));
+        for (const AssetCatalog::Insets& insets : {file.capInsets, file.alignmentInsets})
+            for (const double inset : {insets.top, insets.left, insets.bottom, insets.right})
+                require(std::isfinite(inset));
         // Not "secret", which is outside the set; but an entry may name Contents.json itself.
         require(file.path == asset.path / "1.png" || file.path == asset.path / "Contents.json");
         require(file.fit.scale <= 9); // "9x"

@@ -10,7 +10,7 @@ namespace AssetCatalog {
 
 namespace {
 
-using Place = flatbuffers::uoffset_t;
+using Index = flatbuffers::uoffset_t;
 
 // The casts are safe: check() has validated the enumerators.
 Fit fitOf(const Format::Fit& fit) noexcept {
@@ -28,16 +28,16 @@ std::string_view textOf(const flatbuffers::String* text) noexcept {
 
 // Calls `use` with the variant, whose type depends on the kind.
 template <class Use> auto withVariant(const Format::Asset& asset, Kind kind, std::size_t variant, Use use) noexcept {
-    const auto place = static_cast<Place>(variant);
+    const auto index = static_cast<Index>(variant);
     switch (kind) {
     case Kind::image:
-        return use(*asset.pictures()->Get(place));
+        return use(*asset.pictures()->Get(index));
     case Kind::color:
-        return use(*asset.colors()->Get(place));
+        return use(*asset.colors()->Get(index));
     case Kind::data:
         break;
     }
-    return use(*asset.data()->Get(place));
+    return use(*asset.data()->Get(index));
 }
 
 } // namespace
@@ -94,7 +94,7 @@ std::size_t Entry::best(Fit wanted, std::span<const std::string> languages) cons
 }
 
 PictureView Entry::picture(std::size_t variant) const noexcept {
-    const Format::Picture& found = *asset_->pictures()->Get(static_cast<Place>(variant));
+    const Format::Picture& found = *asset_->pictures()->Get(static_cast<Index>(variant));
     return {.fit = fitOf(*found.fit()),
             .width = found.width(),
             .height = found.height(),
@@ -106,14 +106,14 @@ PictureView Entry::picture(std::size_t variant) const noexcept {
 }
 
 ColorValue Entry::color(std::size_t variant) const noexcept {
-    const Format::Color& found = *asset_->colors()->Get(static_cast<Place>(variant));
+    const Format::Color& found = *asset_->colors()->Get(static_cast<Index>(variant));
     const Format::Components& components = *found.components();
     return {static_cast<ColorSpace>(found.space()),
             {components.first(), components.second(), components.third(), components.alpha()}};
 }
 
 DataView Entry::data(std::size_t variant) const noexcept {
-    const Format::Data& found = *asset_->data()->Get(static_cast<Place>(variant));
+    const Format::Data& found = *asset_->data()->Get(static_cast<Index>(variant));
     return {fitOf(*found.fit()), textOf(found.type()), {blobs_, found.offset(), found.size()}};
 }
 
@@ -157,7 +157,7 @@ std::optional<std::size_t> Catalog::find(Kind kind, std::string_view name) const
     const auto& hashes = *index_->hashes();
     const auto& assets = *index_->assets();
     const auto [first, last] = std::equal_range(hashes.begin(), hashes.end(), Format::hashOf(kind, name));
-    const auto assetOf = [&](auto hash) { return assets.begin() + static_cast<Place>(hash - hashes.begin()); };
+    const auto assetOf = [&](auto hash) { return assets.begin() + static_cast<Index>(hash - hashes.begin()); };
     const Format::AssetName wanted(kind, name);
     const auto precedes = [](const Format::Asset* asset, const Format::AssetName& other) {
         return Format::nameOf(*asset) < other;
@@ -173,7 +173,7 @@ std::size_t Catalog::size() const noexcept {
 }
 
 Entry Catalog::operator[](std::size_t index) const noexcept {
-    return {index_->assets()->Get(static_cast<Place>(index)), blobs_.get()};
+    return {index_->assets()->Get(static_cast<Index>(index)), blobs_.get()};
 }
 
 } // namespace AssetCatalog

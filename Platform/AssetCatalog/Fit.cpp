@@ -8,12 +8,12 @@ namespace {
 
 // The distance, 0 to 2, for a trait whose enumerators are `any`, the more common value and the other one, in this
 // order.
-template <class Quality> std::uint32_t threeWay(Quality offered, Quality wanted) noexcept {
+template <class Trait> std::uint32_t threeWay(Trait offered, Trait wanted) noexcept {
     if (offered == wanted)
         return 0;
-    if (wanted == Quality::any)
+    if (wanted == Trait::any)
         return static_cast<std::uint32_t>(offered);
-    return offered == Quality::any ? 1 : 2;
+    return offered == Trait::any ? 1 : 2;
 }
 
 // Whether `part` is `tag` or a prefix of its subtags: "pt" and "pt-BR" for "pt-BR".
@@ -21,7 +21,7 @@ bool isTagOrItsBeginning(std::string_view part, std::string_view tag) noexcept {
     return tag.starts_with(part) && (tag.size() == part.size() || tag[part.size()] == '-');
 }
 
-// Below 1024. Scales are below 256, so 512 puts all smaller ones after all larger ones.
+// Below 1024; scale 0 is any scale. Scales are below 256, so 512 puts all smaller ones after all larger ones.
 std::uint32_t scaleDistance(std::uint32_t offered, std::uint32_t wanted) noexcept {
     if (offered == wanted)
         return 0;

@@ -40,8 +40,8 @@ std::vector<std::vector<std::size_t>> keysByBucket(std::span<const std::uint32_t
 } // namespace
 
 CompiledIndex::State CompiledIndex::recognize(std::string_view head, CompiledIndex& out) noexcept {
-    static constexpr std::string_view list = "bplist00";
-    if (head.size() < headSize || !head.starts_with(list) || !resembles(head.substr(markAt, mark.size()), mark))
+    static constexpr std::string_view magic = "bplist00";
+    if (head.size() < headSize || !head.starts_with(magic) || !resembles(head.substr(markAt, mark.size()), mark))
         return State::none;
     const char* const numbers = head.data() + markAt + mark.size();
     const auto number = [numbers](std::size_t i) { return Runtime::loadLittle<std::uint32_t>(numbers + 4 * i); };
@@ -82,15 +82,15 @@ std::optional<CompiledIndexWriter> CompiledIndexWriter::make(std::span<const std
         bucketOfKey.push_back(index.bucket(hash));
 
     std::vector<bool> isTaken(index.slotCount_);
-    std::vector<std::uint32_t> places;
-    // Whether the slots of the bucket's keys are free and different; `places` are these slots.
+    std::vector<std::uint32_t> slots;
+    // Sets `slots` to the slots of the keys in the bucket. False if one is taken or two are equal.
     const auto fits = [&](const std::vector<std::size_t>& bucket, std::uint16_t displacement) {
-        places.clear();
+        slots.clear();
         for (const std::size_t key : bucket) {
             const std::uint32_t slot = index.slot(keyHashes[key], displacement);
-            if (isTaken[slot] || std::ranges::find(places, slot) != places.end())
+            if (isTaken[slot] || std::ranges::find(slots, slot) != slots.end())
                 return false;
-            places.push_back(slot);
+            slots.push_back(slot);
         }
         return true;
     };
@@ -108,8 +108,8 @@ std::optional<CompiledIndexWriter> CompiledIndexWriter::make(std::span<const std
         if (displacement > most)
             return std::nullopt;
         for (std::size_t i = 0; i < bucket.size(); ++i) {
-            isTaken[places[i]] = true;
-            writer.slotOfEntry_[bucket[i]] = places[i];
+            isTaken[slots[i]] = true;
+            writer.slotOfEntry_[bucket[i]] = slots[i];
         }
         writer.displacements_[bucketOfKey[bucket.front()]] = static_cast<std::uint16_t>(displacement);
     }

@@ -18,8 +18,8 @@ public:
         if (!expat_)
             throw std::bad_alloc();
         XML_SetUserData(expat_.get(), this);
-        handleContent();
-        handleDeclarations();
+        setContentHandlers();
+        setDeclarationHandlers();
     }
 
     XmlFault parse() {
@@ -42,8 +42,8 @@ private:
         void operator()(XML_Parser parser) const noexcept { XML_ParserFree(parser); }
     };
 
-    void handleContent();
-    void handleDeclarations();
+    void setContentHandlers();
+    void setDeclarationHandlers();
 
     // Runs the body of a handler. Exceptions must not pass through expat, which is C code: parse() rethrows them. After
     // stop(), expat may call more handlers; they do nothing.
@@ -82,7 +82,7 @@ private:
     bool isStopped_ = false;
 };
 
-void Parser::handleContent() {
+void Parser::setContentHandlers() {
     XML_SetElementHandler(
         expat_.get(),
         [](void* self, const char* name, const char** attributes) {
@@ -103,7 +103,7 @@ void Parser::handleContent() {
     });
 }
 
-void Parser::handleDeclarations() {
+void Parser::setDeclarationHandlers() {
     XML_SetXmlDeclHandler(expat_.get(), [](void* self, const char*, const char* encoding, int) {
         handle(self, [=](Parser& parser) {
             parser.handler_.encoding(encoding != nullptr ? encoding : "");

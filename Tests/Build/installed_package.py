@@ -31,7 +31,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
                                "-I", platform, "-x", "c++", "-"], input=code, capture_output=True, text=True)
         return [line for line in done.stderr.splitlines() if "error:" in line and "fatal error: lumora-needs" not in line]
 
-    def faults_of(header):
+    def check_header(header):
         code = f"#include <{header}>\n"
         expect(header, errors("-std=c++20", code), [])
         older = errors("-std=c++17", code)
@@ -39,7 +39,7 @@ with tempfile.TemporaryDirectory(prefix="lumora päckage ") as folder:
         expect(f"{header} in C++17", all("C++20" in line for line in older), True)
 
     with concurrent.futures.ThreadPoolExecutor(max_workers=2) as pool:
-        list(pool.map(faults_of, headers))
+        list(pool.map(check_header, headers))
 
     # Messages need run-time type information, and their header says so; everything else works without it.
     expect("messages without RTTI", ["-frtti" in line for line in errors("-std=c++20", "#include <Runtime/Class.h>", "-fno-rtti")], [True])

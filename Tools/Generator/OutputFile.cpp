@@ -18,7 +18,7 @@ std::string firstLine(std::istream& text) {
     return line;
 }
 
-Runtime::Result<void> writeChanged(const fs::path& path, const std::string& content) {
+Runtime::Result<void> writeIfChanged(const fs::path& path, const std::string& content) {
     if (const auto there = Runtime::readFile(path, content.size()); there && *there == content)
         return {};
     std::error_code failed;
@@ -50,7 +50,7 @@ Runtime::Result<void> writeFiles(const fs::path& folder, const std::vector<Outpu
     std::set<std::string> marks; // the first lines of the files
     for (const OutputFile& file : files) {
         const fs::path path = folder / file.path;
-        if (auto written = writeChanged(path, file.content); !written)
+        if (auto written = writeIfChanged(path, file.content); !written)
             return written;
         made.insert(path);
         folders.insert(path.parent_path());
