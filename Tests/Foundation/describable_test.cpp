@@ -58,10 +58,11 @@ TEST(Describable, TextsAndTruthValuesAreThemselves) {
     EXPECT_EQ(text(nullptr), "nil");
     const volatile bool volatileBool = true;
     volatile char volatileLetter = 'v';
+    volatile int volatileNumbers[] = {1, 2};
     const std::vector<bool> bits = {true, false};
     std::vector<bool> changing = bits;
     std::bitset<1> set(1);
-    EXPECT_EQ(text(volatileBool) + text(volatileLetter), "truev");
+    EXPECT_EQ(text(volatileBool) + text(volatileLetter) + text(volatileNumbers), "truev[1, 2]");
     EXPECT_EQ(text(bits[0]) + text(changing[1]) + text(set[0]), "truefalsetrue");
     EXPECT_EQ(text(true), "true");
     EXPECT_EQ(text(false), "false");
