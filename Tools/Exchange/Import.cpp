@@ -10,6 +10,7 @@
 #include "Runtime/internal/NameMap.h"
 #include "StringTables/internal/Table.h"
 #include <algorithm>
+#include <map>
 #include <set>
 #include <string>
 
@@ -27,17 +28,31 @@ namespace {
 struct ImportedKey {
     Key key;
     std::vector<Unit> expected;          // the key's units in the source
-    std::vector<const Unit*> seen;       // those of `expected` that occurred in a file
+    std::vector<bool> seen{};            // for each of `expected`, whether it occurred in a file
     std::vector<Unit> merged{};          // the units after the import
     std::vector<const Unit*> accepted{}; // those of `merged` that change
     // The place of the first accepted translation, for messages.
     std::string file{};
     std::size_t line = 0;
+    std::map<std::vector<std::string>, std::span<const Unit>> parts{}; // those of `expected` by part
+
+    void findParts() {
+        for (auto begin = expected.begin(); begin != expected.end();) {
+            const auto end =
+                std::find_if_not(begin, expected.end(), [begin](const Unit& unit) { return isSamePart(*begin, unit); });
+            parts.emplace(begin->id.part, std::span(begin, end));
+            begin = end;
+        }
+    }
+    // The units of the part; empty if the key does not have it.
+    std::span<const Unit> unitsOf(const std::vector<std::string>& part) const {
+        const auto found = parts.find(part);
+        return found == parts.end() ? std::span<const Unit>() : found->second;
+    }
 };
 
-Unit* find(std::vector<Unit>& units, const std::vector<std::string>& part, std::optional<PluralCategory> category) {
-    const auto found = std::ranges::find_if(
-        units, [&](const Unit& unit) { return unit.id.part == part && unit.id.category == category; });
+const Unit* find(std::span<const Unit> units, std::optional<PluralCategory> category) {
+    const auto found = std::ranges::find(units, category, [](const Unit& unit) { return unit.id.category; });
     return found == units.end() ? nullptr : &*found;
 }
 
@@ -121,10 +136,13 @@ private:
                     .translated = translated == nullptr ? nullptr : translated->find(id.key),
                     .developmentLanguage = std::string(developmentLanguage),
                     .language = language};
-            ImportedKey imported{.key = std::move(key), .expected = {}, .seen = {}};
+            ImportedKey& imported = keys_[name];
+            imported.key = std::move(key);
             imported.expected = unitsOf(imported.key, texts_).value_or(std::vector<Unit>());
+            imported.seen.resize(imported.expected.size());
             imported.merged = imported.expected;
-            return &keys_.emplace(name, std::move(imported)).first->second;
+            imported.findParts();
+            return &imported;
         }
         return nullptr;
     }
@@ -134,16 +152,18 @@ private:
         ImportedKey* const imported = importedKeyFor(unit.id, language);
         if (imported == nullptr || imported->expected.empty())
             return fault(translations.file, unit.line, "the source has no translatable text with the id " + id);
-        Unit* const expected = find(imported->expected, unit.id.part, unit.id.category);
+        const std::span<const Unit> part = imported->unitsOf(unit.id.part);
+        const Unit* const expected = find(part, unit.id.category);
         if (expected == nullptr)
-            return fault(translations.file, unit.line, whyUnknown(*imported, unit));
-        if (std::ranges::find(imported->seen, expected) != imported->seen.end())
+            return fault(translations.file, unit.line, whyUnknown(part, unit, language));
+        const auto number = static_cast<std::size_t>(expected - imported->expected.data());
+        if (imported->seen[number])
             return fault(translations.file, unit.line, id + " appears again");
-        imported->seen.push_back(expected);
+        imported->seen[number] = true;
         if (unit.target.empty())
             return;
         // A PO file has only two development texts of a plural, so most forms come with that of another form.
-        const Unit* const withSource = find(imported->expected, unit.id.part, unit.sourceCategory);
+        const Unit* const withSource = find(part, unit.sourceCategory);
         if (unit.source != (withSource == nullptr ? expected : withSource)->source)
             return fault(translations.file, unit.line,
                          "the development text of " + id + " has changed since the export");
@@ -154,25 +174,22 @@ private:
         if (unit.target == expected->target && (!storesStates || state == expected->state))
             return;
         if (unit.target != expected->target)
-            if (const auto wrong =
-                    placeholderFault(unit.target, *expected, imported->expected, *imported->key.development))
+            if (const auto wrong = placeholderFault(unit.target, *expected, part, *imported->key.development))
                 return fault(translations.file, unit.line, id + " " + *wrong);
-        accept(translations.file, *imported, unit, state);
+        accept(translations.file, *imported, number, unit, state);
         languages_.insert(language);
     }
 
-    // The message for a unit that is not among those of its key.
-    static std::string whyUnknown(const ImportedKey& imported, const Unit& unit) {
-        const bool hasPart = std::ranges::any_of(
-            imported.expected, [&unit](const Unit& each) { return each.id.part == unit.id.part && each.id.category; });
-        if (unit.id.category && hasPart)
-            return imported.key.language + " has no plural form \"" +
+    // The message for a unit that is not among those of its part.
+    static std::string whyUnknown(std::span<const Unit> part, const Unit& unit, const std::string& language) {
+        if (unit.id.category && !part.empty() && part.front().id.category)
+            return language + " has no plural form \"" +
                    std::string(Intl::pluralCategoryNames[indexOf(*unit.id.category)]) + "\" for " + textOf(unit.id);
         return "the key has no text to translate with the id " + textOf(unit.id);
     }
 
-    void accept(const std::string& file, ImportedKey& imported, const Unit& unit, State state) {
-        Unit& merged = *find(imported.merged, unit.id.part, unit.id.category);
+    void accept(const std::string& file, ImportedKey& imported, std::size_t number, const Unit& unit, State state) {
+        Unit& merged = imported.merged[number];
         merged.target = unit.target;
         merged.state = state;
         imported.accepted.push_back(&merged);

@@ -5,6 +5,7 @@
 #include "Exchange/Po.h"
 #include "StringTables/internal/PluralTable.h"
 #include <algorithm>
+#include <map>
 #include <utility>
 
 namespace Exchange {
@@ -51,11 +52,14 @@ const StoredText* developmentText(const std::vector<const StoredText*>& texts, s
 class UnitMaker {
 public:
     UnitMaker(const Key& key, const std::vector<StoredText>& development, const std::vector<StoredText>& translated)
-        : key_(key), translated_(translated) {
+        : key_(key) {
         for (const StoredText& text : development)
             partFor(text).development.push_back(&text);
-        for (const StoredText& text : translated)
+        for (const StoredText& text : translated) {
             partFor(text).translated.push_back(&text);
+            if (text.part.empty() && !text.category)
+                plain_ = &text;
+        }
     }
 
     std::vector<Unit> make() {
@@ -75,13 +79,12 @@ public:
 private:
     // The part of the text, added if necessary.
     PartTexts& partFor(const StoredText& text) {
-        auto found = std::ranges::find(parts_, text.part, &PartTexts::part);
-        if (found == parts_.end()) {
+        const auto [number, isNew] = numbers_.try_emplace(text.part, parts_.size());
+        if (isNew)
             parts_.push_back({.part = text.part});
-            found = parts_.end() - 1;
-        }
-        found->isPlural |= text.category.has_value();
-        return *found;
+        PartTexts& part = parts_[number->second];
+        part.isPlural |= text.category.has_value();
+        return part;
     }
 
     bool isWanted(const PartTexts& part, PluralCategory category) const {
@@ -121,10 +124,7 @@ private:
             return own;
         const bool isOtherForm = !category || category == PluralCategory::other;
         const bool isOtherDevice = part.part == Part{std::string(devicePart), "other"} && part.translated.empty();
-        const auto plain = std::ranges::find_if(
-            translated_, [](const StoredText& text) { return text.part.empty() && !text.category; });
-        const bool isPlain = isOtherForm && (part.part.empty() || isOtherDevice) && plain != translated_.end();
-        return isPlain ? &*plain : nullptr;
+        return isOtherForm && (part.part.empty() || isOtherDevice) ? plain_ : nullptr;
     }
 
     void add(const PartTexts& part, std::optional<PluralCategory> category) {
@@ -142,8 +142,9 @@ private:
     }
 
     const Key& key_;
-    const std::vector<StoredText>& translated_;
+    const StoredText* plain_ = nullptr; // the translation without a part and a category, or null
     std::vector<PartTexts> parts_;
+    std::map<Part, std::size_t> numbers_; // of parts_
     std::vector<Unit> units_;
 };
 

@@ -126,8 +126,6 @@ public:
     Arguments allArguments(std::span<const Unit> all) const {
         Arguments together;
         for (const Unit& unit : all) {
-            if (unit.id.part != part_)
-                continue;
             const Arguments arguments = argumentsOf(unit.source);
             together.kinds.insert(arguments.kinds.begin(), arguments.kinds.end());
             together.variables.insert(arguments.variables.begin(), arguments.variables.end());
