@@ -36,8 +36,8 @@ private:
 // `index` was made from `hashes`, the key hashes of the entries.
 std::string writeIndexed(std::span<const Entry> entries, std::span<const std::uint64_t> hashes,
                          const CompiledIndexWriter& index) {
-    BinaryWriter list(2 * entries.size());
-    const auto dataObject = list.reserve();
+    BinaryWriter writer(2 * entries.size());
+    const auto dataObject = writer.reserve();
     struct Numbers {
         BinaryWriter::Number key, text;
     };
@@ -45,28 +45,28 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
     const auto addStrings = [&](bool ascii) { // those that are ASCII, or the others
         for (std::size_t i = 0; i < entries.size(); ++i) {
             if (isAscii(entries[i].key) == ascii)
-                numbers[i].key = list.string(entries[i].key);
+                numbers[i].key = writer.string(entries[i].key);
             if (isAscii(entries[i].text) == ascii)
-                numbers[i].text = list.string(entries[i].text);
+                numbers[i].text = writer.string(entries[i].text);
         }
     };
     // The ASCII strings belong to the front, before the dictionary; the UTF-16 strings do not (CompiledIndex.h).
     addStrings(true);
-    const auto dictionary = list.dictionary();
+    const auto dictionary = writer.dictionary();
     addStrings(false);
     Utf8Copy copy(index.copyAt()); // filled before write(), because the size of the data object depends on it
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        list.add(dictionary, numbers[i].key, numbers[i].text);
+        writer.add(dictionary, numbers[i].key, numbers[i].text);
         if (!isAscii(entries[i].key))
             copy.at(numbers[i].key, entries[i].key);
         if (!isAscii(entries[i].text))
             copy.at(numbers[i].text, entries[i].text);
     }
-    list.setReservedSize(dataObject, index.objectSize(copy.bytes().size()));
-    std::string bytes = list.write();
+    writer.setReservedSize(dataObject, index.objectSize(copy.bytes().size()));
+    std::string bytes = writer.write();
 
     const auto offsetOf = [&](BinaryWriter::Number number, std::string_view string) {
-        return static_cast<std::uint32_t>(isAscii(string) ? list.charactersAt(number) : copy.at(number, string));
+        return static_cast<std::uint32_t>(isAscii(string) ? writer.charactersAt(number) : copy.at(number, string));
     };
     std::vector<CompiledIndex::Slot> slots;
     for (std::size_t i = 0; i < entries.size(); ++i) {
@@ -77,7 +77,7 @@ std::string writeIndexed(std::span<const Entry> entries, std::span<const std::ui
                          .textSize = static_cast<std::uint32_t>(text.size()),
                          .check = CompiledIndex::check(hashes[i], text)});
     }
-    index.write(bytes, list.offset(dictionary), copy.bytes(), slots);
+    index.write(bytes, writer.offset(dictionary), copy.bytes(), slots);
     return bytes;
 }
 

@@ -1,5 +1,5 @@
 // Generator/AssetsEmitter.h
-// Makes the headers and the source of the tree of assets, and NAMEConveniences.h.
+// Makes the headers and the source of the tree of assets, and NAMEConveniences.h (see SwiftUI/ModuleConveniences.h).
 #pragma once
 
 #include "Generator/AssetsModel.h"

@@ -1,5 +1,5 @@
 // AssetCatalog/internal/Builder.h
-// Builds compiled catalogs; not part of the run-time library.
+// Builds compiled catalogs. Only tools and tests link it.
 // Text: UTF-8. Threads: pure functions.
 #pragma once
 

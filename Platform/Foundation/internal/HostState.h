@@ -16,7 +16,7 @@ namespace Foundation::detail {
 [[nodiscard]] std::uint64_t hostLanguagesVersion();
 
 struct HostLanguages {
-    std::uint64_t version;
+    std::uint64_t version;              // as of hostLanguagesVersion()
     std::vector<std::string> languages; // BCP 47, most preferred first
 };
 [[nodiscard]] HostLanguages hostLanguages();

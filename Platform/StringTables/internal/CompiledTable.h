@@ -73,9 +73,9 @@ inline constexpr std::size_t mostTextPerFront = 8;
 // Whether the text is UTF-8 and, by the slot's checksum, that of the key with this hash.
 [[nodiscard]] bool isIntact(const CompiledIndex::Slot& slot, std::uint64_t hash, std::string_view text) noexcept;
 
-// The text of `key`, whose hash is `hash`, or no value, from a file of which only parts are read. Source: a class with
-//   // That part of the file, valid until the next call; shorter at the end of the file.
-//   std::string_view bytes(std::size_t at, std::size_t size);
+// The text of `key`, whose hash is `hash`, or no value, from a file of which only parts are read. `source.bytes(at,
+// size)` returns that part of the file as a std::string_view, which is valid until the next call; shorter at the end of
+// the file.
 template <class Source>
 std::optional<std::string> findIn(Source& source, const CompiledIndex& index, std::string_view key,
                                   std::uint64_t hash) {

@@ -30,7 +30,7 @@ function whenNear(element, action) {
 class SearchableList {
     // `rows`: { element, strings: () => [string], accepts: (status) => boolean, show?: () => void, explain?: (words) =>
     // void }. A search finds a row if it accepts the choice in "Show" and each word is in one of its strings. `show` runs
-    // when the row comes near the window, `explain` when a search found it.
+    // when the row comes near the window, `explain` when a search found it, to show what was found.
     constructor(heading, rows, className) {
         this.rows = rows;
         this.className = className;
