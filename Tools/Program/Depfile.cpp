@@ -28,10 +28,37 @@ std::string escaped(std::string_view path) {
     return out.append(backslashes, '\\');
 }
 
-void appendPrerequisite(std::string& rule, const fs::path& path) {
-    rule += " \\\n  ";
-    rule += escaped(fs::absolute(path).string());
+// Whether make can read the path as a prerequisite: these characters cannot be escaped, and "lib(member)" is a member
+// of an archive.
+bool isReadableByMake(std::string_view path) {
+    return path.find_first_of(";:|\t\n") == path.npos && !path.ends_with(')');
 }
+
+// The list of prerequisites of a rule.
+class Prerequisites {
+public:
+    void add(const fs::path& path) {
+        const std::string absolute = fs::absolute(path).string();
+        if (isReadableByMake(absolute))
+            append(absolute);
+        else
+            isComplete_ = false;
+    }
+
+    // `missing`: the path of a file that does not exist. If some path could not be added, the target depends on that
+    // file, so that it is always made again.
+    std::string take(const fs::path& missing) {
+        if (!isComplete_)
+            append(fs::absolute(missing).string());
+        return std::move(list_);
+    }
+
+private:
+    void append(const std::string& path) { list_.append(" \\\n  ").append(escaped(path)); }
+
+    std::string list_;
+    bool isComplete_ = true;
+};
 
 } // namespace
 
@@ -47,15 +74,15 @@ void Depfile::addOptions(CLI::App& command) {
 Runtime::Result<void> Depfile::write(const std::vector<std::string>& inputs) const {
     if (path.empty())
         return {};
-    std::string rule = escaped(target) + ":";
+    Prerequisites prerequisites;
     for (const std::string& input : inputs) {
-        appendPrerequisite(rule, input);
+        prerequisites.add(input);
         std::error_code failed;
         for (fs::recursive_directory_iterator it(input, fs::directory_options::skip_permission_denied, failed), end;
              !failed && it != end; it.increment(failed))
-            appendPrerequisite(rule, it->path());
+            prerequisites.add(it->path());
     }
-    return Runtime::writeFile(path, rule + "\n");
+    return Runtime::writeFile(path, escaped(target) + ":" + prerequisites.take(target + ".always") + "\n");
 }
 
 } // namespace Tools

@@ -19,7 +19,8 @@ struct Depfile {
 
     void addOptions(CLI::App& command);
     // Writes a makefile rule that makes `target` depend on `inputs` and, for folders, on all files and folders below
-    // them. Folders are included because they change when files are added or removed.
+    // them. Folders are included because they change when files are added or removed. If make cannot read a path, the
+    // target depends on a file that does not exist instead.
     [[nodiscard]] Runtime::Result<void> write(const std::vector<std::string>& inputs) const;
 };
 
