@@ -15,7 +15,10 @@ class FormatArgument {
 public:
     enum class Kind : std::uint8_t { text, integer, number };
 
-    constexpr FormatArgument(std::string_view text) noexcept : text_(text) {}
+    // Anything that converts to std::string_view, such as std::string and string literals.
+    template <class Text>
+    requires std::convertible_to<const Text&, std::string_view>
+    constexpr FormatArgument(const Text& text) noexcept : text_(text) {}
     // Keeps the bits of an unsigned 64-bit value, so that "%lu" and "%lx" print it correctly.
     constexpr FormatArgument(std::integral auto integer) noexcept
         : integer_(static_cast<std::int64_t>(integer)), kind_(Kind::integer) {}

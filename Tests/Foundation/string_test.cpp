@@ -39,7 +39,7 @@ TEST(String, FillsPlaceholdersInTheirOrderOrByPosition) {
         {__LINE__, "@plain", {"unused"sv}, "@plain"},
         {__LINE__, "@ %@", {"a"sv, "unused"sv}, "@ a"},
         {__LINE__, "100%%", {}, "100%"},
-        {__LINE__, "%@ and %@", {"a"sv, "b"sv}, "a and b"},
+        {__LINE__, "%@ and %@", {"a", "b"}, "a and b"},
         {__LINE__, "%2$@ %1$@", {"a"sv, "b"sv}, "b a"},
         {__LINE__, "%2$@ %@ %@", {"a"sv, "b"sv}, "b a b"},
         {__LINE__, "%@%d%%", {"ж"sv, -5}, "ж-5%"},
