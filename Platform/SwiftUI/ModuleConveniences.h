@@ -4,7 +4,7 @@
 // Shop::UIColor::withAsset(record).
 //
 // The template parameter Class may be a user's class derived from the platform's. It may define its own static lookup
-// function with the same name and parameters as the platform's:
+// function with the same name and parameters as the platform's, with or without `traits`:
 // - colours: colorNamed(name, bundle, traits);
 // - data: assetWithName(name, bundle);
 // - pictures: imageNamedWithConfiguration(name, bundle, traits), or else the older imageNamed(name, bundle, traits).
@@ -19,6 +19,8 @@
 #include "SwiftUI/AssetRecord.h"
 #include "SwiftUI/SwiftUI.h"
 #include "UIKit/UIKit.h"
+#include <concepts>
+#include <cstddef> // std::nullptr_t
 #include <optional>
 #include <string_view>
 #include <type_traits>
@@ -33,6 +35,16 @@ template <auto> struct Function;
 // arguments, because == of the addresses of weak functions is not a constant expression.
 template <auto one, auto other>
 concept Same = std::is_same_v<Function<one>, Function<other>>;
+
+// A class's look-up as a function of the traits, which it need not take.
+template <class LookUp>
+concept CanLookUp = std::invocable<LookUp, std::nullptr_t> || std::invocable<LookUp>;
+template <CanLookUp LookUp> auto foundBy(LookUp lookUp) {
+    if constexpr (std::invocable<LookUp, std::nullptr_t>)
+        return lookUp(nullptr);
+    else
+        return lookUp();
+}
 
 // Converts the platform's result to Class if possible.
 template <class Class, class Base> auto madeFrom(const std::optional<Base>& found) {
@@ -54,14 +66,14 @@ namespace UIColor {
 // The record's colour, or no value when the catalog does not contain it.
 template <class Class = UIKit::UIColor, class Module> [[nodiscard]] auto withAsset(const ColorRecord<Module>& record) {
     using Platform = UIKit::UIColor;
-    constexpr bool canLookUp = requires {
-        Class::colorNamed(record.name(), Module::bundle(), nullptr);
+    const auto own = [&](auto... traits) -> decltype(Class::colorNamed(record.name(), Module::bundle(), traits...)) {
+        return Class::colorNamed(record.name(), Module::bundle(), traits...);
     };
     constexpr bool inheritsLookUp = requires {
         requires detail::Same<&Class::colorNamed, &Platform::colorNamed>;
     };
-    if constexpr (canLookUp && !inheritsLookUp)
-        return Class::colorNamed(record.name(), Module::bundle(), nullptr);
+    if constexpr (detail::CanLookUp<decltype(own)> && !inheritsLookUp)
+        return detail::foundBy(own);
     else
         return detail::madeFrom<Class>(detail::found<Module>(
             [&](const Foundation::NSBundle& bundle) { return Platform::colorNamed(record.name(), bundle, nullptr); }));
@@ -95,11 +107,12 @@ namespace UIImage {
 // The picture of that name in the module's bundle, or no value.
 template <class Class = UIKit::UIImage, class Module> [[nodiscard]] auto withAssetName(std::string_view name) {
     using Platform = UIKit::UIImage;
-    constexpr bool hasNewer = requires {
-        Class::imageNamedWithConfiguration(name, Module::bundle(), nullptr);
+    const auto newer =
+        [&](auto... traits) -> decltype(Class::imageNamedWithConfiguration(name, Module::bundle(), traits...)) {
+        return Class::imageNamedWithConfiguration(name, Module::bundle(), traits...);
     };
-    constexpr bool hasOlder = requires {
-        Class::imageNamed(name, Module::bundle(), nullptr);
+    const auto older = [&](auto... traits) -> decltype(Class::imageNamed(name, Module::bundle(), traits...)) {
+        return Class::imageNamed(name, Module::bundle(), traits...);
     };
     constexpr bool inheritsNewer = requires {
         requires detail::Same<&Class::imageNamedWithConfiguration, &Platform::imageNamedWithConfiguration>;
@@ -107,10 +120,10 @@ template <class Class = UIKit::UIImage, class Module> [[nodiscard]] auto withAss
     constexpr bool inheritsOlder = requires {
         requires detail::Same<&Class::imageNamed, &Platform::imageNamed>;
     };
-    if constexpr (hasNewer && !inheritsNewer)
-        return Class::imageNamedWithConfiguration(name, Module::bundle(), nullptr);
-    else if constexpr (hasOlder && !inheritsOlder)
-        return Class::imageNamed(name, Module::bundle(), nullptr);
+    if constexpr (detail::CanLookUp<decltype(newer)> && !inheritsNewer)
+        return detail::foundBy(newer);
+    else if constexpr (detail::CanLookUp<decltype(older)> && !inheritsOlder)
+        return detail::foundBy(older);
     else
         return detail::madeFrom<Class>(detail::found<Module>([&](const Foundation::NSBundle& bundle) {
             return Platform::imageNamedWithConfiguration(name, bundle, nullptr);

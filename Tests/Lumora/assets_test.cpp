@@ -56,10 +56,9 @@ TEST(Assets, FollowTheCurrentTraits) {
     UITraitCollection::setCurrent({});
 }
 
-// Subclasses with their own lookup functions.
+// Subclasses with their own lookup functions, with and without traits.
 struct PaintedColor : UIKit::UIColor {
-    static std::optional<UIKit::UIColor> colorNamed(std::string_view, const Foundation::NSBundle&,
-                                                    const UITraitCollection*) {
+    static std::optional<UIKit::UIColor> colorNamed(std::string_view, const Foundation::NSBundle&) {
         return UIKit::UIColor(1, 2, 3, 1);
     }
 };
@@ -70,7 +69,7 @@ struct PaintedImage : UIKit::UIImage {
     }
 };
 struct OlderImage : UIKit::UIImage {
-    static int imageNamed(std::string_view, const Foundation::NSBundle&, const UITraitCollection*) { return 5; }
+    static int imageNamed(std::string_view, const Foundation::NSBundle&) { return 5; }
 };
 // Subclasses without lookup functions. Made is constructed from the platform's result; Unmade cannot be, so the
 // platform's result is returned.
