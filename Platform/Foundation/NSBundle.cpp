@@ -260,11 +260,16 @@ std::string_view NSBundle::localizedText(std::string_view key, std::string_view 
     return localizedFormat(key, table).text();
 }
 
-std::string NSBundle::localizedStringForKey(std::string_view key, const std::string* value,
+std::string NSBundle::localizedStringForKey(std::string_view key, std::string_view value,
                                             std::string_view table) const {
     if (const auto found = findLocalized(key, table))
         return std::string(found->text());
-    return value != nullptr && !value->empty() ? *value : std::string(key);
+    return std::string(value.empty() ? key : value);
+}
+
+std::string NSBundle::localizedStringForKey(std::string_view key, const std::string* value,
+                                            std::string_view table) const {
+    return localizedStringForKey(key, value != nullptr ? *value : std::string_view(), table);
 }
 
 std::optional<std::string> NSBundle::tableDamage(std::string_view table) const {

@@ -56,6 +56,8 @@ public:
     // The text of localizedFormat(): a view that lives until the process ends, or `key` itself.
     [[nodiscard]] std::string_view localizedText(std::string_view key, std::string_view table) const;
     // The text as a string. When no table has the key: `value`, or the key if `value` is null or empty.
+    [[nodiscard]] std::string localizedStringForKey(std::string_view key, std::string_view value,
+                                                    std::string_view table) const;
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, const std::string* value,
                                                     std::string_view table) const;
     // Why a file of a table, in the folders that findLocalized() searches now, cannot be read: "FILE:LINE:COLUMN:

@@ -81,6 +81,7 @@ TEST_F(Bundle, LooksInTheChosenLanguageThenInTheDevelopmentTexts) {
     EXPECT_EQ(text("both", "../ru.lproj/Other"), "both");
     const std::string value = "instead";
     EXPECT_EQ(bundle().localizedStringForKey("none", &value, "Localizable"), "instead");
+    EXPECT_EQ(bundle().localizedStringForKey("none", "text", "Localizable"), "text");
     EXPECT_EQ(bundle().localizedStringForKey("key", &value, "Localizable"), "key");
 
     // The next call uses the changed languages of the host.
