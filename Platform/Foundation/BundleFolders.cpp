@@ -67,12 +67,12 @@ std::vector<std::string> split(std::string_view list) {
     }
 }
 
-// Whether the directory has that number of folders, as far as the file system tells: most count folders in st_nlink,
-// the others report 1.
-bool mayHaveFolders(const std::string& bundle, std::size_t count) noexcept {
+// Whether the file system reports that the directory has that number of folders. Most count folders in st_nlink; the
+// others always report 1.
+bool hasFolders(const std::string& bundle, std::size_t count) noexcept {
     struct stat status {};
     constexpr nlink_t ownLinks = 2; // its name in its parent, and "."
-    return ::stat(bundle.c_str(), &status) == 0 && (status.st_nlink == 1 || status.st_nlink == ownLinks + count);
+    return ::stat(bundle.c_str(), &status) == 0 && status.st_nlink == ownLinks + count;
 }
 
 } // namespace
@@ -86,12 +86,9 @@ BundleFolders bundleFolders(const std::string& bundle) {
         return found ? found.text() : otherwise;
     };
     BundleFolders folders{.developmentLanguage = std::string(find(layout::developmentRegionKey, layout::defaultRegion)),
-                          .languages = split(find(layout::languagesKey, "")),
-                          .mayHavePlurals = find(layout::pluralsKey, "") != "no"};
-    if (folders.languages.empty() || !mayHaveFolders(bundle, folders.languages.size())) {
+                          .languages = split(find(layout::languagesKey, ""))};
+    if (folders.languages.empty() || !hasFolders(bundle, folders.languages.size()))
         folders.languages = listedLanguages(bundle);
-        folders.mayHavePlurals = true;
-    }
     return folders;
 }
 

@@ -34,9 +34,8 @@ template <class Table> std::optional<std::string> damageOf(const std::string& pa
 
 } // namespace
 
-Localization::Localization(std::string_view name, std::string_view bundle, std::string_view language,
-                           bool mayHavePlurals)
-    : name_(name), bundle_(bundle), language_(language), mayHavePlurals_(mayHavePlurals) {}
+Localization::Localization(std::string_view name, std::string_view bundle, std::string_view language)
+    : name_(name), bundle_(bundle), language_(language) {}
 
 // The table with that name, which is stored if it is not known yet. A missing table is stored as an empty one, unless
 // there are storesMissingBelow tables already.
@@ -46,12 +45,12 @@ LocalizedTable* Localization::knownOrLoaded(std::string_view name) {
     if (!layout::isFileName(name))
         return nullptr;
     std::string texts = pathOf(name, layout::textsSuffix);
-    const std::string plurals = mayHavePlurals_ ? pathOf(name, layout::pluralsSuffix) : std::string();
-    const auto exists = [](const std::string& path) { return !path.empty() && ::access(path.c_str(), F_OK) == 0; };
+    const std::string plurals = pathOf(name, layout::pluralsSuffix);
+    const auto exists = [](const std::string& path) { return ::access(path.c_str(), F_OK) == 0; };
     if (tables_.size() >= storesMissingBelow && !exists(texts) && !exists(plurals))
         return nullptr;
     return tables_.add(tables_.unlimited, name, *this, name, std::move(texts), /*bundlePathSize=*/bundle_.size(),
-                       mayHavePlurals_ ? readPlurals(plurals, bundle_) : StringTables::PluralTable());
+                       readPlurals(plurals, bundle_));
 }
 
 std::optional<std::string> Localization::damage(std::string_view table) const {

@@ -66,7 +66,7 @@ struct NSBundle::Contents {
         localizations.reserve(found.languages.size());
         for (const std::string& name : found.languages) {
             const std::string& language = name == layout::baseName ? developmentLocalization : name;
-            folders.emplace_back(name, path, language, found.mayHavePlurals);
+            folders.emplace_back(name, path, language);
             localizations.push_back(language);
         }
         std::ranges::sort(localizations);

@@ -64,7 +64,6 @@ TEST(CompileBundle, CompletesInfoPlist) {
     ASSERT_TRUE(information);
     EXPECT_EQ(information->form(), Form::binary);
     EXPECT_EQ(information->find("LumoraLanguages"), "de/"); // "/" ends each language
-    EXPECT_EQ(information->find("LumoraPlurals"), "no");
     EXPECT_EQ(information->find("CFBundleDevelopmentRegion"), "de");
     EXPECT_EQ(information->find("Other"), "text");
 

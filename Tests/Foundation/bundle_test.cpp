@@ -177,11 +177,10 @@ TEST_F(Bundle, TakesItsDevelopmentRegionFromInfoPlist) {
     EXPECT_EQ(text("a"), "un");
 }
 
-// `lumora compile` writes the list of languages, and whether there are plurals; a list that contradicts the folder is
-// ignored.
+// `lumora compile` writes the list of languages; a list that contradicts the folder is ignored.
 TEST_F(Bundle, TakesItsLanguagesFromInfoPlistIfTheyExist) {
     const auto write = [](const Support::TemporaryFolder& folder, const char* languages) {
-        folder.write("Info.plist", std::string("LumoraLanguages = \"") + languages + "\"; LumoraPlurals = no;");
+        folder.write("Info.plist", std::string("LumoraLanguages = \"") + languages + "\";");
         folder.write("Base.lproj/T.strings", "a = text;");
         folder.write("de.lproj/T.strings", "a = deutsch;");
     };

@@ -306,6 +306,11 @@ class Program(unittest.TestCase):
         self.assertFalse(pathlib.Path("bad.d").exists() or pathlib.Path("out").exists())
         self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "hello_name", "Bo")[1],
                          b"Hello, Bo\n")
+        # A plural table that is added by hand is read.
+        forms = {"NSStringFormatSpecTypeKey": "NSStringPluralRuleType", "NSStringFormatValueTypeKey": "d", "one": "One", "other": "%d"}
+        self.write("Shop.bundle/Base.lproj/Words.stringsdict",
+                   plistlib.dumps({"Bye": {"NSStringLocalizedFormatKey": "%#@n@", "n": forms}}).decode())
+        self.assertEqual(run("text", "--bundle", self.folder / "Shop.bundle", "--table", "Words", "Bye", "1")[1], b"One\n")
         # This bundle has no assets and therefore no catalog, which is not an error; a missing bundle is one.
         bundle = self.folder / "Shop.bundle"
         self.assertEqual(run("assets", "--bundle", bundle), (0, b"", ""))

@@ -36,22 +36,11 @@ std::string languagesOf(const Source& source) {
     return list;
 }
 
-bool hasPlurals(const Source& source) {
-    for (const SourceTable& table : source.tables)
-        for (const LanguageTexts& texts : table.languages)
-            for (const SourceBundle::SourceEntry& entry : texts.entries())
-                if (entry.plural != nullptr)
-                    return true;
-    return false;
-}
-
 // Info.plist with these entries and those about the source. It is written with an index, so that a program need
 // not read all of it before its first text.
 Runtime::Result<std::string> completed(std::vector<Entry> entries, const Source& source) {
     const std::string languages = languagesOf(source);
-    const Entry own[] = {{regionKey, source.developmentLanguage},
-                         {layout::languagesKey, languages},
-                         {layout::pluralsKey, hasPlurals(source) ? "yes" : "no"}};
+    const Entry own[] = {{regionKey, source.developmentLanguage}, {layout::languagesKey, languages}};
     for (const Entry& one : own) {
         std::erase_if(entries, [&one](const Entry& entry) { return entry.key == one.key; });
         entries.push_back(one);

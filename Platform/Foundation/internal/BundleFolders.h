@@ -11,12 +11,11 @@ namespace Foundation::detail {
 struct BundleFolders {
     std::string developmentLanguage;
     std::vector<std::string> languages; // "Base", "de": those with a folder, in any order
-    bool mayHavePlurals = true;         // false: there is no *.stringsdict
 };
 
 // Takes the languages from the list that `lumora compile` wrote into Info.plist. If there is no list, or the link
-// count of the bundle's folder shows another number of folders, takes them from the folders. A missing or unreadable
-// bundle has no languages.
+// count of the bundle's folder does not show the same number of folders, takes them from the folders. A missing or
+// unreadable bundle has no languages.
 [[nodiscard]] BundleFolders bundleFolders(const std::string& bundle);
 
 } // namespace Foundation::detail

@@ -14,8 +14,8 @@ namespace Foundation::detail {
 class Localization {
 public:
     // `name`: "Base" or a language. `bundle`: the bundle's path, which must outlive this object. `language`: the BCP 47
-    // tag of the texts. `mayHavePlurals`: false if there is no *.stringsdict.
-    Localization(std::string_view name, std::string_view bundle, std::string_view language, bool mayHavePlurals);
+    // tag of the texts.
+    Localization(std::string_view name, std::string_view bundle, std::string_view language);
 
     std::string_view name() const noexcept { return name_; }
     std::string_view language() const noexcept { return language_; }
@@ -37,7 +37,6 @@ private:
     std::string name_;
     std::string_view bundle_; // its path
     std::string language_;
-    bool mayHavePlurals_;
     // The existing tables that were looked up, and missing ones while there are fewer than storesMissingBelow tables: a
     // program may ask for any number of names.
     Runtime::KeyedStore<LocalizedTable, /*buckets=*/4> tables_;

@@ -22,11 +22,10 @@ inline constexpr std::string_view informationFile = "Info.plist";
 inline constexpr std::string_view developmentRegionKey = "CFBundleDevelopmentRegion"; // its value is a language
 inline constexpr std::string_view defaultRegion = "en";                               // if there is no such key
 
-// `lumora compile` adds these to Info.plist, so that readers need not list the directory: the languages, "Base"
-// included, each followed by the separator ("Base/de/"), and whether any of them has plurals ("yes", "no"). An
-// Info.plist that is copied unchanged, because it has other values than texts, lacks them.
+// `lumora compile` adds this to Info.plist, so that readers need not list the directory: the languages, "Base"
+// included, each followed by the separator ("Base/de/"). An Info.plist that is copied unchanged, because it has other
+// values than texts, lacks it.
 inline constexpr std::string_view languagesKey = "LumoraLanguages";
-inline constexpr std::string_view pluralsKey = "LumoraPlurals";
 inline constexpr char languageSeparator = '/'; // cannot be part of a folder's name
 
 // "de" for "de.lproj"; empty for another name.
