@@ -15,7 +15,7 @@ class FormatArgument {
 public:
     enum class Kind : std::uint8_t { text, integer, number };
 
-    // Anything that converts to std::string_view, such as std::string and string literals.
+    // Anything that converts to std::string_view, such as std::string and string literals, but no null pointer.
     template <class Text>
     requires std::convertible_to<const Text&, std::string_view>
     constexpr FormatArgument(const Text& text) noexcept : text_(text) {}

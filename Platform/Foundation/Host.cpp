@@ -100,7 +100,7 @@ std::string_view firstNonEmpty(std::initializer_list<std::string_view> values) n
 Settings environmentSettings() {
     const std::string_view all = environment("LC_ALL"), messages = environment("LC_MESSAGES"),
                            rest = environment("LANG");
-    // The locale is for numbers, LC_MESSAGES for texts, so it comes last.
+    // LC_MESSAGES comes last, because it is meant for texts and this locale for numbers.
     const std::string_view identifier = firstNonEmpty({all, isPlain(rest) ? messages : rest});
     return {.languages = environmentLanguages(firstNonEmpty({all, messages, rest})),
             .locale = std::string(isPlain(identifier) ? defaultLocale

@@ -36,7 +36,7 @@ template <auto> struct Function;
 template <auto one, auto other>
 concept Same = std::is_same_v<Function<one>, Function<other>>;
 
-// A class's look-up as a function of the traits, which it need not take.
+// A class's lookup as a function of the traits, which it need not take.
 template <class LookUp>
 concept CanLookUp = std::invocable<LookUp, std::nullptr_t> || std::invocable<LookUp>;
 template <CanLookUp LookUp> auto foundBy(LookUp lookUp) {
