@@ -3,8 +3,8 @@
 // records, and images from plain names. A module re-exports them in namespaces named after the types:
 // Shop::UIColor::withAsset(record).
 //
-// The template parameter Class may be a user's class derived from the platform's. It may define its own static lookup
-// function with the same name and parameters as the platform's, with or without `traits`:
+// The template parameter Class may be a user's class, usually one derived from the platform's. It may define its own
+// static lookup function with the same name and parameters as the platform's, with or without `traits`:
 // - colours: colorNamed(name, bundle, traits);
 // - data: assetWithName(name, bundle);
 // - pictures: imageNamedWithConfiguration(name, bundle, traits), or else the older imageNamed(name, bundle, traits).
@@ -36,7 +36,8 @@ template <auto> struct Function;
 template <auto one, auto other>
 concept Same = std::is_same_v<Function<one>, Function<other>>;
 
-// A class's lookup as a function of the traits, which it need not take.
+// A class's lookup as a function of the traits, which it need not take. It is a lambda whose template parameter is the
+// class, so that a class without that lookup only makes the concept false.
 template <class LookUp>
 concept CanLookUp = std::invocable<LookUp, std::nullptr_t> || std::invocable<LookUp>;
 template <CanLookUp LookUp> auto foundBy(LookUp lookUp) {
@@ -66,8 +67,9 @@ namespace UIColor {
 // The record's colour, or no value when the catalog does not contain it.
 template <class Class = UIKit::UIColor, class Module> [[nodiscard]] auto withAsset(const ColorRecord<Module>& record) {
     using Platform = UIKit::UIColor;
-    const auto own = [&](auto... traits) -> decltype(Class::colorNamed(record.name(), Module::bundle(), traits...)) {
-        return Class::colorNamed(record.name(), Module::bundle(), traits...);
+    const auto own = [&]<class C = Class>(auto... traits)
+                         ->decltype(C::colorNamed(record.name(), Module::bundle(), traits...)) {
+        return C::colorNamed(record.name(), Module::bundle(), traits...);
     };
     constexpr bool inheritsLookUp = requires {
         requires detail::Same<&Class::colorNamed, &Platform::colorNamed>;
@@ -107,12 +109,13 @@ namespace UIImage {
 // The picture of that name in the module's bundle, or no value.
 template <class Class = UIKit::UIImage, class Module> [[nodiscard]] auto withAssetName(std::string_view name) {
     using Platform = UIKit::UIImage;
-    const auto newer =
-        [&](auto... traits) -> decltype(Class::imageNamedWithConfiguration(name, Module::bundle(), traits...)) {
-        return Class::imageNamedWithConfiguration(name, Module::bundle(), traits...);
+    const auto newer = [&]<class C = Class>(auto... traits)
+                           ->decltype(C::imageNamedWithConfiguration(name, Module::bundle(), traits...)) {
+        return C::imageNamedWithConfiguration(name, Module::bundle(), traits...);
     };
-    const auto older = [&](auto... traits) -> decltype(Class::imageNamed(name, Module::bundle(), traits...)) {
-        return Class::imageNamed(name, Module::bundle(), traits...);
+    const auto older = [&]<class C = Class>(auto... traits)
+                           ->decltype(C::imageNamed(name, Module::bundle(), traits...)) {
+        return C::imageNamed(name, Module::bundle(), traits...);
     };
     constexpr bool inheritsNewer = requires {
         requires detail::Same<&Class::imageNamedWithConfiguration, &Platform::imageNamedWithConfiguration>;
