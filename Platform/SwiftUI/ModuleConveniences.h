@@ -19,8 +19,6 @@
 #include "SwiftUI/AssetRecord.h"
 #include "SwiftUI/SwiftUI.h"
 #include "UIKit/UIKit.h"
-#include <concepts>
-#include <cstddef> // std::nullptr_t
 #include <optional>
 #include <string_view>
 #include <type_traits>
@@ -35,17 +33,6 @@ template <auto> struct Function;
 // arguments, because == of the addresses of weak functions is not a constant expression.
 template <auto one, auto other>
 concept Same = std::is_same_v<Function<one>, Function<other>>;
-
-// A class's lookup as a function of the traits, which it need not take. It is a lambda whose template parameter is the
-// class, so that a class without that lookup only makes the concept false.
-template <class LookUp>
-concept CanLookUp = std::invocable<LookUp, std::nullptr_t> || std::invocable<LookUp>;
-template <CanLookUp LookUp> auto foundBy(LookUp lookUp) {
-    if constexpr (std::invocable<LookUp, std::nullptr_t>)
-        return lookUp(nullptr);
-    else
-        return lookUp();
-}
 
 // Converts the platform's result to Class if possible.
 template <class Class, class Base> auto madeFrom(const std::optional<Base>& found) {
@@ -67,15 +54,19 @@ namespace UIColor {
 // The record's colour, or no value when the catalog does not contain it.
 template <class Class = UIKit::UIColor, class Module> [[nodiscard]] auto withAsset(const ColorRecord<Module>& record) {
     using Platform = UIKit::UIColor;
-    const auto own = [&]<class C = Class>(auto... traits)
-                         ->decltype(C::colorNamed(record.name(), Module::bundle(), traits...)) {
-        return C::colorNamed(record.name(), Module::bundle(), traits...);
+    constexpr bool takesTraits = requires {
+        Class::colorNamed(record.name(), Module::bundle(), nullptr);
+    };
+    constexpr bool takesNoTraits = requires {
+        Class::colorNamed(record.name(), Module::bundle());
     };
     constexpr bool inheritsLookUp = requires {
         requires detail::Same<&Class::colorNamed, &Platform::colorNamed>;
     };
-    if constexpr (detail::CanLookUp<decltype(own)> && !inheritsLookUp)
-        return detail::foundBy(own);
+    if constexpr (takesTraits && !inheritsLookUp)
+        return Class::colorNamed(record.name(), Module::bundle(), nullptr);
+    else if constexpr (takesNoTraits && !inheritsLookUp)
+        return Class::colorNamed(record.name(), Module::bundle());
     else
         return detail::madeFrom<Class>(detail::found<Module>(
             [&](const Foundation::NSBundle& bundle) { return Platform::colorNamed(record.name(), bundle, nullptr); }));
@@ -109,13 +100,17 @@ namespace UIImage {
 // The picture of that name in the module's bundle, or no value.
 template <class Class = UIKit::UIImage, class Module> [[nodiscard]] auto withAssetName(std::string_view name) {
     using Platform = UIKit::UIImage;
-    const auto newer = [&]<class C = Class>(auto... traits)
-                           ->decltype(C::imageNamedWithConfiguration(name, Module::bundle(), traits...)) {
-        return C::imageNamedWithConfiguration(name, Module::bundle(), traits...);
+    constexpr bool newerTakesTraits = requires {
+        Class::imageNamedWithConfiguration(name, Module::bundle(), nullptr);
     };
-    const auto older = [&]<class C = Class>(auto... traits)
-                           ->decltype(C::imageNamed(name, Module::bundle(), traits...)) {
-        return C::imageNamed(name, Module::bundle(), traits...);
+    constexpr bool newerTakesNone = requires {
+        Class::imageNamedWithConfiguration(name, Module::bundle());
+    };
+    constexpr bool olderTakesTraits = requires {
+        Class::imageNamed(name, Module::bundle(), nullptr);
+    };
+    constexpr bool olderTakesNone = requires {
+        Class::imageNamed(name, Module::bundle());
     };
     constexpr bool inheritsNewer = requires {
         requires detail::Same<&Class::imageNamedWithConfiguration, &Platform::imageNamedWithConfiguration>;
@@ -123,10 +118,14 @@ template <class Class = UIKit::UIImage, class Module> [[nodiscard]] auto withAss
     constexpr bool inheritsOlder = requires {
         requires detail::Same<&Class::imageNamed, &Platform::imageNamed>;
     };
-    if constexpr (detail::CanLookUp<decltype(newer)> && !inheritsNewer)
-        return detail::foundBy(newer);
-    else if constexpr (detail::CanLookUp<decltype(older)> && !inheritsOlder)
-        return detail::foundBy(older);
+    if constexpr (newerTakesTraits && !inheritsNewer)
+        return Class::imageNamedWithConfiguration(name, Module::bundle(), nullptr);
+    else if constexpr (newerTakesNone && !inheritsNewer)
+        return Class::imageNamedWithConfiguration(name, Module::bundle());
+    else if constexpr (olderTakesTraits && !inheritsOlder)
+        return Class::imageNamed(name, Module::bundle(), nullptr);
+    else if constexpr (olderTakesNone && !inheritsOlder)
+        return Class::imageNamed(name, Module::bundle());
     else
         return detail::madeFrom<Class>(detail::found<Module>([&](const Foundation::NSBundle& bundle) {
             return Platform::imageNamedWithConfiguration(name, bundle, nullptr);
