@@ -10,9 +10,8 @@
 
 namespace Check {
 
-// In plural forms of a string catalog this is the number, and the source reader has replaced it. Elsewhere it would be
-// a
-// "%a" with "rg" after it.
+// The number in the plural forms of a string catalog, where the source reader has replaced it. Anywhere else it is read
+// as "%a" with "rg" after it.
 inline constexpr std::string_view unknownArg = "%arg";
 
 struct Arguments {

@@ -27,8 +27,8 @@ struct AssetTree {
     std::vector<LeftOutAsset> leftOut;    // likewise
 };
 
-// Warns about every asset that cannot have a constant. If names clash, the first asset in the
-// alphabetical order of catalogs and names keeps the name.
+// Warns about every asset that cannot have a constant. If names clash, the first asset in the alphabetical order of
+// catalogs and names keeps the name.
 [[nodiscard]] AssetTree assetTreeOf(std::span<const SourceBundle::SourceAsset> assets,
                                     SourceBundle::Diagnostics& diagnostics);
 

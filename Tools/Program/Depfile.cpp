@@ -28,8 +28,8 @@ std::string escaped(std::string_view path) {
     return out.append(backslashes, '\\');
 }
 
-// Whether make can read the path as a prerequisite: these characters cannot be escaped, and "lib(member)" is a member
-// of an archive.
+// Whether makefiles, CMake's included, can have the path as a prerequisite. They cannot if it has one of these
+// characters, for which no escape works in all of them, or is read as a member of an archive: "lib(member)".
 bool isReadableByMake(std::string_view path) {
     return path.find_first_of(";:|\t\n") == path.npos && !path.ends_with(')');
 }
