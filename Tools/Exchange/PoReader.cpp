@@ -104,7 +104,7 @@ private:
     }
 
     // Adds the text of each plural form. Several forms of the file's formula may be the same form of the language;
-    // their texts must be equal, or empty.
+    // their texts must be equal, or empty. Otherwise nothing is added, because either text may be the right one.
     void readForms(const PoText& entry, UnitId id) {
         std::map<PluralCategory, std::size_t> forms; // the numbers of the forms to add
         for (std::size_t i = 0; i < entry.targets.size(); ++i) {
@@ -118,10 +118,10 @@ private:
             if (entry.targets[known].empty())
                 known = i;
             else if (!target.empty() && target != entry.targets[known])
-                fault(entry, formName(known) + " and " + formName(i) +
-                                 " are different texts for the same plural form \"" +
-                                 std::string(Intl::pluralCategoryNames[indexOf(*category)]) + "\" of " +
-                                 translations_.targetLanguage);
+                return fault(entry, formName(known) + " and " + formName(i) +
+                                        " are different texts for the same plural form \"" +
+                                        std::string(Intl::pluralCategoryNames[indexOf(*category)]) + "\" of " +
+                                        translations_.targetLanguage);
         }
         for (const auto& [category, form] : forms) {
             id.category = category;
