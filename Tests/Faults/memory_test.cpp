@@ -4,6 +4,7 @@
 #include <Lumora/Lumora.h>
 #include <Runtime/Class.h>
 
+#include "../Support/AddressSpaceLimit.h"
 #include "../Support/TemporaryFolder.h"
 #include "Child.h"
 #include <cerrno>
@@ -11,15 +12,12 @@
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <limits>
 #include <link.h>
 #include <new>
 #include <optional>
 #include <sys/resource.h>
-#include <unistd.h>
-#include <utility>
 #include <vector>
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/lsan_interface.h>
@@ -227,13 +225,6 @@ TEST(NoMemory, APlainReadNeverThrows) {
               0);
 }
 
-// The used address space in bytes.
-rlim_t addressSpace() {
-    rlim_t pages = 0;
-    std::ifstream("/proc/self/statm") >> pages;
-    return pages * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
-}
-
 // At the first read the address space is too small for all or some of the libraries that it loads: mappings fail,
 // allocations may succeed. With more space the result is right.
 TEST(NoMemory, LackOfAddressSpaceIsNotCached) {
@@ -261,16 +252,11 @@ TEST(NoMemory, LackOfAddressSpaceIsNotCached) {
                           Foundation::Host::setPreferredLanguages({"ru"});
                           Foundation::Host::setCurrentLocale("ru_RU@numbers=arab");
                           static_cast<void>(Lumora::LumoraResources::bundle());
-                          rlimit limit{};
-                          ::getrlimit(RLIMIT_AS, &limit);
-                          const rlim_t old = std::exchange(limit.rlim_cur, addressSpace() + room);
-                          ::setrlimit(RLIMIT_AS, &limit);
                           try { // pictures and allocations of the test may throw
+                              const Support::AddressSpaceLimit limit(room);
                               static_cast<void>(one.read());
                           } catch (const std::exception&) {
                           }
-                          limit.rlim_cur = old;
-                          ::setrlimit(RLIMIT_AS, &limit);
                           return one.read() == one.right ? 0 : 1;
                       }),
                       0)
