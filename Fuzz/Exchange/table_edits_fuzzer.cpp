@@ -69,12 +69,10 @@ void editPlurals(const TableFile& file, const std::string& bytes) {
     const SourceEntry development{.key = "k", .text = "t", .comment = "-- c -"};
     Unit unit{
         .id = {"T", "a new key", {"variables", "n"}, Intl::PluralCategory::few}, .source = "s", .target = newText};
-    bool isRead = true; // whether the reader reads the variable: it ignores one of another rule type
     if (!table->entries().empty()) {
         const auto& entry = anEntry(*table, bytes);
         unit.id.key = entry.key;
-        isRead = !entry.plural.variables.empty();
-        if (isRead)
+        if (!entry.plural.variables.empty())
             unit.id.part.back() = entry.plural.variables.front().name;
     }
     const std::string made = edited(file, unit, development);
@@ -85,7 +83,7 @@ void editPlurals(const TableFile& file, const std::string& bytes) {
     const auto hasNewForm = [&unit](const StringTables::PluralVariable& variable) {
         return variable.name == unit.id.part.back() && variable.forms[indexOf(*unit.id.category)] == newText;
     };
-    require(!isRead || std::ranges::any_of(again->find(unit.id.key)->plural.variables, hasNewForm));
+    require(std::ranges::any_of(again->find(unit.id.key)->plural.variables, hasNewForm));
     for (const auto& entry : table->entries())
         if (entry.key != unit.id.key)
             require(again->find(entry.key) != nullptr && again->find(entry.key)->plural == entry.plural);

@@ -91,6 +91,12 @@ const XmlNode* PropertyListDocument::findText(const std::vector<Pair>& plural, c
     return variable == nullptr ? nullptr : find(pairsOf(*variable), categoryName(unit));
 }
 
+bool PropertyListDocument::isPluralVariable(const XmlNode& value) {
+    const std::vector<Pair> pairs = pairsOf(value);
+    const XmlNode* const rule = find(pairs, pluralKeys::ruleType);
+    return !pairs.empty() && (rule == nullptr || rule->allText() == pluralKeys::pluralRule);
+}
+
 std::string PropertyListDocument::blanksBefore(const XmlNode& node) const {
     const std::string_view before = std::string_view(file_.text).substr(0, node.begin);
     const std::size_t last = before.find_last_not_of(blanks);
@@ -170,7 +176,7 @@ Runtime::Result<void> PropertyListDocument::editPlural(const XmlNode& entry, con
     for (const Unit* unit : change.changed) {
         const XmlNode* const variable = unit->id.category ? find(pairs, unit->id.part.back()) : nullptr;
         const XmlNode* const text = findText(pairs, *unit);
-        if ((variable != nullptr && pairsOf(*variable).empty()) || (text != nullptr && text->name != "string"))
+        if ((variable != nullptr && !isPluralVariable(*variable)) || (text != nullptr && text->name != "string"))
             return otherKindOfValue(change);
     }
     // Texts for widths or devices are read, but cannot be edited.

@@ -34,6 +34,8 @@ private:
     static const XmlNode* find(const std::vector<Pair>& pairs, std::string_view key);
     // The element with the unit's text in a plural with these pairs, or null.
     static const XmlNode* findText(const std::vector<Pair>& plural, const Unit& unit);
+    // Whether the value of a variable's name is a variable that PluralTable does not skip.
+    static bool isPluralVariable(const XmlNode& value);
 
     PropertyListDocument(DecodedText file, XmlDocument xml, const XmlNode& dictionary);
     void add(const Change& change, const std::string& value);
