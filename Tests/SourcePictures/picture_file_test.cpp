@@ -154,6 +154,8 @@ TEST(PictureFile, RejectsUnreadableFiles) {
     spoiledPng[png.find("IDAT") + 20] ^= 0x55;
     std::string spoiledJpeg = jpeg;
     spoiledJpeg.replace(jpeg.size() / 2, 200, 200, '\x55');
+    std::string flatGif = data("two-frames.gif");
+    flatGif[32] = 0; // the height of the first frame
     const struct {
         int line;
         std::string file, message;
@@ -167,6 +169,7 @@ TEST(PictureFile, RejectsUnreadableFiles) {
         {__LINE__, jpeg.substr(0, jpeg.size() / 2), "is a damaged JPEG"},
         {__LINE__, spoiledJpeg, "is a damaged JPEG"},
         {__LINE__, jpeg.substr(0, 10), "is a damaged JPEG"},
+        {__LINE__, flatGif, "is a damaged gif picture"},
         {__LINE__, "<svg xmlns=\"http://www.w3.org/2000/svg\"><path", "is a damaged drawing"},
         {__LINE__, "<html/>", "is a damaged drawing"},
         {__LINE__, svg("", ""), "is a drawing without a size"},

@@ -2,6 +2,7 @@
 
 #include "AssetCatalog/internal/Catalog.h" // maxPixels
 #include "SourcePictures/GlibPointers.h"
+#include <algorithm>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <new>
 
@@ -29,12 +30,22 @@ const char* loaderNameOf(Format format) {
     return "";
 }
 
+// The size that the header gives, or at least one pixel.
+struct Header {
+    gint width = 1;
+    gint height = 1;
+
+    bool isTooLarge() const {
+        return static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) > AssetCatalog::maxPixels;
+    }
+};
+
 // Called when the header is read. A picture that is too large is decoded as one pixel and rejected.
-void limitSize(GdkPixbufLoader* loader, gint width, gint height, gpointer isTooLarge) {
-    if (static_cast<std::uint64_t>(width) * static_cast<std::uint64_t>(height) <= AssetCatalog::maxPixels)
-        return;
-    *static_cast<bool*>(isTooLarge) = true;
-    gdk_pixbuf_loader_set_size(loader, 1, 1);
+void takeHeader(GdkPixbufLoader* loader, gint width, gint height, gpointer out) {
+    auto& header = *static_cast<Header*>(out);
+    header = {std::max(header.width, width), std::max(header.height, height)};
+    if (header.isTooLarge())
+        gdk_pixbuf_loader_set_size(loader, 1, 1);
 }
 
 // The loader would accept a truncated file. Bytes 4 to 7 are the number of bytes after them, in little-endian order;
@@ -57,9 +68,13 @@ void silenceWarnings() {
 }
 
 // `error` may be null.
-void throwIfMemoryRanOut(const GError* error) {
-    if (g_error_matches(error, GDK_PIXBUF_ERROR, GDK_PIXBUF_ERROR_INSUFFICIENT_MEMORY) != FALSE)
-        throw std::bad_alloc();
+bool isLackOfMemory(const GError* error) {
+    return g_error_matches(error, GDK_PIXBUF_ERROR, GDK_PIXBUF_ERROR_INSUFFICIENT_MEMORY) != FALSE;
+}
+
+// Whether there is memory for the pixels of the picture.
+bool fitsIntoMemory(const Header& header) {
+    return Owned<GdkPixbuf>(gdk_pixbuf_new(GDK_COLORSPACE_RGB, TRUE, 8, header.width, header.height)) != nullptr;
 }
 
 Runtime::Result<AssetCatalog::Picture> asPng(GdkPixbuf* pixels) {
@@ -68,7 +83,8 @@ Runtime::Result<AssetCatalog::Picture> asPng(GdkPixbuf* pixels) {
     GError* error = nullptr;
     if (gdk_pixbuf_save_to_buffer(pixels, &buffer, &size, "png", &error, nullptr) == FALSE) {
         const Owned<GError> owned(error);
-        throwIfMemoryRanOut(error);
+        if (isLackOfMemory(error))
+            throw std::bad_alloc();
         return Runtime::Error{.message = std::string("cannot be converted to PNG: ") + error->message};
     }
     const Owned<gchar> owned(buffer);
@@ -92,16 +108,20 @@ Runtime::Result<AssetCatalog::Picture> converted(std::string_view bytes, Format 
         const Owned<GError> owned(error);
         return Runtime::Error{.message = "is in the format " + name + ", for which no gdk-pixbuf loader is installed"};
     }
-    bool isTooLarge = false;
-    g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(limitSize), &isTooLarge);
+    Header header;
+    g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(takeHeader), &header);
     const bool isWritten =
         gdk_pixbuf_loader_write(loader.get(), reinterpret_cast<const guchar*>(bytes.data()), bytes.size(), &error);
     // Close the loader in any case; the first of two errors is reported.
     const bool isClosed = gdk_pixbuf_loader_close(loader.get(), isWritten ? &error : nullptr);
     Owned<GError> ownedError(error);
-    if (isTooLarge)
+    if (header.isTooLarge())
         return Runtime::Error{.message = "is a picture with more pixels than a catalog may contain"};
-    throwIfMemoryRanOut(ownedError.get());
+    if (isLackOfMemory(error)) {
+        if (!fitsIntoMemory(header))
+            throw std::bad_alloc();
+        ownedError.reset(); // the GIF loader reports this, too, if a frame has no width or height
+    }
     GdkPixbuf* pixels = isWritten && isClosed ? gdk_pixbuf_loader_get_pixbuf(loader.get()) : nullptr;
     return pixels == nullptr ? damaged(name + " picture", ownedError.release()) : asPng(pixels);
 }
