@@ -34,7 +34,7 @@ bool isReadableByMake(std::string_view path) {
     return path.find_first_of(";:|\t\n") == path.npos && !path.ends_with(')');
 }
 
-// The list of prerequisites of a rule.
+// The prerequisites of a rule. Each also has an empty rule, without which make stops if the file does not exist.
 class Prerequisites {
 public:
     void add(const fs::path& path) {
@@ -50,13 +50,17 @@ public:
     std::string take(const fs::path& missing) {
         if (!isComplete_)
             append(fs::absolute(missing).string());
-        return std::move(list_);
+        return list_ + "\n" + emptyRules_;
     }
 
 private:
-    void append(const std::string& path) { list_.append(" \\\n  ").append(escaped(path)); }
+    void append(const std::string& path) {
+        const std::string name = escaped(path);
+        list_.append(" \\\n  ").append(name);
+        emptyRules_.append(name).append(":\n");
+    }
 
-    std::string list_;
+    std::string list_, emptyRules_;
     bool isComplete_ = true;
 };
 
@@ -82,7 +86,7 @@ Runtime::Result<void> Depfile::write(const std::vector<std::string>& inputs) con
              !failed && it != end; it.increment(failed))
             prerequisites.add(it->path());
     }
-    return Runtime::writeFile(path, escaped(target) + ":" + prerequisites.take(target + ".always") + "\n");
+    return Runtime::writeFile(path, escaped(target) + ":" + prerequisites.take(target + ".always"));
 }
 
 } // namespace Tools

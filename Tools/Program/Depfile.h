@@ -20,7 +20,7 @@ struct Depfile {
     void addOptions(CLI::App& command);
     // Writes a makefile rule that makes `target` depend on `inputs` and, for folders, on all files and folders below
     // them. Folders are included because they change when files are added or removed. If make cannot read a path, the
-    // target depends on a file that does not exist instead.
+    // target depends on a file that does not exist instead. Each input has an empty rule, so that it may be deleted.
     [[nodiscard]] Runtime::Result<void> write(const std::vector<std::string>& inputs) const;
 };
 
