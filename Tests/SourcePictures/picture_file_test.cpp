@@ -156,6 +156,11 @@ TEST(PictureFile, RejectsUnreadableFiles) {
     spoiledJpeg.replace(jpeg.size() / 2, 200, 200, '\x55');
     std::string flatGif = data("two-frames.gif");
     flatGif[32] = 0; // the height of the first frame
+    // It draws a picture that is more than two thousand million points high.
+    const std::string hugePdf =
+        "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
+        "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 9 9]/Contents 4 0 R>>endobj\n4 0 obj<</Length 58>>stream\n"
+        "5 2147483648 0 5 3 4 cm BI /W 1 /H 1 /BPC 8 /CS /G ID A EI\nendstream endobj\ntrailer<</Root 1 0 R>>\n";
     const struct {
         int line;
         std::string file, message;
@@ -177,6 +182,7 @@ TEST(PictureFile, RejectsUnreadableFiles) {
         {__LINE__, svg(R"(width="20000" height="5000")"), "is a drawing with more pixels than a catalog may contain"},
         {__LINE__, svg(R"(width="20000" height="5")"), "is a drawing with a side of more than 32767 pixels"},
         {__LINE__, "%PDF-1.7 and no more", "is a damaged drawing"},
+        {__LINE__, hugePdf, "cannot be drawn"},
     };
     for (const auto& one : cases) {
         const auto checked = check(one.file, {});

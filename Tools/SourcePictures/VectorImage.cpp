@@ -29,13 +29,23 @@ Runtime::Result<PixelSize> pixelSize(AssetCatalog::Size size, double pixelsPerUn
     return PixelSize{static_cast<int>(columns), static_cast<int>(rows)};
 }
 
+Runtime::Error cannotBeDrawn(cairo_status_t status) {
+    return {.message = std::string("cannot be drawn: ") + cairo_status_to_string(status)};
+}
+
 // An error, unless `status` is success. Throws std::bad_alloc when memory ran out.
 Runtime::Result<void> resultOf(cairo_status_t status) {
     if (status == CAIRO_STATUS_SUCCESS)
         return {};
     if (status == CAIRO_STATUS_NO_MEMORY)
         throw std::bad_alloc();
-    return Runtime::Error{.message = std::string("cannot be drawn: ") + cairo_status_to_string(status)};
+    return cannotBeDrawn(status);
+}
+
+// Whether there is memory for a surface of 64 MiB.
+bool isMemoryLeft() {
+    const Owned<cairo_surface_t> surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 4096, 4096));
+    return cairo_surface_status(surface.get()) == CAIRO_STATUS_SUCCESS;
 }
 
 // A new surface of that size, filled by the drawing.
@@ -46,11 +56,14 @@ Runtime::Result<Owned<cairo_surface_t>> drawn(const VectorImage& image, PixelSiz
     if (auto ready = resultOf(cairo_status(context.get())); !ready)
         return std::move(ready.error());
     auto done = image.draw(context.get());
-    auto state = resultOf(cairo_status(context.get())); // before `done`: a lack of memory is not a damaged drawing
+    const cairo_status_t status = cairo_status(context.get());
+    // cairo also reports a lack of memory if coordinates are too large for it.
+    if (status == CAIRO_STATUS_NO_MEMORY && !isMemoryLeft())
+        throw std::bad_alloc();
     if (!done)
         return std::move(done.error());
-    if (!state)
-        return std::move(state.error());
+    if (status != CAIRO_STATUS_SUCCESS)
+        return cannotBeDrawn(status);
     return surface;
 }
 
