@@ -20,6 +20,11 @@ bool isMissing(const Runtime::Error& error) noexcept {
 
 // The table at `path`; an empty one when the file is missing or damaged.
 StringTables::PluralTable readPlurals(const std::string& path, std::string_view bundle) {
+    // Most tables have no plurals; access() finds that out faster than opening. It is called twice, because a folder on
+    // the path may be replaced during the first call.
+    const auto isAbsent = [&path] { return ::access(path.c_str(), F_OK) != 0 && errno == ENOENT; };
+    if (isAbsent() && isAbsent())
+        return {};
     auto read = StringTables::PluralTable::readFile(path, bundle);
     if (read)
         return *std::move(read);
