@@ -138,8 +138,7 @@ TEST_F(Bundle, FollowsNoLinkOutOfIt) {
     }
 }
 
-// Any library serves as the one with the code: here copies of libm, with and without a version. There is no folder
-// none-3.
+// Copies of libm stand for the library with the code, with and without a version. The folder none-3 does not exist.
 TEST_F(Bundle, IsBesideTheLibraryWithTheCode) {
     const void* const anyCode = ::dlsym(::dlopen("libm.so.6", RTLD_NOW), "cos");
     Dl_info any{};

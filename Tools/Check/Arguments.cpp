@@ -1,5 +1,6 @@
 #include "Check/Arguments.h"
 
+#include "SourceBundle/PluralText.h" // selectorMark
 #include "StringTables/internal/PluralPieces.h"
 #include <algorithm>
 #include <span>
@@ -17,8 +18,8 @@ namespace {
 // percent sign, and "%arg" is known only in the plural forms of a string catalog.
 std::string_view proseAt(const Placeholder& placeholder, std::string_view format) noexcept {
     const std::string_view rest = format.substr(placeholder.begin);
-    if (rest.starts_with(unknownArg))
-        return rest.substr(0, unknownArg.size());
+    if (rest.starts_with(SourceBundle::selectorMark))
+        return rest.substr(0, SourceBundle::selectorMark.size());
     return rest.starts_with("% ") ? rest.substr(0, placeholder.end - placeholder.begin) : std::string_view();
 }
 

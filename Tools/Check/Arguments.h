@@ -1,6 +1,6 @@
 // Check/Arguments.h
 // The arguments that a text takes. A placeholder with a space after its percent sign does not count: "50% off". Nor
-// does unknownArg. Text: UTF-8. Threads: any; no state.
+// does "%arg", which the source reader replaces where it is known. Text: UTF-8. Threads: any; no state.
 #pragma once
 
 #include "SourceBundle/Source.h"
@@ -10,13 +10,9 @@
 
 namespace Check {
 
-// The number in the plural forms of a string catalog, where the source reader has replaced it. Anywhere else it is read
-// as "%a" with "rg" after it.
-inline constexpr std::string_view unknownArg = "%arg";
-
 struct Arguments {
     StringTables::FormatSignature signature;
-    // The first '%' that should be "%%": "%", or "% o" if it begins a placeholder that does not count; or unknownArg.
+    // The first '%' that should be "%%": "%", or "% o" if it begins a placeholder that does not count; or "%arg".
     // Points into the entry; empty if there is none.
     std::string_view lonePercent;
 

@@ -2,6 +2,7 @@
 #include "Check/TextRules.h"
 
 #include "Generator/CodeText.h"
+#include "SourceBundle/PluralText.h" // selectorMark
 
 namespace Check {
 
@@ -31,7 +32,7 @@ void checkPlaceholders(const Text& text, Report& report) {
     if (!arguments.lonePercent.empty())
         text.report(report, Rule::lonePercent,
                     quote(text.entry.key) + " has " + quote(arguments.lonePercent) +
-                        (arguments.lonePercent == unknownArg
+                        (arguments.lonePercent == SourceBundle::selectorMark
                              ? ", which is a number only in the plural forms of a string catalog"
                              : "; write \"%%\" for a percent sign"));
     if (const std::string& name = arguments.signature.unknownVariable; !name.empty())

@@ -2,6 +2,7 @@
 
 #include "Exchange/CatalogDocument.h"
 #include "Exchange/PluralChange.h"
+#include "SourceBundle/PluralText.h"
 #include "StringTables/internal/PluralPieces.h"
 #include <algorithm>
 #include <map>
@@ -52,33 +53,18 @@ std::size_t argumentOf(const PluralFormat& plural, const PluralVariable& variabl
     return 1;
 }
 
-// Replaces every `mark`, which begins with "%". Returns whether there was one. In "%%arg" there is none.
-bool replaceAll(std::string& text, std::string_view mark, std::string_view replacement) {
-    std::string out;
-    bool found = false;
-    for (std::string_view rest = text; !rest.empty();) {
-        const bool isMark = rest.starts_with(mark);
-        const std::string_view piece = rest.substr(0, isMark ? mark.size() : rest.starts_with("%%") ? 2 : 1);
-        out += isMark ? replacement : piece;
-        found |= isMark;
-        rest.remove_prefix(piece.size());
-    }
-    text = std::move(out);
-    return found;
-}
-
 // The arguments of any other text; `plural`: its format if it is in a string catalog and has one, or null. `number`:
-// what "%arg" stands for; empty in a substitution, whose number is no argument of its own.
+// what "%arg" stands for; empty in a substitution, whose variable already takes that argument.
 Arguments otherArguments(std::string text, const PluralFormat* plural, std::string_view number) {
     Arguments arguments;
     std::set<std::size_t> ofVariables; // other placeholders without a position do not take these arguments
     if (plural != nullptr)
         for (const PluralVariable& variable : plural->variables)
-            if (replaceAll(text, "%#@" + variable.name + "@", "")) {
+            if (SourceBundle::replaceMarks(text, "%#@" + variable.name + "@", "")) {
                 arguments.variables.emplace(variable.name, 0);
                 ofVariables.insert(argumentOf(*plural, variable));
             }
-    replaceAll(text, "%arg", number);
+    SourceBundle::replaceMarks(text, SourceBundle::selectorMark, number);
     StringTables::FormatSignature signature;
     StringTables::ArgumentCounter counter;
     std::size_t at = 0;
@@ -107,7 +93,7 @@ public:
         if (!part_.empty() && part_.front() == substitutionsPart)
             return otherArguments(text, plural_, "");
         if (plural_ == nullptr || part_.empty() || part_.front() == devicePart)
-            return otherArguments(text, plural_, isPlural_ ? "%lld" : "%arg");
+            return otherArguments(text, plural_, isPlural_ ? "%lld" : SourceBundle::selectorMark);
         if (!isPlural_) {
             PluralFormat format = *plural_;
             format.format = text;
@@ -115,7 +101,7 @@ public:
         }
         const PluralVariable* const variable = variableNamed(*plural_, part_.back());
         if (variable == nullptr) // only the translation has it
-            return otherArguments(text, nullptr, "%arg");
+            return otherArguments(text, nullptr, SourceBundle::selectorMark);
         const std::size_t own = argumentOf(*plural_, *variable);
         Arguments arguments = pluralArguments(PluralPieces(*plural_, text, *variable, own));
         arguments.number = own;

@@ -123,67 +123,62 @@ std::size_t indexOf(const PluralVariable& variable, const PluralFormat& plural) 
     return static_cast<std::size_t>(&variable - plural.variables.data());
 }
 
-// The format with a position at each placeholder without one: at a variable that of its argument, at any other that of
-// the next argument that no variable takes. Only variables get positions if another placeholder has one or takes
-// several arguments ("*").
-std::string withAllPositions(const PluralFormat& plural, const std::vector<std::size_t>& arguments) {
-    bool onlyVariables = false;
-    for (PluralPieces pieces(plural); const auto piece = pieces.next();)
-        onlyVariables |= piece->variable == nullptr && (piece->placeholder.position != 0 ||
-                                                        piece->arguments.width != 0 || piece->arguments.precision != 0);
-    std::string out;
-    std::size_t done = 0, last = 0;
-    for (PluralPieces pieces(plural); const auto piece = pieces.next();) {
-        if (piece->placeholder.position != 0 || piece->placeholder.kind == Placeholder::Kind::percent ||
-            (piece->variable == nullptr && onlyVariables))
-            continue;
-        if (piece->variable == nullptr)
-            do
-                ++last;
-            while (std::ranges::find(arguments, last) != arguments.end());
-        const std::size_t afterPercent = piece->placeholder.begin + 1;
-        out.append(plural.format, done, afterPercent - done);
-        out += positionText(piece->variable == nullptr ? last : arguments[indexOf(*piece->variable, plural)]);
-        done = afterPercent;
-    }
-    return out.append(plural.format, done);
-}
-
-// A form with the position of the argument at each of its variables, "%2$#@files@". `pieces` are those of `text`.
-std::string withArguments(PluralPieces pieces, std::string_view text, const PluralFormat& plural,
-                          const std::vector<std::size_t>& arguments) {
+// The text with positions at the placeholders that have none. `pieces` are those of `text`. `positionOf` returns the
+// position for a piece, or 0 for none.
+std::string withPositions(PluralPieces pieces, std::string_view text, const auto& positionOf) {
     std::string out;
     std::size_t done = 0;
     while (const auto piece = pieces.next()) {
-        if (piece->variable == nullptr || piece->placeholder.position != 0)
+        if (piece->placeholder.position != 0)
             continue;
         const std::size_t afterPercent = piece->placeholder.begin + 1;
-        out += text.substr(done, afterPercent - done);
-        out += positionText(arguments[indexOf(*piece->variable, plural)]);
+        out.append(text.substr(done, afterPercent - done)).append(positionText(positionOf(*piece)));
         done = afterPercent;
     }
-    out += text.substr(done);
-    return out;
+    return out.append(text.substr(done));
 }
 
-// The form with each "%arg" replaced by `placeholder`.
-std::string withoutArg(std::string_view form, std::string_view placeholder) {
-    constexpr std::string_view arg = "%arg";
-    std::string out;
-    std::size_t done = 0;
-    for (std::size_t at = form.find('%'); at != form.npos; at = form.find('%', at)) {
-        if (form.substr(at).starts_with(arg)) {
-            out.append(form.substr(done, at - done)).append(placeholder);
-            at += arg.size();
-            done = at;
-        } else {
-            at += form.substr(at).starts_with("%%") ? 2U : 1U;
-        }
-    }
-    return out.append(form.substr(done));
+// Whether a placeholder of the format that is not a variable has a position or takes several arguments ("*").
+bool hasFixedArguments(const PluralFormat& plural) {
+    for (PluralPieces pieces(plural); const auto piece = pieces.next();)
+        if (piece->variable == nullptr &&
+            (piece->placeholder.position != 0 || piece->arguments.width != 0 || piece->arguments.precision != 0))
+            return true;
+    return false;
+}
+
+// The format with the positions of the arguments: at a variable that of its argument, at any other placeholder that of
+// the next argument that no variable takes, unless the format hasFixedArguments().
+std::string formatWithPositions(const PluralFormat& plural, const std::vector<std::size_t>& arguments) {
+    const bool isFixed = hasFixedArguments(plural);
+    std::size_t last = 0;
+    return withPositions(PluralPieces(plural), plural.format, [&](const auto& piece) -> std::size_t {
+        if (piece.variable != nullptr)
+            return arguments[indexOf(*piece.variable, plural)];
+        if (isFixed || piece.placeholder.kind == Placeholder::Kind::percent)
+            return 0;
+        do
+            ++last;
+        while (std::ranges::find(arguments, last) != arguments.end());
+        return last;
+    });
 }
 
 } // namespace
+
+bool replaceMarks(std::string& text, std::string_view mark, std::string_view replacement) {
+    std::string out;
+    bool found = false;
+    for (std::string_view rest = text; !rest.empty();) {
+        const bool isMark = rest.starts_with(mark);
+        const std::string_view piece = rest.substr(0, isMark ? mark.size() : rest.starts_with("%%") ? 2 : 1);
+        out += isMark ? replacement : piece;
+        found |= isMark;
+        rest.remove_prefix(piece.size());
+    }
+    text = std::move(out);
+    return found;
+}
 
 std::string otherText(const PluralFormat& plural) {
     return OtherText(plural).take();
@@ -192,7 +187,7 @@ std::string otherText(const PluralFormat& plural) {
 PluralFormat pluralOfForms(PluralForms forms) {
     for (auto& form : forms)
         if (form)
-            form = withoutArg(*form, "%lld");
+            replaceMarks(*form, selectorMark, "%lld");
     const Number number = numberOf(forms);
     // A single argument is the number in every form. With several, positions distinguish them.
     if (argumentCount(forms) > 1)
@@ -216,15 +211,17 @@ PluralFormat pluralOfSubstitutions(const std::string& format, std::vector<Substi
             arguments[indexOf(*piece->variable, plural)] = piece->arguments.value;
 
     const PluralFormat original = plural;
-    plural.format = withAllPositions(original, arguments);
+    plural.format = formatWithPositions(original, arguments);
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         PluralVariable& variable = plural.variables[i];
         for (auto& form : variable.forms)
             if (form) {
                 const std::size_t own = std::max<std::size_t>(arguments[i], 1); // an unknown one counts as the first
                 const PluralPieces inForm(original, *form, original.variables[i], own);
-                form = withoutArg(withArguments(inForm, *form, original, arguments),
-                                  "%" + positionText(arguments[i]) + variable.valueType);
+                form = withPositions(inForm, *form, [&](const auto& piece) {
+                    return piece.variable == nullptr ? 0 : arguments[indexOf(*piece.variable, original)];
+                });
+                replaceMarks(*form, selectorMark, "%" + positionText(arguments[i]) + variable.valueType);
             }
     }
     return plural;

@@ -6,6 +6,7 @@
 #include "StringTables/internal/PluralTable.h"
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace SourceBundle {
@@ -23,7 +24,12 @@ using PluralForms = decltype(StringTables::PluralVariable::forms);
 // is the first argument.
 [[nodiscard]] StringTables::PluralFormat pluralOfForms(PluralForms forms);
 
-// A variable of a string catalog. In its forms "%arg" prints the number that selects the form.
+// In the plural forms of a string catalog: the number that selects the form.
+inline constexpr std::string_view selectorMark = "%arg";
+// Replaces every `mark`, which begins with "%". Returns whether there was one. In "%%arg" there is none.
+bool replaceMarks(std::string& text, std::string_view mark, std::string_view replacement);
+
+// A variable of a string catalog.
 struct Substitution {
     StringTables::PluralVariable variable;
     std::size_t argument = 0; // the position of the number; 0: that of the variable's placeholder in the format
